@@ -1,0 +1,92 @@
+// The only class that touches the database engine: opens and closes the file, runs SQL, and moves employees and companies between their
+// tables and the entities through the stored queries inside the file.
+#pragma once
+
+#include "store/Rows.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+namespace ptk {
+
+class CDatabaseLocator;
+class Engine;
+class RecordSet;
+
+// Error numbers of CJetDB. A failed open leaves the engine's own number instead of one of these.
+namespace jetdb {
+inline constexpr std::int32_t NoDatabase = 403;        // no handle, no name, or an operation found no open database
+inline constexpr std::int32_t NoSql = 406;             // neither an argument nor a stored statement
+inline constexpr std::int32_t StatementFailed = 407;   // a select or action failed
+inline constexpr std::int32_t ListingFailed = 411;     // a listing stored query failed
+inline constexpr std::int32_t InsertFailed = 412;      // an insert through a stored query failed
+inline constexpr std::int32_t UpdateFailed = 413;      // an update through a stored query failed
+inline constexpr std::int32_t NegativeCount = 421;     // a listing reported a negative row count
+inline constexpr std::int32_t WorkingReferenceLost = 312; // a loaded company did not arrive in its list
+} // namespace jetdb
+
+// Not thread-safe. Closed at creation; the destructor closes an open file. No member raises.
+// ErrorNumber is never reset: it keeps the last code until another is set, and LoadCompanyList even refuses on a stale one.
+class CJetDB
+{
+public:
+    explicit CJetDB(std::string programFolder);
+    ~CJetDB();
+    CJetDB(const CJetDB&) = delete;
+    CJetDB& operator=(const CJetDB&) = delete;
+
+    void DatabasePath(std::string value) { m_databasePath = std::move(value); }
+    std::string DatabasePath() const { return m_databasePath; }
+    void DatabaseName(std::string value) { m_databaseName = std::move(value); }
+    std::string DatabaseName() const { return m_databaseName; }
+    bool DatabaseOpen() const { return m_databaseOpen; }
+    void RecordsetType(std::int16_t value) { m_recordsetType = value; }
+    std::int16_t RecordsetType() const { return m_recordsetType; }
+    void SQL(std::string value) { m_sql = std::move(value); }
+    std::string SQL() const { return m_sql; }
+    std::shared_ptr<RecordSet> RecSet() const { return m_recSet; }
+    std::int32_t ErrorNumber() const { return m_errorNumber; }
+
+    // Opens the file that the locator found. An empty path opens nothing, answers false and leaves ErrorNumber alone.
+    bool OpenPTKDatabase(const std::shared_ptr<CDatabaseLocator>& thedatabaselocator);
+
+    // Opens exclusively, without waiting and without ever creating a file. False with 403 (no name) or the engine's own number.
+    // The connect text and the password are accepted and not used.
+    bool OpenDB(const std::string& paramName = "", const std::string& paramConnect = "", const std::string& paramPassword = "");
+
+    bool CloseDB(); // false only when nothing was ever opened
+
+    // The caller opens and closes the database. nullptr with 403, 406 or 407.
+    std::shared_ptr<RecordSet> ExecuteSelect(const std::string& sqlstring);
+
+    // Opens the database when it is closed and always leaves it closed, except after a failed statement (407). Committed on return.
+    bool ExecuteAction(const std::string& sqlstring);
+
+    // Each opens the database when it is closed and closes it after success; a failed statement (412, 413) leaves it open.
+    bool AddNewEmployee(const EmployeeRow& theemployee);
+    bool LoadEmployeeList(EmployeeSink& thelist);
+    bool UpdateEmployee(const EmployeeRow& theemployee);
+    bool DeleteEmployee(const EmployeeRow& theemployee); // deliberately does nothing and answers false: employees are never deleted
+    bool AddNewCompany(const CompanyRow& thecompany);
+    bool LoadCompanyList(CompanySink& thelist);
+    bool UpdateCompany(const CompanyRow& thecompany);
+    bool DeleteCompany(const CompanyRow& thecompany); // deliberately does nothing and answers false
+
+private:
+    std::shared_ptr<RecordSet> OpenEmployeeQuery();
+    std::shared_ptr<RecordSet> OpenCompanyQuery();
+
+    std::shared_ptr<CDatabaseLocator> m_locator;
+    std::unique_ptr<Engine> m_database; // kept after a close, as an unusable handle
+    std::shared_ptr<RecordSet> m_recSet;
+    std::string m_databasePath;
+    std::string m_databaseName;
+    std::string m_sql;
+    bool m_databaseOpen = false;
+    std::int16_t m_recordsetType = 0; // 0 stands for 4, a snapshot
+    std::int32_t m_errorNumber = 0;
+    std::string m_programFolder;
+};
+
+} // namespace ptk

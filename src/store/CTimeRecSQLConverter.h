@@ -1,0 +1,36 @@
+// Writes the one SQL statement that brings the TimeRecord table in line with a time record, and the query for an employee's period.
+#pragma once
+
+#include "store/Rows.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace ptk {
+
+// Holds no connection; it only writes text. Error numbers: 810 insert, 811 update, 812 delete, 813 fetch. Nothing is raised.
+class CTimeRecSQLConverter
+{
+public:
+    std::string sqlstring() const { return m_sqlstring; } // the last statement of ToSQL
+    std::int32_t ErrorNumber() const { return m_errorNumber; }
+    bool ResetError(); // always true
+
+    // By the record's state: 1 insert, 2 update, 3 delete, any other the empty text. nullptr gives the empty text and keeps sqlstring.
+    std::string ToSQL(const TimeRecordRow* thetimerecord);
+
+    // Both bounds are inclusive and compared as full date-times, so every open record (end = zero date-time) from the start on is fetched too.
+    std::string BuildFetchSQL(std::int32_t theemployeeid, DateTime thestarttime, DateTime theendtime);
+
+private:
+    std::string BuildInsertSQL() const;
+    std::string BuildUpdateSQL() const;
+    std::string BuildDeleteSQL() const;
+
+    std::string m_sqlstring;
+    std::int32_t m_errorNumber = 0;
+    std::optional<TimeRecordRow> m_timeRecord; // the record last given to ToSQL
+};
+
+} // namespace ptk
