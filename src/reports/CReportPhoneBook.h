@@ -1,0 +1,24 @@
+// Names, addresses and telephone numbers of all employees of a list in two columns.
+#pragma once
+
+#include "reports/Report.h"
+
+namespace ptk {
+
+class CEmployee;
+class CEmployeeList;
+
+class CReportPhoneBook final : public Report
+{
+public:
+    explicit CReportPhoneBook(ReportContext context);
+
+    // False with 704, 503, 701; with 710 at an empty entry of the list, where the report ends.
+    bool GenerateReport(const std::shared_ptr<CEmployeeList>& phonebooklist);
+
+private:
+    bool WriteEmployees(CEmployeeList& phonebooklist);
+    void WritePair(const CEmployee& left, const CEmployee* right); // nullptr: the column stays empty
+};
+
+} // namespace ptk

@@ -1,0 +1,48 @@
+// What a report knows of the windows above it: the viewer that shows its lines, and the parent window that keeps it while the viewer is
+// open.
+#pragma once
+
+#include "reports/ReportCatalog.h"
+
+#include <memory>
+#include <string>
+
+namespace ptk {
+
+class Report;
+
+// Shows one report. It shares the report through Controller, and the report shares it, so that both live until the viewer is closed:
+// Unload must drop the report again.
+class ReportViewer
+{
+public:
+    virtual ~ReportViewer() = default;
+    virtual void Controller(std::shared_ptr<Report> value) = 0;
+    virtual void Caption(const std::string& value) = 0;
+    virtual bool WriteLine(const std::string& buffer) = 0; // appends buffer and CR LF; false or a failure raised stands for a line lost
+    virtual void Show() = 0;                               // not modally
+    virtual void Hide() = 0;
+    virtual void Unload() = 0; // closes the window and drops the report, without calling back into it
+};
+
+class ReportViewerFactory
+{
+public:
+    virtual ~ReportViewerFactory() = default;
+    virtual std::shared_ptr<ReportViewer>
+    CreateViewer(ReportKind kind) = 0; // nullptr, or a failure raised, when there is no viewer to be had
+};
+
+// The parent window of reports. Closing a viewer calls the one member of its report; the results are ignored.
+class ReportOwner
+{
+public:
+    virtual ~ReportOwner() = default;
+    virtual bool UnloadTimeCardReport() = 0;
+    virtual bool UnloadReviewReport() = 0;
+    virtual bool UnloadYTDTotalsReport() = 0;
+    virtual bool UnloadEmployeeReport() = 0;
+    virtual bool UnloadPhoneBookReport() = 0;
+};
+
+} // namespace ptk
