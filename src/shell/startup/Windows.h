@@ -13,7 +13,7 @@ class CSystemOptions;
 class LoginWindow
 {
 public:
-    virtual ~LoginWindow() = default;
+    virtual ~LoginWindow() = default;                                 // unloads the window
     virtual void ConfigFile(std::shared_ptr<CFileAdaptor> value) = 0; // raises Failure 13 when ShowLoginHelp is no boolean
     virtual void EmployeeList(std::shared_ptr<CEmployeeList> value) = 0;
     virtual void ShowModal() = 0; // returns when the window was hidden or closed
@@ -29,6 +29,8 @@ public:
     virtual void Unload() = 0; // hides and closes the window; its own closing steps run
 };
 
+// The program lets go of a window from within the window's own closing steps, so its deleter must not destroy it before those have
+// returned.
 class WindowFactory
 {
 public:

@@ -1,0 +1,29 @@
+// Finds the database file: the configuration's DatabasePath, with the program folder in place of its placeholder.
+#pragma once
+
+#include <memory>
+#include <string>
+
+namespace ptk {
+
+class CFileAdaptor;
+
+class CDatabaseLocator
+{
+public:
+    explicit CDatabaseLocator(std::string programFolder) : m_programFolder(std::move(programFolder)) {}
+
+    void ConfigFile(std::shared_ptr<CFileAdaptor> value); // nullptr is ignored
+    std::shared_ptr<CFileAdaptor> ConfigFile() const { return m_configFile; }
+    std::string DatabasePath() const { return m_databasePath; } // with backslashes as configured
+
+    // True also without a configuration or without the key (the path is then "" or what it was); false only when reading raised a failure.
+    bool GetDatabasePath();
+
+private:
+    std::string m_programFolder;
+    std::shared_ptr<CFileAdaptor> m_configFile;
+    std::string m_databasePath;
+};
+
+} // namespace ptk

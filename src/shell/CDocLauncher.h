@@ -1,0 +1,43 @@
+// Opens or prints a document through the desktop's shell.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace ptk {
+
+class Desktop;
+class DesktopWindow;
+enum class ShellVerb;
+
+// Error numbers of CDocLauncher. Any other refusal of the shell, and a success, leave ErrorNumber as it was.
+namespace docerror {
+inline constexpr std::int32_t NoDocumentName = 901;
+inline constexpr std::int32_t DocumentNotFound = 902;
+inline constexpr std::int32_t NoParentWindow = 911;
+} // namespace docerror
+
+class CDocLauncher
+{
+public:
+    explicit CDocLauncher(Desktop& desktop) : m_desktop(desktop) {}
+
+    // Deliberately a read that sets: stores the path and answers "".
+    std::string FileName(const std::string& thedocname);
+    std::int32_t ErrorNumber() const { return m_errorNumber; }
+
+    // False when the shell refused or an argument is missing (`theparent` nullptr, `thedocname` empty). Nothing is raised.
+    bool DisplayDocument(const DesktopWindow* theparent, const std::string& thedocname);
+    bool PrintDocument(const DesktopWindow* theparent, const std::string& thedocname);
+
+private:
+    bool Launch(const DesktopWindow* theparent, const std::string& thedocname, ShellVerb verb);
+    bool Accepted(std::int32_t shellCode);
+
+    Desktop& m_desktop;
+    const DesktopWindow* m_parent = nullptr; // the last one given; not owned
+    std::string m_fileName;
+    std::int32_t m_errorNumber = 0;
+};
+
+} // namespace ptk

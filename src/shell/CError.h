@@ -1,0 +1,49 @@
+// The failure being handled at the moment this is created, and the box that tells the user of it.
+#pragma once
+
+#include "platform/Failure.h"
+#include "platform/Value.h"
+
+#include <cstdint>
+#include <string>
+
+namespace ptk {
+
+class Desktop;
+
+// Made inside a catch block; outside one it holds zeros and empty texts.
+class CError
+{
+public:
+    explicit CError(Desktop& desktop) : m_desktop(desktop), m_failure(CurrentFailure()), m_description(m_failure.Description()) {}
+
+    std::int32_t ErrorNumber() const { return m_failure.Number(); }
+    std::string ErrorSource() const { return m_failure.Source(); }
+    void ErrorDescription(const std::string& thisDesc); // deliberately appends; an empty text only fills an empty description
+    std::string ErrorDescription() const { return m_description; }
+    void AdditionalDescription(std::string thisDesc) { m_additionalDescription = std::move(thisDesc); }
+    std::string AdditionalDescription() const { return m_additionalDescription; }
+    std::int32_t HelpContext() const { return m_failure.HelpContext(); }
+    std::int32_t LastSystemError() const { return m_failure.LastSystemError(); }
+    void ModuleName(std::string thisModule);
+    std::string ModuleName() const { return m_moduleName; }
+    std::int16_t MsgBoxRetVal() const { return m_msgBoxRetVal; }
+
+    // The values of Icon and Buttons; what is missing or not numeric means an exclamation icon and OK. Sets the pointer back to its
+    // default. Returns the Answer's value. Raises Failure 6 when an argument or the sum of both does not fit 16 bits.
+    std::int16_t MessageBox(const Value& userIcon = {}, const Value& userButtons = {});
+
+    bool LogMessage() { return false; } // deliberately nothing: whoever catches the failure writes the log
+
+private:
+    std::string Text() const;
+
+    Desktop& m_desktop;
+    Failure m_failure;
+    std::string m_description;
+    std::string m_additionalDescription;
+    std::string m_moduleName;
+    std::int16_t m_msgBoxRetVal = 0;
+};
+
+} // namespace ptk

@@ -1,0 +1,76 @@
+// One text file, read item by item or written line by line, with error numbers instead of raised failures.
+#pragma once
+
+#include "platform/Value.h"
+
+#include <cstdint>
+#include <string>
+
+namespace ptk {
+
+class Clock;
+
+// Error numbers of CFile; any other is the platform's own failure number.
+namespace fileerror {
+inline constexpr std::int32_t NotOpen = 503;   // or no file number was free
+inline constexpr std::int32_t WriteOnly = 504; // read attempted in mode 1 or 2
+inline constexpr std::int32_t ReadOnly = 505;  // write attempted in mode 0
+} // namespace fileerror
+
+// Modes: 0 reads an existing file, 1 creates or truncates for writing, 2 writes on at the end (created if missing).
+// Every operation but GetTempFile clears the error first. The destructor closes an open file.
+class CFile
+{
+public:
+    CFile();                            // tells the time by the system's clock
+    explicit CFile(const Clock& clock); // must outlive the file
+    ~CFile();
+    CFile(const CFile&) = delete;
+    CFile& operator=(const CFile&) = delete;
+
+    std::string FileName() const { return m_fileName; } // as given, not the platform's own form
+    std::string FileMode() const { return m_fileMode; } // "0", "1" or "2"; "" before the first OpenFile
+    bool FileOpen() const { return m_fileOpen; }
+    std::int32_t FileNumber() const { return m_fileNumber; }
+    std::string TempFile() const { return {}; }    // there are no temporary files
+    bool EndOfFile() const { return m_endOfFile; } // once true it stays true, also for the next file opened
+    std::int32_t ErrorNumber() const { return m_errorNumber; }
+    std::string ErrorDescription() const { return m_errorDescription; }
+
+    bool GetTempFile(std::string& parampath); // deliberately does nothing and answers false
+
+    // A mode that is missing, not numeric or outside 0 to 2 reads. Another file that this object still has open is closed once this one is
+    // open.
+    bool OpenFile(const std::string& paramfile, const Value& parammode = {});
+    bool CloseFile();
+
+    // The next item: up to a comma or the line's end, quotes removed. At the end of the file "EOF" and EndOfFile; "" after an error.
+    std::string ReadLine();
+
+    // Each is on its way to the disk when it answers: a full disk is told by the write that meets it. Lines end with CR LF.
+    bool WriteDateTime();                            // the general date-time text; deliberately false even when it was written
+    bool WriteHeader(const std::string& thisheader); // an empty line, then the header in brackets
+    bool WriteLine(const std::string& buffer, const std::string& notes = {},
+                   bool lineStatus = false); // `notes` only when lineStatus is true
+
+private:
+    bool ClearError();
+    std::int32_t AcquireFileNumber();
+    void OpenAs(std::int16_t mode);
+    void WriteText(const std::string& text);
+    bool ReadyToRead();
+    bool ReadyToWrite();
+    bool Refuse(std::int32_t errorNumber, const char* description); // always false
+    bool Fail(const char* opening);                                 // of the failure being handled; always false
+
+    const Clock& m_clock;
+    std::string m_fileName = "C:\\default.txt";
+    std::string m_fileMode;
+    bool m_fileOpen = false;
+    std::int32_t m_fileNumber = 0;
+    bool m_endOfFile = false;
+    std::int32_t m_errorNumber = 0;
+    std::string m_errorDescription;
+};
+
+} // namespace ptk

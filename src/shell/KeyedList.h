@@ -1,0 +1,171 @@
+// The 1-based list that every list of the program is: employees, companies, time records, time cards and plain strings.
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <iterator>
+#include <optional>
+#include <utility>
+#include <vector>
+
+namespace ptk {
+
+// Error numbers of every list. No operation raises; it answers false or an empty entry and leaves one of these.
+namespace listerror {
+inline constexpr std::int32_t CreateFailed = 301;
+inline constexpr std::int32_t DestroyFailed = 302;
+inline constexpr std::int32_t InsertFailed = 312;
+inline constexpr std::int32_t RemoveFailed = 313;
+inline constexpr std::int32_t ListEmpty = 331; // weeding a list without entries
+inline constexpr std::int32_t ReadFailed = 341;
+inline constexpr std::int32_t NoSuchPosition = 351; // removing outside 1 to Count
+} // namespace listerror
+
+// What all lists share, whatever their Insert and Remove answer. `Entry` is a shared reference (empty = nullptr) or text (empty = "").
+// Positions are 1 to Count. Every operation except the properties first clears ErrorNumber.
+template <typename Entry>
+class KeyedStore
+{
+public:
+    std::int32_t Count() const { return static_cast<std::int32_t>(m_entries.size()); }
+    std::int32_t ErrorNumber() const { return m_errorNumber; }
+
+    bool Create()
+    {
+        ClearError();
+        return Count() >= 1 || Guarded(listerror::CreateFailed, [this] { m_entries.reserve(kFirstEntries); });
+    }
+
+    bool Destroy()
+    {
+        ClearError();
+        return Guarded(listerror::DestroyFailed, [this] { m_entries.clear(); });
+    }
+
+    // Empty, without an error, outside 1 to Count.
+    Entry Item(std::int32_t thisindex)
+    {
+        ClearError();
+        Entry found{};
+        if (Holds(thisindex))
+            Guarded(listerror::ReadFailed, [&] { found = *At(thisindex); });
+        return found;
+    }
+
+protected:
+    KeyedStore() { Create(); }
+    ~KeyedStore() = default;
+
+    // A position above Count appends, one below 1 goes to the front. Appending is amortised O(1). False with 312 when it fails.
+    bool InsertAt(Entry thisvalue, std::int32_t thisindex)
+    {
+        ClearError();
+        const std::int32_t position = std::max(thisindex > Count() ? Count() + 1 : thisindex, 1);
+        return Guarded(listerror::InsertFailed, [&] { m_entries.insert(At(position), std::move(thisvalue)); });
+    }
+
+    // The removed entry; none with 351 outside 1 to Count, none with 313 when the gap could not be closed.
+    std::optional<Entry> RemoveAt(std::int32_t thisindex)
+    {
+        ClearError();
+        if (!Holds(thisindex)) {
+            m_errorNumber = listerror::NoSuchPosition;
+            return std::nullopt;
+        }
+        std::optional<Entry> removed;
+        if (!Guarded(listerror::RemoveFailed, [&] { removed = TakeOut(At(thisindex)); }))
+            return std::nullopt;
+        return removed;
+    }
+
+    // The first position whose entry equals it (the same object for references, the same text for strings), or -1.
+    std::int32_t PositionOf(const Entry& thisobject)
+    {
+        ClearError();
+        std::int32_t position = -1;
+        Guarded(listerror::ReadFailed, [&] {
+            const auto found = std::find(m_entries.begin(), m_entries.end(), thisobject);
+            if (found != m_entries.end())
+                position = static_cast<std::int32_t>(std::distance(m_entries.begin(), found)) + 1;
+        });
+        return position;
+    }
+
+    bool ClearError()
+    {
+        m_errorNumber = 0;
+        return true;
+    }
+    void ErrorNumber(std::int32_t value) { m_errorNumber = value; }
+
+    bool Holds(std::int32_t thisindex) const { return thisindex >= 1 && thisindex <= Count(); }
+
+    // The entries in order, for walks that need neither a copied reference nor a cleared error.
+    const std::vector<Entry>& Entries() const { return m_entries; }
+    void Reserve(std::int32_t count) { m_entries.reserve(static_cast<std::size_t>(count)); } // may raise bad_alloc
+
+    // Keeps the entries that satisfy it, in their order, in one pass.
+    template <typename Predicate>
+    void KeepOnly(Predicate keep)
+    {
+        std::erase_if(m_entries, [&](const Entry& entry) { return !keep(entry); });
+    }
+
+    // True, or false with this error number when the operation raised anything.
+    template <typename Operation>
+    bool Guarded(std::int32_t errorNumber, Operation operation)
+    {
+        try {
+            operation();
+            return true;
+        } catch (...) {
+            m_errorNumber = errorNumber;
+            return false;
+        }
+    }
+
+private:
+    using Iterator = typename std::vector<Entry>::iterator;
+
+    Iterator At(std::int32_t thisindex) { return m_entries.begin() + (thisindex - 1); }
+
+    Entry TakeOut(Iterator place)
+    {
+        Entry taken = std::move(*place);
+        m_entries.erase(place);
+        return taken;
+    }
+
+    static constexpr std::size_t kFirstEntries = 16;
+
+    std::vector<Entry> m_entries;
+    std::int32_t m_errorNumber = 0;
+};
+
+// The list in its full form, whose Insert, Move and Remove answer the entry.
+template <typename Entry>
+class KeyedList : public KeyedStore<Entry>
+{
+public:
+    // The inserted entry; empty with 312 when it failed.
+    Entry Insert(Entry thisvalue, std::int32_t thisindex)
+    {
+        Entry inserted = thisvalue;
+        return this->InsertAt(std::move(thisvalue), thisindex) ? inserted : Entry{};
+    }
+
+    // Deliberately nothing but a removal and an insertion in a row: a `fromHere` outside 1 to Count inserts an empty entry.
+    Entry Move(std::int32_t fromHere, std::int32_t toHere) { return Insert(Remove(fromHere), toHere); }
+
+    // The removed entry; empty with 351 or 313.
+    Entry Remove(std::int32_t thisindex) { return this->RemoveAt(thisindex).value_or(Entry{}); }
+
+    std::int32_t Find(const Entry& thisobject) { return this->PositionOf(thisobject); }
+
+protected:
+    KeyedList() = default;
+    ~KeyedList() = default;
+};
+
+} // namespace ptk

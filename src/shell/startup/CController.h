@@ -1,0 +1,108 @@
+// The hub of a session: owns every shared object, brings the program up and shuts it down.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+
+namespace ptk {
+
+class CCompanyList;
+class CDatabaseLocator;
+class CEmployeeList;
+class CFile;
+class CFileAdaptor;
+class CJetDB;
+class CSystemOptions;
+class CTimeRecordFactory;
+class Desktop;
+class LoginWindow;
+class MainWindow;
+class WindowFactory;
+
+// Always held by std::shared_ptr: make it, then call Start once. Accessors hand out the shared objects themselves, nullptr before they
+// exist and after Cleanup released them. No operation raises; caught failures go to the session log as "Error: number : description".
+class CController : public std::enable_shared_from_this<CController>
+{
+public:
+    struct Surroundings
+    {
+        std::string programFolder;
+        Desktop& desktop;
+        WindowFactory& windows;
+        std::shared_ptr<CFile> errorLog;       // written to only while it is open
+        std::function<void()> endOfTheProgram; // the end routine; when it returns, the controller touches nothing any more
+    };
+
+    explicit CController(Surroundings surroundings);
+    ~CController();
+    CController(const CController&) = delete;
+    CController& operator=(const CController&) = delete;
+
+    // The whole start-up: configuration, database, options, lists, login, main window. Returns with the main window shown, or without one
+    // when the database could not be opened or a failure was met, or after the end routine (no lists, login refused).
+    void Start();
+
+    // Shutdown: saves options and configuration, releases the shared objects and runs the end routine. When the database cannot be opened
+    // it tells so, saves nothing and leaves the program to end with its last window. Harmless when repeated. Deliberately always false.
+    bool Cleanup();
+
+    std::int32_t ErrorNumber() const { return m_errorNumber; } // stays 0
+    std::shared_ptr<MainWindow> ControllerWindow() const { return m_controllerWindow; }
+    std::shared_ptr<CFileAdaptor> ConfigFile() const; // deliberately raises Failure 91: the configuration is not handed out
+    std::shared_ptr<CJetDB> PTKDatabase() const { return m_database; }
+    std::shared_ptr<CSystemOptions> SystemOptions() const { return m_systemOptions; }
+    std::shared_ptr<CTimeRecordFactory> TimeRecordFactory() const { return m_timeRecordFactory; }
+    std::shared_ptr<CCompanyList> CompanyList() const { return m_companyList; }
+    std::shared_ptr<CEmployeeList> EmployeeList() const { return m_employeeList; }
+
+    bool ReadConfigFile();                   // true also when the file could not be read: that shows up as a database that cannot be opened
+    bool WriteConfigFile();                  // true also when the file could not be written
+    bool GetCompanyList();                   // reloads into the same list object
+    bool GetEmployeeList();                  // reloads into the same list object
+    bool GetTimeCardList() { return false; } // reserved
+
+    // Makes the factory on the present database, or empties the current list of the one there is, which keeps its first database.
+    bool StartTimeRecordFactory();
+
+    // Hides, unloads and releases the main window. Its closing steps may call this again, which then does nothing. Deliberately always
+    // false.
+    bool UnloadControllerWindow();
+
+private:
+    bool ClearError();
+    void BringUp();
+    bool Login();
+    void ShowMainWindow();
+    void CloseDatabase();
+    void ReportConstructionFailure();
+    void ShutDown();
+    void SaveSession();
+    void ReleaseSession();
+
+    bool OpenDatabase(); // on a fresh database object and locator each time
+    bool LoadSystemOptions();
+    bool StoreSystemOptions();
+    bool BuildLists();
+    void ShowDatabaseOpenError();
+    void ShowSystemConfigurationError();
+    std::string ConfigPath() const;
+
+    template <typename Operation>
+    bool Logged(Operation operation);
+
+    Surroundings m_around;
+    std::int32_t m_errorNumber = 0;
+    std::shared_ptr<MainWindow> m_controllerWindow;
+    std::shared_ptr<CFileAdaptor> m_configFile;
+    std::shared_ptr<CDatabaseLocator> m_locator;
+    std::shared_ptr<CJetDB> m_database;
+    std::shared_ptr<CCompanyList> m_companyList;
+    std::shared_ptr<CEmployeeList> m_employeeList;
+    std::shared_ptr<CTimeRecordFactory> m_timeRecordFactory;
+    std::shared_ptr<CSystemOptions> m_systemOptions;
+    std::shared_ptr<LoginWindow> m_loginWindow;
+};
+
+} // namespace ptk
