@@ -1,0 +1,49 @@
+// A box for a date: free text with a calendar to pick from.
+#pragma once
+
+#include "platform/DateTime.h"
+
+#include <QComboBox>
+#include <optional>
+
+namespace ptk {
+
+class Clock;
+
+// Takes "3/5" (of this year), "3/5/26", "3/5/2026" and every other form of a date from 1 January 1900 to 31 December 2100, "+" and "-" for the
+// next and the previous day. On leaving, what is a date is shown as mm/dd/yyyy; what is none stays as it was typed.
+class DateCombo final : public QComboBox
+{
+    Q_OBJECT
+
+public:
+    explicit DateCombo(QWidget* parent = nullptr);
+
+    void SetClock(const Clock& clock); // tells this year; must outlive the box. Without it the machine's clock does.
+
+    QString Text() const; // as it will be shown on leaving: typed "3/5" already answers the whole date
+    void SetText(const QString& text);
+    std::optional<DateTime> Date() const; // midnight of the day; nothing for an empty text, no date, or a date out of range
+    void SetDate(DateTime value);
+
+    void showPopup() override;
+
+signals:
+    void Changed(); // by the user only: on each keystroke that alters the text, a day picked in the calendar, a step of a day
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    DateTime Today() const;
+    bool Step(const QString& key);
+    void Normalize();
+    void Pick(QDate date);
+
+    const Clock* m_clock = nullptr;
+};
+
+} // namespace ptk

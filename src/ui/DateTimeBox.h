@@ -1,0 +1,45 @@
+// A box for a time of day, or for a date: free text that is put right on leaving.
+#pragma once
+
+#include <QLineEdit>
+#include <string>
+
+namespace ptk {
+
+class Clock;
+
+// In time mode, the first one, 830, 0830, 8.30, 8:30, 830a, 5p and 17 become a time in the display format; in date mode dates are taken as a
+// DateCombo takes them. What is neither stays as it was typed. Empty is allowed.
+class DateTimeBox final : public QLineEdit
+{
+    Q_OBJECT
+
+public:
+    explicit DateTimeBox(QWidget* parent = nullptr);
+
+    void SetDisplayFormat(std::string pattern); // of a time, in the tokens of FormatDateTime; "hh:mm:ss AM/PM" at first
+    void SetDateMode(const Clock& clock);       // the clock tells this year and must outlive the box
+
+    QString Text() const; // as it will be shown on leaving
+    void SetText(const QString& text);
+    void Clear();
+
+signals:
+    // By the user only: on a keystroke that leaves a readable text, and on leaving or Enter when the text has become unreadable or empty since.
+    void Changed();
+    void KeyEntered(); // on every keystroke that alters the text
+
+protected:
+    void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    std::string Readable(const QString& text) const; // in display form, empty when it cannot be read
+    void Type();
+    void Finish();
+
+    std::string m_format = "hh:mm:ss AM/PM";
+    const Clock* m_dateClock = nullptr; // set in date mode only
+    bool m_unreported = false;          // typed since the last Changed
+};
+
+} // namespace ptk
