@@ -32,7 +32,7 @@ public:
 
 private:
     bool Launch(const DesktopWindow* theparent, const std::string& thedocname, ShellVerb verb);
-    bool Accepted(std::int32_t shellCode);
+    bool Refuse(std::int32_t errorNumber); // always false
 
     Desktop& m_desktop;
     const DesktopWindow* m_parent = nullptr; // the last one given; not owned

@@ -1,6 +1,7 @@
 // One text file, read item by item or written line by line, with error numbers instead of raised failures.
 #pragma once
 
+#include "platform/LineFile.h"
 #include "platform/Value.h"
 
 #include <cstdint>
@@ -54,10 +55,10 @@ public:
                    bool lineStatus = false); // `notes` only when lineStatus is true
 
 private:
-    bool ClearError();
+    bool ClearError(); // always true
     std::int32_t AcquireFileNumber();
-    void OpenAs(std::int16_t mode);
-    void WriteText(const std::string& text);
+    void OpenUnder(std::int32_t number, linefile::Mode mode);
+    bool WriteText(std::string text);
     bool ReadyToRead();
     bool ReadyToWrite();
     bool Refuse(std::int32_t errorNumber, const char* description); // always false

@@ -9,6 +9,8 @@
 
 namespace ptk {
 
+class CFile;
+
 // Lines are "[header]", "key=value" (split at the first "=", nothing trimmed, letter case counts) or anything else, kept as it is. Headers
 // do not scope keys. Positions are 1-based and 16-bit; more lines than that hold raise Failure 6 inside. Caught failures answer false or
 // ""; FileLineCount, FindLine, ReplaceLine and FindKeyValue let them through.
@@ -46,8 +48,8 @@ public:
     std::string FindKeyValue(const std::string& thekeystring); // of the first line with exactly that key, or ""
 
 private:
-    void ReadLines(const std::string& path);
-    void WriteLines(const std::string& path);
+    void ReadLines(CFile& file);
+    void WriteLines(CFile& file);
     bool Insert(const std::string& buffer, std::int32_t index);
     void ParseHeader(std::string_view line);
     void ParseKeyString(std::string_view line);

@@ -1,4 +1,4 @@
-// The hub of a session: owns every shared object, brings the program up and shuts it down.
+// The hub of the running program: owns every shared object, brings the program up and shuts it down.
 #pragma once
 
 #include <cstdint>

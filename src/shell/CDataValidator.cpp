@@ -1,0 +1,40 @@
+#include "shell/CDataValidator.h"
+
+#include "platform/Text.h"
+
+#include <algorithm>
+
+namespace ptk {
+
+namespace {
+
+bool IsDigit(char character)
+{
+    return character >= '0' && character <= '9';
+}
+
+} // namespace
+
+bool CDataValidator::CheckIntegerValues(const std::string& thestring) const
+{
+    return std::ranges::all_of(thestring, IsDigit);
+}
+
+bool CDataValidator::CheckDateTimeValues(const std::string& thestring) const
+{
+    return ParseDateTime(thestring).has_value();
+}
+
+bool CDataValidator::CheckSingleValues(const std::string& thestring) const
+{
+    if (!std::ranges::all_of(thestring, [](char character) { return character == '.' || IsDigit(character); }))
+        return false;
+    try {
+        ToSingle(thestring);
+        return true;
+    } catch (...) {
+        return false;
+    }
+}
+
+} // namespace ptk

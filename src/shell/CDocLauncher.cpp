@@ -1,0 +1,48 @@
+#include "shell/CDocLauncher.h"
+
+#include "platform/Desktop.h"
+#include "platform/ProgramFolder.h"
+
+namespace ptk {
+
+std::string CDocLauncher::FileName(const std::string& thedocname)
+{
+    m_fileName = thedocname;
+    return {};
+}
+
+bool CDocLauncher::DisplayDocument(const DesktopWindow* theparent, const std::string& thedocname)
+{
+    return Launch(theparent, thedocname, ShellVerb::Open);
+}
+
+bool CDocLauncher::PrintDocument(const DesktopWindow* theparent, const std::string& thedocname)
+{
+    return Launch(theparent, thedocname, ShellVerb::Print);
+}
+
+bool CDocLauncher::Launch(const DesktopWindow* theparent, const std::string& thedocname, ShellVerb verb)
+{
+    if (theparent == nullptr)
+        return Refuse(docerror::NoParentWindow);
+    if (thedocname.empty())
+        return Refuse(docerror::NoDocumentName);
+    m_parent = theparent;
+    m_fileName = thedocname;
+    try {
+        const std::int32_t code = m_desktop.Shell(*m_parent, verb, NativePath(m_fileName).string());
+        if (code == ShellFileNotFound)
+            return Refuse(docerror::DocumentNotFound);
+        return code > ShellSuccess;
+    } catch (...) {
+        return false;
+    }
+}
+
+bool CDocLauncher::Refuse(std::int32_t errorNumber)
+{
+    m_errorNumber = errorNumber;
+    return false;
+}
+
+} // namespace ptk

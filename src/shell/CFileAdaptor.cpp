@@ -1,0 +1,164 @@
+#include "shell/CFileAdaptor.h"
+
+#include "platform/Value.h"
+#include "shell/CFile.h"
+
+namespace ptk {
+
+namespace {
+
+constexpr std::int32_t kReadMode = 0;
+constexpr std::int32_t kWriteMode = 1;
+
+// True, or false when anything was raised.
+template <typename Operation>
+bool Attempt(Operation operation)
+{
+    try {
+        return operation();
+    } catch (...) {
+        return false;
+    }
+}
+
+} // namespace
+
+CFileAdaptor::CFileAdaptor(const std::string& programFolder) : m_fileName(programFolder + R"(\system\ptk_11.cfg)") {}
+
+std::int16_t CFileAdaptor::FileLineCount() const
+{
+    return NarrowToInt16(m_lines.Count());
+}
+
+bool CFileAdaptor::ReadFile(const std::string& thefilename)
+{
+    return Attempt([&] {
+        if (thefilename.empty())
+            return false;
+        m_fileName = thefilename;
+        CFile file;
+        if (file.OpenFile(thefilename, kReadMode))
+            ReadLines(file);
+        return true;
+    });
+}
+
+// The position counts the dropped lines, too, so that it also ends the reading of a file whose device keeps failing: at the 32,768th item.
+void CFileAdaptor::ReadLines(CFile& file)
+{
+    std::int16_t position = 1;
+    while (!file.EndOfFile()) {
+        const std::string line = file.ReadLine();
+        if (line != "EOF")
+            m_lines.Insert(line, position);
+        position = NarrowToInt16(position + 1);
+    }
+    file.CloseFile();
+}
+
+bool CFileAdaptor::WriteFile(const std::string& thefilename)
+{
+    return Attempt([&] {
+        if (thefilename.empty())
+            return false;
+        m_fileName = thefilename;
+        CFile file;
+        if (file.OpenFile(thefilename, kWriteMode))
+            WriteLines(file);
+        return true;
+    });
+}
+
+void CFileAdaptor::WriteLines(CFile& file)
+{
+    const std::int16_t count = FileLineCount();
+    for (std::int32_t position = 1; position <= count; ++position)
+        file.WriteLine(m_lines.Item(position));
+    file.CloseFile();
+}
+
+bool CFileAdaptor::AddLine(const std::string& buffer)
+{
+    return Attempt([&] { return Insert(buffer, m_lines.Count()); });
+}
+
+bool CFileAdaptor::InsertLine(const std::string& buffer, std::int16_t index)
+{
+    return Attempt([&] { return Insert(buffer, index); });
+}
+
+bool CFileAdaptor::Insert(const std::string& buffer, std::int32_t index)
+{
+    m_lines.Insert(buffer, index);
+    return m_lines.ErrorNumber() == 0;
+}
+
+bool CFileAdaptor::RemoveLine(std::int16_t index)
+{
+    return Attempt([&] {
+        m_lines.Remove(index);
+        return m_lines.ErrorNumber() == 0;
+    });
+}
+
+std::string CFileAdaptor::GetLine(std::int16_t index)
+{
+    try {
+        std::string line = m_lines.Item(index);
+        ParseHeader(line);
+        ParseKeyString(line);
+        ParseKeyValue(line);
+        return line;
+    } catch (...) {
+        return {};
+    }
+}
+
+std::int16_t CFileAdaptor::FindLine(const std::string& thekeystring)
+{
+    const std::int16_t count = FileLineCount();
+    for (std::int32_t position = 1; position <= count; ++position)
+        if (m_lines.Item(position).find(thekeystring) != std::string::npos)
+            return NarrowToInt16(position);
+    return -1;
+}
+
+bool CFileAdaptor::ReplaceLine(const std::string& thekeystring, const std::string& thekeyvalue)
+{
+    const std::int16_t index = FindLine(thekeystring);
+    if (index < 1 || !RemoveLine(index))
+        return false;
+    return InsertLine(thekeystring + "=" + thekeyvalue, index);
+}
+
+std::string CFileAdaptor::FindKeyValue(const std::string& thekeystring)
+{
+    const std::int16_t count = FileLineCount();
+    for (std::int32_t position = 1; position <= count; ++position) {
+        GetLine(NarrowToInt16(position));
+        if (m_keyString == thekeystring)
+            return m_keyValue;
+    }
+    return {};
+}
+
+void CFileAdaptor::ParseHeader(std::string_view line)
+{
+    m_header.clear();
+    if (line.starts_with('[') && line.ends_with(']'))
+        m_header = line.substr(1, line.size() - 2);
+}
+
+void CFileAdaptor::ParseKeyString(std::string_view line)
+{
+    const std::size_t equals = line.find('=');
+    m_keyString = equals == std::string_view::npos ? std::string_view() : line.substr(0, equals);
+}
+
+void CFileAdaptor::ParseKeyValue(std::string_view line)
+{
+    const std::size_t equals = line.find('=');
+    m_keyValue = equals == std::string_view::npos ? std::string_view() : line.substr(equals + 1);
+}
+
+} // namespace ptk

@@ -1,0 +1,21 @@
+#include "shell/Numeric.h"
+
+#include "platform/Value.h"
+
+#include <variant>
+
+namespace ptk {
+
+bool IsNumeric(const Value& value)
+{
+    if (value.IsNull() || std::holds_alternative<DateTime>(value.Get()))
+        return false;
+    try {
+        value.ToDouble();
+        return true;
+    } catch (...) {
+        return false;
+    }
+}
+
+} // namespace ptk
