@@ -11,6 +11,7 @@ namespace ptk {
 class CCompanyList;
 class CDatabaseLocator;
 class CEmployeeList;
+class CError;
 class CFile;
 class CFileAdaptor;
 class CJetDB;
@@ -31,8 +32,8 @@ public:
         std::string programFolder;
         Desktop& desktop;
         WindowFactory& windows;
-        std::shared_ptr<CFile> errorLog;       // written to only while it is open
-        std::function<void()> endOfTheProgram; // the end routine; when it returns, the controller touches nothing any more
+        std::shared_ptr<CFile> errorLog;  // written to only while it is open
+        std::function<void()> endRoutine; // when it returns, the controller touches nothing any more
     };
 
     explicit CController(Surroundings surroundings);
@@ -48,7 +49,7 @@ public:
     // it tells so, saves nothing and leaves the program to end with its last window. Harmless when repeated. Deliberately always false.
     bool Cleanup();
 
-    std::int32_t ErrorNumber() const { return m_errorNumber; } // stays 0
+    std::int32_t ErrorNumber() const { return 0; } // no operation of the controller sets it
     std::shared_ptr<MainWindow> ControllerWindow() const { return m_controllerWindow; }
     std::shared_ptr<CFileAdaptor> ConfigFile() const; // deliberately raises Failure 91: the configuration is not handed out
     std::shared_ptr<CJetDB> PTKDatabase() const { return m_database; }
@@ -66,34 +67,31 @@ public:
     // Makes the factory on the present database, or empties the current list of the one there is, which keeps its first database.
     bool StartTimeRecordFactory();
 
-    // Hides, unloads and releases the main window. Its closing steps may call this again, which then does nothing. Deliberately always
-    // false.
+    // Hides, unloads and releases the main window; a second call from its closing steps does nothing. Deliberately always false.
     bool UnloadControllerWindow();
 
 private:
-    bool ClearError();
     void BringUp();
-    bool Login();
+    bool LogIn();
     void ShowMainWindow();
-    void CloseDatabase();
-    void ReportConstructionFailure();
     void ShutDown();
-    void SaveSession();
-    void ReleaseSession();
+    void ReleaseObjects();
 
     bool OpenDatabase(); // on a fresh database object and locator each time
+    void CloseDatabase();
     bool LoadSystemOptions();
     bool StoreSystemOptions();
     bool BuildLists();
-    void ShowDatabaseOpenError();
-    void ShowSystemConfigurationError();
     std::string ConfigPath() const;
 
+    void TellDatabaseUnopened();
+    void WriteToLog(const char* kind, const CError& error);
+
+    // The operation's answer, or false and a line in the log when it raised a failure.
     template <typename Operation>
     bool Logged(Operation operation);
 
     Surroundings m_around;
-    std::int32_t m_errorNumber = 0;
     std::shared_ptr<MainWindow> m_controllerWindow;
     std::shared_ptr<CFileAdaptor> m_configFile;
     std::shared_ptr<CDatabaseLocator> m_locator;
