@@ -1,0 +1,160 @@
+#include "console/Arguments.h"
+
+#include "platform/Text.h"
+
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
+#include <sstream>
+
+namespace ptk {
+
+namespace {
+
+constexpr const char* kVersion = "ptk-console 1.0";
+
+// A day, not a time: what has a time of day in it is no date here.
+std::optional<DateTime> ReadDay(const std::string& text)
+{
+    return text.find(':') == std::string::npos ? ParseDateTime(text) : std::nullopt;
+}
+
+CLI::Validator IsDay()
+{
+    return CLI::Validator([](std::string& text) { return ReadDay(text) ? std::string() : "not a date: " + text; }, "DATE");
+}
+
+// The words as CLI11 stores them; dates are checked while reading and turned into dates afterwards.
+struct Words
+{
+    std::string programFolder;
+    bool sample = false;
+    std::string today;
+    std::string employee;
+    std::string from;
+    std::string to;
+    std::string report;
+    std::vector<std::string> employees;
+};
+
+class Grammar
+{
+public:
+    Grammar();
+    std::variant<Arguments, UsageAnswer> Read(std::vector<std::string> words);
+
+private:
+    void DescribeCreateDatabase();
+    void DescribeTimeCard();
+    void DescribeReport();
+    void CheckReport() const;
+    std::variant<Arguments, UsageAnswer> Answer(const CLI::ParseError& error) const;
+    Arguments Result() const;
+
+    Words m_words;
+    CLI::App m_app{"PTK - Administrator for terminals and scheduled jobs: time cards and reports from the program folder's database.",
+                   "ptk-console"};
+    CLI::App* m_createDatabase = nullptr;
+    CLI::App* m_timeCard = nullptr;
+    CLI::App* m_report = nullptr;
+};
+
+Grammar::Grammar()
+{
+    m_app.set_help_flag("-h,--help", "Show this help");
+    m_app.set_version_flag("--version", kVersion, "Show the version");
+    m_app.add_option("--program-folder", m_words.programFolder,
+                     "The folder with system/ and reports/; else PTK_PROGRAM_FOLDER, else the folder of ptk-console");
+    m_app.require_subcommand(1);
+    m_app.fallthrough();
+    m_app.footer("Exit status: 0 done, 1 the operation failed, 2 wrong usage. Dates are month/day/year.");
+    DescribeCreateDatabase();
+    DescribeTimeCard();
+    DescribeReport();
+    m_app.add_subcommand("check", "Verify the database's integrity and schema and print its row counts");
+}
+
+void Grammar::DescribeCreateDatabase()
+{
+    m_createDatabase =
+        m_app.add_subcommand("create-database", "Make the database file that the configuration names; an existing one stays");
+    CLI::Option* sample = m_createDatabase->add_flag("--sample", m_words.sample, "Fill in a small business with half a year of shifts");
+    m_createDatabase->add_option("--today", m_words.today, "The last day of the sample's shifts; else today")
+        ->check(IsDay())
+        ->needs(sample);
+}
+
+void Grammar::DescribeTimeCard()
+{
+    m_timeCard = m_app.add_subcommand("time-card", "Print an employee's time card");
+    m_timeCard->add_option("--employee", m_words.employee, "First and last name, or the last name alone where there is no first one")
+        ->required();
+    m_timeCard->add_option("--from", m_words.from, "First day")->check(IsDay())->required();
+    m_timeCard->add_option("--to", m_words.to, "Last day, inclusive")->check(IsDay())->required();
+}
+
+void Grammar::DescribeReport()
+{
+    m_report = m_app.add_subcommand("report", "Write a report to the reports folder and print it");
+    m_report->add_option("report", m_words.report, "timecard, review, ytd, employees or phonebook")
+        ->check(CLI::IsMember({"timecard", "review", "ytd", "employees", "phonebook"}))
+        ->required();
+    m_report->add_option("--employee", m_words.employees, "An employee's name, may be repeated; else all that the Reports page lists")
+        ->allow_extra_args(false);
+    m_report->add_option("--from", m_words.from, "First day; else as the Reports page offers")->check(IsDay());
+    m_report->add_option("--to", m_words.to, "Last day; else as the Reports page offers")->check(IsDay());
+}
+
+// What each report has no use for is refused rather than silently left aside.
+void Grammar::CheckReport() const
+{
+    const bool dates = m_report->count("--from") + m_report->count("--to") > 0;
+    if (dates && (m_words.report == "employees" || m_words.report == "phonebook"))
+        throw CLI::ValidationError("report " + m_words.report, "takes no dates");
+    if (!m_words.employees.empty() && m_words.report == "phonebook")
+        throw CLI::ValidationError("report phonebook", "takes no employees");
+}
+
+std::variant<Arguments, UsageAnswer> Grammar::Read(std::vector<std::string> words)
+{
+    std::reverse(words.begin(), words.end()); // CLI11 takes them from the back
+    try {
+        m_app.parse(std::move(words));
+        if (m_report->parsed())
+            CheckReport();
+    } catch (const CLI::ParseError& error) {
+        return Answer(error);
+    }
+    return Result();
+}
+
+std::variant<Arguments, UsageAnswer> Grammar::Answer(const CLI::ParseError& error) const
+{
+    std::ostringstream out;
+    std::ostringstream err;
+    const bool wrong = m_app.exit(error, out, err) != 0;
+    std::string text = wrong ? error.what() : out.str();
+    while (text.ends_with('\n'))
+        text.pop_back();
+    return UsageAnswer{wrong, std::move(text)};
+}
+
+Arguments Grammar::Result() const
+{
+    if (m_createDatabase->parsed())
+        return {m_words.programFolder, CreateDatabaseArguments{m_words.sample, ReadDay(m_words.today)}};
+    if (m_timeCard->parsed())
+        return {m_words.programFolder, TimeCardArguments{m_words.employee, ReadDay(m_words.from).value(), ReadDay(m_words.to).value()}};
+    if (m_report->parsed())
+        return {m_words.programFolder, ReportArguments{m_words.report, m_words.employees, ReadDay(m_words.from), ReadDay(m_words.to)}};
+    return {m_words.programFolder, CheckArguments{}};
+}
+
+} // namespace
+
+std::variant<Arguments, UsageAnswer> ReadArguments(const std::vector<std::string>& words)
+{
+    return Grammar().Read(words);
+}
+
+} // namespace ptk

@@ -1,0 +1,54 @@
+// The command line of ptk-console, read and checked.
+#pragma once
+
+#include "platform/DateTime.h"
+
+#include <optional>
+#include <string>
+#include <variant>
+#include <vector>
+
+namespace ptk {
+
+struct CreateDatabaseArguments
+{
+    bool sample = false;
+    std::optional<DateTime> today; // the last day of the sample; only with `sample`
+};
+
+struct TimeCardArguments
+{
+    std::string employee; // a display name
+    DateTime from;
+    DateTime to; // inclusive
+};
+
+struct ReportArguments
+{
+    std::string report;                 // one of timecard, review, ytd, employees, phonebook
+    std::vector<std::string> employees; // display names in the order given; none: all that are offered
+    std::optional<DateTime> from;
+    std::optional<DateTime> to;
+};
+
+struct CheckArguments
+{
+};
+
+struct Arguments
+{
+    std::string programFolder; // empty: not given
+    std::variant<CreateDatabaseArguments, TimeCardArguments, ReportArguments, CheckArguments> command;
+};
+
+// What stands instead of arguments when there is nothing to do any more: the text asked for (help, version) or what is wrong.
+struct UsageAnswer
+{
+    bool wrong = false;
+    std::string text; // without a line end at its end
+};
+
+// `words`: the command line without the program's name.
+std::variant<Arguments, UsageAnswer> ReadArguments(const std::vector<std::string>& words);
+
+} // namespace ptk

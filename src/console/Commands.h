@@ -1,0 +1,17 @@
+// The commands of ptk-console. Each answers its exit status, or raises the failure that ended it.
+#pragma once
+
+namespace ptk {
+
+struct Console;
+struct CheckArguments;
+struct CreateDatabaseArguments;
+struct ReportArguments;
+struct TimeCardArguments;
+
+int CreateDatabaseCommand(const CreateDatabaseArguments& arguments, Console& console);
+int TimeCardCommand(const TimeCardArguments& arguments, Console& console);
+int ReportCommand(const ReportArguments& arguments, Console& console);
+int CheckCommand(const CheckArguments& arguments, Console& console);
+
+} // namespace ptk

@@ -1,0 +1,36 @@
+// What every command of ptk-console works with, and how it answers: an exit status, text on `out`, one line on `err` for a failure.
+#pragma once
+
+#include "platform/Failure.h"
+
+#include <ostream>
+#include <string>
+#include <string_view>
+
+namespace ptk {
+
+class Clock;
+
+// Exit statuses.
+namespace status {
+inline constexpr int Done = 0;
+inline constexpr int Failed = 1;
+inline constexpr int WrongUsage = 2;
+} // namespace status
+
+// The references outlive the command.
+struct Console
+{
+    std::string programFolder; // without a trailing separator
+    const ptk::Clock& clock;
+    std::ostream& out;
+    std::ostream& err;
+};
+
+// "ptk-console: NUMBER: TEXT" on one line, without the number where there is none (0).
+void Complain(std::ostream& err, const Failure& failure);
+
+// Texts carry CR LF, as files keep them; a terminal wants LF alone.
+std::string TerminalText(std::string_view text);
+
+} // namespace ptk

@@ -1,0 +1,60 @@
+#include "console/Program.h"
+
+#include "console/Arguments.h"
+#include "console/Commands.h"
+#include "console/Console.h"
+#include "platform/Clock.h"
+#include "platform/ProgramFolder.h"
+
+namespace ptk {
+
+namespace {
+
+// The commands by the arguments that they take.
+struct Dispatch
+{
+    Console& console;
+
+    int operator()(const CreateDatabaseArguments& arguments) const { return CreateDatabaseCommand(arguments, console); }
+    int operator()(const TimeCardArguments& arguments) const { return TimeCardCommand(arguments, console); }
+    int operator()(const ReportArguments& arguments) const { return ReportCommand(arguments, console); }
+    int operator()(const CheckArguments& arguments) const { return CheckCommand(arguments, console); }
+};
+
+int ShowUsage(const UsageAnswer& answer, std::ostream& out, std::ostream& err)
+{
+    if (!answer.wrong) {
+        out << answer.text << '\n';
+        return status::Done;
+    }
+    Complain(err, Failure(0, "PTK", answer.text));
+    err << "Try: ptk-console --help\n";
+    return status::WrongUsage;
+}
+
+int Run(const std::vector<std::string>& words, const Clock& clock, std::ostream& out, std::ostream& err)
+{
+    const auto read = ReadArguments(words);
+    if (const auto* answer = std::get_if<UsageAnswer>(&read))
+        return ShowUsage(*answer, out, err);
+    const auto& arguments = std::get<Arguments>(read);
+    Console console{FindProgramFolder(arguments.programFolder), clock, out, err};
+    return std::visit(Dispatch{console}, arguments.command);
+}
+
+} // namespace
+
+int RunConsole(const std::vector<std::string>& words, const Clock& clock, std::ostream& out, std::ostream& err)
+{
+    try {
+        const int result = Run(words, clock, out, err);
+        if (out.flush() || result != status::Done)
+            return result;
+        throw Failure(0, "PTK", "the output could not be written");
+    } catch (...) {
+        Complain(err, CurrentFailure());
+        return status::Failed;
+    }
+}
+
+} // namespace ptk

@@ -1,0 +1,15 @@
+// ptk-console as a function: the command line in, text and an exit status out.
+#pragma once
+
+#include <iosfwd>
+#include <string>
+#include <vector>
+
+namespace ptk {
+
+class Clock;
+
+// `words`: the command line without the program's name. Never raises; output that could not be written is a failure too.
+int RunConsole(const std::vector<std::string>& words, const Clock& clock, std::ostream& out, std::ostream& err);
+
+} // namespace ptk

@@ -1,0 +1,53 @@
+#include "console/Session.h"
+
+#include "console/ErrorText.h"
+#include "model/CEmployeeList.h"
+#include "model/CTimeRecordFactory.h"
+#include "platform/ProgramFolder.h"
+#include "shell/CDatabaseLocator.h"
+#include "shell/CFileAdaptor.h"
+#include "store/CJetDB.h"
+#include "store/CSystemOptions.h"
+
+namespace ptk {
+
+std::shared_ptr<CDatabaseLocator> LocateDatabase(const std::string& programFolder)
+{
+    const auto configuration = std::make_shared<CFileAdaptor>(programFolder);
+    const std::string path = configuration->FileName();
+    configuration->ReadFile(path); // a missing file reads as an empty configuration, which names no database
+    auto locator = std::make_shared<CDatabaseLocator>(programFolder);
+    locator->ConfigFile(configuration);
+    if (!locator->GetDatabasePath() || locator->DatabasePath().empty())
+        throw Failure(0, "PTK", "the configuration file is missing or names no database: " + NativePath(path).string());
+    return locator;
+}
+
+Session::Session(const std::string& programFolder)
+    : m_locator(LocateDatabase(programFolder)), m_database(std::make_shared<CJetDB>(programFolder)),
+      m_employees(std::make_shared<CEmployeeList>()), m_factory(std::make_shared<CTimeRecordFactory>())
+{
+    Open();
+    if (!m_employees->LoadList(m_database))
+        throw ProgramFailure(m_database->ErrorNumber());
+    m_factory->PTKDatabase(m_database);
+}
+
+void Session::Open()
+{
+    if (!m_database->OpenPTKDatabase(m_locator))
+        throw OpenFailure(m_database->ErrorNumber(), NativePath(m_locator->DatabasePath()).string());
+}
+
+std::int16_t Session::PeriodLength()
+{
+    Open();
+    CSystemOptions options;
+    options.PTKDatabase(m_database);
+    if (!options.Load())
+        throw ProgramFailure(m_database->ErrorNumber());
+    m_database->CloseDB();
+    return options.PeriodLength();
+}
+
+} // namespace ptk

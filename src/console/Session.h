@@ -1,0 +1,40 @@
+// The program's objects as they stand after its start, without windows: configuration, database, employees, time record factory.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+namespace ptk {
+
+class CDatabaseLocator;
+class CEmployeeList;
+class CJetDB;
+class CTimeRecordFactory;
+
+// Where the configuration says the database is, with backslashes as configured. Raises a failure without a number when it names none.
+std::shared_ptr<CDatabaseLocator> LocateDatabase(const std::string& programFolder);
+
+// The database stays closed between operations, so that another program finds it free.
+class Session
+{
+public:
+    // Loads the employees. Raises the failure of what could not be read, an engine's number when the database could not be opened.
+    explicit Session(const std::string& programFolder);
+
+    const std::shared_ptr<CJetDB>& Database() const { return m_database; }
+    const std::shared_ptr<CEmployeeList>& Employees() const { return m_employees; }
+    const std::shared_ptr<CTimeRecordFactory>& Factory() const { return m_factory; }
+
+    std::int16_t PeriodLength(); // days, as the options say at this moment; raises what reading them raises
+
+private:
+    void Open();
+
+    std::shared_ptr<CDatabaseLocator> m_locator;
+    std::shared_ptr<CJetDB> m_database;
+    std::shared_ptr<CEmployeeList> m_employees;
+    std::shared_ptr<CTimeRecordFactory> m_factory;
+};
+
+} // namespace ptk

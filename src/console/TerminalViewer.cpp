@@ -1,0 +1,47 @@
+#include "console/TerminalViewer.h"
+
+#include "console/Console.h"
+#include "platform/ProgramFolder.h"
+#include "reports/Report.h"
+
+#include <ostream>
+
+namespace ptk {
+
+class TerminalViewer final : public ReportViewer
+{
+public:
+    explicit TerminalViewer(TerminalViewers& viewers) : m_viewers(viewers) {}
+
+    void Controller(std::shared_ptr<Report> value) override { m_report = std::move(value); }
+    void Caption(const std::string&) override {} // the text starts with the same words
+    bool WriteLine(const std::string& buffer) override
+    {
+        m_text += buffer + "\r\n";
+        return true;
+    }
+    void Show() override { m_viewers.Print(TerminalText(m_text), NativePath(m_report->ReportPath()).string()); }
+    void Hide() override {}
+    void Unload() override { m_report.reset(); }
+
+private:
+    TerminalViewers& m_viewers;
+    std::shared_ptr<Report> m_report;
+    std::string m_text;
+};
+
+std::shared_ptr<ReportViewer> TerminalViewers::CreateViewer(ReportKind)
+{
+    return std::make_shared<TerminalViewer>(*this);
+}
+
+void TerminalViewers::Print(const std::string& text, const std::string& path)
+{
+    if (m_printed)
+        m_out << '\n';
+    m_printed = true;
+    m_out << text;
+    m_err << "ptk-console: written: " << path << '\n';
+}
+
+} // namespace ptk

@@ -1,0 +1,24 @@
+#include "console/Arguments.h"
+#include "console/Commands.h"
+#include "console/Console.h"
+#include "console/ErrorText.h"
+#include "console/Session.h"
+#include "model/CEmployeeList.h"
+#include "model/CTimeCard.h"
+
+namespace ptk {
+
+int TimeCardCommand(const TimeCardArguments& arguments, Console& console)
+{
+    const Session session(console.programFolder);
+    CTimeCard card(session.Factory());
+    card.PTKDatabase(session.Database());
+    // A card's end is a moment: midnight after the last day, as the time card page passes it.
+    const DateTime end = arguments.to.AddDays(1);
+    if (!card.GenerateTimecard(session.Employees()->GetEmployeeByName(arguments.employee), arguments.from, end))
+        throw ProgramFailure(card.ErrorNumber(), arguments.employee);
+    console.out << TerminalText(card.ToStringReport());
+    return status::Done;
+}
+
+} // namespace ptk
