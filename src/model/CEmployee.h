@@ -1,0 +1,98 @@
+// The personnel record of one employee.
+#pragma once
+
+#include "model/Entity.h"
+#include "platform/DateTime.h"
+#include "store/Rows.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace ptk {
+
+class CJetDB;
+
+namespace employee {
+inline constexpr std::int32_t SaveFailed = 803; // nothing to save in this state
+inline constexpr std::int32_t TextFailed = 806; // a text form failed
+} // namespace employee
+
+// Setters store the value as it is; units and meanings of the fields stand at EmployeeRow.
+class CEmployee : public Entity
+{
+public:
+    CEmployee() = default;
+    explicit CEmployee(EmployeeRow row); // as loaded: unchanged
+
+    void EmployeeID(std::int32_t value) { SetKey(m_row.EmployeeID, value); }
+    std::int32_t EmployeeID() const { return m_row.EmployeeID; }
+    void SSN(std::string value) { Set(m_row.SSN, std::move(value)); }
+    const std::string& SSN() const { return m_row.SSN; }
+    void EmployeeNumber(std::int32_t value) { Set(m_row.EmployeeNumber, value); }
+    std::int32_t EmployeeNumber() const { return m_row.EmployeeNumber; }
+    void FirstName(std::string value) { Set(m_row.FirstName, std::move(value)); }
+    const std::string& FirstName() const { return m_row.FirstName; }
+    void LastName(std::string value) { Set(m_row.LastName, std::move(value)); }
+    const std::string& LastName() const { return m_row.LastName; }
+    void Address1(std::string value) { Set(m_row.Address1, std::move(value)); }
+    const std::string& Address1() const { return m_row.Address1; }
+    void Address2(std::string value) { Set(m_row.Address2, std::move(value)); }
+    const std::string& Address2() const { return m_row.Address2; }
+    void City(std::string value) { Set(m_row.City, std::move(value)); }
+    const std::string& City() const { return m_row.City; }
+    void State(std::string value) { Set(m_row.State, std::move(value)); }
+    const std::string& State() const { return m_row.State; }
+    void ZipCode(std::string value) { Set(m_row.ZipCode, std::move(value)); }
+    const std::string& ZipCode() const { return m_row.ZipCode; }
+    void Phone(std::string value) { Set(m_row.Phone, std::move(value)); }
+    const std::string& Phone() const { return m_row.Phone; }
+    void Password(std::string value) { Set(m_row.Password, std::move(value)); }
+    const std::string& Password() const { return m_row.Password; }
+    void PayRate(float value) { Set(m_row.PayRate, value); }
+    float PayRate() const { return m_row.PayRate; }
+    void OvertimePayRate(float value) { Set(m_row.OvertimePayRate, value); }
+    float OvertimePayRate() const { return m_row.OvertimePayRate; }
+    void DateOfBirth(DateTime value) { Set(m_row.DateOfBirth, value); }
+    DateTime DateOfBirth() const { return m_row.DateOfBirth; }
+    void HireDate(DateTime value) { Set(m_row.HireDate, value); }
+    DateTime HireDate() const { return m_row.HireDate; }
+    void ReleaseDate(DateTime value) { Set(m_row.ReleaseDate, value); }
+    DateTime ReleaseDate() const { return m_row.ReleaseDate; }
+    void EmployeeActive(bool value) { Set(m_row.EmployeeActive, value); }
+    bool EmployeeActive() const { return m_row.EmployeeActive; }
+    void CompanyID(std::int32_t value) { Set(m_row.CompanyID, value); }
+    std::int32_t CompanyID() const { return m_row.CompanyID; }
+    void AutoDeduct(bool value) { Set(m_row.AutoDeduct, value); }
+    bool AutoDeduct() const { return m_row.AutoDeduct; }
+    void AutoDeductLunchLength(std::int16_t value) { Set(m_row.AutoDeductLunchLength, value); }
+    std::int16_t AutoDeductLunchLength() const { return m_row.AutoDeductLunchLength; }
+    void AutoDeductBreakLength(std::int16_t value) { Set(m_row.AutoDeductBreakLength, value); }
+    std::int16_t AutoDeductBreakLength() const { return m_row.AutoDeductBreakLength; }
+
+    // Adds, updates or deletes by state; false with 803 in any other. Unchanged afterwards in every case.
+    bool Save(const std::shared_ptr<CJetDB>& thedatabase);
+
+    // Lines end in CR LF. The labels' wording, blanks and tabs differ between the three forms, deliberately. What could be built, with 806,
+    // when it failed.
+    std::string ToString();         // the whole record
+    std::string ToStringTimeCard(); // heading of a time card
+    std::string ToStringReview();   // heading of an accountant's review
+
+    // First name, blank, last name; the last name alone when there is no first name. The form in which the program shows and finds
+    // employees.
+    std::string DisplayName() const;
+    bool HasDisplayName(std::string_view name) const; // exact, without building a text
+
+    // Whether the employee has hours to show: active, and not an administrator by display name.
+    bool OfferedOnTimeCards() const;
+
+    const EmployeeRow& Row() const { return m_row; }
+
+private:
+    EmployeeRow m_row;
+};
+
+} // namespace ptk

@@ -1,0 +1,28 @@
+// All employees, as login, employee page, time cards and reports search them.
+#pragma once
+
+#include "model/CEmployee.h"
+#include "model/EntityList.h"
+
+#include <cstdint>
+#include <memory>
+#include <string_view>
+
+namespace ptk {
+
+// The look-ups find the first match in list order, else nullptr; texts match exactly, in their letter case.
+class CEmployeeList final : public EntityList<CEmployeeList, CEmployee>, public EmployeeSink
+{
+public:
+    std::shared_ptr<CEmployee> GetEmployeeByID(std::int32_t theid);
+    std::shared_ptr<CEmployee> GetEmployeeByName(std::string_view thename); // by display name
+    std::shared_ptr<CEmployee> GetEmployeeBySSN(std::string_view thessn);
+    std::shared_ptr<CEmployee> GetEmployeeByNumber(std::int32_t thenumber);
+
+    bool InsertLoaded(EmployeeRow row, std::int32_t position) override;
+
+private:
+    bool FillFrom(CJetDB& thedatabase) override;
+};
+
+} // namespace ptk

@@ -1,0 +1,44 @@
+// The payroll rule: hours are summed per calendar day of the shifts' starts, the automatic deductions come off once a day, the first 8
+// hours of a day are regular and the rest is overtime. There is no weekly threshold and no rounding but to single.
+#pragma once
+
+#include <cstdint>
+
+namespace ptk {
+
+class CEmployee;
+class CTimeRecordList;
+
+// Hours are decimal hours. The figures start at 0 and accumulate over calls. No member raises.
+class CTimeCalculator
+{
+public:
+    float RegularHours() const { return m_regularHours; } // negative when deductions exceed the hours, deliberately
+    float OvertimeHours() const { return m_overtimeHours; }
+    float RegularPay() const { return m_regularPay; }
+    float OvertimePay() const { return m_overtimePay; }
+    float TotalPay() const { return m_totalPay; }
+    float TotalBreakTime() const { return m_totalBreakTime; } // what was deducted
+    std::int32_t ErrorNumber() const { return 0; }            // a failure is told by the answer alone
+
+    // REQUIRES: the list is in order of start times. False, with the figures as far as they were summed, for more than 32,767 records or an
+    // overflow.
+    bool CalculateTimes(const CEmployee& theemployee, const CTimeRecordList& thetimerecordlist);
+
+    // Rates in money per hour. The total pay; 0 on an overflow. Negative regular hours pay nothing at all, not even overtime, deliberately.
+    float CalculatePay(float theregularrate, float theovertimerate);
+
+private:
+    std::int32_t SumDay(const CTimeRecordList& records, std::int32_t first, float& hours) const;
+    void Deduct(const CEmployee& theemployee, float& hours);
+    void AddDay(float hours);
+
+    float m_regularHours = 0;
+    float m_overtimeHours = 0;
+    float m_regularPay = 0;
+    float m_overtimePay = 0;
+    float m_totalPay = 0;
+    float m_totalBreakTime = 0;
+};
+
+} // namespace ptk

@@ -1,0 +1,76 @@
+// One clock-in and clock-out of one employee.
+#pragma once
+
+#include "model/Entity.h"
+#include "platform/DateTime.h"
+#include "store/Rows.h"
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace ptk {
+
+class CTimeRecordFactory;
+
+namespace timerecord {
+inline constexpr std::int32_t TextFailed = 806; // a text form failed
+} // namespace timerecord
+
+class CTimeRecord : public Entity
+{
+public:
+    void TimeRecordFactory(const std::shared_ptr<CTimeRecordFactory>& value); // nullptr is ignored; not kept alive
+    std::shared_ptr<CTimeRecordFactory> TimeRecordFactory() const { return m_factory.lock(); }
+
+    void TimeRecordID(std::int32_t value) { SetKey(m_timeRecordID, value); }
+    std::int32_t TimeRecordID() const { return m_timeRecordID; } // -1 = not stored yet
+    void EmployeeID(std::int32_t value) { Set(m_employeeID, value); }
+    std::int32_t EmployeeID() const { return m_employeeID; }
+
+    // Setting either recalculates the hours as soon as both are known (not zero).
+    void StartTime(DateTime value);
+    DateTime StartTime() const { return m_startTime; }
+    void EndTime(DateTime value);
+    DateTime EndTime() const { return m_endTime; } // zero = still clocked in
+
+    // Decimal hours. An end before the start is stored as a negative number but read as 0; the text form shows it as it is, deliberately.
+    void HoursWorked(float value) { Set(m_hoursWorked, value); }
+    float HoursWorked() const { return m_hoursWorked > 0 ? m_hoursWorked : 0; }
+
+    // Whether the text forms use FormatString or the general date-time text.
+    void EnforceFormat(bool value) { m_enforceFormat = value; }
+    bool EnforceFormat() const { return m_enforceFormat; }
+    void FormatString(std::string value) { m_formatString = std::move(value); }
+    std::string FormatString() const { return m_formatString.value_or(kDefaultFormat); }
+
+    float CalculateHoursWorked(); // from the minute boundaries crossed; marks nothing
+
+    // The statement that stores the record, by its state; empty when there is nothing to store. See CTimeRecSQLConverter.
+    std::string ToSQL() const;
+
+    // One line without a line end: start, tab, end, tab, hours less `breakHours` with two decimals. With 806 what could be built.
+    std::string ToString(float breakHours);
+    std::string ToStringReport(); // the same without the hours
+
+    TimeRecordRow Row() const { return {m_timeRecordID, m_employeeID, m_startTime, m_endTime, ObjectState()}; }
+
+private:
+    void SetTime(DateTime& time, DateTime value);
+    std::string TimeText(DateTime time) const;
+    void AppendTimes(std::string& text) const;
+
+    static constexpr const char* kDefaultFormat = "mm/dd/yyyy hh:mm AM/PM";
+
+    std::weak_ptr<CTimeRecordFactory> m_factory;
+    std::optional<std::string> m_formatString; // none = the default, which would cost every record an allocation
+    DateTime m_startTime;
+    DateTime m_endTime;
+    std::int32_t m_timeRecordID = -1;
+    std::int32_t m_employeeID = 0;
+    float m_hoursWorked = 0;
+    bool m_enforceFormat = true;
+};
+
+} // namespace ptk

@@ -1,0 +1,60 @@
+// Loads the time records of one employee and period into the one current list of the program, and writes changed records back.
+#pragma once
+
+#include "platform/DateTime.h"
+
+#include <cstdint>
+#include <memory>
+
+namespace ptk {
+
+class CJetDB;
+class CTimeRecord;
+class CTimeRecordList;
+class RecordSet;
+
+namespace recordfactory {
+inline constexpr std::int32_t BuildFailed = 301; // also: no records in the period
+inline constexpr std::int32_t DestroyFailed = 302;
+inline constexpr std::int32_t InsertFailed = 312;
+inline constexpr std::int32_t SortFailed = 314;
+inline constexpr std::int32_t SaveListFailed = 321;
+inline constexpr std::int32_t SaveFailed = 803; // the database refused a statement
+} // namespace recordfactory
+
+// The program has exactly one, which all time cards share. No member raises.
+class CTimeRecordFactory
+{
+public:
+    void PTKDatabase(std::shared_ptr<CJetDB> value);                           // nullptr is ignored
+    std::shared_ptr<CTimeRecordList> TimeRecordList() const { return m_list; } // nullptr until the first BuildList
+    std::int32_t ErrorNumber() const { return m_errorNumber; }
+    bool ResetError(); // always true
+
+    // Replaces the contents of the current list, the same list object. Bounds as CTimeRecSQLConverter::BuildFetchSQL takes them. False with
+    // 301 for a period without records or a failure, the list then holding what was read; a database that cannot be opened gives true and
+    // an empty list, deliberately. The database is closed afterwards.
+    bool BuildList(std::int32_t theemployeeid, DateTime thestarttime, DateTime theendtime);
+    bool DestroyList(); // empties and drops the current list; false with 302
+
+    // Writes one record by its state, which stays as it is: saving a new record twice stores it twice, deliberately. A refused statement
+    // answers true and leaves 803; an error number of before is not cleared.
+    bool Save(const std::shared_ptr<CTimeRecord>& thetimerecord);
+    bool SaveList(); // all that need it; 803 when one was refused, false only with 321
+
+    std::shared_ptr<CTimeRecordList> CloneTimeRecordList();                                      // always nullptr
+    std::shared_ptr<CTimeRecord> GetTimeRecordByKey(DateTime thestarttime, DateTime theendtime); // nullptr, with 0 when there is none
+    bool SortTimeRecordList();                                                                   // false with 314
+
+private:
+    void RenewList();
+    void Load(std::int32_t theemployeeid, DateTime thestarttime, DateTime theendtime);
+    void InsertRows(RecordSet& rows);
+    bool Fail(std::int32_t errorNumber); // always false
+
+    std::shared_ptr<CJetDB> m_database;
+    std::shared_ptr<CTimeRecordList> m_list;
+    std::int32_t m_errorNumber = 0;
+};
+
+} // namespace ptk

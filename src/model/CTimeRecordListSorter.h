@@ -1,0 +1,47 @@
+// Orders a time record list by time and finds records in it by their times.
+#pragma once
+
+#include "platform/DateTime.h"
+
+#include <cstdint>
+#include <memory>
+
+namespace ptk {
+
+class CTimeRecord;
+class CTimeRecordList;
+
+namespace recordsorter {
+inline constexpr std::int32_t SortFailed = 314;
+inline constexpr std::int32_t FindFailed = 341; // also: there is no list
+} // namespace recordsorter
+
+// The first match wins; not found is nullptr or -1 without a number.
+class CTimeRecordListSorter
+{
+public:
+    CTimeRecordListSorter() = default;
+    explicit CTimeRecordListSorter(std::shared_ptr<CTimeRecordList> list);
+
+    std::int32_t ErrorNumber() const { return m_errorNumber; }
+    void TimeRecordList(std::shared_ptr<CTimeRecordList> value);
+    std::shared_ptr<CTimeRecordList> TimeRecordList() const { return m_list; }
+
+    std::int32_t Find(const std::shared_ptr<CTimeRecord>& thisobject); // the same object
+    std::shared_ptr<CTimeRecord> GetTimeRecordByKey(DateTime thestarttime, DateTime theendtime);
+    std::int32_t GetIndexByKey(DateTime theshiftdate, DateTime thestarttime, DateTime theendtime); // the shift date is not used
+
+    // Ascending by start, then end, whatever the sort order; equal records stay in place. False without a list, and with 314 for more than
+    // 32,767 records. A list that is out of order loses each record that would have to move, deliberately: see CTimeRecordList::Move.
+    bool Sort(std::int16_t sortorder);
+
+private:
+    template <typename Predicate>
+    std::int32_t FirstPosition(Predicate matches);
+    void SelectionSort();
+
+    std::shared_ptr<CTimeRecordList> m_list;
+    std::int32_t m_errorNumber = 0;
+};
+
+} // namespace ptk
