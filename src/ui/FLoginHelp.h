@@ -1,0 +1,30 @@
+// Tells a first-time user the name and password of the administrator's account.
+#pragma once
+
+#include <QDialog>
+#include <memory>
+
+namespace Ui {
+class FLoginHelp;
+}
+
+namespace ptk {
+
+class FLoginHelp final : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit FLoginHelp(QWidget* parent);
+    ~FLoginHelp() override;
+
+    bool ShowHelp() const { return m_showHelp; } // deliberately always false
+
+private:
+    void Close();
+
+    std::unique_ptr<Ui::FLoginHelp> m_ui;
+    bool m_showHelp = false;
+};
+
+} // namespace ptk

@@ -1,0 +1,24 @@
+// The system options as the options page shows and takes them.
+#pragma once
+
+#include <string>
+
+namespace ptk {
+
+class CSystemOptions;
+
+struct OptionTexts
+{
+    std::string periodLength;
+    std::string autoShiftStart;
+    std::string autoShiftEnd;
+};
+
+OptionTexts ShowOptions(const CSystemOptions& options);
+
+// Takes the texts over one by one and writes the options to the database. The first text that is none stops it with false: that option is
+// then 0 in memory, those before it keep what was typed, and nothing is written. False also when the writing fails.
+// Raises Failure 6 for a period length beyond 16 bits.
+bool StoreOptions(CSystemOptions& options, const OptionTexts& texts);
+
+} // namespace ptk
