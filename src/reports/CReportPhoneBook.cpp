@@ -17,7 +17,7 @@ std::string TwoColumns(const std::string& left, const std::string& right)
     return left + std::string(length < kLeftColumn ? kLeftColumn - length : 0, ' ') + right;
 }
 
-std::string Name(const CEmployee& employee)
+std::string LastAndFirstName(const CEmployee& employee)
 {
     return employee.FirstName().empty() ? employee.LastName() : employee.LastName() + ", " + employee.FirstName();
 }
@@ -70,7 +70,7 @@ bool CReportPhoneBook::WriteEmployees(CEmployeeList& phonebooklist)
 
 void CReportPhoneBook::WritePair(const CEmployee& left, const CEmployee* right)
 {
-    for (const auto text : {Name, Street, Town, Phone}) {
+    for (const auto& text : {LastAndFirstName, Street, Town, Phone}) {
         WriteLine(TwoColumns(text(left), right == nullptr ? "" : text(*right)));
     }
     WriteLine("\r\n"); // with its own line end two empty lines
