@@ -1,8 +1,9 @@
-// The main window's side of the reports: makes each with a viewer window of its own and keeps the last of each kind until its viewer closes.
+// The main window's side of the reports: makes each with a viewer window of its own and keeps the last of each kind until its viewer
+// closes.
 #pragma once
 
 #include "reports/Report.h"
-#include "ui/ReportViewerWindow.h"
+#include "ui/FReportViewers.h"
 
 #include <cstdint>
 #include <memory>
@@ -15,22 +16,26 @@ class CReportPhoneBook;
 class CReportReview;
 class CReportTimeCard;
 class CReportYTDTotals;
+class CTimeCard;
 class PageHost;
 
-// Reports of a kind replace each other here; a replaced one lives on with its open viewer. The destructor closes every viewer still open.
+// A new report of a kind replaces the one before here, which lives on with its open viewer. The destructor closes every viewer still open.
 class OpenReports final : public ReportOwner
 {
 public:
-    OpenReports(PageHost& host, std::string programFolder);
+    OpenReports(PageHost& host, const std::string& programFolder); // the host outlives it
     ~OpenReports() override;
+    OpenReports(const OpenReports&) = delete;
+    OpenReports& operator=(const OpenReports&) = delete;
 
+    // Raise Failure 91 before the window has its controller.
     std::shared_ptr<CReportTimeCard> NewTimeCardReport();
     std::shared_ptr<CReportReview> NewReviewReport();
     std::shared_ptr<CReportYTDTotals> NewYTDTotalsReport();
     std::shared_ptr<CReportEmployee> NewEmployeeReport();
     std::shared_ptr<CReportPhoneBook> NewPhoneBookReport();
 
-    // Writes and shows the report of a generated card. False with the report's error number, else errorNumber is left alone.
+    // Writes and shows the form of a generated card. errorNumber: the report's, 0 when nothing went wrong.
     bool PrintTimeCard(const std::shared_ptr<CTimeCard>& card, std::int32_t& errorNumber);
 
     // Each drops its reference and answers false, which nobody looks at.
@@ -40,10 +45,11 @@ public:
     bool UnloadEmployeeReport() override;
     bool UnloadPhoneBookReport() override;
 
-    void Clear(bool exceptReview); // the references only; open viewers stay
+    void Clear(bool exceptReview); // drops the references; viewers stay open
 
 private:
-    ReportContext Context();
+    template <typename AnyReport>
+    std::shared_ptr<AnyReport> Make(std::shared_ptr<AnyReport>& kept);
 
     PageHost& m_host;
     std::string m_programFolder;

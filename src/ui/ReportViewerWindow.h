@@ -1,12 +1,11 @@
-// The viewer window of the reports: the text, find, zoom, print and close. The five viewers are this one for their kind.
+// The viewer window of the reports: the text as it was written, find, zoom, print and close.
 #pragma once
 
 #include "reports/ReportViewer.h"
 
-#include <QMainWindow>
-#include <QPointer>
 #include <memory>
-#include <vector>
+#include <QMainWindow>
+#include <string>
 
 namespace Ui {
 class ReportViewerWindow;
@@ -14,13 +13,14 @@ class ReportViewerWindow;
 
 namespace ptk {
 
-// Lines are collected and set as one text when the window is shown. Closing it unloads the report, once.
+// The lines are collected and become one text when the window is shown, so that ten thousand of them open at once. Closing it unloads the
+// report.
 class ReportViewerWindow : public QMainWindow, public ReportViewer
 {
     Q_OBJECT
 
 public:
-    explicit ReportViewerWindow(const QString& objectName);
+    explicit ReportViewerWindow(const QString& name); // the object's name, under which its size is remembered
     ~ReportViewerWindow() override;
 
     void Controller(std::shared_ptr<Report> value) override { m_controller = std::move(value); }
@@ -30,36 +30,31 @@ public:
     void Hide() override;
     void Unload() override;
 
+    void LetGo();                              // what closing does: hides the window and unloads its report, once
+    bool Printed() const { return m_printed; } // hidden by printing, where nobody can close it
+
 protected:
     void closeEvent(QCloseEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override; // Ctrl+wheel over the text
 
 private:
-    void BuildActions();
+    void ConnectControls();
     void Print();
-    void Find(bool backward);
+    void Escape(); // leaves the find bar, then the window
+
     void ShowFindBar(bool shown);
-    void Zoom(int steps); // 0: back to the first size
-    void RestoreSize();
-    void PlaceBesideOthers();
-    void StoreSize() const;
+    void Find(bool backward);
+
+    void SetPointSize(double size);
+    void ShowText();
+    void ShowNotice();
+    void Place();
 
     std::unique_ptr<Ui::ReportViewerWindow> m_ui;
     std::shared_ptr<Report> m_controller;
-    std::string m_lines; // written and not yet shown
-    double m_pointSize = 0;
-    bool m_unloaded = false;
-};
-
-class QtViewerFactory final : public ReportViewerFactory
-{
-public:
-    ~QtViewerFactory() override;
-    std::shared_ptr<ReportViewer> CreateViewer(ReportKind kind) override;
-    void UnloadAll(); // every viewer still open
-
-private:
-    std::vector<std::weak_ptr<ReportViewerWindow>> m_open;
+    std::string m_lines; // written and not yet in the text box
+    double m_firstPointSize = 0;
+    bool m_printed = false;
 };
 
 } // namespace ptk

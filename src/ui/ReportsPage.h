@@ -3,8 +3,9 @@
 
 #include "reports/ReportCatalog.h"
 
-#include <QWidget>
+#include <cstdint>
 #include <memory>
+#include <QWidget>
 #include <string>
 #include <vector>
 
@@ -15,6 +16,7 @@ class ReportsPage;
 namespace ptk {
 
 class PageHost;
+class Report;
 class Value;
 
 class ReportsPage final : public QWidget
@@ -25,23 +27,29 @@ public:
     explicit ReportsPage(PageHost& host, QWidget* parent = nullptr);
     ~ReportsPage() override;
 
-    bool FillReportList();
+    bool FillReportList(); // always true; selects none
     bool SelectFirstReport();
     void EnableGenerate();
 
 private:
+    void ConnectControls();
+
     void SelectReport();
+    void OfferDates(ReportDates dates);
     void ChangeFromDate();
     void ShowStatus();
-    void SetPeriod(const ReportPeriod& period);
 
     void Generate();
-    void GenerateEach(ReportKind kind);
+    void GenerateKind(ReportKind kind);
     void GenerateReview();
-    void GenerateEmployees();
-    void GeneratePhoneBook();
+    template <typename MakeReport>
+    void GenerateEach(MakeReport makeReport);
 
-    std::vector<std::string> Lines(bool selectedOnly) const;
+    std::vector<std::string> SelectedNames() const;
+    std::vector<std::string> AllNames() const;
+    std::shared_ptr<CEmployeeList> Employees() const;         // the application's
+    std::shared_ptr<CEmployeeList> SelectedEmployees() const; // in the list box's order
+    std::int16_t PeriodLength() const;
     Value FromDate() const;
     Value ToDate() const;
     void ShowFailure(std::int32_t errorNumber, const std::string& reportName);
