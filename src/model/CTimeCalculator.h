@@ -29,7 +29,7 @@ public:
     float CalculatePay(float theregularrate, float theovertimerate);
 
 private:
-    std::int32_t SumDay(const CTimeRecordList& records, std::int32_t first, float& hours) const;
+    static std::int32_t SumDay(const CTimeRecordList& records, std::int32_t first, float& hours);
     void Deduct(const CEmployee& theemployee, float& hours);
     void AddDay(float hours);
 

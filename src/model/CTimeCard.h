@@ -33,7 +33,7 @@ inline constexpr std::int32_t TextFailed = 710;
 class CTimeCard : public Entity
 {
 public:
-    explicit CTimeCard(std::shared_ptr<CTimeRecordFactory> factory);
+    explicit CTimeCard(std::shared_ptr<CTimeRecordFactory> factory); // REQUIRES: not nullptr
 
     void Employee(std::shared_ptr<CEmployee> value) { Set(m_employee, std::move(value)); }
     std::shared_ptr<CEmployee> Employee() const { return m_employee; }
@@ -71,14 +71,11 @@ public:
 private:
     bool Generate(const std::shared_ptr<CEmployee>& theemployee, DateTime thestartdate, DateTime theenddate);
     bool Calculate();
-    bool CloseFirstOpen(const CTimeRecordList& list, DateTime theendtime);
+    bool CloseFirstOpen(CTimeRecordList& list, DateTime theendtime);
     void AppendSummary(std::string& text) const;
     void AppendRecords(std::string& text);
     float BreakAllowance() const;
     bool Fail(std::int32_t errorNumber); // always false
-
-    template <typename Steps>
-    std::string Text(Steps steps);
 
     std::shared_ptr<CEmployee> m_employee;
     CDateRange m_range;

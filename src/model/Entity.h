@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <string>
 #include <utility>
 
 namespace ptk {
@@ -70,6 +71,19 @@ protected:
     }
 
     void ErrorNumber(std::int32_t value) { m_errorNumber = value; }
+
+    // The text that `append` writes; with `failedNumber` what was there when it failed.
+    template <typename Steps>
+    std::string BuildText(std::int32_t failedNumber, Steps append)
+    {
+        std::string text;
+        try {
+            append(text);
+        } catch (...) {
+            m_errorNumber = failedNumber;
+        }
+        return text;
+    }
 
     static constexpr std::int32_t kNotStored = -1;
 

@@ -1,0 +1,37 @@
+#include "model/CEmployeeList.h"
+
+#include "store/CJetDB.h"
+
+namespace ptk {
+
+std::shared_ptr<CEmployee> CEmployeeList::GetEmployeeByID(std::int32_t theid)
+{
+    return First([&](const CEmployee& employee) { return employee.EmployeeID() == theid; });
+}
+
+std::shared_ptr<CEmployee> CEmployeeList::GetEmployeeByName(std::string_view thename)
+{
+    return First([&](const CEmployee& employee) { return employee.HasDisplayName(thename); });
+}
+
+std::shared_ptr<CEmployee> CEmployeeList::GetEmployeeBySSN(std::string_view thessn)
+{
+    return First([&](const CEmployee& employee) { return employee.SSN() == thessn; });
+}
+
+std::shared_ptr<CEmployee> CEmployeeList::GetEmployeeByNumber(std::int32_t thenumber)
+{
+    return First([&](const CEmployee& employee) { return employee.EmployeeNumber() == thenumber; });
+}
+
+bool CEmployeeList::InsertLoaded(EmployeeRow row, std::int32_t position)
+{
+    return Insert(std::make_shared<CEmployee>(std::move(row)), position) != nullptr;
+}
+
+bool CEmployeeList::FillFrom(CJetDB& thedatabase)
+{
+    return thedatabase.LoadEmployeeList(*this);
+}
+
+} // namespace ptk

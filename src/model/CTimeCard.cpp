@@ -1,0 +1,203 @@
+#include "model/CTimeCard.h"
+
+#include "model/CEmployee.h"
+#include "model/CTimeCalculator.h"
+#include "model/CTimeRecordFactory.h"
+#include "model/CTimeRecordList.h"
+#include "platform/Failure.h"
+#include "platform/Text.h"
+#include "platform/Value.h"
+
+namespace ptk {
+
+CTimeCard::CTimeCard(std::shared_ptr<CTimeRecordFactory> factory) : m_factory(std::move(factory)) {}
+
+void CTimeCard::StartDate(DateTime value)
+{
+    m_range.StartDate(value);
+    MarkChanged();
+}
+
+void CTimeCard::EndDate(DateTime value)
+{
+    m_range.EndDate(value);
+    MarkChanged();
+}
+
+std::shared_ptr<CTimeRecordList> CTimeCard::TimeRecordList() const
+{
+    return m_factory->TimeRecordList();
+}
+
+float CTimeCard::RegularPay() const
+{
+    return m_employee == nullptr ? 0 : m_employee->PayRate();
+}
+
+float CTimeCard::OvertimePay() const
+{
+    return m_employee == nullptr ? 0 : m_employee->OvertimePayRate();
+}
+
+bool CTimeCard::GenerateTimecard(const std::shared_ptr<CEmployee>& theemployee, DateTime thestartdate, DateTime theenddate)
+{
+    ErrorNumber(0);
+    try {
+        return Generate(theemployee, thestartdate, theenddate);
+    } catch (...) {
+        return Fail(timecard::GenerateFailed);
+    }
+}
+
+bool CTimeCard::Generate(const std::shared_ptr<CEmployee>& theemployee, DateTime thestartdate, DateTime theenddate)
+{
+    if (!m_range.ValidateRange(thestartdate, theenddate)) {
+        return Fail(timecard::InvalidRange);
+    }
+    if (theemployee == nullptr) {
+        return Fail(timecard::NoEmployee);
+    }
+    m_employee = theemployee;
+    if (m_database == nullptr) {
+        return Fail(timecard::NoDatabase);
+    }
+    if (!m_factory->BuildList(theemployee->EmployeeID(), m_range.StartDate(), m_range.EndDate()) || TimeRecordList()->Count() == 0) {
+        return Fail(timecard::NoRecords);
+    }
+    return Calculate();
+}
+
+bool CTimeCard::Calculate()
+{
+    CTimeCalculator calculator;
+    if (!calculator.CalculateTimes(*m_employee, *TimeRecordList())) {
+        m_regularHours = m_overtimeHours = 0;
+        return Fail(calculator.ErrorNumber());
+    }
+    m_regularHours = calculator.RegularHours();
+    m_overtimeHours = calculator.OvertimeHours();
+    m_totalBreakTime = calculator.TotalBreakTime();
+    m_totalPay = calculator.CalculatePay(m_employee->PayRate(), m_employee->OvertimePayRate());
+    return true;
+}
+
+bool CTimeCard::CloseTimeRecord(const std::shared_ptr<CEmployee>& theemployee, DateTime theshiftdate, DateTime theendtime)
+{
+    ErrorNumber(0);
+    // Both bounds on the shift date: of the records from there on, an open one's end lies before every bound.
+    if (theemployee == nullptr || !m_factory->BuildList(theemployee->EmployeeID(), theshiftdate, theshiftdate)) {
+        return Fail(timecard::FetchFailed);
+    }
+    try {
+        return CloseFirstOpen(*TimeRecordList(), theendtime);
+    } catch (...) {
+        return Fail(timecard::FetchFailed);
+    }
+}
+
+bool CTimeCard::CloseFirstOpen(CTimeRecordList& list, DateTime theendtime)
+{
+    const std::int16_t count = NarrowToInt16(list.Count());
+    for (std::int32_t i = 1; i <= count; ++i) {
+        CTimeRecord& record = list.RecordAt(i);
+        if (!record.EndTime().IsZero()) {
+            continue;
+        }
+        record.EndTime(theendtime);
+        if (m_factory->Save(list.Item(i))) {
+            return true;
+        }
+    }
+    return false;
+}
+
+std::shared_ptr<CTimeRecord> CTimeCard::GetTimeRecordByKey(DateTime thestarttime, DateTime theendtime)
+{
+    auto record = m_factory->GetTimeRecordByKey(thestarttime, theendtime);
+    if (record == nullptr) {
+        ErrorNumber(timecard::NoSuchRecord);
+    }
+    return record;
+}
+
+bool CTimeCard::Save()
+{
+    ErrorNumber(0);
+    ObjectState(state::Unchanged);
+    return m_factory->SaveList() || Fail(m_factory->ErrorNumber());
+}
+
+bool CTimeCard::SaveTimeRecord(const std::shared_ptr<CTimeRecord>& thetimerecord)
+{
+    ErrorNumber(0);
+    return m_factory->Save(thetimerecord) || Fail(m_factory->ErrorNumber());
+}
+
+std::string CTimeCard::ToString()
+{
+    return BuildText(timecard::TextFailed, [this](std::string& text) {
+        text += "\r\n";
+        AppendSummary(text);
+    });
+}
+
+std::string CTimeCard::ToStringReport()
+{
+    return BuildText(timecard::TextFailed, [this](std::string& text) {
+        if (m_employee != nullptr) {
+            text += m_employee->ToStringTimeCard() + "\r\n";
+        }
+        text += "\tStart Time\t\tEnd Time\t\tHours\r\n\r\n";
+        AppendRecords(text);
+        text += "\r\n";
+        AppendSummary(text);
+    });
+}
+
+std::string CTimeCard::ToStringReview()
+{
+    return BuildText(timecard::TextFailed, [this](std::string& text) { AppendSummary(text); });
+}
+
+void CTimeCard::AppendRecords(std::string& text)
+{
+    const auto list = TimeRecordList();
+    if (list == nullptr || list->Count() == 0) {
+        ErrorNumber(timecard::NoRecords);
+        return;
+    }
+    const float allowance = BreakAllowance();
+    for (std::int32_t i = 1; i <= list->Count(); ++i) {
+        text += "\t" + list->RecordAt(i).ToString(allowance) + "\r\n";
+    }
+}
+
+// Taken off every line, deliberately: whether or not the employee has automatic deduction, and however many records share a day.
+float CTimeCard::BreakAllowance() const
+{
+    if (m_employee == nullptr) {
+        throw Failure(failure::ObjectNotSet);
+    }
+    constexpr double kMinutesPerHour = 60.0;
+    return static_cast<float>(m_employee->AutoDeductLunchLength() / kMinutesPerHour +
+                              m_employee->AutoDeductBreakLength() / kMinutesPerHour);
+}
+
+// Three tabs after the short labels and two after the long ones bring the values to one tab stop.
+void CTimeCard::AppendSummary(std::string& text) const
+{
+    text += "\tRegular: \t\t\t" + TwoDecimals(m_regularHours) + "\r\n";
+    text += "\tRegular Pay Rate: \t\t" + TwoDecimals(RegularPay()) + "\r\n";
+    text += "\tOvertime: \t\t\t" + TwoDecimals(m_overtimeHours) + "\r\n";
+    text += "\tOvertime Pay Rate: \t\t" + TwoDecimals(OvertimePay()) + "\r\n";
+    text += "\tTotal Break Time: \t\t" + TwoDecimals(m_totalBreakTime) + "\r\n";
+    text += "\tGross Pay: \t\t\t" + TwoDecimals(m_totalPay) + "\r\n";
+}
+
+bool CTimeCard::Fail(std::int32_t errorNumber)
+{
+    ErrorNumber(errorNumber);
+    return false;
+}
+
+} // namespace ptk

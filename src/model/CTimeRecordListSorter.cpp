@@ -1,0 +1,115 @@
+#include "model/CTimeRecordListSorter.h"
+
+#include "model/CTimeRecordList.h"
+#include "platform/Failure.h"
+#include "platform/Value.h"
+
+#include <tuple>
+
+namespace ptk {
+
+namespace {
+
+constexpr std::int32_t kNotFound = -1;
+
+bool Earlier(const CTimeRecord& a, const CTimeRecord& b)
+{
+    return std::tuple(a.StartTime(), a.EndTime()) < std::tuple(b.StartTime(), b.EndTime());
+}
+
+bool InOrder(const CTimeRecordList& list)
+{
+    for (std::int32_t i = 2; i <= list.Count(); ++i) {
+        if (Earlier(list.RecordAt(i), list.RecordAt(i - 1))) {
+            return false;
+        }
+    }
+    return true;
+}
+
+// Of equal records the one at the lower position.
+std::int32_t EarliestFrom(const CTimeRecordList& list, std::int32_t first)
+{
+    std::int32_t earliest = first;
+    for (std::int32_t i = first + 1; i <= list.Count(); ++i) {
+        if (Earlier(list.RecordAt(i), list.RecordAt(earliest))) {
+            earliest = i;
+        }
+    }
+    return earliest;
+}
+
+} // namespace
+
+CTimeRecordListSorter::CTimeRecordListSorter(std::shared_ptr<CTimeRecordList> list) : m_list(std::move(list)) {}
+
+void CTimeRecordListSorter::TimeRecordList(std::shared_ptr<CTimeRecordList> value)
+{
+    m_list = std::move(value);
+}
+
+template <typename Predicate>
+std::int32_t CTimeRecordListSorter::FirstPosition(Predicate matches)
+{
+    m_errorNumber = 0;
+    try {
+        if (m_list == nullptr) {
+            throw Failure(failure::ObjectNotSet);
+        }
+        for (std::int32_t i = 1; i <= m_list->Count(); ++i) {
+            if (matches(m_list->RecordAt(i))) {
+                return i;
+            }
+        }
+    } catch (...) {
+        m_errorNumber = recordsorter::FindFailed;
+    }
+    return kNotFound;
+}
+
+std::int32_t CTimeRecordListSorter::Find(const std::shared_ptr<CTimeRecord>& thisobject)
+{
+    return FirstPosition([&](const CTimeRecord& record) { return &record == thisobject.get(); });
+}
+
+std::shared_ptr<CTimeRecord> CTimeRecordListSorter::GetTimeRecordByKey(DateTime thestarttime, DateTime theendtime)
+{
+    const std::int32_t position = GetIndexByKey(DateTime(), thestarttime, theendtime);
+    return position == kNotFound ? nullptr : m_list->Item(position);
+}
+
+std::int32_t CTimeRecordListSorter::GetIndexByKey(DateTime /*theshiftdate*/, DateTime thestarttime, DateTime theendtime)
+{
+    return FirstPosition([&](const CTimeRecord& record) { return record.StartTime() == thestarttime && record.EndTime() == theendtime; });
+}
+
+bool CTimeRecordListSorter::Sort(std::int16_t /*sortorder*/)
+{
+    m_errorNumber = 0;
+    if (m_list == nullptr) {
+        return false;
+    }
+    try {
+        NarrowToInt16(m_list->Count()); // positions are 16-bit numbers here
+        if (!InOrder(*m_list)) {
+            SelectionSort();
+        }
+        return true;
+    } catch (...) {
+        m_errorNumber = recordsorter::SortFailed;
+        return false;
+    }
+}
+
+// Every Move shortens the list by the record it should have moved; the walk goes on at the next position all the same.
+void CTimeRecordListSorter::SelectionSort()
+{
+    for (std::int32_t i = 1; i <= m_list->Count(); ++i) {
+        const std::int32_t earliest = EarliestFrom(*m_list, i);
+        if (earliest != i) {
+            m_list->Move(earliest, i);
+        }
+    }
+}
+
+} // namespace ptk
