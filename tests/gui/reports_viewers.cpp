@@ -1,0 +1,191 @@
+// The viewer windows of the reports, driven as a user drives them.
+#include "reports/ReportFixture.h"
+#include "ui/FReportViewers.h"
+
+#include <QtTest>
+#include <QtWidgets>
+
+namespace ptk {
+namespace {
+
+class ReportViewersTest : public ReportTest
+{
+protected:
+    void TearDown() override
+    {
+        windows.CloseAll();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    template <typename AnyReport>
+    std::shared_ptr<AnyReport> NewShown()
+    {
+        auto report = std::make_shared<AnyReport>(ReportContext{folder.Path(), desktop, clock, windows, factory, &window});
+        report->ParentWindow(&owner);
+        return report;
+    }
+
+    // The records report of Ann and Zorn in its window.
+    ReportViewerWindow& OpenRecords()
+    {
+        report = NewShown<CReportEmployee>();
+        EXPECT_TRUE(report->GenerateReport(ListOf({ann, zorn})));
+        return Window("FReportEmployee");
+    }
+
+    static std::vector<ReportViewerWindow*> Windows()
+    {
+        std::vector<ReportViewerWindow*> shown;
+        for (QWidget* widget : QApplication::topLevelWidgets()) {
+            if (auto* viewer = qobject_cast<ReportViewerWindow*>(widget); viewer != nullptr && viewer->isVisible())
+                shown.push_back(viewer);
+        }
+        return shown;
+    }
+
+    static ReportViewerWindow& Window(const QString& name)
+    {
+        for (ReportViewerWindow* viewer : Windows()) {
+            if (viewer->objectName() == name)
+                return *viewer;
+        }
+        throw std::runtime_error("no such window: " + name.toStdString());
+    }
+
+    static QPlainTextEdit& Text(const QWidget& viewer) { return *viewer.findChild<QPlainTextEdit*>("txtReport"); }
+    static void Click(const QWidget& viewer, const char* button)
+    {
+        QTest::mouseClick(viewer.findChild<QPushButton*>(button), Qt::LeftButton);
+    }
+
+    QtViewerFactory windows;
+    std::shared_ptr<CReportEmployee> report;
+};
+
+TEST_F(ReportViewersTest, ShowsTheReportFromItsTop)
+{
+    ReportViewerWindow& viewer = OpenRecords();
+    QPlainTextEdit& text = Text(viewer);
+    EXPECT_EQ(viewer.windowTitle(), "Employee Records");
+    EXPECT_EQ(text.toPlainText(), QString::fromStdString(Golden("employee_records.txt")).replace("\r\n", "\n"));
+    EXPECT_TRUE(text.isReadOnly());
+    EXPECT_TRUE(QFontInfo(text.font()).fixedPitch());
+    EXPECT_EQ(text.lineWrapMode(), QPlainTextEdit::NoWrap);
+    EXPECT_DOUBLE_EQ(text.tabStopDistance(), 8 * QFontMetricsF(text.font()).horizontalAdvance(' '));
+    EXPECT_EQ(text.verticalScrollBar()->value(), 0);
+    EXPECT_EQ(text.textCursor().position(), 0);
+    EXPECT_EQ(viewer.findChild<QLabel*>("lblNotice")->text(), "");
+    QTest::keyClicks(&text, "x");
+    text.selectAll();
+    QTest::keyClick(&text, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_TRUE(QApplication::clipboard()->text().startsWith("Employee Records"));
+}
+
+TEST_F(ReportViewersTest, ClosingUnloadsTheReportOnce)
+{
+    for (const bool byKey : {false, true}) {
+        QPointer<ReportViewerWindow> viewer = &OpenRecords();
+        const std::weak_ptr<Report> watch = std::exchange(report, nullptr);
+        EXPECT_FALSE(watch.expired()) << "the open viewer holds it";
+        owner.calls.clear();
+        if (byKey)
+            QTest::keyClick(viewer, Qt::Key_Escape);
+        else
+            Click(*viewer, "cmdClose");
+        EXPECT_EQ(owner.calls, std::vector<std::string>{"employees"});
+        EXPECT_TRUE(watch.expired());
+        EXPECT_TRUE(Windows().empty());
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        EXPECT_TRUE(viewer.isNull());
+    }
+}
+
+TEST_F(ReportViewersTest, PrintingHidesTheViewerOnlyWhenItSucceeds)
+{
+    ReportViewerWindow& viewer = OpenRecords();
+    desktop.shellCodes = {31, 2, 42};
+    Click(viewer, "cmdPrint");
+    EXPECT_TRUE(viewer.isVisible());
+    EXPECT_TRUE(desktop.boxes.empty());
+    Click(viewer, "cmdPrint");
+    EXPECT_TRUE(viewer.isVisible());
+    ASSERT_EQ(desktop.boxes.size(), 1U);
+    EXPECT_EQ(desktop.boxes[0].title, "User's Guide Open Error");
+    QTest::keyClick(&viewer, Qt::Key_P, Qt::ControlModifier);
+    EXPECT_FALSE(viewer.isVisible());
+    EXPECT_EQ(desktop.requests.size(), 3U);
+    EXPECT_TRUE(owner.calls.empty()) << "still loaded";
+    windows.ClosePrinted();
+    EXPECT_EQ(owner.calls, std::vector<std::string>{"employees"});
+}
+
+TEST_F(ReportViewersTest, FindsText)
+{
+    ReportViewerWindow& viewer = OpenRecords();
+    auto& find = *viewer.findChild<QLineEdit*>("txtFind");
+    EXPECT_FALSE(find.isVisible());
+    QTest::keyClick(&Text(viewer), Qt::Key_F, Qt::ControlModifier);
+    ASSERT_TRUE(find.isVisible());
+    QTest::keyClicks(&find, "zorn");
+    QTest::keyClick(&find, Qt::Key_Return);
+    EXPECT_EQ(Text(viewer).textCursor().selectedText(), "Zorn");
+    QTest::keyClicks(&find, "?");
+    QTest::keyClick(&find, Qt::Key_Return);
+    EXPECT_EQ(viewer.findChild<QLabel*>("lblFound")->text(), "Not found");
+
+    find.setText("555-0101");
+    QTest::keyClick(&find, Qt::Key_Return);
+    EXPECT_EQ(Text(viewer).textCursor().selectedText(), "555-0101") << "from the top again";
+    Click(viewer, "cmdFindPrevious");
+    EXPECT_EQ(viewer.findChild<QLabel*>("lblFound")->text(), "");
+
+    QTest::keyClick(&viewer, Qt::Key_Escape);
+    EXPECT_FALSE(find.isVisible());
+    EXPECT_TRUE(viewer.isVisible()) << "the first Escape leaves the find bar only";
+}
+
+TEST_F(ReportViewersTest, ZoomsWithItsTabStops)
+{
+    ReportViewerWindow& viewer = OpenRecords();
+    QPlainTextEdit& text = Text(viewer);
+    const double first = text.font().pointSizeF();
+    QTest::keyClick(&viewer, Qt::Key_Equal, Qt::ControlModifier);
+    EXPECT_EQ(text.font().pointSizeF(), first + 1);
+    const QPointF middle(20, 20);
+    QWheelEvent wheel(middle, text.viewport()->mapToGlobal(middle), {}, QPoint(0, 240), Qt::NoButton, Qt::ControlModifier,
+                      Qt::NoScrollPhase, false);
+    QApplication::sendEvent(text.viewport(), &wheel);
+    EXPECT_EQ(text.font().pointSizeF(), first + 3);
+    EXPECT_DOUBLE_EQ(text.tabStopDistance(), 8 * QFontMetricsF(text.font()).horizontalAdvance(' '));
+    QTest::keyClick(&viewer, Qt::Key_Minus, Qt::ControlModifier);
+    EXPECT_EQ(text.font().pointSizeF(), first + 2);
+    QTest::keyClick(&viewer, Qt::Key_0, Qt::ControlModifier);
+    EXPECT_EQ(text.font().pointSizeF(), first);
+}
+
+TEST_F(ReportViewersTest, NoneStandsExactlyOnAnother)
+{
+    AddShifts();
+    for (int i = 0; i < 3; ++i)
+        EXPECT_TRUE(NewShown<CReportTimeCard>()->GenerateReport(database, ann, first, last));
+    EXPECT_TRUE(NewShown<CReportReview>()->GenerateReport(database, ListOf({ann}), first, last));
+    EXPECT_TRUE(NewShown<CReportYTDTotals>()->GenerateReport(database, ann, first, last));
+    EXPECT_TRUE(NewShown<CReportPhoneBook>()->GenerateReport(ListOf({ann})));
+    const auto shown = Windows();
+    EXPECT_EQ(shown.size(), 6U);
+    for (const auto* one : shown) {
+        EXPECT_TRUE(one->screen()->availableGeometry().contains(one->pos()));
+        for (const auto* other : shown)
+            EXPECT_TRUE(one == other || one->pos() != other->pos());
+    }
+}
+
+TEST_F(ReportViewersTest, SaysWhenTheFileIsNotWhole)
+{
+    std::filesystem::create_symlink("/dev/full", File("employee_records.txt"));
+    ReportViewerWindow& viewer = OpenRecords();
+    EXPECT_EQ(viewer.findChild<QLabel*>("lblNotice")->text(), "This report is not complete: error 702.");
+}
+
+} // namespace
+} // namespace ptk

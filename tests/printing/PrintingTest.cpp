@@ -1,0 +1,155 @@
+// Reports really printed: through the system's own print command, a scheduler started for the test, and a printer that makes PDF files.
+#include "platform/SystemShell.h"
+#include "reports/ReportFixture.h"
+
+#include <pwd.h>
+#include <signal.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <set>
+#include <sstream>
+#include <thread>
+
+namespace ptk {
+namespace {
+
+using namespace std::chrono_literals;
+
+class PrintingDesktop final : public RecordingDesktop
+{
+public:
+    std::int32_t Shell(const DesktopWindow&, ShellVerb verb, const std::string& path) override { return SystemShell(verb, path); }
+};
+
+class PrintScheduler
+{
+public:
+    PrintScheduler()
+    {
+        running = std::system((PTK_SOURCE_DIR "/tests/printing/start_cups.sh " + folder.Path()).c_str()) == 0;
+        setenv("CUPS_SERVER", (folder.Path() + "/cups.sock").c_str(), 1);
+    }
+    ~PrintScheduler()
+    {
+        unsetenv("CUPS_SERVER");
+        pid_t pid = 0;
+        if (std::ifstream(folder.Path() + "/pid") >> pid && pid > 1)
+            kill(pid, SIGTERM);
+    }
+    PrintScheduler(const PrintScheduler&) = delete;
+    PrintScheduler& operator=(const PrintScheduler&) = delete;
+
+    bool running = false;
+
+private:
+    TemporaryFolder folder;
+};
+
+std::string OutputOf(const std::string& command)
+{
+    std::string output;
+    FILE* pipe = popen(command.c_str(), "r");
+    for (int c = std::fgetc(pipe); c != EOF; c = std::fgetc(pipe))
+        output += static_cast<char>(c);
+    EXPECT_EQ(pclose(pipe), 0) << command;
+    return output;
+}
+
+// The lines that are not empty, with tabs at every 8th column, as a reader of the paper sees them.
+std::vector<std::string> SeenLines(const std::string& text)
+{
+    std::vector<std::string> lines;
+    std::istringstream in(text);
+    for (std::string raw; std::getline(in, raw);) {
+        std::string line;
+        for (const char c : raw) {
+            if (c == '\t')
+                line.append(8 - line.size() % 8, ' ');
+            else if (c != '\r' && c != '\f')
+                line += c;
+        }
+        line.erase(line.find_last_not_of(' ') + 1);
+        if (!line.empty())
+            lines.push_back(line);
+    }
+    return lines;
+}
+
+class PrintingTest : public ReportTest
+{
+protected:
+    template <typename AnyReport>
+    std::shared_ptr<AnyReport> NewPrintable()
+    {
+        return std::make_shared<AnyReport>(ReportContext{folder.Path(), printer, clock, viewers, factory, &window});
+    }
+
+    static std::set<std::filesystem::path> Printouts()
+    {
+        const std::filesystem::path printouts = std::filesystem::path(getpwuid(getuid())->pw_dir) / "PDF";
+        std::set<std::filesystem::path> files;
+        if (std::filesystem::is_directory(printouts))
+            files.insert(std::filesystem::directory_iterator(printouts), {});
+        return files;
+    }
+
+    // What came out of the printer, as text; the file is removed.
+    std::string PrintedText(Report& report)
+    {
+        const auto before = Printouts();
+        EXPECT_TRUE(report.PrintReport());
+        for (int tries = 0; tries < 300; ++tries, std::this_thread::sleep_for(100ms)) {
+            for (const auto& file : Printouts()) {
+                if (before.count(file) != 0 || file.extension() != ".pdf")
+                    continue;
+                std::this_thread::sleep_for(300ms); // the printer may still be writing it
+                const std::string text = OutputOf("pdftotext -layout '" + file.string() + "' -");
+                std::filesystem::remove(file);
+                return text;
+            }
+        }
+        ADD_FAILURE() << "nothing was printed";
+        return "";
+    }
+
+    PrintingDesktop printer;
+};
+
+TEST_F(PrintingTest, APrintedReportHoldsItsLinesUncutAndAligned)
+{
+    if (geteuid() != 0)
+        GTEST_SKIP() << "the PDF printer's backend runs as root only";
+    const PrintScheduler scheduler;
+    ASSERT_TRUE(scheduler.running);
+
+    AddShifts();
+    ann->EmployeeNumber(getpid()); // the file's name must not meet a printout of someone else
+    const auto card = NewPrintable<CReportTimeCard>();
+    ASSERT_TRUE(card->GenerateReport(database, ann, first, last));
+    EXPECT_EQ(SeenLines(PrintedText(*card)), SeenLines(Golden("time_card.txt")));
+
+    ann->Address1(std::string(31, 'W') + "!"); // a right column that reaches character 72
+    zorn->Address1(std::string(50, 'M') + "!");
+    const auto book = NewPrintable<CReportPhoneBook>();
+    ASSERT_TRUE(book->GenerateReport(ListOf({jose, ann, ann, zorn})));
+    EXPECT_EQ(SeenLines(PrintedText(*book)), SeenLines(viewers.made.back()->text));
+    EXPECT_TRUE(printer.boxes.empty());
+}
+
+TEST_F(PrintingTest, WithoutASchedulerItFailsSoonAndQuietly)
+{
+    setenv("CUPS_SERVER", (folder.Path() + "/nobody.sock").c_str(), 1);
+    const auto report = NewPrintable<CReportEmployee>();
+    ASSERT_TRUE(report->GenerateReport(ListOf({ann})));
+    const auto started = std::chrono::steady_clock::now();
+    EXPECT_FALSE(report->PrintReport());
+    EXPECT_LT(std::chrono::steady_clock::now() - started, 10s);
+    EXPECT_TRUE(printer.boxes.empty());
+    unsetenv("CUPS_SERVER");
+}
+
+} // namespace
+} // namespace ptk
