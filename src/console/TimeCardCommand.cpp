@@ -17,7 +17,10 @@ int TimeCardCommand(const TimeCardArguments& arguments, Console& console)
     const DateTime end = arguments.to.AddDays(1);
     if (!card.GenerateTimecard(session.Employees()->GetEmployeeByName(arguments.employee), arguments.from, end))
         throw ProgramFailure(card.ErrorNumber(), arguments.employee);
-    console.out << TerminalText(card.ToStringReport());
+    const std::string text = card.ToStringReport();
+    if (card.ErrorNumber() != 0)
+        throw ProgramFailure(card.ErrorNumber(), arguments.employee);
+    console.out << TerminalText(text);
     return status::Done;
 }
 

@@ -1,0 +1,56 @@
+// Runs ptk-console in process on a program folder of its own.
+#pragma once
+
+#include "console/Program.h"
+#include "support/FixedClock.h"
+#include "support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace ptk {
+
+inline std::string Contents(const std::filesystem::path& path)
+{
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+class ConsoleTest : public testing::Test
+{
+protected:
+    struct Answer
+    {
+        int status;
+        std::string out;
+        std::string err;
+    };
+
+    ConsoleTest()
+    {
+        std::filesystem::copy_file(std::string(PTK_SOURCE_DIR) + "/data/ptk_11.cfg", System("ptk_11.cfg"));
+    }
+
+    Answer Run(std::vector<std::string> words)
+    {
+        words.insert(words.begin(), {"--program-folder", m_folder.Path()});
+        std::ostringstream out;
+        std::ostringstream err;
+        const int status = RunConsole(words, m_clock, out, err);
+        return {status, out.str(), err.str()};
+    }
+
+    std::filesystem::path Folder() const { return m_folder.Path(); }
+    std::filesystem::path System(const std::string& name) const { return Folder() / "system" / name; }
+    std::filesystem::path Database() const { return System("ptk_11.mdb"); }
+
+    FixedClock m_clock{DateTime(CalendarDate{2026, 3, 20}, TimeOfDay{9, 30, 0})};
+    TemporaryFolder m_folder;
+};
+
+} // namespace ptk
