@@ -6,11 +6,37 @@
 
 namespace ptk {
 
-enum class Icon : std::int16_t { None = 0, Critical = 16, Question = 32, Exclamation = 48, Information = 64 };
-enum class Buttons : std::int16_t { Ok = 0, OkCancel = 1, YesNo = 4 };
-enum class Answer : std::int16_t { Ok = 1, Cancel = 2, Yes = 6, No = 7 };
-enum class Pointer : std::int16_t { Default = 0, Busy = 11 };
-enum class ShellVerb { Open, Print };
+enum class Icon : std::int16_t
+{
+    None = 0,
+    Critical = 16,
+    Question = 32,
+    Exclamation = 48,
+    Information = 64
+};
+enum class Buttons : std::int16_t
+{
+    Ok = 0,
+    OkCancel = 1,
+    YesNo = 4
+};
+enum class Answer : std::int16_t
+{
+    Ok = 1,
+    Cancel = 2,
+    Yes = 6,
+    No = 7
+};
+enum class Pointer : std::int16_t
+{
+    Default = 0,
+    Busy = 11
+};
+enum class ShellVerb
+{
+    Open,
+    Print
+};
 
 // Return codes of the shell: anything above ShellSuccess is a success.
 inline constexpr std::int32_t ShellFileNotFound = 2;
@@ -34,8 +60,9 @@ public:
     virtual Answer MessageBox(const std::string& text, const std::string& title, Icon icon, Buttons buttons) = 0;
     virtual void SetPointer(Pointer pointer) = 0;
 
-    // Hands an existing document to the desktop's opener or to the print spooler and does not wait for either. `path` is in the platform's own
-    // form. Returns more than ShellSuccess when it was taken over, ShellFileNotFound, ShellNoProgram, or another code up to ShellSuccess.
+    // Hands an existing document to the desktop's opener or to the print spooler and does not wait for either. `path` is in the platform's
+    // own form. Returns more than ShellSuccess when it was taken over, ShellFileNotFound, ShellNoProgram, or another code up to
+    // ShellSuccess.
     virtual std::int32_t Shell(const DesktopWindow& owner, ShellVerb verb, const std::string& path) = 0;
 
     Answer Show(const std::string& text, const std::string& title, Icon icon) { return MessageBox(text, title, icon, Buttons::Ok); }

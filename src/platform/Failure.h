@@ -56,8 +56,8 @@ private:
     std::int32_t m_lastSystemError = 0;
 };
 
-// What is being handled right now, for a catch (...) block: any Failure as it is, bad_alloc as 7, any other exception as 5 with its own text.
-// Outside a handler: number 0 and empty texts.
+// What is being handled right now, for a catch (...) block: any Failure as it is, bad_alloc as 7, any other exception as 5 with its own
+// text. Outside a handler: number 0 and empty texts.
 Failure CurrentFailure();
 
 } // namespace ptk

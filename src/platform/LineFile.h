@@ -1,5 +1,5 @@
-// Text files by number: the platform's delimited input and line output. Unbuffered on writing, so that each written line is on its way to the
-// disk, and its failure known, when the call returns.
+// Text files by number: the platform's delimited input and line output. Unbuffered on writing, so that each written line is on its way to
+// the disk, and its failure known, when the call returns.
 #pragma once
 
 #include <cstdint>
@@ -8,7 +8,12 @@
 
 namespace ptk::linefile {
 
-enum class Mode : std::int16_t { Read = 0, Write = 1, Append = 2 };
+enum class Mode : std::int16_t
+{
+    Read = 0,
+    Write = 1,
+    Append = 2
+};
 
 // The lowest number (1 to 511) that no file is open under; 0 when all are taken.
 std::int32_t FreeNumber();
@@ -20,8 +25,8 @@ void Close(std::int32_t number); // raises 52 when no file is open under it, 57 
 
 bool AtEnd(std::int32_t number);
 
-// The next item: up to a comma or a line end (CR LF, CR or LF), blanks before it skipped; an item in double quotes comes without them and may
-// hold commas and line ends, up to the closing quote or the end of the file. Raises 62 at the end of the file.
+// The next item: up to a comma or a line end (CR LF, CR or LF), blanks before it skipped; an item in double quotes comes without them and
+// may hold commas and line ends, up to the closing quote or the end of the file. Raises 62 at the end of the file.
 std::string ReadItem(std::int32_t number);
 
 void Write(std::int32_t number, std::string_view text); // as it stands; raises 61 (disk full), 57

@@ -19,9 +19,9 @@ std::string ShortDateText(DateTime value); // "3/5/2003"
 // minutes; anything else stands for itself. "mm/dd/yyyy hh:mm AM/PM" gives "03/05/2003 08:00 AM".
 std::string FormatDateTime(DateTime value, std::string_view pattern);
 
-// Month/day/year with "/" or "-" (years of up to two digits: 00-29 are 2000-2029, 30-99 are 1930-1999), year first, month names, times of 24
-// hours or with AM/PM, a date alone or a time alone (on the zero date), blanks around. Day and month change places where only that is a date.
-// Empty for anything else, a bare number included. GeneralText reads back to the same second over the whole range.
+// Month/day/year with "/" or "-" (years of up to two digits: 00-29 are 2000-2029, 30-99 are 1930-1999), year first, month names, times of
+// 24 hours or with AM/PM, a date alone or a time alone (on the zero date), blanks around. Day and month change places where only that is a
+// date. Empty for anything else, a bare number included. GeneralText reads back to the same second over the whole range.
 std::optional<DateTime> ParseDateTime(std::string_view text);
 DateTime ToDateTime(std::string_view text); // raises Failure 13
 

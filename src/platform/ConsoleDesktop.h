@@ -1,0 +1,24 @@
+// The desktop of a program without windows: boxes become lines on a stream.
+#pragma once
+
+#include "platform/Desktop.h"
+
+#include <iosfwd>
+
+namespace ptk {
+
+// Nobody is there to answer: a question with Yes and No is answered No, any other with OK.
+class ConsoleDesktop final : public Desktop
+{
+public:
+    explicit ConsoleDesktop(std::ostream& stream) : m_stream(stream) {} // the stream must outlive the desktop
+
+    Answer MessageBox(const std::string& text, const std::string& title, Icon icon, Buttons buttons) override;
+    void SetPointer(Pointer pointer) override;
+    std::int32_t Shell(const DesktopWindow& owner, ShellVerb verb, const std::string& path) override;
+
+private:
+    std::ostream& m_stream;
+};
+
+} // namespace ptk

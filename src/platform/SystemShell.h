@@ -1,0 +1,16 @@
+// Hands documents to the desktop's opener and to the print spooler.
+#pragma once
+
+#include "platform/Desktop.h"
+
+#include <cstdint>
+#include <string>
+
+namespace ptk {
+
+// `xdg-open` for open, which is not waited for; `lp` for print, whose refusal (no printer, no spooler) is waited for, up to five seconds.
+// Returns the shell's codes: above ShellSuccess when taken over, ShellFileNotFound for a missing file, ShellNoProgram when the program is
+// not there or refuses. The path travels as an argument, never through a command interpreter.
+std::int32_t RunSystemShell(ShellVerb verb, const std::string& path);
+
+} // namespace ptk

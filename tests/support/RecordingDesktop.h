@@ -1,0 +1,64 @@
+// A desktop that shows nothing: it keeps what would have been shown and answers as the test scripted.
+#pragma once
+
+#include "platform/Desktop.h"
+
+#include <deque>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace ptk {
+
+struct ShownBox
+{
+    std::string text;
+    std::string title;
+    Icon icon = Icon::None;
+    Buttons buttons = Buttons::Ok;
+
+    bool operator==(const ShownBox&) const = default;
+};
+
+struct ShellRequest
+{
+    ShellVerb verb = ShellVerb::Open;
+    std::string path;
+
+    bool operator==(const ShellRequest&) const = default;
+};
+
+class RecordingDesktop final : public Desktop
+{
+public:
+    std::vector<ShownBox> boxes;
+    std::vector<ShellRequest> requests;
+    std::vector<Pointer> pointers;
+    std::deque<Answer> answers;                  // for boxes that ask; none left: No
+    std::int32_t shellAnswer = ShellSuccess + 1; // what every shell request gets
+
+    Answer MessageBox(const std::string& text, const std::string& title, Icon icon, Buttons buttons) override
+    {
+        boxes.push_back({text, title, icon, buttons});
+        if (buttons == Buttons::Ok)
+            return Answer::Ok;
+        if (answers.empty())
+            return Answer::No;
+        const Answer answer = answers.front();
+        answers.pop_front();
+        return answer;
+    }
+
+    void SetPointer(Pointer pointer) override { pointers.push_back(pointer); }
+
+    std::int32_t Shell(const DesktopWindow&, ShellVerb verb, const std::string& path) override
+    {
+        requests.push_back({verb, path});
+        return shellAnswer;
+    }
+
+    // The boxes since the last call.
+    std::vector<ShownBox> Take() { return std::exchange(boxes, {}); }
+};
+
+} // namespace ptk
