@@ -1,0 +1,64 @@
+// Makes one time record for every day of a date range, all with the same times of day.
+#pragma once
+
+#include "platform/DateTime.h"
+
+#include <cstdint>
+#include <memory>
+#include <QDialog>
+
+namespace Ui {
+class FAutoFill;
+}
+
+namespace ptk {
+
+class CDateRange;
+class Clock;
+class CTimeRecordList;
+class Desktop;
+
+// Adds the records to the list it was given and stores nothing.
+class FAutoFill final : public QDialog
+{
+    Q_OBJECT
+
+public:
+    FAutoFill(ptk::Desktop& desktop, const Clock& clock, QWidget* parent = nullptr);
+    ~FAutoFill() override;
+
+    void StartDate(DateTime value);
+    DateTime StartDate() const; // raises Failure 13 when the box holds no date
+    void EndDate(DateTime value);
+    DateTime EndDate() const;
+    void AutoShiftStartTime(DateTime value) { m_autoShiftStart = value; } // only the times of day matter
+    void AutoShiftEndTime(DateTime value) { m_autoShiftEnd = value; }
+    void EmployeeID(std::int16_t value) { m_employeeID = value; }
+    void PeriodLength(std::int16_t value) { m_periodLength = value; } // days added to the first day for the last one
+    bool OKClick() const { return m_okClick; }                        // whether Save made the records
+    void TimeRecordList(std::shared_ptr<CTimeRecordList> value) { m_list = std::move(value); }
+    std::shared_ptr<CTimeRecordList> TimeRecordList() const { return m_list; }
+
+    // One record for each day from the first to the last, weekends and days with records included; a range of one day is refused,
+    // deliberately. False when none were made: with a message for a wrong range, without one for times that cannot be read.
+    bool LoadTimeRecordList();
+
+private:
+    bool ReadRange(CDateRange& range);
+    void AddRecords(const CDateRange& range);
+    void AddRecord(DateTime day);
+    bool SetPeriodEndDate();
+    void AutoShift();
+    void Save();
+
+    std::unique_ptr<Ui::FAutoFill> m_ui;
+    ptk::Desktop& m_desktop;
+    std::shared_ptr<CTimeRecordList> m_list;
+    DateTime m_autoShiftStart;
+    DateTime m_autoShiftEnd;
+    std::int16_t m_employeeID = 0;
+    std::int16_t m_periodLength = 0;
+    bool m_okClick = false;
+};
+
+} // namespace ptk
