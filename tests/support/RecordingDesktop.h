@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/Desktop.h"
+#include "platform/Failure.h"
 
 #include <deque>
 #include <string>
@@ -28,14 +29,14 @@ struct ShellRequest
     bool operator==(const ShellRequest&) const = default;
 };
 
-class RecordingDesktop final : public Desktop
+class RecordingDesktop : public Desktop
 {
 public:
     std::vector<ShownBox> boxes;
     std::vector<ShellRequest> requests;
-    std::vector<Pointer> pointers;
-    std::deque<Answer> answers;                  // for boxes that ask; none left: No
-    std::int32_t shellAnswer = ShellSuccess + 1; // what every shell request gets
+    Pointer pointer = Pointer::Default;  // the shape set last
+    std::deque<Answer> answers;          // for boxes that ask; none left: No
+    std::deque<std::int32_t> shellCodes; // for shell requests; none left: taken over
 
     Answer MessageBox(const std::string& text, const std::string& title, Icon icon, Buttons buttons) override
     {
@@ -49,12 +50,16 @@ public:
         return answer;
     }
 
-    void SetPointer(Pointer pointer) override { pointers.push_back(pointer); }
+    void SetPointer(Pointer shape) override { pointer = shape; }
 
     std::int32_t Shell(const DesktopWindow&, ShellVerb verb, const std::string& path) override
     {
         requests.push_back({verb, path});
-        return shellAnswer;
+        if (shellCodes.empty())
+            return ShellSuccess + 1;
+        const std::int32_t code = shellCodes.front();
+        shellCodes.pop_front();
+        return code;
     }
 
     // The boxes since the last call.

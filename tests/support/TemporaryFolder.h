@@ -3,8 +3,6 @@
 
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <stdexcept>
 #include <string>
 
@@ -20,7 +18,7 @@ public:
             throw std::runtime_error("no temporary folder");
         m_path = name;
         for (const char* folder : {"system", "reports", "documentation"})
-            std::filesystem::create_directory(m_path / folder);
+            std::filesystem::create_directory(m_path + "/" + folder);
     }
 
     ~TemporaryFolder()
@@ -32,29 +30,10 @@ public:
     TemporaryFolder(const TemporaryFolder&) = delete;
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
-    const std::filesystem::path& Path() const { return m_path; }
-    std::string Text() const { return m_path.string(); }
-    std::string File(const std::string& name) const { return (m_path / name).string(); }
-
-    void Write(const std::string& name, const std::string& bytes) const { std::ofstream(m_path / name, std::ios::binary) << bytes; }
-
-    std::string Read(const std::string& name) const
-    {
-        std::ifstream file(m_path / name, std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
-    }
-
-    // The shipped configuration, which names system\ptk_11.mdb of this folder.
-    void WriteConfiguration(bool showLoginHelp = true) const
-    {
-        Write("system/ptk_11.cfg", std::string("[PTK]\r\nDatabasePath=<app.path>\\system\\ptk_11.mdb\r\nShowLoginHelp=") +
-                                       (showLoginHelp ? "True" : "False") + "\r\n");
-    }
-
-    std::string DatabaseFile() const { return File("system/ptk_11.mdb"); }
+    const std::string& Path() const { return m_path; }
 
 private:
-    std::filesystem::path m_path;
+    std::string m_path;
 };
 
 } // namespace ptk

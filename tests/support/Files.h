@@ -1,0 +1,24 @@
+// Whole files as bytes; paths may keep the configuration's backslashes.
+#pragma once
+
+#include "platform/ProgramFolder.h"
+
+#include <fstream>
+#include <iterator>
+#include <string>
+
+namespace ptk {
+
+inline std::string ReadBytes(const std::string& path)
+{
+    std::ifstream file(NativePath(path), std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+inline void WriteBytes(const std::string& path, const std::string& bytes)
+{
+    std::ofstream file(NativePath(path), std::ios::binary);
+    file << bytes;
+}
+
+} // namespace ptk
