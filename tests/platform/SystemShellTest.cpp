@@ -1,0 +1,82 @@
+#include "platform/SystemShell.h"
+
+#include "platform/ProgramFolder.h"
+#include "support/Files.h"
+#include "support/TemporaryFolder.h"
+
+#include <chrono>
+#include <cstdlib>
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <thread>
+
+using namespace ptk;
+
+namespace {
+
+// Stands in for the programs of the desktop: a folder of scripts at the front of the search path.
+class SystemShellTest : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        document = folder.Path() + "/reports/a report; $(touch x).txt";
+        WriteBytes(document, "text");
+        ::setenv("PATH", (folder.Path() + "/system:/usr/bin:/bin").c_str(), 1);
+    }
+
+    void TearDown() override { ::setenv("PATH", before.c_str(), 1); }
+
+    void Script(const std::string& name, const std::string& body)
+    {
+        const std::string path = folder.Path() + "/system/" + name;
+        WriteBytes(path, "#!/bin/sh\n" + body + "\n");
+        std::filesystem::permissions(path, std::filesystem::perms::owner_all);
+    }
+
+    std::string Heard() const { return ReadBytes(folder.Path() + "/heard"); }
+
+    TemporaryFolder folder;
+    std::string document;
+    std::string before = std::getenv("PATH");
+};
+
+TEST_F(SystemShellTest, HandsTheDocumentOverAsOneArgument)
+{
+    Script("lp", "for last; do :; done; printf '%s' \"$last\" > " + folder.Path() + "/heard");
+    EXPECT_GT(RunSystemShell(ShellVerb::Print, document), ShellSuccess);
+    EXPECT_EQ(Heard(), document);
+    Script("xdg-open", "printf '%s' \"open $1\" > " + folder.Path() + "/heard");
+    EXPECT_GT(RunSystemShell(ShellVerb::Open, document), ShellSuccess);
+    for (int i = 0; i < 500 && Heard() != "open " + document; ++i)
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    EXPECT_EQ(Heard(), "open " + document);
+}
+
+TEST_F(SystemShellTest, TellsWhatIsMissing)
+{
+    EXPECT_EQ(RunSystemShell(ShellVerb::Print, folder.Path() + "/none.txt"), ShellFileNotFound);
+    Script("lp", "exit 1");
+    EXPECT_EQ(RunSystemShell(ShellVerb::Print, document), ShellNoProgram) << "a spooler that refuses";
+    ::setenv("PATH", (folder.Path() + "/documentation").c_str(), 1);
+    EXPECT_EQ(RunSystemShell(ShellVerb::Print, document), ShellNoProgram);
+    EXPECT_EQ(RunSystemShell(ShellVerb::Open, document), ShellNoProgram);
+}
+
+TEST_F(SystemShellTest, DoesNotWaitForASpoolerThatHangs)
+{
+    Script("lp", "exec sleep 60");
+    EXPECT_EQ(RunSystemShell(ShellVerb::Print, document), ShellNoProgram);
+}
+
+TEST(ProgramFolderTest, TakesTheOptionThenTheVariableThenTheExecutable)
+{
+    ::setenv("PTK_PROGRAM_FOLDER", "/srv/ptk/", 1);
+    EXPECT_EQ(FindProgramFolder("/opt/ptk//"), "/opt/ptk");
+    EXPECT_EQ(FindProgramFolder(""), "/srv/ptk");
+    ::unsetenv("PTK_PROGRAM_FOLDER");
+    EXPECT_EQ(FindProgramFolder(""), std::filesystem::read_symlink("/proc/self/exe").parent_path().string());
+    EXPECT_EQ(NativePath("/srv\\system\\ptk_11.mdb"), "/srv/system/ptk_11.mdb");
+}
+
+} // namespace
