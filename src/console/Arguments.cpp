@@ -19,9 +19,10 @@ std::optional<DateTime> ReadDay(const std::string& text)
     return text.find(':') == std::string::npos ? ParseDateTime(text) : std::nullopt;
 }
 
-CLI::Validator IsDay()
+void TakesDay(CLI::Option* option)
 {
-    return CLI::Validator([](std::string& text) { return ReadDay(text) ? std::string() : "not a date: " + text; }, "DATE");
+    option->type_name("DATE")->check(
+        CLI::Validator([](std::string& text) { return ReadDay(text) ? std::string() : "not a date: " + text; }, ""));
 }
 
 // The words as CLI11 stores them; dates are checked while reading and turned into dates afterwards.
@@ -52,7 +53,7 @@ private:
     Arguments Result() const;
 
     Words m_words;
-    CLI::App m_app{"PTK - Administrator for terminals and scheduled jobs: time cards and reports from the program folder's database.",
+    CLI::App m_app{"PTK - Administrator for terminals and scheduled jobs: time cards and reports from the program folder's database",
                    "ptk-console"};
     CLI::App* m_createDatabase = nullptr;
     CLI::App* m_timeCard = nullptr;
@@ -63,8 +64,10 @@ Grammar::Grammar()
 {
     m_app.set_help_flag("-h,--help", "Show this help");
     m_app.set_version_flag("--version", kVersion, "Show the version");
-    m_app.add_option("--program-folder", m_words.programFolder,
-                     "The folder with system/ and reports/; else PTK_PROGRAM_FOLDER, else the folder of ptk-console");
+    m_app
+        .add_option("--program-folder", m_words.programFolder,
+                    "The folder with system/ and reports/; else PTK_PROGRAM_FOLDER, else the folder of ptk-console")
+        ->type_name("DIR");
     m_app.require_subcommand(1);
     m_app.fallthrough();
     m_app.footer("Exit status: 0 done, 1 the operation failed, 2 wrong usage. Dates are month/day/year.");
@@ -79,30 +82,31 @@ void Grammar::DescribeCreateDatabase()
     m_createDatabase =
         m_app.add_subcommand("create-database", "Make the database file that the configuration names; an existing one stays");
     CLI::Option* sample = m_createDatabase->add_flag("--sample", m_words.sample, "Fill in a small business with half a year of shifts");
-    m_createDatabase->add_option("--today", m_words.today, "The last day of the sample's shifts; else today")
-        ->check(IsDay())
-        ->needs(sample);
+    TakesDay(m_createDatabase->add_option("--today", m_words.today, "The last day of the sample's shifts; else today")->needs(sample));
 }
 
 void Grammar::DescribeTimeCard()
 {
     m_timeCard = m_app.add_subcommand("time-card", "Print an employee's time card");
     m_timeCard->add_option("--employee", m_words.employee, "First and last name, or the last name alone where there is no first one")
+        ->type_name("NAME")
         ->required();
-    m_timeCard->add_option("--from", m_words.from, "First day")->check(IsDay())->required();
-    m_timeCard->add_option("--to", m_words.to, "Last day, inclusive")->check(IsDay())->required();
+    TakesDay(m_timeCard->add_option("--from", m_words.from, "First day")->required());
+    TakesDay(m_timeCard->add_option("--to", m_words.to, "Last day, inclusive")->required());
 }
 
 void Grammar::DescribeReport()
 {
     m_report = m_app.add_subcommand("report", "Write a report to the reports folder and print it");
-    m_report->add_option("report", m_words.report, "timecard, review, ytd, employees or phonebook")
+    m_report->add_option("report", m_words.report, "Which one")
+        ->type_name("KIND")
         ->check(CLI::IsMember({"timecard", "review", "ytd", "employees", "phonebook"}))
         ->required();
     m_report->add_option("--employee", m_words.employees, "An employee's name, may be repeated; else all that the Reports page lists")
+        ->type_name("NAME")
         ->allow_extra_args(false);
-    m_report->add_option("--from", m_words.from, "First day; else as the Reports page offers")->check(IsDay());
-    m_report->add_option("--to", m_words.to, "Last day; else as the Reports page offers")->check(IsDay());
+    TakesDay(m_report->add_option("--from", m_words.from, "First day; else as the Reports page offers"));
+    TakesDay(m_report->add_option("--to", m_words.to, "Last day; else as the Reports page offers"));
 }
 
 // What each report has no use for is refused rather than silently left aside.

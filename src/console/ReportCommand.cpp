@@ -55,7 +55,8 @@ private:
 };
 
 ReportWriter::ReportWriter(const ReportArguments& arguments, Console& console)
-    : m_arguments(arguments), m_console(console), m_session(console.programFolder), m_desktop(console.err), m_viewers(console.out, console.err)
+    : m_arguments(arguments), m_console(console), m_session(console.programFolder), m_desktop(console.err),
+      m_viewers(console.out, console.err)
 {
     for (const std::string& name : arguments.employees) {
         if (m_session.Employees()->GetEmployeeByName(name) == nullptr)
@@ -156,7 +157,7 @@ int ReportWriter::Write()
         void (ReportWriter::*write)();
     };
     static constexpr Choice kChoices[] = {
-        {"timecard", &ReportWriter::WriteTimeCards}, {"review", &ReportWriter::WriteReview},      {"ytd", &ReportWriter::WriteYearToDate},
+        {"timecard", &ReportWriter::WriteTimeCards},  {"review", &ReportWriter::WriteReview},       {"ytd", &ReportWriter::WriteYearToDate},
         {"employees", &ReportWriter::WriteEmployees}, {"phonebook", &ReportWriter::WritePhoneBook},
     };
     for (const Choice& choice : kChoices) {

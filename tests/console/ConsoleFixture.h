@@ -2,24 +2,18 @@
 #pragma once
 
 #include "console/Program.h"
+#include "support/Files.h"
 #include "support/FixedClock.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 #include <sstream>
 #include <string>
 #include <vector>
 
 namespace ptk {
-
-inline std::string Contents(const std::filesystem::path& path)
-{
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
 
 class ConsoleTest : public testing::Test
 {
@@ -31,10 +25,7 @@ protected:
         std::string err;
     };
 
-    ConsoleTest()
-    {
-        std::filesystem::copy_file(std::string(PTK_SOURCE_DIR) + "/data/ptk_11.cfg", System("ptk_11.cfg"));
-    }
+    ConsoleTest() { std::filesystem::copy_file(std::string(PTK_SOURCE_DIR) + "/data/ptk_11.cfg", System("ptk_11.cfg")); }
 
     Answer Run(std::vector<std::string> words)
     {

@@ -1,4 +1,6 @@
-#include "ConsoleFixture.h"
+#include "console/ConsoleFixture.h"
+
+#include <fstream>
 
 namespace ptk {
 
