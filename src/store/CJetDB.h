@@ -16,13 +16,13 @@ class RecordSet;
 
 // Error numbers of CJetDB. A failed open leaves the engine's own number instead of one of these.
 namespace jetdb {
-inline constexpr std::int32_t NoDatabase = 403;        // no handle, no name, or an operation found no open database
-inline constexpr std::int32_t NoSql = 406;             // neither an argument nor a stored statement
-inline constexpr std::int32_t StatementFailed = 407;   // a select or action failed
-inline constexpr std::int32_t ListingFailed = 411;     // a listing stored query failed
-inline constexpr std::int32_t InsertFailed = 412;      // an insert through a stored query failed
-inline constexpr std::int32_t UpdateFailed = 413;      // an update through a stored query failed
-inline constexpr std::int32_t NegativeCount = 421;     // a listing reported a negative row count
+inline constexpr std::int32_t NoDatabase = 403;           // no handle, no name, or an operation found no open database
+inline constexpr std::int32_t NoSql = 406;                // neither an argument nor a stored statement
+inline constexpr std::int32_t StatementFailed = 407;      // a select or action failed
+inline constexpr std::int32_t ListingFailed = 411;        // a listing stored query failed
+inline constexpr std::int32_t InsertFailed = 412;         // an insert through a stored query failed
+inline constexpr std::int32_t UpdateFailed = 413;         // an update through a stored query failed
+inline constexpr std::int32_t NegativeCount = 421;        // a listing reported a negative row count
 inline constexpr std::int32_t WorkingReferenceLost = 312; // a loaded company did not arrive in its list
 } // namespace jetdb
 
@@ -74,6 +74,13 @@ public:
     bool DeleteCompany(const CompanyRow& thecompany); // deliberately does nothing and answers false
 
 private:
+    bool Fail(std::int32_t errorNumber); // always false
+    bool HasOpenDatabase() const;
+    void OpenWhenClosed();
+    void CloseWhenOpen();
+    template <typename Parameters>
+    bool RunStored(const char* query, Parameters parameters, std::int32_t errorNumber);
+    std::shared_ptr<RecordSet> OpenListing(const char* query);
     std::shared_ptr<RecordSet> OpenEmployeeQuery();
     std::shared_ptr<RecordSet> OpenCompanyQuery();
 

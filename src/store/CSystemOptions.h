@@ -15,8 +15,8 @@ class CJetDB;
 class CSystemOptions
 {
 public:
-    void ConfigFile(std::shared_ptr<CFileAdaptor> value);  // nullptr is ignored
-    void PTKDatabase(std::shared_ptr<CJetDB> value);       // nullptr is ignored
+    void ConfigFile(std::shared_ptr<CFileAdaptor> value); // nullptr is ignored
+    void PTKDatabase(std::shared_ptr<CJetDB> value);      // nullptr is ignored
 
     void ProgramName(std::string value) { m_programName = std::move(value); }
     std::string ProgramName() const { return m_programName; }

@@ -4,7 +4,6 @@
 #include "store/Rows.h"
 
 #include <cstdint>
-#include <optional>
 #include <string>
 
 namespace ptk {
@@ -20,17 +19,16 @@ public:
     // By the record's state: 1 insert, 2 update, 3 delete, any other the empty text. nullptr gives the empty text and keeps sqlstring.
     std::string ToSQL(const TimeRecordRow* thetimerecord);
 
-    // Both bounds are inclusive and compared as full date-times, so every open record (end = zero date-time) from the start on is fetched too.
+    // Both bounds are inclusive and compared as full date-times, so every open record (end = zero date-time) from the start on is fetched
+    // too.
     std::string BuildFetchSQL(std::int32_t theemployeeid, DateTime thestarttime, DateTime theendtime);
 
 private:
-    std::string BuildInsertSQL() const;
-    std::string BuildUpdateSQL() const;
-    std::string BuildDeleteSQL() const;
+    using Builder = void (*)(std::string& sql, const TimeRecordRow& record);
+    void Build(Builder builder, const TimeRecordRow& record, std::int32_t errorNumber);
 
     std::string m_sqlstring;
     std::int32_t m_errorNumber = 0;
-    std::optional<TimeRecordRow> m_timeRecord; // the record last given to ToSQL
 };
 
 } // namespace ptk

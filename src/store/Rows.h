@@ -1,5 +1,5 @@
-// One record of each table as plain fields: what travels between the database access class and the entities of the model, which lie above it.
-// The defaults are those of a freshly made entity; a loader leaves a field alone where the column's rule says so.
+// One record of each table as plain fields: what travels between the database access class and the entities of the model, which lie above
+// it. The defaults are those of a freshly made entity; a loader leaves a field alone where the column's rule says so.
 #pragma once
 
 #include "platform/DateTime.h"
@@ -68,7 +68,8 @@ struct TimeRecordRow
     std::int32_t ObjectState = state::New;
 };
 
-// The lists that a loader fills: makes an unchanged entity of the row and inserts it at the 1-based position. False when the list did not take it.
+// The lists that a loader fills: makes an unchanged entity of the row and inserts it at the 1-based position. False when the list did not
+// take it.
 class EmployeeSink
 {
 public:

@@ -1,0 +1,74 @@
+#include "store/CSystemOptions.h"
+
+#include "platform/Failure.h"
+#include "platform/Text.h"
+#include "store/CJetDB.h"
+#include "store/engine/RecordSet.h"
+
+#include <fmt/format.h>
+
+namespace ptk {
+
+namespace {
+
+CJetDB& Required(const std::shared_ptr<CJetDB>& database)
+{
+    if (database == nullptr) {
+        throw Failure(failure::ObjectNotSet);
+    }
+    return *database;
+}
+
+} // namespace
+
+void CSystemOptions::ConfigFile(std::shared_ptr<CFileAdaptor> value)
+{
+    if (value != nullptr) {
+        m_configFile = std::move(value);
+    }
+}
+
+void CSystemOptions::PTKDatabase(std::shared_ptr<CJetDB> value)
+{
+    if (value != nullptr) {
+        m_database = std::move(value);
+    }
+}
+
+bool CSystemOptions::Load()
+{
+    BuildSelectSQL();
+    const auto row = Required(m_database).ExecuteSelect(m_sql);
+    if (row == nullptr) {
+        return false;
+    }
+    m_programName = row->Field("Program").ToText();
+    m_programVersion = row->Field("Version").ToText();
+    m_periodLength = row->Field("period_length").ToInt16();
+    m_autoShiftStartTime = row->Field("auto_shift_start_time").ToDateTime();
+    m_autoShiftEndTime = row->Field("auto_shift_end_time").ToDateTime();
+    return true;
+}
+
+bool CSystemOptions::Update()
+{
+    BuildUpdateSQL();
+    return Required(m_database).ExecuteAction(m_sql);
+}
+
+bool CSystemOptions::BuildSelectSQL()
+{
+    m_sql = "SELECT [_System].program, [_System].version, [_System].period_length, [_System].auto_shift_start_time, "
+            "[_System].auto_shift_end_time FROM _System;";
+    return true;
+}
+
+bool CSystemOptions::BuildUpdateSQL()
+{
+    m_sql = fmt::format("UPDATE _System SET _System.period_length = {}, _System.auto_shift_start_time = #{}#, "
+                        "_System.auto_shift_end_time = #{}#;",
+                        m_periodLength, GeneralText(m_autoShiftStartTime), GeneralText(m_autoShiftEndTime));
+    return true;
+}
+
+} // namespace ptk

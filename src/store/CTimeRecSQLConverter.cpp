@@ -1,0 +1,104 @@
+#include "store/CTimeRecSQLConverter.h"
+
+#include "platform/Text.h"
+
+#include <fmt/format.h>
+#include <iterator>
+
+namespace ptk {
+
+namespace {
+
+constexpr std::int32_t kInsertFailed = 810;
+constexpr std::int32_t kUpdateFailed = 811;
+constexpr std::int32_t kDeleteFailed = 812;
+constexpr std::int32_t kFetchFailed = 813;
+
+// Appends to `sql`, so that what is there when a failure comes stays there.
+template <typename... Values>
+void Append(std::string& sql, fmt::format_string<Values...> text, Values&&... values)
+{
+    fmt::format_to(std::back_inserter(sql), text, std::forward<Values>(values)...);
+}
+
+void BuildInsertSQL(std::string& sql, const TimeRecordRow& record)
+{
+    sql += "INSERT INTO TimeRecord ( EmployeeID, StartTime, EndTime ) ";
+    Append(sql, " SELECT {}, ", record.EmployeeID);
+    Append(sql, "#{}#, ", GeneralText(record.StartTime));
+    Append(sql, "#{}#;", GeneralText(record.EndTime));
+}
+
+void BuildUpdateSQL(std::string& sql, const TimeRecordRow& record)
+{
+    sql += "UPDATE TimeRecord ";
+    Append(sql, "SET TimeRecord.EmployeeID = {}, ", record.EmployeeID);
+    Append(sql, "TimeRecord.StartTime = #{}#, ", GeneralText(record.StartTime));
+    Append(sql, "TimeRecord.EndTime = #{}# ", GeneralText(record.EndTime));
+    Append(sql, "WHERE ((TimeRecord.TimeRecordID = {}));", record.TimeRecordID);
+}
+
+void BuildDeleteSQL(std::string& sql, const TimeRecordRow& record)
+{
+    sql += "DELETE TimeRecord.TimeRecordID, TimeRecord.EmployeeID, TimeRecord.ShiftDate, TimeRecord.StartTime, TimeRecord.EndTime "
+           "FROM TimeRecord ";
+    Append(sql, "WHERE ((TimeRecord.TimeRecordID = {})); ", record.TimeRecordID);
+}
+
+} // namespace
+
+bool CTimeRecSQLConverter::ResetError()
+{
+    m_errorNumber = 0;
+    return true;
+}
+
+std::string CTimeRecSQLConverter::ToSQL(const TimeRecordRow* thetimerecord)
+{
+    ResetError();
+    if (thetimerecord == nullptr) {
+        return "";
+    }
+    m_sqlstring.clear();
+    switch (thetimerecord->ObjectState) {
+    case state::New:
+        Build(BuildInsertSQL, *thetimerecord, kInsertFailed);
+        break;
+    case state::Changed:
+        Build(BuildUpdateSQL, *thetimerecord, kUpdateFailed);
+        break;
+    case state::Deleted:
+        Build(BuildDeleteSQL, *thetimerecord, kDeleteFailed);
+        break;
+    default:
+        break;
+    }
+    return m_sqlstring;
+}
+
+void CTimeRecSQLConverter::Build(Builder builder, const TimeRecordRow& record, std::int32_t errorNumber)
+{
+    try {
+        builder(m_sqlstring, record);
+    } catch (...) {
+        m_errorNumber = errorNumber;
+    }
+}
+
+std::string CTimeRecSQLConverter::BuildFetchSQL(std::int32_t theemployeeid, DateTime thestarttime, DateTime theendtime)
+{
+    std::string sql;
+    try {
+        sql = "SELECT TimeRecord.TimeRecordID, TimeRecord.EmployeeID, TimeRecord.StartTime, TimeRecord.EndTime "
+              "From TimeRecord ";
+        Append(sql, "Where ((TimeRecord.EmployeeID = {}) ", theemployeeid);
+        Append(sql, "And ((TimeRecord.StartTime >= #{}#) ", GeneralText(thestarttime));
+        Append(sql, "And (TimeRecord.EndTime <= #{}#))) ", GeneralText(theendtime));
+        sql += "ORDER BY TimeRecord.StartTime, TimeRecord.EndTime;";
+    } catch (...) {
+        m_errorNumber = kFetchFailed;
+    }
+    return sql;
+}
+
+} // namespace ptk

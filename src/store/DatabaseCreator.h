@@ -1,0 +1,16 @@
+// Makes a new database file.
+#pragma once
+
+#include <functional>
+#include <string>
+
+namespace ptk {
+
+class BulkWriter;
+
+// With its tables, stored queries, options, the administrator and whatever `fill` adds (without committing), readable by its owner only. It
+// appears under `path` (in the platform's own form) complete and safely on disk, or not at all. Raises 75 when there is something of that
+// name already, which stays untouched, 76 without the folder, 70, 61, the engine's failures, and what `fill` raises.
+void CreateDatabase(const std::string& path, const std::function<void(BulkWriter&)>& fill = {});
+
+} // namespace ptk

@@ -1,0 +1,141 @@
+#include "store/engine/Dialect.h"
+
+#include "platform/Failure.h"
+#include "platform/Text.h"
+#include "store/engine/Lexer.h"
+#include "store/engine/StoredDate.h"
+
+namespace ptk {
+
+namespace {
+
+// `keyword` in lower case.
+bool IsKeyword(const Token& token, std::string_view keyword)
+{
+    return token.kind == TokenKind::Word && token.text.size() == keyword.size() && LowerCase(token.text) == keyword;
+}
+
+bool IsSign(const Token& token, char sign)
+{
+    return token.kind == TokenKind::Sign && token.text.front() == sign;
+}
+
+bool IsName(const Token& token)
+{
+    return token.kind == TokenKind::Word || token.kind == TokenKind::Quoted;
+}
+
+std::string BareName(const Token& token)
+{
+    const bool quoted = token.kind == TokenKind::Quoted && token.text.size() >= 2;
+    return LowerCase(quoted ? token.text.substr(1, token.text.size() - 2) : token.text);
+}
+
+// The tokens that carry meaning, as they follow each other. Those between them stay where they are.
+using Meaning = std::vector<Token*>;
+
+Meaning WithoutBlanks(std::vector<Token>& tokens)
+{
+    Meaning meaning;
+    meaning.reserve(tokens.size());
+    for (Token& token : tokens) {
+        if (token.kind != TokenKind::Blank) {
+            meaning.push_back(&token);
+        }
+    }
+    return meaning;
+}
+
+void Drop(Token& token)
+{
+    token = {TokenKind::Blank, {}};
+}
+
+bool MayStandInColumnList(const Token& token)
+{
+    return IsName(token) || IsSign(token, '.') || IsSign(token, ',') || IsSign(token, '*');
+}
+
+// DELETE a, b FROM t: rows go as a whole, whatever columns are listed.
+void DropColumnList(const Meaning& meaning)
+{
+    std::size_t from = 1;
+    while (from < meaning.size() && !IsKeyword(*meaning[from], "from")) {
+        if (!MayStandInColumnList(*meaning[from])) {
+            return;
+        }
+        ++from;
+    }
+    if (from == meaning.size()) {
+        return;
+    }
+    for (std::size_t i = 1; i < from; ++i) {
+        Drop(*meaning[i]);
+    }
+}
+
+// Drops "table." where it stands before the name at `position`.
+void DropQualifier(const Meaning& meaning, std::size_t position, const std::string& table)
+{
+    if (position + 2 < meaning.size() && IsName(*meaning[position]) && IsSign(*meaning[position + 1], '.') &&
+        IsName(*meaning[position + 2]) && BareName(*meaning[position]) == table) {
+        Drop(*meaning[position]);
+        Drop(*meaning[position + 1]);
+    }
+}
+
+// UPDATE t SET t.a = 1, t.b = 2: an assigned column can only be the table's own.
+void DropQualifiers(const Meaning& meaning)
+{
+    if (meaning.size() < 3 || !IsName(*meaning[1]) || !IsKeyword(*meaning[2], "set")) {
+        return;
+    }
+    const std::string table = BareName(*meaning[1]);
+    DropQualifier(meaning, 3, table);
+    int depth = 0;
+    for (std::size_t i = 3; i < meaning.size() && !IsKeyword(*meaning[i], "where"); ++i) {
+        depth += IsSign(*meaning[i], '(') ? 1 : 0;
+        depth -= IsSign(*meaning[i], ')') ? 1 : 0;
+        if (depth == 0 && IsSign(*meaning[i], ',')) {
+            DropQualifier(meaning, i + 1, table);
+        }
+    }
+}
+
+std::string DateText(std::string_view literal)
+{
+    if (literal.size() < 2 || literal.back() != '#') {
+        throw Failure(failure::TypeMismatch);
+    }
+    return '\'' + StoredText(ToDateTime(literal.substr(1, literal.size() - 2))) + '\'';
+}
+
+std::string Joined(const std::vector<Token>& tokens, std::size_t expectedSize)
+{
+    std::string text;
+    text.reserve(expectedSize + 64);
+    for (const Token& token : tokens) {
+        if (token.kind == TokenKind::Date) {
+            text += DateText(token.text);
+        } else {
+            text += token.text;
+        }
+    }
+    return text;
+}
+
+} // namespace
+
+std::string TranslateStatement(std::string_view statement)
+{
+    std::vector<Token> tokens = SplitTokens(statement);
+    const Meaning meaning = WithoutBlanks(tokens);
+    if (!meaning.empty() && IsKeyword(*meaning.front(), "delete")) {
+        DropColumnList(meaning);
+    } else if (!meaning.empty() && IsKeyword(*meaning.front(), "update")) {
+        DropQualifiers(meaning);
+    }
+    return Joined(tokens, statement.size());
+}
+
+} // namespace ptk

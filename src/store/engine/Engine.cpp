@@ -1,0 +1,110 @@
+#include "store/engine/Engine.h"
+
+#include "store/engine/Connection.h"
+#include "store/engine/Dialect.h"
+#include "store/engine/EngineFailure.h"
+#include "store/engine/RecordSet.h"
+#include "store/engine/Statement.h"
+
+#include <sqlite3.h>
+
+namespace ptk {
+
+Engine::Engine(const std::string& path) : m_connection(std::make_unique<Connection>(path))
+{
+    m_connection->RefuseForeignFile();
+}
+
+Engine::Engine(const std::string& path, NewFile /*tag*/) : m_connection(std::make_unique<Connection>(path)) {}
+
+Engine::~Engine() = default;
+
+void Engine::Close()
+{
+    m_connection.reset();
+}
+
+Connection& Engine::Open() const
+{
+    if (m_connection == nullptr) {
+        throw EngineFailure(SQLITE_MISUSE, "the database is closed");
+    }
+    m_connection->Hold();
+    return *m_connection;
+}
+
+std::unique_ptr<Statement> Engine::Prepare(std::string_view sql)
+{
+    return std::make_unique<Statement>(Open().Handle(), sql);
+}
+
+std::unique_ptr<Statement> Engine::PrepareStored(std::string_view query)
+{
+    Statement search(Open().Handle(), "SELECT sql FROM _StoredQuery WHERE name = :name");
+    search.Bind("name", std::string(query));
+    const auto found = search.ReadRows();
+    if (found->EndOfFile()) {
+        throw EngineFailure(SQLITE_NOTFOUND, "there is no stored query " + std::string(query));
+    }
+    return Prepare(found->TextAt(0));
+}
+
+std::shared_ptr<RecordSet> Engine::Select(std::string_view statement)
+{
+    return Prepare(TranslateStatement(statement))->ReadRows();
+}
+
+void Engine::Execute(std::string_view statement)
+{
+    RunAndCommit(*Prepare(TranslateStatement(statement)));
+}
+
+std::shared_ptr<RecordSet> Engine::SelectStored(std::string_view query)
+{
+    return PrepareStored(query)->ReadRows();
+}
+
+void Engine::ExecuteStored(std::string_view query, std::span<const Parameter> parameters)
+{
+    const auto statement = PrepareStored(query);
+    for (const Parameter& parameter : parameters) {
+        statement->Bind(parameter.name, parameter.value);
+    }
+    RunAndCommit(*statement);
+}
+
+// What a failed statement changed before it failed must not reach the disk with a later one.
+void Engine::RunAndCommit(Statement& statement)
+{
+    Connection& connection = Open();
+    connection.PrepareWrite();
+    try {
+        statement.Run();
+    } catch (...) {
+        connection.Undo();
+        throw;
+    }
+    connection.Commit();
+}
+
+void Engine::BeginMany()
+{
+    Open().PrepareWrite();
+}
+
+void Engine::RunScript(const char* sql)
+{
+    Open().Run(sql);
+}
+
+std::int64_t Engine::LastKey() const
+{
+    return sqlite3_last_insert_rowid(Open().Handle());
+}
+
+void Engine::Commit()
+{
+    Open().Commit();
+}
+
+} // namespace ptk

@@ -1,0 +1,30 @@
+// Takes SQL text apart, without loss: the tokens' texts one after the other are the statement again.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+namespace ptk {
+
+enum class TokenKind : std::uint8_t
+{
+    Blank,  // white space and comments
+    Word,   // keywords and plain names
+    Quoted, // names in brackets, double quotes or back quotes
+    Text,   // '...'
+    Number,
+    Date, // #...#, or the rest of the statement when it is never closed
+    Sign  // any other single character
+};
+
+struct Token
+{
+    TokenKind kind;
+    std::string_view text;
+};
+
+// The tokens refer to the statement's own characters.
+std::vector<Token> SplitTokens(std::string_view statement);
+
+} // namespace ptk

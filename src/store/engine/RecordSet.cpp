@@ -1,0 +1,139 @@
+#include "store/engine/RecordSet.h"
+
+#include "platform/Failure.h"
+#include "platform/Text.h"
+
+#include <bit>
+#include <limits>
+
+namespace ptk {
+
+void RecordSet::MoveFirst()
+{
+    if (m_rowCount == 0) {
+        throw Failure(failure::NoCurrentRecord);
+    }
+    m_row = 0;
+}
+
+void RecordSet::MoveNext()
+{
+    if (EndOfFile()) {
+        throw Failure(failure::NoCurrentRecord);
+    }
+    ++m_row;
+}
+
+std::size_t RecordSet::Column(std::string_view name) const
+{
+    const std::string wanted = LowerCase(name);
+    for (std::size_t column = 0; column < m_headings.size(); ++column) {
+        if (LowerCase(m_headings[column].name) == wanted) {
+            return column;
+        }
+    }
+    throw Failure(failure::SubscriptOutOfRange, "PTK", "There is no column " + std::string(name) + ".");
+}
+
+const RecordSet::Cell& RecordSet::At(std::size_t column) const
+{
+    if (EndOfFile()) {
+        throw Failure(failure::NoCurrentRecord);
+    }
+    if (column >= m_headings.size()) {
+        throw Failure(failure::SubscriptOutOfRange);
+    }
+    return m_cells[static_cast<std::size_t>(m_row) * m_headings.size() + column];
+}
+
+Value RecordSet::Stored(const Cell& cell) const
+{
+    switch (cell.kind) {
+    case Kind::Null:
+        return {};
+    case Kind::Integer:
+        // The loosely typed value knows no wider integer, and a double holds every number that is not an overflow anyway.
+        return cell.content == static_cast<std::int32_t>(cell.content) ? Value(static_cast<std::int32_t>(cell.content))
+                                                                       : Value(static_cast<double>(cell.content));
+    case Kind::Real:
+        return std::bit_cast<double>(cell.content);
+    case Kind::DateTime:
+        return DateTime::FromSeconds(cell.content);
+    case Kind::Text:
+        return std::string(TextOf(cell));
+    case Kind::Binary:
+        break;
+    }
+    throw Failure(failure::TypeMismatch);
+}
+
+Value RecordSet::Field(std::size_t column) const
+{
+    const Cell& cell = At(column);
+    if (cell.kind == Kind::Null) {
+        return {};
+    }
+    switch (m_headings[column].type) {
+    case Type::Integer:
+        return Int32At(column);
+    case Type::DateTime:
+        return DateTimeAt(column);
+    case Type::Single:
+        return SingleAt(column);
+    case Type::Boolean:
+        return BooleanAt(column);
+    case Type::Text:
+        return Stored(cell).ToText();
+    case Type::Any:
+        break;
+    }
+    return Stored(cell);
+}
+
+bool RecordSet::IsNull(std::size_t column) const
+{
+    return At(column).kind == Kind::Null;
+}
+
+std::int32_t RecordSet::Int32At(std::size_t column) const
+{
+    const Cell& cell = At(column);
+    return cell.kind == Kind::Integer ? NarrowToInt32(cell.content) : Stored(cell).ToInt32();
+}
+
+std::int16_t RecordSet::Int16At(std::size_t column) const
+{
+    const Cell& cell = At(column);
+    return cell.kind == Kind::Integer ? NarrowToInt16(cell.content) : Stored(cell).ToInt16();
+}
+
+float RecordSet::SingleAt(std::size_t column) const
+{
+    return Stored(At(column)).ToSingle();
+}
+
+bool RecordSet::BooleanAt(std::size_t column) const
+{
+    const Cell& cell = At(column);
+    return cell.kind == Kind::Integer ? cell.content != 0 : Stored(cell).ToBoolean();
+}
+
+DateTime RecordSet::DateTimeAt(std::size_t column) const
+{
+    const Cell& cell = At(column);
+    return cell.kind == Kind::DateTime ? DateTime::FromSeconds(cell.content) : Stored(cell).ToDateTime();
+}
+
+std::string_view RecordSet::TextAt(std::size_t column) const
+{
+    const Cell& cell = At(column);
+    if (cell.kind == Kind::Null) {
+        throw Failure(failure::InvalidUseOfNull);
+    }
+    if (cell.kind != Kind::Text) {
+        throw Failure(failure::TypeMismatch);
+    }
+    return TextOf(cell);
+}
+
+} // namespace ptk

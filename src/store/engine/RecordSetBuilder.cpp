@@ -1,0 +1,63 @@
+#include "store/engine/RecordSetBuilder.h"
+
+#include "platform/Text.h"
+#include "store/engine/StoredDate.h"
+
+#include <bit>
+
+namespace ptk {
+
+void RecordSet::Builder::AddColumn(std::string name, std::string_view declared)
+{
+    struct Declaration
+    {
+        std::string_view word;
+        Type type;
+    };
+    static constexpr Declaration kDeclarations[] = {{"integer", Type::Integer},
+                                                    {"datetime", Type::DateTime},
+                                                    {"single", Type::Single},
+                                                    {"boolean", Type::Boolean},
+                                                    {"text", Type::Text}};
+    const std::string word = LowerCase(declared);
+    Type type = Type::Any;
+    for (const Declaration& declaration : kDeclarations) {
+        if (declaration.word == word) {
+            type = declaration.type;
+        }
+    }
+    m_rows->m_headings.push_back({std::move(name), type});
+}
+
+void RecordSet::Builder::Add(Kind kind, std::int64_t content, std::uint32_t size)
+{
+    m_rows->m_cells.push_back({content, size, kind});
+    ++m_column;
+}
+
+void RecordSet::Builder::AddReal(double value)
+{
+    Add(Kind::Real, std::bit_cast<std::int64_t>(value));
+}
+
+void RecordSet::Builder::AddText(std::string_view value)
+{
+    if (NextType() == Type::DateTime) {
+        if (const auto moment = FromStoredText(value)) {
+            Add(Kind::DateTime, moment->Seconds());
+            return;
+        }
+    }
+    std::string& texts = m_rows->m_texts;
+    const auto offset = static_cast<std::int64_t>(texts.size());
+    texts.append(value);
+    Add(Kind::Text, offset, static_cast<std::uint32_t>(value.size()));
+}
+
+void RecordSet::Builder::EndRow()
+{
+    m_rows->m_rowCount = NarrowToInt32(std::int64_t{m_rows->m_rowCount} + 1);
+    m_column = 0;
+}
+
+} // namespace ptk

@@ -1,0 +1,17 @@
+// The text form of date-times in the database file: YYYY-MM-DD HH:MM:SS, so that text order is time order and any tool can read it.
+#pragma once
+
+#include "platform/DateTime.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace ptk {
+
+std::string StoredText(DateTime value); // the zero date-time is 1899-12-30 00:00:00
+
+// Empty for every other form, dates that do not exist and years below 100 included. Does not allocate.
+std::optional<DateTime> FromStoredText(std::string_view text);
+
+} // namespace ptk
