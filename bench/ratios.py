@@ -1,0 +1,34 @@
+"""Prints the pairs of a Google Benchmark result as one table: the medians of the raw work and of the program's, their ratio, the limit."""
+import json
+import sys
+
+# What the program may cost, as a multiple of the raw work.
+LIMITS = {"card": 1.3, "1,000 cards": 1.3, "list": 1.5, "one record": 1.2, "review": 1.7, "year-to-date": 1.5}
+UNITS = {"ns": 1e-3, "us": 1.0, "ms": 1e3, "s": 1e6}
+
+
+def limit(name):
+    return next((value for prefix, value in LIMITS.items() if name.startswith(prefix)), None)
+
+
+def medians(path):
+    """Microseconds of real time by benchmark name."""
+    with open(path, encoding="utf-8") as file:
+        rows = json.load(file)["benchmarks"]
+    return {row["run_name"]: row["real_time"] * UNITS[row["time_unit"]] for row in rows if row.get("aggregate_name") == "median"}
+
+
+def main(path):
+    times = medians(path)
+    print(f"{'work':<48}{'raw us':>12}{'program us':>12}{'ratio':>8}{'at most':>9}")
+    missed = False
+    for name in (run.removesuffix("/raw") for run in times if run.endswith("/raw")):
+        raw, program = times[name + "/raw"], times[name + "/program"]
+        ratio, allowed = program / raw, limit(name)
+        missed = missed or (allowed is not None and ratio > allowed)
+        print(f"{name:<48}{raw:>12.1f}{program:>12.1f}{ratio:>8.2f}{allowed or '':>9}")
+    return 1 if missed else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(sys.argv[1]))

@@ -1,0 +1,118 @@
+#include "store/RawStore.h"
+
+#include "platform/Text.h"
+
+#include <cstring>
+#include <fmt/format.h>
+#include <sqlite3.h>
+#include <stdexcept>
+
+namespace bench {
+
+namespace {
+
+class Hold
+{
+public:
+    Hold(const std::string& path, const char* pragmas)
+    {
+        Require(sqlite3_open_v2(path.c_str(), &m_database, SQLITE_OPEN_READWRITE, nullptr));
+        Run(pragmas);
+        Run("BEGIN EXCLUSIVE");
+    }
+
+    ~Hold() { sqlite3_close(m_database); }
+    Hold(const Hold&) = delete;
+    Hold& operator=(const Hold&) = delete;
+
+    sqlite3* Get() const { return m_database; }
+    void Run(const char* sql) const { Require(sqlite3_exec(m_database, sql, nullptr, nullptr, nullptr)); }
+
+    void Require(int code) const
+    {
+        if (code != SQLITE_OK)
+            throw std::runtime_error(sqlite3_errmsg(m_database));
+    }
+
+private:
+    sqlite3* m_database = nullptr;
+};
+
+int TwoDigits(const unsigned char* text)
+{
+    return (text[0] - '0') * 10 + text[1] - '0';
+}
+
+// Minutes within the day; the bench's shifts do not cross midnight.
+int MinuteOfDay(const unsigned char* stored)
+{
+    return TwoDigits(stored + 11) * 60 + TwoDigits(stored + 14);
+}
+
+} // namespace
+
+std::string StoredText(ptk::DateTime value)
+{
+    return ptk::FormatDateTime(value, "yyyy-mm-dd hh:nn:ss");
+}
+
+double RawCard(const std::string& path, std::int32_t employee, const std::string& from, const std::string& to)
+{
+    const Hold hold(path, "");
+    const std::string sql =
+        fmt::format("SELECT TimeRecordID, EmployeeID, StartTime, EndTime FROM TimeRecord WHERE EmployeeID = {} AND StartTime >= '{}' AND "
+                    "EndTime <= '{}' ORDER BY StartTime, EndTime",
+                    employee, from, to);
+    sqlite3_stmt* statement = nullptr;
+    hold.Require(sqlite3_prepare_v2(hold.Get(), sql.c_str(), -1, &statement, nullptr));
+    double hours = 0;
+    double day = 0;
+    char date[11] = "";
+    while (sqlite3_step(statement) == SQLITE_ROW) {
+        const unsigned char* start = sqlite3_column_text(statement, 2);
+        const unsigned char* end = sqlite3_column_text(statement, 3);
+        if (std::memcmp(date, start, 10) != 0) {
+            hours += day;
+            day = 0;
+            std::memcpy(date, start, 10);
+        }
+        day += (MinuteOfDay(end) - MinuteOfDay(start)) / 60.0;
+    }
+    sqlite3_finalize(statement);
+    return hours + day;
+}
+
+std::vector<RawEmployee> RawEmployees(const std::string& path)
+{
+    const Hold hold(path, "");
+    sqlite3_stmt* statement = nullptr;
+    hold.Require(sqlite3_prepare_v2(
+        hold.Get(),
+        "SELECT EmployeeID, SSNumber, FirstName, LastName, Address, Address2, City, State, ZipCode, Phone, EmployeeNumber, "
+        "DateOfBirth, HireDate, ReleaseDate, PayRate, OvertimePayRate, Active, CompanyID, AutoDeduct, AutoDeductLunchLength, "
+        "AutoDeductBreakLength, Password FROM Employee ORDER BY LastName COLLATE NOCASE, FirstName COLLATE NOCASE, EmployeeID",
+        -1, &statement, nullptr));
+    std::vector<RawEmployee> employees;
+    while (sqlite3_step(statement) == SQLITE_ROW) {
+        RawEmployee& employee = employees.emplace_back();
+        employee.id = sqlite3_column_int(statement, 0);
+        employee.payRate = sqlite3_column_double(statement, 14);
+        employee.overtimePayRate = sqlite3_column_double(statement, 15);
+        employee.texts.reserve(20);
+        for (const int column : {1, 2, 3, 4, 5, 6, 7, 8, 9, 11, 12, 13, 21}) {
+            const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
+            employee.texts.emplace_back(text == nullptr ? "" : text);
+        }
+    }
+    sqlite3_finalize(statement);
+    return employees;
+}
+
+void RawSave(const std::string& path, std::int32_t record, const std::string& end)
+{
+    const Hold hold(path, "PRAGMA synchronous=EXTRA");
+    hold.Run(fmt::format("UPDATE TimeRecord SET EndTime = '{}' WHERE TimeRecordID = {}", end, record).c_str());
+    hold.Run("COMMIT");
+}
+
+} // namespace bench

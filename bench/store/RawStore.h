@@ -1,0 +1,31 @@
+// The same work as the program's, written directly against the engine's C interface: what every figure is compared with.
+#pragma once
+
+#include "platform/DateTime.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace bench {
+
+// Opens with the exclusive hold, fetches the period, reads its texts, sums the hours per day, closes. Returns the hours.
+double RawCard(const std::string& path, std::int32_t employee, const std::string& from, const std::string& to);
+
+struct RawEmployee
+{
+    std::int32_t id = 0;
+    std::vector<std::string> texts;
+    double payRate = 0;
+    double overtimePayRate = 0;
+};
+
+// Opens with the exclusive hold, reads every column of every employee in the program's order, closes.
+std::vector<RawEmployee> RawEmployees(const std::string& path);
+
+// Opens with the exclusive hold, moves one record's end, commits to the disk, closes.
+void RawSave(const std::string& path, std::int32_t record, const std::string& end);
+
+std::string StoredText(ptk::DateTime value); // YYYY-MM-DD HH:MM:SS
+
+} // namespace bench
