@@ -1,6 +1,10 @@
 # One interface target carries warnings and sanitizers, so that every target of the project is built alike.
 add_library(ptk_flags INTERFACE)
 target_compile_options(ptk_flags INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+  # GCC 12 raises these two falsely inside std::string and std::variant when it optimises.
+  target_compile_options(ptk_flags INTERFACE -Wno-restrict -Wno-maybe-uninitialized)
+endif()
 
 if(PTK_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
