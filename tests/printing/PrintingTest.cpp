@@ -21,7 +21,7 @@ using namespace std::chrono_literals;
 class PrintingDesktop final : public RecordingDesktop
 {
 public:
-    std::int32_t Shell(const DesktopWindow&, ShellVerb verb, const std::string& path) override { return SystemShell(verb, path); }
+    std::int32_t Shell(const DesktopWindow&, ShellVerb verb, const std::string& path) override { return RunSystemShell(verb, path); }
 };
 
 class PrintScheduler
@@ -106,7 +106,7 @@ protected:
                 if (before.count(file) != 0 || file.extension() != ".pdf")
                     continue;
                 std::this_thread::sleep_for(300ms); // the printer may still be writing it
-                const std::string text = OutputOf("pdftotext -layout '" + file.string() + "' -");
+                const std::string text = OutputOf("pdftotext -fixed 6 '" + file.string() + "' -");
                 std::filesystem::remove(file);
                 return text;
             }
