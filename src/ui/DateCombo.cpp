@@ -4,12 +4,12 @@
 #include "platform/Text.h"
 #include "ui/TypedTime.h"
 
+#include <algorithm>
 #include <QCalendarWidget>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QScreen>
 #include <QVBoxLayout>
-#include <algorithm>
 
 namespace ptk {
 namespace {

@@ -3,15 +3,15 @@
 
 #include "platform/DateTime.h"
 
-#include <QComboBox>
 #include <optional>
+#include <QComboBox>
 
 namespace ptk {
 
 class Clock;
 
-// Takes "3/5" (of this year), "3/5/26", "3/5/2026" and every other form of a date from 1 January 1900 to 31 December 2100, "+" and "-" for the
-// next and the previous day. On leaving, what is a date is shown as mm/dd/yyyy; what is none stays as it was typed.
+// Takes "3/5" (of this year), "3/5/26", "3/5/2026" and every other form of a date from 1 January 1900 to 31 December 2100, "+" and "-" for
+// the next and the previous day. On leaving, what is a date is shown as mm/dd/yyyy; what is none stays as it was typed.
 class DateCombo final : public QComboBox
 {
     Q_OBJECT

@@ -8,8 +8,8 @@ namespace ptk {
 
 class Clock;
 
-// In time mode, the first one, 830, 0830, 8.30, 8:30, 830a, 5p and 17 become a time in the display format; in date mode dates are taken as a
-// DateCombo takes them. What is neither stays as it was typed. Empty is allowed.
+// In time mode, the first one, 830, 0830, 8.30, 8:30, 830a, 5p and 17 become a time in the display format; in date mode dates are taken as
+// a DateCombo takes them. What is neither stays as it was typed. Empty is allowed.
 class DateTimeBox final : public QLineEdit
 {
     Q_OBJECT
@@ -25,7 +25,8 @@ public:
     void Clear();
 
 signals:
-    // By the user only: on a keystroke that leaves a readable text, and on leaving or Enter when the text has become unreadable or empty since.
+    // By the user only: on a keystroke that leaves a readable text, and on leaving or Enter when the text has become unreadable or empty
+    // since.
     void Changed();
     void KeyEntered(); // on every keystroke that alters the text
 

@@ -46,9 +46,7 @@ void PrepareTyping(QComboBox& box, QAbstractItemModel* model, int column)
 
 } // namespace
 
-EmployeeTable::EmployeeTable(int firstColumn, int columns) : m_firstColumn(firstColumn), m_columns(columns)
-{
-}
+EmployeeTable::EmployeeTable(int firstColumn, int columns) : m_firstColumn(firstColumn), m_columns(columns) {}
 
 void EmployeeTable::SetRows(std::vector<std::shared_ptr<CEmployee>> rows)
 {

@@ -1,8 +1,8 @@
 // The employees behind every list and box of the main window: one model for all of them, reading the entities as they are asked for.
 #pragma once
 
-#include <QAbstractTableModel>
 #include <memory>
+#include <QAbstractTableModel>
 #include <vector>
 
 class QComboBox;
@@ -55,8 +55,8 @@ private:
     EmployeeTable m_offered{employeecolumn::Name, 1};
 };
 
-// Puts a column of a model behind a box, without a selection: opens at once with ten thousand rows, finds by typing, never adds what is typed
-// to its list, and is at least `characters` wide whatever the rows hold.
+// Puts a column of a model behind a box, without a selection: opens at once with ten thousand rows, finds by typing, never adds what is
+// typed to its list, and is at least `characters` wide whatever the rows hold.
 void ShowColumn(QComboBox& box, QAbstractItemModel* model, int column, int characters);
 
 } // namespace ptk

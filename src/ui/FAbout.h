@@ -1,8 +1,8 @@
 // The About box.
 #pragma once
 
-#include <QDialog>
 #include <memory>
+#include <QDialog>
 
 namespace Ui {
 class FAbout;

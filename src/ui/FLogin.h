@@ -3,8 +3,8 @@
 
 #include "shell/startup/Windows.h"
 
-#include <QDialog>
 #include <memory>
+#include <QDialog>
 #include <string>
 
 namespace Ui {
@@ -24,7 +24,7 @@ public:
     explicit FLogin(ptk::Desktop& desktop);
     ~FLogin() override;
 
-    void ConfigFile(std::shared_ptr<CFileAdaptor> value) override;     // raises Failure 91 for nullptr, 13 when ShowLoginHelp is no boolean
+    void ConfigFile(std::shared_ptr<CFileAdaptor> value) override; // raises Failure 91 for nullptr, 13 when ShowLoginHelp is no boolean
     void EmployeeList(std::shared_ptr<CEmployeeList> value) override;
     void ShowModal() override;
     bool LoginValid() const override { return m_loginValid; }

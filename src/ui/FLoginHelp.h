@@ -1,8 +1,8 @@
 // Tells a first-time user the name and password of the administrator's account.
 #pragma once
 
-#include <QDialog>
 #include <memory>
+#include <QDialog>
 
 namespace Ui {
 class FLoginHelp;

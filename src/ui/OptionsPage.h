@@ -1,8 +1,8 @@
 // The Options page: the length of a pay period and the times of the automatic shift.
 #pragma once
 
-#include <QWidget>
 #include <memory>
+#include <QWidget>
 
 namespace Ui {
 class OptionsPage;
@@ -22,8 +22,8 @@ public:
     ~OptionsPage() override;
 
     bool DisplaySystemOptions(const std::shared_ptr<CSystemOptions>& options); // false for nullptr
-    bool SaveSystemOptions();    // without a message; false also for any failure
-    bool RestoreSystemOptions(); // shows the controller's options again
+    bool SaveSystemOptions();                                                  // without a message; false also for any failure
+    bool RestoreSystemOptions();                                               // shows the controller's options again
 
 private:
     void Apply();

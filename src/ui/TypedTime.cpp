@@ -9,7 +9,12 @@
 namespace ptk {
 namespace {
 
-enum class Half { None, Am, Pm };
+enum class Half
+{
+    None,
+    Am,
+    Pm
+};
 
 bool IsDigit(char c)
 {

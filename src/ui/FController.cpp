@@ -1,0 +1,324 @@
+#include "ui/FController.h"
+
+#include "model/CCompanyList.h"
+#include "model/CEmployeeList.h"
+#include "model/CTimeCard.h"
+#include "shell/CDocLauncher.h"
+#include "shell/startup/CController.h"
+#include "ui/CompanyPage.h"
+#include "ui/ElidedLabel.h"
+#include "ui/EmployeePage.h"
+#include "ui/FAbout.h"
+#include "ui/OptionsPage.h"
+#include "ui/ReportsPage.h"
+#include "ui/ThemeIcon.h"
+#include "ui/TimeCardPage.h"
+#include "ui/WindowPlace.h"
+#include "ui_FController.h"
+
+#include <array>
+#include <QCloseEvent>
+#include <QGroupBox>
+#include <QScrollArea>
+#include <QShortcut>
+#include <QThread>
+
+namespace ptk {
+namespace {
+
+struct Tab
+{
+    const char* caption;
+    const char* pageCaption;
+    const char* statusText;
+    const char* icon;
+};
+
+constexpr std::array<Tab, 5> kTabs{{
+    {"Timecards", " Generate Time Card ", "Timecards", "timecards"},
+    {"Reports", " Generate Report ", "Reports", "reports"},
+    {"Employees", "  Employee Information  ", "Employee Information", "employees"},
+    {"Company", "  Company Information   ", "Company Information", "company"},
+    {"Options", " General Program Options ", "System Options", "options"},
+}};
+constexpr int kTabCount = static_cast<int>(kTabs.size());
+constexpr int kTimeCardTab = 1;
+
+constexpr auto kProgramPanel = "PTK - Administrator";
+constexpr auto kFirstStatus = "<object name : ID>";
+
+constexpr auto kOptionsTitle = "Update Options Error";
+constexpr auto kOptionsText = "An error occurred while saving program options. Please check the program options on next use.";
+constexpr auto kGuidePath = "\\documentation\\PTKAdminUserGuide.doc";
+constexpr auto kGuideTitle = "User's Guide Open Error";
+constexpr auto kGuideText = "File: ...\\documentation\\PTKAdminUserGuide.doc\r\n"
+                            "The path to the User's Guide is invalid or not able to be opened by Windows.";
+
+constexpr auto kPlaceName = "main";
+constexpr QSize kFirstSize(960, 660);
+
+const Tab& TabAt(int index)
+{
+    return kTabs.at(static_cast<std::size_t>(index - 1));
+}
+
+} // namespace
+
+FController::FController(std::string programFolder, ptk::Desktop& desktop, const ptk::Clock& clock)
+    : m_ui(std::make_unique<Ui::FController>()), m_programFolder(std::move(programFolder)), m_desktop(desktop), m_clock(clock),
+      m_employeeModels(std::make_unique<ptk::EmployeeModels>()), m_reports(std::make_unique<OpenReports>(*this, m_programFolder))
+{
+    m_ui->setupUi(this);
+    setWindowIcon(ThemeIcon("ptk-admin"));
+    BuildPages();
+    BuildStatusBar();
+    ConnectMenus();
+    ConnectTabs();
+    RestorePlace(*this, kPlaceName, kFirstSize);
+}
+
+// The pages go first: they still show the models.
+FController::~FController()
+{
+    delete takeCentralWidget();
+}
+
+void FController::BuildPages()
+{
+    AddPage(1, m_timeCardPage = new TimeCardPage(*this));
+    AddPage(2, m_reportsPage = new ReportsPage(*this));
+    AddPage(3, m_employeePage = new EmployeePage(*this));
+    AddPage(4, m_companyPage = new CompanyPage(*this));
+    AddPage(5, m_optionsPage = new OptionsPage(*this));
+}
+
+// A page scrolls where the screen is too small for it, so that nothing is ever cut off.
+void FController::AddPage(int index, QWidget* page)
+{
+    const Tab& tab = TabAt(index);
+    auto* frame = new QGroupBox(tab.pageCaption);
+    frame->setObjectName(QString("FrameArray(%1)").arg(index));
+    auto* scroll = new QScrollArea;
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidgetResizable(true);
+    scroll->setFocusPolicy(Qt::NoFocus);
+    scroll->setWidget(page);
+    (new QVBoxLayout(frame))->addWidget(scroll);
+    m_ui->pages->addWidget(frame);
+    m_ui->TabStrip->addTab(ThemeIcon(tab.icon), tab.caption);
+}
+
+void FController::BuildStatusBar()
+{
+    auto* program = new QLabel(kProgramPanel);
+    program->setObjectName("StatusBarPanel1");
+    m_statusText = new ElidedLabel(kFirstStatus);
+    m_statusText->setObjectName("StatusBarPanel2");
+    m_ui->StatusBar->addWidget(program);
+    m_ui->StatusBar->addWidget(m_statusText, 1);
+}
+
+void FController::ConnectMenus()
+{
+    m_ui->mnuFileExit->setIcon(ThemeIcon("exit"));
+    m_ui->mnuHelpAbout->setIcon(ThemeIcon("about"));
+    m_ui->mnuHelpContents->setIcon(ThemeIcon("guide"));
+    connect(m_ui->mnuFileExit, &QAction::triggered, this, &FController::Exit);
+    connect(m_ui->mnuHelpAbout, &QAction::triggered, this, &FController::About);
+    connect(m_ui->mnuHelpContents, &QAction::triggered, this, &FController::UsersGuide);
+}
+
+// A click counts also when it does not move the selection: the first one on the first tab does.
+void FController::ConnectTabs()
+{
+    QTabBar* strip = m_ui->TabStrip;
+    const auto change = [this](int tab) {
+        if (tab >= 0)
+            ChangeTab(tab + 1);
+    };
+    connect(strip, &QTabBar::tabBarClicked, this, change);
+    connect(strip, &QTabBar::currentChanged, this, change);
+    const auto turn = [strip](int step) { strip->setCurrentIndex((strip->currentIndex() + step + kTabCount) % kTabCount); };
+    connect(new QShortcut(QKeySequence("Ctrl+PgDown"), this), &QShortcut::activated, strip, [turn] { turn(1); });
+    connect(new QShortcut(QKeySequence("Ctrl+PgUp"), this), &QShortcut::activated, strip, [turn] { turn(-1); });
+}
+
+void FController::Controller(std::shared_ptr<CController> value)
+{
+    m_controller = std::move(value);
+    Load();
+    if (m_controller == nullptr) {
+        m_errorNumber = windowerror::NoController;
+    } else {
+        InitializeTabPages();
+        if (FillTabLists())
+            ShowFirstRecords();
+        else
+            m_errorNumber = windowerror::FillListsFailed;
+        m_timeCardPage->EnablePrint();
+        m_reportsPage->EnableGenerate();
+    }
+    show();
+}
+
+void FController::Load()
+{
+    if (std::exchange(m_loaded, true))
+        return;
+    ShowTabPage(kTimeCardTab);
+    m_timeCard = nullptr;
+    m_reports->Clear(false);
+    m_timeCardPage->InitializePayPeriod();
+}
+
+bool FController::InitializeTabPages()
+{
+    const bool company = m_companyPage->ClearCompanyFields();
+    const bool employee = m_employeePage->ClearEmployeeFields();
+    const bool timeCard = m_timeCardPage->ClearTimeCardDisplay();
+    if (!company || !employee || !timeCard)
+        m_errorNumber = windowerror::ClearFieldsFailed;
+    return true;
+}
+
+bool FController::FillTabLists()
+{
+    try {
+        const bool companies = m_companyPage->FillCompanyLists();
+        const bool employees = m_employeePage->FillEmployeeLists();
+        const bool reports = m_reportsPage->FillReportList();
+        if (!companies || !employees || !reports)
+            m_errorNumber = windowerror::FillListsFailed;
+        return true;
+    } catch (...) {
+        return false;
+    }
+}
+
+void FController::ShowFirstRecords()
+{
+    m_companyPage->ShowCompany(m_controller->CompanyList()->Item(1));
+    if (!m_employeePage->ShowEmployee(m_controller->EmployeeList()->Item(1)))
+        m_timeCardPage->SelectFirstEmployee();
+    m_reportsPage->SelectFirstReport();
+}
+
+bool FController::DisplaySystemOptions(std::shared_ptr<CSystemOptions> options)
+{
+    return m_optionsPage->DisplaySystemOptions(options);
+}
+
+bool FController::ReturnTimeRecord(const std::shared_ptr<CTimeRecord>& thetimerecord)
+{
+    return m_timeCardPage->ReturnTimeRecord(thetimerecord);
+}
+
+bool FController::FillEmployeeLists()
+{
+    try {
+        m_employeeModels->SetEmployees(m_controller->EmployeeList());
+        return true;
+    } catch (...) {
+        return false;
+    }
+}
+
+bool FController::SetStatusText(const std::string& name, const std::string& identifier)
+{
+    m_statusText->setText(QString::fromStdString(name + " : " + identifier));
+    return true;
+}
+
+void FController::ChangeTab(int index)
+{
+    if (index == m_lastTab)
+        return;
+    if (ShowTabPage(index))
+        m_statusText->setText(TabAt(index).statusText);
+    else
+        m_errorNumber = windowerror::ShowPageFailed;
+    m_lastTab = static_cast<std::int16_t>(index);
+}
+
+bool FController::ShowTabPage(int index)
+{
+    m_ui->pages->setCurrentIndex(index - 1);
+    return m_ui->pages->currentIndex() == index - 1;
+}
+
+void FController::About()
+{
+    FAbout(this).exec();
+}
+
+void FController::UsersGuide()
+{
+    CDocLauncher launcher(m_desktop);
+    if (!launcher.DisplayDocument(this, m_programFolder + kGuidePath) && launcher.ErrorNumber() == docerror::DocumentNotFound)
+        m_desktop.Show(kGuideText, kGuideTitle, Icon::Exclamation);
+}
+
+// Unloading the window, in the middle of this, runs the whole close path once more; all of it is harmless when repeated.
+void FController::Exit()
+{
+    CloseDown(true);
+}
+
+void FController::Unload()
+{
+    if (m_closing)
+        hide();
+    else
+        close();
+}
+
+void FController::CloseDown(bool keepReview)
+{
+    if (!m_optionsPage->SaveSystemOptions())
+        m_desktop.Show(kOptionsText, kOptionsTitle, Icon::Exclamation);
+    m_timeCard = nullptr;
+    m_reports->Clear(keepReview);
+    const auto controller = m_controller;
+    if (controller == nullptr)
+        return;
+    controller->UnloadControllerWindow();
+    controller->Cleanup();
+}
+
+bool FController::IsBusyInDialog() const
+{
+    return QApplication::activeModalWidget() != nullptr || QThread::currentThread()->loopLevel() > 1;
+}
+
+// A window that is told to close while one of its editors is open, by the end of the desktop's session for instance, closes the editor
+// first and itself when the editor's caller has returned.
+void FController::closeEvent(QCloseEvent* event)
+{
+    if (IsBusyInDialog()) {
+        event->ignore();
+        if (QWidget* editor = QApplication::activeModalWidget())
+            editor->close();
+        QTimer::singleShot(0, this, &FController::close);
+        return;
+    }
+    event->accept();
+    if (std::exchange(m_closing, true))
+        return;
+    StorePlace(*this, kPlaceName);
+    CloseDown(false);
+}
+
+// Enter anywhere on a page presses the button that is meant most there, as in a dialog.
+void FController::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
+        return QMainWindow::keyPressEvent(event);
+    auto* focused = qobject_cast<QPushButton*>(focusWidget());
+    if (focused != nullptr)
+        return focused->click();
+    for (auto* button : m_ui->pages->currentWidget()->findChildren<QPushButton*>())
+        if (button->isDefault() && button->isEnabled())
+            return button->click();
+}
+
+} // namespace ptk

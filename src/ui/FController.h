@@ -1,0 +1,121 @@
+// The main window: menus, tab strip, status bar and the frame around the five pages.
+#pragma once
+
+#include "platform/Desktop.h"
+#include "shell/startup/Windows.h"
+#include "ui/EmployeeModels.h"
+#include "ui/OpenReports.h"
+#include "ui/PageHost.h"
+
+#include <memory>
+#include <QMainWindow>
+#include <string>
+
+class QLabel;
+
+namespace Ui {
+class FController;
+}
+
+namespace ptk {
+
+class CompanyPage;
+class CTimeRecord;
+class EmployeePage;
+class OptionsPage;
+class ReportsPage;
+class TimeCardPage;
+
+// Error numbers of the main window.
+namespace windowerror {
+inline constexpr std::int32_t NoController = 211;
+inline constexpr std::int32_t FillListsFailed = 221;
+inline constexpr std::int32_t ShowPageFailed = 281;
+inline constexpr std::int32_t ClearFieldsFailed = 283;
+} // namespace windowerror
+
+// Must not be destroyed from within its own closing steps, in which the controller lets go of it: delete it later.
+class FController final : public QMainWindow, public MainWindow, public PageHost, public DesktopWindow
+{
+    Q_OBJECT
+
+public:
+    FController(std::string programFolder, ptk::Desktop& desktop, const ptk::Clock& clock);
+    ~FController() override;
+
+    std::int32_t ErrorNumber() const { return m_errorNumber; }
+    std::shared_ptr<CController> Controller() const override { return m_controller; }
+    void Controller(std::shared_ptr<CController> value) override;
+    bool DisplaySystemOptions(std::shared_ptr<CSystemOptions> options) override; // into the Options page
+    bool ReturnTimeRecord(const std::shared_ptr<CTimeRecord>& thetimerecord);    // the editor's way back; always true
+    bool UnloadTimeCardReport() { return m_reports->UnloadTimeCardReport(); }
+    bool UnloadReviewReport() { return m_reports->UnloadReviewReport(); }
+    bool UnloadYTDTotalsReport() { return m_reports->UnloadYTDTotalsReport(); }
+    bool UnloadEmployeeReport() { return m_reports->UnloadEmployeeReport(); }
+    bool UnloadPhoneBookReport() { return m_reports->UnloadPhoneBookReport(); }
+
+    void Unload() override;
+    std::uintptr_t WindowHandle() const override { return static_cast<std::uintptr_t>(winId()); }
+
+    ptk::Desktop& Desktop() const override { return m_desktop; }
+    const ptk::Clock& Clock() const override { return m_clock; }
+    const DesktopWindow& AsDesktopWindow() const override { return *this; }
+    bool SetStatusText(const std::string& name, const std::string& identifier) override;
+    void ErrorNumber(std::int32_t value) override { m_errorNumber = value; }
+    std::int32_t EventSource() const override { return m_eventSource; }
+    void EventSource(std::int32_t value) override { m_eventSource = value; }
+    std::shared_ptr<CTimeCard> TimeCard() const override { return m_timeCard; }
+    void TimeCard(std::shared_ptr<CTimeCard> value) override { m_timeCard = std::move(value); }
+    ptk::EmployeeModels& EmployeeModels() const override { return *m_employeeModels; }
+    bool FillEmployeeLists() override;
+    OpenReports& Reports() const override { return *m_reports; }
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void BuildPages();
+    void AddPage(int index, QWidget* page);
+    void BuildStatusBar();
+    void ConnectMenus();
+    void ConnectTabs();
+
+    void Load();
+    bool InitializeTabPages();
+    bool FillTabLists();
+    void ShowFirstRecords();
+
+    void ChangeTab(int index);
+    bool ShowTabPage(int index);
+
+    void Exit();
+    void About();
+    void UsersGuide();
+    void CloseDown(bool keepReview);
+    bool IsBusyInDialog() const;
+
+    std::unique_ptr<Ui::FController> m_ui;
+    std::string m_programFolder;
+    ptk::Desktop& m_desktop;
+    const ptk::Clock& m_clock;
+    std::unique_ptr<ptk::EmployeeModels> m_employeeModels;
+    std::unique_ptr<OpenReports> m_reports;
+
+    std::shared_ptr<CController> m_controller;
+    std::int16_t m_lastTab = 0; // chosen on the tab strip, 1 to 5; 0 before the first choice
+    std::int32_t m_errorNumber = 0;
+    std::int32_t m_eventSource = eventsource::None;
+    std::shared_ptr<CTimeCard> m_timeCard;
+    bool m_loaded = false;
+    bool m_closing = false;
+
+    TimeCardPage* m_timeCardPage = nullptr; // the pages belong to the window's widgets
+    ReportsPage* m_reportsPage = nullptr;
+    EmployeePage* m_employeePage = nullptr;
+    CompanyPage* m_companyPage = nullptr;
+    OptionsPage* m_optionsPage = nullptr;
+    QLabel* m_statusText = nullptr;
+};
+
+} // namespace ptk

@@ -1,0 +1,28 @@
+#include "ui/QtWindowFactory.h"
+
+#include "ui/FController.h"
+#include "ui/FLogin.h"
+
+namespace ptk {
+namespace {
+
+constexpr auto kDeleteLater = [](QObject* window) { window->deleteLater(); };
+
+} // namespace
+
+QtWindowFactory::QtWindowFactory(std::string programFolder, Desktop& desktop, const Clock& clock)
+    : m_programFolder(std::move(programFolder)), m_desktop(desktop), m_clock(clock)
+{
+}
+
+std::shared_ptr<LoginWindow> QtWindowFactory::CreateLoginWindow()
+{
+    return std::shared_ptr<FLogin>(new FLogin(m_desktop), kDeleteLater);
+}
+
+std::shared_ptr<MainWindow> QtWindowFactory::CreateMainWindow()
+{
+    return std::shared_ptr<FController>(new FController(m_programFolder, m_desktop, m_clock), kDeleteLater);
+}
+
+} // namespace ptk

@@ -1,0 +1,29 @@
+// Makes the program's windows for the start-up.
+#pragma once
+
+#include "shell/startup/Windows.h"
+
+#include <string>
+
+namespace ptk {
+
+class Clock;
+class Desktop;
+
+// Windows of its making are deleted by the event loop, once nothing on the stack uses them any more. The desktop and the clock must outlive
+// them.
+class QtWindowFactory final : public WindowFactory
+{
+public:
+    QtWindowFactory(std::string programFolder, Desktop& desktop, const Clock& clock);
+
+    std::shared_ptr<LoginWindow> CreateLoginWindow() override;
+    std::shared_ptr<MainWindow> CreateMainWindow() override;
+
+private:
+    std::string m_programFolder;
+    Desktop& m_desktop;
+    const Clock& m_clock;
+};
+
+} // namespace ptk
