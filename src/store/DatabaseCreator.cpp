@@ -24,7 +24,7 @@ public:
     {
         const int file = mkstemp(m_path.data()); // for the owner's eyes only from the first byte
         if (file == -1) {
-            throw Failure::FromErrno(errno);
+            throw errno == ENOENT ? Failure(failure::PathNotFound) : Failure::FromErrno(errno);
         }
         close(file);
     }
