@@ -1,0 +1,27 @@
+#include "console/Arguments.h"
+#include "console/Commands.h"
+#include "console/Console.h"
+#include "console/ErrorText.h"
+#include "console/Session.h"
+#include "platform/ProgramFolder.h"
+#include "shell/CDatabaseLocator.h"
+#include "store/DatabaseChecker.h"
+
+namespace ptk {
+
+int CheckCommand(const CheckArguments&, Console& console)
+{
+    const std::string path = NativePath(LocateDatabase(console.programFolder)->DatabasePath()).string();
+    const DatabaseCheck check = CheckDatabase(path);
+    console.out << "database: " << path << '\n'
+                << "Company: " << check.companies << '\n'
+                << "Employee: " << check.employees << '\n'
+                << "TimeRecord: " << check.timeRecords << '\n';
+    for (const std::string& problem : check.problems)
+        console.out << "problem: " << problem << '\n';
+    if (!check.problems.empty())
+        throw Failure(0, "PTK", "the database has problems: " + std::to_string(check.problems.size()));
+    return status::Done;
+}
+
+} // namespace ptk

@@ -1,0 +1,44 @@
+#include "console/Arguments.h"
+#include "console/Commands.h"
+#include "console/Console.h"
+#include "console/SampleBusiness.h"
+#include "console/Session.h"
+#include "platform/Clock.h"
+#include "platform/ProgramFolder.h"
+#include "shell/CDatabaseLocator.h"
+#include "store/BulkWriter.h"
+#include "store/DatabaseCreator.h"
+
+namespace ptk {
+
+namespace {
+
+void AddSampleBusiness(BulkWriter& writer, DateTime today)
+{
+    std::vector<std::int32_t> companies;
+    for (const CompanyRow& company : SampleCompanies())
+        companies.push_back(writer.AddCompany(company));
+    for (SampleEmployee& employee : SampleEmployees(today)) {
+        employee.row.CompanyID = companies.at(static_cast<std::size_t>(employee.row.CompanyID - 1));
+        const std::int32_t employeeID = writer.AddEmployee(employee.row);
+        for (const TimeRecordRow& shift : SampleShifts(employee, employeeID, today))
+            writer.AddTimeRecord(shift);
+    }
+}
+
+} // namespace
+
+int CreateDatabaseCommand(const CreateDatabaseArguments& arguments, Console& console)
+{
+    const std::string path = NativePath(LocateDatabase(console.programFolder)->DatabasePath()).string();
+    if (arguments.sample) {
+        const DateTime today = arguments.today.value_or(console.clock.Today());
+        CreateDatabase(path, [today](BulkWriter& writer) { AddSampleBusiness(writer, today); });
+    } else {
+        CreateDatabase(path);
+    }
+    console.out << "created: " << path << '\n';
+    return status::Done;
+}
+
+} // namespace ptk

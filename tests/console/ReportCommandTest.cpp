@@ -1,0 +1,138 @@
+#include "console/ConsoleFixture.h"
+
+#include "store/CJetDB.h"
+
+#include <filesystem>
+
+namespace ptk {
+
+namespace {
+
+// On the sample business at 3/20/2026: the offered pay period is 3/15 to 3/29.
+class ReportCommandTest : public ConsoleTest
+{
+protected:
+    void SetUp() override { ASSERT_EQ(Run({"create-database", "--sample"}).status, 0); }
+
+    std::string Report(const std::string& name) const { return ReadBytes((Folder() / "reports" / name).string()); }
+
+    // What `err` says of the files written, in order.
+    std::string Written(const std::vector<std::string>& names) const
+    {
+        std::string lines;
+        for (const std::string& name : names)
+            lines += "ptk-console: written: " + (Folder() / "reports" / name).string() + "\n";
+        return lines;
+    }
+
+    static std::string WithLineFeeds(std::string text)
+    {
+        std::erase(text, '\r');
+        return text;
+    }
+};
+
+TEST_F(ReportCommandTest, WritesEachReportForTheTabsEmployeesAndDates)
+{
+    struct Case
+    {
+        std::vector<std::string> words;
+        const char* file;
+        const char* title;
+    };
+    for (const Case& c : {
+             Case{{"timecard", "--employee", "Ann Lee"},
+                  "101_0315_0329_2026_time_card.txt",
+                  "Employee Time Card : Ann Lee : 3/15/2026 - 3/28/2026"},
+             Case{{"review"}, "salary_review_0315_0329_2026.txt", "Accountant's Review : 3/15/2026 - 3/29/2026"},
+             Case{{"ytd", "--employee", "Ann Lee"},
+                  "101_0101_0320_2026_ytd_totals.txt",
+                  "Employee Year-To-Date Totals : Ann Lee : 1/1/2026 - 3/20/2026"},
+             Case{{"employees"}, "employee_records.txt", "Employee Records"},
+             Case{{"phonebook"}, "phone_book.txt", "Employee Phone Book"},
+         }) {
+        SCOPED_TRACE(c.words.front());
+        std::vector<std::string> words{"report"};
+        words.insert(words.end(), c.words.begin(), c.words.end());
+        const Answer answer = Run(words);
+        EXPECT_EQ(answer.status, 0);
+        EXPECT_EQ(answer.err, Written({c.file}));
+        EXPECT_TRUE(answer.out.starts_with(std::string(c.title) + "\n")) << answer.out.substr(0, 100);
+        EXPECT_EQ(answer.out, WithLineFeeds(Report(c.file)));
+    }
+    for (const char* text : {"Peter", "administrator"}) // neither is offered on the page
+        EXPECT_EQ(Report("employee_records.txt").find(text), std::string::npos) << text;
+}
+
+TEST_F(ReportCommandTest, TakesTheDatesGivenAndMovesTheEndWithTheStart)
+{
+    struct Case
+    {
+        std::vector<std::string> words;
+        const char* file;
+    };
+    for (const Case& c : {
+             Case{{"--from", "3/1/2026"}, "salary_review_0301_0315_2026.txt"},
+             Case{{"--from", "3/1/2026", "--to", "3/8/2026"}, "salary_review_0301_0308_2026.txt"},
+             Case{{"--to", "3/20/2026"}, "salary_review_0315_0320_2026.txt"},
+         }) {
+        SCOPED_TRACE(c.file);
+        std::vector<std::string> words{"report", "review", "--employee", "Ann Lee"};
+        words.insert(words.end(), c.words.begin(), c.words.end());
+        EXPECT_EQ(Run(words).err, Written({c.file}));
+    }
+    EXPECT_EQ(Run({"report", "ytd", "--employee", "Ann Lee", "--from", "2/1/2026", "--to", "3/1/2026"}).err,
+              Written({"101_0201_0301_2026_ytd_totals.txt"}));
+}
+
+TEST_F(ReportCommandTest, KeepsTheOrderAndAnEmptyLineBetweenReports)
+{
+    const Answer answer = Run({"report", "timecard", "--employee", "Yuki Tanaka", "--employee", "Ann Lee"});
+    EXPECT_EQ(answer.status, 0);
+    EXPECT_EQ(answer.err, Written({"201_0315_0329_2026_time_card.txt", "101_0315_0329_2026_time_card.txt"}));
+    EXPECT_EQ(answer.out, WithLineFeeds(Report("201_0315_0329_2026_time_card.txt") + "\n" + Report("101_0315_0329_2026_time_card.txt")));
+}
+
+TEST_F(ReportCommandTest, AFailedReportIsToldAndTheOthersStillCome)
+{
+    const Answer answer = Run({"report", "timecard", "--employee", "Peter Lindqvist", "--employee", "Ann Lee"});
+    EXPECT_EQ(answer.status, 1);
+    EXPECT_EQ(answer.err, Written({"106_0315_0329_2026_time_card.txt"}) +
+                              "ptk-console: 605: there are no time records in this period: "
+                              "Employee Time Card : Peter Lindqvist : 3/15/2026 - 3/28/2026\n" +
+                              Written({"101_0315_0329_2026_time_card.txt"}));
+
+    const Answer unknown = Run({"report", "ytd", "--employee", "Ann Lee", "--employee", "Nobody"});
+    EXPECT_EQ(unknown.status, 1);
+    EXPECT_EQ(unknown.err, "ptk-console: 602: no employee has this name: Nobody\n");
+    EXPECT_EQ(unknown.out, "");
+}
+
+TEST_F(ReportCommandTest, AFileThatCannotBeWrittenWholeIsAFailure)
+{
+    std::filesystem::create_symlink("/dev/full", Folder() / "reports" / "phone_book.txt");
+    const Answer full = Run({"report", "phonebook"});
+    EXPECT_EQ(full.status, 1);
+    EXPECT_EQ(full.err, Written({"phone_book.txt"}) +
+                            "ptk-console: 702: a line of the report could not be written to its file: Employee Phone Book\n");
+
+    std::filesystem::remove_all(Folder() / "reports");
+    const Answer missing = Run({"report", "employees"});
+    EXPECT_EQ(missing.status, 1);
+    EXPECT_TRUE(missing.err.starts_with("ptk-console: 503: ")) << missing.err;
+    EXPECT_EQ(missing.out, "");
+}
+
+TEST_F(ReportCommandTest, TheDatesOfReportsNeedTheOptions)
+{
+    CJetDB database(m_folder.Path());
+    ASSERT_TRUE(database.ExecuteAction("DELETE FROM _System"));
+    const Answer review = Run({"report", "review"});
+    EXPECT_EQ(review.status, 1);
+    EXPECT_TRUE(review.err.starts_with("ptk-console: 3021: ")) << review.err;
+    EXPECT_EQ(Run({"report", "employees"}).status, 0);
+}
+
+} // namespace
+
+} // namespace ptk
