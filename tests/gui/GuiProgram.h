@@ -1,0 +1,114 @@
+// The whole program with its real windows, on a real database in a temporary folder; only message boxes and the shell are recorded.
+#pragma once
+
+#include "platform/ProgramFolder.h"
+#include "shell/startup/AdminMain.h"
+#include "shell/startup/CController.h"
+#include "store/DatabaseCreator.h"
+#include "support/Files.h"
+#include "support/FixedClock.h"
+#include "support/RecordingDesktop.h"
+#include "support/TemporaryFolder.h"
+#include "ui/FController.h"
+#include "ui/QtWindowFactory.h"
+
+#include <functional>
+#include <QtWidgets>
+#include <stdexcept>
+#include <string>
+
+namespace ptk {
+
+// The control of that name; a missing one ends the test with its name.
+template <typename Control = QWidget>
+Control& Find(const QWidget& window, const QString& name)
+{
+    auto* control = window.findChild<Control*>(name);
+    if (control == nullptr)
+        throw std::runtime_error("no such control: " + name.toStdString());
+    return *control;
+}
+
+// What a user does in the next modal window, run as soon as it is up. It is to end with the window closed; one left open is rejected.
+class ModalScript
+{
+public:
+    explicit ModalScript(std::function<void(QDialog&)> script) : m_script(std::move(script))
+    {
+        QObject::connect(&m_timer, &QTimer::timeout, [this] { Look(); });
+        m_timer.start(0);
+    }
+
+    bool WasRun() const { return m_run; }
+    bool LeftOpen() const { return m_leftOpen; }
+
+private:
+    void Look()
+    {
+        const QPointer<QDialog> dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (dialog == nullptr || !dialog->isVisible())
+            return;
+        m_run = true;
+        m_timer.stop();
+        m_script(*dialog);
+        m_leftOpen = dialog != nullptr && dialog->isVisible();
+        if (m_leftOpen)
+            dialog->reject();
+    }
+
+    std::function<void(QDialog&)> m_script;
+    QTimer m_timer;
+    bool m_run = false;
+    bool m_leftOpen = false;
+};
+
+// Today is Wednesday, 5 March 2003, 8:05:09 AM unless the test sets the clock before Start.
+class GuiProgram
+{
+public:
+    explicit GuiProgram(const std::function<void(BulkWriter&)>& fill = {})
+    {
+        WriteBytes(configPath, "[PTK]\r\nDatabasePath=<app.path>\\system\\ptk_11.mdb\r\nShowLoginHelp=True\r\n");
+        CreateDatabase(NativePath(databasePath).string(), fill);
+    }
+
+    ~GuiProgram()
+    {
+        if (m_main.Controller() != nullptr)
+            m_main.Controller()->UnloadControllerWindow();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    GuiProgram(const GuiProgram&) = delete;
+    GuiProgram& operator=(const GuiProgram&) = delete;
+
+    void Start() { m_main.Start(); }
+
+    // Start, with the administrator's account typed into the login.
+    void LogIn()
+    {
+        const ModalScript login([](QDialog& window) {
+            Find<QLineEdit>(window, "txtName").setText("administrator");
+            Find<QLineEdit>(window, "txtPassword").setText("wharf271");
+            Find<QPushButton>(window, "cmdLogin").click();
+        });
+        Start();
+    }
+
+    std::shared_ptr<CController> Controller() const { return m_main.Controller(); } // nullptr after the end routine
+    FController& Main() const { return dynamic_cast<FController&>(*Controller()->ControllerWindow()); }
+
+    TemporaryFolder folder;
+    std::string configPath = folder.Path() + "\\system\\ptk_11.cfg";
+    std::string databasePath = folder.Path() + "\\system\\ptk_11.mdb";
+    std::string logPath = folder.Path() + "\\system\\errorlog.txt";
+    RecordingDesktop desktop;
+    FixedClock clock;
+    int ended = 0; // how often the end routine ran
+
+private:
+    QtWindowFactory m_windows{folder.Path(), desktop, clock};
+    AdminMain m_main{folder.Path(), desktop, clock, m_windows, [this] { ++ended; }};
+};
+
+} // namespace ptk
