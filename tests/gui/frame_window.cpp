@@ -1,0 +1,237 @@
+// The frame of the main window: menus, tabs, status bar, options and the ways out.
+#include "gui/GuiFixture.h"
+#include "store/CSystemOptions.h"
+#include "ui/DateTimeBox.h"
+
+namespace ptk {
+namespace {
+
+using Boxes = std::vector<ShownBox>;
+const ShownBox kNotApplied{"An error occurred while updating the system options in the database.", "Update Options Error",
+                           Icon::Exclamation, Buttons::Ok};
+const ShownBox kNotSaved{"An error occurred while saving program options. Please check the program options on next use.",
+                         "Update Options Error", Icon::Exclamation, Buttons::Ok};
+const ShownBox kNoGuide{"File: ...\\documentation\\PTKAdminUserGuide.doc\r\n"
+                        "The path to the User's Guide is invalid or not able to be opened by Windows.",
+                        "User's Guide Open Error", Icon::Exclamation, Buttons::Ok};
+
+const DateTime kMidnight;
+const DateTime kEight({}, {8, 0, 0});
+const DateTime kFive({}, {17, 0, 0});
+
+class MainWindowTest : public testing::Test
+{
+protected:
+    void SetUp() override { program.LogIn(); }
+
+    FController& Main() { return program.Main(); }
+    CSystemOptions& Options() { return *program.Controller()->SystemOptions(); }
+    DateTimeBox& StartTime() { return Find<DateTimeBox>(Main(), "dttbAutoShiftStartTime"); }
+    DateTimeBox& EndTime() { return Find<DateTimeBox>(Main(), "dttbAutoShiftEndTime"); }
+    QLineEdit& Length() { return Find<QLineEdit>(Main(), "txtPeriodLength"); }
+    bool IsShown(int page) { return Find(Main(), QString("FrameArray(%1)").arg(page)).isVisible(); }
+
+    GuiProgram program;
+};
+
+TEST_F(MainWindowTest, ComesUpOnTheTimecards)
+{
+    EXPECT_EQ(Main().windowTitle(), "Quillmarsh - Adminstrator");
+    EXPECT_EQ(Main().ErrorNumber(), 0);
+    EXPECT_TRUE(IsShown(1));
+    EXPECT_EQ(Find<QLabel>(Main(), "StatusBarPanel1").text(), "PTK - Administrator");
+    EXPECT_EQ(StatusText(Main()), "<object name : ID>");
+}
+
+TEST_F(MainWindowTest, TurnsToTheClickedPageAndNamesIt)
+{
+    struct Page
+    {
+        int tab;
+        const char* caption;
+        const char* frame;
+        const char* status;
+    };
+    for (const Page& page : {Page{2, "Reports", " Generate Report ", "Reports"},
+                             {3, "Employees", "  Employee Information  ", "Employee Information"},
+                             {4, "Company", "  Company Information   ", "Company Information"},
+                             {5, "Options", " General Program Options ", "System Options"},
+                             {1, "Timecards", " Generate Time Card ", "Timecards"}}) {
+        ClickTab(Main(), page.tab);
+        EXPECT_EQ(Find<QTabBar>(Main(), "TabStrip").tabText(page.tab - 1), page.caption);
+        EXPECT_EQ(Find<QGroupBox>(Main(), QString("FrameArray(%1)").arg(page.tab)).title(), page.frame);
+        EXPECT_EQ(StatusText(Main()), page.status);
+        for (int other = 1; other <= 5; ++other)
+            EXPECT_EQ(IsShown(other), other == page.tab) << page.tab;
+    }
+}
+
+TEST_F(MainWindowTest, AClickOnTheShownTabChangesNothing)
+{
+    ClickTab(Main(), 2);
+    Main().SetStatusText("Reports", "Phone Book");
+    ClickTab(Main(), 2);
+    EXPECT_EQ(StatusText(Main()), "Reports : Phone Book");
+    EXPECT_TRUE(IsShown(2));
+}
+
+TEST_F(MainWindowTest, TheFirstClickOnTheFirstTabNamesIt)
+{
+    ClickTab(Main(), 1);
+    EXPECT_EQ(StatusText(Main()), "Timecards");
+}
+
+TEST_F(MainWindowTest, WithoutAControllerItComesUpEmpty)
+{
+    FController bare(program.folder.Path(), program.desktop, program.clock);
+    bare.Controller(nullptr);
+    EXPECT_EQ(bare.ErrorNumber(), 211);
+    EXPECT_TRUE(bare.isVisible());
+}
+
+TEST_F(MainWindowTest, ShowsTheAboutBox)
+{
+    const ExpectedModal about([](QDialog& window) {
+        EXPECT_EQ(window.windowTitle(), "About PTK - Administrator 1.0");
+        EXPECT_EQ(Find<QLabel>(window, "Label1").text(), "Quillmarsh -  Administrator 1.0");
+        Click(window, "cmdOK");
+    });
+    Find<QAction>(Main(), "mnuHelpAbout").trigger();
+}
+
+TEST_F(MainWindowTest, OpensTheGuideAndTellsOnlyWhenItIsMissing)
+{
+    program.desktop.shellCodes = {ShellSuccess + 1, ShellFileNotFound, ShellNoProgram};
+    auto& guide = Find<QAction>(Main(), "mnuHelpContents");
+    guide.trigger();
+    EXPECT_EQ(program.desktop.Take(), Boxes());
+    guide.trigger();
+    EXPECT_EQ(program.desktop.Take(), Boxes{kNoGuide});
+    guide.trigger();
+    EXPECT_EQ(program.desktop.Take(), Boxes());
+    const ShellRequest request{ShellVerb::Open, program.folder.Path() + "/documentation/PTKAdminUserGuide.doc"};
+    EXPECT_EQ(program.desktop.requests, (std::vector<ShellRequest>(3, request)));
+}
+
+TEST_F(MainWindowTest, AppliesOptionsThatTheNextStartFinds)
+{
+    EXPECT_EQ(Length().text(), "14");
+    EXPECT_EQ(StartTime().text(), "08:00:00 AM");
+    EXPECT_EQ(EndTime().text(), "05:00:00 PM");
+    ClickTab(Main(), 5);
+    Type(Length(), "7");
+    Type(StartTime(), "715");
+    Type(EndTime(), "4.45p");
+    EXPECT_EQ(EndTime().text(), "04:45:00 PM");
+    Click(Main(), "cmdApplyOptions");
+    EXPECT_EQ(program.desktop.Take(), Boxes());
+
+    CSystemOptions stored;
+    ASSERT_TRUE(program.Controller()->PTKDatabase()->OpenDB());
+    stored.PTKDatabase(program.Controller()->PTKDatabase());
+    ASSERT_TRUE(stored.Load());
+    EXPECT_EQ(stored.PeriodLength(), 7);
+    EXPECT_EQ(stored.AutoShiftStartTime(), DateTime({}, {7, 15, 0}));
+    EXPECT_EQ(stored.AutoShiftEndTime(), DateTime({}, {16, 45, 0}));
+}
+
+TEST_F(MainWindowTest, StopsAtTheFirstOptionThatIsNone)
+{
+    struct Case
+    {
+        const char* length;
+        const char* start;
+        const char* end;
+        std::int16_t inMemory;
+        DateTime startInMemory;
+        DateTime endInMemory;
+        bool applied;
+    };
+    ClickTab(Main(), 5);
+    for (const Case& c : {Case{"abc", "9:00", "18:00", 0, kEight, kFive, false},
+                          {"", "9:00", "18:00", 0, kEight, kFive, false},
+                          {"-", "9:00", "18:00", 0, kEight, kFive, false},
+                          {"99999", "9:00", "18:00", 14, kEight, kFive, false}, // beyond 16 bits
+                          {"7", "", "18:00", 7, kMidnight, kFive, false},
+                          {"7", "soon", "18:00", 7, kMidnight, kFive, false},
+                          {"7", "8:00", "25:00", 7, kEight, kMidnight, false},
+                          {"-5", "8:00", "17:00", 0, kEight, kFive, true},
+                          {"0", "1/1/1800", "17:00", 0, kMidnight, kFive, true}}) {
+        SCOPED_TRACE(std::string(c.length) + ", " + c.start + ", " + c.end);
+        Options().PeriodLength(14);
+        Options().AutoShiftStartTime(kEight);
+        Options().AutoShiftEndTime(kFive);
+        Type(Length(), c.length);
+        Type(StartTime(), c.start);
+        Type(EndTime(), c.end);
+        Click(Main(), "cmdApplyOptions");
+        EXPECT_EQ(program.desktop.Take(), c.applied ? Boxes() : Boxes{kNotApplied});
+        EXPECT_EQ(Options().PeriodLength(), c.inMemory);
+        EXPECT_EQ(Options().AutoShiftStartTime(), c.startInMemory);
+        EXPECT_EQ(Options().AutoShiftEndTime(), c.endInMemory);
+        EXPECT_EQ(Length().text(), c.length);
+    }
+    Options().PeriodLength(14);
+    Click(Main(), "cmdCancelOptions");
+    EXPECT_EQ(Length().text(), "14");
+    EXPECT_EQ(StartTime().text(), "12:00:00 AM");
+}
+
+TEST_F(MainWindowTest, TellsWhenTheDatabaseIsHeldAndKeepsThePage)
+{
+    CJetDB other(program.folder.Path());
+    ASSERT_TRUE(other.OpenDB());
+    ClickTab(Main(), 5);
+    Type(Length(), "7");
+    Click(Main(), "cmdApplyOptions");
+    EXPECT_EQ(program.desktop.Take(), Boxes{kNotApplied});
+    EXPECT_EQ(Length().text(), "7");
+}
+
+TEST_F(MainWindowTest, ClosesInSpiteOfBadOptionsAndTellsOnEachPassThroughThem)
+{
+    struct Way
+    {
+        std::function<void(FController&)> leave;
+        std::size_t boxes;
+    };
+    const std::vector<Way> ways{{[](FController& main) { main.close(); }, 1},
+                                {[](FController& main) { Find<QAction>(main, "mnuFileExit").trigger(); }, 2}};
+    for (const Way& way : ways) {
+        GuiProgram bad;
+        bad.LogIn();
+        FController& main = bad.Main();
+        Find<QLineEdit>(main, "txtPeriodLength").setText("abc");
+        way.leave(main);
+        EXPECT_EQ(bad.desktop.Take(), Boxes(way.boxes, kNotSaved));
+        EXPECT_EQ(bad.ended, 1);
+        EXPECT_FALSE(main.isVisible());
+    }
+}
+
+TEST_F(MainWindowTest, ClosedInTheMiddleOfADialogItClosesTheDialogFirst)
+{
+    FController& main = Main();
+    {
+        const ExpectedModal about([&main](QDialog& window) {
+            main.close();
+            EXPECT_FALSE(window.isVisible());
+            EXPECT_TRUE(main.isVisible());
+        });
+        Find<QAction>(main, "mnuHelpAbout").trigger();
+    }
+    QTRY_VERIFY(program.ended == 1);
+}
+
+TEST_F(MainWindowTest, RemembersItsSize)
+{
+    Main().resize(1000, 690);
+    const QSize size = Main().size();
+    Main().close();
+    GuiProgram next;
+    next.LogIn();
+    EXPECT_EQ(next.Main().size(), size);
+}
+
+} // namespace
+} // namespace ptk
