@@ -41,7 +41,7 @@ public:
 
     DateTime AddDays(std::int64_t days) const;
 
-    constexpr auto operator<=>(const DateTime&) const = default;
+    constexpr auto operator<=>(const DateTime&) const = default; // NOLINT(modernize-use-nullptr): not a pointer
 
 private:
     std::int64_t m_seconds = 0;

@@ -55,7 +55,7 @@ TEST(SampleBusinessTest, HoldsTheUsualIrregularities)
     for (const SampleEmployee& employee : SampleEmployees(kToday)) {
         DateTime previousDay;
         for (const TimeRecordRow& shift : SampleShifts(employee, 1, kToday)) {
-            overtime += MinutesBetween(shift.StartTime, shift.EndTime) > 9 * 60 ? 1 : 0;
+            overtime += MinutesBetween(shift.StartTime, shift.EndTime) > 540 ? 1 : 0;
             overMidnight += DaysBetween(shift.StartTime, shift.EndTime) == 1 ? 1 : 0;
             splitDays += DaysBetween(previousDay, shift.StartTime) == 0 ? 1 : 0;
             previousDay = shift.StartTime;

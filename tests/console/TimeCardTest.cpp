@@ -17,7 +17,7 @@ protected:
     // Ann's breaks: 30 and 15 minutes, taken off automatically.
     TimeCardTest()
     {
-        CreateDatabase(Database().string(), [this](BulkWriter& writer) {
+        CreateDatabase(Database().string(), [](BulkWriter& writer) {
             EmployeeRow ann;
             ann.FirstName = "Ann";
             ann.LastName = "Lee";
