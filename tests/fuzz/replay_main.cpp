@@ -15,7 +15,8 @@ int main(int argc, char** argv)
     int count = 0;
     for (const auto& entry : std::filesystem::directory_iterator(argv[1])) {
         std::ifstream file(entry.path(), std::ios::binary);
-        const std::vector<char> bytes{std::istreambuf_iterator<char>(file), {}};
+        std::vector<char> bytes{std::istreambuf_iterator<char>(file), {}};
+        bytes.reserve(1); // no null pointer for an empty input
         LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size());
         ++count;
     }

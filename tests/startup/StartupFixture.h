@@ -1,0 +1,154 @@
+// A whole program without windows of its own: the real start-up on a real database in a temporary program folder.
+#pragma once
+
+#include "platform/Failure.h"
+#include "platform/Text.h"
+#include "shell/CFileAdaptor.h"
+#include "shell/startup/AdminMain.h"
+#include "shell/startup/CController.h"
+#include "shell/startup/Windows.h"
+#include "store/CJetDB.h"
+#include "store/DatabaseCreator.h"
+#include "support/Files.h"
+#include "support/FixedClock.h"
+#include "support/RecordingDesktop.h"
+#include "support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace ptk {
+
+// A login that is decided beforehand.
+class ScriptedLogin final : public LoginWindow
+{
+public:
+    explicit ScriptedLogin(bool valid) : m_valid(valid) {}
+
+    void ConfigFile(std::shared_ptr<CFileAdaptor> value) override
+    {
+        configFile = std::move(value);
+        ToBoolean(configFile->FindKeyValue("ShowLoginHelp"));
+    }
+    void EmployeeList(std::shared_ptr<CEmployeeList> value) override { employeeList = std::move(value); }
+    void ShowModal() override
+    {
+        if (m_valid)
+            configFile->ReplaceLine("ShowLoginHelp", "False");
+        shown = true;
+    }
+    bool LoginValid() const override { return shown && m_valid; }
+
+    std::shared_ptr<CFileAdaptor> configFile;
+    std::shared_ptr<CEmployeeList> employeeList;
+    bool shown = false;
+
+private:
+    bool m_valid;
+};
+
+// A main window that closes as the real one does: unloading it runs its own closing steps.
+class ScriptedMain final : public MainWindow
+{
+public:
+    void Controller(std::shared_ptr<CController> value) override { m_controller = std::move(value); }
+    bool DisplaySystemOptions(std::shared_ptr<CSystemOptions> options) override
+    {
+        displayed = std::move(options);
+        return displays;
+    }
+    void Unload() override
+    {
+        ++unloads;
+        Exit();
+    }
+    void Exit() { Close(*m_controller); }
+    void Release() { m_controller.reset(); }
+
+    static void Close(CController& controller)
+    {
+        EXPECT_FALSE(controller.UnloadControllerWindow());
+        EXPECT_FALSE(controller.Cleanup());
+    }
+
+    std::shared_ptr<CSystemOptions> displayed;
+    bool displays = true;
+    int unloads = 0;
+
+private:
+    std::shared_ptr<CController> m_controller;
+};
+
+class ScriptedWindows final : public WindowFactory
+{
+public:
+    std::shared_ptr<LoginWindow> CreateLoginWindow() override { return login = std::make_shared<ScriptedLogin>(loginValid); }
+    std::shared_ptr<MainWindow> CreateMainWindow() override
+    {
+        main = std::make_shared<ScriptedMain>();
+        main->displays = mainDisplays;
+        return main;
+    }
+
+    bool loginValid = true;
+    bool mainDisplays = true;
+    std::shared_ptr<ScriptedLogin> login;
+    std::shared_ptr<ScriptedMain> main;
+};
+
+class StartupFixture : public testing::Test
+{
+protected:
+    StartupFixture()
+    {
+        WriteBytes(configPath, "[PTK]\r\nDatabasePath=<app.path>\\system\\ptk_11.mdb\r\nShowLoginHelp=True\r\n");
+        CreateDatabase(NativePath(databasePath).string());
+    }
+
+    // Window and controller hold each other until the window is unloaded, which not every test comes to.
+    ~StartupFixture() override
+    {
+        if (windows.main)
+            windows.main->Release();
+    }
+
+    CController& Controller() { return *program.Controller(); }
+
+    void Run(const std::string& sql)
+    {
+        CJetDB database(folder.Path());
+        ASSERT_TRUE(database.ExecuteAction(sql)) << sql;
+    }
+
+    std::string Log() const { return ReadBytes(logPath); }
+
+    // Each box as title and text; every one of the start-up and the shutdown has just an OK button.
+    std::vector<std::string> Boxes() const
+    {
+        std::vector<std::string> boxes;
+        for (const auto& box : desktop.boxes) {
+            EXPECT_EQ(box.buttons, Buttons::Ok);
+            boxes.push_back(box.title + ": " + box.text);
+        }
+        return boxes;
+    }
+
+    static inline const std::string kLogBegin = "session begin\r\n3/5/2003 8:05:09 AM\r\n------------------------------\r\n";
+    static inline const std::string kLogEnd = "------------------------------\r\nsession end\r\n3/5/2003 8:05:09 AM\r\n";
+
+    TemporaryFolder folder;
+    std::string configPath = folder.Path() + "\\system\\ptk_11.cfg";
+    std::string databasePath = folder.Path() + "\\system\\ptk_11.mdb";
+    std::string logPath = folder.Path() + "\\system\\errorlog.txt";
+    RecordingDesktop desktop;
+    FixedClock clock{DateTime({2003, 3, 5}, {8, 5, 9})};
+    ScriptedWindows windows;
+    int ended = 0;
+    AdminMain program{folder.Path(), desktop, clock, windows, [this] { ++ended; }};
+};
+
+} // namespace ptk
