@@ -39,12 +39,13 @@ QFont ReportFont()
     return font;
 }
 
+// Within half a step, since a window's place moves by its frame when it is shown.
 bool StandsOnAnother(const QWidget& window)
 {
     const auto windows = QApplication::topLevelWidgets();
     return std::any_of(windows.begin(), windows.end(), [&](const QWidget* other) {
         return other != &window && other->isVisible() && qobject_cast<const ReportViewerWindow*>(other) != nullptr &&
-               other->pos() == window.pos();
+               (other->pos() - window.pos()).manhattanLength() < kCascadeStep / 2;
     });
 }
 
@@ -127,6 +128,7 @@ void ReportViewerWindow::Show()
     Place();
     show();
     raise();
+    activateWindow();
 }
 
 // A report that lost lines answers well and would otherwise pass for whole.

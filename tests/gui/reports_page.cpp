@@ -1,5 +1,6 @@
 // The Reports page over a started program: what is chosen is what is written, shown and told.
 #include "model/CEmployeeList.h"
+#include "platform/Text.h"
 #include "startup/StartupFixture.h"
 #include "store/CTimeRecSQLConverter.h"
 #include "ui/DateCombo.h"
@@ -89,8 +90,9 @@ protected:
         CJetDB database(folder.Path());
         ASSERT_TRUE(database.AddNewEmployee(employee));
         const TimeRecordRow shift{-1, ++m_lastID, DateTime({2003, 3, 3}, {8, 0, 0}), DateTime({2003, 3, 3}, {16, 0, 0})};
-        if (worked)
+        if (worked) {
             ASSERT_TRUE(database.ExecuteAction(CTimeRecSQLConverter().ToSQL(&shift)));
+        }
     }
 
     template <typename Control>
@@ -272,6 +274,7 @@ TEST_F(ReportsPageTest, SelectsAllAndNoneByKeyboard)
     Choose("Timecard");
     auto& list = Find<QListView>("lstEmployees");
     page->show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(page.get()));
     list.setFocus();
     QTest::keyClick(&list, Qt::Key_A, Qt::ControlModifier);
     EXPECT_EQ(Selected(), 3);

@@ -20,9 +20,9 @@ protected:
     template <typename AnyReport>
     std::shared_ptr<AnyReport> NewShown()
     {
-        auto report = std::make_shared<AnyReport>(ReportContext{folder.Path(), desktop, clock, windows, factory, &window});
-        report->ParentWindow(&owner);
-        return report;
+        auto made = std::make_shared<AnyReport>(ReportContext{folder.Path(), desktop, clock, windows, factory, &window});
+        made->ParentWindow(&owner);
+        return made;
     }
 
     // The records report of Ann and Zorn in its window.
@@ -30,7 +30,9 @@ protected:
     {
         report = NewShown<CReportEmployee>();
         EXPECT_TRUE(report->GenerateReport(ListOf({ann, zorn})));
-        return Window("FReportEmployee");
+        ReportViewerWindow& viewer = Window("FReportEmployee");
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&viewer));
+        return viewer;
     }
 
     static std::vector<ReportViewerWindow*> Windows()
@@ -148,19 +150,19 @@ TEST_F(ReportViewersTest, ZoomsWithItsTabStops)
 {
     ReportViewerWindow& viewer = OpenRecords();
     QPlainTextEdit& text = Text(viewer);
-    const double first = text.font().pointSizeF();
+    const double size = text.font().pointSizeF();
     QTest::keyClick(&viewer, Qt::Key_Equal, Qt::ControlModifier);
-    EXPECT_EQ(text.font().pointSizeF(), first + 1);
+    EXPECT_EQ(text.font().pointSizeF(), size + 1);
     const QPointF middle(20, 20);
     QWheelEvent wheel(middle, text.viewport()->mapToGlobal(middle), {}, QPoint(0, 240), Qt::NoButton, Qt::ControlModifier,
                       Qt::NoScrollPhase, false);
     QApplication::sendEvent(text.viewport(), &wheel);
-    EXPECT_EQ(text.font().pointSizeF(), first + 3);
+    EXPECT_EQ(text.font().pointSizeF(), size + 3);
     EXPECT_DOUBLE_EQ(text.tabStopDistance(), 8 * QFontMetricsF(text.font()).horizontalAdvance(' '));
     QTest::keyClick(&viewer, Qt::Key_Minus, Qt::ControlModifier);
-    EXPECT_EQ(text.font().pointSizeF(), first + 2);
+    EXPECT_EQ(text.font().pointSizeF(), size + 2);
     QTest::keyClick(&viewer, Qt::Key_0, Qt::ControlModifier);
-    EXPECT_EQ(text.font().pointSizeF(), first);
+    EXPECT_EQ(text.font().pointSizeF(), size);
 }
 
 TEST_F(ReportViewersTest, NoneStandsExactlyOnAnother)
