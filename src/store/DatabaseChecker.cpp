@@ -7,7 +7,7 @@
 #include "store/engine/Statement.h"
 
 #include <fmt/format.h>
-#include <map>
+#include <sstream>
 
 namespace ptk {
 
@@ -16,73 +16,29 @@ namespace {
 constexpr std::int32_t kApplicationId = 0x50544B31;
 constexpr std::int32_t kFormatNumber = 1;
 
-struct Column
+// The columns of one type in one table, separated by blanks. Further tables and columns may be there.
+struct Columns
 {
-    const char* name;
+    const char* table;
     const char* type;
+    const char* names;
 };
 
-struct Table
-{
-    const char* name;
-    std::vector<Column> columns;
+constexpr Columns kColumns[] = {
+    {"Company", "INTEGER", "CompanyID"},
+    {"Company", "TEXT", "Name Address1 Address2 City State ZipCode Phone Fax FederalTaxID URL"},
+    {"Employee", "INTEGER", "EmployeeID EmployeeNumber CompanyID AutoDeductLunchLength AutoDeductBreakLength"},
+    {"Employee", "TEXT", "SSNumber FirstName LastName Address Address2 City State ZipCode Phone Password"},
+    {"Employee", "DATETIME", "DateOfBirth HireDate ReleaseDate"},
+    {"Employee", "SINGLE", "PayRate OvertimePayRate"},
+    {"Employee", "BOOLEAN", "Active AutoDeduct"},
+    {"TimeRecord", "INTEGER", "TimeRecordID EmployeeID"},
+    {"TimeRecord", "DATETIME", "ShiftDate StartTime EndTime"},
+    {"_System", "TEXT", "program version"},
+    {"_System", "INTEGER", "period_length"},
+    {"_System", "DATETIME", "auto_shift_start_time auto_shift_end_time"},
+    {"_StoredQuery", "TEXT", "name sql"},
 };
-
-// Further tables and columns may be there.
-const std::vector<Table>& ExpectedTables()
-{
-    static const std::vector<Table> tables = {
-        {"Company",
-         {{"CompanyID", "INTEGER"},
-          {"Name", "TEXT"},
-          {"Address1", "TEXT"},
-          {"Address2", "TEXT"},
-          {"City", "TEXT"},
-          {"State", "TEXT"},
-          {"ZipCode", "TEXT"},
-          {"Phone", "TEXT"},
-          {"Fax", "TEXT"},
-          {"FederalTaxID", "TEXT"},
-          {"URL", "TEXT"}}},
-        {"Employee",
-         {{"EmployeeID", "INTEGER"},
-          {"SSNumber", "TEXT"},
-          {"FirstName", "TEXT"},
-          {"LastName", "TEXT"},
-          {"Address", "TEXT"},
-          {"Address2", "TEXT"},
-          {"City", "TEXT"},
-          {"State", "TEXT"},
-          {"ZipCode", "TEXT"},
-          {"Phone", "TEXT"},
-          {"EmployeeNumber", "INTEGER"},
-          {"DateOfBirth", "DATETIME"},
-          {"HireDate", "DATETIME"},
-          {"ReleaseDate", "DATETIME"},
-          {"PayRate", "SINGLE"},
-          {"OvertimePayRate", "SINGLE"},
-          {"Active", "BOOLEAN"},
-          {"CompanyID", "INTEGER"},
-          {"AutoDeduct", "BOOLEAN"},
-          {"AutoDeductLunchLength", "INTEGER"},
-          {"AutoDeductBreakLength", "INTEGER"},
-          {"Password", "TEXT"}}},
-        {"TimeRecord",
-         {{"TimeRecordID", "INTEGER"},
-          {"EmployeeID", "INTEGER"},
-          {"ShiftDate", "DATETIME"},
-          {"StartTime", "DATETIME"},
-          {"EndTime", "DATETIME"}}},
-        {"_System",
-         {{"program", "TEXT"},
-          {"version", "TEXT"},
-          {"period_length", "INTEGER"},
-          {"auto_shift_start_time", "DATETIME"},
-          {"auto_shift_end_time", "DATETIME"}}},
-        {"_StoredQuery", {{"name", "TEXT"}, {"sql", "TEXT"}}},
-    };
-    return tables;
-}
 
 constexpr const char* kStoredQueries[] = {"AddNewCompany",   "AddNewEmployee", "GetAllCompanies",
                                           "GetAllEmployees", "UpdateCompany",  "UpdateEmployee"};
@@ -97,8 +53,8 @@ public:
         CheckIntegrity();
         CheckNumber("application_id", kApplicationId);
         CheckNumber("user_version", kFormatNumber);
-        for (const Table& table : ExpectedTables()) {
-            CheckTable(table);
+        for (const Columns& columns : kColumns) {
+            CheckColumns(columns);
         }
         for (const char* query : kStoredQueries) {
             CheckQuery(query);
@@ -131,23 +87,16 @@ private:
         }
     }
 
-    void CheckTable(const Table& table)
+    void CheckColumns(const Columns& columns)
     {
-        std::map<std::string, std::string> types;
-        const auto rows = m_engine.Select(fmt::format("SELECT name, type FROM pragma_table_info('{}')", table.name));
-        for (; !rows->EndOfFile(); rows->MoveNext()) {
-            types[LowerCase(rows->TextAt(0))] = rows->TextAt(1);
-        }
-        if (types.empty()) {
-            Report("There is no table {}.", table.name);
-            return;
-        }
-        for (const Column& column : table.columns) {
-            const auto found = types.find(LowerCase(column.name));
-            if (found == types.end()) {
-                Report("There is no column {}.{}.", table.name, column.name);
-            } else if (LowerCase(found->second) != LowerCase(column.type)) {
-                Report("The column {}.{} is {}, not {}.", table.name, column.name, found->second, column.type);
+        std::istringstream names(columns.names);
+        for (std::string name; names >> name;) {
+            const auto found = m_engine.Select(
+                fmt::format("SELECT type FROM pragma_table_info('{}') WHERE name = '{}' COLLATE NOCASE", columns.table, name));
+            if (found->EndOfFile()) {
+                Report("There is no column {}.{}.", columns.table, name);
+            } else if (LowerCase(found->TextAt(0)) != LowerCase(columns.type)) {
+                Report("The column {}.{} is {}, not {}.", columns.table, name, found->TextAt(0), columns.type);
             }
         }
     }

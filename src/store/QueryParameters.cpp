@@ -73,8 +73,9 @@ std::vector<Parameter> AddNewCompanyParameters(const CompanyRow& company)
 
 std::vector<Parameter> UpdateCompanyParameters(const CompanyRow& company)
 {
-    std::vector<Parameter> parameters = AddNewCompanyParameters(company);
-    parameters.insert(parameters.begin(), {"paramID", company.CompanyID});
+    const std::vector<Parameter> texts = AddNewCompanyParameters(company);
+    std::vector<Parameter> parameters = {{"paramID", company.CompanyID}};
+    parameters.insert(parameters.end(), texts.begin(), texts.end());
     return parameters;
 }
 

@@ -3,7 +3,6 @@
 #include "store/engine/EngineFailure.h"
 #include "store/engine/FileHeader.h"
 
-#include <filesystem>
 #include <sqlite3.h>
 #include <SQLiteCpp/Exception.h>
 
@@ -16,13 +15,16 @@ constexpr std::int32_t kFormatNumber = 1; // the newest that this program knows
 // A relative path could be one of the engine's special names.
 std::string PlainPath(const std::string& path)
 {
-    return path.starts_with('/') ? path : std::filesystem::absolute(path).string();
+    return path.starts_with('/') ? path : "./" + path;
 }
+
+// Only one thread uses a connection, so the engine need not lock itself for every cell.
+constexpr int kOpenMode = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX;
 
 SQLite::Database OpenFile(const std::string& path)
 {
     try {
-        return {PlainPath(path), SQLite::OPEN_READWRITE};
+        return {PlainPath(path), kOpenMode};
     } catch (const SQLite::Exception& exception) {
         throw EngineFailure(exception.getErrorCode(), exception.what());
     }
@@ -43,6 +45,9 @@ void Connection::RefuseForeignFile()
     const FileHeader header = ReadFileHeader(Handle());
     if (!header.complete) {
         throw EngineFailure(SQLITE_NOTADB, "the file is too short for a database");
+    }
+    if (header.truncated) {
+        throw EngineFailure(SQLITE_CORRUPT, "the file is shorter than it says");
     }
     if (header.formatNumber > kFormatNumber) {
         throw EngineFailure(SQLITE_NOTADB, "the file was made by a newer version of the program");

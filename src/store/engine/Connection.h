@@ -16,7 +16,7 @@ public:
     // Opens for reading and writing, exclusively and without ever creating a file. Raises 14 (missing, a folder), 5 (held by anyone, a
     // reader included), 8 (read-only), 26 (no database) or 11 (damaged). An empty file passes.
     explicit Connection(const std::string& path);
-    void RefuseForeignFile(); // raises 26 for an empty file and for one of a newer format
+    void RefuseForeignFile(); // raises 26 for an empty file and for one of a newer format, 11 for one cut short
 
     sqlite3* Handle() const { return m_database.getHandle(); }
 

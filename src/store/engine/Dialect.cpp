@@ -46,9 +46,12 @@ Meaning WithoutBlanks(std::vector<Token>& tokens)
     return meaning;
 }
 
-void Drop(Token& token)
+// One blank stays, so that the neighbours do not grow together.
+void Drop(const Meaning& meaning, std::size_t from, std::size_t to)
 {
-    token = {TokenKind::Blank, {}};
+    for (std::size_t i = from; i < to; ++i) {
+        *meaning[i] = {TokenKind::Blank, i == from ? " " : ""};
+    }
 }
 
 bool MayStandInColumnList(const Token& token)
@@ -66,11 +69,8 @@ void DropColumnList(const Meaning& meaning)
         }
         ++from;
     }
-    if (from == meaning.size()) {
-        return;
-    }
-    for (std::size_t i = 1; i < from; ++i) {
-        Drop(*meaning[i]);
+    if (from < meaning.size()) {
+        Drop(meaning, 1, from);
     }
 }
 
@@ -79,8 +79,7 @@ void DropQualifier(const Meaning& meaning, std::size_t position, const std::stri
 {
     if (position + 2 < meaning.size() && IsName(*meaning[position]) && IsSign(*meaning[position + 1], '.') &&
         IsName(*meaning[position + 2]) && BareName(*meaning[position]) == table) {
-        Drop(*meaning[position]);
-        Drop(*meaning[position + 1]);
+        Drop(meaning, position, position + 2);
     }
 }
 
@@ -102,12 +101,13 @@ void DropQualifiers(const Meaning& meaning)
     }
 }
 
+// Blanks around it, as two texts side by side would be one with a quote in it.
 std::string DateText(std::string_view literal)
 {
     if (literal.size() < 2 || literal.back() != '#') {
         throw Failure(failure::TypeMismatch);
     }
-    return '\'' + StoredText(ToDateTime(literal.substr(1, literal.size() - 2))) + '\'';
+    return " '" + StoredText(ToDateTime(literal.substr(1, literal.size() - 2))) + "' ";
 }
 
 std::string Joined(const std::vector<Token>& tokens, std::size_t expectedSize)

@@ -11,20 +11,41 @@ namespace {
 
 // Offsets as the file format documents them.
 constexpr std::size_t kHeaderSize = 100;
+constexpr std::size_t kPageSize = 16; // two bytes
 constexpr std::size_t kWriteVersion = 18;
+constexpr std::size_t kChangeCounter = 24;
+constexpr std::size_t kPageCount = 28;
 constexpr std::size_t kUserVersion = 60;
+constexpr std::size_t kPageCountValidFor = 92; // the change counter's value then
 constexpr unsigned char kWriteAheadLog = 2;
 
 using Bytes = std::array<unsigned char, kHeaderSize>;
 
 // Big-endian.
-std::int32_t NumberAt(const Bytes& bytes, std::size_t offset)
+std::uint32_t NumberAt(const Bytes& bytes, std::size_t offset, std::size_t size = 4)
 {
     std::uint32_t number = 0;
-    for (std::size_t i = offset; i < offset + 4; ++i) {
+    for (std::size_t i = offset; i < offset + size; ++i) {
         number = number << 8 | bytes[i];
     }
-    return static_cast<std::int32_t>(number);
+    return number;
+}
+
+// 0 when the header does not know, as old writers leave it.
+std::int64_t SizeByHeader(const Bytes& bytes)
+{
+    if (NumberAt(bytes, kChangeCounter) != NumberAt(bytes, kPageCountValidFor)) {
+        return 0;
+    }
+    const std::uint32_t pageSize = NumberAt(bytes, kPageSize, 2);
+    return std::int64_t{NumberAt(bytes, kPageCount)} * (pageSize == 1 ? 65536 : pageSize);
+}
+
+void RaiseWhenUnreadable(int resultCode)
+{
+    if (resultCode != SQLITE_OK) {
+        throw EngineFailure(resultCode, "the file cannot be read");
+    }
 }
 
 } // namespace
@@ -38,10 +59,11 @@ FileHeader ReadFileHeader(sqlite3* database)
     if (code == SQLITE_IOERR_SHORT_READ) {
         return {};
     }
-    if (code != SQLITE_OK) {
-        throw EngineFailure(code, "the file cannot be read");
-    }
-    return {true, bytes[kWriteVersion] == kWriteAheadLog, NumberAt(bytes, kUserVersion)};
+    RaiseWhenUnreadable(code);
+    sqlite3_int64 size = 0;
+    RaiseWhenUnreadable(file->pMethods->xFileSize(file, &size));
+    return {true, size < SizeByHeader(bytes), bytes[kWriteVersion] == kWriteAheadLog,
+            static_cast<std::int32_t>(NumberAt(bytes, kUserVersion))};
 }
 
 } // namespace ptk

@@ -11,6 +11,7 @@ namespace ptk {
 struct FileHeader
 {
     bool complete = false;         // false for a file shorter than its header
+    bool truncated = false;        // the engine itself misses only whole pages
     bool writeAheadLog = false;    // kept with a write-ahead log beside it, which would let readers in
     std::int32_t formatNumber = 0; // the user_version: 1 for this program's tables
 };

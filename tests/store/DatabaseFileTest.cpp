@@ -1,0 +1,137 @@
+// A new database file, how it comes into being, and the check of a file.
+#include "store/BulkWriter.h"
+#include "store/DatabaseChecker.h"
+#include "store/DatabaseCreator.h"
+#include "store/engine/Engine.h"
+#include "store/StoreFixture.h"
+#include "support/Files.h"
+
+#include <sys/stat.h>
+
+#include <filesystem>
+
+namespace ptk {
+
+namespace {
+
+using DatabaseFileTest = StoreTest;
+
+std::size_t FilesIn(const std::string& folder)
+{
+    return static_cast<std::size_t>(std::distance(std::filesystem::directory_iterator(folder), std::filesystem::directory_iterator()));
+}
+
+} // namespace
+
+TEST_F(DatabaseFileTest, StartsWithOptionsQueriesAndTheAdministrator)
+{
+    struct stat file
+    {
+    };
+    ASSERT_EQ(stat(Path().c_str(), &file), 0);
+    EXPECT_EQ(file.st_mode & 0777U, 0600U);
+    EXPECT_EQ(FilesIn(m_folder.Path() + "/system"), 1U);
+    EXPECT_EQ(Rows("PRAGMA application_id; PRAGMA user_version; PRAGMA integrity_check"), "1347701553|1|ok|"); // "PTK1"
+    EXPECT_EQ(Rows("SELECT * FROM _System"), "PTK - Administrator|1.0|14|1899-12-30 08:00:00|1899-12-30 17:00:00|");
+    EXPECT_EQ(Rows("SELECT EmployeeID, FirstName, LastName, Password, Active FROM Employee"), "39||administrator|wharf271|1|");
+    EXPECT_EQ(Rows("SELECT name FROM _StoredQuery ORDER BY name"),
+              "AddNewCompany|AddNewEmployee|GetAllCompanies|GetAllEmployees|UpdateCompany|UpdateEmployee|");
+    const DatabaseCheck check = CheckDatabase(Path());
+    EXPECT_TRUE(check.problems.empty()) << check.problems[0];
+    EXPECT_EQ(check.companies, 0);
+    EXPECT_EQ(check.employees, 1);
+    EXPECT_EQ(check.timeRecords, 0);
+}
+
+TEST_F(DatabaseFileTest, NeverReplacesWhatIsThere)
+{
+    const std::string before = ReadBytes(Path());
+    EXPECT_EQ(FailureOf([&] { CreateDatabase(Path()); }), failure::PathFileAccess);
+    EXPECT_EQ(ReadBytes(Path()), before);
+    std::filesystem::create_symlink(File("nowhere"), File("link.mdb"));
+    EXPECT_EQ(FailureOf([&] { CreateDatabase(File("link.mdb")); }), failure::PathFileAccess);
+    const std::string late = File("late.mdb");
+    EXPECT_EQ(FailureOf([&] { CreateDatabase(late, [&](BulkWriter&) { WriteBytes(late, "somebody else's"); }); }), failure::PathFileAccess);
+    EXPECT_EQ(ReadBytes(late), "somebody else's");
+    EXPECT_EQ(FailureOf([&] { CreateDatabase(File("missing/new.mdb")); }), failure::PathNotFound);
+    EXPECT_EQ(FilesIn(m_folder.Path() + "/system"), 3U); // the database, the link, the late file
+}
+
+TEST_F(DatabaseFileTest, LeavesNothingBehindWhenFillingFails)
+{
+    const auto fail = [](BulkWriter& rows) {
+        rows.AddCompany(CompanyRow());
+        throw Failure(failure::InvalidProcedureCall);
+    };
+    EXPECT_EQ(FailureOf([&] { CreateDatabase(File("new.mdb"), fail); }), failure::InvalidProcedureCall);
+    EXPECT_EQ(FilesIn(m_folder.Path() + "/system"), 1U);
+}
+
+TEST_F(DatabaseFileTest, TakesManyRowsInOneTransaction)
+{
+    EmployeeRow ann;
+    ann.LastName = "Lee";
+    ann.PayRate = 18.5F;
+    CompanyRow mill;
+    mill.CompanyName = "Mill";
+    TimeRecordRow shift;
+    shift.StartTime = DateTime(CalendarDate{2003, 3, 5}, TimeOfDay{8, 0, 0});
+    CreateDatabase(File("new.mdb"), [&](BulkWriter& rows) {
+        ann.CompanyID = rows.AddCompany(mill);
+        shift.EmployeeID = rows.AddEmployee(ann);
+        EXPECT_EQ(rows.AddTimeRecord(shift), 1);
+        EXPECT_EQ(rows.AddTimeRecord(shift), 2);
+    });
+    {
+        Engine engine(File("new.mdb"));
+        BulkWriter(engine).AddCompany(mill); // never committed
+    }
+    RawDatabase file(File("new.mdb"));
+    EXPECT_EQ(file.Rows("SELECT CompanyID, Name FROM Company"), "1|Mill|");
+    EXPECT_EQ(file.Rows("SELECT EmployeeID, LastName, PayRate, CompanyID FROM Employee WHERE CompanyID = 1"), "40|Lee|18.5|1|");
+    EXPECT_EQ(file.Rows("SELECT EmployeeID, StartTime, EndTime FROM TimeRecord WHERE TimeRecordID = 2"),
+              "40|2003-03-05 08:00:00|1899-12-30 00:00:00|");
+}
+
+TEST_F(DatabaseFileTest, TheCheckFindsWhatIsWrong)
+{
+    struct Case
+    {
+        const char* change;
+        const char* problem;
+    };
+    for (const Case& c : {
+             Case{"PRAGMA application_id = 7", "The application_id is 7, not 1347701553."},
+             Case{"PRAGMA user_version = 0", "The user_version is 0, not 1."},
+             Case{"DROP TABLE TimeRecord", "There is no column TimeRecord.TimeRecordID."},
+             Case{"ALTER TABLE Employee DROP COLUMN AutoDeduct", "There is no column Employee.AutoDeduct."},
+             Case{"DROP TABLE _System; CREATE TABLE _System (program TEXT, version REAL, period_length INTEGER, auto_shift_start_time "
+                  "DATETIME, "
+                  "auto_shift_end_time DATETIME); INSERT INTO _System VALUES ('', 1, 14, '', '')",
+                  "The column _System.version is REAL, not TEXT."},
+             Case{"DELETE FROM _System", "The table _System has 0 rows, not 1."},
+             Case{"DELETE FROM _StoredQuery WHERE name = 'UpdateCompany'",
+                  "The stored query UpdateCompany cannot be used: there is no stored query UpdateCompany."},
+             Case{"UPDATE _StoredQuery SET sql = 'SELECT x FROM y' WHERE name = 'GetAllCompanies'",
+                  "The stored query GetAllCompanies cannot be used: no such table: y."},
+             Case{"INSERT INTO TimeRecord (EmployeeID, StartTime, EndTime) VALUES (1, 'a', 'b'); PRAGMA writable_schema = 1; "
+                  "UPDATE sqlite_schema SET sql = replace(sql, 'EndTime)', 'ShiftDate)') WHERE name = 'TimeRecordPeriod'",
+                  "The file is damaged: "},
+         }) {
+        std::filesystem::remove(Path());
+        CreateDatabase(Path());
+        Run(c.change);
+        const DatabaseCheck check = CheckDatabase(Path());
+        ASSERT_FALSE(check.problems.empty()) << c.change;
+        EXPECT_EQ(check.problems[0].substr(0, std::string(c.problem).size()), c.problem);
+    }
+}
+
+TEST_F(DatabaseFileTest, TheCheckAcceptsFurtherTablesAndColumns)
+{
+    Run("ALTER TABLE Employee ADD COLUMN Shoe TEXT; CREATE TABLE Extra (a); CREATE INDEX more ON Employee (LastName)");
+    EXPECT_TRUE(CheckDatabase(Path()).problems.empty());
+    EXPECT_EQ(FailureOf([&] { CheckDatabase(File("missing.mdb")); }), SQLITE_CANTOPEN);
+}
+
+} // namespace ptk
