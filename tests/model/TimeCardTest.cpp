@@ -1,0 +1,242 @@
+#include "model/CEmployee.h"
+#include "model/CTimeCalculator.h"
+#include "model/CTimeCard.h"
+#include "model/CTimeCardList.h"
+#include "model/CTimeRecord.h"
+#include "model/CTimeRecordFactory.h"
+#include "model/CTimeRecordList.h"
+#include "store/CJetDB.h"
+#include "store/DatabaseCreator.h"
+#include "support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+#include <limits>
+#include <vector>
+
+using namespace ptk;
+
+namespace {
+
+DateTime At(int day, int hour, int minute = 0)
+{
+    return DateTime({2003, 3, day}, {hour, minute, 0});
+}
+
+struct Span
+{
+    DateTime start, end;
+};
+
+std::shared_ptr<CEmployee> Employee(std::int32_t id, bool autoDeduct, std::int16_t lunch, std::int16_t pause)
+{
+    EmployeeRow row;
+    row.EmployeeID = id;
+    row.FirstName = "Ann";
+    row.LastName = "Lee";
+    row.SSN = "1";
+    row.PayRate = 10;
+    row.OvertimePayRate = 15;
+    row.AutoDeduct = autoDeduct;
+    row.AutoDeductLunchLength = lunch;
+    row.AutoDeductBreakLength = pause;
+    return std::make_shared<CEmployee>(row);
+}
+
+TEST(TimeCalculatorTest, SplitsEachDayAtEightHours)
+{
+    struct Case
+    {
+        const char* name;
+        std::vector<Span> shifts;
+        std::int16_t lunch, pause; // deducted unless both are 0
+        float regular, overtime, breaks, pay;
+    };
+    for (const Case& c :
+         {Case{"nine and a half", {{At(3, 8), At(3, 17, 30)}}, 0, 0, 8, 1.5F, 0, 102.5F},
+          Case{"exactly eight", {{At(3, 8), At(3, 16)}}, 0, 0, 8, 0, 0, 80},
+          Case{"two shifts on a day", {{At(3, 8), At(3, 13)}, {At(3, 14), At(3, 18)}}, 0, 0, 8, 1, 0, 95},
+          Case{"the same on two days", {{At(3, 8), At(3, 13)}, {At(4, 14), At(4, 18)}}, 0, 0, 9, 0, 0, 90},
+          Case{"breaks once a day", {{At(3, 8), At(3, 12)}, {At(3, 12), At(3, 16, 45)}}, 30, 15, 8, 0, 0.75F, 80},
+          Case{"breaks each day", {{At(3, 8), At(3, 12)}, {At(4, 8), At(4, 12)}}, 30, 0, 7, 0, 1, 70},
+          Case{"less than the break", {{At(3, 8), At(3, 8, 30)}}, 60, 0, -0.5F, 0, 1, 0},
+          Case{"negative in sum pays no overtime either", {{At(3, 8), At(3, 8, 30)}, {At(4, 0), At(4, 18)}}, 600, 0, -1.5F, 0, 20, 0},
+          Case{"past midnight belongs to its first day", {{At(3, 22), At(4, 7)}, {At(4, 8), At(4, 9)}}, 0, 0, 9, 1, 0, 105},
+          Case{"backwards and open count nothing", {{At(3, 9), At(3, 8)}, {At(3, 9), {}}}, 0, 0, 0, 0, 0, 0},
+          Case{"no shift", {}, 30, 15, 0, 0, 0, 0}}) {
+        SCOPED_TRACE(c.name);
+        CTimeRecordList list;
+        for (const Span& shift : c.shifts) {
+            const auto record = std::make_shared<CTimeRecord>();
+            record->StartTime(shift.start);
+            record->EndTime(shift.end);
+            list.Insert(record, 999);
+        }
+        CTimeCalculator calculator;
+        EXPECT_TRUE(calculator.CalculateTimes(*Employee(1, c.lunch + c.pause > 0, c.lunch, c.pause), list));
+        EXPECT_EQ(calculator.RegularHours(), c.regular);
+        EXPECT_EQ(calculator.OvertimeHours(), c.overtime);
+        EXPECT_EQ(calculator.TotalBreakTime(), c.breaks);
+        EXPECT_EQ(calculator.CalculatePay(10, 15), c.pay);
+        EXPECT_EQ(calculator.TotalPay(), c.pay);
+    }
+}
+
+TEST(TimeCalculatorTest, AddsUpInSinglesAndRefusesWhatIsTooMuch)
+{
+    CTimeRecordList list;
+    const auto record = std::make_shared<CTimeRecord>();
+    record->StartTime(At(3, 8));
+    record->EndTime(At(3, 8, 1));
+    for (int i = 0; i < 3; ++i)
+        list.Insert(record, 999);
+    CTimeCalculator calculator;
+    const auto employee = Employee(1, false, 0, 0);
+    EXPECT_TRUE(calculator.CalculateTimes(*employee, list));
+    EXPECT_EQ(calculator.RegularHours(), 0.050000004F) << "0.016666668 three times, rounded after each: a tie that goes up";
+    EXPECT_TRUE(calculator.CalculateTimes(*employee, list));
+    EXPECT_EQ(calculator.RegularHours(), 0.10000001F) << "the figures accumulate";
+    EXPECT_EQ(calculator.CalculatePay(std::numeric_limits<float>::max(), 0), std::numeric_limits<float>::max() * 0.10000001F);
+    for (int i = 3; i < 32768; ++i)
+        list.Insert(record, 99999);
+    EXPECT_FALSE(CTimeCalculator().CalculateTimes(*employee, list));
+}
+
+class TimeCardTest : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        CreateDatabase(folder.Path() + "/system/ptk_11.mdb");
+        factory->PTKDatabase(database);
+        card.PTKDatabase(database);
+    }
+
+    void Add(std::int32_t employee, DateTime start, DateTime end)
+    {
+        const auto record = std::make_shared<CTimeRecord>();
+        record->EmployeeID(employee);
+        record->StartTime(start);
+        record->EndTime(end);
+        ASSERT_TRUE(factory->Save(record));
+        ASSERT_EQ(factory->ErrorNumber(), 0);
+    }
+
+    TemporaryFolder folder;
+    std::shared_ptr<CJetDB> database = std::make_shared<CJetDB>(folder.Path());
+    std::shared_ptr<CTimeRecordFactory> factory = std::make_shared<CTimeRecordFactory>();
+    CTimeCard card{factory};
+};
+
+TEST_F(TimeCardTest, RendersTheWholeCard)
+{
+    Add(7, At(3, 8), At(3, 17, 30));
+    Add(7, At(4, 8), At(4, 12));
+    Add(7, At(4, 13), At(4, 16, 50));
+    Add(8, At(4, 8), At(4, 12));
+    const auto employee = Employee(7, true, 30, 15);
+    ASSERT_TRUE(card.GenerateTimecard(employee, At(3, 0), At(5, 0)));
+    // 9.5 - 0.75 = 8.75: 8 and 0.75; 4 + 3.8333333 - 0.75 = 7.0833335; pay 15.0833335 * 10 + 0.75 * 15.
+    const std::string summary =
+        "\tRegular: \t\t\t15.08\r\n\tRegular Pay Rate: \t\t10.00\r\n\tOvertime: \t\t\t0.75\r\n\tOvertime Pay Rate: \t\t15.00\r\n"
+        "\tTotal Break Time: \t\t1.50\r\n\tGross Pay: \t\t\t162.08\r\n";
+    EXPECT_EQ(card.ToStringReport(),
+              "Name:  \t\t\t\tAnn Lee\r\nSocial Security Number: \t1\r\n\r\n\tStart Time\t\tEnd Time\t\tHours\r\n\r\n"
+              "\t03/03/2003 08:00 AM\t03/03/2003 05:30 PM\t8.75\r\n\t03/04/2003 08:00 AM\t03/04/2003 12:00 PM\t3.25\r\n"
+              "\t03/04/2003 01:00 PM\t03/04/2003 04:50 PM\t3.08\r\n\r\n" +
+                  summary);
+    EXPECT_EQ(card.ToStringReview(), summary);
+    EXPECT_EQ(card.ToString(), "\r\n" + summary);
+    employee->PayRate(99);
+    EXPECT_EQ(card.RegularPay(), 99) << "a rate, read live";
+    EXPECT_NE(card.GetTimeRecordByKey(At(4, 8), At(4, 12)), nullptr);
+    EXPECT_EQ(card.GetTimeRecordByKey(At(4, 8), At(4, 13)), nullptr);
+    EXPECT_EQ(card.ErrorNumber(), 607);
+}
+
+TEST_F(TimeCardTest, TakesShiftsWhollyWithinThePeriodAndOpenOnes)
+{
+    Add(7, At(3, 0), At(3, 8));
+    Add(7, At(4, 16), At(5, 0));
+    Add(7, At(4, 22), At(5, 6));
+    Add(7, At(2, 22), At(3, 6));
+    Add(7, At(20, 8), {});
+    ASSERT_TRUE(card.GenerateTimecard(Employee(7, false, 0, 0), At(3, 0), At(5, 0)));
+    ASSERT_EQ(card.TimeRecordList()->Count(), 3);
+    EXPECT_EQ(card.TimeRecordList()->Item(2)->EndTime(), At(5, 0)) << "midnight after the last day is included";
+    EXPECT_TRUE(card.TimeRecordList()->Item(3)->EndTime().IsZero());
+    EXPECT_EQ(card.TimeRecordList()->Item(3)->HoursWorked(), 0);
+    EXPECT_EQ(card.TimeRecordList()->Item(1)->ObjectState(), state::Unchanged);
+    EXPECT_EQ(card.RegularHoursWorked(), 16);
+}
+
+TEST_F(TimeCardTest, SaysWhyThereIsNone)
+{
+    const auto employee = Employee(7, false, 0, 0);
+    Add(7, At(3, 8), At(3, 12));
+    ASSERT_TRUE(card.GenerateTimecard(employee, At(3, 0), At(4, 0)));
+    EXPECT_FALSE(card.GenerateTimecard(employee, At(10, 0), At(11, 0)));
+    EXPECT_EQ(card.ErrorNumber(), 605);
+    EXPECT_EQ(card.RegularHoursWorked(), 4) << "the figures stay";
+    EXPECT_FALSE(card.GenerateTimecard(nullptr, At(3, 0), At(4, 0)));
+    EXPECT_EQ(card.ErrorNumber(), 602);
+    CTimeCard without(factory);
+    EXPECT_FALSE(without.GenerateTimecard(employee, At(3, 0), At(4, 0)));
+    EXPECT_EQ(without.ErrorNumber(), 405);
+    EXPECT_EQ(without.ToString(),
+              "\r\n\tRegular: \t\t\t0.00\r\n\tRegular Pay Rate: \t\t10.00\r\n\tOvertime: \t\t\t0.00\r\n\tOvertime Pay Rate: \t\t15.00\r\n"
+              "\tTotal Break Time: \t\t0.00\r\n\tGross Pay: \t\t\t0.00\r\n");
+    CJetDB holder(folder.Path());
+    ASSERT_TRUE(holder.OpenDB());
+    EXPECT_FALSE(card.GenerateTimecard(employee, At(3, 0), At(4, 0)));
+    EXPECT_EQ(card.ErrorNumber(), 605) << "a file that cannot be opened yields an empty list";
+}
+
+TEST_F(TimeCardTest, ClosesTheFirstOpenRecordOnly)
+{
+    Add(7, At(3, 8), {});
+    Add(7, At(4, 8), {});
+    const auto employee = Employee(7, false, 0, 0);
+    EXPECT_TRUE(card.CloseTimeRecord(employee, At(1, 0), At(3, 12)));
+    ASSERT_TRUE(card.GenerateTimecard(employee, At(3, 0), At(5, 0)));
+    EXPECT_EQ(card.TimeRecordList()->Item(1)->EndTime(), At(3, 12));
+    EXPECT_TRUE(card.TimeRecordList()->Item(2)->EndTime().IsZero());
+    EXPECT_TRUE(card.CloseTimeRecord(employee, At(1, 0), At(4, 12)));
+    EXPECT_FALSE(card.CloseTimeRecord(employee, At(1, 0), At(4, 12)));
+    EXPECT_EQ(card.ErrorNumber(), 301) << "nothing was fetched";
+}
+
+TEST_F(TimeCardTest, SavesWhatChangedAndDeletesWhatIsMarked)
+{
+    for (int day = 3; day < 8; ++day)
+        Add(7, At(day, 8), At(day, 12));
+    const auto employee = Employee(7, false, 0, 0);
+    ASSERT_TRUE(card.GenerateTimecard(employee, At(3, 0), At(9, 0)));
+    const auto list = card.TimeRecordList();
+    list->Item(2)->EndTime(At(4, 13));
+    list->Item(3)->ObjectState(state::Deleted);
+    ASSERT_TRUE(card.Save());
+    EXPECT_EQ(factory->ErrorNumber(), 0);
+    EXPECT_EQ(list->Item(2)->ObjectState(), state::Changed) << "saving leaves a record's state alone";
+    ASSERT_TRUE(card.GenerateTimecard(employee, At(3, 0), At(9, 0)));
+    EXPECT_EQ(card.TimeRecordList(), list) << "the one list is filled anew";
+    EXPECT_EQ(list->Count(), 4);
+    EXPECT_EQ(card.RegularHoursWorked(), 17);
+    ASSERT_TRUE(database->ExecuteAction("DROP TABLE TimeRecord;"));
+    list->Item(1)->EmployeeID(8);
+    EXPECT_TRUE(card.Save()) << "a refused statement shows in the factory's number alone";
+    EXPECT_EQ(factory->ErrorNumber(), 803);
+    EXPECT_EQ(factory->CloneTimeRecordList(), nullptr);
+}
+
+TEST_F(TimeCardTest, AListOfCardsKeepsThemAndStoresNone)
+{
+    CTimeCardList cards;
+    const auto one = std::make_shared<CTimeCard>(factory);
+    cards.Insert(one, 1);
+    EXPECT_EQ(cards.Clone()->Item(1), one);
+    EXPECT_FALSE(cards.SaveList());
+    cards.Remove(5);
+    EXPECT_EQ(cards.ErrorNumber(), 351);
+}
+
+} // namespace
