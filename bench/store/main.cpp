@@ -7,6 +7,7 @@
 
 namespace bench {
 void RegisterStoreBenchmarks(bool large);
+void RegisterReportBenchmarks();
 } // namespace bench
 
 int main(int argc, char** argv)
@@ -25,6 +26,7 @@ int main(int argc, char** argv)
     int count = static_cast<int>(rest.size());
     benchmark::Initialize(&count, rest.data());
     bench::RegisterStoreBenchmarks(large);
+    bench::RegisterReportBenchmarks();
     benchmark::RunSpecifiedBenchmarks();
     return 0;
 }

@@ -32,7 +32,7 @@ char Lower(char c)
 bool StartsWithMeridiem(std::string_view text)
 {
     constexpr std::string_view token = "am/pm";
-    if (text.size() < token.size())
+    if (text.size() < token.size() || Lower(text.front()) != token.front())
         return false;
     for (std::size_t i = 0; i < token.size(); ++i) {
         if (Lower(text[i]) != token[i])
@@ -43,6 +43,11 @@ bool StartsWithMeridiem(std::string_view text)
 
 void AppendPadded(std::string& out, int value, std::size_t width)
 {
+    if (width == 2 && value < 100) { // nearly every field of nearly every date
+        out += static_cast<char>('0' + value / 10);
+        out += static_cast<char>('0' + value % 10);
+        return;
+    }
     const fmt::format_int digits(value);
     if (digits.size() < width)
         out.append(width - digits.size(), '0');
@@ -85,7 +90,10 @@ bool HasMeridiem(std::string_view pattern)
     return false;
 }
 
-constexpr std::string_view kTokenLetters = "dmyhns";
+bool IsTokenLetter(char letter)
+{
+    return letter == 'd' || letter == 'm' || letter == 'y' || letter == 'h' || letter == 'n' || letter == 's';
+}
 
 } // namespace
 
@@ -100,7 +108,7 @@ std::string FormatDateTime(DateTime value, std::string_view pattern)
         if (StartsWithMeridiem(pattern.substr(i))) {
             out += Meridiem(moment.time.hour);
             i += 5;
-        } else if (kTokenLetters.find(letter) != std::string_view::npos) {
+        } else if (IsTokenLetter(letter)) {
             const std::size_t length = RunLength(pattern, i, letter == 'y' ? 4 : 2);
             AppendToken(out, letter, length, moment, lastToken == 'h');
             lastToken = letter;
