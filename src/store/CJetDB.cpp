@@ -66,7 +66,7 @@ bool CJetDB::OpenDB(const std::string& paramName, const std::string& /*paramConn
     try {
         m_database = std::make_unique<Engine>(NativePath(name).string());
     } catch (...) {
-        return Fail(CurrentFailure().Number());
+        return Fail(CurrentFailure().Number()); // the engine's own, which tells a file in use from a damaged one
     }
     m_databaseName = name;
     m_databaseOpen = true;
@@ -89,7 +89,7 @@ std::shared_ptr<RecordSet> CJetDB::ExecuteSelect(const std::string& sqlstring)
         Fail(jetdb::NoSql);
         return nullptr;
     }
-    m_sql = sqlstring;
+    m_sql = sqlstring; // even an empty one: a stored statement only spares the check above
     if (m_recordsetType == 0) {
         m_recordsetType = kSnapshot;
     }
@@ -108,7 +108,7 @@ std::shared_ptr<RecordSet> CJetDB::ExecuteSelect(const std::string& sqlstring)
 
 bool CJetDB::ExecuteAction(const std::string& sqlstring)
 {
-    OpenWhenClosed();
+    OpenWhenClosed(); // when that fails, its number gives way to 403 below: an operation knows only that it found no open file
     bool done = false;
     try {
         if (sqlstring.empty() && m_sql.empty()) {
@@ -184,7 +184,7 @@ std::shared_ptr<RecordSet> CJetDB::OpenListing(const char* query)
         return nullptr;
     }
     try {
-        auto rows = m_database->SelectStored(query);
+        auto rows = m_database->SelectStored(query); // a snapshot: its count is the number of all its rows
         return rows->RecordCount() >= 0 || Fail(jetdb::NegativeCount) ? rows : nullptr;
     } catch (...) {
         Fail(jetdb::ListingFailed);
@@ -212,7 +212,7 @@ bool CJetDB::LoadEmployeeList(EmployeeSink& thelist)
     try {
         RowReader reader(*rows, EmployeeColumns());
         for (std::int32_t position = 1; position <= rows->RecordCount(); ++position) {
-            thelist.InsertLoaded(reader.ReadEmployee(), position);
+            thelist.InsertLoaded(reader.ReadEmployee(), position); // deliberately not asked, unlike a company's list
             rows->MoveNext();
         }
     } catch (...) {

@@ -23,6 +23,7 @@ void Append(std::string& sql, fmt::format_string<Values...> text, Values&&... va
 
 void BuildInsertSQL(std::string& sql, const TimeRecordRow& record)
 {
+    // Two blanks before SELECT: both pieces carry one.
     sql += "INSERT INTO TimeRecord ( EmployeeID, StartTime, EndTime ) ";
     Append(sql, " SELECT {}, ", record.EmployeeID);
     Append(sql, "#{}#, ", GeneralText(record.StartTime));
@@ -38,6 +39,7 @@ void BuildUpdateSQL(std::string& sql, const TimeRecordRow& record)
     Append(sql, "WHERE ((TimeRecord.TimeRecordID = {}));", record.TimeRecordID);
 }
 
+// The columns say what goes; it is always the whole row.
 void BuildDeleteSQL(std::string& sql, const TimeRecordRow& record)
 {
     sql += "DELETE TimeRecord.TimeRecordID, TimeRecord.EmployeeID, TimeRecord.ShiftDate, TimeRecord.StartTime, TimeRecord.EndTime "

@@ -66,6 +66,7 @@ RowReader::RowReader(const RecordSet& rows, std::span<const char* const> columns
     }
 }
 
+// Keys, rates and lengths below one mean that nothing was ever entered.
 template <typename Number>
 void RowReader::Positive(Number& field)
 {
@@ -100,6 +101,7 @@ void RowReader::Flag(bool& field)
     field = m_rows.BooleanAt(*m_next++);
 }
 
+// In the order of kEmployeeColumns.
 EmployeeRow RowReader::ReadEmployee()
 {
     EmployeeRow row;
@@ -131,6 +133,7 @@ EmployeeRow RowReader::ReadEmployee()
     return row;
 }
 
+// In the order of kCompanyColumns.
 CompanyRow RowReader::ReadCompany()
 {
     CompanyRow row;

@@ -16,11 +16,6 @@ namespace {
 
 using DatabaseFileTest = StoreTest;
 
-std::size_t FilesIn(const std::string& folder)
-{
-    return static_cast<std::size_t>(std::distance(std::filesystem::directory_iterator(folder), std::filesystem::directory_iterator()));
-}
-
 } // namespace
 
 TEST_F(DatabaseFileTest, StartsWithOptionsQueriesAndTheAdministrator)
@@ -30,7 +25,7 @@ TEST_F(DatabaseFileTest, StartsWithOptionsQueriesAndTheAdministrator)
     };
     ASSERT_EQ(stat(Path().c_str(), &file), 0);
     EXPECT_EQ(file.st_mode & 0777U, 0600U);
-    EXPECT_EQ(FilesIn(m_folder.Path() + "/system"), 1U);
+    EXPECT_EQ(SystemFiles(), 1);
     EXPECT_EQ(Rows("PRAGMA application_id; PRAGMA user_version; PRAGMA integrity_check"), "1347701553|1|ok|"); // "PTK1"
     EXPECT_EQ(Rows("SELECT * FROM _System"), "PTK - Administrator|1.0|14|1899-12-30 08:00:00|1899-12-30 17:00:00|");
     EXPECT_EQ(Rows("SELECT EmployeeID, FirstName, LastName, Password, Active FROM Employee"), "39||administrator|wharf271|1|");
@@ -54,7 +49,7 @@ TEST_F(DatabaseFileTest, NeverReplacesWhatIsThere)
     EXPECT_EQ(FailureOf([&] { CreateDatabase(late, [&](BulkWriter&) { WriteBytes(late, "somebody else's"); }); }), failure::PathFileAccess);
     EXPECT_EQ(ReadBytes(late), "somebody else's");
     EXPECT_EQ(FailureOf([&] { CreateDatabase(File("missing/new.mdb")); }), failure::PathNotFound);
-    EXPECT_EQ(FilesIn(m_folder.Path() + "/system"), 3U); // the database, the link, the late file
+    EXPECT_EQ(SystemFiles(), 3); // the database, the link, the late file
 }
 
 TEST_F(DatabaseFileTest, LeavesNothingBehindWhenFillingFails)
@@ -64,7 +59,7 @@ TEST_F(DatabaseFileTest, LeavesNothingBehindWhenFillingFails)
         throw Failure(failure::InvalidProcedureCall);
     };
     EXPECT_EQ(FailureOf([&] { CreateDatabase(File("new.mdb"), fail); }), failure::InvalidProcedureCall);
-    EXPECT_EQ(FilesIn(m_folder.Path() + "/system"), 1U);
+    EXPECT_EQ(SystemFiles(), 1);
 }
 
 TEST_F(DatabaseFileTest, TakesManyRowsInOneTransaction)

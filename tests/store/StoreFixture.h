@@ -11,6 +11,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <filesystem>
+
 namespace ptk {
 
 // The number of the failure that `action` raises; 0 when it raises none.
@@ -50,6 +52,11 @@ protected:
 
     std::string Path() const { return File("ptk_11.mdb"); }
     std::string File(const std::string& name) const { return m_folder.Path() + "/system/" + name; }
+
+    std::ptrdiff_t SystemFiles() const
+    {
+        return std::distance(std::filesystem::directory_iterator(m_folder.Path() + "/system"), std::filesystem::directory_iterator());
+    }
 
     // As another tool would, while the program has the file closed.
     void Run(const std::string& sql) const { RawDatabase(Path()).Run(sql); }

@@ -40,6 +40,7 @@ std::unique_ptr<Statement> Engine::Prepare(std::string_view sql)
 
 std::unique_ptr<Statement> Engine::PrepareStored(std::string_view query)
 {
+    // The queries' texts are part of the file, so that a file of other tables can bring queries that fit them.
     Statement search(Open().Handle(), "SELECT sql FROM _StoredQuery WHERE name = :name");
     search.Bind("name", std::string(query));
     const auto found = search.ReadRows();

@@ -64,9 +64,10 @@ Value RecordSet::Stored(const Cell& cell) const
     case Kind::Binary:
         break;
     }
-    throw Failure(failure::TypeMismatch);
+    throw Failure(failure::TypeMismatch); // bytes are none of the types the program knows
 }
 
+// Other tools do not keep to the declared types, so the typed readers convert; what was stored as declared takes the short way.
 Value RecordSet::Field(std::size_t column) const
 {
     const Cell& cell = At(column);

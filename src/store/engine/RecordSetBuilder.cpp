@@ -40,6 +40,7 @@ void RecordSet::Builder::AddReal(double value)
     Add(Kind::Real, std::bit_cast<std::int64_t>(value));
 }
 
+// Date-times are most of what is read: taken apart while their text is at hand, they need no room of their own.
 void RecordSet::Builder::AddText(std::string_view value)
 {
     if (NextType() == Type::DateTime) {
