@@ -28,6 +28,8 @@ inline void Click(const QWidget& window, const QString& button)
 // Types over what a box holds, as a user does, and leaves it by Tab.
 inline void Type(QLineEdit& box, const QString& text)
 {
+    QApplication::setActiveWindow(box.window());
+    box.setFocus();
     box.selectAll();
     QTest::keyClick(&box, Qt::Key_Delete);
     QTest::keyClicks(&box, text);

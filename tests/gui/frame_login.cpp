@@ -1,5 +1,6 @@
 // From the start of the program through the login to the end of the session.
 #include "gui/GuiFixture.h"
+#include "store/BulkWriter.h"
 
 namespace ptk {
 namespace {
