@@ -33,10 +33,10 @@ TEST_F(CFileTest, OpensForReadingUnlessTheModeIsOneOrTwo)
         const char* expected;
     };
     WriteBytes(Path(), "");
-    for (const Case& c : {Case{"missing", {}, "0"}, Case{"7", 7, "0"}, Case{"a word", "abc", "0"}, Case{"negative", -1, "0"},
-                          Case{"just above", 2.25, "0"}, Case{"huge", 1e300, "0"}, Case{"true is -1", true, "0"},
-                          Case{"a date", DateTime::FromSeconds(86400), "0"}, Case{"1", 1, "1"}, Case{"2", std::int16_t{2}, "2"},
-                          Case{"number text", " 1 ", "1"}}) {
+    for (const Case& c :
+         {Case{"missing", {}, "0"}, Case{"7", 7, "0"}, Case{"a word", "abc", "0"}, Case{"negative", -1, "0"}, Case{"just above", 2.25, "0"},
+          Case{"huge", 1e300, "0"}, Case{"true is -1", true, "0"}, Case{"a date", DateTime::FromSeconds(86400), "0"}, Case{"1", 1, "1"},
+          Case{"2", std::int16_t{2}, "2"}, Case{"number text", " 1 ", "1"}}) {
         SCOPED_TRACE(c.name);
         EXPECT_TRUE(file.OpenFile(Path(), c.mode));
         EXPECT_EQ(file.FileMode(), c.expected);

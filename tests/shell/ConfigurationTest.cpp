@@ -47,12 +47,13 @@ TEST_F(ConfigurationTest, ReadsWhatCanBeReadAndCallsItASuccess)
         Strings lines;
     };
     const std::string longValue(100000, 'x');
-    for (const Case& c : {Case{"as shipped", "[PTK]\r\nA=<app.path>\\b\r\nShowLoginHelp=True\r\n", {"[PTK]", "A=<app.path>\\b", "ShowLoginHelp=True"}},
-                          Case{"a comma ends a line", "K=a,b\r\n", {"K=a", "b"}}, Case{"a line EOF is dropped", "a\r\nEOF\r\nb\r\n", {"a", "b"}},
-                          Case{"empty lines stay", "a\r\n\r\nb", {"a", "", "b"}}, Case{"any line end", "a\rb\nc", {"a", "b", "c"}},
-                          Case{"NUL bytes stay", std::string("a\0=b\r\n", 6), {std::string("a\0=b", 4)}},
-                          Case{"unclosed quote", "\"a\r\nb=1", {"a\r\nb=1"}}, Case{"empty file", "", {}},
-                          Case{"very long line", "K=" + longValue, {"K=" + longValue}}}) {
+    for (const Case& c :
+         {Case{"as shipped", "[PTK]\r\nA=<app.path>\\b\r\nShowLoginHelp=True\r\n", {"[PTK]", "A=<app.path>\\b", "ShowLoginHelp=True"}},
+          Case{"a comma ends a line", "K=a,b\r\n", {"K=a", "b"}}, Case{"a line EOF is dropped", "a\r\nEOF\r\nb\r\n", {"a", "b"}},
+          Case{"empty lines stay", "a\r\n\r\nb", {"a", "", "b"}}, Case{"any line end", "a\rb\nc", {"a", "b", "c"}},
+          Case{"NUL bytes stay", std::string("a\0=b\r\n", 6), {std::string("a\0=b", 4)}},
+          Case{"unclosed quote", "\"a\r\nb=1", {"a\r\nb=1"}}, Case{"empty file", "", {}},
+          Case{"very long line", "K=" + longValue, {"K=" + longValue}}}) {
         SCOPED_TRACE(c.name);
         config = std::make_shared<CFileAdaptor>(folder.Path());
         Read(c.bytes);
@@ -141,7 +142,8 @@ TEST_F(ConfigurationTest, WritesEveryLineBack)
     Read("[PTK]\nK=a,b\n\nfree text");
     EXPECT_TRUE(config->ReplaceLine("K", "c"));
     EXPECT_TRUE(config->WriteFile(path));
-    EXPECT_EQ(ReadBytes(path), "K=c\r\nK=a\r\nb\r\n\r\nfree text\r\n") << "the header contains the key's text and is the first line that does";
+    EXPECT_EQ(ReadBytes(path), "K=c\r\nK=a\r\nb\r\n\r\nfree text\r\n")
+        << "the header contains the key's text and is the first line that does";
 }
 
 TEST_F(ConfigurationTest, HoldsAsManyLinesAsAPositionCanCount)

@@ -1,5 +1,5 @@
-#include "shell/CStringList.h"
 #include "shell/KeyedList.h"
+#include "shell/CStringList.h"
 
 #include <gtest/gtest.h>
 

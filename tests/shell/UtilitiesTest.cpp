@@ -18,14 +18,29 @@ TEST(CDataValidatorTest, ChecksCharactersAndValues)
         bool integer, single, dateTime;
     };
     const CDataValidator validator;
-    for (const Case& c :
-         {Case{"", true, false, false}, Case{"14", true, true, false}, Case{"12a", false, false, false}, Case{"99999999", true, true, false},
-          Case{"-5", false, false, false}, Case{"+5", false, false, false}, Case{" 5", false, false, false}, Case{"5 ", false, false, false},
-          Case{"12.5", false, true, false}, Case{"1.2.3", false, false, false}, Case{".", false, false, false}, Case{".5", false, true, false},
-          Case{"5.", false, true, false}, Case{"1e5", false, false, false}, Case{"1,000", false, false, false},
-          Case{std::string(50, '9'), true, false, false}, Case{"\xC2\xB2", false, false, false}, Case{std::string(1, '\0'), false, false, false},
-          Case{"3/5/2003", false, false, true}, Case{"8:05 AM", false, false, true}, Case{"3/5/2003 17:00:00", false, false, true},
-          Case{"2/30/2003", false, false, false}, Case{"soon", false, false, false}}) {
+    for (const Case& c : {Case{"", true, false, false},
+                          Case{"14", true, true, false},
+                          Case{"12a", false, false, false},
+                          Case{"99999999", true, true, false},
+                          Case{"-5", false, false, false},
+                          Case{"+5", false, false, false},
+                          Case{" 5", false, false, false},
+                          Case{"5 ", false, false, false},
+                          Case{"12.5", false, true, false},
+                          Case{"1.2.3", false, false, false},
+                          Case{".", false, false, false},
+                          Case{".5", false, true, false},
+                          Case{"5.", false, true, false},
+                          Case{"1e5", false, false, false},
+                          Case{"1,000", false, false, false},
+                          Case{std::string(50, '9'), true, false, false},
+                          Case{"\xC2\xB2", false, false, false},
+                          Case{std::string(1, '\0'), false, false, false},
+                          Case{"3/5/2003", false, false, true},
+                          Case{"8:05 AM", false, false, true},
+                          Case{"3/5/2003 17:00:00", false, false, true},
+                          Case{"2/30/2003", false, false, false},
+                          Case{"soon", false, false, false}}) {
         SCOPED_TRACE(c.text);
         EXPECT_EQ(validator.CheckIntegerValues(c.text), c.integer);
         EXPECT_EQ(validator.CheckSingleValues(c.text), c.single);
@@ -41,7 +56,8 @@ TEST(CDocLauncherTest, TurnsTheShellsCodesIntoAnswers)
         bool answer;
         std::int32_t errorNumber;
     };
-    for (const Case& c : {Case{33, true, 0}, Case{42, true, 0}, Case{32, false, 0}, Case{31, false, 0}, Case{2, false, 902}, Case{0, false, 0}}) {
+    for (const Case& c :
+         {Case{33, true, 0}, Case{42, true, 0}, Case{32, false, 0}, Case{31, false, 0}, Case{2, false, 902}, Case{0, false, 0}}) {
         SCOPED_TRACE(c.shellCode);
         RecordingDesktop desktop;
         desktop.shellCodes = {c.shellCode, c.shellCode};
