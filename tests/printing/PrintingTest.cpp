@@ -106,7 +106,7 @@ protected:
                 if (before.count(file) != 0 || file.extension() != ".pdf")
                     continue;
                 std::this_thread::sleep_for(300ms); // the printer may still be writing it
-                const std::string text = OutputOf("pdftotext -fixed 6 '" + file.string() + "' -");
+                std::string text = OutputOf("pdftotext -fixed 6 '" + file.string() + "' -");
                 std::filesystem::remove(file);
                 return text;
             }

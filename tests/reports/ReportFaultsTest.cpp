@@ -15,7 +15,7 @@ class ReportFaultsTest : public ReportTest
 protected:
     std::shared_ptr<CReportEmployee> Records(bool expected)
     {
-        const auto report = New<CReportEmployee>();
+        auto report = New<CReportEmployee>();
         EXPECT_EQ(report->GenerateReport(ListOf({ann, zorn})), expected);
         return report;
     }
