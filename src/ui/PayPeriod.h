@@ -1,0 +1,25 @@
+// The pay periods that the arrows step through.
+#pragma once
+
+#include "platform/DateTime.h"
+
+#include <cstdint>
+#include <optional>
+
+namespace ptk {
+
+// Both days are inclusive.
+struct PayPeriod
+{
+    DateTime from;
+    DateTime to;
+};
+
+// A length of L days deliberately spans L + 1: the last day is the first plus L.
+PayPeriod PayPeriodFrom(DateTime from, std::int16_t length);
+
+// The period after (direction 1) or before (-1) the one from `from`, without overlap or gap. Nothing for any other direction, and where the
+// period would leave the years 1900 to 2100. Raises Failure 6 when the days to step do not fit 16 bits.
+std::optional<PayPeriod> StepPayPeriod(DateTime from, std::int16_t length, std::int16_t direction);
+
+} // namespace ptk

@@ -1,0 +1,548 @@
+#include "ui/TimeCardPage.h"
+
+#include "model/CEmployee.h"
+#include "model/CEmployeeList.h"
+#include "model/CTimeCard.h"
+#include "model/CTimeRecord.h"
+#include "model/CTimeRecordFactory.h"
+#include "model/CTimeRecordList.h"
+#include "platform/Clock.h"
+#include "platform/Desktop.h"
+#include "platform/Text.h"
+#include "shell/startup/CController.h"
+#include "store/CSystemOptions.h"
+#include "ui/BusyPointer.h"
+#include "ui/ChosenOnly.h"
+#include "ui/EmployeeModels.h"
+#include "ui/FAutoFill.h"
+#include "ui/FTimeEditor.h"
+#include "ui/OpenReports.h"
+#include "ui/PageHost.h"
+#include "ui/PayPeriod.h"
+#include "ui/Required.h"
+#include "ui/TimeRecordGridModel.h"
+#include "ui_TimeCardPage.h"
+
+#include <array>
+#include <QShortcut>
+
+namespace ptk {
+namespace {
+
+struct Notice
+{
+    const char* title;
+    const char* text;
+    Icon icon;
+};
+
+constexpr auto kGenerationTitle = "Timecard Generation Error";
+constexpr auto kCreationTitle = "Time Card Creation Error";
+constexpr auto kSelectionTitle = "Time Record Selection Error";
+constexpr auto kNotGeneratedText = "An error occurred while generating this timecard. Check time records, rate of pay, or date range.";
+constexpr auto kNotAddedText = "An error occurred while adding this time record to the database.";
+
+constexpr Notice kNoEmployeeChosen{"Generate Timecard Error", "You must select an employee.", Icon::Exclamation};
+constexpr Notice kNotGenerated{kGenerationTitle, kNotGeneratedText, Icon::Exclamation};
+constexpr Notice kNotMoved{kGenerationTitle, "Cannot move to the selected time period.", Icon::Exclamation};
+constexpr Notice kNoCardForNew{kCreationTitle, "You must generate a time card before adding a new time record.", Icon::Information};
+constexpr Notice kNoCard{kCreationTitle, "You must generate a time card before continuing.", Icon::Information};
+constexpr Notice kNoneToEdit{kSelectionTitle, "You must select a time record to edit before continuing.", Icon::Information};
+constexpr Notice kNoneToDelete{kSelectionTitle, "You must select a time record to delete before continuing.", Icon::Information};
+constexpr Notice kDeleteQuestion{"Delete Time Record?", "Deleting will remove this time record from the database permanently. Continue?",
+                                 Icon::Question};
+constexpr Notice kNotDeleted{"Time Record Delete Error", "There was an error deleting the time record from the database.",
+                             Icon::Exclamation};
+constexpr Notice kNotFilled{"Time Record Save Error", kNotAddedText, Icon::Exclamation};
+constexpr Notice kNotStored{"Database Save Error", kNotAddedText, Icon::Exclamation};
+constexpr auto kPrintTitle = "Time Card Print Error";
+constexpr auto kPrintText =
+    "An error occurred while printing the current timecard. Check employee record and time records before continuing.";
+
+constexpr std::int32_t kCalculationFailed = 604;
+
+struct CardError
+{
+    std::int32_t number;
+    Notice notice;
+};
+
+// 602 also says "not active" of a name that nobody has.
+constexpr std::array<CardError, 4> kCardErrors{{
+    {kCalculationFailed, kNotGenerated},
+    {timecard::NoRecords, {kGenerationTitle, "There are no time records found for this employee during this period.", Icon::Information}},
+    {timecard::NoEmployee, {kGenerationTitle, "This is not an active employee.", Icon::Exclamation}},
+    {timecard::InvalidRange, {kGenerationTitle, "Incorrect date format or invalid date range.", Icon::Exclamation}},
+}};
+
+constexpr auto kStatusName = "Timecards";
+constexpr auto kNothingToFill = "Generate a time card first.";
+constexpr int kNameCharacters = 24;
+constexpr std::int16_t kBack = -1;
+constexpr std::int16_t kNext = 1;
+
+void Tell(Desktop& desktop, const Notice& notice)
+{
+    desktop.Show(notice.text, notice.title, notice.icon);
+}
+
+// The answer of a step, false also when it raised anything.
+template <typename Step>
+bool Succeeds(Step step)
+{
+    try {
+        return step();
+    } catch (...) {
+        return false;
+    }
+}
+
+DateTime ChosenDate(const DateCombo& box)
+{
+    const auto date = box.Date();
+    if (!date)
+        throw Failure(failure::TypeMismatch);
+    return *date;
+}
+
+QString Figure(float value)
+{
+    return QString::fromStdString(TwoDecimals(value));
+}
+
+} // namespace
+
+TimeCardPage::TimeCardPage(PageHost& host, QWidget* parent)
+    : QWidget(parent), m_host(host), m_ui(std::make_unique<Ui::TimeCardPage>()), m_records(new TimeRecordGridModel(this))
+{
+    m_ui->setupUi(this);
+    m_ui->dttbTCFrom->SetClock(host.Clock());
+    m_ui->dttbTCTo->SetClock(host.Clock());
+    ShowColumn(*m_ui->cboTCEmployeeName, host.EmployeeModels().Offered(), 0, kNameCharacters);
+    IgnoreWheel(*m_ui->cboTCEmployeeName);
+    m_ui->cmdFill->setToolTip(kNothingToFill);
+    PrepareGrid();
+    ConnectSelection();
+    ConnectActions();
+}
+
+TimeCardPage::~TimeCardPage() = default;
+
+void TimeCardPage::PrepareGrid()
+{
+    QTableView* grid = m_ui->grdTimeRecs;
+    grid->setModel(m_records);
+    grid->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    grid->horizontalHeader()->setHighlightSections(false);
+    grid->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    grid->verticalHeader()->hide();
+    const auto choose = [this] {
+        if (m_ui->grdTimeRecs->selectionModel()->hasSelection())
+            m_host.EventSource(eventsource::TimeRecordGrid);
+    };
+    connect(grid, &QTableView::clicked, this, choose);
+    connect(grid->selectionModel(), &QItemSelectionModel::selectionChanged, this, choose);
+}
+
+void TimeCardPage::ConnectSelection()
+{
+    connect(m_ui->dttbTCFrom, &DateCombo::Changed, this, [this] {
+        AlignPeriodEnd();
+        ShowStatus();
+    });
+    connect(m_ui->dttbTCTo, &DateCombo::Changed, this, &TimeCardPage::ShowStatus);
+    connect(m_ui->cmdPeriodBack, &QPushButton::clicked, this, [this] { StepPeriod(kBack); });
+    connect(m_ui->cmdPeriodNext, &QPushButton::clicked, this, [this] { StepPeriod(kNext); });
+    connect(m_ui->cboTCEmployeeName, &QComboBox::activated, this, &TimeCardPage::ChooseEmployee);
+    connect(m_ui->cmdTCBack, &QPushButton::clicked, this, [this] { StepEmployee(kBack); });
+    connect(m_ui->cmdTCNext, &QPushButton::clicked, this, [this] { StepEmployee(kNext); });
+}
+
+void TimeCardPage::ConnectActions()
+{
+    connect(m_ui->cmdGenTimeRecs, &QPushButton::clicked, this, &TimeCardPage::Generate);
+    connect(m_ui->cmdTCNew, &QPushButton::clicked, this, &TimeCardPage::NewRecord);
+    connect(m_ui->cmdTCEdit, &QPushButton::clicked, this, &TimeCardPage::EditRecord);
+    connect(m_ui->grdTimeRecs, &QTableView::doubleClicked, this, &TimeCardPage::EditRecord);
+    connect(m_ui->cmdTCDelete, &QPushButton::clicked, this, &TimeCardPage::DeleteRecord);
+    auto* deleteKey = new QShortcut(QKeySequence::Delete, m_ui->grdTimeRecs, nullptr, nullptr, Qt::WidgetShortcut);
+    connect(deleteKey, &QShortcut::activated, this, &TimeCardPage::DeleteRecord);
+    connect(m_ui->cmdFill, &QPushButton::clicked, this, &TimeCardPage::AutoFill);
+    connect(m_ui->cmdTCPrint, &QPushButton::clicked, this, &TimeCardPage::Print);
+}
+
+// Another page may have taken the marker over in the meantime; a row that cannot be edited must not look chosen.
+void TimeCardPage::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    if (m_host.EventSource() != eventsource::TimeRecordGrid)
+        ForgetChosenRecord();
+}
+
+bool TimeCardPage::InitializePayPeriod()
+{
+    m_ui->dttbTCFrom->SetDate(m_host.Clock().Today());
+    return AlignPeriodEnd();
+}
+
+bool TimeCardPage::AlignPeriodEnd()
+{
+    return Succeeds([this] {
+        m_ui->dttbTCTo->SetDate(PayPeriodFrom(ChosenDate(*m_ui->dttbTCFrom), PeriodLength()).to);
+        return true;
+    });
+}
+
+bool TimeCardPage::MovePayPeriod(std::int16_t direction)
+{
+    const auto period = StepPayPeriod(ChosenDate(*m_ui->dttbTCFrom), PeriodLength(), direction);
+    if (!period)
+        return false;
+    m_ui->dttbTCFrom->SetDate(period->from);
+    m_ui->dttbTCTo->SetDate(period->to);
+    return true;
+}
+
+void TimeCardPage::StepPeriod(std::int16_t direction)
+{
+    if (!Succeeds([&] { return MovePayPeriod(direction); }))
+        Tell(m_host.Desktop(), kNotMoved);
+    TurnToChosenEmployee();
+}
+
+void TimeCardPage::StepEmployee(int direction)
+{
+    QComboBox* box = m_ui->cboTCEmployeeName;
+    const int next = box->currentIndex() + direction;
+    if (next >= 0 && next < box->count())
+        box->setCurrentIndex(next);
+    TurnToChosenEmployee();
+}
+
+void TimeCardPage::SelectFirstEmployee()
+{
+    m_ui->cboTCEmployeeName->setCurrentIndex(0);
+    ChooseEmployee();
+}
+
+void TimeCardPage::ChooseEmployee()
+{
+    m_host.EventSource(eventsource::Name);
+    if (!EmployeeText().empty()) {
+        m_employeeName = EmployeeText();
+        ShowStatus();
+    }
+    ForgetChosenRecord();
+}
+
+void TimeCardPage::TurnToChosenEmployee()
+{
+    if (EmployeeText().empty())
+        return;
+    m_employeeName = EmployeeText();
+    ShowStatus();
+    ClearTimeCardDisplay();
+}
+
+void TimeCardPage::ShowStatus()
+{
+    const QString period = m_ui->dttbTCFrom->Text() + " - " + m_ui->dttbTCTo->Text();
+    m_host.SetStatusText(kStatusName, m_employeeName + " : " + period.toStdString());
+}
+
+void TimeCardPage::EnablePrint()
+{
+    m_ui->cmdTCPrint->setEnabled(true);
+}
+
+void TimeCardPage::Generate()
+{
+    if (!RefreshTimeCard())
+        Tell(m_host.Desktop(), kNotGenerated);
+}
+
+bool TimeCardPage::RefreshTimeCard()
+{
+    return Succeeds([this] {
+        if (EmployeeText().empty())
+            Tell(m_host.Desktop(), kNoEmployeeChosen);
+        else
+            Regenerate();
+        return true;
+    });
+}
+
+bool TimeCardPage::GenerateTimeCard()
+{
+    m_host.TimeCard(nullptr);
+    const auto controller = Controller();
+    const auto employee = Required(controller->EmployeeList())->GetEmployeeByName(EmployeeText());
+    const auto card = std::make_shared<CTimeCard>(Required(controller->TimeRecordFactory()));
+    m_host.TimeCard(card);
+    card->PTKDatabase(controller->PTKDatabase());
+    const DateTime start = ChosenDate(*m_ui->dttbTCFrom);
+    const DateTime end = ChosenDate(*m_ui->dttbTCTo).AddDays(1);
+    const bool generated = [&] {
+        const BusyPointer busy(m_host.Desktop());
+        return card->GenerateTimecard(employee, start, end);
+    }();
+    if (!generated)
+        ReportCardError(card->ErrorNumber());
+    return generated;
+}
+
+void TimeCardPage::ReportCardError(std::int32_t errorNumber)
+{
+    for (const auto& error : kCardErrors)
+        if (error.number == errorNumber)
+            return Tell(m_host.Desktop(), error.notice);
+}
+
+void TimeCardPage::Regenerate()
+{
+    if (GenerateTimeCard())
+        ShowTimeCard();
+    else
+        ClearTimeCardDisplay();
+}
+
+// What was to be saved is saved; that the card cannot be shown again is another matter.
+void TimeCardPage::RegenerateAfterSave()
+{
+    const auto regenerate = [this] {
+        Regenerate();
+        return true;
+    };
+    if (!Succeeds(regenerate))
+        Tell(m_host.Desktop(), kNotGenerated);
+}
+
+bool TimeCardPage::ShowTimeCard()
+{
+    SetupTimeRecordGrid();
+    DisplayTimeCard();
+    return false;
+}
+
+bool TimeCardPage::SetupTimeRecordGrid()
+{
+    m_records->Clear();
+    ForgetChosenRecord();
+    m_ui->cmdFill->setEnabled(m_host.TimeCard() != nullptr);
+    m_ui->cmdFill->setToolTip(m_ui->cmdFill->isEnabled() ? QString() : kNothingToFill);
+    return true;
+}
+
+bool TimeCardPage::DisplayTimeCard()
+{
+    const auto card = Required(m_host.TimeCard());
+    const auto employee = Required(card->Employee());
+    const bool filled = FillTimeRecordGrid(card->TimeRecordList());
+    m_ui->txtTCHours->setText(Figure(card->RegularHoursWorked()));
+    m_ui->txtTCPayRate->setText(Figure(employee->PayRate()));
+    m_ui->txtTCOvertimeHours->setText(Figure(card->OvertimeHoursWorked()));
+    m_ui->txtTCOvertimePayRate->setText(Figure(employee->OvertimePayRate()));
+    m_ui->txtTCPeriodPay->setText(Figure(card->TotalPay()));
+    return filled;
+}
+
+bool TimeCardPage::FillTimeRecordGrid(const std::shared_ptr<CTimeRecordList>& records)
+{
+    m_records->SetRecords(*Required(records));
+    return true;
+}
+
+bool TimeCardPage::ClearTimeCardDisplay()
+{
+    for (auto* box : {m_ui->txtTCHours, m_ui->txtTCOvertimeHours, m_ui->txtTCPayRate, m_ui->txtTCOvertimePayRate, m_ui->txtTCPeriodPay})
+        box->clear();
+    SetupTimeRecordGrid();
+    return true;
+}
+
+void TimeCardPage::ForgetChosenRecord()
+{
+    m_ui->grdTimeRecs->clearSelection();
+    m_host.EventSource(eventsource::None);
+}
+
+int TimeCardPage::ChosenRow() const
+{
+    const auto rows = m_ui->grdTimeRecs->selectionModel()->selectedRows();
+    return m_host.EventSource() != eventsource::TimeRecordGrid || rows.isEmpty() ? -1 : rows.first().row();
+}
+
+// The shown texts have no seconds, an editor may have changed the record since, and a report may have put other employees' records into the
+// one list that all cards share: only a record of this grid counts, else the one behind the chosen row.
+std::shared_ptr<CTimeRecord> TimeCardPage::ChosenRecord() const
+{
+    const int row = ChosenRow();
+    const auto start = ParseDateTime(m_records->Text(row, recordcolumn::Start).toStdString());
+    const auto end = ParseDateTime(m_records->Text(row, recordcolumn::End).toStdString());
+    const auto found = start && end ? Required(m_host.TimeCard())->GetTimeRecordByKey(*start, *end) : nullptr;
+    return found != nullptr && m_records->Shows(found) ? found : m_records->Record(row);
+}
+
+void TimeCardPage::NewRecord()
+{
+    if (m_host.TimeCard() == nullptr)
+        return Tell(m_host.Desktop(), kNoCardForNew);
+    m_editingNew = true;
+    OpenEditor(std::make_shared<CTimeRecord>());
+}
+
+void TimeCardPage::EditRecord()
+{
+    if (m_host.TimeCard() == nullptr)
+        return Tell(m_host.Desktop(), kNoCard);
+    if (ChosenRow() < 0)
+        return Tell(m_host.Desktop(), kNoneToEdit);
+    m_editingNew = false;
+    OpenEditor(ChosenRecord());
+}
+
+void TimeCardPage::OpenEditor(const std::shared_ptr<CTimeRecord>& record)
+{
+    const auto options = Controller()->SystemOptions();
+    FTimeEditor editor(m_host.Desktop(), m_host.Clock(), this);
+    editor.TimeRecord(record);
+    editor.ParentWindow(this);
+    if (options != nullptr)
+        editor.SetAutoShiftTimes(options->AutoShiftStartTime(), options->AutoShiftEndTime());
+    editor.exec();
+}
+
+bool TimeCardPage::ReturnTimeRecord(const std::shared_ptr<CTimeRecord>& thetimerecord)
+{
+    if (Succeeds([&] { return StoreReturned(thetimerecord); }))
+        RegenerateAfterSave();
+    else
+        Tell(m_host.Desktop(), kNotStored);
+    return true;
+}
+
+bool TimeCardPage::StoreReturned(const std::shared_ptr<CTimeRecord>& record)
+{
+    const auto card = Required(m_host.TimeCard());
+    Required(record)->EmployeeID(Required(card->Employee())->EmployeeID());
+    return SaveRecord(record);
+}
+
+// The card answers true also when the database refused the statement; only the factory knows then.
+bool TimeCardPage::SaveRecord(const std::shared_ptr<CTimeRecord>& record)
+{
+    const BusyPointer busy(m_host.Desktop());
+    const auto factory = Required(Controller()->TimeRecordFactory());
+    factory->ResetError();
+    return Required(m_host.TimeCard())->SaveTimeRecord(record) && factory->ErrorNumber() == 0;
+}
+
+void TimeCardPage::DeleteRecord()
+{
+    if (m_host.TimeCard() == nullptr)
+        return Tell(m_host.Desktop(), kNoCard);
+    if (ChosenRow() < 0)
+        return Tell(m_host.Desktop(), kNoneToDelete);
+    if (m_host.Desktop().MessageBox(kDeleteQuestion.text, kDeleteQuestion.title, kDeleteQuestion.icon, Buttons::YesNo) != Answer::Yes)
+        return;
+    if (Succeeds([this] { return StoreDeleted(ChosenRecord()); }))
+        RegenerateAfterSave();
+    else
+        Tell(m_host.Desktop(), kNotDeleted);
+}
+
+// A record that could not be deleted must not go with the next save of the whole card.
+bool TimeCardPage::StoreDeleted(const std::shared_ptr<CTimeRecord>& record)
+{
+    const std::int32_t before = record->ObjectState();
+    record->ObjectState(state::Deleted);
+    const bool stored = Succeeds([&] { return SaveRecord(record); });
+    if (!stored)
+        record->ObjectState(before);
+    return stored;
+}
+
+// Without a card, or with a name that nobody has, there is nothing to fill.
+void TimeCardPage::AutoFill()
+{
+    Succeeds([this] {
+        FAutoFill window(m_host.Desktop(), m_host.Clock(), this);
+        HandOver(window);
+        window.exec();
+        if (window.OKClick())
+            TakeOver(window);
+        return true;
+    });
+}
+
+void TimeCardPage::HandOver(FAutoFill& window)
+{
+    const auto controller = Controller();
+    const auto options = Required(controller->SystemOptions());
+    window.StartDate(ChosenDate(*m_ui->dttbTCFrom));
+    window.EndDate(ChosenDate(*m_ui->dttbTCTo));
+    window.AutoShiftStartTime(options->AutoShiftStartTime());
+    window.AutoShiftEndTime(options->AutoShiftEndTime());
+    const auto employee = Required(Required(controller->EmployeeList())->GetEmployeeByName(EmployeeText()));
+    window.EmployeeID(NarrowToInt16(employee->EmployeeID()));
+    window.PeriodLength(options->PeriodLength());
+    window.TimeRecordList(Required(m_host.TimeCard())->TimeRecordList());
+}
+
+void TimeCardPage::TakeOver(const FAutoFill& window)
+{
+    m_ui->dttbTCFrom->SetDate(window.StartDate());
+    m_ui->dttbTCTo->SetDate(window.EndDate());
+    ShowStatus();
+    if (Succeeds([this] { return SaveCard(); }))
+        return RegenerateAfterSave();
+    DropUnsavedRecords();
+    Tell(m_host.Desktop(), kNotFilled);
+}
+
+bool TimeCardPage::SaveCard()
+{
+    const BusyPointer busy(m_host.Desktop());
+    return Required(m_host.TimeCard())->Save() && Required(Controller()->TimeRecordFactory())->ErrorNumber() == 0;
+}
+
+// New records stay new also where they were stored, so a second try would store those twice.
+void TimeCardPage::DropUnsavedRecords()
+{
+    const auto records = Required(m_host.TimeCard())->TimeRecordList();
+    for (std::int32_t i = records->Count(); i >= 1; --i)
+        if (records->RecordAt(i).ObjectState() == state::New)
+            records->Remove(i);
+}
+
+void TimeCardPage::Print()
+{
+    const auto tell = [this](std::int32_t number) {
+        m_host.Desktop().Show(std::to_string(number) + " : " + kPrintText, kPrintTitle, Icon::Information);
+    };
+    Succeeds([&] {
+        if (!RefreshTimeCard())
+            tell(Required(m_host.TimeCard())->ErrorNumber());
+        std::int32_t errorNumber = 0;
+        if (!m_host.Reports().PrintTimeCard(m_host.TimeCard(), errorNumber))
+            tell(errorNumber);
+        return true;
+    });
+}
+
+std::shared_ptr<CController> TimeCardPage::Controller() const
+{
+    return Required(m_host.Controller());
+}
+
+std::int16_t TimeCardPage::PeriodLength() const
+{
+    return Required(Controller()->SystemOptions())->PeriodLength();
+}
+
+std::string TimeCardPage::EmployeeText() const
+{
+    return m_ui->cboTCEmployeeName->currentText().toStdString();
+}
+
+} // namespace ptk
