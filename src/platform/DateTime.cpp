@@ -31,6 +31,11 @@ bool InRange(int value, int end)
 
 DateTime::DateTime(CalendarDate date, TimeOfDay time)
 {
+    // The calendar's fields are narrower than ours and would wrap.
+    if (date.year < -9999 || date.year > 9999)
+        throw Failure(failure::Overflow);
+    if (!InRange(date.month, 13) || !InRange(date.day, 32))
+        throw Failure(failure::InvalidProcedureCall);
     const year_month_day day{std::chrono::year{date.year}, std::chrono::month{static_cast<unsigned>(date.month)},
                              std::chrono::day{static_cast<unsigned>(date.day)}};
     if (!day.ok() || !InRange(time.hour, 24) || !InRange(time.minute, 60) || !InRange(time.second, 60))

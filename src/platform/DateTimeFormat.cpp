@@ -1,7 +1,7 @@
 // Date-times to text.
+#include "platform/Characters.h"
 #include "platform/Text.h"
 
-#include <array>
 #include <fmt/format.h>
 
 namespace ptk {
@@ -24,18 +24,13 @@ const char* Meridiem(int hour)
     return hour < 12 ? "AM" : "PM";
 }
 
-char Lower(char c)
-{
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
 bool StartsWithMeridiem(std::string_view text)
 {
     constexpr std::string_view token = "am/pm";
-    if (text.size() < token.size() || Lower(text.front()) != token.front())
+    if (text.size() < token.size() || LowerCase(text.front()) != token.front())
         return false;
     for (std::size_t i = 0; i < token.size(); ++i) {
-        if (Lower(text[i]) != token[i])
+        if (LowerCase(text[i]) != token[i])
             return false;
     }
     return true;
@@ -76,7 +71,7 @@ void AppendToken(std::string& out, char letter, std::size_t length, const Moment
 std::size_t RunLength(std::string_view pattern, std::size_t start, std::size_t most)
 {
     std::size_t end = start + 1;
-    while (end < pattern.size() && end - start < most && Lower(pattern[end]) == Lower(pattern[start]))
+    while (end < pattern.size() && end - start < most && LowerCase(pattern[end]) == LowerCase(pattern[start]))
         ++end;
     return end - start;
 }
@@ -104,7 +99,7 @@ std::string FormatDateTime(DateTime value, std::string_view pattern)
     out.reserve(pattern.size() + 8);
     char lastToken = '\0';
     for (std::size_t i = 0; i < pattern.size();) {
-        const char letter = Lower(pattern[i]);
+        const char letter = LowerCase(pattern[i]);
         if (StartsWithMeridiem(pattern.substr(i))) {
             out += Meridiem(moment.time.hour);
             i += 5;

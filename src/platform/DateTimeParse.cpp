@@ -1,21 +1,14 @@
 // Text to date-times: a small scanner over the words, numbers and separators of the text.
+#include "platform/Characters.h"
 #include "platform/Failure.h"
 #include "platform/Text.h"
 
 #include <array>
+#include <chrono>
 
 namespace ptk {
 
 namespace {
-
-bool IsDigit(char c)
-{
-    return c >= '0' && c <= '9';
-}
-bool IsLetter(char c)
-{
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
-}
 
 struct Number
 {
@@ -35,7 +28,7 @@ public:
     bool Blanks()
     {
         const std::size_t start = m_at;
-        while (!AtEnd() && (m_text[m_at] == ' ' || m_text[m_at] == '\t'))
+        while (!AtEnd() && IsBlank(m_text[m_at]))
             ++m_at;
         return m_at > start;
     }
@@ -72,6 +65,8 @@ private:
     std::size_t m_at = 0;
 };
 
+constexpr int kFirstYear = 100; // as DateTime has it
+
 constexpr std::array<std::string_view, 12> kMonths{"january", "february", "march",     "april",   "may",      "june",
                                                    "july",    "august",   "september", "october", "november", "december"};
 
@@ -93,23 +88,11 @@ int FullYear(Number year)
     return year.value < 30 ? 2000 + year.value : 1900 + year.value;
 }
 
-bool IsLeapYear(int year)
-{
-    return (year % 4 == 0 && year % 100 != 0) || year % 400 == 0;
-}
-
-bool IsDay(int year, int month, int day)
-{
-    constexpr std::array<int, 12> lengths{31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-    if (year < 100 || month < 1 || month > 12 || day < 1)
-        return false;
-    const int length = lengths[static_cast<std::size_t>(month) - 1] + (month == 2 && IsLeapYear(year) ? 1 : 0);
-    return day <= length;
-}
-
 std::optional<CalendarDate> MakeDate(int year, int month, int day)
 {
-    if (!IsDay(year, month, day))
+    const std::chrono::year_month_day date{std::chrono::year{year}, std::chrono::month{static_cast<unsigned>(month)},
+                                           std::chrono::day{static_cast<unsigned>(day)}};
+    if (year < kFirstYear || !date.ok())
         return std::nullopt;
     return CalendarDate{year, month, day};
 }
@@ -239,21 +222,11 @@ std::optional<TimeOfDay> TakeTime(Scanner& scanner)
     return TimeOfDay{*hourOfDay, minute.value, second.value};
 }
 
-std::string_view Trim(std::string_view text)
-{
-    const auto blank = [](char c) { return c == ' ' || c == '\t'; };
-    while (!text.empty() && blank(text.front()))
-        text.remove_prefix(1);
-    while (!text.empty() && blank(text.back()))
-        text.remove_suffix(1);
-    return text;
-}
-
 } // namespace
 
 std::optional<DateTime> ParseDateTime(std::string_view text)
 {
-    Scanner scanner(Trim(text));
+    Scanner scanner(Trimmed(text));
     if (const auto time = TakeTime(scanner); time && scanner.AtEnd())
         return DateTime(CalendarDate{}, *time);
     scanner.Return(0);

@@ -1,8 +1,9 @@
 // Numbers, booleans and their texts.
+#include "platform/Characters.h"
 #include "platform/Failure.h"
 #include "platform/Text.h"
-#include "platform/Value.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -11,24 +12,6 @@
 namespace ptk {
 
 namespace {
-
-bool IsBlank(char c)
-{
-    return c == ' ' || c == '\t';
-}
-bool IsDigit(char c)
-{
-    return c >= '0' && c <= '9';
-}
-
-std::string_view Trim(std::string_view text)
-{
-    while (!text.empty() && IsBlank(text.front()))
-        text.remove_prefix(1);
-    while (!text.empty() && IsBlank(text.back()))
-        text.remove_suffix(1);
-    return text;
-}
 
 // Decimal text only: an optional sign, digits with at most one point, an optional exponent. Keeps "inf", "nan" and hexadecimal out.
 bool IsDecimal(std::string_view text)
@@ -50,24 +33,37 @@ bool IsDecimal(std::string_view text)
     return text.substr(at).find_first_not_of("0123456789") == std::string_view::npos;
 }
 
+// At which end a decimal text other than zero leaves the range: below one or above it. Values out of range come nowhere near one.
+bool IsBelowOne(std::string_view text)
+{
+    const std::size_t exponentAt = std::min(text.find_first_of("eE"), text.size());
+    const std::string_view mantissa = text.substr(0, exponentAt);
+    const auto point = static_cast<std::int64_t>(std::min(mantissa.find('.'), mantissa.size()));
+    const auto first = static_cast<std::int64_t>(mantissa.find_first_of("123456789"));
+    std::string_view digits = text.substr(std::min(exponentAt + 1, text.size()));
+    if (digits.starts_with('+'))
+        digits.remove_prefix(1);
+    std::int32_t exponent = 0;
+    if (std::from_chars(digits.data(), digits.data() + digits.size(), exponent).ec == std::errc::result_out_of_range)
+        return digits.starts_with('-'); // outweighs any mantissa
+    return exponent + point <= first;
+}
+
 template <typename Float>
 Float ParseFloat(std::string_view text)
 {
-    text = Trim(text);
+    text = Trimmed(text);
     if (!IsDecimal(text))
         throw Failure(failure::TypeMismatch);
     if (text.front() == '+')
         text.remove_prefix(1);
     Float value = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (error == std::errc::result_out_of_range) {
-        // Too small reads as zero, too large does not fit.
-        const double wide = std::strtod(std::string(text).c_str(), nullptr);
-        if (std::abs(wide) < 1)
-            return 0;
-        throw Failure(failure::Overflow);
-    }
-    return value;
+    if (error == std::errc{})
+        return value;
+    if (IsBelowOne(text))
+        return 0; // too small to be told from zero
+    throw Failure(failure::Overflow);
 }
 
 // Ties go to the even neighbour, which is the rounding mode the process runs in.
@@ -174,7 +170,7 @@ double ToDouble(std::string_view text)
 
 bool ToBoolean(std::string_view text)
 {
-    const std::string word = LowerCase(Trim(text));
+    const std::string word = LowerCase(Trimmed(text));
     if (word == "true" || word == "false")
         return word == "true";
     return ToDouble(text) != 0;
@@ -212,10 +208,8 @@ std::string TwoDecimals(float value)
 std::string LowerCase(std::string_view text)
 {
     std::string lower(text);
-    for (char& c : lower) {
-        if (c >= 'A' && c <= 'Z')
-            c = static_cast<char>(c - 'A' + 'a');
-    }
+    for (char& c : lower)
+        c = LowerCase(c);
     return lower;
 }
 
@@ -225,20 +219,6 @@ std::size_t CharacterCount(std::string_view utf8)
     for (const char c : utf8)
         count += (static_cast<unsigned char>(c) & 0xC0U) == 0x80U ? 0 : 1; // continuation bytes belong to the character before
     return count;
-}
-
-std::int16_t NarrowToInt16(std::int64_t value)
-{
-    if (value < std::numeric_limits<std::int16_t>::min() || value > std::numeric_limits<std::int16_t>::max())
-        throw Failure(failure::Overflow);
-    return static_cast<std::int16_t>(value);
-}
-
-std::int32_t NarrowToInt32(std::int64_t value)
-{
-    if (value < std::numeric_limits<std::int32_t>::min() || value > std::numeric_limits<std::int32_t>::max())
-        throw Failure(failure::Overflow);
-    return static_cast<std::int32_t>(value);
 }
 
 } // namespace ptk

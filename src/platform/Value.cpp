@@ -43,6 +43,14 @@ Integer IntegerOf(const Value::Storage& storage)
     return static_cast<Integer>(value);
 }
 
+template <typename Integer>
+Integer Narrow(std::int64_t value)
+{
+    if (value < std::numeric_limits<Integer>::min() || value > std::numeric_limits<Integer>::max())
+        throw Failure(failure::Overflow);
+    return static_cast<Integer>(value);
+}
+
 DateTime DateTimeOfDays(double days)
 {
     const double seconds = std::nearbyint(days * kSecondsPerDay);
@@ -119,6 +127,15 @@ std::string Value::ToText() const
                 return std::to_string(value);
         },
         m_value);
+}
+
+std::int16_t NarrowToInt16(std::int64_t value)
+{
+    return Narrow<std::int16_t>(value);
+}
+std::int32_t NarrowToInt32(std::int64_t value)
+{
+    return Narrow<std::int32_t>(value);
 }
 
 } // namespace ptk

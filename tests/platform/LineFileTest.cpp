@@ -1,26 +1,18 @@
 #include "platform/LineFile.h"
 
-#include "platform/Failure.h"
+#include "support/Failures.h"
 #include "support/Files.h"
 #include "support/TemporaryFolder.h"
 
-#include <filesystem>
+#include <cerrno>
 #include <gtest/gtest.h>
+#include <stdexcept>
+#include <utility>
 #include <vector>
 
 using namespace ptk;
 
 namespace {
-
-std::int32_t FailureOf(const auto& action)
-{
-    try {
-        action();
-    } catch (const Failure& failure) {
-        return failure.Number();
-    }
-    return 0;
-}
 
 std::vector<std::string> Items(const std::string& path)
 {
@@ -116,6 +108,15 @@ TEST(LineFileTest, RunsOutOfNumbersAfter511)
     for (const std::int32_t number : taken)
         linefile::Close(number);
     EXPECT_EQ(linefile::FreeNumber(), 1);
+}
+
+// Failures that a test cannot bring about on every machine.
+TEST(FailureTest, NumbersTheSystemsErrors)
+{
+    for (const auto& [error, number] : {std::pair{EACCES, 70}, {EROFS, 70}, {EMFILE, 67}, {EIO, 57}, {EDQUOT, 61}, {ENOTDIR, 76}}) {
+        EXPECT_EQ(Failure::FromErrno(error).Number(), number);
+        EXPECT_EQ(Failure::FromErrno(error).LastSystemError(), error);
+    }
 }
 
 TEST(FailureTest, IsCapturedWhileItIsHandled)

@@ -1,5 +1,6 @@
 #include "platform/SystemShell.h"
 
+#include "platform/ConsoleDesktop.h"
 #include "platform/ProgramFolder.h"
 #include "support/Files.h"
 #include "support/TemporaryFolder.h"
@@ -8,6 +9,8 @@
 #include <cstdlib>
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <sstream>
+#include <sys/wait.h>
 #include <thread>
 
 using namespace ptk;
@@ -53,6 +56,19 @@ TEST_F(SystemShellTest, HandsTheDocumentOverAsOneArgument)
     EXPECT_EQ(Heard(), "open " + document);
 }
 
+TEST_F(SystemShellTest, LeavesNoZombieOfTheOpener)
+{
+    Script("xdg-open", "exit 0");
+    ASSERT_GT(RunSystemShell(ShellVerb::Open, document), ShellSuccess);
+    const auto hasChild = [] {
+        siginfo_t child{};
+        return ::waitid(P_ALL, 0, &child, WEXITED | WNOHANG | WNOWAIT) == 0;
+    };
+    for (int i = 0; i < 500 && hasChild(); ++i)
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    EXPECT_FALSE(hasChild());
+}
+
 TEST_F(SystemShellTest, TellsWhatIsMissing)
 {
     EXPECT_EQ(RunSystemShell(ShellVerb::Print, folder.Path() + "/none.txt"), ShellFileNotFound);
@@ -67,6 +83,16 @@ TEST_F(SystemShellTest, DoesNotWaitForASpoolerThatHangs)
 {
     Script("lp", "exec sleep 60");
     EXPECT_EQ(RunSystemShell(ShellVerb::Print, document), ShellNoProgram);
+}
+
+TEST(ConsoleDesktopTest, WritesItsBoxesAsLinesAndConfirmsNothing)
+{
+    std::ostringstream out;
+    ConsoleDesktop desktop(out);
+    EXPECT_EQ(desktop.MessageBox("Delete it?", "Delete", Icon::Question, Buttons::YesNo), Answer::No);
+    EXPECT_EQ(desktop.Show("It is gone.", "Done", Icon::Information), Answer::Ok);
+    EXPECT_EQ(out.str(), "Delete: Delete it?\nDone: It is gone.\n");
+    EXPECT_EQ(desktop.Shell(DesktopWindow(), ShellVerb::Open, "/no/such/guide.doc"), ShellFileNotFound);
 }
 
 TEST(ProgramFolderTest, TakesTheOptionThenTheVariableThenTheExecutable)

@@ -1,6 +1,7 @@
 #include "platform/Text.h"
-#include "platform/Failure.h"
+
 #include "platform/Value.h"
+#include "support/Failures.h"
 
 #include <gtest/gtest.h>
 #include <optional>
@@ -12,16 +13,6 @@ using namespace ptk;
 namespace {
 
 const DateTime kMorning({2003, 3, 5}, {8, 5, 9});
-
-std::int32_t FailureOf(const auto& action)
-{
-    try {
-        action();
-    } catch (const Failure& failure) {
-        return failure.Number();
-    }
-    return 0;
-}
 
 TEST(DateTimeTextTest, GeneralTextLeavesOutMidnightAndTheZeroDate)
 {
@@ -160,8 +151,15 @@ TEST(NumberTextTest, ReadsSinglesAndBooleans)
 {
     EXPECT_EQ(ToSingle("12.5"), 12.5F);
     EXPECT_EQ(ToSingle(" -0.1"), -0.1F);
-    EXPECT_EQ(ToSingle("1e-60"), 0.0F);
-    EXPECT_EQ(FailureOf([] { (void)ToSingle("1e39"); }), failure::Overflow);
+    for (const std::string& text :
+         {std::string("1e-60"), std::string("-5000e-60"), std::string("1e-99999999999"), std::string("0e99999999999"),
+          "0." + std::string(400, '0') + "1", "1" + std::string(400, '0') + "e-900"}) {
+        EXPECT_EQ(ToSingle(text), 0.0F) << text;
+        EXPECT_EQ(ToDouble(text + std::string(text.starts_with("0.") ? "e-9" : "9")), 0.0) << text;
+    }
+    for (const std::string& text : {std::string("1e39"), std::string("-0.5e60"), std::string("+1E+99999999999"), std::string(400, '9'),
+                                    "0." + std::string(400, '0') + "1e900"})
+        EXPECT_EQ(FailureOf([&] { (void)ToSingle(text); }), failure::Overflow) << text;
     EXPECT_EQ(FailureOf([] { (void)ToSingle("1.2.3"); }), failure::TypeMismatch);
     for (const char* text : {"True", " tRUE ", "1", "-1", "0.1"})
         EXPECT_TRUE(ToBoolean(text)) << text;

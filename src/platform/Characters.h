@@ -1,0 +1,35 @@
+// What the readers of dates, numbers and words ask of single characters: ASCII only, whatever the process locale says.
+#pragma once
+
+#include <string_view>
+
+namespace ptk {
+
+constexpr bool IsBlank(char c)
+{
+    return c == ' ' || c == '\t';
+}
+constexpr bool IsDigit(char c)
+{
+    return c >= '0' && c <= '9';
+}
+constexpr bool IsLetter(char c)
+{
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
+}
+constexpr char LowerCase(char c)
+{
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+// Without the blanks around.
+constexpr std::string_view Trimmed(std::string_view text)
+{
+    while (!text.empty() && IsBlank(text.front()))
+        text.remove_prefix(1);
+    while (!text.empty() && IsBlank(text.back()))
+        text.remove_suffix(1);
+    return text;
+}
+
+} // namespace ptk

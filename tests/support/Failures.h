@@ -1,0 +1,19 @@
+// What an action fails with.
+#pragma once
+
+#include "platform/Failure.h"
+
+namespace ptk {
+
+// The number of the failure that the action raises; 0 when it raises none.
+std::int32_t FailureOf(const auto& action)
+{
+    try {
+        action();
+    } catch (const Failure& failure) {
+        return failure.Number();
+    }
+    return 0;
+}
+
+} // namespace ptk
