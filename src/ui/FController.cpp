@@ -26,6 +26,9 @@
 namespace ptk {
 namespace {
 
+// Half of 1024 x 700: what a screen of that size has to give at 200 %.
+constexpr QSize kSmallestSize(512, 350);
+
 struct Tab
 {
     const char* caption;
@@ -69,6 +72,7 @@ FController::FController(std::string programFolder, ptk::Desktop& desktop, const
       m_employeeModels(std::make_unique<ptk::EmployeeModels>()), m_reports(std::make_unique<OpenReports>(*this, m_programFolder))
 {
     m_ui->setupUi(this);
+    setMinimumSize(kSmallestSize); // the pages scroll below their own size
     setWindowIcon(ThemeIcon("ptk-admin"));
     BuildPages();
     BuildStatusBar();

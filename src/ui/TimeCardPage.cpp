@@ -77,7 +77,7 @@ constexpr std::array<CardError, 4> kCardErrors{{
 
 constexpr auto kStatusName = "Timecards";
 constexpr auto kNothingToFill = "Generate a time card first.";
-constexpr int kNameCharacters = 24;
+constexpr int kNameCharacters = 14;
 constexpr std::int16_t kBack = -1;
 constexpr std::int16_t kNext = 1;
 
