@@ -4,6 +4,7 @@
 #include "model/CEmployeeList.h"
 #include "store/CJetDB.h"
 #include "store/DatabaseCreator.h"
+#include "store/engine/RecordSet.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -186,7 +187,10 @@ TEST_F(StoredListTest, LosesACompanysWebAddressOnLoading)
               "Company Name: \tAcme\r\nAddress: \r\n\t1 Mill Rd\r\n\tSalem, OR. 97301\r\nPhone Number: \t\t\r\n"
               "Fax Number: \t\t\r\nTax ID Number:   \r\nWebsite URL: \t\r\n");
     ASSERT_TRUE(database->OpenDB());
-    EXPECT_EQ(database->ExecuteSelect("SELECT URL FROM Company;") != nullptr, true);
+    const auto rows = database->ExecuteSelect("SELECT URL FROM Company;");
+    ASSERT_NE(rows, nullptr);
+    rows->MoveFirst();
+    EXPECT_EQ(rows->Field("URL").ToText(), "https://acme.example") << "stored, but never read back";
 }
 
 TEST_F(StoredListTest, AFailedLoadIsTold)

@@ -96,9 +96,27 @@ TEST(TimeCalculatorTest, AddsUpInSinglesAndRefusesWhatIsTooMuch)
     EXPECT_TRUE(calculator.CalculateTimes(*employee, list));
     EXPECT_EQ(calculator.RegularHours(), 0.10000001F) << "the figures accumulate";
     EXPECT_EQ(calculator.CalculatePay(std::numeric_limits<float>::max(), 0), std::numeric_limits<float>::max() * 0.10000001F);
-    for (int i = 3; i < 32768; ++i)
+    for (int i = 3; i < 32767; ++i)
         list.Insert(record, 99999);
+    EXPECT_TRUE(CTimeCalculator().CalculateTimes(*employee, list));
+    list.Insert(record, 99999);
     EXPECT_FALSE(CTimeCalculator().CalculateTimes(*employee, list));
+}
+
+TEST(TimeCalculatorTest, PaysNothingThatDoesNotFit)
+{
+    CTimeRecordList list;
+    const auto record = std::make_shared<CTimeRecord>();
+    record->StartTime(At(3, 8));
+    record->EndTime(At(3, 10));
+    list.Insert(record, 1);
+    CTimeCalculator calculator;
+    ASSERT_TRUE(calculator.CalculateTimes(*Employee(1, false, 0, 0), list));
+    EXPECT_EQ(calculator.CalculatePay(std::numeric_limits<float>::max(), 0), 0);
+    record->HoursWorked(std::numeric_limits<float>::max());
+    list.Insert(record, 2);
+    EXPECT_FALSE(calculator.CalculateTimes(*Employee(1, false, 0, 0), list)) << "the day's total does not fit";
+    EXPECT_EQ(calculator.RegularHours(), 2);
 }
 
 class TimeCardTest : public testing::Test
@@ -117,6 +135,7 @@ protected:
         record->EmployeeID(employee);
         record->StartTime(start);
         record->EndTime(end);
+        factory->ResetError();
         ASSERT_TRUE(factory->Save(record));
         ASSERT_EQ(factory->ErrorNumber(), 0);
     }
@@ -177,6 +196,7 @@ TEST_F(TimeCardTest, SaysWhyThereIsNone)
     EXPECT_FALSE(card.GenerateTimecard(employee, At(10, 0), At(11, 0)));
     EXPECT_EQ(card.ErrorNumber(), 605);
     EXPECT_EQ(card.RegularHoursWorked(), 4) << "the figures stay";
+    EXPECT_FALSE(database->DatabaseOpen()) << "an empty period does not keep others from the file";
     EXPECT_FALSE(card.GenerateTimecard(nullptr, At(3, 0), At(4, 0)));
     EXPECT_EQ(card.ErrorNumber(), 602);
     CTimeCard without(factory);
@@ -191,6 +211,36 @@ TEST_F(TimeCardTest, SaysWhyThereIsNone)
     EXPECT_EQ(card.ErrorNumber(), 605) << "a file that cannot be opened yields an empty list";
 }
 
+TEST_F(TimeCardTest, SharesOneListBetweenAllCards)
+{
+    Add(7, At(3, 8), At(3, 12));
+    Add(8, At(3, 8), At(3, 12));
+    Add(8, At(4, 8), At(4, 12));
+    CTimeCard other(factory);
+    other.PTKDatabase(database);
+    ASSERT_TRUE(card.GenerateTimecard(Employee(7, false, 0, 0), At(3, 0), At(5, 0)));
+    ASSERT_TRUE(other.GenerateTimecard(Employee(8, false, 0, 0), At(3, 0), At(5, 0)));
+    EXPECT_EQ(card.TimeRecordList()->Count(), 2);
+    EXPECT_EQ(card.RegularHoursWorked(), 4) << "the figures are each card's own";
+    EXPECT_EQ(CTimeCard(factory).TimeRecordList(), card.TimeRecordList());
+}
+
+TEST_F(TimeCardTest, ReportsWhatThereIs)
+{
+    const std::string heading = "\tStart Time\t\tEnd Time\t\tHours\r\n\r\n";
+    EXPECT_EQ(card.ToStringReport().substr(0, heading.size() + 12), heading + "\r\n\tRegular: ");
+    EXPECT_EQ(card.ErrorNumber(), 605);
+    Add(7, At(3, 8), At(3, 16, 30));
+    ASSERT_TRUE(card.GenerateTimecard(Employee(7, false, 30, 15), At(3, 0), At(4, 0)));
+    const std::string report = card.ToStringReport();
+    EXPECT_NE(report.find("04:30 PM\t7.75\r\n"), std::string::npos) << "the lines are reduced without automatic deduction too";
+    EXPECT_NE(report.find("\tRegular: \t\t\t8.00\r\n"), std::string::npos);
+    EXPECT_NE(report.find("\tOvertime: \t\t\t0.50\r\n"), std::string::npos);
+    CTimeCard nobody(factory);
+    EXPECT_EQ(nobody.ToStringReport(), heading) << "whose breaks to take off is unknown";
+    EXPECT_EQ(nobody.ErrorNumber(), 710);
+}
+
 TEST_F(TimeCardTest, ClosesTheFirstOpenRecordOnly)
 {
     Add(7, At(3, 8), {});
@@ -203,6 +253,40 @@ TEST_F(TimeCardTest, ClosesTheFirstOpenRecordOnly)
     EXPECT_TRUE(card.CloseTimeRecord(employee, At(1, 0), At(4, 12)));
     EXPECT_FALSE(card.CloseTimeRecord(employee, At(1, 0), At(4, 12)));
     EXPECT_EQ(card.ErrorNumber(), 301) << "nothing was fetched";
+    Add(7, At(6, 8), At(6, 8));
+    EXPECT_FALSE(card.CloseTimeRecord(employee, At(6, 8), At(6, 12)));
+    EXPECT_EQ(card.ErrorNumber(), 0) << "a record was fetched, but none is open";
+}
+
+TEST_F(TimeCardTest, AFactoryWithoutAListOrDatabaseSaysSo)
+{
+    EXPECT_EQ(factory->TimeRecordList(), nullptr);
+    EXPECT_FALSE(factory->DestroyList());
+    EXPECT_EQ(factory->ErrorNumber(), 302);
+    EXPECT_FALSE(factory->SaveList());
+    EXPECT_EQ(factory->ErrorNumber(), 321);
+    EXPECT_FALSE(factory->SortTimeRecordList());
+    EXPECT_EQ(factory->ErrorNumber(), 314);
+    EXPECT_EQ(factory->GetTimeRecordByKey(At(3, 8), At(3, 9)), nullptr);
+    EXPECT_EQ(factory->ErrorNumber(), 341);
+    CTimeRecordFactory without;
+    EXPECT_FALSE(without.BuildList(7, At(3, 0), At(4, 0)));
+    EXPECT_EQ(without.ErrorNumber(), 301);
+}
+
+TEST_F(TimeCardTest, StoresANewRecordAsOftenAsItIsSaved)
+{
+    const auto record = std::make_shared<CTimeRecord>();
+    record->EmployeeID(7);
+    record->StartTime(At(3, 8));
+    record->EndTime(At(3, 9));
+    EXPECT_TRUE(card.SaveTimeRecord(record));
+    EXPECT_TRUE(card.SaveTimeRecord(record));
+    EXPECT_EQ(record->ObjectState(), state::New);
+    ASSERT_TRUE(factory->BuildList(7, At(3, 0), At(4, 0)));
+    EXPECT_EQ(factory->TimeRecordList()->Count(), 2);
+    EXPECT_TRUE(factory->DestroyList());
+    EXPECT_EQ(factory->TimeRecordList(), nullptr);
 }
 
 TEST_F(TimeCardTest, SavesWhatChangedAndDeletesWhatIsMarked)
@@ -235,6 +319,9 @@ TEST_F(TimeCardTest, AListOfCardsKeepsThemAndStoresNone)
     cards.Insert(one, 1);
     EXPECT_EQ(cards.Clone()->Item(1), one);
     EXPECT_FALSE(cards.SaveList());
+    EXPECT_FALSE(cards.LoadList(nullptr));
+    EXPECT_TRUE(cards.LoadList(database));
+    EXPECT_EQ(cards.Count(), 1) << "nothing is loaded";
     cards.Remove(5);
     EXPECT_EQ(cards.ErrorNumber(), 351);
 }

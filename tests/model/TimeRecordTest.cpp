@@ -126,6 +126,12 @@ TEST(TimeRecordListSorterTest, KeepsAnOrderedListAndLosesWhatIsOutOfOrder)
     list->Insert(Shift(At(1, 7), At(1, 8)), 99);
     EXPECT_TRUE(sorter.Sort(1));
     EXPECT_EQ(list->Count(), 3) << "the earliest record stood last and was lost on its way to the front";
+    for (int i = list->Count(); i < 32767; ++i)
+        list->AddNew(late);
+    EXPECT_TRUE(sorter.Sort(1));
+    list->AddNew(late);
+    EXPECT_FALSE(sorter.Sort(1)) << "its positions are 16-bit numbers";
+    EXPECT_EQ(sorter.ErrorNumber(), 314);
     CTimeRecordListSorter none;
     EXPECT_FALSE(none.Sort(1));
     EXPECT_EQ(none.Find(early), -1);
