@@ -1,7 +1,6 @@
 #include "ui/OpenReports.h"
 
 #include "platform/Desktop.h"
-#include "platform/Failure.h"
 #include "reports/CReportEmployee.h"
 #include "reports/CReportPhoneBook.h"
 #include "reports/CReportReview.h"
@@ -9,6 +8,7 @@
 #include "reports/CReportYTDTotals.h"
 #include "shell/startup/CController.h"
 #include "ui/PageHost.h"
+#include "ui/Required.h"
 
 namespace ptk {
 
@@ -22,9 +22,7 @@ OpenReports::~OpenReports()
 template <typename AnyReport>
 std::shared_ptr<AnyReport> OpenReports::Make(std::shared_ptr<AnyReport>& kept)
 {
-    const auto controller = m_host.Controller();
-    if (controller == nullptr)
-        throw Failure(failure::ObjectNotSet);
+    const auto controller = Required(m_host.Controller());
     m_viewers.ClosePrinted();
     auto report = std::make_shared<AnyReport>(ReportContext{m_programFolder, m_host.Desktop(), m_host.Clock(), m_viewers,
                                                             controller->TimeRecordFactory(), &m_host.AsDesktopWindow()});

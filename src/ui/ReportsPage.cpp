@@ -12,10 +12,12 @@
 #include "reports/CReportYTDTotals.h"
 #include "shell/startup/CController.h"
 #include "store/CSystemOptions.h"
+#include "ui/BusyPointer.h"
 #include "ui/EmployeeModels.h"
 #include "ui/GenerationProgress.h"
 #include "ui/OpenReports.h"
 #include "ui/PageHost.h"
+#include "ui/Required.h"
 #include "ui_ReportsPage.h"
 
 #include <QShortcut>
@@ -34,31 +36,11 @@ constexpr auto kNoDatesTip = "This report needs no dates.";
 constexpr auto kYearTip = "Year-to-date totals start on 1 January.";
 constexpr auto kEveryoneTip = "The phone book lists everyone.";
 
-class BusyPointer
-{
-public:
-    explicit BusyPointer(Desktop& desktop) : m_desktop(desktop) { m_desktop.SetPointer(Pointer::Busy); }
-    ~BusyPointer() { m_desktop.SetPointer(Pointer::Default); }
-    BusyPointer(const BusyPointer&) = delete;
-    BusyPointer& operator=(const BusyPointer&) = delete;
-
-private:
-    Desktop& m_desktop;
-};
-
 // What the user sees is what the report is asked for; a text that is no date is the report's to refuse.
 Value ChosenDate(const DateCombo& box)
 {
     const auto date = box.Date();
     return date ? Value(*date) : Value(box.Text().toStdString());
-}
-
-CController& Needed(const PageHost& host)
-{
-    const auto controller = host.Controller();
-    if (controller == nullptr)
-        throw Failure(failure::ObjectNotSet);
-    return *controller;
 }
 
 void SetUsable(QWidget& control, bool usable, const char* reason)
@@ -142,10 +124,7 @@ void ReportsPage::OfferDates(ReportDates dates)
 
 std::int16_t ReportsPage::PeriodLength() const
 {
-    const auto options = Needed(m_host).SystemOptions();
-    if (options == nullptr)
-        throw Failure(failure::ObjectNotSet);
-    return options->PeriodLength();
+    return Required(Required(m_host.Controller())->SystemOptions())->PeriodLength();
 }
 
 void ReportsPage::ChangeFromDate()
@@ -203,7 +182,7 @@ void ReportsPage::GenerateEach(MakeReport makeReport)
     GenerationProgress progress(this, count);
     for (std::int32_t i = 1; i <= count && progress.GoOn(i - 1); ++i) {
         const auto report = makeReport();
-        if (!report->GenerateReport(Needed(m_host).PTKDatabase(), employees->Item(i), FromDate(), ToDate()))
+        if (!report->GenerateReport(Required(m_host.Controller())->PTKDatabase(), employees->Item(i), FromDate(), ToDate()))
             ShowFailure(report->ErrorNumber(), report->ReportName());
     }
 }
@@ -214,7 +193,7 @@ void ReportsPage::GenerateReview()
     GenerationProgress progress(this, employees->Count());
     const auto report = m_host.Reports().NewReviewReport();
     report->Progress([&](std::int32_t done, std::int32_t) { return progress.GoOn(done); });
-    const bool complete = report->GenerateReport(Needed(m_host).PTKDatabase(), employees, FromDate(), ToDate());
+    const bool complete = report->GenerateReport(Required(m_host.Controller())->PTKDatabase(), employees, FromDate(), ToDate());
     report->Progress(nullptr);
     progress.reset();
     if (!complete)
@@ -223,10 +202,7 @@ void ReportsPage::GenerateReview()
 
 std::shared_ptr<CEmployeeList> ReportsPage::Employees() const
 {
-    auto employees = Needed(m_host).EmployeeList();
-    if (employees == nullptr)
-        throw Failure(failure::ObjectNotSet);
-    return employees;
+    return Required(Required(m_host.Controller())->EmployeeList());
 }
 
 std::shared_ptr<CEmployeeList> ReportsPage::SelectedEmployees() const
