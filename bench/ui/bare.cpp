@@ -1,0 +1,102 @@
+// ptk_bench_bare MODE FOLDER: windows of the same shape with nothing behind them.
+//   login  a dialog with two boxes and three buttons
+//   main   the five pages' forms in a window, their boxes on one shared list of the file's employees
+#include "model/CEmployeeList.h"
+#include "Painted.h"
+#include "store/CJetDB.h"
+#include "ui/EmployeeModels.h"
+#include "ui_CompanyPage.h"
+#include "ui_EmployeePage.h"
+#include "ui_OptionsPage.h"
+#include "ui_ReportsPage.h"
+#include "ui_TimeCardPage.h"
+
+#include <QDialog>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QStatusBar>
+#include <QTabWidget>
+
+namespace {
+
+bool Any(const QWidget& /*window*/)
+{
+    return true;
+}
+
+void BareLogin(bench::Time started)
+{
+    QDialog dialog;
+    QFormLayout form(&dialog);
+    QLineEdit name;
+    QLineEdit password;
+    password.setEchoMode(QLineEdit::Password);
+    form.addRow("Username", &name);
+    form.addRow("Password", &password);
+    QHBoxLayout buttons;
+    for (const char* caption : {"Login", "Cancel", "Help"})
+        buttons.addWidget(new QPushButton(caption));
+    form.addRow(&buttons);
+    const bench::Painted painted(Any, [&](QWidget&) { bench::Finish(started); });
+    dialog.exec();
+}
+
+template <typename Form>
+void AddPage(QTabWidget& tabs, Form& form, const char* caption)
+{
+    auto* page = new QWidget;
+    form.setupUi(page);
+    tabs.addTab(page, caption);
+}
+
+void BareMain(const std::string& folder)
+{
+    const auto database = std::make_shared<ptk::CJetDB>(folder);
+    const auto list = std::make_shared<ptk::CEmployeeList>();
+    if (!list->LoadList(database))
+        qFatal("no list");
+    const bench::Time start = bench::Now();
+    ptk::EmployeeModels models;
+    models.SetEmployees(list);
+    QMainWindow window;
+    QTabWidget tabs;
+    Ui::TimeCardPage timeCards;
+    Ui::ReportsPage reports;
+    Ui::EmployeePage employees;
+    Ui::CompanyPage company;
+    Ui::OptionsPage options;
+    AddPage(tabs, timeCards, "Timecards");
+    AddPage(tabs, reports, "Reports");
+    AddPage(tabs, employees, "Employees");
+    AddPage(tabs, company, "Company");
+    AddPage(tabs, options, "Options");
+    ptk::ShowColumn(*timeCards.cboTCEmployeeName, models.Offered(), 0, 14);
+    reports.lstEmployees->setModel(models.Offered());
+    int column = 0;
+    for (auto* box : {employees.cboEmployeeID, employees.cboEmployeeName, employees.cboEmployeeSSN, employees.cboEmployeeNumber})
+        ptk::ShowColumn(*box, models.All(), column++, 20);
+    window.menuBar()->addMenu("File");
+    window.menuBar()->addMenu("Help");
+    window.statusBar()->showMessage("Timecards");
+    window.setCentralWidget(&tabs);
+    window.resize(960, 660);
+    window.show();
+    const bench::Painted painted([&](const QWidget& widget) { return &widget == &window; }, [&](QWidget&) { bench::Finish(start); });
+    QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const bench::Time started = bench::Now();
+    const QApplication application(argc, argv);
+    if (argc == 3 && QString(argv[1]) == "main")
+        BareMain(argv[2]);
+    BareLogin(started);
+    return EXIT_FAILURE;
+}
