@@ -1,4 +1,4 @@
-// Stands for the enumerations that the program shares; it exists from the first step of a session to the last and holds nothing.
+// Stands for the enumerations that the program shares; it exists from the first step of the program to the last and holds nothing.
 #pragma once
 
 namespace ptk {

@@ -87,7 +87,7 @@ TEST(CErrorTest, TakesIconAndButtonsWhenTheyAreNumbers)
     for (const Case& c : {Case{"none", {}, {}, Icon::Exclamation, Buttons::Ok}, Case{"critical", 16, 0, Icon::Critical, Buttons::Ok},
                           Case{"number text", "32", "4", Icon::Question, Buttons::YesNo},
                           Case{"a word", "critical", 1, Icon::Exclamation, Buttons::OkCancel},
-                          Case{"a date", DateTime::FromSeconds(86400 * 16), {}, Icon::Exclamation, Buttons::Ok},
+                          Case{"a date", DateTime::FromSeconds(1382400), {}, Icon::Exclamation, Buttons::Ok},
                           Case{"the whole style as icon", 68, 0, Icon::Information, Buttons::YesNo}}) {
         SCOPED_TRACE(c.name);
         RecordingDesktop desktop;

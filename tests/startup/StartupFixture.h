@@ -110,7 +110,7 @@ protected:
     }
 
     // Window and controller hold each other until the window is unloaded, which not every test comes to.
-    ~StartupFixture() override
+    void TearDown() override
     {
         if (windows.main)
             windows.main->Release();

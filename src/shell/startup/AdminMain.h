@@ -1,4 +1,4 @@
-// The first and the last steps of a session, and the objects that live between them.
+// The first and the last steps of the program, and the objects that live between them.
 #pragma once
 
 #include <functional>
@@ -14,7 +14,7 @@ class Clock;
 class Desktop;
 class WindowFactory;
 
-// Start opens the session log, <program folder>\system\errorlog.txt, makes the controller and has it bring the program up. The end routine,
+// Start opens the error log, <program folder>\system\errorlog.txt, makes the controller and has it bring the program up. The end routine,
 // which the controller runs, writes the log's last lines, closes it and calls `endProcess`. `endProcess` is to end the process at once,
 // without returning; where it does return (in a test), every caller returns straight away as well.
 class AdminMain

@@ -23,7 +23,7 @@ class MainWindow;
 class WindowFactory;
 
 // Always held by std::shared_ptr: make it, then call Start once. Accessors hand out the shared objects themselves, nullptr before they
-// exist and after Cleanup released them. No operation raises; caught failures go to the session log as "Error: number : description".
+// exist and after Cleanup released them. No operation raises; caught failures go to the error log as "Error: number : description".
 class CController : public std::enable_shared_from_this<CController>
 {
 public:
