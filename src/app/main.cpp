@@ -77,7 +77,6 @@ int main(int argc, char** argv)
 {
     QApplication::setOrganizationName("PTK");
     QApplication::setApplicationName("ptk-admin");
-    QApplication::setApplicationDisplayName("");
     QApplication::setApplicationVersion("1.0");
     QApplication::setDesktopFileName("ptk-admin");
     ptk::QtDesktop desktop;

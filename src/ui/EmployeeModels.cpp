@@ -95,6 +95,8 @@ void ShowColumn(QComboBox& box, QAbstractItemModel* model, int column, int chara
     box.setModel(model);
     box.setModelColumn(column);
     box.setCurrentIndex(-1);
+    // After the box's own reaction to new rows, which is to choose the first.
+    QObject::connect(model, &QAbstractItemModel::modelReset, &box, [&box] { box.setCurrentIndex(-1); });
     if (box.isEditable())
         PrepareTyping(box, model, column);
 }

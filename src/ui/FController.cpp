@@ -48,6 +48,7 @@ constexpr int kTabCount = static_cast<int>(kTabs.size());
 constexpr int kTimeCardTab = 1;
 
 constexpr auto kProgramPanel = "PTK - Administrator";
+constexpr int kPanelMargin = 6;
 constexpr auto kFirstStatus = "<object name : ID>";
 
 constexpr auto kOptionsTitle = "Update Options Error";
@@ -107,6 +108,8 @@ void FController::AddPage(int index, QWidget* page)
     scroll->setWidgetResizable(true);
     scroll->setFocusPolicy(Qt::NoFocus);
     scroll->setWidget(page);
+    for (QWidget* inside : {scroll->viewport(), page})
+        inside->setAutoFillBackground(false); // the frame's own background shows through
     (new QVBoxLayout(frame))->addWidget(scroll);
     m_ui->pages->addWidget(frame);
     m_ui->TabStrip->addTab(ThemeIcon(tab.icon), tab.caption);
@@ -118,8 +121,10 @@ void FController::BuildStatusBar()
     program->setObjectName("StatusBarPanel1");
     m_statusText = new ElidedLabel(kFirstStatus);
     m_statusText->setObjectName("StatusBarPanel2");
-    m_ui->StatusBar->addWidget(program);
-    m_ui->StatusBar->addWidget(m_statusText, 1);
+    for (QLabel* panel : {program, m_statusText}) {
+        panel->setContentsMargins(kPanelMargin, 0, kPanelMargin, 0);
+        m_ui->StatusBar->addWidget(panel, panel == m_statusText ? 1 : 0);
+    }
 }
 
 void FController::ConnectMenus()

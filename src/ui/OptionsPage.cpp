@@ -22,6 +22,7 @@ constexpr auto kTimeFormat = "hh:mm:ss AM/PM";
 OptionsPage::OptionsPage(PageHost& host, QWidget* parent) : QWidget(parent), m_host(host), m_ui(std::make_unique<Ui::OptionsPage>())
 {
     m_ui->setupUi(this);
+    AlignFrames();
     m_ui->dttbAutoShiftStartTime->SetDisplayFormat(kTimeFormat);
     m_ui->dttbAutoShiftEndTime->SetDisplayFormat(kTimeFormat);
     connect(m_ui->cmdApplyOptions, &QPushButton::clicked, this, &OptionsPage::Apply);
@@ -29,6 +30,13 @@ OptionsPage::OptionsPage(PageHost& host, QWidget* parent) : QWidget(parent), m_h
 }
 
 OptionsPage::~OptionsPage() = default;
+
+// The boxes of both frames stand below each other.
+void OptionsPage::AlignFrames()
+{
+    m_ui->lblAutoShiftStartTime->setMinimumWidth(m_ui->lblPeriodLength->sizeHint().width());
+    m_ui->txtPeriodLength->setMinimumWidth(m_ui->dttbAutoShiftStartTime->sizeHint().width());
+}
 
 bool OptionsPage::DisplaySystemOptions(const std::shared_ptr<CSystemOptions>& options)
 {

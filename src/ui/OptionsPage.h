@@ -26,6 +26,7 @@ public:
     bool RestoreSystemOptions();                                               // shows the controller's options again
 
 private:
+    void AlignFrames();
     void Apply();
     void Cancel();
 
