@@ -41,7 +41,7 @@ DateTime::DateTime(CalendarDate date, TimeOfDay time)
     if (!day.ok() || !InRange(time.hour, 24) || !InRange(time.minute, 60) || !InRange(time.second, 60))
         throw Failure(failure::InvalidProcedureCall);
     const std::int64_t days = (sys_days{day} - kZeroDay).count();
-    *this = FromSeconds(days * kSecondsPerDay + time.hour * 3600 + time.minute * kSecondsPerMinute + time.second);
+    *this = FromSeconds(days * kSecondsPerDay + std::int64_t{time.hour} * 3600 + time.minute * kSecondsPerMinute + time.second);
 }
 
 DateTime DateTime::FromSeconds(std::int64_t secondsSinceZero)

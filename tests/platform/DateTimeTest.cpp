@@ -18,7 +18,7 @@ TEST(DateTimeTest, CountsSecondsFromTheZeroDate)
     };
     for (const Case& c :
          {Case{{}, 0, 0}, Case{{{1899, 12, 31}, {0, 0, 1}}, 86401, 1}, Case{{{1899, 12, 29}, {23, 59, 59}}, -1, -1},
-          Case{{{1900, 3, 1}}, 61 * 86400, 61}, Case{{{2003, 3, 5}, {8, 5, 9}}, 37685LL * 86400 + 29109, 37685},
+          Case{{{1900, 3, 1}}, 61LL * 86400, 61}, Case{{{2003, 3, 5}, {8, 5, 9}}, 37685LL * 86400 + 29109, 37685},
           Case{{{100, 1, 1}}, -657434LL * 86400, -657434}, Case{{{9999, 12, 31}, {23, 59, 59}}, 2958466LL * 86400 - 1, 2958465}}) {
         EXPECT_EQ(c.moment.Seconds(), c.seconds);
         EXPECT_EQ(c.moment.DayNumber(), c.day);
