@@ -1,15 +1,18 @@
-// Lists whose choice loads a record into a page.
+// How the entries of a list are chosen other than by opening it.
 #pragma once
 
 class QComboBox;
 
 namespace ptk {
 
-// The wheel turns the page under the pointer, never the choice in the box it happens to pass over.
-void IgnoreWheel(QComboBox& box);
+// In both, the wheel turns the page under the pointer and never the choice in the box it passes over, and Enter chooses the entry that was
+// typed, in any letter case.
 
-// Choosing stays a deliberate act: neither the wheel nor leaving a box whose text happens to match another record chooses one, either of
-// which would replace what is being typed on the page.
+// For a list that another step reads: leaving it chooses what was typed as well, and Enter goes on to press the page's default button.
+void ChooseByTyping(QComboBox& box);
+
+// For a list whose choice loads a record into the page, in place of what is being typed there: leaving a box whose text happens to match
+// another record chooses nothing, and Enter does nothing else.
 void ChooseOnlyDeliberately(QComboBox& box);
 
 } // namespace ptk

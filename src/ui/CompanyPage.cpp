@@ -5,6 +5,7 @@
 #include "platform/Desktop.h"
 #include "platform/Text.h"
 #include "shell/startup/CController.h"
+#include "store/CJetDB.h"
 #include "ui/BusyPointer.h"
 #include "ui/ChosenOnly.h"
 #include "ui/FController.h"
@@ -201,10 +202,23 @@ void CompanyPage::Store(CCompanyList& list, const std::shared_ptr<CCompany>& edi
 void CompanyPage::Reload()
 {
     const BusyPointer busy(m_host.Desktop());
-    Required(m_host.Controller())->GetCompanyList();
+    if (!Required(m_host.Controller())->GetCompanyList())
+        ReloadAfresh();
     if (!FillCompanyLists())
         m_host.ErrorNumber(windowerror::FillListsFailed);
     ClearCompanyFields();
+}
+
+// Once an operation has found the database closed, the program's access to it lists no companies any more, and leaves it open on the way. A
+// new access knows nothing of that.
+void CompanyPage::ReloadAfresh()
+{
+    const auto stale = Required(Required(m_host.Controller())->PTKDatabase());
+    stale->CloseDB();
+    const auto fresh = std::make_shared<CJetDB>(std::string());
+    fresh->DatabaseName(stale->DatabaseName());
+    List()->Destroy();
+    List()->LoadList(fresh);
 }
 
 std::shared_ptr<CCompanyList> CompanyPage::List() const

@@ -44,6 +44,7 @@ private:
     void SaveFields();
     void Store(CCompanyList& list, const std::shared_ptr<CCompany>& edited, std::int32_t position);
     void Reload();
+    void ReloadAfresh();
 
     std::shared_ptr<CCompanyList> List() const; // raises Failure 91 when there is none
 

@@ -4,7 +4,6 @@
 #include "model/CEmployeeList.h"
 #include "model/CTimeCard.h"
 #include "model/CTimeRecord.h"
-#include "model/CTimeRecordFactory.h"
 #include "model/CTimeRecordList.h"
 #include "platform/Clock.h"
 #include "platform/Desktop.h"
@@ -12,6 +11,7 @@
 #include "shell/startup/CController.h"
 #include "store/CSystemOptions.h"
 #include "ui/BusyPointer.h"
+#include "ui/CardRecords.h"
 #include "ui/ChosenOnly.h"
 #include "ui/EmployeeModels.h"
 #include "ui/FAutoFill.h"
@@ -20,60 +20,17 @@
 #include "ui/PageHost.h"
 #include "ui/PayPeriod.h"
 #include "ui/Required.h"
+#include "ui/Succeeds.h"
+#include "ui/TimeCardNotices.h"
 #include "ui/TimeRecordGridModel.h"
 #include "ui_TimeCardPage.h"
 
-#include <array>
 #include <QShortcut>
 
 namespace ptk {
 namespace {
 
-struct Notice
-{
-    const char* title;
-    const char* text;
-    Icon icon;
-};
-
-constexpr auto kGenerationTitle = "Timecard Generation Error";
-constexpr auto kCreationTitle = "Time Card Creation Error";
-constexpr auto kSelectionTitle = "Time Record Selection Error";
-constexpr auto kNotGeneratedText = "An error occurred while generating this timecard. Check time records, rate of pay, or date range.";
-constexpr auto kNotAddedText = "An error occurred while adding this time record to the database.";
-
-constexpr Notice kNoEmployeeChosen{"Generate Timecard Error", "You must select an employee.", Icon::Exclamation};
-constexpr Notice kNotGenerated{kGenerationTitle, kNotGeneratedText, Icon::Exclamation};
-constexpr Notice kNotMoved{kGenerationTitle, "Cannot move to the selected time period.", Icon::Exclamation};
-constexpr Notice kNoCardForNew{kCreationTitle, "You must generate a time card before adding a new time record.", Icon::Information};
-constexpr Notice kNoCard{kCreationTitle, "You must generate a time card before continuing.", Icon::Information};
-constexpr Notice kNoneToEdit{kSelectionTitle, "You must select a time record to edit before continuing.", Icon::Information};
-constexpr Notice kNoneToDelete{kSelectionTitle, "You must select a time record to delete before continuing.", Icon::Information};
-constexpr Notice kDeleteQuestion{"Delete Time Record?", "Deleting will remove this time record from the database permanently. Continue?",
-                                 Icon::Question};
-constexpr Notice kNotDeleted{"Time Record Delete Error", "There was an error deleting the time record from the database.",
-                             Icon::Exclamation};
-constexpr Notice kNotFilled{"Time Record Save Error", kNotAddedText, Icon::Exclamation};
-constexpr Notice kNotStored{"Database Save Error", kNotAddedText, Icon::Exclamation};
-constexpr auto kPrintTitle = "Time Card Print Error";
-constexpr auto kPrintText =
-    "An error occurred while printing the current timecard. Check employee record and time records before continuing.";
-
-constexpr std::int32_t kCalculationFailed = 604;
-
-struct CardError
-{
-    std::int32_t number;
-    Notice notice;
-};
-
-// 602 also says "not active" of a name that nobody has.
-constexpr std::array<CardError, 4> kCardErrors{{
-    {kCalculationFailed, kNotGenerated},
-    {timecard::NoRecords, {kGenerationTitle, "There are no time records found for this employee during this period.", Icon::Information}},
-    {timecard::NoEmployee, {kGenerationTitle, "This is not an active employee.", Icon::Exclamation}},
-    {timecard::InvalidRange, {kGenerationTitle, "Incorrect date format or invalid date range.", Icon::Exclamation}},
-}};
+using namespace timecardnotice;
 
 constexpr auto kStatusName = "Timecards";
 constexpr auto kNothingToFill = "Generate a time card first.";
@@ -84,17 +41,6 @@ constexpr std::int16_t kNext = 1;
 void Tell(Desktop& desktop, const Notice& notice)
 {
     desktop.Show(notice.text, notice.title, notice.icon);
-}
-
-// The answer of a step, false also when it raised anything.
-template <typename Step>
-bool Succeeds(Step step)
-{
-    try {
-        return step();
-    } catch (...) {
-        return false;
-    }
 }
 
 DateTime ChosenDate(const DateCombo& box)
@@ -119,7 +65,7 @@ TimeCardPage::TimeCardPage(PageHost& host, QWidget* parent)
     m_ui->dttbTCFrom->SetClock(host.Clock());
     m_ui->dttbTCTo->SetClock(host.Clock());
     ShowColumn(*m_ui->cboTCEmployeeName, host.EmployeeModels().Offered(), 0, kNameCharacters);
-    IgnoreWheel(*m_ui->cboTCEmployeeName);
+    ChooseByTyping(*m_ui->cboTCEmployeeName);
     m_ui->cmdFill->setToolTip(kNothingToFill);
     PrepareGrid();
     ConnectSelection();
@@ -403,38 +349,21 @@ void TimeCardPage::EditRecord()
 
 void TimeCardPage::OpenEditor(const std::shared_ptr<CTimeRecord>& record)
 {
-    const auto options = Controller()->SystemOptions();
-    FTimeEditor editor(m_host.Desktop(), m_host.Clock(), this);
-    editor.TimeRecord(record);
-    editor.ParentWindow(this);
-    if (options != nullptr)
+    Succeeds([&] {
+        const auto options = Required(Controller()->SystemOptions());
+        FTimeEditor editor(m_host.Desktop(), m_host.Clock(), this);
+        editor.TimeRecord(record);
+        editor.ParentWindow(this);
         editor.SetAutoShiftTimes(options->AutoShiftStartTime(), options->AutoShiftEndTime());
-    editor.exec();
+        editor.exec();
+        return true;
+    });
 }
 
 bool TimeCardPage::ReturnTimeRecord(const std::shared_ptr<CTimeRecord>& thetimerecord)
 {
-    if (Succeeds([&] { return StoreReturned(thetimerecord); }))
-        RegenerateAfterSave();
-    else
-        Tell(m_host.Desktop(), kNotStored);
+    StoreAndShow([&](CTimeCard& card, CTimeRecordFactory& factory) { return StoreRecord(card, factory, thetimerecord); }, kNotStored);
     return true;
-}
-
-bool TimeCardPage::StoreReturned(const std::shared_ptr<CTimeRecord>& record)
-{
-    const auto card = Required(m_host.TimeCard());
-    Required(record)->EmployeeID(Required(card->Employee())->EmployeeID());
-    return SaveRecord(record);
-}
-
-// The card answers true also when the database refused the statement; only the factory knows then.
-bool TimeCardPage::SaveRecord(const std::shared_ptr<CTimeRecord>& record)
-{
-    const BusyPointer busy(m_host.Desktop());
-    const auto factory = Required(Controller()->TimeRecordFactory());
-    factory->ResetError();
-    return Required(m_host.TimeCard())->SaveTimeRecord(record) && factory->ErrorNumber() == 0;
 }
 
 void TimeCardPage::DeleteRecord()
@@ -445,21 +374,8 @@ void TimeCardPage::DeleteRecord()
         return Tell(m_host.Desktop(), kNoneToDelete);
     if (m_host.Desktop().MessageBox(kDeleteQuestion.text, kDeleteQuestion.title, kDeleteQuestion.icon, Buttons::YesNo) != Answer::Yes)
         return;
-    if (Succeeds([this] { return StoreDeleted(ChosenRecord()); }))
-        RegenerateAfterSave();
-    else
-        Tell(m_host.Desktop(), kNotDeleted);
-}
-
-// A record that could not be deleted must not go with the next save of the whole card.
-bool TimeCardPage::StoreDeleted(const std::shared_ptr<CTimeRecord>& record)
-{
-    const std::int32_t before = record->ObjectState();
-    record->ObjectState(state::Deleted);
-    const bool stored = Succeeds([&] { return SaveRecord(record); });
-    if (!stored)
-        record->ObjectState(before);
-    return stored;
+    StoreAndShow([this](CTimeCard& card, CTimeRecordFactory& factory) { return StoreDeletion(card, factory, ChosenRecord()); },
+                 kNotDeleted);
 }
 
 // Without a card, or with a name that nobody has, there is nothing to fill.
@@ -494,25 +410,20 @@ void TimeCardPage::TakeOver(const FAutoFill& window)
     m_ui->dttbTCFrom->SetDate(window.StartDate());
     m_ui->dttbTCTo->SetDate(window.EndDate());
     ShowStatus();
-    if (Succeeds([this] { return SaveCard(); }))
-        return RegenerateAfterSave();
-    DropUnsavedRecords();
-    Tell(m_host.Desktop(), kNotFilled);
+    StoreAndShow(StoreCard, kNotFilled);
 }
 
-bool TimeCardPage::SaveCard()
+// The grid and the totals show what is in the database from then on, or the user learns that nothing has changed there.
+void TimeCardPage::StoreAndShow(const CardStep& step, const timecardnotice::Notice& failed)
 {
-    const BusyPointer busy(m_host.Desktop());
-    return Required(m_host.TimeCard())->Save() && Required(Controller()->TimeRecordFactory())->ErrorNumber() == 0;
-}
-
-// New records stay new also where they were stored, so a second try would store those twice.
-void TimeCardPage::DropUnsavedRecords()
-{
-    const auto records = Required(m_host.TimeCard())->TimeRecordList();
-    for (std::int32_t i = records->Count(); i >= 1; --i)
-        if (records->RecordAt(i).ObjectState() == state::New)
-            records->Remove(i);
+    const auto store = [&] {
+        const BusyPointer busy(m_host.Desktop());
+        return step(*Required(m_host.TimeCard()), *Required(Controller()->TimeRecordFactory()));
+    };
+    if (Succeeds(store))
+        RegenerateAfterSave();
+    else
+        Tell(m_host.Desktop(), failed);
 }
 
 void TimeCardPage::Print()

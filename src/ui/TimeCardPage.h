@@ -4,6 +4,7 @@
 #include "ui/TimeRecordReceiver.h"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <QWidget>
 #include <string>
@@ -14,8 +15,13 @@ class TimeCardPage;
 
 namespace ptk {
 
+namespace timecardnotice {
+struct Notice;
+}
+
 class CController;
 class CTimeCard;
+class CTimeRecordFactory;
 class CTimeRecordList;
 class FAutoFill;
 class PageHost;
@@ -42,6 +48,8 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    using CardStep = std::function<bool(CTimeCard&, CTimeRecordFactory&)>;
+
     void PrepareGrid();
     void ConnectSelection();
     void ConnectActions();
@@ -78,11 +86,7 @@ private:
     void OpenEditor(const std::shared_ptr<CTimeRecord>& record);
     void HandOver(FAutoFill& window);
     void TakeOver(const FAutoFill& window);
-    bool SaveRecord(const std::shared_ptr<CTimeRecord>& record);
-    bool StoreReturned(const std::shared_ptr<CTimeRecord>& record);
-    bool StoreDeleted(const std::shared_ptr<CTimeRecord>& record);
-    bool SaveCard();
-    void DropUnsavedRecords();
+    void StoreAndShow(const CardStep& step, const timecardnotice::Notice& failed);
 
     std::shared_ptr<CController> Controller() const; // raises Failure 91 when there is none
     std::int16_t PeriodLength() const;

@@ -1,0 +1,90 @@
+// The main window on a database with employees and companies of the test's own, and a look into that database.
+#pragma once
+
+#include "gui/GuiFixture.h"
+#include "store/BulkWriter.h"
+#include "store/CJetDB.h"
+#include "store/engine/RecordSet.h"
+
+#include <QtWidgets>
+#include <string>
+#include <vector>
+
+namespace ptk {
+
+using Boxes = std::vector<ShownBox>;
+
+class PageTest : public testing::Test
+{
+protected:
+    explicit PageTest(const std::function<void(BulkWriter&)>& fill) : program(fill)
+    {
+        program.LogIn();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&Main()));
+    }
+
+    FController& Main() { return program.Main(); }
+    template <typename Control>
+    Control& The(const char* name)
+    {
+        return Find<Control>(Main(), name);
+    }
+    QString Text(const char* name) { return The<QLineEdit>(name).text(); }
+    void Press(const char* button) { Click(Main(), button); }
+    Boxes Told() { return program.desktop.Take(); }
+
+    // The rows of a select, its columns x and so on by name.
+    std::vector<std::string> Stored(const std::string& sql)
+    {
+        CJetDB database(program.folder.Path());
+        database.DatabaseName(Path());
+        EXPECT_TRUE(database.OpenDB());
+        const auto rows = database.ExecuteSelect(sql);
+        std::vector<std::string> texts;
+        for (; rows != nullptr && !rows->EndOfFile(); rows->MoveNext())
+            texts.push_back(rows->Field("x").ToText());
+        database.CloseDB();
+        return texts;
+    }
+
+    // Another program's hold on the database.
+    std::unique_ptr<CJetDB> HoldDatabase()
+    {
+        auto holder = std::make_unique<CJetDB>(program.folder.Path());
+        holder->DatabaseName(Path());
+        EXPECT_TRUE(holder->OpenDB());
+        return holder;
+    }
+
+    // What a click on an entry of the opened list does.
+    static void Pick(QComboBox& box, const QString& text)
+    {
+        const int row = box.findText(text);
+        ASSERT_GE(row, 0) << text.toStdString();
+        box.setCurrentIndex(row);
+        emit box.activated(row);
+    }
+
+    // Types over the text of a list or date box, without leaving it.
+    static void TypeInto(QComboBox& box, const QString& text)
+    {
+        box.setFocus();
+        box.lineEdit()->selectAll();
+        QTest::keyClick(box.lineEdit(), Qt::Key_Delete);
+        QTest::keyClicks(box.lineEdit(), text);
+    }
+
+    // A key as the window system delivers it: to the open list of proposals, where there is one.
+    static void Key(QComboBox& box, Qt::Key key)
+    {
+        QWidget* proposals = QApplication::activePopupWidget();
+        QTest::keyClick(proposals != nullptr ? proposals : box.lineEdit(), key);
+    }
+
+    GuiProgram program;
+
+private:
+    std::string Path() const { return NativePath(program.databasePath).string(); }
+};
+
+} // namespace ptk

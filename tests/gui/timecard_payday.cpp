@@ -1,0 +1,379 @@
+// A payday on the Timecards page, and everything that can stand in its way.
+#include "gui/PageFixture.h"
+#include "model/CEmployeeList.h"
+#include "model/CTimeCard.h"
+#include "ui/DateCombo.h"
+#include "ui/DateTimeBox.h"
+#include "ui/PayPeriod.h"
+
+namespace ptk {
+namespace {
+
+ShownBox Told(const char* title, const char* text, Icon icon)
+{
+    return {text, title, icon, Buttons::Ok};
+}
+
+const ShownBox kNoEmployee = Told("Generate Timecard Error", "You must select an employee.", Icon::Exclamation);
+const ShownBox kNotGenerated =
+    Told("Timecard Generation Error", "An error occurred while generating this timecard. Check time records, rate of pay, or date range.",
+         Icon::Exclamation);
+const ShownBox kNoRecords =
+    Told("Timecard Generation Error", "There are no time records found for this employee during this period.", Icon::Information);
+const ShownBox kNotActive = Told("Timecard Generation Error", "This is not an active employee.", Icon::Exclamation);
+const ShownBox kNotMoved = Told("Timecard Generation Error", "Cannot move to the selected time period.", Icon::Exclamation);
+const ShownBox kNoCardForNew =
+    Told("Time Card Creation Error", "You must generate a time card before adding a new time record.", Icon::Information);
+const ShownBox kNoCard = Told("Time Card Creation Error", "You must generate a time card before continuing.", Icon::Information);
+const ShownBox kNoneToEdit =
+    Told("Time Record Selection Error", "You must select a time record to edit before continuing.", Icon::Information);
+const ShownBox kNoneToDelete =
+    Told("Time Record Selection Error", "You must select a time record to delete before continuing.", Icon::Information);
+const ShownBox kDelete{"Deleting will remove this time record from the database permanently. Continue?", "Delete Time Record?",
+                       Icon::Question, Buttons::YesNo};
+const ShownBox kNotDeleted =
+    Told("Time Record Delete Error", "There was an error deleting the time record from the database.", Icon::Exclamation);
+const ShownBox kNotFilled =
+    Told("Time Record Save Error", "An error occurred while adding this time record to the database.", Icon::Exclamation);
+const ShownBox kNotStored =
+    Told("Database Save Error", "An error occurred while adding this time record to the database.", Icon::Exclamation);
+const ShownBox kEmptyCardNotPrinted =
+    Told("Time Card Print Error",
+         "706 : An error occurred while printing the current timecard. Check employee record and time records before continuing.",
+         Icon::Information);
+
+constexpr auto kRecords = "SELECT EmployeeID || ' ' || StartTime || ' ' || EndTime AS x FROM TimeRecord ORDER BY EmployeeID, StartTime";
+
+// Ann Lee (40) worked 9 hours on 5 March and 8.5 on 6 March, Bo Kim (41) as on 5 March; Cy Orr (42) is not active. Today is 5 March 2003.
+void AddStaff(BulkWriter& writer)
+{
+    EmployeeRow employee;
+    employee.PayRate = 10;
+    employee.OvertimePayRate = 15;
+    for (const auto& [first, last] : {std::pair{"Ann", "Lee"}, {"Bo", "Kim"}, {"Cy", "Orr"}}) {
+        employee.FirstName = first;
+        employee.LastName = last;
+        employee.EmployeeActive = employee.FirstName != "Cy";
+        writer.AddEmployee(employee);
+    }
+    writer.AddTimeRecord({-1, 40, DateTime({2003, 3, 5}, {8, 0, 0}), DateTime({2003, 3, 5}, {17, 0, 0})});
+    writer.AddTimeRecord({-1, 40, DateTime({2003, 3, 6}, {8, 0, 30}), DateTime({2003, 3, 6}, {16, 30, 40})});
+    writer.AddTimeRecord({-1, 41, DateTime({2003, 3, 5}, {8, 0, 0}), DateTime({2003, 3, 5}, {17, 0, 0})});
+}
+
+const std::vector<std::string> kAtFirst{"40 2003-03-05 08:00:00 2003-03-05 17:00:00", "40 2003-03-06 08:00:30 2003-03-06 16:30:40",
+                                        "41 2003-03-05 08:00:00 2003-03-05 17:00:00"};
+
+class TimeCardTest : public PageTest
+{
+protected:
+    TimeCardTest() : PageTest(AddStaff) {}
+
+    QComboBox& Employee() { return The<QComboBox>("cboTCEmployeeName"); }
+    QTableView& Grid() { return The<QTableView>("grdTimeRecs"); }
+    QString Period() { return The<DateCombo>("dttbTCFrom").Text() + " - " + The<DateCombo>("dttbTCTo").Text(); }
+    QStringList Rows()
+    {
+        QStringList rows;
+        for (int row = 0; row < Grid().model()->rowCount(); ++row) {
+            QStringList cells;
+            for (int column = 0; column < 3; ++column)
+                cells << Grid().model()->index(row, column).data().toString();
+            rows << cells.join("|");
+        }
+        return rows;
+    }
+    QString Totals()
+    {
+        QStringList figures;
+        for (const char* box : {"txtTCHours", "txtTCPayRate", "txtTCOvertimeHours", "txtTCOvertimePayRate", "txtTCPeriodPay"})
+            figures << Text(box);
+        return figures.join(" ");
+    }
+    QPoint RowPlace(int row) { return Grid().visualRect(Grid().model()->index(row, 0)).center(); }
+    void ClickRow(int row) { QTest::mouseClick(Grid().viewport(), Qt::LeftButton, {}, RowPlace(row)); }
+    void GenerateFor(const QString& name)
+    {
+        Pick(Employee(), name);
+        Press("cmdGenTimeRecs");
+        EXPECT_EQ(Told(), Boxes());
+    }
+    static void Enter(QDialog& editor, const char* start, const char* end)
+    {
+        Type(Find<DateTimeBox>(editor, "dttbStartTime"), start);
+        Type(Find<DateTimeBox>(editor, "dttbEndTime"), end);
+        Click(editor, "cmdSave");
+    }
+    static void FillTwoDays(QDialog& window)
+    {
+        EXPECT_EQ(Find<DateCombo>(window, "dttbTCFrom").Text(), "03/05/2003");
+        EXPECT_EQ(Find<DateCombo>(window, "dttbTCTo").Text(), "03/19/2003");
+        Type(*Find<DateCombo>(window, "dttbTCFrom").lineEdit(), "3/10");
+        Type(*Find<DateCombo>(window, "dttbTCTo").lineEdit(), "3/11");
+        Click(window, "cmdAutoShift");
+        Click(window, "cmdSave");
+    }
+};
+
+TEST_F(TimeCardTest, StepsToAPeriodAndShowsItsCard)
+{
+    EXPECT_EQ(Period(), "03/05/2003 - 03/19/2003");
+    EXPECT_EQ(Employee().count(), 2) << "neither the administrator nor who is not active";
+    Pick(Employee(), "Ann Lee");
+    EXPECT_EQ(StatusText(Main()), "Timecards : Ann Lee : 03/05/2003 - 03/19/2003");
+    Press("cmdPeriodBack");
+    EXPECT_EQ(StatusText(Main()), "Timecards : Ann Lee : 02/18/2003 - 03/04/2003");
+    Press("cmdPeriodNext");
+    EXPECT_EQ(Rows(), QStringList()) << "stepping generates nothing";
+    Press("cmdGenTimeRecs");
+    EXPECT_EQ(Rows(), (QStringList{"03/05/2003 08:00 AM|03/05/2003 05:00 PM|9.00", "03/06/2003 08:00 AM|03/06/2003 04:30 PM|8.50"}));
+    EXPECT_EQ(Totals(), "16.00 10.00 1.50 15.00 182.50");
+    EXPECT_EQ(Told(), Boxes());
+    Press("cmdTCBack");
+    EXPECT_EQ(Employee().currentText(), "Bo Kim");
+    EXPECT_EQ(Rows(), QStringList());
+    EXPECT_EQ(Totals(), "    ");
+}
+
+TEST_F(TimeCardTest, FindsTheEmployeeByTyping)
+{
+    TypeInto(Employee(), "bo kim");
+    Key(Employee(), Qt::Key_Tab);
+    EXPECT_EQ(StatusText(Main()), "Timecards : Bo Kim : 03/05/2003 - 03/19/2003");
+    TypeInto(Employee(), "ann lee");
+    Key(Employee(), Qt::Key_Return);
+    EXPECT_EQ(StatusText(Main()), "Timecards : Ann Lee : 03/05/2003 - 03/19/2003");
+    Key(Employee(), Qt::Key_Return);
+    EXPECT_EQ(Rows().size(), 2) << "Enter generates the card";
+    EXPECT_EQ(Told(), Boxes());
+}
+
+TEST_F(TimeCardTest, TheDateBoxesFollowEachOtherOneWay)
+{
+    TypeInto(The<DateCombo>("dttbTCTo"), "3/7/2003");
+    EXPECT_EQ(Period(), "03/05/2003 - 03/07/2003");
+    TypeInto(The<DateCombo>("dttbTCFrom"), "3/1/2003");
+    EXPECT_EQ(Period(), "03/01/2003 - 03/15/2003");
+    EXPECT_EQ(StatusText(Main()), "Timecards :  : 03/01/2003 - 03/15/2003");
+    TypeInto(The<DateCombo>("dttbTCFrom"), "payday");
+    EXPECT_EQ(Period(), "payday - 03/15/2003");
+}
+
+TEST_F(TimeCardTest, ANewAndAnEditedRecordAreStoredAtOnce)
+{
+    GenerateFor("Ann Lee");
+    {
+        const ExpectedModal editor([](QDialog& window) {
+            EXPECT_EQ(window.windowTitle(), "Edit Time Record");
+            EXPECT_EQ(Find<DateTimeBox>(window, "dttbStartDate").text(), "03/05/2003") << "today";
+            Enter(window, "18", "1930");
+        });
+        Press("cmdTCNew");
+    }
+    EXPECT_EQ(Rows(), (QStringList{"03/05/2003 08:00 AM|03/05/2003 05:00 PM|9.00", "03/05/2003 06:00 PM|03/05/2003 07:30 PM|1.50",
+                                   "03/06/2003 08:00 AM|03/06/2003 04:30 PM|8.50"}));
+    {
+        const ExpectedModal editor([](QDialog& window) { Enter(window, "8", "12"); });
+        QTest::mouseClick(Grid().viewport(), Qt::LeftButton, {}, RowPlace(2));
+        QTest::mouseDClick(Grid().viewport(), Qt::LeftButton, {}, RowPlace(2));
+    }
+    EXPECT_EQ(Stored(kRecords), (std::vector<std::string>{kAtFirst[0], "40 2003-03-05 18:00:00 2003-03-05 19:30:00",
+                                                          "40 2003-03-06 08:00:00 2003-03-06 12:00:00", kAtFirst[2]}));
+    EXPECT_EQ(Totals(), "12.00 10.00 2.50 15.00 157.50");
+    Press("cmdTCEdit");
+    EXPECT_EQ(Told(), Boxes{kNoneToEdit}) << "the grid was rebuilt";
+}
+
+TEST_F(TimeCardTest, DeletesByKeyAfterAsking)
+{
+    GenerateFor("Ann Lee");
+    ClickRow(0);
+    Press("cmdTCDelete");
+    EXPECT_EQ(Told(), Boxes{kDelete});
+    EXPECT_EQ(Stored(kRecords), kAtFirst) << "No was the answer";
+    program.desktop.answers = {Answer::Yes, Answer::Yes};
+    ClickRow(0);
+    QTest::keyClick(&Grid(), Qt::Key_Down);
+    QTest::keyClick(&Grid(), Qt::Key_Delete);
+    EXPECT_EQ(Told(), Boxes{kDelete});
+    EXPECT_EQ(Stored(kRecords), (std::vector{kAtFirst[0], kAtFirst[2]})) << "the shown times have no seconds";
+    EXPECT_EQ(Totals(), "8.00 10.00 1.00 15.00 95.00");
+    QTest::keyClick(&Grid(), Qt::Key_Delete);
+    EXPECT_EQ(Told(), Boxes{kNoneToDelete}) << "the grid was rebuilt";
+    ClickRow(0);
+    Press("cmdTCDelete");
+    EXPECT_EQ(Told(), (Boxes{kDelete, kNoRecords}));
+    EXPECT_EQ(Totals(), "    ");
+}
+
+TEST_F(TimeCardTest, FillsAPeriodAlsoOfACardWithoutRecords)
+{
+    Pick(Employee(), "Bo Kim");
+    Press("cmdPeriodNext");
+    Press("cmdGenTimeRecs");
+    EXPECT_EQ(Told(), Boxes{kNoRecords});
+    Press("cmdPeriodBack");
+    const ExpectedModal window(FillTwoDays);
+    Press("cmdFill");
+    EXPECT_EQ(Period(), "03/10/2003 - 03/11/2003");
+    EXPECT_EQ(Rows(), (QStringList{"03/10/2003 08:00 AM|03/10/2003 05:00 PM|9.00", "03/11/2003 08:00 AM|03/11/2003 05:00 PM|9.00"}));
+    EXPECT_EQ(Stored(kRecords).size(), 5U);
+    EXPECT_EQ(Told(), Boxes());
+}
+
+TEST_F(TimeCardTest, PrintsTheCardAsItIsInTheDatabase)
+{
+    Press("cmdTCPrint");
+    EXPECT_EQ(Told(), (Boxes{kNoEmployee, kEmptyCardNotPrinted}));
+    Pick(Employee(), "Ann Lee");
+    Press("cmdTCPrint");
+    EXPECT_EQ(Rows().size(), 2);
+    EXPECT_EQ(Told(), Boxes());
+    const std::filesystem::directory_iterator reports(program.folder.Path() + "/reports");
+    EXPECT_EQ(std::distance(begin(reports), end(reports)), 1);
+}
+
+TEST_F(TimeCardTest, SaysWhatIsMissing)
+{
+    EXPECT_FALSE(The<QPushButton>("cmdFill").isEnabled());
+    struct Step
+    {
+        const char* name;
+        std::function<void()> act;
+        Boxes told;
+    };
+    const auto press = [this](const char* button) { return [this, button] { Press(button); }; };
+    const auto generateAfter = [this](const std::function<void()>& first) {
+        return [this, first] {
+            first();
+            Press("cmdGenTimeRecs");
+        };
+    };
+    for (const Step& step : {
+             Step{"new", press("cmdTCNew"), {kNoCardForNew}},
+             {"edit", press("cmdTCEdit"), {kNoCard}},
+             {"delete", press("cmdTCDelete"), {kNoCard}},
+             {"no employee", press("cmdGenTimeRecs"), {kNoEmployee}},
+             {"nobody", generateAfter([this] { TypeInto(Employee(), "Nobody"); }), {kNotActive}},
+             {"edit after a failed card", press("cmdTCEdit"), {kNoneToEdit}},
+             {"delete after a failed card", press("cmdTCDelete"), {kNoneToDelete}},
+             {"no date", generateAfter([this] { TypeInto(The<DateCombo>("dttbTCTo"), "payday"); }), {kNotGenerated}},
+             {"no date to step from",
+              generateAfter([this] {
+                  TypeInto(The<DateCombo>("dttbTCFrom"), "1/1/1899");
+                  Press("cmdPeriodNext");
+              }),
+              {kNotMoved, kNotGenerated}},
+         }) {
+        step.act();
+        EXPECT_EQ(Told(), step.told) << step.name;
+    }
+}
+
+TEST_F(TimeCardTest, AnotherEmployeeOrPageNeedsAFreshChoice)
+{
+    GenerateFor("Ann Lee");
+    ClickRow(0);
+    Pick(Employee(), "Bo Kim");
+    Press("cmdTCEdit");
+    EXPECT_EQ(Told(), Boxes{kNoneToEdit});
+    ClickRow(0);
+    ClickTab(Main(), 3);
+    Pick(The<QComboBox>("cboEmployeeName"), "Bo Kim");
+    ClickTab(Main(), 1);
+    EXPECT_FALSE(Grid().selectionModel()->hasSelection());
+    Press("cmdTCDelete");
+    EXPECT_EQ(Told(), Boxes{kNoneToDelete});
+}
+
+TEST_F(TimeCardTest, ARefusedSaveIsToldAndLosesAndDoublesNothing)
+{
+    GenerateFor("Ann Lee");
+    const QStringList shown = Rows();
+    program.desktop.answers = {Answer::Yes, Answer::Yes};
+    {
+        const auto holder = HoldDatabase();
+        ClickRow(1);
+        Press("cmdTCDelete");
+        EXPECT_EQ(Told(), (Boxes{kDelete, kNotDeleted}));
+        {
+            const ExpectedModal editor([](QDialog& window) { Enter(window, "18", "20"); });
+            Press("cmdTCNew");
+        }
+        EXPECT_EQ(Told(), Boxes{kNotStored});
+        const ExpectedModal window(FillTwoDays);
+        Press("cmdFill");
+        EXPECT_EQ(Told(), Boxes{kNotFilled});
+        EXPECT_EQ(Rows(), shown);
+    }
+    EXPECT_EQ(Stored(kRecords), kAtFirst);
+    The<DateCombo>("dttbTCFrom").SetDate(DateTime({2003, 3, 5}));
+    The<DateCombo>("dttbTCTo").SetDate(DateTime({2003, 3, 19}));
+    const ExpectedModal window(FillTwoDays);
+    Press("cmdFill");
+    EXPECT_EQ(Told(), Boxes());
+    EXPECT_EQ(Stored(kRecords).size(), 5U) << "the first try's records, and the deletion, are not made up for";
+}
+
+TEST_F(TimeCardTest, AReportOnAnotherEmployeeDoesNotMoveTheChoice)
+{
+    GenerateFor("Ann Lee");
+    const auto controller = program.Controller();
+    CTimeCard other(controller->TimeRecordFactory());
+    other.PTKDatabase(controller->PTKDatabase());
+    ASSERT_TRUE(
+        other.GenerateTimecard(controller->EmployeeList()->GetEmployeeByName("Bo Kim"), DateTime({2003, 3, 5}), DateTime({2003, 3, 6})));
+    ClickRow(0);
+    program.desktop.answers = {Answer::Yes};
+    Press("cmdTCDelete");
+    EXPECT_EQ(Stored(kRecords), (std::vector{kAtFirst[1], kAtFirst[2]})) << "Ann's shift, not Bo's of the same times";
+}
+
+TEST(PayPeriodTest, StepsWithoutOverlapOrGap)
+{
+    struct Case
+    {
+        CalendarDate from;
+        std::int16_t length;
+        std::int16_t direction;
+        std::optional<std::pair<CalendarDate, CalendarDate>> next;
+    };
+    using Next = std::pair<CalendarDate, CalendarDate>;
+    for (const Case& c : {Case{{2003, 3, 1}, 7, 1, Next{{2003, 3, 9}, {2003, 3, 16}}},
+                          {{2003, 3, 1}, 7, -1, Next{{2003, 2, 21}, {2003, 2, 28}}},
+                          {{2004, 3, 1}, 7, -1, Next{{2004, 2, 22}, {2004, 2, 29}}},
+                          {{2003, 3, 1}, 0, 1, Next{{2003, 3, 2}, {2003, 3, 2}}},
+                          {{2003, 3, 1}, 0, -1, Next{{2003, 2, 28}, {2003, 2, 28}}},
+                          {{2003, 3, 1}, 7, 0, {}},
+                          {{2003, 3, 1}, 7, 2, {}},
+                          {{2003, 3, 1}, 7, -2, {}},
+                          {{1900, 1, 3}, 1, -1, Next{{1900, 1, 1}, {1900, 1, 2}}},
+                          {{1900, 1, 2}, 1, -1, {}},
+                          {{2100, 12, 28}, 1, 1, Next{{2100, 12, 30}, {2100, 12, 31}}},
+                          {{2100, 12, 29}, 1, 1, {}}}) {
+        const auto next = StepPayPeriod(DateTime(c.from), c.length, c.direction);
+        SCOPED_TRACE(testing::Message() << c.from.year << " " << c.length << " " << c.direction);
+        ASSERT_EQ(next.has_value(), c.next.has_value());
+        if (next) {
+            EXPECT_EQ(next->from, DateTime(c.next->first));
+            EXPECT_EQ(next->to, DateTime(c.next->second));
+        }
+    }
+}
+
+TEST(PayPeriodTest, CountsItsStepIn16Bits)
+{
+    const DateTime from({2003, 3, 1});
+    const auto back = StepPayPeriod(from, 32767, -1);
+    ASSERT_TRUE(back.has_value());
+    EXPECT_EQ(back->to, DateTime({2003, 2, 28}));
+    try {
+        StepPayPeriod(from, 32767, 1);
+        FAIL() << "32768 days";
+    } catch (const Failure& failure) {
+        EXPECT_EQ(failure.Number(), 6);
+    }
+}
+
+} // namespace
+} // namespace ptk
