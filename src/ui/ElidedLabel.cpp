@@ -15,11 +15,10 @@ QSize ElidedLabel::minimumSizeHint() const
     return {0, QLabel::minimumSizeHint().height()};
 }
 
-void ElidedLabel::paintEvent(QPaintEvent* event)
+void ElidedLabel::paintEvent(QPaintEvent*)
 {
     const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width());
     setToolTip(shown == text() ? QString() : text());
-    QFrame::paintEvent(event);
     QPainter painter(this);
     painter.setPen(palette().color(foregroundRole()));
     painter.drawText(contentsRect(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, shown);

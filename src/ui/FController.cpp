@@ -307,7 +307,7 @@ void FController::closeEvent(QCloseEvent* event)
         event->ignore();
         if (QWidget* editor = QApplication::activeModalWidget())
             editor->close();
-        QTimer::singleShot(0, this, &FController::close);
+        QMetaObject::invokeMethod(this, "close", Qt::QueuedConnection);
         return;
     }
     event->accept();

@@ -116,10 +116,10 @@ TEST(EmployeeModelsTest, ABoxOfTenThousandNeitherGrowsWithItsRowsNorTakesWhatIsT
     EXPECT_EQ(box.count(), 10000);
 }
 
-// The colour in the middle of the minute hand of the clock icon.
+// The colour in the middle of the minute hand of the clock icon, drawn large enough for pixels without an edge.
 QRgb HandColor()
 {
-    return ThemeIcon("timecards").pixmap(24, 24).toImage().pixel(12, 9) & RGB_MASK;
+    return ThemeIcon("timecards").pixmap(96, 96).toImage().pixel(48, 36) & RGB_MASK;
 }
 
 TEST(ThemeIconTest, FollowsTheTextColourOfTheTheme)

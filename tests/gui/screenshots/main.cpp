@@ -31,6 +31,8 @@ QPalette DarkPalette()
     dark.setColor(QPalette::AlternateBase, QColor(0x26, 0x28, 0x2b));
     dark.setColor(QPalette::Highlight, QColor(0x2f, 0x65, 0xca));
     dark.setColor(QPalette::PlaceholderText, QColor(0x8c, 0x8f, 0x94));
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        dark.setColor(QPalette::Disabled, role, QColor(0x80, 0x83, 0x88));
     return dark;
 }
 
