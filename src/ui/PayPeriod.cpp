@@ -23,7 +23,7 @@ std::optional<PayPeriod> StepPayPeriod(DateTime from, std::int16_t length, std::
 {
     if (direction != 1 && direction != -1)
         return std::nullopt;
-    const std::int16_t lengths = NarrowToInt16(length * direction);
+    const std::int16_t lengths = NarrowToInt16(std::int64_t{length} * direction);
     const std::int16_t days = NarrowToInt16(lengths + direction);
     const PayPeriod next = PayPeriodFrom(from.AddDays(days), length);
     if (!CanBeChosen(next.from) || !CanBeChosen(next.to))

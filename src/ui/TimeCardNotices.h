@@ -15,6 +15,11 @@ struct Notice
     Icon icon;
 };
 
+inline void Tell(Desktop& desktop, const Notice& notice)
+{
+    desktop.Show(notice.text, notice.title, notice.icon);
+}
+
 inline constexpr auto kGenerationTitle = "Timecard Generation Error";
 inline constexpr auto kCreationTitle = "Time Card Creation Error";
 inline constexpr auto kSelectionTitle = "Time Record Selection Error";

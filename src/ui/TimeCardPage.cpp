@@ -35,13 +35,9 @@ using namespace timecardnotice;
 constexpr auto kStatusName = "Timecards";
 constexpr auto kNothingToFill = "Generate a time card first.";
 constexpr int kNameCharacters = 14;
+constexpr int kRowSpace = 8; // pixels around the text of a row
 constexpr std::int16_t kBack = -1;
 constexpr std::int16_t kNext = 1;
-
-void Tell(Desktop& desktop, const Notice& notice)
-{
-    desktop.Show(notice.text, notice.title, notice.icon);
-}
 
 DateTime ChosenDate(const DateCombo& box)
 {
@@ -65,6 +61,7 @@ TimeCardPage::TimeCardPage(PageHost& host, QWidget* parent)
     m_ui->dttbTCFrom->SetClock(host.Clock());
     m_ui->dttbTCTo->SetClock(host.Clock());
     ShowColumn(*m_ui->cboTCEmployeeName, host.EmployeeModels().Offered(), 0, kNameCharacters);
+    m_ui->cboTCEmployeeName->completer()->setCompletionMode(QCompleter::InlineCompletion); // only names of the list make sense here
     ChooseByTyping(*m_ui->cboTCEmployeeName);
     m_ui->cmdFill->setToolTip(kNothingToFill);
     PrepareGrid();
@@ -81,6 +78,7 @@ void TimeCardPage::PrepareGrid()
     grid->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     grid->horizontalHeader()->setHighlightSections(false);
     grid->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    grid->verticalHeader()->setDefaultSectionSize(grid->fontMetrics().height() + kRowSpace);
     grid->verticalHeader()->hide();
     const auto choose = [this] {
         if (m_ui->grdTimeRecs->selectionModel()->hasSelection())
