@@ -6,9 +6,9 @@
 #include "platform/Text.h"
 #include "shell/startup/CController.h"
 #include "store/CJetDB.h"
+#include "ui/BoxText.h"
 #include "ui/BusyPointer.h"
 #include "ui/ChosenOnly.h"
-#include "ui/FController.h"
 #include "ui/ListEdit.h"
 #include "ui/PageHost.h"
 #include "ui/Required.h"
@@ -27,16 +27,6 @@ constexpr auto kNotSaved = "An error occurred while saving the company list.";
 
 constexpr int kIDCharacters = 8;
 constexpr int kNameCharacters = 20;
-
-std::string TextOf(const QLineEdit* box)
-{
-    return box->text().toStdString();
-}
-
-void Show(QLineEdit* box, const std::string& text)
-{
-    box->setText(QString::fromStdString(text));
-}
 
 } // namespace
 
@@ -123,14 +113,14 @@ bool CompanyPage::ShowCompany(const std::shared_ptr<CCompany>& thecompany)
     const int row = m_ui->cboCompanyID->findText(QString::number(thecompany->CompanyID()));
     m_ui->cboCompanyID->setCurrentIndex(row);
     m_ui->cboCompanyName->setCurrentIndex(row);
-    Show(m_ui->txtCompanyAddr1, thecompany->Address1());
-    Show(m_ui->txtCompanyAddr2, thecompany->Address2());
-    Show(m_ui->txtCompanyCity, thecompany->City());
-    Show(m_ui->txtCompanyState, thecompany->State());
-    Show(m_ui->txtCompanyZip, thecompany->ZipCode());
-    Show(m_ui->txtCompanyPhone, thecompany->Phone());
-    Show(m_ui->txtCompanyFax, thecompany->Fax());
-    Show(m_ui->txtFederalTaxID, thecompany->FederalTaxID());
+    ShowText(m_ui->txtCompanyAddr1, thecompany->Address1());
+    ShowText(m_ui->txtCompanyAddr2, thecompany->Address2());
+    ShowText(m_ui->txtCompanyCity, thecompany->City());
+    ShowText(m_ui->txtCompanyState, thecompany->State());
+    ShowText(m_ui->txtCompanyZip, thecompany->ZipCode());
+    ShowText(m_ui->txtCompanyPhone, thecompany->Phone());
+    ShowText(m_ui->txtCompanyFax, thecompany->Fax());
+    ShowText(m_ui->txtFederalTaxID, thecompany->FederalTaxID());
     return true;
 }
 
@@ -174,17 +164,12 @@ void CompanyPage::Save()
 void CompanyPage::SaveFields()
 {
     const auto list = List();
-    std::int32_t position = list->Count() + 1;
-    auto edited = std::make_shared<CCompany>();
-    if (const QString id = m_ui->cboCompanyID->currentText(); !id.isEmpty()) {
-        const std::int32_t wanted = ToInt32(id.toStdString());
-        position = PositionWhere(*list, [wanted](const CCompany& company) { return company.CompanyID() == wanted; });
-        if (position == 0)
-            return (void)m_host.Desktop().Show(kNotFound, kNotFoundTitle, Icon::Exclamation);
-        edited = std::make_shared<CCompany>(*list->Item(position));
-    }
-    ReadCompanyFields(*edited);
-    Store(*list, edited, position);
+    const auto edited = CopyToEdit<CCompany>(*list, m_ui->cboCompanyID->currentText().toStdString(),
+                                             [](const CCompany& company) { return company.CompanyID(); });
+    if (!edited)
+        return (void)m_host.Desktop().Show(kNotFound, kNotFoundTitle, Icon::Exclamation);
+    ReadCompanyFields(*edited->entity);
+    Store(*list, edited->entity, edited->position);
 }
 
 void CompanyPage::Store(CCompanyList& list, const std::shared_ptr<CCompany>& edited, std::int32_t position)

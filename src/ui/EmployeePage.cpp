@@ -5,11 +5,11 @@
 #include "platform/Desktop.h"
 #include "platform/Text.h"
 #include "shell/startup/CController.h"
+#include "ui/BoxText.h"
 #include "ui/BusyPointer.h"
 #include "ui/ChosenOnly.h"
 #include "ui/EmployeeModels.h"
 #include "ui/EmployeeTexts.h"
-#include "ui/FController.h"
 #include "ui/ListEdit.h"
 #include "ui/PageHost.h"
 #include "ui/Required.h"
@@ -33,16 +33,6 @@ constexpr auto kNotSaved = "An error occurred while saving the employee list.";
 
 constexpr int kIDCharacters = 8;
 constexpr int kNameCharacters = 20;
-
-std::string TextOf(const QLineEdit* box)
-{
-    return box->text().toStdString();
-}
-
-void Show(QLineEdit* box, const std::string& text)
-{
-    box->setText(QString::fromStdString(text));
-}
 
 } // namespace
 
@@ -142,23 +132,23 @@ void EmployeePage::Fill(const EmployeeTexts& texts)
     const int row = m_ui->cboEmployeeID->findText(QString::fromStdString(texts.id));
     for (auto* box : {m_ui->cboEmployeeID, m_ui->cboEmployeeName, m_ui->cboEmployeeSSN, m_ui->cboEmployeeNumber})
         box->setCurrentIndex(row);
-    Show(m_ui->txtEmployeeAddr1, texts.address1);
-    Show(m_ui->txtEmployeeAddr2, texts.address2);
-    Show(m_ui->txtEmployeeCity, texts.city);
-    Show(m_ui->txtEmployeeState, texts.state);
-    Show(m_ui->txtEmployeeZip, texts.zip);
-    Show(m_ui->txtEmployeePhone, texts.phone);
-    Show(m_ui->txtPassword, texts.password);
+    ShowText(m_ui->txtEmployeeAddr1, texts.address1);
+    ShowText(m_ui->txtEmployeeAddr2, texts.address2);
+    ShowText(m_ui->txtEmployeeCity, texts.city);
+    ShowText(m_ui->txtEmployeeState, texts.state);
+    ShowText(m_ui->txtEmployeeZip, texts.zip);
+    ShowText(m_ui->txtEmployeePhone, texts.phone);
+    ShowText(m_ui->txtPassword, texts.password);
     m_ui->cboHireDate->SetText(QString::fromStdString(texts.hireDate));
     m_ui->cboReleaseDate->SetText(QString::fromStdString(texts.releaseDate));
     m_ui->cboDOB->SetText(QString::fromStdString(texts.dateOfBirth));
     m_ui->chkEmployeeActive->setChecked(texts.active);
-    Show(m_ui->txtPayRate, texts.payRate);
-    Show(m_ui->txtOvertimePayRate, texts.overtimePayRate);
+    ShowText(m_ui->txtPayRate, texts.payRate);
+    ShowText(m_ui->txtOvertimePayRate, texts.overtimePayRate);
     m_ui->chkAutoDeduct->setChecked(texts.autoDeduct);
     EnableDeduction(texts.autoDeduct);
-    Show(m_ui->txtLunchLength, texts.lunchLength);
-    Show(m_ui->txtBreakLength, texts.breakLength);
+    ShowText(m_ui->txtLunchLength, texts.lunchLength);
+    ShowText(m_ui->txtBreakLength, texts.breakLength);
 }
 
 EmployeeTexts EmployeePage::ReadTexts() const
@@ -257,17 +247,11 @@ bool EmployeePage::IsAccepted(const EmployeeTexts& texts)
 void EmployeePage::SaveTexts(const EmployeeTexts& texts)
 {
     const auto list = List();
-    std::int32_t position = list->Count() + 1;
-    auto edited = std::make_shared<CEmployee>();
-    if (!texts.id.empty()) {
-        const std::int32_t id = ToInt32(texts.id);
-        position = PositionWhere(*list, [id](const CEmployee& employee) { return employee.EmployeeID() == id; });
-        if (position == 0)
-            return (void)m_host.Desktop().Show(kNotFound, kNotFoundTitle, Icon::Exclamation);
-        edited = std::make_shared<CEmployee>(*list->Item(position));
-    }
-    ReadEmployeeTexts(texts, *edited);
-    Store(*list, edited, position);
+    const auto edited = CopyToEdit<CEmployee>(*list, texts.id, [](const CEmployee& employee) { return employee.EmployeeID(); });
+    if (!edited)
+        return (void)m_host.Desktop().Show(kNotFound, kNotFoundTitle, Icon::Exclamation);
+    ReadEmployeeTexts(texts, *edited->entity);
+    Store(*list, edited->entity, edited->position);
 }
 
 void EmployeePage::Store(CEmployeeList& list, const std::shared_ptr<CEmployee>& edited, std::int32_t position)

@@ -26,14 +26,6 @@ class OptionsPage;
 class ReportsPage;
 class TimeCardPage;
 
-// Error numbers of the main window.
-namespace windowerror {
-inline constexpr std::int32_t NoController = 211;
-inline constexpr std::int32_t FillListsFailed = 221;
-inline constexpr std::int32_t ShowPageFailed = 281;
-inline constexpr std::int32_t ClearFieldsFailed = 283;
-} // namespace windowerror
-
 // Must not be destroyed from within its own closing steps, in which the controller lets go of it: delete it later.
 class FController final : public QMainWindow, public MainWindow, public PageHost, public DesktopWindow
 {

@@ -1,8 +1,12 @@
 // Saving an edited entity in its list.
 #pragma once
 
+#include "platform/Text.h"
+
 #include <cstdint>
 #include <memory>
+#include <optional>
+#include <string>
 #include <utility>
 
 namespace ptk {
@@ -22,6 +26,28 @@ std::int32_t PositionWhere(List& list, Predicate matches)
         if (const auto entity = list.Item(i); entity != nullptr && matches(*entity))
             return i;
     return 0;
+}
+
+// What a page edits: a copy of the stored entity and its position, or a new entity and the position after the last.
+template <typename Entity>
+struct EditedCopy
+{
+    std::shared_ptr<Entity> entity;
+    std::int32_t position = 0;
+};
+
+// `key` is the text of the ID, empty for a new entity; `keyOf` tells an entity's ID. Nothing when no entity has that ID; raises Failure 13
+// or 6 for a text that is no ID.
+template <typename Entity, typename List, typename KeyOf>
+std::optional<EditedCopy<Entity>> CopyToEdit(List& list, const std::string& key, KeyOf keyOf)
+{
+    if (key.empty())
+        return EditedCopy<Entity>{std::make_shared<Entity>(), list.Count() + 1};
+    const std::int32_t wanted = ToInt32(key);
+    const std::int32_t position = PositionWhere(list, [&](const Entity& entity) { return keyOf(entity) == wanted; });
+    if (position == 0)
+        return std::nullopt;
+    return EditedCopy<Entity>{std::make_shared<Entity>(*list.Item(position)), position};
 }
 
 // Puts the edited copy into the place of the entity at `position`, or at the end when the position is Count + 1, and saves the list. Where

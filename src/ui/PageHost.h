@@ -25,6 +25,14 @@ inline constexpr std::int32_t TimeRecordGrid = 4;
 inline constexpr std::int32_t EmployeeNumber = 5;
 } // namespace eventsource
 
+// Error numbers of the main window.
+namespace windowerror {
+inline constexpr std::int32_t NoController = 211;
+inline constexpr std::int32_t FillListsFailed = 221;
+inline constexpr std::int32_t ShowPageFailed = 281;
+inline constexpr std::int32_t ClearFieldsFailed = 283;
+} // namespace windowerror
+
 class PageHost
 {
 public:
