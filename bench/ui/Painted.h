@@ -7,10 +7,13 @@
 #include <functional>
 #include <QApplication>
 #include <QEvent>
+#include <QFile>
 #include <QTimer>
 #include <QWidget>
+#include <string>
 #include <sys/resource.h>
 #include <utility>
+#include <vector>
 
 namespace bench {
 
@@ -43,6 +46,22 @@ private:
     std::function<void(QWidget&)> m_then;
     bool m_seen = false;
 };
+
+inline bool Any(const QWidget& /*window*/)
+{
+    return true;
+}
+
+inline std::vector<std::string> Lines(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("no text");
+    std::vector<std::string> lines;
+    for (const QByteArray& line : file.readAll().split('\n'))
+        lines.push_back(line.endsWith('\r') ? line.chopped(1).toStdString() : line.toStdString());
+    return lines;
+}
 
 // Prints the microseconds since `start` and the process's largest memory in KiB, and ends the process at once.
 [[noreturn]] inline void Finish(Time start)

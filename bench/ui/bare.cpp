@@ -1,6 +1,7 @@
 // ptk_bench_bare MODE FOLDER: windows of the same shape with nothing behind them.
 //   login  a dialog with two boxes and three buttons
 //   main   the five pages' forms in a window, their boxes on one shared list of the file's employees
+//   viewer a text box with all of the text of FOLDER (here a file)
 #include "model/CEmployeeList.h"
 #include "Painted.h"
 #include "store/CJetDB.h"
@@ -17,16 +18,12 @@
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QMenuBar>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QStatusBar>
 #include <QTabWidget>
 
 namespace {
-
-bool Any(const QWidget& /*window*/)
-{
-    return true;
-}
 
 void BareLogin(bench::Time started)
 {
@@ -41,7 +38,7 @@ void BareLogin(bench::Time started)
     for (const char* caption : {"Login", "Cancel", "Help"})
         buttons.addWidget(new QPushButton(caption));
     form.addRow(&buttons);
-    const bench::Painted painted(Any, [&](QWidget&) { bench::Finish(started); });
+    const bench::Painted painted(bench::Any, [&](QWidget&) { bench::Finish(started); });
     dialog.exec();
 }
 
@@ -89,6 +86,23 @@ void BareMain(const std::string& folder)
     QApplication::exec();
 }
 
+void BareViewer(const QString& file)
+{
+    QString text;
+    for (const std::string& line : bench::Lines(file))
+        text += QString::fromStdString(line) + '\n';
+    const bench::Time start = bench::Now();
+    QPlainTextEdit box;
+    box.setReadOnly(true);
+    box.setLineWrapMode(QPlainTextEdit::NoWrap);
+    box.setFont(QFont("Courier New"));
+    box.resize(640, 560);
+    const bench::Painted painted(bench::Any, [&](QWidget&) { bench::Finish(start); });
+    box.setPlainText(text);
+    box.show();
+    QApplication::exec();
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -97,6 +111,8 @@ int main(int argc, char** argv)
     const QApplication application(argc, argv);
     if (argc == 3 && QString(argv[1]) == "main")
         BareMain(argv[2]);
+    if (argc == 3 && QString(argv[1]) == "viewer")
+        BareViewer(argv[2]);
     BareLogin(started);
     return EXIT_FAILURE;
 }

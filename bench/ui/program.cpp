@@ -3,10 +3,12 @@
 //   main      from the accepted login until the main window is painted
 //   generate  one click on Generate Timecard until the grid is painted
 //   save      one employee changed and saved, until every list is filled again
+//   viewer    a report of FOLDER (here a text file) from its first line until its viewer is painted
 #include "Painted.h"
 #include "platform/Clock.h"
 #include "shell/startup/AdminMain.h"
 #include "shell/startup/CController.h"
+#include "ui/FReportViewers.h"
 #include "ui/QtDesktop.h"
 #include "ui/QtWindowFactory.h"
 
@@ -75,6 +77,20 @@ void Save(QWidget& main)
     bench::Finish(start);
 }
 
+// Line by line, as the report hands it over.
+void ShowReport(const QString& file)
+{
+    const std::vector<std::string> lines = bench::Lines(file);
+    const bench::Time start = bench::Now();
+    const auto viewer = std::make_shared<ptk::FReportReview>();
+    const bench::Painted painted(bench::Any, [&](QWidget&) { bench::Finish(start); });
+    viewer->Caption("Accountant's Review");
+    for (const std::string& line : lines)
+        viewer->WriteLine(line);
+    viewer->Show();
+    QApplication::exec();
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -84,6 +100,8 @@ int main(int argc, char** argv)
     const QTemporaryDir settings;
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
     const QString mode = argc == 3 ? argv[1] : "";
+    if (mode == "viewer")
+        ShowReport(argv[2]);
     bench::Time loggedIn;
 
     const bench::Painted login([](const QWidget& window) { return qobject_cast<const QDialog*>(&window) != nullptr; },

@@ -1,4 +1,5 @@
 """run_ui.py BUILD DATA: starts the program and the bare windows in turn, several times each, and prints the medians and their ratios."""
+import glob
 import os
 import shutil
 import statistics
@@ -52,6 +53,10 @@ def main(build, data):
     shown, shown_bare = medians([program, "main", many], [bare, "main", many])
     row("login to the painted main window, 10,000 employees", shown[1], shown_bare[1], 1.5)
     row("its memory", shown[2] / 1024, shown_bare[2] / 1024, 1.5, "MiB")
+
+    review = max(glob.glob(os.path.join(data, "reports", "salary_review_*.txt")), key=os.path.getsize)
+    viewer, viewer_bare = medians([program, "viewer", review], [bare, "viewer", review])
+    row("review of 1,000 employees shown", viewer[1], viewer_bare[1], 2.0)
 
     generated, saved = medians([program, "generate", history], [program, "save", many])
     print(f"{'Generate Timecard among a million records':<58}{'':>10}{generated[1]:>12.1f} ms  {'':>7}{'16 ms':>9}")

@@ -85,6 +85,17 @@ protected:
     }
 };
 
+TEST_F(EmployeePageTest, KeepsWhateverTextIsTyped)
+{
+    const QString strange = QString(10'000, 'x') + QString::fromUtf8("\xF0\x9F\x98\x80'\"#[;--");
+    Press("cmdEmployeeNew");
+    EnterKeys("8", "Zoe O'Neil #1", "444-44");
+    The<QLineEdit>("txtEmployeeAddr1").setText(strange);
+    EXPECT_EQ(Save(), Boxes{});
+    EXPECT_EQ(Stored("SELECT FirstName || '/' || LastName || '/' || Address AS x FROM Employee WHERE EmployeeNumber = 8"),
+              std::vector<std::string>{"Zoe/O'Neil #1/" + strange.toStdString()});
+}
+
 TEST_F(EmployeePageTest, EveryListFindsTheEmployee)
 {
     struct Case
