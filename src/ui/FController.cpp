@@ -19,6 +19,7 @@
 #include <array>
 #include <QCloseEvent>
 #include <QGroupBox>
+#include <QPushButton>
 #include <QScrollArea>
 #include <QShortcut>
 #include <QThread>

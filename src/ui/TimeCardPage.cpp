@@ -25,6 +25,7 @@
 #include "ui/TimeRecordGridModel.h"
 #include "ui_TimeCardPage.h"
 
+#include <QCompleter>
 #include <QShortcut>
 
 namespace ptk {
