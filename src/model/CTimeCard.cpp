@@ -168,7 +168,9 @@ void CTimeCard::AppendRecords(std::string& text)
     }
     const float allowance = BreakAllowance();
     for (std::int32_t i = 1; i <= list->Count(); ++i) {
-        text += "\t" + list->RecordAt(i).ToString(allowance) + "\r\n";
+        text += '\t';
+        text += list->RecordAt(i).ToString(allowance);
+        text += "\r\n";
     }
 }
 

@@ -7,6 +7,7 @@ namespace ptk {
 
 namespace {
 
+constexpr std::size_t kUsualLineLength = 48; // two times in the usual format and the hours: one allocation a line
 constexpr double kMinutesPerHour = 60.0;
 
 } // namespace
@@ -52,6 +53,7 @@ std::string CTimeRecord::ToSQL() const
 std::string CTimeRecord::ToString(float breakHours)
 {
     return BuildText(timerecord::TextFailed, [&](std::string& text) {
+        text.reserve(kUsualLineLength);
         AppendTimes(text);
         text += "\t" + TwoDecimals(m_hoursWorked - breakHours);
     });
@@ -64,16 +66,20 @@ std::string CTimeRecord::ToStringReport()
 
 void CTimeRecord::AppendTimes(std::string& text) const
 {
-    text += TimeText(m_startTime);
-    text += "\t" + TimeText(m_endTime);
+    AppendTime(text, m_startTime);
+    text += '\t';
+    AppendTime(text, m_endTime);
 }
 
-std::string CTimeRecord::TimeText(DateTime time) const
+void CTimeRecord::AppendTime(std::string& text, DateTime time) const
 {
     if (!m_enforceFormat) {
-        return GeneralText(time);
+        text += GeneralText(time);
+    } else if (m_formatString) {
+        AppendDateTime(text, time, *m_formatString);
+    } else {
+        AppendDateTime(text, time, kDefaultFormat);
     }
-    return m_formatString ? FormatDateTime(time, *m_formatString) : FormatDateTime(time, kDefaultFormat);
 }
 
 } // namespace ptk

@@ -58,7 +58,7 @@ public:
 
 private:
     void SetTime(DateTime& time, DateTime value);
-    std::string TimeText(DateTime time) const;
+    void AppendTime(std::string& text, DateTime time) const;
     void AppendTimes(std::string& text) const;
 
     static constexpr const char* kDefaultFormat = "mm/dd/yyyy hh:mm AM/PM";

@@ -24,13 +24,14 @@ const char* Meridiem(int hour)
     return hour < 12 ? "AM" : "PM";
 }
 
+constexpr std::string_view kMeridiemToken = "am/pm";
+
 bool StartsWithMeridiem(std::string_view text)
 {
-    constexpr std::string_view token = "am/pm";
-    if (text.size() < token.size() || LowerCase(text.front()) != token.front())
+    if (text.size() < kMeridiemToken.size() || LowerCase(text.front()) != kMeridiemToken.front())
         return false;
-    for (std::size_t i = 0; i < token.size(); ++i) {
-        if (LowerCase(text[i]) != token[i])
+    for (std::size_t i = 0; i < kMeridiemToken.size(); ++i) {
+        if (LowerCase(text[i]) != kMeridiemToken[i])
             return false;
     }
     return true;
@@ -85,33 +86,46 @@ bool HasMeridiem(std::string_view pattern)
     return false;
 }
 
-bool IsTokenLetter(char letter)
-{
-    return letter == 'd' || letter == 'm' || letter == 'y' || letter == 'h' || letter == 'n' || letter == 's';
-}
-
 } // namespace
 
-std::string FormatDateTime(DateTime value, std::string_view pattern)
+void AppendDateTime(std::string& out, DateTime value, std::string_view pattern)
 {
     const Moment moment{value.Date(), value.Time(), HasMeridiem(pattern)};
-    std::string out;
-    out.reserve(pattern.size() + 8);
     char lastToken = '\0';
     for (std::size_t i = 0; i < pattern.size();) {
         const char letter = LowerCase(pattern[i]);
-        if (StartsWithMeridiem(pattern.substr(i))) {
-            out += Meridiem(moment.time.hour);
-            i += 5;
-        } else if (IsTokenLetter(letter)) {
+        switch (letter) {
+        case 'd':
+        case 'm':
+        case 'y':
+        case 'h':
+        case 'n':
+        case 's': {
             const std::size_t length = RunLength(pattern, i, letter == 'y' ? 4 : 2);
             AppendToken(out, letter, length, moment, lastToken == 'h');
             lastToken = letter;
             i += length;
-        } else {
-            out += pattern[i++];
+            continue;
         }
+        case 'a':
+            if (StartsWithMeridiem(pattern.substr(i))) {
+                out += Meridiem(moment.time.hour);
+                i += kMeridiemToken.size();
+                continue;
+            }
+            break;
+        default:
+            break;
+        }
+        out += pattern[i++];
     }
+}
+
+std::string FormatDateTime(DateTime value, std::string_view pattern)
+{
+    std::string out;
+    out.reserve(pattern.size() + 8);
+    AppendDateTime(out, value, pattern);
     return out;
 }
 

@@ -18,6 +18,7 @@ std::string ShortDateText(DateTime value); // "3/5/2003"
 // Tokens of the pattern: d dd m mm yy yyyy h hh n nn s ss AM/PM (12 hours when AM/PM is present); "m" or "mm" directly after hours means
 // minutes; anything else stands for itself. "mm/dd/yyyy hh:mm AM/PM" gives "03/05/2003 08:00 AM".
 std::string FormatDateTime(DateTime value, std::string_view pattern);
+void AppendDateTime(std::string& out, DateTime value, std::string_view pattern); // the same, behind what `out` holds
 
 // Month/day/year with "/" or "-" (years of up to two digits: 00-29 are 2000-2029, 30-99 are 1930-1999), year first, month names, times of
 // 24 hours or with AM/PM, a date alone or a time alone (on the zero date), blanks around. Day and month change places where only that is a
