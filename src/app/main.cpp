@@ -3,13 +3,14 @@
 #include "platform/ProgramFolder.h"
 #include "shell/CError.h"
 #include "shell/startup/AdminMain.h"
-#include "shell/startup/CController.h"
 #include "ui/QtDesktop.h"
 #include "ui/QtWindowFactory.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QWidget>
 
 namespace {
 
@@ -55,6 +56,12 @@ std::string ProgramFolderOption(const QApplication& application)
     return parser.value("program-folder").toStdString();
 }
 
+bool IsAnyWindowShown()
+{
+    const auto windows = QApplication::topLevelWidgets();
+    return std::any_of(windows.begin(), windows.end(), [](const QWidget* window) { return window->isVisible(); });
+}
+
 int Run(const QApplication& application, ptk::Desktop& desktop)
 {
     const std::string folder = ptk::FindProgramFolder(ProgramFolderOption(application));
@@ -65,8 +72,8 @@ int Run(const QApplication& application, ptk::Desktop& desktop)
     // Between the login and the main window there is no window, and the program must not take that for its end.
     QApplication::setQuitOnLastWindowClosed(false);
     admin.Start();
-    if (admin.Controller() == nullptr || admin.Controller()->ControllerWindow() == nullptr)
-        return EXIT_SUCCESS;
+    if (!IsAnyWindowShown())
+        return EXIT_SUCCESS; // the start-up has told why by then
     QApplication::setQuitOnLastWindowClosed(true);
     return QApplication::exec();
 }
