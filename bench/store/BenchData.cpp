@@ -77,7 +77,7 @@ ptk::DateTime FirstDay(const Size& size)
 
 std::string DataFile(const Size& size)
 {
-    const std::string path = dataFolder + "/" + size.name + ".mdb";
+    std::string path = dataFolder + "/" + size.name + ".mdb";
     if (std::filesystem::exists(path))
         return path;
     const std::string unfinished = path + ".part";
