@@ -51,8 +51,10 @@ Failure OpenFailure(int error, const std::filesystem::path& path)
 {
     std::error_code ignored;
     const auto folder = path.parent_path();
-    if (error == ENOENT && !folder.empty() && !std::filesystem::is_directory(folder, ignored))
-        return {failure::PathNotFound, "PTK", "Path not found", error};
+    if (error == ENOENT && !folder.empty() && !std::filesystem::is_directory(folder, ignored)) {
+        const Failure missing(failure::PathNotFound);
+        return {missing.Number(), missing.Source(), missing.Description(), error};
+    }
     return Failure::FromErrno(error);
 }
 

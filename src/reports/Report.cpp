@@ -10,10 +10,7 @@ namespace ptk {
 
 namespace {
 
-constexpr std::int32_t kLauncherFileNotFound = 902;
 constexpr const char* kPrintText = "The path to the report is invalid or not able to be opened by Windows.";
-// The user's guide opener's title, deliberately: every report has always shown this one.
-constexpr const char* kPrintTitle = "User's Guide Open Error";
 
 const std::string kRule(72, '-');
 
@@ -151,8 +148,8 @@ bool Report::PrintReport()
         if (launcher.PrintDocument(m_context.window, ReportPath())) {
             return true;
         }
-        if (launcher.ErrorNumber() == kLauncherFileNotFound) {
-            m_context.desktop.Show(kPrintText, kPrintTitle, Icon::Exclamation);
+        if (launcher.ErrorNumber() == docerror::DocumentNotFound) {
+            m_context.desktop.Show(kPrintText, docerror::NotOpenedTitle, Icon::Exclamation);
         }
         return false;
     } catch (...) {

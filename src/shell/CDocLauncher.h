@@ -15,6 +15,10 @@ namespace docerror {
 inline constexpr std::int32_t NoDocumentName = 901;
 inline constexpr std::int32_t DocumentNotFound = 902;
 inline constexpr std::int32_t NoParentWindow = 911;
+
+// Of the box about any document that is not where it should be: the guide's title, which the reports have always shown as well,
+// deliberately.
+inline constexpr const char* NotOpenedTitle = "User's Guide Open Error";
 } // namespace docerror
 
 class CDocLauncher

@@ -23,7 +23,7 @@ bool Attempt(Operation operation)
 
 } // namespace
 
-CFileAdaptor::CFileAdaptor(const std::string& programFolder) : m_fileName(programFolder + R"(\system\ptk_11.cfg)") {}
+CFileAdaptor::CFileAdaptor(const std::string& programFolder) : m_fileName(programFolder + kConfigurationFile) {}
 
 std::int16_t CFileAdaptor::FileLineCount() const
 {

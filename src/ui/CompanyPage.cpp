@@ -18,8 +18,6 @@ namespace ptk {
 namespace {
 
 constexpr auto kSaveTitle = "Company Save Error";
-constexpr auto kListTitle = "List Save Error";
-constexpr auto kNotFoundTitle = "Object Not found Error";
 constexpr auto kNoName = "You cannot save a company without a name.";
 constexpr auto kNotFound = "This company could not be found in the list. Save Aborted.";
 constexpr auto kNotRead = "An error occurred while loading the company object.";
@@ -157,7 +155,7 @@ void CompanyPage::Save()
     try {
         SaveFields();
     } catch (...) {
-        m_host.Desktop().Show(kNotRead, kListTitle, Icon::Exclamation);
+        m_host.Desktop().Show(kNotRead, listedit::kSaveTitle, Icon::Exclamation);
     }
 }
 
@@ -167,21 +165,10 @@ void CompanyPage::SaveFields()
     const auto edited = CopyToEdit<CCompany>(*list, m_ui->cboCompanyID->currentText().toStdString(),
                                              [](const CCompany& company) { return company.CompanyID(); });
     if (!edited)
-        return (void)m_host.Desktop().Show(kNotFound, kNotFoundTitle, Icon::Exclamation);
+        return (void)m_host.Desktop().Show(kNotFound, listedit::kNotFoundTitle, Icon::Exclamation);
     ReadCompanyFields(*edited->entity);
-    Store(*list, edited->entity, edited->position);
-}
-
-void CompanyPage::Store(CCompanyList& list, const std::shared_ptr<CCompany>& edited, std::int32_t position)
-{
-    const ListSave result = [&] {
-        const BusyPointer busy(m_host.Desktop());
-        return SaveInPlace(list, edited, position);
-    }();
-    if (result == ListSave::Saved)
+    if (SaveOrTell(m_host.Desktop(), *list, *edited, kNotSaved))
         Reload();
-    else if (result == ListSave::Failed)
-        m_host.Desktop().Show(kNotSaved, kListTitle, Icon::Exclamation);
 }
 
 void CompanyPage::Reload()

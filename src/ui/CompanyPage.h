@@ -42,7 +42,6 @@ private:
     void StartAnew();
     void Save();
     void SaveFields();
-    void Store(CCompanyList& list, const std::shared_ptr<CCompany>& edited, std::int32_t position);
     void Reload();
     void ReloadAfresh();
 

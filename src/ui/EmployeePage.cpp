@@ -19,8 +19,6 @@ namespace ptk {
 namespace {
 
 constexpr auto kSaveTitle = "Employee Save Error";
-constexpr auto kListTitle = "List Save Error";
-constexpr auto kNotFoundTitle = "Object Not found Error";
 constexpr auto kNoNumber = "You cannot save an employee without assigning an employee number.";
 constexpr auto kNoName = "You cannot save an employee without a name.";
 constexpr auto kNoSSN = "You cannot save an employee without a social security number.";
@@ -213,7 +211,7 @@ void EmployeePage::Save()
     try {
         SaveTexts(texts);
     } catch (...) {
-        m_host.Desktop().Show(kNotRead, kListTitle, Icon::Exclamation);
+        m_host.Desktop().Show(kNotRead, listedit::kSaveTitle, Icon::Exclamation);
     }
 }
 
@@ -249,21 +247,10 @@ void EmployeePage::SaveTexts(const EmployeeTexts& texts)
     const auto list = List();
     const auto edited = CopyToEdit<CEmployee>(*list, texts.id, [](const CEmployee& employee) { return employee.EmployeeID(); });
     if (!edited)
-        return (void)m_host.Desktop().Show(kNotFound, kNotFoundTitle, Icon::Exclamation);
+        return (void)m_host.Desktop().Show(kNotFound, listedit::kNotFoundTitle, Icon::Exclamation);
     ReadEmployeeTexts(texts, *edited->entity);
-    Store(*list, edited->entity, edited->position);
-}
-
-void EmployeePage::Store(CEmployeeList& list, const std::shared_ptr<CEmployee>& edited, std::int32_t position)
-{
-    const ListSave result = [&] {
-        const BusyPointer busy(m_host.Desktop());
-        return SaveInPlace(list, edited, position);
-    }();
-    if (result == ListSave::Saved)
+    if (SaveOrTell(m_host.Desktop(), *list, *edited, kNotSaved))
         Reload();
-    else if (result == ListSave::Failed)
-        m_host.Desktop().Show(kNotSaved, kListTitle, Icon::Exclamation);
 }
 
 void EmployeePage::Reload()

@@ -46,7 +46,6 @@ private:
     void Save();
     bool IsAccepted(const EmployeeTexts& texts);
     void SaveTexts(const EmployeeTexts& texts);
-    void Store(CEmployeeList& list, const std::shared_ptr<CEmployee>& edited, std::int32_t position);
     void Reload();
 
     EmployeeTexts ReadTexts() const;

@@ -8,13 +8,13 @@
 #include "platform/Text.h"
 #include "ui/PayPeriod.h"
 #include "ui/Required.h"
+#include "ui/TimeCardNotices.h"
 #include "ui_FAutoFill.h"
 
 namespace ptk {
 namespace {
 
 constexpr auto kRangeTitle = "Date Range Error";
-constexpr auto kRangeText = "Incorrect date format or invalid date range.";
 constexpr auto kPeriodText = "Cannot create time records for the given time period.";
 constexpr auto kRecordTitle = "Time Record Error";
 
@@ -88,7 +88,7 @@ bool FAutoFill::ReadRange(CDateRange& range)
 {
     const bool valid = range.ValidateRange(m_ui->dttbTCFrom->Text().toStdString(), m_ui->dttbTCTo->Text().toStdString());
     if (!valid || range.ErrorNumber() == daterange::OutOfLimits) {
-        m_desktop.Show(kRangeText, kRangeTitle, Icon::Exclamation);
+        m_desktop.Show(timecardnotice::kInvalidRangeText, kRangeTitle, Icon::Exclamation);
         return false;
     }
     if (range.DayCount() < 1) {

@@ -5,6 +5,7 @@
 #include "model/CTimeCard.h"
 #include "shell/CDocLauncher.h"
 #include "shell/startup/CController.h"
+#include "shell/startup/Notices.h"
 #include "ui/CompanyPage.h"
 #include "ui/ElidedLabel.h"
 #include "ui/EmployeePage.h"
@@ -52,10 +53,7 @@ constexpr auto kProgramPanel = "PTK - Administrator";
 constexpr int kPanelMargin = 6;
 constexpr auto kFirstStatus = "<object name : ID>";
 
-constexpr auto kOptionsTitle = "Update Options Error";
-constexpr auto kOptionsText = "An error occurred while saving program options. Please check the program options on next use.";
 constexpr auto kGuidePath = "\\documentation\\PTKAdminUserGuide.doc";
-constexpr auto kGuideTitle = "User's Guide Open Error";
 constexpr auto kGuideText = "File: ...\\documentation\\PTKAdminUserGuide.doc\r\n"
                             "The path to the User's Guide is invalid or not able to be opened by Windows.";
 
@@ -265,7 +263,7 @@ void FController::UsersGuide()
 {
     CDocLauncher launcher(m_desktop);
     if (!launcher.DisplayDocument(this, m_programFolder + kGuidePath) && launcher.ErrorNumber() == docerror::DocumentNotFound)
-        m_desktop.Show(kGuideText, kGuideTitle, Icon::Exclamation);
+        m_desktop.Show(kGuideText, docerror::NotOpenedTitle, Icon::Exclamation);
 }
 
 // Unloading the window, in the middle of this, runs the whole close path once more; all of it is harmless when repeated.
@@ -285,7 +283,7 @@ void FController::Unload()
 void FController::CloseDown(bool keepReview)
 {
     if (!m_optionsPage->SaveSystemOptions())
-        m_desktop.Show(kOptionsText, kOptionsTitle, Icon::Exclamation);
+        Tell(m_desktop, notice::OptionsUnsaved);
     m_timeCard = nullptr;
     m_reports->Clear(keepReview);
     const auto controller = m_controller;

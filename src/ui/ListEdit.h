@@ -1,7 +1,9 @@
 // Saving an edited entity in its list.
 #pragma once
 
+#include "platform/Desktop.h"
 #include "platform/Text.h"
+#include "ui/BusyPointer.h"
 
 #include <cstdint>
 #include <memory>
@@ -10,6 +12,11 @@
 #include <utility>
 
 namespace ptk {
+
+namespace listedit {
+inline constexpr auto kSaveTitle = "List Save Error";
+inline constexpr auto kNotFoundTitle = "Object Not found Error";
+} // namespace listedit
 
 enum class ListSave
 {
@@ -66,6 +73,19 @@ ListSave SaveInPlace(List& list, const std::shared_ptr<Entity>& edited, std::int
     if (original != nullptr)
         list.Insert(original, position);
     return result;
+}
+
+// Whether the copy was saved; tells `notSaved` where the database refused. A list that does not take the copy is passed over in silence.
+template <typename List, typename Entity>
+bool SaveOrTell(Desktop& desktop, List& list, const EditedCopy<Entity>& edited, const char* notSaved)
+{
+    const ListSave result = [&] {
+        const BusyPointer busy(desktop);
+        return SaveInPlace(list, edited.entity, edited.position);
+    }();
+    if (result == ListSave::Failed)
+        desktop.Show(notSaved, listedit::kSaveTitle, Icon::Exclamation);
+    return result == ListSave::Saved;
 }
 
 } // namespace ptk

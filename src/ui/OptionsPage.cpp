@@ -2,6 +2,7 @@
 
 #include "platform/Desktop.h"
 #include "shell/startup/CController.h"
+#include "shell/startup/Notices.h"
 #include "store/CSystemOptions.h"
 #include "ui/OptionTexts.h"
 #include "ui/PageHost.h"
@@ -10,7 +11,6 @@
 namespace ptk {
 namespace {
 
-constexpr auto kUpdateTitle = "Update Options Error";
 constexpr auto kUpdateText = "An error occurred while updating the system options in the database.";
 constexpr auto kRestoreTitle = "Restore Options Error";
 constexpr auto kRestoreText = "An error occurred while restoring system options from the database.";
@@ -75,7 +75,7 @@ void OptionsPage::Apply()
     const bool saved = SaveSystemOptions();
     m_host.Desktop().SetPointer(Pointer::Default);
     if (!saved)
-        m_host.Desktop().Show(kUpdateText, kUpdateTitle, Icon::Exclamation);
+        m_host.Desktop().Show(kUpdateText, notice::OptionsUnsaved.title, Icon::Exclamation);
 }
 
 void OptionsPage::Cancel()

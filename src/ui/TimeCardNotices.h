@@ -2,27 +2,16 @@
 #pragma once
 
 #include "model/CTimeCard.h"
-#include "platform/Desktop.h"
+#include "platform/Notice.h"
 
 #include <array>
 
 namespace ptk::timecardnotice {
 
-struct Notice
-{
-    const char* title;
-    const char* text;
-    Icon icon;
-};
-
-inline void Tell(Desktop& desktop, const Notice& notice)
-{
-    desktop.Show(notice.text, notice.title, notice.icon);
-}
-
 inline constexpr auto kGenerationTitle = "Timecard Generation Error";
 inline constexpr auto kCreationTitle = "Time Card Creation Error";
 inline constexpr auto kSelectionTitle = "Time Record Selection Error";
+inline constexpr auto kInvalidRangeText = "Incorrect date format or invalid date range."; // also that of a period to fill
 inline constexpr auto kNotAddedText = "An error occurred while adding this time record to the database.";
 
 inline constexpr Notice kNoEmployeeChosen{"Generate Timecard Error", "You must select an employee.", Icon::Exclamation};
@@ -58,7 +47,7 @@ inline constexpr std::array<CardError, 4> kCardErrors{{
     {kCalculationFailed, kNotGenerated},
     {timecard::NoRecords, {kGenerationTitle, "There are no time records found for this employee during this period.", Icon::Information}},
     {timecard::NoEmployee, {kGenerationTitle, "This is not an active employee.", Icon::Exclamation}},
-    {timecard::InvalidRange, {kGenerationTitle, "Incorrect date format or invalid date range.", Icon::Exclamation}},
+    {timecard::InvalidRange, {kGenerationTitle, kInvalidRangeText, Icon::Exclamation}},
 }};
 
 } // namespace ptk::timecardnotice

@@ -413,7 +413,7 @@ void TimeCardPage::TakeOver(const FAutoFill& window)
 }
 
 // The grid and the totals show what is in the database from then on, or the user learns that nothing has changed there.
-void TimeCardPage::StoreAndShow(const CardStep& step, const timecardnotice::Notice& failed)
+void TimeCardPage::StoreAndShow(const CardStep& step, const Notice& failed)
 {
     const auto store = [&] {
         const BusyPointer busy(m_host.Desktop());

@@ -15,10 +15,6 @@ class TimeCardPage;
 
 namespace ptk {
 
-namespace timecardnotice {
-struct Notice;
-}
-
 class CController;
 class CTimeCard;
 class CTimeRecordFactory;
@@ -26,6 +22,7 @@ class CTimeRecordList;
 class FAutoFill;
 class PageHost;
 class TimeRecordGridModel;
+struct Notice;
 
 // The card is the main window's current one. Every change to a record is stored at once and followed by a fresh generation; moving to
 // another period or employee clears the display but keeps the card.
@@ -86,7 +83,7 @@ private:
     void OpenEditor(const std::shared_ptr<CTimeRecord>& record);
     void HandOver(FAutoFill& window);
     void TakeOver(const FAutoFill& window);
-    void StoreAndShow(const CardStep& step, const timecardnotice::Notice& failed);
+    void StoreAndShow(const CardStep& step, const Notice& failed);
 
     std::shared_ptr<CController> Controller() const; // raises Failure 91 when there is none
     std::int16_t PeriodLength() const;

@@ -263,7 +263,7 @@ void CController::WriteToLog(const char* kind, const CError& error)
 
 std::string CController::ConfigPath() const
 {
-    return m_around.programFolder + R"(\system\ptk_11.cfg)";
+    return m_around.programFolder + kConfigurationFile;
 }
 
 } // namespace ptk

@@ -1,16 +1,9 @@
 // What the start-up and the shutdown tell the user, word for word.
 #pragma once
 
-#include "platform/Desktop.h"
+#include "platform/Notice.h"
 
 namespace ptk {
-
-struct Notice
-{
-    const char* title;
-    const char* text;
-    Icon icon;
-};
 
 namespace notice {
 
@@ -38,11 +31,5 @@ inline constexpr Notice ConfigurationUnsaved{
     Icon::Exclamation};
 
 } // namespace notice
-
-// Waits for the user's OK.
-inline void Tell(Desktop& desktop, const Notice& notice)
-{
-    desktop.Show(notice.text, notice.title, notice.icon);
-}
 
 } // namespace ptk
