@@ -18,8 +18,9 @@ std::string dataFolder = ".";
 
 void Require(int code, sqlite3* database)
 {
-    if (code != SQLITE_OK && code != SQLITE_DONE && code != SQLITE_ROW)
+    if (code != SQLITE_OK && code != SQLITE_DONE && code != SQLITE_ROW) {
         throw std::runtime_error(sqlite3_errmsg(database));
+    }
 }
 
 void Run(sqlite3* database, const std::string& sql)
@@ -78,8 +79,9 @@ ptk::DateTime FirstDay(const Size& size)
 std::string DataFile(const Size& size)
 {
     std::string path = dataFolder + "/" + size.name + ".mdb";
-    if (std::filesystem::exists(path))
+    if (std::filesystem::exists(path)) {
         return path;
+    }
     const std::string unfinished = path + ".part";
     std::filesystem::remove(unfinished);
     ptk::CreateDatabase(unfinished);

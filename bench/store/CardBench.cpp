@@ -64,8 +64,9 @@ public:
     {
         CTimeCard card(m_factory);
         card.PTKDatabase(m_database);
-        if (!card.GenerateTimecard(employee, period.from, period.to))
+        if (!card.GenerateTimecard(employee, period.from, period.to)) {
             throw std::runtime_error("no card");
+        }
         return card.RegularHoursWorked();
     }
 
@@ -81,16 +82,18 @@ void RawCards(benchmark::State& state, const Size& size, const Period& period)
     const std::string path = DataFile(size);
     const std::string from = StoredText(period.from);
     const std::string to = StoredText(period.to);
-    for (auto unused : state)
+    for (auto unused : state) {
         benchmark::DoNotOptimize(RawCard(path, kFirstEmployee + 3, from, to));
+    }
 }
 
 void ProgramCards(benchmark::State& state, const Size& size, const Period& period)
 {
     const Program program(DataFile(size));
     const auto employee = Program::Employee(kFirstEmployee + 3);
-    for (auto unused : state)
+    for (auto unused : state) {
         benchmark::DoNotOptimize(program.Card(employee, period));
+    }
 }
 
 void RawThousand(benchmark::State& state)
@@ -99,8 +102,9 @@ void RawThousand(benchmark::State& state)
     const std::string from = StoredText(Newest().from);
     const std::string to = StoredText(Newest().to);
     for (auto unused : state) {
-        for (std::int32_t i = 0; i < 1000; ++i)
+        for (std::int32_t i = 0; i < 1000; ++i) {
             benchmark::DoNotOptimize(RawCard(path, kFirstEmployee + i, from, to));
+        }
     }
 }
 
@@ -108,16 +112,18 @@ void ProgramThousand(benchmark::State& state)
 {
     const Program program(DataFile(kMedium));
     for (auto unused : state) {
-        for (std::int32_t i = 0; i < 1000; ++i)
+        for (std::int32_t i = 0; i < 1000; ++i) {
             benchmark::DoNotOptimize(program.Card(Program::Employee(kFirstEmployee + i), Newest()));
+        }
     }
 }
 
 void RawList(benchmark::State& state)
 {
     const std::string path = DataFile(kStaff);
-    for (auto unused : state)
+    for (auto unused : state) {
         benchmark::DoNotOptimize(RawEmployees(path));
+    }
 }
 
 void ProgramList(benchmark::State& state)
@@ -125,8 +131,9 @@ void ProgramList(benchmark::State& state)
     const Program program(DataFile(kStaff));
     for (auto unused : state) {
         ptk::CEmployeeList list;
-        if (!list.LoadList(program.Database()))
+        if (!list.LoadList(program.Database())) {
             throw std::runtime_error("no list");
+        }
     }
 }
 
@@ -153,8 +160,9 @@ void ProgramSaves(benchmark::State& state)
         record->StartTime(kLastDay.AddDays(-1));
         record->EndTime(kLastDay);
         record->TimeRecordID(id % kSmall.records + 1);
-        if (!factory.Save(record) || factory.ErrorNumber() != 0)
+        if (!factory.Save(record) || factory.ErrorNumber() != 0) {
             throw std::runtime_error("not saved");
+        }
     }
 }
 
@@ -177,8 +185,9 @@ void RegisterStoreBenchmarks(bool large)
 {
     PairOfCards("card, newest period, 10 thousand records", kSmall, Newest());
     PairOfCards("card, newest period, 1 million records", kMedium, Newest());
-    if (large)
+    if (large) {
         PairOfCards("card, newest period, 10 million records", kLarge, Newest());
+    }
     PairOfCards("card, oldest period, 1 million records", kMedium, Oldest(kMedium));
     Pair("1,000 cards of 1,000 employees", RawThousand, ProgramThousand);
     Pair("list of 10,000 employees", RawList, ProgramList);

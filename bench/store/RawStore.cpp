@@ -30,8 +30,9 @@ public:
 
     void Require(int code) const
     {
-        if (code != SQLITE_OK)
+        if (code != SQLITE_OK) {
             throw std::runtime_error(sqlite3_errmsg(m_database));
+        }
     }
 
 private:

@@ -94,24 +94,27 @@ private:
 std::string WriteReview(Office& office, const std::shared_ptr<ptk::CEmployeeList>& list)
 {
     const auto report = std::make_shared<ptk::CReportReview>(office.Context());
-    if (!report->GenerateReport(office.database, list, office.from, office.to))
+    if (!report->GenerateReport(office.database, list, office.from, office.to)) {
         throw std::runtime_error("no review");
+    }
     return report->ReportPath();
 }
 
 std::string WriteTotals(Office& office)
 {
     const auto report = std::make_shared<ptk::CReportYTDTotals>(office.Context());
-    if (!report->GenerateReport(office.database, Office::Employee(kFirstEmployee), office.from, office.to))
+    if (!report->GenerateReport(office.database, Office::Employee(kFirstEmployee), office.from, office.to)) {
         throw std::runtime_error("no totals");
+    }
     return report->ReportPath();
 }
 
 std::shared_ptr<ptk::CEmployeeList> Everyone()
 {
     auto list = std::make_shared<ptk::CEmployeeList>();
-    for (std::int32_t i = 0; i < kEmployees; ++i)
+    for (std::int32_t i = 0; i < kEmployees; ++i) {
         list->Insert(Office::Employee(kFirstEmployee + i), i + 1);
+    }
     return list;
 }
 
@@ -138,31 +141,35 @@ void RawReview(benchmark::State& state)
 {
     Office office(kLastDay.AddDays(1 - kPeriodDays));
     const std::string bytes = Bytes(WriteReview(office, Everyone()), office);
-    for (auto unused : state)
+    for (auto unused : state) {
         RawReport(office, kEmployees, bytes);
+    }
 }
 
 void ProgramReview(benchmark::State& state)
 {
     Office office(kLastDay.AddDays(1 - kPeriodDays));
     const auto list = Everyone();
-    for (auto unused : state)
+    for (auto unused : state) {
         WriteReview(office, list);
+    }
 }
 
 void RawTotals(benchmark::State& state)
 {
     Office office(ptk::YearToDate(kLastDay).from);
     const std::string bytes = Bytes(WriteTotals(office), office);
-    for (auto unused : state)
+    for (auto unused : state) {
         RawReport(office, 1, bytes);
+    }
 }
 
 void ProgramTotals(benchmark::State& state)
 {
     Office office(ptk::YearToDate(kLastDay).from);
-    for (auto unused : state)
+    for (auto unused : state) {
         WriteTotals(office);
+    }
 }
 
 } // namespace

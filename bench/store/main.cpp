@@ -16,12 +16,13 @@ int main(int argc, char** argv)
     std::vector<char*> rest{argv[0]};
     for (int i = 1; i < argc; ++i) {
         const std::string_view argument = argv[i];
-        if (argument == "--large")
+        if (argument == "--large") {
             large = true;
-        else if (argument == "--data" && i + 1 < argc)
+        } else if (argument == "--data" && i + 1 < argc) {
             bench::DataFolder(argv[++i]);
-        else
+        } else {
             rest.push_back(argv[i]);
+        }
     }
     int count = static_cast<int>(rest.size());
     benchmark::Initialize(&count, rest.data());

@@ -36,8 +36,9 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override
     {
         auto* widget = event->type() == QEvent::Paint ? qobject_cast<QWidget*>(watched) : nullptr;
-        if (widget != nullptr && widget->isWindow() && m_test(*widget) && !std::exchange(m_seen, true))
+        if (widget != nullptr && widget->isWindow() && m_test(*widget) && !std::exchange(m_seen, true)) {
             QTimer::singleShot(0, widget, [this, widget] { m_then(*widget); });
+        }
         return false;
     }
 
@@ -55,11 +56,13 @@ inline bool Any(const QWidget& /*window*/)
 inline std::vector<std::string> Lines(const QString& path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    if (!file.open(QIODevice::ReadOnly)) {
         qFatal("no text");
+    }
     std::vector<std::string> lines;
-    for (const QByteArray& line : file.readAll().split('\n'))
+    for (const QByteArray& line : file.readAll().split('\n')) {
         lines.push_back(line.endsWith('\r') ? line.chopped(1).toStdString() : line.toStdString());
+    }
     return lines;
 }
 

@@ -5,7 +5,7 @@
 #include "model/CEmployeeList.h"
 #include "Painted.h"
 #include "store/CJetDB.h"
-#include "ui/EmployeeModels.h"
+#include "ui/widgets/EmployeeModels.h"
 #include "ui_CompanyPage.h"
 #include "ui_EmployeePage.h"
 #include "ui_OptionsPage.h"
@@ -35,8 +35,9 @@ void BareLogin(bench::Time started)
     form.addRow("Username", &name);
     form.addRow("Password", &password);
     QHBoxLayout buttons;
-    for (const char* caption : {"Login", "Cancel", "Help"})
+    for (const char* caption : {"Login", "Cancel", "Help"}) {
         buttons.addWidget(new QPushButton(caption));
+    }
     form.addRow(&buttons);
     const bench::Painted painted(bench::Any, [&](QWidget&) { bench::Finish(started); });
     dialog.exec();
@@ -54,8 +55,9 @@ void BareMain(const std::string& folder)
 {
     const auto database = std::make_shared<ptk::CJetDB>(folder);
     const auto list = std::make_shared<ptk::CEmployeeList>();
-    if (!list->LoadList(database))
+    if (!list->LoadList(database)) {
         qFatal("no list");
+    }
     const bench::Time start = bench::Now();
     ptk::EmployeeModels models;
     models.SetEmployees(list);
@@ -74,8 +76,9 @@ void BareMain(const std::string& folder)
     ptk::ShowColumn(*timeCards.cboTCEmployeeName, models.Offered(), 0, 14);
     reports.lstEmployees->setModel(models.Offered());
     int column = 0;
-    for (auto* box : {employees.cboEmployeeID, employees.cboEmployeeName, employees.cboEmployeeSSN, employees.cboEmployeeNumber})
+    for (auto* box : {employees.cboEmployeeID, employees.cboEmployeeName, employees.cboEmployeeSSN, employees.cboEmployeeNumber}) {
         ptk::ShowColumn(*box, models.All(), column++, 20);
+    }
     window.menuBar()->addMenu("File");
     window.menuBar()->addMenu("Help");
     window.statusBar()->showMessage("Timecards");
@@ -89,8 +92,9 @@ void BareMain(const std::string& folder)
 void BareViewer(const QString& file)
 {
     QString text;
-    for (const std::string& line : bench::Lines(file))
+    for (const std::string& line : bench::Lines(file)) {
         text += QString::fromStdString(line) + '\n';
+    }
     const bench::Time start = bench::Now();
     QPlainTextEdit box;
     box.setReadOnly(true);
@@ -109,10 +113,12 @@ int main(int argc, char** argv)
 {
     const bench::Time started = bench::Now();
     const QApplication application(argc, argv);
-    if (argc == 3 && QString(argv[1]) == "main")
+    if (argc == 3 && QString(argv[1]) == "main") {
         BareMain(argv[2]);
-    if (argc == 3 && QString(argv[1]) == "viewer")
+    }
+    if (argc == 3 && QString(argv[1]) == "viewer") {
         BareViewer(argv[2]);
+    }
     BareLogin(started);
     return EXIT_FAILURE;
 }

@@ -6,9 +6,9 @@
 //   viewer    a report of FOLDER (here a text file) from its first line until its viewer is painted
 #include "Painted.h"
 #include "platform/Clock.h"
-#include "shell/startup/AdminMain.h"
-#include "shell/startup/CController.h"
-#include "ui/FReportViewers.h"
+#include "startup/AdminMain.h"
+#include "startup/CController.h"
+#include "ui/dialogs/FReportViewers.h"
 #include "ui/QtDesktop.h"
 #include "ui/QtWindowFactory.h"
 
@@ -35,8 +35,9 @@ template <typename Widget>
 Widget& Find(QWidget& window, const char* name)
 {
     auto* widget = window.findChild<Widget*>(name);
-    if (widget == nullptr)
+    if (widget == nullptr) {
         qFatal("no %s", name);
+    }
     return *widget;
 }
 
@@ -55,8 +56,9 @@ void Generate(QWidget& main)
     const bench::Time start = bench::Now();
     Find<QPushButton>(main, "cmdGenTimeRecs").click();
     auto& grid = Find<QAbstractItemView>(main, "grdTimeRecs");
-    if (grid.model()->rowCount() == 0)
+    if (grid.model()->rowCount() == 0) {
         qFatal("no time records");
+    }
     main.repaint();
     bench::Finish(start);
 }
@@ -71,8 +73,9 @@ void Save(QWidget& main)
     Find<QLineEdit>(main, "txtEmployeePhone").setText("555-0199");
     const bench::Time start = bench::Now();
     Find<QPushButton>(main, "cmdEmployeeSave").click();
-    if (!Find<QLineEdit>(main, "txtEmployeePhone").text().isEmpty())
+    if (!Find<QLineEdit>(main, "txtEmployeePhone").text().isEmpty()) {
         qFatal("not saved");
+    }
     main.repaint();
     bench::Finish(start);
 }
@@ -85,8 +88,9 @@ void ShowReport(const QString& file)
     const auto viewer = std::make_shared<ptk::FReportReview>();
     const bench::Painted painted(bench::Any, [&](QWidget&) { bench::Finish(start); });
     viewer->Caption("Accountant's Review");
-    for (const std::string& line : lines)
+    for (const std::string& line : lines) {
         viewer->WriteLine(line);
+    }
     viewer->Show();
     QApplication::exec();
 }
@@ -100,23 +104,27 @@ int main(int argc, char** argv)
     const QTemporaryDir settings;
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
     const QString mode = argc == 3 ? argv[1] : "";
-    if (mode == "viewer")
+    if (mode == "viewer") {
         ShowReport(argv[2]);
+    }
     bench::Time loggedIn;
 
     const bench::Painted login([](const QWidget& window) { return qobject_cast<const QDialog*>(&window) != nullptr; },
                                [&](QWidget& window) {
-                                   if (mode == "login")
+                                   if (mode == "login") {
                                        bench::Finish(started);
+                                   }
                                    loggedIn = bench::Now();
                                    LogIn(window);
                                });
     const bench::Painted main([](const QWidget& window) { return qobject_cast<const QMainWindow*>(&window) != nullptr; },
                               [&](QWidget& window) {
-                                  if (mode == "main")
+                                  if (mode == "main") {
                                       bench::Finish(loggedIn);
-                                  if (mode == "generate")
+                                  }
+                                  if (mode == "generate") {
                                       Generate(window);
+                                  }
                                   Save(window);
                               });
     ptk::QtDesktop desktop;

@@ -2,7 +2,7 @@
 #include "platform/Clock.h"
 #include "platform/ProgramFolder.h"
 #include "shell/CError.h"
-#include "shell/startup/AdminMain.h"
+#include "startup/AdminMain.h"
 #include "ui/QtDesktop.h"
 #include "ui/QtWindowFactory.h"
 
@@ -35,8 +35,9 @@ private:
     void ShowFailure()
     {
         ptk::CError error(m_desktop);
-        if (std::exchange(m_showing, true))
+        if (std::exchange(m_showing, true)) {
             return;
+        }
         error.MessageBox(static_cast<std::int16_t>(ptk::Icon::Critical), static_cast<std::int16_t>(ptk::Buttons::Ok));
         m_showing = false;
     }
@@ -72,8 +73,9 @@ int Run(const QApplication& application, ptk::Desktop& desktop)
     // Between the login and the main window there is no window, and the program must not take that for its end.
     QApplication::setQuitOnLastWindowClosed(false);
     admin.Start();
-    if (!IsAnyWindowShown())
+    if (!IsAnyWindowShown()) {
         return EXIT_SUCCESS; // the start-up has told why by then
+    }
     QApplication::setQuitOnLastWindowClosed(true);
     return QApplication::exec();
 }

@@ -113,10 +113,12 @@ void Grammar::DescribeReport()
 void Grammar::CheckReport() const
 {
     const bool dates = m_report->count("--from") + m_report->count("--to") > 0;
-    if (dates && (m_words.report == "employees" || m_words.report == "phonebook"))
+    if (dates && (m_words.report == "employees" || m_words.report == "phonebook")) {
         throw CLI::ValidationError("report " + m_words.report, "takes no dates");
-    if (!m_words.employees.empty() && m_words.report == "phonebook")
+    }
+    if (!m_words.employees.empty() && m_words.report == "phonebook") {
         throw CLI::ValidationError("report phonebook", "takes no employees");
+    }
 }
 
 std::variant<Arguments, UsageAnswer> Grammar::Read(std::vector<std::string> words)
@@ -124,8 +126,9 @@ std::variant<Arguments, UsageAnswer> Grammar::Read(std::vector<std::string> word
     std::reverse(words.begin(), words.end()); // CLI11 takes them from the back
     try {
         m_app.parse(std::move(words));
-        if (m_report->parsed())
+        if (m_report->parsed()) {
             CheckReport();
+        }
     } catch (const CLI::ParseError& error) {
         return Answer(error);
     }
@@ -138,19 +141,23 @@ std::variant<Arguments, UsageAnswer> Grammar::Answer(const CLI::ParseError& erro
     std::ostringstream err;
     const bool wrong = m_app.exit(error, out, err) != 0;
     std::string text = wrong ? error.what() : out.str();
-    while (text.ends_with('\n'))
+    while (text.ends_with('\n')) {
         text.pop_back();
+    }
     return UsageAnswer{wrong, std::move(text)};
 }
 
 Arguments Grammar::Result() const
 {
-    if (m_createDatabase->parsed())
+    if (m_createDatabase->parsed()) {
         return {m_words.programFolder, CreateDatabaseArguments{m_words.sample, ReadDay(m_words.today)}};
-    if (m_timeCard->parsed())
+    }
+    if (m_timeCard->parsed()) {
         return {m_words.programFolder, TimeCardArguments{m_words.employee, ReadDay(m_words.from).value(), ReadDay(m_words.to).value()}};
-    if (m_report->parsed())
+    }
+    if (m_report->parsed()) {
         return {m_words.programFolder, ReportArguments{m_words.report, m_words.employees, ReadDay(m_words.from), ReadDay(m_words.to)}};
+    }
     return {m_words.programFolder, CheckArguments{}};
 }
 

@@ -17,10 +17,12 @@ int CheckCommand(const CheckArguments&, Console& console)
                 << "Company: " << check.companies << '\n'
                 << "Employee: " << check.employees << '\n'
                 << "TimeRecord: " << check.timeRecords << '\n';
-    for (const std::string& problem : check.problems)
+    for (const std::string& problem : check.problems) {
         console.out << "problem: " << problem << '\n';
-    if (!check.problems.empty())
+    }
+    if (!check.problems.empty()) {
         throw Failure(0, "PTK", "the database has problems: " + std::to_string(check.problems.size()));
+    }
     return status::Done;
 }
 

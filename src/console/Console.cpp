@@ -10,8 +10,9 @@ void Complain(std::ostream& err, const Failure& failure)
     std::replace_if(
         text.begin(), text.end(), [](char c) { return c == '\r' || c == '\n'; }, ' ');
     err << "ptk-console: ";
-    if (failure.Number() != 0)
+    if (failure.Number() != 0) {
         err << failure.Number() << ": ";
+    }
     err << text << '\n';
 }
 
@@ -21,8 +22,9 @@ std::string TerminalText(std::string_view text)
     result.reserve(text.size());
     for (std::size_t i = 0; i < text.size(); ++i) {
         const bool beforeLineFeed = text.substr(i, 2) == "\r\n";
-        if (!beforeLineFeed)
+        if (!beforeLineFeed) {
             result += text[i];
+        }
     }
     return result;
 }

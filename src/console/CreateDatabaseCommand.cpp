@@ -16,13 +16,15 @@ namespace {
 void AddSampleBusiness(BulkWriter& writer, DateTime today)
 {
     std::vector<std::int32_t> companies;
-    for (const CompanyRow& company : SampleCompanies())
+    for (const CompanyRow& company : SampleCompanies()) {
         companies.push_back(writer.AddCompany(company));
+    }
     for (SampleEmployee& employee : SampleEmployees(today)) {
         employee.row.CompanyID = companies.at(static_cast<std::size_t>(employee.row.CompanyID - 1));
         const std::int32_t employeeID = writer.AddEmployee(employee.row);
-        for (const TimeRecordRow& shift : SampleShifts(employee, employeeID, today))
+        for (const TimeRecordRow& shift : SampleShifts(employee, employeeID, today)) {
             writer.AddTimeRecord(shift);
+        }
     }
 }
 

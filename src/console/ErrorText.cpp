@@ -59,8 +59,9 @@ Failure Numbered(const std::array<NumberedText, size>& texts, std::int32_t numbe
 {
     const auto found = std::find_if(texts.begin(), texts.end(), [&](const NumberedText& entry) { return entry.number == number; });
     std::string text = found == texts.end() ? "the operation failed" : found->text;
-    if (!subject.empty())
+    if (!subject.empty()) {
         text += ": " + subject;
+    }
     return Failure(number, "PTK", std::move(text));
 }
 

@@ -35,8 +35,9 @@ int ShowUsage(const UsageAnswer& answer, std::ostream& out, std::ostream& err)
 int Run(const std::vector<std::string>& words, const Clock& clock, std::ostream& out, std::ostream& err)
 {
     const auto read = ReadArguments(words);
-    if (const auto* answer = std::get_if<UsageAnswer>(&read))
+    if (const auto* answer = std::get_if<UsageAnswer>(&read)) {
         return ShowUsage(*answer, out, err);
+    }
     const auto& arguments = std::get<Arguments>(read);
     Console console{FindProgramFolder(arguments.programFolder), clock, out, err};
     return std::visit(Dispatch{console}, arguments.command);
@@ -48,8 +49,9 @@ int RunConsole(const std::vector<std::string>& words, const Clock& clock, std::o
 {
     try {
         const int result = Run(words, clock, out, err);
-        if (out.flush() || result != status::Done)
+        if (out.flush() || result != status::Done) {
             return result;
+        }
         throw Failure(0, "PTK", "the output could not be written");
     } catch (...) {
         Complain(err, CurrentFailure());

@@ -1,13 +1,13 @@
 #include "console/Arguments.h"
 #include "console/Commands.h"
 #include "console/Console.h"
+#include "console/ConsoleDesktop.h"
 #include "console/ErrorText.h"
 #include "console/Session.h"
 #include "console/TerminalViewer.h"
 #include "model/CEmployee.h"
 #include "model/CEmployeeList.h"
 #include "platform/Clock.h"
-#include "platform/ConsoleDesktop.h"
 #include "reports/CReportEmployee.h"
 #include "reports/CReportPhoneBook.h"
 #include "reports/CReportReview.h"
@@ -59,8 +59,9 @@ ReportWriter::ReportWriter(const ReportArguments& arguments, Console& console)
       m_viewers(console.out, console.err)
 {
     for (const std::string& name : arguments.employees) {
-        if (m_session.Employees()->GetEmployeeByName(name) == nullptr)
+        if (m_session.Employees()->GetEmployeeByName(name) == nullptr) {
             throw ProgramFailure(report::NoEmployee, name);
+        }
     }
 }
 
@@ -71,14 +72,16 @@ ReportContext ReportWriter::Context()
 
 std::vector<std::string> ReportWriter::Names() const
 {
-    if (!m_arguments.employees.empty())
+    if (!m_arguments.employees.empty()) {
         return m_arguments.employees;
+    }
     std::vector<std::string> names;
     CEmployeeList& all = *m_session.Employees();
     for (std::int32_t i = 1; i <= all.Count(); ++i) {
         const auto employee = all.Item(i);
-        if (employee->OfferedOnTimeCards())
+        if (employee->OfferedOnTimeCards()) {
             names.push_back(employee->DisplayName());
+        }
     }
     return names;
 }
@@ -94,10 +97,12 @@ ReportPeriod ReportWriter::Period(ReportDates dates)
 {
     const std::int16_t periodLength = m_session.PeriodLength();
     ReportPeriod period = Offered(dates, periodLength);
-    if (m_arguments.from)
+    if (m_arguments.from) {
         period = {*m_arguments.from, m_arguments.to ? *m_arguments.to : PeriodEnd(*m_arguments.from, periodLength)};
-    if (m_arguments.to)
+    }
+    if (m_arguments.to) {
         period.to = *m_arguments.to;
+    }
     return period;
 }
 
@@ -119,8 +124,9 @@ void ReportWriter::WriteForEach(ReportDates dates)
 {
     const ReportPeriod period = Period(dates);
     const auto selected = Selected();
-    for (std::int32_t i = 1; i <= selected->Count(); ++i)
+    for (std::int32_t i = 1; i <= selected->Count(); ++i) {
         WriteOne<AnyReport>(m_session.Database(), selected->Item(i), Value(period.from), Value(period.to));
+    }
 }
 
 void ReportWriter::WriteTimeCards()
@@ -161,8 +167,9 @@ int ReportWriter::Write()
         {"employees", &ReportWriter::WriteEmployees}, {"phonebook", &ReportWriter::WritePhoneBook},
     };
     for (const Choice& choice : kChoices) {
-        if (m_arguments.report == choice.name)
+        if (m_arguments.report == choice.name) {
             (this->*choice.write)();
+        }
     }
     return m_status;
 }

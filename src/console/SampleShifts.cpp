@@ -93,15 +93,17 @@ std::vector<TimeRecordRow> SampleShifts(const SampleEmployee& employee, std::int
     std::vector<TimeRecordRow> shifts;
     for (DateTime day = today.AddDays(-kDays); day < end; day = day.AddDays(1)) {
         const bool absent = chance.OneIn(25);
-        if (plan.weekdays[WeekdayOf(day)] != '-' && !absent)
+        if (plan.weekdays[WeekdayOf(day)] != '-' && !absent) {
             AddDay(shifts, plan, day, chance);
+        }
     }
     if (employee.clockedIn) {
         shifts.emplace_back();
         shifts.back().StartTime = At(today, plan.spans.front().start + chance.Between(-7, 6));
     }
-    for (TimeRecordRow& shift : shifts)
+    for (TimeRecordRow& shift : shifts) {
         shift.EmployeeID = employeeID;
+    }
     return shifts;
 }
 

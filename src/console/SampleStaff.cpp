@@ -131,8 +131,9 @@ EmployeeRow RowOf(const Person& person, DateTime today)
     row.AutoDeductLunchLength = person.lunch;
     row.AutoDeductBreakLength = person.breaks;
     row.EmployeeActive = person.number != kReleasedNumber;
-    if (!row.EmployeeActive)
+    if (!row.EmployeeActive) {
         row.ReleaseDate = today.AddDays(-kReleasedDaysAgo);
+    }
     return row;
 }
 
@@ -167,8 +168,9 @@ std::vector<SampleEmployee> SampleEmployees(DateTime today)
 {
     std::vector<SampleEmployee> employees;
     employees.reserve(kPeople.size());
-    for (const Person& person : kPeople)
+    for (const Person& person : kPeople) {
         employees.push_back({RowOf(person, today), person.pattern, person.number == kClockedInNumber});
+    }
     return employees;
 }
 

@@ -18,8 +18,9 @@ std::shared_ptr<CDatabaseLocator> LocateDatabase(const std::string& programFolde
     configuration->ReadFile(path); // a missing file reads as an empty configuration, which names no database
     auto locator = std::make_shared<CDatabaseLocator>(programFolder);
     locator->ConfigFile(configuration);
-    if (!locator->GetDatabasePath() || locator->DatabasePath().empty())
+    if (!locator->GetDatabasePath() || locator->DatabasePath().empty()) {
         throw Failure(0, "PTK", "the configuration file is missing or names no database: " + NativePath(path).string());
+    }
     return locator;
 }
 
@@ -28,15 +29,17 @@ Session::Session(const std::string& programFolder)
       m_employees(std::make_shared<CEmployeeList>()), m_factory(std::make_shared<CTimeRecordFactory>())
 {
     Open();
-    if (!m_employees->LoadList(m_database))
+    if (!m_employees->LoadList(m_database)) {
         throw ProgramFailure(m_database->ErrorNumber());
+    }
     m_factory->PTKDatabase(m_database);
 }
 
 void Session::Open()
 {
-    if (!m_database->OpenPTKDatabase(m_locator))
+    if (!m_database->OpenPTKDatabase(m_locator)) {
         throw OpenFailure(m_database->ErrorNumber(), NativePath(m_locator->DatabasePath()).string());
+    }
 }
 
 std::int16_t Session::PeriodLength()
@@ -44,8 +47,9 @@ std::int16_t Session::PeriodLength()
     Open();
     CSystemOptions options;
     options.PTKDatabase(m_database);
-    if (!options.Load())
+    if (!options.Load()) {
         throw ProgramFailure(m_database->ErrorNumber());
+    }
     m_database->CloseDB();
     return options.PeriodLength();
 }

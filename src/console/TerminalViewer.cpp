@@ -37,8 +37,9 @@ std::shared_ptr<ReportViewer> TerminalViewers::CreateViewer(ReportKind)
 
 void TerminalViewers::Print(const std::string& text, const std::string& path)
 {
-    if (m_printed)
+    if (m_printed) {
         m_out << '\n';
+    }
     m_printed = true;
     m_out << text;
     m_err << "ptk-console: written: " << path << '\n';

@@ -15,11 +15,13 @@ int TimeCardCommand(const TimeCardArguments& arguments, Console& console)
     card.PTKDatabase(session.Database());
     // A card's end is a moment: midnight after the last day, as the time card page passes it.
     const DateTime end = arguments.to.AddDays(1);
-    if (!card.GenerateTimecard(session.Employees()->GetEmployeeByName(arguments.employee), arguments.from, end))
+    if (!card.GenerateTimecard(session.Employees()->GetEmployeeByName(arguments.employee), arguments.from, end)) {
         throw ProgramFailure(card.ErrorNumber(), arguments.employee);
+    }
     const std::string text = card.ToStringReport();
-    if (card.ErrorNumber() != 0)
+    if (card.ErrorNumber() != 0) {
         throw ProgramFailure(card.ErrorNumber(), arguments.employee);
+    }
     console.out << TerminalText(text);
     return status::Done;
 }

@@ -32,22 +32,26 @@ bool InRange(int value, int end)
 DateTime::DateTime(CalendarDate date, TimeOfDay time)
 {
     // The calendar's fields are narrower than ours and would wrap.
-    if (date.year < -9999 || date.year > 9999)
+    if (date.year < -9999 || date.year > 9999) {
         throw Failure(failure::Overflow);
-    if (!InRange(date.month, 13) || !InRange(date.day, 32))
+    }
+    if (!InRange(date.month, 13) || !InRange(date.day, 32)) {
         throw Failure(failure::InvalidProcedureCall);
+    }
     const year_month_day day{std::chrono::year{date.year}, std::chrono::month{static_cast<unsigned>(date.month)},
                              std::chrono::day{static_cast<unsigned>(date.day)}};
-    if (!day.ok() || !InRange(time.hour, 24) || !InRange(time.minute, 60) || !InRange(time.second, 60))
+    if (!day.ok() || !InRange(time.hour, 24) || !InRange(time.minute, 60) || !InRange(time.second, 60)) {
         throw Failure(failure::InvalidProcedureCall);
+    }
     const std::int64_t days = (sys_days{day} - kZeroDay).count();
     *this = FromSeconds(days * kSecondsPerDay + std::int64_t{time.hour} * 3600 + time.minute * kSecondsPerMinute + time.second);
 }
 
 DateTime DateTime::FromSeconds(std::int64_t secondsSinceZero)
 {
-    if (secondsSinceZero < kFirstSecond || secondsSinceZero >= kEndSecond)
+    if (secondsSinceZero < kFirstSecond || secondsSinceZero >= kEndSecond) {
         throw Failure(failure::Overflow);
+    }
     DateTime result;
     result.m_seconds = secondsSinceZero;
     return result;
@@ -75,8 +79,9 @@ DateTime DateTime::AddDays(std::int64_t days) const
 {
     // Far more days than the range holds; keeps the product below from overflowing.
     constexpr std::int64_t limit = 10'000'000;
-    if (days > limit || days < -limit)
+    if (days > limit || days < -limit) {
         throw Failure(failure::Overflow);
+    }
     return FromSeconds(m_seconds + days * kSecondsPerDay);
 }
 

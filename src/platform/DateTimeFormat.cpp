@@ -28,11 +28,13 @@ constexpr std::string_view kMeridiemToken = "am/pm";
 
 bool StartsWithMeridiem(std::string_view text)
 {
-    if (text.size() < kMeridiemToken.size() || LowerCase(text.front()) != kMeridiemToken.front())
+    if (text.size() < kMeridiemToken.size() || LowerCase(text.front()) != kMeridiemToken.front()) {
         return false;
+    }
     for (std::size_t i = 0; i < kMeridiemToken.size(); ++i) {
-        if (LowerCase(text[i]) != kMeridiemToken[i])
+        if (LowerCase(text[i]) != kMeridiemToken[i]) {
             return false;
+        }
     }
     return true;
 }
@@ -45,8 +47,9 @@ void AppendPadded(std::string& out, int value, std::size_t width)
         return;
     }
     const fmt::format_int digits(value);
-    if (digits.size() < width)
+    if (digits.size() < width) {
         out.append(width - digits.size(), '0');
+    }
     out.append(digits.data(), digits.size());
 }
 
@@ -72,16 +75,18 @@ void AppendToken(std::string& out, char letter, std::size_t length, const Moment
 std::size_t RunLength(std::string_view pattern, std::size_t start, std::size_t most)
 {
     std::size_t end = start + 1;
-    while (end < pattern.size() && end - start < most && LowerCase(pattern[end]) == LowerCase(pattern[start]))
+    while (end < pattern.size() && end - start < most && LowerCase(pattern[end]) == LowerCase(pattern[start])) {
         ++end;
+    }
     return end - start;
 }
 
 bool HasMeridiem(std::string_view pattern)
 {
     for (std::size_t i = 0; i < pattern.size(); ++i) {
-        if (StartsWithMeridiem(pattern.substr(i)))
+        if (StartsWithMeridiem(pattern.substr(i))) {
             return true;
+        }
     }
     return false;
 }
@@ -140,8 +145,9 @@ std::string GeneralText(DateTime value)
     const TimeOfDay time = value.Time();
     const bool midnight = time.hour == 0 && time.minute == 0 && time.second == 0;
     const bool dated = value.DayNumber() != 0;
-    if (dated && midnight)
+    if (dated && midnight) {
         return ShortDateText(value);
+    }
     const std::string clock = fmt::format("{}:{:02}:{:02} {}", TwelveHour(time.hour), time.minute, time.second, Meridiem(time.hour));
     return dated ? ShortDateText(value) + ' ' + clock : clock;
 }

@@ -28,15 +28,17 @@ public:
     bool Blanks()
     {
         const std::size_t start = m_at;
-        while (!AtEnd() && IsBlank(m_text[m_at]))
+        while (!AtEnd() && IsBlank(m_text[m_at])) {
             ++m_at;
+        }
         return m_at > start;
     }
 
     bool Take(char c)
     {
-        if (AtEnd() || m_text[m_at] != c)
+        if (AtEnd() || m_text[m_at] != c) {
             return false;
+        }
         ++m_at;
         return true;
     }
@@ -55,8 +57,9 @@ public:
     std::string_view TakeWord()
     {
         const std::size_t start = m_at;
-        while (!AtEnd() && IsLetter(m_text[m_at]))
+        while (!AtEnd() && IsLetter(m_text[m_at])) {
             ++m_at;
+        }
         return m_text.substr(start, m_at - start);
     }
 
@@ -75,16 +78,18 @@ int MonthOfWord(std::string_view word)
 {
     const std::string lower = LowerCase(word);
     for (std::size_t i = 0; i < kMonths.size(); ++i) {
-        if (lower == kMonths[i] || lower == kMonths[i].substr(0, 3))
+        if (lower == kMonths[i] || lower == kMonths[i].substr(0, 3)) {
             return static_cast<int>(i) + 1;
+        }
     }
     return 0;
 }
 
 int FullYear(Number year)
 {
-    if (year.digits > 2)
+    if (year.digits > 2) {
         return year.value;
+    }
     return year.value < 30 ? 2000 + year.value : 1900 + year.value;
 }
 
@@ -92,16 +97,18 @@ std::optional<CalendarDate> MakeDate(int year, int month, int day)
 {
     const std::chrono::year_month_day date{std::chrono::year{year}, std::chrono::month{static_cast<unsigned>(month)},
                                            std::chrono::day{static_cast<unsigned>(day)}};
-    if (year < kFirstYear || !date.ok())
+    if (year < kFirstYear || !date.ok()) {
         return std::nullopt;
+    }
     return CalendarDate{year, month, day};
 }
 
 // Month and day change places where only that is a date (13/5/2003).
 std::optional<CalendarDate> MakeDateEitherWay(int year, int first, int second)
 {
-    if (const auto date = MakeDate(year, first, second))
+    if (const auto date = MakeDate(year, first, second)) {
         return date;
+    }
     return MakeDate(year, second, first);
 }
 
@@ -110,20 +117,24 @@ std::optional<CalendarDate> TakeSeparatedDate(Scanner& scanner, Number first, ch
 {
     const std::size_t mark = scanner.Mark();
     if (const int month = MonthOfWord(scanner.TakeWord()); month != 0) {
-        if (!scanner.Take(separator))
+        if (!scanner.Take(separator)) {
             return std::nullopt;
+        }
         const Number year = scanner.TakeNumber();
         return year.digits == 0 || first.digits > 2 ? std::nullopt : MakeDate(FullYear(year), month, first.value);
     }
     scanner.Return(mark);
     const Number second = scanner.TakeNumber();
-    if (second.digits == 0 || second.digits > 2 || !scanner.Take(separator))
+    if (second.digits == 0 || second.digits > 2 || !scanner.Take(separator)) {
         return std::nullopt;
+    }
     const Number third = scanner.TakeNumber();
-    if (third.digits == 0)
+    if (third.digits == 0) {
         return std::nullopt;
-    if (first.digits > 2)
+    }
+    if (first.digits > 2) {
         return third.digits > 2 ? std::nullopt : MakeDateEitherWay(first.value, second.value, third.value);
+    }
     return MakeDateEitherWay(FullYear(third), first.value, second.value);
 }
 
@@ -131,11 +142,13 @@ std::optional<CalendarDate> TakeSeparatedDate(Scanner& scanner, Number first, ch
 std::optional<int> TakeSpelledYear(Scanner& scanner)
 {
     const bool comma = scanner.Take(',');
-    if (!scanner.Blanks() && !comma)
+    if (!scanner.Blanks() && !comma) {
         return std::nullopt;
+    }
     const Number year = scanner.TakeNumber();
-    if (year.digits == 0)
+    if (year.digits == 0) {
         return std::nullopt;
+    }
     return FullYear(year);
 }
 
@@ -145,8 +158,9 @@ std::optional<CalendarDate> TakeMonthFirst(Scanner& scanner)
     const int month = MonthOfWord(scanner.TakeWord());
     scanner.Blanks();
     const Number day = scanner.TakeNumber();
-    if (month == 0 || day.digits == 0 || day.digits > 2)
+    if (month == 0 || day.digits == 0 || day.digits > 2) {
         return std::nullopt;
+    }
     const auto year = TakeSpelledYear(scanner);
     return year ? MakeDate(*year, month, day.value) : std::nullopt;
 }
@@ -156,8 +170,9 @@ std::optional<CalendarDate> TakeDayFirst(Scanner& scanner, Number day)
 {
     scanner.Blanks();
     const int month = MonthOfWord(scanner.TakeWord());
-    if (month == 0 || day.digits > 2)
+    if (month == 0 || day.digits > 2) {
         return std::nullopt;
+    }
     const auto year = TakeSpelledYear(scanner);
     return year ? MakeDate(*year, month, day.value) : std::nullopt;
 }
@@ -165,12 +180,15 @@ std::optional<CalendarDate> TakeDayFirst(Scanner& scanner, Number day)
 std::optional<CalendarDate> TakeDate(Scanner& scanner)
 {
     const Number first = scanner.TakeNumber();
-    if (first.digits == 0)
+    if (first.digits == 0) {
         return TakeMonthFirst(scanner);
-    if (scanner.Take('/'))
+    }
+    if (scanner.Take('/')) {
         return TakeSeparatedDate(scanner, first, '/');
-    if (scanner.Take('-'))
+    }
+    if (scanner.Take('-')) {
         return TakeSeparatedDate(scanner, first, '-');
+    }
     return TakeDayFirst(scanner, first);
 }
 
@@ -187,38 +205,46 @@ Meridiem TakeMeridiem(Scanner& scanner)
     const std::size_t mark = scanner.Mark();
     scanner.Blanks();
     const std::string word = LowerCase(scanner.TakeWord());
-    if (word == "am" || word == "pm")
+    if (word == "am" || word == "pm") {
         return word == "am" ? Meridiem::Morning : Meridiem::Afternoon;
+    }
     scanner.Return(mark);
     return word.empty() ? Meridiem::None : Meridiem::Wrong;
 }
 
 std::optional<int> HourOfDay(int hour, Meridiem meridiem)
 {
-    if (meridiem == Meridiem::Wrong)
+    if (meridiem == Meridiem::Wrong) {
         return std::nullopt;
-    if (meridiem == Meridiem::None)
+    }
+    if (meridiem == Meridiem::None) {
         return hour < 24 ? std::optional(hour) : std::nullopt;
-    if (hour < 1 || hour > 12)
+    }
+    if (hour < 1 || hour > 12) {
         return std::nullopt;
+    }
     return hour % 12 + (meridiem == Meridiem::Afternoon ? 12 : 0);
 }
 
 std::optional<TimeOfDay> TakeTime(Scanner& scanner)
 {
     const Number hour = scanner.TakeNumber();
-    if (hour.digits == 0 || hour.digits > 2 || !scanner.Take(':'))
+    if (hour.digits == 0 || hour.digits > 2 || !scanner.Take(':')) {
         return std::nullopt;
+    }
     const Number minute = scanner.TakeNumber();
     Number second{0, 1};
-    if (scanner.Take(':'))
+    if (scanner.Take(':')) {
         second = scanner.TakeNumber();
+    }
     const auto fits = [](Number n) { return (n.digits == 1 || n.digits == 2) && n.value < 60; };
-    if (!fits(minute) || !fits(second))
+    if (!fits(minute) || !fits(second)) {
         return std::nullopt;
+    }
     const auto hourOfDay = HourOfDay(hour.value, TakeMeridiem(scanner));
-    if (!hourOfDay)
+    if (!hourOfDay) {
         return std::nullopt;
+    }
     return TimeOfDay{*hourOfDay, minute.value, second.value};
 }
 
@@ -227,26 +253,32 @@ std::optional<TimeOfDay> TakeTime(Scanner& scanner)
 std::optional<DateTime> ParseDateTime(std::string_view text)
 {
     Scanner scanner(Trimmed(text));
-    if (const auto time = TakeTime(scanner); time && scanner.AtEnd())
+    if (const auto time = TakeTime(scanner); time && scanner.AtEnd()) {
         return DateTime(CalendarDate{}, *time);
+    }
     scanner.Return(0);
     const auto date = TakeDate(scanner);
-    if (!date)
+    if (!date) {
         return std::nullopt;
-    if (scanner.AtEnd())
+    }
+    if (scanner.AtEnd()) {
         return DateTime(*date);
-    if (!scanner.Blanks())
+    }
+    if (!scanner.Blanks()) {
         return std::nullopt;
+    }
     const auto time = TakeTime(scanner);
-    if (!time || !scanner.AtEnd())
+    if (!time || !scanner.AtEnd()) {
         return std::nullopt;
+    }
     return DateTime(*date, *time);
 }
 
 DateTime ToDateTime(std::string_view text)
 {
-    if (const auto value = ParseDateTime(text))
+    if (const auto value = ParseDateTime(text)) {
         return *value;
+    }
     throw Failure(failure::TypeMismatch);
 }
 

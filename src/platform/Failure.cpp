@@ -104,8 +104,9 @@ Failure Failure::FromErrno(int error)
 
 Failure CurrentFailure()
 {
-    if (!std::current_exception())
+    if (!std::current_exception()) {
         return {0, "", ""};
+    }
     try {
         throw;
     } catch (const Failure& failure) {

@@ -29,8 +29,9 @@ std::array<std::unique_ptr<OpenFile>, kMostFiles + 1> files; // by number; 0 is 
 
 OpenFile& At(std::int32_t number)
 {
-    if (number < 1 || number > kMostFiles || !files[static_cast<std::size_t>(number)])
+    if (number < 1 || number > kMostFiles || !files[static_cast<std::size_t>(number)]) {
         throw Failure(failure::BadFileNumber);
+    }
     return *files[static_cast<std::size_t>(number)];
 }
 
@@ -64,17 +65,19 @@ bool Peek(OpenFile& file, char& next)
     if (file.at == file.buffer.size() && !file.ended) {
         file.buffer.resize(kBufferSize);
         ssize_t count = -1;
-        do
+        do {
             count = ::read(file.descriptor, file.buffer.data(), kBufferSize);
-        while (count < 0 && errno == EINTR);
+        } while (count < 0 && errno == EINTR);
         file.buffer.resize(count > 0 ? static_cast<std::size_t>(count) : 0);
         file.at = 0;
-        if (count < 0)
+        if (count < 0) {
             throw Failure::FromErrno(errno);
+        }
         file.ended = count == 0;
     }
-    if (file.at == file.buffer.size())
+    if (file.at == file.buffer.size()) {
         return false;
+    }
     next = file.buffer[file.at];
     return true;
 }
@@ -87,20 +90,23 @@ bool IsLineEnd(char c)
 void SkipBlanks(OpenFile& file)
 {
     char c = '\0';
-    while (Peek(file, c) && (c == ' ' || c == '\t'))
+    while (Peek(file, c) && (c == ' ' || c == '\t')) {
         ++file.at;
+    }
 }
 
 // The comma or the line end after an item.
 void SkipDelimiter(OpenFile& file)
 {
     char c = '\0';
-    if (!Peek(file, c) || (c != ',' && !IsLineEnd(c)))
+    if (!Peek(file, c) || (c != ',' && !IsLineEnd(c))) {
         return;
+    }
     ++file.at;
     char next = '\0';
-    if (c == '\r' && Peek(file, next) && next == '\n')
+    if (c == '\r' && Peek(file, next) && next == '\n') {
         ++file.at;
+    }
 }
 
 std::string TakePlain(OpenFile& file)
@@ -124,8 +130,9 @@ std::string TakeQuoted(OpenFile& file)
         item += c;
         ++file.at;
     }
-    if (Peek(file, c))
+    if (Peek(file, c)) {
         ++file.at;
+    }
     TakePlain(file);
     return item;
 }
@@ -135,23 +142,27 @@ std::string TakeQuoted(OpenFile& file)
 std::int32_t FreeNumber()
 {
     for (std::int32_t number = 1; number <= kMostFiles; ++number) {
-        if (!files[static_cast<std::size_t>(number)])
+        if (!files[static_cast<std::size_t>(number)]) {
             return number;
+        }
     }
     return 0;
 }
 
 void Open(std::int32_t number, const std::string& path, Mode mode)
 {
-    if (number < 1 || number > kMostFiles || path.empty())
+    if (number < 1 || number > kMostFiles || path.empty()) {
         throw Failure(failure::BadFileNumber);
-    if (files[static_cast<std::size_t>(number)])
+    }
+    if (files[static_cast<std::size_t>(number)]) {
         throw Failure(failure::FileAlreadyOpen);
+    }
     const std::filesystem::path native = NativePath(path);
     auto file = std::make_unique<OpenFile>();
     file->descriptor = ::open(native.c_str(), Flags(mode) | O_CLOEXEC, 0644);
-    if (file->descriptor < 0)
+    if (file->descriptor < 0) {
         throw OpenFailure(errno, native);
+    }
     struct stat status
     {
     };
@@ -166,8 +177,9 @@ void Close(std::int32_t number)
 {
     const int descriptor = At(number).descriptor;
     files[static_cast<std::size_t>(number)].reset();
-    if (::close(descriptor) != 0 && errno != EINTR)
+    if (::close(descriptor) != 0 && errno != EINTR) {
         throw Failure::FromErrno(errno);
+    }
 }
 
 bool AtEnd(std::int32_t number)
@@ -180,8 +192,9 @@ std::string ReadItem(std::int32_t number)
 {
     OpenFile& file = At(number);
     char c = '\0';
-    if (!Peek(file, c))
+    if (!Peek(file, c)) {
         throw Failure(failure::InputPastEnd);
+    }
     SkipBlanks(file);
     std::string item = Peek(file, c) && c == '"' ? TakeQuoted(file) : TakePlain(file);
     SkipDelimiter(file);
@@ -193,10 +206,12 @@ void Write(std::int32_t number, std::string_view text)
     const int descriptor = At(number).descriptor;
     while (!text.empty()) {
         const ssize_t count = ::write(descriptor, text.data(), text.size());
-        if (count < 0 && errno != EINTR)
+        if (count < 0 && errno != EINTR) {
             throw Failure::FromErrno(errno);
-        if (count > 0)
+        }
+        if (count > 0) {
             text.remove_prefix(static_cast<std::size_t>(count));
+        }
     }
 }
 

@@ -23,13 +23,16 @@ bool IsDecimal(std::string_view text)
         point = point || text[at] == '.';
         digits += IsDigit(text[at]) ? 1 : 0;
     }
-    if (digits == 0 || at == text.size())
+    if (digits == 0 || at == text.size()) {
         return digits > 0;
-    if (text[at] != 'e' && text[at] != 'E')
+    }
+    if (text[at] != 'e' && text[at] != 'E') {
         return false;
+    }
     at += at + 1 < text.size() && (text[at + 1] == '+' || text[at + 1] == '-') ? 2 : 1;
-    if (at == text.size())
+    if (at == text.size()) {
         return false;
+    }
     return text.substr(at).find_first_not_of("0123456789") == std::string_view::npos;
 }
 
@@ -41,11 +44,13 @@ bool IsBelowOne(std::string_view text)
     const auto point = static_cast<std::int64_t>(std::min(mantissa.find('.'), mantissa.size()));
     const auto first = static_cast<std::int64_t>(mantissa.find_first_of("123456789"));
     std::string_view digits = text.substr(std::min(exponentAt + 1, text.size()));
-    if (digits.starts_with('+'))
+    if (digits.starts_with('+')) {
         digits.remove_prefix(1);
+    }
     std::int32_t exponent = 0;
-    if (std::from_chars(digits.data(), digits.data() + digits.size(), exponent).ec == std::errc::result_out_of_range)
+    if (std::from_chars(digits.data(), digits.data() + digits.size(), exponent).ec == std::errc::result_out_of_range) {
         return digits.starts_with('-'); // outweighs any mantissa
+    }
     return exponent + point <= first;
 }
 
@@ -53,16 +58,20 @@ template <typename Float>
 Float ParseFloat(std::string_view text)
 {
     text = Trimmed(text);
-    if (!IsDecimal(text))
+    if (!IsDecimal(text)) {
         throw Failure(failure::TypeMismatch);
-    if (text.front() == '+')
+    }
+    if (text.front() == '+') {
         text.remove_prefix(1);
+    }
     Float value = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (error == std::errc{})
+    if (error == std::errc{}) {
         return value;
-    if (IsBelowOne(text))
+    }
+    if (IsBelowOne(text)) {
         return 0; // too small to be told from zero
+    }
     throw Failure(failure::Overflow);
 }
 
@@ -77,8 +86,9 @@ Integer ParseInteger(std::string_view text)
 {
     const double value = RoundHalfToEven(ParseFloat<double>(text));
     if (value < static_cast<double>(std::numeric_limits<Integer>::min()) ||
-        value > static_cast<double>(std::numeric_limits<Integer>::max()))
+        value > static_cast<double>(std::numeric_limits<Integer>::max())) {
         throw Failure(failure::Overflow);
+    }
     return static_cast<Integer>(value);
 }
 
@@ -98,13 +108,15 @@ Decimal ShortestDecimal(Float value)
     Decimal decimal;
     const char* at = buffer.data();
     for (; at != end && *at != 'e'; ++at) {
-        if (*at == '-')
+        if (*at == '-') {
             decimal.negative = true;
-        else if (*at != '.')
+        } else if (*at != '.') {
             decimal.digits += *at;
+        }
     }
-    if (at == end)
+    if (at == end) {
         throw Failure(failure::Overflow); // infinity or not a number
+    }
     at += at[1] == '+' ? 2 : 1;
     std::from_chars(at, end, decimal.exponent);
     return decimal;
@@ -115,24 +127,28 @@ std::pair<std::string, std::string> Positional(const Decimal& decimal)
 {
     const int whole = decimal.exponent + 1;
     const auto count = static_cast<int>(decimal.digits.size());
-    if (whole <= 0)
+    if (whole <= 0) {
         return {"0", std::string(static_cast<std::size_t>(-whole), '0') + decimal.digits};
-    if (whole >= count)
+    }
+    if (whole >= count) {
         return {decimal.digits + std::string(static_cast<std::size_t>(whole - count), '0'), ""};
+    }
     return {decimal.digits.substr(0, static_cast<std::size_t>(whole)), decimal.digits.substr(static_cast<std::size_t>(whole))};
 }
 
 template <typename Float>
 std::string ShortestText(Float value)
 {
-    if (value == 0)
+    if (value == 0) {
         return "0";
+    }
     const Decimal decimal = ShortestDecimal(value);
     const auto [whole, fraction] = Positional(decimal);
     std::string text = decimal.negative ? "-" : "";
     text += whole;
-    if (!fraction.empty())
+    if (!fraction.empty()) {
         text += '.' + fraction;
+    }
     return text;
 }
 
@@ -171,8 +187,9 @@ double ToDouble(std::string_view text)
 bool ToBoolean(std::string_view text)
 {
     const std::string word = LowerCase(Trimmed(text));
-    if (word == "true" || word == "false")
+    if (word == "true" || word == "false") {
         return word == "true";
+    }
     return ToDouble(text) != 0;
 }
 
@@ -191,15 +208,17 @@ std::string BooleanText(bool value)
 
 std::string TwoDecimals(float value)
 {
-    if (value == 0)
+    if (value == 0) {
         return "0.00";
+    }
     const Decimal decimal = ShortestDecimal(value);
     auto [whole, fraction] = Positional(decimal);
     fraction.resize(std::max<std::size_t>(fraction.size(), 2), '0');
     const bool roundUp = fraction.size() > 2 && fraction[2] >= '5';
     std::string digits = whole + fraction.substr(0, 2);
-    if (roundUp)
+    if (roundUp) {
         Increment(digits);
+    }
     const bool isZero = digits.find_first_not_of('0') == std::string::npos;
     digits.insert(digits.size() - 2, 1, '.');
     return decimal.negative && !isZero ? '-' + digits : digits;
@@ -208,16 +227,18 @@ std::string TwoDecimals(float value)
 std::string LowerCase(std::string_view text)
 {
     std::string lower(text);
-    for (char& c : lower)
+    for (char& c : lower) {
         c = LowerCase(c);
+    }
     return lower;
 }
 
 std::size_t CharacterCount(std::string_view utf8)
 {
     std::size_t count = 0;
-    for (const char c : utf8)
+    for (const char c : utf8) {
         count += (static_cast<unsigned char>(c) & 0xC0U) == 0x80U ? 0 : 1; // continuation bytes belong to the character before
+    }
     return count;
 }
 

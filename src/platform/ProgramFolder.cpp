@@ -12,8 +12,9 @@ constexpr const char* kEnvironmentVariable = "PTK_PROGRAM_FOLDER";
 std::string WithoutTrailingSeparator(const std::filesystem::path& folder)
 {
     std::string text = std::filesystem::absolute(folder).lexically_normal().string();
-    while (text.size() > 1 && text.back() == '/')
+    while (text.size() > 1 && text.back() == '/') {
         text.pop_back();
+    }
     return text;
 }
 
@@ -21,10 +22,12 @@ std::string WithoutTrailingSeparator(const std::filesystem::path& folder)
 
 std::string FindProgramFolder(const std::string& option)
 {
-    if (!option.empty())
+    if (!option.empty()) {
         return WithoutTrailingSeparator(option);
-    if (const char* variable = std::getenv(kEnvironmentVariable); variable != nullptr && *variable != '\0')
+    }
+    if (const char* variable = std::getenv(kEnvironmentVariable); variable != nullptr && *variable != '\0') {
         return WithoutTrailingSeparator(variable);
+    }
     return WithoutTrailingSeparator(std::filesystem::read_symlink("/proc/self/exe").parent_path());
 }
 

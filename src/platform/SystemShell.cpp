@@ -29,8 +29,9 @@ std::vector<char*> Pointers(std::vector<std::string>& arguments)
 {
     std::vector<char*> pointers;
     pointers.reserve(arguments.size() + 1);
-    for (std::string& argument : arguments)
+    for (std::string& argument : arguments) {
         pointers.push_back(argument.data());
+    }
     pointers.push_back(nullptr);
     return pointers;
 }
@@ -55,10 +56,12 @@ bool SucceedsInTime(pid_t child)
     int status = 0;
     while (std::chrono::steady_clock::now() < deadline) {
         const pid_t done = ::waitpid(child, &status, WNOHANG);
-        if (done == child)
+        if (done == child) {
             return WIFEXITED(status) && WEXITSTATUS(status) == 0;
-        if (done < 0 && errno != EINTR)
+        }
+        if (done < 0 && errno != EINTR) {
             return false;
+        }
         std::this_thread::sleep_for(kPollInterval);
     }
     ::kill(child, SIGKILL);
@@ -71,15 +74,18 @@ bool SucceedsInTime(pid_t child)
 std::int32_t RunSystemShell(ShellVerb verb, const std::string& path)
 {
     std::error_code ignored;
-    if (!std::filesystem::exists(path, ignored))
+    if (!std::filesystem::exists(path, ignored)) {
         return ShellFileNotFound;
+    }
     std::vector<std::string> arguments = verb == ShellVerb::Print ? kPrintCommand : kOpenCommand;
     arguments.push_back(std::filesystem::absolute(path, ignored).string());
     const auto child = Spawn(std::move(arguments));
-    if (!child)
+    if (!child) {
         return ShellNoProgram;
-    if (verb == ShellVerb::Print)
+    }
+    if (verb == ShellVerb::Print) {
         return SucceedsInTime(*child) ? kTakenOver : ShellNoProgram;
+    }
     std::thread([child] { ::waitpid(*child, nullptr, 0); }).detach(); // leaves no zombie behind
     return kTakenOver;
 }

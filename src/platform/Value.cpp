@@ -19,16 +19,17 @@ double NumberOf(const Value::Storage& storage)
     return std::visit(
         [](const auto& value) -> double {
             using T = std::decay_t<decltype(value)>;
-            if constexpr (std::is_same_v<T, std::monostate>)
+            if constexpr (std::is_same_v<T, std::monostate>) {
                 throw Failure(failure::InvalidUseOfNull);
-            else if constexpr (std::is_same_v<T, bool>)
+            } else if constexpr (std::is_same_v<T, bool>) {
                 return value ? -1 : 0;
-            else if constexpr (std::is_same_v<T, DateTime>)
+            } else if constexpr (std::is_same_v<T, DateTime>) {
                 return static_cast<double>(value.Seconds()) / kSecondsPerDay;
-            else if constexpr (std::is_same_v<T, std::string>)
+            } else if constexpr (std::is_same_v<T, std::string>) {
                 return ToDouble(value);
-            else
+            } else {
                 return static_cast<double>(value);
+            }
         },
         storage);
 }
@@ -38,24 +39,27 @@ Integer IntegerOf(const Value::Storage& storage)
 {
     const double value = std::nearbyint(NumberOf(storage));
     if (!(value >= static_cast<double>(std::numeric_limits<Integer>::min()) &&
-          value <= static_cast<double>(std::numeric_limits<Integer>::max())))
+          value <= static_cast<double>(std::numeric_limits<Integer>::max()))) {
         throw Failure(failure::Overflow);
+    }
     return static_cast<Integer>(value);
 }
 
 template <typename Integer>
 Integer Narrow(std::int64_t value)
 {
-    if (value < std::numeric_limits<Integer>::min() || value > std::numeric_limits<Integer>::max())
+    if (value < std::numeric_limits<Integer>::min() || value > std::numeric_limits<Integer>::max()) {
         throw Failure(failure::Overflow);
+    }
     return static_cast<Integer>(value);
 }
 
 DateTime DateTimeOfDays(double days)
 {
     const double seconds = std::nearbyint(days * kSecondsPerDay);
-    if (!(std::abs(seconds) < 1e12))
+    if (!(std::abs(seconds) < 1e12)) {
         throw Failure(failure::Overflow);
+    }
     return DateTime::FromSeconds(static_cast<std::int64_t>(seconds));
 }
 
@@ -63,15 +67,17 @@ DateTime DateTimeOfDays(double days)
 
 bool Value::IsDate() const
 {
-    if (const auto* text = std::get_if<std::string>(&m_value))
+    if (const auto* text = std::get_if<std::string>(&m_value)) {
         return ParseDateTime(*text).has_value();
+    }
     return std::holds_alternative<DateTime>(m_value);
 }
 
 bool Value::ToBoolean() const
 {
-    if (const auto* text = std::get_if<std::string>(&m_value))
+    if (const auto* text = std::get_if<std::string>(&m_value)) {
         return ptk::ToBoolean(*text);
+    }
     return NumberOf(m_value) != 0;
 }
 
@@ -87,8 +93,9 @@ std::int32_t Value::ToInt32() const
 float Value::ToSingle() const
 {
     const double value = NumberOf(m_value);
-    if (std::abs(value) > static_cast<double>(std::numeric_limits<float>::max()))
+    if (std::abs(value) > static_cast<double>(std::numeric_limits<float>::max())) {
         throw Failure(failure::Overflow);
+    }
     return static_cast<float>(value);
 }
 
@@ -99,10 +106,12 @@ double Value::ToDouble() const
 
 DateTime Value::ToDateTime() const
 {
-    if (const auto* moment = std::get_if<DateTime>(&m_value))
+    if (const auto* moment = std::get_if<DateTime>(&m_value)) {
         return *moment;
-    if (const auto* text = std::get_if<std::string>(&m_value))
+    }
+    if (const auto* text = std::get_if<std::string>(&m_value)) {
         return ptk::ToDateTime(*text);
+    }
     return DateTimeOfDays(NumberOf(m_value));
 }
 
@@ -111,20 +120,21 @@ std::string Value::ToText() const
     return std::visit(
         [](const auto& value) -> std::string {
             using T = std::decay_t<decltype(value)>;
-            if constexpr (std::is_same_v<T, std::monostate>)
+            if constexpr (std::is_same_v<T, std::monostate>) {
                 throw Failure(failure::InvalidUseOfNull);
-            else if constexpr (std::is_same_v<T, bool>)
+            } else if constexpr (std::is_same_v<T, bool>) {
                 return BooleanText(value);
-            else if constexpr (std::is_same_v<T, float>)
+            } else if constexpr (std::is_same_v<T, float>) {
                 return SingleText(value);
-            else if constexpr (std::is_same_v<T, double>)
+            } else if constexpr (std::is_same_v<T, double>) {
                 return DoubleText(value);
-            else if constexpr (std::is_same_v<T, DateTime>)
+            } else if constexpr (std::is_same_v<T, DateTime>) {
                 return GeneralText(value);
-            else if constexpr (std::is_same_v<T, std::string>)
+            } else if constexpr (std::is_same_v<T, std::string>) {
                 return value;
-            else
+            } else {
                 return std::to_string(value);
+            }
         },
         m_value);
 }

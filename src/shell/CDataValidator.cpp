@@ -27,8 +27,9 @@ bool CDataValidator::CheckDateTimeValues(const std::string& thestring) const
 
 bool CDataValidator::CheckSingleValues(const std::string& thestring) const
 {
-    if (!std::ranges::all_of(thestring, [](char character) { return character == '.' || IsDigit(character); }))
+    if (!std::ranges::all_of(thestring, [](char character) { return character == '.' || IsDigit(character); })) {
         return false;
+    }
     try {
         ToSingle(thestring);
         return true;

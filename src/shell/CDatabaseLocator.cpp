@@ -13,18 +13,21 @@ constexpr const char* kPlaceholder = "<app.path>";
 
 void CDatabaseLocator::ConfigFile(std::shared_ptr<CFileAdaptor> value)
 {
-    if (value)
+    if (value) {
         m_configFile = std::move(value);
+    }
 }
 
 bool CDatabaseLocator::GetDatabasePath()
 {
     try {
-        if (m_configFile)
+        if (m_configFile) {
             m_databasePath = m_configFile->FindKeyValue(kPathKey);
+        }
         // Text in front of the placeholder goes; so it does up to the first ">" where that stands even before the placeholder.
-        if (m_databasePath.find(kPlaceholder) != std::string::npos)
+        if (m_databasePath.find(kPlaceholder) != std::string::npos) {
             m_databasePath = m_programFolder + m_databasePath.substr(m_databasePath.find('>') + 1);
+        }
         return true;
     } catch (...) {
         return false;

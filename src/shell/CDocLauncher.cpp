@@ -23,16 +23,19 @@ bool CDocLauncher::PrintDocument(const DesktopWindow* theparent, const std::stri
 
 bool CDocLauncher::Launch(const DesktopWindow* theparent, const std::string& thedocname, ShellVerb verb)
 {
-    if (theparent == nullptr)
+    if (theparent == nullptr) {
         return Refuse(docerror::NoParentWindow);
-    if (thedocname.empty())
+    }
+    if (thedocname.empty()) {
         return Refuse(docerror::NoDocumentName);
+    }
     m_parent = theparent;
     m_fileName = thedocname;
     try {
         const std::int32_t code = m_desktop.Shell(*m_parent, verb, NativePath(m_fileName).string());
-        if (code == ShellFileNotFound)
+        if (code == ShellFileNotFound) {
             return Refuse(docerror::DocumentNotFound);
+        }
         return code > ShellSuccess;
     } catch (...) {
         return false;

@@ -25,8 +25,9 @@ std::int16_t Style(const Value& userValue, std::int16_t otherwise)
 void CError::ErrorDescription(const std::string& thisDesc)
 {
     m_description += thisDesc;
-    if (m_description.empty())
+    if (m_description.empty()) {
         m_description = "No Error Description Available";
+    }
 }
 
 void CError::ModuleName(std::string thisModule)
@@ -50,11 +51,13 @@ std::int16_t CError::MessageBox(const Value& userIcon, const Value& userButtons)
 std::string CError::Text() const
 {
     std::string text = "The following error ocurred in module " + m_moduleName;
-    if (!ErrorSource().empty())
+    if (!ErrorSource().empty()) {
         text.append(kLineBreak).append("Error Source: ").append(ErrorSource());
+    }
     text.append(kLineBreak).append(fmt::format("{}: {}", ErrorNumber(), m_description));
-    if (!m_additionalDescription.empty())
+    if (!m_additionalDescription.empty()) {
         text.append(kLineBreak).append(m_additionalDescription);
+    }
     return text;
 }
 

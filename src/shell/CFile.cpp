@@ -32,8 +32,9 @@ const Clock& MachineClock()
 
 std::int16_t ModeOf(const Value& mode)
 {
-    if (!IsNumeric(mode))
+    if (!IsNumeric(mode)) {
         return 0;
+    }
     const double number = mode.ToDouble();
     return number < 0 || number > 2 ? std::int16_t{0} : mode.ToInt16();
 }
@@ -46,8 +47,9 @@ CFile::CFile(const Clock& clock) : m_clock(clock) {}
 
 CFile::~CFile()
 {
-    if (m_fileOpen)
+    if (m_fileOpen) {
         CloseFile();
+    }
 }
 
 bool CFile::GetTempFile(std::string& /*parampath*/)
@@ -63,8 +65,9 @@ bool CFile::OpenFile(const std::string& paramfile, const Value& parammode)
     m_fileMode = std::to_string(mode);
     try {
         const std::int32_t number = AcquireFileNumber();
-        if (number == 0)
+        if (number == 0) {
             return false;
+        }
         OpenUnder(number, static_cast<linefile::Mode>(mode));
         return true;
     } catch (...) {
@@ -75,8 +78,9 @@ bool CFile::OpenFile(const std::string& paramfile, const Value& parammode)
 std::int32_t CFile::AcquireFileNumber()
 {
     const std::int32_t number = linefile::FreeNumber();
-    if (number == 0)
+    if (number == 0) {
         m_errorNumber = fileerror::NotOpen;
+    }
     return number;
 }
 
@@ -84,8 +88,9 @@ void CFile::OpenUnder(std::int32_t number, linefile::Mode mode)
 {
     linefile::Open(number, NativePath(m_fileName).string(), mode);
     const std::int32_t earlierNumber = std::exchange(m_fileNumber, number);
-    if (std::exchange(m_fileOpen, true))
+    if (std::exchange(m_fileOpen, true)) {
         linefile::Close(earlierNumber);
+    }
 }
 
 bool CFile::CloseFile()
@@ -103,11 +108,13 @@ bool CFile::CloseFile()
 std::string CFile::ReadLine()
 {
     ClearError();
-    if (!ReadyToRead())
+    if (!ReadyToRead()) {
         return {};
+    }
     try {
-        if (!linefile::AtEnd(m_fileNumber))
+        if (!linefile::AtEnd(m_fileNumber)) {
             return linefile::ReadItem(m_fileNumber);
+        }
         m_endOfFile = true;
         return "EOF";
     } catch (...) {
@@ -135,8 +142,9 @@ bool CFile::WriteLine(const std::string& buffer, const std::string& notes, bool 
 bool CFile::WriteText(std::string text)
 {
     ClearError();
-    if (!ReadyToWrite())
+    if (!ReadyToWrite()) {
         return false;
+    }
     try {
         linefile::Write(m_fileNumber, text.append("\r\n"));
         return true;
@@ -147,15 +155,17 @@ bool CFile::WriteText(std::string text)
 
 bool CFile::ReadyToRead()
 {
-    if (!m_fileOpen)
+    if (!m_fileOpen) {
         return Refuse(fileerror::NotOpen, kNotOpenToRead);
+    }
     return m_fileMode == kReadMode || Refuse(fileerror::WriteOnly, kWriteOnly);
 }
 
 bool CFile::ReadyToWrite()
 {
-    if (!m_fileOpen)
+    if (!m_fileOpen) {
         return Refuse(fileerror::NotOpen, kNotOpenToWrite);
+    }
     return m_fileMode != kReadMode || Refuse(fileerror::ReadOnly, kReadOnly);
 }
 

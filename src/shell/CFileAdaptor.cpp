@@ -33,12 +33,14 @@ std::int16_t CFileAdaptor::FileLineCount() const
 bool CFileAdaptor::ReadFile(const std::string& thefilename)
 {
     return Attempt([&] {
-        if (thefilename.empty())
+        if (thefilename.empty()) {
             return false;
+        }
         m_fileName = thefilename;
         CFile file;
-        if (file.OpenFile(thefilename, kReadMode))
+        if (file.OpenFile(thefilename, kReadMode)) {
             ReadLines(file);
+        }
         return true;
     });
 }
@@ -49,8 +51,9 @@ void CFileAdaptor::ReadLines(CFile& file)
     std::int16_t position = 1;
     while (!file.EndOfFile()) {
         const std::string line = file.ReadLine();
-        if (line != "EOF")
+        if (line != "EOF") {
             m_lines.Insert(line, position);
+        }
         position = NarrowToInt16(position + 1);
     }
     file.CloseFile();
@@ -59,12 +62,14 @@ void CFileAdaptor::ReadLines(CFile& file)
 bool CFileAdaptor::WriteFile(const std::string& thefilename)
 {
     return Attempt([&] {
-        if (thefilename.empty())
+        if (thefilename.empty()) {
             return false;
+        }
         m_fileName = thefilename;
         CFile file;
-        if (file.OpenFile(thefilename, kWriteMode))
+        if (file.OpenFile(thefilename, kWriteMode)) {
             WriteLines(file);
+        }
         return true;
     });
 }
@@ -72,8 +77,9 @@ bool CFileAdaptor::WriteFile(const std::string& thefilename)
 void CFileAdaptor::WriteLines(CFile& file)
 {
     const std::int16_t count = FileLineCount();
-    for (std::int32_t position = 1; position <= count; ++position)
+    for (std::int32_t position = 1; position <= count; ++position) {
         file.WriteLine(m_lines.Item(position));
+    }
     file.CloseFile();
 }
 
@@ -117,17 +123,20 @@ std::string CFileAdaptor::GetLine(std::int16_t index)
 std::int16_t CFileAdaptor::FindLine(const std::string& thekeystring)
 {
     const std::int16_t count = FileLineCount();
-    for (std::int32_t position = 1; position <= count; ++position)
-        if (m_lines.Item(position).find(thekeystring) != std::string::npos)
+    for (std::int32_t position = 1; position <= count; ++position) {
+        if (m_lines.Item(position).find(thekeystring) != std::string::npos) {
             return NarrowToInt16(position);
+        }
+    }
     return -1;
 }
 
 bool CFileAdaptor::ReplaceLine(const std::string& thekeystring, const std::string& thekeyvalue)
 {
     const std::int16_t index = FindLine(thekeystring);
-    if (index < 1 || !RemoveLine(index))
+    if (index < 1 || !RemoveLine(index)) {
         return false;
+    }
     return InsertLine(thekeystring + "=" + thekeyvalue, index);
 }
 
@@ -136,8 +145,9 @@ std::string CFileAdaptor::FindKeyValue(const std::string& thekeystring)
     const std::int16_t count = FileLineCount();
     for (std::int32_t position = 1; position <= count; ++position) {
         GetLine(NarrowToInt16(position));
-        if (m_keyString == thekeystring)
+        if (m_keyString == thekeystring) {
             return m_keyValue;
+        }
     }
     return {};
 }
@@ -145,8 +155,9 @@ std::string CFileAdaptor::FindKeyValue(const std::string& thekeystring)
 void CFileAdaptor::ParseHeader(std::string_view line)
 {
     m_header.clear();
-    if (line.starts_with('[') && line.ends_with(']'))
+    if (line.starts_with('[') && line.ends_with(']')) {
         m_header = line.substr(1, line.size() - 2);
+    }
 }
 
 void CFileAdaptor::ParseKeyString(std::string_view line)

@@ -48,8 +48,9 @@ public:
     {
         ClearError();
         Entry found{};
-        if (Holds(thisindex))
+        if (Holds(thisindex)) {
             Guarded(listerror::ReadFailed, [&] { found = *At(thisindex); });
+        }
         return found;
     }
 
@@ -74,8 +75,9 @@ protected:
             return std::nullopt;
         }
         std::optional<Entry> removed;
-        if (!Guarded(listerror::RemoveFailed, [&] { removed = TakeOut(At(thisindex)); }))
+        if (!Guarded(listerror::RemoveFailed, [&] { removed = TakeOut(At(thisindex)); })) {
             return std::nullopt;
+        }
         return removed;
     }
 
@@ -86,8 +88,9 @@ protected:
         std::int32_t position = -1;
         Guarded(listerror::ReadFailed, [&] {
             const auto found = std::find(m_entries.begin(), m_entries.end(), thisobject);
-            if (found != m_entries.end())
+            if (found != m_entries.end()) {
                 position = static_cast<std::int32_t>(std::distance(m_entries.begin(), found)) + 1;
+            }
         });
         return position;
     }

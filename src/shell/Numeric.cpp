@@ -8,8 +8,9 @@ namespace ptk {
 
 bool IsNumeric(const Value& value)
 {
-    if (value.IsNull() || std::holds_alternative<DateTime>(value.Get()))
+    if (value.IsNull() || std::holds_alternative<DateTime>(value.Get())) {
         return false;
+    }
     try {
         value.ToDouble();
         return true;

@@ -11,6 +11,7 @@
 namespace ptk {
 
 namespace {
+
 constexpr std::int16_t kSnapshot = 4;
 }
 

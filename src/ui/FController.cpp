@@ -4,17 +4,17 @@
 #include "model/CEmployeeList.h"
 #include "model/CTimeCard.h"
 #include "shell/CDocLauncher.h"
-#include "shell/startup/CController.h"
-#include "shell/startup/Notices.h"
-#include "ui/CompanyPage.h"
-#include "ui/ElidedLabel.h"
-#include "ui/EmployeePage.h"
-#include "ui/FAbout.h"
-#include "ui/OptionsPage.h"
-#include "ui/ReportsPage.h"
-#include "ui/ThemeIcon.h"
-#include "ui/TimeCardPage.h"
-#include "ui/WindowPlace.h"
+#include "startup/CController.h"
+#include "startup/Notices.h"
+#include "ui/dialogs/FAbout.h"
+#include "ui/pages/CompanyPage.h"
+#include "ui/pages/EmployeePage.h"
+#include "ui/pages/OptionsPage.h"
+#include "ui/pages/ReportsPage.h"
+#include "ui/pages/TimeCardPage.h"
+#include "ui/widgets/ElidedLabel.h"
+#include "ui/widgets/ThemeIcon.h"
+#include "ui/widgets/WindowPlace.h"
 #include "ui_FController.h"
 
 #include <array>
@@ -26,6 +26,7 @@
 #include <QThread>
 
 namespace ptk {
+
 namespace {
 
 // Half of 1024 x 700: what a screen of that size has to give at 200 %.
@@ -107,8 +108,9 @@ void FController::AddPage(int index, QWidget* page)
     scroll->setWidgetResizable(true);
     scroll->setFocusPolicy(Qt::NoFocus);
     scroll->setWidget(page);
-    for (QWidget* inside : {scroll->viewport(), page})
+    for (QWidget* inside : {scroll->viewport(), page}) {
         inside->setAutoFillBackground(false); // the frame's own background shows through
+    }
     (new QVBoxLayout(frame))->addWidget(scroll);
     m_ui->pages->addWidget(frame);
     m_ui->TabStrip->addTab(ThemeIcon(tab.icon), tab.caption);
@@ -141,8 +143,9 @@ void FController::ConnectTabs()
 {
     QTabBar* strip = m_ui->TabStrip;
     const auto change = [this](int tab) {
-        if (tab >= 0)
+        if (tab >= 0) {
             ChangeTab(tab + 1);
+        }
     };
     connect(strip, &QTabBar::tabBarClicked, this, change);
     connect(strip, &QTabBar::currentChanged, this, change);
@@ -159,10 +162,11 @@ void FController::Controller(std::shared_ptr<CController> value)
         m_errorNumber = windowerror::NoController;
     } else {
         InitializeTabPages();
-        if (FillTabLists())
+        if (FillTabLists()) {
             ShowFirstRecords();
-        else
+        } else {
             m_errorNumber = windowerror::FillListsFailed;
+        }
         m_timeCardPage->EnablePrint();
         m_reportsPage->EnableGenerate();
     }
@@ -171,8 +175,9 @@ void FController::Controller(std::shared_ptr<CController> value)
 
 void FController::Load()
 {
-    if (std::exchange(m_loaded, true))
+    if (std::exchange(m_loaded, true)) {
         return;
+    }
     ShowTabPage(kTimeCardTab);
     m_timeCard = nullptr;
     m_reports->Clear(false);
@@ -184,8 +189,9 @@ bool FController::InitializeTabPages()
     const bool company = m_companyPage->ClearCompanyFields();
     const bool employee = m_employeePage->ClearEmployeeFields();
     const bool timeCard = m_timeCardPage->ClearTimeCardDisplay();
-    if (!company || !employee || !timeCard)
+    if (!company || !employee || !timeCard) {
         m_errorNumber = windowerror::ClearFieldsFailed;
+    }
     return true;
 }
 
@@ -195,8 +201,9 @@ bool FController::FillTabLists()
         const bool companies = m_companyPage->FillCompanyLists();
         const bool employees = m_employeePage->FillEmployeeLists();
         const bool reports = m_reportsPage->FillReportList();
-        if (!companies || !employees || !reports)
+        if (!companies || !employees || !reports) {
             m_errorNumber = windowerror::FillListsFailed;
+        }
         return true;
     } catch (...) {
         return false;
@@ -206,8 +213,9 @@ bool FController::FillTabLists()
 void FController::ShowFirstRecords()
 {
     m_companyPage->ShowCompany(m_controller->CompanyList()->Item(1));
-    if (!m_employeePage->ShowEmployee(m_controller->EmployeeList()->Item(1)))
+    if (!m_employeePage->ShowEmployee(m_controller->EmployeeList()->Item(1))) {
         m_timeCardPage->SelectFirstEmployee();
+    }
     m_reportsPage->SelectFirstReport();
 }
 
@@ -239,12 +247,14 @@ bool FController::SetStatusText(const std::string& name, const std::string& iden
 
 void FController::ChangeTab(int index)
 {
-    if (index == m_lastTab)
+    if (index == m_lastTab) {
         return;
-    if (ShowTabPage(index))
+    }
+    if (ShowTabPage(index)) {
         m_statusText->setText(TabAt(index).statusText);
-    else
+    } else {
         m_errorNumber = windowerror::ShowPageFailed;
+    }
     m_lastTab = static_cast<std::int16_t>(index);
 }
 
@@ -262,8 +272,9 @@ void FController::About()
 void FController::UsersGuide()
 {
     CDocLauncher launcher(m_desktop);
-    if (!launcher.DisplayDocument(this, m_programFolder + kGuidePath) && launcher.ErrorNumber() == docerror::DocumentNotFound)
+    if (!launcher.DisplayDocument(this, m_programFolder + kGuidePath) && launcher.ErrorNumber() == docerror::DocumentNotFound) {
         m_desktop.Show(kGuideText, docerror::NotOpenedTitle, Icon::Exclamation);
+    }
 }
 
 // Unloading the window, in the middle of this, runs the whole close path once more; all of it is harmless when repeated.
@@ -274,21 +285,24 @@ void FController::Exit()
 
 void FController::Unload()
 {
-    if (m_closing)
+    if (m_closing) {
         hide();
-    else
+    } else {
         close();
+    }
 }
 
 void FController::CloseDown(bool keepReview)
 {
-    if (!m_optionsPage->SaveSystemOptions())
+    if (!m_optionsPage->SaveSystemOptions()) {
         Tell(m_desktop, notice::OptionsUnsaved);
+    }
     m_timeCard = nullptr;
     m_reports->Clear(keepReview);
     const auto controller = m_controller;
-    if (controller == nullptr)
+    if (controller == nullptr) {
         return;
+    }
     controller->UnloadControllerWindow();
     controller->Cleanup();
 }
@@ -304,14 +318,16 @@ void FController::closeEvent(QCloseEvent* event)
 {
     if (IsBusyInDialog()) {
         event->ignore();
-        if (QWidget* editor = QApplication::activeModalWidget())
+        if (QWidget* editor = QApplication::activeModalWidget()) {
             editor->close();
+        }
         QMetaObject::invokeMethod(this, "close", Qt::QueuedConnection);
         return;
     }
     event->accept();
-    if (std::exchange(m_closing, true))
+    if (std::exchange(m_closing, true)) {
         return;
+    }
     StorePlace(*this, kPlaceName);
     CloseDown(false);
 }
@@ -319,14 +335,18 @@ void FController::closeEvent(QCloseEvent* event)
 // Enter anywhere on a page presses the button that is meant most there, as in a dialog.
 void FController::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
         return QMainWindow::keyPressEvent(event);
+    }
     auto* focused = qobject_cast<QPushButton*>(focusWidget());
-    if (focused != nullptr)
+    if (focused != nullptr) {
         return focused->click();
-    for (auto* button : m_ui->pages->currentWidget()->findChildren<QPushButton*>())
-        if (button->isDefault() && button->isEnabled())
+    }
+    for (auto* button : m_ui->pages->currentWidget()->findChildren<QPushButton*>()) {
+        if (button->isDefault() && button->isEnabled()) {
             return button->click();
+        }
+    }
 }
 
 } // namespace ptk

@@ -2,10 +2,10 @@
 #pragma once
 
 #include "platform/Desktop.h"
-#include "shell/startup/Windows.h"
-#include "ui/EmployeeModels.h"
+#include "startup/Windows.h"
 #include "ui/OpenReports.h"
-#include "ui/PageHost.h"
+#include "ui/pages/PageHost.h"
+#include "ui/widgets/EmployeeModels.h"
 
 #include <memory>
 #include <QMainWindow>

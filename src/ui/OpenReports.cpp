@@ -1,14 +1,14 @@
 #include "ui/OpenReports.h"
 
 #include "platform/Desktop.h"
+#include "platform/Required.h"
 #include "reports/CReportEmployee.h"
 #include "reports/CReportPhoneBook.h"
 #include "reports/CReportReview.h"
 #include "reports/CReportTimeCard.h"
 #include "reports/CReportYTDTotals.h"
-#include "shell/startup/CController.h"
-#include "ui/PageHost.h"
-#include "ui/Required.h"
+#include "startup/CController.h"
+#include "ui/pages/PageHost.h"
 
 namespace ptk {
 
@@ -100,8 +100,9 @@ void OpenReports::Clear(bool exceptReview)
     m_ytdTotals = nullptr;
     m_employee = nullptr;
     m_phoneBook = nullptr;
-    if (!exceptReview)
+    if (!exceptReview) {
         m_review = nullptr;
+    }
 }
 
 } // namespace ptk

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "reports/Report.h"
-#include "ui/FReportViewers.h"
+#include "ui/dialogs/FReportViewers.h"
 
 #include <cstdint>
 #include <memory>

@@ -6,6 +6,7 @@
 #include <QMessageBox>
 
 namespace ptk {
+
 namespace {
 
 QMessageBox::Icon ToQt(Icon icon)
@@ -59,21 +60,24 @@ Answer QtDesktop::MessageBox(const std::string& text, const std::string& title, 
     QMessageBox box(ToQt(icon), QString::fromStdString(title), QString(), ToQt(buttons), QApplication::activeWindow());
     box.setTextFormat(Qt::PlainText);
     box.setText(QString::fromStdString(text));
-    if (buttons == Buttons::YesNo)
+    if (buttons == Buttons::YesNo) {
         box.setEscapeButton(QMessageBox::No);
+    }
     return ToAnswer(box.exec());
 }
 
 void QtDesktop::SetPointer(Pointer pointer)
 {
     const bool busy = pointer == Pointer::Busy;
-    if (busy == m_busy)
+    if (busy == m_busy) {
         return;
+    }
     m_busy = busy;
-    if (busy)
+    if (busy) {
         QApplication::setOverrideCursor(Qt::WaitCursor);
-    else
+    } else {
         QApplication::restoreOverrideCursor();
+    }
 }
 
 std::int32_t QtDesktop::Shell(const DesktopWindow&, ShellVerb verb, const std::string& path)

@@ -1,9 +1,10 @@
 #include "ui/QtWindowFactory.h"
 
+#include "ui/dialogs/FLogin.h"
 #include "ui/FController.h"
-#include "ui/FLogin.h"
 
 namespace ptk {
+
 namespace {
 
 constexpr auto kDeleteLater = [](QObject* window) { window->deleteLater(); };

@@ -1,7 +1,7 @@
 // Makes the program's windows for the start-up.
 #pragma once
 
-#include "shell/startup/Windows.h"
+#include "startup/Windows.h"
 
 #include <string>
 

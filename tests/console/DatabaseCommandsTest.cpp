@@ -18,8 +18,9 @@ protected:
     int FilesInSystem() const
     {
         int count = 0;
-        for ([[maybe_unused]] const auto& entry : std::filesystem::directory_iterator(Folder() / "system"))
+        for ([[maybe_unused]] const auto& entry : std::filesystem::directory_iterator(Folder() / "system")) {
             ++count;
+        }
         return count;
     }
 };

@@ -20,8 +20,9 @@ protected:
     std::string Written(const std::vector<std::string>& names) const
     {
         std::string lines;
-        for (const std::string& name : names)
+        for (const std::string& name : names) {
             lines += "ptk-console: written: " + (Folder() / "reports" / name).string() + "\n";
+        }
         return lines;
     }
 
@@ -60,8 +61,9 @@ TEST_F(ReportCommandTest, WritesEachReportForTheTabsEmployeesAndDates)
         EXPECT_TRUE(answer.out.starts_with(std::string(c.title) + "\n")) << answer.out.substr(0, 100);
         EXPECT_EQ(answer.out, WithLineFeeds(Report(c.file)));
     }
-    for (const char* text : {"Peter", "administrator"}) // neither is offered on the page
+    for (const char* text : {"Peter", "administrator"}) { // neither is offered on the page
         EXPECT_EQ(Report("employee_records.txt").find(text), std::string::npos) << text;
+    }
 }
 
 TEST_F(ReportCommandTest, TakesTheDatesGivenAndMovesTheEndWithTheStart)

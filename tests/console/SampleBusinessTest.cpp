@@ -71,8 +71,9 @@ TEST(SampleBusinessTest, IsTheSameForTheSameDayOnly)
     const SampleEmployee ann = SampleEmployees(kToday).front();
     const auto starts = [&](DateTime today) {
         std::vector<DateTime> result;
-        for (const TimeRecordRow& shift : SampleShifts(ann, 1, today))
+        for (const TimeRecordRow& shift : SampleShifts(ann, 1, today)) {
             result.push_back(shift.StartTime);
+        }
         return result;
     };
     EXPECT_EQ(starts(kToday), starts(kToday));

@@ -1,3 +1,4 @@
+#include "console/ConsoleDesktop.h"
 #include "console/ConsoleFixture.h"
 
 #include <fstream>
@@ -51,8 +52,9 @@ TEST_F(UsageTest, ShowsHelpAndVersion)
 {
     const Answer help = Run({"--help"});
     EXPECT_EQ(help.status, 0);
-    for (const char* word : {"create-database", "time-card", "report", "check", "--program-folder"})
+    for (const char* word : {"create-database", "time-card", "report", "check", "--program-folder"}) {
         EXPECT_NE(help.out.find(word), std::string::npos) << word;
+    }
     EXPECT_NE(Run({"report", "--help"}).out.find("phonebook"), std::string::npos);
 
     const Answer version = Run({"--version"});
@@ -67,6 +69,16 @@ TEST_F(UsageTest, OutputThatCannotBeWrittenIsAFailure)
     std::ostringstream err;
     EXPECT_EQ(RunConsole({"--version"}, m_clock, full, err), 1);
     EXPECT_EQ(err.str(), "ptk-console: the output could not be written\n");
+}
+
+TEST(ConsoleDesktopTest, WritesItsBoxesAsLinesAndConfirmsNothing)
+{
+    std::ostringstream out;
+    ConsoleDesktop desktop(out);
+    EXPECT_EQ(desktop.MessageBox("Delete it?", "Delete", Icon::Question, Buttons::YesNo), Answer::No);
+    EXPECT_EQ(desktop.Show("It is gone.", "Done", Icon::Information), Answer::Ok);
+    EXPECT_EQ(out.str(), "Delete: Delete it?\nDone: It is gone.\n");
+    EXPECT_EQ(desktop.Shell(DesktopWindow(), ShellVerb::Open, "/no/such/guide.doc"), ShellFileNotFound);
 }
 
 } // namespace

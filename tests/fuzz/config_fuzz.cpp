@@ -14,8 +14,9 @@ namespace {
 
 void Require(bool holds)
 {
-    if (!holds)
+    if (!holds) {
         std::abort();
+    }
 }
 
 std::string WrittenToFile(const std::uint8_t* data, std::size_t size)
@@ -52,8 +53,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string path = WrittenToFile(data, size);
     ptk::CFileAdaptor config("");
     if (config.ReadFile(path)) {
-        for (std::int16_t position = 1; position <= config.FileLineCount() && position <= kEnoughLines; ++position)
+        for (std::int16_t position = 1; position <= config.FileLineCount() && position <= kEnoughLines; ++position) {
             CheckLine(config, position);
+        }
         Require(config.WriteFile(path));
     }
     std::filesystem::remove(path);

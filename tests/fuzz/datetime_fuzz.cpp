@@ -8,7 +8,8 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const auto value = ptk::ParseDateTime({reinterpret_cast<const char*>(data), size});
-    if (value && ptk::ParseDateTime(ptk::GeneralText(*value)) != value)
+    if (value && ptk::ParseDateTime(ptk::GeneralText(*value)) != value) {
         std::abort();
+    }
     return 0;
 }

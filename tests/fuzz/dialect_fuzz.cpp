@@ -16,15 +16,17 @@ namespace {
 
 void Require(bool holds)
 {
-    if (!holds)
+    if (!holds) {
         std::abort();
+    }
 }
 
 std::string Joined(const std::vector<ptk::Token>& tokens)
 {
     std::string text;
-    for (const ptk::Token& token : tokens)
+    for (const ptk::Token& token : tokens) {
         text += token.text;
+    }
     return text;
 }
 
@@ -33,10 +35,12 @@ std::vector<std::string> Texts(std::string_view statement)
 {
     std::vector<std::string> texts;
     for (const ptk::Token& token : ptk::SplitTokens(statement)) {
-        if (token.kind == ptk::TokenKind::Text)
+        if (token.kind == ptk::TokenKind::Text) {
             texts.emplace_back(token.text);
-        if (token.kind == ptk::TokenKind::Date)
+        }
+        if (token.kind == ptk::TokenKind::Date) {
             texts.push_back("'" + ptk::StoredText(ptk::ToDateTime(token.text.substr(1, token.text.size() - 2))) + "'");
+        }
     }
     return texts;
 }

@@ -10,8 +10,9 @@ namespace {
 
 void Require(bool holds)
 {
-    if (!holds)
+    if (!holds) {
         std::abort();
+    }
 }
 
 void CheckSingle(float value)

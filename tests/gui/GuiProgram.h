@@ -2,8 +2,8 @@
 #pragma once
 
 #include "platform/ProgramFolder.h"
-#include "shell/startup/AdminMain.h"
-#include "shell/startup/CController.h"
+#include "startup/AdminMain.h"
+#include "startup/CController.h"
 #include "store/DatabaseCreator.h"
 #include "support/Files.h"
 #include "support/FixedClock.h"
@@ -24,8 +24,9 @@ template <typename Control = QWidget>
 Control& Find(const QWidget& window, const QString& name)
 {
     auto* control = window.findChild<Control*>(name);
-    if (control == nullptr)
+    if (control == nullptr) {
         throw std::runtime_error("no such control: " + name.toStdString());
+    }
     return *control;
 }
 
@@ -46,14 +47,16 @@ private:
     void Look()
     {
         const QPointer<QDialog> dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        if (dialog == nullptr || !dialog->isVisible())
+        if (dialog == nullptr || !dialog->isVisible()) {
             return;
+        }
         m_run = true;
         m_timer.stop();
         m_script(*dialog);
         m_leftOpen = dialog != nullptr && dialog->isVisible();
-        if (m_leftOpen)
+        if (m_leftOpen) {
             dialog->reject();
+        }
     }
 
     std::function<void(QDialog&)> m_script;
@@ -74,8 +77,9 @@ public:
 
     ~GuiProgram()
     {
-        if (m_main.Controller() != nullptr)
+        if (m_main.Controller() != nullptr) {
             m_main.Controller()->UnloadControllerWindow();
+        }
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 

@@ -41,8 +41,9 @@ protected:
         EXPECT_TRUE(database.OpenDB());
         const auto rows = database.ExecuteSelect(sql);
         std::vector<std::string> texts;
-        for (; rows != nullptr && !rows->EndOfFile(); rows->MoveNext())
+        for (; rows != nullptr && !rows->EndOfFile(); rows->MoveNext()) {
             texts.push_back(rows->Field("x").ToText());
+        }
         database.CloseDB();
         return texts;
     }

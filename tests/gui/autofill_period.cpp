@@ -1,11 +1,12 @@
 // Auto fill: one record a day over a range of dates.
 #include "gui/GuiFixture.h"
 #include "model/CTimeRecordList.h"
-#include "ui/DateCombo.h"
-#include "ui/DateTimeBox.h"
-#include "ui/FAutoFill.h"
+#include "ui/dialogs/FAutoFill.h"
+#include "ui/widgets/DateCombo.h"
+#include "ui/widgets/DateTimeBox.h"
 
 namespace ptk {
+
 namespace {
 
 const ShownBox kWrongRange{"Incorrect date format or invalid date range.", "Date Range Error", Icon::Exclamation, Buttons::Ok};
@@ -115,4 +116,5 @@ TEST_F(AutoFillTest, CancelMakesNothing)
 }
 
 } // namespace
+
 } // namespace ptk

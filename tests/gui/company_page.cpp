@@ -3,6 +3,7 @@
 #include "model/CCompanyList.h"
 
 namespace ptk {
+
 namespace {
 
 const ShownBox kNoName{"You cannot save a company without a name.", "Company Save Error", Icon::Exclamation, Buttons::Ok};
@@ -93,4 +94,5 @@ TEST_F(CompanyPageTest, ARefusedSaveKeepsThePageAndCanBeTriedAgain)
 }
 
 } // namespace
+
 } // namespace ptk

@@ -1,9 +1,10 @@
 // The date combo and the time box under a user's hands.
 #include "gui/GuiFixture.h"
-#include "ui/DateCombo.h"
-#include "ui/DateTimeBox.h"
+#include "ui/widgets/DateCombo.h"
+#include "ui/widgets/DateTimeBox.h"
 
 namespace ptk {
+
 namespace {
 
 class DateComboTest : public testing::Test
@@ -146,4 +147,5 @@ TEST_F(DateTimeBoxTest, SurvivesWhateverIsPasted)
 }
 
 } // namespace
+
 } // namespace ptk

@@ -1,11 +1,12 @@
 // The time record editor: what it shows, what it writes into the record while the user types, and what it hands back.
 #include "gui/GuiFixture.h"
 #include "model/CTimeRecord.h"
-#include "ui/DateTimeBox.h"
-#include "ui/FTimeEditor.h"
-#include "ui/TimeRecordReceiver.h"
+#include "ui/dialogs/FTimeEditor.h"
+#include "ui/dialogs/TimeRecordReceiver.h"
+#include "ui/widgets/DateTimeBox.h"
 
 namespace ptk {
+
 namespace {
 
 const ShownBox kWrongDate{"Error: Invalid date separator. Use : to separate time values.", "Date Format Error", Icon::Exclamation,
@@ -137,4 +138,5 @@ TEST_F(TimeEditorTest, WithoutARecordItMakesOne)
 }
 
 } // namespace
+
 } // namespace ptk

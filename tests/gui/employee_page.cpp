@@ -1,10 +1,10 @@
 // The Employees page: finding, adding and changing employees, and what it refuses.
 #include "gui/PageFixture.h"
 #include "model/CEmployeeList.h"
-#include "ui/DateCombo.h"
-#include "ui/EmployeeTexts.h"
+#include "ui/widgets/DateCombo.h"
 
 namespace ptk {
+
 namespace {
 
 constexpr auto kSaveTitle = "Employee Save Error";
@@ -67,8 +67,9 @@ protected:
     QString Keys()
     {
         QStringList keys;
-        for (const char* box : {"cboEmployeeID", "cboEmployeeName", "cboEmployeeSSN", "cboEmployeeNumber"})
+        for (const char* box : {"cboEmployeeID", "cboEmployeeName", "cboEmployeeSSN", "cboEmployeeNumber"}) {
             keys << Box(box).currentText();
+        }
         return keys.join("|");
     }
     QString Pay() { return Text("txtPayRate") + " " + Text("txtOvertimePayRate"); }
@@ -187,8 +188,9 @@ TEST_F(EmployeePageTest, RefusesInOrderAndKeepsWhatWasTyped)
                           {"without SSN", over("cboEmployeeSSN", ""), kNoSSN},
                           {"without name", over("cboEmployeeName", ""), kNoName},
                           {"without number", over("cboEmployeeNumber", ""), kNoNumber}}) {
-        if (c.told == kNotRead)
+        if (c.told == kNotRead) {
             Pick(Box("cboEmployeeID"), "40");
+        }
         c.spoil();
         The<QLineEdit>("txtEmployeeCity").setText("Harbor\u0001City"); // as pasted
         EXPECT_EQ(Save(), Boxes{c.told}) << c.name;
@@ -215,8 +217,9 @@ TEST_F(EmployeePageTest, ARefusedSaveCanBeTriedAgain)
 {
     for (const bool isNew : {false, true}) {
         Press("cmdEmployeeNew");
-        if (!isNew)
+        if (!isNew) {
             Pick(Box("cboEmployeeID"), "40");
+        }
         EnterKeys("9", isNew ? "Di Fox" : "Ann Fox", "999-99");
         {
             const auto holder = HoldDatabase();
@@ -262,15 +265,6 @@ TEST_F(EmployeePageTest, CancelClearsThePage)
     EXPECT_TRUE(Box("cboEmployeeName").hasFocus());
 }
 
-TEST(SplitDisplayNameTest, EndsTheFirstNameAtTheFirstBlank)
-{
-    using Names = std::pair<std::string, std::string>;
-    EXPECT_EQ(SplitDisplayName("Ann Lee"), Names("Ann", "Lee"));
-    EXPECT_EQ(SplitDisplayName("Lee"), Names("", "Lee"));
-    EXPECT_EQ(SplitDisplayName("Mary Ann Lee"), Names("Mary", "Ann Lee"));
-    EXPECT_EQ(SplitDisplayName(" Lee"), Names("", "Lee"));
-    EXPECT_EQ(SplitDisplayName("Ann "), Names("Ann", ""));
-}
-
 } // namespace
+
 } // namespace ptk

@@ -3,6 +3,7 @@
 #include "store/BulkWriter.h"
 
 namespace ptk {
+
 namespace {
 
 using Boxes = std::vector<ShownBox>;
@@ -162,4 +163,5 @@ TEST_F(LoginTest, AHelpSettingThatIsNoBooleanStopsTheStart)
 }
 
 } // namespace
+
 } // namespace ptk

@@ -2,9 +2,10 @@
 #include "gui/GuiFixture.h"
 #include "store/CJetDB.h"
 #include "store/CSystemOptions.h"
-#include "ui/DateTimeBox.h"
+#include "ui/widgets/DateTimeBox.h"
 
 namespace ptk {
+
 namespace {
 
 using Boxes = std::vector<ShownBox>;
@@ -61,8 +62,9 @@ TEST_F(MainWindowTest, TurnsToTheClickedPageAndNamesIt)
         EXPECT_EQ(Find<QTabBar>(Main(), "TabStrip").tabText(page.tab - 1), page.caption);
         EXPECT_EQ(Find<QGroupBox>(Main(), QString("FrameArray(%1)").arg(page.tab)).title(), page.frame);
         EXPECT_EQ(StatusText(Main()), page.status);
-        for (int other = 1; other <= 5; ++other)
+        for (int other = 1; other <= 5; ++other) {
             EXPECT_EQ(IsShown(other), other == page.tab) << page.tab;
+        }
     }
 }
 
@@ -235,4 +237,5 @@ TEST_F(MainWindowTest, RemembersItsSize)
 }
 
 } // namespace
+
 } // namespace ptk

@@ -3,16 +3,17 @@
 #include "platform/Text.h"
 #include "startup/StartupFixture.h"
 #include "store/CTimeRecSQLConverter.h"
-#include "ui/DateCombo.h"
-#include "ui/EmployeeModels.h"
 #include "ui/OpenReports.h"
-#include "ui/PageHost.h"
-#include "ui/ReportsPage.h"
+#include "ui/pages/PageHost.h"
+#include "ui/pages/ReportsPage.h"
+#include "ui/widgets/DateCombo.h"
+#include "ui/widgets/EmployeeModels.h"
 
 #include <QtTest>
 #include <QtWidgets>
 
 namespace ptk {
+
 namespace {
 
 class Host final : public PageHost
@@ -116,8 +117,9 @@ protected:
     {
         QStringList texts;
         for (const QWidget* window : QApplication::topLevelWidgets()) {
-            if (window->isVisible() && window->windowTitle().startsWith(title))
+            if (window->isVisible() && window->windowTitle().startsWith(title)) {
                 texts << window->findChild<QPlainTextEdit*>("txtReport")->toPlainText();
+            }
         }
         return texts;
     }
@@ -229,8 +231,9 @@ TEST_F(ReportsPageTest, TotalsRecordsAndPhoneBook)
     Choose("Phone Book");
     Generate();
     ASSERT_EQ(Shown("Employee Phone Book").size(), 1);
-    for (const char* name : {"Kim, Bo", "Lee, Ann", "Zorn"})
+    for (const char* name : {"Kim, Bo", "Lee, Ann", "Zorn"}) {
         EXPECT_TRUE(Shown("Employee Phone Book")[0].contains(name)) << name;
+    }
     EXPECT_FALSE(Shown("Employee Phone Book")[0].contains("administrator"));
     EXPECT_TRUE(desktop.boxes.empty());
 }
@@ -283,4 +286,5 @@ TEST_F(ReportsPageTest, SelectsAllAndNoneByKeyboard)
 }
 
 } // namespace
+
 } // namespace ptk

@@ -1,11 +1,12 @@
 // The viewer windows of the reports, driven as a user drives them.
 #include "reports/ReportFixture.h"
-#include "ui/FReportViewers.h"
+#include "ui/dialogs/FReportViewers.h"
 
 #include <QtTest>
 #include <QtWidgets>
 
 namespace ptk {
+
 namespace {
 
 class ReportViewersTest : public ReportTest
@@ -39,8 +40,9 @@ protected:
     {
         std::vector<ReportViewerWindow*> shown;
         for (QWidget* widget : QApplication::topLevelWidgets()) {
-            if (auto* viewer = qobject_cast<ReportViewerWindow*>(widget); viewer != nullptr && viewer->isVisible())
+            if (auto* viewer = qobject_cast<ReportViewerWindow*>(widget); viewer != nullptr && viewer->isVisible()) {
                 shown.push_back(viewer);
+            }
         }
         return shown;
     }
@@ -48,8 +50,9 @@ protected:
     static ReportViewerWindow& Window(const QString& name)
     {
         for (ReportViewerWindow* viewer : Windows()) {
-            if (viewer->objectName() == name)
+            if (viewer->objectName() == name) {
                 return *viewer;
+            }
         }
         throw std::runtime_error("no such window: " + name.toStdString());
     }
@@ -90,10 +93,11 @@ TEST_F(ReportViewersTest, ClosingUnloadsTheReportOnce)
         const std::weak_ptr<Report> watch = std::exchange(report, nullptr);
         EXPECT_FALSE(watch.expired()) << "the open viewer holds it";
         owner.calls.clear();
-        if (byKey)
+        if (byKey) {
             QTest::keyClick(viewer, Qt::Key_Escape);
-        else
+        } else {
             Click(*viewer, "cmdClose");
+        }
         EXPECT_EQ(owner.calls, std::vector<std::string>{"employees"});
         EXPECT_TRUE(watch.expired());
         EXPECT_TRUE(Windows().empty());
@@ -168,8 +172,9 @@ TEST_F(ReportViewersTest, ZoomsWithItsTabStops)
 TEST_F(ReportViewersTest, NoneStandsExactlyOnAnother)
 {
     AddShifts();
-    for (int i = 0; i < 3; ++i)
+    for (int i = 0; i < 3; ++i) {
         EXPECT_TRUE(NewShown<CReportTimeCard>()->GenerateReport(database, ann, first, last));
+    }
     EXPECT_TRUE(NewShown<CReportReview>()->GenerateReport(database, ListOf({ann}), first, last));
     EXPECT_TRUE(NewShown<CReportYTDTotals>()->GenerateReport(database, ann, first, last));
     EXPECT_TRUE(NewShown<CReportPhoneBook>()->GenerateReport(ListOf({ann})));
@@ -177,8 +182,9 @@ TEST_F(ReportViewersTest, NoneStandsExactlyOnAnother)
     EXPECT_EQ(shown.size(), 6U);
     for (const auto* one : shown) {
         EXPECT_TRUE(one->screen()->availableGeometry().contains(one->pos()));
-        for (const auto* other : shown)
+        for (const auto* other : shown) {
             EXPECT_TRUE(one == other || one->pos() != other->pos());
+        }
     }
 }
 
@@ -190,4 +196,5 @@ TEST_F(ReportViewersTest, SaysWhenTheFileIsNotWhole)
 }
 
 } // namespace
+
 } // namespace ptk

@@ -2,11 +2,12 @@
 #include "gui/GuiFixture.h"
 #include "model/CEmployee.h"
 #include "model/CEmployeeList.h"
-#include "ui/EmployeeModels.h"
 #include "ui/QtDesktop.h"
-#include "ui/ThemeIcon.h"
+#include "ui/widgets/EmployeeModels.h"
+#include "ui/widgets/ThemeIcon.h"
 
 namespace ptk {
+
 namespace {
 
 TEST(QtDesktopTest, ShowsPlainBoxesAndAnswersWithTheButtonPressed)
@@ -31,10 +32,11 @@ TEST(QtDesktopTest, ShowsPlainBoxesAndAnswersWithTheButtonPressed)
             EXPECT_EQ(box.windowTitle(), "Title");
             EXPECT_EQ(box.text().toStdString(), text);
             EXPECT_EQ(box.textFormat(), Qt::PlainText);
-            if (c.pressed == QMessageBox::NoButton)
+            if (c.pressed == QMessageBox::NoButton) {
                 QTest::keyClick(&box, Qt::Key_Escape);
-            else
+            } else {
                 box.button(c.pressed)->click();
+            }
         });
         EXPECT_EQ(QtDesktop().MessageBox(text, "Title", c.icon, c.buttons), c.answer);
     }
@@ -67,8 +69,9 @@ std::shared_ptr<CEmployee> Employee(std::int32_t id, const char* firstName, cons
 QStringList Texts(const QAbstractItemModel& model, int column)
 {
     QStringList texts;
-    for (int row = 0; row < model.rowCount(); ++row)
+    for (int row = 0; row < model.rowCount(); ++row) {
         texts << model.index(row, column).data().toString();
+    }
     return texts;
 }
 
@@ -102,8 +105,9 @@ TEST(EmployeeModelsTest, ListsEveryoneAndOffersThoseWithHoursToShow)
 TEST(EmployeeModelsTest, ABoxOfTenThousandNeitherGrowsWithItsRowsNorTakesWhatIsTyped)
 {
     const auto list = std::make_shared<CEmployeeList>();
-    for (std::int32_t i = 1; i <= 10000; ++i)
+    for (std::int32_t i = 1; i <= 10000; ++i) {
         list->Insert(Employee(i, "A very long first name indeed, longer than any box", "Last", true), i);
+    }
     EmployeeModels models;
     QComboBox box;
     box.setEditable(true);
@@ -133,4 +137,5 @@ TEST(ThemeIconTest, FollowsTheTextColourOfTheTheme)
 }
 
 } // namespace
+
 } // namespace ptk

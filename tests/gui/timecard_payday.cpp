@@ -2,11 +2,11 @@
 #include "gui/PageFixture.h"
 #include "model/CEmployeeList.h"
 #include "model/CTimeCard.h"
-#include "ui/DateCombo.h"
-#include "ui/DateTimeBox.h"
-#include "ui/PayPeriod.h"
+#include "ui/widgets/DateCombo.h"
+#include "ui/widgets/DateTimeBox.h"
 
 namespace ptk {
+
 namespace {
 
 ShownBox Told(const char* title, const char* text, Icon icon)
@@ -77,8 +77,9 @@ protected:
         QStringList rows;
         for (int row = 0; row < Grid().model()->rowCount(); ++row) {
             QStringList cells;
-            for (int column = 0; column < 3; ++column)
+            for (int column = 0; column < 3; ++column) {
                 cells << Grid().model()->index(row, column).data().toString();
+            }
             rows << cells.join("|");
         }
         return rows;
@@ -86,8 +87,9 @@ protected:
     QString Totals()
     {
         QStringList figures;
-        for (const char* box : {"txtTCHours", "txtTCPayRate", "txtTCOvertimeHours", "txtTCOvertimePayRate", "txtTCPeriodPay"})
+        for (const char* box : {"txtTCHours", "txtTCPayRate", "txtTCOvertimeHours", "txtTCOvertimePayRate", "txtTCPeriodPay"}) {
             figures << Text(box);
+        }
         return figures.join(" ");
     }
     QPoint RowPlace(int row) { return Grid().visualRect(Grid().model()->index(row, 0)).center(); }
@@ -329,51 +331,6 @@ TEST_F(TimeCardTest, AReportOnAnotherEmployeeDoesNotMoveTheChoice)
     EXPECT_EQ(Stored(kRecords), (std::vector{kAtFirst[1], kAtFirst[2]})) << "Ann's shift, not Bo's of the same times";
 }
 
-TEST(PayPeriodTest, StepsWithoutOverlapOrGap)
-{
-    struct Case
-    {
-        CalendarDate from;
-        std::int16_t length;
-        std::int16_t direction;
-        std::optional<std::pair<CalendarDate, CalendarDate>> next;
-    };
-    using Next = std::pair<CalendarDate, CalendarDate>;
-    for (const Case& c : {Case{{2003, 3, 1}, 7, 1, Next{{2003, 3, 9}, {2003, 3, 16}}},
-                          {{2003, 3, 1}, 7, -1, Next{{2003, 2, 21}, {2003, 2, 28}}},
-                          {{2004, 3, 1}, 7, -1, Next{{2004, 2, 22}, {2004, 2, 29}}},
-                          {{2003, 3, 1}, 0, 1, Next{{2003, 3, 2}, {2003, 3, 2}}},
-                          {{2003, 3, 1}, 0, -1, Next{{2003, 2, 28}, {2003, 2, 28}}},
-                          {{2003, 3, 1}, 7, 0, {}},
-                          {{2003, 3, 1}, 7, 2, {}},
-                          {{2003, 3, 1}, 7, -2, {}},
-                          {{1900, 1, 3}, 1, -1, Next{{1900, 1, 1}, {1900, 1, 2}}},
-                          {{1900, 1, 2}, 1, -1, {}},
-                          {{2100, 12, 28}, 1, 1, Next{{2100, 12, 30}, {2100, 12, 31}}},
-                          {{2100, 12, 29}, 1, 1, {}}}) {
-        const auto next = StepPayPeriod(DateTime(c.from), c.length, c.direction);
-        SCOPED_TRACE(testing::Message() << c.from.year << " " << c.length << " " << c.direction);
-        ASSERT_EQ(next.has_value(), c.next.has_value());
-        if (next) {
-            EXPECT_EQ(next->from, DateTime(c.next->first));
-            EXPECT_EQ(next->to, DateTime(c.next->second));
-        }
-    }
-}
-
-TEST(PayPeriodTest, CountsItsStepIn16Bits)
-{
-    const DateTime from({2003, 3, 1});
-    const auto back = StepPayPeriod(from, 32767, -1);
-    ASSERT_TRUE(back.has_value());
-    EXPECT_EQ(back->to, DateTime({2003, 2, 28}));
-    try {
-        StepPayPeriod(from, 32767, 1);
-        FAIL() << "32768 days";
-    } catch (const Failure& failure) {
-        EXPECT_EQ(failure.Number(), 6);
-    }
-}
-
 } // namespace
+
 } // namespace ptk

@@ -205,12 +205,14 @@ TEST(EmployeeListTest, FindsTheFirstExactMatch)
 {
     CEmployeeList list;
     const auto ann = Named("Ann", "Lee");
-    for (const auto& employee : {ann, Named("Ann", "Lee"), Named("", "Cher"), Named("", "Ann Lee")})
+    for (const auto& employee : {ann, Named("Ann", "Lee"), Named("", "Cher"), Named("", "Ann Lee")}) {
         list.Insert(employee, list.Count() + 1);
+    }
     EXPECT_EQ(list.GetEmployeeByName("Ann Lee"), ann);
     EXPECT_EQ(list.GetEmployeeByName("Cher"), list.Item(3));
-    for (const char* name : {"ann Lee", "Ann  Lee", "Ann Lee ", "Ann", "Lee", "", " Cher"})
+    for (const char* name : {"ann Lee", "Ann  Lee", "Ann Lee ", "Ann", "Lee", "", " Cher"}) {
         EXPECT_EQ(list.GetEmployeeByName(name), nullptr) << name;
+    }
     ann->SSN("9");
     EXPECT_EQ(list.GetEmployeeBySSN("9"), ann);
     EXPECT_EQ(list.GetEmployeeByNumber(0), ann);
@@ -222,8 +224,9 @@ TEST(EmployeeListTest, WeedsAndClonesAndMoves)
     CEmployeeList list;
     EXPECT_TRUE(list.WeedList(3));
     EXPECT_EQ(list.ErrorNumber(), 331);
-    for (const std::int32_t company : {3, 4, 3})
+    for (const std::int32_t company : {3, 4, 3}) {
         list.Insert(Named("", "x", company), list.Count() + 1);
+    }
     const auto third = list.Item(3);
     EXPECT_EQ(list.Move(3, 1), third);
     EXPECT_EQ(list.Item(1), third);

@@ -87,8 +87,9 @@ TEST(TimeCalculatorTest, AddsUpInSinglesAndRefusesWhatIsTooMuch)
     const auto record = std::make_shared<CTimeRecord>();
     record->StartTime(At(3, 8));
     record->EndTime(At(3, 8, 1));
-    for (int i = 0; i < 3; ++i)
+    for (int i = 0; i < 3; ++i) {
         list.Insert(record, 999);
+    }
     CTimeCalculator calculator;
     const auto employee = Employee(1, false, 0, 0);
     EXPECT_TRUE(calculator.CalculateTimes(*employee, list));
@@ -96,8 +97,9 @@ TEST(TimeCalculatorTest, AddsUpInSinglesAndRefusesWhatIsTooMuch)
     EXPECT_TRUE(calculator.CalculateTimes(*employee, list));
     EXPECT_EQ(calculator.RegularHours(), 0.10000001F) << "the figures accumulate";
     EXPECT_EQ(calculator.CalculatePay(std::numeric_limits<float>::max(), 0), std::numeric_limits<float>::max() * 0.10000001F);
-    for (int i = 3; i < 32767; ++i)
+    for (int i = 3; i < 32767; ++i) {
         list.Insert(record, 99999);
+    }
     EXPECT_TRUE(CTimeCalculator().CalculateTimes(*employee, list));
     list.Insert(record, 99999);
     EXPECT_FALSE(CTimeCalculator().CalculateTimes(*employee, list));
@@ -291,8 +293,9 @@ TEST_F(TimeCardTest, StoresANewRecordAsOftenAsItIsSaved)
 
 TEST_F(TimeCardTest, SavesWhatChangedAndDeletesWhatIsMarked)
 {
-    for (int day = 3; day < 8; ++day)
+    for (int day = 3; day < 8; ++day) {
         Add(7, At(day, 8), At(day, 12));
+    }
     const auto employee = Employee(7, false, 0, 0);
     ASSERT_TRUE(card.GenerateTimecard(employee, At(3, 0), At(9, 0)));
     const auto list = card.TimeRecordList();

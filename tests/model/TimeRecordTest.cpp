@@ -113,8 +113,9 @@ TEST(TimeRecordListSorterTest, KeepsAnOrderedListAndLosesWhatIsOutOfOrder)
     const auto early = Shift(At(1, 8), At(1, 9));
     const auto twin = Shift(At(1, 8), At(1, 9));
     const auto late = Shift(At(2, 8), At(2, 9));
-    for (const auto& record : {early, twin, late})
+    for (const auto& record : {early, twin, late}) {
         list->Insert(record, 99);
+    }
     CTimeRecordListSorter sorter(list);
     EXPECT_TRUE(sorter.Sort(1));
     EXPECT_EQ(list->Count(), 3);
@@ -126,8 +127,9 @@ TEST(TimeRecordListSorterTest, KeepsAnOrderedListAndLosesWhatIsOutOfOrder)
     list->Insert(Shift(At(1, 7), At(1, 8)), 99);
     EXPECT_TRUE(sorter.Sort(1));
     EXPECT_EQ(list->Count(), 3) << "the earliest record stood last and was lost on its way to the front";
-    for (int i = list->Count(); i < 32767; ++i)
+    for (int i = list->Count(); i < 32767; ++i) {
         list->AddNew(late);
+    }
     EXPECT_TRUE(sorter.Sort(1));
     list->AddNew(late);
     EXPECT_FALSE(sorter.Sort(1)) << "its positions are 16-bit numbers";

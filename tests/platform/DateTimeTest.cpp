@@ -30,13 +30,16 @@ TEST(DateTimeTest, RefusesWhatIsNoMomentOrOutOfRange)
 {
     for (const CalendarDate date :
          {CalendarDate{2003, 2, 29}, CalendarDate{2003, 13, 1}, CalendarDate{2003, 0, 1}, CalendarDate{2003, 1, -1},
-          CalendarDate{2003, 257, 1}, CalendarDate{2003, 1, 257}, CalendarDate{2003, -255, 1}})
+          CalendarDate{2003, 257, 1}, CalendarDate{2003, 1, 257}, CalendarDate{2003, -255, 1}}) {
         EXPECT_EQ(FailureOf([&] { (void)DateTime(date); }), failure::InvalidProcedureCall);
-    for (const TimeOfDay time : {TimeOfDay{24, 0, 0}, TimeOfDay{0, 60, 0}, TimeOfDay{0, 0, -1}})
+    }
+    for (const TimeOfDay time : {TimeOfDay{24, 0, 0}, TimeOfDay{0, 60, 0}, TimeOfDay{0, 0, -1}}) {
         EXPECT_EQ(FailureOf([&] { (void)DateTime(CalendarDate{}, time); }), failure::InvalidProcedureCall);
+    }
     const DateTime last({9999, 12, 31}, {23, 59, 59});
-    for (const int year : {99, 0, -1, 10000, 65536 + 2003, -65536 + 2003, INT32_MAX})
+    for (const int year : {99, 0, -1, 10000, 65536 + 2003, -65536 + 2003, INT32_MAX}) {
         EXPECT_EQ(FailureOf([&] { (void)DateTime(CalendarDate{year, 1, 1}); }), failure::Overflow) << year;
+    }
     EXPECT_EQ(FailureOf([&] { (void)last.AddDays(1); }), failure::Overflow);
     EXPECT_EQ(FailureOf([&] { (void)DateTime({100, 1, 1}).AddDays(-1); }), failure::Overflow);
     EXPECT_EQ(FailureOf([&] { (void)last.AddDays(INT64_MAX); }), failure::Overflow);

@@ -19,8 +19,9 @@ std::vector<std::string> Items(const std::string& path)
     const std::int32_t number = linefile::FreeNumber();
     linefile::Open(number, path, linefile::Mode::Read);
     std::vector<std::string> items;
-    while (!linefile::AtEnd(number))
+    while (!linefile::AtEnd(number)) {
         items.push_back(linefile::ReadItem(number));
+    }
     EXPECT_EQ(FailureOf([&] { (void)linefile::ReadItem(number); }), failure::InputPastEnd);
     linefile::Close(number);
     return items;
@@ -105,8 +106,9 @@ TEST(LineFileTest, RunsOutOfNumbersAfter511)
         taken.push_back(number);
     }
     EXPECT_EQ(taken.size(), 511U);
-    for (const std::int32_t number : taken)
+    for (const std::int32_t number : taken) {
         linefile::Close(number);
+    }
     EXPECT_EQ(linefile::FreeNumber(), 1);
 }
 

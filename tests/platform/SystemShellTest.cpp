@@ -1,6 +1,5 @@
 #include "platform/SystemShell.h"
 
-#include "platform/ConsoleDesktop.h"
 #include "platform/ProgramFolder.h"
 #include "support/Files.h"
 #include "support/TemporaryFolder.h"
@@ -9,7 +8,6 @@
 #include <cstdlib>
 #include <filesystem>
 #include <gtest/gtest.h>
-#include <sstream>
 #include <sys/wait.h>
 #include <thread>
 
@@ -51,8 +49,9 @@ TEST_F(SystemShellTest, HandsTheDocumentOverAsOneArgument)
     EXPECT_EQ(Heard(), document);
     Script("xdg-open", "printf '%s' \"open $1\" > " + folder.Path() + "/heard");
     EXPECT_GT(RunSystemShell(ShellVerb::Open, document), ShellSuccess);
-    for (int i = 0; i < 500 && Heard() != "open " + document; ++i)
+    for (int i = 0; i < 500 && Heard() != "open " + document; ++i) {
         std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
     EXPECT_EQ(Heard(), "open " + document);
 }
 
@@ -64,8 +63,9 @@ TEST_F(SystemShellTest, LeavesNoZombieOfTheOpener)
         siginfo_t child{};
         return ::waitid(P_ALL, 0, &child, WEXITED | WNOHANG | WNOWAIT) == 0;
     };
-    for (int i = 0; i < 500 && hasChild(); ++i)
+    for (int i = 0; i < 500 && hasChild(); ++i) {
         std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
     EXPECT_FALSE(hasChild());
 }
 
@@ -83,16 +83,6 @@ TEST_F(SystemShellTest, DoesNotWaitForASpoolerThatHangs)
 {
     Script("lp", "exec sleep 60");
     EXPECT_EQ(RunSystemShell(ShellVerb::Print, document), ShellNoProgram);
-}
-
-TEST(ConsoleDesktopTest, WritesItsBoxesAsLinesAndConfirmsNothing)
-{
-    std::ostringstream out;
-    ConsoleDesktop desktop(out);
-    EXPECT_EQ(desktop.MessageBox("Delete it?", "Delete", Icon::Question, Buttons::YesNo), Answer::No);
-    EXPECT_EQ(desktop.Show("It is gone.", "Done", Icon::Information), Answer::Ok);
-    EXPECT_EQ(out.str(), "Delete: Delete it?\nDone: It is gone.\n");
-    EXPECT_EQ(desktop.Shell(DesktopWindow(), ShellVerb::Open, "/no/such/guide.doc"), ShellFileNotFound);
 }
 
 TEST(ProgramFolderTest, TakesTheOptionThenTheVariableThenTheExecutable)

@@ -142,8 +142,9 @@ TEST(NumberTextTest, ReadsIntegersRoundingHalfToEven)
     EXPECT_EQ(FailureOf([] { (void)ToInt16("32767.5"); }), failure::Overflow);
     EXPECT_EQ(FailureOf([] { (void)ToInt32("2147483648"); }), failure::Overflow);
     EXPECT_EQ(FailureOf([] { (void)ToInt32("99999999999999999999999"); }), failure::Overflow);
-    for (const char* text : {"", " ", "a", "12a", "1 2", "--1", "1.2.3", ".", "-", "inf", "nan", "0x10", "1,000", "1e", "e5"})
+    for (const char* text : {"", " ", "a", "12a", "1 2", "--1", "1.2.3", ".", "-", "inf", "nan", "0x10", "1,000", "1e", "e5"}) {
         EXPECT_EQ(FailureOf([&] { (void)ToInt16(text); }), failure::TypeMismatch) << text;
+    }
 }
 
 TEST(NumberTextTest, ReadsSinglesAndBooleans)
@@ -157,13 +158,16 @@ TEST(NumberTextTest, ReadsSinglesAndBooleans)
         EXPECT_EQ(ToDouble(text + std::string(text.starts_with("0.") ? "e-9" : "9")), 0.0) << text;
     }
     for (const std::string& text : {std::string("1e39"), std::string("-0.5e60"), std::string("+1E+99999999999"), std::string(400, '9'),
-                                    "0." + std::string(400, '0') + "1e900"})
+                                    "0." + std::string(400, '0') + "1e900"}) {
         EXPECT_EQ(FailureOf([&] { (void)ToSingle(text); }), failure::Overflow) << text;
+    }
     EXPECT_EQ(FailureOf([] { (void)ToSingle("1.2.3"); }), failure::TypeMismatch);
-    for (const char* text : {"True", " tRUE ", "1", "-1", "0.1"})
+    for (const char* text : {"True", " tRUE ", "1", "-1", "0.1"}) {
         EXPECT_TRUE(ToBoolean(text)) << text;
-    for (const char* text : {"False", "FALSE", "0", "0.0"})
+    }
+    for (const char* text : {"False", "FALSE", "0", "0.0"}) {
         EXPECT_FALSE(ToBoolean(text)) << text;
+    }
     EXPECT_EQ(FailureOf([] { (void)ToBoolean("yes"); }), failure::TypeMismatch);
     EXPECT_EQ(FailureOf([] { (void)ToBoolean(""); }), failure::TypeMismatch);
 }

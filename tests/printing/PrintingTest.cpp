@@ -14,6 +14,7 @@
 #include <thread>
 
 namespace ptk {
+
 namespace {
 
 using namespace std::chrono_literals;
@@ -36,8 +37,9 @@ public:
     {
         unsetenv("CUPS_SERVER");
         pid_t pid = 0;
-        if (std::ifstream(folder.Path() + "/pid") >> pid && pid > 1)
+        if (std::ifstream(folder.Path() + "/pid") >> pid && pid > 1) {
             kill(pid, SIGTERM);
+        }
     }
     PrintScheduler(const PrintScheduler&) = delete;
     PrintScheduler& operator=(const PrintScheduler&) = delete;
@@ -52,8 +54,9 @@ std::string OutputOf(const std::string& command)
 {
     std::string output;
     FILE* pipe = popen(command.c_str(), "r");
-    for (int c = std::fgetc(pipe); c != EOF; c = std::fgetc(pipe))
+    for (int c = std::fgetc(pipe); c != EOF; c = std::fgetc(pipe)) {
         output += static_cast<char>(c);
+    }
     EXPECT_EQ(pclose(pipe), 0) << command;
     return output;
 }
@@ -66,14 +69,16 @@ std::vector<std::string> SeenLines(const std::string& text)
     for (std::string raw; std::getline(in, raw);) {
         std::string line;
         for (const char c : raw) {
-            if (c == '\t')
+            if (c == '\t') {
                 line.append(8 - line.size() % 8, ' ');
-            else if (c != '\r' && c != '\f')
+            } else if (c != '\r' && c != '\f') {
                 line += c;
+            }
         }
         line.erase(line.find_last_not_of(' ') + 1);
-        if (!line.empty())
+        if (!line.empty()) {
             lines.push_back(line);
+        }
     }
     return lines;
 }
@@ -91,8 +96,9 @@ protected:
     {
         const std::filesystem::path printouts = std::filesystem::path(getpwuid(getuid())->pw_dir) / "PDF";
         std::set<std::filesystem::path> files;
-        if (std::filesystem::is_directory(printouts))
+        if (std::filesystem::is_directory(printouts)) {
             files.insert(std::filesystem::directory_iterator(printouts), {});
+        }
         return files;
     }
 
@@ -103,8 +109,9 @@ protected:
         EXPECT_TRUE(report.PrintReport());
         for (int tries = 0; tries < 300; ++tries, std::this_thread::sleep_for(100ms)) {
             for (const auto& file : Printouts()) {
-                if (before.count(file) != 0 || file.extension() != ".pdf")
+                if (before.count(file) != 0 || file.extension() != ".pdf") {
                     continue;
+                }
                 std::this_thread::sleep_for(300ms); // the printer may still be writing it
                 std::string text = OutputOf("pdftotext -fixed 6 '" + file.string() + "' -");
                 std::filesystem::remove(file);
@@ -120,8 +127,9 @@ protected:
 
 TEST_F(PrintingTest, APrintedReportHoldsItsLinesUncutAndAligned)
 {
-    if (geteuid() != 0)
+    if (geteuid() != 0) {
         GTEST_SKIP() << "the PDF printer's backend runs as root only";
+    }
     const PrintScheduler scheduler;
     ASSERT_TRUE(scheduler.running);
 
@@ -152,4 +160,5 @@ TEST_F(PrintingTest, WithoutASchedulerItFailsSoonAndQuietly)
 }
 
 } // namespace
+
 } // namespace ptk

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 namespace ptk {
+
 namespace {
 
 std::shared_ptr<CEmployee> Employee(const std::string& firstName, const std::string& lastName, std::int32_t id)
@@ -20,17 +21,20 @@ std::shared_ptr<CEmployee> Employee(const std::string& firstName, const std::str
 std::vector<std::int32_t> Ids(CEmployeeList& list)
 {
     std::vector<std::int32_t> ids;
-    for (std::int32_t i = 1; i <= list.Count(); ++i)
+    for (std::int32_t i = 1; i <= list.Count(); ++i) {
         ids.push_back(list.Item(i) == nullptr ? 0 : list.Item(i)->EmployeeID());
+    }
     return ids;
 }
 
 TEST(ReportCatalogTest, FindsReportsByTheirExactNames)
 {
-    for (const ReportEntry& entry : ReportCatalog())
+    for (const ReportEntry& entry : ReportCatalog()) {
         EXPECT_EQ(FindReport(entry.name), &entry);
-    for (const char* name : {"", "timecard", "Timecard ", "Phone", "Accountant's Review"})
+    }
+    for (const char* name : {"", "timecard", "Timecard ", "Phone", "Accountant's Review"}) {
         EXPECT_EQ(FindReport(name), nullptr) << name;
+    }
     EXPECT_EQ(FindReport("Phone Book")->kind, ReportKind::PhoneBook);
     EXPECT_FALSE(FindReport("Phone Book")->needsEmployees);
 }
@@ -63,8 +67,9 @@ TEST(ReportCatalogTest, LooksEmployeesUpByDisplayName)
     CEmployeeList all;
     for (const auto& employee :
          {Employee("Ann", "Lee", 1), Employee("", "Zorn", 2), Employee("Ann", "Lee", 3), Employee("", "Administrator", 39),
-          Employee("Admin", "ISTRATORs", 40), Employee("System administrator", "Bo", 41)})
+          Employee("Admin", "ISTRATORs", 40), Employee("System administrator", "Bo", 41)}) {
         all.Insert(employee, all.Count() + 1);
+    }
     const std::vector<std::string> names{
         "Zorn", "Ann Lee", "ann lee", "Administrator", "Ann Lee", "Admin ISTRATORs", "System administrator Bo"};
     EXPECT_EQ(Ids(*EmployeesByName(all, names)), (std::vector<std::int32_t>{2, 1, 0, 39, 1, 40, 41}));
@@ -73,4 +78,5 @@ TEST(ReportCatalogTest, LooksEmployeesUpByDisplayName)
 }
 
 } // namespace
+
 } // namespace ptk

@@ -4,6 +4,7 @@
 #include "model/CTimeCard.h"
 
 namespace ptk {
+
 namespace {
 
 class ReportContentsTest : public ReportTest
@@ -137,4 +138,5 @@ TEST_F(ReportContentsTest, NamesOfFilesAndTitles)
 }
 
 } // namespace
+
 } // namespace ptk

@@ -6,6 +6,7 @@
 #include <functional>
 
 namespace ptk {
+
 namespace {
 
 using Makes = RememberingViewers::Makes;
@@ -183,13 +184,15 @@ TEST_F(ReportFaultsTest, GeneratingAgainStartsAfresh)
 TEST_F(ReportFaultsTest, ClosingAViewerTellsTheOneMemberOfItsReport)
 {
     const auto reports = AllFive();
-    for (const auto& report : reports)
+    for (const auto& report : reports) {
         EXPECT_TRUE(report->UnloadReportWindow());
+    }
     EXPECT_EQ(owner.calls, (std::vector<std::string>{"time card", "review", "year to date", "employees", "phone book"}));
     EXPECT_EQ(viewers.kinds, (std::vector<ReportKind>{ReportKind::TimeCard, ReportKind::Review, ReportKind::YTDTotals, ReportKind::Employee,
                                                       ReportKind::PhoneBook}));
-    for (const auto& viewer : viewers.made)
+    for (const auto& viewer : viewers.made) {
         EXPECT_EQ(viewer->unloads, 1);
+    }
 }
 
 TEST_F(ReportFaultsTest, AReportLivesAsLongAsItsViewer)
@@ -233,4 +236,5 @@ TEST_F(ReportFaultsTest, PrintsTheFileAndTellsWhenItIsGone)
 }
 
 } // namespace
+
 } // namespace ptk

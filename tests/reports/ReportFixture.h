@@ -33,8 +33,9 @@ public:
     void Caption(const std::string& value) override { caption = value; }
     bool WriteLine(const std::string& buffer) override
     {
-        if (loses)
+        if (loses) {
             return false;
+        }
         text += buffer + "\r\n";
         return true;
     }
@@ -68,10 +69,12 @@ public:
 
     std::shared_ptr<ReportViewer> CreateViewer(ReportKind kind) override
     {
-        if (makes == Makes::Raises)
+        if (makes == Makes::Raises) {
             throw Failure(failure::OutOfMemory);
-        if (makes == Makes::None)
+        }
+        if (makes == Makes::None) {
             return nullptr;
+        }
         kinds.push_back(kind);
         made.push_back(std::make_shared<RememberingViewer>());
         made.back()->loses = makes == Makes::LosesLines;
@@ -121,8 +124,9 @@ protected:
     // Reports and viewers hold each other.
     void TearDown() override
     {
-        for (const auto& viewer : viewers.made)
+        for (const auto& viewer : viewers.made) {
             viewer->controller = nullptr;
+        }
     }
 
     template <typename AnyReport>
@@ -204,8 +208,9 @@ protected:
     static std::shared_ptr<CEmployeeList> ListOf(const std::vector<std::shared_ptr<CEmployee>>& employees)
     {
         auto list = std::make_shared<CEmployeeList>();
-        for (const auto& employee : employees)
+        for (const auto& employee : employees) {
             list->Insert(employee, list->Count() + 1);
+        }
         return list;
     }
 

@@ -28,8 +28,9 @@ protected:
     Strings Lines()
     {
         Strings lines;
-        for (std::int16_t position = 1; position <= config->FileLineCount(); ++position)
+        for (std::int16_t position = 1; position <= config->FileLineCount(); ++position) {
             lines.push_back(config->GetLine(position));
+        }
         return lines;
     }
 
@@ -149,8 +150,9 @@ TEST_F(ConfigurationTest, WritesEveryLineBack)
 TEST_F(ConfigurationTest, HoldsAsManyLinesAsAPositionCanCount)
 {
     std::string lines;
-    for (int i = 0; i < 32765; ++i)
+    for (int i = 0; i < 32765; ++i) {
         lines += "x\n";
+    }
     Read(lines);
     EXPECT_EQ(config->FileLineCount(), 32765);
 

@@ -17,16 +17,18 @@ using Strings = std::vector<std::string>;
 CStringList ListOf(const Strings& texts)
 {
     CStringList list;
-    for (const std::string& text : texts)
+    for (const std::string& text : texts) {
         list.Insert(text, list.Count() + 1);
+    }
     return list;
 }
 
 Strings Contents(CStringList& list)
 {
     Strings texts;
-    for (std::int32_t position = 1; position <= list.Count(); ++position)
+    for (std::int32_t position = 1; position <= list.Count(); ++position) {
         texts.push_back(list.Item(position));
+    }
     return texts;
 }
 

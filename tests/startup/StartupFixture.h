@@ -4,9 +4,9 @@
 #include "platform/Failure.h"
 #include "platform/Text.h"
 #include "shell/CFileAdaptor.h"
-#include "shell/startup/AdminMain.h"
-#include "shell/startup/CController.h"
-#include "shell/startup/Windows.h"
+#include "startup/AdminMain.h"
+#include "startup/CController.h"
+#include "startup/Windows.h"
 #include "store/CJetDB.h"
 #include "store/DatabaseCreator.h"
 #include "support/Files.h"
@@ -37,8 +37,9 @@ public:
     void EmployeeList(std::shared_ptr<CEmployeeList> value) override { employeeList = std::move(value); }
     void ShowModal() override
     {
-        if (m_valid)
+        if (m_valid) {
             configFile->ReplaceLine("ShowLoginHelp", "False");
+        }
         shown = true;
     }
     bool LoginValid() const override { return shown && m_valid; }
@@ -112,8 +113,9 @@ protected:
     // Window and controller hold each other until the window is unloaded, which not every test comes to.
     void TearDown() override
     {
-        if (windows.main)
+        if (windows.main) {
             windows.main->Release();
+        }
     }
 
     CController& Controller() { return *program.Controller(); }

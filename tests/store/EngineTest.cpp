@@ -108,8 +108,9 @@ TEST_F(EngineTest, HasEverythingOnDiskWhenAStatementAnswers)
         Engine engine(Path());
         engine.Execute(kInsert);
         EXPECT_EQ(engine.Select("PRAGMA synchronous")->Int32At(0), kFlushesTheFolderToo);
-        if (!HasFailure())
+        if (!HasFailure()) {
             kill(getpid(), SIGKILL);
+        }
     });
     ASSERT_TRUE(WIFSIGNALED(status));
     EXPECT_EQ(WTERMSIG(status), SIGKILL);

@@ -33,8 +33,9 @@ public:
 private:
     static int Append(void* text, int count, char** values, char** /*names*/)
     {
-        for (int i = 0; i < count; ++i)
+        for (int i = 0; i < count; ++i) {
             *static_cast<std::string*>(text) += std::string(values[i] == nullptr ? "NULL" : values[i]) + "|";
+        }
         return 0;
     }
 

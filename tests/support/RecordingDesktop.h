@@ -41,10 +41,12 @@ public:
     Answer MessageBox(const std::string& text, const std::string& title, Icon icon, Buttons buttons) override
     {
         boxes.push_back({text, title, icon, buttons});
-        if (buttons == Buttons::Ok)
+        if (buttons == Buttons::Ok) {
             return Answer::Ok;
-        if (answers.empty())
+        }
+        if (answers.empty()) {
             return Answer::No;
+        }
         const Answer answer = answers.front();
         answers.pop_front();
         return answer;
@@ -55,8 +57,9 @@ public:
     std::int32_t Shell(const DesktopWindow&, ShellVerb verb, const std::string& path) override
     {
         requests.push_back({verb, path});
-        if (shellCodes.empty())
+        if (shellCodes.empty()) {
             return ShellSuccess + 1;
+        }
         const std::int32_t code = shellCodes.front();
         shellCodes.pop_front();
         return code;

@@ -14,11 +14,13 @@ public:
     TemporaryFolder()
     {
         std::string name = (std::filesystem::temp_directory_path() / "ptk-test-XXXXXX").string();
-        if (::mkdtemp(name.data()) == nullptr)
+        if (::mkdtemp(name.data()) == nullptr) {
             throw std::runtime_error("no temporary folder");
+        }
         m_path = name;
-        for (const char* folder : {"system", "reports", "documentation"})
+        for (const char* folder : {"system", "reports", "documentation"}) {
             std::filesystem::create_directory(m_path + "/" + folder);
+        }
     }
 
     ~TemporaryFolder()

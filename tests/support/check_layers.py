@@ -5,7 +5,7 @@ import re
 import sys
 
 # Each layer from the ground up and what it may include besides itself.
-CORE = ["platform", "shell", "store", "model", "reports"]
+CORE = ["platform", "shell", "store", "model", "reports", "office"]
 ALLOWED = {layer: set(CORE[: index + 1]) for index, layer in enumerate(CORE)}
 ALLOWED["startup"] = {*CORE, "startup"}
 ALLOWED["console"] = {*CORE, "console"}
@@ -23,7 +23,7 @@ GENERATED_HEADER = re.compile(r"^(ui_\w+\.h|\w+\.moc)$")
 
 def layer_of(path):
     """The layer of a path below SRC: its first folder, but the start-up is a layer of its own above the reports."""
-    return "startup" if path.startswith("shell/startup/") else path.split("/")[0]
+    return "startup" if path.startswith("startup/") else path.split("/")[0]
 
 
 def fault(path, quote, header):

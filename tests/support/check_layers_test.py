@@ -6,23 +6,25 @@ from check_layers import faults
 
 REFUSED = [
     ("platform/Text.cpp", '#include "shell/CFile.h"'),
-    ("shell/CFile.cpp", '#include "shell/startup/AdminMain.h"'),
+    ("shell/CFile.cpp", '#include "startup/AdminMain.h"'),
     ("store/CJetDB.cpp", '#include "model/CEmployee.h"'),
     ("store/CJetDB.cpp", "#include <sqlite3.h>"),
     ("model/CTimeCard.cpp", "#include <SQLiteCpp/Database.h>"),
     ("model/CTimeCard.h", '#  include "reports/Report.h"'),
     ("reports/Report.cpp", "#include <QString>"),
+    ("reports/Report.cpp", '#include "office/ListEdit.h"'),
+    ("office/ListEdit.h", "#include <QString>"),
     ("console/main/main.cpp", "#include <QtWidgets/QWidget>"),
-    ("console/Session.cpp", '#include "shell/startup/CController.h"'),
+    ("console/Session.cpp", '#include "startup/CController.h"'),
     ("ui/FLogin.cpp", '#include "console/Session.h"'),
     ("model/CEmployee.cpp", '#include "CEmployee.h"'),
 ]
 ACCEPTED = [
-    ("shell/startup/CController.cpp", '#include "reports/Report.h"'),
+    ("startup/CController.cpp", '#include "reports/Report.h"'),
     ("store/engine/Engine.cpp", "#include <sqlite3.h>"),
     ("model/CTimeRecordFactory.cpp", '#include "store/engine/RecordSet.h"'),
     ("console/Session.cpp", '#include "reports/Report.h"'),
-    ("ui/FLogin.cpp", '#include "ui_FLogin.h"\n#include <QLineEdit>\n#include "shell/startup/Windows.h"'),
+    ("ui/FLogin.cpp", '#include "ui_FLogin.h"\n#include <QLineEdit>\n#include "startup/Windows.h"'),
     ("platform/Text.cpp", "#include <charconv>"),
 ]
 

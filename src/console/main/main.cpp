@@ -13,8 +13,9 @@ namespace {
 void HoldStandardStreams()
 {
     for (int number = STDIN_FILENO; number <= STDERR_FILENO; ++number) {
-        if (fcntl(number, F_GETFD) == -1)
+        if (fcntl(number, F_GETFD) == -1) {
             static_cast<void>(open("/dev/null", O_RDONLY));
+        }
     }
 }
 

@@ -5,6 +5,7 @@
 namespace ptk {
 
 namespace {
+
 constexpr int kPrimaryCode = 0xFF; // what extended result codes keep in the low byte
 }
 

@@ -8,6 +8,7 @@
 #include <QTemporaryDir>
 
 namespace ptk {
+
 namespace {
 
 constexpr QSize kLarge(1600, 1000);
@@ -15,12 +16,14 @@ const DateTime kToday(CalendarDate{2003, 3, 5});
 
 void FillSample(BulkWriter& writer)
 {
-    for (const CompanyRow& company : SampleCompanies())
+    for (const CompanyRow& company : SampleCompanies()) {
         writer.AddCompany(company);
+    }
     for (const SampleEmployee& employee : SampleEmployees(kToday)) {
         const std::int32_t id = writer.AddEmployee(employee.row);
-        for (const TimeRecordRow& shift : SampleShifts(employee, id, kToday))
+        for (const TimeRecordRow& shift : SampleShifts(employee, id, kToday)) {
             writer.AddTimeRecord(shift);
+        }
     }
 }
 
@@ -31,8 +34,9 @@ QPalette DarkPalette()
     dark.setColor(QPalette::AlternateBase, QColor(0x26, 0x28, 0x2b));
     dark.setColor(QPalette::Highlight, QColor(0x2f, 0x65, 0xca));
     dark.setColor(QPalette::PlaceholderText, QColor(0x8c, 0x8f, 0x94));
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
         dark.setColor(QPalette::Disabled, role, QColor(0x80, 0x83, 0x88));
+    }
     return dark;
 }
 
@@ -45,8 +49,9 @@ public:
     {
         QCoreApplication::processEvents();
         const QString path = QString("%1/%2-%3.png").arg(m_folder, name, m_theme);
-        if (!window.grab().save(path))
+        if (!window.grab().save(path)) {
             throw std::runtime_error("cannot write " + path.toStdString());
+        }
     }
 
     void TakeSizes(QWidget& window, const QString& name) const
@@ -108,9 +113,11 @@ void TakePages(FController& main, const Photographer& photographer)
 void TakeViewers(FController& main, const Photographer& photographer)
 {
     Find<QPushButton>(main, "cmdTCPrint").click();
-    for (QWidget* window : QApplication::topLevelWidgets())
-        if (window->isVisible() && window->findChild<QWidget*>("txtReport") != nullptr)
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->isVisible() && window->findChild<QWidget*>("txtReport") != nullptr) {
             photographer.TakeSizes(*window, "viewer");
+        }
+    }
 }
 
 void TakeAll(const QString& folder, const QString& theme)
@@ -145,6 +152,7 @@ int Run(int argc, char** argv)
 }
 
 } // namespace
+
 } // namespace ptk
 
 int main(int argc, char** argv)

@@ -1,0 +1,57 @@
+#include "office/CardRecords.h"
+
+#include "model/CEmployee.h"
+#include "model/CTimeCard.h"
+#include "model/CTimeRecord.h"
+#include "model/CTimeRecordFactory.h"
+#include "model/CTimeRecordList.h"
+#include "platform/Required.h"
+
+namespace ptk {
+
+namespace {
+
+bool Save(CTimeCard& card, CTimeRecordFactory& factory, const std::shared_ptr<CTimeRecord>& record)
+{
+    factory.ResetError();
+    return card.SaveTimeRecord(record) && factory.ErrorNumber() == 0;
+}
+
+void DropNewRecords(CTimeRecordList& records)
+{
+    for (std::int32_t i = records.Count(); i >= 1; --i) {
+        if (records.RecordAt(i).ObjectState() == state::New) {
+            records.Remove(i);
+        }
+    }
+}
+
+} // namespace
+
+bool StoreRecord(CTimeCard& card, CTimeRecordFactory& factory, const std::shared_ptr<CTimeRecord>& record)
+{
+    Required(record)->EmployeeID(Required(card.Employee())->EmployeeID());
+    return Save(card, factory, record);
+}
+
+bool StoreDeletion(CTimeCard& card, CTimeRecordFactory& factory, const std::shared_ptr<CTimeRecord>& record)
+{
+    const std::int32_t before = Required(record)->ObjectState();
+    record->ObjectState(state::Deleted);
+    const bool stored = Save(card, factory, record);
+    if (!stored) {
+        record->ObjectState(before);
+    }
+    return stored;
+}
+
+bool StoreCard(CTimeCard& card, CTimeRecordFactory& factory)
+{
+    const bool stored = card.Save() && factory.ErrorNumber() == 0;
+    if (!stored) {
+        DropNewRecords(*Required(card.TimeRecordList()));
+    }
+    return stored;
+}
+
+} // namespace ptk

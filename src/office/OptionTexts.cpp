@@ -1,0 +1,57 @@
+#include "office/OptionTexts.h"
+
+#include "platform/Text.h"
+#include "shell/CDataValidator.h"
+#include "store/CSystemOptions.h"
+
+#include <algorithm>
+#include <optional>
+
+namespace ptk {
+
+namespace {
+
+// A negative length counts as none at all.
+std::optional<std::int16_t> PeriodLength(const std::string& text)
+{
+    const std::string digits = text.starts_with('-') ? text.substr(1) : text;
+    if (digits.empty() || !CDataValidator().CheckIntegerValues(digits)) {
+        return std::nullopt;
+    }
+    return std::max<std::int16_t>(ToInt16(text), 0);
+}
+
+// Moments before the zero date-time count as midnight.
+std::optional<DateTime> ShiftTime(const std::string& text)
+{
+    if (text.empty() || !CDataValidator().CheckDateTimeValues(text)) {
+        return std::nullopt;
+    }
+    return std::max(ToDateTime(text), DateTime());
+}
+
+} // namespace
+
+OptionTexts ShowOptions(const CSystemOptions& options)
+{
+    return {std::to_string(options.PeriodLength()), GeneralText(options.AutoShiftStartTime()), GeneralText(options.AutoShiftEndTime())};
+}
+
+bool StoreOptions(CSystemOptions& options, const OptionTexts& texts)
+{
+    const auto length = PeriodLength(texts.periodLength);
+    options.PeriodLength(length.value_or(std::int16_t{0}));
+    if (!length) {
+        return false;
+    }
+    const auto start = ShiftTime(texts.autoShiftStart);
+    options.AutoShiftStartTime(start.value_or(DateTime()));
+    if (!start) {
+        return false;
+    }
+    const auto end = ShiftTime(texts.autoShiftEnd);
+    options.AutoShiftEndTime(end.value_or(DateTime()));
+    return end && options.Update();
+}
+
+} // namespace ptk

@@ -1,0 +1,275 @@
+#include "startup/CController.h"
+
+#include "model/CCompanyList.h"
+#include "model/CEmployeeList.h"
+#include "model/CTimeRecordFactory.h"
+#include "model/CTimeRecordList.h"
+#include "platform/Failure.h"
+#include "platform/Required.h"
+#include "shell/CDatabaseLocator.h"
+#include "shell/CError.h"
+#include "shell/CFile.h"
+#include "shell/CFileAdaptor.h"
+#include "startup/Notices.h"
+#include "startup/Windows.h"
+#include "store/CJetDB.h"
+#include "store/CSystemOptions.h"
+
+#include <fmt/format.h>
+
+#include <utility>
+
+namespace ptk {
+
+namespace {
+
+constexpr const char* kConstructionFailed = "Program Construction Error";
+constexpr const char* kOperationFailed = "Error";
+
+// A list that exists is emptied and filled again, so that whoever holds it sees the new contents.
+template <typename List>
+bool Reload(std::shared_ptr<List>& list, const std::shared_ptr<CJetDB>& database)
+{
+    if (!list) {
+        list = std::make_shared<List>();
+    } else {
+        list->Destroy();
+        list->Create();
+    }
+    return list->LoadList(database);
+}
+
+} // namespace
+
+CController::CController(Surroundings surroundings) : m_around(std::move(surroundings)) {}
+
+CController::~CController() = default;
+
+template <typename Operation>
+bool CController::Logged(Operation operation)
+{
+    try {
+        return operation();
+    } catch (...) {
+        WriteToLog(kOperationFailed, CError(m_around.desktop));
+        return false;
+    }
+}
+
+void CController::Start()
+{
+    const std::shared_ptr<CController> self = shared_from_this(); // the end routine gives up its own
+    try {
+        BringUp();
+    } catch (...) {
+        CError error(m_around.desktop);
+        error.MessageBox(static_cast<std::int16_t>(Icon::Critical), static_cast<std::int16_t>(Buttons::Ok));
+        WriteToLog(kConstructionFailed, error);
+    }
+}
+
+void CController::BringUp()
+{
+    if (!ReadConfigFile()) {
+        Tell(m_around.desktop, notice::ConfigurationUnread);
+        return m_around.endRoutine();
+    }
+    if (!OpenDatabase()) {
+        return TellDatabaseUnopened();
+    }
+    if (!LoadSystemOptions()) {
+        Tell(m_around.desktop, notice::OptionsUnread);
+    }
+    if (!BuildLists()) {
+        Tell(m_around.desktop, notice::ListsUnbuilt);
+        return m_around.endRoutine();
+    }
+    const bool loginValid = LogIn();
+    if (loginValid) {
+        ShowMainWindow();
+    }
+    CloseDatabase();
+    if (!loginValid) {
+        m_around.endRoutine();
+    }
+}
+
+bool CController::LogIn()
+{
+    m_loginWindow = m_around.windows.CreateLoginWindow();
+    m_loginWindow->ConfigFile(m_configFile);
+    m_loginWindow->EmployeeList(m_employeeList);
+    m_loginWindow->ShowModal();
+    return m_loginWindow->LoginValid();
+}
+
+void CController::ShowMainWindow()
+{
+    m_controllerWindow = m_around.windows.CreateMainWindow();
+    m_controllerWindow->Controller(shared_from_this());
+    if (!m_controllerWindow->DisplaySystemOptions(m_systemOptions)) {
+        Tell(m_around.desktop, notice::OptionsUnread);
+    }
+}
+
+bool CController::Cleanup()
+{
+    // Where the end routine does not end the process, nothing is left for a second run.
+    if (!m_configFile) {
+        return false;
+    }
+    const std::shared_ptr<CController> self = shared_from_this(); // the end routine and the main window give up theirs
+    try {
+        ShutDown();
+    } catch (...) {
+        return false;
+    }
+    return false;
+}
+
+void CController::ShutDown()
+{
+    m_loginWindow.reset();
+    if (!OpenDatabase()) {
+        return TellDatabaseUnopened();
+    }
+    if (!StoreSystemOptions()) {
+        Tell(m_around.desktop, notice::OptionsUnsaved);
+    }
+    CloseDatabase();
+    if (!WriteConfigFile()) {
+        Tell(m_around.desktop, notice::ConfigurationUnsaved);
+    }
+    ReleaseObjects();
+    m_around.endRoutine();
+}
+
+void CController::ReleaseObjects()
+{
+    m_timeRecordFactory.reset();
+    m_companyList.reset();
+    m_employeeList.reset();
+    m_database.reset();
+    m_configFile.reset();
+    m_locator.reset();
+}
+
+void CController::CloseDatabase()
+{
+    if (m_database->DatabaseOpen()) {
+        m_database->CloseDB();
+    }
+}
+
+std::shared_ptr<CFileAdaptor> CController::ConfigFile() const
+{
+    throw Failure(failure::ObjectNotSet);
+}
+
+bool CController::OpenDatabase()
+{
+    return Logged([this] {
+        m_database = std::make_shared<CJetDB>(m_around.programFolder);
+        m_locator = std::make_shared<CDatabaseLocator>(m_around.programFolder);
+        m_locator->ConfigFile(m_configFile);
+        return m_locator->GetDatabasePath() && m_database->OpenPTKDatabase(m_locator);
+    });
+}
+
+bool CController::LoadSystemOptions()
+{
+    return Logged([this] {
+        m_systemOptions = std::make_shared<CSystemOptions>();
+        m_systemOptions->ConfigFile(m_configFile);
+        m_systemOptions->PTKDatabase(m_database);
+        return m_systemOptions->Load();
+    });
+}
+
+bool CController::StoreSystemOptions()
+{
+    return Logged([this] {
+        if (!m_systemOptions) {
+            return false;
+        }
+        m_systemOptions->PTKDatabase(m_database);
+        return m_systemOptions->Update();
+    });
+}
+
+// All three, also when an earlier one failed: each failure is to reach the log.
+bool CController::BuildLists()
+{
+    const bool companies = GetCompanyList();
+    const bool employees = GetEmployeeList();
+    const bool factory = StartTimeRecordFactory();
+    return companies && employees && factory;
+}
+
+bool CController::ReadConfigFile()
+{
+    return Logged([this] {
+        if (!m_configFile) {
+            m_configFile = std::make_shared<CFileAdaptor>(m_around.programFolder);
+        }
+        m_configFile->ReadFile(ConfigPath());
+        return true;
+    });
+}
+
+bool CController::WriteConfigFile()
+{
+    return Logged([this] {
+        Required(m_configFile)->WriteFile(ConfigPath());
+        return true;
+    });
+}
+
+bool CController::GetCompanyList()
+{
+    return Logged([this] { return Reload(m_companyList, m_database); });
+}
+
+bool CController::GetEmployeeList()
+{
+    return Logged([this] { return Reload(m_employeeList, m_database); });
+}
+
+bool CController::StartTimeRecordFactory()
+{
+    return Logged([this] {
+        if (!m_timeRecordFactory) {
+            m_timeRecordFactory = std::make_shared<CTimeRecordFactory>();
+            m_timeRecordFactory->PTKDatabase(m_database);
+            return true;
+        }
+        Required(m_timeRecordFactory->TimeRecordList())->Destroy();
+        Required(m_timeRecordFactory->TimeRecordList())->Create();
+        return true;
+    });
+}
+
+bool CController::UnloadControllerWindow()
+{
+    if (const std::shared_ptr<MainWindow> window = std::exchange(m_controllerWindow, nullptr)) {
+        window->Unload();
+    }
+    return false;
+}
+
+void CController::TellDatabaseUnopened()
+{
+    Tell(m_around.desktop, m_database->ErrorNumber() == jetdb::NoDatabase ? notice::DatabaseHeld : notice::DatabaseUnusable);
+}
+
+void CController::WriteToLog(const char* kind, const CError& error)
+{
+    m_around.errorLog->WriteLine(fmt::format("{}: {} : {}", kind, error.ErrorNumber(), error.ErrorDescription()));
+}
+
+std::string CController::ConfigPath() const
+{
+    return m_around.programFolder + kConfigurationFile;
+}
+
+} // namespace ptk

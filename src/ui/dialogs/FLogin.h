@@ -1,0 +1,54 @@
+// The login: a name and a password checked against the employees, before the main window opens.
+#pragma once
+
+#include "startup/Windows.h"
+
+#include <memory>
+#include <QDialog>
+#include <string>
+
+namespace Ui {
+class FLogin;
+}
+
+namespace ptk {
+
+class Desktop;
+
+// Any employee with a password may log in. The stored ShowLoginHelp changes only with a successful login.
+class FLogin final : public QDialog, public LoginWindow
+{
+    Q_OBJECT
+
+public:
+    explicit FLogin(ptk::Desktop& desktop);
+    ~FLogin() override;
+
+    void ConfigFile(std::shared_ptr<CFileAdaptor> value) override; // raises Failure 91 for nullptr, 13 when ShowLoginHelp is no boolean
+    void EmployeeList(std::shared_ptr<CEmployeeList> value) override;
+    void ShowModal() override;
+    bool LoginValid() const override { return m_loginValid; }
+    std::string UserName() const { return m_userName; } // deliberately always empty
+
+    void reject() override; // Cancel, Escape and the close box
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    bool ReadShowLoginHelp();
+    bool SaveShowLoginHelp();
+    bool ValidateLogin();
+    void Login();
+    void Help();
+
+    std::unique_ptr<Ui::FLogin> m_ui;
+    ptk::Desktop& m_desktop;
+    std::shared_ptr<CFileAdaptor> m_configFile;
+    std::shared_ptr<CEmployeeList> m_employeeList;
+    bool m_loginValid = false;
+    bool m_showHelp = true;
+    std::string m_userName;
+};
+
+} // namespace ptk

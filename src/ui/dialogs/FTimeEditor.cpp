@@ -1,0 +1,157 @@
+#include "ui/dialogs/FTimeEditor.h"
+
+#include "model/CTimeRecord.h"
+#include "platform/Clock.h"
+#include "platform/Desktop.h"
+#include "platform/Text.h"
+#include "ui/dialogs/TimeRecordReceiver.h"
+#include "ui_FTimeEditor.h"
+
+namespace ptk {
+
+namespace {
+
+constexpr auto kFormatTitle = "Date Format Error";
+constexpr auto kFormatText = "Error: Invalid date separator. Use : to separate time values.";
+
+constexpr std::int32_t kRecordRejected = 608;
+
+void ShowDay(DateTimeBox& box, DateTime moment, DateTime today)
+{
+    const DateTime day(moment.Date());
+    box.SetText(QString::fromStdString(ShortDateText(day.IsZero() ? today : day)));
+}
+
+// Without the seconds, and deliberately empty at midnight, which is what a record still open has for its end.
+void ShowTime(DateTimeBox& box, DateTime moment)
+{
+    const TimeOfDay time = moment.Time();
+    if (time.hour == 0 && time.minute == 0) {
+        box.Clear();
+    } else {
+        box.SetText(QString("%1:%2").arg(time.hour).arg(time.minute));
+    }
+}
+
+QString TimeText(DateTime moment)
+{
+    return QString::fromStdString(GeneralText(DateTime(DateTime().Date(), moment.Time())));
+}
+
+DateTime Moment(const DateTimeBox& date, const DateTimeBox& time)
+{
+    return ToDateTime((date.Text() + " " + time.Text()).toStdString());
+}
+
+} // namespace
+
+FTimeEditor::FTimeEditor(ptk::Desktop& desktop, const Clock& clock, QWidget* parent)
+    : QDialog(parent), m_ui(std::make_unique<Ui::FTimeEditor>()), m_desktop(desktop), m_clock(clock)
+{
+    m_ui->setupUi(this);
+    m_ui->dttbStartDate->SetDateMode(clock);
+    m_ui->dttbEndDate->SetDateMode(clock);
+    for (auto* box : {m_ui->dttbStartDate, m_ui->dttbStartTime, m_ui->dttbEndDate, m_ui->dttbEndTime}) {
+        connect(box, &DateTimeBox::KeyEntered, this, [this] { m_modified = true; });
+    }
+    connect(m_ui->dttbStartTime, &DateTimeBox::Changed, this, &FTimeEditor::UpdateTotal);
+    connect(m_ui->dttbEndTime, &DateTimeBox::Changed, this, &FTimeEditor::UpdateTotal);
+    connect(m_ui->cmdAutoShift, &QPushButton::clicked, this, &FTimeEditor::AutoShift);
+    connect(m_ui->cmdSave, &QPushButton::clicked, this, &FTimeEditor::Save);
+    connect(m_ui->cmdCancel, &QPushButton::clicked, this, &FTimeEditor::reject);
+}
+
+FTimeEditor::~FTimeEditor() = default;
+
+void FTimeEditor::TimeRecord(std::shared_ptr<CTimeRecord> value)
+{
+    m_timeRecord = std::move(value);
+    ShowTimeRecord();
+    m_modified = false;
+}
+
+bool FTimeEditor::SetAutoShiftTimes(DateTime thestarttime, DateTime theendtime)
+{
+    m_autoShiftStart = thestarttime;
+    m_autoShiftEnd = theendtime;
+    return false;
+}
+
+void FTimeEditor::ClearControls()
+{
+    for (auto* box : {m_ui->dttbStartDate, m_ui->dttbStartTime, m_ui->dttbEndDate, m_ui->dttbEndTime}) {
+        box->Clear();
+    }
+    m_ui->txtTotalTime->clear();
+    m_modified = false;
+}
+
+void FTimeEditor::ShowTimeRecord()
+{
+    if (m_timeRecord == nullptr) {
+        ClearControls();
+        return;
+    }
+    ShowDay(*m_ui->dttbStartDate, m_timeRecord->StartTime(), m_clock.Today());
+    ShowDay(*m_ui->dttbEndDate, m_timeRecord->EndTime(), m_clock.Today());
+    ShowTime(*m_ui->dttbStartTime, m_timeRecord->StartTime());
+    ShowTime(*m_ui->dttbEndTime, m_timeRecord->EndTime());
+    ShowTotal();
+}
+
+// The same words whatever the cause, deliberately; a start that was read before the end failed stays in the record.
+bool FTimeEditor::ReadTimeRecord()
+{
+    try {
+        ReadTimes();
+        return true;
+    } catch (...) {
+        m_desktop.Show(kFormatText, kFormatTitle, Icon::Exclamation);
+        return false;
+    }
+}
+
+void FTimeEditor::ReadTimes()
+{
+    if (m_timeRecord == nullptr) {
+        m_timeRecord = std::make_shared<CTimeRecord>();
+    }
+    m_timeRecord->StartTime(Moment(*m_ui->dttbStartDate, *m_ui->dttbStartTime));
+    m_timeRecord->EndTime(Moment(*m_ui->dttbEndDate, *m_ui->dttbEndTime));
+}
+
+void FTimeEditor::ShowTotal()
+{
+    if (m_timeRecord != nullptr) {
+        m_ui->txtTotalTime->setText(QString::fromStdString(TwoDecimals(m_timeRecord->HoursWorked())));
+    }
+}
+
+void FTimeEditor::UpdateTotal()
+{
+    if (m_ui->dttbStartTime->Text().isEmpty() || m_ui->dttbEndTime->Text().isEmpty()) {
+        return;
+    }
+    ReadTimeRecord();
+    ShowTotal();
+}
+
+void FTimeEditor::AutoShift()
+{
+    m_ui->dttbEndTime->SetText(TimeText(m_autoShiftEnd));
+    m_ui->dttbStartTime->SetText(TimeText(m_autoShiftStart));
+    ReadTimeRecord();
+    ShowTotal();
+}
+
+// A record whose texts could not be read, which the user has been told by then, goes back all the same, deliberately.
+void FTimeEditor::Save()
+{
+    ReadTimeRecord();
+    if (m_parentWindow == nullptr || !m_parentWindow->ReturnTimeRecord(m_timeRecord)) {
+        m_saveErrorNumber = kRecordRejected;
+    }
+    accept();
+}
+
+} // namespace ptk

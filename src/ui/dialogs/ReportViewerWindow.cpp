@@ -1,0 +1,253 @@
+#include "ui/dialogs/ReportViewerWindow.h"
+
+#include "reports/Report.h"
+#include "ui/widgets/WindowPlace.h"
+#include "ui_ReportViewerWindow.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QFontDatabase>
+#include <QFontInfo>
+#include <QPointer>
+#include <QScreen>
+#include <QScrollBar>
+#include <QShortcut>
+#include <QTextDocument>
+#include <QWheelEvent>
+
+#include <algorithm>
+
+namespace ptk {
+
+namespace {
+
+constexpr auto kNotFound = "Not found";
+constexpr auto kIncomplete = "This report is not complete: error %1.";
+
+constexpr int kTabWidth = 8;      // characters, as the reports' columns are made for
+constexpr int kFirstColumns = 84; // the 72 characters of a rule and some air
+constexpr int kFirstLines = 36;
+constexpr double kSmallestPoints = 5;
+constexpr double kLargestPoints = 48;
+constexpr int kCascadeStep = 32; // about a title bar
+
+QFont ReportFont()
+{
+    QFont font("Courier New");
+    if (QFontInfo(font).family() != font.family()) {
+        font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    }
+    font.setPointSizeF(QApplication::font().pointSizeF());
+    return font;
+}
+
+// Within half a step, since a window's place moves by its frame when it is shown.
+bool StandsOnAnother(const QWidget& window)
+{
+    const auto windows = QApplication::topLevelWidgets();
+    return std::any_of(windows.begin(), windows.end(), [&](const QWidget* other) {
+        return other != &window && other->isVisible() && qobject_cast<const ReportViewerWindow*>(other) != nullptr &&
+               (other->pos() - window.pos()).manhattanLength() < kCascadeStep / 2;
+    });
+}
+
+} // namespace
+
+ReportViewerWindow::ReportViewerWindow(const QString& name) : m_ui(std::make_unique<Ui::ReportViewerWindow>())
+{
+    m_ui->setupUi(this);
+    setObjectName(name);
+    m_ui->pnlFind->hide();
+    m_ui->lblNotice->clear();
+    m_ui->txtReport->viewport()->installEventFilter(this);
+    m_ui->txtReport->setFont(ReportFont());
+    m_firstPointSize = m_ui->txtReport->font().pointSizeF();
+    SetPointSize(m_firstPointSize);
+    ConnectControls();
+}
+
+ReportViewerWindow::~ReportViewerWindow() = default;
+
+void ReportViewerWindow::ConnectControls()
+{
+    connect(m_ui->cmdPrint, &QPushButton::clicked, this, &ReportViewerWindow::Print);
+    connect(m_ui->cmdClose, &QPushButton::clicked, this, &QWidget::close);
+    connect(m_ui->cmdFindNext, &QPushButton::clicked, this, [this] { Find(false); });
+    connect(m_ui->cmdFindPrevious, &QPushButton::clicked, this, [this] { Find(true); });
+    connect(m_ui->txtFind, &QLineEdit::returnPressed, this, [this] { Find(false); });
+    connect(m_ui->txtFind, &QLineEdit::textChanged, m_ui->lblFound, &QLabel::clear);
+
+    const auto onKey = [this](const QKeySequence& key, auto action) {
+        connect(new QShortcut(key, this), &QShortcut::activated, this, action);
+    };
+    const auto zoom = [this](double steps) { SetPointSize(m_ui->txtReport->font().pointSizeF() + steps); };
+    onKey(QKeySequence::Print, [this] { Print(); });
+    onKey(QKeySequence::Find, [this] { ShowFindBar(true); });
+    onKey(QKeySequence::FindNext, [this] { Find(false); });
+    onKey(QKeySequence::FindPrevious, [this] { Find(true); });
+    onKey(Qt::Key_Escape, [this] { Escape(); });
+    onKey(QKeySequence::ZoomIn, [zoom] { zoom(1); });
+    onKey(Qt::CTRL | Qt::Key_Equal, [zoom] { zoom(1); }); // the plus key without Shift
+    onKey(QKeySequence::ZoomOut, [zoom] { zoom(-1); });
+    onKey(Qt::CTRL | Qt::Key_0, [this] { SetPointSize(m_firstPointSize); });
+}
+
+void ReportViewerWindow::Caption(const std::string& value)
+{
+    setWindowTitle(QString::fromStdString(value));
+}
+
+bool ReportViewerWindow::WriteLine(const std::string& buffer)
+{
+    m_lines += buffer;
+    m_lines += "\r\n";
+    if (isVisible()) {
+        ShowText();
+    }
+    return true;
+}
+
+void ReportViewerWindow::ShowText()
+{
+    const QString text = QString::fromStdString(m_lines);
+    m_lines.clear();
+    QTextDocument& document = *m_ui->txtReport->document();
+    if (document.isEmpty()) {
+        m_ui->txtReport->setPlainText(text);
+        return;
+    }
+    QTextCursor end(&document);
+    end.movePosition(QTextCursor::End);
+    end.insertText(text);
+}
+
+void ReportViewerWindow::Show()
+{
+    ShowText();
+    m_ui->txtReport->moveCursor(QTextCursor::Start);
+    m_ui->txtReport->verticalScrollBar()->setValue(0);
+    m_ui->txtReport->setFocus();
+    ShowNotice();
+    Place();
+    show();
+    raise();
+    activateWindow();
+}
+
+// A report that lost lines answers well and would otherwise pass for whole.
+void ReportViewerWindow::ShowNotice()
+{
+    const std::int32_t error = m_controller == nullptr ? 0 : m_controller->ErrorNumber();
+    m_ui->lblNotice->setText(error == 0 ? QString() : QString(kIncomplete).arg(error));
+}
+
+void ReportViewerWindow::Place()
+{
+    const QFontMetrics metrics(m_ui->txtReport->font());
+    RestorePlace(*this, objectName(), QSize(kFirstColumns * metrics.horizontalAdvance('0'), kFirstLines * metrics.lineSpacing()));
+    const QRect room = screen()->availableGeometry();
+    for (int tries = 0; tries < 100 && StandsOnAnother(*this); ++tries) {
+        const QRect next = frameGeometry().translated(kCascadeStep, kCascadeStep);
+        move(room.contains(next) ? next.topLeft() : QPoint(std::min(next.left(), room.right() - kCascadeStep), room.top()));
+    }
+}
+
+void ReportViewerWindow::Hide()
+{
+    StorePlace(*this, objectName());
+    hide();
+}
+
+void ReportViewerWindow::Unload()
+{
+    m_controller = nullptr;
+    hide();
+}
+
+void ReportViewerWindow::closeEvent(QCloseEvent* event)
+{
+    event->accept();
+    LetGo();
+}
+
+void ReportViewerWindow::LetGo()
+{
+    const auto report = std::exchange(m_controller, nullptr);
+    if (report == nullptr) {
+        return;
+    }
+    Hide();
+    report->UnloadReportWindow();
+}
+
+void ReportViewerWindow::Print()
+{
+    if (m_controller == nullptr || !m_controller->PrintReport()) {
+        return;
+    }
+    m_printed = true;
+    Hide();
+}
+
+void ReportViewerWindow::Escape()
+{
+    if (m_ui->pnlFind->isVisible()) {
+        ShowFindBar(false);
+    } else {
+        close();
+    }
+}
+
+void ReportViewerWindow::ShowFindBar(bool shown)
+{
+    m_ui->pnlFind->setVisible(shown);
+    if (!shown) {
+        m_ui->txtReport->setFocus();
+        return;
+    }
+    m_ui->txtFind->setFocus();
+    m_ui->txtFind->selectAll();
+}
+
+// Goes on from the selection and, past the end, from the other end.
+void ReportViewerWindow::Find(bool backward)
+{
+    const QString text = m_ui->txtFind->text();
+    if (text.isEmpty()) {
+        return;
+    }
+    const QTextDocument::FindFlags flags = backward ? QTextDocument::FindBackward : QTextDocument::FindFlags();
+    const QTextDocument& document = *m_ui->txtReport->document();
+    QTextCursor found = document.find(text, m_ui->txtReport->textCursor(), flags);
+    if (found.isNull()) {
+        QTextCursor start = m_ui->txtReport->textCursor();
+        start.movePosition(backward ? QTextCursor::End : QTextCursor::Start);
+        found = document.find(text, start, flags);
+    }
+    m_ui->lblFound->setText(found.isNull() ? kNotFound : "");
+    if (!found.isNull()) {
+        m_ui->txtReport->setTextCursor(found);
+    }
+}
+
+void ReportViewerWindow::SetPointSize(double size)
+{
+    QFont font = m_ui->txtReport->font();
+    font.setPointSizeF(std::clamp(size, kSmallestPoints, kLargestPoints));
+    m_ui->txtReport->setFont(font);
+    m_ui->txtReport->setTabStopDistance(kTabWidth * QFontMetricsF(font).horizontalAdvance(' '));
+}
+
+bool ReportViewerWindow::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Wheel) {
+        auto& wheel = static_cast<QWheelEvent&>(*event);
+        if (wheel.modifiers().testFlag(Qt::ControlModifier)) {
+            SetPointSize(m_ui->txtReport->font().pointSizeF() + wheel.angleDelta().y() / 120.0);
+            return true;
+        }
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
+} // namespace ptk
