@@ -262,9 +262,14 @@ void CController::TellDatabaseUnopened()
     Tell(m_around.desktop, m_database->ErrorNumber() == jetdb::NoDatabase ? notice::DatabaseHeld : notice::DatabaseUnusable);
 }
 
+void CController::Log(const std::string& line)
+{
+    m_around.errorLog->WriteLine(line);
+}
+
 void CController::WriteToLog(const char* kind, const CError& error)
 {
-    m_around.errorLog->WriteLine(fmt::format("{}: {} : {}", kind, error.ErrorNumber(), error.ErrorDescription()));
+    Log(fmt::format("{}: {} : {}", kind, error.ErrorNumber(), error.ErrorDescription()));
 }
 
 std::string CController::ConfigPath() const

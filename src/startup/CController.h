@@ -70,6 +70,9 @@ public:
     // Hides, unloads and releases the main window; a second call from its closing steps does nothing. Deliberately always false.
     bool UnloadControllerWindow();
 
+    // One line for the session log, of something that went wrong outside the controller.
+    void Log(const std::string& line);
+
 private:
     void BringUp();
     bool LogIn();

@@ -245,6 +245,13 @@ bool FController::SetStatusText(const std::string& name, const std::string& iden
     return true;
 }
 
+void FController::Log(const std::string& line)
+{
+    if (m_controller != nullptr) {
+        m_controller->Log(line);
+    }
+}
+
 void FController::ChangeTab(int index)
 {
     if (index == m_lastTab) {

@@ -54,6 +54,7 @@ public:
     const DesktopWindow& AsDesktopWindow() const override { return *this; }
     bool SetStatusText(const std::string& name, const std::string& identifier) override;
     void ErrorNumber(std::int32_t value) override { m_errorNumber = value; }
+    void Log(const std::string& line) override;
     std::int32_t EventSource() const override { return m_eventSource; }
     void EventSource(std::int32_t value) override { m_eventSource = value; }
     std::shared_ptr<CTimeCard> TimeCard() const override { return m_timeCard; }

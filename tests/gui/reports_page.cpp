@@ -35,6 +35,7 @@ public:
         return true;
     }
     void ErrorNumber(std::int32_t) override {}
+    void Log(const std::string&) override {}
     std::int32_t EventSource() const override { return eventsource::None; }
     void EventSource(std::int32_t) override {}
     std::shared_ptr<CTimeCard> TimeCard() const override { return nullptr; }

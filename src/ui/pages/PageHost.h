@@ -45,6 +45,7 @@ public:
 
     virtual bool SetStatusText(const std::string& name, const std::string& identifier) = 0; // second panel: name " : " identifier
     virtual void ErrorNumber(std::int32_t value) = 0;
+    virtual void Log(const std::string& line) = 0; // into the session log; nothing without a controller
 
     virtual std::int32_t EventSource() const = 0;
     virtual void EventSource(std::int32_t value) = 0;

@@ -1,0 +1,69 @@
+#include "ui/widgets/NoticeLine.h"
+
+#include "ui/widgets/ElidedLabel.h"
+
+#include <QAccessible>
+#include <QHBoxLayout>
+#include <QToolButton>
+#include <utility>
+
+namespace ptk {
+
+NoticeLine::NoticeLine(QWidget* parent) : QWidget(parent), m_text(new ElidedLabel(QString(), this)), m_button(new QToolButton(this))
+{
+    m_text->setObjectName("lblNotice");
+    m_button->setObjectName("cmdNotice");
+    m_button->hide();
+    auto* line = new QHBoxLayout(this);
+    line->setContentsMargins(0, 0, 0, 0);
+    line->addWidget(m_text, 1);
+    line->addWidget(m_button);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    connect(m_button, &QToolButton::clicked, this, &NoticeLine::Act);
+}
+
+void NoticeLine::Say(const QString& text)
+{
+    m_action = nullptr;
+    m_button->hide();
+    Show(text);
+}
+
+void NoticeLine::Offer(const QString& text, const QString& caption, std::function<void()> action)
+{
+    m_action = std::move(action);
+    m_button->setText(caption);
+    m_button->show();
+    Show(text);
+}
+
+void NoticeLine::Clear()
+{
+    Say(QString());
+}
+
+QString NoticeLine::Text() const
+{
+    return m_text->text();
+}
+
+void NoticeLine::Show(const QString& text)
+{
+    m_text->setText(text);
+    if (!text.isEmpty()) {
+        QAccessibleEvent alert(m_text, QAccessible::Alert);
+        QAccessible::updateAccessibility(&alert);
+    }
+}
+
+// Emptied first: the action may say something of its own.
+void NoticeLine::Act()
+{
+    const auto action = std::exchange(m_action, nullptr);
+    Clear();
+    if (action) {
+        action();
+    }
+}
+
+} // namespace ptk
