@@ -13,33 +13,34 @@ namespace {
 
 constexpr std::int64_t kMinutesPerHour = 60;
 constexpr std::int64_t kSecondsPerHour = 3600;
+constexpr std::int64_t kSecondsPerDay = kSecondsPerHour * 24;
 
-// The midnight after a day; at the calendar's end its last second.
-DateTime EndOf(DateTime day)
+// Days of the calendar by their numbers, both included.
+struct DaySpan
 {
-    static const DateTime lastDay(CalendarDate{9999, 12, 31});
-    return day < lastDay ? day.AddDays(1) : DateTime(CalendarDate{9999, 12, 31}, TimeOfDay{23, 59, 59});
-}
+    std::int64_t first;
+    std::int64_t last;
 
-bool Lies(DateTime moment, DateTime from, DateTime until)
-{
-    return from <= moment && moment < until;
-}
+    bool Holds(DateTime moment) const { return first <= moment.DayNumber() && moment.DayNumber() <= last; }
+};
 
-bool IsSet(const std::optional<DateTime>& time)
+// Whether a shift goes on over the midnight with which a day begins, the one after the calendar's last day included.
+bool Crosses(const Punch& punch, std::int64_t dayNumber)
 {
-    return time && !time->IsZero();
+    const std::int64_t midnight = dayNumber * kSecondsPerDay;
+    return !punch.IsOpen() && punch.start->Seconds() < midnight && punch.end->Seconds() > midnight;
 }
 
 class Checker
 {
 public:
     Checker(const CheckedCard& card, const Punches& punches, DateTime now, const CheckLimits& limits)
-        : m_card(card), m_periodEnd(EndOf(card.to)), m_weeksFrom(WeekStart(card.from, limits.firstWeekday)),
-          m_weeksEnd(EndOf(WeekLast(card.to, limits.firstWeekday))), m_now(now), m_limits(limits)
+        : m_card(card), m_period{card.from.DayNumber(), card.to.DayNumber()},
+          m_weeks{WeekStart(card.from, limits.firstWeekday).DayNumber(), WeekLast(card.to, limits.firstWeekday).DayNumber()}, m_now(now),
+          m_limits(limits)
     {
         for (const Punch& punch : punches) {
-            Sort(punch);
+            Take(punch);
         }
         std::sort(m_all.begin(), m_all.end(), [](const Punch* left, const Punch* right) {
             return std::tie(left->start, left->end, left->id) < std::tie(right->start, right->end, right->id);
@@ -64,7 +65,7 @@ public:
     }
 
 private:
-    void Sort(const Punch& punch)
+    void Take(const Punch& punch)
     {
         if (punch.IsReadable()) {
             m_all.push_back(&punch);
@@ -80,9 +81,9 @@ private:
             return true;
         }
         if (IsSet(punch.start)) {
-            return Lies(*punch.start, m_card.from, m_periodEnd);
+            return m_period.Holds(*punch.start);
         }
-        return !IsSet(punch.end) || Lies(*punch.end, m_card.from, m_periodEnd);
+        return !IsSet(punch.end) || m_period.Holds(*punch.end);
     }
 
     void CheckUnreadable(const Punch& punch)
@@ -99,10 +100,10 @@ private:
     void CheckCrossings()
     {
         for (const Punch* punch : m_all) {
-            if (!punch->IsOpen() && *punch->start<m_periodEnd&& * punch->end> m_periodEnd) {
+            if (Crosses(*punch, m_period.last + 1)) {
                 AddShift(FindingKind::CrossesEnd, *punch);
             }
-            if (!punch->IsOpen() && *punch->start<m_card.from&& * punch->end> m_card.from) {
+            if (Crosses(*punch, m_period.first)) {
                 AddShift(FindingKind::CrossesStart, *punch);
             }
         }
@@ -127,7 +128,7 @@ private:
 
     void CheckOpen(const Punch& punch)
     {
-        if (*punch.start >= m_periodEnd) {
+        if (punch.start->DayNumber() > m_period.last) {
             return AddShift(FindingKind::OpenLater, punch);
         }
         AddShift(IsAtWork(punch) ? FindingKind::ClockedIn : FindingKind::Open, punch);
@@ -136,7 +137,8 @@ private:
     bool IsAtWork(const Punch& punch) const
     {
         const std::int64_t since = m_now.Seconds() - punch.start->Seconds();
-        return punch.IsOpen() && *punch.start < m_periodEnd && since >= 0 && since < m_limits.longShiftHours * kSecondsPerHour;
+        return punch.IsOpen() && punch.start->DayNumber() <= m_period.last && since >= 0 &&
+               since < m_limits.longShiftHours * kSecondsPerHour;
     }
 
     void CheckEmployment(const Punch& punch)
@@ -155,7 +157,7 @@ private:
     {
         std::vector<const Punch*> near;
         std::copy_if(m_all.begin(), m_all.end(), std::back_inserter(near), [this](const Punch* punch) {
-            return punch->fetched || (*punch->start < m_weeksEnd && (*punch->start >= m_weeksFrom || *punch->end > m_weeksFrom));
+            return punch->fetched || m_weeks.Holds(*punch->start) || Crosses(*punch, m_weeks.first);
         });
         for (const PunchGroup& group : OverlappingPunches(near)) {
             AddGroup(FindingKind::Overlap, group, OverlapText);
@@ -182,8 +184,10 @@ private:
         std::int64_t overtime = 0;
         for (const WorkDay& day : DaysOf(m_onCard)) {
             const std::int64_t paid = PaidMinutes(day, m_card.employee);
-            regular += std::min(paid, kDailyRegularMinutes);
-            overtime += std::max<std::int64_t>(paid - kDailyRegularMinutes, 0);
+            const DayMinutes split{day.day, std::min(paid, kDailyRegularMinutes), std::max<std::int64_t>(paid - kDailyRegularMinutes, 0)};
+            m_found.days.push_back(split);
+            regular += split.regular;
+            overtime += split.overtime;
             CheckDeduction(day, paid);
             if (day.minutes > kMinutesPerDay) {
                 Add(FindingOf(FindingKind::LongDay, day.shifts, day.minutes, LongDayText(day)));
@@ -196,10 +200,9 @@ private:
     void CheckDeduction(const WorkDay& day, std::int64_t paid)
     {
         const auto atWork = [this](const Punch* punch) { return IsAtWork(*punch); };
-        if (paid >= 0 || paid == day.minutes || std::any_of(day.shifts.begin(), day.shifts.end(), atWork)) {
-            return;
+        if (paid < 0 && std::none_of(day.shifts.begin(), day.shifts.end(), atWork)) {
+            Add(FindingOf(FindingKind::Deduction, day.shifts, -paid, DeductionText(day, day.minutes - paid)));
         }
-        Add(FindingOf(FindingKind::Deduction, day.shifts, -paid, DeductionText(day, day.minutes - paid)));
     }
 
     void CheckRates(std::int64_t regular, std::int64_t overtime)
@@ -211,7 +214,7 @@ private:
                  {},
                  regularWithout + overtimeWithout,
                  m_card.from,
-                 m_periodEnd,
+                 EndOfDay(m_card.to),
                  NoRateText(regularWithout, overtimeWithout)});
         }
     }
@@ -220,7 +223,7 @@ private:
     {
         std::vector<const Punch*> inWeeks;
         std::copy_if(m_all.begin(), m_all.end(), std::back_inserter(inWeeks),
-                     [this](const Punch* punch) { return Lies(*punch->start, m_weeksFrom, m_weeksEnd); });
+                     [this](const Punch* punch) { return m_weeks.Holds(*punch->start); });
         m_found.weeks = WeeksOf(DaysOf(inWeeks), m_card.employee, m_limits.firstWeekday);
         for (const WorkWeek& week : m_found.weeks) {
             if (week.Above40() > week.paidAsOvertime) {
@@ -228,7 +231,7 @@ private:
                      {},
                      week.Above40() - week.paidAsOvertime,
                      week.from,
-                     EndOf(WeekLast(week.from, m_limits.firstWeekday)),
+                     EndOfDay(WeekLast(week.from, m_limits.firstWeekday)),
                      WeekText(week)});
             }
         }
@@ -259,9 +262,8 @@ private:
     }
 
     const CheckedCard& m_card;
-    DateTime m_periodEnd; // midnight after the last day
-    DateTime m_weeksFrom; // the midnights that bound the work weeks of the period
-    DateTime m_weeksEnd;
+    DaySpan m_period;
+    DaySpan m_weeks; // the work weeks that the period touches
     DateTime m_now;
     const CheckLimits& m_limits;
     std::vector<const Punch*> m_all; // readable, by start, end and number

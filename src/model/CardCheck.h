@@ -4,6 +4,7 @@
 #include "model/Finding.h"
 #include "model/Punch.h"
 #include "model/WorkWeeks.h"
+#include "store/CheckLimits.h"
 
 #include <cstdint>
 #include <vector>
@@ -11,14 +12,6 @@
 namespace ptk {
 
 class CEmployee;
-
-// What the office has chosen to be told.
-struct CheckLimits
-{
-    std::int32_t longShiftHours = 16;
-    std::int32_t firstWeekday = 0; // 0 Sunday to 6 Saturday
-    bool showNotices = true;       // in windows and printed text; figures and data files hold them all the same
-};
 
 // Whose card, and for which days.
 struct CheckedCard
@@ -28,10 +21,19 @@ struct CheckedCard
     DateTime to;
 };
 
+// How the card's hours of one day are paid, in minutes. Automatic deduction can bring the regular ones below 0.
+struct DayMinutes
+{
+    DateTime day; // midnight
+    std::int64_t regular = 0;
+    std::int64_t overtime = 0;
+};
+
 struct CardCheck
 {
     std::vector<Finding> findings; // in their order
-    std::vector<WorkWeek> weeks;   // that the period touches and in which a shift starts
+    std::vector<WorkWeek> weeks;   // that the period touches and in which a shift starts, on whichever of their days
+    std::vector<DayMinutes> days;  // on which a shift of the card starts
     std::int32_t problems = 0;
     std::int32_t notices = 0;
     bool clockedIn = false;      // somebody is at work
@@ -41,7 +43,8 @@ struct CardCheck
 };
 
 // `punches`: the rows that the card's fetch takes, those that start in or reach into a work week of the period, those that cross either end
-// of it, and those that cannot be read; further ones do no harm. Linear after sorting.
+// of it, and those that cannot be read; further ones do no harm. Linear after sorting. Nothing to tell of somebody without a shift on the
+// card or across its ends and without a row that cannot be read: such a check is empty, its weeks included.
 CardCheck CheckCard(const CheckedCard& card, const Punches& punches, DateTime now, const CheckLimits& limits);
 
 } // namespace ptk

@@ -46,7 +46,7 @@ std::string_view NameOf(Severity severity); // "problem", "notice"
 struct Finding
 {
     FindingKind kind = FindingKind::Unreadable;
-    std::vector<std::int32_t> records; // keys, by start, end and number; none for what concerns a whole week or period
+    std::vector<std::int64_t> records; // keys, by start, end and number; none for what concerns a whole week or period
     std::int64_t minutes = 0;          // what it is about, whole minutes
     std::optional<DateTime> from;      // the earliest start and the latest end, where there is one
     std::optional<DateTime> to;

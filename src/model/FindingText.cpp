@@ -1,7 +1,9 @@
 #include "model/FindingText.h"
 
+#include "model/CardCheck.h"
 #include "platform/Text.h"
 
+#include <algorithm>
 #include <fmt/format.h>
 
 namespace ptk {
@@ -30,22 +32,14 @@ bool ContinuesCharacter(char byte)
     return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
 }
 
-// A foreign value may be long: its beginning tells enough. Never cut inside a character.
-std::string Quoted(const std::string& text)
+bool IsControl(char byte)
 {
-    if (text.size() <= kMostShown) {
-        return '"' + text + '"';
-    }
-    std::size_t length = kMostShown;
-    while (length > 0 && ContinuesCharacter(text[length])) {
-        --length;
-    }
-    return '"' + text.substr(0, length) + "...\"";
+    return static_cast<unsigned char>(byte) < 0x20 || byte == 0x7F;
 }
 
-std::string UnreadableTime(const char* name, const std::string& text)
+std::string What(const char* name, const std::string& shown)
 {
-    return text.empty() ? fmt::format("no {}", name) : fmt::format("the {} {}", name, Quoted(text));
+    return shown.empty() ? fmt::format("no {}", name) : fmt::format("the {} {}", name, shown);
 }
 
 } // namespace
@@ -56,16 +50,31 @@ std::string HoursAndMinutes(std::int64_t minutes)
     return fmt::format("{}{}:{:02}", minutes < 0 ? "-" : "", size / 60, size % 60);
 }
 
+// A foreign value may be long: its beginning tells enough.
+std::string QuotedValue(std::string_view text)
+{
+    std::size_t length = std::min(text.size(), kMostShown);
+    while (length > 0 && length < text.size() && ContinuesCharacter(text[length])) {
+        --length;
+    }
+    std::string shown(text.substr(0, length));
+    std::replace_if(shown.begin(), shown.end(), IsControl, '?');
+    return '"' + shown + (length < text.size() ? "...\"" : "\"");
+}
+
+// The time that can be read says where to look for the record.
 std::string UnreadableText(const Punch& punch)
 {
-    std::string what;
-    if (!punch.start || punch.start->IsZero()) {
-        what = UnreadableTime("start", punch.startText);
+    if (!IsSet(punch.start) && !punch.end) {
+        return fmt::format("Record {} cannot be read: it has {} and {}.", punch.id, What("start", punch.startText),
+                           What("end", punch.endText));
     }
     if (!punch.end) {
-        what += (what.empty() ? "" : " and ") + UnreadableTime("end", punch.endText);
+        return fmt::format("Record {}, which begins on {}, cannot be read: it has {}.", punch.id, Moment(*punch.start),
+                           What("end", punch.endText));
     }
-    return fmt::format("Record {} cannot be read: it has {}.", punch.id, what);
+    const std::string where = IsSet(punch.end) ? fmt::format(", which ends on {},", Moment(*punch.end)) : "";
+    return fmt::format("Record {}{} cannot be read: it has {}.", punch.id, where, What("start", punch.startText));
 }
 
 std::string ShiftText(FindingKind kind, const Punch& punch, std::int32_t longShiftHours)
@@ -87,10 +96,10 @@ std::string ShiftText(FindingKind kind, const Punch& punch, std::int32_t longShi
     case FindingKind::Future:
         return fmt::format("The shift of {} starts in the future.", start);
     case FindingKind::CrossesEnd:
-        return fmt::format("The shift {} ({} hours) goes on after the end of the period and is on no card.", Span(punch),
+        return fmt::format("The shift {} ({} hours) goes on after the period: neither this card nor the next has it.", Span(punch),
                            HoursAndMinutes(punch.Minutes()));
     case FindingKind::CrossesStart:
-        return fmt::format("The shift {} ({} hours) began before the period and is on no card.", Span(punch),
+        return fmt::format("The shift {} ({} hours) began before the period: neither this card nor the one before has it.", Span(punch),
                            HoursAndMinutes(punch.Minutes()));
     default:
         return {};
@@ -105,15 +114,28 @@ std::string NotEmployedText(const Punch& punch, DateTime hired, DateTime release
     return fmt::format("The shift of {} starts after the release date {}.", Moment(*punch.start), Day(released));
 }
 
+std::string FindingSummary(const CardCheck& check)
+{
+    std::string summary;
+    const auto add = [&summary](std::int32_t count, const char* what) {
+        if (count > 0) {
+            summary += fmt::format("{}{} {}{}", summary.empty() ? "" : ", ", count, what, count == 1 ? "" : "s");
+        }
+    };
+    add(check.problems, NameOf(Severity::Problem).data());
+    add(check.notices, NameOf(Severity::Notice).data());
+    return summary.empty() ? "No problems or notices" : summary;
+}
+
 std::string OverlapText(const Finding& group)
 {
-    return fmt::format("{} shifts between {} and {} overlap: {} hours are counted more than once.", group.records.size(),
+    return fmt::format("{} shifts between {} and {} overlap: {} hours lie in more than one of them.", group.records.size(),
                        Moment(*group.from), Moment(*group.to), HoursAndMinutes(group.minutes));
 }
 
 std::string SameStartText(const Finding& group)
 {
-    return fmt::format("{} records start at {}, and not all of them have an end after it.", group.records.size(), Moment(*group.from));
+    return fmt::format("{} records start at {}, and not each of them has an end after it.", group.records.size(), Moment(*group.from));
 }
 
 std::string DeductionText(const WorkDay& day, std::int64_t deducted)

@@ -10,17 +10,22 @@
 
 namespace ptk {
 
+inline bool IsSet(const std::optional<DateTime>& time)
+{
+    return time && !time->IsZero();
+}
+
 struct Punch
 {
-    std::int32_t id = 0;
+    std::int64_t id = 0;
     std::optional<DateTime> start; // empty: not the text of a real moment; the zero date-time: not set
     std::optional<DateTime> end;   // empty: not the text of a real moment; the zero date-time: still running
     bool fetched = false;          // whether the time card's own fetch takes the row
-    std::string startText;         // what stands there instead, where it cannot be read
+    std::string startText;         // what stands there instead, where it cannot be read: "soon" in quotes, 46000 without; empty for nothing
     std::string endText;
 
     // Both times are real moments and the shift has a beginning; the members below count on it.
-    bool IsReadable() const { return start && end && !start->IsZero(); }
+    bool IsReadable() const { return IsSet(start) && end; }
 
     bool IsOpen() const { return end->IsZero(); }
     bool IsBackward() const { return !IsOpen() && *end < *start; }

@@ -1,6 +1,7 @@
 #include "model/WorkWeeks.h"
 
 #include "model/CEmployee.h"
+#include "platform/Text.h"
 
 #include <algorithm>
 
@@ -31,6 +32,18 @@ std::int64_t WeekStartNumber(std::int64_t day, std::int32_t firstWeekday)
 }
 
 } // namespace
+
+DateTime EndOfDay(DateTime day)
+{
+    static const DateTime lastSecond(CalendarDate{9999, 12, 31}, TimeOfDay{23, 59, 59});
+    return day.DayNumber() < kLastDay ? Midnight(day.DayNumber() + 1) : lastSecond;
+}
+
+std::string HoursText(std::int64_t minutes)
+{
+    constexpr double kMinutesPerHour = 60.0;
+    return TwoDecimals(static_cast<float>(static_cast<double>(minutes) / kMinutesPerHour));
+}
 
 DateTime WeekStart(DateTime day, std::int32_t firstWeekday)
 {

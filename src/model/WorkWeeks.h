@@ -5,6 +5,7 @@
 #include "platform/DateTime.h"
 
 #include <cstdint>
+#include <string>
 #include <vector>
 
 namespace ptk {
@@ -31,6 +32,12 @@ struct WorkDay
     std::int64_t minutes = 0; // before the automatic deduction
     std::vector<const Punch*> shifts;
 };
+
+// The midnight after a day; at the calendar's end, which has none, its last second.
+DateTime EndOfDay(DateTime day);
+
+// Hours with two decimals, as a time card shows its own: of a single, so 20 minutes are "0.33".
+std::string HoursText(std::int64_t minutes);
 
 // Both days midnight; the week's first weekday is 0 (Sunday) to 6. Weeks are cut at the calendar's first and last day.
 DateTime WeekStart(DateTime day, std::int32_t firstWeekday);

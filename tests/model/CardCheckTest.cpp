@@ -145,7 +145,7 @@ TEST(CardCheckTest, NamesRowsThatCannotBeReadWhereTheyBelong)
     const CardCheck check = Check(Worker(), taken);
     EXPECT_EQ(Summary(check), "empty 2: 0; unreadable 1: 0");
     EXPECT_FALSE(check.figuresReadable);
-    EXPECT_EQ(check.findings[1].text, "Record 1 cannot be read: it has the end \"later\".");
+    EXPECT_EQ(check.findings[1].text, "Record 1, which begins on 04/02/2026 08:00 AM, cannot be read: it has the end later.");
 }
 
 TEST(CardCheckTest, ChecksDaysAndRatesAgainstTheEmployee)

@@ -195,11 +195,15 @@ std::shared_ptr<RecordSet> Statement::ReadRows(std::int32_t most, Bound bound)
     RecordSet::Builder rows;
     AddColumns(rows, row);
     const Guard guard(m_database, m_ticks, bound);
-    for (std::int32_t count = 0; count < most && Step(); ++count) {
+    bool more = true;
+    for (std::int32_t count = 0; count < most && (more = Step()); ++count) {
         for (int column = 0; column < columns; ++column) {
             AddCell(rows, row, column);
         }
         rows.EndRow();
+    }
+    if (!more) {
+        Rewind(); // a parameter may be assigned again
     }
     return rows.Finish();
 }

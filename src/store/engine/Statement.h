@@ -41,7 +41,7 @@ public:
     // `sql` is in the engine's own words and holds exactly one statement.
     Statement(sqlite3* database, std::string_view sql);
 
-    // The same parameter may be assigned again. An unknown name is refused with 25.
+    // The same parameter may be assigned again, once the rows before were read to their end. An unknown name is refused with 25.
     void Bind(const std::string& name, const Value& value);
     void Bind(std::span<const Parameter> parameters);
 
