@@ -39,13 +39,17 @@ public:
           m_weeks{WeekStart(card.from, limits.firstWeekday).DayNumber(), WeekLast(card.to, limits.firstWeekday).DayNumber()}, m_now(now),
           m_limits(limits)
     {
+        m_all.reserve(punches.size());
         for (const Punch& punch : punches) {
             Take(punch);
         }
-        std::sort(m_all.begin(), m_all.end(), [](const Punch* left, const Punch* right) {
-            return std::tie(left->start, left->end, left->id) < std::tie(right->start, right->end, right->id);
-        });
-        std::copy_if(m_all.begin(), m_all.end(), std::back_inserter(m_onCard), [](const Punch* punch) { return punch->fetched; });
+        const auto earlier = [](const Punch* left, const Punch* right) {
+            return std::tie(*left->start, *left->end, left->id) < std::tie(*right->start, *right->end, right->id);
+        };
+        if (!std::is_sorted(m_all.begin(), m_all.end(), earlier)) {
+            std::sort(m_all.begin(), m_all.end(), earlier);
+        }
+        m_onCard = Where([](const Punch* punch) { return punch->fetched; });
     }
 
     CardCheck Run()
@@ -65,6 +69,16 @@ public:
     }
 
 private:
+    // Of all readable ones, in their order.
+    template <typename Predicate>
+    std::vector<const Punch*> Where(Predicate matches) const
+    {
+        std::vector<const Punch*> found;
+        found.reserve(m_all.size());
+        std::copy_if(m_all.begin(), m_all.end(), std::back_inserter(found), matches);
+        return found;
+    }
+
     void Take(const Punch& punch)
     {
         if (punch.IsReadable()) {
@@ -148,17 +162,15 @@ private:
         const bool before = !hired.IsZero() && DaysBetween(*punch.start, hired) > 0;
         const bool after = !released.IsZero() && DaysBetween(released, *punch.start) > 0;
         if (before || after) {
-            Add(FindingOf(FindingKind::NotEmployed, {&punch}, punch.Minutes(), NotEmployedText(punch, hired, released)));
+            AddOne(FindingKind::NotEmployed, punch, NotEmployedText(punch, hired, released));
         }
     }
 
     // Among the records of the card and those of the work weeks around it.
     void CheckGroups()
     {
-        std::vector<const Punch*> near;
-        std::copy_if(m_all.begin(), m_all.end(), std::back_inserter(near), [this](const Punch* punch) {
-            return punch->fetched || m_weeks.Holds(*punch->start) || Crosses(*punch, m_weeks.first);
-        });
+        const auto near = Where(
+            [this](const Punch* punch) { return punch->fetched || m_weeks.Holds(*punch->start) || Crosses(*punch, m_weeks.first); });
         for (const PunchGroup& group : OverlappingPunches(near)) {
             AddGroup(FindingKind::Overlap, group, OverlapText);
         }
@@ -221,9 +233,7 @@ private:
 
     void CheckWeeks()
     {
-        std::vector<const Punch*> inWeeks;
-        std::copy_if(m_all.begin(), m_all.end(), std::back_inserter(inWeeks),
-                     [this](const Punch* punch) { return m_weeks.Holds(*punch->start); });
+        const auto inWeeks = Where([this](const Punch* punch) { return m_weeks.Holds(*punch->start); });
         m_found.weeks = WeeksOf(DaysOf(inWeeks), m_card.employee, m_limits.firstWeekday);
         for (const WorkWeek& week : m_found.weeks) {
             if (week.Above40() > week.paidAsOvertime) {
@@ -237,7 +247,7 @@ private:
         }
     }
 
-    static Finding FindingOf(FindingKind kind, const std::vector<const Punch*>& punches, std::int64_t minutes, std::string text)
+    static Finding FindingOf(FindingKind kind, std::span<const Punch* const> punches, std::int64_t minutes, std::string text)
     {
         Finding finding{kind, {}, minutes, punches.front()->start, {}, std::move(text)};
         for (const Punch* punch : punches) {
@@ -252,7 +262,13 @@ private:
     void AddShift(FindingKind kind, const Punch& punch)
     {
         m_found.clockedIn = m_found.clockedIn || kind == FindingKind::ClockedIn;
-        Add(FindingOf(kind, {&punch}, punch.Minutes(), ShiftText(kind, punch, m_limits.longShiftHours)));
+        AddOne(kind, punch, ShiftText(kind, punch, m_limits.longShiftHours));
+    }
+
+    void AddOne(FindingKind kind, const Punch& punch, std::string text)
+    {
+        const Punch* const one = &punch;
+        Add(FindingOf(kind, {&one, 1}, punch.Minutes(), std::move(text)));
     }
 
     void Add(Finding finding)

@@ -48,7 +48,8 @@ private:
     void Begin(std::int64_t end)
     {
         Keep();
-        m_group = {};
+        m_group.punches.clear();
+        m_group.minutes = 0;
         m_latestEnd = end;
         m_countedUntil = std::numeric_limits<std::int64_t>::min();
     }
@@ -68,7 +69,7 @@ private:
 
 } // namespace
 
-std::vector<PunchGroup> OverlappingPunches(const std::vector<const Punch*>& punches)
+std::vector<PunchGroup> OverlappingPunches(std::span<const Punch* const> punches)
 {
     OverlapSweep sweep;
     for (const Punch* punch : punches) {
@@ -79,7 +80,7 @@ std::vector<PunchGroup> OverlappingPunches(const std::vector<const Punch*>& punc
     return sweep.Finish();
 }
 
-std::vector<PunchGroup> SameStartPunches(const std::vector<const Punch*>& punches)
+std::vector<PunchGroup> SameStartPunches(std::span<const Punch* const> punches)
 {
     std::vector<PunchGroup> groups;
     for (auto first = punches.begin(); first != punches.end();) {

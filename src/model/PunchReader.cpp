@@ -102,7 +102,8 @@ PunchReader::PunchReader(CJetDB& database, const PayPeriod& period, std::int32_t
     }
     m_starting = Prepare(database, punchsql::kStarting, period);
     m_starting->Bind("first", DayBefore(WeekStart(period.from, firstWeekday)));
-    m_starting->Bind("last", LastSecond(WeekLast(period.to, firstWeekday)));
+    // A shift without length at the card's last moment is on the card, though it begins behind the period and perhaps its weeks.
+    m_starting->Bind("last", std::max(LastSecond(WeekLast(period.to, firstWeekday)), EndOfDay(period.to)));
     m_unusual = Prepare(database, punchsql::kUnusual, period);
 }
 

@@ -1,6 +1,7 @@
 #include "model/WorkWeeks.h"
 
 #include "model/CEmployee.h"
+#include "model/CTimeRecord.h"
 #include "platform/Text.h"
 
 #include <algorithm>
@@ -41,8 +42,7 @@ DateTime EndOfDay(DateTime day)
 
 std::string HoursText(std::int64_t minutes)
 {
-    constexpr double kMinutesPerHour = 60.0;
-    return TwoDecimals(static_cast<float>(static_cast<double>(minutes) / kMinutesPerHour));
+    return TwoDecimals(HoursOf(minutes));
 }
 
 DateTime WeekStart(DateTime day, std::int32_t firstWeekday)
@@ -55,16 +55,19 @@ DateTime WeekLast(DateTime day, std::int32_t firstWeekday)
     return Midnight(std::min(WeekStartNumber(day.DayNumber(), firstWeekday) + kDaysPerWeek - 1, kLastDay));
 }
 
-std::vector<WorkDay> DaysOf(const std::vector<const Punch*>& punches)
+std::vector<WorkDay> DaysOf(std::span<const Punch* const> punches)
 {
     std::vector<WorkDay> days;
-    for (const Punch* punch : punches) {
-        const DateTime day = Midnight(punch->start->DayNumber());
-        if (days.empty() || days.back().day != day) {
-            days.push_back({day, 0, {}});
+    days.reserve(punches.size());
+    for (auto first = punches.begin(); first != punches.end();) {
+        const std::int64_t day = (*first)->start->DayNumber();
+        auto last = first;
+        std::int64_t minutes = 0;
+        for (; last != punches.end() && (*last)->start->DayNumber() == day; ++last) {
+            minutes += (*last)->Minutes();
         }
-        days.back().minutes += punch->Minutes();
-        days.back().shifts.push_back(punch);
+        days.push_back({Midnight(day), minutes, {first, last}});
+        first = last;
     }
     return days;
 }

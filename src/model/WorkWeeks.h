@@ -5,6 +5,7 @@
 #include "platform/DateTime.h"
 
 #include <cstdint>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -30,7 +31,7 @@ struct WorkDay
 {
     DateTime day;             // midnight
     std::int64_t minutes = 0; // before the automatic deduction
-    std::vector<const Punch*> shifts;
+    std::span<const Punch* const> shifts;
 };
 
 // The midnight after a day; at the calendar's end, which has none, its last second.
@@ -43,8 +44,8 @@ std::string HoursText(std::int64_t minutes);
 DateTime WeekStart(DateTime day, std::int32_t firstWeekday);
 DateTime WeekLast(DateTime day, std::int32_t firstWeekday); // the week's last day
 
-// The days on which a shift starts, in order. The punches stand by start, all of them readable, and outlive the answer.
-std::vector<WorkDay> DaysOf(const std::vector<const Punch*>& punches);
+// The days on which a shift starts, in order; their shifts are parts of `punches`, which stand by start, all of them readable.
+std::vector<WorkDay> DaysOf(std::span<const Punch* const> punches);
 
 // What is left of a day's minutes after the automatic deduction, where the employee has it; can be below 0.
 std::int64_t PaidMinutes(const WorkDay& day, const CEmployee& employee);

@@ -2,7 +2,7 @@
 
 #include "model/CEmployeeList.h"
 #include "model/CTimeCalculator.h"
-#include "model/CTimeRecordList.h"
+#include "model/CTimeRecord.h"
 #include "model/PunchReader.h"
 #include "office/DecimalSum.h"
 #include "platform/Text.h"
@@ -12,25 +12,23 @@ namespace ptk {
 
 namespace {
 
-// The records of the card in its order.
-CTimeRecordList RecordsOf(const Punches& punches)
+// The shifts of the card in its order.
+std::vector<WorkedShift> ShiftsOf(const Punches& punches)
 {
-    CTimeRecordList list;
+    std::vector<WorkedShift> shifts;
+    shifts.reserve(punches.size());
     for (const Punch& punch : punches) {
         if (punch.fetched) {
-            auto record = std::make_shared<CTimeRecord>();
-            record->StartTime(*punch.start);
-            record->EndTime(*punch.end);
-            list.Insert(std::move(record), list.Count() + 1);
+            shifts.push_back({*punch.start, HoursOf(punch.Minutes())});
         }
     }
-    return list;
+    return shifts;
 }
 
 std::optional<CardFigures> FiguresOf(const CEmployee& employee, const Punches& punches)
 {
     CTimeCalculator calculator;
-    if (!calculator.CalculateTimes(employee, RecordsOf(punches))) {
+    if (!calculator.CalculateTimes(employee, ShiftsOf(punches))) {
         return std::nullopt;
     }
     const float pay = calculator.CalculatePay(employee.PayRate(), employee.OvertimePayRate());
