@@ -7,6 +7,7 @@
 #include "startup/CController.h"
 #include "startup/Notices.h"
 #include "ui/dialogs/FAbout.h"
+#include "ui/PageFrame.h"
 #include "ui/pages/CompanyPage.h"
 #include "ui/pages/EmployeePage.h"
 #include "ui/pages/OptionsPage.h"
@@ -19,9 +20,7 @@
 
 #include <array>
 #include <QCloseEvent>
-#include <QGroupBox>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QShortcut>
 #include <QThread>
 
@@ -97,21 +96,11 @@ void FController::BuildPages()
     AddPage(5, m_optionsPage = new OptionsPage(*this));
 }
 
-// A page scrolls where the screen is too small for it, so that nothing is ever cut off.
 void FController::AddPage(int index, QWidget* page)
 {
     const Tab& tab = TabAt(index);
-    auto* frame = new QGroupBox(tab.pageCaption);
+    auto* frame = new PageFrame(tab.pageCaption, page);
     frame->setObjectName(QString("FrameArray(%1)").arg(index));
-    auto* scroll = new QScrollArea;
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setWidgetResizable(true);
-    scroll->setFocusPolicy(Qt::NoFocus);
-    scroll->setWidget(page);
-    for (QWidget* inside : {scroll->viewport(), page}) {
-        inside->setAutoFillBackground(false); // the frame's own background shows through
-    }
-    (new QVBoxLayout(frame))->addWidget(scroll);
     m_ui->pages->addWidget(frame);
     m_ui->TabStrip->addTab(ThemeIcon(tab.icon), tab.caption);
 }

@@ -226,6 +226,21 @@ TEST_F(MainWindowTest, ClosedInTheMiddleOfADialogItClosesTheDialogFirst)
     QTRY_VERIFY(program.ended == 1);
 }
 
+TEST_F(MainWindowTest, ActionsStayInSightAtTheSmallestSize)
+{
+    Main().resize(1, 1);
+    for (int tab = 1; tab <= 5; ++tab) {
+        ClickTab(Main(), tab);
+        QCoreApplication::processEvents();
+        const auto actions = Find(Main(), QString("FrameArray(%1)").arg(tab)).findChildren<QPushButton*>({}, Qt::FindDirectChildrenOnly);
+        EXPECT_GE(actions.size(), tab == 2 ? 1 : 2) << tab;
+        for (const QPushButton* action : actions) {
+            EXPECT_EQ(action->visibleRegion().boundingRect(), action->rect()) << action->objectName().toStdString();
+            EXPECT_GE(action->width(), action->sizeHint().width()) << action->objectName().toStdString();
+        }
+    }
+}
+
 TEST_F(MainWindowTest, RemembersItsSize)
 {
     Main().resize(1000, 690);
