@@ -61,6 +61,7 @@ Answer QtDesktop::MessageBox(const std::string& text, const std::string& title, 
     box.setTextFormat(Qt::PlainText);
     box.setText(QString::fromStdString(text));
     if (buttons == Buttons::YesNo) {
+        box.setDefaultButton(QMessageBox::No); // whoever presses Enter without reading loses nothing
         box.setEscapeButton(QMessageBox::No);
     }
     return ToAnswer(box.exec());
