@@ -1,5 +1,6 @@
 // ptk-admin: the windows over the start-up.
 #include "platform/Clock.h"
+#include "platform/Process.h"
 #include "platform/ProgramFolder.h"
 #include "shell/CError.h"
 #include "startup/AdminMain.h"
@@ -7,20 +8,45 @@
 #include "ui/QtWindowFactory.h"
 
 #include <algorithm>
+#include <cstdio>
 #include <cstdlib>
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QWidget>
+#include <string_view>
 
 namespace {
 
-// What an event handler lets through is shown, and the program goes on.
+constexpr auto kFolderOption = "program-folder";
+
+bool IsAnyWindowShown()
+{
+    const auto windows = QApplication::topLevelWidgets();
+    return std::any_of(windows.begin(), windows.end(), [](const QWidget* window) { return window->isVisible(); });
+}
+
+// What an event handler lets through is shown, and the program goes on. It ends when no window is left to be seen, however the last one
+// went: Qt's own rule does not count one that was hidden before it was closed.
 class AdminApplication final : public QApplication
 {
 public:
-    AdminApplication(int& argc, char** argv, ptk::Desktop& desktop) : QApplication(argc, argv), m_desktop(desktop) {}
+    AdminApplication(int& argc, char** argv, ptk::Desktop& desktop) : QApplication(argc, argv), m_desktop(desktop)
+    {
+        setQuitOnLastWindowClosed(false);
+    }
 
     bool notify(QObject* receiver, QEvent* event) override
+    {
+        const bool hides = event->type() == QEvent::Hide && receiver->isWidgetType() && static_cast<QWidget*>(receiver)->isWindow();
+        const bool handled = Deliver(receiver, event);
+        if (hides) {
+            QMetaObject::invokeMethod(this, &AdminApplication::EndWithoutWindows, Qt::QueuedConnection);
+        }
+        return handled;
+    }
+
+private:
+    bool Deliver(QObject* receiver, QEvent* event)
     {
         try {
             return QApplication::notify(receiver, event);
@@ -30,7 +56,6 @@ public:
         }
     }
 
-private:
     // One box at a time: a failure to paint would otherwise bring up the next while the first is open.
     void ShowFailure()
     {
@@ -42,25 +67,60 @@ private:
         m_showing = false;
     }
 
+    static void EndWithoutWindows()
+    {
+        if (!IsAnyWindowShown()) {
+            exit(EXIT_SUCCESS);
+        }
+    }
+
     ptk::Desktop& m_desktop;
     bool m_showing = false;
 };
 
-std::string ProgramFolderOption(const QApplication& application)
+void DescribeOptions(QCommandLineParser& parser)
 {
-    QCommandLineParser parser;
     parser.setApplicationDescription("Keeps companies and employees, corrects time records, pays and reports.");
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.addOption({"program-folder", "Work beside the data in DIR instead of the program's own folder.", "DIR"});
-    parser.process(application);
-    return parser.value("program-folder").toStdString();
+    parser.addOption({kFolderOption, "Work beside the data in DIR instead of the program's own folder.", "DIR"});
 }
 
-bool IsAnyWindowShown()
+// The help and the version are there for those without a display, too. Does not return where they are asked for.
+void AnswerWithoutDisplay(int argc, char** argv)
 {
-    const auto windows = QApplication::topLevelWidgets();
-    return std::any_of(windows.begin(), windows.end(), [](const QWidget* window) { return window->isVisible(); });
+    const auto asked = [&](std::initializer_list<std::string_view> words) {
+        return std::find_first_of(argv, argv + argc, words.begin(), words.end()) != argv + argc;
+    };
+    const bool version = asked({"-v", "--version"});
+    if (!version && !asked({"-h", "--help", "--help-all"})) {
+        return;
+    }
+    const QCoreApplication application(argc, argv);
+    QCommandLineParser parser;
+    DescribeOptions(parser);
+    parser.parse(QCoreApplication::arguments());
+    if (version) {
+        parser.showVersion();
+    }
+    parser.showHelp();
+}
+
+// Without a display Qt ends the process by a core dump; a start that failed has a status.
+void EndFailedStart(QtMsgType type, const QMessageLogContext& context, const QString& text)
+{
+    std::fputs(qPrintable(qFormatLogMessage(type, context, text) + '\n'), stderr);
+    if (type == QtFatalMsg) {
+        std::_Exit(EXIT_FAILURE);
+    }
+}
+
+std::string ProgramFolderOption(const QApplication& application)
+{
+    QCommandLineParser parser;
+    DescribeOptions(parser);
+    parser.process(application);
+    return parser.value(kFolderOption).toStdString();
 }
 
 int Run(const QApplication& application, ptk::Desktop& desktop)
@@ -68,15 +128,11 @@ int Run(const QApplication& application, ptk::Desktop& desktop)
     const std::string folder = ptk::FindProgramFolder(ProgramFolderOption(application));
     const ptk::SystemClock clock;
     ptk::QtWindowFactory windows(folder, desktop, clock);
-    ptk::AdminMain admin(folder, desktop, clock, windows, [] { std::_Exit(EXIT_SUCCESS); });
-
-    // Between the login and the main window there is no window, and the program must not take that for its end.
-    QApplication::setQuitOnLastWindowClosed(false);
+    ptk::AdminMain admin(folder, desktop, clock, windows, [](int status) { std::_Exit(status); });
     admin.Start();
     if (!IsAnyWindowShown()) {
-        return EXIT_SUCCESS; // the start-up has told why by then
+        return EXIT_FAILURE; // the start-up has told why by then
     }
-    QApplication::setQuitOnLastWindowClosed(true);
     return QApplication::exec();
 }
 
@@ -84,11 +140,15 @@ int Run(const QApplication& application, ptk::Desktop& desktop)
 
 int main(int argc, char** argv)
 {
-    QApplication::setOrganizationName("PTK");
-    QApplication::setApplicationName("ptk-admin");
-    QApplication::setApplicationVersion("1.0");
+    ptk::SettleProcess();
+    QCoreApplication::setOrganizationName("PTK");
+    QCoreApplication::setApplicationName("ptk-admin");
+    QCoreApplication::setApplicationVersion("1.0");
     QApplication::setDesktopFileName("ptk-admin");
+    AnswerWithoutDisplay(argc, argv);
     ptk::QtDesktop desktop;
+    qInstallMessageHandler(EndFailedStart);
     const AdminApplication application(argc, argv, desktop);
+    qInstallMessageHandler(nullptr);
     return Run(application, desktop);
 }

@@ -1,6 +1,7 @@
 #include "console/ConsoleFixture.h"
 
 #include "store/CJetDB.h"
+#include "support/Hardship.h"
 
 #include <filesystem>
 
@@ -134,12 +135,13 @@ TEST_F(ReportCommandTest, AnUnreadableRecordIsNamedAndWhomItLeavesOut)
 
 TEST_F(ReportCommandTest, AFileThatCannotBeWrittenWholeIsAFailure)
 {
-    std::filesystem::create_symlink("/dev/full", Folder() / "reports" / "phone_book.txt");
-    const Answer full = Run({"report", "phonebook"});
-    EXPECT_EQ(full.status, 1);
-    EXPECT_EQ(full.err, Written({"phone_book.txt"}) +
-                            "ptk-console: 702: a line of the report could not be written to its file: Employee Phone Book\n");
-
+    {
+        const FullDisk disk(100);
+        const Answer full = Run({"report", "phonebook"});
+        EXPECT_EQ(full.status, 1);
+        EXPECT_EQ(full.err, "ptk-console: 702: a line of the report could not be written to its file: Employee Phone Book\n");
+        EXPECT_TRUE(std::filesystem::is_empty(Folder() / "reports"));
+    }
     std::filesystem::remove_all(Folder() / "reports");
     const Answer missing = Run({"report", "employees"});
     EXPECT_EQ(missing.status, 1);
