@@ -232,7 +232,8 @@ TEST_F(MainWindowTest, ActionsStayInSightAtTheSmallestSize)
     for (int tab = 1; tab <= 5; ++tab) {
         ClickTab(Main(), tab);
         QCoreApplication::processEvents();
-        const auto actions = Find(Main(), QString("FrameArray(%1)").arg(tab)).findChildren<QPushButton*>({}, Qt::FindDirectChildrenOnly);
+        const auto actions =
+            Find(Main(), QString("FrameArray(%1)").arg(tab)).findChildren<QPushButton*>(QString(), Qt::FindDirectChildrenOnly);
         EXPECT_GE(actions.size(), tab == 2 ? 1 : 2) << tab;
         for (const QPushButton* action : actions) {
             EXPECT_EQ(action->visibleRegion().boundingRect(), action->rect()) << action->objectName().toStdString();
