@@ -11,6 +11,7 @@
 #include "ui/pages/PageHost.h"
 #include "ui/widgets/ChosenOnly.h"
 #include "ui/widgets/EmployeeModels.h"
+#include "ui/widgets/FoldingRow.h"
 #include "ui_CardChoice.h"
 
 namespace ptk {
@@ -33,9 +34,10 @@ DateTime ChosenDate(const DateCombo& box)
 
 } // namespace
 
-CardChoice::CardChoice(PageHost& host, QWidget* parent) : FoldingRow(parent), m_host(host), m_ui(std::make_unique<Ui::CardChoice>())
+CardChoice::CardChoice(PageHost& host, QWidget* parent) : QWidget(parent), m_host(host), m_ui(std::make_unique<Ui::CardChoice>())
 {
     m_ui->setupUi(this);
+    LayOut();
     m_ui->dttbTCFrom->SetClock(host.Clock());
     m_ui->dttbTCTo->SetClock(host.Clock());
     QComboBox* box = m_ui->cboTCEmployeeName;
@@ -46,6 +48,14 @@ CardChoice::CardChoice(PageHost& host, QWidget* parent) : FoldingRow(parent), m_
 }
 
 CardChoice::~CardChoice() = default;
+
+void CardChoice::LayOut()
+{
+    delete layout();
+    auto* row = new FoldingRow(this);
+    row->addWidget(m_ui->Frame1);
+    row->addWidget(m_ui->Frame2, 1);
+}
 
 void CardChoice::ConnectBoxes()
 {

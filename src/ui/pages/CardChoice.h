@@ -3,11 +3,10 @@
 
 #include "model/PayPeriod.h"
 #include "office/CardTexts.h"
-#include "ui/widgets/FoldingRow.h"
 
 #include <cstdint>
 #include <memory>
-#include <optional>
+#include <QWidget>
 #include <string>
 
 namespace Ui {
@@ -18,7 +17,7 @@ namespace ptk {
 
 class PageHost;
 
-class CardChoice final : public FoldingRow
+class CardChoice final : public QWidget
 {
     Q_OBJECT
 
@@ -43,6 +42,7 @@ signals:
     void Changed();        // any text of the boxes, by whatever means
 
 private:
+    void LayOut();
     void ConnectBoxes();
     bool AlignPeriodEnd();
     bool MovePayPeriod(std::int16_t direction); // raises what the calculation raises
