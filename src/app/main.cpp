@@ -3,14 +3,14 @@
 #include "platform/ProgramFolder.h"
 #include "shell/CError.h"
 #include "startup/AdminMain.h"
+#include "ui/LastWindow.h"
 #include "ui/QtDesktop.h"
 #include "ui/QtWindowFactory.h"
 
-#include <algorithm>
 #include <cstdlib>
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QWidget>
+#include <utility>
 
 namespace {
 
@@ -57,12 +57,6 @@ std::string ProgramFolderOption(const QApplication& application)
     return parser.value("program-folder").toStdString();
 }
 
-bool IsAnyWindowShown()
-{
-    const auto windows = QApplication::topLevelWidgets();
-    return std::any_of(windows.begin(), windows.end(), [](const QWidget* window) { return window->isVisible(); });
-}
-
 int Run(const QApplication& application, ptk::Desktop& desktop)
 {
     const std::string folder = ptk::FindProgramFolder(ProgramFolderOption(application));
@@ -73,10 +67,10 @@ int Run(const QApplication& application, ptk::Desktop& desktop)
     // Between the login and the main window there is no window, and the program must not take that for its end.
     QApplication::setQuitOnLastWindowClosed(false);
     admin.Start();
-    if (!IsAnyWindowShown()) {
+    if (!ptk::IsAnyWindowShown()) {
         return EXIT_SUCCESS; // the start-up has told why by then
     }
-    QApplication::setQuitOnLastWindowClosed(true);
+    const ptk::LastWindow last([] { QApplication::exit(); });
     return QApplication::exec();
 }
 

@@ -8,6 +8,8 @@ namespace ptk {
 
 namespace {
 
+constexpr QSize kFrame(16, 48); // pixels that window managers take for borders and title, generously
+
 QString Key(const QString& name)
 {
     return "windows/" + name;
@@ -18,7 +20,7 @@ QString Key(const QString& name)
 void RestorePlace(QWidget& window, const QString& name, QSize first)
 {
     if (!window.restoreGeometry(QSettings().value(Key(name)).toByteArray())) {
-        window.resize(first.boundedTo(window.screen()->availableSize()));
+        window.resize(first.boundedTo(window.screen()->availableSize() - kFrame));
     }
 }
 
