@@ -25,9 +25,9 @@ std::string DescribeRun(const ReportRun& run)
     if (run.wanted == 0) {
         return "Nobody is selected";
     }
-    const std::string written = OutOf(run.done - run.failed, run.wanted) + " written";
-    const std::string failed = run.failed == 0 ? "" : fmt::format(", {} failed", run.failed);
-    return (run.done < run.wanted ? "Cancelled: " : "") + written + failed;
+    const std::string cancelled = run.done < run.wanted ? "Cancelled: " : "";
+    const std::string whole = OutOf(run.done - run.failed, run.wanted);
+    return cancelled + (run.failed == 0 ? whole + " written" : fmt::format("{} complete, {} failed", whole, run.failed));
 }
 
 std::string DescribeReport(std::int32_t errorNumber, const ReportRun& people)

@@ -50,6 +50,9 @@ void WindowMenu::PrintAll()
     while (printed < open.size() && open[printed]->Print()) {
         ++printed;
     }
+    if (printed < open.size()) {
+        open[printed]->BringUp(); // its line says why
+    }
     emit Done(QString::fromStdString(DescribePrinting(static_cast<int>(printed), static_cast<int>(open.size()))));
 }
 

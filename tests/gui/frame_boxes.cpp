@@ -61,7 +61,7 @@ TEST_F(RealBoxesTest, AFailureAmongReportsCanBeReadAndStopsNoOther)
     Click(Main(), "cmdGenerate");
     EXPECT_EQ(program->desktop.Take().size(), 1U);
     EXPECT_EQ(Viewers(), 3);
-    EXPECT_EQ(Line(), "2 of 3 reports written, 1 failed");
+    EXPECT_EQ(Line(), "2 of 3 reports complete, 1 failed");
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
@@ -72,7 +72,7 @@ TEST_F(RealBoxesTest, ACancelledRunTellsHowFarItCame)
     const KeyPresses keys({{"QMessageBox", Qt::Key_Return}, {"ptk::GenerationProgress", Qt::Key_Escape}});
     Click(Main(), "cmdGenerate");
     EXPECT_LT(Viewers(), 401);
-    EXPECT_EQ(Line(), QString("Cancelled: %1 of 401 reports written, 1 failed").arg(Viewers() - 1));
+    EXPECT_EQ(Line(), QString("Cancelled: %1 of 401 reports complete, 1 failed").arg(Viewers() - 1));
 }
 
 TEST_F(RealBoxesTest, AQuestionThatIsHurriedPastChangesNothing)
@@ -117,7 +117,7 @@ TEST_F(RealBoxesTest, APaydayTakesFiveKeys)
     press(Qt::Key_Left, Qt::AltModifier);
     press(Qt::Key_A, Qt::AltModifier);
     press(Qt::Key_Return, Qt::NoModifier);
-    EXPECT_EQ(Line(), "7 of 8 reports written, 1 failed");
+    EXPECT_EQ(Line(), "7 of 8 reports complete, 1 failed");
     EXPECT_EQ(Viewers(), 8);
     press(Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(Line(), "8 reports printed");

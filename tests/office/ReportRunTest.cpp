@@ -16,10 +16,10 @@ TEST(ReportRunTest, TellsHowManyOfHowMany)
     for (const Case& c : {Case{{0, 0, 0}, "Nobody is selected"},
                           {{1, 1, 0}, "1 report written"},
                           {{3, 3, 0}, "3 reports written"},
-                          {{1, 1, 1}, "0 of 1 report written, 1 failed"},
-                          {{3, 3, 2}, "1 of 3 reports written, 2 failed"},
+                          {{1, 1, 1}, "0 of 1 report complete, 1 failed"},
+                          {{3, 3, 2}, "1 of 3 reports complete, 2 failed"},
                           {{11, 3, 0}, "Cancelled: 3 of 11 reports written"},
-                          {{11, 3, 1}, "Cancelled: 2 of 11 reports written, 1 failed"},
+                          {{11, 3, 1}, "Cancelled: 2 of 11 reports complete, 1 failed"},
                           {{2, 0, 0}, "Cancelled: 0 of 2 reports written"}}) {
         EXPECT_EQ(DescribeRun(c.run), c.told);
     }

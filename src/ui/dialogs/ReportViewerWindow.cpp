@@ -152,10 +152,10 @@ void ReportViewerWindow::Place()
 {
     RestorePlace(*this, objectName(), FirstSize());
     m_placed = size();
-    const QRect room = screen()->availableGeometry();
+    const QRect room = RoomFor(*this);
     for (int tries = 0; tries < 100 && StandsOnAnother(*this); ++tries) {
         const QRect next = frameGeometry().translated(kCascadeStep, kCascadeStep);
-        move(room.contains(next) ? next.topLeft() : QPoint(std::min(next.left(), room.right() - kCascadeStep), room.top()));
+        move(next.right() > room.right() ? room.left() : next.left(), next.bottom() > room.bottom() ? room.top() : next.top());
     }
 }
 

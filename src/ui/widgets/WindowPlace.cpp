@@ -17,10 +17,16 @@ QString Key(const QString& name)
 
 } // namespace
 
+QRect RoomFor(const QWidget& window)
+{
+    const QRect screen = window.screen()->availableGeometry();
+    return {screen.topLeft(), screen.size() - kFrame};
+}
+
 void RestorePlace(QWidget& window, const QString& name, QSize first)
 {
     if (!window.restoreGeometry(QSettings().value(Key(name)).toByteArray())) {
-        window.resize(first.boundedTo(window.screen()->availableSize() - kFrame));
+        window.resize(first.boundedTo(RoomFor(window).size()));
     }
 }
 
