@@ -151,6 +151,11 @@ void TimeCardPage::EnablePrint()
     m_ui->cmdTCPrint->setEnabled(true);
 }
 
+PeriodTexts TimeCardPage::Period() const
+{
+    return {m_ui->dttbTCFrom->Text().toStdString(), m_ui->dttbTCTo->Text().toStdString()};
+}
+
 void TimeCardPage::Generate()
 {
     if (!RefreshTimeCard()) {

@@ -26,6 +26,7 @@ class FAutoFill;
 class FTimeEditor;
 class PageHost;
 struct Notice;
+struct PeriodTexts;
 
 // The card is the main window's current one. Every change to a record is stored at once and followed by a fresh generation; moving to
 // another period or employee clears the display but keeps the card, which is then marked as not the one that the boxes name.
@@ -41,6 +42,7 @@ public:
     bool ClearTimeCardDisplay(); // always true
     void SelectFirstEmployee();
     void EnablePrint();
+    PeriodTexts Period() const; // as the boxes show it
 
     bool ReturnTimeRecord(const std::shared_ptr<CTimeRecord>& thetimerecord) override;
 
