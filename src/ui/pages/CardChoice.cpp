@@ -127,9 +127,15 @@ void CardChoice::Period(PayPeriod value)
     m_ui->dttbTCTo->SetDate(value.to);
 }
 
+ptk::PeriodTexts CardChoice::PeriodTexts() const
+{
+    return {m_ui->dttbTCFrom->Text().toStdString(), m_ui->dttbTCTo->Text().toStdString()};
+}
+
 std::string CardChoice::PeriodText() const
 {
-    return (m_ui->dttbTCFrom->Text() + " - " + m_ui->dttbTCTo->Text()).toStdString();
+    const auto [from, to] = PeriodTexts();
+    return from + " - " + to;
 }
 
 std::string CardChoice::EmployeeText() const

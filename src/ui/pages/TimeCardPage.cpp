@@ -153,7 +153,7 @@ void TimeCardPage::EnablePrint()
 
 PeriodTexts TimeCardPage::Period() const
 {
-    return {m_ui->dttbTCFrom->Text().toStdString(), m_ui->dttbTCTo->Text().toStdString()};
+    return m_choice->PeriodTexts();
 }
 
 void TimeCardPage::Generate()
