@@ -55,7 +55,7 @@ void SetUsable(QWidget& control, bool usable, const char* reason)
 ReportsPage::ReportsPage(PageHost& host, QWidget* parent) : QWidget(parent), m_host(host), m_ui(std::make_unique<Ui::ReportsPage>())
 {
     m_ui->setupUi(this);
-    m_ui->lstEmployees->setModel(host.EmployeeModels().Offered());
+    ShowEmployees(*m_ui->lstEmployees, host.EmployeeModels().Offered());
     m_ui->cboFromDate->SetClock(host.Clock());
     m_ui->cboToDate->SetClock(host.Clock());
     m_ui->cmdGenerate->setEnabled(false);

@@ -25,7 +25,6 @@
 #include "ui/widgets/EmployeeModels.h"
 #include "ui_TimeCardPage.h"
 
-#include <QCompleter>
 #include <QShortcut>
 
 namespace ptk {
@@ -63,8 +62,7 @@ TimeCardPage::TimeCardPage(PageHost& host, QWidget* parent)
     m_ui->setupUi(this);
     m_ui->dttbTCFrom->SetClock(host.Clock());
     m_ui->dttbTCTo->SetClock(host.Clock());
-    ShowColumn(*m_ui->cboTCEmployeeName, host.EmployeeModels().Offered(), 0, kNameCharacters);
-    m_ui->cboTCEmployeeName->completer()->setCompletionMode(QCompleter::InlineCompletion); // only names of the list make sense here
+    ShowEmployees(*m_ui->cboTCEmployeeName, host.EmployeeModels().Offered(), kNameCharacters);
     ChooseByTyping(*m_ui->cboTCEmployeeName);
     m_ui->cmdFill->setToolTip(kNothingToFill);
     PrepareGrid();
