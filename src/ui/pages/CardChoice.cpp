@@ -41,7 +41,7 @@ CardChoice::CardChoice(PageHost& host, QWidget* parent) : QWidget(parent), m_hos
     m_ui->dttbTCFrom->SetClock(host.Clock());
     m_ui->dttbTCTo->SetClock(host.Clock());
     QComboBox* box = m_ui->cboTCEmployeeName;
-    ShowColumn(*box, host.EmployeeModels().Offered(), 0, kNameCharacters);
+    ShowEmployees(*box, host.EmployeeModels().Offered(), kNameCharacters);
     ChooseByTyping(*box);
     box->setMaximumWidth(box->sizeHint().width() + (kMostNameCharacters - kNameCharacters) * box->fontMetrics().averageCharWidth());
     ConnectBoxes();

@@ -66,7 +66,7 @@ void SetUsable(QWidget& control, bool usable, const char* reason, const char* us
 ReportsPage::ReportsPage(PageHost& host, QWidget* parent) : QWidget(parent), m_host(host), m_ui(std::make_unique<Ui::ReportsPage>())
 {
     m_ui->setupUi(this);
-    m_ui->lstEmployees->setModel(host.EmployeeModels().Offered());
+    ShowEmployees(*m_ui->lstEmployees, host.EmployeeModels().Offered());
     m_ui->lstEmployees->setMaximumWidth(kNameCharacters * fontMetrics().averageCharWidth());
     m_ui->cboFromDate->SetClock(host.Clock());
     m_ui->cboToDate->SetClock(host.Clock());
