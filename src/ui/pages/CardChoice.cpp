@@ -41,7 +41,7 @@ CardChoice::CardChoice(PageHost& host, QWidget* parent) : QWidget(parent), m_hos
     m_ui->dttbTCFrom->SetClock(host.Clock());
     m_ui->dttbTCTo->SetClock(host.Clock());
     QComboBox* box = m_ui->cboTCEmployeeName;
-    ShowColumn(*box, host.EmployeeModels().Offered(), 0, kNameCharacters);
+    ShowEmployees(*box, host.EmployeeModels().Offered(), kNameCharacters);
     ChooseByTyping(*box);
     box->setMaximumWidth(box->sizeHint().width() + (kMostNameCharacters - kNameCharacters) * box->fontMetrics().averageCharWidth());
     ConnectBoxes();
@@ -127,9 +127,15 @@ void CardChoice::Period(PayPeriod value)
     m_ui->dttbTCTo->SetDate(value.to);
 }
 
+ptk::PeriodTexts CardChoice::PeriodTexts() const
+{
+    return {m_ui->dttbTCFrom->Text().toStdString(), m_ui->dttbTCTo->Text().toStdString()};
+}
+
 std::string CardChoice::PeriodText() const
 {
-    return (m_ui->dttbTCFrom->Text() + " - " + m_ui->dttbTCTo->Text()).toStdString();
+    const auto [from, to] = PeriodTexts();
+    return from + " - " + to;
 }
 
 std::string CardChoice::EmployeeText() const

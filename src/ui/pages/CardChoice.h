@@ -16,6 +16,7 @@ class CardChoice;
 namespace ptk {
 
 class PageHost;
+struct PeriodTexts;
 
 class CardChoice final : public QWidget
 {
@@ -28,7 +29,8 @@ public:
     bool InitializePayPeriod(); // starts it today; false when its length cannot be had, the end is then left alone
     PayPeriod Period() const;   // raises Failure 13 when a box holds no date
     void Period(PayPeriod value);
-    std::string PeriodText() const; // as the boxes show it
+    ptk::PeriodTexts PeriodTexts() const; // as the boxes show it
+    std::string PeriodText() const;       // both in one
 
     std::string EmployeeText() const; // as it stands in the box
     CardName Chosen() const;          // the employee is empty while the box holds nobody's name

@@ -67,11 +67,7 @@ void TimeCardPage::ConnectChoice()
     connect(m_choice, &CardChoice::Stepped, this, &TimeCardPage::TurnToChosenEmployee);
     connect(m_choice, &CardChoice::EmployeeChosen, this, &TimeCardPage::ChooseEmployee);
     connect(m_card, &CurrentCard::Rebuilt, this, &TimeCardPage::EnableFill);
-    connect(m_host.EmployeeModels().Offered(), &QAbstractItemModel::modelReset, this, [this] {
-        if (const auto card = m_host.TimeCard(); card != nullptr && card->Employee() != nullptr) {
-            m_card->RenewFor(card->Employee()->EmployeeID());
-        }
-    });
+    connect(&m_host.EmployeeModels(), &EmployeeModels::Saved, m_card, &CurrentCard::RenewFor);
 }
 
 void TimeCardPage::ConnectActions()
@@ -150,6 +146,11 @@ void TimeCardPage::ShowStatus()
 void TimeCardPage::EnablePrint()
 {
     m_ui->cmdTCPrint->setEnabled(true);
+}
+
+PeriodTexts TimeCardPage::Period() const
+{
+    return m_choice->PeriodTexts();
 }
 
 void TimeCardPage::Generate()

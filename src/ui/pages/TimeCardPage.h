@@ -27,6 +27,7 @@ class FAutoFill;
 class FTimeEditor;
 class PageHost;
 struct Notice;
+struct PeriodTexts;
 
 // Every change to a record is stored at once and followed by a fresh generation of the card.
 class TimeCardPage final : public QWidget, public TimeRecordReceiver
@@ -41,6 +42,7 @@ public:
     bool ClearTimeCardDisplay(); // always true
     void SelectFirstEmployee();
     void EnablePrint();
+    PeriodTexts Period() const; // as the boxes show it
 
     bool ReturnTimeRecord(const std::shared_ptr<CTimeRecord>& thetimerecord) override;
 
