@@ -42,7 +42,7 @@ void TerminalViewers::Print(const std::string& text, const std::string& path)
     }
     m_printed = true;
     m_out << text;
-    m_err << "ptk-console: written: " << path << '\n';
+    m_err << "ptk-console: written: " << TerminalText(path) << '\n';
 }
 
 } // namespace ptk

@@ -60,6 +60,10 @@ public:
     void ParentWindow(ReportOwner* value) { m_parentWindow = value; } // not owned; nullptr: nobody is told of the closing
     std::string ReportName() const { return m_reportName; }
     std::int32_t ErrorNumber() const { return m_errorNumber; } // 0 = none; the last one when several things failed
+
+    // Whose part is missing from a generated report, and why, in words for its readers; empty when that is all there is to say of the number.
+    virtual std::string Missing() const { return ""; }
+
     bool PrintReport();        // hands the written file to the print spooler; tells the user when there is no such file
     bool UnloadReportWindow(); // closes the viewer and tells the parent window
 

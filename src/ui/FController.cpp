@@ -3,6 +3,7 @@
 #include "model/CCompanyList.h"
 #include "model/CEmployeeList.h"
 #include "model/CTimeCard.h"
+#include "model/PayPeriod.h"
 #include "shell/CDocLauncher.h"
 #include "startup/CController.h"
 #include "startup/Notices.h"
@@ -287,7 +288,7 @@ bool FController::SetStatusText(const std::string& name, const std::string& iden
     return true;
 }
 
-PeriodTexts FController::TimeCardPeriod() const
+PayPeriod FController::TimeCardPeriod() const
 {
     return m_timeCardPage->Period();
 }

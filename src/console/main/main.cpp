@@ -25,6 +25,7 @@ int main(int argc, char* argv[])
 {
     HoldStandardStreams();
     std::signal(SIGPIPE, SIG_IGN); // a reader that went away is a failed write, not the end of the process
+    std::signal(SIGXFSZ, SIG_IGN); // as is a file that may not grow further
     std::ios::sync_with_stdio(false);
     return ptk::RunConsole({argv + (argc > 0 ? 1 : 0), argv + argc}, ptk::SystemClock(), std::cout, std::cerr);
 }

@@ -85,6 +85,29 @@ void AddColumns(RecordSet::Builder& rows, sqlite3_stmt* statement)
 
 } // namespace
 
+// While it lives, a statement that has taken too many steps is stopped.
+class Statement::Guard
+{
+public:
+    Guard(sqlite3* database, std::int32_t& ticks, Bound bound) : m_database(database)
+    {
+        if (bound == Bound::Steps) {
+            sqlite3_progress_handler(database, kStepsInATick, Tick, &ticks);
+        }
+    }
+    ~Guard() { sqlite3_progress_handler(m_database, 0, nullptr, nullptr); }
+    Guard(const Guard&) = delete;
+    Guard& operator=(const Guard&) = delete;
+
+private:
+    static constexpr int kStepsInATick = 1'000'000;
+    static constexpr std::int32_t kMostTicks = 1000; // some ten seconds
+
+    static int Tick(void* ticks) { return ++*static_cast<std::int32_t*>(ticks) >= kMostTicks ? 1 : 0; }
+
+    sqlite3* m_database;
+};
+
 void Statement::Finalizer::operator()(sqlite3_stmt* statement) const
 {
     sqlite3_finalize(statement); // answers the failure of the last step, which was raised there
@@ -111,6 +134,13 @@ void Statement::Bind(const std::string& name, const Value& value)
     m_assigned[static_cast<std::size_t>(index) - 1] = true;
 }
 
+void Statement::Bind(std::span<const Parameter> parameters)
+{
+    for (const Parameter& parameter : parameters) {
+        Bind(parameter.name, parameter.value);
+    }
+}
+
 void Statement::RefuseMissingParameters() const
 {
     for (std::size_t i = 0; i < m_assigned.size(); ++i) {
@@ -127,7 +157,7 @@ bool Statement::Step()
         return true;
     }
     if (code != SQLITE_DONE) {
-        throw EngineFailure(code, sqlite3_errmsg(m_database));
+        throw EngineFailure(code, m_database);
     }
     return false;
 }
@@ -135,19 +165,26 @@ bool Statement::Step()
 void Statement::Rewind()
 {
     sqlite3_reset(m_statement.get()); // answers the failure of the last step, which was raised there
+    m_ticks = 0;
 }
 
-void Statement::Run()
+void Statement::RefuseUnlessAction() const
 {
     if (sqlite3_column_count(m_statement.get()) != 0) {
         throw EngineFailure(SQLITE_ERROR, "the statement only answers rows");
     }
     RefuseMissingParameters();
+}
+
+void Statement::Run()
+{
+    RefuseUnlessAction();
+    const Guard guard(m_database, m_ticks, Bound::Steps);
     Step();
     Rewind();
 }
 
-std::shared_ptr<RecordSet> Statement::ReadRows()
+std::shared_ptr<RecordSet> Statement::ReadRows(std::int32_t most, Bound bound)
 {
     sqlite3_stmt* row = m_statement.get();
     const int columns = sqlite3_column_count(row);
@@ -157,7 +194,8 @@ std::shared_ptr<RecordSet> Statement::ReadRows()
     RefuseMissingParameters();
     RecordSet::Builder rows;
     AddColumns(rows, row);
-    while (Step()) {
+    const Guard guard(m_database, m_ticks, bound);
+    for (std::int32_t count = 0; count < most && Step(); ++count) {
         for (int column = 0; column < columns; ++column) {
             AddCell(rows, row, column);
         }

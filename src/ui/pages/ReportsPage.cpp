@@ -44,6 +44,7 @@ constexpr auto kYearTip = "Year-to-date totals start on 1 January.";
 constexpr auto kEveryoneTip = "The phone book lists everyone.";
 constexpr auto kBackTip = "Previous period (Alt+Left)";
 constexpr auto kNextTip = "Next period (Alt+Right)";
+constexpr auto kNoPeriod = "The Timecards page shows no period";
 constexpr auto kSameTip = "Take the dates that the Timecards page shows";
 
 constexpr int kNameCharacters = 48; // the list is no wider than names need
@@ -195,22 +196,30 @@ void ReportsPage::StepPeriod(std::int16_t direction)
         const auto from = m_ui->cboFromDate->Date();
         const auto period = from ? StepPayPeriod(*from, PeriodLength(), direction) : std::nullopt;
         if (period) {
-            m_ui->cboFromDate->SetDate(period->from);
-            m_ui->cboToDate->SetDate(period->to);
+            ShowPeriod(*period);
         }
         return period.has_value();
     };
     if (!Succeeds(step)) {
         Say(timecardnotice::kNotMoved.text);
     }
-    ShowStatus();
 }
 
 void ReportsPage::TakeTimeCardPeriod()
 {
-    const PeriodTexts period = m_host.TimeCardPeriod();
-    m_ui->cboFromDate->SetText(QString::fromStdString(period.from));
-    m_ui->cboToDate->SetText(QString::fromStdString(period.to));
+    const auto take = [this] {
+        ShowPeriod(m_host.TimeCardPeriod());
+        return true;
+    };
+    if (!Succeeds(take)) {
+        Say(kNoPeriod);
+    }
+}
+
+void ReportsPage::ShowPeriod(const PayPeriod& period)
+{
+    m_ui->cboFromDate->SetDate(period.from);
+    m_ui->cboToDate->SetDate(period.to);
     ShowStatus();
 }
 
@@ -264,7 +273,10 @@ void ReportsPage::GenerateEach(MakeReport makeReport)
         const auto report = makeReport();
         const auto employee = employees->Item(++run.done);
         const bool generated = report->GenerateReport(Required(m_host.Controller())->PTKDatabase(), employee, FromDate(), ToDate());
-        run.failed += report->ErrorNumber() == 0 ? 0 : 1;
+        if (report->ErrorNumber() != 0) {
+            NoteFailure(run, report->Missing());
+            m_host.Log(report->ReportName() + ": " + DescribeReport(report->ErrorNumber(), report->Missing(), run));
+        }
         if (!generated) {
             ShowFailure(report->ErrorNumber(), report->ReportName());
             progress.Restart();
@@ -277,17 +289,16 @@ void ReportsPage::GenerateReview()
 {
     const auto employees = SelectedEmployees();
     ReportRun people{employees->Count()};
-    bool complete = false;
     const auto report = m_host.Reports().NewReviewReport();
-    {
-        GenerationProgress progress(this, people.wanted);
+    const bool complete = [&] {
+        GenerationProgress progress(this, people.wanted); // gone before a box opens
         report->Progress([&](std::int32_t done, std::int32_t) {
             people.done = done;
             return progress.GoOn(done);
         });
-        complete = report->GenerateReport(Required(m_host.Controller())->PTKDatabase(), employees, FromDate(), ToDate());
-        report->Progress(nullptr);
-    }
+        return report->GenerateReport(Required(m_host.Controller())->PTKDatabase(), employees, FromDate(), ToDate());
+    }();
+    report->Progress(nullptr);
     SayOutcome(*report, people);
     if (!complete) {
         ShowFailure(report->ErrorNumber(), report->ReportName());
@@ -358,7 +369,7 @@ void ReportsPage::ShowFailure(std::int32_t errorNumber, const std::string& repor
 
 void ReportsPage::SayOutcome(const Report& report, const ReportRun& people)
 {
-    const std::string outcome = DescribeReport(report.ErrorNumber(), people);
+    const std::string outcome = DescribeReport(report.ErrorNumber(), report.Missing(), people);
     if (report.ErrorNumber() != 0) {
         m_host.Log(report.ReportName() + ": " + outcome);
     }

@@ -18,6 +18,7 @@ namespace ptk {
 class PageHost;
 class Report;
 class Value;
+struct PayPeriod;
 struct ReportRun;
 
 class ReportsPage final : public QWidget
@@ -44,6 +45,7 @@ private:
     void ChangeFromDate();
     void StepPeriod(std::int16_t direction); // 1 or -1
     void TakeTimeCardPeriod();
+    void ShowPeriod(const PayPeriod& period);
     void ShowStatus();
     void ShowSelected();
 
