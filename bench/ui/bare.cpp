@@ -73,12 +73,12 @@ void BareMain(const std::string& folder)
     AddPage(tabs, employees, "Employees");
     AddPage(tabs, company, "Company");
     AddPage(tabs, options, "Options");
-    ptk::ShowColumn(*timeCards.cboTCEmployeeName, models.Offered(), 0, 14);
+    ptk::ShowEmployees(*timeCards.cboTCEmployeeName, models.Offered(), 14);
     reports.lstEmployees->setModel(models.Offered());
-    int column = 0;
-    for (auto* box : {employees.cboEmployeeID, employees.cboEmployeeName, employees.cboEmployeeSSN, employees.cboEmployeeNumber}) {
-        ptk::ShowColumn(*box, models.All(), column++, 20);
-    }
+    ptk::ShowEmployees(*employees.cboEmployeeID, models.All(ptk::EmployeeText::ID), 6);
+    ptk::ShowEmployees(*employees.cboEmployeeName, models.All(ptk::EmployeeText::Name), 10);
+    ptk::ShowEmployees(*employees.cboEmployeeSSN, models.All(ptk::EmployeeText::SSN), 10);
+    ptk::ShowEmployees(*employees.cboEmployeeNumber, models.All(ptk::EmployeeText::Number), 10);
     window.menuBar()->addMenu("File");
     window.menuBar()->addMenu("Help");
     window.statusBar()->showMessage("Timecards");

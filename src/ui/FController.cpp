@@ -3,7 +3,6 @@
 #include "model/CCompanyList.h"
 #include "model/CEmployeeList.h"
 #include "model/CTimeCard.h"
-#include "model/PayPeriod.h"
 #include "shell/CDocLauncher.h"
 #include "startup/CController.h"
 #include "startup/Notices.h"
@@ -288,7 +287,7 @@ bool FController::SetStatusText(const std::string& name, const std::string& iden
     return true;
 }
 
-PayPeriod FController::TimeCardPeriod() const
+PeriodTexts FController::TimeCardPeriod() const
 {
     return m_timeCardPage->Period();
 }

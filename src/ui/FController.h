@@ -59,7 +59,7 @@ public:
     void EventSource(std::int32_t value) override { m_eventSource = value; }
     std::shared_ptr<CTimeCard> TimeCard() const override { return m_timeCard; }
     void TimeCard(std::shared_ptr<CTimeCard> value) override { m_timeCard = std::move(value); }
-    PayPeriod TimeCardPeriod() const override;
+    PeriodTexts TimeCardPeriod() const override;
     ptk::EmployeeModels& EmployeeModels() const override { return *m_employeeModels; }
     bool FillEmployeeLists() override;
     OpenReports& Reports() const override { return *m_reports; }

@@ -113,7 +113,7 @@ public:
 
 private:
     QtWindowFactory m_windows{folder.Path(), desktop, clock};
-    AdminMain m_main{folder.Path(), desktop, clock, m_windows, [this] { ++ended; }};
+    AdminMain m_main{folder.Path(), desktop, clock, m_windows, [this](int) { ++ended; }};
 };
 
 using GuiProgram = GuiProgramOn<RecordingDesktop>;

@@ -1,6 +1,7 @@
 // From the start of the program through the login to the end of the session.
 #include "gui/GuiFixture.h"
 #include "store/BulkWriter.h"
+#include "ui/dialogs/FLogin.h"
 
 namespace ptk {
 
@@ -154,6 +155,18 @@ TEST_F(LoginTest, HidesThePasswordBehindAsterisksAndLogsInWithEnter)
         QTest::keyClick(login.windowHandle(), Qt::Key_Return);
     });
     EXPECT_TRUE(program.Main().isVisible());
+}
+
+TEST_F(LoginTest, WhatItWasNotGivenRefusesTheLogin)
+{
+    FLogin login(program.desktop);
+    TryLogin(login, "Mia Poe", "Clock 9");
+    EXPECT_EQ(program.desktop.Take(), Boxes{kInvalid}) << "no list of employees";
+
+    Start([](QDialog& window) { TryLogin(window, "Mia Poe", "Clock 9"); });
+    login.EmployeeList(program.Controller()->EmployeeList());
+    TryLogin(login, "Mia Poe", "Clock 9");
+    EXPECT_TRUE(login.LoginValid()) << "only the help's setting needs the configuration";
 }
 
 TEST_F(LoginTest, AHelpSettingThatIsNoBooleanStopsTheStart)

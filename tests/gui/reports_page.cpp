@@ -1,6 +1,5 @@
 // The Reports page over a started program: what is chosen is what is written, shown and told.
 #include "model/CEmployeeList.h"
-#include "model/PayPeriod.h"
 #include "platform/Text.h"
 #include "startup/StartupFixture.h"
 #include "store/CTimeRecSQLConverter.h"
@@ -41,7 +40,7 @@ public:
     void EventSource(std::int32_t) override {}
     std::shared_ptr<CTimeCard> TimeCard() const override { return nullptr; }
     void TimeCard(std::shared_ptr<CTimeCard>) override {}
-    PayPeriod TimeCardPeriod() const override { return {DateTime(CalendarDate{2003, 2, 18}), DateTime(CalendarDate{2003, 3, 4})}; }
+    PeriodTexts TimeCardPeriod() const override { return {"02/18/2003", "03/04/2003"}; }
     ptk::EmployeeModels& EmployeeModels() const override { return m_models; }
     bool FillEmployeeLists() override
     {

@@ -1,5 +1,6 @@
 // The viewer windows of the reports, driven as a user drives them.
 #include "reports/ReportFixture.h"
+#include "support/Hardship.h"
 #include "ui/dialogs/FReportViewers.h"
 
 #include <QtTest>
@@ -193,7 +194,7 @@ TEST_F(ReportViewersTest, NoneStandsExactlyOnAnother)
 
 TEST_F(ReportViewersTest, SaysWhenTheFileIsNotWhole)
 {
-    std::filesystem::create_symlink("/dev/full", File("employee_records.txt"));
+    const FullDisk full;
     ReportViewerWindow& viewer = OpenRecords();
     EXPECT_EQ(viewer.findChild<QLabel*>("lblNotice")->text(), "This report is not complete: error 702.");
 }

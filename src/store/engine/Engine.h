@@ -19,7 +19,7 @@ struct NewFile
 };
 
 // Failures carry the engine's primary result codes and the source "SQLite", those of the statement text's dates 13 and "PTK". After a
-// failure of a statement nothing of it is left. A statement that does not come to an end is stopped after a thousand million steps of the
+// failure of a statement nothing of it is left. A statement that does not come to an end is stopped after 400 million steps of the
 // engine, with 9; a record set that would not fit into memory with 7. Record sets outlive the engine; prepared statements do not.
 //
 // The hold: there after opening, kept by every member that reads, gone with each member that ends a transaction (committed or failed) and

@@ -11,6 +11,7 @@
 #include "ui/pages/PageHost.h"
 #include "ui/widgets/ChosenOnly.h"
 #include "ui/widgets/EmployeeModels.h"
+#include "ui/widgets/FoldingRow.h"
 #include "ui_CardChoice.h"
 
 namespace ptk {
@@ -33,19 +34,28 @@ DateTime ChosenDate(const DateCombo& box)
 
 } // namespace
 
-CardChoice::CardChoice(PageHost& host, QWidget* parent) : FoldingRow(parent), m_host(host), m_ui(std::make_unique<Ui::CardChoice>())
+CardChoice::CardChoice(PageHost& host, QWidget* parent) : QWidget(parent), m_host(host), m_ui(std::make_unique<Ui::CardChoice>())
 {
     m_ui->setupUi(this);
+    LayOut();
     m_ui->dttbTCFrom->SetClock(host.Clock());
     m_ui->dttbTCTo->SetClock(host.Clock());
     QComboBox* box = m_ui->cboTCEmployeeName;
-    ShowColumn(*box, host.EmployeeModels().Offered(), 0, kNameCharacters);
+    ShowEmployees(*box, host.EmployeeModels().Offered(), kNameCharacters);
     ChooseByTyping(*box);
     box->setMaximumWidth(box->sizeHint().width() + (kMostNameCharacters - kNameCharacters) * box->fontMetrics().averageCharWidth());
     ConnectBoxes();
 }
 
 CardChoice::~CardChoice() = default;
+
+void CardChoice::LayOut()
+{
+    delete layout();
+    auto* row = new FoldingRow(this);
+    row->addWidget(m_ui->Frame1);
+    row->addWidget(m_ui->Frame2, 1);
+}
 
 void CardChoice::ConnectBoxes()
 {
@@ -117,9 +127,15 @@ void CardChoice::Period(PayPeriod value)
     m_ui->dttbTCTo->SetDate(value.to);
 }
 
+ptk::PeriodTexts CardChoice::PeriodTexts() const
+{
+    return {m_ui->dttbTCFrom->Text().toStdString(), m_ui->dttbTCTo->Text().toStdString()};
+}
+
 std::string CardChoice::PeriodText() const
 {
-    return (m_ui->dttbTCFrom->Text() + " - " + m_ui->dttbTCTo->Text()).toStdString();
+    const auto [from, to] = PeriodTexts();
+    return from + " - " + to;
 }
 
 std::string CardChoice::EmployeeText() const

@@ -3,11 +3,10 @@
 
 #include "model/PayPeriod.h"
 #include "office/CardTexts.h"
-#include "ui/widgets/FoldingRow.h"
 
 #include <cstdint>
 #include <memory>
-#include <optional>
+#include <QWidget>
 #include <string>
 
 namespace Ui {
@@ -17,8 +16,9 @@ class CardChoice;
 namespace ptk {
 
 class PageHost;
+struct PeriodTexts;
 
-class CardChoice final : public FoldingRow
+class CardChoice final : public QWidget
 {
     Q_OBJECT
 
@@ -29,7 +29,8 @@ public:
     bool InitializePayPeriod(); // starts it today; false when its length cannot be had, the end is then left alone
     PayPeriod Period() const;   // raises Failure 13 when a box holds no date
     void Period(PayPeriod value);
-    std::string PeriodText() const; // as the boxes show it
+    ptk::PeriodTexts PeriodTexts() const; // as the boxes show it
+    std::string PeriodText() const;       // both in one
 
     std::string EmployeeText() const; // as it stands in the box
     CardName Chosen() const;          // the employee is empty while the box holds nobody's name
@@ -43,6 +44,7 @@ signals:
     void Changed();        // any text of the boxes, by whatever means
 
 private:
+    void LayOut();
     void ConnectBoxes();
     bool AlignPeriodEnd();
     bool MovePayPeriod(std::int16_t direction); // raises what the calculation raises

@@ -14,7 +14,6 @@ class Desktop;
 class DesktopWindow;
 class EmployeeModels;
 class OpenReports;
-struct PayPeriod;
 
 // Which list the user is working with while its click is handled; several pages share the one marker.
 namespace eventsource {
@@ -33,6 +32,13 @@ inline constexpr std::int32_t FillListsFailed = 221;
 inline constexpr std::int32_t ShowPageFailed = 281;
 inline constexpr std::int32_t ClearFieldsFailed = 283;
 } // namespace windowerror
+
+// What two date boxes show.
+struct PeriodTexts
+{
+    std::string from;
+    std::string to;
+};
 
 class PageHost
 {
@@ -54,7 +60,7 @@ public:
     virtual std::shared_ptr<CTimeCard> TimeCard() const = 0; // the current time card, nullptr before the first generation
     virtual void TimeCard(std::shared_ptr<CTimeCard> value) = 0;
 
-    virtual PayPeriod TimeCardPeriod() const = 0; // that the Timecards page shows; raises Failure 13 when a box there holds no date
+    virtual PeriodTexts TimeCardPeriod() const = 0; // as the Timecards page shows it
 
     virtual ptk::EmployeeModels& EmployeeModels() const = 0; // the employees behind every list and box of the window
     virtual bool FillEmployeeLists() = 0;                    // takes over the controller's employee list into all of them

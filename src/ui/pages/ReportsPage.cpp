@@ -44,7 +44,6 @@ constexpr auto kYearTip = "Year-to-date totals start on 1 January.";
 constexpr auto kEveryoneTip = "The phone book lists everyone.";
 constexpr auto kBackTip = "Previous period (Alt+Left)";
 constexpr auto kNextTip = "Next period (Alt+Right)";
-constexpr auto kNoPeriod = "The Timecards page shows no period";
 constexpr auto kSameTip = "Take the dates that the Timecards page shows";
 
 constexpr int kNameCharacters = 48; // the list is no wider than names need
@@ -67,7 +66,7 @@ void SetUsable(QWidget& control, bool usable, const char* reason, const char* us
 ReportsPage::ReportsPage(PageHost& host, QWidget* parent) : QWidget(parent), m_host(host), m_ui(std::make_unique<Ui::ReportsPage>())
 {
     m_ui->setupUi(this);
-    m_ui->lstEmployees->setModel(host.EmployeeModels().Offered());
+    ShowEmployees(*m_ui->lstEmployees, host.EmployeeModels().Offered());
     m_ui->lstEmployees->setMaximumWidth(kNameCharacters * fontMetrics().averageCharWidth());
     m_ui->cboFromDate->SetClock(host.Clock());
     m_ui->cboToDate->SetClock(host.Clock());
@@ -196,30 +195,22 @@ void ReportsPage::StepPeriod(std::int16_t direction)
         const auto from = m_ui->cboFromDate->Date();
         const auto period = from ? StepPayPeriod(*from, PeriodLength(), direction) : std::nullopt;
         if (period) {
-            ShowPeriod(*period);
+            m_ui->cboFromDate->SetDate(period->from);
+            m_ui->cboToDate->SetDate(period->to);
         }
         return period.has_value();
     };
     if (!Succeeds(step)) {
         Say(timecardnotice::kNotMoved.text);
     }
+    ShowStatus();
 }
 
 void ReportsPage::TakeTimeCardPeriod()
 {
-    const auto take = [this] {
-        ShowPeriod(m_host.TimeCardPeriod());
-        return true;
-    };
-    if (!Succeeds(take)) {
-        Say(kNoPeriod);
-    }
-}
-
-void ReportsPage::ShowPeriod(const PayPeriod& period)
-{
-    m_ui->cboFromDate->SetDate(period.from);
-    m_ui->cboToDate->SetDate(period.to);
+    const PeriodTexts period = m_host.TimeCardPeriod();
+    m_ui->cboFromDate->SetText(QString::fromStdString(period.from));
+    m_ui->cboToDate->SetText(QString::fromStdString(period.to));
     ShowStatus();
 }
 

@@ -18,7 +18,6 @@ namespace ptk {
 class PageHost;
 class Report;
 class Value;
-struct PayPeriod;
 struct ReportRun;
 
 class ReportsPage final : public QWidget
@@ -45,7 +44,6 @@ private:
     void ChangeFromDate();
     void StepPeriod(std::int16_t direction); // 1 or -1
     void TakeTimeCardPeriod();
-    void ShowPeriod(const PayPeriod& period);
     void ShowStatus();
     void ShowSelected();
 

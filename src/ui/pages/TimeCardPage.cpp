@@ -66,11 +66,7 @@ void TimeCardPage::ConnectChoice()
     connect(m_choice, &CardChoice::Stepped, this, &TimeCardPage::TurnToChosenEmployee);
     connect(m_choice, &CardChoice::EmployeeChosen, this, &TimeCardPage::ChooseEmployee);
     connect(m_choice, &CardChoice::Changed, this, &TimeCardPage::MarkCard);
-    connect(m_host.EmployeeModels().Offered(), &QAbstractItemModel::modelReset, this, [this] {
-        if (const auto card = m_host.TimeCard(); card != nullptr && card->Employee() != nullptr) {
-            RenewCardOf(card->Employee()->EmployeeID());
-        }
-    });
+    connect(&m_host.EmployeeModels(), &EmployeeModels::Saved, this, &TimeCardPage::RenewCardOf);
 }
 
 void TimeCardPage::ConnectActions()
@@ -151,9 +147,9 @@ void TimeCardPage::EnablePrint()
     m_ui->cmdTCPrint->setEnabled(true);
 }
 
-PayPeriod TimeCardPage::Period() const
+PeriodTexts TimeCardPage::Period() const
 {
-    return m_choice->Period();
+    return m_choice->PeriodTexts();
 }
 
 void TimeCardPage::Generate()

@@ -26,7 +26,7 @@ class FAutoFill;
 class FTimeEditor;
 class PageHost;
 struct Notice;
-struct PayPeriod;
+struct PeriodTexts;
 
 // The card is the main window's current one. Every change to a record is stored at once and followed by a fresh generation; moving to
 // another period or employee clears the display but keeps the card, which is then marked as not the one that the boxes name.
@@ -42,7 +42,7 @@ public:
     bool ClearTimeCardDisplay(); // always true
     void SelectFirstEmployee();
     void EnablePrint();
-    PayPeriod Period() const; // in the boxes; raises Failure 13 when one holds no date
+    PeriodTexts Period() const; // as the boxes show it
 
     bool ReturnTimeRecord(const std::shared_ptr<CTimeRecord>& thetimerecord) override;
 

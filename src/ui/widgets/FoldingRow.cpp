@@ -1,14 +1,12 @@
 #include "ui/widgets/FoldingRow.h"
 
 #include <algorithm>
-#include <QBoxLayout>
-#include <QEvent>
 
 namespace ptk {
 
 namespace {
 
-// What one item gives, for each item, and the spaces between them.
+// What each item gives, and the spaces between them.
 template <typename Length>
 int Sum(const QBoxLayout& row, Length length)
 {
@@ -41,47 +39,30 @@ int Height(const QLayoutItem& item)
 
 } // namespace
 
-QBoxLayout* FoldingRow::Row() const
+FoldingRow::FoldingRow(QWidget* parent) : QBoxLayout(LeftToRight, parent)
 {
-    return qobject_cast<QBoxLayout*>(layout());
+    setContentsMargins(0, 0, 0, 0);
 }
 
 bool FoldingRow::Folds(int width) const
 {
-    return Sum(*Row(), LeastWidth) > width;
+    return Sum(*this, LeastWidth) > width;
 }
 
-QSize FoldingRow::minimumSizeHint() const
+QSize FoldingRow::minimumSize() const
 {
-    return {Largest(*Row(), LeastWidth), Largest(*Row(), Height)};
+    return {Largest(*this, LeastWidth), Largest(*this, Height)};
 }
 
 int FoldingRow::heightForWidth(int width) const
 {
-    return Folds(width) ? Sum(*Row(), Height) : Largest(*Row(), Height);
+    return Folds(width) ? Sum(*this, Height) : Largest(*this, Height);
 }
 
-void FoldingRow::Fold()
+void FoldingRow::setGeometry(const QRect& rect)
 {
-    Row()->setDirection(Folds(width()) ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
-}
-
-// The layout would hold the widget to the width of all its widgets in a row.
-bool FoldingRow::event(QEvent* event)
-{
-    if (event->type() == QEvent::Polish) {
-        Row()->setSizeConstraint(QLayout::SetNoConstraint);
-    }
-    if (event->type() == QEvent::LayoutRequest) {
-        Fold();
-    }
-    return QWidget::event(event);
-}
-
-void FoldingRow::resizeEvent(QResizeEvent* event)
-{
-    QWidget::resizeEvent(event);
-    Fold();
+    setDirection(Folds(rect.width()) ? TopToBottom : LeftToRight);
+    QBoxLayout::setGeometry(rect);
 }
 
 } // namespace ptk

@@ -1,32 +1,26 @@
 // Widgets side by side where the width allows it, below each other where it does not.
 #pragma once
 
-#include <QWidget>
-
-class QBoxLayout;
+#include <QBoxLayout>
 
 namespace ptk {
 
-// Its layout must be a box layout of widgets; the row turns its direction. The least width is that of the widest widget alone.
-class FoldingRow : public QWidget
+// The least width is that of the widest item alone. Without margins.
+class FoldingRow final : public QBoxLayout
 {
     Q_OBJECT
 
 public:
-    using QWidget::QWidget;
+    explicit FoldingRow(QWidget* parent = nullptr);
 
-    QSize minimumSizeHint() const override;
+    QSize minimumSize() const override;
     bool hasHeightForWidth() const override { return true; }
     int heightForWidth(int width) const override;
-
-protected:
-    bool event(QEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
+    int minimumHeightForWidth(int width) const override { return heightForWidth(width); }
+    void setGeometry(const QRect& rect) override;
 
 private:
-    QBoxLayout* Row() const;
     bool Folds(int width) const;
-    void Fold();
 };
 
 } // namespace ptk
