@@ -39,7 +39,7 @@ int CreateDatabaseCommand(const CreateDatabaseArguments& arguments, Console& con
     } else {
         CreateDatabase(path);
     }
-    console.out << "created: " << path << '\n';
+    console.out << "created: " << TerminalText(path) << '\n';
     return status::Done;
 }
 

@@ -36,6 +36,17 @@ std::vector<char*> Pointers(std::vector<std::string>& arguments)
     return pointers;
 }
 
+// The signals that this program ignores are not the child's to ignore.
+void DefaultSignals(posix_spawnattr_t& attributes)
+{
+    sigset_t signals;
+    sigemptyset(&signals);
+    sigaddset(&signals, SIGPIPE);
+    sigaddset(&signals, SIGXFSZ);
+    posix_spawnattr_setsigdefault(&attributes, &signals);
+    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGDEF);
+}
+
 // The child's process number, or none when the program cannot be run. Its output would only disturb the caller's terminal.
 std::optional<pid_t> Spawn(std::vector<std::string> arguments)
 {
@@ -44,8 +55,12 @@ std::optional<pid_t> Spawn(std::vector<std::string> arguments)
     posix_spawn_file_actions_addopen(&actions, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
     posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
     posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
+    posix_spawnattr_t attributes;
+    posix_spawnattr_init(&attributes);
+    DefaultSignals(attributes);
     pid_t child = -1;
-    const int error = posix_spawnp(&child, arguments.front().c_str(), &actions, nullptr, Pointers(arguments).data(), environ);
+    const int error = posix_spawnp(&child, arguments.front().c_str(), &actions, &attributes, Pointers(arguments).data(), environ);
+    posix_spawnattr_destroy(&attributes);
     posix_spawn_file_actions_destroy(&actions);
     return error == 0 ? std::optional(child) : std::nullopt;
 }

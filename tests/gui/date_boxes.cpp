@@ -86,6 +86,7 @@ class DateTimeBoxTest : public testing::Test
 protected:
     DateTimeBoxTest()
     {
+        box.show();
         QObject::connect(&box, &DateTimeBox::Changed, [this] { ++changes; });
         QObject::connect(&box, &DateTimeBox::KeyEntered, [this] { ++keys; });
     }
@@ -97,6 +98,7 @@ protected:
     std::string Leave()
     {
         QTest::keyClick(&box, Qt::Key_Return);
+        QCoreApplication::processEvents(); // it tells when the key is done with
         return box.text().toStdString();
     }
 

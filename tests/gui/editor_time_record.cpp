@@ -114,6 +114,7 @@ TEST_F(TimeEditorTest, UnreadableTextsAreToldAndTheRecordGoesBackAllTheSame)
     const auto record = Show({{2003, 2, 3}, {8, 0, 0}}, {{2003, 2, 3}, {16, 0, 0}});
     Type(Box("dttbStartTime"), "9");
     Type(Box("dttbEndTime"), "late");
+    QCoreApplication::processEvents();
     EXPECT_EQ(desktop.Take(), std::vector{kWrongDate});
     EXPECT_EQ(Box("dttbEndTime").text(), "late");
     Click(editor, "cmdSave");

@@ -5,6 +5,8 @@
 #include "ui/widgets/DateTimeBox.h"
 #include "ui/widgets/NoticeLine.h"
 
+#include <gmock/gmock.h>
+
 namespace ptk {
 
 namespace {
@@ -79,6 +81,19 @@ TEST_F(MainWindowTest, TheFirstClickOnTheFirstTabNamesIt)
     EXPECT_EQ(StatusText(Main()), "Timecards");
 }
 
+TEST_F(MainWindowTest, OtherButtonsAndKeysTurnPagesAsTheyShould)
+{
+    auto& strip = Find<QTabBar>(Main(), "TabStrip");
+    for (const auto button : {Qt::RightButton, Qt::MiddleButton}) {
+        QTest::mouseClick(&strip, button, {}, strip.tabRect(3).center());
+        EXPECT_TRUE(IsShown(1)) << "only a left click turns the page";
+    }
+    QTest::keyClick(Main().windowHandle(), Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_TRUE(IsShown(5));
+    QTest::keyClick(Main().windowHandle(), Qt::Key_Tab, Qt::ControlModifier);
+    EXPECT_TRUE(IsShown(1));
+}
+
 TEST_F(MainWindowTest, WithoutAControllerItComesUpEmpty)
 {
     FController bare(program.folder.Path(), program.desktop, program.clock);
@@ -106,8 +121,12 @@ TEST_F(MainWindowTest, OpensTheGuideAndTellsOnlyWhenItIsMissing)
     EXPECT_EQ(program.desktop.Take(), Boxes());
     guide.trigger();
     EXPECT_EQ(program.desktop.Take(), Boxes{kNoGuide});
+    auto& line = *Find(Main(), "FrameArray(1)").findChild<QLabel*>("lblNotice");
+    EXPECT_EQ(line.text(), "");
     guide.trigger();
     EXPECT_EQ(program.desktop.Take(), Boxes());
+    EXPECT_EQ(line.text(), "The user's guide could not be opened: no program for it took it.");
+    EXPECT_THAT(ReadBytes(program.logPath), testing::HasSubstr(line.text().toStdString()));
     const ShellRequest request{ShellVerb::Open, program.folder.Path() + "/documentation/PTKAdminUserGuide.doc"};
     EXPECT_EQ(program.desktop.requests, (std::vector<ShellRequest>(3, request)));
 }
@@ -196,7 +215,49 @@ TEST_F(MainWindowTest, ClosedInTheMiddleOfADialogItClosesTheDialogFirst)
         });
         Find<QAction>(main, "mnuHelpAbout").trigger();
     }
-    QTRY_VERIFY(program.ended == 1);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return program.ended == 1; }));
+}
+
+TEST_F(MainWindowTest, TheWindowMenuHoldsTheOpenReports)
+{
+    ClickTab(Main(), 2);
+    Find<QComboBox>(Main(), "cboReports").setCurrentText("Phone Book");
+    Click(Main(), "cmdGenerate");
+    Find<QComboBox>(Main(), "cboReports").setCurrentText("Employee Records");
+    Click(Main(), "cmdGenerate");
+    auto& menu = Find<QMenu>(Main(), "mnuWindow");
+    const auto lines = [&menu] {
+        emit menu.aboutToShow();
+        QStringList texts;
+        for (const QAction* action : menu.actions()) {
+            texts << action->text();
+        }
+        return texts;
+    };
+    EXPECT_EQ(lines(), QStringList({"&Print All", "&Close All", "", "&1 Employee Phone Book", "&2 Employee Records"}));
+    auto& line = *Find(Main(), "FrameArray(2)").findChild<QLabel*>("lblNotice");
+    program.desktop.shellCodes = {ShellSuccess + 1, ShellNoProgram};
+    Find<QAction>(Main(), "mnuWindowPrintAll").trigger();
+    EXPECT_EQ(line.text(), "1 of 2 reports printed, the next one was refused");
+    EXPECT_EQ(lines().mid(3), QStringList("&1 Employee Records"));
+    Find<QAction>(Main(), "mnuWindowCloseAll").trigger();
+    EXPECT_EQ(lines().mid(3), QStringList("No report is open"));
+}
+
+TEST_F(MainWindowTest, ActionsStayInSightAtTheSmallestSize)
+{
+    Main().resize(1, 1);
+    for (int tab = 1; tab <= 5; ++tab) {
+        ClickTab(Main(), tab);
+        QCoreApplication::processEvents();
+        const auto actions =
+            Find(Main(), QString("FrameArray(%1)").arg(tab)).findChildren<QPushButton*>(QString(), Qt::FindDirectChildrenOnly);
+        EXPECT_GE(actions.size(), tab == 2 ? 1 : 2) << tab;
+        for (const QPushButton* action : actions) {
+            EXPECT_EQ(action->visibleRegion().boundingRect(), action->rect()) << action->objectName().toStdString();
+            EXPECT_GE(action->width(), action->sizeHint().width()) << action->objectName().toStdString();
+        }
+    }
 }
 
 TEST_F(MainWindowTest, RemembersItsSize)

@@ -2,11 +2,18 @@
 
 #include "platform/Failure.h"
 #include "platform/Text.h"
+#include "store/engine/StoredDate.h"
 
 #include <bit>
-#include <limits>
+#include <fmt/format.h>
 
 namespace ptk {
+
+namespace {
+
+constexpr std::size_t kLongestShown = 60; // bytes of a text
+
+}
 
 void RecordSet::MoveFirst()
 {
@@ -135,6 +142,32 @@ std::string_view RecordSet::TextAt(std::size_t column) const
         throw Failure(failure::TypeMismatch);
     }
     return TextOf(cell);
+}
+
+std::string RecordSet::Shown(std::size_t column) const
+{
+    const Cell& cell = At(column);
+    switch (cell.kind) {
+    case Kind::Null:
+        return "NULL";
+    case Kind::Integer:
+        return std::to_string(cell.content);
+    case Kind::Real:
+        return fmt::format("{}", std::bit_cast<double>(cell.content));
+    case Kind::DateTime:
+        return '"' + StoredText(DateTime::FromSeconds(cell.content)) + '"';
+    case Kind::Text:
+        return '"' + std::string(TextOf(cell).substr(0, kLongestShown)) + (cell.size > kLongestShown ? "...\"" : "\"");
+    case Kind::Binary:
+        break;
+    }
+    return "a value of bytes";
+}
+
+bool RecordSet::HasStoredDate(std::size_t column) const
+{
+    const Cell& cell = At(column);
+    return cell.kind == Kind::DateTime || (cell.kind == Kind::Text && FromStoredText(TextOf(cell)).has_value());
 }
 
 } // namespace ptk

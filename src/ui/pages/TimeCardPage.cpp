@@ -5,27 +5,21 @@
 #include "model/CTimeCard.h"
 #include "model/CTimeRecord.h"
 #include "model/CTimeRecordList.h"
-#include "model/PayPeriod.h"
 #include "office/CardRecords.h"
 #include "office/TimeCardNotices.h"
 #include "platform/BusyPointer.h"
-#include "platform/Clock.h"
 #include "platform/Desktop.h"
 #include "platform/Required.h"
 #include "platform/Succeeds.h"
-#include "platform/Text.h"
 #include "startup/CController.h"
 #include "store/CSystemOptions.h"
 #include "ui/dialogs/FAutoFill.h"
 #include "ui/dialogs/FTimeEditor.h"
 #include "ui/OpenReports.h"
+#include "ui/pages/CardChoice.h"
 #include "ui/pages/PageHost.h"
-#include "ui/pages/TimeRecordGridModel.h"
-#include "ui/widgets/ChosenOnly.h"
 #include "ui/widgets/EmployeeModels.h"
 #include "ui_TimeCardPage.h"
-
-#include <QShortcut>
 
 namespace ptk {
 
@@ -35,73 +29,44 @@ using namespace timecardnotice;
 
 constexpr auto kStatusName = "Timecards";
 constexpr auto kNothingToFill = "Generate a time card first.";
-constexpr int kNameCharacters = 14;
-constexpr int kRowSpace = 8; // pixels around the text of a row
-constexpr std::int16_t kBack = -1;
-constexpr std::int16_t kNext = 1;
 
-DateTime ChosenDate(const DateCombo& box)
-{
-    const auto date = box.Date();
-    if (!date) {
-        throw Failure(failure::TypeMismatch);
-    }
-    return *date;
-}
+constexpr auto kTryAgain = "Try again";
+constexpr auto kRecordNotSaved = "Record not saved";
+constexpr auto kRecordNotDeleted = "Record not deleted";
+constexpr auto kRecordsNotFilled = "Records not filled in";
+constexpr auto kNothingFilled = "No records were filled in";
+constexpr auto kNoEditor = "The record cannot be edited now";
+constexpr auto kNoAutoFill = "Auto Fill needs an employee of the list and two dates";
+constexpr auto kNotPrinted = "The card was not printed";
 
-QString Figure(float value)
+QString Line(const std::string& text)
 {
-    return QString::fromStdString(TwoDecimals(value));
+    return QString::fromStdString(text);
 }
 
 } // namespace
 
+// The choice is made first, so that Tab comes to it first.
 TimeCardPage::TimeCardPage(PageHost& host, QWidget* parent)
-    : QWidget(parent), m_host(host), m_ui(std::make_unique<Ui::TimeCardPage>()), m_records(new TimeRecordGridModel(this))
+    : QWidget(parent), m_host(host), m_ui(std::make_unique<Ui::TimeCardPage>()), m_choice(new CardChoice(host, this))
 {
     m_ui->setupUi(this);
-    m_ui->dttbTCFrom->SetClock(host.Clock());
-    m_ui->dttbTCTo->SetClock(host.Clock());
-    ShowEmployees(*m_ui->cboTCEmployeeName, host.EmployeeModels().Offered(), kNameCharacters);
-    ChooseByTyping(*m_ui->cboTCEmployeeName);
+    m_ui->layout->insertWidget(0, m_choice);
     m_ui->cmdFill->setToolTip(kNothingToFill);
-    PrepareGrid();
-    ConnectSelection();
+    ConnectChoice();
     ConnectActions();
+    MarkCard();
 }
 
 TimeCardPage::~TimeCardPage() = default;
 
-void TimeCardPage::PrepareGrid()
+void TimeCardPage::ConnectChoice()
 {
-    QTableView* grid = m_ui->grdTimeRecs;
-    grid->setModel(m_records);
-    grid->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-    grid->horizontalHeader()->setHighlightSections(false);
-    grid->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    grid->verticalHeader()->setDefaultSectionSize(grid->fontMetrics().height() + kRowSpace);
-    grid->verticalHeader()->hide();
-    const auto choose = [this] {
-        if (m_ui->grdTimeRecs->selectionModel()->hasSelection()) {
-            m_host.EventSource(eventsource::TimeRecordGrid);
-        }
-    };
-    connect(grid, &QTableView::clicked, this, choose);
-    connect(grid->selectionModel(), &QItemSelectionModel::selectionChanged, this, choose);
-}
-
-void TimeCardPage::ConnectSelection()
-{
-    connect(m_ui->dttbTCFrom, &DateCombo::Changed, this, [this] {
-        AlignPeriodEnd();
-        ShowStatus();
-    });
-    connect(m_ui->dttbTCTo, &DateCombo::Changed, this, &TimeCardPage::ShowStatus);
-    connect(m_ui->cmdPeriodBack, &QPushButton::clicked, this, [this] { StepPeriod(kBack); });
-    connect(m_ui->cmdPeriodNext, &QPushButton::clicked, this, [this] { StepPeriod(kNext); });
-    connect(m_ui->cboTCEmployeeName, &QComboBox::activated, this, &TimeCardPage::ChooseEmployee);
-    connect(m_ui->cmdTCBack, &QPushButton::clicked, this, [this] { StepEmployee(kBack); });
-    connect(m_ui->cmdTCNext, &QPushButton::clicked, this, [this] { StepEmployee(kNext); });
+    connect(m_choice, &CardChoice::PeriodTyped, this, &TimeCardPage::ShowStatus);
+    connect(m_choice, &CardChoice::Stepped, this, &TimeCardPage::TurnToChosenEmployee);
+    connect(m_choice, &CardChoice::EmployeeChosen, this, &TimeCardPage::ChooseEmployee);
+    connect(m_choice, &CardChoice::Changed, this, &TimeCardPage::MarkCard);
+    connect(&m_host.EmployeeModels(), &EmployeeModels::Saved, this, &TimeCardPage::RenewCardOf);
 }
 
 void TimeCardPage::ConnectActions()
@@ -109,11 +74,11 @@ void TimeCardPage::ConnectActions()
     connect(m_ui->cmdGenTimeRecs, &QPushButton::clicked, this, &TimeCardPage::Generate);
     connect(m_ui->cmdTCNew, &QPushButton::clicked, this, &TimeCardPage::NewRecord);
     connect(m_ui->cmdTCEdit, &QPushButton::clicked, this, &TimeCardPage::EditRecord);
-    connect(m_ui->grdTimeRecs, &QTableView::doubleClicked, this, &TimeCardPage::EditRecord);
+    connect(m_ui->display, &CardDisplay::EditAsked, this, &TimeCardPage::EditRecord);
     connect(m_ui->cmdTCDelete, &QPushButton::clicked, this, &TimeCardPage::DeleteRecord);
-    auto* deleteKey = new QShortcut(QKeySequence::Delete, m_ui->grdTimeRecs, nullptr, nullptr, Qt::WidgetShortcut);
-    connect(deleteKey, &QShortcut::activated, this, &TimeCardPage::DeleteRecord);
-    connect(m_ui->cmdFill, &QPushButton::clicked, this, &TimeCardPage::AutoFill);
+    connect(m_ui->display, &CardDisplay::DeleteAsked, this, &TimeCardPage::DeleteRecord);
+    connect(m_ui->display, &CardDisplay::RowChosen, this, [this] { m_host.EventSource(eventsource::TimeRecordGrid); });
+    connect(m_ui->cmdFill, &QPushButton::clicked, this, [this] { AutoFill({}); });
     connect(m_ui->cmdTCPrint, &QPushButton::clicked, this, &TimeCardPage::Print);
 }
 
@@ -124,86 +89,67 @@ void TimeCardPage::showEvent(QShowEvent* event)
     if (m_host.EventSource() != eventsource::TimeRecordGrid) {
         ForgetChosenRecord();
     }
+    if (!std::exchange(m_seen, true)) {
+        m_choice->FocusEmployee();
+    }
 }
 
 bool TimeCardPage::InitializePayPeriod()
 {
-    m_ui->dttbTCFrom->SetDate(m_host.Clock().Today());
-    return AlignPeriodEnd();
-}
-
-bool TimeCardPage::AlignPeriodEnd()
-{
-    return Succeeds([this] {
-        m_ui->dttbTCTo->SetDate(PayPeriodFrom(ChosenDate(*m_ui->dttbTCFrom), PeriodLength()).to);
-        return true;
-    });
-}
-
-bool TimeCardPage::MovePayPeriod(std::int16_t direction)
-{
-    const auto period = StepPayPeriod(ChosenDate(*m_ui->dttbTCFrom), PeriodLength(), direction);
-    if (!period) {
-        return false;
-    }
-    m_ui->dttbTCFrom->SetDate(period->from);
-    m_ui->dttbTCTo->SetDate(period->to);
-    return true;
-}
-
-void TimeCardPage::StepPeriod(std::int16_t direction)
-{
-    if (!Succeeds([&] { return MovePayPeriod(direction); })) {
-        Tell(m_host.Desktop(), kNotMoved);
-    }
-    TurnToChosenEmployee();
-}
-
-void TimeCardPage::StepEmployee(int direction)
-{
-    QComboBox* box = m_ui->cboTCEmployeeName;
-    const int next = box->currentIndex() + direction;
-    if (next >= 0 && next < box->count()) {
-        box->setCurrentIndex(next);
-    }
-    TurnToChosenEmployee();
+    return m_choice->InitializePayPeriod();
 }
 
 void TimeCardPage::SelectFirstEmployee()
 {
-    m_ui->cboTCEmployeeName->setCurrentIndex(0);
-    ChooseEmployee();
+    m_choice->SelectFirstEmployee();
 }
 
 void TimeCardPage::ChooseEmployee()
 {
     m_host.EventSource(eventsource::Name);
-    if (!EmployeeText().empty()) {
-        m_employeeName = EmployeeText();
+    if (!m_choice->EmployeeText().empty()) {
+        m_employeeName = m_choice->EmployeeText();
         ShowStatus();
     }
     ForgetChosenRecord();
+    m_ui->notice->Clear();
 }
 
 void TimeCardPage::TurnToChosenEmployee()
 {
-    if (EmployeeText().empty()) {
+    if (m_choice->EmployeeText().empty()) {
         return;
     }
-    m_employeeName = EmployeeText();
+    m_employeeName = m_choice->EmployeeText();
     ShowStatus();
     ClearTimeCardDisplay();
+    m_ui->notice->Clear();
 }
 
 void TimeCardPage::ShowStatus()
 {
-    const QString period = m_ui->dttbTCFrom->Text() + " - " + m_ui->dttbTCTo->Text();
-    m_host.SetStatusText(kStatusName, m_employeeName + " : " + period.toStdString());
+    m_host.SetStatusText(kStatusName, m_employeeName + " : " + m_choice->PeriodText());
+}
+
+void TimeCardPage::MarkCard()
+{
+    const auto card = m_host.TimeCard();
+    const CardName chosen = m_choice->Chosen();
+    const bool shown = m_ui->display->ShowsCard();
+    const std::string strange = card == nullptr ? std::string() : StrangeCardText(NameOf(*card), shown, chosen);
+    m_ui->lblTCStrange->Say(Line(strange));
+    m_ui->display->SetStrange(shown && !strange.empty());
+    m_ui->display->SetHint(Line(NextStepText(chosen)));
 }
 
 void TimeCardPage::EnablePrint()
 {
     m_ui->cmdTCPrint->setEnabled(true);
+}
+
+PeriodTexts TimeCardPage::Period() const
+{
+    return m_choice->PeriodTexts();
 }
 
 void TimeCardPage::Generate()
@@ -213,31 +159,37 @@ void TimeCardPage::Generate()
     }
 }
 
+// After a run-time failure nothing is shown: the rows would be those of a card that is no longer the current one.
 bool TimeCardPage::RefreshTimeCard()
 {
-    return Succeeds([this] {
-        if (EmployeeText().empty()) {
+    m_ui->notice->Clear();
+    const auto refresh = [this] {
+        if (m_choice->EmployeeText().empty()) {
             Tell(m_host.Desktop(), kNoEmployeeChosen);
-        } else {
-            Regenerate();
+        } else if (Regenerate()) {
+            m_ui->notice->Say(Line(GeneratedText(*m_host.TimeCard())));
         }
         return true;
-    });
+    };
+    if (Succeeds(refresh)) {
+        return true;
+    }
+    ClearTimeCardDisplay();
+    return false;
 }
 
 bool TimeCardPage::GenerateTimeCard()
 {
     m_host.TimeCard(nullptr);
     const auto controller = Controller();
-    const auto employee = Required(controller->EmployeeList())->GetEmployeeByName(EmployeeText());
+    const auto employee = Required(controller->EmployeeList())->GetEmployeeByName(m_choice->EmployeeText());
     const auto card = std::make_shared<CTimeCard>(Required(controller->TimeRecordFactory()));
     m_host.TimeCard(card);
     card->PTKDatabase(controller->PTKDatabase());
-    const DateTime start = ChosenDate(*m_ui->dttbTCFrom);
-    const DateTime end = ChosenDate(*m_ui->dttbTCTo).AddDays(1);
+    const PayPeriod period = m_choice->Period();
     const bool generated = [&] {
         const BusyPointer busy(m_host.Desktop());
-        return card->GenerateTimecard(employee, start, end);
+        return card->GenerateTimecard(employee, period.from, period.to.AddDays(1));
     }();
     if (!generated) {
         ReportCardError(card->ErrorNumber());
@@ -254,13 +206,15 @@ void TimeCardPage::ReportCardError(std::int32_t errorNumber)
     }
 }
 
-void TimeCardPage::Regenerate()
+bool TimeCardPage::Regenerate()
 {
-    if (GenerateTimeCard()) {
+    const bool generated = GenerateTimeCard();
+    if (generated) {
         ShowTimeCard();
     } else {
         ClearTimeCardDisplay();
     }
+    return generated;
 }
 
 // What was to be saved is saved; that the card cannot be shown again is another matter.
@@ -271,75 +225,78 @@ void TimeCardPage::RegenerateAfterSave()
         return true;
     };
     if (!Succeeds(regenerate)) {
+        ClearTimeCardDisplay();
         Tell(m_host.Desktop(), kNotGenerated);
     }
+}
+
+// The shown card itself, of its own employee and period whatever the boxes say by now, without a word. Where that fails the rows stay as
+// they were read before.
+bool TimeCardPage::ReadAgain()
+{
+    const auto read = [this] {
+        const auto card = Required(m_host.TimeCard());
+        const BusyPointer busy(m_host.Desktop());
+        return card->GenerateTimecard(card->Employee(), card->StartDate(), card->EndDate());
+    };
+    if (!m_ui->display->ShowsCard() || !Succeeds(read)) {
+        return false;
+    }
+    ShowTimeCard();
+    return true;
+}
+
+// Name, rates and deductions of the employee may be others now.
+void TimeCardPage::RenewCardOf(std::int32_t employeeID)
+{
+    const auto renew = [&] {
+        const auto card = m_host.TimeCard();
+        if (card == nullptr || card->Employee() == nullptr || card->Employee()->EmployeeID() != employeeID) {
+            return true;
+        }
+        card->Employee(Required(Required(Controller()->EmployeeList())->GetEmployeeByID(employeeID)));
+        return ReadAgain();
+    };
+    if (!Succeeds(renew)) {
+        ClearTimeCardDisplay();
+    }
+    m_employeeName = m_choice->EmployeeText();
 }
 
 bool TimeCardPage::ShowTimeCard()
 {
     SetupTimeRecordGrid();
-    DisplayTimeCard();
+    m_ui->display->DisplayTimeCard(*Required(m_host.TimeCard()));
+    MarkCard();
     return false;
 }
 
 bool TimeCardPage::SetupTimeRecordGrid()
 {
-    m_records->Clear();
+    m_ui->display->SetupTimeRecordGrid();
     ForgetChosenRecord();
     m_ui->cmdFill->setEnabled(m_host.TimeCard() != nullptr);
     m_ui->cmdFill->setToolTip(m_ui->cmdFill->isEnabled() ? QString() : kNothingToFill);
     return true;
 }
 
-bool TimeCardPage::DisplayTimeCard()
-{
-    const auto card = Required(m_host.TimeCard());
-    const auto employee = Required(card->Employee());
-    const bool filled = FillTimeRecordGrid(card->TimeRecordList());
-    m_ui->txtTCHours->setText(Figure(card->RegularHoursWorked()));
-    m_ui->txtTCPayRate->setText(Figure(employee->PayRate()));
-    m_ui->txtTCOvertimeHours->setText(Figure(card->OvertimeHoursWorked()));
-    m_ui->txtTCOvertimePayRate->setText(Figure(employee->OvertimePayRate()));
-    m_ui->txtTCPeriodPay->setText(Figure(card->TotalPay()));
-    return filled;
-}
-
-bool TimeCardPage::FillTimeRecordGrid(const std::shared_ptr<CTimeRecordList>& records)
-{
-    m_records->SetRecords(*Required(records));
-    return true;
-}
-
 bool TimeCardPage::ClearTimeCardDisplay()
 {
-    for (auto* box : {m_ui->txtTCHours, m_ui->txtTCOvertimeHours, m_ui->txtTCPayRate, m_ui->txtTCOvertimePayRate, m_ui->txtTCPeriodPay}) {
-        box->clear();
-    }
+    m_ui->display->ClearFigures();
     SetupTimeRecordGrid();
+    MarkCard();
     return true;
 }
 
 void TimeCardPage::ForgetChosenRecord()
 {
-    m_ui->grdTimeRecs->clearSelection();
+    m_ui->display->ForgetChoice();
     m_host.EventSource(eventsource::None);
 }
 
-int TimeCardPage::ChosenRow() const
-{
-    const auto rows = m_ui->grdTimeRecs->selectionModel()->selectedRows();
-    return m_host.EventSource() != eventsource::TimeRecordGrid || rows.isEmpty() ? -1 : rows.first().row();
-}
-
-// The shown texts have no seconds, an editor may have changed the record since, and a report may have put other employees' records into the
-// one list that all cards share: only a record of this grid counts, else the one behind the chosen row.
 std::shared_ptr<CTimeRecord> TimeCardPage::ChosenRecord() const
 {
-    const int row = ChosenRow();
-    const auto start = ParseDateTime(m_records->Text(row, recordcolumn::Start).toStdString());
-    const auto end = ParseDateTime(m_records->Text(row, recordcolumn::End).toStdString());
-    const auto found = start && end ? Required(m_host.TimeCard())->GetTimeRecordByKey(*start, *end) : nullptr;
-    return found != nullptr && m_records->Shows(found) ? found : m_records->Record(row);
+    return m_host.EventSource() == eventsource::TimeRecordGrid ? m_ui->display->ChosenRecord() : nullptr;
 }
 
 void TimeCardPage::NewRecord()
@@ -347,8 +304,7 @@ void TimeCardPage::NewRecord()
     if (m_host.TimeCard() == nullptr) {
         return Tell(m_host.Desktop(), kNoCardForNew);
     }
-    m_editingNew = true;
-    OpenEditor(std::make_shared<CTimeRecord>());
+    OpenEditor({std::make_shared<CTimeRecord>(), true, {}});
 }
 
 void TimeCardPage::EditRecord()
@@ -356,29 +312,59 @@ void TimeCardPage::EditRecord()
     if (m_host.TimeCard() == nullptr) {
         return Tell(m_host.Desktop(), kNoCard);
     }
-    if (ChosenRow() < 0) {
+    const auto record = ChosenRecord();
+    if (record == nullptr) {
         return Tell(m_host.Desktop(), kNoneToEdit);
     }
-    m_editingNew = false;
-    OpenEditor(ChosenRecord());
+    OpenEditor({record, false, {}});
 }
 
-void TimeCardPage::OpenEditor(const std::shared_ptr<CTimeRecord>& record)
+// A record that could not be stored is again what it was, so that nobody stores it unasked later on; what was typed is offered again.
+void TimeCardPage::OpenEditor(const Editing& editing)
 {
-    Succeeds([&] {
-        const auto options = Required(Controller()->SystemOptions());
+    const auto edit = [&] {
         FTimeEditor editor(m_host.Desktop(), m_host.Clock(), this);
-        editor.TimeRecord(record);
-        editor.ParentWindow(this);
-        editor.SetAutoShiftTimes(options->AutoShiftStartTime(), options->AutoShiftEndTime());
+        const CTimeRecord before = *editing.record;
+        Prepare(editor, editing);
+        m_editingNew = editing.isNew;
+        m_refused = false;
         editor.exec();
+        if (m_refused) {
+            *editing.record = before;
+            const Editing again{editing.record, editing.isNew, editor.Texts()};
+            m_ui->notice->Offer(kRecordNotSaved, kTryAgain, [this, again] { OpenEditor(again); });
+        }
         return true;
-    });
+    };
+    if (!Succeeds(edit)) {
+        m_ui->notice->Say(kNoEditor);
+    }
+}
+
+void TimeCardPage::Prepare(FTimeEditor& editor, const Editing& editing)
+{
+    const auto options = Required(Controller()->SystemOptions());
+    editor.TimeRecord(editing.record);
+    editor.ParentWindow(this);
+    editor.SetAutoShiftTimes(options->AutoShiftStartTime(), options->AutoShiftEndTime());
+    editor.Owner(RecordOwnerText(CardEmployee(), m_choice->Chosen().employee));
+    if (editing.typed) {
+        editor.Texts(*editing.typed);
+    }
+    if (editing.isNew) {
+        std::optional<PayPeriod> period;
+        Succeeds([&] {
+            period = m_choice->Period();
+            return true;
+        });
+        editor.WarnAsNew(period);
+    }
 }
 
 bool TimeCardPage::ReturnTimeRecord(const std::shared_ptr<CTimeRecord>& thetimerecord)
 {
-    StoreAndShow([&](CTimeCard& card, CTimeRecordFactory& factory) { return StoreRecord(card, factory, thetimerecord); }, kNotStored);
+    const auto store = [&](CTimeCard& card, CTimeRecordFactory& factory) { return StoreRecord(card, factory, thetimerecord); };
+    m_refused = !StoreAndShow(store, kNotStored, "Record saved for " + CardEmployee());
     return true;
 }
 
@@ -387,64 +373,86 @@ void TimeCardPage::DeleteRecord()
     if (m_host.TimeCard() == nullptr) {
         return Tell(m_host.Desktop(), kNoCard);
     }
-    if (ChosenRow() < 0) {
+    const auto record = ChosenRecord();
+    if (record == nullptr) {
         return Tell(m_host.Desktop(), kNoneToDelete);
     }
     if (m_host.Desktop().MessageBox(kDeleteQuestion.text, kDeleteQuestion.title, kDeleteQuestion.icon, Buttons::YesNo) != Answer::Yes) {
         return;
     }
-    StoreAndShow([this](CTimeCard& card, CTimeRecordFactory& factory) { return StoreDeletion(card, factory, ChosenRecord()); },
-                 kNotDeleted);
+    const auto remove = [&](CTimeCard& card, CTimeRecordFactory& factory) { return StoreDeletion(card, factory, record); };
+    if (!StoreAndShow(remove, kNotDeleted, "Record of " + CardEmployee() + " deleted")) {
+        m_ui->notice->Say(kRecordNotDeleted);
+    }
 }
 
 // Without a card, or with a name that nobody has, there is nothing to fill.
-void TimeCardPage::AutoFill()
+void TimeCardPage::AutoFill(const std::optional<FillTexts>& typed)
 {
-    Succeeds([this] {
+    const auto fill = [&] {
         FAutoFill window(m_host.Desktop(), m_host.Clock(), this);
         HandOver(window);
-        window.exec();
+        if (typed) {
+            window.Times(*typed);
+        }
+        const std::int32_t before = Required(window.TimeRecordList())->Count();
+        const bool saved = window.exec() == QDialog::Accepted;
         if (window.OKClick()) {
-            TakeOver(window);
+            TakeOver(window, window.TimeRecordList()->Count() - before);
+        } else if (saved) {
+            m_ui->notice->Say(kNothingFilled);
         }
         return true;
-    });
+    };
+    if (!Succeeds(fill)) {
+        m_ui->notice->Say(kNoAutoFill);
+    }
 }
 
 void TimeCardPage::HandOver(FAutoFill& window)
 {
     const auto controller = Controller();
     const auto options = Required(controller->SystemOptions());
-    window.StartDate(ChosenDate(*m_ui->dttbTCFrom));
-    window.EndDate(ChosenDate(*m_ui->dttbTCTo));
+    const PayPeriod period = m_choice->Period();
+    window.StartDate(period.from);
+    window.EndDate(period.to);
     window.AutoShiftStartTime(options->AutoShiftStartTime());
     window.AutoShiftEndTime(options->AutoShiftEndTime());
-    const auto employee = Required(Required(controller->EmployeeList())->GetEmployeeByName(EmployeeText()));
+    const auto employee = Required(Required(controller->EmployeeList())->GetEmployeeByName(m_choice->EmployeeText()));
     window.EmployeeID(NarrowToInt16(employee->EmployeeID()));
     window.PeriodLength(options->PeriodLength());
     window.TimeRecordList(Required(m_host.TimeCard())->TimeRecordList());
+    const BusyPointer busy(m_host.Desktop());
+    window.Announce("For " + employee->DisplayName(), DaysWithRecords(*Required(controller->PTKDatabase()), employee->EmployeeID()));
 }
 
-void TimeCardPage::TakeOver(const FAutoFill& window)
+void TimeCardPage::TakeOver(const FAutoFill& window, std::int32_t records)
 {
-    m_ui->dttbTCFrom->SetDate(window.StartDate());
-    m_ui->dttbTCTo->SetDate(window.EndDate());
+    m_choice->Period({window.StartDate(), window.EndDate()});
     ShowStatus();
-    StoreAndShow(StoreCard, kNotFilled);
+    const FillTexts texts = window.Texts();
+    if (!StoreAndShow(StoreCard, kNotFilled, CountText(records, "record") + " filled in for " + m_choice->EmployeeText())) {
+        m_ui->notice->Offer(kRecordsNotFilled, kTryAgain, [this, texts] { AutoFill(texts); });
+    }
 }
 
 // The grid and the totals show what is in the database from then on, or the user learns that nothing has changed there.
-void TimeCardPage::StoreAndShow(const CardStep& step, const Notice& failed)
+bool TimeCardPage::StoreAndShow(const CardStep& step, const Notice& failed, const std::string& done)
 {
+    m_ui->notice->Clear();
     const auto store = [&] {
         const BusyPointer busy(m_host.Desktop());
         return step(*Required(m_host.TimeCard()), *Required(Controller()->TimeRecordFactory()));
     };
-    if (Succeeds(store)) {
+    const bool stored = Succeeds(store);
+    if (stored) {
         RegenerateAfterSave();
+        m_ui->notice->Say(Line(done));
     } else {
         Tell(m_host.Desktop(), failed);
+        ReadAgain();
     }
+    return stored;
 }
 
 void TimeCardPage::Print()
@@ -452,7 +460,7 @@ void TimeCardPage::Print()
     const auto tell = [this](std::int32_t number) {
         m_host.Desktop().Show(std::to_string(number) + " : " + kPrintText, kPrintTitle, Icon::Information);
     };
-    Succeeds([&] {
+    const auto print = [&] {
         if (!RefreshTimeCard()) {
             tell(Required(m_host.TimeCard())->ErrorNumber());
         }
@@ -461,7 +469,10 @@ void TimeCardPage::Print()
             tell(errorNumber);
         }
         return true;
-    });
+    };
+    if (!Succeeds(print)) {
+        m_ui->notice->Say(kNotPrinted);
+    }
 }
 
 std::shared_ptr<CController> TimeCardPage::Controller() const
@@ -469,14 +480,10 @@ std::shared_ptr<CController> TimeCardPage::Controller() const
     return Required(m_host.Controller());
 }
 
-std::int16_t TimeCardPage::PeriodLength() const
+std::string TimeCardPage::CardEmployee() const
 {
-    return Required(Controller()->SystemOptions())->PeriodLength();
-}
-
-std::string TimeCardPage::EmployeeText() const
-{
-    return m_ui->cboTCEmployeeName->currentText().toStdString();
+    const auto card = m_host.TimeCard();
+    return card == nullptr ? std::string() : NameOf(*card).employee;
 }
 
 } // namespace ptk

@@ -23,20 +23,25 @@ public:
     QString Text() const; // as it will be shown on leaving
     void SetText(const QString& text);
     void Clear();
+    void TakeNote() { m_unreported = false; } // the text has been read by other means: no Changed is owed for it any more
 
 signals:
-    // By the user only: on a keystroke that leaves a readable text, and on leaving or Enter when the text has become unreadable or empty
-    // since.
+    // By the user only: on a keystroke that leaves a readable text; after leaving or Enter when the text has become unreadable or empty
+    // since. The latter may be answered by a message box, so it waits for the click or key that brought it to be handled, and never comes
+    // when that hid the box's window or had the text read.
     void Changed();
     void KeyEntered(); // on every keystroke that alters the text
 
 protected:
     void focusOutEvent(QFocusEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     std::string Readable(const QString& text) const; // in display form, empty when it cannot be read
     void Type();
     void Finish();
+    void ReportSoon();
+    void Report();
 
     std::string m_format = "hh:mm:ss AM/PM";
     const Clock* m_dateClock = nullptr; // set in date mode only
