@@ -3,14 +3,11 @@
 #include "platform/Failure.h"
 #include "support/Failures.h"
 
-#include <functional>
 #include <gtest/gtest.h>
 
 namespace ptk {
 
 namespace {
-
-using Spoil = std::function<void(EmployeeTexts&)>;
 
 EmployeeTexts Ann()
 {
@@ -39,24 +36,24 @@ TEST(CheckEmployeeTextsTest, RefusesInOrder)
     EXPECT_EQ(CheckEmployeeTexts(Ann()), std::nullopt);
     EmployeeTexts texts;
     texts.id = "39"; // the administrator, with everything else missing
-    const auto refused = [&] { return CheckEmployeeTexts(texts); };
-    texts.payRate = "abc";
-    EXPECT_EQ(refused(), EmployeeRefusal::NoNumber);
-    texts.number = "5a";
-    EXPECT_EQ(refused(), EmployeeRefusal::NoName);
-    texts.name = "Boss";
-    EXPECT_EQ(refused(), EmployeeRefusal::NoSSN);
-    texts.ssn = "1";
-    EXPECT_EQ(refused(), EmployeeRefusal::WrongType);
-    texts.number = "5";
-    EXPECT_EQ(refused(), EmployeeRefusal::WrongType);
-    texts.payRate = "-1";
-    EXPECT_EQ(refused(), EmployeeRefusal::WrongType);
-    texts.payRate = "1.5";
-    texts.overtimePayRate = "1e3";
-    EXPECT_EQ(refused(), EmployeeRefusal::WrongType);
-    texts.overtimePayRate = "1.5";
-    EXPECT_EQ(refused(), EmployeeRefusal::Administrator);
+    struct Step
+    {
+        std::string EmployeeTexts::*field;
+        const char* text;
+        EmployeeRefusal refusal; // once the text is typed
+    };
+    for (const Step& step : {Step{&EmployeeTexts::payRate, "abc", EmployeeRefusal::NoNumber},
+                             {&EmployeeTexts::number, "5a", EmployeeRefusal::NoName},
+                             {&EmployeeTexts::name, "Boss", EmployeeRefusal::NoSSN},
+                             {&EmployeeTexts::ssn, "1", EmployeeRefusal::WrongType},
+                             {&EmployeeTexts::number, "5", EmployeeRefusal::WrongType},
+                             {&EmployeeTexts::payRate, "-1", EmployeeRefusal::WrongType},
+                             {&EmployeeTexts::payRate, "", EmployeeRefusal::WrongType},
+                             {&EmployeeTexts::payRate, "1.5", EmployeeRefusal::Administrator},
+                             {&EmployeeTexts::overtimePayRate, "1e3", EmployeeRefusal::WrongType}}) {
+        texts.*step.field = step.text;
+        EXPECT_EQ(CheckEmployeeTexts(texts), step.refusal) << step.text;
+    }
 }
 
 TEST(ReadEmployeeTextsTest, TakesWhatIsEmptyOrNegativeAsNone)
@@ -81,19 +78,19 @@ TEST(ReadEmployeeTextsTest, LeavesTheEmployeeAloneWhenOneTextDoesNotFit)
 {
     struct Case
     {
-        const char* name;
-        Spoil spoil;
+        std::string EmployeeTexts::*field;
+        const char* text;
         std::int32_t number;
     };
-    for (const Case& c : {Case{"minutes beyond 16 bits", [](auto& texts) { texts.lunchLength = "32768"; }, failure::Overflow},
-                          {"no minutes", [](auto& texts) { texts.breakLength = "half"; }, failure::TypeMismatch},
-                          {"no date", [](auto& texts) { texts.releaseDate = "soon"; }, failure::TypeMismatch},
-                          {"a number beyond 32 bits", [](auto& texts) { texts.number = "2147483648"; }, failure::Overflow}}) {
+    for (const Case& c : {Case{&EmployeeTexts::lunchLength, "32768", failure::Overflow},
+                          {&EmployeeTexts::breakLength, "half", failure::TypeMismatch},
+                          {&EmployeeTexts::releaseDate, "soon", failure::TypeMismatch},
+                          {&EmployeeTexts::number, "2147483648", failure::Overflow}}) {
         CEmployee ann;
         EmployeeTexts texts = Ann();
-        c.spoil(texts);
-        EXPECT_EQ(FailureOf([&] { ReadEmployeeTexts(texts, ann); }), c.number) << c.name;
-        EXPECT_EQ(ann.LastName(), "") << c.name;
+        texts.*c.field = c.text;
+        EXPECT_EQ(FailureOf([&] { ReadEmployeeTexts(texts, ann); }), c.number) << c.text;
+        EXPECT_EQ(ann.LastName(), "") << c.text;
     }
 }
 
