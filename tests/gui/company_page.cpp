@@ -33,7 +33,7 @@ class CompanyPageTest : public PageTest
 protected:
     CompanyPageTest() : PageTest(AddCompanies) { ClickTab(Main(), 4); }
 
-    QString Notice() { return Find<NoticeLine>(Find(Main(), "CompanyPage"), "notice").Text(); }
+    QString Notice() { return Find<NoticeLine>(Find(Main(), "FrameArray(4)"), "notice").Text(); }
     QString Shown()
     {
         return The<QComboBox>("cboCompanyID").currentText() + "|" + The<QComboBox>("cboCompanyName").currentText() + "|" +

@@ -74,7 +74,7 @@ protected:
         }
         return keys.join("|");
     }
-    QString Notice() { return Find<NoticeLine>(Find(Main(), "EmployeePage"), "notice").Text(); }
+    QString Notice() { return Find<NoticeLine>(Find(Main(), "FrameArray(3)"), "notice").Text(); }
     QString Pay() { return Text("txtPayRate") + " " + Text("txtOvertimePayRate"); }
     void EnterKeys(const char* number, const char* name, const char* ssn)
     {
