@@ -69,6 +69,18 @@ std::string GeneratedText(const CTimeCard& card)
     return NameOf(card).employee + "'s card generated: " + CountText(Required(card.TimeRecordList())->Count(), "record");
 }
 
+std::string UnreadText(const CTimeCard& card)
+{
+    const std::string& reason = card.LastFailure().Description();
+    return reason.empty() ? std::string() : NameOf(card).employee + "'s records could not be read: " + reason;
+}
+
+std::string RefusedText(const std::string& what, const CTimeCard& card)
+{
+    const std::string& reason = card.LastFailure().Description();
+    return reason.empty() ? what : what + ": " + reason;
+}
+
 std::string BreakTimeText(const CTimeCard& card)
 {
     CTimeCalculator calculator;

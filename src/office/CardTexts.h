@@ -33,6 +33,10 @@ std::string RecordOwnerText(const std::string& cardEmployee, const std::string& 
 std::string CountText(std::int64_t count, const std::string& thing); // "1 record", "2 records"
 std::string GeneratedText(const CTimeCard& card);                    // "Ann Lee's card generated: 12 records"
 
+// "Ann Lee's records could not be read: the database is in use by another program"; empty where there simply are none.
+std::string UnreadText(const CTimeCard& card);
+std::string RefusedText(const std::string& what, const CTimeCard& card); // "Record not saved: " and why, as far as the card knows it
+
 // "after 0:45 break time": what was taken off the hours of a generated card in all, and what follows where it exceeds them; empty when
 // nothing was.
 std::string BreakTimeText(const CTimeCard& card);

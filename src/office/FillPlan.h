@@ -25,7 +25,7 @@ struct FillTexts
 enum class FillRefusal
 {
     None,
-    NoRange, // a text that is no date, or one outside the years 1900 to 2100
+    NoRange,  // a text that is no date, or one outside the years 1900 to 2100
     TooShort, // fewer than two days, deliberately
     NoTime    // a text that is no time
 };

@@ -94,8 +94,8 @@ Answer QtDesktop::MessageBox(const std::string& text, const std::string& title, 
     QMessageBox box(ToQt(icon), QString::fromStdString(title), QString(), ToQt(buttons), Owner());
     box.setTextFormat(Qt::PlainText);
     box.setText(QString::fromStdString(text));
-    if (buttons == Buttons::YesNo) { // what is asked cannot be undone: a key pressed too fast leaves everything as it is
-        box.setDefaultButton(QMessageBox::No);
+    if (buttons == Buttons::YesNo) {
+        box.setDefaultButton(QMessageBox::No); // whoever presses Enter without reading loses nothing
         box.setEscapeButton(QMessageBox::No);
     }
     return ToAnswer(box.exec());

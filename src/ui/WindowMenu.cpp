@@ -4,6 +4,7 @@
 #include "ui/dialogs/FReportViewers.h"
 
 #include <QMenu>
+#include <QRegularExpression>
 
 namespace ptk {
 

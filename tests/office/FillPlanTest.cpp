@@ -31,7 +31,8 @@ TEST(FillPlanTest, ForetellsWhatSaveWillDo)
               "5 records, none on Saturdays and Sundays, 1 on days that already have records."},
              {{"03/03/2003", "03/04/2003", "", ""},
               2,
-              "2 records, none on Saturdays and Sundays, 1 on days that already have records. Empty times mean midnight to midnight, 0 hours."},
+              "2 records, none on Saturdays and Sundays, 1 on days that already have records. Empty times mean midnight to midnight, 0 "
+              "hours."},
              {{"03/04/2003", "03/05/2003", "22:00", ""},
               2,
               "2 records, none on Saturdays and Sundays, none on days that already have records. The empty time means midnight. They end "

@@ -38,10 +38,10 @@ public:
     std::shared_ptr<CTimeRecord> TimeRecord() const { return m_timeRecord; }
     bool SetAutoShiftTimes(DateTime thestarttime, DateTime theendtime); // only the times of day matter; deliberately always false
 
-    void Owner(const std::string& text);              // a line that says whose the record will be
-    void WarnAsNew(std::optional<PayPeriod> shown);   // warns, in a line, of a new record that the card of that period would not show
-    RecordTexts Texts() const;                        // what stands in the boxes
-    void Texts(const RecordTexts& value);             // puts it back there, unreadable texts included
+    void Owner(const std::string& text);            // a line that says whose the record will be
+    void WarnAsNew(std::optional<PayPeriod> shown); // warns, in a line, of a new record that the card of that period would not show
+    RecordTexts Texts() const;                      // what stands in the boxes
+    void Texts(const RecordTexts& value);           // puts it back there, unreadable texts included
 
 private:
     std::array<DateTimeBox*, 4> Boxes() const;

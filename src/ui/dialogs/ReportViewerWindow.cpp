@@ -1,5 +1,6 @@
 #include "ui/dialogs/ReportViewerWindow.h"
 
+#include "office/ReportRun.h"
 #include "reports/Report.h"
 #include "ui/widgets/WindowPlace.h"
 #include "ui_ReportViewerWindow.h"
@@ -22,7 +23,6 @@ namespace ptk {
 namespace {
 
 constexpr auto kNotFound = "Not found";
-constexpr auto kIncomplete = "This report is not complete: error %1.";
 constexpr auto kNotPrinted = "Not printed. Check that a printer is set up and that the report's file is still there.";
 constexpr auto kNotPrintedLog = "Not printed: %1";
 
@@ -144,8 +144,9 @@ void ReportViewerWindow::BringUp()
 // A report that lost lines answers well and would otherwise pass for whole.
 void ReportViewerWindow::ShowNotice()
 {
-    const std::int32_t error = m_controller == nullptr ? 0 : m_controller->ErrorNumber();
-    m_ui->notice->Say(error == 0 ? QString() : QString(kIncomplete).arg(error));
+    if (m_controller != nullptr) {
+        m_ui->notice->Say(QString::fromStdString(DescribeGaps(m_controller->ErrorNumber(), m_controller->Missing())));
+    }
 }
 
 void ReportViewerWindow::Place()

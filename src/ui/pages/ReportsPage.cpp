@@ -264,7 +264,10 @@ void ReportsPage::GenerateEach(MakeReport makeReport)
         const auto report = makeReport();
         const auto employee = employees->Item(++run.done);
         const bool generated = report->GenerateReport(Required(m_host.Controller())->PTKDatabase(), employee, FromDate(), ToDate());
-        run.failed += report->ErrorNumber() == 0 ? 0 : 1;
+        if (report->ErrorNumber() != 0) {
+            NoteFailure(run, report->Missing());
+            m_host.Log(report->ReportName() + ": " + DescribeReport(report->ErrorNumber(), report->Missing(), run));
+        }
         if (!generated) {
             ShowFailure(report->ErrorNumber(), report->ReportName());
             progress.Restart();
@@ -277,17 +280,16 @@ void ReportsPage::GenerateReview()
 {
     const auto employees = SelectedEmployees();
     ReportRun people{employees->Count()};
-    bool complete = false;
     const auto report = m_host.Reports().NewReviewReport();
-    {
-        GenerationProgress progress(this, people.wanted);
+    const bool complete = [&] {
+        GenerationProgress progress(this, people.wanted); // gone before a box opens
         report->Progress([&](std::int32_t done, std::int32_t) {
             people.done = done;
             return progress.GoOn(done);
         });
-        complete = report->GenerateReport(Required(m_host.Controller())->PTKDatabase(), employees, FromDate(), ToDate());
-        report->Progress(nullptr);
-    }
+        return report->GenerateReport(Required(m_host.Controller())->PTKDatabase(), employees, FromDate(), ToDate());
+    }();
+    report->Progress(nullptr);
     SayOutcome(*report, people);
     if (!complete) {
         ShowFailure(report->ErrorNumber(), report->ReportName());
@@ -358,7 +360,7 @@ void ReportsPage::ShowFailure(std::int32_t errorNumber, const std::string& repor
 
 void ReportsPage::SayOutcome(const Report& report, const ReportRun& people)
 {
-    const std::string outcome = DescribeReport(report.ErrorNumber(), people);
+    const std::string outcome = DescribeReport(report.ErrorNumber(), report.Missing(), people);
     if (report.ErrorNumber() != 0) {
         m_host.Log(report.ReportName() + ": " + outcome);
     }

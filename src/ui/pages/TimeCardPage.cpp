@@ -17,6 +17,7 @@
 #include "ui/dialogs/FTimeEditor.h"
 #include "ui/OpenReports.h"
 #include "ui/pages/CardChoice.h"
+#include "ui/pages/CurrentCard.h"
 #include "ui/pages/PageHost.h"
 #include "ui/widgets/EmployeeModels.h"
 #include "ui_TimeCardPage.h"
@@ -52,10 +53,10 @@ TimeCardPage::TimeCardPage(PageHost& host, QWidget* parent)
 {
     m_ui->setupUi(this);
     m_ui->layout->insertWidget(0, m_choice);
-    m_ui->cmdFill->setToolTip(kNothingToFill);
+    m_card = new CurrentCard(host, {*m_choice, *m_ui->lblTCStrange, *m_ui->display, *m_ui->notice}, this);
     ConnectChoice();
     ConnectActions();
-    MarkCard();
+    m_card->ClearTimeCardDisplay();
 }
 
 TimeCardPage::~TimeCardPage() = default;
@@ -65,8 +66,8 @@ void TimeCardPage::ConnectChoice()
     connect(m_choice, &CardChoice::PeriodTyped, this, &TimeCardPage::ShowStatus);
     connect(m_choice, &CardChoice::Stepped, this, &TimeCardPage::TurnToChosenEmployee);
     connect(m_choice, &CardChoice::EmployeeChosen, this, &TimeCardPage::ChooseEmployee);
-    connect(m_choice, &CardChoice::Changed, this, &TimeCardPage::MarkCard);
-    connect(&m_host.EmployeeModels(), &EmployeeModels::Saved, this, &TimeCardPage::RenewCardOf);
+    connect(m_card, &CurrentCard::Rebuilt, this, &TimeCardPage::EnableFill);
+    connect(&m_host.EmployeeModels(), &EmployeeModels::Saved, m_card, &CurrentCard::RenewFor);
 }
 
 void TimeCardPage::ConnectActions()
@@ -77,7 +78,6 @@ void TimeCardPage::ConnectActions()
     connect(m_ui->display, &CardDisplay::EditAsked, this, &TimeCardPage::EditRecord);
     connect(m_ui->cmdTCDelete, &QPushButton::clicked, this, &TimeCardPage::DeleteRecord);
     connect(m_ui->display, &CardDisplay::DeleteAsked, this, &TimeCardPage::DeleteRecord);
-    connect(m_ui->display, &CardDisplay::RowChosen, this, [this] { m_host.EventSource(eventsource::TimeRecordGrid); });
     connect(m_ui->cmdFill, &QPushButton::clicked, this, [this] { AutoFill({}); });
     connect(m_ui->cmdTCPrint, &QPushButton::clicked, this, &TimeCardPage::Print);
 }
@@ -87,7 +87,7 @@ void TimeCardPage::showEvent(QShowEvent* event)
 {
     QWidget::showEvent(event);
     if (m_host.EventSource() != eventsource::TimeRecordGrid) {
-        ForgetChosenRecord();
+        m_card->ForgetChosenRecord();
     }
     if (!std::exchange(m_seen, true)) {
         m_choice->FocusEmployee();
@@ -97,6 +97,18 @@ void TimeCardPage::showEvent(QShowEvent* event)
 bool TimeCardPage::InitializePayPeriod()
 {
     return m_choice->InitializePayPeriod();
+}
+
+bool TimeCardPage::ClearTimeCardDisplay()
+{
+    return m_card->ClearTimeCardDisplay();
+}
+
+void TimeCardPage::EnableFill()
+{
+    const bool hasCard = m_host.TimeCard() != nullptr;
+    m_ui->cmdFill->setEnabled(hasCard);
+    m_ui->cmdFill->setToolTip(hasCard ? QString() : kNothingToFill);
 }
 
 void TimeCardPage::SelectFirstEmployee()
@@ -111,7 +123,7 @@ void TimeCardPage::ChooseEmployee()
         m_employeeName = m_choice->EmployeeText();
         ShowStatus();
     }
-    ForgetChosenRecord();
+    m_card->ForgetChosenRecord();
     m_ui->notice->Clear();
 }
 
@@ -122,24 +134,13 @@ void TimeCardPage::TurnToChosenEmployee()
     }
     m_employeeName = m_choice->EmployeeText();
     ShowStatus();
-    ClearTimeCardDisplay();
+    m_card->ClearTimeCardDisplay();
     m_ui->notice->Clear();
 }
 
 void TimeCardPage::ShowStatus()
 {
     m_host.SetStatusText(kStatusName, m_employeeName + " : " + m_choice->PeriodText());
-}
-
-void TimeCardPage::MarkCard()
-{
-    const auto card = m_host.TimeCard();
-    const CardName chosen = m_choice->Chosen();
-    const bool shown = m_ui->display->ShowsCard();
-    const std::string strange = card == nullptr ? std::string() : StrangeCardText(NameOf(*card), shown, chosen);
-    m_ui->lblTCStrange->Say(Line(strange));
-    m_ui->display->SetStrange(shown && !strange.empty());
-    m_ui->display->SetHint(Line(NextStepText(chosen)));
 }
 
 void TimeCardPage::EnablePrint()
@@ -154,149 +155,9 @@ PeriodTexts TimeCardPage::Period() const
 
 void TimeCardPage::Generate()
 {
-    if (!RefreshTimeCard()) {
+    if (!m_card->RefreshTimeCard()) {
         Tell(m_host.Desktop(), kNotGenerated);
     }
-}
-
-// After a run-time failure nothing is shown: the rows would be those of a card that is no longer the current one.
-bool TimeCardPage::RefreshTimeCard()
-{
-    m_ui->notice->Clear();
-    const auto refresh = [this] {
-        if (m_choice->EmployeeText().empty()) {
-            Tell(m_host.Desktop(), kNoEmployeeChosen);
-        } else if (Regenerate()) {
-            m_ui->notice->Say(Line(GeneratedText(*m_host.TimeCard())));
-        }
-        return true;
-    };
-    if (Succeeds(refresh)) {
-        return true;
-    }
-    ClearTimeCardDisplay();
-    return false;
-}
-
-bool TimeCardPage::GenerateTimeCard()
-{
-    m_host.TimeCard(nullptr);
-    const auto controller = Controller();
-    const auto employee = Required(controller->EmployeeList())->GetEmployeeByName(m_choice->EmployeeText());
-    const auto card = std::make_shared<CTimeCard>(Required(controller->TimeRecordFactory()));
-    m_host.TimeCard(card);
-    card->PTKDatabase(controller->PTKDatabase());
-    const PayPeriod period = m_choice->Period();
-    const bool generated = [&] {
-        const BusyPointer busy(m_host.Desktop());
-        return card->GenerateTimecard(employee, period.from, period.to.AddDays(1));
-    }();
-    if (!generated) {
-        ReportCardError(card->ErrorNumber());
-    }
-    return generated;
-}
-
-void TimeCardPage::ReportCardError(std::int32_t errorNumber)
-{
-    for (const auto& error : kCardErrors) {
-        if (error.number == errorNumber) {
-            return Tell(m_host.Desktop(), error.notice);
-        }
-    }
-}
-
-bool TimeCardPage::Regenerate()
-{
-    const bool generated = GenerateTimeCard();
-    if (generated) {
-        ShowTimeCard();
-    } else {
-        ClearTimeCardDisplay();
-    }
-    return generated;
-}
-
-// What was to be saved is saved; that the card cannot be shown again is another matter.
-void TimeCardPage::RegenerateAfterSave()
-{
-    const auto regenerate = [this] {
-        Regenerate();
-        return true;
-    };
-    if (!Succeeds(regenerate)) {
-        ClearTimeCardDisplay();
-        Tell(m_host.Desktop(), kNotGenerated);
-    }
-}
-
-// The shown card itself, of its own employee and period whatever the boxes say by now, without a word. Where that fails the rows stay as
-// they were read before.
-bool TimeCardPage::ReadAgain()
-{
-    const auto read = [this] {
-        const auto card = Required(m_host.TimeCard());
-        const BusyPointer busy(m_host.Desktop());
-        return card->GenerateTimecard(card->Employee(), card->StartDate(), card->EndDate());
-    };
-    if (!m_ui->display->ShowsCard() || !Succeeds(read)) {
-        return false;
-    }
-    ShowTimeCard();
-    return true;
-}
-
-// Name, rates and deductions of the employee may be others now.
-void TimeCardPage::RenewCardOf(std::int32_t employeeID)
-{
-    const auto renew = [&] {
-        const auto card = m_host.TimeCard();
-        if (card == nullptr || card->Employee() == nullptr || card->Employee()->EmployeeID() != employeeID) {
-            return true;
-        }
-        card->Employee(Required(Required(Controller()->EmployeeList())->GetEmployeeByID(employeeID)));
-        return ReadAgain();
-    };
-    if (!Succeeds(renew)) {
-        ClearTimeCardDisplay();
-    }
-    m_employeeName = m_choice->EmployeeText();
-}
-
-bool TimeCardPage::ShowTimeCard()
-{
-    SetupTimeRecordGrid();
-    m_ui->display->DisplayTimeCard(*Required(m_host.TimeCard()));
-    MarkCard();
-    return false;
-}
-
-bool TimeCardPage::SetupTimeRecordGrid()
-{
-    m_ui->display->SetupTimeRecordGrid();
-    ForgetChosenRecord();
-    m_ui->cmdFill->setEnabled(m_host.TimeCard() != nullptr);
-    m_ui->cmdFill->setToolTip(m_ui->cmdFill->isEnabled() ? QString() : kNothingToFill);
-    return true;
-}
-
-bool TimeCardPage::ClearTimeCardDisplay()
-{
-    m_ui->display->ClearFigures();
-    SetupTimeRecordGrid();
-    MarkCard();
-    return true;
-}
-
-void TimeCardPage::ForgetChosenRecord()
-{
-    m_ui->display->ForgetChoice();
-    m_host.EventSource(eventsource::None);
-}
-
-std::shared_ptr<CTimeRecord> TimeCardPage::ChosenRecord() const
-{
-    return m_host.EventSource() == eventsource::TimeRecordGrid ? m_ui->display->ChosenRecord() : nullptr;
 }
 
 void TimeCardPage::NewRecord()
@@ -312,7 +173,7 @@ void TimeCardPage::EditRecord()
     if (m_host.TimeCard() == nullptr) {
         return Tell(m_host.Desktop(), kNoCard);
     }
-    const auto record = ChosenRecord();
+    const auto record = m_card->ChosenRecord();
     if (record == nullptr) {
         return Tell(m_host.Desktop(), kNoneToEdit);
     }
@@ -332,7 +193,7 @@ void TimeCardPage::OpenEditor(const Editing& editing)
         if (m_refused) {
             *editing.record = before;
             const Editing again{editing.record, editing.isNew, editor.Texts()};
-            m_ui->notice->Offer(kRecordNotSaved, kTryAgain, [this, again] { OpenEditor(again); });
+            OfferAgain([this, again] { OpenEditor(again); });
         }
         return true;
     };
@@ -347,7 +208,7 @@ void TimeCardPage::Prepare(FTimeEditor& editor, const Editing& editing)
     editor.TimeRecord(editing.record);
     editor.ParentWindow(this);
     editor.SetAutoShiftTimes(options->AutoShiftStartTime(), options->AutoShiftEndTime());
-    editor.Owner(RecordOwnerText(CardEmployee(), m_choice->Chosen().employee));
+    editor.Owner(RecordOwnerText(m_card->Employee(), m_choice->Chosen().employee));
     if (editing.typed) {
         editor.Texts(*editing.typed);
     }
@@ -364,7 +225,7 @@ void TimeCardPage::Prepare(FTimeEditor& editor, const Editing& editing)
 bool TimeCardPage::ReturnTimeRecord(const std::shared_ptr<CTimeRecord>& thetimerecord)
 {
     const auto store = [&](CTimeCard& card, CTimeRecordFactory& factory) { return StoreRecord(card, factory, thetimerecord); };
-    m_refused = !StoreAndShow(store, kNotStored, "Record saved for " + CardEmployee());
+    m_refused = !StoreAndShow({store, kNotStored, kRecordNotSaved, "Record saved for " + m_card->Employee()});
     return true;
 }
 
@@ -373,7 +234,7 @@ void TimeCardPage::DeleteRecord()
     if (m_host.TimeCard() == nullptr) {
         return Tell(m_host.Desktop(), kNoCard);
     }
-    const auto record = ChosenRecord();
+    const auto record = m_card->ChosenRecord();
     if (record == nullptr) {
         return Tell(m_host.Desktop(), kNoneToDelete);
     }
@@ -381,9 +242,7 @@ void TimeCardPage::DeleteRecord()
         return;
     }
     const auto remove = [&](CTimeCard& card, CTimeRecordFactory& factory) { return StoreDeletion(card, factory, record); };
-    if (!StoreAndShow(remove, kNotDeleted, "Record of " + CardEmployee() + " deleted")) {
-        m_ui->notice->Say(kRecordNotDeleted);
-    }
+    StoreAndShow({remove, kNotDeleted, kRecordNotDeleted, "Record of " + m_card->Employee() + " deleted"});
 }
 
 // Without a card, or with a name that nobody has, there is nothing to fill.
@@ -431,28 +290,38 @@ void TimeCardPage::TakeOver(const FAutoFill& window, std::int32_t records)
     m_choice->Period({window.StartDate(), window.EndDate()});
     ShowStatus();
     const FillTexts texts = window.Texts();
-    if (!StoreAndShow(StoreCard, kNotFilled, CountText(records, "record") + " filled in for " + m_choice->EmployeeText())) {
-        m_ui->notice->Offer(kRecordsNotFilled, kTryAgain, [this, texts] { AutoFill(texts); });
+    const std::string done = CountText(records, "record") + " filled in for " + m_choice->EmployeeText();
+    if (!StoreAndShow({StoreCard, kNotFilled, kRecordsNotFilled, done})) {
+        OfferAgain([this, texts] { AutoFill(texts); });
     }
 }
 
 // The grid and the totals show what is in the database from then on, or the user learns that nothing has changed there.
-bool TimeCardPage::StoreAndShow(const CardStep& step, const Notice& failed, const std::string& done)
+bool TimeCardPage::StoreAndShow(const Storing& storing)
 {
     m_ui->notice->Clear();
     const auto store = [&] {
         const BusyPointer busy(m_host.Desktop());
-        return step(*Required(m_host.TimeCard()), *Required(Controller()->TimeRecordFactory()));
+        return storing.step(*Required(m_host.TimeCard()), *Required(Controller()->TimeRecordFactory()));
     };
-    const bool stored = Succeeds(store);
-    if (stored) {
-        RegenerateAfterSave();
-        m_ui->notice->Say(Line(done));
-    } else {
-        Tell(m_host.Desktop(), failed);
-        ReadAgain();
+    if (Succeeds(store)) {
+        m_card->RegenerateAfterSave();
+        const QString trouble = m_ui->notice->Text();
+        m_ui->notice->Say(Line(storing.done) + (trouble.isEmpty() ? trouble : "; " + trouble));
+        return true;
     }
-    return stored;
+    const auto card = m_host.TimeCard();
+    const std::string refused = card == nullptr ? storing.refused : RefusedText(storing.refused, *card);
+    Tell(m_host.Desktop(), storing.failed);
+    Succeeds([this] { return m_card->ReadAgain(); });
+    m_card->Complain(refused);
+    return false;
+}
+
+// Beside what the line says already.
+void TimeCardPage::OfferAgain(const std::function<void()>& action)
+{
+    m_ui->notice->Offer(m_ui->notice->Text(), kTryAgain, action);
 }
 
 void TimeCardPage::Print()
@@ -461,7 +330,7 @@ void TimeCardPage::Print()
         m_host.Desktop().Show(std::to_string(number) + " : " + kPrintText, kPrintTitle, Icon::Information);
     };
     const auto print = [&] {
-        if (!RefreshTimeCard()) {
+        if (!m_card->RefreshTimeCard()) {
             tell(Required(m_host.TimeCard())->ErrorNumber());
         }
         std::int32_t errorNumber = 0;
@@ -478,12 +347,6 @@ void TimeCardPage::Print()
 std::shared_ptr<CController> TimeCardPage::Controller() const
 {
     return Required(m_host.Controller());
-}
-
-std::string TimeCardPage::CardEmployee() const
-{
-    const auto card = m_host.TimeCard();
-    return card == nullptr ? std::string() : NameOf(*card).employee;
 }
 
 } // namespace ptk

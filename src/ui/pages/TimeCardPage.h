@@ -22,14 +22,14 @@ class CardChoice;
 class CController;
 class CTimeCard;
 class CTimeRecordFactory;
+class CurrentCard;
 class FAutoFill;
 class FTimeEditor;
 class PageHost;
 struct Notice;
 struct PeriodTexts;
 
-// The card is the main window's current one. Every change to a record is stored at once and followed by a fresh generation; moving to
-// another period or employee clears the display but keeps the card, which is then marked as not the one that the boxes name.
+// Every change to a record is stored at once and followed by a fresh generation of the card.
 class TimeCardPage final : public QWidget, public TimeRecordReceiver
 {
     Q_OBJECT
@@ -52,6 +52,15 @@ protected:
 private:
     using CardStep = std::function<bool(CTimeCard&, CTimeRecordFactory&)>;
 
+    // A change to the card's records, and what is said of it.
+    struct Storing
+    {
+        CardStep step;
+        const Notice& failed;
+        const char* refused; // for the page's line, before the reason
+        std::string done;
+    };
+
     // A record in the editor, and what was typed for it in vain before.
     struct Editing
     {
@@ -66,20 +75,7 @@ private:
     void ChooseEmployee();
     void TurnToChosenEmployee();
     void ShowStatus();
-    void MarkCard();
-
-    bool RefreshTimeCard(); // false for any run-time failure
-    bool GenerateTimeCard();
-    bool Regenerate();
-    void RegenerateAfterSave();
-    bool ReadAgain();
-    void RenewCardOf(std::int32_t employeeID);
-    bool ShowTimeCard(); // deliberately always false; nobody looks at it
-    bool SetupTimeRecordGrid();
-    void ReportCardError(std::int32_t errorNumber);
-
-    std::shared_ptr<CTimeRecord> ChosenRecord() const; // nullptr when the user has chosen none since the grid was rebuilt
-    void ForgetChosenRecord();
+    void EnableFill();
 
     void Generate();
     void NewRecord();
@@ -92,14 +88,15 @@ private:
     void Prepare(FTimeEditor& editor, const Editing& editing);
     void HandOver(FAutoFill& window);
     void TakeOver(const FAutoFill& window, std::int32_t records);
-    bool StoreAndShow(const CardStep& step, const Notice& failed, const std::string& done);
+    bool StoreAndShow(const Storing& storing);
+    void OfferAgain(const std::function<void()>& action);
 
     std::shared_ptr<CController> Controller() const; // raises Failure 91 when there is none
-    std::string CardEmployee() const;                // display name; empty when the card is nobody's
 
     PageHost& m_host;
     std::unique_ptr<Ui::TimeCardPage> m_ui;
-    CardChoice* m_choice;       // belongs to the page's widgets
+    CardChoice* m_choice; // these two belong to the page
+    CurrentCard* m_card = nullptr;
     std::string m_employeeName; // as of the last change of employee
     bool m_editingNew = false;  // whether the editor was last opened for a new record; nothing depends on it
     bool m_refused = false;     // whether the record that the editor returned could not be stored

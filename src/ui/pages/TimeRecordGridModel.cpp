@@ -97,7 +97,8 @@ QVariant TimeRecordGridModel::data(const QModelIndex& index, int role) const
     case Qt::ForegroundRole:
         return m_faded ? QVariant(QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text)) : QVariant();
     case Qt::TextAlignmentRole:
-        return index.column() == recordcolumn::Total ? QVariant::fromValue(Qt::Alignment(Qt::AlignTrailing | Qt::AlignVCenter)) : QVariant();
+        return index.column() == recordcolumn::Total ? QVariant::fromValue(Qt::Alignment(Qt::AlignTrailing | Qt::AlignVCenter))
+                                                     : QVariant();
     default:
         return {};
     }
