@@ -209,7 +209,7 @@ TEST_F(EmployeePageTest, WhatIsLeftBehindCanBeBroughtBack)
         EXPECT_EQ(Keys(), way.after);
         EXPECT_EQ(Text("txtEmployeeCity") + The<DateCombo>("cboReleaseDate").Text(), "");
         EXPECT_EQ(Notice(), "Changes to Ann Lee were not saved");
-        Click(Find(Main(), "EmployeePage"), "cmdNotice");
+        Click(Find(Main(), "FrameArray(3)"), "cmdNotice");
         EXPECT_EQ(Keys(), "40|Ann Lee|111-11|5");
         EXPECT_EQ(Text("txtEmployeeCity") + The<DateCombo>("cboReleaseDate").Text(), "Harbor03/01/2003");
         Type(The<QLineEdit>("txtEmployeeCity"), "");
