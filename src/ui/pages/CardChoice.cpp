@@ -57,7 +57,7 @@ void CardChoice::LayOut()
     auto* button = new QVBoxLayout; // on a level with what stands in the frames
     button->addStretch();
     button->addWidget(m_ui->cmdGenTimeRecs);
-    button->addSpacing(m_ui->layoutFrame2->contentsMargins().bottom());
+    button->addSpacing(m_ui->Frame2->contentsMargins().bottom() + m_ui->layoutFrame2->contentsMargins().bottom());
     auto* employee = new QHBoxLayout;
     employee->addWidget(m_ui->Frame2, 1);
     employee->addLayout(button);
