@@ -51,8 +51,10 @@ FTimeEditor::FTimeEditor(ptk::Desktop& desktop, const Clock& clock, QWidget* par
         connect(box, &DateTimeBox::KeyEntered, this, [this] { m_modified = true; });
         connect(box, &DateTimeBox::textChanged, this, &FTimeEditor::Warn);
     }
-    connect(m_ui->dttbStartTime, &DateTimeBox::Changed, this, &FTimeEditor::UpdateTotal);
-    connect(m_ui->dttbEndTime, &DateTimeBox::Changed, this, &FTimeEditor::UpdateTotal);
+    for (auto* box : {m_ui->dttbStartTime, m_ui->dttbEndTime}) {
+        connect(box, &DateTimeBox::Typed, this, &FTimeEditor::FollowTyping);
+        connect(box, &DateTimeBox::Changed, this, &FTimeEditor::UpdateTotal);
+    }
     connect(m_ui->cmdAutoShift, &QPushButton::clicked, this, &FTimeEditor::AutoShift);
     connect(m_ui->cmdSave, &QPushButton::clicked, this, &FTimeEditor::Save);
     connect(m_ui->cmdCancel, &QPushButton::clicked, this, &FTimeEditor::reject);
@@ -108,13 +110,7 @@ void FTimeEditor::Texts(const RecordTexts& value)
     for (std::size_t i = 0; i < texts.size(); ++i) {
         Boxes().at(i)->SetText(QString::fromStdString(*texts.at(i)));
     }
-    const auto read = [this] {
-        ReadTimes();
-        return true;
-    };
-    if (Succeeds(read)) {
-        ShowTotal();
-    }
+    FollowTyping();
 }
 
 void FTimeEditor::ClearControls()
@@ -171,13 +167,29 @@ void FTimeEditor::ShowTotal()
     }
 }
 
+bool FTimeEditor::HasBothTimes() const
+{
+    return !m_ui->dttbStartTime->Text().isEmpty() && !m_ui->dttbEndTime->Text().isEmpty();
+}
+
+// Without a box, which would take the next key: what is wrong is told when the time box is left.
+void FTimeEditor::FollowTyping()
+{
+    const auto read = [this] {
+        ReadTimes();
+        return true;
+    };
+    if (HasBothTimes() && Succeeds(read)) {
+        ShowTotal();
+    }
+}
+
 void FTimeEditor::UpdateTotal()
 {
-    if (m_ui->dttbStartTime->Text().isEmpty() || m_ui->dttbEndTime->Text().isEmpty()) {
-        return;
+    if (HasBothTimes()) {
+        ReadTimeRecord();
+        ShowTotal();
     }
-    ReadTimeRecord();
-    ShowTotal();
 }
 
 void FTimeEditor::AutoShift()

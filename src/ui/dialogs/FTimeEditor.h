@@ -49,8 +49,10 @@ private:
     void ShowTimeRecord();
     bool ReadTimeRecord();
     void ReadTimes();
-    void ShowTotal();
+    bool HasBothTimes() const;
+    void FollowTyping();
     void UpdateTotal();
+    void ShowTotal();
     void Warn();
     void AutoShift();
     void Save();

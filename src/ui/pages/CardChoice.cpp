@@ -54,7 +54,14 @@ void CardChoice::LayOut()
     delete layout();
     auto* row = new FoldingRow(this);
     row->addWidget(m_ui->Frame1);
-    row->addWidget(m_ui->Frame2, 1);
+    auto* button = new QVBoxLayout; // on a level with what stands in the frames
+    button->addStretch();
+    button->addWidget(m_ui->cmdGenTimeRecs);
+    button->addSpacing(m_ui->Frame2->contentsMargins().bottom() + m_ui->layoutFrame2->contentsMargins().bottom());
+    auto* employee = new QHBoxLayout;
+    employee->addWidget(m_ui->Frame2, 1);
+    employee->addLayout(button);
+    row->addLayout(employee, 1);
 }
 
 void CardChoice::ConnectBoxes()
@@ -69,6 +76,7 @@ void CardChoice::ConnectBoxes()
     connect(m_ui->cboTCEmployeeName, &QComboBox::activated, this, &CardChoice::EmployeeChosen);
     connect(m_ui->cmdTCBack, &QPushButton::clicked, this, [this] { StepEmployee(kBack); });
     connect(m_ui->cmdTCNext, &QPushButton::clicked, this, [this] { StepEmployee(kNext); });
+    connect(m_ui->cmdGenTimeRecs, &QPushButton::clicked, this, &CardChoice::GenerateAsked);
     for (QComboBox* box : findChildren<QComboBox*>()) {
         connect(box, &QComboBox::currentTextChanged, this, &CardChoice::Changed);
     }

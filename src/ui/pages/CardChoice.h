@@ -1,4 +1,4 @@
-// What a time card is to be made of: the pay period and the employee, at the top of the Timecards page.
+// What a time card is to be made of, the pay period and the employee, and the button that makes it: the top of the Timecards page.
 #pragma once
 
 #include "model/PayPeriod.h"
@@ -41,7 +41,8 @@ signals:
     void PeriodTyped();    // or picked in a calendar; the end has followed the start by then
     void Stepped();        // by an arrow, also where there was nowhere to go
     void EmployeeChosen(); // from the list or by typing
-    void Changed();        // any text of the boxes, by whatever means
+    void GenerateAsked();
+    void Changed(); // any text of the boxes, by whatever means
 
 private:
     void LayOut();

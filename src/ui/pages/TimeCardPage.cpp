@@ -66,13 +66,13 @@ void TimeCardPage::ConnectChoice()
     connect(m_choice, &CardChoice::PeriodTyped, this, &TimeCardPage::ShowStatus);
     connect(m_choice, &CardChoice::Stepped, this, &TimeCardPage::TurnToChosenEmployee);
     connect(m_choice, &CardChoice::EmployeeChosen, this, &TimeCardPage::ChooseEmployee);
+    connect(m_choice, &CardChoice::GenerateAsked, this, &TimeCardPage::Generate);
     connect(m_card, &CurrentCard::Rebuilt, this, &TimeCardPage::EnableFill);
     connect(&m_host.EmployeeModels(), &EmployeeModels::Saved, m_card, &CurrentCard::RenewFor);
 }
 
 void TimeCardPage::ConnectActions()
 {
-    connect(m_ui->cmdGenTimeRecs, &QPushButton::clicked, this, &TimeCardPage::Generate);
     connect(m_ui->cmdTCNew, &QPushButton::clicked, this, &TimeCardPage::NewRecord);
     connect(m_ui->cmdTCEdit, &QPushButton::clicked, this, &TimeCardPage::EditRecord);
     connect(m_ui->display, &CardDisplay::EditAsked, this, &TimeCardPage::EditRecord);

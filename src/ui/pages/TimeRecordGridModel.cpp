@@ -95,7 +95,7 @@ QVariant TimeRecordGridModel::data(const QModelIndex& index, int role) const
     case Qt::DecorationRole:
         return IsStillOpen(row.shown, index.column()) ? QVariant(ThemeIcon("timecards")) : QVariant();
     case Qt::ForegroundRole:
-        return m_faded ? QVariant(QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text)) : QVariant();
+        return m_faded ? QVariant(QGuiApplication::palette().brush(QPalette::PlaceholderText)) : QVariant();
     case Qt::TextAlignmentRole:
         return index.column() == recordcolumn::Total ? QVariant::fromValue(Qt::Alignment(Qt::AlignTrailing | Qt::AlignVCenter))
                                                      : QVariant();

@@ -62,10 +62,10 @@ std::string DateTimeBox::Readable(const QString& text) const
 
 void DateTimeBox::Type()
 {
+    m_unreported = true;
     emit KeyEntered();
-    m_unreported = Readable(text()).empty();
-    if (!m_unreported) {
-        emit Changed();
+    if (!Readable(text()).empty()) {
+        emit Typed();
     }
 }
 

@@ -26,11 +26,13 @@ public:
     void TakeNote() { m_unreported = false; } // the text has been read by other means: no Changed is owed for it any more
 
 signals:
-    // By the user only: on a keystroke that leaves a readable text; after leaving or Enter when the text has become unreadable or empty
-    // since. The latter may be answered by a message box, so it waits for the click or key that brought it to be handled, and never comes
-    // when that hid the box's window or had the text read.
-    void Changed();
+    // All by the user only.
     void KeyEntered(); // on every keystroke that alters the text
+    void Typed();      // and on those that leave a readable one
+
+    // After leaving the box, or Enter in it, when it has been typed into since the last time. It may be answered by a message box, so it
+    // waits for the click or key that brought it to be handled, and never comes when that hid the box's window or had the text read.
+    void Changed();
 
 protected:
     void focusOutEvent(QFocusEvent* event) override;
@@ -45,7 +47,7 @@ private:
 
     std::string m_format = "hh:mm:ss AM/PM";
     const Clock* m_dateClock = nullptr; // set in date mode only
-    bool m_unreported = false;          // typed since the last Changed
+    bool m_unreported = false;          // typed into since the last Changed
 };
 
 } // namespace ptk

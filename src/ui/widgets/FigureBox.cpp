@@ -66,7 +66,7 @@ void FigureBox::TakeColors()
     const QPalette theme = QApplication::palette();
     QPalette own;
     own.setColor(QPalette::Base, theme.color(QPalette::Window));
-    own.setColor(QPalette::Text, theme.color(m_faded ? QPalette::Disabled : QPalette::Active, QPalette::Text));
+    own.setColor(QPalette::Text, theme.color(m_faded ? QPalette::PlaceholderText : QPalette::Text));
     setPalette(own);
 }
 
