@@ -134,8 +134,8 @@ TEST_F(DatabaseCommandsTest, CheckNamesWhatIsWrong)
     EXPECT_EQ(Run({"check"}).err, "ptk-console: 14: the database file is missing or cannot be opened: " + Database().string() + "\n");
     EXPECT_FALSE(std::filesystem::exists(Database()));
     std::filesystem::create_directory(Database());
-    EXPECT_EQ(Run({"check"}).err,
-              "ptk-console: 14: the database's path leads to a folder, a pipe or a device instead of a file: " + Database().string() + "\n");
+    EXPECT_EQ(Run({"check"}).err, "ptk-console: 14: the database's path leads to a folder, a pipe or a device instead of a file: " +
+                                      Database().string() + "\n");
 }
 
 } // namespace

@@ -116,8 +116,9 @@ TEST_F(ReportCommandTest, AFailedReportIsToldAndTheOthersStillCome)
 TEST_F(ReportCommandTest, AnUnreadableRecordIsNamedAndWhomItLeavesOut)
 {
     CJetDB database(m_folder.Path());
-    ASSERT_TRUE(database.ExecuteAction("UPDATE TimeRecord SET EndTime = '2026-03-16 4 pm' WHERE EmployeeID = (SELECT EmployeeID FROM Employee "
-                                       "WHERE LastName = 'Lee') AND StartTime > '2026-03-16' AND StartTime < '2026-03-17'"));
+    ASSERT_TRUE(
+        database.ExecuteAction("UPDATE TimeRecord SET EndTime = '2026-03-16 4 pm' WHERE EmployeeID = (SELECT EmployeeID FROM Employee "
+                               "WHERE LastName = 'Lee') AND StartTime > '2026-03-16' AND StartTime < '2026-03-17'"));
     const std::vector<std::string> period{"--from", "3/15/2026", "--to", "3/28/2026", "--employee", "Ann Lee"};
     const auto failed = [&](std::vector<std::string> words) {
         words.insert(words.end(), period.begin(), period.end());

@@ -80,8 +80,12 @@ TEST(TerminalTextTest, LetsNoControlCharacterThrough)
         const char* shown;
     };
     for (const Case& c : {Case{"a\r\nb\tc\n", "a\nb\tc\n"}, Case{"\x1b[2Jx\x7f\ry\b", "?[2Jx??y?"},
-                          Case{"\xC2\x9B" "1m Jos\xC3\xA9 \xC2\xA0", "?1m Jos\xC3\xA9 \xC2\xA0"},
-                          Case{"\x9B" "1m \xE9l\xE9ment \xE2\x82", "?1m \xE9l\xE9ment \xE2?"},
+                          Case{"\xC2\x9B"
+                               "1m Jos\xC3\xA9 \xC2\xA0",
+                               "?1m Jos\xC3\xA9 \xC2\xA0"},
+                          Case{"\x9B"
+                               "1m \xE9l\xE9ment \xE2\x82",
+                               "?1m \xE9l\xE9ment \xE2?"},
                           Case{"\xE2\x82\xAC \xF0\x9F\x98\x80 \xC3\x9B", "\xE2\x82\xAC \xF0\x9F\x98\x80 \xC3\x9B"}}) {
         EXPECT_EQ(TerminalText(c.text), c.shown);
     }

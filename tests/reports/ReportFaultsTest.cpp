@@ -185,9 +185,10 @@ TEST_F(ReportFaultsTest, AReviewIsOfOneMomentAndTellsWhomItLeavesOut)
     });
     EXPECT_FALSE(review->GenerateReport(database, ListOf({jose, ann, zorn, jose}), first, last));
     EXPECT_EQ(review->ErrorNumber(), 710);
-    EXPECT_EQ(review->Missing(), "without " + jose->DisplayName() + ", " + jose->DisplayName() +
-                                     ": there are no time records in this period; without Zorn: TimeRecord 6: EndTime is \"2003-01-06 late\" "
-                                     "(Type mismatch)");
+    EXPECT_EQ(review->Missing(),
+              "without " + jose->DisplayName() + ", " + jose->DisplayName() +
+                  ": there are no time records in this period; without Zorn: TimeRecord 6: EndTime is \"2003-01-06 late\" "
+                  "(Type mismatch)");
 
     CJetDB other(folder.Path());
     ASSERT_TRUE(other.OpenDB());

@@ -95,7 +95,7 @@ private:
 
     PageHost& m_host;
     std::unique_ptr<Ui::TimeCardPage> m_ui;
-    CardChoice* m_choice;       // these two belong to the page
+    CardChoice* m_choice; // these two belong to the page
     CurrentCard* m_card = nullptr;
     std::string m_employeeName; // as of the last change of employee
     bool m_editingNew = false;  // whether the editor was last opened for a new record; nothing depends on it

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <QAbstractProxyModel>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListView>
