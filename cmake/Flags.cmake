@@ -13,6 +13,5 @@ endif()
 
 find_program(CCACHE ccache)
 if(CCACHE)
-  # The precompiled headers need ccache to look past their time stamps.
-  set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros ${CCACHE})
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
 endif()

@@ -11,10 +11,12 @@
 #include "store/RawStore.h"
 
 #include <benchmark/benchmark.h>
+#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <functional>
 #include <stdexcept>
+#include <unistd.h>
 
 namespace bench {
 
@@ -124,17 +126,31 @@ std::string Bytes(const std::string& reportPath, const Office& office)
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
-// The cards of so many employees fetched raw, their share of the bytes written after each.
+void Flush(const std::filesystem::path& path)
+{
+    const int handle = ::open(path.c_str(), O_RDONLY);
+    if (::fsync(handle) != 0) {
+        throw std::runtime_error("no flush");
+    }
+    ::close(handle);
+}
+
+// The cards of so many employees fetched raw, their share of the bytes written after each; the file is written aside, flushed and put in
+// place, as a report has to be.
 void RawReport(Office& office, std::int32_t employees, const std::string& bytes)
 {
     const std::string from = StoredText(office.from);
     const std::string to = StoredText(office.to.AddDays(1));
     const std::size_t share = bytes.size() / static_cast<std::size_t>(employees);
-    std::ofstream file(office.folder / "reports" / "raw.txt", std::ios::binary);
+    const std::filesystem::path reports = office.folder / "reports";
+    std::ofstream file(reports / "raw.draft", std::ios::binary);
     for (std::int32_t i = 0; i < employees; ++i) {
         benchmark::DoNotOptimize(RawCard(DataFile(kFile), kFirstEmployee + i, from, to));
         file.write(bytes.data() + static_cast<std::size_t>(i) * share, static_cast<std::streamsize>(share)).flush();
     }
+    Flush(reports / "raw.draft");
+    std::filesystem::rename(reports / "raw.draft", reports / "raw.txt");
+    Flush(reports);
 }
 
 void RawReview(benchmark::State& state)

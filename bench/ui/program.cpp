@@ -131,7 +131,7 @@ int main(int argc, char** argv)
     const BenchClock clock;
     const std::string folder = argc == 3 ? argv[2] : ".";
     ptk::QtWindowFactory windows(folder, desktop, clock);
-    ptk::AdminMain admin(folder, desktop, clock, windows, [] { std::_Exit(EXIT_FAILURE); });
+    ptk::AdminMain admin(folder, desktop, clock, windows, [](int) { std::_Exit(EXIT_FAILURE); });
     admin.Start();
     return QApplication::exec();
 }

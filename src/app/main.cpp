@@ -1,18 +1,24 @@
 // ptk-admin: the windows over the start-up.
 #include "platform/Clock.h"
+#include "platform/Process.h"
 #include "platform/ProgramFolder.h"
 #include "shell/CError.h"
 #include "startup/AdminMain.h"
+#include "ui/LastWindow.h"
 #include "ui/QtDesktop.h"
 #include "ui/QtWindowFactory.h"
 
 #include <algorithm>
+#include <cstdio>
 #include <cstdlib>
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QWidget>
+#include <string_view>
+#include <utility>
 
 namespace {
+
+constexpr auto kFolderOption = "program-folder";
 
 // What an event handler lets through is shown, and the program goes on.
 class AdminApplication final : public QApplication
@@ -46,21 +52,49 @@ private:
     bool m_showing = false;
 };
 
-std::string ProgramFolderOption(const QApplication& application)
+void DescribeOptions(QCommandLineParser& parser)
 {
-    QCommandLineParser parser;
     parser.setApplicationDescription("Keeps companies and employees, corrects time records, pays and reports.");
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.addOption({"program-folder", "Work beside the data in DIR instead of the program's own folder.", "DIR"});
-    parser.process(application);
-    return parser.value("program-folder").toStdString();
+    parser.addOption({kFolderOption, "Work beside the data in DIR instead of the program's own folder.", "DIR"});
 }
 
-bool IsAnyWindowShown()
+// The help and the version are there for those without a display, too. Does not return where they are asked for.
+void AnswerWithoutDisplay(int argc, char** argv)
 {
-    const auto windows = QApplication::topLevelWidgets();
-    return std::any_of(windows.begin(), windows.end(), [](const QWidget* window) { return window->isVisible(); });
+    const auto asked = [&](std::initializer_list<std::string_view> words) {
+        return std::find_first_of(argv, argv + argc, words.begin(), words.end()) != argv + argc;
+    };
+    const bool version = asked({"-v", "--version"});
+    if (!version && !asked({"-h", "--help", "--help-all"})) {
+        return;
+    }
+    const QCoreApplication application(argc, argv);
+    QCommandLineParser parser;
+    DescribeOptions(parser);
+    parser.parse(QCoreApplication::arguments());
+    if (version) {
+        parser.showVersion();
+    }
+    parser.showHelp();
+}
+
+// Without a display Qt ends the process by a core dump; a start that failed has a status.
+void EndFailedStart(QtMsgType type, const QMessageLogContext& context, const QString& text)
+{
+    std::fputs(qPrintable(qFormatLogMessage(type, context, text) + '\n'), stderr);
+    if (type == QtFatalMsg) {
+        std::_Exit(EXIT_FAILURE);
+    }
+}
+
+std::string ProgramFolderOption(const QApplication& application)
+{
+    QCommandLineParser parser;
+    DescribeOptions(parser);
+    parser.process(application);
+    return parser.value(kFolderOption).toStdString();
 }
 
 int Run(const QApplication& application, ptk::Desktop& desktop)
@@ -68,15 +102,15 @@ int Run(const QApplication& application, ptk::Desktop& desktop)
     const std::string folder = ptk::FindProgramFolder(ProgramFolderOption(application));
     const ptk::SystemClock clock;
     ptk::QtWindowFactory windows(folder, desktop, clock);
-    ptk::AdminMain admin(folder, desktop, clock, windows, [] { std::_Exit(EXIT_SUCCESS); });
+    ptk::AdminMain admin(folder, desktop, clock, windows, [](int status) { std::_Exit(status); });
 
     // Between the login and the main window there is no window, and the program must not take that for its end.
     QApplication::setQuitOnLastWindowClosed(false);
     admin.Start();
-    if (!IsAnyWindowShown()) {
-        return EXIT_SUCCESS; // the start-up has told why by then
+    if (!ptk::IsAnyWindowShown()) {
+        return EXIT_FAILURE; // the start-up has told why by then
     }
-    QApplication::setQuitOnLastWindowClosed(true);
+    const ptk::LastWindow last([] { QApplication::exit(); });
     return QApplication::exec();
 }
 
@@ -84,11 +118,15 @@ int Run(const QApplication& application, ptk::Desktop& desktop)
 
 int main(int argc, char** argv)
 {
-    QApplication::setOrganizationName("PTK");
-    QApplication::setApplicationName("ptk-admin");
-    QApplication::setApplicationVersion("1.0");
+    ptk::SettleProcess();
+    QCoreApplication::setOrganizationName("PTK");
+    QCoreApplication::setApplicationName("ptk-admin");
+    QCoreApplication::setApplicationVersion("1.0");
     QApplication::setDesktopFileName("ptk-admin");
+    AnswerWithoutDisplay(argc, argv);
     ptk::QtDesktop desktop;
+    qInstallMessageHandler(EndFailedStart);
     const AdminApplication application(argc, argv, desktop);
+    qInstallMessageHandler(nullptr);
     return Run(application, desktop);
 }

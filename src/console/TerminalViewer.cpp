@@ -20,7 +20,13 @@ public:
         m_text += buffer + "\r\n";
         return true;
     }
-    void Show() override { m_viewers.Print(TerminalText(m_text), NativePath(m_report->ReportPath()).string()); }
+    void Show() override
+    {
+        m_viewers.Print(TerminalText(m_text));
+        if (m_report->FileWritten()) {
+            m_viewers.NameFile(NativePath(m_report->ReportPath()).string());
+        }
+    }
     void Hide() override {}
     void Unload() override { m_report.reset(); }
 
@@ -35,13 +41,17 @@ std::shared_ptr<ReportViewer> TerminalViewers::CreateViewer(ReportKind)
     return std::make_shared<TerminalViewer>(*this);
 }
 
-void TerminalViewers::Print(const std::string& text, const std::string& path)
+void TerminalViewers::Print(const std::string& text)
 {
     if (m_printed) {
         m_out << '\n';
     }
     m_printed = true;
     m_out << text;
+}
+
+void TerminalViewers::NameFile(const std::string& path)
+{
     m_err << "ptk-console: written: " << TerminalText(path) << '\n';
 }
 

@@ -1,4 +1,4 @@
-// The console's report viewers: a shown report is printed, and the file that it was written to is named beside it.
+// The console's report viewers: a shown report is printed, and the file that it was written to, if any, is named beside it.
 #pragma once
 
 #include "reports/ReportViewer.h"
@@ -15,7 +15,8 @@ public:
 
     std::shared_ptr<ReportViewer> CreateViewer(ReportKind kind) override;
 
-    void Print(const std::string& text, const std::string& path);
+    void Print(const std::string& text);
+    void NameFile(const std::string& path);
 
 private:
     std::ostream& m_out;

@@ -60,8 +60,8 @@ public:
 
     std::shared_ptr<CTimeRecord> GetTimeRecordByKey(DateTime thestarttime, DateTime theendtime); // nullptr with 607
 
-    // Why the last GenerateTimecard, CloseTimeRecord, Save or SaveTimeRecord failed or stored nothing, in words for the program's users; number
-    // 0 and no text when nothing went wrong, which a period without records (605) does not. See CJetDB::LastFailure.
+    // Why the last GenerateTimecard, CloseTimeRecord, Save or SaveTimeRecord failed or stored nothing, in words for the program's users;
+    // number 0 and no text when nothing went wrong, which a period without records (605) does not. See CJetDB::LastFailure.
     const Failure& LastFailure() const { return m_lastFailure; }
 
     // False with the factory's number, for an unexpected failure only: a refused statement shows in the factory's ErrorNumber alone.

@@ -33,8 +33,8 @@ public:
     std::int32_t ErrorNumber() const { return m_errorNumber; }
     bool ResetError(); // always true
 
-    // Why the last BuildList, Save or SaveList did not do what it should, in words for the program's users; number 0 and no text when it did,
-    // a period without records included. See CJetDB::LastFailure.
+    // Why the last BuildList, Save or SaveList did not do what it should, in words for the program's users; number 0 and no text when it
+    // did, a period without records included. See CJetDB::LastFailure.
     const Failure& LastFailure() const { return m_lastFailure; }
 
     // Replaces the contents of the current list, the same list object. Bounds as CTimeRecSQLConverter::BuildFetchSQL takes them. False with

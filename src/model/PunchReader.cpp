@@ -52,14 +52,6 @@ Punch ReadPunch(const RecordSet& rows)
     return punch;
 }
 
-void Append(Punches& punches, RecordSet& rows)
-{
-    punches.reserve(punches.size() + static_cast<std::size_t>(rows.RecordCount()));
-    for (; !rows.EndOfFile(); rows.MoveNext()) {
-        punches.push_back(ReadPunch(rows));
-    }
-}
-
 // By start and end; a row that both queries answered once.
 void Order(Punches& punches)
 {
@@ -82,41 +74,66 @@ DateTime DayBefore(DateTime day)
     return day > firstDay ? day.AddDays(-1) : day;
 }
 
-std::unique_ptr<Statement> Prepare(CJetDB& database, const char* sql, const PayPeriod& period)
+std::unique_ptr<Statement> Prepare(CJetDB& database, const char* sql)
 {
     auto statement = database.PrepareSelect(sql);
     if (statement == nullptr) {
         throw database.LastFailure();
     }
-    statement->Bind("from", period.from);
-    statement->Bind("end", EndOfDay(period.to));
     return statement;
 }
 
 } // namespace
 
 PunchReader::PunchReader(CJetDB& database, const PayPeriod& period, std::int32_t firstWeekday)
+    : m_from(period.from), m_end(EndOfDay(period.to))
 {
     if (!database.OpenDB()) {
         throw database.LastFailure();
     }
-    m_starting = Prepare(database, punchsql::kStarting, period);
+    m_unusual = Prepare(database, punchsql::kUnusual);
+    m_unusual->Bind("from", m_from);
+    m_unusual->Bind("end", m_end);
+    m_starting = Prepare(database, punchsql::kStarting);
     m_starting->Bind("first", DayBefore(WeekStart(period.from, firstWeekday)));
     // A shift without length at the card's last moment is on the card, though it begins behind the period and perhaps its weeks.
-    m_starting->Bind("last", std::max(LastSecond(WeekLast(period.to, firstWeekday)), EndOfDay(period.to)));
-    m_unusual = Prepare(database, punchsql::kUnusual, period);
+    m_starting->Bind("last", std::max(LastSecond(WeekLast(period.to, firstWeekday)), m_end));
 }
 
 PunchReader::~PunchReader() = default;
 
+void PunchReader::ReadUnusual(Punches& punches)
+{
+    for (const auto rows = m_unusual->ReadRows(); !rows->EndOfFile(); rows->MoveNext()) {
+        punches.push_back(ReadPunch(*rows));
+    }
+}
+
+void PunchReader::ReadStarting(Punches& punches)
+{
+    while (m_starting->NextRow()) {
+        Punch punch;
+        punch.id = m_starting->Int64At(kId);
+        punch.start = m_starting->StoredDateAt(kStart);
+        punch.end = m_starting->StoredDateAt(kEnd);
+        if (punch.IsReadable()) { // all others are unusual
+            punch.fetched = *punch.start >= m_from && *punch.end <= m_end;
+            punches.push_back(std::move(punch));
+        }
+    }
+}
+
 Punches PunchReader::Read(std::int32_t employeeID)
 {
     Punches punches;
-    for (Statement* statement : {m_unusual.get(), m_starting.get()}) {
-        statement->Bind("employee", employeeID);
-        Append(punches, *statement->ReadRows());
+    m_unusual->Bind("employee", employeeID);
+    m_starting->Bind("employee", employeeID);
+    ReadUnusual(punches);
+    const bool ordered = punches.empty();
+    ReadStarting(punches);
+    if (!ordered) {
+        Order(punches);
     }
-    Order(punches);
     return punches;
 }
 

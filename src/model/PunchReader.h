@@ -23,10 +23,15 @@ public:
     PunchReader(const PunchReader&) = delete;
     PunchReader& operator=(const PunchReader&) = delete;
 
-    // All that CheckCard needs, by start and end, what cannot be read first.
+    // All that CheckCard needs, by start, end and number, what cannot be read first.
     Punches Read(std::int32_t employeeID);
 
 private:
+    void ReadUnusual(Punches& punches);
+    void ReadStarting(Punches& punches);
+
+    DateTime m_from; // of the card's fetch, both included
+    DateTime m_end;
     std::unique_ptr<Statement> m_starting;
     std::unique_ptr<Statement> m_unusual;
 };

@@ -69,6 +69,8 @@ std::int32_t NumberForErrno(int error)
     case EROFS:
         return failure::PermissionDenied;
     case EISDIR:
+    case ENXIO: // a pipe without a reader, or a socket
+    case ELOOP:
         return failure::PathFileAccess;
     case ENOSPC:
     case EDQUOT:

@@ -2,13 +2,12 @@
 
 #include "platform/Failure.h"
 #include "platform/ProgramFolder.h"
+#include "platform/SystemFile.h"
 
 #include <array>
-#include <cerrno>
 #include <fcntl.h>
 #include <memory>
-#include <sys/stat.h>
-#include <unistd.h>
+#include <utility>
 
 namespace ptk::linefile {
 
@@ -19,7 +18,7 @@ constexpr std::size_t kBufferSize = 16384;
 
 struct OpenFile
 {
-    int descriptor = -1;
+    SystemFile file;
     std::string buffer; // what was read ahead
     std::size_t at = 0;
     bool ended = false; // the system has no more to read
@@ -35,11 +34,12 @@ OpenFile& At(std::int32_t number)
     return *files[static_cast<std::size_t>(number)];
 }
 
+// Each written text goes to what is the end at that moment, so that two programs with the same file open lose nothing of each other's.
 int Flags(Mode mode)
 {
     switch (mode) {
     case Mode::Write:
-        return O_WRONLY | O_CREAT | O_TRUNC;
+        return O_WRONLY | O_CREAT | O_APPEND | O_TRUNC;
     case Mode::Append:
         return O_WRONLY | O_CREAT | O_APPEND;
     default:
@@ -47,33 +47,16 @@ int Flags(Mode mode)
     }
 }
 
-// A missing folder is told from a missing file by looking at what the path stands in.
-Failure OpenFailure(int error, const std::filesystem::path& path)
-{
-    std::error_code ignored;
-    const auto folder = path.parent_path();
-    if (error == ENOENT && !folder.empty() && !std::filesystem::is_directory(folder, ignored)) {
-        const Failure missing(failure::PathNotFound);
-        return {missing.Number(), missing.Source(), missing.Description(), error};
-    }
-    return Failure::FromErrno(error);
-}
-
 // One more character to look at without taking it; false at the end of the file.
 bool Peek(OpenFile& file, char& next)
 {
     if (file.at == file.buffer.size() && !file.ended) {
-        file.buffer.resize(kBufferSize);
-        ssize_t count = -1;
-        do {
-            count = ::read(file.descriptor, file.buffer.data(), kBufferSize);
-        } while (count < 0 && errno == EINTR);
-        file.buffer.resize(count > 0 ? static_cast<std::size_t>(count) : 0);
         file.at = 0;
-        if (count < 0) {
-            throw Failure::FromErrno(errno);
-        }
-        file.ended = count == 0;
+        file.buffer.clear();
+        std::string ahead(kBufferSize, '\0');
+        ahead.resize(file.file.Read(ahead.data(), ahead.size()));
+        file.ended = ahead.empty();
+        file.buffer = std::move(ahead);
     }
     if (file.at == file.buffer.size()) {
         return false;
@@ -157,29 +140,16 @@ void Open(std::int32_t number, const std::string& path, Mode mode)
     if (files[static_cast<std::size_t>(number)]) {
         throw Failure(failure::FileAlreadyOpen);
     }
-    const std::filesystem::path native = NativePath(path);
     auto file = std::make_unique<OpenFile>();
-    file->descriptor = ::open(native.c_str(), Flags(mode) | O_CLOEXEC, 0644);
-    if (file->descriptor < 0) {
-        throw OpenFailure(errno, native);
-    }
-    struct stat status
-    {
-    };
-    if (::fstat(file->descriptor, &status) == 0 && S_ISDIR(status.st_mode)) {
-        ::close(file->descriptor);
-        throw Failure(failure::PathFileAccess);
-    }
+    file->file = OpenRegularFile(NativePath(path), Flags(mode));
     files[static_cast<std::size_t>(number)] = std::move(file);
 }
 
 void Close(std::int32_t number)
 {
-    const int descriptor = At(number).descriptor;
+    SystemFile file = std::move(At(number).file);
     files[static_cast<std::size_t>(number)].reset();
-    if (::close(descriptor) != 0 && errno != EINTR) {
-        throw Failure::FromErrno(errno);
-    }
+    file.Close();
 }
 
 bool AtEnd(std::int32_t number)
@@ -203,16 +173,7 @@ std::string ReadItem(std::int32_t number)
 
 void Write(std::int32_t number, std::string_view text)
 {
-    const int descriptor = At(number).descriptor;
-    while (!text.empty()) {
-        const ssize_t count = ::write(descriptor, text.data(), text.size());
-        if (count < 0 && errno != EINTR) {
-            throw Failure::FromErrno(errno);
-        }
-        if (count > 0) {
-            text.remove_prefix(static_cast<std::size_t>(count));
-        }
-    }
+    At(number).file.Write(text);
 }
 
 } // namespace ptk::linefile

@@ -18,10 +18,13 @@ enum class Mode : std::int16_t
 // The lowest number (1 to 511) that no file is open under; 0 when all are taken.
 std::int32_t FreeNumber();
 
-// Opens under that number. Read: the file must exist. Write: created or truncated. Append: created if missing.
-// Raises 52 (bad number), 53 (no such file), 55 (number in use), 70, 75 (a folder of that name), 76 (no such folder), 67, 57, 61.
+// Opens under that number. Read: the file must exist. Write: created or truncated. Append: created if missing. What is created is for its
+// owner only. In both writing modes each text lands at what is then the end of the file, whoever else writes to it.
+// Raises 52 (bad number), 53 (no such file), 55 (number in use), 70, 75 (no regular file), 76 (no such folder), 67, 57, 61.
 void Open(std::int32_t number, const std::string& path, Mode mode);
-void Close(std::int32_t number); // raises 52 when no file is open under it, 57 or 61 when the system reports a late write failure
+
+// Raises 52 when no file is open under it, 57 or 61 when the system reports a late write failure; the number is free again all the same.
+void Close(std::int32_t number);
 
 bool AtEnd(std::int32_t number);
 

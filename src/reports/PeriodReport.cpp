@@ -3,6 +3,7 @@
 #include "model/CEmployee.h"
 #include "model/CTimeCard.h"
 #include "model/CTimeRecordFactory.h"
+#include "platform/Succeeds.h"
 #include "platform/Text.h"
 
 #include <algorithm>
@@ -16,7 +17,8 @@ std::string ReasonFor(const CTimeCard& card)
     if (card.LastFailure().Number() != 0) {
         return card.LastFailure().Description();
     }
-    return card.ErrorNumber() == report::NoTimeRecords ? "there are no time records in this period" : "the time card could not be generated";
+    return card.ErrorNumber() == report::NoTimeRecords ? "there are no time records in this period"
+                                                       : "the time card could not be generated";
 }
 
 } // namespace
@@ -82,8 +84,9 @@ std::shared_ptr<CTimeCard> PeriodReport::NewTimeCard(const std::shared_ptr<CJetD
 
 bool PeriodReport::GenerateTimeCard(CTimeCard& card, const std::shared_ptr<CEmployee>& theemployee)
 {
-    // A day is added so that the shifts of the end day itself count, deliberately also where the end was meant to be exclusive.
-    return card.GenerateTimecard(theemployee, m_range.StartDate(), m_range.EndDate().AddDays(1));
+    // A day is added so that the shifts of the end day itself count, deliberately also where the end was meant to be exclusive. After the
+    // last day of the calendar there is none.
+    return Succeeds([&] { return card.GenerateTimecard(theemployee, m_range.StartDate(), m_range.EndDate().AddDays(1)); });
 }
 
 std::string TitleOfEmployee(const CEmployee& theemployee)

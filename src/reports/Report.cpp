@@ -1,6 +1,10 @@
 #include "reports/Report.h"
 
 #include "platform/Desktop.h"
+#include "platform/FileDraft.h"
+#include "platform/Notice.h"
+#include "platform/ProgramFolder.h"
+#include "platform/Succeeds.h"
 #include "shell/CDocLauncher.h"
 #include "shell/CFile.h"
 
@@ -10,7 +14,9 @@ namespace ptk {
 
 namespace {
 
-constexpr const char* kPrintText = "The path to the report is invalid or not able to be opened by Windows.";
+constexpr std::int16_t kWriteMode = 1;
+constexpr Notice kNoFile{docerror::NotOpenedTitle, "The path to the report is invalid or not able to be opened by Windows.",
+                         Icon::Exclamation};
 
 const std::string kRule(72, '-');
 
@@ -53,22 +59,55 @@ void Report::Name(const std::string& titleRest, std::string fileName)
 bool Report::Write(const std::function<bool()>& body)
 {
     if (!OpenFile()) {
+        DropFile();
         return Fail(report::FileNotOpened);
     }
     if (!OpenViewer()) {
-        CloseFile();
+        DropFile();
         return Fail(report::NoViewer);
     }
     const bool complete = WriteBody(body);
-    CloseFile();
+    FinishFile();
     m_viewer->Show();
     return complete;
 }
 
 bool Report::OpenFile()
 {
+    m_fileWritten = false;
+    m_whole = true;
     m_file = std::make_unique<CFile>(m_context.clock);
-    return m_file->OpenFile(ReportPath(), std::int16_t{1});
+    return Succeeds([&] {
+        m_draft = std::make_unique<FileDraft>(NativePath(ReportPath()).string());
+        return m_file->OpenFile(m_draft->Path(), kWriteMode);
+    });
+}
+
+void Report::DropFile()
+{
+    m_file.reset();
+    m_draft.reset();
+}
+
+// A report that is cut short, or that a full disk cut, does not take the place of a whole one.
+void Report::FinishFile()
+{
+    if (!m_file->CloseFile()) {
+        m_errorNumber = report::FileNotClosed;
+    } else if (m_whole) {
+        PublishFile();
+    }
+    m_draft.reset();
+}
+
+void Report::PublishFile()
+{
+    try {
+        m_draft->Replace();
+        m_fileWritten = true;
+    } catch (...) {
+        m_errorNumber = report::FileNotClosed;
+    }
 }
 
 bool Report::OpenViewer()
@@ -89,7 +128,7 @@ bool Report::OpenViewer()
     return true;
 }
 
-// Whatever happens in the body, the file is closed and what was written so far is shown.
+// Whatever happens in the body, what was written so far is shown.
 bool Report::WriteBody(const std::function<bool()>& body)
 {
     try {
@@ -97,6 +136,7 @@ bool Report::WriteBody(const std::function<bool()>& body)
         WriteRule();
         return body();
     } catch (...) {
+        m_whole = false;
         return Fail(report::NotGenerated);
     }
 }
@@ -104,6 +144,7 @@ bool Report::WriteBody(const std::function<bool()>& body)
 void Report::WriteLine(const std::string& buffer)
 {
     if (m_file->FileOpen() && !m_file->WriteLine(buffer)) {
+        m_whole = false;
         m_errorNumber = report::LineNotWritten;
     }
     if (!ShowLine(buffer)) {
@@ -113,23 +154,12 @@ void Report::WriteLine(const std::string& buffer)
 
 bool Report::ShowLine(const std::string& buffer)
 {
-    try {
-        return m_viewer->WriteLine(buffer);
-    } catch (...) {
-        return false;
-    }
+    return Succeeds([&] { return m_viewer->WriteLine(buffer); });
 }
 
 void Report::WriteRule()
 {
     WriteLine(kRule);
-}
-
-void Report::CloseFile()
-{
-    if (!m_file->CloseFile()) {
-        m_errorNumber = report::FileNotClosed;
-    }
 }
 
 bool Report::GoOn(std::int32_t done, std::int32_t total)
@@ -138,23 +168,26 @@ bool Report::GoOn(std::int32_t done, std::int32_t total)
         return true;
     }
     WriteLine("Cancelled after " + std::to_string(done) + " of " + std::to_string(total) + " employees.");
+    m_whole = false;
     return Fail(report::Cancelled);
 }
 
 bool Report::PrintReport()
 {
-    try {
+    return Succeeds([&] {
+        if (!m_fileWritten) {
+            return TellNoFile(); // a file of that name is an earlier report's
+        }
         CDocLauncher launcher(m_context.desktop);
-        if (launcher.PrintDocument(m_context.window, ReportPath())) {
-            return true;
-        }
-        if (launcher.ErrorNumber() == docerror::DocumentNotFound) {
-            m_context.desktop.Show(kPrintText, docerror::NotOpenedTitle, Icon::Exclamation);
-        }
-        return false;
-    } catch (...) {
-        return false;
-    }
+        return launcher.PrintDocument(m_context.window, ReportPath()) ||
+               (launcher.ErrorNumber() == docerror::DocumentNotFound && TellNoFile());
+    });
+}
+
+bool Report::TellNoFile()
+{
+    Tell(m_context.desktop, kNoFile);
+    return false;
 }
 
 bool Report::UnloadReportWindow()

@@ -23,6 +23,7 @@ constexpr const char* kWriteOnly = "The file cannot be read from because it is o
 constexpr const char* kNotOpenToWrite = "The file cannot be written to because it is not open.";
 constexpr const char* kReadOnly = "The file cannot be written to because it is open in read-only mode.";
 constexpr const char* kReadMode = "0";
+constexpr std::int32_t kNoNumber = 0;
 
 const Clock& MachineClock()
 {
@@ -96,9 +97,10 @@ void CFile::OpenUnder(std::int32_t number, linefile::Mode mode)
 bool CFile::CloseFile()
 {
     ClearError();
+    // Closed also when closing fails: from now on the number may be another file's.
+    const bool wasOpen = std::exchange(m_fileOpen, false);
     try {
-        linefile::Close(m_fileNumber);
-        m_fileOpen = false;
+        linefile::Close(wasOpen ? m_fileNumber : kNoNumber);
         return true;
     } catch (...) {
         return Fail(kClosing);

@@ -18,7 +18,8 @@ inline constexpr std::int32_t WriteOnly = 504; // read attempted in mode 1 or 2
 inline constexpr std::int32_t ReadOnly = 505;  // write attempted in mode 0
 } // namespace fileerror
 
-// Modes: 0 reads an existing file, 1 creates or truncates for writing, 2 writes on at the end (created if missing).
+// Modes: 0 reads an existing file, 1 creates or truncates for writing, 2 writes on at the end (created if missing). Each written line lands
+// at what is then the end of the file. What is no regular file is not opened (75); what is created is for its owner only.
 // Every operation but GetTempFile clears the error first. The destructor closes an open file.
 class CFile
 {
@@ -43,7 +44,7 @@ public:
     // A mode that is missing, not numeric or outside 0 to 2 reads. Another file that this object still has open is closed once this one is
     // open.
     bool OpenFile(const std::string& paramfile, const Value& parammode = {});
-    bool CloseFile();
+    bool CloseFile(); // false when the system could not keep what was written; the file is closed all the same
 
     // The next item: up to a comma or the line's end, quotes removed. At the end of the file "EOF" and EndOfFile; "" after an error.
     std::string ReadLine();

@@ -1,5 +1,7 @@
 #include "shell/CFileAdaptor.h"
 
+#include "platform/FileDraft.h"
+#include "platform/ProgramFolder.h"
 #include "platform/Value.h"
 #include "shell/CFile.h"
 
@@ -8,7 +10,9 @@ namespace ptk {
 namespace {
 
 constexpr std::int32_t kReadMode = 0;
-constexpr std::int32_t kWriteMode = 1;
+constexpr const char* kLineEnd = "\r\n";
+
+const Failure kNone(0, "", "");
 
 // True, or false when anything was raised.
 template <typename Operation>
@@ -23,7 +27,7 @@ bool Attempt(Operation operation)
 
 } // namespace
 
-CFileAdaptor::CFileAdaptor(const std::string& programFolder) : m_fileName(programFolder + kConfigurationFile) {}
+CFileAdaptor::CFileAdaptor(const std::string& programFolder) : m_fileName(programFolder + kConfigurationFile), m_lastFailure(kNone) {}
 
 std::int16_t CFileAdaptor::FileLineCount() const
 {
@@ -38,8 +42,11 @@ bool CFileAdaptor::ReadFile(const std::string& thefilename)
         }
         m_fileName = thefilename;
         CFile file;
+        m_lastFailure = kNone;
         if (file.OpenFile(thefilename, kReadMode)) {
             ReadLines(file);
+        } else {
+            m_lastFailure = Failure(file.ErrorNumber());
         }
         return true;
     });
@@ -66,21 +73,29 @@ bool CFileAdaptor::WriteFile(const std::string& thefilename)
             return false;
         }
         m_fileName = thefilename;
-        CFile file;
-        if (file.OpenFile(thefilename, kWriteMode)) {
-            WriteLines(file);
-        }
+        Put(Bytes());
         return true;
     });
 }
 
-void CFileAdaptor::WriteLines(CFile& file)
+std::string CFileAdaptor::Bytes()
 {
+    std::string bytes;
     const std::int16_t count = FileLineCount();
     for (std::int32_t position = 1; position <= count; ++position) {
-        file.WriteLine(m_lines.Item(position));
+        bytes += m_lines.Item(position) + kLineEnd;
     }
-    file.CloseFile();
+    return bytes;
+}
+
+void CFileAdaptor::Put(const std::string& bytes)
+{
+    m_lastFailure = kNone;
+    try {
+        PutFile(NativePath(m_fileName).string(), bytes);
+    } catch (...) {
+        m_lastFailure = CurrentFailure();
+    }
 }
 
 bool CFileAdaptor::AddLine(const std::string& buffer)

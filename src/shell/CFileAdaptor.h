@@ -1,6 +1,7 @@
 // The configuration file in memory: every line as it stands, found and replaced by key.
 #pragma once
 
+#include "platform/Failure.h"
 #include "shell/CStringList.h"
 
 #include <cstdint>
@@ -35,8 +36,13 @@ public:
     bool ReadFile(const std::string& thefilename);
     bool PrintFile() { return false; }
 
-    // Replaces the file by the lines held. True also when it could not be opened.
+    // Replaces the file by the lines held, at once and whole, or not at all; a file that holds just these is left alone. True also when it
+    // could not be written.
     bool WriteFile(const std::string& thefilename);
+
+    // What the two answers above do not tell: why the last ReadFile could not open its file, or the last WriteFile not write it. Number 0
+    // when it did.
+    const Failure& LastFailure() const { return m_lastFailure; }
 
     bool AddLine(const std::string& buffer);                // deliberately before the present last line, not after it
     std::string GetLine(std::int16_t index);                // "" outside 1 to the count; parses the line
@@ -51,7 +57,8 @@ public:
 
 private:
     void ReadLines(CFile& file);
-    void WriteLines(CFile& file);
+    std::string Bytes();
+    void Put(const std::string& bytes);
     bool Insert(const std::string& buffer, std::int32_t index);
     void ParseHeader(std::string_view line);
     void ParseKeyString(std::string_view line);
@@ -59,6 +66,7 @@ private:
 
     std::string m_fileName;
     CStringList m_lines;
+    Failure m_lastFailure;
     std::string m_header;
     std::string m_keyString;
     std::string m_keyValue;

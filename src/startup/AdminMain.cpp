@@ -17,7 +17,7 @@ const std::string kRule(30, '-');
 } // namespace
 
 AdminMain::AdminMain(std::string programFolder, Desktop& desktop, const Clock& clock, WindowFactory& windows,
-                     std::function<void()> endProcess)
+                     std::function<void(int)> endProcess)
     : m_programFolder(std::move(programFolder)), m_desktop(desktop), m_clock(clock), m_windows(windows), m_endProcess(std::move(endProcess))
 {
 }
@@ -28,8 +28,8 @@ void AdminMain::Start()
 {
     OpenErrorLog();
     m_enumHolder = std::make_unique<CEnumHolder>();
-    m_controller =
-        std::make_shared<CController>(CController::Surroundings{m_programFolder, m_desktop, m_windows, m_errorLog, [this] { End(); }});
+    m_controller = std::make_shared<CController>(
+        CController::Surroundings{m_programFolder, m_desktop, m_windows, m_errorLog, [this](int status) { End(status); }});
     m_controller->Start();
 }
 
@@ -45,13 +45,13 @@ void AdminMain::OpenErrorLog()
     m_errorLog->WriteLine(kRule);
 }
 
-void AdminMain::End()
+void AdminMain::End(int status)
 {
     m_controller.reset();
     m_enumHolder.reset();
     CloseErrorLog();
     m_errorLog.reset();
-    m_endProcess();
+    m_endProcess(status);
 }
 
 void AdminMain::CloseErrorLog()

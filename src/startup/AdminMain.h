@@ -15,32 +15,33 @@ class Desktop;
 class WindowFactory;
 
 // Start opens the error log, <program folder>\system\errorlog.txt, makes the controller and has it bring the program up. The end routine,
-// which the controller runs, writes the log's last lines, closes it and calls `endProcess`. `endProcess` is to end the process at once,
-// without returning; where it does return (in a test), every caller returns straight away as well.
+// which the controller runs, writes the log's last lines, closes it and calls `endProcess` with the exit status: 0, or 1 when the
+// start failed or was cancelled. `endProcess` is to end the process at once, without returning; where it does return (in a test), every
+// caller returns straight away as well.
 class AdminMain
 {
 public:
-    AdminMain(std::string programFolder, Desktop& desktop, const Clock& clock, WindowFactory& windows, std::function<void()> endProcess);
+    AdminMain(std::string programFolder, Desktop& desktop, const Clock& clock, WindowFactory& windows, std::function<void(int)> endProcess);
     ~AdminMain();
     AdminMain(const AdminMain&) = delete;
     AdminMain& operator=(const AdminMain&) = delete;
 
     // Returns as soon as the main window is shown. Where Controller() is then nullptr or has no main window, no window is open and the
-    // program is over: the caller ends the process.
+    // program is over: the start failed, and the caller ends the process.
     void Start();
 
     std::shared_ptr<CController> Controller() const { return m_controller; } // nullptr before Start and after the end routine
 
 private:
     void OpenErrorLog();
-    void End();
+    void End(int status);
     void CloseErrorLog();
 
     std::string m_programFolder;
     Desktop& m_desktop;
     const Clock& m_clock;
     WindowFactory& m_windows;
-    std::function<void()> m_endProcess;
+    std::function<void(int)> m_endProcess;
     std::shared_ptr<CFile> m_errorLog;
     std::unique_ptr<CEnumHolder> m_enumHolder;
     std::shared_ptr<CController> m_controller;

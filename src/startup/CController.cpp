@@ -5,6 +5,7 @@
 #include "model/CTimeRecordFactory.h"
 #include "model/CTimeRecordList.h"
 #include "platform/Failure.h"
+#include "platform/ProgramFolder.h"
 #include "platform/Required.h"
 #include "shell/CDatabaseLocator.h"
 #include "shell/CError.h"
@@ -17,6 +18,7 @@
 
 #include <fmt/format.h>
 
+#include <cstdlib>
 #include <utility>
 
 namespace ptk {
@@ -51,7 +53,8 @@ bool CController::Logged(Operation operation)
     try {
         return operation();
     } catch (...) {
-        WriteToLog(kOperationFailed, CError(m_around.desktop));
+        const CError error(m_around.desktop);
+        LogFailure(kOperationFailed, error.ErrorNumber(), error.ErrorDescription());
         return false;
     }
 }
@@ -64,7 +67,7 @@ void CController::Start()
     } catch (...) {
         CError error(m_around.desktop);
         error.MessageBox(static_cast<std::int16_t>(Icon::Critical), static_cast<std::int16_t>(Buttons::Ok));
-        WriteToLog(kConstructionFailed, error);
+        LogFailure(kConstructionFailed, error.ErrorNumber(), error.ErrorDescription());
     }
 }
 
@@ -72,7 +75,7 @@ void CController::BringUp()
 {
     if (!ReadConfigFile()) {
         Tell(m_around.desktop, notice::ConfigurationUnread);
-        return m_around.endRoutine();
+        return m_around.endRoutine(EXIT_FAILURE);
     }
     if (!OpenDatabase()) {
         return TellDatabaseUnopened();
@@ -82,7 +85,7 @@ void CController::BringUp()
     }
     if (!BuildLists()) {
         Tell(m_around.desktop, notice::ListsUnbuilt);
-        return m_around.endRoutine();
+        return m_around.endRoutine(EXIT_FAILURE);
     }
     const bool loginValid = LogIn();
     if (loginValid) {
@@ -90,7 +93,7 @@ void CController::BringUp()
     }
     CloseDatabase();
     if (!loginValid) {
-        m_around.endRoutine();
+        m_around.endRoutine(EXIT_FAILURE);
     }
 }
 
@@ -137,11 +140,11 @@ void CController::ShutDown()
         Tell(m_around.desktop, notice::OptionsUnsaved);
     }
     CloseDatabase();
-    if (!WriteConfigFile()) {
+    if (!WriteConfigFile() || m_configFile->LastFailure().Number() != 0) {
         Tell(m_around.desktop, notice::ConfigurationUnsaved);
     }
     ReleaseObjects();
-    m_around.endRoutine();
+    m_around.endRoutine(EXIT_SUCCESS);
 }
 
 void CController::ReleaseObjects()
@@ -213,6 +216,10 @@ bool CController::ReadConfigFile()
             m_configFile = std::make_shared<CFileAdaptor>(m_around.programFolder);
         }
         m_configFile->ReadFile(ConfigPath());
+        const std::int32_t number = m_configFile->LastFailure().Number();
+        if (number != failure::FileNotFound && number != failure::PathNotFound) { // of a missing file the database's box tells
+            LogConfigFailure();
+        }
         return true;
     });
 }
@@ -221,18 +228,36 @@ bool CController::WriteConfigFile()
 {
     return Logged([this] {
         Required(m_configFile)->WriteFile(ConfigPath());
+        LogConfigFailure();
         return true;
     });
 }
 
+void CController::LogConfigFailure()
+{
+    const Failure& failure = m_configFile->LastFailure();
+    if (failure.Number() != 0) {
+        LogFailure(kOperationFailed, failure.Number(), failure.Description() + ": " + NativePath(ConfigPath()).string());
+    }
+}
+
 bool CController::GetCompanyList()
 {
-    return Logged([this] { return Reload(m_companyList, m_database); });
+    return Logged([this] { return Reload(m_companyList, m_database) || LogUnloaded("companies"); });
 }
 
 bool CController::GetEmployeeList()
 {
-    return Logged([this] { return Reload(m_employeeList, m_database); });
+    return Logged([this] { return Reload(m_employeeList, m_database) || LogUnloaded("employees"); });
+}
+
+// The database's last failure is that of the list just tried.
+bool CController::LogUnloaded(const char* list)
+{
+    const CJetDB& database = *Required(m_database);
+    LogFailure(kOperationFailed, database.ErrorNumber(),
+               fmt::format("The list of {} could not be loaded: {}", list, database.LastFailure().Description()));
+    return false;
 }
 
 bool CController::StartTimeRecordFactory()
@@ -267,9 +292,9 @@ void CController::Log(const std::string& line)
     m_around.errorLog->WriteLine(line);
 }
 
-void CController::WriteToLog(const char* kind, const CError& error)
+void CController::LogFailure(const char* kind, std::int32_t number, const std::string& description)
 {
-    Log(fmt::format("{}: {} : {}", kind, error.ErrorNumber(), error.ErrorDescription()));
+    Log(fmt::format("{}: {} : {}", kind, number, description));
 }
 
 std::string CController::ConfigPath() const

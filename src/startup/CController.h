@@ -11,7 +11,6 @@ namespace ptk {
 class CCompanyList;
 class CDatabaseLocator;
 class CEmployeeList;
-class CError;
 class CFile;
 class CFileAdaptor;
 class CJetDB;
@@ -23,7 +22,7 @@ class MainWindow;
 class WindowFactory;
 
 // Always held by std::shared_ptr: make it, then call Start once. Accessors hand out the shared objects themselves, nullptr before they
-// exist and after Cleanup released them. No operation raises; caught failures go to the error log as "Error: number : description".
+// exist and after Cleanup released them. No operation raises; failures go to the error log as "Error: number : description".
 class CController : public std::enable_shared_from_this<CController>
 {
 public:
@@ -32,8 +31,11 @@ public:
         std::string programFolder;
         Desktop& desktop;
         WindowFactory& windows;
-        std::shared_ptr<CFile> errorLog;  // written to only while it is open
-        std::function<void()> endRoutine; // when it returns, the controller touches nothing any more
+        std::shared_ptr<CFile> errorLog; // written to only while it is open
+
+        // Ends the process with this status: 1 when the start failed or was cancelled. When it returns, the controller touches nothing any
+        // more.
+        std::function<void(int)> endRoutine;
     };
 
     explicit CController(Surroundings surroundings);
@@ -45,8 +47,9 @@ public:
     // when the database could not be opened or a failure was met, or after the end routine (no lists, login refused).
     void Start();
 
-    // Shutdown: saves options and configuration, releases the shared objects and runs the end routine. When the database cannot be opened
-    // it tells so, saves nothing and leaves the program to end with its last window. Harmless when repeated. Deliberately always false.
+    // Shutdown: saves options and configuration, releases the shared objects and runs the end routine; what could not be saved is told.
+    // When the database cannot be opened it tells so, saves nothing and leaves the program to end with its last window. Harmless when
+    // repeated. Deliberately always false.
     bool Cleanup();
 
     std::int32_t ErrorNumber() const { return 0; } // no operation of the controller sets it
@@ -59,7 +62,7 @@ public:
     std::shared_ptr<CEmployeeList> EmployeeList() const { return m_employeeList; }
 
     bool ReadConfigFile();                   // true also when the file could not be read: that shows up as a database that cannot be opened
-    bool WriteConfigFile();                  // true also when the file could not be written
+    bool WriteConfigFile();                  // true also when the file could not be written: that is logged
     bool GetCompanyList();                   // reloads into the same list object
     bool GetEmployeeList();                  // reloads into the same list object
     bool GetTimeCardList() { return false; } // reserved
@@ -88,7 +91,9 @@ private:
     std::string ConfigPath() const;
 
     void TellDatabaseUnopened();
-    void WriteToLog(const char* kind, const CError& error);
+    void LogFailure(const char* kind, std::int32_t number, const std::string& description);
+    void LogConfigFailure();
+    bool LogUnloaded(const char* list); // always false
 
     // The operation's answer, or false and a line in the log when it raised a failure.
     template <typename Operation>

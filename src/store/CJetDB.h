@@ -37,9 +37,9 @@ inline constexpr std::int32_t WorkingReferenceLost = 312; // a loaded company di
 class CJetDB
 {
 public:
-    // While one lives, the file is held across any number of operations: all of them see the same moment, and what they open and close costs
-    // nothing. Where the file could not be opened, each of them is told so at once, without waiting for its own second. Holds may nest; the
-    // file is closed after the last. Not to be kept while the user is asked something.
+    // While one lives, the file is held across any number of operations: all that read see the same moment, until one of them stores
+    // something, and what they open and close costs nothing. Where the file could not be opened, each of them is told so at once, without
+    // waiting for its own second. Holds may nest; the file is closed after the last. Not to be kept while the user is asked something.
     class Hold
     {
     public:
@@ -82,6 +82,8 @@ public:
 
     bool CloseDB(); // false only when nothing was ever opened
 
+    void GiveUpHold(); // lets others at the open file until the next operation; nothing inside a Hold
+
     // The caller opens and closes the database. nullptr with 403, 406 or 407.
     std::shared_ptr<RecordSet> ExecuteSelect(const std::string& sqlstring);
 
@@ -108,7 +110,6 @@ private:
     bool Fail(std::int32_t errorNumber, const char* reason); // always false, as the next
     bool Fail(std::int32_t errorNumber, Failure reason);
     bool FailWithoutDatabase();
-    void GiveUpHold();
     void ForgetFailure() { m_lastFailure = Failure(0, "", ""); }
     bool OpenFile(const std::string& name);
     bool JoinHold();

@@ -42,7 +42,12 @@ bool CSystemOptions::Load()
     if (row == nullptr) {
         return false;
     }
-    RowReader(*row, OptionsTable()).ReadOptions(m_row);
+    try {
+        RowReader(*row, OptionsTable()).ReadOptions(m_row);
+    } catch (...) {
+        m_database->GiveUpHold(); // the user is told before the next operation
+        throw;
+    }
     return true;
 }
 

@@ -38,8 +38,8 @@ public:
 
     EmployeeRow ReadEmployee();
     CompanyRow ReadCompany();
-    TimeRecordRow ReadTimeRecord();      // unchanged
-    void ReadOptions(OptionsRow& row);   // nothing may be null; what was read before a failure stays in the row
+    TimeRecordRow ReadTimeRecord();    // unchanged
+    void ReadOptions(OptionsRow& row); // nothing may be null; what was read before a failure stays in the row
 
 private:
     void Start() { m_next = 0; }

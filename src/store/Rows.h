@@ -72,8 +72,8 @@ struct OptionsRow
 {
     std::string ProgramName;
     std::string ProgramVersion;
-    std::int16_t PeriodLength = 0;   // days added to a period's first day
-    DateTime AutoShiftStartTime;     // only the time of day matters
+    std::int16_t PeriodLength = 0; // days added to a period's first day
+    DateTime AutoShiftStartTime;   // only the time of day matters
     DateTime AutoShiftEndTime;
 };
 

@@ -12,6 +12,7 @@ namespace ptk {
 namespace {
 
 constexpr auto kButtons = "buttons";
+constexpr int kSpace = 12; // pixels, as between the parts of a page
 
 QScrollArea* NewScroll(QWidget* page)
 {
@@ -31,6 +32,7 @@ QScrollArea* NewScroll(QWidget* page)
 PageFrame::PageFrame(const QString& caption, QWidget* page) : QGroupBox(caption)
 {
     auto* column = new QVBoxLayout(this);
+    column->setSpacing(kSpace);
     column->addWidget(NewScroll(page));
     AddButtons(*column, *page);
 }

@@ -1,6 +1,7 @@
 // From the start of the program through the login to the end of the session.
 #include "gui/GuiFixture.h"
 #include "store/BulkWriter.h"
+#include "ui/dialogs/FLogin.h"
 
 namespace ptk {
 
@@ -145,12 +146,27 @@ TEST_F(LoginTest, HidesThePasswordBehindAsterisksAndLogsInWithEnter)
 {
     Start([](QDialog& login) {
         auto& password = Find<QLineEdit>(login, "txtPassword");
-        Find<QLineEdit>(login, "txtName").setText("administrator");
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&login));
+        QTest::keyClicks(&Find<QLineEdit>(login, "txtName"), "administrator");
+        QTest::keyClick(login.windowHandle(), Qt::Key_Return);
+        EXPECT_TRUE(password.hasFocus()) << "the name alone asks for the password";
         QTest::keyClicks(&password, "wharf271");
         EXPECT_EQ(password.displayText(), "********");
-        QTest::keyClick(&password, Qt::Key_Return);
+        QTest::keyClick(login.windowHandle(), Qt::Key_Return);
     });
     EXPECT_TRUE(program.Main().isVisible());
+}
+
+TEST_F(LoginTest, WhatItWasNotGivenRefusesTheLogin)
+{
+    FLogin login(program.desktop);
+    TryLogin(login, "Mia Poe", "Clock 9");
+    EXPECT_EQ(program.desktop.Take(), Boxes{kInvalid}) << "no list of employees";
+
+    Start([](QDialog& window) { TryLogin(window, "Mia Poe", "Clock 9"); });
+    login.EmployeeList(program.Controller()->EmployeeList());
+    TryLogin(login, "Mia Poe", "Clock 9");
+    EXPECT_TRUE(login.LoginValid()) << "only the help's setting needs the configuration";
 }
 
 TEST_F(LoginTest, AHelpSettingThatIsNoBooleanStopsTheStart)

@@ -1,5 +1,6 @@
 // The viewer windows of the reports, driven as a user drives them.
 #include "reports/ReportFixture.h"
+#include "support/Hardship.h"
 #include "ui/dialogs/FReportViewers.h"
 
 #include <QtTest>
@@ -63,7 +64,8 @@ protected:
         QTest::mouseClick(viewer.findChild<QPushButton*>(button), Qt::LeftButton);
     }
 
-    QtViewerFactory windows;
+    QtViewerFactory windows{[this](const std::string& line) { logged.push_back(line); }};
+    std::vector<std::string> logged;
     std::shared_ptr<CReportEmployee> report;
 };
 
@@ -113,6 +115,8 @@ TEST_F(ReportViewersTest, PrintingHidesTheViewerOnlyWhenItSucceeds)
     Click(viewer, "cmdPrint");
     EXPECT_TRUE(viewer.isVisible());
     EXPECT_TRUE(desktop.boxes.empty());
+    EXPECT_TRUE(viewer.findChild<QLabel*>("lblNotice")->text().startsWith("Not printed."));
+    EXPECT_EQ(logged, std::vector<std::string>{"Not printed: Employee Records"});
     Click(viewer, "cmdPrint");
     EXPECT_TRUE(viewer.isVisible());
     ASSERT_EQ(desktop.boxes.size(), 1U);
@@ -190,7 +194,7 @@ TEST_F(ReportViewersTest, NoneStandsExactlyOnAnother)
 
 TEST_F(ReportViewersTest, SaysWhenTheFileIsNotWhole)
 {
-    std::filesystem::create_symlink("/dev/full", File("employee_records.txt"));
+    const FullDisk full;
     ReportViewerWindow& viewer = OpenRecords();
     EXPECT_EQ(viewer.findChild<QLabel*>("lblNotice")->text(), "This report is not complete: error 702.");
 }

@@ -2,6 +2,7 @@
 
 #include "support/Failures.h"
 #include "support/Files.h"
+#include "support/Hardship.h"
 #include "support/TemporaryFolder.h"
 
 #include <cerrno>
@@ -67,12 +68,21 @@ TEST(LineFileTest, WritesAppendsAndTruncates)
     EXPECT_EQ(ReadBytes(path), "onetwo");
     write(Mode::Write, "3");
     EXPECT_EQ(ReadBytes(path), "3");
+
+    const std::int32_t number = linefile::FreeNumber();
+    linefile::Open(number, path, Mode::Write);
+    linefile::Write(number, "mine ");
+    write(Mode::Append, "another's ");
+    linefile::Write(number, "mine");
+    linefile::Close(number);
+    EXPECT_EQ(ReadBytes(path), "mine another's mine") << "two writers lose nothing of each other's";
 }
 
 TEST(LineFileTest, NumbersItsFailures)
 {
     using linefile::Mode;
     const TemporaryFolder folder;
+    ::mkfifo((folder.Path() + "/pipe").c_str(), 0600);
     struct Case
     {
         const char* name;
@@ -84,25 +94,51 @@ TEST(LineFileTest, NumbersItsFailures)
                           Case{"no file", folder.Path() + "/none", Mode::Read, failure::FileNotFound},
                           Case{"no folder", folder.Path() + "/none/a", Mode::Write, failure::PathNotFound},
                           Case{"a folder to write", folder.Path() + "/reports", Mode::Write, failure::PathFileAccess},
-                          Case{"a folder to read", folder.Path() + "/reports", Mode::Read, failure::PathFileAccess}}) {
+                          Case{"a folder to read", folder.Path() + "/reports", Mode::Read, failure::PathFileAccess},
+                          Case{"a pipe to write", folder.Path() + "/pipe", Mode::Append, failure::PathFileAccess},
+                          Case{"a pipe to read", folder.Path() + "/pipe", Mode::Read, failure::PathFileAccess},
+                          Case{"a device", "/dev/full", Mode::Write, failure::PathFileAccess}}) {
         SCOPED_TRACE(c.name);
         EXPECT_EQ(FailureOf([&] { linefile::Open(linefile::FreeNumber(), c.path, c.mode); }), c.expected);
     }
     const std::int32_t number = linefile::FreeNumber();
-    linefile::Open(number, "/dev/full", Mode::Write);
+    linefile::Open(number, folder.Path() + "/a", Mode::Write);
     EXPECT_NE(linefile::FreeNumber(), number);
-    EXPECT_EQ(FailureOf([&] { linefile::Write(number, "x"); }), failure::DiskFull);
-    EXPECT_EQ(FailureOf([&] { linefile::Open(number, "/dev/null", Mode::Write); }), failure::FileAlreadyOpen);
+    {
+        const FullDisk full;
+        EXPECT_EQ(FailureOf([&] { linefile::Write(number, "x"); }), failure::DiskFull);
+    }
+    EXPECT_EQ(FailureOf([&] { linefile::Open(number, folder.Path() + "/a", Mode::Write); }), failure::FileAlreadyOpen);
     linefile::Close(number);
     EXPECT_EQ(FailureOf([&] { linefile::Close(number); }), failure::BadFileNumber);
-    EXPECT_EQ(FailureOf([&] { linefile::Open(512, "/dev/null", Mode::Write); }), failure::BadFileNumber);
+    EXPECT_EQ(FailureOf([&] { linefile::Open(512, folder.Path() + "/a", Mode::Write); }), failure::BadFileNumber);
+}
+
+TEST(LineFileTest, KeepsItsFilesForTheirOwner)
+{
+    const TemporaryFolder folder;
+    const auto open = [&](const std::string& name, linefile::Mode mode) {
+        const std::int32_t number = linefile::FreeNumber();
+        linefile::Open(number, folder.Path() + name, mode);
+        linefile::Close(number);
+        return ModeOf(folder.Path() + name);
+    };
+    for (const mode_t mask : {0, 0777}) {
+        ::umask(mask);
+        EXPECT_EQ(open("/written" + std::to_string(mask), linefile::Mode::Write), 0600);
+        EXPECT_EQ(open("/appended" + std::to_string(mask), linefile::Mode::Append), 0600);
+    }
+    ::umask(022);
+    WriteBytes(folder.Path() + "/shared", "");
+    EXPECT_EQ(open("/shared", linefile::Mode::Write), 0644) << "an existing one keeps its mode";
 }
 
 TEST(LineFileTest, RunsOutOfNumbersAfter511)
 {
+    const TemporaryFolder folder;
     std::vector<std::int32_t> taken;
     for (std::int32_t number = linefile::FreeNumber(); number != 0; number = linefile::FreeNumber()) {
-        linefile::Open(number, "/dev/null", linefile::Mode::Read);
+        linefile::Open(number, folder.Path() + "/a", linefile::Mode::Append);
         taken.push_back(number);
     }
     EXPECT_EQ(taken.size(), 511U);

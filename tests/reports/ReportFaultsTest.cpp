@@ -2,6 +2,8 @@
 #include "reports/ReportFixture.h"
 
 #include "model/CTimeCard.h"
+#include "support/Files.h"
+#include "support/Hardship.h"
 
 #include <functional>
 
@@ -78,20 +80,30 @@ TEST_F(ReportFaultsTest, RefusesMissingArguments)
 
 TEST_F(ReportFaultsTest, NeedsItsFile)
 {
-    std::filesystem::create_directory(File("employee_records.txt"));
-    EXPECT_EQ(Records(false)->ErrorNumber(), 503);
-    std::filesystem::remove_all(File(""));
-    EXPECT_EQ(Records(false)->ErrorNumber(), 503);
+    const std::string file = File("employee_records.txt");
+    const std::vector<std::function<void()>> spoilers{
+        [&] { std::filesystem::create_directory(file); },
+        [&] { ::mkfifo(file.c_str(), 0600); },
+        [&] { std::filesystem::create_symlink("/dev/full", file); },
+        [&] { std::filesystem::remove_all(File("")); },
+    };
+    for (const auto& spoil : spoilers) {
+        std::filesystem::remove(file);
+        spoil();
+        EXPECT_EQ(Records(false)->ErrorNumber(), 503);
+    }
     EXPECT_FALSE(std::filesystem::exists(File(""))) << "the folder is never created";
     EXPECT_TRUE(viewers.made.empty());
 }
 
 TEST_F(ReportFaultsTest, NeedsItsViewer)
 {
+    WriteBytes(File("employee_records.txt"), "an earlier report");
     for (const Makes makes : {Makes::None, Makes::Raises}) {
         viewers.makes = makes;
         EXPECT_EQ(Records(false)->ErrorNumber(), 701);
     }
+    EXPECT_EQ(FileBytes(File("employee_records.txt")), "an earlier report");
 }
 
 TEST_F(ReportFaultsTest, LostLinesShowInTheErrorNumberOnly)
@@ -101,11 +113,28 @@ TEST_F(ReportFaultsTest, LostLinesShowInTheErrorNumberOnly)
     EXPECT_EQ(FileBytes(File("employee_records.txt")), Golden("employee_records.txt"));
 
     viewers.makes = Makes::Good;
-    std::filesystem::remove(File("employee_records.txt"));
-    std::filesystem::create_symlink("/dev/full", File("employee_records.txt"));
-    EXPECT_EQ(Records(true)->ErrorNumber(), 702);
+    WriteBytes(File("employee_records.txt"), "an earlier report");
+    const FullDisk full(200);
+    const auto report = Records(true);
+    EXPECT_EQ(report->ErrorNumber(), 702);
     EXPECT_EQ(viewers.made.back()->text, Golden("employee_records.txt"));
     EXPECT_TRUE(viewers.made.back()->shown);
+    EXPECT_EQ(FileBytes(File("employee_records.txt")), "an earlier report") << "half a report does not replace it";
+    EXPECT_FALSE(report->PrintReport()) << "nor is it printed for this one";
+    EXPECT_TRUE(desktop.requests.empty());
+    EXPECT_EQ(desktop.boxes.size(), 1U);
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(File("")), {}), 1);
+}
+
+TEST_F(ReportFaultsTest, IsAFileOfItsOwnForItsOwner)
+{
+    const std::string other = folder.Path() + "/system/other";
+    WriteBytes(other, "of another");
+    std::filesystem::create_symlink(other, File("employee_records.txt"));
+    EXPECT_TRUE(Records(true)->FileWritten());
+    EXPECT_EQ(ModeOf(File("employee_records.txt")), 0600);
+    EXPECT_EQ(FileBytes(File("employee_records.txt")), Golden("employee_records.txt"));
+    EXPECT_EQ(FileBytes(other), "of another");
 }
 
 TEST_F(ReportFaultsTest, ACardWithoutADatabaseIs710)
@@ -122,6 +151,7 @@ TEST_F(ReportFaultsTest, ACardWithoutADatabaseIs710)
     const auto beyond = New<CReportTimeCard>();
     EXPECT_FALSE(beyond->GenerateReport(database, ann, first, DateTime({9999, 12, 31})));
     EXPECT_EQ(beyond->ErrorNumber(), 710) << "there is no day after";
+    EXPECT_TRUE(FileBytes(File("5_0101_1231_2003_time_card.txt")).ends_with("Date\r\n")) << "the form is whole, only the card is missing";
 }
 
 TEST_F(ReportFaultsTest, SkipsEmployeesWhoAreNoMore)
@@ -143,9 +173,38 @@ TEST_F(ReportFaultsTest, SkipsEmployeesWhoAreNoMore)
     EXPECT_TRUE(viewers.made.back()->shown);
 }
 
+TEST_F(ReportFaultsTest, AReviewIsOfOneMomentAndTellsWhomItLeavesOut)
+{
+    AddShifts();
+    ASSERT_TRUE(database->ExecuteAction("UPDATE TimeRecord SET EndTime = '2003-01-06 late' WHERE EmployeeID = 2;"));
+    const auto review = New<CReportReview>();
+    review->Progress([&](std::int32_t done, std::int32_t) {
+        CJetDB other(folder.Path());
+        EXPECT_FALSE(done == 1 && other.OpenDB()) << "somebody else's turn between two cards";
+        return true;
+    });
+    EXPECT_FALSE(review->GenerateReport(database, ListOf({jose, ann, zorn, jose}), first, last));
+    EXPECT_EQ(review->ErrorNumber(), 710);
+    EXPECT_EQ(review->Missing(),
+              "without " + jose->DisplayName() + ", " + jose->DisplayName() +
+                  ": there are no time records in this period; without Zorn: TimeRecord 6: EndTime is \"2003-01-06 late\" "
+                  "(Type mismatch)");
+
+    CJetDB other(folder.Path());
+    ASSERT_TRUE(other.OpenDB());
+    review->Progress(nullptr);
+    EXPECT_FALSE(review->GenerateReport(database, ListOf({ann, zorn}), first, last));
+    EXPECT_EQ(review->Missing(), "without Ann Lee, Zorn: the database is in use by another program");
+    const auto card = New<CReportTimeCard>();
+    EXPECT_FALSE(card->GenerateReport(database, ann, first, last));
+    EXPECT_EQ(card->ErrorNumber(), 605);
+    EXPECT_EQ(card->Missing(), "the database is in use by another program");
+}
+
 TEST_F(ReportFaultsTest, ACancelledReviewSaysSo)
 {
     AddShifts();
+    WriteBytes(File("salary_review_0101_0116_2003.txt"), "an earlier review");
     const auto report = New<CReportReview>();
     std::vector<std::pair<std::int32_t, std::int32_t>> calls;
     report->Progress([&](std::int32_t done, std::int32_t total) {
@@ -158,8 +217,8 @@ TEST_F(ReportFaultsTest, ACancelledReviewSaysSo)
     const std::string golden = Golden("review.txt");
     const std::string ended = golden.substr(0, golden.find("\tGross Pay: \t\t\t194.58")) + "\tGross Pay: \t\t\t194.58\r\n\r\n" +
                               std::string(72, '-') + "\r\n\r\nCancelled after 1 of 3 employees.\r\n";
-    EXPECT_EQ(FileBytes(File("salary_review_0101_0116_2003.txt")), ended);
     EXPECT_EQ(viewers.made.back()->text, ended);
+    EXPECT_EQ(FileBytes(File("salary_review_0101_0116_2003.txt")), "an earlier review");
 
     report->Progress(nullptr);
     EXPECT_FALSE(report->GenerateReport(database, ListOf({ann, jose, zorn}), first, last));

@@ -2,6 +2,7 @@
 
 #include "support/Files.h"
 #include "support/FixedClock.h"
+#include "support/Hardship.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -117,7 +118,11 @@ TEST_F(CFileTest, TellsThePlatformsFailures)
     EXPECT_EQ(file.ErrorNumber(), 52);
     EXPECT_TRUE(file.ErrorDescription().starts_with("There has been an error closing the file.\r\n\r\nError Number: 52\r\nError: "));
 
-    ASSERT_TRUE(file.OpenFile("/dev/full", 1));
+    EXPECT_FALSE(file.OpenFile("/dev/null", 1));
+    EXPECT_EQ(file.ErrorNumber(), 75) << "no regular file";
+
+    ASSERT_TRUE(file.OpenFile(Path(), 1));
+    const FullDisk full;
     EXPECT_FALSE(file.WriteLine("x"));
     EXPECT_EQ(file.ErrorNumber(), 61) << "a full disk is told by the write that meets it";
     EXPECT_TRUE(file.ErrorDescription().starts_with("There has been an error opening the file.\r\n\r\nError Number: 61\r\nError: "));
@@ -144,6 +149,27 @@ TEST_F(CFileTest, GivesItsNumberBackWhenDestroyedOrReopened)
     EXPECT_EQ(numberOfAFreshFile(), number) << "the first file's number is free again";
     EXPECT_TRUE(file.WriteLine("x"));
     EXPECT_EQ(ReadBytes(Path("second.txt")), "x\r\n");
+}
+
+TEST_F(CFileTest, IsClosedEvenWhenClosingFails)
+{
+    const int next = ::dup(STDERR_FILENO); // the lowest free descriptor, which the file is to get
+    ::close(next);
+    ASSERT_TRUE(file.OpenFile(Path(), 1));
+    ::close(next);
+    EXPECT_FALSE(file.CloseFile());
+    EXPECT_EQ(file.ErrorNumber(), 57);
+    EXPECT_FALSE(file.FileOpen());
+
+    CFile other;
+    ASSERT_TRUE(other.OpenFile(Path("other.txt"), 1));
+    EXPECT_EQ(other.FileNumber(), file.FileNumber());
+    EXPECT_FALSE(file.WriteLine("astray"));
+    EXPECT_EQ(file.ErrorNumber(), 503);
+    EXPECT_FALSE(file.CloseFile());
+    EXPECT_EQ(file.ErrorNumber(), 52);
+    EXPECT_TRUE(other.WriteLine("kept"));
+    EXPECT_EQ(ReadBytes(Path("other.txt")), "kept\r\n");
 }
 
 TEST_F(CFileTest, AnswersWhenNoFileNumberIsLeft)

@@ -2,6 +2,7 @@
 #include "shell/CDatabaseLocator.h"
 #include "shell/CFileAdaptor.h"
 #include "support/Files.h"
+#include "support/Hardship.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -145,6 +146,23 @@ TEST_F(ConfigurationTest, WritesEveryLineBack)
     EXPECT_TRUE(config->WriteFile(path));
     EXPECT_EQ(ReadBytes(path), "K=c\r\nK=a\r\nb\r\n\r\nfree text\r\n")
         << "the header contains the key's text and is the first line that does";
+}
+
+TEST_F(ConfigurationTest, AFileThatCannotBeReplacedStaysWhole)
+{
+    Read("[PTK]\r\nKey=True\r\n");
+    EXPECT_TRUE(config->ReplaceLine("Key", "False"));
+    {
+        const FullDisk full;
+        EXPECT_TRUE(config->WriteFile(path)) << "whatever came of it";
+    }
+    EXPECT_EQ(config->LastFailure().Number(), 61);
+    EXPECT_EQ(ReadBytes(path), "[PTK]\r\nKey=True\r\n");
+    EXPECT_TRUE(config->WriteFile(path));
+    EXPECT_EQ(config->LastFailure().Number(), 0);
+    EXPECT_EQ(ReadBytes(path), "[PTK]\r\nKey=False\r\n");
+    EXPECT_TRUE(config->ReadFile(folder.Path()));
+    EXPECT_EQ(config->LastFailure().Number(), 75) << "a folder";
 }
 
 TEST_F(ConfigurationTest, HoldsAsManyLinesAsAPositionCanCount)

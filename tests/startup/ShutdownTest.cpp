@@ -5,6 +5,8 @@
 #include "model/CTimeRecordList.h"
 #include "store/CSystemOptions.h"
 
+#include <cstdlib>
+
 using namespace ptk;
 
 namespace {
@@ -41,7 +43,7 @@ TEST_F(ShutdownTest, ExitSavesAndEndsOnceAlthoughItRunsTheClosingStepsTwice)
     controller->SystemOptions()->PeriodLength(7);
     windows.main->Exit();
     EXPECT_EQ(windows.main->unloads, 1);
-    EXPECT_EQ(ended, 1);
+    EXPECT_EQ(ends, std::vector{EXIT_SUCCESS});
     EXPECT_TRUE(desktop.boxes.empty());
     EXPECT_EQ(Log(), kLogBegin + kLogEnd);
     EXPECT_EQ(ReadBytes(configPath), "[PTK]\r\nDatabasePath=<app.path>\\system\\ptk_11.mdb\r\nShowLoginHelp=False\r\n");
@@ -60,7 +62,7 @@ TEST_F(ShutdownTest, AHeldDatabaseSavesNothingAndTheNextAttemptDoes)
     EXPECT_FALSE(controller->Cleanup());
     EXPECT_EQ(Boxes(), Texts{kUnusable});
     EXPECT_EQ(desktop.boxes.front().icon, Icon::Exclamation);
-    EXPECT_EQ(ended, 0);
+    EXPECT_TRUE(ends.empty());
     EXPECT_EQ(Log(), kLogBegin);
     EXPECT_TRUE(ReadBytes(configPath).ends_with("ShowLoginHelp=True\r\n"));
 
@@ -68,7 +70,7 @@ TEST_F(ShutdownTest, AHeldDatabaseSavesNothingAndTheNextAttemptDoes)
     EXPECT_EQ(StoredPeriodLength(), 14);
     EXPECT_FALSE(controller->Cleanup());
     EXPECT_EQ(desktop.boxes.size(), 1U);
-    EXPECT_EQ(ended, 1);
+    EXPECT_EQ(ends, std::vector{EXIT_SUCCESS});
     EXPECT_EQ(StoredPeriodLength(), 7);
 }
 
@@ -81,7 +83,19 @@ TEST_F(ShutdownTest, OptionsThatCannotBeSavedAreToldAndTheRestIsSaved)
     EXPECT_EQ(desktop.boxes.front().icon, Icon::Exclamation);
     EXPECT_TRUE(ReadBytes(configPath).ends_with("ShowLoginHelp=False\r\n"));
     EXPECT_EQ(Log(), kLogBegin + kLogEnd);
-    EXPECT_EQ(ended, 1);
+    EXPECT_EQ(ends, std::vector{EXIT_SUCCESS});
+}
+
+TEST_F(ShutdownTest, AConfigurationThatCannotBeSavedIsToldAndLogged)
+{
+    std::filesystem::remove(NativePath(configPath));
+    std::filesystem::create_directory(NativePath(configPath));
+    windows.main->Exit();
+    EXPECT_EQ(Boxes(), Texts{"Update Configuration Error: An error occurred while saving program configuration settings. Please check the "
+                             "program configuration before next use."});
+    EXPECT_EQ(desktop.boxes.front().icon, Icon::Exclamation);
+    EXPECT_EQ(Log(), kLogBegin + "Error: 75 : Path/File access error: " + NativePath(configPath).string() + "\r\n" + kLogEnd);
+    EXPECT_EQ(ends, std::vector{EXIT_SUCCESS});
 }
 
 TEST_F(ShutdownTest, ReloadsIntoTheListsThatEveryoneHolds)

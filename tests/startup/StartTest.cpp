@@ -4,6 +4,9 @@
 #include "model/CEmployeeList.h"
 #include "store/CSystemOptions.h"
 
+#include <cstdlib>
+#include <sys/stat.h>
+
 using namespace ptk;
 
 namespace {
@@ -25,7 +28,7 @@ TEST_F(StartTest, AValidLoginBringsUpTheMainWindowOnTheSharedObjects)
     program.Start();
     ASSERT_NE(program.Controller(), nullptr);
     EXPECT_TRUE(desktop.boxes.empty());
-    EXPECT_EQ(ended, 0);
+    EXPECT_TRUE(ends.empty());
     EXPECT_EQ(Log(), kLogBegin);
 
     CController& controller = Controller();
@@ -44,7 +47,7 @@ TEST_F(StartTest, ARefusedLoginEndsTheProgram)
 {
     windows.loginValid = false;
     program.Start();
-    EXPECT_EQ(ended, 1);
+    EXPECT_EQ(ends, std::vector{EXIT_FAILURE});
     EXPECT_EQ(program.Controller(), nullptr);
     EXPECT_EQ(windows.main, nullptr);
     EXPECT_TRUE(desktop.boxes.empty());
@@ -73,10 +76,19 @@ TEST_F(StartTest, ADatabaseThatCannotBeOpenedStopsBeforeTheLogin)
         EXPECT_EQ(windows.login, nullptr);
         EXPECT_EQ(Controller().ControllerWindow(), nullptr);
         EXPECT_EQ(Log(), kLogBegin);
-        EXPECT_EQ(ended, 0);
+        EXPECT_TRUE(ends.empty());
         desktop.boxes.clear();
     }
     EXPECT_FALSE(std::filesystem::exists(NativePath(databasePath)));
+}
+
+TEST_F(StartTest, AConfigurationThatIsNoFileIsLoggedAndNotWaitedFor)
+{
+    std::filesystem::remove(NativePath(configPath));
+    ::mkfifo(NativePath(configPath).c_str(), 0600);
+    program.Start();
+    EXPECT_EQ(Boxes(), Texts{kUnusable});
+    EXPECT_EQ(Log(), kLogBegin + "Error: 75 : Path/File access error: " + NativePath(configPath).string() + "\r\n");
 }
 
 TEST_F(StartTest, UnreadableOptionsAreToldAndLogged)
@@ -104,7 +116,7 @@ TEST_F(StartTest, AnUnbuiltListEndsTheProgramAfterTryingTheOthers)
     };
     Run("DELETE FROM _StoredQuery WHERE name = 'GetAllCompanies';");
     Watching watching;
-    AdminMain main(folder.Path(), watching, clock, windows, [this] { ++ended; });
+    AdminMain main(folder.Path(), watching, clock, windows, [this](int status) { ends.push_back(status); });
     watching.onBox = [&] {
         EXPECT_EQ(main.Controller()->EmployeeList()->Count(), 1);
         EXPECT_NE(main.Controller()->TimeRecordFactory(), nullptr);
@@ -114,8 +126,9 @@ TEST_F(StartTest, AnUnbuiltListEndsTheProgramAfterTryingTheOthers)
     EXPECT_EQ(watching.boxes[0].title + ": " + watching.boxes[0].text, kListsUnbuilt);
     EXPECT_EQ(watching.boxes[0].icon, Icon::Critical);
     EXPECT_EQ(windows.login, nullptr);
-    EXPECT_EQ(ended, 1);
-    EXPECT_EQ(Log(), kLogBegin + kLogEnd);
+    EXPECT_EQ(ends, std::vector{EXIT_FAILURE});
+    EXPECT_EQ(Log(),
+              kLogBegin + "Error: 411 : The list of companies could not be loaded: there is no stored query GetAllCompanies\r\n" + kLogEnd);
 }
 
 TEST_F(StartTest, AFailureOnTheWayIsShownAndLogged)
@@ -125,7 +138,7 @@ TEST_F(StartTest, AFailureOnTheWayIsShownAndLogged)
     EXPECT_EQ(Boxes(), Texts{"Error Number: 13: The following error ocurred in module \r\nError Source: PTK\r\n13: Type mismatch"});
     EXPECT_EQ(desktop.boxes.front().icon, Icon::Critical);
     EXPECT_EQ(Log(), kLogBegin + "Program Construction Error: 13 : Type mismatch\r\n");
-    EXPECT_EQ(ended, 0);
+    EXPECT_TRUE(ends.empty());
     EXPECT_FALSE(windows.login->shown);
     EXPECT_EQ(Controller().ControllerWindow(), nullptr);
 }
@@ -146,7 +159,7 @@ TEST_F(StartTest, WithoutALogTheProgramRunsAndLogsNothing)
     EXPECT_EQ(Boxes(), Texts{"Log Open Error: An error occurred opening the errorlog for writing."});
     EXPECT_EQ(desktop.boxes.front().icon, Icon::Critical);
     EXPECT_TRUE(windows.login->shown);
-    EXPECT_EQ(ended, 1);
+    EXPECT_EQ(ends, std::vector{EXIT_FAILURE});
 }
 
 TEST_F(StartTest, EachRunStartsAFreshLog)

@@ -149,8 +149,8 @@ protected:
     RecordingDesktop desktop;
     FixedClock clock{DateTime({2003, 3, 5}, {8, 5, 9})};
     ScriptedWindows windows;
-    int ended = 0;
-    AdminMain program{folder.Path(), desktop, clock, windows, [this] { ++ended; }};
+    std::vector<int> ends; // the exit status of each end routine that ran
+    AdminMain program{folder.Path(), desktop, clock, windows, [this](int status) { ends.push_back(status); }};
 };
 
 } // namespace ptk

@@ -9,13 +9,13 @@
 
 namespace ptk {
 
-// The hold is a transaction: taken by the constructor, given up by Commit, Undo and Release, and taken again by the next Hold. A file in use
-// is waited for, up to one second for each taking.
+// The hold is a transaction: taken by the constructor, given up by Commit and Release, and taken again by the next Hold. A file in
+// use is waited for, up to one second for each taking.
 class Connection
 {
 public:
-    // Opens for reading and writing, exclusively and without ever creating a file. Raises 14 (missing, no regular file), 5 (held by anyone, a
-    // reader included, for more than a second), 8 (read-only), 26 (no database, another program's, or of a newer format) or 11 (damaged);
+    // Opens for reading and writing, exclusively and without ever creating a file. Raises 14 (missing, no regular file), 5 (held by anyone,
+    // a reader included, for more than a second), 8 (read-only), 26 (no database, another program's, or of a newer format) or 11 (damaged);
     // another program's file is not touched by that. An empty file passes.
     explicit Connection(const std::string& path);
     Connection(const Connection&) = delete;

@@ -131,7 +131,7 @@ void Engine::Commit()
 
 std::shared_ptr<RecordSet> Engine::CheckIntegrity()
 {
-    return Prepare("PRAGMA integrity_check")->ReadRows(Statement::Bound::None);
+    return Prepare("PRAGMA integrity_check")->ReadRows(Statement::kAllRows, Statement::kAnySteps);
 }
 
 } // namespace ptk

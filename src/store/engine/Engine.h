@@ -19,11 +19,12 @@ struct NewFile
 };
 
 // Failures carry the engine's primary result codes and the source "SQLite", those of the statement text's dates 13 and "PTK". After a
-// failure of a statement nothing of it is left. A statement that does not come to an end is stopped after a thousand million steps of the
+// failure of a statement nothing of it is left. A statement that does not come to an end is stopped after 400 million steps of the
 // engine, with 9; a record set that would not fit into memory with 7. Record sets outlive the engine; prepared statements do not.
 //
 // The hold: there after opening, kept by every member that reads, gone with each member that ends a transaction (committed or failed) and
-// with GiveUp. Every member takes it again when it is gone, and raises 5 when somebody else has had the file for more than a second by then.
+// with GiveUp. Every member takes it again when it is gone, and raises 5 when somebody else has had the file for more than a second by
+// then.
 class Engine
 {
 public:
@@ -40,8 +41,8 @@ public:
 
     // In the program's own SQL. Select takes only statements that answer rows and change nothing, Execute only those that answer none.
     std::shared_ptr<RecordSet> Select(std::string_view statement);
-    void Execute(std::string_view statement);                   // on disk when it returns
-    void ExecuteAll(std::span<const std::string> statements);   // all of them in one transaction, or nothing
+    void Execute(std::string_view statement);                 // on disk when it returns
+    void ExecuteAll(std::span<const std::string> statements); // all of them in one transaction, or nothing
 
     // Of the queries inside the file. A missing query raises 12, an unknown parameter or one without a value 25.
     std::shared_ptr<RecordSet> SelectStored(std::string_view query);

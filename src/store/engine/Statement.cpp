@@ -85,27 +85,25 @@ void AddColumns(RecordSet::Builder& rows, sqlite3_stmt* statement)
 
 } // namespace
 
-// While it lives, a statement that has taken too many steps is stopped.
-class Statement::Guard
+// While it lives, the statement is stopped beyond so many steps.
+class Statement::Limit
 {
 public:
-    Guard(sqlite3* database, std::int32_t& ticks, Bound bound) : m_database(database)
+    Limit(Statement& statement, std::int32_t mostSteps) : m_statement(statement), m_mostSteps(mostSteps)
     {
-        if (bound == Bound::Steps) {
-            sqlite3_progress_handler(database, kStepsInATick, Tick, &ticks);
-        }
+        constexpr int kMillion = 1'000'000;
+        sqlite3_progress_handler(
+            statement.m_database, kMillion, [](void* limit) { return static_cast<Limit*>(limit)->Exceeded() ? 1 : 0; }, this);
     }
-    ~Guard() { sqlite3_progress_handler(m_database, 0, nullptr, nullptr); }
-    Guard(const Guard&) = delete;
-    Guard& operator=(const Guard&) = delete;
+    ~Limit() { sqlite3_progress_handler(m_statement.m_database, 0, nullptr, nullptr); }
+    Limit(const Limit&) = delete;
+    Limit& operator=(const Limit&) = delete;
 
 private:
-    static constexpr int kStepsInATick = 1'000'000;
-    static constexpr std::int32_t kMostTicks = 1000; // some ten seconds
+    bool Exceeded() { return ++m_statement.m_steps > m_mostSteps; }
 
-    static int Tick(void* ticks) { return ++*static_cast<std::int32_t*>(ticks) >= kMostTicks ? 1 : 0; }
-
-    sqlite3* m_database;
+    Statement& m_statement;
+    std::int32_t m_mostSteps;
 };
 
 void Statement::Finalizer::operator()(sqlite3_stmt* statement) const
@@ -165,7 +163,7 @@ bool Statement::Step()
 void Statement::Rewind()
 {
     sqlite3_reset(m_statement.get()); // answers the failure of the last step, which was raised there
-    m_ticks = 0;
+    m_steps = 0;
 }
 
 void Statement::RefuseUnlessAction() const
@@ -179,22 +177,49 @@ void Statement::RefuseUnlessAction() const
 void Statement::Run()
 {
     RefuseUnlessAction();
-    const Guard guard(m_database, m_ticks, Bound::Steps);
+    const Limit limit(*this, kMostSteps);
     Step();
     Rewind();
 }
 
-std::shared_ptr<RecordSet> Statement::ReadRows(std::int32_t most, Bound bound)
+void Statement::RefuseUnlessRows() const
 {
-    sqlite3_stmt* row = m_statement.get();
-    const int columns = sqlite3_column_count(row);
-    if (columns == 0 || sqlite3_stmt_readonly(row) == 0) {
+    if (sqlite3_column_count(m_statement.get()) == 0 || sqlite3_stmt_readonly(m_statement.get()) == 0) {
         throw EngineFailure(SQLITE_ERROR, "the statement answers no rows or changes the database");
     }
     RefuseMissingParameters();
+}
+
+bool Statement::NextRow()
+{
+    RefuseUnlessRows();
+    const Limit limit(*this, kMostSteps);
+    const bool more = Step();
+    if (!more) {
+        Rewind(); // a parameter may be assigned again
+    }
+    return more;
+}
+
+std::int64_t Statement::Int64At(int column) const
+{
+    return sqlite3_column_int64(m_statement.get(), column);
+}
+
+std::optional<DateTime> Statement::StoredDateAt(int column) const
+{
+    const bool isText = sqlite3_column_type(m_statement.get(), column) == SQLITE_TEXT;
+    return isText ? FromStoredText(TextOf(m_statement.get(), column)) : std::nullopt;
+}
+
+std::shared_ptr<RecordSet> Statement::ReadRows(std::int32_t most, std::int32_t mostSteps)
+{
+    RefuseUnlessRows();
+    sqlite3_stmt* row = m_statement.get();
+    const int columns = sqlite3_column_count(row);
     RecordSet::Builder rows;
     AddColumns(rows, row);
-    const Guard guard(m_database, m_ticks, bound);
+    const Limit limit(*this, mostSteps);
     bool more = true;
     for (std::int32_t count = 0; count < most && (more = Step()); ++count) {
         for (int column = 0; column < columns; ++column) {
@@ -203,7 +228,7 @@ std::shared_ptr<RecordSet> Statement::ReadRows(std::int32_t most, Bound bound)
         rows.EndRow();
     }
     if (!more) {
-        Rewind(); // a parameter may be assigned again
+        Rewind();
     }
     return rows.Finish();
 }

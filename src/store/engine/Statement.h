@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <limits>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -29,14 +30,12 @@ struct Parameter
 class Statement
 {
 public:
-    // Whether a statement is stopped (9) that takes more steps than any honest one: reading ten million records takes a tenth of them.
-    enum class Bound
-    {
-        Steps,
-        None
-    };
-
     static constexpr std::int32_t kAllRows = std::numeric_limits<std::int32_t>::max();
+
+    // Of the engine's steps, in millions. A statement that takes more does not come to an end and is stopped, with 9: reading ten million
+    // records takes 90, and 400 some seconds.
+    static constexpr std::int32_t kMostSteps = 400;
+    static constexpr std::int32_t kAnySteps = std::numeric_limits<std::int32_t>::max();
 
     // `sql` is in the engine's own words and holds exactly one statement.
     Statement(sqlite3* database, std::string_view sql);
@@ -51,24 +50,31 @@ public:
 
     // The next rows, up to so many; fewer only at their end. Refuses with 25 parameters that were never assigned, with 1 a statement that
     // answers no rows or changes anything. Raises 7 for more rows than memory should hold.
-    std::shared_ptr<RecordSet> ReadRows(std::int32_t most = kAllRows, Bound bound = Bound::Steps);
-    std::shared_ptr<RecordSet> ReadRows(Bound bound) { return ReadRows(kAllRows, bound); }
+    std::shared_ptr<RecordSet> ReadRows(std::int32_t most = kAllRows, std::int32_t mostSteps = kMostSteps);
+
+    // The same rows one by one, without keeping them: for small results many times over. False behind the last one.
+    bool NextRow();
+
+    // Of the row at which NextRow stands; columns count from 0.
+    std::int64_t Int64At(int column) const; // 0 for what is no number
+    std::optional<DateTime> StoredDateAt(int column) const; // none for any other form than YYYY-MM-DD HH:MM:SS
 
 private:
     struct Finalizer
     {
         void operator()(sqlite3_stmt* statement) const;
     };
-    class Guard;
+    class Limit;
 
     void RefuseMissingParameters() const;
+    void RefuseUnlessRows() const;
     bool Step();
     void Rewind();
 
     sqlite3* m_database;
     std::unique_ptr<sqlite3_stmt, Finalizer> m_statement;
     std::vector<bool> m_assigned; // by parameter, from 0
-    std::int32_t m_ticks = 0;     // so many times kStepsInATick steps were taken
+    std::int32_t m_steps = 0;     // in millions, since the statement began
 };
 
 } // namespace ptk

@@ -3,13 +3,14 @@
 #include "model/CEmployee.h"
 #include "model/CEmployeeList.h"
 #include "platform/Desktop.h"
-#include "platform/Failure.h"
+#include "platform/Required.h"
 #include "platform/Text.h"
 #include "shell/CFileAdaptor.h"
 #include "ui/dialogs/FLoginHelp.h"
 #include "ui_FLogin.h"
 
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QProxyStyle>
 
 namespace ptk {
@@ -63,24 +64,21 @@ void FLogin::ShowModal()
 
 bool FLogin::ReadShowLoginHelp()
 {
-    if (m_configFile == nullptr) {
-        throw Failure(failure::ObjectNotSet);
-    }
-    m_showHelp = ToBoolean(m_configFile->FindKeyValue(kShowLoginHelp));
+    m_showHelp = ToBoolean(Required(m_configFile)->FindKeyValue(kShowLoginHelp));
     m_ui->cmdHelp->setVisible(m_showHelp);
     return m_showHelp;
 }
 
 bool FLogin::SaveShowLoginHelp()
 {
-    return m_configFile->ReplaceLine(kShowLoginHelp, BooleanText(m_showHelp));
+    return m_configFile != nullptr && m_configFile->ReplaceLine(kShowLoginHelp, BooleanText(m_showHelp));
 }
 
 // Everything that goes wrong on the way is a refused login.
 bool FLogin::ValidateLogin()
 {
     try {
-        const auto employee = m_employeeList->GetEmployeeByName(m_ui->txtName->text().toStdString());
+        const auto employee = Required(m_employeeList)->GetEmployeeByName(m_ui->txtName->text().toStdString());
         if (employee == nullptr || employee->Password().empty()) {
             return false;
         }
@@ -117,6 +115,15 @@ void FLogin::reject()
 {
     m_loginValid = false;
     QDialog::reject();
+}
+
+void FLogin::keyPressEvent(QKeyEvent* event)
+{
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (enter && m_ui->txtName->hasFocus() && !m_ui->txtName->text().isEmpty() && m_ui->txtPassword->text().isEmpty()) {
+        return m_ui->txtPassword->setFocus();
+    }
+    QDialog::keyPressEvent(event);
 }
 
 void FLogin::closeEvent(QCloseEvent* event)

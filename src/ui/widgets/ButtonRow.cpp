@@ -8,7 +8,7 @@ namespace ptk {
 namespace {
 
 constexpr int kSpace = 8;
-constexpr int kLeastLine = 160; // pixels that a short sentence needs
+constexpr int kLeastLine = 160; // pixels in which the beginning of a sentence can be read
 
 bool Expands(const QLayoutItem& item)
 {
@@ -129,7 +129,7 @@ void ButtonRow::AddTo(Row& row, QLayoutItem* item) const
 void ButtonRow::AddLine(std::vector<Row>& rows, QLayoutItem* line, int width) const
 {
     auto row = std::min_element(rows.begin(), rows.end(), [](const Row& one, const Row& other) { return one.width < other.width; });
-    if (width - row->width - spacing() < kLeastLine) {
+    if (width - row->width - spacing() < std::min(kLeastLine, line->sizeHint().width())) {
         row = rows.emplace(rows.begin());
     }
     row->line = line;

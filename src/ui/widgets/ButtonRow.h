@@ -8,7 +8,7 @@
 namespace ptk {
 
 // Buttons keep their own sizes and stand at the right. The one item that expands, the quiet line, takes what is left of the emptiest row,
-// or a row of its own above the others where that is too little. The least width is that of the widest button.
+// or a row of its own above the others where that is too little for what it says. The least width is that of the widest button.
 class ButtonRow final : public QLayout
 {
     Q_OBJECT

@@ -1,0 +1,35 @@
+// A file of the system, open for as long as its owner lives, and the one way in which the program opens files of its own by name.
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <string_view>
+
+namespace ptk {
+
+// Owns a descriptor. Failures carry the number of the errno: 61 (disk full, or beyond a limit on file size or space), 57 and the like.
+class SystemFile
+{
+public:
+    explicit SystemFile(int descriptor = -1) : m_descriptor(descriptor) {}
+    ~SystemFile(); // closes; what the system then has to say is lost, so Close or Flush before it matters
+    SystemFile(SystemFile&& other) noexcept;
+    SystemFile& operator=(SystemFile&& other) noexcept;
+
+    int Descriptor() const { return m_descriptor; } // -1 when nothing is open
+
+    std::size_t Read(char* buffer, std::size_t size); // how many bytes came; 0 at the end
+    void Write(std::string_view text);                // all of it
+    void Flush();                                     // down to the disk
+    void Close();                                     // raises a late write failure; nothing is open afterwards either way
+
+private:
+    int m_descriptor;
+};
+
+// Opens with the flags of open(2). With O_CREAT a new file is for its owner only, whatever the umask; an existing one keeps its mode.
+// Whatever is no regular file, such as a pipe, a device or a folder, is refused at once with 75, never waited for. Else raises 53 (no such
+// file), 76 (no such folder), 70, 67, 61, 57, 52.
+SystemFile OpenRegularFile(const std::filesystem::path& path, int flags);
+
+} // namespace ptk
