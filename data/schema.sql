@@ -54,13 +54,12 @@ CREATE TABLE TimeRecord (
 -- Answers the fetch of an employee's pay period, in its order, without touching the table.
 CREATE INDEX TimeRecordPeriod ON TimeRecord (EmployeeID, StartTime, EndTime);
 
--- The few records that a search by start alone would miss when a card is checked: all but those with two readable times of which the end is
--- at or after the start and at most a day later. Only what begins with a digit gets to the date functions, which refuse the text 'now'.
+-- The few records that a search by start alone would miss when a card is checked: all but those with a start that can be read and an end at most
+-- a day later. What does not begin with a digit is kept from the date functions, which refuse the text 'now'.
 CREATE INDEX TimeRecordUnusual ON TimeRecord (EmployeeID, StartTime, EndTime) WHERE
-    CASE WHEN StartTime GLOB '[0-9]*' AND EndTime GLOB '[0-9]*' THEN
-        StartTime < '0100-01-01' OR StartTime = '1899-12-30 00:00:00'
-        OR datetime(StartTime, '+0 days') IS NOT StartTime OR datetime(EndTime, '+0 days') IS NOT EndTime
-        OR julianday(EndTime) - julianday(StartTime) NOT BETWEEN 0 AND 1
+    CASE WHEN StartTime BETWEEN '0100-' AND ':' THEN
+        datetime(StartTime, '+0 days') IS NOT NULLIF(StartTime, '1899-12-30 00:00:00')
+        OR EndTime NOT BETWEEN StartTime AND datetime(StartTime, '+1 day')
     ELSE 1 END;
 
 -- One row: the options of the program.

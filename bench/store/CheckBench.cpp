@@ -70,7 +70,7 @@ void CheckedCard(benchmark::State& state, const ptk::PayPeriod& period)
     for (auto unused : state) {
         ptk::CTimeCard card(office.factory);
         card.PTKDatabase(office.database);
-        const auto checked = GenerateChecked(card, office.database, employee, period, kLastDay, {});
+        const auto checked = GenerateChecked(card, office.database, employee, period, kLastDay.AddDays(1), {});
         if (!checked.generated || !checked.check || checked.check->weeks.size() < 2) {
             throw std::runtime_error("no checked card");
         }
@@ -95,7 +95,7 @@ void ProgramOverview(benchmark::State& state, const ptk::PayPeriod& period)
         employees.push_back(Employee(kFirstEmployee + i));
     }
     for (auto unused : state) {
-        ptk::Overview overview{period, kLastDay, {}, {}};
+        ptk::Overview overview{period, kLastDay.AddDays(1), {}, {}};
         ReadOverview(overview, office.database, employees);
         benchmark::DoNotOptimize(TotalsOf(overview.rows));
     }

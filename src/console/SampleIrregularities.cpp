@@ -9,6 +9,7 @@ namespace {
 
 constexpr std::int64_t kSecondsPerMinute = 60;
 constexpr int kDaysAYear = 365;
+constexpr int kSaturday = 6;
 
 DateTime At(DateTime day, int minutes)
 {
@@ -92,7 +93,7 @@ public:
     void WorksOnSaturday()
     {
         DateTime saturday = m_today.AddDays(-1);
-        while ((saturday.DayNumber() % 7 + 7) % 7 != 0) { // the zero date-time was a Saturday
+        while (saturday.Weekday() != kSaturday) {
             saturday = saturday.AddDays(-1);
         }
         for (DateTime day = saturday.AddDays(-5); day <= saturday; day = day.AddDays(1)) {

@@ -194,7 +194,9 @@ private:
     {
         std::int64_t regular = 0;
         std::int64_t overtime = 0;
-        for (const WorkDay& day : DaysOf(m_onCard)) {
+        const std::vector<WorkDay> days = DaysOf(m_onCard);
+        m_found.days.reserve(days.size());
+        for (const WorkDay& day : days) {
             const std::int64_t paid = PaidMinutes(day, m_card.employee);
             const DayMinutes split{day.day, std::min(paid, kDailyRegularMinutes), std::max<std::int64_t>(paid - kDailyRegularMinutes, 0)};
             m_found.days.push_back(split);

@@ -47,7 +47,8 @@ std::string What(const char* name, const std::string& shown)
 std::string HoursAndMinutes(std::int64_t minutes)
 {
     const std::int64_t size = minutes < 0 ? -minutes : minutes;
-    return fmt::format("{}{}:{:02}", minutes < 0 ? "-" : "", size / 60, size % 60);
+    const std::string rest = std::to_string(size % 60);
+    return (minutes < 0 ? "-" : "") + std::to_string(size / 60) + (rest.size() == 1 ? ":0" : ":") + rest;
 }
 
 // A foreign value may be long: its beginning tells enough.

@@ -8,12 +8,6 @@ namespace ptk {
 
 namespace {
 
-// Minutes since the zero date-time, the seconds cut off.
-std::int64_t Minute(DateTime moment)
-{
-    return MinutesBetween(DateTime(), moment);
-}
-
 bool HasNoLength(const Punch* punch)
 {
     return punch->Minutes() == 0;
@@ -25,8 +19,8 @@ class OverlapSweep
 public:
     void Take(const Punch* punch)
     {
-        const std::int64_t start = Minute(*punch->start);
-        const std::int64_t end = Minute(*punch->end);
+        const std::int64_t start = punch->start->MinuteNumber();
+        const std::int64_t end = punch->end->MinuteNumber();
         if (m_group.punches.empty() || start >= m_latestEnd) {
             Begin(end);
         } else {

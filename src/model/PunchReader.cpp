@@ -4,8 +4,8 @@
 #include "model/WorkWeeks.h"
 #include "platform/Failure.h"
 #include "store/CJetDB.h"
-#include "store/engine/RecordSet.h"
 #include "store/engine/Statement.h"
+#include "store/engine/StoredDate.h"
 #include "store/PunchSQL.h"
 
 #include <algorithm>
@@ -18,44 +18,35 @@ namespace {
 constexpr std::int64_t kSecondsPerDay = 86400;
 
 // The columns of both queries.
-constexpr std::size_t kId = 0;
-constexpr std::size_t kStart = 1;
-constexpr std::size_t kEnd = 2;
-constexpr std::size_t kFetched = 3;
+constexpr int kId = 0;
+constexpr int kStart = 1;
+constexpr int kEnd = 2;
 
-std::string ShownValue(const RecordSet& rows, std::size_t column)
+constexpr std::size_t kUsualCount = 32; // the shifts of three weeks
+
+std::string ShownValue(const Statement& row, int column)
 {
-    if (rows.IsNull(column)) {
+    switch (row.KindAt(column)) {
+    case CellKind::Null:
         return "";
+    case CellKind::Text:
+        return QuotedValue(row.TextAt(column));
+    case CellKind::Number:
+        return std::string(row.TextAt(column));
+    case CellKind::Bytes:
+        break;
     }
-    const std::string shown = rows.Shown(column);
-    return shown.front() == '"' ? QuotedValue(rows.TextAt(column)) : shown;
-}
-
-// Reads a time, or, where it is none, what stands in its place.
-void ReadTime(const RecordSet& rows, std::size_t column, std::optional<DateTime>& time, std::string& shown)
-{
-    if (rows.HasStoredDate(column)) {
-        time = rows.DateTimeAt(column);
-    } else {
-        shown = ShownValue(rows, column);
-    }
-}
-
-Punch ReadPunch(const RecordSet& rows)
-{
-    Punch punch;
-    punch.id = rows.Int64At(kId);
-    punch.fetched = rows.BooleanAt(kFetched);
-    ReadTime(rows, kStart, punch.start, punch.startText);
-    ReadTime(rows, kEnd, punch.end, punch.endText);
-    return punch;
+    return "a value of bytes";
 }
 
 // By start and end; a row that both queries answered once.
 void Order(Punches& punches)
 {
     const auto key = [](const Punch& punch) { return std::tie(punch.start, punch.end, punch.id); };
+    const auto notBehind = [&](const Punch& left, const Punch& right) { return key(left) >= key(right); };
+    if (std::adjacent_find(punches.begin(), punches.end(), notBehind) == punches.end()) {
+        return;
+    }
     std::sort(punches.begin(), punches.end(), [&](const Punch& left, const Punch& right) { return key(left) < key(right); });
     const auto same = [](const Punch& left, const Punch& right) { return left.id == right.id; };
     punches.erase(std::unique(punches.begin(), punches.end(), same), punches.end());
@@ -92,8 +83,6 @@ PunchReader::PunchReader(CJetDB& database, const PayPeriod& period, std::int32_t
         throw database.LastFailure();
     }
     m_unusual = Prepare(database, punchsql::kUnusual);
-    m_unusual->Bind("from", m_from);
-    m_unusual->Bind("end", m_end);
     m_starting = Prepare(database, punchsql::kStarting);
     m_starting->Bind("first", DayBefore(WeekStart(period.from, firstWeekday)));
     // A shift without length at the card's last moment is on the card, though it begins behind the period and perhaps its weeks.
@@ -102,38 +91,40 @@ PunchReader::PunchReader(CJetDB& database, const PayPeriod& period, std::int32_t
 
 PunchReader::~PunchReader() = default;
 
-void PunchReader::ReadUnusual(Punches& punches)
+// Of a row that cannot be read: the card's fetch compares the values as they stand.
+bool PunchReader::IsFetched(const Statement& row) const
 {
-    for (const auto rows = m_unusual->ReadRows(); !rows->EndOfFile(); rows->MoveNext()) {
-        punches.push_back(ReadPunch(*rows));
-    }
+    const CellKind start = row.KindAt(kStart);
+    const CellKind end = row.KindAt(kEnd);
+    const bool startsInTime = start == CellKind::Bytes || (start == CellKind::Text && row.TextAt(kStart) >= StoredText(m_from));
+    return startsInTime && (end == CellKind::Number || (end == CellKind::Text && row.TextAt(kEnd) <= StoredText(m_end)));
 }
 
-void PunchReader::ReadStarting(Punches& punches)
+Punch PunchReader::ReadPunch(const Statement& row) const
 {
-    while (m_starting->NextRow()) {
-        Punch punch;
-        punch.id = m_starting->Int64At(kId);
-        punch.start = m_starting->StoredDateAt(kStart);
-        punch.end = m_starting->StoredDateAt(kEnd);
-        if (punch.IsReadable()) { // all others are unusual
-            punch.fetched = *punch.start >= m_from && *punch.end <= m_end;
-            punches.push_back(std::move(punch));
-        }
+    Punch punch;
+    punch.id = row.Int64At(kId);
+    punch.start = row.StoredDateAt(kStart);
+    punch.end = row.StoredDateAt(kEnd);
+    punch.fetched = punch.start && punch.end ? *punch.start >= m_from && *punch.end <= m_end : IsFetched(row);
+    if (!punch.start) {
+        punch.startText = ShownValue(row, kStart);
     }
+    if (!punch.end) {
+        punch.endText = ShownValue(row, kEnd);
+    }
+    return punch;
 }
 
 Punches PunchReader::Read(std::int32_t employeeID)
 {
     Punches punches;
-    m_unusual->Bind("employee", employeeID);
-    m_starting->Bind("employee", employeeID);
-    ReadUnusual(punches);
-    const bool ordered = punches.empty();
-    ReadStarting(punches);
-    if (!ordered) {
-        Order(punches);
+    punches.reserve(kUsualCount);
+    for (Statement* statement : {m_unusual.get(), m_starting.get()}) {
+        statement->Bind("employee", employeeID);
+        statement->ForEachRow([&] { punches.push_back(ReadPunch(*statement)); });
     }
+    Order(punches);
     return punches;
 }
 

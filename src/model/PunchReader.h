@@ -23,14 +23,14 @@ public:
     PunchReader(const PunchReader&) = delete;
     PunchReader& operator=(const PunchReader&) = delete;
 
-    // All that CheckCard needs, by start, end and number, what cannot be read first.
+    // All that CheckCard needs, by start, end and number.
     Punches Read(std::int32_t employeeID);
 
 private:
-    void ReadUnusual(Punches& punches);
-    void ReadStarting(Punches& punches);
+    bool IsFetched(const Statement& row) const;
+    Punch ReadPunch(const Statement& row) const;
 
-    DateTime m_from; // of the card's fetch, both included
+    DateTime m_from; // the bounds of the card's fetch, both included
     DateTime m_end;
     std::unique_ptr<Statement> m_starting;
     std::unique_ptr<Statement> m_unusual;

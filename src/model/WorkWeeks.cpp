@@ -10,26 +10,19 @@ namespace ptk {
 
 namespace {
 
-// Day 0 of the calendar, 30 December 1899, was a Saturday.
-constexpr std::int64_t kWeekdayOfDayZero = 6;
-
+constexpr std::int64_t kSecondsPerDay = 86400;
 const std::int64_t kFirstDay = DateTime(CalendarDate{100, 1, 1}).DayNumber();
 const std::int64_t kLastDay = DateTime(CalendarDate{9999, 12, 31}).DayNumber();
 
 DateTime Midnight(std::int64_t dayNumber)
 {
-    return DateTime().AddDays(dayNumber);
+    return DateTime::FromSeconds(dayNumber * kSecondsPerDay);
 }
 
-// The remainder that is never negative.
-std::int64_t Modulo(std::int64_t value, std::int64_t divisor)
+// Can lie before the calendar.
+std::int64_t WeekStartNumber(DateTime day, std::int32_t firstWeekday)
 {
-    return (value % divisor + divisor) % divisor;
-}
-
-std::int64_t WeekStartNumber(std::int64_t day, std::int32_t firstWeekday)
-{
-    return day - Modulo(day + kWeekdayOfDayZero - firstWeekday, kDaysPerWeek);
+    return day.DayNumber() - (day.Weekday() - firstWeekday + kDaysPerWeek) % kDaysPerWeek;
 }
 
 } // namespace
@@ -47,27 +40,28 @@ std::string HoursText(std::int64_t minutes)
 
 DateTime WeekStart(DateTime day, std::int32_t firstWeekday)
 {
-    return Midnight(std::max(WeekStartNumber(day.DayNumber(), firstWeekday), kFirstDay));
+    return Midnight(std::max(WeekStartNumber(day, firstWeekday), kFirstDay));
 }
 
 DateTime WeekLast(DateTime day, std::int32_t firstWeekday)
 {
-    return Midnight(std::min(WeekStartNumber(day.DayNumber(), firstWeekday) + kDaysPerWeek - 1, kLastDay));
+    return Midnight(std::min(WeekStartNumber(day, firstWeekday) + kDaysPerWeek - 1, kLastDay));
 }
 
 std::vector<WorkDay> DaysOf(std::span<const Punch* const> punches)
 {
     std::vector<WorkDay> days;
     days.reserve(punches.size());
-    for (auto first = punches.begin(); first != punches.end();) {
-        const std::int64_t day = (*first)->start->DayNumber();
-        auto last = first;
-        std::int64_t minutes = 0;
-        for (; last != punches.end() && (*last)->start->DayNumber() == day; ++last) {
-            minutes += (*last)->Minutes();
+    std::int64_t current = 0;
+    for (std::size_t i = 0; i < punches.size(); ++i) {
+        const std::int64_t day = punches[i]->start->DayNumber();
+        if (days.empty() || day != current) {
+            current = day;
+            days.push_back({Midnight(day), 0, punches.subspan(i, 0)});
         }
-        days.push_back({Midnight(day), minutes, {first, last}});
-        first = last;
+        WorkDay& last = days.back();
+        last.minutes += punches[i]->Minutes();
+        last.shifts = {last.shifts.data(), last.shifts.size() + 1};
     }
     return days;
 }
@@ -80,6 +74,7 @@ std::int64_t PaidMinutes(const WorkDay& day, const CEmployee& employee)
 std::vector<WorkWeek> WeeksOf(const std::vector<WorkDay>& days, const CEmployee& employee, std::int32_t firstWeekday)
 {
     std::vector<WorkWeek> weeks;
+    weeks.reserve(days.size() / kDaysPerWeek + 2);
     for (const WorkDay& day : days) {
         const DateTime from = WeekStart(day.day, firstWeekday);
         if (weeks.empty() || weeks.back().from != from) {

@@ -58,6 +58,7 @@ bool ReadOverview(Overview& overview, const std::shared_ptr<CJetDB>& database, c
 {
     const CJetDB::Hold hold(database);
     PunchReader reader(*database, overview.period, overview.limits.firstWeekday);
+    overview.rows.reserve(overview.rows.size() + employees.size());
     for (const auto& employee : employees) {
         const Punches punches = reader.Read(employee->EmployeeID());
         OverviewRow& row = overview.rows.emplace_back();

@@ -17,11 +17,6 @@ constexpr sys_days kZeroDay = std::chrono::year{1899} / 12 / 30;
 constexpr std::int64_t kFirstSecond = (sys_days{std::chrono::year{100} / 1 / 1} - kZeroDay).count() * kSecondsPerDay;
 constexpr std::int64_t kEndSecond = (sys_days{std::chrono::year{10000} / 1 / 1} - kZeroDay).count() * kSecondsPerDay;
 
-constexpr std::int64_t FloorDivide(std::int64_t value, std::int64_t by)
-{
-    return value / by - (value % by < 0 ? 1 : 0);
-}
-
 bool InRange(int value, int end)
 {
     return value >= 0 && value < end;
@@ -70,11 +65,6 @@ TimeOfDay DateTime::Time() const
     return {second / 3600, second / 60 % 60, second % 60};
 }
 
-std::int64_t DateTime::DayNumber() const
-{
-    return FloorDivide(m_seconds, kSecondsPerDay);
-}
-
 int DateTime::Weekday() const
 {
     return static_cast<int>(std::chrono::weekday{kZeroDay + std::chrono::days{DayNumber()}}.c_encoding());
@@ -88,16 +78,6 @@ DateTime DateTime::AddDays(std::int64_t days) const
         throw Failure(failure::Overflow);
     }
     return FromSeconds(m_seconds + days * kSecondsPerDay);
-}
-
-std::int64_t DaysBetween(DateTime from, DateTime to)
-{
-    return to.DayNumber() - from.DayNumber();
-}
-
-std::int64_t MinutesBetween(DateTime from, DateTime to)
-{
-    return FloorDivide(to.Seconds(), kSecondsPerMinute) - FloorDivide(from.Seconds(), kSecondsPerMinute);
 }
 
 } // namespace ptk

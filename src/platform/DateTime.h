@@ -37,7 +37,8 @@ public:
 
     CalendarDate Date() const;
     TimeOfDay Time() const;
-    std::int64_t DayNumber() const; // whole days since the zero date-time, rounded down, so negative before it
+    constexpr std::int64_t DayNumber() const { return Whole(m_seconds, kDay); } // since the zero date-time, negative before it
+    constexpr std::int64_t MinuteNumber() const { return Whole(m_seconds, kMinute); } // likewise, the seconds cut off
     int Weekday() const;            // 0 Sunday to 6 Saturday
 
     DateTime AddDays(std::int64_t days) const;
@@ -45,12 +46,24 @@ public:
     constexpr auto operator<=>(const DateTime&) const = default; // NOLINT(modernize-use-nullptr): not a pointer
 
 private:
+    static constexpr std::int64_t kMinute = 60; // seconds
+    static constexpr std::int64_t kDay = 86400;
+
+    // Rounded down.
+    static constexpr std::int64_t Whole(std::int64_t seconds, std::int64_t unit) { return seconds / unit - (seconds % unit < 0 ? 1 : 0); }
+
     std::int64_t m_seconds = 0;
 };
 
 // Calendar differences: the day or minute boundaries crossed from `from` to `to`, negative when `to` is earlier. Smaller units are ignored.
-std::int64_t DaysBetween(DateTime from, DateTime to);
-std::int64_t MinutesBetween(DateTime from, DateTime to);
+constexpr std::int64_t DaysBetween(DateTime from, DateTime to)
+{
+    return to.DayNumber() - from.DayNumber();
+}
+constexpr std::int64_t MinutesBetween(DateTime from, DateTime to)
+{
+    return to.MinuteNumber() - from.MinuteNumber();
+}
 
 } // namespace ptk
 

@@ -190,15 +190,38 @@ void Statement::RefuseUnlessRows() const
     RefuseMissingParameters();
 }
 
-bool Statement::NextRow()
+void Statement::ForEachRow(const std::function<void()>& take)
 {
     RefuseUnlessRows();
     const Limit limit(*this, kMostSteps);
-    const bool more = Step();
-    if (!more) {
-        Rewind(); // a parameter may be assigned again
+    try {
+        while (Step()) {
+            take();
+        }
+    } catch (...) {
+        Rewind();
+        throw;
     }
-    return more;
+    Rewind();
+}
+
+CellKind Statement::KindAt(int column) const
+{
+    switch (sqlite3_column_type(m_statement.get(), column)) {
+    case SQLITE_NULL:
+        return CellKind::Null;
+    case SQLITE_TEXT:
+        return CellKind::Text;
+    case SQLITE_BLOB:
+        return CellKind::Bytes;
+    default:
+        return CellKind::Number;
+    }
+}
+
+std::string_view Statement::TextAt(int column) const
+{
+    return TextOf(m_statement.get(), column);
 }
 
 std::int64_t Statement::Int64At(int column) const
@@ -208,8 +231,13 @@ std::int64_t Statement::Int64At(int column) const
 
 std::optional<DateTime> Statement::StoredDateAt(int column) const
 {
-    const bool isText = sqlite3_column_type(m_statement.get(), column) == SQLITE_TEXT;
-    return isText ? FromStoredText(TextOf(m_statement.get(), column)) : std::nullopt;
+    // The value itself, which only one thread may look at as only one uses a connection, spares three ways to it.
+    sqlite3_value* value = sqlite3_column_value(m_statement.get(), column);
+    if (sqlite3_value_type(value) != SQLITE_TEXT) {
+        return std::nullopt;
+    }
+    const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(value));
+    return FromStoredText({text, static_cast<std::size_t>(sqlite3_value_bytes(value))});
 }
 
 std::shared_ptr<RecordSet> Statement::ReadRows(std::int32_t most, std::int32_t mostSteps)
@@ -220,15 +248,11 @@ std::shared_ptr<RecordSet> Statement::ReadRows(std::int32_t most, std::int32_t m
     RecordSet::Builder rows;
     AddColumns(rows, row);
     const Limit limit(*this, mostSteps);
-    bool more = true;
-    for (std::int32_t count = 0; count < most && (more = Step()); ++count) {
+    for (std::int32_t count = 0; count < most && Step(); ++count) {
         for (int column = 0; column < columns; ++column) {
             AddCell(rows, row, column);
         }
         rows.EndRow();
-    }
-    if (!more) {
-        Rewind();
     }
     return rows.Finish();
 }

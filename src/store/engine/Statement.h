@@ -4,6 +4,7 @@
 #include "platform/Value.h"
 
 #include <cstdint>
+#include <functional>
 #include <limits>
 #include <memory>
 #include <optional>
@@ -26,6 +27,15 @@ struct Parameter
     Value value;
 };
 
+// How a value is stored, in the order in which the engine compares values of different kinds; nothing is true of a null.
+enum class CellKind
+{
+    Null,
+    Number,
+    Text,
+    Bytes
+};
+
 // Must end before its database is closed. Every member raises the engine's result code (source "SQLite") when the engine refuses.
 class Statement
 {
@@ -40,7 +50,7 @@ public:
     // `sql` is in the engine's own words and holds exactly one statement.
     Statement(sqlite3* database, std::string_view sql);
 
-    // The same parameter may be assigned again, once the rows before were read to their end. An unknown name is refused with 25.
+    // The same parameter may be assigned again. An unknown name is refused with 25.
     void Bind(const std::string& name, const Value& value);
     void Bind(std::span<const Parameter> parameters);
 
@@ -52,11 +62,14 @@ public:
     // answers no rows or changes anything. Raises 7 for more rows than memory should hold.
     std::shared_ptr<RecordSet> ReadRows(std::int32_t most = kAllRows, std::int32_t mostSteps = kMostSteps);
 
-    // The same rows one by one, without keeping them: for small results many times over. False behind the last one.
-    bool NextRow();
+    // Calls for each row, without keeping any: for small results many times over, between which parameters may be assigned. Refuses and
+    // raises the same.
+    void ForEachRow(const std::function<void()>& take);
 
-    // Of the row at which NextRow stands; columns count from 0.
-    std::int64_t Int64At(int column) const; // 0 for what is no number
+    // For `take`, of the row at which ForEachRow stands; columns count from 0.
+    CellKind KindAt(int column) const;
+    std::int64_t Int64At(int column) const;                 // 0 for what is no number
+    std::string_view TextAt(int column) const;              // numbers as the engine writes them; valid until the next row
     std::optional<DateTime> StoredDateAt(int column) const; // none for any other form than YYYY-MM-DD HH:MM:SS
 
 private:

@@ -1,42 +1,37 @@
 #include "store/engine/StoredDate.h"
 
+#include "platform/Characters.h"
+
+#include <array>
 #include <chrono>
 #include <fmt/format.h>
+#include <tuple>
 
 namespace ptk {
 
 namespace {
 
-constexpr std::string_view kPattern = "0000-00-00 00:00:00"; // 0 stands for any digit
+constexpr std::string_view kPattern = "0000-00-00 00:00:00";
 constexpr int kFirstYear = 100;
 
-bool FitsPattern(std::string_view text)
+// The numbers in the form's places of two digits each: century, year, month, day, hour, minute, second. Every date-time that is read passes
+// here.
+using Parts = std::array<unsigned, 7>;
+
+constexpr bool TakeApart(std::string_view text, Parts& parts)
 {
-    if (text.size() != kPattern.size()) {
+    constexpr std::array<std::size_t, 7> kPlaces{0, 2, 5, 8, 11, 14, 17};
+    if (text.size() != kPattern.size() || text[4] != '-' || text[7] != '-' || text[10] != ' ' || text[13] != ':' || text[16] != ':') {
         return false;
     }
-    for (std::size_t i = 0; i < kPattern.size(); ++i) {
-        const bool fits = kPattern[i] == '0' ? text[i] >= '0' && text[i] <= '9' : text[i] == kPattern[i];
-        if (!fits) {
-            return false;
-        }
+    bool digits = true;
+    for (std::size_t i = 0; i < parts.size(); ++i) {
+        const char tens = text[kPlaces[i]];
+        const char ones = text[kPlaces[i] + 1];
+        digits = digits && IsDigit(tens) && IsDigit(ones);
+        parts[i] = static_cast<unsigned>((tens - '0') * 10 + ones - '0');
     }
-    return true;
-}
-
-// REQUIRES: digits only.
-int Number(std::string_view digits)
-{
-    int number = 0;
-    for (const char digit : digits) {
-        number = number * 10 + (digit - '0');
-    }
-    return number;
-}
-
-unsigned Part(std::string_view text, std::size_t position)
-{
-    return static_cast<unsigned>(Number(text.substr(position, 2)));
+    return digits;
 }
 
 } // namespace
@@ -51,13 +46,12 @@ std::string StoredText(DateTime value)
 std::optional<DateTime> FromStoredText(std::string_view text)
 {
     using namespace std::chrono;
-    if (!FitsPattern(text)) {
+    Parts parts{};
+    if (!TakeApart(text, parts)) {
         return std::nullopt;
     }
-    const year_month_day date(year(Number(text.substr(0, 4))), month(Part(text, 5)), day(Part(text, 8)));
-    const unsigned hour = Part(text, 11);
-    const unsigned minute = Part(text, 14);
-    const unsigned second = Part(text, 17);
+    const year_month_day date(year(static_cast<int>(parts[0] * 100 + parts[1])), month(parts[2]), day(parts[3]));
+    const auto [hour, minute, second] = std::tuple(parts[4], parts[5], parts[6]);
     if (!date.ok() || date.year() < year(kFirstYear) || hour > 23 || minute > 59 || second > 59) {
         return std::nullopt;
     }
