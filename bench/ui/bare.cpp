@@ -6,6 +6,7 @@
 #include "Painted.h"
 #include "store/CJetDB.h"
 #include "ui/widgets/EmployeeModels.h"
+#include "ui_CardChoice.h"
 #include "ui_CompanyPage.h"
 #include "ui_EmployeePage.h"
 #include "ui_OptionsPage.h"
@@ -73,12 +74,16 @@ void BareMain(const std::string& folder)
     AddPage(tabs, employees, "Employees");
     AddPage(tabs, company, "Company");
     AddPage(tabs, options, "Options");
-    ptk::ShowColumn(*timeCards.cboTCEmployeeName, models.Offered(), 0, 14);
-    reports.lstEmployees->setModel(models.Offered());
-    int column = 0;
-    for (auto* box : {employees.cboEmployeeID, employees.cboEmployeeName, employees.cboEmployeeSSN, employees.cboEmployeeNumber}) {
-        ptk::ShowColumn(*box, models.All(), column++, 20);
-    }
+    auto* choice = new QWidget;
+    Ui::CardChoice choiceForm;
+    choiceForm.setupUi(choice);
+    timeCards.layout->insertWidget(0, choice);
+    ptk::ShowEmployees(*choiceForm.cboTCEmployeeName, models.Offered(), 14);
+    ptk::ShowEmployees(*reports.lstEmployees, models.Offered());
+    ptk::ShowEmployees(*employees.cboEmployeeID, models.All(ptk::EmployeeText::ID), 6);
+    ptk::ShowEmployees(*employees.cboEmployeeName, models.All(ptk::EmployeeText::Name), 10);
+    ptk::ShowEmployees(*employees.cboEmployeeSSN, models.All(ptk::EmployeeText::SSN), 10);
+    ptk::ShowEmployees(*employees.cboEmployeeNumber, models.All(ptk::EmployeeText::Number), 10);
     window.menuBar()->addMenu("File");
     window.menuBar()->addMenu("Help");
     window.statusBar()->showMessage("Timecards");

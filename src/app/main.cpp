@@ -4,6 +4,7 @@
 #include "platform/ProgramFolder.h"
 #include "shell/CError.h"
 #include "startup/AdminMain.h"
+#include "ui/LastWindow.h"
 #include "ui/QtDesktop.h"
 #include "ui/QtWindowFactory.h"
 
@@ -12,41 +13,20 @@
 #include <cstdlib>
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QWidget>
 #include <string_view>
+#include <utility>
 
 namespace {
 
 constexpr auto kFolderOption = "program-folder";
 
-bool IsAnyWindowShown()
-{
-    const auto windows = QApplication::topLevelWidgets();
-    return std::any_of(windows.begin(), windows.end(), [](const QWidget* window) { return window->isVisible(); });
-}
-
-// What an event handler lets through is shown, and the program goes on. It ends when no window is left to be seen, however the last one
-// went: Qt's own rule does not count one that was hidden before it was closed.
+// What an event handler lets through is shown, and the program goes on.
 class AdminApplication final : public QApplication
 {
 public:
-    AdminApplication(int& argc, char** argv, ptk::Desktop& desktop) : QApplication(argc, argv), m_desktop(desktop)
-    {
-        setQuitOnLastWindowClosed(false);
-    }
+    AdminApplication(int& argc, char** argv, ptk::Desktop& desktop) : QApplication(argc, argv), m_desktop(desktop) {}
 
     bool notify(QObject* receiver, QEvent* event) override
-    {
-        const bool hides = event->type() == QEvent::Hide && receiver->isWidgetType() && static_cast<QWidget*>(receiver)->isWindow();
-        const bool handled = Deliver(receiver, event);
-        if (hides) {
-            QMetaObject::invokeMethod(this, &AdminApplication::EndWithoutWindows, Qt::QueuedConnection);
-        }
-        return handled;
-    }
-
-private:
-    bool Deliver(QObject* receiver, QEvent* event)
     {
         try {
             return QApplication::notify(receiver, event);
@@ -56,6 +36,7 @@ private:
         }
     }
 
+private:
     // One box at a time: a failure to paint would otherwise bring up the next while the first is open.
     void ShowFailure()
     {
@@ -65,13 +46,6 @@ private:
         }
         error.MessageBox(static_cast<std::int16_t>(ptk::Icon::Critical), static_cast<std::int16_t>(ptk::Buttons::Ok));
         m_showing = false;
-    }
-
-    static void EndWithoutWindows()
-    {
-        if (!IsAnyWindowShown()) {
-            exit(EXIT_SUCCESS);
-        }
     }
 
     ptk::Desktop& m_desktop;
@@ -129,10 +103,14 @@ int Run(const QApplication& application, ptk::Desktop& desktop)
     const ptk::SystemClock clock;
     ptk::QtWindowFactory windows(folder, desktop, clock);
     ptk::AdminMain admin(folder, desktop, clock, windows, [](int status) { std::_Exit(status); });
+
+    // Between the login and the main window there is no window, and the program must not take that for its end.
+    QApplication::setQuitOnLastWindowClosed(false);
     admin.Start();
-    if (!IsAnyWindowShown()) {
+    if (!ptk::IsAnyWindowShown()) {
         return EXIT_FAILURE; // the start-up has told why by then
     }
+    const ptk::LastWindow last([] { QApplication::exit(); });
     return QApplication::exec();
 }
 

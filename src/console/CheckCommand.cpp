@@ -9,16 +9,29 @@
 
 namespace ptk {
 
+namespace {
+
+DatabaseCheck Check(const std::string& path)
+{
+    try {
+        return CheckDatabase(path);
+    } catch (const Failure& failure) {
+        throw FileFailure(failure, path);
+    }
+}
+
+} // namespace
+
 int CheckCommand(const CheckArguments&, Console& console)
 {
     const std::string path = NativePath(LocateDatabase(console.programFolder)->DatabasePath()).string();
-    const DatabaseCheck check = CheckDatabase(path);
-    console.out << "database: " << path << '\n'
+    const DatabaseCheck check = Check(path);
+    console.out << "database: " << TerminalText(path) << '\n'
                 << "Company: " << check.companies << '\n'
                 << "Employee: " << check.employees << '\n'
                 << "TimeRecord: " << check.timeRecords << '\n';
     for (const std::string& problem : check.problems) {
-        console.out << "problem: " << problem << '\n';
+        console.out << "problem: " << TerminalText(problem) << '\n';
     }
     if (!check.problems.empty()) {
         throw Failure(0, "PTK", "the database has problems: " + std::to_string(check.problems.size()));

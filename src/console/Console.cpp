@@ -4,6 +4,37 @@
 
 namespace ptk {
 
+namespace {
+
+constexpr bool Continues(char c)
+{
+    return (c & 0xC0) == 0x80;
+}
+
+// In bytes: of a UTF-8 character, 1 for a byte that begins none.
+std::size_t CharacterLength(std::string_view text)
+{
+    const auto first = static_cast<unsigned char>(text.front());
+    const std::size_t expected = first >= 0xF0 ? 4 : first >= 0xE0 ? 3 : first >= 0xC2 ? 2 : 1;
+    std::size_t length = 1;
+    while (length < expected && length < text.size() && Continues(text[length])) {
+        ++length;
+    }
+    return length == expected ? length : 1;
+}
+
+// What a terminal may obey instead of showing it: C0 but tab and line feed, DEL, C1 as UTF-8 or as a stray byte.
+bool IsControl(std::string_view character)
+{
+    const auto byte = [&](std::size_t at) { return static_cast<unsigned char>(character[at]); };
+    if (character.size() == 1) {
+        return (byte(0) < 0x20 && character != "\t" && character != "\n") || (byte(0) >= 0x7F && byte(0) < 0xA0);
+    }
+    return character.size() == 2 && byte(0) == 0xC2 && byte(1) < 0xA0;
+}
+
+} // namespace
+
 void Complain(std::ostream& err, const Failure& failure)
 {
     std::string text = failure.Description();
@@ -13,18 +44,21 @@ void Complain(std::ostream& err, const Failure& failure)
     if (failure.Number() != 0) {
         err << failure.Number() << ": ";
     }
-    err << text << '\n';
+    err << TerminalText(text) << '\n';
 }
 
 std::string TerminalText(std::string_view text)
 {
     std::string result;
     result.reserve(text.size());
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const bool beforeLineFeed = text.substr(i, 2) == "\r\n";
-        if (!beforeLineFeed) {
-            result += text[i];
+    while (!text.empty()) {
+        const std::size_t length = CharacterLength(text);
+        if (IsControl(text.substr(0, length))) {
+            result += text.starts_with("\r\n") ? "" : "?";
+        } else {
+            result += text.substr(0, length);
         }
+        text.remove_prefix(length);
     }
     return result;
 }

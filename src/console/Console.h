@@ -30,7 +30,8 @@ struct Console
 // "ptk-console: NUMBER: TEXT" on one line, without the number where there is none (0).
 void Complain(std::ostream& err, const Failure& failure);
 
-// Texts carry CR LF, as files keep them; a terminal wants LF alone.
+// Texts carry CR LF, as files keep them; a terminal wants LF alone. Names come from whoever filled the database: any other control
+// character but the tab, which a terminal might take for a command, becomes a question mark.
 std::string TerminalText(std::string_view text);
 
 } // namespace ptk

@@ -1,5 +1,6 @@
 #include "console/ConsoleDesktop.h"
 
+#include "console/Console.h"
 #include "platform/SystemShell.h"
 
 #include <ostream>
@@ -8,7 +9,7 @@ namespace ptk {
 
 Answer ConsoleDesktop::MessageBox(const std::string& text, const std::string& title, Icon, Buttons buttons)
 {
-    m_stream << title << ": " << text << '\n';
+    m_stream << TerminalText(title) << ": " << TerminalText(text) << '\n';
     return buttons == Buttons::YesNo ? Answer::No : Answer::Ok;
 }
 

@@ -1,6 +1,7 @@
 #include "console/Arguments.h"
 #include "console/Commands.h"
 #include "console/Console.h"
+#include "console/ErrorText.h"
 #include "console/SampleBusiness.h"
 #include "console/Session.h"
 #include "platform/Clock.h"
@@ -28,6 +29,15 @@ void AddSampleBusiness(BulkWriter& writer, DateTime today)
     }
 }
 
+void Create(const std::string& path, const std::function<void(BulkWriter&)>& fill)
+{
+    try {
+        CreateDatabase(path, fill);
+    } catch (const Failure& failure) {
+        throw FileFailure(failure, path);
+    }
+}
+
 } // namespace
 
 int CreateDatabaseCommand(const CreateDatabaseArguments& arguments, Console& console)
@@ -35,11 +45,11 @@ int CreateDatabaseCommand(const CreateDatabaseArguments& arguments, Console& con
     const std::string path = NativePath(LocateDatabase(console.programFolder)->DatabasePath()).string();
     if (arguments.sample) {
         const DateTime today = arguments.today.value_or(console.clock.Today());
-        CreateDatabase(path, [today](BulkWriter& writer) { AddSampleBusiness(writer, today); });
+        Create(path, [today](BulkWriter& writer) { AddSampleBusiness(writer, today); });
     } else {
-        CreateDatabase(path);
+        Create(path, nullptr);
     }
-    console.out << "created: " << path << '\n';
+    console.out << "created: " << TerminalText(path) << '\n';
     return status::Done;
 }
 

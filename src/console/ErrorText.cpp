@@ -1,5 +1,7 @@
 #include "console/ErrorText.h"
 
+#include "model/CTimeCard.h"
+
 #include <algorithm>
 #include <array>
 
@@ -38,43 +40,31 @@ constexpr std::array kProgramTexts{
     NumberedText{711, "the report was stopped before its end"},
 };
 
-// The database engine's result codes that opening a file can give.
-constexpr std::array kEngineTexts{
-    NumberedText{1, "the database file is not as expected"},
-    NumberedText{3, "the database file may not be read"},
-    NumberedText{5, "the database is in use by another program"},
-    NumberedText{6, "the database is in use by this program"},
-    NumberedText{7, "out of memory"},
-    NumberedText{8, "the database file may not be written"},
-    NumberedText{10, "the disk failed while reading the database"},
-    NumberedText{11, "the database file is damaged"},
-    NumberedText{13, "the disk is full"},
-    NumberedText{14, "the database file is missing or cannot be opened"},
-    NumberedText{26, "the file is not a database of this program"},
-    NumberedText{403, "there is no open database"},
-};
-
-template <std::size_t size>
-Failure Numbered(const std::array<NumberedText, size>& texts, std::int32_t number, const std::string& subject)
+std::string TextOf(std::int32_t number)
 {
-    const auto found = std::find_if(texts.begin(), texts.end(), [&](const NumberedText& entry) { return entry.number == number; });
-    std::string text = found == texts.end() ? "the operation failed" : found->text;
-    if (!subject.empty()) {
-        text += ": " + subject;
-    }
-    return Failure(number, "PTK", std::move(text));
+    const auto found =
+        std::find_if(kProgramTexts.begin(), kProgramTexts.end(), [&](const NumberedText& entry) { return entry.number == number; });
+    return found == kProgramTexts.end() ? "the operation failed" : found->text;
 }
 
 } // namespace
 
-Failure ProgramFailure(std::int32_t number, const std::string& subject)
+Failure ProgramFailure(std::int32_t number, const std::string& subject, const std::string& reason)
 {
-    return Numbered(kProgramTexts, number, subject);
+    // The number says that there are no records also where they could not be read.
+    std::string text = number == timecard::NoRecords && !reason.empty() ? "the time records could not be read" : TextOf(number);
+    for (const std::string& part : {subject, reason}) {
+        if (!part.empty()) {
+            text += ": " + part;
+        }
+    }
+    return {number, "PTK", std::move(text)};
 }
 
-Failure OpenFailure(std::int32_t number, const std::string& databasePath)
+Failure FileFailure(const Failure& reason, const std::string& path)
 {
-    return Numbered(kEngineTexts, number, databasePath);
+    const bool named = reason.Description().find(path) != std::string::npos;
+    return {reason.Number(), reason.Source(), named ? reason.Description() : reason.Description() + ": " + path};
 }
 
 } // namespace ptk

@@ -8,10 +8,10 @@
 
 namespace ptk {
 
-// A failure of this number with its text and, where given, what it is about ("...: Ann Lee").
-Failure ProgramFailure(std::int32_t number, const std::string& subject = "");
+// A failure of this number with its text and, where given, what it is about and why ("...: Ann Lee: the disk is full").
+Failure ProgramFailure(std::int32_t number, const std::string& subject = "", const std::string& reason = "");
 
-// The same for a number left by opening the database: one of ours (403) or the engine's own.
-Failure OpenFailure(std::int32_t number, const std::string& databasePath);
+// The same failure of the database file or of its opening, which names the file.
+Failure FileFailure(const Failure& reason, const std::string& path);
 
 } // namespace ptk

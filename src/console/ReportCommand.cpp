@@ -8,6 +8,7 @@
 #include "model/CEmployee.h"
 #include "model/CEmployeeList.h"
 #include "platform/Clock.h"
+#include "platform/ProgramFolder.h"
 #include "reports/CReportEmployee.h"
 #include "reports/CReportPhoneBook.h"
 #include "reports/CReportReview.h"
@@ -92,13 +93,13 @@ ReportPeriod ReportWriter::Offered(ReportDates dates, std::int16_t periodLength)
     return dates == ReportDates::YearToDate ? YearToDate(today) : DefaultPayPeriod(today, periodLength);
 }
 
-// As the page does it: a first day that was chosen takes the last day with it, unless that was chosen too.
+// As the page does it: a first day that was chosen takes the last day with it, unless that was chosen too. The year to date ends today.
 ReportPeriod ReportWriter::Period(ReportDates dates)
 {
     const std::int16_t periodLength = m_session.PeriodLength();
     ReportPeriod period = Offered(dates, periodLength);
     if (m_arguments.from) {
-        period = {*m_arguments.from, m_arguments.to ? *m_arguments.to : PeriodEnd(*m_arguments.from, periodLength)};
+        period = {*m_arguments.from, dates == ReportDates::YearToDate ? period.to : PeriodEnd(*m_arguments.from, periodLength)};
     }
     if (m_arguments.to) {
         period.to = *m_arguments.to;
@@ -113,7 +114,9 @@ void ReportWriter::WriteOne(const Subject&... subject)
     const bool complete = report->GenerateReport(subject...);
     // A line lost on a full disk leaves the answer true, but a scheduled job must hear of it.
     if (!complete || report->ErrorNumber() != 0) {
-        Complain(m_console.err, ProgramFailure(report->ErrorNumber(), report->ReportName()));
+        const bool unopened = report->ErrorNumber() == report::FileNotOpened;
+        Complain(m_console.err, ProgramFailure(report->ErrorNumber(), report->ReportName(),
+                                               unopened ? NativePath(report->ReportPath()).string() : report->Missing()));
         m_status = status::Failed;
     }
     report->UnloadReportWindow(); // report and viewer hold each other until then

@@ -63,13 +63,6 @@ DateTime At(DateTime day, int minutes)
     return DateTime::FromSeconds(day.Seconds() + minutes * kSecondsPerMinute);
 }
 
-// 0 is a Sunday: the zero date-time was a Saturday.
-std::size_t WeekdayOf(DateTime day)
-{
-    const std::int64_t sinceSunday = day.DayNumber() - 1;
-    return static_cast<std::size_t>(((sinceSunday % 7) + 7) % 7);
-}
-
 // Nobody comes and goes to the minute, and nobody is back from a break before it began.
 void AddDay(std::vector<TimeRecordRow>& shifts, const Plan& plan, DateTime day, Chance& chance)
 {
@@ -93,7 +86,7 @@ std::vector<TimeRecordRow> SampleShifts(const SampleEmployee& employee, std::int
     std::vector<TimeRecordRow> shifts;
     for (DateTime day = today.AddDays(-kDays); day < end; day = day.AddDays(1)) {
         const bool absent = chance.OneIn(25);
-        if (plan.weekdays[WeekdayOf(day)] != '-' && !absent) {
+        if (plan.weekdays[day.Weekday()] != '-' && !absent) {
             AddDay(shifts, plan, day, chance);
         }
     }

@@ -24,21 +24,32 @@ std::shared_ptr<CDatabaseLocator> LocateDatabase(const std::string& programFolde
     return locator;
 }
 
+namespace {
+
+std::shared_ptr<CJetDB> ConfiguredDatabase(const std::string& programFolder)
+{
+    auto database = std::make_shared<CJetDB>(programFolder);
+    database->DatabaseName(LocateDatabase(programFolder)->DatabasePath());
+    return database;
+}
+
+} // namespace
+
 Session::Session(const std::string& programFolder)
-    : m_locator(LocateDatabase(programFolder)), m_database(std::make_shared<CJetDB>(programFolder)),
-      m_employees(std::make_shared<CEmployeeList>()), m_factory(std::make_shared<CTimeRecordFactory>())
+    : m_database(ConfiguredDatabase(programFolder)), m_hold(m_database), m_employees(std::make_shared<CEmployeeList>()),
+      m_factory(std::make_shared<CTimeRecordFactory>())
 {
     Open();
     if (!m_employees->LoadList(m_database)) {
-        throw ProgramFailure(m_database->ErrorNumber());
+        throw ProgramFailure(m_database->ErrorNumber(), "", m_database->LastFailure().Description());
     }
     m_factory->PTKDatabase(m_database);
 }
 
 void Session::Open()
 {
-    if (!m_database->OpenPTKDatabase(m_locator)) {
-        throw OpenFailure(m_database->ErrorNumber(), NativePath(m_locator->DatabasePath()).string());
+    if (!m_database->OpenDB()) {
+        throw FileFailure(m_database->LastFailure(), NativePath(m_database->DatabaseName()).string());
     }
 }
 
@@ -48,7 +59,7 @@ std::int16_t Session::PeriodLength()
     CSystemOptions options;
     options.PTKDatabase(m_database);
     if (!options.Load()) {
-        throw ProgramFailure(m_database->ErrorNumber());
+        throw ProgramFailure(m_database->ErrorNumber(), "", m_database->LastFailure().Description());
     }
     m_database->CloseDB();
     return options.PeriodLength();

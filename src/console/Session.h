@@ -1,6 +1,8 @@
 // The program's objects as they stand after its start, without windows: configuration, database, employees, time record factory.
 #pragma once
 
+#include "store/CJetDB.h"
+
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -9,13 +11,12 @@ namespace ptk {
 
 class CDatabaseLocator;
 class CEmployeeList;
-class CJetDB;
 class CTimeRecordFactory;
 
 // Where the configuration says the database is, with backslashes as configured. Raises a failure without a number when it names none.
 std::shared_ptr<CDatabaseLocator> LocateDatabase(const std::string& programFolder);
 
-// The database stays closed between operations, so that another program finds it free.
+// Holds the database from beginning to end: whatever a command reads is of one moment.
 class Session
 {
 public:
@@ -31,8 +32,8 @@ public:
 private:
     void Open();
 
-    std::shared_ptr<CDatabaseLocator> m_locator;
     std::shared_ptr<CJetDB> m_database;
+    CJetDB::Hold m_hold;
     std::shared_ptr<CEmployeeList> m_employees;
     std::shared_ptr<CTimeRecordFactory> m_factory;
 };

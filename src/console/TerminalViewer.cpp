@@ -52,7 +52,7 @@ void TerminalViewers::Print(const std::string& text)
 
 void TerminalViewers::NameFile(const std::string& path)
 {
-    m_err << "ptk-console: written: " << path << '\n';
+    m_err << "ptk-console: written: " << TerminalText(path) << '\n';
 }
 
 } // namespace ptk

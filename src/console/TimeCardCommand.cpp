@@ -16,7 +16,7 @@ int TimeCardCommand(const TimeCardArguments& arguments, Console& console)
     // A card's end is a moment: midnight after the last day, as the time card page passes it.
     const DateTime end = arguments.to.AddDays(1);
     if (!card.GenerateTimecard(session.Employees()->GetEmployeeByName(arguments.employee), arguments.from, end)) {
-        throw ProgramFailure(card.ErrorNumber(), arguments.employee);
+        throw ProgramFailure(card.ErrorNumber(), arguments.employee, card.LastFailure().Description());
     }
     const std::string text = card.ToStringReport();
     if (card.ErrorNumber() != 0) {

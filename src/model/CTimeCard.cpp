@@ -39,12 +39,19 @@ float CTimeCard::OvertimePay() const
     return m_employee == nullptr ? 0 : m_employee->OvertimePayRate();
 }
 
-bool CTimeCard::GenerateTimecard(const std::shared_ptr<CEmployee>& theemployee, DateTime thestartdate, DateTime theenddate)
+void CTimeCard::Begin()
 {
     ErrorNumber(0);
+    m_lastFailure = Failure(0, "", "");
+}
+
+bool CTimeCard::GenerateTimecard(const std::shared_ptr<CEmployee>& theemployee, DateTime thestartdate, DateTime theenddate)
+{
+    Begin();
     try {
         return Generate(theemployee, thestartdate, theenddate);
     } catch (...) {
+        m_lastFailure = CurrentFailure();
         return Fail(timecard::GenerateFailed);
     }
 }
@@ -61,7 +68,9 @@ bool CTimeCard::Generate(const std::shared_ptr<CEmployee>& theemployee, DateTime
     if (m_database == nullptr) {
         return Fail(timecard::NoDatabase);
     }
-    if (!m_factory->BuildList(theemployee->EmployeeID(), m_range.StartDate(), m_range.EndDate()) || TimeRecordList()->Count() == 0) {
+    const bool built = m_factory->BuildList(theemployee->EmployeeID(), m_range.StartDate(), m_range.EndDate());
+    m_lastFailure = m_factory->LastFailure();
+    if (!built || TimeRecordList()->Count() == 0) {
         return Fail(timecard::NoRecords);
     }
     return Calculate();
@@ -83,14 +92,19 @@ bool CTimeCard::Calculate()
 
 bool CTimeCard::CloseTimeRecord(const std::shared_ptr<CEmployee>& theemployee, DateTime theshiftdate, DateTime theendtime)
 {
-    ErrorNumber(0);
+    Begin();
+    if (theemployee == nullptr) {
+        return Fail(timecard::FetchFailed);
+    }
     // Both bounds on the shift date: of the records from there on, an open one's end lies before every bound.
-    if (theemployee == nullptr || !m_factory->BuildList(theemployee->EmployeeID(), theshiftdate, theshiftdate)) {
+    if (!m_factory->BuildList(theemployee->EmployeeID(), theshiftdate, theshiftdate)) {
+        m_lastFailure = m_factory->LastFailure();
         return Fail(timecard::FetchFailed);
     }
     try {
         return CloseFirstOpen(*TimeRecordList(), theendtime);
     } catch (...) {
+        m_lastFailure = CurrentFailure();
         return Fail(timecard::FetchFailed);
     }
 }
@@ -104,7 +118,9 @@ bool CTimeCard::CloseFirstOpen(CTimeRecordList& list, DateTime theendtime)
             continue;
         }
         record.EndTime(theendtime);
-        if (m_factory->Save(list.Item(i))) {
+        const bool saved = m_factory->Save(list.Item(i));
+        m_lastFailure = m_factory->LastFailure();
+        if (saved) {
             return true;
         }
     }
@@ -122,15 +138,19 @@ std::shared_ptr<CTimeRecord> CTimeCard::GetTimeRecordByKey(DateTime thestarttime
 
 bool CTimeCard::Save()
 {
-    ErrorNumber(0);
+    Begin();
     ObjectState(state::Unchanged);
-    return m_factory->SaveList() || Fail(m_factory->ErrorNumber());
+    const bool saved = m_factory->SaveList();
+    m_lastFailure = m_factory->LastFailure();
+    return saved || Fail(m_factory->ErrorNumber());
 }
 
 bool CTimeCard::SaveTimeRecord(const std::shared_ptr<CTimeRecord>& thetimerecord)
 {
-    ErrorNumber(0);
-    return m_factory->Save(thetimerecord) || Fail(m_factory->ErrorNumber());
+    Begin();
+    const bool saved = m_factory->Save(thetimerecord);
+    m_lastFailure = m_factory->LastFailure();
+    return saved || Fail(m_factory->ErrorNumber());
 }
 
 std::string CTimeCard::ToString()

@@ -4,6 +4,7 @@
 #include "model/CDateRange.h"
 #include "model/Entity.h"
 #include "platform/DateTime.h"
+#include "platform/Failure.h"
 
 #include <cstdint>
 #include <memory>
@@ -59,8 +60,12 @@ public:
 
     std::shared_ptr<CTimeRecord> GetTimeRecordByKey(DateTime thestarttime, DateTime theendtime); // nullptr with 607
 
+    // Why the last GenerateTimecard, CloseTimeRecord, Save or SaveTimeRecord failed or stored nothing, in words for the program's users;
+    // number 0 and no text when nothing went wrong, which a period without records (605) does not. See CJetDB::LastFailure.
+    const Failure& LastFailure() const { return m_lastFailure; }
+
     // False with the factory's number, for an unexpected failure only: a refused statement shows in the factory's ErrorNumber alone.
-    bool Save(); // every changed record of the current list; the card is unchanged afterwards
+    bool Save(); // every changed record of the current list, or none of them; the card is unchanged afterwards
     bool SaveTimeRecord(const std::shared_ptr<CTimeRecord>& thetimerecord);
 
     // Lines end in CR LF. With 710 what could be built.
@@ -75,6 +80,7 @@ private:
     void AppendSummary(std::string& text) const;
     void AppendRecords(std::string& text);
     float BreakAllowance() const;
+    void Begin();
     bool Fail(std::int32_t errorNumber); // always false
 
     std::shared_ptr<CEmployee> m_employee;
@@ -85,6 +91,7 @@ private:
     float m_overtimeHours = 0;
     float m_totalBreakTime = 0;
     float m_totalPay = 0;
+    Failure m_lastFailure{0, "", ""};
 };
 
 } // namespace ptk

@@ -6,6 +6,7 @@
 #include "store/CJetDB.h"
 #include "store/CTimeRecSQLConverter.h"
 #include "store/engine/RecordSet.h"
+#include "store/RowReader.h"
 
 namespace ptk {
 
@@ -13,46 +14,16 @@ namespace {
 
 constexpr std::int16_t kAscending = 1;
 
-// Reads one row after the other, its columns found once.
-class RecordReader
+std::shared_ptr<CTimeRecord> RecordOf(const TimeRecordRow& row)
 {
-public:
-    explicit RecordReader(RecordSet& rows)
-        : m_rows(rows), m_id(rows.Column("TimeRecordID")), m_employee(rows.Column("EmployeeID")), m_start(rows.Column("StartTime")),
-          m_end(rows.Column("EndTime"))
-    {
-    }
-
-    // The current row as an unchanged record. What is missing, zero or no key keeps the record's default.
-    std::shared_ptr<CTimeRecord> Read() const
-    {
-        auto record = std::make_shared<CTimeRecord>();
-        if (const std::int32_t id = KeyAt(m_id); id > 0) {
-            record->TimeRecordID(id);
-        }
-        if (const std::int32_t id = KeyAt(m_employee); id > 0) {
-            record->EmployeeID(id);
-        }
-        if (const DateTime time = TimeAt(m_start); !time.IsZero()) {
-            record->StartTime(time);
-        }
-        if (const DateTime time = TimeAt(m_end); !time.IsZero()) {
-            record->EndTime(time);
-        }
-        record->ObjectState(state::Unchanged); // last, since filling marks it changed
-        return record;
-    }
-
-private:
-    std::int32_t KeyAt(std::size_t column) const { return m_rows.IsNull(column) ? 0 : m_rows.Int32At(column); }
-    DateTime TimeAt(std::size_t column) const { return m_rows.IsNull(column) ? DateTime() : m_rows.DateTimeAt(column); }
-
-    RecordSet& m_rows;
-    std::size_t m_id;
-    std::size_t m_employee;
-    std::size_t m_start;
-    std::size_t m_end;
-};
+    auto record = std::make_shared<CTimeRecord>();
+    record->TimeRecordID(row.TimeRecordID);
+    record->EmployeeID(row.EmployeeID);
+    record->StartTime(row.StartTime);
+    record->EndTime(row.EndTime);
+    record->ObjectState(row.ObjectState); // last, since filling marks it changed
+    return record;
+}
 
 bool NeedsSaving(const CTimeRecord& record)
 {
@@ -71,6 +42,7 @@ void CTimeRecordFactory::PTKDatabase(std::shared_ptr<CJetDB> value)
 bool CTimeRecordFactory::ResetError()
 {
     m_errorNumber = 0;
+    m_lastFailure = Failure(0, "", "");
     return true;
 }
 
@@ -83,7 +55,10 @@ bool CTimeRecordFactory::BuildList(std::int32_t theemployeeid, DateTime thestart
         SortTimeRecordList();
         return true;
     } catch (...) {
-        // Also the way of an empty period: the exclusive hold must not outlive it, or no other program gets at the file.
+        // Also the way of an empty period, which is no failure: the hold must not outlive it, or no other program gets at the file.
+        if (const Failure reason = CurrentFailure(); reason.Number() != failure::NoCurrentRecord) {
+            m_lastFailure = reason;
+        }
         if (m_database != nullptr) {
             m_database->CloseDB();
         }
@@ -107,11 +82,14 @@ void CTimeRecordFactory::Load(std::int32_t theemployeeid, DateTime thestarttime,
         throw Failure(failure::ObjectNotSet);
     }
     if (!m_database->OpenDB()) {
+        m_lastFailure = m_database->LastFailure();
         return;
     }
     const auto rows = m_database->ExecuteSelect(CTimeRecSQLConverter().BuildFetchSQL(theemployeeid, thestarttime, theendtime));
     if (rows != nullptr) {
         InsertRows(*rows);
+    } else {
+        m_lastFailure = m_database->LastFailure();
     }
     m_database->CloseDB();
 }
@@ -120,10 +98,10 @@ void CTimeRecordFactory::InsertRows(RecordSet& rows)
 {
     rows.MoveFirst();
     const std::int32_t count = rows.RecordCount();
-    const RecordReader reader(rows);
+    RowReader reader(rows, TimeRecordTable());
     m_list->Reserve(count);
     for (std::int32_t i = 1; i <= count; ++i) {
-        if (!m_list->Insert(reader.Read(), i)) {
+        if (!m_list->Insert(RecordOf(reader.ReadTimeRecord()), i)) {
             m_errorNumber = recordfactory::InsertFailed;
         }
         rows.MoveNext();
@@ -142,12 +120,14 @@ bool CTimeRecordFactory::DestroyList()
 
 bool CTimeRecordFactory::Save(const std::shared_ptr<CTimeRecord>& thetimerecord)
 {
+    m_lastFailure = Failure(0, "", "");
     try {
-        if (m_database != nullptr && thetimerecord != nullptr && !m_database->ExecuteAction(thetimerecord->ToSQL())) {
-            m_errorNumber = recordfactory::SaveFailed;
+        if (m_database != nullptr && thetimerecord != nullptr) {
+            TakeAnswer(m_database->ExecuteAction(thetimerecord->ToSQL()));
         }
         return true;
     } catch (...) {
+        m_lastFailure = CurrentFailure();
         return Fail(recordfactory::SaveFailed);
     }
 }
@@ -159,14 +139,27 @@ bool CTimeRecordFactory::SaveList()
         if (m_list == nullptr) {
             throw Failure(failure::ObjectNotSet);
         }
+        std::vector<std::string> statements;
         for (std::int32_t i = 1; i <= m_list->Count(); ++i) {
             if (NeedsSaving(m_list->RecordAt(i))) {
-                Save(m_list->Item(i));
+                statements.push_back(m_list->RecordAt(i).ToSQL());
             }
+        }
+        if (m_database != nullptr) {
+            TakeAnswer(m_database->ExecuteActions(statements));
         }
         return true;
     } catch (...) {
+        m_lastFailure = CurrentFailure();
         return Fail(recordfactory::SaveListFailed);
+    }
+}
+
+void CTimeRecordFactory::TakeAnswer(bool stored)
+{
+    if (!stored) {
+        m_errorNumber = recordfactory::SaveFailed;
+        m_lastFailure = m_database->LastFailure();
     }
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/DateTime.h"
+#include "platform/Failure.h"
 
 #include <cstdint>
 #include <memory>
@@ -26,10 +27,15 @@ inline constexpr std::int32_t SaveFailed = 803; // the database refused a statem
 class CTimeRecordFactory
 {
 public:
-    void PTKDatabase(std::shared_ptr<CJetDB> value);                           // nullptr is ignored
+    void PTKDatabase(std::shared_ptr<CJetDB> value); // nullptr is ignored
+    const std::shared_ptr<CJetDB>& PTKDatabase() const { return m_database; }
     std::shared_ptr<CTimeRecordList> TimeRecordList() const { return m_list; } // nullptr until the first BuildList
     std::int32_t ErrorNumber() const { return m_errorNumber; }
     bool ResetError(); // always true
+
+    // Why the last BuildList, Save or SaveList did not do what it should, in words for the program's users; number 0 and no text when it
+    // did, a period without records included. See CJetDB::LastFailure.
+    const Failure& LastFailure() const { return m_lastFailure; }
 
     // Replaces the contents of the current list, the same list object. Bounds as CTimeRecSQLConverter::BuildFetchSQL takes them. False with
     // 301 for a period without records or a failure, the list then holding what was read; a database that cannot be opened gives true and
@@ -40,7 +46,7 @@ public:
     // Writes one record by its state, which stays as it is: saving a new record twice stores it twice, deliberately. A refused statement
     // answers true and leaves 803; an error number of before is not cleared.
     bool Save(const std::shared_ptr<CTimeRecord>& thetimerecord);
-    bool SaveList(); // all that need it; 803 when one was refused, false only with 321
+    bool SaveList(); // all that need it, in one transaction: none is stored when one was refused (803); false only with 321
 
     std::shared_ptr<CTimeRecordList> CloneTimeRecordList();                                      // always nullptr
     std::shared_ptr<CTimeRecord> GetTimeRecordByKey(DateTime thestarttime, DateTime theendtime); // nullptr, with 0 when there is none
@@ -50,11 +56,13 @@ private:
     void RenewList();
     void Load(std::int32_t theemployeeid, DateTime thestarttime, DateTime theendtime);
     void InsertRows(RecordSet& rows);
+    void TakeAnswer(bool stored);
     bool Fail(std::int32_t errorNumber); // always false
 
     std::shared_ptr<CJetDB> m_database;
     std::shared_ptr<CTimeRecordList> m_list;
     std::int32_t m_errorNumber = 0;
+    Failure m_lastFailure{0, "", ""};
 };
 
 } // namespace ptk

@@ -17,8 +17,8 @@ bool StoreRecord(CTimeCard& card, CTimeRecordFactory& factory, const std::shared
 // A record that could not be deleted stays as it was, so that it does not go with the next save of the whole card.
 bool StoreDeletion(CTimeCard& card, CTimeRecordFactory& factory, const std::shared_ptr<CTimeRecord>& record);
 
-// Every new or changed record of the card's list. Where one was refused, the new ones leave the list: they stay new also when they were
-// stored, and a second try would store them twice.
+// Every new or changed record of the card's list, or, where one is refused, none of them. The new ones then leave the list, so that they do
+// not go with the next save of the whole card.
 bool StoreCard(CTimeCard& card, CTimeRecordFactory& factory);
 
 } // namespace ptk

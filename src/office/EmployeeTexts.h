@@ -33,6 +33,8 @@ struct EmployeeTexts
     std::string breakLength = "0";
     bool active = false;
     bool autoDeduct = false;
+
+    bool operator==(const EmployeeTexts&) const = default;
 };
 
 // Why a page cannot be saved, in the order in which it is told.

@@ -1,17 +1,21 @@
 #include "office/OptionTexts.h"
 
+#include "model/PayPeriod.h"
 #include "platform/Text.h"
 #include "shell/CDataValidator.h"
 #include "store/CSystemOptions.h"
 
 #include <algorithm>
+#include <fmt/format.h>
 #include <optional>
 
 namespace ptk {
 
 namespace {
 
-// A negative length counts as none at all.
+constexpr auto kDateFormat = "mm/dd/yyyy";
+
+// A negative length counts as none at all. Raises Failure 6 for one beyond 16 bits.
 std::optional<std::int16_t> PeriodLength(const std::string& text)
 {
     const std::string digits = text.starts_with('-') ? text.substr(1) : text;
@@ -52,6 +56,21 @@ bool StoreOptions(CSystemOptions& options, const OptionTexts& texts)
     const auto end = ShiftTime(texts.autoShiftEnd);
     options.AutoShiftEndTime(end.value_or(DateTime()));
     return end && options.Update();
+}
+
+std::string PeriodExample(const std::string& periodLength, DateTime today)
+{
+    try {
+        const auto length = PeriodLength(periodLength);
+        if (!length) {
+            return {};
+        }
+        const PayPeriod period = PayPeriodFrom(today, *length);
+        return fmt::format("A period has {} {}, for example {} - {}", *length + 1, *length == 0 ? "day" : "days",
+                           FormatDateTime(period.from, kDateFormat), FormatDateTime(period.to, kDateFormat));
+    } catch (...) {
+        return {}; // a length that no calendar holds
+    }
 }
 
 } // namespace ptk

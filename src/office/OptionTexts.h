@@ -1,6 +1,8 @@
 // The system options as the options page shows and takes them.
 #pragma once
 
+#include "platform/DateTime.h"
+
 #include <string>
 
 namespace ptk {
@@ -20,5 +22,9 @@ OptionTexts ShowOptions(const CSystemOptions& options);
 // then 0 in memory, those before it keep what was typed, and nothing is written. False also when the writing fails.
 // Raises Failure 6 for a period length beyond 16 bits.
 bool StoreOptions(CSystemOptions& options, const OptionTexts& texts);
+
+// What a period length typed as this text means from today on: "A period has 15 days, for example 03/05/2003 - 03/19/2003". Empty for a
+// text that is no length.
+std::string PeriodExample(const std::string& periodLength, DateTime today);
 
 } // namespace ptk

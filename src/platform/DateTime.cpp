@@ -75,6 +75,11 @@ std::int64_t DateTime::DayNumber() const
     return FloorDivide(m_seconds, kSecondsPerDay);
 }
 
+int DateTime::Weekday() const
+{
+    return static_cast<int>(std::chrono::weekday{kZeroDay + std::chrono::days{DayNumber()}}.c_encoding());
+}
+
 DateTime DateTime::AddDays(std::int64_t days) const
 {
     // Far more days than the range holds; keeps the product below from overflowing.

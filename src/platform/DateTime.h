@@ -38,6 +38,7 @@ public:
     CalendarDate Date() const;
     TimeOfDay Time() const;
     std::int64_t DayNumber() const; // whole days since the zero date-time, rounded down, so negative before it
+    int Weekday() const;            // 0 Sunday to 6 Saturday
 
     DateTime AddDays(std::int64_t days) const;
 

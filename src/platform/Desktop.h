@@ -60,8 +60,8 @@ public:
     virtual Answer MessageBox(const std::string& text, const std::string& title, Icon icon, Buttons buttons) = 0;
     virtual void SetPointer(Pointer pointer) = 0;
 
-    // Hands an existing document to the desktop's opener or to the print spooler and does not wait for either. `path` is in the platform's
-    // own form. Returns more than ShellSuccess when it was taken over, ShellFileNotFound, ShellNoProgram, or another code up to
+    // Hands an existing document to the desktop's opener or to the print spooler and waits for neither to be done. `path` is in the
+    // platform's own form. Returns more than ShellSuccess when it was taken over, ShellFileNotFound, ShellNoProgram, or another code up to
     // ShellSuccess.
     virtual std::int32_t Shell(const DesktopWindow& owner, ShellVerb verb, const std::string& path) = 0;
 

@@ -19,6 +19,7 @@ namespace {
 
 constexpr std::int32_t kTakenOver = ShellSuccess + 1;
 constexpr std::chrono::seconds kPrintPatience{5};
+constexpr std::chrono::seconds kOpenPatience{1};
 constexpr std::chrono::milliseconds kPollInterval{10};
 
 // Reports are 72 columns of fixed-pitch text, and their tabs reach further: 12 characters an inch keep such a line whole on any paper.
@@ -65,9 +66,10 @@ std::optional<pid_t> Spawn(std::vector<std::string> arguments)
     return error == 0 ? std::optional(child) : std::nullopt;
 }
 
-bool SucceedsInTime(pid_t child)
+// Whether the child ended without complaint; nothing when it still runs at the end of its time.
+std::optional<bool> EndsWell(pid_t child, std::chrono::milliseconds patience)
 {
-    const auto deadline = std::chrono::steady_clock::now() + kPrintPatience;
+    const auto deadline = std::chrono::steady_clock::now() + patience;
     int status = 0;
     while (std::chrono::steady_clock::now() < deadline) {
         const pid_t done = ::waitpid(child, &status, WNOHANG);
@@ -79,9 +81,28 @@ bool SucceedsInTime(pid_t child)
         }
         std::this_thread::sleep_for(kPollInterval);
     }
-    ::kill(child, SIGKILL);
-    ::waitpid(child, &status, 0);
-    return false;
+    return std::nullopt;
+}
+
+// A spooler that hangs has not taken the document over.
+bool IsPrinted(pid_t child)
+{
+    const auto ended = EndsWell(child, kPrintPatience);
+    if (!ended) {
+        ::kill(child, SIGKILL);
+        ::waitpid(child, nullptr, 0);
+    }
+    return ended.value_or(false);
+}
+
+// An opener that finds no program for the document complains at once; one that is the program itself stays, and leaves no zombie behind.
+bool IsOpened(pid_t child)
+{
+    const auto ended = EndsWell(child, kOpenPatience);
+    if (!ended) {
+        std::thread([child] { ::waitpid(child, nullptr, 0); }).detach();
+    }
+    return ended.value_or(true);
 }
 
 } // namespace
@@ -98,11 +119,8 @@ std::int32_t RunSystemShell(ShellVerb verb, const std::string& path)
     if (!child) {
         return ShellNoProgram;
     }
-    if (verb == ShellVerb::Print) {
-        return SucceedsInTime(*child) ? kTakenOver : ShellNoProgram;
-    }
-    std::thread([child] { ::waitpid(*child, nullptr, 0); }).detach(); // leaves no zombie behind
-    return kTakenOver;
+    const bool taken = verb == ShellVerb::Print ? IsPrinted(*child) : IsOpened(*child);
+    return taken ? kTakenOver : ShellNoProgram;
 }
 
 } // namespace ptk

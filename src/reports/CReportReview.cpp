@@ -22,6 +22,7 @@ bool CReportReview::GenerateReport(const std::shared_ptr<CJetDB>& thedatabase, c
             return Fail(report::NoReviewList);
         }
         Name(TitleOfDays(Range().StartDate(), Range().EndDate()), "salary_review_" + RangeCode() + ".txt");
+        const CJetDB::Hold hold = HoldDatabase();
         return Write([&] { return WriteEmployees(thedatabase, *recordslist); });
     });
 }
@@ -46,6 +47,7 @@ bool CReportReview::WriteEmployee(const std::shared_ptr<CJetDB>& thedatabase, co
 {
     const auto card = NewTimeCard(thedatabase);
     if (!GenerateTimeCard(*card, theemployee)) {
+        NoteMissing(*card, theemployee == nullptr ? "an empty entry" : theemployee->DisplayName());
         return Fail(report::NotGenerated);
     }
     WriteLine(card->Employee()->ToStringReview() + "\r\n" + card->ToStringReview());

@@ -12,8 +12,8 @@ class CReportReview final : public PeriodReport
 public:
     explicit CReportReview(ReportContext context);
 
-    // The title shows the end date as given. False with 603, 331, 503, 701; with 710 those who have no card are left out, with 711 all that
-    // come after the user's stop.
+    // The title shows the end date as given. False with 603, 331, 503, 701; with 710 those who have no card are left out, as Missing tells,
+    // with 711 all that come after the user's stop. The database is held until the end.
     bool GenerateReport(const std::shared_ptr<CJetDB>& thedatabase, const std::shared_ptr<CEmployeeList>& recordslist,
                         const Value& thestartdate, const Value& theenddate);
 

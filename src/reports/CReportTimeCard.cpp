@@ -74,6 +74,10 @@ bool CReportTimeCard::WriteGenerated(const std::shared_ptr<CEmployee>& theemploy
         WriteLine(m_timeCard->ToStringReport());
         return true;
     }
+    // Where there are no records, the number says so by itself.
+    if (m_timeCard->LastFailure().Number() != 0 || m_timeCard->ErrorNumber() != report::NoTimeRecords) {
+        NoteMissing(*m_timeCard);
+    }
     return Fail(m_timeCard->ErrorNumber() == report::NoTimeRecords ? report::NoTimeRecords : report::NotGenerated);
 }
 

@@ -31,6 +31,7 @@ bool CReportYTDTotals::WriteTotals(const std::shared_ptr<CEmployee>& theemployee
 {
     WriteLine("");
     if (!GenerateTimeCard(*m_timeCard, theemployee)) {
+        NoteMissing(*m_timeCard);
         return Fail(report::NotGenerated); // whatever the card's own number says
     }
     WriteLine(m_timeCard->ToStringReport());

@@ -2,10 +2,59 @@
 
 #include "model/CEmployee.h"
 #include "model/CTimeCard.h"
+#include "model/CTimeRecordFactory.h"
 #include "platform/Succeeds.h"
 #include "platform/Text.h"
 
+#include <algorithm>
+
 namespace ptk {
+
+namespace {
+
+std::string ReasonFor(const CTimeCard& card)
+{
+    if (card.LastFailure().Number() != 0) {
+        return card.LastFailure().Description();
+    }
+    return card.ErrorNumber() == report::NoTimeRecords ? "there are no time records in this period"
+                                                       : "the time card could not be generated";
+}
+
+} // namespace
+
+bool PeriodReport::Generate(const std::function<bool()>& steps)
+{
+    m_missing.clear();
+    return Report::Generate(steps);
+}
+
+CJetDB::Hold PeriodReport::HoldDatabase() const
+{
+    return CJetDB::Hold(Context().factory->PTKDatabase());
+}
+
+void PeriodReport::NoteMissing(const CTimeCard& card, const std::string& whose)
+{
+    const std::string reason = ReasonFor(card);
+    const auto gap = std::find_if(m_missing.begin(), m_missing.end(), [&](const Gap& known) { return known.reason == reason; });
+    if (gap == m_missing.end()) {
+        m_missing.push_back({reason, whose});
+    } else {
+        gap->names += ", " + whose;
+    }
+}
+
+// "without Ann Lee, Omar Haddad: there are no time records in this period; without Yuki Tanaka: the database is in use by another program"
+std::string PeriodReport::Missing() const
+{
+    std::string text;
+    for (const Gap& gap : m_missing) {
+        text += text.empty() ? "" : "; ";
+        text += gap.names.empty() ? gap.reason : "without " + gap.names + ": " + gap.reason;
+    }
+    return text;
+}
 
 bool PeriodReport::SetRange(const Value& thestartdate, const Value& theenddate)
 {

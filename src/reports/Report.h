@@ -65,9 +65,14 @@ public:
     void ParentWindow(ReportOwner* value) { m_parentWindow = value; } // not owned; nullptr: nobody is told of the closing
     std::string ReportName() const { return m_reportName; }
     std::int32_t ErrorNumber() const { return m_errorNumber; } // 0 = none; the last one when several things failed
-    bool FileWritten() const { return m_fileWritten; }         // whether the file holds what was generated last
-    bool PrintReport();                                        // hands that file to the print spooler; tells the user when there is none
-    bool UnloadReportWindow();                                 // closes the viewer and tells the parent window
+
+    // Whose part is missing from a generated report, and why, in words for its readers; empty when that is all there is to say of the
+    // number.
+    virtual std::string Missing() const { return ""; }
+
+    bool FileWritten() const { return m_fileWritten; } // whether the file holds what was generated last
+    bool PrintReport();                                // hands that file to the print spooler; tells the user when there is none
+    bool UnloadReportWindow();                         // closes the viewer and tells the parent window
 
     std::string ReportPath() const; // of the file, with backslashes
     void Progress(ReportProgress value) { m_progress = std::move(value); }

@@ -254,7 +254,9 @@ bool CController::GetEmployeeList()
 // The database's last failure is that of the list just tried.
 bool CController::LogUnloaded(const char* list)
 {
-    LogFailure(kOperationFailed, Required(m_database)->ErrorNumber(), fmt::format("The list of {} could not be loaded", list));
+    const CJetDB& database = *Required(m_database);
+    LogFailure(kOperationFailed, database.ErrorNumber(),
+               fmt::format("The list of {} could not be loaded: {}", list, database.LastFailure().Description()));
     return false;
 }
 

@@ -10,13 +10,6 @@ namespace {
 
 constexpr const char* kAddTimeRecord = "INSERT INTO TimeRecord (EmployeeID, StartTime, EndTime) VALUES (:employee, :start, :end)";
 
-void BindAll(Statement& statement, const std::vector<Parameter>& parameters)
-{
-    for (const Parameter& parameter : parameters) {
-        statement.Bind(parameter.name, parameter.value);
-    }
-}
-
 } // namespace
 
 BulkWriter::BulkWriter(Engine& engine) : m_engine(engine)
@@ -31,13 +24,13 @@ BulkWriter::~BulkWriter() = default;
 
 std::int32_t BulkWriter::AddCompany(const CompanyRow& company)
 {
-    BindAll(*m_addCompany, AddNewCompanyParameters(company));
+    m_addCompany->Bind(AddNewCompanyParameters(company));
     return Run(*m_addCompany);
 }
 
 std::int32_t BulkWriter::AddEmployee(const EmployeeRow& employee)
 {
-    BindAll(*m_addEmployee, AddNewEmployeeParameters(employee));
+    m_addEmployee->Bind(AddNewEmployeeParameters(employee));
     return Run(*m_addEmployee);
 }
 

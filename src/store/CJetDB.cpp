@@ -13,7 +13,9 @@ namespace ptk {
 namespace {
 
 constexpr std::int16_t kSnapshot = 4;
-}
+constexpr const char* kNoSqlText = "there is no statement to run";
+
+} // namespace
 
 CJetDB::CJetDB(std::string programFolder)
     : m_databaseName(programFolder + "\\system\\ptk_11.mdb"), m_programFolder(std::move(programFolder))
@@ -22,15 +24,51 @@ CJetDB::CJetDB(std::string programFolder)
 
 CJetDB::~CJetDB() = default;
 
-bool CJetDB::Fail(std::int32_t errorNumber)
+CJetDB::Hold::Hold(std::shared_ptr<CJetDB> database) : m_database(std::move(database))
+{
+    if (m_database == nullptr) {
+        return;
+    }
+    if (m_database->m_holds == 0) {
+        m_database->OpenDB();
+        m_database->m_holdFailure = m_database->m_lastFailure;
+    }
+    ++m_database->m_holds;
+}
+
+CJetDB::Hold::~Hold()
+{
+    if (m_database != nullptr && --m_database->m_holds == 0) {
+        m_database->CloseDB();
+    }
+}
+
+// The file stays open after a failure, deliberately; the hold goes, or others would be locked out until the next operation.
+bool CJetDB::Fail(std::int32_t errorNumber, Failure reason)
 {
     m_errorNumber = errorNumber;
+    m_lastFailure = std::move(reason);
+    GiveUpHold();
     return false;
 }
 
-bool CJetDB::HasOpenDatabase() const
+bool CJetDB::Fail(std::int32_t errorNumber, const char* reason)
 {
-    return m_database != nullptr && m_database->IsOpen();
+    return Fail(errorNumber, Failure(errorNumber, "PTK", reason));
+}
+
+// An operation knows only that it found no open file; why its opening failed still stands.
+bool CJetDB::FailWithoutDatabase()
+{
+    m_errorNumber = jetdb::NoDatabase;
+    return m_lastFailure.Number() != 0 ? false : Fail(jetdb::NoDatabase, "there is no open database");
+}
+
+void CJetDB::GiveUpHold()
+{
+    if (m_holds == 0 && m_database != nullptr) {
+        m_database->GiveUp();
+    }
 }
 
 void CJetDB::OpenWhenClosed()
@@ -59,17 +97,40 @@ bool CJetDB::OpenPTKDatabase(const std::shared_ptr<CDatabaseLocator>& thedatabas
 
 bool CJetDB::OpenDB(const std::string& paramName, const std::string& /*paramConnect*/, const std::string& /*paramPassword*/)
 {
+    ForgetFailure();
     const std::string name = paramName.empty() ? m_databaseName : paramName;
     if (name.empty()) {
-        return Fail(jetdb::NoDatabase);
+        return Fail(jetdb::NoDatabase, "there is no name of a database");
     }
-    CloseDB(); // a hold of our own would lock us out like anybody else's
+    return m_holds > 0 && name == m_databaseName ? JoinHold() : OpenFile(name);
+}
+
+bool CJetDB::OpenFile(const std::string& name)
+{
+    CloseFile(); // a hold of our own would lock us out like anybody else's
     try {
         m_database = std::make_unique<Engine>(NativePath(name).string());
     } catch (...) {
-        return Fail(CurrentFailure().Number()); // the engine's own, which tells a file in use from a damaged one
+        const Failure reason = CurrentFailure();
+        return Fail(reason.Number(), reason); // the engine's own, which tells a file in use from a damaged one
     }
     m_databaseName = name;
+    m_databaseOpen = true;
+    m_holdFailure = Failure(0, "", "");
+    return true;
+}
+
+bool CJetDB::JoinHold()
+{
+    try {
+        if (m_holdFailure.Number() != 0) {
+            throw m_holdFailure;
+        }
+        m_database->Hold(); // gone where something was stored meanwhile
+    } catch (...) {
+        const Failure reason = CurrentFailure();
+        return Fail(reason.Number(), reason);
+    }
     m_databaseOpen = true;
     return true;
 }
@@ -79,81 +140,91 @@ bool CJetDB::CloseDB()
     if (m_database == nullptr) {
         return false;
     }
-    m_database->Close();
     m_databaseOpen = false;
+    if (m_holds == 0) {
+        CloseFile();
+    }
     return true;
+}
+
+void CJetDB::CloseFile()
+{
+    if (m_database != nullptr) {
+        m_database->Close();
+    }
+    m_databaseOpen = false;
 }
 
 std::shared_ptr<RecordSet> CJetDB::ExecuteSelect(const std::string& sqlstring)
 {
+    ForgetFailure();
     if (sqlstring.empty() && m_sql.empty()) {
-        Fail(jetdb::NoSql);
+        Fail(jetdb::NoSql, kNoSqlText);
         return nullptr;
     }
     m_sql = sqlstring; // even an empty one: a stored statement only spares the check above
     if (m_recordsetType == 0) {
         m_recordsetType = kSnapshot;
     }
-    if (!HasOpenDatabase()) {
-        Fail(jetdb::NoDatabase);
+    if (!m_databaseOpen) {
+        FailWithoutDatabase();
         return nullptr;
     }
     try {
         m_recSet = m_database->Select(m_sql);
         return m_recSet;
     } catch (...) {
-        Fail(jetdb::StatementFailed);
+        Fail(jetdb::StatementFailed, CurrentFailure());
         return nullptr;
     }
 }
 
-bool CJetDB::ExecuteAction(const std::string& sqlstring)
+// One operation that writes: opens the file when it is closed and closes it after success, whoever opened it.
+template <typename Steps>
+bool CJetDB::Change(std::int32_t errorNumber, Steps steps)
 {
-    OpenWhenClosed(); // when that fails, its number gives way to 403 below: an operation knows only that it found no open file
-    bool done = false;
+    ForgetFailure();
+    OpenWhenClosed();
+    const bool done = m_databaseOpen || FailWithoutDatabase();
     try {
-        if (sqlstring.empty() && m_sql.empty()) {
-            Fail(jetdb::NoSql);
-        } else {
-            m_sql = sqlstring;
-            done = HasOpenDatabase() || Fail(jetdb::NoDatabase);
-            if (done) {
-                m_database->Execute(m_sql);
-            }
+        if (done) {
+            steps();
         }
     } catch (...) {
-        return Fail(jetdb::StatementFailed); // deliberately without closing: the next operation goes on with the open file
+        return Fail(errorNumber, CurrentFailure()); // deliberately without closing: the next operation goes on with the open file
     }
     CloseWhenOpen();
     return done;
 }
 
-template <typename Parameters>
-bool CJetDB::RunStored(const char* query, Parameters parameters, std::int32_t errorNumber)
+bool CJetDB::ExecuteAction(const std::string& sqlstring)
 {
-    OpenWhenClosed();
-    const bool done = HasOpenDatabase() || Fail(jetdb::NoDatabase);
-    try {
-        if (done) {
-            m_database->ExecuteStored(query, parameters());
-        }
-    } catch (...) {
-        return Fail(errorNumber); // deliberately without closing, as above
+    if (sqlstring.empty() && m_sql.empty()) {
+        Fail(jetdb::NoSql, kNoSqlText);
+        CloseWhenOpen();
+        return false;
     }
-    CloseWhenOpen();
-    return done;
+    m_sql = sqlstring;
+    return Change(jetdb::StatementFailed, [&] { m_database->Execute(m_sql); });
+}
+
+bool CJetDB::ExecuteActions(std::span<const std::string> statements)
+{
+    if (statements.empty()) {
+        return true;
+    }
+    m_sql = statements.back();
+    return Change(jetdb::StatementFailed, [&] { m_database->ExecuteAll(statements); });
 }
 
 bool CJetDB::AddNewEmployee(const EmployeeRow& theemployee)
 {
-    return RunStored(
-        "AddNewEmployee", [&] { return AddNewEmployeeParameters(theemployee); }, jetdb::InsertFailed);
+    return Change(jetdb::InsertFailed, [&] { m_database->ExecuteStored("AddNewEmployee", AddNewEmployeeParameters(theemployee)); });
 }
 
 bool CJetDB::UpdateEmployee(const EmployeeRow& theemployee)
 {
-    return RunStored(
-        "UpdateEmployee", [&] { return UpdateEmployeeParameters(theemployee); }, jetdb::UpdateFailed);
+    return Change(jetdb::UpdateFailed, [&] { m_database->ExecuteStored("UpdateEmployee", UpdateEmployeeParameters(theemployee)); });
 }
 
 bool CJetDB::DeleteEmployee(const EmployeeRow& /*theemployee*/)
@@ -163,14 +234,12 @@ bool CJetDB::DeleteEmployee(const EmployeeRow& /*theemployee*/)
 
 bool CJetDB::AddNewCompany(const CompanyRow& thecompany)
 {
-    return RunStored(
-        "AddNewCompany", [&] { return AddNewCompanyParameters(thecompany); }, jetdb::InsertFailed);
+    return Change(jetdb::InsertFailed, [&] { m_database->ExecuteStored("AddNewCompany", AddNewCompanyParameters(thecompany)); });
 }
 
 bool CJetDB::UpdateCompany(const CompanyRow& thecompany)
 {
-    return RunStored(
-        "UpdateCompany", [&] { return UpdateCompanyParameters(thecompany); }, jetdb::UpdateFailed);
+    return Change(jetdb::UpdateFailed, [&] { m_database->ExecuteStored("UpdateCompany", UpdateCompanyParameters(thecompany)); });
 }
 
 bool CJetDB::DeleteCompany(const CompanyRow& /*thecompany*/)
@@ -180,15 +249,15 @@ bool CJetDB::DeleteCompany(const CompanyRow& /*thecompany*/)
 
 std::shared_ptr<RecordSet> CJetDB::OpenListing(const char* query)
 {
-    if (!HasOpenDatabase()) {
-        Fail(jetdb::NoDatabase);
+    if (!m_databaseOpen) {
+        FailWithoutDatabase();
         return nullptr;
     }
     try {
         auto rows = m_database->SelectStored(query); // a snapshot: its count is the number of all its rows
-        return rows->RecordCount() >= 0 || Fail(jetdb::NegativeCount) ? rows : nullptr;
+        return rows->RecordCount() >= 0 || Fail(jetdb::NegativeCount, "the listing has a negative number of rows") ? rows : nullptr;
     } catch (...) {
-        Fail(jetdb::ListingFailed);
+        Fail(jetdb::ListingFailed, CurrentFailure());
         return nullptr;
     }
 }
@@ -205,19 +274,20 @@ std::shared_ptr<RecordSet> CJetDB::OpenCompanyQuery()
 
 bool CJetDB::LoadEmployeeList(EmployeeSink& thelist)
 {
+    ForgetFailure();
     OpenWhenClosed();
     const auto rows = OpenEmployeeQuery();
     if (rows == nullptr) {
         return false;
     }
     try {
-        RowReader reader(*rows, EmployeeColumns());
+        RowReader reader(*rows, EmployeeTable());
         for (std::int32_t position = 1; position <= rows->RecordCount(); ++position) {
             thelist.InsertLoaded(reader.ReadEmployee(), position); // deliberately not asked, unlike a company's list
             rows->MoveNext();
         }
     } catch (...) {
-        return Fail(jetdb::ListingFailed);
+        return Fail(jetdb::ListingFailed, CurrentFailure());
     }
     CloseWhenOpen();
     return true;
@@ -225,22 +295,23 @@ bool CJetDB::LoadEmployeeList(EmployeeSink& thelist)
 
 bool CJetDB::LoadCompanyList(CompanySink& thelist)
 {
+    ForgetFailure();
     OpenWhenClosed();
     const auto rows = OpenCompanyQuery();
     // Deliberately by the number, which no member resets: one left by an earlier operation ends the load as well.
     if (m_errorNumber == jetdb::NegativeCount || m_errorNumber == jetdb::ListingFailed || m_errorNumber == jetdb::NoDatabase) {
-        return false;
+        return m_lastFailure.Number() != 0 ? false : Fail(m_errorNumber, "the companies are not listed after an earlier failure");
     }
     try {
-        RowReader reader(*rows, CompanyColumns());
+        RowReader reader(*rows, CompanyTable());
         for (std::int32_t position = 1; position <= rows->RecordCount(); ++position) {
             if (!thelist.InsertLoaded(reader.ReadCompany(), position)) {
-                Fail(jetdb::WorkingReferenceLost);
+                m_errorNumber = jetdb::WorkingReferenceLost;
             }
             rows->MoveNext();
         }
     } catch (...) {
-        return Fail(jetdb::ListingFailed);
+        return Fail(jetdb::ListingFailed, CurrentFailure());
     }
     CloseWhenOpen();
     return true;

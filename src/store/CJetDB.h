@@ -2,10 +2,12 @@
 // tables and the entities through the stored queries inside the file.
 #pragma once
 
+#include "platform/Failure.h"
 #include "store/Rows.h"
 
 #include <cstdint>
 #include <memory>
+#include <span>
 #include <string>
 
 namespace ptk {
@@ -14,7 +16,7 @@ class CDatabaseLocator;
 class Engine;
 class RecordSet;
 
-// Error numbers of CJetDB. A failed open leaves the engine's own number instead of one of these.
+// Error numbers of CJetDB. A failed open leaves the engine's own number instead of one of these. Why it was is LastFailure's to tell.
 namespace jetdb {
 inline constexpr std::int32_t NoDatabase = 403;           // no handle, no name, or an operation found no open database
 inline constexpr std::int32_t NoSql = 406;                // neither an argument nor a stored statement
@@ -28,9 +30,27 @@ inline constexpr std::int32_t WorkingReferenceLost = 312; // a loaded company di
 
 // Not thread-safe. Closed at creation; the destructor closes an open file. No member raises.
 // ErrorNumber is never reset: it keeps the last code until another is set, and LoadCompanyList even refuses on a stale one.
+//
+// An open file is held exclusively, except after an operation that failed: its file stays open, but others get at it until the next
+// operation takes the hold again. Whenever the hold is taken, somebody else's is waited for, up to a second.
 class CJetDB
 {
 public:
+    // While one lives, the file is held across any number of operations: all that read see the same moment, until one of them stores
+    // something, and what they open and close costs nothing. Where the file could not be opened, each of them is told so at once, without
+    // waiting for its own second. Holds may nest; the file is closed after the last. Not to be kept while the user is asked something.
+    class Hold
+    {
+    public:
+        explicit Hold(std::shared_ptr<CJetDB> database); // nullptr holds nothing
+        ~Hold();
+        Hold(const Hold&) = delete;
+        Hold& operator=(const Hold&) = delete;
+
+    private:
+        std::shared_ptr<CJetDB> m_database;
+    };
+
     explicit CJetDB(std::string programFolder);
     ~CJetDB();
     CJetDB(const CJetDB&) = delete;
@@ -48,20 +68,29 @@ public:
     std::shared_ptr<RecordSet> RecSet() const { return m_recSet; }
     std::int32_t ErrorNumber() const { return m_errorNumber; }
 
+    // Why the last operation failed, in words for the program's users; number 0 and no text when it did not. The number is the cause's own:
+    // the engine's (source "SQLite"), a conversion's, or one of those above.
+    const Failure& LastFailure() const { return m_lastFailure; }
+
     // Opens the file that the locator found. An empty path opens nothing, answers false and leaves ErrorNumber alone.
     bool OpenPTKDatabase(const std::shared_ptr<CDatabaseLocator>& thedatabaselocator);
 
-    // Opens exclusively, without waiting and without ever creating a file. False with 403 (no name) or the engine's own number.
+    // Opens exclusively, without ever creating a file. False with 403 (no name) or the engine's own number.
     // The connect text and the password are accepted and not used.
     bool OpenDB(const std::string& paramName = "", const std::string& paramConnect = "", const std::string& paramPassword = "");
 
     bool CloseDB(); // false only when nothing was ever opened
+
+    void GiveUpHold(); // lets others at the open file until the next operation; nothing inside a Hold
 
     // The caller opens and closes the database. nullptr with 403, 406 or 407.
     std::shared_ptr<RecordSet> ExecuteSelect(const std::string& sqlstring);
 
     // Opens the database when it is closed and always leaves it closed, except after a failed statement (407). Committed on return.
     bool ExecuteAction(const std::string& sqlstring);
+
+    // The same for several statements in one transaction: all of them are stored, or none. Nothing to do is true.
+    bool ExecuteActions(std::span<const std::string> statements);
 
     // Each opens the database when it is closed and closes it after success; a failed statement (412, 413) leaves it open.
     bool AddNewEmployee(const EmployeeRow& theemployee);
@@ -74,12 +103,17 @@ public:
     bool DeleteCompany(const CompanyRow& thecompany); // deliberately does nothing and answers false
 
 private:
-    bool Fail(std::int32_t errorNumber); // always false
-    bool HasOpenDatabase() const;
+    bool Fail(std::int32_t errorNumber, const char* reason); // always false, as the next
+    bool Fail(std::int32_t errorNumber, Failure reason);
+    bool FailWithoutDatabase();
+    void ForgetFailure() { m_lastFailure = Failure(0, "", ""); }
+    bool OpenFile(const std::string& name);
+    bool JoinHold();
+    void CloseFile();
     void OpenWhenClosed();
     void CloseWhenOpen();
-    template <typename Parameters>
-    bool RunStored(const char* query, Parameters parameters, std::int32_t errorNumber);
+    template <typename Steps>
+    bool Change(std::int32_t errorNumber, Steps steps);
     std::shared_ptr<RecordSet> OpenListing(const char* query);
     std::shared_ptr<RecordSet> OpenEmployeeQuery();
     std::shared_ptr<RecordSet> OpenCompanyQuery();
@@ -93,6 +127,9 @@ private:
     bool m_databaseOpen = false;
     std::int16_t m_recordsetType = 0; // 0 stands for 4, a snapshot
     std::int32_t m_errorNumber = 0;
+    Failure m_lastFailure{0, "", ""};
+    std::int32_t m_holds = 0;
+    Failure m_holdFailure{0, "", ""}; // why the file that is to be held is not
     std::string m_programFolder;
 };
 

@@ -3,7 +3,7 @@
 #include "platform/Failure.h"
 #include "platform/Text.h"
 #include "store/CJetDB.h"
-#include "store/engine/RecordSet.h"
+#include "store/RowReader.h"
 
 #include <fmt/format.h>
 
@@ -42,11 +42,12 @@ bool CSystemOptions::Load()
     if (row == nullptr) {
         return false;
     }
-    m_programName = row->Field("Program").ToText();
-    m_programVersion = row->Field("Version").ToText();
-    m_periodLength = row->Field("period_length").ToInt16();
-    m_autoShiftStartTime = row->Field("auto_shift_start_time").ToDateTime();
-    m_autoShiftEndTime = row->Field("auto_shift_end_time").ToDateTime();
+    try {
+        RowReader(*row, OptionsTable()).ReadOptions(m_row);
+    } catch (...) {
+        m_database->GiveUpHold(); // the user is told before the next operation
+        throw;
+    }
     return true;
 }
 
@@ -67,7 +68,7 @@ bool CSystemOptions::BuildUpdateSQL()
 {
     m_sql = fmt::format("UPDATE _System SET _System.period_length = {}, _System.auto_shift_start_time = #{}#, "
                         "_System.auto_shift_end_time = #{}#;",
-                        m_periodLength, GeneralText(m_autoShiftStartTime), GeneralText(m_autoShiftEndTime));
+                        m_row.PeriodLength, GeneralText(m_row.AutoShiftStartTime), GeneralText(m_row.AutoShiftEndTime));
     return true;
 }
 

@@ -3,18 +3,18 @@
 #include "platform/Failure.h"
 #include "platform/Text.h"
 #include "store/engine/Engine.h"
+#include "store/engine/FileHeader.h"
 #include "store/engine/RecordSet.h"
-#include "store/engine/Statement.h"
+#include "store/QueryParameters.h"
+#include "store/RowChecker.h"
 
 #include <fmt/format.h>
+#include <set>
 #include <sstream>
 
 namespace ptk {
 
 namespace {
-
-constexpr std::int32_t kApplicationId = 0x50544B31;
-constexpr std::int32_t kFormatNumber = 1;
 
 // The columns of one type in one table, separated by blanks. Further tables and columns may be there.
 struct Columns
@@ -40,9 +40,6 @@ constexpr Columns kColumns[] = {
     {"_StoredQuery", "TEXT", "name sql"},
 };
 
-constexpr const char* kStoredQueries[] = {"AddNewCompany",   "AddNewEmployee", "GetAllCompanies",
-                                          "GetAllEmployees", "UpdateCompany",  "UpdateEmployee"};
-
 class Inspector
 {
 public:
@@ -56,10 +53,9 @@ public:
         for (const Columns& columns : kColumns) {
             CheckColumns(columns);
         }
-        for (const char* query : kStoredQueries) {
-            CheckQuery(query);
-        }
         CountRows();
+        CheckActions();
+        CheckRows();
         return std::move(m_check);
     }
 
@@ -72,7 +68,7 @@ private:
 
     void CheckIntegrity()
     {
-        for (const auto rows = m_engine.Select("PRAGMA integrity_check"); !rows->EndOfFile(); rows->MoveNext()) {
+        for (const auto rows = m_engine.CheckIntegrity(); !rows->EndOfFile(); rows->MoveNext()) {
             if (const std::string finding(rows->TextAt(0)); finding != "ok") {
                 Report("The file is damaged: {}.", finding);
             }
@@ -95,19 +91,37 @@ private:
                 fmt::format("SELECT type FROM pragma_table_info('{}') WHERE name = '{}' COLLATE NOCASE", columns.table, name));
             if (found->EndOfFile()) {
                 Report("There is no column {}.{}.", columns.table, name);
+                m_incomplete.insert(columns.table);
             } else if (LowerCase(found->TextAt(0)) != LowerCase(columns.type)) {
                 Report("The column {}.{} is {}, not {}.", columns.table, name, found->TextAt(0), columns.type);
             }
         }
     }
 
-    void CheckQuery(const char* query)
+    void CheckActions()
     {
-        try {
-            m_engine.PrepareStored(query);
-        } catch (const Failure& failure) {
-            Report("The stored query {} cannot be used: {}.", query, failure.Description());
+        m_rows.TryAction("AddNewCompany", AddNewCompanyParameters({}));
+        m_rows.TryAction("AddNewEmployee", AddNewEmployeeParameters({}));
+        m_rows.TryAction("UpdateCompany", UpdateCompanyParameters({}));
+        m_rows.TryAction("UpdateEmployee", UpdateEmployeeParameters({}));
+    }
+
+    // A table that lacks a column has been reported as that.
+    void CheckRows()
+    {
+        struct Table
+        {
+            const char* name;
+            void (RowChecker::*check)();
+        };
+        for (const Table& table : {Table{"_System", &RowChecker::CheckOptions}, Table{"Company", &RowChecker::CheckCompanies},
+                                   Table{"Employee", &RowChecker::CheckEmployees}, Table{"TimeRecord", &RowChecker::CheckTimeRecords}}) {
+            if (!m_incomplete.contains(table.name)) {
+                (m_rows.*table.check)();
+            }
         }
+        m_rows.TryCompanyListing();
+        m_rows.TryEmployeeListing();
     }
 
     // 0 for a table that is not there, which has been reported by then.
@@ -132,6 +146,8 @@ private:
 
     Engine m_engine;
     DatabaseCheck m_check;
+    RowChecker m_rows{m_engine, m_check.problems};
+    std::set<std::string> m_incomplete; // tables that lack a column
 };
 
 } // namespace

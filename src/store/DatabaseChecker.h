@@ -15,8 +15,9 @@ struct DatabaseCheck
     std::int32_t timeRecords = 0;
 };
 
-// Damage, foreign or missing identification, missing or differently typed tables and columns, missing or unusable stored queries, an
-// options table of not exactly one row. Raises what opening the file raises.
+// Damage, missing identification, missing or differently typed tables and columns, missing or unusable stored queries, an options table of
+// not exactly one row, and in any row whatever the program could not use, by table, key, column and value: all that would stop a start or a
+// time card. Raises what opening the file raises.
 DatabaseCheck CheckDatabase(const std::string& path);
 
 } // namespace ptk

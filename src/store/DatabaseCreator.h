@@ -9,8 +9,9 @@ namespace ptk {
 class BulkWriter;
 
 // With its tables, stored queries, options, the administrator and whatever `fill` adds (without committing), readable by its owner only. It
-// appears under `path` (in the platform's own form) complete and safely on disk, or not at all. Raises 75 when there is something of that
-// name already, which stays untouched, 76 without the folder, 70, 61, the engine's failures, and what `fill` raises.
+// appears under `path` (in the platform's own form) complete and safely on disk, or not at all; what killed attempts left beside it goes.
+// Raises 75 when there is something of that name already, which stays untouched, or a -journal, -wal or -shm of another database of that
+// name, 76 without the folder, 70, 61, 57, the engine's failures, and what `fill` raises.
 void CreateDatabase(const std::string& path, const std::function<void(BulkWriter&)>& fill = {});
 
 } // namespace ptk

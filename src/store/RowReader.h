@@ -1,40 +1,66 @@
-// Takes the rows of the listing queries into plain rows, each column by its rule.
+// Takes the rows of the program's tables into plain rows, each column by its rule.
 #pragma once
 
 #include "store/Rows.h"
 
 #include <cstddef>
 #include <span>
+#include <string>
 #include <vector>
 
 namespace ptk {
 
 class RecordSet;
 
-// Reads the current row of a record set column by column, in the order of the names it was made with. A field whose column is null, or not
-// greater than zero where only that has a meaning, keeps its default.
+// The columns that the program reads of a table, in the order in which it reads them.
+struct TableColumns
+{
+    const char* table;
+    std::span<const char* const> names; // the first is the key, by which a row is told to people
+};
+
+TableColumns EmployeeTable();
+TableColumns CompanyTable(); // the web address deliberately is not among them: it is written but never read back
+TableColumns TimeRecordTable();
+TableColumns OptionsTable();
+
+// Reads the current row of a record set column by column. A field whose column is null, or not greater than zero where only that has a
+// meaning, keeps its default. What cannot be read raises 94 (null), 13 (no such meaning) or 6 (does not fit), in words that name the row,
+// the column and the value: "Employee 40: AutoDeductLunchLength is 70000 (Overflow)".
 class RowReader
 {
 public:
-    RowReader(const RecordSet& rows, std::span<const char* const> columns); // raises Failure 9 for a missing column
+    RowReader(const RecordSet& rows, const TableColumns& columns); // raises Failure 9 for a missing column
 
-    EmployeeRow ReadEmployee(); // raises 94 when Active or AutoDeduct is null
+    // For the check of a file: what cannot be read is put behind `found` instead of being raised, and so is what can be read but never
+    // serves: dates in any other form than the stored one, which searches pass over, missing times of a shift, keys below 1.
+    RowReader(const RecordSet& rows, const TableColumns& columns, std::vector<std::string>& found);
+
+    EmployeeRow ReadEmployee();
     CompanyRow ReadCompany();
+    TimeRecordRow ReadTimeRecord();    // unchanged
+    void ReadOptions(OptionsRow& row); // nothing may be null; what was read before a failure stays in the row
 
 private:
-    void Start() { m_next = m_columns.begin(); }
+    void Start() { m_next = 0; }
+    template <typename Read>
+    void Take(Read read);
     template <typename Number>
-    void Positive(Number& field);
+    void Positive(Number& field, const char* doubt = nullptr);
+    void Key(std::int32_t& field);
     void Text(std::string& field);
-    void Date(DateTime& field);
+    void Date(DateTime& field, const char* doubtWhenNull = nullptr);
+    void ShiftTime(DateTime& field);
+    void ReadMoment(std::size_t column, DateTime& field) const;
     void Flag(bool& field);
+    void Doubt(const char* why) const;
+    std::string Place(std::size_t column, const std::string& why) const;
 
     const RecordSet& m_rows;
-    std::vector<std::size_t> m_columns;
-    std::vector<std::size_t>::const_iterator m_next;
+    TableColumns m_table;
+    std::vector<std::size_t> m_columns; // the record set's ordinals of the table's columns
+    std::size_t m_next = 0;
+    std::vector<std::string>* m_found = nullptr;
 };
-
-std::span<const char* const> EmployeeColumns();
-std::span<const char* const> CompanyColumns(); // the web address deliberately is not among them: it is written but never read back
 
 } // namespace ptk

@@ -68,6 +68,15 @@ struct TimeRecordRow
     std::int32_t ObjectState = state::New;
 };
 
+struct OptionsRow
+{
+    std::string ProgramName;
+    std::string ProgramVersion;
+    std::int16_t PeriodLength = 0; // days added to a period's first day
+    DateTime AutoShiftStartTime;   // only the time of day matters
+    DateTime AutoShiftEndTime;
+};
+
 // The lists that a loader fills: makes an unchanged entity of the row and inserts it at the 1-based position. False when the list did not
 // take it.
 class EmployeeSink

@@ -7,21 +7,22 @@
 #include "startup/CController.h"
 #include "startup/Notices.h"
 #include "ui/dialogs/FAbout.h"
+#include "ui/PageFrame.h"
 #include "ui/pages/CompanyPage.h"
 #include "ui/pages/EmployeePage.h"
 #include "ui/pages/OptionsPage.h"
 #include "ui/pages/ReportsPage.h"
 #include "ui/pages/TimeCardPage.h"
 #include "ui/widgets/ElidedLabel.h"
+#include "ui/widgets/NoticeLine.h"
 #include "ui/widgets/ThemeIcon.h"
 #include "ui/widgets/WindowPlace.h"
+#include "ui/WindowMenu.h"
 #include "ui_FController.h"
 
 #include <array>
 #include <QCloseEvent>
-#include <QGroupBox>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QShortcut>
 #include <QThread>
 
@@ -49,6 +50,8 @@ constexpr std::array<Tab, 5> kTabs{{
 }};
 constexpr int kTabCount = static_cast<int>(kTabs.size());
 constexpr int kTimeCardTab = 1;
+constexpr int kForward = 1;
+constexpr int kBackward = -1;
 
 constexpr auto kProgramPanel = "PTK - Administrator";
 constexpr int kPanelMargin = 6;
@@ -57,6 +60,8 @@ constexpr auto kFirstStatus = "<object name : ID>";
 constexpr auto kGuidePath = "\\documentation\\PTKAdminUserGuide.doc";
 constexpr auto kGuideText = "File: ...\\documentation\\PTKAdminUserGuide.doc\r\n"
                             "The path to the User's Guide is invalid or not able to be opened by Windows.";
+
+constexpr auto kGuideNotOpened = "The user's guide could not be opened: no program for it took it.";
 
 constexpr auto kPlaceName = "main";
 constexpr QSize kFirstSize(960, 660);
@@ -74,11 +79,12 @@ FController::FController(std::string programFolder, ptk::Desktop& desktop, const
 {
     m_ui->setupUi(this);
     setMinimumSize(kSmallestSize); // the pages scroll below their own size
-    setWindowIcon(ThemeIcon("ptk-admin"));
     BuildPages();
     BuildStatusBar();
     ConnectMenus();
+    ConnectWindowMenu();
     ConnectTabs();
+    ConnectTabKeys();
     RestorePlace(*this, kPlaceName, kFirstSize);
 }
 
@@ -97,21 +103,11 @@ void FController::BuildPages()
     AddPage(5, m_optionsPage = new OptionsPage(*this));
 }
 
-// A page scrolls where the screen is too small for it, so that nothing is ever cut off.
 void FController::AddPage(int index, QWidget* page)
 {
     const Tab& tab = TabAt(index);
-    auto* frame = new QGroupBox(tab.pageCaption);
+    auto* frame = new PageFrame(tab.pageCaption, page);
     frame->setObjectName(QString("FrameArray(%1)").arg(index));
-    auto* scroll = new QScrollArea;
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setWidgetResizable(true);
-    scroll->setFocusPolicy(Qt::NoFocus);
-    scroll->setWidget(page);
-    for (QWidget* inside : {scroll->viewport(), page}) {
-        inside->setAutoFillBackground(false); // the frame's own background shows through
-    }
-    (new QVBoxLayout(frame))->addWidget(scroll);
     m_ui->pages->addWidget(frame);
     m_ui->TabStrip->addTab(ThemeIcon(tab.icon), tab.caption);
 }
@@ -138,6 +134,15 @@ void FController::ConnectMenus()
     connect(m_ui->mnuHelpContents, &QAction::triggered, this, &FController::UsersGuide);
 }
 
+void FController::ConnectWindowMenu()
+{
+    QtViewerFactory& viewers = m_reports->Viewers();
+    auto* windows = new WindowMenu(*m_ui->mnuWindow, viewers);
+    connect(windows, &WindowMenu::Done, this, &FController::Say);
+    connect(m_ui->mnuWindowPrintAll, &QAction::triggered, windows, &WindowMenu::PrintAll);
+    connect(m_ui->mnuWindowCloseAll, &QAction::triggered, windows, [&viewers] { viewers.CloseAll(); });
+}
+
 // A click counts also when it does not move the selection: the first one on the first tab does.
 void FController::ConnectTabs()
 {
@@ -149,9 +154,46 @@ void FController::ConnectTabs()
     };
     connect(strip, &QTabBar::tabBarClicked, this, change);
     connect(strip, &QTabBar::currentChanged, this, change);
-    const auto turn = [strip](int step) { strip->setCurrentIndex((strip->currentIndex() + step + kTabCount) % kTabCount); };
-    connect(new QShortcut(QKeySequence("Ctrl+PgDown"), this), &QShortcut::activated, strip, [turn] { turn(1); });
-    connect(new QShortcut(QKeySequence("Ctrl+PgUp"), this), &QShortcut::activated, strip, [turn] { turn(-1); });
+    strip->installEventFilter(this);
+    m_tabsWidth = strip->sizeHint().width();
+}
+
+void FController::ConnectTabKeys()
+{
+    struct Turn
+    {
+        const char* keys;
+        int step;
+    };
+    QTabBar* strip = m_ui->TabStrip;
+    for (const Turn& turn :
+         {Turn{"Ctrl+Tab", kForward}, {"Ctrl+PgDown", kForward}, {"Ctrl+Shift+Tab", kBackward}, {"Ctrl+PgUp", kBackward}}) {
+        connect(new QShortcut(QKeySequence(turn.keys), this), &QShortcut::activated, strip,
+                [strip, step = turn.step] { strip->setCurrentIndex((strip->currentIndex() + step + kTabCount) % kTabCount); });
+    }
+}
+
+// The strip announces a click of every button; only the left one turns a page.
+bool FController::eventFilter(QObject* watched, QEvent* event)
+{
+    const bool press = event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick;
+    return (press && static_cast<QMouseEvent*>(event)->button() != Qt::LeftButton) || QMainWindow::eventFilter(watched, event);
+}
+
+void FController::resizeEvent(QResizeEvent* event)
+{
+    QMainWindow::resizeEvent(event);
+    const QMargins margins = m_ui->layout->contentsMargins();
+    ShowTabIcons(m_tabsWidth <= m_ui->content->width() - margins.left() - margins.right());
+}
+
+void FController::ShowTabIcons(bool shown)
+{
+    for (int tab = 0; tab < kTabCount; ++tab) {
+        if (m_ui->TabStrip->tabIcon(tab).isNull() == shown) {
+            m_ui->TabStrip->setTabIcon(tab, shown ? ThemeIcon(TabAt(tab + 1).icon) : QIcon());
+        }
+    }
 }
 
 void FController::Controller(std::shared_ptr<CController> value)
@@ -245,6 +287,18 @@ bool FController::SetStatusText(const std::string& name, const std::string& iden
     return true;
 }
 
+PeriodTexts FController::TimeCardPeriod() const
+{
+    return m_timeCardPage->Period();
+}
+
+void FController::Say(const QString& text)
+{
+    if (auto* line = m_ui->pages->currentWidget()->findChild<NoticeLine*>()) {
+        line->Say(text);
+    }
+}
+
 void FController::Log(const std::string& line)
 {
     if (m_controller != nullptr) {
@@ -279,8 +333,14 @@ void FController::About()
 void FController::UsersGuide()
 {
     CDocLauncher launcher(m_desktop);
-    if (!launcher.DisplayDocument(this, m_programFolder + kGuidePath) && launcher.ErrorNumber() == docerror::DocumentNotFound) {
+    if (launcher.DisplayDocument(this, m_programFolder + kGuidePath)) {
+        return;
+    }
+    Log(kGuideNotOpened);
+    if (launcher.ErrorNumber() == docerror::DocumentNotFound) {
         m_desktop.Show(kGuideText, docerror::NotOpenedTitle, Icon::Exclamation);
+    } else {
+        Say(kGuideNotOpened);
     }
 }
 
@@ -316,7 +376,7 @@ void FController::CloseDown(bool keepReview)
 
 bool FController::IsBusyInDialog() const
 {
-    return QApplication::activeModalWidget() != nullptr || QThread::currentThread()->loopLevel() > 1;
+    return m_reportsPage->IsGenerating() || QApplication::activeModalWidget() != nullptr || QThread::currentThread()->loopLevel() > 1;
 }
 
 // A window that is told to close while one of its editors is open, by the end of the desktop's session for instance, closes the editor

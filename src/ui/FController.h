@@ -59,11 +59,14 @@ public:
     void EventSource(std::int32_t value) override { m_eventSource = value; }
     std::shared_ptr<CTimeCard> TimeCard() const override { return m_timeCard; }
     void TimeCard(std::shared_ptr<CTimeCard> value) override { m_timeCard = std::move(value); }
+    PeriodTexts TimeCardPeriod() const override;
     ptk::EmployeeModels& EmployeeModels() const override { return *m_employeeModels; }
     bool FillEmployeeLists() override;
     OpenReports& Reports() const override { return *m_reports; }
 
 protected:
+    bool eventFilter(QObject* watched, QEvent* event) override; // of the tab strip
+    void resizeEvent(QResizeEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
@@ -72,7 +75,9 @@ private:
     void AddPage(int index, QWidget* page);
     void BuildStatusBar();
     void ConnectMenus();
+    void ConnectWindowMenu();
     void ConnectTabs();
+    void ConnectTabKeys();
 
     void Load();
     bool InitializeTabPages();
@@ -81,6 +86,8 @@ private:
 
     void ChangeTab(int index);
     bool ShowTabPage(int index);
+    void ShowTabIcons(bool shown);
+    void Say(const QString& text); // in the shown page's line
 
     void Exit();
     void About();
@@ -100,6 +107,7 @@ private:
     std::int32_t m_errorNumber = 0;
     std::int32_t m_eventSource = eventsource::None;
     std::shared_ptr<CTimeCard> m_timeCard;
+    int m_tabsWidth = 0; // of the tabs with their icons
     bool m_loaded = false;
     bool m_closing = false;
 

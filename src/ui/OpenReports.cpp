@@ -12,7 +12,10 @@
 
 namespace ptk {
 
-OpenReports::OpenReports(PageHost& host, const std::string& programFolder) : m_host(host), m_programFolder(programFolder) {}
+OpenReports::OpenReports(PageHost& host, const std::string& programFolder)
+    : m_host(host), m_programFolder(programFolder), m_viewers([&host](const std::string& line) { host.Log(line); })
+{
+}
 
 OpenReports::~OpenReports()
 {

@@ -46,6 +46,7 @@ public:
     bool UnloadPhoneBookReport() override;
 
     void Clear(bool exceptReview); // drops the references; viewers stay open
+    QtViewerFactory& Viewers() { return m_viewers; }
 
 private:
     template <typename AnyReport>

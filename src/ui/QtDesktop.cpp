@@ -5,6 +5,8 @@
 #include <QApplication>
 #include <QMessageBox>
 
+#include <optional>
+
 namespace ptk {
 
 namespace {
@@ -53,14 +55,47 @@ Answer ToAnswer(int button)
     }
 }
 
+// A box that is in front of everything that could cover it.
+QWidget* Owner()
+{
+    QWidget* modal = QApplication::activeModalWidget();
+    return modal != nullptr ? modal : QApplication::activeWindow();
+}
+
+// The wait pointer would say that the box cannot be answered.
+class PlainPointer
+{
+public:
+    PlainPointer()
+    {
+        if (const QCursor* shape = QApplication::overrideCursor()) {
+            m_lifted = *shape;
+            QApplication::restoreOverrideCursor();
+        }
+    }
+    ~PlainPointer()
+    {
+        if (m_lifted) {
+            QApplication::setOverrideCursor(*m_lifted);
+        }
+    }
+    PlainPointer(const PlainPointer&) = delete;
+    PlainPointer& operator=(const PlainPointer&) = delete;
+
+private:
+    std::optional<QCursor> m_lifted;
+};
+
 } // namespace
 
 Answer QtDesktop::MessageBox(const std::string& text, const std::string& title, Icon icon, Buttons buttons)
 {
-    QMessageBox box(ToQt(icon), QString::fromStdString(title), QString(), ToQt(buttons), QApplication::activeWindow());
+    const PlainPointer pointer;
+    QMessageBox box(ToQt(icon), QString::fromStdString(title), QString(), ToQt(buttons), Owner());
     box.setTextFormat(Qt::PlainText);
     box.setText(QString::fromStdString(text));
     if (buttons == Buttons::YesNo) {
+        box.setDefaultButton(QMessageBox::No); // whoever presses Enter without reading loses nothing
         box.setEscapeButton(QMessageBox::No);
     }
     return ToAnswer(box.exec());
@@ -82,7 +117,11 @@ void QtDesktop::SetPointer(Pointer pointer)
 
 std::int32_t QtDesktop::Shell(const DesktopWindow&, ShellVerb verb, const std::string& path)
 {
-    return RunSystemShell(verb, path);
+    const bool busy = m_busy;
+    SetPointer(Pointer::Busy);
+    const std::int32_t code = RunSystemShell(verb, path);
+    SetPointer(busy ? Pointer::Busy : Pointer::Default);
+    return code;
 }
 
 } // namespace ptk

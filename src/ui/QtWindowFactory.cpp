@@ -2,6 +2,10 @@
 
 #include "ui/dialogs/FLogin.h"
 #include "ui/FController.h"
+#include "ui/widgets/AiryStyle.h"
+#include "ui/widgets/ThemeIcon.h"
+
+#include <QApplication>
 
 namespace ptk {
 
@@ -14,6 +18,8 @@ constexpr auto kDeleteLater = [](QObject* window) { window->deleteLater(); };
 QtWindowFactory::QtWindowFactory(std::string programFolder, Desktop& desktop, const Clock& clock)
     : m_programFolder(std::move(programFolder)), m_desktop(desktop), m_clock(clock)
 {
+    QApplication::setWindowIcon(ThemeIcon("ptk-admin"));
+    QApplication::setStyle(new AiryStyle);
 }
 
 std::shared_ptr<LoginWindow> QtWindowFactory::CreateLoginWindow()

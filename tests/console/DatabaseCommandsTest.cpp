@@ -75,6 +75,15 @@ TEST_F(DatabaseCommandsTest, MakesNoFileWhenItFails)
     }
 }
 
+TEST_F(DatabaseCommandsTest, AListThatCannotBeReadNamesTheValue)
+{
+    ASSERT_EQ(Run({"create-database"}).status, 0);
+    CJetDB database(m_folder.Path());
+    ASSERT_TRUE(database.ExecuteAction("UPDATE Employee SET LastName = 'Lee', Active = NULL"));
+    EXPECT_EQ(Run({"report", "employees"}).err,
+              "ptk-console: 411: a stored query of the database could not be read: Employee 39: Active is NULL (Invalid use of Null)\n");
+}
+
 TEST_F(DatabaseCommandsTest, TheSampleIsAWholeBusinessUpToToday)
 {
     ASSERT_EQ(Run({"create-database", "--sample"}).status, 0);
@@ -120,10 +129,13 @@ TEST_F(DatabaseCommandsTest, CheckNamesWhatIsWrong)
     EXPECT_TRUE(answer.err.starts_with("ptk-console: the database has problems: ")) << answer.err;
 
     WriteBytes(Database().string(), std::string(4096, 'x'));
-    EXPECT_TRUE(Run({"check"}).err.starts_with("ptk-console: 26: "));
+    EXPECT_EQ(Run({"check"}).err, "ptk-console: 26: the file is not a database of this program: " + Database().string() + "\n");
     std::filesystem::remove(Database());
-    EXPECT_TRUE(Run({"check"}).err.starts_with("ptk-console: 14: "));
+    EXPECT_EQ(Run({"check"}).err, "ptk-console: 14: the database file is missing or cannot be opened: " + Database().string() + "\n");
     EXPECT_FALSE(std::filesystem::exists(Database()));
+    std::filesystem::create_directory(Database());
+    EXPECT_EQ(Run({"check"}).err, "ptk-console: 14: the database's path leads to a folder, a pipe or a device instead of a file: " +
+                                      Database().string() + "\n");
 }
 
 } // namespace

@@ -86,6 +86,8 @@ TEST_F(ReportCommandTest, TakesTheDatesGivenAndMovesTheEndWithTheStart)
     }
     EXPECT_EQ(Run({"report", "ytd", "--employee", "Ann Lee", "--from", "2/1/2026", "--to", "3/1/2026"}).err,
               Written({"101_0201_0301_2026_ytd_totals.txt"}));
+    EXPECT_EQ(Run({"report", "ytd", "--employee", "Ann Lee", "--from", "2/1/2026"}).err, Written({"101_0201_0320_2026_ytd_totals.txt"}))
+        << "ends today";
 }
 
 TEST_F(ReportCommandTest, KeepsTheOrderAndAnEmptyLineBetweenReports)
@@ -109,6 +111,27 @@ TEST_F(ReportCommandTest, AFailedReportIsToldAndTheOthersStillCome)
     EXPECT_EQ(unknown.status, 1);
     EXPECT_EQ(unknown.err, "ptk-console: 602: no employee has this name: Nobody\n");
     EXPECT_EQ(unknown.out, "");
+}
+
+TEST_F(ReportCommandTest, AnUnreadableRecordIsNamedAndWhomItLeavesOut)
+{
+    CJetDB database(m_folder.Path());
+    ASSERT_TRUE(
+        database.ExecuteAction("UPDATE TimeRecord SET EndTime = '2026-03-16 4 pm' WHERE EmployeeID = (SELECT EmployeeID FROM Employee "
+                               "WHERE LastName = 'Lee') AND StartTime > '2026-03-16' AND StartTime < '2026-03-17'"));
+    const std::vector<std::string> period{"--from", "3/15/2026", "--to", "3/28/2026", "--employee", "Ann Lee"};
+    const auto failed = [&](std::vector<std::string> words) {
+        words.insert(words.end(), period.begin(), period.end());
+        const Answer answer = Run(words);
+        EXPECT_EQ(answer.status, 1);
+        const std::size_t failure = answer.err.rfind("ptk-console: ");
+        return answer.err.substr(failure, answer.err.find(" TimeRecord ", failure) - failure);
+    };
+    EXPECT_EQ(failed({"time-card"}), "ptk-console: 605: the time records could not be read: Ann Lee:");
+    EXPECT_EQ(failed({"report", "timecard"}),
+              "ptk-console: 605: the time records could not be read: Employee Time Card : Ann Lee : 3/15/2026 - 3/27/2026:");
+    EXPECT_EQ(failed({"report", "review"}), "ptk-console: 710: a time card or another part of the report is missing from it: Accountant's "
+                                            "Review : 3/15/2026 - 3/28/2026: without Ann Lee:");
 }
 
 TEST_F(ReportCommandTest, AFileThatCannotBeWrittenWholeIsAFailure)

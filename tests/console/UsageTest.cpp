@@ -1,3 +1,4 @@
+#include "console/Console.h"
 #include "console/ConsoleDesktop.h"
 #include "console/ConsoleFixture.h"
 
@@ -69,6 +70,28 @@ TEST_F(UsageTest, OutputThatCannotBeWrittenIsAFailure)
     std::ostringstream err;
     EXPECT_EQ(RunConsole({"--version"}, m_clock, full, err), 1);
     EXPECT_EQ(err.str(), "ptk-console: the output could not be written\n");
+}
+
+TEST(TerminalTextTest, LetsNoControlCharacterThrough)
+{
+    struct Case
+    {
+        const char* text;
+        const char* shown;
+    };
+    for (const Case& c : {Case{"a\r\nb\tc\n", "a\nb\tc\n"}, Case{"\x1b[2Jx\x7f\ry\b", "?[2Jx??y?"},
+                          Case{"\xC2\x9B"
+                               "1m Jos\xC3\xA9 \xC2\xA0",
+                               "?1m Jos\xC3\xA9 \xC2\xA0"},
+                          Case{"\x9B"
+                               "1m \xE9l\xE9ment \xE2\x82",
+                               "?1m \xE9l\xE9ment \xE2?"},
+                          Case{"\xE2\x82\xAC \xF0\x9F\x98\x80 \xC3\x9B", "\xE2\x82\xAC \xF0\x9F\x98\x80 \xC3\x9B"}}) {
+        EXPECT_EQ(TerminalText(c.text), c.shown);
+    }
+    std::ostringstream err;
+    Complain(err, Failure(602, "PTK", "no employee: \x1b]0;x\x07\r\n"));
+    EXPECT_EQ(err.str(), "ptk-console: 602: no employee: ?]0;x?  \n");
 }
 
 TEST(ConsoleDesktopTest, WritesItsBoxesAsLinesAndConfirmsNothing)

@@ -66,16 +66,17 @@ private:
 };
 
 // Today is Wednesday, 5 March 2003, 8:05:09 AM unless the test sets the clock before Start.
-class GuiProgram
+template <typename ItsDesktop>
+class GuiProgramOn
 {
 public:
-    explicit GuiProgram(const std::function<void(BulkWriter&)>& fill = {})
+    explicit GuiProgramOn(const std::function<void(BulkWriter&)>& fill = {})
     {
         WriteBytes(configPath, "[PTK]\r\nDatabasePath=<app.path>\\system\\ptk_11.mdb\r\nShowLoginHelp=True\r\n");
         CreateDatabase(NativePath(databasePath).string(), fill);
     }
 
-    ~GuiProgram()
+    ~GuiProgramOn()
     {
         if (m_main.Controller() != nullptr) {
             m_main.Controller()->UnloadControllerWindow();
@@ -83,8 +84,8 @@ public:
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 
-    GuiProgram(const GuiProgram&) = delete;
-    GuiProgram& operator=(const GuiProgram&) = delete;
+    GuiProgramOn(const GuiProgramOn&) = delete;
+    GuiProgramOn& operator=(const GuiProgramOn&) = delete;
 
     void Start() { m_main.Start(); }
 
@@ -106,7 +107,7 @@ public:
     std::string configPath = folder.Path() + "\\system\\ptk_11.cfg";
     std::string databasePath = folder.Path() + "\\system\\ptk_11.mdb";
     std::string logPath = folder.Path() + "\\system\\errorlog.txt";
-    RecordingDesktop desktop;
+    ItsDesktop desktop;
     FixedClock clock;
     int ended = 0; // how often the end routine ran
 
@@ -114,5 +115,7 @@ private:
     QtWindowFactory m_windows{folder.Path(), desktop, clock};
     AdminMain m_main{folder.Path(), desktop, clock, m_windows, [this](int) { ++ended; }};
 };
+
+using GuiProgram = GuiProgramOn<RecordingDesktop>;
 
 } // namespace ptk

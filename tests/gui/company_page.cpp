@@ -1,6 +1,7 @@
 // The Company page: finding, adding and changing companies, and what it refuses.
 #include "gui/PageFixture.h"
 #include "model/CCompanyList.h"
+#include "ui/widgets/NoticeLine.h"
 
 namespace ptk {
 
@@ -32,6 +33,7 @@ class CompanyPageTest : public PageTest
 protected:
     CompanyPageTest() : PageTest(AddCompanies) { ClickTab(Main(), 4); }
 
+    QString Notice() { return Find<NoticeLine>(Find(Main(), "FrameArray(4)"), "notice").Text(); }
     QString Shown()
     {
         return The<QComboBox>("cboCompanyID").currentText() + "|" + The<QComboBox>("cboCompanyName").currentText() + "|" +
@@ -62,17 +64,31 @@ TEST_F(CompanyPageTest, SavesNewAndChangedCompanies)
     EXPECT_EQ(Shown(), "||||");
     EXPECT_TRUE(The<QComboBox>("cboCompanyName").hasFocus());
     EXPECT_EQ(Save(), Boxes{kNoName});
-    Type(*The<QComboBox>("cboCompanyName").lineEdit(), "O'Dell & Sons");
+    Type(*The<QComboBox>("cboCompanyName").lineEdit(), "Bir"); // and not the company that begins so
     Type(The<QLineEdit>("txtCompanyFax"), "555-9");
     EXPECT_EQ(Save(), Boxes());
+    EXPECT_EQ(Notice(), "Bir saved");
     EXPECT_EQ(Shown(), "||||");
     Pick(The<QComboBox>("cboCompanyName"), "Birch");
     Type(*The<QComboBox>("cboCompanyName").lineEdit(), "Acorn");
     Type(The<QLineEdit>("txtCompanyPhone"), "555-4");
     EXPECT_EQ(Save(), Boxes());
-    EXPECT_EQ(Stored(kCompanies),
-              (std::vector<std::string>{"1 Acorn 555-1 555-2 T1", "2 Acorn 555-4 555-2 T1", "3 O'Dell & Sons  555-9 "}));
+    EXPECT_EQ(Stored(kCompanies), (std::vector<std::string>{"1 Acorn 555-1 555-2 T1", "2 Acorn 555-4 555-2 T1", "3 Bir  555-9 "}));
     EXPECT_EQ(The<QComboBox>("cboCompanyID").count(), 3);
+}
+
+TEST_F(CompanyPageTest, WhatIsLeftBehindCanBeBroughtBack)
+{
+    Type(The<QLineEdit>("txtCompanyFax"), "555-9");
+    TypeInto(The<QComboBox>("cboCompanyName"), "IRCH");
+    Key(The<QComboBox>("cboCompanyName"), Qt::Key_Down);
+    EXPECT_EQ(The<QComboBox>("cboCompanyName").currentText(), "IRCH") << "walked over in the proposals, not chosen";
+    Key(The<QComboBox>("cboCompanyName"), Qt::Key_Return);
+    EXPECT_EQ(Shown(), "2|Birch|555-3|555-2|T1");
+    EXPECT_EQ(Notice(), "Changes to Acorn were not saved");
+    Click(Find(Main(), "FrameArray(4)"), "cmdNotice");
+    EXPECT_EQ(Shown(), "1|Acorn|555-1|555-9|T1");
+    EXPECT_EQ(StatusText(Main()), "Acorn : Phone: 555-1");
 }
 
 TEST_F(CompanyPageTest, ARefusedSaveKeepsThePageAndCanBeTriedAgain)

@@ -1,5 +1,5 @@
 // The time record editor: what it shows, what it writes into the record while the user types, and what it hands back.
-#include "gui/GuiFixture.h"
+#include "gui/RealBoxes.h"
 #include "model/CTimeRecord.h"
 #include "ui/dialogs/FTimeEditor.h"
 #include "ui/dialogs/TimeRecordReceiver.h"
@@ -114,6 +114,7 @@ TEST_F(TimeEditorTest, UnreadableTextsAreToldAndTheRecordGoesBackAllTheSame)
     const auto record = Show({{2003, 2, 3}, {8, 0, 0}}, {{2003, 2, 3}, {16, 0, 0}});
     Type(Box("dttbStartTime"), "9");
     Type(Box("dttbEndTime"), "late");
+    QCoreApplication::processEvents();
     EXPECT_EQ(desktop.Take(), std::vector{kWrongDate});
     EXPECT_EQ(Box("dttbEndTime").text(), "late");
     Click(editor, "cmdSave");
@@ -135,6 +136,48 @@ TEST_F(TimeEditorTest, WithoutARecordItMakesOne)
     ASSERT_EQ(receiver.returned.size(), 1U);
     EXPECT_EQ(receiver.returned[0]->EndTime(), DateTime({2003, 3, 1}, {17, 30, 0}));
     EXPECT_EQ(receiver.returned[0], editor.TimeRecord());
+}
+
+// With boxes that really open.
+TEST(WrongTimeTest, IsToldOnceAndAfterWhatLeftItWasDone)
+{
+    struct Case
+    {
+        const char* to; // empty: Enter in the box itself
+        int told;
+        bool closes;
+        std::size_t returned;
+    };
+    for (const Case& c : {Case{"dttbStartDate", 1, false, 0}, {"cmdCancel", 0, true, 0}, {"cmdSave", 1, true, 1}, {"", 1, true, 1}}) {
+        SCOPED_TRACE(c.to);
+        ShowingDesktop desktop;
+        const FixedClock clock;
+        Receiver receiver;
+        FTimeEditor editor(desktop, clock);
+        editor.ParentWindow(&receiver);
+        const auto record = std::make_shared<CTimeRecord>();
+        record->StartTime(DateTime({2003, 2, 3}, {8, 0, 0}));
+        editor.TimeRecord(record);
+        editor.show();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&editor));
+        auto& box = Find<DateTimeBox>(editor, "dttbEndTime");
+        QTest::mouseClick(&box, Qt::LeftButton);
+        QTest::keyClicks(&box, "late");
+        const KeyPresses keys(std::deque<KeyPress>(static_cast<std::size_t>(c.told), {"QMessageBox", Qt::Key_Return}));
+        if (*c.to == 0) {
+            QTest::keyClick(&box, Qt::Key_Return);
+        } else {
+            auto& target = Find(editor, c.to);
+            QTest::mousePress(&target, Qt::LeftButton);
+            QCoreApplication::processEvents();
+            EXPECT_TRUE(desktop.boxes.empty()) << "the button is still down";
+            QTest::mouseRelease(&target, Qt::LeftButton);
+        }
+        QCoreApplication::processEvents();
+        EXPECT_EQ(desktop.Take(), std::vector<ShownBox>(static_cast<std::size_t>(c.told), kWrongDate));
+        EXPECT_EQ(editor.isVisible(), !c.closes);
+        EXPECT_EQ(receiver.returned.size(), c.returned);
+    }
 }
 
 } // namespace

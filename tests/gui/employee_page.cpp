@@ -2,6 +2,8 @@
 #include "gui/PageFixture.h"
 #include "model/CEmployeeList.h"
 #include "ui/widgets/DateCombo.h"
+#include "ui/widgets/EmployeeModels.h"
+#include "ui/widgets/NoticeLine.h"
 
 namespace ptk {
 
@@ -72,6 +74,7 @@ protected:
         }
         return keys.join("|");
     }
+    QString Notice() { return Find<NoticeLine>(Find(Main(), "FrameArray(3)"), "notice").Text(); }
     QString Pay() { return Text("txtPayRate") + " " + Text("txtOvertimePayRate"); }
     void EnterKeys(const char* number, const char* name, const char* ssn)
     {
@@ -116,41 +119,102 @@ TEST_F(EmployeePageTest, EveryListFindsTheEmployee)
         EXPECT_EQ(StatusText(Main()), c.status);
         EXPECT_EQ(Main().EventSource(), eventsource::None);
     }
+    Pick(Box("cboEmployeeName"), "Ann Lee");
+    Key(Box("cboEmployeeName"), Qt::Key_Down);
+    EXPECT_EQ(Keys(), "41|Ann Lee|222-22|6") << "the list stays on the namesake it was turned to";
 }
 
-TEST_F(EmployeePageTest, ShowsARecordAndHidesTheRatesOfOneNotActive)
+TEST_F(EmployeePageTest, ShowsTheDeductionOfOneWhoHasIt)
 {
     Pick(Box("cboEmployeeID"), "40");
     EXPECT_EQ(Pay(), "12.50 18.75");
     EXPECT_EQ(The<DateCombo>("cboHireDate").Text(), "02/03/2001");
-    EXPECT_EQ(The<DateCombo>("cboReleaseDate").Text(), "");
     EXPECT_TRUE(The<QLineEdit>("txtLunchLength").isEnabled());
     Pick(Box("cboEmployeeID"), "42");
     EXPECT_EQ(Pay(), "0.00 0.00");
-    EXPECT_FALSE(The<QCheckBox>("chkEmployeeActive").isChecked());
     EXPECT_FALSE(The<QLineEdit>("txtLunchLength").isEnabled());
     EXPECT_EQ(Text("txtLunchLength"), "30");
     The<QCheckBox>("chkAutoDeduct").click();
     EXPECT_TRUE(The<QLineEdit>("txtBreakLength").isEnabled());
 }
 
+TEST_F(EmployeePageTest, MasksThePasswordOfEachEmployeeAnew)
+{
+    const auto& password = The<QLineEdit>("txtPassword");
+    EXPECT_EQ(password.displayText().count("wharf271"), 0);
+    Press("cmdShowPassword");
+    EXPECT_EQ(password.displayText(), "wharf271");
+    Pick(Box("cboEmployeeID"), "40");
+    EXPECT_EQ(password.echoMode(), QLineEdit::Password);
+}
+
 TEST_F(EmployeePageTest, SavesANewEmployeeAndOffersItEverywhere)
 {
+    Pick(Box("cboEmployeeID"), "42");
     Press("cmdEmployeeNew");
     EXPECT_EQ(Keys(), "|||");
+    EXPECT_TRUE(The<QCheckBox>("chkEmployeeActive").isChecked()) << "although the one shown before is not active";
     EXPECT_EQ(Pay() + " " + Text("txtLunchLength") + " " + Text("txtBreakLength"), "0.00 0.00 0 0");
     EXPECT_TRUE(Box("cboEmployeeNumber").hasFocus());
-    EnterKeys("8", "Mary Ann Orr", "444-44");
+    EnterKeys("5", "Mary Ann Orr", "444-44");
+    EXPECT_EQ(Notice(), "The employee number is Ann Lee's too");
     Type(The<QLineEdit>("txtPayRate"), "9.5");
     Type(*The<DateCombo>("cboHireDate").lineEdit(), "3/1");
-    The<QCheckBox>("chkEmployeeActive").setChecked(true);
     EXPECT_EQ(Save(), Boxes());
+    EXPECT_EQ(Notice(), "Mary Ann Orr saved. The employee number is Ann Lee's too");
     EXPECT_EQ(Stored("SELECT FirstName || '/' || LastName || ' ' || HireDate || ' ' || PayRate AS x FROM Employee WHERE EmployeeID = 43"),
               std::vector<std::string>{"Mary/Ann Orr 2003-03-01 00:00:00 9.5"});
     EXPECT_EQ(Keys(), "|||");
     EXPECT_GE(Box("cboTCEmployeeName").findText("Mary Ann Orr"), 0);
     EXPECT_GE(Box("cboEmployeeID").findText("43"), 0);
     EXPECT_EQ(Box("cboTCEmployeeName").findText("Bo Kim"), -1);
+}
+
+TEST_F(EmployeePageTest, ASaveLeavesTheOtherPagesOnTheirEmployees)
+{
+    Box("cboTCEmployeeName").setCurrentIndex(1); // the second Ann Lee
+    The<QListView>("lstEmployees").selectAll();
+    std::vector<std::int32_t> saved;
+    QObject::connect(&Main().EmployeeModels(), &EmployeeModels::Saved, [&](std::int32_t id) { saved.push_back(id); });
+    Pick(Box("cboEmployeeID"), "41");
+    EnterKeys("6", "Ann Fox", "222-22");
+    EXPECT_EQ(Save(), Boxes());
+    EXPECT_EQ(saved, std::vector<std::int32_t>{41});
+    EXPECT_EQ(Box("cboTCEmployeeName").currentText(), "Ann Fox");
+    EXPECT_EQ(The<QListView>("lstEmployees").selectionModel()->selectedRows().size(), 2);
+}
+
+TEST_F(EmployeePageTest, WhatIsLeftBehindCanBeBroughtBack)
+{
+    struct Way
+    {
+        std::function<void()> leave;
+        const char* after;
+    };
+    for (const Way& way : {Way{[this] { Pick(Box("cboEmployeeName"), "Bo Kim"); }, "42|Bo Kim|333-33|7"},
+                           {[this] { Press("cmdEmployeeNew"); }, "|||"},
+                           {[this] {
+                                Press("cmdEmployeeCancel");
+                                EXPECT_TRUE(Box("cboEmployeeName").hasFocus());
+                                EXPECT_FALSE(The<QCheckBox>("chkAutoDeduct").isChecked());
+                            },
+                            "|||"}}) {
+        Pick(Box("cboEmployeeID"), "40");
+        way.leave();
+        EXPECT_EQ(Notice(), "") << "nothing was typed";
+        Pick(Box("cboEmployeeID"), "40");
+        Type(The<QLineEdit>("txtEmployeeCity"), "Harbor");
+        Type(*The<DateCombo>("cboReleaseDate").lineEdit(), "3/1");
+        way.leave();
+        EXPECT_EQ(Keys(), way.after);
+        EXPECT_EQ(Text("txtEmployeeCity") + The<DateCombo>("cboReleaseDate").Text(), "");
+        EXPECT_EQ(Notice(), "Changes to Ann Lee were not saved");
+        Click(Find(Main(), "FrameArray(3)"), "cmdNotice");
+        EXPECT_EQ(Keys(), "40|Ann Lee|111-11|5");
+        EXPECT_EQ(Text("txtEmployeeCity") + The<DateCombo>("cboReleaseDate").Text(), "Harbor03/01/2003");
+        Type(The<QLineEdit>("txtEmployeeCity"), "");
+        The<DateCombo>("cboReleaseDate").SetText("");
+    }
 }
 
 TEST_F(EmployeePageTest, SavesWhatWasChangedAndNothingElse)
@@ -160,42 +224,26 @@ TEST_F(EmployeePageTest, SavesWhatWasChangedAndNothingElse)
     EXPECT_EQ(Stored(kAnn), std::vector<std::string>{kAnnAtFirst});
     Pick(Box("cboEmployeeID"), "40");
     Type(The<QLineEdit>("txtEmployeeAddr1"), "2 Quay");
-    Type(*The<DateCombo>("cboHireDate").lineEdit(), "");
-    Type(The<QLineEdit>("txtLunchLength"), "-5");
-    Type(The<QLineEdit>("txtBreakLength"), "");
     EXPECT_EQ(Save(), Boxes());
-    EXPECT_EQ(Stored(kAnn), std::vector<std::string>{"5 111-11 2 Quay 12.5 18.75 1899-12-30 00:00:00 1899-12-30 00:00:00 1 1 0 0"});
+    EXPECT_EQ(Stored(kAnn), std::vector<std::string>{"5 111-11 2 Quay 12.5 18.75 2001-02-03 00:00:00 1899-12-30 00:00:00 1 1 30 15"});
     EXPECT_EQ(Stored(kNames), (std::vector<std::string>{"40 Ann/Lee", "41 Ann/Lee", "42 Bo/Kim"}));
 }
 
-TEST_F(EmployeePageTest, RefusesInOrderAndKeepsWhatWasTyped)
+TEST_F(EmployeePageTest, TellsWhatItRefusesAndKeepsWhatWasTyped)
 {
-    struct Case
-    {
-        const char* name;
-        std::function<void()> spoil;
-        ShownBox told;
+    Pick(Box("cboEmployeeID"), "40");
+    The<QLineEdit>("txtEmployeeCity").setText("Harbor\u0001City"); // as pasted
+    const auto refused = [this](QLineEdit* box, const char* text, const ShownBox& told) {
+        Type(*box, text);
+        EXPECT_EQ(Save(), Boxes{told});
+        EXPECT_EQ(box->text(), text);
+        EXPECT_EQ(Text("txtEmployeeCity"), "Harbor\u0001City");
     };
-    const auto type = [this](const char* box, const char* text) { return [this, box, text] { Type(The<QLineEdit>(box), text); }; };
-    const auto over = [this](const char* box, const char* text) { return [this, box, text] { TypeInto(Box(box), text); }; };
-    for (const Case& c : {Case{"minutes beyond 16 bits", type("txtLunchLength", "32768"), kNotRead},
-                          {"no minutes", type("txtLunchLength", "half"), kNotRead},
-                          {"no date", over("cboReleaseDate", "soon"), kNotRead},
-                          {"a number beyond 32 bits", over("cboEmployeeNumber", "2147483648"), kNotRead},
-                          {"no rate", type("txtOvertimePayRate", "abc"), kWrongType},
-                          {"a negative rate", type("txtPayRate", "-1"), kWrongType},
-                          {"no number", over("cboEmployeeNumber", "5a"), kWrongType},
-                          {"without SSN", over("cboEmployeeSSN", ""), kNoSSN},
-                          {"without name", over("cboEmployeeName", ""), kNoName},
-                          {"without number", over("cboEmployeeNumber", ""), kNoNumber}}) {
-        if (c.told == kNotRead) {
-            Pick(Box("cboEmployeeID"), "40");
-        }
-        c.spoil();
-        The<QLineEdit>("txtEmployeeCity").setText("Harbor\u0001City"); // as pasted
-        EXPECT_EQ(Save(), Boxes{c.told}) << c.name;
-        EXPECT_EQ(Text("txtEmployeeCity"), "Harbor\u0001City") << c.name;
-    }
+    refused(&The<QLineEdit>("txtLunchLength"), "32768", kNotRead);
+    refused(&The<QLineEdit>("txtPayRate"), "abc", kWrongType);
+    refused(Box("cboEmployeeSSN").lineEdit(), "", kNoSSN);
+    refused(Box("cboEmployeeName").lineEdit(), "", kNoName);
+    refused(Box("cboEmployeeNumber").lineEdit(), "", kNoNumber);
     EXPECT_EQ(Stored(kAnn), std::vector<std::string>{kAnnAtFirst});
     EXPECT_EQ(program.Controller()->EmployeeList()->Count(), 4);
     EXPECT_EQ(program.Controller()->EmployeeList()->GetEmployeeByID(40)->City(), "");
@@ -253,16 +301,6 @@ TEST_F(EmployeePageTest, OnlyAChoiceLoadsAnotherEmployee)
     Key(Box("cboEmployeeName"), Qt::Key_Return);
     EXPECT_EQ(Keys(), "42|Bo Kim|333-33|7") << "found by Enter, in any letter case";
     EXPECT_EQ(Stored("SELECT PayRate AS x FROM Employee WHERE EmployeeID = 42"), std::vector<std::string>{"12.5"}) << "found, not saved";
-}
-
-TEST_F(EmployeePageTest, CancelClearsThePage)
-{
-    Pick(Box("cboEmployeeID"), "40");
-    Press("cmdEmployeeCancel");
-    EXPECT_EQ(Keys(), "|||");
-    EXPECT_EQ(The<DateCombo>("cboHireDate").Text(), "");
-    EXPECT_FALSE(The<QCheckBox>("chkAutoDeduct").isChecked());
-    EXPECT_TRUE(Box("cboEmployeeName").hasFocus());
 }
 
 } // namespace

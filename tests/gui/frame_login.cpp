@@ -146,10 +146,13 @@ TEST_F(LoginTest, HidesThePasswordBehindAsterisksAndLogsInWithEnter)
 {
     Start([](QDialog& login) {
         auto& password = Find<QLineEdit>(login, "txtPassword");
-        Find<QLineEdit>(login, "txtName").setText("administrator");
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&login));
+        QTest::keyClicks(&Find<QLineEdit>(login, "txtName"), "administrator");
+        QTest::keyClick(login.windowHandle(), Qt::Key_Return);
+        EXPECT_TRUE(password.hasFocus()) << "the name alone asks for the password";
         QTest::keyClicks(&password, "wharf271");
         EXPECT_EQ(password.displayText(), "********");
-        QTest::keyClick(&password, Qt::Key_Return);
+        QTest::keyClick(login.windowHandle(), Qt::Key_Return);
     });
     EXPECT_TRUE(program.Main().isVisible());
 }

@@ -3,6 +3,9 @@
 #include "store/CJetDB.h"
 #include "store/CSystemOptions.h"
 #include "ui/widgets/DateTimeBox.h"
+#include "ui/widgets/NoticeLine.h"
+
+#include <gmock/gmock.h>
 
 namespace ptk {
 
@@ -17,17 +20,12 @@ const ShownBox kNoGuide{"File: ...\\documentation\\PTKAdminUserGuide.doc\r\n"
                         "The path to the User's Guide is invalid or not able to be opened by Windows.",
                         "User's Guide Open Error", Icon::Exclamation, Buttons::Ok};
 
-const DateTime kMidnight;
-const DateTime kEight({}, {8, 0, 0});
-const DateTime kFive({}, {17, 0, 0});
-
 class MainWindowTest : public testing::Test
 {
 protected:
     void SetUp() override { program.LogIn(); }
 
     FController& Main() { return program.Main(); }
-    CSystemOptions& Options() { return *program.Controller()->SystemOptions(); }
     DateTimeBox& StartTime() { return Find<DateTimeBox>(Main(), "dttbAutoShiftStartTime"); }
     DateTimeBox& EndTime() { return Find<DateTimeBox>(Main(), "dttbAutoShiftEndTime"); }
     QLineEdit& Length() { return Find<QLineEdit>(Main(), "txtPeriodLength"); }
@@ -83,6 +81,19 @@ TEST_F(MainWindowTest, TheFirstClickOnTheFirstTabNamesIt)
     EXPECT_EQ(StatusText(Main()), "Timecards");
 }
 
+TEST_F(MainWindowTest, OtherButtonsAndKeysTurnPagesAsTheyShould)
+{
+    auto& strip = Find<QTabBar>(Main(), "TabStrip");
+    for (const auto button : {Qt::RightButton, Qt::MiddleButton}) {
+        QTest::mouseClick(&strip, button, {}, strip.tabRect(3).center());
+        EXPECT_TRUE(IsShown(1)) << "only a left click turns the page";
+    }
+    QTest::keyClick(Main().windowHandle(), Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_TRUE(IsShown(5));
+    QTest::keyClick(Main().windowHandle(), Qt::Key_Tab, Qt::ControlModifier);
+    EXPECT_TRUE(IsShown(1));
+}
+
 TEST_F(MainWindowTest, WithoutAControllerItComesUpEmpty)
 {
     FController bare(program.folder.Path(), program.desktop, program.clock);
@@ -110,8 +121,12 @@ TEST_F(MainWindowTest, OpensTheGuideAndTellsOnlyWhenItIsMissing)
     EXPECT_EQ(program.desktop.Take(), Boxes());
     guide.trigger();
     EXPECT_EQ(program.desktop.Take(), Boxes{kNoGuide});
+    auto& line = *Find(Main(), "FrameArray(1)").findChild<QLabel*>("lblNotice");
+    EXPECT_EQ(line.text(), "");
     guide.trigger();
     EXPECT_EQ(program.desktop.Take(), Boxes());
+    EXPECT_EQ(line.text(), "The user's guide could not be opened: no program for it took it.");
+    EXPECT_THAT(ReadBytes(program.logPath), testing::HasSubstr(line.text().toStdString()));
     const ShellRequest request{ShellVerb::Open, program.folder.Path() + "/documentation/PTKAdminUserGuide.doc"};
     EXPECT_EQ(program.desktop.requests, (std::vector<ShellRequest>(3, request)));
 }
@@ -126,8 +141,10 @@ TEST_F(MainWindowTest, AppliesOptionsThatTheNextStartFinds)
     Type(StartTime(), "715");
     Type(EndTime(), "4.45p");
     EXPECT_EQ(EndTime().text(), "04:45:00 PM");
+    EXPECT_EQ(Find<QLabel>(Main(), "lblPeriodExample").text(), "A period has 8 days, for example 03/05/2003 - 03/12/2003");
     Click(Main(), "cmdApplyOptions");
     EXPECT_EQ(program.desktop.Take(), Boxes());
+    EXPECT_EQ(Find<NoticeLine>(Find(Main(), "FrameArray(5)"), "notice").Text(), "Options applied");
 
     CSystemOptions stored;
     ASSERT_TRUE(program.Controller()->PTKDatabase()->OpenDB());
@@ -138,45 +155,20 @@ TEST_F(MainWindowTest, AppliesOptionsThatTheNextStartFinds)
     EXPECT_EQ(stored.AutoShiftEndTime(), DateTime({}, {16, 45, 0}));
 }
 
-TEST_F(MainWindowTest, StopsAtTheFirstOptionThatIsNone)
+TEST_F(MainWindowTest, TellsOfAnOptionThatIsNoneAndRestoresWhatIsInMemory)
 {
-    struct Case
-    {
-        const char* length;
-        const char* start;
-        const char* end;
-        std::int16_t inMemory;
-        DateTime startInMemory;
-        DateTime endInMemory;
-        bool applied;
-    };
     ClickTab(Main(), 5);
-    for (const Case& c : {Case{"abc", "9:00", "18:00", 0, kEight, kFive, false},
-                          {"", "9:00", "18:00", 0, kEight, kFive, false},
-                          {"-", "9:00", "18:00", 0, kEight, kFive, false},
-                          {"99999", "9:00", "18:00", 14, kEight, kFive, false}, // beyond 16 bits
-                          {"7", "", "18:00", 7, kMidnight, kFive, false},
-                          {"7", "soon", "18:00", 7, kMidnight, kFive, false},
-                          {"7", "8:00", "25:00", 7, kEight, kMidnight, false},
-                          {"-5", "8:00", "17:00", 0, kEight, kFive, true},
-                          {"0", "1/1/1800", "17:00", 0, kMidnight, kFive, true}}) {
-        SCOPED_TRACE(std::string(c.length) + ", " + c.start + ", " + c.end);
-        Options().PeriodLength(14);
-        Options().AutoShiftStartTime(kEight);
-        Options().AutoShiftEndTime(kFive);
-        Type(Length(), c.length);
-        Type(StartTime(), c.start);
-        Type(EndTime(), c.end);
-        Click(Main(), "cmdApplyOptions");
-        EXPECT_EQ(program.desktop.Take(), c.applied ? Boxes() : Boxes{kNotApplied});
-        EXPECT_EQ(Options().PeriodLength(), c.inMemory);
-        EXPECT_EQ(Options().AutoShiftStartTime(), c.startInMemory);
-        EXPECT_EQ(Options().AutoShiftEndTime(), c.endInMemory);
-        EXPECT_EQ(Length().text(), c.length);
-    }
-    Options().PeriodLength(14);
+    Type(Length(), "99999"); // beyond 16 bits
+    Click(Main(), "cmdApplyOptions");
+    EXPECT_EQ(program.desktop.Take(), Boxes{kNotApplied});
+    EXPECT_EQ(Length().text(), "99999");
+    Type(Length(), "7");
+    Type(StartTime(), "soon");
+    Click(Main(), "cmdApplyOptions");
+    EXPECT_EQ(program.desktop.Take(), Boxes{kNotApplied});
+    EXPECT_EQ(StartTime().text(), "soon");
     Click(Main(), "cmdCancelOptions");
-    EXPECT_EQ(Length().text(), "14");
+    EXPECT_EQ(Length().text(), "7");
     EXPECT_EQ(StartTime().text(), "12:00:00 AM");
 }
 
@@ -223,7 +215,49 @@ TEST_F(MainWindowTest, ClosedInTheMiddleOfADialogItClosesTheDialogFirst)
         });
         Find<QAction>(main, "mnuHelpAbout").trigger();
     }
-    QTRY_VERIFY(program.ended == 1);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return program.ended == 1; }));
+}
+
+TEST_F(MainWindowTest, TheWindowMenuHoldsTheOpenReports)
+{
+    ClickTab(Main(), 2);
+    Find<QComboBox>(Main(), "cboReports").setCurrentText("Phone Book");
+    Click(Main(), "cmdGenerate");
+    Find<QComboBox>(Main(), "cboReports").setCurrentText("Employee Records");
+    Click(Main(), "cmdGenerate");
+    auto& menu = Find<QMenu>(Main(), "mnuWindow");
+    const auto lines = [&menu] {
+        emit menu.aboutToShow();
+        QStringList texts;
+        for (const QAction* action : menu.actions()) {
+            texts << action->text();
+        }
+        return texts;
+    };
+    EXPECT_EQ(lines(), QStringList({"&Print All", "&Close All", "", "&1 Employee Phone Book", "&2 Employee Records"}));
+    auto& line = *Find(Main(), "FrameArray(2)").findChild<QLabel*>("lblNotice");
+    program.desktop.shellCodes = {ShellSuccess + 1, ShellNoProgram};
+    Find<QAction>(Main(), "mnuWindowPrintAll").trigger();
+    EXPECT_EQ(line.text(), "1 of 2 reports printed, the next one was refused");
+    EXPECT_EQ(lines().mid(3), QStringList("&1 Employee Records"));
+    Find<QAction>(Main(), "mnuWindowCloseAll").trigger();
+    EXPECT_EQ(lines().mid(3), QStringList("No report is open"));
+}
+
+TEST_F(MainWindowTest, ActionsStayInSightAtTheSmallestSize)
+{
+    Main().resize(1, 1);
+    for (int tab = 1; tab <= 5; ++tab) {
+        ClickTab(Main(), tab);
+        QCoreApplication::processEvents();
+        const auto actions =
+            Find(Main(), QString("FrameArray(%1)").arg(tab)).findChildren<QPushButton*>(QString(), Qt::FindDirectChildrenOnly);
+        EXPECT_GE(actions.size(), tab == 2 ? 1 : 2) << tab;
+        for (const QPushButton* action : actions) {
+            EXPECT_EQ(action->visibleRegion().boundingRect(), action->rect()) << action->objectName().toStdString();
+            EXPECT_GE(action->width(), action->sizeHint().width()) << action->objectName().toStdString();
+        }
+    }
 }
 
 TEST_F(MainWindowTest, RemembersItsSize)

@@ -35,11 +35,12 @@ public:
         return true;
     }
     void ErrorNumber(std::int32_t) override {}
-    void Log(const std::string&) override {}
+    void Log(const std::string& line) override { logged.push_back(line); }
     std::int32_t EventSource() const override { return eventsource::None; }
     void EventSource(std::int32_t) override {}
     std::shared_ptr<CTimeCard> TimeCard() const override { return nullptr; }
     void TimeCard(std::shared_ptr<CTimeCard>) override {}
+    PeriodTexts TimeCardPeriod() const override { return {"02/18/2003", "03/04/2003"}; }
     ptk::EmployeeModels& EmployeeModels() const override { return m_models; }
     bool FillEmployeeLists() override
     {
@@ -49,6 +50,7 @@ public:
     OpenReports& Reports() const override { return m_reports; }
 
     std::string status;
+    std::vector<std::string> logged;
 
 private:
     std::shared_ptr<CController> m_controller;
@@ -111,6 +113,7 @@ protected:
     void SelectEveryone() { QTest::mouseClick(&Find<QPushButton>("cmdSelectAll"), Qt::LeftButton); }
     int Selected() { return static_cast<int>(Find<QListView>("lstEmployees").selectionModel()->selectedRows().size()); }
     void Generate() { QTest::mouseClick(&Find<QPushButton>("cmdGenerate"), Qt::LeftButton); }
+    QString Line() { return Find<QLabel>("lblNotice").text(); }
     QString Dates() { return Find<DateCombo>("cboFromDate").Text() + " - " + Find<DateCombo>("cboToDate").Text(); }
 
     // The texts of the open viewers whose title starts so.
@@ -174,6 +177,52 @@ TEST_F(ReportsPageTest, TheLastDayFollowsTheFirst)
     QTest::keyClicks(to.lineEdit(), "02/28/2003");
     EXPECT_EQ(Dates(), "02/20/2003 - 02/28/2003");
     EXPECT_EQ(host->status, "Reports : Timecard : 02/20/2003 - 02/28/2003");
+}
+
+TEST_F(ReportsPageTest, StepsByWholePeriodsAndTakesTheTimecardsDates)
+{
+    Choose("Timecard");
+    Find<QPushButton>("cmdReportPeriodNext").click();
+    EXPECT_EQ(Dates(), "03/16/2003 - 03/30/2003");
+    EXPECT_EQ(host->status, "Reports : Timecard : 03/16/2003 - 03/30/2003");
+    Find<QPushButton>("cmdReportPeriodBack").click();
+    Find<QPushButton>("cmdReportPeriodBack").click();
+    EXPECT_EQ(Dates(), "02/14/2003 - 02/28/2003");
+    Find<QPushButton>("cmdSamePeriod").click();
+    EXPECT_EQ(host->status, "Reports : Timecard : 02/18/2003 - 03/04/2003");
+    Find<DateCombo>("cboFromDate").SetText("soon");
+    Find<QPushButton>("cmdReportPeriodNext").click();
+    EXPECT_EQ(Line(), "Cannot move to the selected time period.");
+    Choose("Year-To-Date Totals");
+    EXPECT_FALSE(Find<QPushButton>("cmdReportPeriodBack").isEnabled());
+    EXPECT_FALSE(Find<QPushButton>("cmdSamePeriod").isEnabled());
+}
+
+TEST_F(ReportsPageTest, TheWheelPassesOverTheReportList)
+{
+    Choose("Timecard");
+    auto& reports = Find<QComboBox>("cboReports");
+    QWheelEvent wheel({5, 5}, reports.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&reports, &wheel);
+    EXPECT_EQ(reports.currentText(), "Timecard");
+}
+
+TEST_F(ReportsPageTest, SaysWhomItWasFor)
+{
+    Choose("Timecard");
+    EXPECT_EQ(Find<QLabel>("lblSelected").text(), "0 of 3 selected");
+    Generate();
+    EXPECT_EQ(Line(), "Nobody is selected");
+    SelectLine(1);
+    SelectLine(2);
+    EXPECT_EQ(Find<QLabel>("lblSelected").text(), "2 of 3 selected");
+    Generate();
+    EXPECT_EQ(Line(), "2 reports written");
+    Choose("Employee Records");
+    Find<QPushButton>("cmdSelectNone").click();
+    Generate();
+    EXPECT_EQ(Line(), "Nobody is selected: the report written is empty");
+    EXPECT_TRUE(desktop.boxes.empty());
 }
 
 TEST_F(ReportsPageTest, NeedsAReport)
@@ -269,7 +318,9 @@ TEST_F(ReportsPageTest, WithoutTheFolderNoViewerOpens)
                                                 "Accountant's Review : 3/1/2003 - 3/15/2003"});
     Choose("Phone Book");
     Generate();
-    EXPECT_EQ(desktop.boxes.size(), 1U) << "the lists fail without a message";
+    EXPECT_EQ(desktop.boxes.size(), 1U) << "the lists fail without a box";
+    EXPECT_EQ(Line(), "The report was not written: error 503");
+    EXPECT_EQ(host->logged.back(), "Employee Phone Book: The report was not written: error 503");
     EXPECT_TRUE(Shown("Accountant's").empty() && Shown("Employee Phone Book").empty());
 }
 

@@ -64,7 +64,8 @@ protected:
         QTest::mouseClick(viewer.findChild<QPushButton*>(button), Qt::LeftButton);
     }
 
-    QtViewerFactory windows;
+    QtViewerFactory windows{[this](const std::string& line) { logged.push_back(line); }};
+    std::vector<std::string> logged;
     std::shared_ptr<CReportEmployee> report;
 };
 
@@ -114,6 +115,8 @@ TEST_F(ReportViewersTest, PrintingHidesTheViewerOnlyWhenItSucceeds)
     Click(viewer, "cmdPrint");
     EXPECT_TRUE(viewer.isVisible());
     EXPECT_TRUE(desktop.boxes.empty());
+    EXPECT_TRUE(viewer.findChild<QLabel*>("lblNotice")->text().startsWith("Not printed."));
+    EXPECT_EQ(logged, std::vector<std::string>{"Not printed: Employee Records"});
     Click(viewer, "cmdPrint");
     EXPECT_TRUE(viewer.isVisible());
     ASSERT_EQ(desktop.boxes.size(), 1U);

@@ -7,6 +7,7 @@
 #include "model/CTimeRecordList.h"
 #include "store/CJetDB.h"
 #include "store/DatabaseCreator.h"
+#include "store/engine/RecordSet.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -211,6 +212,7 @@ TEST_F(TimeCardTest, SaysWhyThereIsNone)
     ASSERT_TRUE(holder.OpenDB());
     EXPECT_FALSE(card.GenerateTimecard(employee, At(3, 0), At(4, 0)));
     EXPECT_EQ(card.ErrorNumber(), 605) << "a file that cannot be opened yields an empty list";
+    EXPECT_EQ(card.LastFailure().Description(), "the database is in use by another program");
 }
 
 TEST_F(TimeCardTest, SharesOneListBetweenAllCards)
@@ -313,6 +315,54 @@ TEST_F(TimeCardTest, SavesWhatChangedAndDeletesWhatIsMarked)
     EXPECT_TRUE(card.Save()) << "a refused statement shows in the factory's number alone";
     EXPECT_EQ(factory->ErrorNumber(), 803);
     EXPECT_EQ(factory->CloneTimeRecordList(), nullptr);
+}
+
+TEST_F(TimeCardTest, AFillIsStoredWholeOrNotAtAll)
+{
+    Add(7, At(1, 8), At(1, 12));
+    ASSERT_TRUE(card.GenerateTimecard(Employee(7, false, 0, 0), At(1, 0), At(9, 0)));
+    for (int day = 3; day < 6; ++day) {
+        const auto record = std::make_shared<CTimeRecord>();
+        record->EmployeeID(7);
+        record->StartTime(At(day, 8));
+        record->EndTime(At(day, 12));
+        ASSERT_TRUE(card.TimeRecordList()->AddNew(record));
+    }
+    card.TimeRecordList()->Item(1)->ObjectState(state::Deleted);
+    const auto stored = [&] {
+        database->OpenDB();
+        const auto rows = database->ExecuteSelect("SELECT * FROM TimeRecord;");
+        database->CloseDB();
+        return rows->RecordCount();
+    };
+    ASSERT_TRUE(database->ExecuteAction("CREATE TRIGGER rule BEFORE INSERT ON TimeRecord WHEN NEW.StartTime > '2003-03-05' BEGIN SELECT "
+                                        "RAISE(ABORT, 'locked month'); END"));
+    EXPECT_TRUE(card.Save());
+    EXPECT_EQ(factory->ErrorNumber(), 803);
+    EXPECT_EQ(card.LastFailure().Description(), "locked month");
+    EXPECT_EQ(stored(), 1);
+    ASSERT_TRUE(database->ExecuteAction("DROP TRIGGER rule"));
+    EXPECT_TRUE(card.Save());
+    EXPECT_EQ(factory->ErrorNumber(), 0);
+    EXPECT_EQ(card.LastFailure().Number(), 0);
+    EXPECT_EQ(stored(), 3);
+}
+
+TEST_F(TimeCardTest, TellsWhyThereIsNoneFromAnEmptyPeriod)
+{
+    Add(7, At(3, 8), At(3, 12));
+    const auto employee = Employee(7, false, 0, 0);
+    EXPECT_FALSE(card.GenerateTimecard(employee, At(10, 0), At(11, 0)));
+    EXPECT_EQ(card.LastFailure().Number(), 0) << "an empty period is no failure";
+    ASSERT_TRUE(database->ExecuteAction("UPDATE TimeRecord SET StartTime = '2003-03-03 8 am' WHERE TimeRecordID = 1"));
+    EXPECT_FALSE(card.GenerateTimecard(employee, At(3, 0), At(4, 0)));
+    EXPECT_EQ(card.ErrorNumber(), 605);
+    EXPECT_EQ(card.LastFailure().Description(), "TimeRecord 1: StartTime is \"2003-03-03 8 am\" (Type mismatch)");
+    ASSERT_TRUE(database->ExecuteAction("DROP TABLE TimeRecord"));
+    EXPECT_FALSE(card.GenerateTimecard(employee, At(3, 0), At(4, 0)));
+    EXPECT_EQ(card.LastFailure().Description(), "no such table: TimeRecord");
+    EXPECT_FALSE(card.GenerateTimecard(nullptr, At(3, 0), At(4, 0)));
+    EXPECT_EQ(card.LastFailure().Number(), 0);
 }
 
 TEST_F(TimeCardTest, AListOfCardsKeepsThemAndStoresNone)

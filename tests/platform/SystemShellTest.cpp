@@ -73,14 +73,18 @@ TEST_F(SystemShellTest, TellsWhatIsMissing)
 {
     EXPECT_EQ(RunSystemShell(ShellVerb::Print, folder.Path() + "/none.txt"), ShellFileNotFound);
     Script("lp", "exit 1");
+    Script("xdg-open", "exit 3");
     EXPECT_EQ(RunSystemShell(ShellVerb::Print, document), ShellNoProgram) << "a spooler that refuses";
+    EXPECT_EQ(RunSystemShell(ShellVerb::Open, document), ShellNoProgram) << "an opener that knows no program for it";
     ::setenv("PATH", (folder.Path() + "/documentation").c_str(), 1);
     EXPECT_EQ(RunSystemShell(ShellVerb::Print, document), ShellNoProgram);
     EXPECT_EQ(RunSystemShell(ShellVerb::Open, document), ShellNoProgram);
 }
 
-TEST_F(SystemShellTest, DoesNotWaitForASpoolerThatHangs)
+TEST_F(SystemShellTest, DoesNotWaitForASpoolerThatHangsNorForAnOpenerThatStays)
 {
+    Script("xdg-open", "exec sleep 2");
+    EXPECT_GT(RunSystemShell(ShellVerb::Open, document), ShellSuccess);
     Script("lp", "exec sleep 60");
     EXPECT_EQ(RunSystemShell(ShellVerb::Print, document), ShellNoProgram);
 }

@@ -173,6 +173,34 @@ TEST_F(ReportFaultsTest, SkipsEmployeesWhoAreNoMore)
     EXPECT_TRUE(viewers.made.back()->shown);
 }
 
+TEST_F(ReportFaultsTest, AReviewIsOfOneMomentAndTellsWhomItLeavesOut)
+{
+    AddShifts();
+    ASSERT_TRUE(database->ExecuteAction("UPDATE TimeRecord SET EndTime = '2003-01-06 late' WHERE EmployeeID = 2;"));
+    const auto review = New<CReportReview>();
+    review->Progress([&](std::int32_t done, std::int32_t) {
+        CJetDB other(folder.Path());
+        EXPECT_FALSE(done == 1 && other.OpenDB()) << "somebody else's turn between two cards";
+        return true;
+    });
+    EXPECT_FALSE(review->GenerateReport(database, ListOf({jose, ann, zorn, jose}), first, last));
+    EXPECT_EQ(review->ErrorNumber(), 710);
+    EXPECT_EQ(review->Missing(),
+              "without " + jose->DisplayName() + ", " + jose->DisplayName() +
+                  ": there are no time records in this period; without Zorn: TimeRecord 6: EndTime is \"2003-01-06 late\" "
+                  "(Type mismatch)");
+
+    CJetDB other(folder.Path());
+    ASSERT_TRUE(other.OpenDB());
+    review->Progress(nullptr);
+    EXPECT_FALSE(review->GenerateReport(database, ListOf({ann, zorn}), first, last));
+    EXPECT_EQ(review->Missing(), "without Ann Lee, Zorn: the database is in use by another program");
+    const auto card = New<CReportTimeCard>();
+    EXPECT_FALSE(card->GenerateReport(database, ann, first, last));
+    EXPECT_EQ(card->ErrorNumber(), 605);
+    EXPECT_EQ(card->Missing(), "the database is in use by another program");
+}
+
 TEST_F(ReportFaultsTest, ACancelledReviewSaysSo)
 {
     AddShifts();

@@ -127,7 +127,8 @@ TEST_F(StartTest, AnUnbuiltListEndsTheProgramAfterTryingTheOthers)
     EXPECT_EQ(watching.boxes[0].icon, Icon::Critical);
     EXPECT_EQ(windows.login, nullptr);
     EXPECT_EQ(ends, std::vector{EXIT_FAILURE});
-    EXPECT_EQ(Log(), kLogBegin + "Error: 411 : The list of companies could not be loaded\r\n" + kLogEnd);
+    EXPECT_EQ(Log(),
+              kLogBegin + "Error: 411 : The list of companies could not be loaded: there is no stored query GetAllCompanies\r\n" + kLogEnd);
 }
 
 TEST_F(StartTest, AFailureOnTheWayIsShownAndLogged)

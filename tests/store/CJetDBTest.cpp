@@ -100,11 +100,13 @@ TEST_F(CJetDBTest, OpensTheProgramsFileUnlessToldOtherwise)
     EXPECT_TRUE(m_database.CloseDB()); // the handle is there, of no use
     EXPECT_FALSE(m_database.OpenDB(File("other.mdb")));
     EXPECT_EQ(m_database.ErrorNumber(), SQLITE_CANTOPEN);
+    EXPECT_EQ(m_database.LastFailure().Description(), "the database file is missing or cannot be opened");
     EXPECT_EQ(m_database.DatabaseName(), m_folder.Path() + "\\system\\ptk_11.mdb");
     std::filesystem::copy_file(Path(), File("other.mdb"));
     EXPECT_TRUE(m_database.OpenDB(File("other.mdb")));
     EXPECT_EQ(m_database.DatabaseName(), File("other.mdb"));
     EXPECT_EQ(m_database.ErrorNumber(), SQLITE_CANTOPEN); // never reset
+    EXPECT_EQ(m_database.LastFailure().Description(), "");
     m_database.DatabaseName("");
     EXPECT_FALSE(m_database.OpenDB());
     EXPECT_EQ(m_database.ErrorNumber(), jetdb::NoDatabase);
@@ -161,7 +163,9 @@ TEST_F(CJetDBTest, AnActionAlwaysClosesExceptAfterAFailure)
     EXPECT_EQ(m_database.ErrorNumber(), jetdb::NoDatabase);
     EXPECT_FALSE(m_database.ExecuteAction("UPDATE Nowhere SET a = 1;"));
     EXPECT_EQ(m_database.ErrorNumber(), jetdb::StatementFailed);
+    EXPECT_EQ(m_database.LastFailure().Description(), "no such table: Nowhere");
     EXPECT_TRUE(m_database.DatabaseOpen());
+    Run("INSERT INTO Company (Name) VALUES ('Mill')"); // the open file is nobody's until the next action
     EXPECT_TRUE(m_database.ExecuteAction("DELETE TimeRecord.TimeRecordID FROM TimeRecord WHERE ((TimeRecord.TimeRecordID = 2)); "));
     EXPECT_EQ(Rows("SELECT * FROM TimeRecord"),
               "1|12|NULL|2003-03-05 08:00:00|1899-12-30 00:00:00|3|12|NULL|2003-03-05 08:00:00|1899-12-30 00:00:00|");
@@ -179,6 +183,7 @@ TEST_F(CJetDBTest, AnActionWithoutSqlOrFileSaysSo)
     m_database.DatabaseName(File("missing.mdb"));
     EXPECT_FALSE(m_database.ExecuteAction("DELETE FROM Employee;"));
     EXPECT_EQ(m_database.ErrorNumber(), jetdb::NoDatabase); // and not the engine's number
+    EXPECT_EQ(m_database.LastFailure().Number(), SQLITE_CANTOPEN);
     EXPECT_EQ(Rows("SELECT COUNT(*) FROM Employee"), "1|");
 }
 
@@ -227,6 +232,7 @@ TEST_F(CJetDBTest, AFailedInsertOrUpdateLeavesTheFileOpenForTheNext)
     Run("DELETE FROM _StoredQuery WHERE name = 'UpdateEmployee'; UPDATE _StoredQuery SET sql = 'INSERT' WHERE name = 'AddNewCompany'");
     EXPECT_FALSE(m_database.AddNewEmployee(EmployeeRow()));
     EXPECT_EQ(m_database.ErrorNumber(), jetdb::InsertFailed);
+    EXPECT_EQ(m_database.LastFailure().Description(), "no name");
     EXPECT_TRUE(m_database.DatabaseOpen());
     EXPECT_TRUE(m_database.AddNewEmployee(Ann()));
     EXPECT_FALSE(m_database.DatabaseOpen());
@@ -316,8 +322,46 @@ TEST_F(CJetDBTest, AnEmployeeLoadFailsOnWhatHasNoMeaning)
         Employees loaded;
         EXPECT_FALSE(database.LoadEmployeeList(loaded)) << change;
         EXPECT_EQ(database.ErrorNumber(), jetdb::ListingFailed) << change;
+        EXPECT_NE(database.LastFailure().Description(), "") << change;
         EXPECT_TRUE(database.DatabaseOpen());
     }
+}
+
+TEST_F(CJetDBTest, AFailedLoadNamesTheValueAndLeavesTheFileToOthers)
+{
+    Run("INSERT INTO Employee (LastName, Active, AutoDeduct, AutoDeductLunchLength) VALUES ('Lee', 1, 0, 70000)");
+    Employees loaded;
+    EXPECT_FALSE(m_database.LoadEmployeeList(loaded));
+    EXPECT_EQ(m_database.LastFailure().Number(), failure::Overflow);
+    EXPECT_EQ(m_database.LastFailure().Description(), "Employee 40: AutoDeductLunchLength is 70000 (Overflow)");
+    Run("UPDATE Employee SET AutoDeductLunchLength = 30"); // the open file is nobody's
+    loaded.rows.clear();
+    EXPECT_TRUE(m_database.LoadEmployeeList(loaded));
+}
+
+TEST_F(CJetDBTest, AHoldKeepsTheFileOverManyOperations)
+{
+    const auto database = std::make_shared<CJetDB>(m_folder.Path());
+    {
+        const CJetDB::Hold hold(database);
+        for (int i = 0; i < 2; ++i) {
+            EXPECT_TRUE(database->OpenDB());
+            EXPECT_EQ(database->ExecuteSelect("SELECT * FROM Nowhere"), nullptr);
+            EXPECT_TRUE(database->CloseDB());
+            EXPECT_FALSE(database->DatabaseOpen());
+            EXPECT_EQ(RawDatabase(Path()).TryRun("SELECT * FROM Company"), SQLITE_BUSY);
+            const CJetDB::Hold nested(database);
+        }
+        EXPECT_EQ(RawDatabase(Path()).TryRun("SELECT * FROM Company"), SQLITE_BUSY);
+        EXPECT_TRUE(database->ExecuteAction("DELETE FROM Company"));
+    }
+    Run("DELETE FROM Company");
+    RawDatabase other(Path());
+    other.Run("BEGIN EXCLUSIVE");
+    const CJetDB::Hold refused(database);
+    other.Run("ROLLBACK");
+    EXPECT_FALSE(database->OpenDB()) << "of one moment, also where that found nothing";
+    EXPECT_EQ(database->LastFailure().Description(), "the database is in use by another program");
 }
 
 TEST_F(CJetDBTest, LoadsCompaniesInTheOrderOfTheirNamesWithNullsAsDefaults)

@@ -8,6 +8,7 @@
 
 #include <sys/stat.h>
 
+#include <csignal>
 #include <filesystem>
 
 namespace ptk {
@@ -45,6 +46,11 @@ TEST_F(DatabaseFileTest, NeverReplacesWhatIsThere)
     EXPECT_EQ(ReadBytes(Path()), before);
     std::filesystem::create_symlink(File("nowhere"), File("link.mdb"));
     EXPECT_EQ(FailureOf([&] { CreateDatabase(File("link.mdb")); }), failure::PathFileAccess);
+    for (const char* leftover : {"-journal", "-wal", "-shm"}) {
+        WriteBytes(File("new.mdb") + leftover, "of another database");
+        EXPECT_EQ(FailureOf([&] { CreateDatabase(File("new.mdb")); }), failure::PathFileAccess) << leftover;
+        EXPECT_TRUE(std::filesystem::remove(File("new.mdb") + leftover));
+    }
     const std::string late = File("late.mdb");
     EXPECT_EQ(FailureOf([&] { CreateDatabase(late, [&](BulkWriter&) { WriteBytes(late, "somebody else's"); }); }), failure::PathFileAccess);
     EXPECT_EQ(ReadBytes(late), "somebody else's");
@@ -60,6 +66,40 @@ TEST_F(DatabaseFileTest, LeavesNothingBehindWhenFillingFails)
     };
     EXPECT_EQ(FailureOf([&] { CreateDatabase(File("new.mdb"), fail); }), failure::InvalidProcedureCall);
     EXPECT_EQ(SystemFiles(), 1);
+}
+
+TEST_F(DatabaseFileTest, ClearsWhatAKilledAttemptLeftButNothingElse)
+{
+    const auto attempt = [&](const std::function<void()>& halfway) {
+        return [&, halfway](BulkWriter& rows) {
+            rows.AddCompany(CompanyRow());
+            halfway();
+        };
+    };
+    EXPECT_TRUE(WIFSIGNALED(InAnotherProcess([&] { CreateDatabase(File("new.mdb"), attempt([] { kill(getpid(), SIGKILL); })); })));
+    EXPECT_GE(SystemFiles(), 2);
+    WriteBytes(File("new.mdb.backup"), "mine");
+    CreateDatabase(File("new.mdb"), attempt([&] {
+                       EXPECT_EQ(SystemFiles(), 4) << "the draft, its journal, and what was there";
+                       EXPECT_EQ(FailureOf([&] { CreateDatabase(File("new.mdb"), attempt([] { throw Failure(7); })); }), 7);
+                   }));
+    EXPECT_EQ(SystemFiles(), 3);
+}
+
+TEST_F(DatabaseFileTest, AFolderThatMayNotBeUsedIsAMissingPermission)
+{
+    chmod(m_folder.Path().c_str(), 0755);
+    const std::string folder = m_folder.Path() + "/closed";
+    std::filesystem::create_directory(folder);
+    for (const mode_t mode : {0500, 0000}) {
+        chmod(folder.c_str(), mode);
+        EXPECT_EQ(InAnotherProcess([&] {
+                      EXPECT_TRUE(getuid() != 0 || seteuid(65534) == 0);
+                      EXPECT_EQ(FailureOf([&] { CreateDatabase(folder + "/new.mdb"); }), failure::PermissionDenied);
+                  }),
+                  0)
+            << mode;
+    }
 }
 
 TEST_F(DatabaseFileTest, TakesManyRowsInOneTransaction)
@@ -96,7 +136,7 @@ TEST_F(DatabaseFileTest, TheCheckFindsWhatIsWrong)
         const char* problem;
     };
     for (const Case& c : {
-             Case{"PRAGMA application_id = 7", "The application_id is 7, not 1347701553."},
+             Case{"PRAGMA application_id = 0", "The application_id is 0, not 1347701553."},
              Case{"PRAGMA user_version = 0", "The user_version is 0, not 1."},
              Case{"DROP TABLE TimeRecord", "There is no column TimeRecord.TimeRecordID."},
              Case{"ALTER TABLE Employee DROP COLUMN AutoDeduct", "There is no column Employee.AutoDeduct."},
@@ -119,6 +159,53 @@ TEST_F(DatabaseFileTest, TheCheckFindsWhatIsWrong)
         const DatabaseCheck check = CheckDatabase(Path());
         ASSERT_FALSE(check.problems.empty()) << c.change;
         EXPECT_EQ(check.problems[0].substr(0, std::string(c.problem).size()), c.problem);
+    }
+}
+
+TEST_F(DatabaseFileTest, TheCheckNamesEveryValueThatTheProgramCouldNotUse)
+{
+    struct Case
+    {
+        const char* change;
+        std::vector<std::string> problems;
+    };
+    for (const Case& c : {
+             Case{"UPDATE Employee SET Active = NULL, AutoDeduct = 'maybe', AutoDeductLunchLength = 70000, EmployeeNumber = 2147483648",
+                  {"Employee 39: EmployeeNumber is 2147483648 (Overflow).", "Employee 39: Active is NULL (Invalid use of Null).",
+                   "Employee 39: AutoDeduct is \"maybe\" (Type mismatch).", "Employee 39: AutoDeductLunchLength is 70000 (Overflow)."}},
+             Case{"UPDATE Employee SET PayRate = '12,50', HireDate = '6/14/2026', LastName = x'00'",
+                  {"Employee 39: LastName is a value of bytes (Type mismatch).",
+                   "Employee 39: HireDate is \"6/14/2026\" (not stored as YYYY-MM-DD HH:MM:SS).",
+                   "Employee 39: PayRate is \"12,50\" (Type mismatch)."}},
+             Case{"UPDATE Employee SET EmployeeID = 3000000000; INSERT INTO Company (CompanyID) VALUES (0)",
+                  {"Company 0: CompanyID is 0 (not a key that the program can use).",
+                   "Employee 3000000000: EmployeeID is 3000000000 (Overflow)."}},
+             Case{"INSERT INTO TimeRecord (EmployeeID, StartTime, EndTime) VALUES (39, '6/14/2026 8:00', '2026-06-14T08:00:00')",
+                  {"TimeRecord 1: StartTime is \"6/14/2026 8:00\" (not stored as YYYY-MM-DD HH:MM:SS).",
+                   "TimeRecord 1: EndTime is \"2026-06-14T08:00:00\" (Type mismatch)."}},
+             Case{"INSERT INTO TimeRecord (EmployeeID, StartTime, EndTime) VALUES (5000000000, 46000, NULL)",
+                  {"TimeRecord 1: EmployeeID is 5000000000 (Overflow).",
+                   "TimeRecord 1: StartTime is 46000 (not stored as YYYY-MM-DD HH:MM:SS).",
+                   "TimeRecord 1: EndTime is NULL (a time that is not set is stored as 1899-12-30 00:00:00)."}},
+             Case{"UPDATE _System SET version = NULL, period_length = 40000, auto_shift_end_time = '17:00'",
+                  {"_System: version is NULL (Invalid use of Null).", "_System: period_length is 40000 (Overflow).",
+                   "_System: auto_shift_end_time is \"17:00\" (not stored as YYYY-MM-DD HH:MM:SS)."}},
+             Case{"UPDATE _StoredQuery SET sql = replace(sql, ':paramURL', ':url') WHERE name = 'AddNewCompany'",
+                  {"The stored query AddNewCompany cannot be used: there is no parameter paramURL."}},
+             Case{"UPDATE _StoredQuery SET sql = replace(sql, '= :State', '= :State || :x') WHERE name = 'UpdateEmployee'",
+                  {"The stored query UpdateEmployee cannot be used: parameter 9 has no value."}},
+             Case{"UPDATE _StoredQuery SET sql = 'SELECT 40 EmployeeID, * FROM (SELECT NULL Active)' WHERE name = 'GetAllEmployees'",
+                  {"The stored query GetAllEmployees cannot be used: There is no column SSNumber."}},
+             Case{"UPDATE _StoredQuery SET sql = replace(sql, ' Active,', ' NULL AS Active,') WHERE name = 'GetAllEmployees'",
+                  {"Employee 39: Active is NULL (Invalid use of Null)."}},
+             Case{"INSERT INTO Company (Name) VALUES (NULL); UPDATE Employee SET HireDate = NULL, PayRate = NULL, CompanyID = 0;"
+                  "INSERT INTO TimeRecord (EmployeeID, StartTime, EndTime) VALUES (7, '2026-06-14 08:00:00', '1899-12-30 00:00:00')",
+                  {}},
+         }) {
+        std::filesystem::remove(Path());
+        CreateDatabase(Path());
+        Run(c.change);
+        EXPECT_EQ(CheckDatabase(Path()).problems, c.problems) << c.change;
     }
 }
 

@@ -32,6 +32,30 @@ TEST_F(EngineTest, KeepsNothingOfAFailedStatementAndNothingOfItReachesTheDiskLat
     EXPECT_EQ(Rows("SELECT Name FROM Company"), "Mill|");
 }
 
+TEST_F(EngineTest, StoresSeveralStatementsTogetherOrNoneOfThem)
+{
+    Run("CREATE TRIGGER rule BEFORE INSERT ON Company WHEN NEW.Name = 'Bad' BEGIN SELECT RAISE(FAIL, 'no'); END");
+    Engine engine(Path());
+    const auto store = [&](const std::string& last) {
+        const std::string statements[] = {kInsert, "UPDATE Company SET Company.City = 'Easton'", last};
+        engine.ExecuteAll(statements);
+    };
+    EXPECT_EQ(FailureOf([&] { store("INSERT INTO Company (Name) VALUES ('Bad')"); }), SQLITE_CONSTRAINT);
+    EXPECT_EQ(Rows("SELECT * FROM Company"), "");
+    store("INSERT INTO Company (Name) VALUES ('Good')");
+    EXPECT_EQ(Rows("SELECT Name, City FROM Company"), "Mill|Easton|Good|NULL|");
+}
+
+TEST_F(EngineTest, StopsWhatNeverComesToAnEnd)
+{
+    Run("CREATE VIEW Endless AS WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n) SELECT i FROM n");
+    Engine engine(Path());
+    EXPECT_EQ(FailureOf([&] { engine.Prepare("SELECT MAX(i) FROM Endless")->ReadRows(Statement::kAllRows, 2); }), SQLITE_INTERRUPT);
+    const auto rows = engine.Prepare("SELECT i FROM Endless");
+    EXPECT_EQ(rows->ReadRows(50'000, 2)->RecordCount(), 50'000);
+    EXPECT_EQ(FailureOf([&] { rows->ReadRows(500'000, 2); }), SQLITE_INTERRUPT) << "the steps of all portions count";
+}
+
 TEST_F(EngineTest, TakesOneStatementOfTheRightKind)
 {
     Engine engine(Path());

@@ -2,15 +2,21 @@
 
 #include "store/engine/EngineFailure.h"
 #include "store/engine/FileHeader.h"
+#include "store/engine/RecordSet.h"
+#include "store/engine/Statement.h"
 
 #include <sqlite3.h>
 #include <SQLiteCpp/Exception.h>
+#include <sys/stat.h>
+
+#include <thread>
 
 namespace ptk {
 
 namespace {
 
-constexpr std::int32_t kFormatNumber = 1; // the newest that this program knows
+constexpr std::chrono::seconds kPatience(1);
+constexpr std::chrono::milliseconds kBetweenTries(5);
 
 // A relative path could be one of the engine's special names.
 std::string PlainPath(const std::string& path)
@@ -18,42 +24,80 @@ std::string PlainPath(const std::string& path)
     return path.starts_with('/') ? path : "./" + path;
 }
 
+// The engine would wait for the other end of a pipe, and read a device as if it were a file. What is missing is told by the engine itself.
+void RefuseIrregularFile(const std::string& path)
+{
+    struct stat file
+    {
+    };
+    if (stat(path.c_str(), &file) == 0 && !S_ISREG(file.st_mode)) {
+        throw EngineFailure(SQLITE_CANTOPEN, "the database's path leads to a folder, a pipe or a device instead of a file");
+    }
+}
+
 // Only one thread uses a connection, so the engine need not lock itself for every cell.
 constexpr int kOpenMode = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX;
 
 SQLite::Database OpenFile(const std::string& path)
 {
+    RefuseIrregularFile(path);
     try {
-        return {PlainPath(path), kOpenMode};
+        return {path, kOpenMode};
     } catch (const SQLite::Exception& exception) {
-        throw EngineFailure(exception.getErrorCode(), exception.what());
+        throw EngineFailure(exception.getErrorCode());
     }
 }
 
 } // namespace
 
-Connection::Connection(const std::string& path) : m_database(OpenFile(path))
+Connection::Connection(const std::string& path) : m_database(OpenFile(PlainPath(path)))
 {
     if (sqlite3_db_readonly(Handle(), "main") != 0) {
-        throw EngineFailure(SQLITE_READONLY, "the file may not be written");
+        throw EngineFailure(SQLITE_READONLY);
     }
+    // Before the hold, which would finish what another program's crash left undone.
+    if (const FileHeader header = ReadFileHeader(Handle()); header.signature) {
+        RefuseOtherPrograms(header.applicationId, header.formatNumber);
+    }
+    sqlite3_busy_handler(
+        Handle(), [](void* connection, int /*tries*/) { return static_cast<Connection*>(connection)->Wait() ? 1 : 0; }, this);
     Hold();
+}
+
+void Connection::RefuseOtherPrograms(std::int32_t applicationId, std::int32_t formatNumber) const
+{
+    if (applicationId != 0 && applicationId != kApplicationId) {
+        throw EngineFailure(SQLITE_NOTADB);
+    }
+    if (formatNumber > kFormatNumber) {
+        throw EngineFailure(SQLITE_NOTADB, "the database file was made by a newer version of the program");
+    }
 }
 
 void Connection::RefuseForeignFile()
 {
     const FileHeader header = ReadFileHeader(Handle());
     if (!header.complete) {
-        throw EngineFailure(SQLITE_NOTADB, "the file is too short for a database");
+        throw EngineFailure(SQLITE_NOTADB);
     }
     if (header.truncated) {
-        throw EngineFailure(SQLITE_CORRUPT, "the file is shorter than it says");
-    }
-    if (header.formatNumber > kFormatNumber) {
-        throw EngineFailure(SQLITE_NOTADB, "the file was made by a newer version of the program");
+        throw EngineFailure(SQLITE_CORRUPT);
     }
     if (header.writeAheadLog) {
+        RefuseOtherProgramsLog();
         LeaveWriteAheadLog();
+    }
+}
+
+// What marks a file as another program's may be in its log only, and must still be there afterwards.
+void Connection::RefuseOtherProgramsLog()
+{
+    const auto number = [this](const char* pragma) { return Statement(Handle(), pragma).ReadRows()->Int32At(0); };
+    try {
+        RefuseOtherPrograms(number("PRAGMA application_id"), number("PRAGMA user_version"));
+    } catch (const Failure&) {
+        sqlite3_db_config(Handle(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
+        throw;
     }
 }
 
@@ -61,8 +105,12 @@ void Connection::RefuseForeignFile()
 void Connection::LeaveWriteAheadLog()
 {
     Release();
-    Run("PRAGMA journal_mode=DELETE");
-    Hold();
+    int code = SQLITE_BUSY;
+    do { // here the engine does not wait by itself
+        code = m_database.tryExec("PRAGMA journal_mode=DELETE");
+    } while (code == SQLITE_BUSY && Wait());
+    RaiseUnlessDone(Handle(), code);
+    Run("BEGIN EXCLUSIVE"); // of the same opening, so within the same second
 }
 
 void Connection::Run(const char* sql)
@@ -78,8 +126,19 @@ bool Connection::IsHeld() const
 void Connection::Hold()
 {
     if (!IsHeld()) {
+        m_patientUntil = std::chrono::steady_clock::now() + kPatience;
         Run("BEGIN EXCLUSIVE");
     }
+}
+
+// Whether to try once more for a file in use.
+bool Connection::Wait() const
+{
+    if (std::chrono::steady_clock::now() >= m_patientUntil) {
+        return false;
+    }
+    std::this_thread::sleep_for(kBetweenTries);
+    return true;
 }
 
 // EXTRA also flushes the folder after the journal is gone, or a power cut could bring the journal back and undo the commit. It cannot be
@@ -99,16 +158,9 @@ void Connection::Commit()
     try {
         Run("COMMIT");
     } catch (const Failure&) {
-        Undo();
+        Release();
         throw;
     }
-    HoldAgain();
-}
-
-void Connection::Undo() noexcept
-{
-    Release();
-    HoldAgain();
 }
 
 void Connection::Release() noexcept
@@ -116,11 +168,6 @@ void Connection::Release() noexcept
     if (IsHeld()) {
         m_database.tryExec("ROLLBACK"); // what this cannot undo now, the journal undoes when the file is next opened
     }
-}
-
-void Connection::HoldAgain() noexcept
-{
-    m_database.tryExec("BEGIN EXCLUSIVE"); // whoever was quicker is reported by the next use
 }
 
 } // namespace ptk

@@ -3,36 +3,43 @@
 
 #include <SQLiteCpp/Database.h>
 
+#include <chrono>
 #include <cstdint>
 #include <string>
 
 namespace ptk {
 
-// The hold is a transaction: it is there from the constructor on and taken again after each commit, without waiting. When another program
-// was quicker then, the next use tries once more and raises 5 (busy).
+// The hold is a transaction: taken by the constructor, given up by Commit and Release, and taken again by the next Hold. A file in
+// use is waited for, up to one second for each taking.
 class Connection
 {
 public:
-    // Opens for reading and writing, exclusively and without ever creating a file. Raises 14 (missing, a folder), 5 (held by anyone, a
-    // reader included), 8 (read-only), 26 (no database) or 11 (damaged). An empty file passes.
+    // Opens for reading and writing, exclusively and without ever creating a file. Raises 14 (missing, no regular file), 5 (held by anyone,
+    // a reader included, for more than a second), 8 (read-only), 26 (no database, another program's, or of a newer format) or 11 (damaged);
+    // another program's file is not touched by that. An empty file passes.
     explicit Connection(const std::string& path);
-    void RefuseForeignFile(); // raises 26 for an empty file and for one of a newer format, 11 for one cut short
+    Connection(const Connection&) = delete;
+    Connection& operator=(const Connection&) = delete;
+
+    void RefuseForeignFile(); // raises 26 for an empty file, 11 for one cut short; to be called before anything else
 
     sqlite3* Handle() const { return m_database.getHandle(); }
 
     void Run(const char* sql); // statements without parameters
     void Hold();               // nothing when held
     void PrepareWrite();       // holds; before anything is changed
-    void Commit();             // on disk when it returns; on failure nothing of the transaction is left
-    void Undo() noexcept;      // drops what was changed since the last commit
+    void Commit();             // on disk when it returns, and not held; on failure nothing of the transaction is left
+    void Release() noexcept;   // drops what was changed since the last commit; nothing when not held
 
 private:
+    void RefuseOtherPrograms(std::int32_t applicationId, std::int32_t formatNumber) const;
+    void RefuseOtherProgramsLog();
     void LeaveWriteAheadLog();
-    void Release() noexcept;
-    void HoldAgain() noexcept;
     bool IsHeld() const;
+    bool Wait() const;
 
     SQLite::Database m_database;
+    std::chrono::steady_clock::time_point m_patientUntil;
     bool m_durable = false; // whether commits survive a power cut
 };
 

@@ -4,7 +4,6 @@
 #include "store/engine/Dialect.h"
 #include "store/engine/EngineFailure.h"
 #include "store/engine/RecordSet.h"
-#include "store/engine/Statement.h"
 
 #include <sqlite3.h>
 
@@ -22,6 +21,18 @@ Engine::~Engine() = default;
 void Engine::Close()
 {
     m_connection.reset();
+}
+
+void Engine::Hold()
+{
+    Open();
+}
+
+void Engine::GiveUp() noexcept
+{
+    if (m_connection != nullptr) {
+        m_connection->Release();
+    }
 }
 
 Connection& Engine::Open() const
@@ -57,7 +68,16 @@ std::shared_ptr<RecordSet> Engine::Select(std::string_view statement)
 
 void Engine::Execute(std::string_view statement)
 {
-    RunAndCommit(*Prepare(TranslateStatement(statement)));
+    Commit([&] { Prepare(TranslateStatement(statement))->Run(); });
+}
+
+void Engine::ExecuteAll(std::span<const std::string> statements)
+{
+    Commit([&] {
+        for (const std::string& statement : statements) {
+            Prepare(TranslateStatement(statement))->Run();
+        }
+    });
 }
 
 std::shared_ptr<RecordSet> Engine::SelectStored(std::string_view query)
@@ -67,22 +87,23 @@ std::shared_ptr<RecordSet> Engine::SelectStored(std::string_view query)
 
 void Engine::ExecuteStored(std::string_view query, std::span<const Parameter> parameters)
 {
-    const auto statement = PrepareStored(query);
-    for (const Parameter& parameter : parameters) {
-        statement->Bind(parameter.name, parameter.value);
-    }
-    RunAndCommit(*statement);
+    Commit([&] {
+        const auto statement = PrepareStored(query);
+        statement->Bind(parameters);
+        statement->Run();
+    });
 }
 
 // What a failed statement changed before it failed must not reach the disk with a later one.
-void Engine::RunAndCommit(Statement& statement)
+template <typename Steps>
+void Engine::Commit(Steps steps)
 {
     Connection& connection = Open();
     connection.PrepareWrite();
     try {
-        statement.Run();
+        steps();
     } catch (...) {
-        connection.Undo();
+        connection.Release();
         throw;
     }
     connection.Commit();
@@ -106,6 +127,11 @@ std::int64_t Engine::LastKey() const
 void Engine::Commit()
 {
     Open().Commit();
+}
+
+std::shared_ptr<RecordSet> Engine::CheckIntegrity()
+{
+    return Prepare("PRAGMA integrity_check")->ReadRows(Statement::kAllRows, Statement::kAnySteps);
 }
 
 } // namespace ptk

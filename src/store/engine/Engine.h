@@ -1,7 +1,7 @@
-// An open database file, held exclusively, and what can be asked of it.
+// An open database file, held exclusively while something is done with it, and what can be asked of it.
 #pragma once
 
-#include "platform/Value.h"
+#include "store/engine/Statement.h"
 
 #include <memory>
 #include <span>
@@ -12,14 +12,6 @@ namespace ptk {
 
 class Connection;
 class RecordSet;
-class Statement;
-
-// A value for a parameter of a stored query, by the parameter's exact name.
-struct Parameter
-{
-    const char* name;
-    Value value;
-};
 
 // Tells that a file is empty and about to get its tables.
 struct NewFile
@@ -27,22 +19,30 @@ struct NewFile
 };
 
 // Failures carry the engine's primary result codes and the source "SQLite", those of the statement text's dates 13 and "PTK". After a
-// failure of a statement nothing of it is left. Record sets outlive the engine; prepared statements do not.
+// failure of a statement nothing of it is left. A statement that does not come to an end is stopped after 400 million steps of the
+// engine, with 9; a record set that would not fit into memory with 7. Record sets outlive the engine; prepared statements do not.
+//
+// The hold: there after opening, kept by every member that reads, gone with each member that ends a transaction (committed or failed) and
+// with GiveUp. Every member takes it again when it is gone, and raises 5 when somebody else has had the file for more than a second by
+// then.
 class Engine
 {
 public:
-    // Never creates a file, never waits. Raises 14 (missing, a folder), 5 (held by anyone, a reader included), 8 (read-only), 26 (no
-    // database, or of a newer format) or 11 (damaged); the file is then as it was.
+    // Never creates a file. Raises 14 (missing, no regular file), 5 (held by anyone, a reader included, for more than a second), 8
+    // (read-only), 26 (no database, another program's, or of a newer format) or 11 (damaged); the file is then as it was.
     explicit Engine(const std::string& path);
     Engine(const std::string& path, NewFile); // the file must be there, empty
     ~Engine();
 
     bool IsOpen() const { return m_connection != nullptr; }
     void Close(); // the members below then raise 21; nothing when closed
+    void Hold();
+    void GiveUp() noexcept; // others get at the file; what was not committed is dropped
 
     // In the program's own SQL. Select takes only statements that answer rows and change nothing, Execute only those that answer none.
     std::shared_ptr<RecordSet> Select(std::string_view statement);
-    void Execute(std::string_view statement); // on disk when it returns
+    void Execute(std::string_view statement);                 // on disk when it returns
+    void ExecuteAll(std::span<const std::string> statements); // all of them in one transaction, or nothing
 
     // Of the queries inside the file. A missing query raises 12, an unknown parameter or one without a value 25.
     std::shared_ptr<RecordSet> SelectStored(std::string_view query);
@@ -57,9 +57,12 @@ public:
     std::int64_t LastKey() const;    // of the row inserted last
     void Commit();
 
+    std::shared_ptr<RecordSet> CheckIntegrity(); // one text a row, "ok" alone for a sound file; without a bound on its steps
+
 private:
     Connection& Open() const;
-    void RunAndCommit(Statement& statement);
+    template <typename Steps>
+    void Commit(Steps steps);
 
     std::unique_ptr<Connection> m_connection;
 };

@@ -2,20 +2,24 @@
 
 #include "store/engine/EngineFailure.h"
 
+#include <algorithm>
 #include <array>
 #include <sqlite3.h>
+#include <string_view>
 
 namespace ptk {
 
 namespace {
 
 // Offsets as the file format documents them.
+constexpr std::string_view kSignature("SQLite format 3\0", 16);
 constexpr std::size_t kHeaderSize = 100;
 constexpr std::size_t kPageSize = 16; // two bytes
 constexpr std::size_t kWriteVersion = 18;
 constexpr std::size_t kChangeCounter = 24;
 constexpr std::size_t kPageCount = 28;
 constexpr std::size_t kUserVersion = 60;
+constexpr std::size_t kApplication = 68;
 constexpr std::size_t kPageCountValidFor = 92; // the change counter's value then
 constexpr unsigned char kWriteAheadLog = 2;
 
@@ -44,7 +48,7 @@ std::int64_t SizeByHeader(const Bytes& bytes)
 void RaiseWhenUnreadable(int resultCode)
 {
     if (resultCode != SQLITE_OK) {
-        throw EngineFailure(resultCode, "the file cannot be read");
+        throw EngineFailure(resultCode);
     }
 }
 
@@ -62,8 +66,14 @@ FileHeader ReadFileHeader(sqlite3* database)
     RaiseWhenUnreadable(code);
     sqlite3_int64 size = 0;
     RaiseWhenUnreadable(file->pMethods->xFileSize(file, &size));
-    return {true, size < SizeByHeader(bytes), bytes[kWriteVersion] == kWriteAheadLog,
-            static_cast<std::int32_t>(NumberAt(bytes, kUserVersion))};
+    FileHeader header;
+    header.complete = true;
+    header.signature = std::equal(kSignature.begin(), kSignature.end(), bytes.begin());
+    header.truncated = size < SizeByHeader(bytes);
+    header.writeAheadLog = bytes[kWriteVersion] == kWriteAheadLog;
+    header.applicationId = static_cast<std::int32_t>(NumberAt(bytes, kApplication));
+    header.formatNumber = static_cast<std::int32_t>(NumberAt(bytes, kUserVersion));
+    return header;
 }
 
 } // namespace ptk

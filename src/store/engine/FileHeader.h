@@ -8,15 +8,21 @@ struct sqlite3;
 
 namespace ptk {
 
+// What this program marks its files with; 0, which tools that know nothing of it leave behind, is accepted for both.
+inline constexpr std::int32_t kApplicationId = 0x50544B31; // "PTK1"
+inline constexpr std::int32_t kFormatNumber = 1;           // the newest that this program knows
+
 struct FileHeader
 {
-    bool complete = false;         // false for a file shorter than its header
-    bool truncated = false;        // the engine itself misses only whole pages
-    bool writeAheadLog = false;    // kept with a write-ahead log beside it, which would let readers in
-    std::int32_t formatNumber = 0; // the user_version: 1 for this program's tables
+    bool complete = false;          // false for a file shorter than its header
+    bool signature = false;         // of a database at all; without it the numbers below mean nothing
+    bool truncated = false;         // the engine itself misses only whole pages
+    bool writeAheadLog = false;     // kept with a write-ahead log beside it, which would let readers in
+    std::int32_t applicationId = 0; // whose file it is
+    std::int32_t formatNumber = 0;  // the user_version: 1 for this program's tables
 };
 
-// Raises the engine's failure when the file cannot be read.
+// Changes nothing and needs no hold. Raises the engine's failure when the file cannot be read.
 FileHeader ReadFileHeader(sqlite3* database);
 
 } // namespace ptk

@@ -2,11 +2,31 @@
 
 #include "platform/Failure.h"
 #include "platform/Text.h"
+#include "store/engine/StoredDate.h"
 
+#include <algorithm>
 #include <bit>
-#include <limits>
+#include <fmt/format.h>
 
 namespace ptk {
+
+namespace {
+
+constexpr std::size_t kLongestShown = 60; // bytes
+
+std::string InQuotes(std::string_view text)
+{
+    std::size_t length = std::min(text.size(), kLongestShown);
+    while (length > 0 && length < text.size() && (text[length] & 0xC0) == 0x80) { // within a character
+        --length;
+    }
+    std::string shown(text.substr(0, length));
+    std::replace_if(
+        shown.begin(), shown.end(), [](char c) { return c == '\r' || c == '\n'; }, ' ');
+    return '"' + shown + (length < text.size() ? "...\"" : "\"");
+}
+
+} // namespace
 
 void RecordSet::MoveFirst()
 {
@@ -135,6 +155,32 @@ std::string_view RecordSet::TextAt(std::size_t column) const
         throw Failure(failure::TypeMismatch);
     }
     return TextOf(cell);
+}
+
+std::string RecordSet::Shown(std::size_t column) const
+{
+    const Cell& cell = At(column);
+    switch (cell.kind) {
+    case Kind::Null:
+        return "NULL";
+    case Kind::Integer:
+        return std::to_string(cell.content);
+    case Kind::Real:
+        return fmt::format("{}", std::bit_cast<double>(cell.content));
+    case Kind::DateTime:
+        return InQuotes(StoredText(DateTime::FromSeconds(cell.content)));
+    case Kind::Text:
+        return InQuotes(TextOf(cell));
+    case Kind::Binary:
+        break;
+    }
+    return "a value of bytes";
+}
+
+bool RecordSet::HasStoredDate(std::size_t column) const
+{
+    const Cell& cell = At(column);
+    return cell.kind == Kind::DateTime || (cell.kind == Kind::Text && FromStoredText(TextOf(cell)).has_value());
 }
 
 } // namespace ptk

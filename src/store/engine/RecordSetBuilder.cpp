@@ -1,11 +1,20 @@
 #include "store/engine/RecordSetBuilder.h"
 
+#include "platform/Failure.h"
 #include "platform/Text.h"
 #include "store/engine/StoredDate.h"
 
 #include <bit>
 
 namespace ptk {
+
+namespace {
+
+// More than a gigabyte is no answer but a query gone astray; ten million time records take 40 million cells.
+constexpr std::size_t kMostCells = std::size_t{1} << 26U;
+constexpr std::size_t kMostTextBytes = std::size_t{1} << 30U;
+
+} // namespace
 
 void RecordSet::Builder::AddColumn(std::string name, std::string_view declared)
 {
@@ -57,7 +66,10 @@ void RecordSet::Builder::AddText(std::string_view value)
 
 void RecordSet::Builder::EndRow()
 {
-    m_rows->m_rowCount = NarrowToInt32(std::int64_t{m_rows->m_rowCount} + 1);
+    if (m_rows->m_cells.size() > kMostCells || m_rows->m_texts.size() > kMostTextBytes) {
+        throw Failure(failure::OutOfMemory, "PTK", "the statement answers more than fits into memory");
+    }
+    ++m_rows->m_rowCount;
     m_column = 0;
 }
 

@@ -18,7 +18,7 @@ public:
     void AddReal(double value);
     void AddText(std::string_view value);      // a date-time column takes its stored form apart at once
     void AddBinary() { Add(Kind::Binary, 0); } // no column has such values; reading the cell is a type mismatch
-    void EndRow();                             // raises Failure 6 beyond what a count holds
+    void EndRow();                             // raises Failure 7 when the rows take more than a gigabyte
 
     std::shared_ptr<RecordSet> Finish() { return std::move(m_rows); }
 

@@ -85,6 +85,27 @@ void AddColumns(RecordSet::Builder& rows, sqlite3_stmt* statement)
 
 } // namespace
 
+// While it lives, the statement is stopped beyond so many steps.
+class Statement::Limit
+{
+public:
+    Limit(Statement& statement, std::int32_t mostSteps) : m_statement(statement), m_mostSteps(mostSteps)
+    {
+        constexpr int kMillion = 1'000'000;
+        sqlite3_progress_handler(
+            statement.m_database, kMillion, [](void* limit) { return static_cast<Limit*>(limit)->Exceeded() ? 1 : 0; }, this);
+    }
+    ~Limit() { sqlite3_progress_handler(m_statement.m_database, 0, nullptr, nullptr); }
+    Limit(const Limit&) = delete;
+    Limit& operator=(const Limit&) = delete;
+
+private:
+    bool Exceeded() { return ++m_statement.m_steps > m_mostSteps; }
+
+    Statement& m_statement;
+    std::int32_t m_mostSteps;
+};
+
 void Statement::Finalizer::operator()(sqlite3_stmt* statement) const
 {
     sqlite3_finalize(statement); // answers the failure of the last step, which was raised there
@@ -111,6 +132,13 @@ void Statement::Bind(const std::string& name, const Value& value)
     m_assigned[static_cast<std::size_t>(index) - 1] = true;
 }
 
+void Statement::Bind(std::span<const Parameter> parameters)
+{
+    for (const Parameter& parameter : parameters) {
+        Bind(parameter.name, parameter.value);
+    }
+}
+
 void Statement::RefuseMissingParameters() const
 {
     for (std::size_t i = 0; i < m_assigned.size(); ++i) {
@@ -127,7 +155,7 @@ bool Statement::Step()
         return true;
     }
     if (code != SQLITE_DONE) {
-        throw EngineFailure(code, sqlite3_errmsg(m_database));
+        throw EngineFailure(code, m_database);
     }
     return false;
 }
@@ -135,19 +163,26 @@ bool Statement::Step()
 void Statement::Rewind()
 {
     sqlite3_reset(m_statement.get()); // answers the failure of the last step, which was raised there
+    m_steps = 0;
 }
 
-void Statement::Run()
+void Statement::RefuseUnlessAction() const
 {
     if (sqlite3_column_count(m_statement.get()) != 0) {
         throw EngineFailure(SQLITE_ERROR, "the statement only answers rows");
     }
     RefuseMissingParameters();
+}
+
+void Statement::Run()
+{
+    RefuseUnlessAction();
+    const Limit limit(*this, kMostSteps);
     Step();
     Rewind();
 }
 
-std::shared_ptr<RecordSet> Statement::ReadRows()
+std::shared_ptr<RecordSet> Statement::ReadRows(std::int32_t most, std::int32_t mostSteps)
 {
     sqlite3_stmt* row = m_statement.get();
     const int columns = sqlite3_column_count(row);
@@ -157,7 +192,8 @@ std::shared_ptr<RecordSet> Statement::ReadRows()
     RefuseMissingParameters();
     RecordSet::Builder rows;
     AddColumns(rows, row);
-    while (Step()) {
+    const Limit limit(*this, mostSteps);
+    for (std::int32_t count = 0; count < most && Step(); ++count) {
         for (int column = 0; column < columns; ++column) {
             AddCell(rows, row, column);
         }

@@ -4,7 +4,9 @@
 #include "platform/Value.h"
 
 #include <cstdint>
+#include <limits>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -16,25 +18,45 @@ namespace ptk {
 
 class RecordSet;
 
+// A value for a parameter, by its exact name without the colon.
+struct Parameter
+{
+    const char* name;
+    Value value;
+};
+
 // Must end before its database is closed. Every member raises the engine's result code (source "SQLite") when the engine refuses.
 class Statement
 {
 public:
+    static constexpr std::int32_t kAllRows = std::numeric_limits<std::int32_t>::max();
+
+    // Of the engine's steps, in millions. A statement that takes more does not come to an end and is stopped, with 9: reading ten million
+    // records takes 90, and 400 some seconds.
+    static constexpr std::int32_t kMostSteps = 400;
+    static constexpr std::int32_t kAnySteps = std::numeric_limits<std::int32_t>::max();
+
     // `sql` is in the engine's own words and holds exactly one statement.
     Statement(sqlite3* database, std::string_view sql);
 
-    // Named as in the statement, without the colon; the same parameter may be assigned again. An unknown name is refused with 25.
+    // The same parameter may be assigned again. An unknown name is refused with 25.
     void Bind(const std::string& name, const Value& value);
+    void Bind(std::span<const Parameter> parameters);
 
-    // Both refuse with 25 when a parameter was never assigned.
-    void Run();                            // refuses a statement that answers rows, with 1
-    std::shared_ptr<RecordSet> ReadRows(); // refuses a statement that answers none or that changes anything, with 1
+    // What Run refuses before it runs: with 25 parameters that were never assigned, with 1 a statement that answers rows.
+    void RefuseUnlessAction() const;
+    void Run();
+
+    // The next rows, up to so many; fewer only at their end. Refuses with 25 parameters that were never assigned, with 1 a statement that
+    // answers no rows or changes anything. Raises 7 for more rows than memory should hold.
+    std::shared_ptr<RecordSet> ReadRows(std::int32_t most = kAllRows, std::int32_t mostSteps = kMostSteps);
 
 private:
     struct Finalizer
     {
         void operator()(sqlite3_stmt* statement) const;
     };
+    class Limit;
 
     void RefuseMissingParameters() const;
     bool Step();
@@ -43,6 +65,7 @@ private:
     sqlite3* m_database;
     std::unique_ptr<sqlite3_stmt, Finalizer> m_statement;
     std::vector<bool> m_assigned; // by parameter, from 0
+    std::int32_t m_steps = 0;     // in millions, since the statement began
 };
 
 } // namespace ptk

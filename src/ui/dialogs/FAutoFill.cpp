@@ -1,6 +1,5 @@
 #include "ui/dialogs/FAutoFill.h"
 
-#include "model/CDateRange.h"
 #include "model/CTimeRecord.h"
 #include "model/CTimeRecordList.h"
 #include "model/PayPeriod.h"
@@ -29,11 +28,6 @@ bool IsMidnight(DateTime moment)
     return DateTime(DateTime().Date(), moment.Time()).IsZero();
 }
 
-DateTime Moment(DateTime day, const DateTimeBox& time)
-{
-    return ToDateTime(ShortDateText(day) + " " + time.Text().toStdString());
-}
-
 } // namespace
 
 FAutoFill::FAutoFill(ptk::Desktop& desktop, const Clock& clock, QWidget* parent)
@@ -45,6 +39,12 @@ FAutoFill::FAutoFill(ptk::Desktop& desktop, const Clock& clock, QWidget* parent)
         box->SetDate(clock.Today());
     }
     connect(m_ui->dttbTCFrom, &DateCombo::Changed, this, &FAutoFill::SetPeriodEndDate);
+    for (auto* box : {m_ui->dttbTCFrom, m_ui->dttbTCTo}) {
+        connect(box, &DateCombo::currentTextChanged, this, &FAutoFill::Forecast);
+    }
+    for (auto* box : {m_ui->dttbStartTime, m_ui->dttbEndTime}) {
+        connect(box, &DateTimeBox::textChanged, this, &FAutoFill::Forecast);
+    }
     connect(m_ui->cmdAutoShift, &QPushButton::clicked, this, &FAutoFill::AutoShift);
     connect(m_ui->cmdSave, &QPushButton::clicked, this, &FAutoFill::Save);
     connect(m_ui->cmdCancel, &QPushButton::clicked, this, &FAutoFill::reject);
@@ -72,49 +72,66 @@ DateTime FAutoFill::EndDate() const
     return ToDateTime(m_ui->dttbTCTo->Text().toStdString());
 }
 
+void FAutoFill::Announce(const std::string& owner, std::optional<DayNumbers> takenDays)
+{
+    m_ui->lblOwner->Say(QString::fromStdString(owner));
+    m_takenDays = std::move(takenDays);
+    Forecast();
+}
+
+FillTexts FAutoFill::Texts() const
+{
+    return {m_ui->dttbTCFrom->Text().toStdString(), m_ui->dttbTCTo->Text().toStdString(), m_ui->dttbStartTime->Text().toStdString(),
+            m_ui->dttbEndTime->Text().toStdString()};
+}
+
+void FAutoFill::Times(const FillTexts& value)
+{
+    m_ui->dttbStartTime->SetText(QString::fromStdString(value.startTime));
+    m_ui->dttbEndTime->SetText(QString::fromStdString(value.endTime));
+}
+
+void FAutoFill::Forecast()
+{
+    const FillTexts texts = Texts();
+    m_ui->lblForecast->Say(QString::fromStdString(FillForecast(PlanFill(texts), texts, m_takenDays)));
+}
+
 bool FAutoFill::LoadTimeRecordList()
 {
     try {
-        CDateRange range;
-        if (!ReadRange(range)) {
+        const FillPlan plan = PlanFill(Texts());
+        if (!MayFill(plan)) {
             return false;
         }
-        AddRecords(range);
+        Required(m_list);
+        for (const Shift& shift : plan.shifts) {
+            AddRecord(shift);
+        }
         return true;
     } catch (...) {
         return false;
     }
 }
 
-bool FAutoFill::ReadRange(CDateRange& range)
+// Of times that cannot be read no box tells, deliberately.
+bool FAutoFill::MayFill(const FillPlan& plan)
 {
-    const bool valid = range.ValidateRange(m_ui->dttbTCFrom->Text().toStdString(), m_ui->dttbTCTo->Text().toStdString());
-    if (!valid || range.ErrorNumber() == daterange::OutOfLimits) {
+    if (plan.refusal == FillRefusal::NoRange) {
         m_desktop.Show(timecardnotice::kInvalidRangeText, kRangeTitle, Icon::Exclamation);
-        return false;
     }
-    if (range.DayCount() < 1) {
+    if (plan.refusal == FillRefusal::TooShort) {
         m_desktop.Show(kPeriodText, kRangeTitle, Icon::Exclamation);
-        return false;
     }
-    return true;
+    return plan.refusal == FillRefusal::None;
 }
 
-void FAutoFill::AddRecords(const CDateRange& range)
-{
-    Required(m_list);
-    for (std::int32_t i = 0; i <= range.DayCount(); ++i) {
-        AddRecord(range.StartDate().AddDays(i));
-    }
-}
-
-// The end is on the same day also when it lies before the start.
-void FAutoFill::AddRecord(DateTime day)
+void FAutoFill::AddRecord(const Shift& shift)
 {
     const auto record = std::make_shared<CTimeRecord>();
     record->EmployeeID(m_employeeID);
-    record->StartTime(Moment(day, *m_ui->dttbStartTime));
-    record->EndTime(Moment(day, *m_ui->dttbEndTime));
+    record->StartTime(shift.start);
+    record->EndTime(shift.end);
     if (!m_list->AddNew(record)) {
         m_desktop.Show(kPeriodText, kRecordTitle, Icon::Exclamation);
     }

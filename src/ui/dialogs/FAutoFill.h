@@ -1,11 +1,14 @@
 // Makes one time record for every day of a date range, all with the same times of day.
 #pragma once
 
+#include "office/FillPlan.h"
 #include "platform/DateTime.h"
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <QDialog>
+#include <string>
 
 namespace Ui {
 class FAutoFill;
@@ -13,7 +16,6 @@ class FAutoFill;
 
 namespace ptk {
 
-class CDateRange;
 class Clock;
 class CTimeRecordList;
 class Desktop;
@@ -43,17 +45,24 @@ public:
     // deliberately. False when none were made: with a message for a wrong range, without one for times that cannot be read.
     bool LoadTimeRecordList();
 
+    // A line that says whose the records will be, and one that follows the dates and times with what Save will do. takenDays: those that
+    // already have records of that employee, none when that is not known.
+    void Announce(const std::string& owner, std::optional<DayNumbers> takenDays);
+    FillTexts Texts() const;
+    void Times(const FillTexts& value); // puts its times back into their boxes
+
 private:
-    bool ReadRange(CDateRange& range);
-    void AddRecords(const CDateRange& range);
-    void AddRecord(DateTime day);
+    bool MayFill(const FillPlan& plan);
+    void AddRecord(const Shift& shift);
     bool SetPeriodEndDate();
     void AutoShift();
     void Save();
+    void Forecast();
 
     std::unique_ptr<Ui::FAutoFill> m_ui;
     ptk::Desktop& m_desktop;
     std::shared_ptr<CTimeRecordList> m_list;
+    std::optional<DayNumbers> m_takenDays;
     DateTime m_autoShiftStart;
     DateTime m_autoShiftEnd;
     std::int16_t m_employeeID = 0;

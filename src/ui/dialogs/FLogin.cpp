@@ -10,6 +10,7 @@
 #include "ui_FLogin.h"
 
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QProxyStyle>
 
 namespace ptk {
@@ -114,6 +115,15 @@ void FLogin::reject()
 {
     m_loginValid = false;
     QDialog::reject();
+}
+
+void FLogin::keyPressEvent(QKeyEvent* event)
+{
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (enter && m_ui->txtName->hasFocus() && !m_ui->txtName->text().isEmpty() && m_ui->txtPassword->text().isEmpty()) {
+        return m_ui->txtPassword->setFocus();
+    }
+    QDialog::keyPressEvent(event);
 }
 
 void FLogin::closeEvent(QCloseEvent* event)

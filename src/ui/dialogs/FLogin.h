@@ -33,6 +33,7 @@ public:
     void reject() override; // Cancel, Escape and the close box
 
 protected:
+    void keyPressEvent(QKeyEvent* event) override; // Enter after the name goes on to an empty password
     void closeEvent(QCloseEvent* event) override;
 
 private:

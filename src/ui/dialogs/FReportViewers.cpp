@@ -30,33 +30,48 @@ std::shared_ptr<ReportViewerWindow> NewWindow(ReportKind kind)
 
 } // namespace
 
+QtViewerFactory::QtViewerFactory(std::function<void(const std::string&)> log) : m_log(std::move(log)) {}
+
 std::shared_ptr<ReportViewer> QtViewerFactory::CreateViewer(ReportKind kind)
 {
     std::erase_if(m_open, [](const auto& viewer) { return viewer.expired(); });
     auto window = NewWindow(kind);
+    QObject::connect(window.get(), &ReportViewerWindow::Failed, window.get(),
+                     [log = m_log](const QString& line) { log(line.toStdString()); });
     m_open.push_back(window);
     return window;
 }
 
+std::vector<std::shared_ptr<ReportViewerWindow>> QtViewerFactory::Shown() const
+{
+    return Those([](const ReportViewerWindow& window) { return window.isVisible(); });
+}
+
 void QtViewerFactory::ClosePrinted()
 {
-    CloseThose([](const ReportViewerWindow& window) { return window.Printed(); });
+    for (const auto& window : Those([](const ReportViewerWindow& each) { return each.Printed(); })) {
+        window->LetGo();
+    }
 }
 
 void QtViewerFactory::CloseAll()
 {
-    CloseThose([](const ReportViewerWindow&) { return true; });
+    for (const auto& window : Those([](const ReportViewerWindow&) { return true; })) {
+        window->LetGo();
+    }
 }
 
 template <typename Condition>
-void QtViewerFactory::CloseThose(Condition condition)
+std::vector<std::shared_ptr<ReportViewerWindow>> QtViewerFactory::Those(Condition condition) const
 {
+    std::vector<std::shared_ptr<ReportViewerWindow>> those;
     for (const auto& open : m_open) {
-        const auto window = open.lock();
+        auto window = open.lock();
         if (window != nullptr && condition(*window)) {
-            window->LetGo();
+            those.push_back(std::move(window));
         }
     }
+    return those;
 }
 
 } // namespace ptk

@@ -3,7 +3,9 @@
 
 #include "ui/dialogs/ReportViewerWindow.h"
 
+#include <functional>
 #include <memory>
+#include <string>
 #include <vector>
 
 namespace ptk {
@@ -42,14 +44,18 @@ public:
 class QtViewerFactory final : public ReportViewerFactory
 {
 public:
+    explicit QtViewerFactory(std::function<void(const std::string&)> log); // takes the lines that a viewer has for the session log
+
     std::shared_ptr<ReportViewer> CreateViewer(ReportKind kind) override;
-    void ClosePrinted(); // those that printing has hidden
+    std::vector<std::shared_ptr<ReportViewerWindow>> Shown() const; // the longest open first
+    void ClosePrinted();                                            // those that printing has hidden
     void CloseAll();
 
 private:
     template <typename Condition>
-    void CloseThose(Condition condition);
+    std::vector<std::shared_ptr<ReportViewerWindow>> Those(Condition condition) const;
 
+    std::function<void(const std::string&)> m_log;
     std::vector<std::weak_ptr<ReportViewerWindow>> m_open;
 };
 

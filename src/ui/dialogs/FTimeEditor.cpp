@@ -3,6 +3,7 @@
 #include "model/CTimeRecord.h"
 #include "platform/Clock.h"
 #include "platform/Desktop.h"
+#include "platform/Succeeds.h"
 #include "platform/Text.h"
 #include "ui/dialogs/TimeRecordReceiver.h"
 #include "ui_FTimeEditor.h"
@@ -38,11 +39,6 @@ QString TimeText(DateTime moment)
     return QString::fromStdString(GeneralText(DateTime(DateTime().Date(), moment.Time())));
 }
 
-DateTime Moment(const DateTimeBox& date, const DateTimeBox& time)
-{
-    return ToDateTime((date.Text() + " " + time.Text()).toStdString());
-}
-
 } // namespace
 
 FTimeEditor::FTimeEditor(ptk::Desktop& desktop, const Clock& clock, QWidget* parent)
@@ -51,17 +47,25 @@ FTimeEditor::FTimeEditor(ptk::Desktop& desktop, const Clock& clock, QWidget* par
     m_ui->setupUi(this);
     m_ui->dttbStartDate->SetDateMode(clock);
     m_ui->dttbEndDate->SetDateMode(clock);
-    for (auto* box : {m_ui->dttbStartDate, m_ui->dttbStartTime, m_ui->dttbEndDate, m_ui->dttbEndTime}) {
+    for (auto* box : Boxes()) {
         connect(box, &DateTimeBox::KeyEntered, this, [this] { m_modified = true; });
+        connect(box, &DateTimeBox::textChanged, this, &FTimeEditor::Warn);
     }
-    connect(m_ui->dttbStartTime, &DateTimeBox::Changed, this, &FTimeEditor::UpdateTotal);
-    connect(m_ui->dttbEndTime, &DateTimeBox::Changed, this, &FTimeEditor::UpdateTotal);
+    for (auto* box : {m_ui->dttbStartTime, m_ui->dttbEndTime}) {
+        connect(box, &DateTimeBox::Typed, this, &FTimeEditor::FollowTyping);
+        connect(box, &DateTimeBox::Changed, this, &FTimeEditor::UpdateTotal);
+    }
     connect(m_ui->cmdAutoShift, &QPushButton::clicked, this, &FTimeEditor::AutoShift);
     connect(m_ui->cmdSave, &QPushButton::clicked, this, &FTimeEditor::Save);
     connect(m_ui->cmdCancel, &QPushButton::clicked, this, &FTimeEditor::reject);
 }
 
 FTimeEditor::~FTimeEditor() = default;
+
+std::array<DateTimeBox*, 4> FTimeEditor::Boxes() const
+{
+    return {m_ui->dttbStartDate, m_ui->dttbStartTime, m_ui->dttbEndDate, m_ui->dttbEndTime};
+}
 
 void FTimeEditor::TimeRecord(std::shared_ptr<CTimeRecord> value)
 {
@@ -77,9 +81,41 @@ bool FTimeEditor::SetAutoShiftTimes(DateTime thestarttime, DateTime theendtime)
     return false;
 }
 
+void FTimeEditor::Owner(const std::string& text)
+{
+    m_ui->lblOwner->Say(QString::fromStdString(text));
+}
+
+void FTimeEditor::WarnAsNew(std::optional<PayPeriod> shown)
+{
+    m_isNew = true;
+    m_shownPeriod = shown;
+    Warn();
+}
+
+void FTimeEditor::Warn()
+{
+    m_ui->lblWarning->Say(m_isNew ? QString::fromStdString(NewRecordWarning(Texts(), m_shownPeriod)) : QString());
+}
+
+RecordTexts FTimeEditor::Texts() const
+{
+    const auto text = [](const DateTimeBox* box) { return box->Text().toStdString(); };
+    return {text(m_ui->dttbStartDate), text(m_ui->dttbStartTime), text(m_ui->dttbEndDate), text(m_ui->dttbEndTime)};
+}
+
+void FTimeEditor::Texts(const RecordTexts& value)
+{
+    const std::array<const std::string*, 4> texts{&value.startDate, &value.startTime, &value.endDate, &value.endTime};
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        Boxes().at(i)->SetText(QString::fromStdString(*texts.at(i)));
+    }
+    FollowTyping();
+}
+
 void FTimeEditor::ClearControls()
 {
-    for (auto* box : {m_ui->dttbStartDate, m_ui->dttbStartTime, m_ui->dttbEndDate, m_ui->dttbEndTime}) {
+    for (auto* box : Boxes()) {
         box->Clear();
     }
     m_ui->txtTotalTime->clear();
@@ -102,6 +138,9 @@ void FTimeEditor::ShowTimeRecord()
 // The same words whatever the cause, deliberately; a start that was read before the end failed stays in the record.
 bool FTimeEditor::ReadTimeRecord()
 {
+    for (auto* box : Boxes()) {
+        box->TakeNote();
+    }
     try {
         ReadTimes();
         return true;
@@ -116,8 +155,9 @@ void FTimeEditor::ReadTimes()
     if (m_timeRecord == nullptr) {
         m_timeRecord = std::make_shared<CTimeRecord>();
     }
-    m_timeRecord->StartTime(Moment(*m_ui->dttbStartDate, *m_ui->dttbStartTime));
-    m_timeRecord->EndTime(Moment(*m_ui->dttbEndDate, *m_ui->dttbEndTime));
+    const RecordTexts texts = Texts();
+    m_timeRecord->StartTime(texts.Start());
+    m_timeRecord->EndTime(texts.End());
 }
 
 void FTimeEditor::ShowTotal()
@@ -127,13 +167,29 @@ void FTimeEditor::ShowTotal()
     }
 }
 
+bool FTimeEditor::HasBothTimes() const
+{
+    return !m_ui->dttbStartTime->Text().isEmpty() && !m_ui->dttbEndTime->Text().isEmpty();
+}
+
+// Without a box, which would take the next key: what is wrong is told when the time box is left.
+void FTimeEditor::FollowTyping()
+{
+    const auto read = [this] {
+        ReadTimes();
+        return true;
+    };
+    if (HasBothTimes() && Succeeds(read)) {
+        ShowTotal();
+    }
+}
+
 void FTimeEditor::UpdateTotal()
 {
-    if (m_ui->dttbStartTime->Text().isEmpty() || m_ui->dttbEndTime->Text().isEmpty()) {
-        return;
+    if (HasBothTimes()) {
+        ReadTimeRecord();
+        ShowTotal();
     }
-    ReadTimeRecord();
-    ShowTotal();
 }
 
 void FTimeEditor::AutoShift()

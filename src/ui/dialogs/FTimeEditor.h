@@ -1,11 +1,15 @@
 // The editor of one time record.
 #pragma once
 
+#include "office/NewRecord.h"
 #include "platform/DateTime.h"
 
+#include <array>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <QDialog>
+#include <string>
 
 namespace Ui {
 class FTimeEditor;
@@ -15,6 +19,7 @@ namespace ptk {
 
 class Clock;
 class CTimeRecord;
+class DateTimeBox;
 class Desktop;
 class TimeRecordReceiver;
 
@@ -33,13 +38,22 @@ public:
     std::shared_ptr<CTimeRecord> TimeRecord() const { return m_timeRecord; }
     bool SetAutoShiftTimes(DateTime thestarttime, DateTime theendtime); // only the times of day matter; deliberately always false
 
+    void Owner(const std::string& text);            // a line that says whose the record will be
+    void WarnAsNew(std::optional<PayPeriod> shown); // warns, in a line, of a new record that the card of that period would not show
+    RecordTexts Texts() const;                      // what stands in the boxes
+    void Texts(const RecordTexts& value);           // puts it back there, unreadable texts included
+
 private:
+    std::array<DateTimeBox*, 4> Boxes() const;
     void ClearControls();
     void ShowTimeRecord();
     bool ReadTimeRecord();
     void ReadTimes();
-    void ShowTotal();
+    bool HasBothTimes() const;
+    void FollowTyping();
     void UpdateTotal();
+    void ShowTotal();
+    void Warn();
     void AutoShift();
     void Save();
 
@@ -50,6 +64,8 @@ private:
     std::shared_ptr<CTimeRecord> m_timeRecord;
     DateTime m_autoShiftStart;
     DateTime m_autoShiftEnd;
+    std::optional<PayPeriod> m_shownPeriod;
+    bool m_isNew = false;
     bool m_modified = false;            // typed into since it was shown; nothing depends on it
     std::int32_t m_saveErrorNumber = 0; // 608 when the record was rejected; nothing depends on it
 };

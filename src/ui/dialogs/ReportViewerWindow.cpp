@@ -1,5 +1,6 @@
 #include "ui/dialogs/ReportViewerWindow.h"
 
+#include "office/ReportRun.h"
 #include "reports/Report.h"
 #include "ui/widgets/WindowPlace.h"
 #include "ui_ReportViewerWindow.h"
@@ -22,11 +23,12 @@ namespace ptk {
 namespace {
 
 constexpr auto kNotFound = "Not found";
-constexpr auto kIncomplete = "This report is not complete: error %1.";
+constexpr auto kNotPrinted = "Not printed. Check that a printer is set up and that the report's file is still there.";
+constexpr auto kNotPrintedLog = "Not printed: %1";
 
 constexpr int kTabWidth = 8;      // characters, as the reports' columns are made for
 constexpr int kFirstColumns = 84; // the 72 characters of a rule and some air
-constexpr int kFirstLines = 36;
+constexpr int kFirstLines = 44;   // of a card of fifteen shifts with its signatures; a longer report opens higher
 constexpr double kSmallestPoints = 5;
 constexpr double kLargestPoints = 48;
 constexpr int kCascadeStep = 32; // about a title bar
@@ -58,7 +60,6 @@ ReportViewerWindow::ReportViewerWindow(const QString& name) : m_ui(std::make_uni
     m_ui->setupUi(this);
     setObjectName(name);
     m_ui->pnlFind->hide();
-    m_ui->lblNotice->clear();
     m_ui->txtReport->viewport()->installEventFilter(this);
     m_ui->txtReport->setFont(ReportFont());
     m_firstPointSize = m_ui->txtReport->font().pointSizeF();
@@ -130,6 +131,12 @@ void ReportViewerWindow::Show()
     ShowNotice();
     Place();
     show();
+    BringUp();
+}
+
+void ReportViewerWindow::BringUp()
+{
+    setWindowState(windowState() & ~Qt::WindowMinimized);
     raise();
     activateWindow();
 }
@@ -137,24 +144,38 @@ void ReportViewerWindow::Show()
 // A report that lost lines answers well and would otherwise pass for whole.
 void ReportViewerWindow::ShowNotice()
 {
-    const std::int32_t error = m_controller == nullptr ? 0 : m_controller->ErrorNumber();
-    m_ui->lblNotice->setText(error == 0 ? QString() : QString(kIncomplete).arg(error));
+    if (m_controller != nullptr) {
+        m_ui->notice->Say(QString::fromStdString(DescribeGaps(m_controller->ErrorNumber(), m_controller->Missing())));
+    }
 }
 
 void ReportViewerWindow::Place()
 {
-    const QFontMetrics metrics(m_ui->txtReport->font());
-    RestorePlace(*this, objectName(), QSize(kFirstColumns * metrics.horizontalAdvance('0'), kFirstLines * metrics.lineSpacing()));
-    const QRect room = screen()->availableGeometry();
+    RestorePlace(*this, objectName(), FirstSize());
+    m_placed = size();
+    const QRect room = RoomFor(*this);
     for (int tries = 0; tries < 100 && StandsOnAnother(*this); ++tries) {
         const QRect next = frameGeometry().translated(kCascadeStep, kCascadeStep);
-        move(room.contains(next) ? next.topLeft() : QPoint(std::min(next.left(), room.right() - kCascadeStep), room.top()));
+        move(next.right() > room.right() ? room.left() : next.left(), next.bottom() > room.bottom() ? room.top() : next.top());
     }
 }
 
+// The whole report where the screen allows it, which RestorePlace sees to.
+QSize ReportViewerWindow::FirstSize() const
+{
+    const QFontMetrics metrics(m_ui->txtReport->font());
+    const int lines = std::max(kFirstLines, m_ui->txtReport->document()->blockCount());
+    const int around = m_ui->layout->totalSizeHint().height() - m_ui->txtReport->sizeHint().height();
+    const int margins = 2 * static_cast<int>(m_ui->txtReport->document()->documentMargin() + m_ui->txtReport->frameWidth());
+    return {kFirstColumns * metrics.horizontalAdvance('0'), lines * metrics.lineSpacing() + margins + around};
+}
+
+// A size that the user has chosen is for all windows of this kind; otherwise each fits its own report.
 void ReportViewerWindow::Hide()
 {
-    StorePlace(*this, objectName());
+    if (size() != m_placed) {
+        StorePlace(*this, objectName());
+    }
     hide();
 }
 
@@ -180,13 +201,19 @@ void ReportViewerWindow::LetGo()
     report->UnloadReportWindow();
 }
 
-void ReportViewerWindow::Print()
+bool ReportViewerWindow::Print()
 {
-    if (m_controller == nullptr || !m_controller->PrintReport()) {
-        return;
+    if (m_controller == nullptr) {
+        return false;
+    }
+    if (!m_controller->PrintReport()) {
+        m_ui->notice->Say(kNotPrinted);
+        emit Failed(QString(kNotPrintedLog).arg(windowTitle()));
+        return false;
     }
     m_printed = true;
     Hide();
+    return true;
 }
 
 void ReportViewerWindow::Escape()

@@ -30,8 +30,13 @@ public:
     void Hide() override;
     void Unload() override;
 
+    void BringUp();                            // to the front
+    bool Print();                              // hides the window when the printer has taken the report, and says so in its line when not
     void LetGo();                              // what closing does: hides the window and unloads its report, once
     bool Printed() const { return m_printed; } // hidden by printing, where nobody can close it
+
+signals:
+    void Failed(const QString& line); // for the session log
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -39,7 +44,6 @@ protected:
 
 private:
     void ConnectControls();
-    void Print();
     void Escape(); // leaves the find bar, then the window
 
     void ShowFindBar(bool shown);
@@ -49,12 +53,14 @@ private:
     void ShowText();
     void ShowNotice();
     void Place();
+    QSize FirstSize() const;
 
     std::unique_ptr<Ui::ReportViewerWindow> m_ui;
     std::shared_ptr<Report> m_controller;
     std::string m_lines; // written and not yet in the text box
     double m_firstPointSize = 0;
     bool m_printed = false;
+    QSize m_placed; // as it was opened
 };
 
 } // namespace ptk

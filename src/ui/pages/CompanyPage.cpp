@@ -2,16 +2,18 @@
 
 #include "model/CCompany.h"
 #include "model/CCompanyList.h"
+#include "office/CompanyTexts.h"
 #include "office/ListEdit.h"
 #include "platform/BusyPointer.h"
 #include "platform/Desktop.h"
 #include "platform/Required.h"
-#include "platform/Text.h"
 #include "startup/CController.h"
 #include "store/CJetDB.h"
+#include "ui/pages/OfferLeft.h"
 #include "ui/pages/PageHost.h"
 #include "ui/widgets/BoxText.h"
 #include "ui/widgets/ChosenOnly.h"
+#include "ui/widgets/FieldWidth.h"
 #include "ui_CompanyPage.h"
 
 namespace ptk {
@@ -24,30 +26,41 @@ constexpr auto kNotFound = "This company could not be found in the list. Save Ab
 constexpr auto kNotRead = "An error occurred while loading the company object.";
 constexpr auto kNotSaved = "An error occurred while saving the company list.";
 
-constexpr int kIDCharacters = 8;
-constexpr int kNameCharacters = 20;
+constexpr auto kSaved = " saved";
+constexpr auto kSavedUnread = " saved, but the companies could not be read again";
+constexpr auto kNotInList = " is not in the list any more";
+
+constexpr int kIDCharacters = 5;
+constexpr int kNameCharacters = 7; // at the least
 
 } // namespace
 
 CompanyPage::CompanyPage(PageHost& host, QWidget* parent) : QWidget(parent), m_host(host), m_ui(std::make_unique<Ui::CompanyPage>())
 {
     m_ui->setupUi(this);
+    FitFields();
     PrepareLists();
     ConnectButtons();
 }
 
 CompanyPage::~CompanyPage() = default;
 
+std::array<CompanyPage::KeyList, 2> CompanyPage::KeyLists() const
+{
+    return {{{m_ui->cboCompanyID, &CompanyTexts::id, eventsource::ID, kIDCharacters},
+             {m_ui->cboCompanyName, &CompanyTexts::name, eventsource::Name, kNameCharacters}}};
+}
+
 void CompanyPage::PrepareLists()
 {
-    const auto prepare = [this](QComboBox* box, std::int32_t eventSource, int characters) {
-        box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-        box->setMinimumContentsLength(characters);
-        ChooseOnlyDeliberately(*box);
-        connect(box, &QComboBox::activated, this, [this, box, eventSource] { Select(eventSource, *box); });
-    };
-    prepare(m_ui->cboCompanyID, eventsource::ID, kIDCharacters);
-    prepare(m_ui->cboCompanyName, eventsource::Name, kNameCharacters);
+    for (const KeyList& list : KeyLists()) {
+        list.box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        list.box->setMinimumContentsLength(list.characters);
+        ChooseOnlyDeliberately(*list.box);
+        connect(list.box, &QComboBox::activated, this, [this, list] { Select(list); });
+    }
+    connect(m_ui->cboCompanyName->lineEdit(), &QLineEdit::textEdited, this,
+            [this](const QString& text) { m_texts.Type(&CompanyTexts::name, text.toStdString()); });
 }
 
 void CompanyPage::ConnectButtons()
@@ -55,6 +68,16 @@ void CompanyPage::ConnectButtons()
     connect(m_ui->cmdCompanyNew, &QPushButton::clicked, this, &CompanyPage::StartAnew);
     connect(m_ui->cmdCompanySave, &QPushButton::clicked, this, &CompanyPage::Save);
     connect(m_ui->cmdCompanyCancel, &QPushButton::clicked, this, &CompanyPage::StartAnew);
+}
+
+void CompanyPage::FitFields()
+{
+    LimitWidth(*m_ui->fieldArea, fieldwidth::Page);
+    LimitWidth(*m_ui->txtCompanyState, fieldwidth::State);
+    LimitWidth(*m_ui->txtCompanyZip, fieldwidth::Zip);
+    for (auto* box : {m_ui->txtCompanyPhone, m_ui->txtCompanyFax, m_ui->txtFederalTaxID}) {
+        LimitWidth(*box, fieldwidth::Phone);
+    }
 }
 
 bool CompanyPage::FillCompanyLists()
@@ -68,139 +91,167 @@ bool CompanyPage::FillCompanyLists()
     m_ui->cboCompanyName->clear();
     for (std::int32_t i = 1; i <= list->Count(); ++i) {
         const auto company = list->Item(i);
-        m_ui->cboCompanyID->addItem(QString::number(company->CompanyID()));
-        m_ui->cboCompanyName->addItem(QString::fromStdString(company->CompanyName()));
+        m_ui->cboCompanyID->addItem(QString::number(company->CompanyID()), company->CompanyID());
+        m_ui->cboCompanyName->addItem(QString::fromStdString(company->CompanyName()), company->CompanyID());
     }
     m_ui->cboCompanyID->setCurrentIndex(-1);
     m_ui->cboCompanyName->setCurrentIndex(-1);
     return true;
 }
 
-void CompanyPage::Select(std::int32_t eventSource, const QComboBox& box)
+void CompanyPage::Select(const KeyList& list)
 {
-    const QString text = box.currentText();
-    if (text.isEmpty()) {
+    if (list.box->currentText().isEmpty()) {
         return;
     }
-    m_host.EventSource(eventSource);
-    if (const auto company = Find(eventSource, text); company != nullptr) {
-        ShowSelection(*company);
+    m_host.EventSource(list.eventSource);
+    LeaveBehind(m_texts.LeftByChoice(ReadTexts(), list.text));
+    if (const auto company = ChosenIn(*list.box); company != nullptr) {
+        ShowCompany(company);
+        ShowStatus(*company);
     } else {
         ClearCompanyFields();
     }
     m_host.EventSource(eventsource::None);
 }
 
-std::shared_ptr<CCompany> CompanyPage::Find(std::int32_t eventSource, const QString& text) const
+void CompanyPage::ShowStatus(const CCompany& company)
 {
-    try {
-        const std::string wanted = text.toStdString();
-        return eventSource == eventsource::ID ? List()->GetCompanyByID(ToInt32(wanted)) : List()->GetCompanyByName(wanted);
-    } catch (...) {
-        return nullptr; // text that is no number names no company
-    }
-}
-
-void CompanyPage::ShowSelection(const CCompany& company)
-{
-    ShowCompany(std::make_shared<CCompany>(company));
     m_host.SetStatusText(company.CompanyName(), "Phone: " + company.Phone());
 }
 
-// Both lists stand on the row of the shown ID, so that companies of one name are not mixed up.
+// By the row's own ID: of companies of one name each is found.
+std::shared_ptr<CCompany> CompanyPage::ChosenIn(const QComboBox& box) const
+{
+    try {
+        return List()->GetCompanyByID(box.currentData().toInt());
+    } catch (...) {
+        return nullptr;
+    }
+}
+
 bool CompanyPage::ShowCompany(const std::shared_ptr<CCompany>& thecompany)
 {
     if (thecompany == nullptr) {
         return false;
     }
-    const int row = m_ui->cboCompanyID->findText(QString::number(thecompany->CompanyID()));
-    m_ui->cboCompanyID->setCurrentIndex(row);
-    m_ui->cboCompanyName->setCurrentIndex(row);
-    ShowText(m_ui->txtCompanyAddr1, thecompany->Address1());
-    ShowText(m_ui->txtCompanyAddr2, thecompany->Address2());
-    ShowText(m_ui->txtCompanyCity, thecompany->City());
-    ShowText(m_ui->txtCompanyState, thecompany->State());
-    ShowText(m_ui->txtCompanyZip, thecompany->ZipCode());
-    ShowText(m_ui->txtCompanyPhone, thecompany->Phone());
-    ShowText(m_ui->txtCompanyFax, thecompany->Fax());
-    ShowText(m_ui->txtFederalTaxID, thecompany->FederalTaxID());
+    Fill(ShowCompanyTexts(*thecompany));
     return true;
 }
 
-void CompanyPage::ReadCompanyFields(CCompany& company) const
+// Both lists stand on the row of the shown ID, so that companies of one name are not mixed up.
+void CompanyPage::Fill(const CompanyTexts& texts)
 {
-    company.CompanyName(m_ui->cboCompanyName->currentText().toStdString());
-    company.Address1(TextOf(m_ui->txtCompanyAddr1));
-    company.Address2(TextOf(m_ui->txtCompanyAddr2));
-    company.City(TextOf(m_ui->txtCompanyCity));
-    company.State(TextOf(m_ui->txtCompanyState));
-    company.ZipCode(TextOf(m_ui->txtCompanyZip));
-    company.Phone(TextOf(m_ui->txtCompanyPhone));
-    company.Fax(TextOf(m_ui->txtCompanyFax));
-    company.FederalTaxID(TextOf(m_ui->txtFederalTaxID));
+    const int row = m_ui->cboCompanyID->findText(QString::fromStdString(texts.id));
+    m_ui->cboCompanyID->setCurrentIndex(row);
+    m_ui->cboCompanyName->setCurrentIndex(row);
+    ShowText(m_ui->cboCompanyName->lineEdit(), texts.name);
+    ShowText(m_ui->txtCompanyAddr1, texts.address1);
+    ShowText(m_ui->txtCompanyAddr2, texts.address2);
+    ShowText(m_ui->txtCompanyCity, texts.city);
+    ShowText(m_ui->txtCompanyState, texts.state);
+    ShowText(m_ui->txtCompanyZip, texts.zip);
+    ShowText(m_ui->txtCompanyPhone, texts.phone);
+    ShowText(m_ui->txtCompanyFax, texts.fax);
+    ShowText(m_ui->txtFederalTaxID, texts.federalTaxID);
+    m_texts.Show(ReadTexts());
+}
+
+CompanyTexts CompanyPage::ReadTexts() const
+{
+    return {.id = m_ui->cboCompanyID->currentText().toStdString(),
+            .name = TextOf(m_ui->cboCompanyName->lineEdit()),
+            .address1 = TextOf(m_ui->txtCompanyAddr1),
+            .address2 = TextOf(m_ui->txtCompanyAddr2),
+            .city = TextOf(m_ui->txtCompanyCity),
+            .state = TextOf(m_ui->txtCompanyState),
+            .zip = TextOf(m_ui->txtCompanyZip),
+            .phone = TextOf(m_ui->txtCompanyPhone),
+            .fax = TextOf(m_ui->txtCompanyFax),
+            .federalTaxID = TextOf(m_ui->txtFederalTaxID)};
 }
 
 bool CompanyPage::ClearCompanyFields()
 {
-    ShowCompany(std::make_shared<CCompany>());
-    m_ui->cboCompanyName->clearEditText();
+    Fill({});
     return true;
 }
 
 void CompanyPage::StartAnew()
 {
+    LeaveBehind(m_texts.Left(ReadTexts()));
     ClearCompanyFields();
     m_ui->cboCompanyName->setFocus();
 }
 
+void CompanyPage::LeaveBehind(const std::optional<LeftBehind<CompanyTexts>>& left)
+{
+    OfferLeft(*m_ui->notice, left, [this](const LeftBehind<CompanyTexts>& texts) { BringBack(texts); });
+}
+
+// What stands on the page by then may have to be brought back in its turn.
+void CompanyPage::BringBack(const LeftBehind<CompanyTexts>& left)
+{
+    if (!left.shown.id.empty() && m_ui->cboCompanyID->findText(QString::fromStdString(left.shown.id)) < 0) {
+        return m_ui->notice->Say(QString::fromStdString(left.shown.name + kNotInList));
+    }
+    LeaveBehind(m_texts.Left(ReadTexts()));
+    Fill(left.typed);
+    m_texts.BringBack(left);
+    if (const auto company = ChosenIn(*m_ui->cboCompanyID); company != nullptr) {
+        ShowStatus(*company);
+    }
+}
+
 void CompanyPage::Save()
 {
-    if (m_ui->cboCompanyName->currentText().isEmpty()) {
+    m_ui->notice->Remark({});
+    const CompanyTexts texts = ReadTexts();
+    if (texts.name.empty()) {
         return (void)m_host.Desktop().Show(kNoName, kSaveTitle, Icon::Exclamation);
     }
     try {
-        SaveFields();
+        SaveTexts(texts);
     } catch (...) {
         m_host.Desktop().Show(kNotRead, listedit::kSaveTitle, Icon::Exclamation);
     }
 }
 
-void CompanyPage::SaveFields()
+void CompanyPage::SaveTexts(const CompanyTexts& texts)
 {
     const auto list = List();
-    const auto edited = CopyToEdit<CCompany>(*list, m_ui->cboCompanyID->currentText().toStdString(),
-                                             [](const CCompany& company) { return company.CompanyID(); });
+    const auto edited = CopyToEdit<CCompany>(*list, texts.id, [](const CCompany& company) { return company.CompanyID(); });
     if (!edited) {
         return (void)m_host.Desktop().Show(kNotFound, listedit::kNotFoundTitle, Icon::Exclamation);
     }
-    ReadCompanyFields(*edited->entity);
+    ReadCompanyTexts(texts, *edited->entity);
     if (SaveOrTell(m_host.Desktop(), *list, *edited, kNotSaved)) {
-        Reload();
+        const bool read = Reload();
+        m_ui->notice->Say(QString::fromStdString(texts.name + (read ? kSaved : kSavedUnread)));
     }
 }
 
-void CompanyPage::Reload()
+bool CompanyPage::Reload()
 {
     const BusyPointer busy(m_host.Desktop());
-    if (!Required(m_host.Controller())->GetCompanyList()) {
-        ReloadAfresh();
-    }
+    const bool read = Required(m_host.Controller())->GetCompanyList() || ReloadAfresh();
     if (!FillCompanyLists()) {
         m_host.ErrorNumber(windowerror::FillListsFailed);
     }
     ClearCompanyFields();
+    return read;
 }
 
 // Once an operation has found the database closed, the program's access to it lists no companies any more, and leaves it open on the way. A
 // new access knows nothing of that.
-void CompanyPage::ReloadAfresh()
+bool CompanyPage::ReloadAfresh()
 {
     const auto stale = Required(Required(m_host.Controller())->PTKDatabase());
     stale->CloseDB();
     const auto fresh = std::make_shared<CJetDB>(std::string());
     fresh->DatabaseName(stale->DatabaseName());
     List()->Destroy();
-    List()->LoadList(fresh);
+    return List()->LoadList(fresh);
 }
 
 std::shared_ptr<CCompanyList> CompanyPage::List() const

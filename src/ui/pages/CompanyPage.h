@@ -1,6 +1,10 @@
 // The Company page: finds, shows, adds and changes companies.
 #pragma once
 
+#include "office/CompanyTexts.h"
+#include "office/LeftBehind.h"
+
+#include <array>
 #include <cstdint>
 #include <memory>
 #include <QWidget>
@@ -31,24 +35,39 @@ public:
     bool ShowCompany(const std::shared_ptr<CCompany>& thecompany); // false for nullptr
 
 private:
+    struct KeyList
+    {
+        QComboBox* box;
+        std::string CompanyTexts::*text;
+        std::int32_t eventSource;
+        int characters;
+    };
+
+    std::array<KeyList, 2> KeyLists() const;
     void PrepareLists();
     void ConnectButtons();
+    void FitFields();
 
-    void Select(std::int32_t eventSource, const QComboBox& box);
-    std::shared_ptr<CCompany> Find(std::int32_t eventSource, const QString& text) const;
-    void ShowSelection(const CCompany& company);
-    void ReadCompanyFields(CCompany& company) const;
+    void Select(const KeyList& list);
+    std::shared_ptr<CCompany> ChosenIn(const QComboBox& box) const; // nullptr also for one that has left the list
+    void ShowStatus(const CCompany& company);
+    void Fill(const CompanyTexts& texts);
 
     void StartAnew();
-    void Save();
-    void SaveFields();
-    void Reload();
-    void ReloadAfresh();
+    void LeaveBehind(const std::optional<LeftBehind<CompanyTexts>>& left);
+    void BringBack(const LeftBehind<CompanyTexts>& left);
 
+    void Save();
+    void SaveTexts(const CompanyTexts& texts);
+    bool Reload(); // whether the companies could be read again
+    bool ReloadAfresh();
+
+    CompanyTexts ReadTexts() const;
     std::shared_ptr<CCompanyList> List() const; // raises Failure 91 when there is none
 
     PageHost& m_host;
     std::unique_ptr<Ui::CompanyPage> m_ui;
+    TypedTexts<CompanyTexts> m_texts;
 };
 
 } // namespace ptk

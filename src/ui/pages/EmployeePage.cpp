@@ -4,15 +4,19 @@
 #include "model/CEmployeeList.h"
 #include "office/EmployeeTexts.h"
 #include "office/ListEdit.h"
+#include "office/SharedNumbers.h"
 #include "platform/BusyPointer.h"
 #include "platform/Desktop.h"
 #include "platform/Required.h"
-#include "platform/Text.h"
+#include "platform/Succeeds.h"
 #include "startup/CController.h"
+#include "ui/pages/OfferLeft.h"
 #include "ui/pages/PageHost.h"
 #include "ui/widgets/BoxText.h"
 #include "ui/widgets/ChosenOnly.h"
 #include "ui/widgets/EmployeeModels.h"
+#include "ui/widgets/FieldWidth.h"
+#include "ui/widgets/ThemeIcon.h"
 #include "ui_EmployeePage.h"
 
 namespace ptk {
@@ -30,8 +34,17 @@ constexpr auto kNotFound = "This employee could not be found in the list. Save A
 constexpr auto kNotRead = "An error occurred while loading the employee object.";
 constexpr auto kNotSaved = "An error occurred while saving the employee list.";
 
-constexpr int kIDCharacters = 8;
-constexpr int kNameCharacters = 20;
+constexpr auto kSaved = " saved";
+constexpr auto kSavedUnread = " saved, but the employees could not be read again";
+constexpr auto kNotInList = " is not in the list any more";
+constexpr auto kShowTip = "Show the password";
+constexpr auto kHideTip = "Hide the password";
+
+// A box has room for an icon besides: these hold up to 8, 11 and 10 digits.
+constexpr int kIDCharacters = 5;
+constexpr int kSSNCharacters = 8;
+constexpr int kNumberCharacters = 7;
+constexpr int kNameCharacters = 7; // at the least
 
 } // namespace
 
@@ -41,37 +54,66 @@ EmployeePage::EmployeePage(PageHost& host, QWidget* parent) : QWidget(parent), m
     for (auto* box : {m_ui->cboDOB, m_ui->cboHireDate, m_ui->cboReleaseDate}) {
         box->SetClock(host.Clock());
     }
+    FitFields();
     ConnectLists();
     ConnectButtons();
+    ShowPassword(false);
 }
 
 EmployeePage::~EmployeePage() = default;
 
+std::array<EmployeePage::KeyList, 4> EmployeePage::KeyLists() const
+{
+    using Texts = EmployeeTexts;
+    return {{{m_ui->cboEmployeeID, &Texts::id, EmployeeText::ID, eventsource::ID, kIDCharacters},
+             {m_ui->cboEmployeeName, &Texts::name, EmployeeText::Name, eventsource::Name, kNameCharacters},
+             {m_ui->cboEmployeeSSN, &Texts::ssn, EmployeeText::SSN, eventsource::SSN, kSSNCharacters},
+             {m_ui->cboEmployeeNumber, &Texts::number, EmployeeText::Number, eventsource::EmployeeNumber, kNumberCharacters}}};
+}
+
 void EmployeePage::ConnectLists()
 {
-    struct List
-    {
-        QComboBox* box;
-        int column;
-        std::int32_t eventSource;
-        int characters;
-    };
-    for (const List& list : {List{m_ui->cboEmployeeID, employeecolumn::ID, eventsource::ID, kIDCharacters},
-                             List{m_ui->cboEmployeeName, employeecolumn::Name, eventsource::Name, kNameCharacters},
-                             List{m_ui->cboEmployeeSSN, employeecolumn::SSN, eventsource::SSN, kNameCharacters},
-                             List{m_ui->cboEmployeeNumber, employeecolumn::Number, eventsource::EmployeeNumber, kNameCharacters}}) {
-        ShowColumn(*list.box, m_host.EmployeeModels().All(), list.column, list.characters);
+    for (const KeyList& list : KeyLists()) {
+        ShowEmployees(*list.box, m_host.EmployeeModels().All(list.shown), list.characters);
         ChooseOnlyDeliberately(*list.box);
-        connect(list.box, &QComboBox::activated, this, [this, list] { Select(list.eventSource, *list.box); });
+        connect(list.box, &QComboBox::activated, this, [this, list] { Select(list); });
+        if (list.box->isEditable()) {
+            connect(list.box->lineEdit(), &QLineEdit::textEdited, this,
+                    [this, list](const QString& text) { m_texts.Type(list.text, text.toStdString()); });
+        }
+    }
+    for (auto* box : {m_ui->cboEmployeeSSN, m_ui->cboEmployeeNumber}) {
+        connect(box->lineEdit(), &QLineEdit::textEdited, this, &EmployeePage::WarnOfSharedNumbers);
     }
 }
 
 void EmployeePage::ConnectButtons()
 {
     connect(m_ui->chkAutoDeduct, &QCheckBox::toggled, this, &EmployeePage::EnableDeduction);
+    connect(m_ui->cmdShowPassword, &QToolButton::toggled, this, &EmployeePage::ShowPassword);
     connect(m_ui->cmdEmployeeNew, &QPushButton::clicked, this, &EmployeePage::New);
     connect(m_ui->cmdEmployeeSave, &QPushButton::clicked, this, &EmployeePage::Save);
     connect(m_ui->cmdEmployeeCancel, &QPushButton::clicked, this, &EmployeePage::Cancel);
+}
+
+void EmployeePage::FitFields()
+{
+    LimitWidth(*m_ui->fieldArea, fieldwidth::Page);
+    LimitWidth(*m_ui->txtEmployeeState, fieldwidth::State);
+    LimitWidth(*m_ui->txtEmployeeZip, fieldwidth::Zip);
+    LimitWidth(*m_ui->txtEmployeePhone, fieldwidth::Phone);
+    LimitWidth(*m_ui->txtPassword, fieldwidth::Phone);
+    LimitWidth(*m_ui->txtPayRate, fieldwidth::Money);
+    LimitWidth(*m_ui->txtOvertimePayRate, fieldwidth::Money);
+    LimitWidth(*m_ui->txtLunchLength, fieldwidth::Minutes);
+    LimitWidth(*m_ui->txtBreakLength, fieldwidth::Minutes);
+}
+
+void EmployeePage::ShowPassword(bool shown)
+{
+    m_ui->txtPassword->setEchoMode(shown ? QLineEdit::Normal : QLineEdit::Password);
+    m_ui->cmdShowPassword->setIcon(ThemeIcon(shown ? "hide" : "show"));
+    m_ui->cmdShowPassword->setToolTip(shown ? kHideTip : kShowTip);
 }
 
 bool EmployeePage::FillEmployeeLists()
@@ -79,45 +121,35 @@ bool EmployeePage::FillEmployeeLists()
     return m_host.FillEmployeeLists();
 }
 
-void EmployeePage::Select(std::int32_t eventSource, const QComboBox& box)
+void EmployeePage::Select(const KeyList& list)
 {
-    const QString text = box.currentText();
-    if (text.isEmpty()) {
+    if (list.box->currentText().isEmpty()) {
         return;
     }
-    m_host.EventSource(eventSource);
-    if (const auto employee = Find(eventSource, text); employee != nullptr) {
-        ShowSelection(*employee);
+    m_host.EventSource(list.eventSource);
+    LeaveBehind(m_texts.LeftByChoice(ReadTexts(), list.text));
+    if (const auto employee = ChosenIn(*list.box); employee != nullptr) {
+        ShowEmployee(employee);
+        ShowStatus(*employee);
     } else {
         ClearEmployeeFields();
     }
     m_host.EventSource(eventsource::None);
 }
 
-std::shared_ptr<CEmployee> EmployeePage::Find(std::int32_t eventSource, const QString& text) const
+void EmployeePage::ShowStatus(const CEmployee& employee)
 {
-    try {
-        const auto list = List();
-        const std::string wanted = text.toStdString();
-        switch (eventSource) {
-        case eventsource::ID:
-            return list->GetEmployeeByID(ToInt32(wanted));
-        case eventsource::Name:
-            return list->GetEmployeeByName(wanted);
-        case eventsource::SSN:
-            return list->GetEmployeeBySSN(wanted);
-        default:
-            return list->GetEmployeeByNumber(ToInt32(wanted));
-        }
-    } catch (...) {
-        return nullptr; // text that is no number names no employee
-    }
+    m_host.SetStatusText(employee.FirstName() + " " + employee.LastName(), "Employee Number: " + std::to_string(employee.EmployeeNumber()));
 }
 
-void EmployeePage::ShowSelection(const CEmployee& employee)
+// By the row's own ID: of namesakes each is found.
+std::shared_ptr<CEmployee> EmployeePage::ChosenIn(const QComboBox& box) const
 {
-    Fill(ShowEmployeeTexts(employee));
-    m_host.SetStatusText(employee.FirstName() + " " + employee.LastName(), "Employee Number: " + std::to_string(employee.EmployeeNumber()));
+    try {
+        return List()->GetEmployeeByID(box.currentData(kEmployeeIDRole).toInt());
+    } catch (...) {
+        return nullptr;
+    }
 }
 
 bool EmployeePage::ShowEmployee(const std::shared_ptr<CEmployee>& theemployee)
@@ -133,8 +165,11 @@ bool EmployeePage::ShowEmployee(const std::shared_ptr<CEmployee>& theemployee)
 void EmployeePage::Fill(const EmployeeTexts& texts)
 {
     const int row = m_ui->cboEmployeeID->findText(QString::fromStdString(texts.id));
-    for (auto* box : {m_ui->cboEmployeeID, m_ui->cboEmployeeName, m_ui->cboEmployeeSSN, m_ui->cboEmployeeNumber}) {
-        box->setCurrentIndex(row);
+    for (const KeyList& list : KeyLists()) {
+        list.box->setCurrentIndex(row);
+        if (list.box->isEditable()) {
+            ShowText(list.box->lineEdit(), texts.*list.text);
+        }
     }
     ShowText(m_ui->txtEmployeeAddr1, texts.address1);
     ShowText(m_ui->txtEmployeeAddr2, texts.address2);
@@ -143,6 +178,7 @@ void EmployeePage::Fill(const EmployeeTexts& texts)
     ShowText(m_ui->txtEmployeeZip, texts.zip);
     ShowText(m_ui->txtEmployeePhone, texts.phone);
     ShowText(m_ui->txtPassword, texts.password);
+    m_ui->cmdShowPassword->setChecked(false);
     m_ui->cboHireDate->SetText(QString::fromStdString(texts.hireDate));
     m_ui->cboReleaseDate->SetText(QString::fromStdString(texts.releaseDate));
     m_ui->cboDOB->SetText(QString::fromStdString(texts.dateOfBirth));
@@ -153,6 +189,7 @@ void EmployeePage::Fill(const EmployeeTexts& texts)
     EnableDeduction(texts.autoDeduct);
     ShowText(m_ui->txtLunchLength, texts.lunchLength);
     ShowText(m_ui->txtBreakLength, texts.breakLength);
+    m_texts.Show(ReadTexts());
 }
 
 EmployeeTexts EmployeePage::ReadTexts() const
@@ -185,9 +222,6 @@ bool EmployeePage::ClearEmployeeFields()
     EmployeeTexts empty;
     empty.active = m_ui->chkEmployeeActive->isChecked();
     Fill(empty);
-    for (auto* box : {m_ui->cboEmployeeName, m_ui->cboEmployeeSSN, m_ui->cboEmployeeNumber}) {
-        box->clearEditText();
-    }
     return true;
 }
 
@@ -201,18 +235,50 @@ void EmployeePage::EnableDeduction(bool enabled)
 
 void EmployeePage::New()
 {
+    LeaveBehind(m_texts.Left(ReadTexts()));
     ClearEmployeeFields();
+    m_ui->chkEmployeeActive->setChecked(true);
+    m_texts.Show(ReadTexts());
     m_ui->cboEmployeeNumber->setFocus();
 }
 
 void EmployeePage::Cancel()
 {
+    LeaveBehind(m_texts.Left(ReadTexts()));
     ClearEmployeeFields();
     m_ui->cboEmployeeName->setFocus();
 }
 
+void EmployeePage::LeaveBehind(const std::optional<LeftBehind<EmployeeTexts>>& left)
+{
+    OfferLeft(*m_ui->notice, left, [this](const LeftBehind<EmployeeTexts>& texts) { BringBack(texts); });
+}
+
+// What stands on the page by then may have to be brought back in its turn.
+void EmployeePage::BringBack(const LeftBehind<EmployeeTexts>& left)
+{
+    if (!left.shown.id.empty() && m_ui->cboEmployeeID->findText(QString::fromStdString(left.shown.id)) < 0) {
+        return m_ui->notice->Say(QString::fromStdString(left.shown.name + kNotInList));
+    }
+    LeaveBehind(m_texts.Left(ReadTexts()));
+    Fill(left.typed);
+    m_texts.BringBack(left);
+    if (const auto employee = ChosenIn(*m_ui->cboEmployeeID); employee != nullptr) {
+        ShowStatus(*employee);
+    }
+}
+
+void EmployeePage::WarnOfSharedNumbers()
+{
+    Succeeds([this] {
+        m_ui->notice->Remark(QString::fromStdString(SharedNumbersNotice(*List(), ReadTexts())));
+        return true;
+    });
+}
+
 void EmployeePage::Save()
 {
+    m_ui->notice->Remark({});
     const EmployeeTexts texts = ReadTexts();
     if (!IsAccepted(texts)) {
         return;
@@ -260,19 +326,24 @@ void EmployeePage::SaveTexts(const EmployeeTexts& texts)
         return (void)m_host.Desktop().Show(kNotFound, listedit::kNotFoundTitle, Icon::Exclamation);
     }
     ReadEmployeeTexts(texts, *edited->entity);
-    if (SaveOrTell(m_host.Desktop(), *list, *edited, kNotSaved)) {
-        Reload();
+    const std::string shared = SharedNumbersNotice(*list, texts);
+    if (!SaveOrTell(m_host.Desktop(), *list, *edited, kNotSaved)) {
+        return;
     }
+    const bool read = Reload();
+    m_ui->notice->Say(QString::fromStdString(texts.name + (read ? kSaved : kSavedUnread) + (shared.empty() ? "" : ". ") + shared));
+    emit m_host.EmployeeModels().Saved(edited->entity->EmployeeID());
 }
 
-void EmployeePage::Reload()
+bool EmployeePage::Reload()
 {
     const BusyPointer busy(m_host.Desktop());
-    Required(m_host.Controller())->GetEmployeeList();
+    const bool read = Required(m_host.Controller())->GetEmployeeList();
     if (!FillEmployeeLists()) {
         m_host.ErrorNumber(windowerror::FillListsFailed);
     }
     ClearEmployeeFields();
+    return read;
 }
 
 std::shared_ptr<CEmployeeList> EmployeePage::List() const

@@ -1,6 +1,10 @@
 // The Employees page: finds, shows, adds and changes employees.
 #pragma once
 
+#include "office/EmployeeTexts.h"
+#include "office/LeftBehind.h"
+
+#include <array>
 #include <cstdint>
 #include <memory>
 #include <QWidget>
@@ -16,7 +20,7 @@ namespace ptk {
 class CEmployee;
 class CEmployeeList;
 class PageHost;
-struct EmployeeTexts;
+enum class EmployeeText;
 
 // A page without a chosen ID holds a new employee. What is refused stays on the page as it was typed.
 class EmployeePage final : public QWidget
@@ -32,27 +36,44 @@ public:
     bool ShowEmployee(const std::shared_ptr<CEmployee>& theemployee); // false for nullptr
 
 private:
+    struct KeyList
+    {
+        QComboBox* box;
+        std::string EmployeeTexts::*text;
+        EmployeeText shown;
+        std::int32_t eventSource;
+        int characters;
+    };
+
+    std::array<KeyList, 4> KeyLists() const;
     void ConnectLists();
     void ConnectButtons();
+    void FitFields();
 
-    void Select(std::int32_t eventSource, const QComboBox& box);
-    std::shared_ptr<CEmployee> Find(std::int32_t eventSource, const QString& text) const;
-    void ShowSelection(const CEmployee& employee);
+    void Select(const KeyList& list);
+    std::shared_ptr<CEmployee> ChosenIn(const QComboBox& box) const; // nullptr also for one who has left the list
+    void ShowStatus(const CEmployee& employee);
     void Fill(const EmployeeTexts& texts);
     void EnableDeduction(bool enabled);
+    void ShowPassword(bool shown);
 
     void New();
     void Cancel();
+    void LeaveBehind(const std::optional<LeftBehind<EmployeeTexts>>& left);
+    void BringBack(const LeftBehind<EmployeeTexts>& left);
+
     void Save();
     bool IsAccepted(const EmployeeTexts& texts);
     void SaveTexts(const EmployeeTexts& texts);
-    void Reload();
+    bool Reload(); // whether the employees could be read again
+    void WarnOfSharedNumbers();
 
     EmployeeTexts ReadTexts() const;
     std::shared_ptr<CEmployeeList> List() const; // raises Failure 91 when there is none
 
     PageHost& m_host;
     std::unique_ptr<Ui::EmployeePage> m_ui;
+    TypedTexts<EmployeeTexts> m_texts;
 };
 
 } // namespace ptk

@@ -1,6 +1,8 @@
 #include "ui/pages/OptionsPage.h"
 
 #include "office/OptionTexts.h"
+#include "platform/BusyPointer.h"
+#include "platform/Clock.h"
 #include "platform/Desktop.h"
 #include "startup/CController.h"
 #include "startup/Notices.h"
@@ -16,6 +18,9 @@ constexpr auto kUpdateText = "An error occurred while updating the system option
 constexpr auto kRestoreTitle = "Restore Options Error";
 constexpr auto kRestoreText = "An error occurred while restoring system options from the database.";
 
+constexpr auto kApplied = "Options applied";
+constexpr auto kRestored = "Options restored";
+
 constexpr auto kTimeFormat = "hh:mm:ss AM/PM";
 
 } // namespace
@@ -26,6 +31,7 @@ OptionsPage::OptionsPage(PageHost& host, QWidget* parent) : QWidget(parent), m_h
     AlignFrames();
     m_ui->dttbAutoShiftStartTime->SetDisplayFormat(kTimeFormat);
     m_ui->dttbAutoShiftEndTime->SetDisplayFormat(kTimeFormat);
+    connect(m_ui->txtPeriodLength, &QLineEdit::textChanged, this, &OptionsPage::ShowExample);
     connect(m_ui->cmdApplyOptions, &QPushButton::clicked, this, &OptionsPage::Apply);
     connect(m_ui->cmdCancelOptions, &QPushButton::clicked, this, &OptionsPage::Cancel);
 }
@@ -37,6 +43,13 @@ void OptionsPage::AlignFrames()
 {
     m_ui->lblAutoShiftStartTime->setMinimumWidth(m_ui->lblPeriodLength->sizeHint().width());
     m_ui->txtPeriodLength->setMinimumWidth(m_ui->dttbAutoShiftStartTime->sizeHint().width());
+}
+
+// A period of 14 days deliberately has 15: one sees it before a payday depends on it.
+void OptionsPage::ShowExample()
+{
+    const std::string length = m_ui->txtPeriodLength->text().toStdString();
+    m_ui->lblPeriodExample->setText(QString::fromStdString(PeriodExample(length, m_host.Clock().Today())));
 }
 
 bool OptionsPage::DisplaySystemOptions(const std::shared_ptr<CSystemOptions>& options)
@@ -74,17 +87,24 @@ bool OptionsPage::RestoreSystemOptions()
 
 void OptionsPage::Apply()
 {
-    m_host.Desktop().SetPointer(Pointer::Busy);
-    const bool saved = SaveSystemOptions();
-    m_host.Desktop().SetPointer(Pointer::Default);
-    if (!saved) {
+    m_ui->notice->Clear();
+    const bool saved = [this] {
+        const BusyPointer busy(m_host.Desktop());
+        return SaveSystemOptions();
+    }();
+    if (saved) {
+        m_ui->notice->Say(kApplied);
+    } else {
         m_host.Desktop().Show(kUpdateText, notice::OptionsUnsaved.title, Icon::Exclamation);
     }
 }
 
 void OptionsPage::Cancel()
 {
-    if (!RestoreSystemOptions()) {
+    m_ui->notice->Clear();
+    if (RestoreSystemOptions()) {
+        m_ui->notice->Say(kRestored);
+    } else {
         m_host.Desktop().Show(kRestoreText, kRestoreTitle, Icon::Exclamation);
     }
 }

@@ -27,6 +27,7 @@ public:
 
 private:
     void AlignFrames();
+    void ShowExample();
     void Apply();
     void Cancel();
 

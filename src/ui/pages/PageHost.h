@@ -33,6 +33,13 @@ inline constexpr std::int32_t ShowPageFailed = 281;
 inline constexpr std::int32_t ClearFieldsFailed = 283;
 } // namespace windowerror
 
+// What two date boxes show.
+struct PeriodTexts
+{
+    std::string from;
+    std::string to;
+};
+
 class PageHost
 {
 public:
@@ -52,6 +59,8 @@ public:
 
     virtual std::shared_ptr<CTimeCard> TimeCard() const = 0; // the current time card, nullptr before the first generation
     virtual void TimeCard(std::shared_ptr<CTimeCard> value) = 0;
+
+    virtual PeriodTexts TimeCardPeriod() const = 0; // as the Timecards page shows it
 
     virtual ptk::EmployeeModels& EmployeeModels() const = 0; // the employees behind every list and box of the window
     virtual bool FillEmployeeLists() = 0;                    // takes over the controller's employee list into all of them

@@ -18,6 +18,7 @@ namespace ptk {
 class PageHost;
 class Report;
 class Value;
+struct ReportRun;
 
 class ReportsPage final : public QWidget
 {
@@ -30,18 +31,27 @@ public:
     bool FillReportList(); // always true; selects none
     bool SelectFirstReport();
     void EnableGenerate();
+    bool IsGenerating() const { return m_generating; } // a box or the progress of it may be open
 
 private:
     void ConnectControls();
+    void ConnectPeriod();
+    void ConnectEmployees();
 
     void SelectReport();
     void OfferDates(ReportDates dates);
+    void OfferEmployees(bool needed);
     void ChangeFromDate();
+    void StepPeriod(std::int16_t direction); // 1 or -1
+    void TakeTimeCardPeriod();
     void ShowStatus();
+    void ShowSelected();
 
     void Generate();
     void GenerateKind(ReportKind kind);
     void GenerateReview();
+    void GenerateEmployeeRecords();
+    void GeneratePhoneBook();
     template <typename MakeReport>
     void GenerateEach(MakeReport makeReport);
 
@@ -53,10 +63,13 @@ private:
     Value FromDate() const;
     Value ToDate() const;
     void ShowFailure(std::int32_t errorNumber, const std::string& reportName);
+    void SayOutcome(const Report& report, const ReportRun& people);
+    void Say(const std::string& text);
 
     PageHost& m_host;
     std::unique_ptr<Ui::ReportsPage> m_ui;
     std::string m_reportName; // of the selected report, for the status bar
+    bool m_generating = false;
 };
 
 } // namespace ptk

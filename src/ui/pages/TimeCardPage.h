@@ -1,11 +1,14 @@
 // The Timecards page: one employee's pay period, its time records and what they come to.
 #pragma once
 
+#include "office/FillPlan.h"
+#include "office/NewRecord.h"
 #include "ui/dialogs/TimeRecordReceiver.h"
 
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <QWidget>
 #include <string>
 
@@ -15,17 +18,18 @@ class TimeCardPage;
 
 namespace ptk {
 
+class CardChoice;
 class CController;
 class CTimeCard;
 class CTimeRecordFactory;
-class CTimeRecordList;
+class CurrentCard;
 class FAutoFill;
+class FTimeEditor;
 class PageHost;
-class TimeRecordGridModel;
 struct Notice;
+struct PeriodTexts;
 
-// The card is the main window's current one. Every change to a record is stored at once and followed by a fresh generation; moving to
-// another period or employee clears the display but keeps the card.
+// Every change to a record is stored at once and followed by a fresh generation of the card.
 class TimeCardPage final : public QWidget, public TimeRecordReceiver
 {
     Q_OBJECT
@@ -38,6 +42,7 @@ public:
     bool ClearTimeCardDisplay(); // always true
     void SelectFirstEmployee();
     void EnablePrint();
+    PeriodTexts Period() const; // as the boxes show it
 
     bool ReturnTimeRecord(const std::shared_ptr<CTimeRecord>& thetimerecord) override;
 
@@ -47,53 +52,55 @@ protected:
 private:
     using CardStep = std::function<bool(CTimeCard&, CTimeRecordFactory&)>;
 
-    void PrepareGrid();
-    void ConnectSelection();
+    // A change to the card's records, and what is said of it.
+    struct Storing
+    {
+        CardStep step;
+        const Notice& failed;
+        const char* refused; // for the page's line, before the reason
+        std::string done;
+    };
+
+    // A record in the editor, and what was typed for it in vain before.
+    struct Editing
+    {
+        std::shared_ptr<CTimeRecord> record;
+        bool isNew = false;
+        std::optional<RecordTexts> typed;
+    };
+
+    void ConnectChoice();
     void ConnectActions();
 
-    bool AlignPeriodEnd();
-    bool MovePayPeriod(std::int16_t direction); // raises what the calculation raises
-    void StepPeriod(std::int16_t direction);
-    void StepEmployee(int direction);
     void ChooseEmployee();
     void TurnToChosenEmployee();
     void ShowStatus();
-
-    bool RefreshTimeCard(); // false for any run-time failure
-    bool GenerateTimeCard();
-    void Regenerate();
-    void RegenerateAfterSave();
-    bool ShowTimeCard(); // deliberately always false; nobody looks at it
-    bool DisplayTimeCard();
-    bool FillTimeRecordGrid(const std::shared_ptr<CTimeRecordList>& records);
-    bool SetupTimeRecordGrid();
-    void ReportCardError(std::int32_t errorNumber);
-
-    int ChosenRow() const; // -1 when the user has chosen none since the grid was rebuilt
-    std::shared_ptr<CTimeRecord> ChosenRecord() const;
-    void ForgetChosenRecord();
+    void EnableFill();
 
     void Generate();
     void NewRecord();
     void EditRecord();
     void DeleteRecord();
-    void AutoFill();
+    void AutoFill(const std::optional<FillTexts>& typed);
     void Print();
 
-    void OpenEditor(const std::shared_ptr<CTimeRecord>& record);
+    void OpenEditor(const Editing& editing);
+    void Prepare(FTimeEditor& editor, const Editing& editing);
     void HandOver(FAutoFill& window);
-    void TakeOver(const FAutoFill& window);
-    void StoreAndShow(const CardStep& step, const Notice& failed);
+    void TakeOver(const FAutoFill& window, std::int32_t records);
+    bool StoreAndShow(const Storing& storing);
+    void OfferAgain(const std::function<void()>& action);
 
     std::shared_ptr<CController> Controller() const; // raises Failure 91 when there is none
-    std::int16_t PeriodLength() const;
-    std::string EmployeeText() const;
 
     PageHost& m_host;
     std::unique_ptr<Ui::TimeCardPage> m_ui;
-    TimeRecordGridModel* m_records; // belongs to the page's widgets
-    std::string m_employeeName;     // as of the last change of employee
-    bool m_editingNew = false;      // whether the editor was last opened for a new record; nothing depends on it
+    CardChoice* m_choice; // these two belong to the page
+    CurrentCard* m_card = nullptr;
+    std::string m_employeeName; // as of the last change of employee
+    bool m_editingNew = false;  // whether the editor was last opened for a new record; nothing depends on it
+    bool m_refused = false;     // whether the record that the editor returned could not be stored
+    bool m_seen = false;
 };
 
 } // namespace ptk

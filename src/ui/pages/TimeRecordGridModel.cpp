@@ -1,15 +1,24 @@
 #include "ui/pages/TimeRecordGridModel.h"
 
 #include "model/CTimeRecordList.h"
+#include "office/CardTexts.h"
+#include "ui/widgets/ThemeIcon.h"
 
-#include <algorithm>
 #include <array>
+#include <QGuiApplication>
+#include <QPalette>
 
 namespace ptk {
 
 namespace {
 
 constexpr std::array<const char*, recordcolumn::Count> kHeadings{"Start", "End", "Total"};
+constexpr auto kStillClockedIn = "still clocked in";
+
+bool IsStillOpen(const CTimeRecord& record, int column)
+{
+    return column == recordcolumn::End && record.EndTime().IsZero();
+}
 
 } // namespace
 
@@ -32,15 +41,36 @@ void TimeRecordGridModel::Clear()
     endResetModel();
 }
 
-bool TimeRecordGridModel::Shows(const std::shared_ptr<CTimeRecord>& record) const
+void TimeRecordGridModel::SetFaded(bool faded)
 {
-    return std::any_of(m_rows.begin(), m_rows.end(), [&](const Row& row) { return row.record == record; });
+    if (faded == m_faded) {
+        return;
+    }
+    m_faded = faded;
+    if (!m_rows.empty()) {
+        emit dataChanged(index(0, 0), index(rowCount() - 1, recordcolumn::Count - 1), {Qt::ForegroundRole});
+    }
 }
 
-QString TimeRecordGridModel::Text(int row, int column) const
+QString TimeRecordGridModel::Text(const Row& row, int column)
 {
-    CTimeRecord record = m_rows.at(static_cast<std::size_t>(row)).shown;
+    CTimeRecord record = row.shown;
     return QString::fromStdString(record.ToString(0)).section('\t', column, column);
+}
+
+QString TimeRecordGridModel::Note(const Row& row, int column)
+{
+    if (IsStillOpen(row.shown, column)) {
+        return kStillClockedIn;
+    }
+    switch (column) {
+    case recordcolumn::Start:
+        return QString::fromStdString(WeekdayName(row.shown.StartTime()));
+    case recordcolumn::End:
+        return QString::fromStdString(WeekdayName(row.shown.EndTime()));
+    default:
+        return {};
+    }
 }
 
 int TimeRecordGridModel::rowCount(const QModelIndex& parent) const
@@ -55,13 +85,23 @@ int TimeRecordGridModel::columnCount(const QModelIndex& parent) const
 
 QVariant TimeRecordGridModel::data(const QModelIndex& index, int role) const
 {
-    if (role == Qt::DisplayRole) {
-        return Text(index.row(), index.column());
+    const Row& row = m_rows.at(static_cast<std::size_t>(index.row()));
+    switch (role) {
+    case Qt::DisplayRole:
+        return Text(row, index.column());
+    case Qt::ToolTipRole:
+    case Qt::AccessibleDescriptionRole:
+        return Note(row, index.column());
+    case Qt::DecorationRole:
+        return IsStillOpen(row.shown, index.column()) ? QVariant(ThemeIcon("timecards")) : QVariant();
+    case Qt::ForegroundRole:
+        return m_faded ? QVariant(QGuiApplication::palette().brush(QPalette::PlaceholderText)) : QVariant();
+    case Qt::TextAlignmentRole:
+        return index.column() == recordcolumn::Total ? QVariant::fromValue(Qt::Alignment(Qt::AlignTrailing | Qt::AlignVCenter))
+                                                     : QVariant();
+    default:
+        return {};
     }
-    if (role == Qt::TextAlignmentRole && index.column() == recordcolumn::Total) {
-        return QVariant::fromValue(Qt::Alignment(Qt::AlignTrailing | Qt::AlignVCenter));
-    }
-    return {};
 }
 
 QVariant TimeRecordGridModel::headerData(int section, Qt::Orientation orientation, int role) const

@@ -19,6 +19,7 @@ inline constexpr int Count = 3;
 } // namespace recordcolumn
 
 // Shows the records as they were when the grid was filled, whatever an editor does to them since; their texts are made as they are painted.
+// The weekday of a date, and of an end that is not there yet that somebody is at work, stand in tool tips and in descriptions for readers.
 class TimeRecordGridModel final : public QAbstractTableModel
 {
     Q_OBJECT
@@ -29,10 +30,10 @@ public:
     void SetRecords(CTimeRecordList& records);
     void Clear();
 
+    void SetFaded(bool faded); // greys all rows
+
     // The record itself, which the list may have let go of by now. REQUIRES: a row of the grid.
     std::shared_ptr<CTimeRecord> Record(int row) const { return m_rows.at(static_cast<std::size_t>(row)).record; }
-    bool Shows(const std::shared_ptr<CTimeRecord>& record) const;
-    QString Text(int row, int column) const;
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -46,7 +47,11 @@ private:
         CTimeRecord shown;
     };
 
+    static QString Text(const Row& row, int column);
+    static QString Note(const Row& row, int column);
+
     std::vector<Row> m_rows;
+    bool m_faded = false;
 };
 
 } // namespace ptk

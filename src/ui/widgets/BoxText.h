@@ -11,9 +11,18 @@ inline std::string TextOf(const QLineEdit* box)
     return box->text().toStdString();
 }
 
+// A text longer than its box shows its beginning, unless somebody is at work in it.
+inline void ShowBeginning(QLineEdit* box)
+{
+    if (!box->hasFocus()) {
+        box->home(false);
+    }
+}
+
 inline void ShowText(QLineEdit* box, const std::string& text)
 {
     box->setText(QString::fromStdString(text));
+    ShowBeginning(box);
 }
 
 } // namespace ptk

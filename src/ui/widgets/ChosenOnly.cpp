@@ -1,31 +1,13 @@
 #include "ui/widgets/ChosenOnly.h"
 
+#include "ui/widgets/Proposals.h"
+
 #include <QComboBox>
-#include <QKeyEvent>
-#include <QLineEdit>
+#include <QEvent>
 
 namespace ptk {
 
 namespace {
-
-bool IsEnter(const QEvent& event)
-{
-    if (event.type() != QEvent::KeyPress) {
-        return false;
-    }
-    const int key = static_cast<const QKeyEvent&>(event).key();
-    return key == Qt::Key_Return || key == Qt::Key_Enter;
-}
-
-void ChooseTyped(QComboBox& box)
-{
-    const int row = box.findText(box.currentText(), Qt::MatchFixedString);
-    if (row < 0) {
-        return;
-    }
-    box.setCurrentIndex(row);
-    emit box.activated(row);
-}
 
 class WheelStopper final : public QObject
 {
@@ -42,36 +24,24 @@ public:
     }
 };
 
-// The box gets Enter after its editor, which has chosen by then.
-class EnterStopper final : public QObject
+void PrepareChoosing(QComboBox& box, Proposals::Leaving leaving)
 {
-public:
-    using QObject::QObject;
-
-    bool eventFilter(QObject*, QEvent* event) override { return IsEnter(*event); }
-};
+    box.installEventFilter(new WheelStopper(&box));
+    if (box.isEditable()) {
+        new Proposals(box, leaving);
+    }
+}
 
 } // namespace
 
 void ChooseByTyping(QComboBox& box)
 {
-    box.installEventFilter(new WheelStopper(&box));
-    QObject::connect(box.lineEdit(), &QLineEdit::editingFinished, &box, [&box] {
-        if (box.currentText() != box.itemText(box.currentIndex())) {
-            ChooseTyped(box);
-        }
-    });
+    PrepareChoosing(box, Proposals::Leaving::Chooses);
 }
 
 void ChooseOnlyDeliberately(QComboBox& box)
 {
-    box.installEventFilter(new WheelStopper(&box));
-    if (!box.isEditable()) {
-        return;
-    }
-    box.installEventFilter(new EnterStopper(&box));
-    QObject::connect(box.lineEdit(), &QLineEdit::returnPressed, &box, [&box] { ChooseTyped(box); });
-    QObject::disconnect(box.lineEdit(), &QLineEdit::editingFinished, &box, nullptr);
+    PrepareChoosing(box, Proposals::Leaving::Keeps);
 }
 
 } // namespace ptk

@@ -9,6 +9,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QScreen>
+#include <QTextCharFormat>
 #include <QVBoxLayout>
 
 namespace ptk {
@@ -16,7 +17,7 @@ namespace ptk {
 namespace {
 
 constexpr auto kFormat = "mm/dd/yyyy";
-constexpr auto kWidest = "00/00/0000";
+constexpr int kCharacters = 7; // with the room that every box has for an icon, enough for mm/dd/yyyy
 const QDate kFirst(1900, 1, 1);
 const QDate kLast(2100, 12, 31);
 
@@ -44,6 +45,16 @@ QPoint PopupPlace(const QWidget& box, const QSize& size)
     return place;
 }
 
+// Quieter than the working days, in the theme's own colour; a calendar's red is none of it.
+void QuietenWeekends(QCalendarWidget& calendar)
+{
+    QTextCharFormat quiet;
+    quiet.setForeground(calendar.palette().brush(QPalette::PlaceholderText));
+    for (const auto day : {Qt::Saturday, Qt::Sunday}) {
+        calendar.setWeekdayTextFormat(day, quiet);
+    }
+}
+
 QCalendarWidget* AddCalendar(QFrame& popup)
 {
     popup.setAttribute(Qt::WA_DeleteOnClose);
@@ -55,6 +66,7 @@ QCalendarWidget* AddCalendar(QFrame& popup)
     calendar->setLocale(QLocale(QLocale::English, QLocale::UnitedStates));
     calendar->setDateRange(kFirst, kLast);
     calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    QuietenWeekends(*calendar);
     layout->addWidget(calendar);
     return calendar;
 }
@@ -67,7 +79,7 @@ DateCombo::DateCombo(QWidget* parent) : QComboBox(parent)
     setInsertPolicy(NoInsert);
     setCompleter(nullptr);
     setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
-    setMinimumContentsLength(static_cast<int>(std::char_traits<char>::length(kWidest)));
+    setMinimumContentsLength(kCharacters);
     lineEdit()->installEventFilter(this);
     connect(lineEdit(), &QLineEdit::textEdited, this, &DateCombo::Changed);
     connect(lineEdit(), &QLineEdit::returnPressed, this, &DateCombo::Normalize);

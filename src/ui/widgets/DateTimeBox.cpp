@@ -4,6 +4,7 @@
 #include "platform/Text.h"
 #include "platform/TypedTime.h"
 
+#include <QApplication>
 #include <QFocusEvent>
 
 namespace ptk {
@@ -17,7 +18,10 @@ constexpr auto kDateFormat = "mm/dd/yyyy";
 DateTimeBox::DateTimeBox(QWidget* parent) : QLineEdit(parent)
 {
     connect(this, &QLineEdit::textEdited, this, &DateTimeBox::Type);
-    connect(this, &QLineEdit::returnPressed, this, &DateTimeBox::Finish);
+    connect(this, &QLineEdit::returnPressed, this, [this] {
+        Finish();
+        ReportSoon();
+    });
 }
 
 void DateTimeBox::SetDisplayFormat(std::string pattern)
@@ -58,10 +62,10 @@ std::string DateTimeBox::Readable(const QString& text) const
 
 void DateTimeBox::Type()
 {
+    m_unreported = true;
     emit KeyEntered();
-    m_unreported = Readable(text()).empty();
-    if (!m_unreported) {
-        emit Changed();
+    if (!Readable(text()).empty()) {
+        emit Typed();
     }
 }
 
@@ -70,19 +74,45 @@ void DateTimeBox::Finish()
     if (Text() != text()) {
         setText(Text());
     }
-    if (!m_unreported) {
-        return;
+}
+
+void DateTimeBox::ReportSoon()
+{
+    if (m_unreported) {
+        QMetaObject::invokeMethod(this, &DateTimeBox::Report, Qt::QueuedConnection);
     }
-    m_unreported = false;
-    emit Changed();
+}
+
+void DateTimeBox::Report()
+{
+    if (m_unreported && isVisible()) {
+        m_unreported = false;
+        emit Changed();
+    }
 }
 
 void DateTimeBox::focusOutEvent(QFocusEvent* event)
 {
     QLineEdit::focusOutEvent(event);
-    if (event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason) {
-        Finish();
+    if (event->reason() == Qt::PopupFocusReason || event->reason() == Qt::ActiveWindowFocusReason) {
+        return;
     }
+    Finish();
+    if (event->reason() == Qt::MouseFocusReason) {
+        qApp->installEventFilter(this);
+    } else {
+        ReportSoon();
+    }
+}
+
+// A click is handled when its button goes up.
+bool DateTimeBox::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::MouseButtonRelease) {
+        qApp->removeEventFilter(this);
+        ReportSoon();
+    }
+    return QLineEdit::eventFilter(watched, event);
 }
 
 } // namespace ptk

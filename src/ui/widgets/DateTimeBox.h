@@ -23,24 +23,31 @@ public:
     QString Text() const; // as it will be shown on leaving
     void SetText(const QString& text);
     void Clear();
+    void TakeNote() { m_unreported = false; } // the text has been read by other means: no Changed is owed for it any more
 
 signals:
-    // By the user only: on a keystroke that leaves a readable text, and on leaving or Enter when the text has become unreadable or empty
-    // since.
-    void Changed();
+    // All by the user only.
     void KeyEntered(); // on every keystroke that alters the text
+    void Typed();      // and on those that leave a readable one
+
+    // After leaving the box, or Enter in it, when it has been typed into since the last time. It may be answered by a message box, so it
+    // waits for the click or key that brought it to be handled, and never comes when that hid the box's window or had the text read.
+    void Changed();
 
 protected:
     void focusOutEvent(QFocusEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     std::string Readable(const QString& text) const; // in display form, empty when it cannot be read
     void Type();
     void Finish();
+    void ReportSoon();
+    void Report();
 
     std::string m_format = "hh:mm:ss AM/PM";
     const Clock* m_dateClock = nullptr; // set in date mode only
-    bool m_unreported = false;          // typed since the last Changed
+    bool m_unreported = false;          // typed into since the last Changed
 };
 
 } // namespace ptk

@@ -3,26 +3,28 @@
 #include "model/CEmployee.h"
 #include "model/CEmployeeList.h"
 
+#include <optional>
 #include <QComboBox>
-#include <QCompleter>
 #include <QListView>
+#include <QSet>
 
 namespace ptk {
 
 namespace {
 
-QString Text(const CEmployee& employee, int column)
+QString Text(const CEmployee& employee, EmployeeText shown)
 {
-    switch (column) {
-    case employeecolumn::ID:
+    switch (shown) {
+    case EmployeeText::ID:
         return QString::number(employee.EmployeeID());
-    case employeecolumn::Name:
+    case EmployeeText::Name:
         return QString::fromStdString(employee.DisplayName());
-    case employeecolumn::SSN:
+    case EmployeeText::SSN:
         return QString::fromStdString(employee.SSN());
-    default:
-        return QString::number(employee.EmployeeNumber());
+    case EmployeeText::Number:
+        break;
     }
+    return QString::number(employee.EmployeeNumber());
 }
 
 // Rows of one height, laid out in batches: a list that measures each of its rows takes a second to open.
@@ -35,74 +37,137 @@ void PrepareView(QComboBox& box)
     box.setView(view);
 }
 
-void PrepareTyping(QComboBox& box, QAbstractItemModel* model, int column)
+struct Choice
 {
-    box.setInsertPolicy(QComboBox::NoInsert);
-    auto* completer = new QCompleter(model, &box);
-    completer->setCompletionColumn(column);
-    completer->setCaseSensitivity(Qt::CaseInsensitive);
-    completer->setCompletionMode(QCompleter::PopupCompletion);
-    box.setCompleter(completer);
+    QVariant employeeID;
+    std::optional<QString> typed; // what stands in the box in place of a row's text
+};
+
+Choice ChoiceIn(const QComboBox& box)
+{
+    const bool typed = box.isEditable() && box.currentText() != box.itemText(box.currentIndex());
+    return {box.currentData(kEmployeeIDRole), typed ? std::optional(box.currentText()) : std::nullopt};
+}
+
+// A box reacts to new rows by choosing the first, and has done so by the time it is put right here.
+void Choose(QComboBox& box, const Choice& choice)
+{
+    box.setCurrentIndex(choice.employeeID.isValid() ? box.findData(choice.employeeID, kEmployeeIDRole) : -1);
+    if (choice.typed) {
+        box.setEditText(*choice.typed);
+    }
+}
+
+QSet<int> ChosenIn(const QAbstractItemView& list)
+{
+    QSet<int> ids;
+    for (const QModelIndex& row : list.selectionModel()->selectedRows()) {
+        ids.insert(row.data(kEmployeeIDRole).toInt());
+    }
+    return ids;
+}
+
+void Choose(QAbstractItemView& list, const QSet<int>& ids)
+{
+    const QAbstractItemModel& model = *list.model();
+    QItemSelection rows;
+    for (int row = 0; row < model.rowCount(); ++row) {
+        const QModelIndex index = model.index(row, 0);
+        if (!ids.contains(index.data(kEmployeeIDRole).toInt())) {
+            continue;
+        }
+        if (!rows.isEmpty() && rows.last().bottom() == row - 1) {
+            rows.last() = QItemSelectionRange(rows.last().topLeft(), index); // one range for a run of rows: they are compared pair by pair
+        } else {
+            rows.append(QItemSelectionRange(index));
+        }
+    }
+    list.selectionModel()->select(rows, QItemSelectionModel::ClearAndSelect);
 }
 
 } // namespace
 
-EmployeeTable::EmployeeTable(int firstColumn, int columns) : m_firstColumn(firstColumn), m_columns(columns) {}
-
-void EmployeeTable::SetRows(std::vector<std::shared_ptr<CEmployee>> rows)
+void EmployeeColumn::SetRows(std::shared_ptr<const Rows> rows)
 {
     beginResetModel();
     m_rows = std::move(rows);
     endResetModel();
 }
 
-int EmployeeTable::rowCount(const QModelIndex& parent) const
+int EmployeeColumn::rowCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+    return parent.isValid() ? 0 : static_cast<int>(m_rows->size());
 }
 
-int EmployeeTable::columnCount(const QModelIndex& parent) const
+QVariant EmployeeColumn::data(const QModelIndex& index, int role) const
 {
-    return parent.isValid() ? 0 : m_columns;
-}
-
-QVariant EmployeeTable::data(const QModelIndex& index, int role) const
-{
-    if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::EditRole)) {
+    if (!index.isValid()) {
         return {};
     }
-    return Text(*m_rows.at(static_cast<std::size_t>(index.row())), m_firstColumn + index.column());
+    const CEmployee& employee = *m_rows->at(static_cast<std::size_t>(index.row()));
+    switch (role) {
+    case Qt::DisplayRole:
+    case Qt::EditRole:
+        return Text(employee, m_shown);
+    case kEmployeeIDRole:
+        return employee.EmployeeID();
+    default:
+        return {};
+    }
+}
+
+QAbstractItemModel* EmployeeModels::All(EmployeeText shown)
+{
+    switch (shown) {
+    case EmployeeText::ID:
+        return &m_ids;
+    case EmployeeText::Name:
+        return &m_names;
+    case EmployeeText::SSN:
+        return &m_ssns;
+    case EmployeeText::Number:
+        break;
+    }
+    return &m_numbers;
 }
 
 void EmployeeModels::SetEmployees(const std::shared_ptr<CEmployeeList>& list)
 {
-    std::vector<std::shared_ptr<CEmployee>> all;
-    std::vector<std::shared_ptr<CEmployee>> offered;
+    const auto all = std::make_shared<EmployeeColumn::Rows>();
+    const auto offered = std::make_shared<EmployeeColumn::Rows>();
     const std::int32_t count = list == nullptr ? 0 : list->Count();
-    all.reserve(static_cast<std::size_t>(count));
+    all->reserve(static_cast<std::size_t>(count));
     for (std::int32_t i = 1; i <= count; ++i) {
-        all.push_back(list->Item(i));
-        if (all.back()->OfferedOnTimeCards()) {
-            offered.push_back(all.back());
+        all->push_back(list->Item(i));
+        if (all->back()->OfferedOnTimeCards()) {
+            offered->push_back(all->back());
         }
     }
-    m_all.SetRows(std::move(all));
-    m_offered.SetRows(std::move(offered));
+    for (EmployeeColumn* column : {&m_ids, &m_names, &m_ssns, &m_numbers}) {
+        column->SetRows(all);
+    }
+    m_offered.SetRows(offered);
 }
 
-void ShowColumn(QComboBox& box, QAbstractItemModel* model, int column, int characters)
+void ShowEmployees(QComboBox& box, QAbstractItemModel* model, int characters)
 {
     box.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     box.setMinimumContentsLength(characters);
+    box.setInsertPolicy(QComboBox::NoInsert);
     PrepareView(box);
     box.setModel(model);
-    box.setModelColumn(column);
     box.setCurrentIndex(-1);
-    // After the box's own reaction to new rows, which is to choose the first.
-    QObject::connect(model, &QAbstractItemModel::modelReset, &box, [&box] { box.setCurrentIndex(-1); });
-    if (box.isEditable()) {
-        PrepareTyping(box, model, column);
-    }
+    const auto before = std::make_shared<Choice>();
+    QObject::connect(model, &QAbstractItemModel::modelAboutToBeReset, &box, [&box, before] { *before = ChoiceIn(box); });
+    QObject::connect(model, &QAbstractItemModel::modelReset, &box, [&box, before] { Choose(box, *before); });
+}
+
+void ShowEmployees(QAbstractItemView& list, QAbstractItemModel* model)
+{
+    list.setModel(model);
+    const auto before = std::make_shared<QSet<int>>();
+    QObject::connect(model, &QAbstractItemModel::modelAboutToBeReset, &list, [&list, before] { *before = ChosenIn(list); });
+    QObject::connect(model, &QAbstractItemModel::modelReset, &list, [&list, before] { Choose(list, *before); });
 }
 
 } // namespace ptk

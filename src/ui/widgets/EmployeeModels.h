@@ -1,10 +1,12 @@
-// The employees behind every list and box of the main window: one model for all of them, reading the entities as they are asked for.
+// The employees behind every list and box of the main window: one set of rows for all of them, reading the entities as they are asked for.
 #pragma once
 
+#include <cstdint>
 #include <memory>
-#include <QAbstractTableModel>
+#include <QAbstractListModel>
 #include <vector>
 
+class QAbstractItemView;
 class QComboBox;
 
 namespace ptk {
@@ -12,51 +14,68 @@ namespace ptk {
 class CEmployee;
 class CEmployeeList;
 
-namespace employeecolumn {
-inline constexpr int ID = 0;
-inline constexpr int Name = 1; // the display name
-inline constexpr int SSN = 2;
-inline constexpr int Number = 3;
-inline constexpr int Count = 4;
-} // namespace employeecolumn
+// What a list shows of an employee.
+enum class EmployeeText
+{
+    ID,
+    Name, // the display name
+    SSN,
+    Number
+};
 
-// Rows in list order. Holds references to the entities of the list at the time of SetRows, so that its rows stay whole while the list is
-// being changed, and copies none of their texts.
-class EmployeeTable final : public QAbstractTableModel
+// The EmployeeID of a row, by which it is told from its namesakes.
+inline constexpr int kEmployeeIDRole = Qt::UserRole;
+
+// One text of each employee, in list order. Holds references to the entities of the list at the time of SetRows, so that its rows stay
+// whole while the list is being changed, and copies none of their texts.
+class EmployeeColumn final : public QAbstractListModel
 {
     Q_OBJECT
 
 public:
-    explicit EmployeeTable(int firstColumn, int columns);
+    using Rows = std::vector<std::shared_ptr<CEmployee>>;
 
-    void SetRows(std::vector<std::shared_ptr<CEmployee>> rows);
+    explicit EmployeeColumn(EmployeeText shown) : m_shown(shown) {}
+
+    void SetRows(std::shared_ptr<const Rows> rows);
 
     int rowCount(const QModelIndex& parent = {}) const override;
-    int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
 
 private:
-    int m_firstColumn;
-    int m_columns;
-    std::vector<std::shared_ptr<CEmployee>> m_rows;
+    EmployeeText m_shown;
+    std::shared_ptr<const Rows> m_rows = std::make_shared<Rows>();
 };
 
-class EmployeeModels
+class EmployeeModels final : public QObject
 {
+    Q_OBJECT
+
 public:
-    QAbstractItemModel* All() { return &m_all; }         // every employee, the columns of employeecolumn
+    QAbstractItemModel* All(EmployeeText shown);         // every employee
     QAbstractItemModel* Offered() { return &m_offered; } // the display names offered on time cards and reports
 
-    // Resets both models; boxes on them end up without a selection. nullptr empties them.
+    // Resets all models. nullptr empties them.
     void SetEmployees(const std::shared_ptr<CEmployeeList>& list);
 
+signals:
+    // This employee has been changed in the database, and the models hold what is there now; -1: a new one has been added.
+    void Saved(std::int32_t employeeID);
+
 private:
-    EmployeeTable m_all{employeecolumn::ID, employeecolumn::Count};
-    EmployeeTable m_offered{employeecolumn::Name, 1};
+    EmployeeColumn m_ids{EmployeeText::ID};
+    EmployeeColumn m_names{EmployeeText::Name};
+    EmployeeColumn m_ssns{EmployeeText::SSN};
+    EmployeeColumn m_numbers{EmployeeText::Number};
+    EmployeeColumn m_offered{EmployeeText::Name};
 };
 
-// Puts a column of a model behind a box, without a selection: opens at once with ten thousand rows, finds by typing, never adds what is
-// typed to its list, and is at least `characters` wide whatever the rows hold.
-void ShowColumn(QComboBox& box, QAbstractItemModel* model, int column, int characters);
+// Puts one of the models behind a box, without a choice: opens at once with ten thousand rows, never adds what is typed to its list, and is
+// at least `characters` wide whatever the rows hold. When the models are filled again the chosen employee stays chosen, under the new name
+// if there is one, and a text that is being typed stays as it is.
+void ShowEmployees(QComboBox& box, QAbstractItemModel* model, int characters);
+
+// The same for a list of several choices: those who are still in it stay chosen.
+void ShowEmployees(QAbstractItemView& list, QAbstractItemModel* model);
 
 } // namespace ptk

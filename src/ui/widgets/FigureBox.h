@@ -1,10 +1,11 @@
-// A figure to be read and copied, never typed into: right-aligned, on the window's own ground.
+// A figure to be read and copied, never typed into: right-aligned, on the window's own ground, no stop of the Tab key.
 #pragma once
 
 #include <QLineEdit>
 
 namespace ptk {
 
+// As wide as a figure needs, which is little: it grows only where its layout has it fill a column.
 class FigureBox final : public QLineEdit
 {
     Q_OBJECT
@@ -12,11 +13,20 @@ class FigureBox final : public QLineEdit
 public:
     explicit FigureBox(QWidget* parent = nullptr);
 
+    void SetImportant();       // larger and bold
+    void SetFaded(bool faded); // grey, for a figure that does not belong to what stands around it
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
 protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    void TakeWindowGround();
+    void TakeColors();
+    QSize SizeFor(const char* figure) const;
+
+    bool m_faded = false;
 };
 
 } // namespace ptk

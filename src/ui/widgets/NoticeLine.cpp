@@ -29,6 +29,13 @@ void NoticeLine::Say(const QString& text)
     Show(text);
 }
 
+void NoticeLine::Remark(const QString& text)
+{
+    if (m_action == nullptr) {
+        Say(text);
+    }
+}
+
 void NoticeLine::Offer(const QString& text, const QString& caption, std::function<void()> action)
 {
     m_action = std::move(action);

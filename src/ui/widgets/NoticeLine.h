@@ -21,6 +21,8 @@ public:
 
     void Say(const QString& text);
 
+    void Remark(const QString& text); // says it, unless something is being offered
+
     // Says it, with a button beside it that runs `action` once; the line is empty again by the time it runs.
     void Offer(const QString& text, const QString& caption, std::function<void()> action);
 

@@ -1,0 +1,31 @@
+// A company as the company page shows and takes it.
+#pragma once
+
+#include <string>
+
+namespace ptk {
+
+class CCompany;
+
+struct CompanyTexts
+{
+    std::string id; // empty for a new company
+    std::string name;
+    std::string address1;
+    std::string address2;
+    std::string city;
+    std::string state;
+    std::string zip;
+    std::string phone;
+    std::string fax;
+    std::string federalTaxID;
+
+    bool operator==(const CompanyTexts&) const = default;
+};
+
+CompanyTexts ShowCompanyTexts(const CCompany& company);
+
+// Puts the texts, but not the ID, into the company, whose web address stays.
+void ReadCompanyTexts(const CompanyTexts& texts, CCompany& company);
+
+} // namespace ptk

@@ -1,0 +1,63 @@
+#include "office/NewRecord.h"
+
+#include "platform/Text.h"
+
+#include <fmt/format.h>
+
+namespace ptk {
+
+namespace {
+
+constexpr auto kDate = "mm/dd/yyyy";
+
+bool IsMidnight(DateTime moment)
+{
+    return moment == DateTime(moment.Date());
+}
+
+// A card takes what starts in its period and ends by the midnight after the last day.
+bool LiesIn(const PayPeriod& period, DateTime start, DateTime end)
+{
+    const DateTime after = period.to.AddDays(1);
+    return start >= period.from && start < after && end <= after;
+}
+
+std::string TimesWarning(DateTime start, DateTime end)
+{
+    if (IsMidnight(start) && IsMidnight(end)) {
+        return "This record runs from midnight to midnight. ";
+    }
+    return end < start ? "This record ends before it starts and counts 0 hours. " : "";
+}
+
+std::string PeriodWarning(const PayPeriod& period)
+{
+    return fmt::format("This record lies outside the period {} - {}.", FormatDateTime(period.from, kDate),
+                       FormatDateTime(period.to, kDate));
+}
+
+} // namespace
+
+DateTime RecordTexts::Start() const
+{
+    return ToDateTime(startDate + " " + startTime);
+}
+
+DateTime RecordTexts::End() const
+{
+    return ToDateTime(endDate + " " + endTime);
+}
+
+std::string NewRecordWarning(const RecordTexts& texts, const std::optional<PayPeriod>& period)
+{
+    try {
+        const DateTime start = texts.Start();
+        const DateTime end = texts.End();
+        const bool inside = !period || LiesIn(*period, start, end);
+        return TimesWarning(start, end) + (inside ? std::string() : PeriodWarning(*period));
+    } catch (...) {
+        return {}; // the editor tells of unreadable texts itself
+    }
+}
+
+} // namespace ptk

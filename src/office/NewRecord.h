@@ -1,0 +1,27 @@
+// What the record editor warns of while a new record is being typed.
+#pragma once
+
+#include "model/PayPeriod.h"
+#include "platform/DateTime.h"
+
+#include <optional>
+#include <string>
+
+namespace ptk {
+
+// As the boxes answer them.
+struct RecordTexts
+{
+    std::string startDate;
+    std::string startTime; // empty: midnight
+    std::string endDate;
+    std::string endTime;
+
+    DateTime Start() const; // raise Failure 13
+    DateTime End() const;
+};
+
+// Sentences, or nothing for a record that lies in the period (where one is given) and has hours, and for one that cannot be read yet.
+std::string NewRecordWarning(const RecordTexts& texts, const std::optional<PayPeriod>& period);
+
+} // namespace ptk

@@ -1,0 +1,23 @@
+// The frame around one page of the main window.
+#pragma once
+
+#include <QGroupBox>
+
+class QVBoxLayout;
+
+namespace ptk {
+
+// The page scrolls where the frame is too small for it, so that nothing is ever cut off. Its layout named "buttons" stays in sight, below
+// what scrolls, and its widgets are then the frame's children.
+class PageFrame final : public QGroupBox
+{
+    Q_OBJECT
+
+public:
+    PageFrame(const QString& caption, QWidget* page); // takes the page over
+
+private:
+    static void AddButtons(QVBoxLayout& column, QWidget& page);
+};
+
+} // namespace ptk

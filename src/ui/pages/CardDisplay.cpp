@@ -1,0 +1,129 @@
+#include "ui/pages/CardDisplay.h"
+
+#include "model/CEmployee.h"
+#include "model/CTimeCard.h"
+#include "model/CTimeRecordList.h"
+#include "office/CardTexts.h"
+#include "platform/Required.h"
+#include "platform/Text.h"
+#include "ui/pages/TimeRecordGridModel.h"
+#include "ui_CardDisplay.h"
+
+#include <QHeaderView>
+#include <QShortcut>
+
+namespace ptk {
+
+namespace {
+
+constexpr int kRowSpace = 8; // pixels around the text of a row
+
+QString Figure(float value)
+{
+    return QString::fromStdString(TwoDecimals(value));
+}
+
+} // namespace
+
+CardDisplay::CardDisplay(QWidget* parent)
+    : QWidget(parent), m_ui(std::make_unique<Ui::CardDisplay>()), m_records(new TimeRecordGridModel(this))
+{
+    m_ui->setupUi(this);
+    m_ui->txtTCPeriodPay->SetImportant();
+    setFocusProxy(m_ui->grdTimeRecs);
+    PrepareGrid();
+}
+
+CardDisplay::~CardDisplay() = default;
+
+void CardDisplay::PrepareGrid()
+{
+    TimeRecordGrid* grid = m_ui->grdTimeRecs;
+    grid->setModel(m_records);
+    grid->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    grid->horizontalHeader()->setHighlightSections(false);
+    grid->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    grid->verticalHeader()->setDefaultSectionSize(grid->fontMetrics().height() + kRowSpace);
+    grid->verticalHeader()->hide();
+    const auto choose = [this, grid] {
+        if (grid->selectionModel()->hasSelection()) {
+            emit RowChosen();
+        }
+    };
+    connect(grid, &QTableView::clicked, this, choose);
+    connect(grid->selectionModel(), &QItemSelectionModel::selectionChanged, this, choose);
+    connect(grid, &TimeRecordGrid::EditAsked, this, &CardDisplay::EditAsked);
+    auto* deleteKey = new QShortcut(QKeySequence::Delete, grid, nullptr, nullptr, Qt::WidgetShortcut);
+    connect(deleteKey, &QShortcut::activated, this, &CardDisplay::DeleteAsked);
+}
+
+bool CardDisplay::SetupTimeRecordGrid()
+{
+    m_records->Clear();
+    return true;
+}
+
+bool CardDisplay::DisplayTimeCard(const CTimeCard& card)
+{
+    const auto employee = Required(card.Employee());
+    const bool filled = FillTimeRecordGrid(card.TimeRecordList());
+    m_ui->txtTCHours->setText(Figure(card.RegularHoursWorked()));
+    m_ui->txtTCPayRate->setText(Figure(employee->PayRate()));
+    m_ui->txtTCOvertimeHours->setText(Figure(card.OvertimeHoursWorked()));
+    m_ui->txtTCOvertimePayRate->setText(Figure(employee->OvertimePayRate()));
+    m_ui->txtTCPeriodPay->setText(Figure(card.TotalPay()));
+    m_ui->lblTCBreakTime->setText(QString::fromStdString(BreakTimeText(card)));
+    return filled;
+}
+
+bool CardDisplay::FillTimeRecordGrid(const std::shared_ptr<CTimeRecordList>& records)
+{
+    m_records->SetRecords(*Required(records));
+    return true;
+}
+
+std::array<FigureBox*, 5> CardDisplay::Figures() const
+{
+    return {m_ui->txtTCHours, m_ui->txtTCPayRate, m_ui->txtTCOvertimeHours, m_ui->txtTCOvertimePayRate, m_ui->txtTCPeriodPay};
+}
+
+void CardDisplay::ClearFigures()
+{
+    for (auto* box : Figures()) {
+        box->clear();
+    }
+    m_ui->lblTCBreakTime->clear();
+}
+
+bool CardDisplay::ShowsCard() const
+{
+    return m_records->rowCount() > 0;
+}
+
+void CardDisplay::SetStrange(bool strange)
+{
+    m_records->SetFaded(strange);
+    for (auto* box : Figures()) {
+        box->SetFaded(strange);
+    }
+}
+
+void CardDisplay::SetHint(const QString& text)
+{
+    m_ui->grdTimeRecs->SetHint(text);
+}
+
+// The shown texts have no seconds, an editor may have changed the record since, and another record may have its times: a row means its own
+// record, always.
+std::shared_ptr<CTimeRecord> CardDisplay::ChosenRecord() const
+{
+    const auto rows = m_ui->grdTimeRecs->selectionModel()->selectedRows();
+    return rows.isEmpty() ? nullptr : m_records->Record(rows.first().row());
+}
+
+void CardDisplay::ForgetChoice()
+{
+    m_ui->grdTimeRecs->clearSelection();
+}
+
+} // namespace ptk

@@ -1,0 +1,54 @@
+// What the Timecards page shows of a card: its time records and what they come to.
+#pragma once
+
+#include <array>
+#include <memory>
+#include <QWidget>
+
+namespace Ui {
+class CardDisplay;
+}
+
+namespace ptk {
+
+class CTimeCard;
+class CTimeRecord;
+class CTimeRecordList;
+class FigureBox;
+class TimeRecordGridModel;
+
+// Empty at first. Rows and figures stand as they were when they were put in, whatever becomes of the card since.
+class CardDisplay final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit CardDisplay(QWidget* parent = nullptr);
+    ~CardDisplay() override;
+
+    bool SetupTimeRecordGrid();                  // empties the grid; always true
+    bool DisplayTimeCard(const CTimeCard& card); // fills grid and figures; raises Failure 91 for a card without employee or records
+    void ClearFigures();
+
+    bool ShowsCard() const;        // rows are shown, as every generated card has some
+    void SetStrange(bool strange); // grey: a card that is not the one named above it
+    void SetHint(const QString& text);
+
+    std::shared_ptr<CTimeRecord> ChosenRecord() const; // the chosen row's own; nullptr when none is chosen
+    void ForgetChoice();
+
+signals:
+    void RowChosen(); // by mouse or keys, also when it was chosen before
+    void EditAsked();
+    void DeleteAsked();
+
+private:
+    void PrepareGrid();
+    bool FillTimeRecordGrid(const std::shared_ptr<CTimeRecordList>& records);
+    std::array<FigureBox*, 5> Figures() const;
+
+    std::unique_ptr<Ui::CardDisplay> m_ui;
+    TimeRecordGridModel* m_records; // belongs to the widget
+};
+
+} // namespace ptk

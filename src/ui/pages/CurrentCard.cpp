@@ -1,0 +1,201 @@
+#include "ui/pages/CurrentCard.h"
+
+#include "model/CEmployee.h"
+#include "model/CEmployeeList.h"
+#include "model/CTimeCard.h"
+#include "office/CardTexts.h"
+#include "office/TimeCardNotices.h"
+#include "platform/BusyPointer.h"
+#include "platform/Required.h"
+#include "platform/Succeeds.h"
+#include "startup/CController.h"
+#include "ui/pages/CardChoice.h"
+#include "ui/pages/CardDisplay.h"
+#include "ui/pages/PageHost.h"
+#include "ui/widgets/HintLabel.h"
+#include "ui/widgets/NoticeLine.h"
+
+namespace ptk {
+
+using namespace timecardnotice;
+
+CurrentCard::CurrentCard(PageHost& host, const Place& place, QObject* parent)
+    : QObject(parent), m_host(host), m_choice(place.choice), m_mark(place.mark), m_display(place.display), m_line(place.line)
+{
+    connect(&m_choice, &CardChoice::Changed, this, &CurrentCard::Mark);
+    connect(&m_display, &CardDisplay::RowChosen, this, [this] { m_host.EventSource(eventsource::TimeRecordGrid); });
+}
+
+void CurrentCard::Mark()
+{
+    const auto card = m_host.TimeCard();
+    const CardName chosen = m_choice.Chosen();
+    const bool shown = m_display.ShowsCard();
+    const std::string strange = card == nullptr ? std::string() : StrangeCardText(NameOf(*card), shown, chosen);
+    m_mark.Say(QString::fromStdString(strange));
+    m_display.SetStrange(shown && !strange.empty());
+    m_display.SetHint(QString::fromStdString(NextStepText(chosen)));
+}
+
+// After a run-time failure nothing is shown: the rows would be those of a card that is no longer the current one.
+bool CurrentCard::RefreshTimeCard()
+{
+    m_line.Clear();
+    const auto refresh = [this] {
+        if (m_choice.EmployeeText().empty()) {
+            Tell(m_host.Desktop(), kNoEmployeeChosen);
+        } else if (Regenerate()) {
+            m_line.Say(QString::fromStdString(GeneratedText(*m_host.TimeCard())));
+        }
+        return true;
+    };
+    if (Succeeds(refresh)) {
+        return true;
+    }
+    ClearTimeCardDisplay();
+    return false;
+}
+
+bool CurrentCard::GenerateTimeCard()
+{
+    m_host.TimeCard(nullptr);
+    const auto controller = Required(m_host.Controller());
+    const auto employee = Required(controller->EmployeeList())->GetEmployeeByName(m_choice.EmployeeText());
+    const auto card = std::make_shared<CTimeCard>(Required(controller->TimeRecordFactory()));
+    m_host.TimeCard(card);
+    card->PTKDatabase(controller->PTKDatabase());
+    const PayPeriod period = m_choice.Period();
+    const bool generated = Load(*card, employee, period.from, period.to.AddDays(1));
+    if (!generated) {
+        ReportCardError(card->ErrorNumber());
+        Complain(UnreadText(*card));
+    }
+    return generated;
+}
+
+// The pointer is the usual one again before anything is told.
+bool CurrentCard::Load(CTimeCard& card, const std::shared_ptr<CEmployee>& employee, DateTime start, DateTime end)
+{
+    const BusyPointer busy(m_host.Desktop());
+    return card.GenerateTimecard(employee, start, end);
+}
+
+void CurrentCard::ReportCardError(std::int32_t errorNumber)
+{
+    for (const auto& error : kCardErrors) {
+        if (error.number == errorNumber) {
+            return Tell(m_host.Desktop(), error.notice);
+        }
+    }
+}
+
+bool CurrentCard::Regenerate()
+{
+    const bool generated = GenerateTimeCard();
+    if (generated) {
+        ShowTimeCard();
+    } else {
+        ClearTimeCardDisplay();
+    }
+    return generated;
+}
+
+// What was to be saved is saved; that the card cannot be shown again is another matter.
+void CurrentCard::RegenerateAfterSave()
+{
+    const auto regenerate = [this] {
+        Regenerate();
+        return true;
+    };
+    if (!Succeeds(regenerate)) {
+        ClearTimeCardDisplay();
+        Tell(m_host.Desktop(), kNotGenerated);
+    }
+}
+
+// Of its own employee and period, whatever the boxes say by now.
+bool CurrentCard::ReadAgain()
+{
+    const auto card = Required(m_host.TimeCard());
+    if (!m_display.ShowsCard()) {
+        return true;
+    }
+    if (Load(*card, card->Employee(), card->StartDate(), card->EndDate())) {
+        ShowTimeCard();
+        return true;
+    }
+    const bool noneLeft = UnreadText(*card).empty();
+    if (noneLeft) {
+        ClearTimeCardDisplay();
+    }
+    return noneLeft;
+}
+
+void CurrentCard::RenewFor(std::int32_t savedEmployee)
+{
+    const auto card = m_host.TimeCard();
+    if (card == nullptr || card->Employee() == nullptr || card->Employee()->EmployeeID() != savedEmployee) {
+        return;
+    }
+    const auto renew = [&] {
+        const auto list = Required(Required(m_host.Controller())->EmployeeList());
+        card->Employee(Required(list->GetEmployeeByID(savedEmployee)));
+        return ReadAgain();
+    };
+    if (Succeeds(renew)) {
+        Mark();
+    } else {
+        ClearTimeCardDisplay();
+    }
+}
+
+bool CurrentCard::ShowTimeCard()
+{
+    SetupTimeRecordGrid();
+    m_display.DisplayTimeCard(*Required(m_host.TimeCard()));
+    Mark();
+    return false;
+}
+
+bool CurrentCard::SetupTimeRecordGrid()
+{
+    m_display.SetupTimeRecordGrid();
+    ForgetChosenRecord();
+    emit Rebuilt();
+    return true;
+}
+
+bool CurrentCard::ClearTimeCardDisplay()
+{
+    m_display.ClearFigures();
+    SetupTimeRecordGrid();
+    Mark();
+    return true;
+}
+
+void CurrentCard::ForgetChosenRecord()
+{
+    m_display.ForgetChoice();
+    m_host.EventSource(eventsource::None);
+}
+
+std::shared_ptr<CTimeRecord> CurrentCard::ChosenRecord() const
+{
+    return m_host.EventSource() == eventsource::TimeRecordGrid ? m_display.ChosenRecord() : nullptr;
+}
+
+void CurrentCard::Complain(const std::string& line)
+{
+    if (!line.empty()) {
+        m_line.Say(QString::fromStdString(line));
+        m_host.Log(line);
+    }
+}
+
+std::string CurrentCard::Employee() const
+{
+    const auto card = m_host.TimeCard();
+    return card == nullptr ? std::string() : NameOf(*card).employee;
+}
+
+} // namespace ptk

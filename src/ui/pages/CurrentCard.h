@@ -1,0 +1,70 @@
+// The main window's current time card, and how the Timecards page shows it.
+#pragma once
+
+#include "platform/DateTime.h"
+
+#include <cstdint>
+#include <memory>
+#include <QObject>
+#include <string>
+
+namespace ptk {
+
+class CardChoice;
+class CardDisplay;
+class CEmployee;
+class CTimeCard;
+class CTimeRecord;
+class HintLabel;
+class NoticeLine;
+class PageHost;
+
+// Made of what the page's boxes name, and marked as soon as it is not what they name any more. Moving to another period or employee clears
+// the display but keeps the card. Whatever goes wrong is told in the given boxes, and its reason in the page's line and the session log.
+class CurrentCard final : public QObject
+{
+    Q_OBJECT
+
+public:
+    // The page's widgets, which outlive this.
+    struct Place
+    {
+        CardChoice& choice;
+        HintLabel& mark;
+        CardDisplay& display;
+        NoticeLine& line;
+    };
+
+    CurrentCard(PageHost& host, const Place& place, QObject* parent);
+
+    bool RefreshTimeCard();                    // generates and shows it; false for any run-time failure
+    void RegenerateAfterSave();                // the same, with a box for that failure, and with nothing in the line when it is shown
+    bool ReadAgain();                          // without a box; where that fails, false, what is shown stays. May raise failures.
+    void RenewFor(std::int32_t savedEmployee); // name, rates and deductions of that employee may be others now
+    bool ClearTimeCardDisplay();               // always true
+
+    std::string Employee() const;                      // display name; empty when there is no card or it is nobody's
+    std::shared_ptr<CTimeRecord> ChosenRecord() const; // nullptr when the user has chosen none since the grid was rebuilt
+    void ForgetChosenRecord();
+    void Complain(const std::string& line); // into the page's line and the session log; nothing for an empty text
+
+signals:
+    void Rebuilt(); // the grid, with or without a card in it
+
+private:
+    void Mark();
+    bool GenerateTimeCard();
+    bool Load(CTimeCard& card, const std::shared_ptr<CEmployee>& employee, DateTime start, DateTime end);
+    bool Regenerate();
+    bool ShowTimeCard(); // deliberately always false; nobody looks at it
+    bool SetupTimeRecordGrid();
+    void ReportCardError(std::int32_t errorNumber);
+
+    PageHost& m_host;
+    CardChoice& m_choice;
+    HintLabel& m_mark;
+    CardDisplay& m_display;
+    NoticeLine& m_line;
+};
+
+} // namespace ptk

@@ -1,0 +1,18 @@
+// The platform's style with a little room around the text of its buttons.
+#pragma once
+
+#include <QProxyStyle>
+
+namespace ptk {
+
+class AiryStyle final : public QProxyStyle
+{
+    Q_OBJECT
+
+public:
+    AiryStyle(); // over the application's present style
+
+    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size, const QWidget* widget) const override;
+};
+
+} // namespace ptk

@@ -1,0 +1,26 @@
+// Widgets side by side where the width allows it, below each other where it does not.
+#pragma once
+
+#include <QBoxLayout>
+
+namespace ptk {
+
+// The least width is that of the widest item alone. Without margins.
+class FoldingRow final : public QBoxLayout
+{
+    Q_OBJECT
+
+public:
+    explicit FoldingRow(QWidget* parent = nullptr);
+
+    QSize minimumSize() const override;
+    bool hasHeightForWidth() const override { return true; }
+    int heightForWidth(int width) const override;
+    int minimumHeightForWidth(int width) const override { return heightForWidth(width); }
+    void setGeometry(const QRect& rect) override;
+
+private:
+    bool Folds(int width) const;
+};
+
+} // namespace ptk

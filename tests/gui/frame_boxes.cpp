@@ -1,0 +1,130 @@
+// Journeys in which message boxes really open and keys answer them.
+#include "gui/RealBoxes.h"
+#include "store/BulkWriter.h"
+#include "ui/dialogs/ReportViewerWindow.h"
+#include "ui/LastWindow.h"
+
+namespace ptk {
+
+namespace {
+
+// Idle Ames has no records; the others each worked on 3 March 2003.
+void AddStaff(BulkWriter& writer, int workers)
+{
+    const auto add = [&writer](const std::string& firstName, const std::string& lastName) {
+        EmployeeRow row;
+        row.FirstName = firstName;
+        row.LastName = lastName;
+        row.EmployeeActive = true;
+        return writer.AddEmployee(row);
+    };
+    add("Idle", "Ames");
+    for (int i = 0; i < workers; ++i) {
+        const std::int32_t id = add("No. " + std::to_string(i), "Worker");
+        writer.AddTimeRecord({-1, id, DateTime({2003, 3, 3}, {8, 0, 0}), DateTime({2003, 3, 3}, {16, 0, 0})});
+    }
+}
+
+class RealBoxesTest : public testing::Test
+{
+protected:
+    void Start(int workers)
+    {
+        program = std::make_unique<GuiProgramOn<ShowingDesktop>>([workers](BulkWriter& writer) { AddStaff(writer, workers); });
+        program->LogIn();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&program->Main()));
+    }
+    FController& Main() { return program->Main(); }
+    QString Line() { return Find(Main(), "FrameArray(2)").findChild<QLabel*>("lblNotice")->text(); }
+    void SelectEveryone()
+    {
+        ClickTab(Main(), 2);
+        Click(Main(), "cmdSelectAll");
+    }
+
+    static int Viewers()
+    {
+        const auto windows = QApplication::topLevelWidgets();
+        return static_cast<int>(std::count_if(windows.begin(), windows.end(), [](const QWidget* window) {
+            return window->isVisible() && qobject_cast<const ReportViewerWindow*>(window) != nullptr;
+        }));
+    }
+
+    std::unique_ptr<GuiProgramOn<ShowingDesktop>> program;
+};
+
+TEST_F(RealBoxesTest, AFailureAmongReportsCanBeReadAndStopsNoOther)
+{
+    Start(2);
+    SelectEveryone();
+    const KeyPresses keys({{"QMessageBox", Qt::Key_Return, 800, [] { EXPECT_EQ(QApplication::overrideCursor(), nullptr); }}});
+    Click(Main(), "cmdGenerate");
+    EXPECT_EQ(program->desktop.Take().size(), 1U);
+    EXPECT_EQ(Viewers(), 3);
+    EXPECT_EQ(Line(), "2 of 3 reports complete, 1 failed");
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(RealBoxesTest, ACancelledRunTellsHowFarItCame)
+{
+    Start(400);
+    SelectEveryone();
+    const KeyPresses keys({{"QMessageBox", Qt::Key_Return}, {"ptk::GenerationProgress", Qt::Key_Escape}});
+    Click(Main(), "cmdGenerate");
+    EXPECT_LT(Viewers(), 401);
+    EXPECT_EQ(Line(), QString("Cancelled: %1 of 401 reports complete, 1 failed").arg(Viewers() - 1));
+}
+
+TEST_F(RealBoxesTest, AQuestionThatIsHurriedPastChangesNothing)
+{
+    Start(0);
+    const KeyPresses keys({{"QMessageBox", Qt::Key_Return}});
+    EXPECT_EQ(program->desktop.MessageBox("Go on?", "Question", Icon::Question, Buttons::YesNo), Answer::No);
+}
+
+TEST_F(RealBoxesTest, NothingIsLeftWhenTheDatabaseIsGoneAtTheEnd)
+{
+    Start(1);
+    SelectEveryone();
+    Find<QComboBox>(Main(), "cboReports").setCurrentText("Phone Book");
+    Click(Main(), "cmdGenerate");
+    EXPECT_EQ(Viewers(), 1);
+    std::filesystem::remove(NativePath(program->databasePath));
+
+    bool gone = false;
+    const LastWindow last([&gone] { gone = true; });
+    const KeyPresses keys({{"QMessageBox", Qt::Key_Return}, {"QMessageBox", Qt::Key_Return}});
+    Main().close();
+    EXPECT_EQ(program->desktop.Take().back().title, "Database Open Error");
+    EXPECT_EQ(program->ended, 0);
+    EXPECT_TRUE(QTest::qWaitFor([&gone] { return gone; }));
+    EXPECT_FALSE(IsAnyWindowShown());
+}
+
+// To the reports, a period back, everybody, generate, print.
+TEST_F(RealBoxesTest, APaydayTakesFiveKeys)
+{
+    Start(7);
+    program->clock.now = DateTime({2003, 3, 19}, {9, 0, 0}); // the period offered is 15 to 29 March
+    Find<QComboBox>(Main(), "cboReports").setCurrentIndex(1);
+    Find<QComboBox>(Main(), "cboReports").setCurrentIndex(0);
+    const KeyPresses box({{"QMessageBox", Qt::Key_Return}});
+    const auto press = [](int key, Qt::KeyboardModifiers with) {
+        QTest::keyClick(QGuiApplication::focusWindow(), static_cast<Qt::Key>(key), with);
+        QCoreApplication::processEvents();
+    };
+    press(Qt::Key_Tab, Qt::ControlModifier);
+    press(Qt::Key_Left, Qt::AltModifier);
+    press(Qt::Key_A, Qt::AltModifier);
+    press(Qt::Key_Return, Qt::NoModifier);
+    EXPECT_EQ(Line(), "7 of 8 reports complete, 1 failed");
+    EXPECT_EQ(Viewers(), 8);
+    press(Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(Line(), "8 reports printed");
+    EXPECT_EQ(program->desktop.requests.size(), 8U);
+    EXPECT_EQ(Viewers(), 0);
+}
+
+} // namespace
+
+} // namespace ptk
