@@ -411,8 +411,9 @@ TEST_F(TimeCardTest, ARefusedSaveIsToldAndOfferedAgain)
 {
     GenerateFor("Ann Lee");
     const QStringList shown = Rows();
-    ChangeDatabase("CREATE TRIGGER rule BEFORE INSERT ON TimeRecord WHEN NEW.StartTime LIKE '%18:00:00' OR NEW.StartTime LIKE '2003-03-11%' "
-                   "BEGIN SELECT RAISE(ABORT, 'no'); END");
+    ChangeDatabase(
+        "CREATE TRIGGER rule BEFORE INSERT ON TimeRecord WHEN NEW.StartTime LIKE '%18:00:00' OR NEW.StartTime LIKE '2003-03-11%' "
+        "BEGIN SELECT RAISE(ABORT, 'no'); END");
     {
         const ExpectedModal editor([](QDialog& window) { Enter(window, "18", "1930"); });
         Press("cmdTCNew");
