@@ -6,6 +6,7 @@
 #include "Painted.h"
 #include "store/CJetDB.h"
 #include "ui/widgets/EmployeeModels.h"
+#include "ui_CardChoice.h"
 #include "ui_CompanyPage.h"
 #include "ui_EmployeePage.h"
 #include "ui_OptionsPage.h"
@@ -73,8 +74,12 @@ void BareMain(const std::string& folder)
     AddPage(tabs, employees, "Employees");
     AddPage(tabs, company, "Company");
     AddPage(tabs, options, "Options");
-    ptk::ShowEmployees(*timeCards.cboTCEmployeeName, models.Offered(), 14);
-    reports.lstEmployees->setModel(models.Offered());
+    auto* choice = new QWidget;
+    Ui::CardChoice choiceForm;
+    choiceForm.setupUi(choice);
+    timeCards.layout->insertWidget(0, choice);
+    ptk::ShowEmployees(*choiceForm.cboTCEmployeeName, models.Offered(), 14);
+    ptk::ShowEmployees(*reports.lstEmployees, models.Offered());
     ptk::ShowEmployees(*employees.cboEmployeeID, models.All(ptk::EmployeeText::ID), 6);
     ptk::ShowEmployees(*employees.cboEmployeeName, models.All(ptk::EmployeeText::Name), 10);
     ptk::ShowEmployees(*employees.cboEmployeeSSN, models.All(ptk::EmployeeText::SSN), 10);

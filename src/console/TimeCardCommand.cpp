@@ -10,7 +10,7 @@ namespace ptk {
 
 int TimeCardCommand(const TimeCardArguments& arguments, Console& console)
 {
-    const Session session(console.programFolder);
+    Session session(console.programFolder);
     CTimeCard card(session.Factory());
     card.PTKDatabase(session.Database());
     // A card's end is a moment: midnight after the last day, as the time card page passes it.
@@ -22,6 +22,7 @@ int TimeCardCommand(const TimeCardArguments& arguments, Console& console)
     if (card.ErrorNumber() != 0) {
         throw ProgramFailure(card.ErrorNumber(), arguments.employee);
     }
+    session.GiveUpDatabase();
     console.out << TerminalText(text);
     return status::Done;
 }

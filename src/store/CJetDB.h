@@ -36,9 +36,9 @@ inline constexpr std::int32_t WorkingReferenceLost = 312; // a loaded company di
 class CJetDB
 {
 public:
-    // While one lives, the file is held across any number of operations: all of them see the same moment, and what they open and close
-    // costs nothing. Where the file could not be opened, each of them is told so at once, without waiting for its own second. Holds may
-    // nest; the file is closed after the last. Not to be kept while the user is asked something.
+    // While one lives, the file is held across any number of operations: all that read see the same moment, until one of them stores
+    // something, and what they open and close costs nothing. Where the file could not be opened, each of them is told so at once, without
+    // waiting for its own second. Holds may nest; the file is closed after the last. Not to be kept while the user is asked something.
     class Hold
     {
     public:

@@ -33,7 +33,7 @@ class CompanyPageTest : public PageTest
 protected:
     CompanyPageTest() : PageTest(AddCompanies) { ClickTab(Main(), 4); }
 
-    QString Notice() { return Find<NoticeLine>(Find(Main(), "CompanyPage"), "notice").Text(); }
+    QString Notice() { return Find<NoticeLine>(Find(Main(), "FrameArray(4)"), "notice").Text(); }
     QString Shown()
     {
         return The<QComboBox>("cboCompanyID").currentText() + "|" + The<QComboBox>("cboCompanyName").currentText() + "|" +
@@ -86,7 +86,7 @@ TEST_F(CompanyPageTest, WhatIsLeftBehindCanBeBroughtBack)
     Key(The<QComboBox>("cboCompanyName"), Qt::Key_Return);
     EXPECT_EQ(Shown(), "2|Birch|555-3|555-2|T1");
     EXPECT_EQ(Notice(), "Changes to Acorn were not saved");
-    Click(Find(Main(), "CompanyPage"), "cmdNotice");
+    Click(Find(Main(), "FrameArray(4)"), "cmdNotice");
     EXPECT_EQ(Shown(), "1|Acorn|555-1|555-9|T1");
     EXPECT_EQ(StatusText(Main()), "Acorn : Phone: 555-1");
 }

@@ -74,7 +74,7 @@ protected:
         }
         return keys.join("|");
     }
-    QString Notice() { return Find<NoticeLine>(Find(Main(), "EmployeePage"), "notice").Text(); }
+    QString Notice() { return Find<NoticeLine>(Find(Main(), "FrameArray(3)"), "notice").Text(); }
     QString Pay() { return Text("txtPayRate") + " " + Text("txtOvertimePayRate"); }
     void EnterKeys(const char* number, const char* name, const char* ssn)
     {
@@ -209,7 +209,7 @@ TEST_F(EmployeePageTest, WhatIsLeftBehindCanBeBroughtBack)
         EXPECT_EQ(Keys(), way.after);
         EXPECT_EQ(Text("txtEmployeeCity") + The<DateCombo>("cboReleaseDate").Text(), "");
         EXPECT_EQ(Notice(), "Changes to Ann Lee were not saved");
-        Click(Find(Main(), "EmployeePage"), "cmdNotice");
+        Click(Find(Main(), "FrameArray(3)"), "cmdNotice");
         EXPECT_EQ(Keys(), "40|Ann Lee|111-11|5");
         EXPECT_EQ(Text("txtEmployeeCity") + The<DateCombo>("cboReleaseDate").Text(), "Harbor03/01/2003");
         Type(The<QLineEdit>("txtEmployeeCity"), "");

@@ -144,7 +144,7 @@ TEST_F(MainWindowTest, AppliesOptionsThatTheNextStartFinds)
     EXPECT_EQ(Find<QLabel>(Main(), "lblPeriodExample").text(), "A period has 8 days, for example 03/05/2003 - 03/12/2003");
     Click(Main(), "cmdApplyOptions");
     EXPECT_EQ(program.desktop.Take(), Boxes());
-    EXPECT_EQ(Find<NoticeLine>(Find(Main(), "OptionsPage"), "notice").Text(), "Options applied");
+    EXPECT_EQ(Find<NoticeLine>(Find(Main(), "FrameArray(5)"), "notice").Text(), "Options applied");
 
     CSystemOptions stored;
     ASSERT_TRUE(program.Controller()->PTKDatabase()->OpenDB());

@@ -110,6 +110,23 @@ TEST(RecordSetTest, TypesValuesByTheColumnsDeclaration)
     }
 }
 
+TEST(RecordSetTest, ShowsEveryValueOnOneShortLine)
+{
+    struct Case
+    {
+        void (*add)(Builder&);
+        std::string shown;
+    };
+    for (const Case& c : {Case{[](Builder& b) { b.AddNull(); }, "NULL"}, Case{[](Builder& b) { b.AddInteger(1LL << 40); }, "1099511627776"},
+                          Case{[](Builder& b) { b.AddReal(12.5); }, "12.5"}, Case{[](Builder& b) { b.AddReal(1e300); }, "1e+300"},
+                          Case{[](Builder& b) { b.AddBinary(); }, "a value of bytes"},
+                          Case{[](Builder& b) { b.AddText("2003-03-05 08:05:09"); }, "\"2003-03-05 08:05:09\""},
+                          Case{[](Builder& b) { b.AddText("one\r\ntwo"); }, "\"one  two\""},
+                          Case{[](Builder& b) { b.AddText(std::string(59, 'x') + "\xC3\xA9"); }, '"' + std::string(59, 'x') + "...\""}}) {
+        EXPECT_EQ(Single("DATETIME", c.add)->Shown(0), c.shown);
+    }
+}
+
 TEST(RecordSetTest, RefusesWhatACellDoesNotMean)
 {
     struct Case

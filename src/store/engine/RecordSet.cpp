@@ -4,6 +4,7 @@
 #include "platform/Text.h"
 #include "store/engine/StoredDate.h"
 
+#include <algorithm>
 #include <bit>
 #include <fmt/format.h>
 
@@ -11,9 +12,21 @@ namespace ptk {
 
 namespace {
 
-constexpr std::size_t kLongestShown = 60; // bytes of a text
+constexpr std::size_t kLongestShown = 60; // bytes
 
+std::string InQuotes(std::string_view text)
+{
+    std::size_t length = std::min(text.size(), kLongestShown);
+    while (length > 0 && length < text.size() && (text[length] & 0xC0) == 0x80) { // within a character
+        --length;
+    }
+    std::string shown(text.substr(0, length));
+    std::replace_if(
+        shown.begin(), shown.end(), [](char c) { return c == '\r' || c == '\n'; }, ' ');
+    return '"' + shown + (length < text.size() ? "...\"" : "\"");
 }
+
+} // namespace
 
 void RecordSet::MoveFirst()
 {
@@ -155,9 +168,9 @@ std::string RecordSet::Shown(std::size_t column) const
     case Kind::Real:
         return fmt::format("{}", std::bit_cast<double>(cell.content));
     case Kind::DateTime:
-        return '"' + StoredText(DateTime::FromSeconds(cell.content)) + '"';
+        return InQuotes(StoredText(DateTime::FromSeconds(cell.content)));
     case Kind::Text:
-        return '"' + std::string(TextOf(cell).substr(0, kLongestShown)) + (cell.size > kLongestShown ? "...\"" : "\"");
+        return InQuotes(TextOf(cell));
     case Kind::Binary:
         break;
     }

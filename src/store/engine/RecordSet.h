@@ -36,7 +36,8 @@ public:
     DateTime DateTimeAt(std::size_t column) const;     // no allocation for the stored form YYYY-MM-DD HH:MM:SS
     std::string_view TextAt(std::size_t column) const; // of text cells only (13); valid as long as the record set
 
-    // For telling people of a value, whatever it is: as it is stored, texts in quotes and cut where they are long; NULL for a null.
+    // For telling people of a value, whatever it is: as it is stored, on one line, texts in quotes and cut where they are long; NULL for a
+    // null.
     std::string Shown(std::size_t column) const;
     bool HasStoredDate(std::size_t column) const; // in the stored form YYYY-MM-DD HH:MM:SS, the only one that searches find
 

@@ -27,6 +27,7 @@ constexpr auto kNotRead = "An error occurred while loading the company object.";
 constexpr auto kNotSaved = "An error occurred while saving the company list.";
 
 constexpr auto kSaved = " saved";
+constexpr auto kSavedUnread = " saved, but the companies could not be read again";
 constexpr auto kNotInList = " is not in the list any more";
 
 constexpr int kIDCharacters = 5;
@@ -225,33 +226,32 @@ void CompanyPage::SaveTexts(const CompanyTexts& texts)
     }
     ReadCompanyTexts(texts, *edited->entity);
     if (SaveOrTell(m_host.Desktop(), *list, *edited, kNotSaved)) {
-        Reload();
-        m_ui->notice->Say(QString::fromStdString(texts.name + kSaved));
+        const bool read = Reload();
+        m_ui->notice->Say(QString::fromStdString(texts.name + (read ? kSaved : kSavedUnread)));
     }
 }
 
-void CompanyPage::Reload()
+bool CompanyPage::Reload()
 {
     const BusyPointer busy(m_host.Desktop());
-    if (!Required(m_host.Controller())->GetCompanyList()) {
-        ReloadAfresh();
-    }
+    const bool read = Required(m_host.Controller())->GetCompanyList() || ReloadAfresh();
     if (!FillCompanyLists()) {
         m_host.ErrorNumber(windowerror::FillListsFailed);
     }
     ClearCompanyFields();
+    return read;
 }
 
 // Once an operation has found the database closed, the program's access to it lists no companies any more, and leaves it open on the way. A
 // new access knows nothing of that.
-void CompanyPage::ReloadAfresh()
+bool CompanyPage::ReloadAfresh()
 {
     const auto stale = Required(Required(m_host.Controller())->PTKDatabase());
     stale->CloseDB();
     const auto fresh = std::make_shared<CJetDB>(std::string());
     fresh->DatabaseName(stale->DatabaseName());
     List()->Destroy();
-    List()->LoadList(fresh);
+    return List()->LoadList(fresh);
 }
 
 std::shared_ptr<CCompanyList> CompanyPage::List() const

@@ -59,8 +59,8 @@ private:
 
     void Save();
     void SaveTexts(const CompanyTexts& texts);
-    void Reload();
-    void ReloadAfresh();
+    bool Reload(); // whether the companies could be read again
+    bool ReloadAfresh();
 
     CompanyTexts ReadTexts() const;
     std::shared_ptr<CCompanyList> List() const; // raises Failure 91 when there is none
