@@ -54,6 +54,15 @@ CREATE TABLE TimeRecord (
 -- Answers the fetch of an employee's pay period, in its order, without touching the table.
 CREATE INDEX TimeRecordPeriod ON TimeRecord (EmployeeID, StartTime, EndTime);
 
+-- The few records that a search by start alone would miss when a card is checked: all but those with two readable times of which the end is
+-- at or after the start and at most a day later. Only what begins with a digit gets to the date functions, which refuse the text 'now'.
+CREATE INDEX TimeRecordUnusual ON TimeRecord (EmployeeID, StartTime, EndTime) WHERE
+    CASE WHEN StartTime GLOB '[0-9]*' AND EndTime GLOB '[0-9]*' THEN
+        StartTime < '0100-01-01' OR StartTime = '1899-12-30 00:00:00'
+        OR datetime(StartTime, '+0 days') IS NOT StartTime OR datetime(EndTime, '+0 days') IS NOT EndTime
+        OR julianday(EndTime) - julianday(StartTime) NOT BETWEEN 0 AND 1
+    ELSE 1 END;
+
 -- One row: the options of the program.
 CREATE TABLE _System (
     program TEXT,
@@ -63,12 +72,21 @@ CREATE TABLE _System (
     auto_shift_end_time DATETIME
 );
 
+-- One row: what the check of a time card looks for. The first day of a work week is 0 for Sunday to 6 for Saturday.
+CREATE TABLE _CheckLimits (
+    long_shift_hours INTEGER,
+    first_weekday INTEGER,
+    show_notices BOOLEAN
+);
+
 CREATE TABLE _StoredQuery (
     name TEXT PRIMARY KEY,
     sql TEXT NOT NULL
 );
 
 INSERT INTO _System VALUES ('PTK - Administrator', '1.0', 14, '1899-12-30 08:00:00', '1899-12-30 17:00:00');
+
+INSERT INTO _CheckLimits VALUES (16, 0, 1);
 
 -- The program knows its administrator by this number.
 INSERT INTO Employee (

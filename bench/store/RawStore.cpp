@@ -50,6 +50,25 @@ int MinuteOfDay(const unsigned char* stored)
     return TwoDigits(stored + 11) * 60 + TwoDigits(stored + 14);
 }
 
+// Hours of the rows that a prepared fetch answers, day by day.
+double SumHours(sqlite3_stmt* statement)
+{
+    double hours = 0;
+    double day = 0;
+    char date[11] = "";
+    while (sqlite3_step(statement) == SQLITE_ROW) {
+        const unsigned char* start = sqlite3_column_text(statement, 2);
+        const unsigned char* end = sqlite3_column_text(statement, 3);
+        if (std::memcmp(date, start, 10) != 0) {
+            hours += day;
+            day = 0;
+            std::memcpy(date, start, 10);
+        }
+        day += (MinuteOfDay(end) - MinuteOfDay(start)) / 60.0;
+    }
+    return hours + day;
+}
+
 } // namespace
 
 std::string StoredText(ptk::DateTime value)
@@ -66,21 +85,29 @@ double RawCard(const std::string& path, std::int32_t employee, const std::string
                     employee, from, to);
     sqlite3_stmt* statement = nullptr;
     hold.Require(sqlite3_prepare_v2(hold.Get(), sql.c_str(), -1, &statement, nullptr));
+    const double hours = SumHours(statement);
+    sqlite3_finalize(statement);
+    return hours;
+}
+
+double RawCards(const std::string& path, std::int32_t first, std::int32_t count, const std::string& from, const std::string& to)
+{
+    const Hold hold(path, "");
+    sqlite3_stmt* statement = nullptr;
+    hold.Require(sqlite3_prepare_v2(hold.Get(),
+                                    "SELECT TimeRecordID, EmployeeID, StartTime, EndTime FROM TimeRecord WHERE EmployeeID = ?1 AND "
+                                    "StartTime >= ?2 AND EndTime <= ?3 ORDER BY StartTime, EndTime",
+                                    -1, &statement, nullptr));
+    hold.Require(sqlite3_bind_text(statement, 2, from.c_str(), -1, SQLITE_STATIC));
+    hold.Require(sqlite3_bind_text(statement, 3, to.c_str(), -1, SQLITE_STATIC));
     double hours = 0;
-    double day = 0;
-    char date[11] = "";
-    while (sqlite3_step(statement) == SQLITE_ROW) {
-        const unsigned char* start = sqlite3_column_text(statement, 2);
-        const unsigned char* end = sqlite3_column_text(statement, 3);
-        if (std::memcmp(date, start, 10) != 0) {
-            hours += day;
-            day = 0;
-            std::memcpy(date, start, 10);
-        }
-        day += (MinuteOfDay(end) - MinuteOfDay(start)) / 60.0;
+    for (std::int32_t employee = first; employee < first + count; ++employee) {
+        hold.Require(sqlite3_bind_int(statement, 1, employee));
+        hours += SumHours(statement);
+        hold.Require(sqlite3_reset(statement));
     }
     sqlite3_finalize(statement);
-    return hours + day;
+    return hours;
 }
 
 std::vector<RawEmployee> RawEmployees(const std::string& path)

@@ -12,6 +12,9 @@ namespace bench {
 // Opens with the exclusive hold, fetches the period, reads its texts, sums the hours per day, closes. Returns the hours.
 double RawCard(const std::string& path, std::int32_t employee, const std::string& from, const std::string& to);
 
+// The same for so many employees one after the other, the file opened and the fetch prepared once.
+double RawCards(const std::string& path, std::int32_t first, std::int32_t count, const std::string& from, const std::string& to);
+
 struct RawEmployee
 {
     std::int32_t id = 0;

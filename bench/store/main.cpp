@@ -8,6 +8,7 @@
 namespace bench {
 void RegisterStoreBenchmarks(bool large);
 void RegisterReportBenchmarks();
+void RegisterCheckBenchmarks();
 } // namespace bench
 
 int main(int argc, char** argv)
@@ -28,6 +29,7 @@ int main(int argc, char** argv)
     benchmark::Initialize(&count, rest.data());
     bench::RegisterStoreBenchmarks(large);
     bench::RegisterReportBenchmarks();
+    bench::RegisterCheckBenchmarks();
     benchmark::RunSpecifiedBenchmarks();
     return 0;
 }

@@ -30,6 +30,8 @@ struct Words
 {
     std::string programFolder;
     bool sample = false;
+    bool check = false;
+    std::string format = "text";
     std::string today;
     std::string employee;
     std::string from;
@@ -48,6 +50,7 @@ private:
     void DescribeCreateDatabase();
     void DescribeTimeCard();
     void DescribeReport();
+    void DescribeOverview();
     void CheckReport() const;
     std::variant<Arguments, UsageAnswer> Answer(const CLI::ParseError& error) const;
     Arguments Result() const;
@@ -58,6 +61,7 @@ private:
     CLI::App* m_createDatabase = nullptr;
     CLI::App* m_timeCard = nullptr;
     CLI::App* m_report = nullptr;
+    CLI::App* m_overview = nullptr;
 };
 
 Grammar::Grammar()
@@ -70,10 +74,11 @@ Grammar::Grammar()
         ->type_name("DIR");
     m_app.require_subcommand(1);
     m_app.fallthrough();
-    m_app.footer("Exit status: 0 done, 1 the operation failed, 2 wrong usage. Dates are month/day/year.");
+    m_app.footer("Exit status: 0 done, 1 the operation failed, 2 wrong usage, 3 done and problems found. Dates are month/day/year.");
     DescribeCreateDatabase();
     DescribeTimeCard();
     DescribeReport();
+    DescribeOverview();
     m_app.add_subcommand("check", "Verify the database's integrity and schema and print its row counts");
 }
 
@@ -93,6 +98,7 @@ void Grammar::DescribeTimeCard()
         ->required();
     TakesDay(m_timeCard->add_option("--from", m_words.from, "First day")->required());
     TakesDay(m_timeCard->add_option("--to", m_words.to, "Last day, inclusive")->required());
+    m_timeCard->add_flag("--check", m_words.check, "Say below the card what is wrong with it");
 }
 
 void Grammar::DescribeReport()
@@ -107,6 +113,19 @@ void Grammar::DescribeReport()
         ->allow_extra_args(false);
     TakesDay(m_report->add_option("--from", m_words.from, "First day; else as the Reports page offers"));
     TakesDay(m_report->add_option("--to", m_words.to, "Last day; else as the Reports page offers"));
+}
+
+void Grammar::DescribeOverview()
+{
+    m_overview = m_app.add_subcommand("overview", "Print whom one can pay for a period, whom not yet, and why");
+    m_overview->add_option("--employee", m_words.employees, "An employee's name, may be repeated; else all that are offered time cards")
+        ->type_name("NAME")
+        ->allow_extra_args(false);
+    TakesDay(m_overview->add_option("--from", m_words.from, "First day; else as the Reports page offers"));
+    TakesDay(m_overview->add_option("--to", m_words.to, "Last day, inclusive; else by the length of a pay period"));
+    m_overview->add_option("--format", m_words.format, "How: text, csv or json")
+        ->type_name("FORMAT")
+        ->check(CLI::IsMember({"text", "csv", "json"}));
 }
 
 // What each report has no use for is refused rather than silently left aside.
@@ -153,10 +172,13 @@ Arguments Grammar::Result() const
         return {m_words.programFolder, CreateDatabaseArguments{m_words.sample, ReadDay(m_words.today)}};
     }
     if (m_timeCard->parsed()) {
-        return {m_words.programFolder, TimeCardArguments{m_words.employee, ReadDay(m_words.from).value(), ReadDay(m_words.to).value()}};
+        return {m_words.programFolder, TimeCardArguments{m_words.employee, ReadDay(m_words.from).value(), ReadDay(m_words.to).value(), m_words.check}};
     }
     if (m_report->parsed()) {
         return {m_words.programFolder, ReportArguments{m_words.report, m_words.employees, ReadDay(m_words.from), ReadDay(m_words.to)}};
+    }
+    if (m_overview->parsed()) {
+        return {m_words.programFolder, OverviewArguments{m_words.employees, ReadDay(m_words.from), ReadDay(m_words.to), m_words.format}};
     }
     return {m_words.programFolder, CheckArguments{}};
 }

@@ -21,6 +21,7 @@ struct TimeCardArguments
     std::string employee; // a display name
     DateTime from;
     DateTime to; // inclusive
+    bool check = false;
 };
 
 struct ReportArguments
@@ -31,6 +32,14 @@ struct ReportArguments
     std::optional<DateTime> to;
 };
 
+struct OverviewArguments
+{
+    std::vector<std::string> employees; // as above; none: all that are offered
+    std::optional<DateTime> from;
+    std::optional<DateTime> to;
+    std::string format; // one of text, csv, json
+};
+
 struct CheckArguments
 {
 };
@@ -38,7 +47,7 @@ struct CheckArguments
 struct Arguments
 {
     std::string programFolder; // empty: not given
-    std::variant<CreateDatabaseArguments, TimeCardArguments, ReportArguments, CheckArguments> command;
+    std::variant<CreateDatabaseArguments, TimeCardArguments, ReportArguments, OverviewArguments, CheckArguments> command;
 };
 
 // What stands instead of arguments when there is nothing to do any more: the text asked for (help, version) or what is wrong.

@@ -6,12 +6,14 @@ namespace ptk {
 struct Console;
 struct CheckArguments;
 struct CreateDatabaseArguments;
+struct OverviewArguments;
 struct ReportArguments;
 struct TimeCardArguments;
 
 int CreateDatabaseCommand(const CreateDatabaseArguments& arguments, Console& console);
 int TimeCardCommand(const TimeCardArguments& arguments, Console& console);
 int ReportCommand(const ReportArguments& arguments, Console& console);
+int OverviewCommand(const OverviewArguments& arguments, Console& console);
 int CheckCommand(const CheckArguments& arguments, Console& console);
 
 } // namespace ptk

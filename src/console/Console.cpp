@@ -47,6 +47,13 @@ void Complain(std::ostream& err, const Failure& failure)
     err << TerminalText(text) << '\n';
 }
 
+int RefuseUsage(std::ostream& err, const std::string& text)
+{
+    Complain(err, Failure(0, "PTK", text));
+    err << "Try: ptk-console --help\n";
+    return status::WrongUsage;
+}
+
 std::string TerminalText(std::string_view text)
 {
     std::string result;

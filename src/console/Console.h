@@ -16,6 +16,7 @@ namespace status {
 inline constexpr int Done = 0;
 inline constexpr int Failed = 1;
 inline constexpr int WrongUsage = 2;
+inline constexpr int ProblemsFound = 3; // done, but what it found should be mended
 } // namespace status
 
 // The references outlive the command.
@@ -29,6 +30,9 @@ struct Console
 
 // "ptk-console: NUMBER: TEXT" on one line, without the number where there is none (0).
 void Complain(std::ostream& err, const Failure& failure);
+
+// Says what is wrong with the command line; answers the status for that.
+int RefuseUsage(std::ostream& err, const std::string& text);
 
 // Texts carry CR LF, as files keep them; a terminal wants LF alone. Names come from whoever filled the database: any other control
 // character but the tab, which a terminal might take for a command, becomes a question mark.

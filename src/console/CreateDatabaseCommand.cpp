@@ -23,7 +23,9 @@ void AddSampleBusiness(BulkWriter& writer, DateTime today)
     for (SampleEmployee& employee : SampleEmployees(today)) {
         employee.row.CompanyID = companies.at(static_cast<std::size_t>(employee.row.CompanyID - 1));
         const std::int32_t employeeID = writer.AddEmployee(employee.row);
-        for (const TimeRecordRow& shift : SampleShifts(employee, employeeID, today)) {
+        std::vector<TimeRecordRow> shifts = SampleShifts(employee, employeeID, today);
+        AddIrregularities(employee, shifts, today);
+        for (const TimeRecordRow& shift : shifts) {
             writer.AddTimeRecord(shift);
         }
     }

@@ -18,6 +18,7 @@ struct Dispatch
     int operator()(const CreateDatabaseArguments& arguments) const { return CreateDatabaseCommand(arguments, console); }
     int operator()(const TimeCardArguments& arguments) const { return TimeCardCommand(arguments, console); }
     int operator()(const ReportArguments& arguments) const { return ReportCommand(arguments, console); }
+    int operator()(const OverviewArguments& arguments) const { return OverviewCommand(arguments, console); }
     int operator()(const CheckArguments& arguments) const { return CheckCommand(arguments, console); }
 };
 
@@ -27,9 +28,7 @@ int ShowUsage(const UsageAnswer& answer, std::ostream& out, std::ostream& err)
         out << answer.text << '\n';
         return status::Done;
     }
-    Complain(err, Failure(0, "PTK", answer.text));
-    err << "Try: ptk-console --help\n";
-    return status::WrongUsage;
+    return RefuseUsage(err, answer.text);
 }
 
 int Run(const std::vector<std::string>& words, const Clock& clock, std::ostream& out, std::ostream& err)
@@ -49,7 +48,7 @@ int RunConsole(const std::vector<std::string>& words, const Clock& clock, std::o
 {
     try {
         const int result = Run(words, clock, out, err);
-        if (out.flush() || result != status::Done) {
+        if (out.flush() || result == status::Failed || result == status::WrongUsage) {
             return result;
         }
         throw Failure(0, "PTK", "the output could not be written");

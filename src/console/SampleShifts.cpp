@@ -9,6 +9,7 @@ namespace {
 
 constexpr int kDays = 182; // half a year
 constexpr std::int64_t kSecondsPerMinute = 60;
+constexpr int kLateStart = 480;
 
 // Minutes since midnight of the day on which the shift starts; more than 1440 is the next day.
 struct Span
@@ -82,7 +83,7 @@ std::vector<TimeRecordRow> SampleShifts(const SampleEmployee& employee, std::int
 {
     const Plan plan = PlanOf(employee.pattern);
     Chance chance(employee.row.EmployeeNumber);
-    const DateTime end = employee.row.ReleaseDate.IsZero() ? today : employee.row.ReleaseDate;
+    const DateTime end = employee.row.EmployeeActive ? today : employee.row.ReleaseDate;
     std::vector<TimeRecordRow> shifts;
     for (DateTime day = today.AddDays(-kDays); day < end; day = day.AddDays(1)) {
         const bool absent = chance.OneIn(25);
@@ -92,7 +93,7 @@ std::vector<TimeRecordRow> SampleShifts(const SampleEmployee& employee, std::int
     }
     if (employee.clockedIn) {
         shifts.emplace_back();
-        shifts.back().StartTime = At(today, plan.spans.front().start + chance.Between(-7, 6));
+        shifts.back().StartTime = At(today, kLateStart + chance.Between(0, 6)); // within 16 hours of which the day ends
     }
     for (TimeRecordRow& shift : shifts) {
         shift.EmployeeID = employeeID;

@@ -29,6 +29,8 @@ struct Person
 constexpr int kReleasedDaysAgo = 61;
 constexpr std::int32_t kReleasedNumber = 106;
 constexpr std::int32_t kClockedInNumber = 204;
+constexpr std::int32_t kLeavingNumber = 107; // still on the list
+constexpr int kLeftDaysAgo = 2;
 
 using enum WorkPattern;
 
@@ -51,7 +53,7 @@ constexpr std::array kPeople{
            30,
            15},
     Person{
-        SplitDay, 1, 103, "Maria", "Santos", "900-12-0103", "77 Chapel Road", "", "555-0103", 42, {0, 2, 28}, 1461, 17.25F, 25.88F, 0, 0},
+        SplitDay, 1, 103, "Maria", "Santos", "900-12-0103", "77 Chapel Road", "", "555-0103", 42, {0, 2, 28}, 1461, 17.25F, 0.0F, 0, 0},
     Person{Night, 1, 104, "Thomas", "Brandt", "900-12-0104", "5 Quarry Hill", "", "555-0104", 39, {0, 8, 9}, 903, 19.8F, 29.7F, 30, 0},
     Person{
         Office, 1, 105, "Grace", "Okafor", "900-12-0105", "31 Harbor View", "Unit B", "555-0105", 29, {0, 6, 30}, 655, 21.4F, 32.1F, 60, 0},
@@ -133,6 +135,9 @@ EmployeeRow RowOf(const Person& person, DateTime today)
     row.EmployeeActive = person.number != kReleasedNumber;
     if (!row.EmployeeActive) {
         row.ReleaseDate = today.AddDays(-kReleasedDaysAgo);
+    }
+    if (person.number == kLeavingNumber) {
+        row.ReleaseDate = today.AddDays(-kLeftDaysAgo);
     }
     return row;
 }

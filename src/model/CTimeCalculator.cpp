@@ -36,15 +36,20 @@ float Product(float a, float b)
 
 } // namespace
 
-bool CTimeCalculator::CalculateTimes(const CEmployee& theemployee, const CTimeRecordList& thetimerecordlist)
+// A shift past midnight belongs wholly to the day on which it began.
+template <typename ShiftAt>
+bool CTimeCalculator::Calculate(const CEmployee& employee, std::int64_t count, ShiftAt shiftAt)
 {
     try {
-        const std::int16_t count = NarrowToInt16(thetimerecordlist.Count());
-        for (std::int32_t i = 1; i <= count;) {
-            float hours = 0;
-            i = SumDay(thetimerecordlist, i, hours);
-            if (theemployee.AutoDeduct()) {
-                Deduct(theemployee, hours);
+        const std::int16_t end = NarrowToInt16(count);
+        for (std::int32_t i = 0; i < end;) {
+            const WorkedShift opening = shiftAt(i);
+            float hours = opening.hours;
+            for (++i; i < end && DaysBetween(opening.start, shiftAt(i).start) == 0; ++i) {
+                hours = Sum(hours, shiftAt(i).hours);
+            }
+            if (employee.AutoDeduct()) {
+                Deduct(employee, hours);
             }
             AddDay(hours);
         }
@@ -54,17 +59,18 @@ bool CTimeCalculator::CalculateTimes(const CEmployee& theemployee, const CTimeRe
     }
 }
 
-// A shift past midnight belongs wholly to the day on which it began. Returns the position of the next day's first record.
-std::int32_t CTimeCalculator::SumDay(const CTimeRecordList& records, std::int32_t first, float& hours)
+bool CTimeCalculator::CalculateTimes(const CEmployee& theemployee, const CTimeRecordList& thetimerecordlist)
 {
-    const CTimeRecord& opening = records.RecordAt(first);
-    hours = opening.HoursWorked();
-    std::int32_t next = first + 1;
-    while (next <= records.Count() && DaysBetween(opening.StartTime(), records.RecordAt(next).StartTime()) == 0) {
-        hours = Sum(hours, records.RecordAt(next).HoursWorked());
-        ++next;
-    }
-    return next;
+    return Calculate(theemployee, thetimerecordlist.Count(), [&](std::int32_t i) {
+        const CTimeRecord& record = thetimerecordlist.RecordAt(i + 1);
+        return WorkedShift{record.StartTime(), record.HoursWorked()};
+    });
+}
+
+bool CTimeCalculator::CalculateTimes(const CEmployee& theemployee, std::span<const WorkedShift> theshifts)
+{
+    return Calculate(theemployee, static_cast<std::int64_t>(theshifts.size()),
+                     [&](std::int32_t i) { return theshifts[static_cast<std::size_t>(i)]; });
 }
 
 void CTimeCalculator::Deduct(const CEmployee& theemployee, float& hours)

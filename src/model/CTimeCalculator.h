@@ -2,12 +2,21 @@
 // hours of a day are regular and the rest is overtime. There is no weekly threshold and no rounding but to single.
 #pragma once
 
+#include "platform/DateTime.h"
+
 #include <cstdint>
+#include <span>
 
 namespace ptk {
 
 class CEmployee;
 class CTimeRecordList;
+
+struct WorkedShift
+{
+    DateTime start;
+    float hours; // not negative
+};
 
 // Hours are decimal hours. The figures start at 0 and accumulate over calls. No member raises.
 class CTimeCalculator
@@ -25,11 +34,14 @@ public:
     // overflow.
     bool CalculateTimes(const CEmployee& theemployee, const CTimeRecordList& thetimerecordlist);
 
+    bool CalculateTimes(const CEmployee& theemployee, std::span<const WorkedShift> theshifts); // the same, by start
+
     // Rates in money per hour. The total pay; 0 on an overflow. Negative regular hours pay nothing at all, not even overtime, deliberately.
     float CalculatePay(float theregularrate, float theovertimerate);
 
 private:
-    static std::int32_t SumDay(const CTimeRecordList& records, std::int32_t first, float& hours);
+    template <typename ShiftAt>
+    bool Calculate(const CEmployee& employee, std::int64_t count, ShiftAt shiftAt);
     void Deduct(const CEmployee& theemployee, float& hours);
     void AddDay(float hours);
 

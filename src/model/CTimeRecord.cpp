@@ -8,9 +8,14 @@ namespace ptk {
 namespace {
 
 constexpr std::size_t kUsualLineLength = 48; // two times in the usual format and the hours: one allocation a line
-constexpr double kMinutesPerHour = 60.0;
 
 } // namespace
+
+float HoursOf(std::int64_t minutes)
+{
+    constexpr double kMinutesPerHour = 60.0;
+    return static_cast<float>(static_cast<double>(minutes) / kMinutesPerHour);
+}
 
 void CTimeRecord::TimeRecordFactory(const std::shared_ptr<CTimeRecordFactory>& value)
 {
@@ -39,8 +44,7 @@ void CTimeRecord::SetTime(DateTime& time, DateTime value)
 
 float CTimeRecord::CalculateHoursWorked()
 {
-    const auto minutes = static_cast<double>(MinutesBetween(m_startTime, m_endTime));
-    m_hoursWorked = static_cast<float>(minutes / kMinutesPerHour);
+    m_hoursWorked = HoursOf(MinutesBetween(m_startTime, m_endTime));
     return m_hoursWorked;
 }
 

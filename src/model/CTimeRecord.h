@@ -18,6 +18,8 @@ namespace timerecord {
 inline constexpr std::int32_t TextFailed = 806; // a text form failed
 } // namespace timerecord
 
+float HoursOf(std::int64_t minutes); // decimal hours, rounded to single
+
 class CTimeRecord : public Entity
 {
 public:

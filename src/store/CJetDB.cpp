@@ -179,6 +179,21 @@ std::shared_ptr<RecordSet> CJetDB::ExecuteSelect(const std::string& sqlstring)
     }
 }
 
+std::unique_ptr<Statement> CJetDB::PrepareSelect(const std::string& sqlstring)
+{
+    ForgetFailure();
+    if (!m_databaseOpen) {
+        FailWithoutDatabase();
+        return nullptr;
+    }
+    try {
+        return m_database->Prepare(sqlstring);
+    } catch (...) {
+        Fail(jetdb::StatementFailed, CurrentFailure());
+        return nullptr;
+    }
+}
+
 // One operation that writes: opens the file when it is closed and closes it after success, whoever opened it.
 template <typename Steps>
 bool CJetDB::Change(std::int32_t errorNumber, Steps steps)

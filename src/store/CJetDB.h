@@ -15,6 +15,7 @@ namespace ptk {
 class CDatabaseLocator;
 class Engine;
 class RecordSet;
+class Statement;
 
 // Error numbers of CJetDB. A failed open leaves the engine's own number instead of one of these. Why it was is LastFailure's to tell.
 namespace jetdb {
@@ -85,6 +86,9 @@ public:
 
     // The caller opens and closes the database. nullptr with 403, 406 or 407.
     std::shared_ptr<RecordSet> ExecuteSelect(const std::string& sqlstring);
+
+    // The same for rows that are read again and again with other parameters, in the engine's own words. Must end before the file is closed.
+    std::unique_ptr<Statement> PrepareSelect(const std::string& sqlstring);
 
     // Opens the database when it is closed and always leaves it closed, except after a failed statement (407). Committed on return.
     bool ExecuteAction(const std::string& sqlstring);

@@ -116,6 +116,12 @@ bool RecordSet::IsNull(std::size_t column) const
     return At(column).kind == Kind::Null;
 }
 
+std::int64_t RecordSet::Int64At(std::size_t column) const
+{
+    const Cell& cell = At(column);
+    return cell.kind == Kind::Integer ? cell.content : Stored(cell).ToInt32();
+}
+
 std::int32_t RecordSet::Int32At(std::size_t column) const
 {
     const Cell& cell = At(column);

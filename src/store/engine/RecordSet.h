@@ -29,6 +29,7 @@ public:
     Value Field(std::size_t column) const; // typed by the column's declaration; null stays null
 
     bool IsNull(std::size_t column) const;
+    std::int64_t Int64At(std::size_t column) const;
     std::int32_t Int32At(std::size_t column) const;
     std::int16_t Int16At(std::size_t column) const;
     float SingleAt(std::size_t column) const;

@@ -182,22 +182,53 @@ void Statement::Run()
     Rewind();
 }
 
-std::shared_ptr<RecordSet> Statement::ReadRows(std::int32_t most, std::int32_t mostSteps)
+void Statement::RefuseUnlessRows() const
 {
-    sqlite3_stmt* row = m_statement.get();
-    const int columns = sqlite3_column_count(row);
-    if (columns == 0 || sqlite3_stmt_readonly(row) == 0) {
+    if (sqlite3_column_count(m_statement.get()) == 0 || sqlite3_stmt_readonly(m_statement.get()) == 0) {
         throw EngineFailure(SQLITE_ERROR, "the statement answers no rows or changes the database");
     }
     RefuseMissingParameters();
+}
+
+bool Statement::NextRow()
+{
+    RefuseUnlessRows();
+    const Limit limit(*this, kMostSteps);
+    const bool more = Step();
+    if (!more) {
+        Rewind(); // a parameter may be assigned again
+    }
+    return more;
+}
+
+std::int64_t Statement::Int64At(int column) const
+{
+    return sqlite3_column_int64(m_statement.get(), column);
+}
+
+std::optional<DateTime> Statement::StoredDateAt(int column) const
+{
+    const bool isText = sqlite3_column_type(m_statement.get(), column) == SQLITE_TEXT;
+    return isText ? FromStoredText(TextOf(m_statement.get(), column)) : std::nullopt;
+}
+
+std::shared_ptr<RecordSet> Statement::ReadRows(std::int32_t most, std::int32_t mostSteps)
+{
+    RefuseUnlessRows();
+    sqlite3_stmt* row = m_statement.get();
+    const int columns = sqlite3_column_count(row);
     RecordSet::Builder rows;
     AddColumns(rows, row);
     const Limit limit(*this, mostSteps);
-    for (std::int32_t count = 0; count < most && Step(); ++count) {
+    bool more = true;
+    for (std::int32_t count = 0; count < most && (more = Step()); ++count) {
         for (int column = 0; column < columns; ++column) {
             AddCell(rows, row, column);
         }
         rows.EndRow();
+    }
+    if (!more) {
+        Rewind();
     }
     return rows.Finish();
 }

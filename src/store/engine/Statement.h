@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <limits>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -39,7 +40,7 @@ public:
     // `sql` is in the engine's own words and holds exactly one statement.
     Statement(sqlite3* database, std::string_view sql);
 
-    // The same parameter may be assigned again. An unknown name is refused with 25.
+    // The same parameter may be assigned again, once the rows before were read to their end. An unknown name is refused with 25.
     void Bind(const std::string& name, const Value& value);
     void Bind(std::span<const Parameter> parameters);
 
@@ -51,6 +52,13 @@ public:
     // answers no rows or changes anything. Raises 7 for more rows than memory should hold.
     std::shared_ptr<RecordSet> ReadRows(std::int32_t most = kAllRows, std::int32_t mostSteps = kMostSteps);
 
+    // The same rows one by one, without keeping them: for small results many times over. False behind the last one.
+    bool NextRow();
+
+    // Of the row at which NextRow stands; columns count from 0.
+    std::int64_t Int64At(int column) const; // 0 for what is no number
+    std::optional<DateTime> StoredDateAt(int column) const; // none for any other form than YYYY-MM-DD HH:MM:SS
+
 private:
     struct Finalizer
     {
@@ -59,6 +67,7 @@ private:
     class Limit;
 
     void RefuseMissingParameters() const;
+    void RefuseUnlessRows() const;
     bool Step();
     void Rewind();
 

@@ -1,0 +1,44 @@
+"""run_process.py BUILD DATA: times whole processes, ptk-console and a bare C program on the same card in turn, and prints their ratio."""
+import os
+import sqlite3
+import statistics
+import subprocess
+import sys
+import time
+
+RUNS = 101
+LIMIT = 1.25
+FIRST_EMPLOYEE = 40  # as the benchmarks' data has it; everybody's last shift is on 31 October 2026
+
+
+def milliseconds(command):
+    start = time.perf_counter()
+    subprocess.run(command, stdout=subprocess.DEVNULL, check=True)
+    return (time.perf_counter() - start) * 1e3
+
+
+def name_of(database, employee):
+    with sqlite3.connect(database) as connection:
+        return connection.execute("SELECT FirstName || ' ' || LastName FROM Employee WHERE EmployeeID = ?", (employee,)).fetchone()[0]
+
+
+def commands(build, folder):
+    """The bare program's and the console's, for the last two weeks of the data."""
+    database = os.path.join(folder, "system", "ptk_11.mdb")
+    bare = [os.path.join(build, "bench", "bare_card"), database, str(FIRST_EMPLOYEE), "2026-10-18 00:00:00", "2026-11-01 00:00:00"]
+    program = [os.path.join(build, "ptk-console"), "--program-folder", folder, "time-card", "--employee", name_of(database, FIRST_EMPLOYEE)]
+    return bare, [*program, "--from", "10/18/2026", "--to", "10/31/2026"]
+
+
+def main(build, data):
+    print(f"{'whole process':<58}{'bare':>10}{'program':>12}     {'ratio':>7}{'at most':>9}")
+    for name, people in (("1m", "1,000"), ("staff", "10,000")):
+        bare, program = commands(build, os.path.join(data, "ui-" + name))
+        times = [(milliseconds(bare), milliseconds(program)) for _ in range(RUNS)]
+        bare_median, program_median = (statistics.median(column) for column in zip(*times))
+        work = f"a card printed, one of {people} employees"
+        print(f"{work:<58}{bare_median:>10.2f}{program_median:>12.2f} ms  {program_median / bare_median:>7.2f}{LIMIT:>9}")
+
+
+if __name__ == "__main__":
+    main(*sys.argv[1:3])

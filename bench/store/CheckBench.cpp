@@ -1,0 +1,122 @@
+// The check of a card beside the card alone, and the payday overview beside the raw engine fetching the same cards.
+#include "model/CEmployee.h"
+#include "model/CTimeCard.h"
+#include "model/CTimeRecordFactory.h"
+#include "office/CheckedTimecard.h"
+#include "office/Overview.h"
+#include "store/BenchData.h"
+#include "store/CJetDB.h"
+#include "store/RawStore.h"
+
+#include <benchmark/benchmark.h>
+#include <stdexcept>
+
+namespace bench {
+
+namespace {
+
+constexpr Size kFile{"1m", 1'000, 1'000'000};
+constexpr std::int32_t kEmployees = 1'000;
+
+ptk::PayPeriod Newest()
+{
+    return {kLastDay.AddDays(1 - kPeriodDays), kLastDay};
+}
+
+ptk::PayPeriod Oldest()
+{
+    return {FirstDay(kFile), FirstDay(kFile).AddDays(kPeriodDays - 1)};
+}
+
+std::shared_ptr<ptk::CEmployee> Employee(std::int32_t id)
+{
+    ptk::EmployeeRow row;
+    row.EmployeeID = id;
+    row.LastName = "Bench";
+    row.PayRate = 10;
+    row.OvertimePayRate = 15;
+    return std::make_shared<ptk::CEmployee>(row);
+}
+
+struct Office
+{
+    Office()
+    {
+        database->DatabaseName(DataFile(kFile));
+        factory->PTKDatabase(database);
+    }
+
+    std::shared_ptr<ptk::CJetDB> database = std::make_shared<ptk::CJetDB>(".");
+    std::shared_ptr<ptk::CTimeRecordFactory> factory = std::make_shared<ptk::CTimeRecordFactory>();
+};
+
+void CardAlone(benchmark::State& state, const ptk::PayPeriod& period)
+{
+    const Office office;
+    const auto employee = Employee(kFirstEmployee + 3);
+    for (auto unused : state) {
+        ptk::CTimeCard card(office.factory);
+        card.PTKDatabase(office.database);
+        if (!card.GenerateTimecard(employee, period.from, period.to.AddDays(1))) {
+            throw std::runtime_error("no card");
+        }
+    }
+}
+
+void CheckedCard(benchmark::State& state, const ptk::PayPeriod& period)
+{
+    const Office office;
+    const auto employee = Employee(kFirstEmployee + 3);
+    for (auto unused : state) {
+        ptk::CTimeCard card(office.factory);
+        card.PTKDatabase(office.database);
+        const auto checked = GenerateChecked(card, office.database, employee, period, kLastDay, {});
+        if (!checked.generated || !checked.check || checked.check->weeks.size() < 2) {
+            throw std::runtime_error("no checked card");
+        }
+    }
+}
+
+void RawOverview(benchmark::State& state, const ptk::PayPeriod& period)
+{
+    const std::string path = DataFile(kFile);
+    const std::string from = StoredText(period.from);
+    const std::string to = StoredText(period.to.AddDays(1));
+    for (auto unused : state) {
+        benchmark::DoNotOptimize(RawCards(path, kFirstEmployee, kEmployees, from, to));
+    }
+}
+
+void ProgramOverview(benchmark::State& state, const ptk::PayPeriod& period)
+{
+    const Office office;
+    ptk::Employees employees;
+    for (std::int32_t i = 0; i < kEmployees; ++i) {
+        employees.push_back(Employee(kFirstEmployee + i));
+    }
+    for (auto unused : state) {
+        ptk::Overview overview{period, kLastDay, {}, {}};
+        ReadOverview(overview, office.database, employees);
+        benchmark::DoNotOptimize(TotalsOf(overview.rows));
+    }
+}
+
+using Work = void (*)(benchmark::State& state, const ptk::PayPeriod& period);
+
+void Pair(const std::string& name, const ptk::PayPeriod& period, Work raw, Work program)
+{
+    benchmark::RegisterBenchmark((name + "/raw").c_str(), raw, period);
+    benchmark::RegisterBenchmark((name + "/program").c_str(), program, period);
+}
+
+} // namespace
+
+void RegisterCheckBenchmarks()
+{
+    Pair("card with its check, newest period", Newest(), CardAlone, CheckedCard);
+    Pair("card with its check, oldest period", Oldest(), CardAlone, CheckedCard);
+    Pair("overview of 1,000 employees, newest period", Newest(), RawOverview, ProgramOverview);
+    Pair("overview of 1,000 employees, oldest period", Oldest(), RawOverview, ProgramOverview);
+}
+
+} // namespace bench

@@ -1,0 +1,29 @@
+#include "office/CheckedTimecard.h"
+
+#include "model/CEmployee.h"
+#include "model/CTimeCard.h"
+#include "model/PunchReader.h"
+#include "store/CJetDB.h"
+
+namespace ptk {
+
+CheckedTimecard GenerateChecked(CTimeCard& card, const std::shared_ptr<CJetDB>& database, const std::shared_ptr<CEmployee>& employee,
+                                const PayPeriod& period, DateTime now, const CheckLimits& limits)
+{
+    const DateTime end = period.to.AddDays(1);
+    const CJetDB::Hold hold(database);
+    CheckedTimecard result;
+    result.generated = card.GenerateTimecard(employee, period.from, end);
+    if (employee == nullptr) {
+        return result;
+    }
+    try {
+        const Punches punches = PunchReader(*database, period, limits.firstWeekday).Read(employee->EmployeeID());
+        result.check = CheckCard({*employee, period.from, period.to}, punches, now, limits);
+    } catch (...) {
+        result.failure = CurrentFailure();
+    }
+    return result;
+}
+
+} // namespace ptk

@@ -1,0 +1,106 @@
+#include "platform/DataText.h"
+
+#include <fmt/format.h>
+#include <iterator>
+#include <optional>
+
+namespace ptk {
+
+namespace {
+
+constexpr std::string_view kReplacement = "\xEF\xBF\xBD"; // U+FFFD
+
+unsigned Byte(std::string_view text, std::size_t position)
+{
+    return static_cast<unsigned char>(text[position]);
+}
+
+// What the second byte of a character may be, by the first: neither overlong forms nor surrogates nor what lies beyond U+10FFFF.
+bool FitsBehind(unsigned first, unsigned second)
+{
+    switch (first) {
+    case 0xE0:
+        return second >= 0xA0 && second <= 0xBF;
+    case 0xED:
+        return second >= 0x80 && second <= 0x9F;
+    case 0xF0:
+        return second >= 0x90 && second <= 0xBF;
+    case 0xF4:
+        return second >= 0x80 && second <= 0x8F;
+    default:
+        return second >= 0x80 && second <= 0xBF;
+    }
+}
+
+// In bytes, of the UTF-8 character at the beginning; 0 where there is none.
+std::size_t CharacterLength(std::string_view text)
+{
+    const unsigned first = Byte(text, 0);
+    const std::size_t length = first < 0x80 ? 1 : first < 0xC2 ? 0 : first < 0xE0 ? 2 : first < 0xF0 ? 3 : first < 0xF5 ? 4 : 0;
+    if (length > text.size() || (length > 1 && !FitsBehind(first, Byte(text, 1)))) {
+        return 0;
+    }
+    for (std::size_t i = 2; i < length; ++i) {
+        if ((Byte(text, i) & 0xC0U) != 0x80U) {
+            return 0;
+        }
+    }
+    return length;
+}
+
+// Character by character; each byte that is no UTF-8 comes as U+FFFD.
+template <typename Take>
+void ForEachCharacter(std::string_view text, Take take)
+{
+    while (!text.empty()) {
+        const std::size_t length = CharacterLength(text);
+        take(length == 0 ? kReplacement : text.substr(0, length));
+        text.remove_prefix(length == 0 ? 1 : length);
+    }
+}
+
+// C0, delete and C1, which a terminal might obey.
+std::optional<unsigned> ControlCode(std::string_view character)
+{
+    const unsigned first = Byte(character, 0);
+    if (character.size() == 1 && (first < 0x20 || first == 0x7F)) {
+        return first;
+    }
+    if (character.size() == 2 && first == 0xC2 && Byte(character, 1) < 0xA0) {
+        return Byte(character, 1);
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+std::string JsonText(std::string_view text)
+{
+    std::string json = "\"";
+    json.reserve(text.size() + 2);
+    ForEachCharacter(text, [&](std::string_view character) {
+        if (const auto code = ControlCode(character)) {
+            fmt::format_to(std::back_inserter(json), "\\u{:04x}", *code);
+            return;
+        }
+        if (character == "\"" || character == "\\") {
+            json += '\\';
+        }
+        json += character;
+    });
+    return json + '"';
+}
+
+std::string CsvText(std::string_view text)
+{
+    std::string field = text.find_first_of("=+-@\t") == 0 ? "'" : "";
+    ForEachCharacter(text, [&](std::string_view character) {
+        if (character == "\"") {
+            field += '"';
+        }
+        field += character;
+    });
+    return field.find_first_of("\",\r\n") == std::string::npos ? field : '"' + field + '"';
+}
+
+} // namespace ptk

@@ -1,0 +1,80 @@
+#include "store/CheckLimits.h"
+
+#include "platform/Failure.h"
+#include "store/CJetDB.h"
+#include "store/engine/RecordSet.h"
+
+#include <fmt/format.h>
+#include <limits>
+#include <vector>
+
+namespace ptk {
+
+namespace {
+
+constexpr const char* kFindTable = "SELECT name FROM sqlite_master WHERE type = 'table' AND name = '_CheckLimits' COLLATE NOCASE";
+constexpr const char* kSelect = "SELECT * FROM _CheckLimits LIMIT 1";
+constexpr const char* kCreate =
+    "CREATE TABLE IF NOT EXISTS _CheckLimits (long_shift_hours INTEGER, first_weekday INTEGER, show_notices BOOLEAN)";
+constexpr const char* kAddRow = "INSERT INTO _CheckLimits SELECT 16, 0, 1 WHERE NOT EXISTS (SELECT 1 FROM _CheckLimits)";
+constexpr std::int32_t kLastWeekday = 6;
+
+// Puts what a column says into `value`, unless the column is missing or says nothing that `read` can use.
+template <typename Value, typename Read>
+void Take(const RecordSet& row, const char* column, Value& value, Read read)
+{
+    try {
+        const Value found = read(row.Column(column));
+        value = found;
+    } catch (const Failure&) {
+        // deliberately: the shipped limit is better than no check at all
+    }
+}
+
+std::int32_t Number(const RecordSet& row, std::size_t column, std::int32_t most)
+{
+    const std::int32_t number = row.Int32At(column);
+    if (number < 0 || number > most) {
+        throw Failure(failure::Overflow);
+    }
+    return number;
+}
+
+CheckLimits LimitsOf(const RecordSet& row)
+{
+    CheckLimits limits;
+    Take(row, "long_shift_hours", limits.longShiftHours,
+         [&](std::size_t column) { return Number(row, column, std::numeric_limits<std::int32_t>::max()); });
+    Take(row, "first_weekday", limits.firstWeekday, [&](std::size_t column) { return Number(row, column, kLastWeekday); });
+    Take(row, "show_notices", limits.showNotices, [&](std::size_t column) { return row.BooleanAt(column); });
+    return limits;
+}
+
+} // namespace
+
+CheckLimits LoadCheckLimits(const std::shared_ptr<CJetDB>& database)
+{
+    const CJetDB::Hold hold(database);
+    if (!database->OpenDB() || database->ExecuteSelect(kFindTable) == nullptr) {
+        throw database->LastFailure();
+    }
+    if (database->RecSet()->EndOfFile()) {
+        return {};
+    }
+    if (database->ExecuteSelect(kSelect) == nullptr) {
+        throw database->LastFailure();
+    }
+    const RecordSet& row = *database->RecSet();
+    return row.EndOfFile() ? CheckLimits() : LimitsOf(row);
+}
+
+bool SaveCheckLimits(const std::shared_ptr<CJetDB>& database, const CheckLimits& limits)
+{
+    const std::vector<std::string> statements{
+        kCreate, kAddRow,
+        fmt::format("UPDATE _CheckLimits SET long_shift_hours = {}, first_weekday = {}, show_notices = {}", limits.longShiftHours,
+                    limits.firstWeekday, limits.showNotices ? 1 : 0)};
+    return database->ExecuteActions(statements);
+}
+
+} // namespace ptk
