@@ -5,6 +5,7 @@
 #include "console/ErrorText.h"
 #include "console/Session.h"
 #include "console/TerminalViewer.h"
+#include "console/Transcript.h"
 #include "model/CEmployee.h"
 #include "model/CEmployeeList.h"
 #include "platform/Clock.h"
@@ -51,13 +52,13 @@ private:
     Console& m_console;
     Session m_session;
     ConsoleDesktop m_desktop;
+    Transcript m_transcript;
     TerminalViewers m_viewers;
     int m_status = status::Done;
 };
 
 ReportWriter::ReportWriter(const ReportArguments& arguments, Console& console)
-    : m_arguments(arguments), m_console(console), m_session(console.programFolder), m_desktop(console.err),
-      m_viewers(console.out, console.err)
+    : m_arguments(arguments), m_console(console), m_session(console.programFolder), m_desktop(console.err), m_viewers(m_transcript)
 {
     for (const std::string& name : arguments.employees) {
         if (m_session.Employees()->GetEmployeeByName(name) == nullptr) {
@@ -115,8 +116,8 @@ void ReportWriter::WriteOne(const Subject&... subject)
     // A line lost on a full disk leaves the answer true, but a scheduled job must hear of it.
     if (!complete || report->ErrorNumber() != 0) {
         const bool unopened = report->ErrorNumber() == report::FileNotOpened;
-        Complain(m_console.err, ProgramFailure(report->ErrorNumber(), report->ReportName(),
-                                               unopened ? NativePath(report->ReportPath()).string() : report->Missing()));
+        m_transcript.Complain(ProgramFailure(report->ErrorNumber(), report->ReportName(),
+                                             unopened ? NativePath(report->ReportPath()).string() : report->Missing()));
         m_status = status::Failed;
     }
     report->UnloadReportWindow(); // report and viewer hold each other until then
@@ -174,6 +175,8 @@ int ReportWriter::Write()
             (this->*choice.write)();
         }
     }
+    m_session.GiveUpDatabase();
+    m_transcript.SayAll(m_console);
     return m_status;
 }
 

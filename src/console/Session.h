@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 
 namespace ptk {
@@ -16,7 +17,7 @@ class CTimeRecordFactory;
 // Where the configuration says the database is, with backslashes as configured. Raises a failure without a number when it names none.
 std::shared_ptr<CDatabaseLocator> LocateDatabase(const std::string& programFolder);
 
-// Holds the database from beginning to end: whatever a command reads is of one moment.
+// Holds the database until it is told to give it up: whatever a command reads is of one moment.
 class Session
 {
 public:
@@ -27,13 +28,14 @@ public:
     const std::shared_ptr<CEmployeeList>& Employees() const { return m_employees; }
     const std::shared_ptr<CTimeRecordFactory>& Factory() const { return m_factory; }
 
-    std::int16_t PeriodLength(); // days, as the options say at this moment; raises what reading them raises
+    std::int16_t PeriodLength();              // days, as the options say at this moment; raises what reading them raises
+    void GiveUpDatabase() { m_hold.reset(); } // before anything is written that somebody may be slow to read
 
 private:
     void Open();
 
     std::shared_ptr<CJetDB> m_database;
-    CJetDB::Hold m_hold;
+    std::optional<CJetDB::Hold> m_hold;
     std::shared_ptr<CEmployeeList> m_employees;
     std::shared_ptr<CTimeRecordFactory> m_factory;
 };

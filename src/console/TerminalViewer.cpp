@@ -1,10 +1,9 @@
 #include "console/TerminalViewer.h"
 
 #include "console/Console.h"
+#include "console/Transcript.h"
 #include "platform/ProgramFolder.h"
 #include "reports/Report.h"
-
-#include <ostream>
 
 namespace ptk {
 
@@ -43,16 +42,13 @@ std::shared_ptr<ReportViewer> TerminalViewers::CreateViewer(ReportKind)
 
 void TerminalViewers::Print(const std::string& text)
 {
-    if (m_printed) {
-        m_out << '\n';
-    }
+    m_transcript.Print(m_printed ? '\n' + text : text);
     m_printed = true;
-    m_out << text;
 }
 
 void TerminalViewers::NameFile(const std::string& path)
 {
-    m_err << "ptk-console: written: " << TerminalText(path) << '\n';
+    m_transcript.Note("written: " + path);
 }
 
 } // namespace ptk

@@ -3,15 +3,17 @@
 
 #include "reports/ReportViewer.h"
 
-#include <iosfwd>
+#include <string>
 
 namespace ptk {
+
+class Transcript;
 
 class TerminalViewers final : public ReportViewerFactory
 {
 public:
-    // Reports go to `out`, one empty line between them, the files' paths to `err`; both outlive the viewers.
-    TerminalViewers(std::ostream& out, std::ostream& err) : m_out(out), m_err(err) {}
+    // Reports go to the output, one empty line between them, the files' paths to the error output. The transcript outlives the viewers.
+    explicit TerminalViewers(Transcript& transcript) : m_transcript(transcript) {}
 
     std::shared_ptr<ReportViewer> CreateViewer(ReportKind kind) override;
 
@@ -19,8 +21,7 @@ public:
     void NameFile(const std::string& path);
 
 private:
-    std::ostream& m_out;
-    std::ostream& m_err;
+    Transcript& m_transcript;
     bool m_printed = false;
 };
 

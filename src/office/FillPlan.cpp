@@ -78,7 +78,7 @@ std::string TimesText(const Shift& shift, const FillTexts& texts)
     }
     std::string text = texts.startTime.empty() || texts.endTime.empty() ? " The empty time means midnight." : "";
     if (shift.end < shift.start) {
-        text += " They end before they start, on the same day, and count 0 hours.";
+        text += " They end before they start and count 0 hours.";
     }
     return text;
 }

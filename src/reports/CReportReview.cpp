@@ -22,8 +22,10 @@ bool CReportReview::GenerateReport(const std::shared_ptr<CJetDB>& thedatabase, c
             return Fail(report::NoReviewList);
         }
         Name(TitleOfDays(Range().StartDate(), Range().EndDate()), "salary_review_" + RangeCode() + ".txt");
-        const CJetDB::Hold hold = HoldDatabase();
-        return Write([&] { return WriteEmployees(thedatabase, *recordslist); });
+        return Write([&] {
+            const CJetDB::Hold hold = HoldDatabase();
+            return WriteEmployees(thedatabase, *recordslist);
+        });
     });
 }
 

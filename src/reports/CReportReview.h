@@ -13,7 +13,7 @@ public:
     explicit CReportReview(ReportContext context);
 
     // The title shows the end date as given. False with 603, 331, 503, 701; with 710 those who have no card are left out, as Missing tells,
-    // with 711 all that come after the user's stop. The database is held until the end.
+    // with 711 all that come after the user's stop. The database is held while the cards are made.
     bool GenerateReport(const std::shared_ptr<CJetDB>& thedatabase, const std::shared_ptr<CEmployeeList>& recordslist,
                         const Value& thestartdate, const Value& theenddate);
 

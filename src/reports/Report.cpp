@@ -40,6 +40,7 @@ bool Report::Generate(const std::function<bool()>& steps)
     try {
         return steps();
     } catch (...) {
+        DropFile();
         return Fail(report::NotGenerated);
     }
 }

@@ -34,7 +34,7 @@ struct KeyPress
     const char* window; // class of the modal window that it is meant for, "QMessageBox" for a box
     Qt::Key key;
     int reads = 0;                   // milliseconds that the user takes first
-    std::function<void()> sees = {}; // what is to be looked at before
+    std::function<void()> sees = {}; // what is looked at, or done, before
 };
 
 // Presses one key after the other, each as soon as the window it is meant for takes keys. One that is blocked by another window never does:
@@ -81,7 +81,9 @@ private:
         if (press.sees) {
             press.sees();
         }
-        QTest::keyClick(dialog.windowHandle(), press.key);
+        if (dialog.isVisible()) {
+            QTest::keyClick(dialog.windowHandle(), press.key);
+        }
     }
 
     std::deque<KeyPress> m_presses;

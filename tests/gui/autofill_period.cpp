@@ -96,10 +96,15 @@ TEST_F(AutoFillTest, AShiftFromOrToMidnightIsNoShift)
     EXPECT_EQ(Time("dttbEndTime").text(), "");
 }
 
-TEST_F(AutoFillTest, MakesNothingOfATimeThatIsNone)
+TEST_F(AutoFillTest, MakesNothingOfATimeThatIsNoneAndSaysSoBeforehand)
 {
+    window.Announce("For Ann Lee", DayNumbers{DateTime({2003, 3, 6}).DayNumber()});
     window.EndDate(DateTime({2003, 3, 6}));
+    Click(window, "cmdAutoShift");
+    EXPECT_EQ(Find<QLabel>(window, "lblForecast").text(), "2 records, none on Saturdays and Sundays, 1 on days that already have records. "
+                                                          "They end before they start and count 0 hours.");
     Type(Time("dttbEndTime"), "late");
+    EXPECT_EQ(Find<QLabel>(window, "lblForecast").text(), "No records: a time cannot be read.");
     Click(window, "cmdSave");
     EXPECT_FALSE(window.OKClick());
     EXPECT_EQ(list->Count(), 0);

@@ -75,6 +75,19 @@ TEST_F(RealBoxesTest, ACancelledRunTellsHowFarItCame)
     EXPECT_EQ(Line(), QString("Cancelled: %1 of 401 reports complete, 1 failed").arg(Viewers() - 1));
 }
 
+TEST_F(RealBoxesTest, ClosingInTheMiddleOfARunEndsTheRunFirst)
+{
+    Start(400);
+    SelectEveryone();
+    QPointer<FController> main = &Main();
+    const KeyPresses keys({{"QMessageBox", Qt::Key_Return}, {"ptk::GenerationProgress", Qt::Key_Escape, 0, [&] { main->close(); }}});
+    Click(*main, "cmdGenerate");
+    EXPECT_TRUE(main->isVisible());
+    EXPECT_TRUE(Line().startsWith("Cancelled: "));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return program->ended == 1; }));
+    EXPECT_TRUE(main.isNull() || !main->isVisible());
+}
+
 TEST_F(RealBoxesTest, AQuestionThatIsHurriedPastChangesNothing)
 {
     Start(0);

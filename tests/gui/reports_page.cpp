@@ -238,6 +238,7 @@ TEST_F(ReportsPageTest, OneTimeCardForEachAndAFailureStopsNoOther)
     SelectEveryone();
     Generate();
     EXPECT_EQ(Shown("Employee Time Card : ").size(), 3);
+    EXPECT_EQ(Line(), "2 of 3 reports complete, 1 failed");
     EXPECT_EQ(Boxes(), std::vector<std::string>{"Report Generation Error: 605 : An error occurred generating the report: "
                                                 "Employee Time Card : Bo Kim : 3/1/2003 - 3/14/2003"});
     EXPECT_TRUE(Written("5_0301_0315_2003_time_card.txt"));
@@ -263,6 +264,25 @@ TEST_F(ReportsPageTest, OneReviewForAllSelected)
     EXPECT_EQ(Boxes(), std::vector<std::string>{"Report Generation Error: 710 : An error occurred generating the report: "
                                                 "Accountant's Review : 3/1/2003 - 3/15/2003"});
     EXPECT_EQ(Shown("Accountant's Review").size(), 2) << "the viewer before stays open";
+}
+
+TEST_F(ReportsPageTest, AReviewOfAHeldDatabaseTellsWhyAndWhomItLacks)
+{
+    Choose("Accountants Review");
+    SelectLine(1);
+    SelectLine(2);
+    CJetDB other(folder.Path());
+    ASSERT_TRUE(other.OpenDB());
+    Generate();
+    const std::string without = "without Ann Lee, Zorn: the database is in use by another program";
+    EXPECT_EQ(Line().toStdString(), "The report is not complete: error 710, " + without);
+    EXPECT_EQ(host->logged.back(), "Accountant's Review : 3/1/2003 - 3/15/2003: " + Line().toStdString());
+    for (const QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->isVisible() && window->windowTitle().startsWith("Accountant's")) {
+            EXPECT_EQ(window->findChild<QLabel*>("lblNotice")->text().toStdString(),
+                      "This report is not complete: error 710. W" + without.substr(1) + ".");
+        }
+    }
 }
 
 TEST_F(ReportsPageTest, TotalsRecordsAndPhoneBook)

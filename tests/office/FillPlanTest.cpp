@@ -36,7 +36,7 @@ TEST(FillPlanTest, ForetellsWhatSaveWillDo)
              {{"03/04/2003", "03/05/2003", "22:00", ""},
               2,
               "2 records, none on Saturdays and Sundays, none on days that already have records. The empty time means midnight. They end "
-              "before they start, on the same day, and count 0 hours."},
+              "before they start and count 0 hours."},
              {{"03/04/2003", "03/05/2003", "8:00", "8:00"},
               2,
               "2 records, none on Saturdays and Sundays, none on days that already have records. Each has 0 hours."},

@@ -18,6 +18,8 @@ constexpr auto kRangeTitle = "Date Range Error";
 constexpr auto kPeriodText = "Cannot create time records for the given time period.";
 constexpr auto kRecordTitle = "Time Record Error";
 
+constexpr int kForecastLines = 3;
+
 QString TimeText(DateTime moment)
 {
     return QString::fromStdString(GeneralText(DateTime(DateTime().Date(), moment.Time())));
@@ -34,6 +36,7 @@ FAutoFill::FAutoFill(ptk::Desktop& desktop, const Clock& clock, QWidget* parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::FAutoFill>()), m_desktop(desktop)
 {
     m_ui->setupUi(this);
+    m_ui->lblForecast->KeepRoom(kForecastLines);
     for (auto* box : {m_ui->dttbTCFrom, m_ui->dttbTCTo}) {
         box->SetClock(clock);
         box->SetDate(clock.Today());

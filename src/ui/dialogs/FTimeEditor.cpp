@@ -16,6 +16,7 @@ constexpr auto kFormatTitle = "Date Format Error";
 constexpr auto kFormatText = "Error: Invalid date separator. Use : to separate time values.";
 
 constexpr std::int32_t kRecordRejected = 608;
+constexpr int kWarningLines = 2;
 
 void ShowDay(DateTimeBox& box, DateTime moment, DateTime today)
 {
@@ -45,6 +46,7 @@ FTimeEditor::FTimeEditor(ptk::Desktop& desktop, const Clock& clock, QWidget* par
     : QDialog(parent), m_ui(std::make_unique<Ui::FTimeEditor>()), m_desktop(desktop), m_clock(clock)
 {
     m_ui->setupUi(this);
+    m_ui->lblWarning->KeepRoom(kWarningLines);
     m_ui->dttbStartDate->SetDateMode(clock);
     m_ui->dttbEndDate->SetDateMode(clock);
     for (auto* box : Boxes()) {

@@ -145,7 +145,7 @@ void ReportViewerWindow::BringUp()
 void ReportViewerWindow::ShowNotice()
 {
     if (m_controller != nullptr) {
-        m_ui->notice->Say(QString::fromStdString(DescribeGaps(m_controller->ErrorNumber(), m_controller->Missing())));
+        m_ui->lblNotice->Say(QString::fromStdString(DescribeGaps(m_controller->ErrorNumber(), m_controller->Missing())));
     }
 }
 
@@ -207,7 +207,7 @@ bool ReportViewerWindow::Print()
         return false;
     }
     if (!m_controller->PrintReport()) {
-        m_ui->notice->Say(kNotPrinted);
+        m_ui->lblNotice->Say(kNotPrinted);
         emit Failed(QString(kNotPrintedLog).arg(windowTitle()));
         return false;
     }

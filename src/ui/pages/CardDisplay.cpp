@@ -103,6 +103,7 @@ bool CardDisplay::ShowsCard() const
 void CardDisplay::SetStrange(bool strange)
 {
     m_records->SetFaded(strange);
+    m_ui->lblTCBreakTime->setEnabled(!strange);
     for (auto* box : Figures()) {
         box->SetFaded(strange);
     }

@@ -10,6 +10,12 @@ HintLabel::HintLabel(QWidget* parent) : QLabel(parent)
     setWordWrap(true);
 }
 
+void HintLabel::KeepRoom(int lines)
+{
+    setAlignment(Qt::AlignLeading | Qt::AlignTop);
+    setMinimumHeight(lines * fontMetrics().lineSpacing());
+}
+
 void HintLabel::Say(const QString& text)
 {
     if (text == this->text()) {

@@ -14,6 +14,7 @@ public:
     explicit HintLabel(QWidget* parent = nullptr);
 
     void Say(const QString& text);
+    void KeepRoom(int lines); // so that nothing around it moves when it says more or less
 };
 
 } // namespace ptk

@@ -1,0 +1,32 @@
+// What a command has to say while it holds the database, said when it has given it up: a reader that stops reading must not keep others
+// from the file.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace ptk {
+
+struct Console;
+class Failure;
+
+class Transcript
+{
+public:
+    void Print(std::string text);          // on the output
+    void Note(std::string_view line);      // on the error output, after the program's name
+    void Complain(const Failure& failure); // as ptk::Complain
+    void SayAll(const Console& console);   // in the order in which it came, once
+
+private:
+    struct Saying
+    {
+        std::string text;
+        bool isError = false;
+    };
+
+    std::vector<Saying> m_sayings;
+};
+
+} // namespace ptk
