@@ -37,9 +37,9 @@ public:
 
     CalendarDate Date() const;
     TimeOfDay Time() const;
-    constexpr std::int64_t DayNumber() const { return Whole(m_seconds, kDay); } // since the zero date-time, negative before it
+    constexpr std::int64_t DayNumber() const { return Whole(m_seconds, kDay); }       // since the zero date-time, negative before it
     constexpr std::int64_t MinuteNumber() const { return Whole(m_seconds, kMinute); } // likewise, the seconds cut off
-    int Weekday() const;            // 0 Sunday to 6 Saturday
+    int Weekday() const;                                                              // 0 Sunday to 6 Saturday
 
     DateTime AddDays(std::int64_t days) const;
 
