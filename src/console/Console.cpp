@@ -11,6 +11,11 @@ constexpr bool Continues(char c)
     return (c & 0xC0) == 0x80;
 }
 
+constexpr bool IsPlain(char c)
+{
+    return (c >= ' ' && c < '\x7F') || c == '\n' || c == '\t';
+}
+
 // In bytes: of a UTF-8 character, 1 for a byte that begins none.
 std::size_t CharacterLength(std::string_view text)
 {
@@ -59,6 +64,12 @@ std::string TerminalText(std::string_view text)
     std::string result;
     result.reserve(text.size());
     while (!text.empty()) {
+        const auto plain = std::find_if_not(text.begin(), text.end(), IsPlain);
+        result.append(text.begin(), plain);
+        text.remove_prefix(static_cast<std::size_t>(plain - text.begin()));
+        if (text.empty()) {
+            break;
+        }
         const std::size_t length = CharacterLength(text);
         if (IsControl(text.substr(0, length))) {
             result += text.starts_with("\r\n") ? "" : "?";

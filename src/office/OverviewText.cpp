@@ -101,11 +101,13 @@ std::string FindingLines(const CardCheck& check, bool showNotices)
 std::string OverviewText(const Overview& overview)
 {
     const Cells totals = CellsOf(TotalsOf(overview.rows));
+    std::vector<Cells> lines;
+    lines.reserve(overview.rows.size());
     Table table;
     table.Fit(kHeading);
     table.Fit(totals);
     for (const OverviewRow& row : overview.rows) {
-        table.Fit(CellsOf(row));
+        table.Fit(lines.emplace_back(CellsOf(row)));
     }
     std::string text = fmt::format("{} {} - {}, made {}\r\n\r\n", kTitle, Day(overview.period.from), Day(overview.period.to),
                                    FormatDateTime(overview.made, "mm/dd/yyyy hh:mm AM/PM"));
@@ -113,8 +115,8 @@ std::string OverviewText(const Overview& overview)
         return text + kNobody + "\r\n";
     }
     text += table.Line(kHeading);
-    for (const OverviewRow& row : overview.rows) {
-        text += table.Line(CellsOf(row)) + FindingLines(row.check, overview.limits.showNotices);
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        text += table.Line(lines[i]) + FindingLines(overview.rows[i].check, overview.limits.showNotices);
     }
     return text + "\r\n" + table.Line(totals);
 }

@@ -1,5 +1,6 @@
 #include "platform/DataText.h"
 
+#include <algorithm>
 #include <fmt/format.h>
 #include <iterator>
 #include <optional>
@@ -48,12 +49,18 @@ std::size_t CharacterLength(std::string_view text)
     return length;
 }
 
-// Character by character; each byte that is no UTF-8 comes as U+FFFD.
+bool IsPlain(char c)
+{
+    return c >= ' ' && c < '\x7F' && c != '"' && c != '\\';
+}
+
+// Character by character, plain ones as many at once as stand together; each byte that is no UTF-8 comes as U+FFFD.
 template <typename Take>
 void ForEachCharacter(std::string_view text, Take take)
 {
     while (!text.empty()) {
-        const std::size_t length = CharacterLength(text);
+        const auto plain = static_cast<std::size_t>(std::find_if_not(text.begin(), text.end(), IsPlain) - text.begin());
+        const std::size_t length = plain > 0 ? plain : CharacterLength(text);
         take(length == 0 ? kReplacement : text.substr(0, length));
         text.remove_prefix(length == 0 ? 1 : length);
     }
