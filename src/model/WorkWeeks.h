@@ -14,9 +14,9 @@ namespace ptk {
 class CEmployee;
 
 inline constexpr std::int64_t kDaysPerWeek = 7;
-inline constexpr std::int64_t kMinutesPerDay = 24 * 60;
-inline constexpr std::int64_t kDailyRegularMinutes = 8 * 60;
-inline constexpr std::int64_t kWeeklyRegularMinutes = 40 * 60;
+inline constexpr std::int64_t kMinutesPerDay = 1440;
+inline constexpr std::int64_t kDailyRegularMinutes = 480;
+inline constexpr std::int64_t kWeeklyRegularMinutes = 2400;
 
 struct WorkWeek
 {

@@ -1,5 +1,7 @@
 #include "office/DecimalSum.h"
 
+#include "platform/Characters.h"
+
 #include <algorithm>
 
 namespace ptk {
@@ -15,9 +17,9 @@ void DecimalSum::Add(std::string_view amount)
 {
     const std::int64_t sign = amount.starts_with('-') ? -1 : 1;
     std::size_t position = 0;
-    for (auto character = amount.rbegin(); character != amount.rend(); ++character) {
-        if (*character >= '0' && *character <= '9') {
-            m_digits.at(position++) += sign * (*character - '0');
+    for (std::size_t i = amount.size(); i-- > 0;) {
+        if (IsDigit(amount[i])) {
+            m_digits.at(position++) += sign * (amount[i] - '0');
         }
     }
 }
