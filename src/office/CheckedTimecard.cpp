@@ -18,8 +18,8 @@ CheckedTimecard GenerateChecked(CTimeCard& card, const std::shared_ptr<CJetDB>& 
         return result;
     }
     try {
-        const Punches punches = PunchReader(*database, period, limits.firstWeekday).Read(employee->EmployeeID());
-        result.check = CheckCard({*employee, period.from, period.to}, punches, now, limits);
+        result.punches = PunchReader(*database, period, limits.firstWeekday).Read(employee->EmployeeID());
+        result.check = CheckCard({*employee, period.from, period.to}, result.punches, now, limits);
     } catch (...) {
         result.failure = CurrentFailure();
     }

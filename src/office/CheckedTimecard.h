@@ -17,6 +17,7 @@ class CTimeCard;
 struct CheckedTimecard
 {
     bool generated = false;         // false: the card's ErrorNumber says why
+    Punches punches;                // all rows that the check looked at, for those of a finding that are not on the card
     std::optional<CardCheck> check; // also of a card that was not generated; none without an employee or when its rows could not be read
     Failure failure{0, "", ""};     // why they could not; number 0 otherwise
 };

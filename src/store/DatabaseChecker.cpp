@@ -40,6 +40,17 @@ constexpr Columns kColumns[] = {
     {"_StoredQuery", "TEXT", "name sql"},
 };
 
+// Of a table that files of earlier versions lack.
+constexpr Columns kLimitColumns[] = {
+    {"_CheckLimits", "INTEGER", "long_shift_hours first_weekday"},
+    {"_CheckLimits", "BOOLEAN", "show_notices"},
+};
+
+constexpr const char* kUselessLimits =
+    "SELECT COUNT(*) FROM _CheckLimits WHERE NOT IFNULL(typeof(long_shift_hours) = 'integer' AND long_shift_hours BETWEEN 0 AND 2147483647 "
+    "AND "
+    "typeof(first_weekday) = 'integer' AND first_weekday BETWEEN 0 AND 6 AND typeof(show_notices) = 'integer', 0)";
+
 class Inspector
 {
 public:
@@ -54,6 +65,7 @@ public:
             CheckColumns(columns);
         }
         CountRows();
+        CheckLimitsTable();
         CheckActions();
         CheckRows();
         return std::move(m_check);
@@ -95,6 +107,24 @@ private:
             } else if (LowerCase(found->TextAt(0)) != LowerCase(columns.type)) {
                 Report("The column {}.{} is {}, not {}.", columns.table, name, found->TextAt(0), columns.type);
             }
+        }
+    }
+
+    void CheckLimitsTable()
+    {
+        if (m_engine.Select("SELECT 1 FROM sqlite_master WHERE type = 'table' AND name = '_CheckLimits' COLLATE NOCASE")->EndOfFile()) {
+            return;
+        }
+        for (const Columns& columns : kLimitColumns) {
+            CheckColumns(columns);
+        }
+        if (m_incomplete.contains("_CheckLimits")) {
+            return;
+        }
+        if (const std::int32_t limits = Count("_CheckLimits"); limits != 1) {
+            Report("The table _CheckLimits has {} rows, not 1.", limits);
+        } else if (m_engine.Select(kUselessLimits)->Int32At(0) != 0) {
+            Report("The table _CheckLimits holds a value of no use: the check takes its own instead.");
         }
     }
 

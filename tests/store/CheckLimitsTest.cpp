@@ -1,5 +1,6 @@
 #include "store/CheckLimits.h"
 #include "store/CJetDB.h"
+#include "store/DatabaseChecker.h"
 #include "store/PunchSQL.h"
 #include "store/StoreFixture.h"
 
@@ -32,21 +33,28 @@ TEST_F(CheckLimitsTest, AreWhatTheRowSaysAndTheShippedOnesWhereItSaysNothing)
         const char* name;
         const char* sql;
         const char* limits;
+        const char* problem = ""; // what the check of the file says
     };
+    const char* const useless = "The table _CheckLimits holds a value of no use: the check takes its own instead.";
     for (const Case& c : {
              Case{"all set", "UPDATE _CheckLimits SET long_shift_hours = 12, first_weekday = 6, show_notices = 0", "12 6 false"},
-             Case{"none at all", "UPDATE _CheckLimits SET long_shift_hours = NULL, first_weekday = NULL, show_notices = NULL", "16 0 true"},
-             Case{"out of range", "UPDATE _CheckLimits SET long_shift_hours = -1, first_weekday = 7, show_notices = 0", "16 0 false"},
+             Case{"none at all", "UPDATE _CheckLimits SET long_shift_hours = NULL, first_weekday = NULL, show_notices = NULL", "16 0 true",
+                  useless},
+             Case{"out of range", "UPDATE _CheckLimits SET long_shift_hours = -1, first_weekday = 7, show_notices = 0", "16 0 false",
+                  useless},
              Case{"no numbers", "UPDATE _CheckLimits SET long_shift_hours = 'long', first_weekday = X'00', show_notices = 'no'",
-                  "16 0 true"},
-             Case{"no row", "DELETE FROM _CheckLimits", "16 0 true"},
+                  "16 0 true", useless},
+             Case{"no row", "DELETE FROM _CheckLimits", "16 0 true", "The table _CheckLimits has 0 rows, not 1."},
              Case{"other columns",
-                  "DROP TABLE _CheckLimits; CREATE TABLE _CheckLimits (first_weekday); INSERT INTO _CheckLimits VALUES (3)", "16 3 true"},
+                  "DROP TABLE _CheckLimits; CREATE TABLE _CheckLimits (first_weekday INTEGER); INSERT INTO _CheckLimits VALUES (3)",
+                  "16 3 true", "There is no column _CheckLimits.long_shift_hours."},
              Case{"no table", "DROP TABLE _CheckLimits", "16 0 true"},
          }) {
         Run(c.sql);
         EXPECT_EQ(Loaded(), c.limits) << c.name;
         EXPECT_EQ(m_database->ErrorNumber(), 0) << c.name;
+        const std::vector<std::string> problems = CheckDatabase(Path()).problems;
+        EXPECT_EQ(problems.empty() ? "" : problems.front(), c.problem) << c.name;
     }
     std::filesystem::remove(Path());
     EXPECT_EQ(FailureOf([&] { LoadCheckLimits(m_database); }), 14);
