@@ -56,7 +56,7 @@ public:
     bool NextRow();
 
     // Of the row at which NextRow stands; columns count from 0.
-    std::int64_t Int64At(int column) const; // 0 for what is no number
+    std::int64_t Int64At(int column) const;                 // 0 for what is no number
     std::optional<DateTime> StoredDateAt(int column) const; // none for any other form than YYYY-MM-DD HH:MM:SS
 
 private:
