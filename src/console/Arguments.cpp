@@ -172,7 +172,8 @@ Arguments Grammar::Result() const
         return {m_words.programFolder, CreateDatabaseArguments{m_words.sample, ReadDay(m_words.today)}};
     }
     if (m_timeCard->parsed()) {
-        return {m_words.programFolder, TimeCardArguments{m_words.employee, ReadDay(m_words.from).value(), ReadDay(m_words.to).value(), m_words.check}};
+        return {m_words.programFolder,
+                TimeCardArguments{m_words.employee, ReadDay(m_words.from).value(), ReadDay(m_words.to).value(), m_words.check}};
     }
     if (m_report->parsed()) {
         return {m_words.programFolder, ReportArguments{m_words.report, m_words.employees, ReadDay(m_words.from), ReadDay(m_words.to)}};

@@ -35,8 +35,8 @@ std::vector<SampleEmployee> SampleEmployees(DateTime today);
 // In order of their start: finished shifts up to yesterday, or to the release, and the open record of today.
 std::vector<TimeRecordRow> SampleShifts(const SampleEmployee& employee, std::int32_t employeeID, DateTime today);
 
-// Puts into the shifts of some employees what goes wrong in every business: of each kind that the check of a card finds at least one, so far
-// as shifts can show it, nearly all in the week before today. REQUIRES: the shifts are those that SampleShifts answers.
+// Puts into the shifts of some employees what goes wrong in every business: of each kind that the check of a card finds at least one, so
+// far as shifts can show it, nearly all in the week before today. REQUIRES: the shifts are those that SampleShifts answers.
 void AddIrregularities(const SampleEmployee& employee, std::vector<TimeRecordRow>& shifts, DateTime today);
 
 } // namespace ptk

@@ -73,9 +73,8 @@ public:
         const DateTime missing = WorkedDay(1);
         LastOf(missing).StartTime = DateTime();
         const DateTime before = m_today.AddDays(-18);
-        const auto typed = std::find_if(m_shifts.rbegin(), m_shifts.rend(), [&](const TimeRecordRow& shift) {
-            return !shift.StartTime.IsZero() && shift.StartTime < before;
-        });
+        const auto typed = std::find_if(m_shifts.rbegin(), m_shifts.rend(),
+                                        [&](const TimeRecordRow& shift) { return !shift.StartTime.IsZero() && shift.StartTime < before; });
         typed->EndTime = typed->EndTime.AddDays(kDaysAYear);
     }
 
@@ -149,8 +148,8 @@ void AddIrregularities(const SampleEmployee& employee, std::vector<TimeRecordRow
         void (Muddle::*happens)();
     };
     static constexpr Habit kHabits[] = {
-        {102, &Muddle::WorksOnSaturday}, {104, &Muddle::StaysOverNight}, {105, &Muddle::ComesShortly},      {107, &Muddle::ComesOnceMore},
-        {202, &Muddle::ForgetsToClockOut}, {203, &Muddle::TypesWrongly}, {205, &Muddle::LosesTimes},
+        {102, &Muddle::WorksOnSaturday},   {104, &Muddle::StaysOverNight}, {105, &Muddle::ComesShortly}, {107, &Muddle::ComesOnceMore},
+        {202, &Muddle::ForgetsToClockOut}, {203, &Muddle::TypesWrongly},   {205, &Muddle::LosesTimes},
     };
     Muddle muddle(shifts, today);
     for (const Habit& habit : kHabits) {

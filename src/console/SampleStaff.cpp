@@ -52,8 +52,7 @@ constexpr std::array kPeople{
            36.0F,
            30,
            15},
-    Person{
-        SplitDay, 1, 103, "Maria", "Santos", "900-12-0103", "77 Chapel Road", "", "555-0103", 42, {0, 2, 28}, 1461, 17.25F, 0.0F, 0, 0},
+    Person{SplitDay, 1, 103, "Maria", "Santos", "900-12-0103", "77 Chapel Road", "", "555-0103", 42, {0, 2, 28}, 1461, 17.25F, 0.0F, 0, 0},
     Person{Night, 1, 104, "Thomas", "Brandt", "900-12-0104", "5 Quarry Hill", "", "555-0104", 39, {0, 8, 9}, 903, 19.8F, 29.7F, 30, 0},
     Person{
         Office, 1, 105, "Grace", "Okafor", "900-12-0105", "31 Harbor View", "Unit B", "555-0105", 29, {0, 6, 30}, 655, 21.4F, 32.1F, 60, 0},

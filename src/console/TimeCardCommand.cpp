@@ -42,8 +42,8 @@ private:
     int PrintChecked(const std::shared_ptr<CEmployee>& employee)
     {
         const CheckLimits limits = LoadCheckLimits(m_session.Database());
-        const CheckedTimecard checked = GenerateChecked(m_card, m_session.Database(), employee, {m_arguments.from, m_arguments.to},
-                                                        m_console.clock.Now(), limits);
+        const CheckedTimecard checked =
+            GenerateChecked(m_card, m_session.Database(), employee, {m_arguments.from, m_arguments.to}, m_console.clock.Now(), limits);
         m_session.GiveUpDatabase();
         if (checked.generated) {
             PrintCard();
@@ -72,10 +72,7 @@ private:
         m_console.out << TerminalText(text);
     }
 
-    Failure NotGenerated() const
-    {
-        return ProgramFailure(m_card.ErrorNumber(), m_arguments.employee, m_card.LastFailure().Description());
-    }
+    Failure NotGenerated() const { return ProgramFailure(m_card.ErrorNumber(), m_arguments.employee, m_card.LastFailure().Description()); }
 
     const TimeCardArguments& m_arguments;
     Console& m_console;

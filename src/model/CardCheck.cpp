@@ -35,9 +35,9 @@ class Checker
 {
 public:
     Checker(const CheckedCard& card, const Punches& punches, DateTime now, const CheckLimits& limits)
-        : m_card(card), m_period{card.from.DayNumber(), card.to.DayNumber()},
-          m_weeks{WeekStart(card.from, limits.firstWeekday).DayNumber(), WeekLast(card.to, limits.firstWeekday).DayNumber()}, m_now(now),
-          m_limits(limits)
+        : m_card(card), m_period{card.from.DayNumber(), card.to.DayNumber()}, m_weeks{WeekStart(card.from, limits.firstWeekday).DayNumber(),
+                                                                                      WeekLast(card.to, limits.firstWeekday).DayNumber()},
+          m_now(now), m_limits(limits)
     {
         m_all.reserve(punches.size());
         for (const Punch& punch : punches) {
@@ -169,8 +169,8 @@ private:
     // Among the records of the card and those of the work weeks around it.
     void CheckGroups()
     {
-        const auto near = Where(
-            [this](const Punch* punch) { return punch->fetched || m_weeks.Holds(*punch->start) || Crosses(*punch, m_weeks.first); });
+        const auto near =
+            Where([this](const Punch* punch) { return punch->fetched || m_weeks.Holds(*punch->start) || Crosses(*punch, m_weeks.first); });
         for (const PunchGroup& group : OverlappingPunches(near)) {
             AddGroup(FindingKind::Overlap, group, OverlapText);
         }

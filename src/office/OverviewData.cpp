@@ -91,9 +91,8 @@ std::string Csv(const OverviewRow& row)
 
 std::string Csv(const CEmployee& employee, const Finding& finding)
 {
-    return fmt::format("{},,,,,,,,{},{},{},{},{},{},{}\r\n", CsvEmployee(employee), NameOf(finding.kind),
-                       NameOf(SeverityOf(finding.kind)), fmt::join(finding.records, " "), finding.minutes, Moment(finding.from),
-                       Moment(finding.to), CsvText(finding.text));
+    return fmt::format("{},,,,,,,,{},{},{},{},{},{},{}\r\n", CsvEmployee(employee), NameOf(finding.kind), NameOf(SeverityOf(finding.kind)),
+                       fmt::join(finding.records, " "), finding.minutes, Moment(finding.from), Moment(finding.to), CsvText(finding.text));
 }
 
 } // namespace

@@ -50,8 +50,8 @@ Cells CellsOf(const OverviewRow& row)
 
 Cells CellsOf(const OverviewTotals& totals)
 {
-    return {kTotal, totals.figures.regular, totals.figures.overtime, totals.figures.gross, "", std::to_string(totals.problems),
-            std::to_string(totals.notices), std::to_string(totals.clockedIn)};
+    return {kTotal, totals.figures.regular,          totals.figures.overtime,        totals.figures.gross,
+            "",     std::to_string(totals.problems), std::to_string(totals.notices), std::to_string(totals.clockedIn)};
 }
 
 // As wide as their widest cell; names to the left, figures to the right.

@@ -15,8 +15,8 @@ struct CheckLimits
     bool showNotices = true;          // in windows and printed text; figures and data files hold them all the same
 };
 
-// Files of earlier versions have no such table: where it, its row or a value in it is missing or of no use, the value above holds. Raises the
-// failure of a database that cannot be opened or read. REQUIRES: database is not nullptr, here and below.
+// Files of earlier versions have no such table: where it, its row or a value in it is missing or of no use, the value above holds. Raises
+// the failure of a database that cannot be opened or read. REQUIRES: database is not nullptr, here and below.
 CheckLimits LoadCheckLimits(const std::shared_ptr<CJetDB>& database);
 
 // Makes the table where it is missing. On disk when it answers true; false with what CJetDB::ExecuteActions leaves.

@@ -9,8 +9,8 @@ inline constexpr auto kStarting = "SELECT TimeRecordID, StartTime, EndTime FROM 
 
 // All that a search by start passes over or would have to look for in the whole history: shifts still open, backward, longer than a day, or
 // of times that cannot be read. The condition is to the letter that of the index TimeRecordUnusual, which holds few rows; a file without
-// the index is searched through the employee's whole history. The last column says whether the card's fetch, of the bounds `from` and `end`,
-// takes the row: only the engine knows how it compares what is no time.
+// the index is searched through the employee's whole history. The last column says whether the card's fetch, of the bounds `from` and
+// `end`, takes the row: only the engine knows how it compares what is no time.
 inline constexpr auto kUnusual = "SELECT TimeRecordID, StartTime, EndTime, (StartTime >= :from AND EndTime <= :end) IS TRUE "
                                  "FROM TimeRecord WHERE EmployeeID = :employee AND "
                                  "CASE WHEN StartTime GLOB '[0-9]*' AND EndTime GLOB '[0-9]*' THEN "
