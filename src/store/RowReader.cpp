@@ -158,7 +158,7 @@ void RowReader::Text(std::string& field)
 void RowReader::ReadMoment(std::size_t column, DateTime& field) const
 {
     field = m_rows.DateTimeAt(column);
-    if (!m_rows.HasStoredDate(column)) {
+    if (m_found != nullptr && !m_rows.HasStoredDate(column)) {
         Doubt("not stored as YYYY-MM-DD HH:MM:SS");
     }
 }

@@ -91,7 +91,7 @@ TEST_F(DatabaseFileTest, AFolderThatMayNotBeUsedIsAMissingPermission)
     chmod(m_folder.Path().c_str(), 0755);
     const std::string folder = m_folder.Path() + "/closed";
     std::filesystem::create_directory(folder);
-    for (const mode_t mode : {0500, 0000}) {
+    for (const mode_t mode : {0500U, 0000U}) {
         chmod(folder.c_str(), mode);
         EXPECT_EQ(InAnotherProcess([&] {
                       EXPECT_TRUE(getuid() != 0 || seteuid(65534) == 0);

@@ -24,7 +24,7 @@ std::string PlainPath(const std::string& path)
     return path.starts_with('/') ? path : "./" + path;
 }
 
-// The engine would wait for the other end of a pipe, and read a device as if it were a file. What is missing is told by the engine itself.
+// The engine would read a device as if it were a file, and does not tell a folder or a pipe from a missing file.
 void RefuseIrregularFile(const std::string& path)
 {
     struct stat file
@@ -40,10 +40,10 @@ constexpr int kOpenMode = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX;
 
 SQLite::Database OpenFile(const std::string& path)
 {
-    RefuseIrregularFile(path);
     try {
         return {path, kOpenMode};
     } catch (const SQLite::Exception& exception) {
+        RefuseIrregularFile(path);
         throw EngineFailure(exception.getErrorCode());
     }
 }
@@ -52,12 +52,17 @@ SQLite::Database OpenFile(const std::string& path)
 
 Connection::Connection(const std::string& path) : m_database(OpenFile(PlainPath(path)))
 {
+    const std::int64_t size = FileSize(Handle());
+    if (size == 0) { // as a device's always is
+        RefuseIrregularFile(PlainPath(path));
+    }
     if (sqlite3_db_readonly(Handle(), "main") != 0) {
         throw EngineFailure(SQLITE_READONLY);
     }
     // Before the hold, which would finish what another program's crash left undone.
     if (const FileHeader header = ReadFileHeader(Handle()); header.signature) {
         RefuseOtherPrograms(header.applicationId, header.formatNumber);
+        m_inOrder = !header.writeAheadLog && size >= header.fileSize;
     }
     sqlite3_busy_handler(
         Handle(), [](void* connection, int /*tries*/) { return static_cast<Connection*>(connection)->Wait() ? 1 : 0; }, this);
@@ -74,15 +79,20 @@ void Connection::RefuseOtherPrograms(std::int32_t applicationId, std::int32_t fo
     }
 }
 
+// Most files were in order before the hold. Where the hold had to be waited for, somebody may have changed that.
 void Connection::RefuseForeignFile()
 {
+    if (m_inOrder) {
+        return;
+    }
     const FileHeader header = ReadFileHeader(Handle());
     if (!header.complete) {
         throw EngineFailure(SQLITE_NOTADB);
     }
-    if (header.truncated) {
+    if (FileSize(Handle()) < header.fileSize) {
         throw EngineFailure(SQLITE_CORRUPT);
     }
+    RefuseOtherPrograms(header.applicationId, header.formatNumber);
     if (header.writeAheadLog) {
         RefuseOtherProgramsLog();
         LeaveWriteAheadLog();
@@ -132,8 +142,9 @@ void Connection::Hold()
 }
 
 // Whether to try once more for a file in use.
-bool Connection::Wait() const
+bool Connection::Wait()
 {
+    m_inOrder = false;
     if (std::chrono::steady_clock::now() >= m_patientUntil) {
         return false;
     }

@@ -36,10 +36,11 @@ private:
     void RefuseOtherProgramsLog();
     void LeaveWriteAheadLog();
     bool IsHeld() const;
-    bool Wait() const;
+    bool Wait();
 
     SQLite::Database m_database;
     std::chrono::steady_clock::time_point m_patientUntil;
+    bool m_inOrder = false; // whether what the file is was seen from outside, without a wait
     bool m_durable = false; // whether commits survive a power cut
 };
 

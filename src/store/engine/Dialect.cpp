@@ -5,6 +5,8 @@
 #include "store/engine/Lexer.h"
 #include "store/engine/StoredDate.h"
 
+#include <algorithm>
+
 namespace ptk {
 
 namespace {
@@ -129,11 +131,11 @@ std::string Joined(const std::vector<Token>& tokens, std::size_t expectedSize)
 std::string TranslateStatement(std::string_view statement)
 {
     std::vector<Token> tokens = SplitTokens(statement);
-    const Meaning meaning = WithoutBlanks(tokens);
-    if (!meaning.empty() && IsKeyword(*meaning.front(), "delete")) {
-        DropColumnList(meaning);
-    } else if (!meaning.empty() && IsKeyword(*meaning.front(), "update")) {
-        DropQualifiers(meaning);
+    const auto first = std::find_if(tokens.begin(), tokens.end(), [](const Token& token) { return token.kind != TokenKind::Blank; });
+    if (first != tokens.end() && IsKeyword(*first, "delete")) {
+        DropColumnList(WithoutBlanks(tokens));
+    } else if (first != tokens.end() && IsKeyword(*first, "update")) {
+        DropQualifiers(WithoutBlanks(tokens));
     }
     return Joined(tokens, statement.size());
 }

@@ -52,28 +52,40 @@ void RaiseWhenUnreadable(int resultCode)
     }
 }
 
+sqlite3_file* FileOf(sqlite3* database)
+{
+    sqlite3_file* file = nullptr;
+    RaiseUnlessDone(database, sqlite3_file_control(database, "main", SQLITE_FCNTL_FILE_POINTER, static_cast<void*>(&file)));
+    return file;
+}
+
 } // namespace
 
 FileHeader ReadFileHeader(sqlite3* database)
 {
-    sqlite3_file* file = nullptr;
-    RaiseUnlessDone(database, sqlite3_file_control(database, "main", SQLITE_FCNTL_FILE_POINTER, static_cast<void*>(&file)));
+    sqlite3_file* file = FileOf(database);
     Bytes bytes{};
     const int code = file->pMethods->xRead(file, bytes.data(), static_cast<int>(bytes.size()), 0);
     if (code == SQLITE_IOERR_SHORT_READ) {
         return {};
     }
     RaiseWhenUnreadable(code);
-    sqlite3_int64 size = 0;
-    RaiseWhenUnreadable(file->pMethods->xFileSize(file, &size));
     FileHeader header;
     header.complete = true;
     header.signature = std::equal(kSignature.begin(), kSignature.end(), bytes.begin());
-    header.truncated = size < SizeByHeader(bytes);
     header.writeAheadLog = bytes[kWriteVersion] == kWriteAheadLog;
     header.applicationId = static_cast<std::int32_t>(NumberAt(bytes, kApplication));
     header.formatNumber = static_cast<std::int32_t>(NumberAt(bytes, kUserVersion));
+    header.fileSize = SizeByHeader(bytes);
     return header;
+}
+
+std::int64_t FileSize(sqlite3* database)
+{
+    sqlite3_file* file = FileOf(database);
+    sqlite3_int64 size = 0;
+    RaiseWhenUnreadable(file->pMethods->xFileSize(file, &size));
+    return size;
 }
 
 } // namespace ptk

@@ -16,13 +16,14 @@ struct FileHeader
 {
     bool complete = false;          // false for a file shorter than its header
     bool signature = false;         // of a database at all; without it the numbers below mean nothing
-    bool truncated = false;         // the engine itself misses only whole pages
     bool writeAheadLog = false;     // kept with a write-ahead log beside it, which would let readers in
     std::int32_t applicationId = 0; // whose file it is
     std::int32_t formatNumber = 0;  // the user_version: 1 for this program's tables
+    std::int64_t fileSize = 0;      // of the whole file in bytes, at least; 0 when the header does not know, as old writers leave it
 };
 
-// Changes nothing and needs no hold. Raises the engine's failure when the file cannot be read.
+// Both change nothing and need no hold. Raise the engine's failure when the file cannot be read.
 FileHeader ReadFileHeader(sqlite3* database);
+std::int64_t FileSize(sqlite3* database); // bytes; the engine itself misses only whole pages of a file cut short
 
 } // namespace ptk

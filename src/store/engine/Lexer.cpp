@@ -6,7 +6,10 @@ namespace ptk {
 
 namespace {
 
-constexpr std::string_view kBlanks = " \t\r\n\f";
+bool IsWhiteSpace(char c)
+{
+    return c == ' ' || c == '\t' || c == '\r' || c == '\n' || c == '\f';
+}
 
 bool IsDigit(char c)
 {
@@ -56,7 +59,7 @@ std::size_t BlankLength(std::string_view rest)
     if (rest.starts_with("/*")) {
         return LengthThrough(rest, "*/", 2);
     }
-    return LengthWhile(rest, [](char c) { return kBlanks.find(c) != std::string_view::npos; });
+    return LengthWhile(rest, IsWhiteSpace);
 }
 
 Token NextToken(std::string_view rest)

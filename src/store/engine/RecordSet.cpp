@@ -1,5 +1,6 @@
 #include "store/engine/RecordSet.h"
 
+#include "platform/Characters.h"
 #include "platform/Failure.h"
 #include "platform/Text.h"
 #include "store/engine/StoredDate.h"
@@ -46,9 +47,10 @@ void RecordSet::MoveNext()
 
 std::size_t RecordSet::Column(std::string_view name) const
 {
-    const std::string wanted = LowerCase(name);
+    const auto isSame = [](char a, char b) { return LowerCase(a) == LowerCase(b); };
     for (std::size_t column = 0; column < m_headings.size(); ++column) {
-        if (LowerCase(m_headings[column].name) == wanted) {
+        const std::string& heading = m_headings[column].name;
+        if (std::equal(heading.begin(), heading.end(), name.begin(), name.end(), isSame)) {
             return column;
         }
     }
