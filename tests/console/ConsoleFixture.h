@@ -4,6 +4,7 @@
 #include "console/Program.h"
 #include "support/Files.h"
 #include "support/FixedClock.h"
+#include "support/Sources.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -25,7 +26,7 @@ protected:
         std::string err;
     };
 
-    ConsoleTest() { std::filesystem::copy_file(std::string(PTK_SOURCE_DIR) + "/data/ptk_11.cfg", System("ptk_11.cfg")); }
+    ConsoleTest() { std::filesystem::copy_file(SourceFolder() + "/data/ptk_11.cfg", System("ptk_11.cfg")); }
 
     Answer Run(std::vector<std::string> words)
     {

@@ -30,7 +30,7 @@ class PrintScheduler
 public:
     PrintScheduler()
     {
-        running = std::system((PTK_SOURCE_DIR "/tests/printing/start_cups.sh " + folder.Path()).c_str()) == 0;
+        running = std::system((SourceFolder() + "/tests/printing/start_cups.sh " + folder.Path()).c_str()) == 0;
         setenv("CUPS_SERVER", (folder.Path() + "/cups.sock").c_str(), 1);
     }
     ~PrintScheduler()

@@ -14,6 +14,7 @@
 #include "store/DatabaseCreator.h"
 #include "support/FixedClock.h"
 #include "support/RecordingDesktop.h"
+#include "support/Sources.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -215,7 +216,7 @@ protected:
     }
 
     std::filesystem::path File(const std::string& name) const { return std::filesystem::path(folder.Path()) / "reports" / name; }
-    static std::string Golden(const std::string& name) { return FileBytes(std::string(PTK_SOURCE_DIR "/tests/reports/golden/") + name); }
+    static std::string Golden(const std::string& name) { return FileBytes(SourceFolder() + "/tests/reports/golden/" + name); }
 
     TemporaryFolder folder;
     RecordingDesktop desktop;
