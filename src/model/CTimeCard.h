@@ -1,6 +1,7 @@
 // The pay period of one employee: its time records, hours, break time and pay, and their text forms.
 #pragma once
 
+#include "model/CardLine.h"
 #include "model/CDateRange.h"
 #include "model/Entity.h"
 #include "platform/DateTime.h"
@@ -10,12 +11,12 @@
 #include <memory>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace ptk {
 
 class CEmployee;
 class CJetDB;
-class CTimeRecord;
 class CTimeRecordFactory;
 class CTimeRecordList;
 
@@ -43,6 +44,7 @@ public:
     void EndDate(DateTime value); // the last moment that belongs to the period
     DateTime EndDate() const { return m_range.EndDate(); }
     std::shared_ptr<CTimeRecordList> TimeRecordList() const; // the factory's current list
+    std::vector<CardLine> Lines() const;                     // of that list, in its order; none without one
     float RegularHoursWorked() const { return m_regularHours; }
     float RegularPay() const; // deliberately the employee's pay rate of now, not an amount; 0 without an employee
     float OvertimeHoursWorked() const { return m_overtimeHours; }
@@ -78,7 +80,7 @@ private:
     bool Calculate();
     bool CloseFirstOpen(CTimeRecordList& list, DateTime theendtime);
     void AppendSummary(std::string& text) const;
-    void AppendRecords(std::string& text);
+    void AppendLines(std::string& text);
     float BreakAllowance() const;
     void Begin();
     bool Fail(std::int32_t errorNumber); // always false

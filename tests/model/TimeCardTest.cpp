@@ -191,6 +191,22 @@ TEST_F(TimeCardTest, TakesShiftsWhollyWithinThePeriodAndOpenOnes)
     EXPECT_EQ(card.RegularHoursWorked(), 16);
 }
 
+TEST_F(TimeCardTest, AnswersItsLinesAsTheyStood)
+{
+    EXPECT_TRUE(card.Lines().empty());
+    Add(7, At(3, 9), At(3, 8));
+    Add(7, At(4, 8), {});
+    ASSERT_TRUE(card.GenerateTimecard(Employee(7, false, 0, 0), At(3, 0), At(5, 0)));
+    const std::vector<CardLine> lines = card.Lines();
+    ASSERT_EQ(lines.size(), 2U);
+    EXPECT_EQ(lines[0].record, card.TimeRecordList()->Item(1));
+    lines[0].record->StartTime(At(3, 7));
+    EXPECT_EQ(lines[0].StartText() + '|' + lines[0].EndText() + '|' + lines[0].HoursText(0.5F),
+              "03/03/2003 09:00 AM|03/03/2003 08:00 AM|-1.50");
+    lines[1].record->EnforceFormat(false);
+    EXPECT_EQ(lines[1].StartText() + '|' + lines[1].EndText() + '|' + lines[1].HoursText(), "3/4/2003 8:00:00 AM|12:00:00 AM|0.00");
+}
+
 TEST_F(TimeCardTest, SaysWhyThereIsNone)
 {
     const auto employee = Employee(7, false, 0, 0);

@@ -2,7 +2,6 @@
 
 #include "model/CEmployee.h"
 #include "model/CTimeCard.h"
-#include "model/CTimeRecordList.h"
 #include "office/CardTexts.h"
 #include "platform/Required.h"
 #include "platform/Text.h"
@@ -66,7 +65,8 @@ bool CardDisplay::SetupTimeRecordGrid()
 bool CardDisplay::DisplayTimeCard(const CTimeCard& card)
 {
     const auto employee = Required(card.Employee());
-    const bool filled = FillTimeRecordGrid(card.TimeRecordList());
+    Required(card.TimeRecordList());
+    const bool filled = FillTimeRecordGrid(card.Lines());
     m_ui->txtTCHours->setText(Figure(card.RegularHoursWorked()));
     m_ui->txtTCPayRate->setText(Figure(employee->PayRate()));
     m_ui->txtTCOvertimeHours->setText(Figure(card.OvertimeHoursWorked()));
@@ -76,9 +76,9 @@ bool CardDisplay::DisplayTimeCard(const CTimeCard& card)
     return filled;
 }
 
-bool CardDisplay::FillTimeRecordGrid(const std::shared_ptr<CTimeRecordList>& records)
+bool CardDisplay::FillTimeRecordGrid(std::vector<CardLine> lines)
 {
-    m_records->SetRecords(*Required(records));
+    m_records->SetLines(std::move(lines));
     return true;
 }
 

@@ -1,9 +1,12 @@
 // What the Timecards page shows of a card: its time records and what they come to.
 #pragma once
 
+#include "model/CardLine.h"
+
 #include <array>
 #include <memory>
 #include <QWidget>
+#include <vector>
 
 namespace Ui {
 class CardDisplay;
@@ -13,7 +16,6 @@ namespace ptk {
 
 class CTimeCard;
 class CTimeRecord;
-class CTimeRecordList;
 class FigureBox;
 class TimeRecordGridModel;
 
@@ -44,7 +46,7 @@ signals:
 
 private:
     void PrepareGrid();
-    bool FillTimeRecordGrid(const std::shared_ptr<CTimeRecordList>& records);
+    bool FillTimeRecordGrid(std::vector<CardLine> lines);
     std::array<FigureBox*, 5> Figures() const;
 
     std::unique_ptr<Ui::CardDisplay> m_ui;

@@ -1,15 +1,13 @@
 // The rows of the time record grid.
 #pragma once
 
-#include "model/CTimeRecord.h"
+#include "model/CardLine.h"
 
 #include <memory>
 #include <QAbstractTableModel>
 #include <vector>
 
 namespace ptk {
-
-class CTimeRecordList;
 
 namespace recordcolumn {
 inline constexpr int Start = 0;
@@ -18,7 +16,7 @@ inline constexpr int Total = 2; // hours
 inline constexpr int Count = 3;
 } // namespace recordcolumn
 
-// Shows the records as they were when the grid was filled, whatever an editor does to them since; their texts are made as they are painted.
+// Shows the lines as they were when the grid was filled; their texts are made as they are painted.
 // The weekday of a date, and of an end that is not there yet that somebody is at work, stand in tool tips and in descriptions for readers.
 class TimeRecordGridModel final : public QAbstractTableModel
 {
@@ -27,13 +25,13 @@ class TimeRecordGridModel final : public QAbstractTableModel
 public:
     using QAbstractTableModel::QAbstractTableModel;
 
-    void SetRecords(CTimeRecordList& records);
+    void SetLines(std::vector<CardLine> lines);
     void Clear();
 
     void SetFaded(bool faded); // greys all rows
 
     // The record itself, which the list may have let go of by now. REQUIRES: a row of the grid.
-    std::shared_ptr<CTimeRecord> Record(int row) const { return m_rows.at(static_cast<std::size_t>(row)).record; }
+    std::shared_ptr<CTimeRecord> Record(int row) const { return m_lines.at(static_cast<std::size_t>(row)).record; }
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -41,16 +39,10 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
-    struct Row
-    {
-        std::shared_ptr<CTimeRecord> record;
-        CTimeRecord shown;
-    };
+    static QString Text(const CardLine& line, int column);
+    static QString Note(const CardLine& line, int column);
 
-    static QString Text(const Row& row, int column);
-    static QString Note(const Row& row, int column);
-
-    std::vector<Row> m_rows;
+    std::vector<CardLine> m_lines;
     bool m_faded = false;
 };
 
