@@ -3,6 +3,7 @@
 #include "model/CEmployee.h"
 #include "model/CTimeCard.h"
 #include "office/CardTexts.h"
+#include "office/CheckedTimecard.h"
 #include "platform/Required.h"
 #include "platform/Text.h"
 #include "ui/pages/TimeRecordGridModel.h"
@@ -31,6 +32,7 @@ CardDisplay::CardDisplay(QWidget* parent)
     m_ui->txtTCPeriodPay->SetImportant();
     setFocusProxy(m_ui->grdTimeRecs);
     PrepareGrid();
+    ConnectFindings();
 }
 
 CardDisplay::~CardDisplay() = default;
@@ -56,9 +58,31 @@ void CardDisplay::PrepareGrid()
     connect(deleteKey, &QShortcut::activated, this, &CardDisplay::DeleteAsked);
 }
 
+void CardDisplay::ConnectFindings()
+{
+    connect(m_ui->findings, &CardFindings::RowWanted, this, &CardDisplay::ChooseRowOf);
+    connect(m_ui->findings, &CardFindings::RowEntered, this, [this](qint64 timeRecordID) {
+        ChooseRowOf(timeRecordID);
+        m_ui->grdTimeRecs->setFocus();
+    });
+    connect(m_ui->findings, &CardFindings::Elsewhere, this, &CardDisplay::Elsewhere);
+    connect(m_ui->findings, &CardFindings::ElsewhereEntered, this, &CardDisplay::ElsewhereEntered);
+}
+
+// Also where it is chosen already: the choice may have been forgotten elsewhere in the meantime.
+void CardDisplay::ChooseRowOf(qint64 timeRecordID)
+{
+    const int row = m_records->RowOf(timeRecordID);
+    if (row >= 0) {
+        m_ui->grdTimeRecs->setCurrentIndex(m_records->index(row, recordcolumn::Start));
+        emit RowChosen();
+    }
+}
+
 bool CardDisplay::SetupTimeRecordGrid()
 {
     m_records->Clear();
+    m_ui->findings->Show(nullptr);
     return true;
 }
 
@@ -95,6 +119,22 @@ void CardDisplay::ClearFigures()
     m_ui->lblTCBreakTime->clear();
 }
 
+void CardDisplay::ShowCheck(const std::shared_ptr<const CheckedTimecard>& checked)
+{
+    m_records->SetMarks(checked->check ? MarksOf(*checked->check, checked->limits.showNotices) : RowMarks());
+    m_ui->findings->Show(checked);
+}
+
+void CardDisplay::ShowHours(bool shown)
+{
+    m_ui->findings->ShowHours(shown);
+}
+
+bool CardDisplay::HoursShown() const
+{
+    return m_ui->findings->HoursShown();
+}
+
 bool CardDisplay::ShowsCard() const
 {
     return m_records->rowCount() > 0;
@@ -103,6 +143,7 @@ bool CardDisplay::ShowsCard() const
 void CardDisplay::SetStrange(bool strange)
 {
     m_records->SetFaded(strange);
+    m_ui->findings->SetStrange(strange);
     m_ui->lblTCBreakTime->setEnabled(!strange);
     for (auto* box : Figures()) {
         box->SetFaded(strange);

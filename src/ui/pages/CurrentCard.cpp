@@ -4,8 +4,10 @@
 #include "model/CEmployeeList.h"
 #include "model/CTimeCard.h"
 #include "office/CardTexts.h"
+#include "office/CheckedTimecard.h"
 #include "office/TimeCardNotices.h"
 #include "platform/BusyPointer.h"
+#include "platform/Clock.h"
 #include "platform/Required.h"
 #include "platform/Succeeds.h"
 #include "startup/CController.h"
@@ -59,13 +61,13 @@ bool CurrentCard::RefreshTimeCard()
 bool CurrentCard::GenerateTimeCard()
 {
     m_host.TimeCard(nullptr);
+    m_checked = nullptr;
     const auto controller = Required(m_host.Controller());
     const auto employee = Required(controller->EmployeeList())->GetEmployeeByName(m_choice.EmployeeText());
     const auto card = std::make_shared<CTimeCard>(Required(controller->TimeRecordFactory()));
     m_host.TimeCard(card);
     card->PTKDatabase(controller->PTKDatabase());
-    const PayPeriod period = m_choice.Period();
-    const bool generated = Load(*card, employee, period.from, period.to.AddDays(1));
+    const bool generated = Load(*card, employee, m_choice.Period());
     if (!generated) {
         ReportCardError(card->ErrorNumber());
         Complain(UnreadText(*card));
@@ -74,10 +76,12 @@ bool CurrentCard::GenerateTimeCard()
 }
 
 // The pointer is the usual one again before anything is told.
-bool CurrentCard::Load(CTimeCard& card, const std::shared_ptr<CEmployee>& employee, DateTime start, DateTime end)
+bool CurrentCard::Load(CTimeCard& card, const std::shared_ptr<CEmployee>& employee, const PayPeriod& period)
 {
     const BusyPointer busy(m_host.Desktop());
-    return card.GenerateTimecard(employee, start, end);
+    const auto database = Required(m_host.Controller())->PTKDatabase();
+    m_checked = std::make_shared<CheckedTimecard>(GenerateChecked(card, database, employee, period, m_host.Clock().Now()));
+    return m_checked->generated;
 }
 
 void CurrentCard::ReportCardError(std::int32_t errorNumber)
@@ -96,6 +100,7 @@ bool CurrentCard::Regenerate()
         ShowTimeCard();
     } else {
         ClearTimeCardDisplay();
+        ShowFindings();
     }
     return generated;
 }
@@ -120,15 +125,21 @@ bool CurrentCard::ReadAgain()
     if (!m_display.ShowsCard()) {
         return true;
     }
-    if (Load(*card, card->Employee(), card->StartDate(), card->EndDate())) {
+    if (Load(*card, card->Employee(), {card->StartDate(), card->EndDate().AddDays(-1)})) {
         ShowTimeCard();
         return true;
     }
     const bool noneLeft = UnreadText(*card).empty();
     if (noneLeft) {
         ClearTimeCardDisplay();
+        ShowFindings();
     }
     return noneLeft;
+}
+
+void CurrentCard::CheckAgain()
+{
+    Succeeds([this] { return ReadAgain(); });
 }
 
 void CurrentCard::RenewFor(std::int32_t savedEmployee)
@@ -153,8 +164,18 @@ bool CurrentCard::ShowTimeCard()
 {
     SetupTimeRecordGrid();
     m_display.DisplayTimeCard(*Required(m_host.TimeCard()));
+    ShowFindings();
     Mark();
     return false;
+}
+
+// Also of a card that could not be made: what keeps it from that, and what crosses its ends.
+void CurrentCard::ShowFindings()
+{
+    const bool tells = m_checked != nullptr && m_checked->check && !m_checked->check->findings.empty();
+    if (m_display.ShowsCard() || tells) {
+        m_display.ShowCheck(m_checked);
+    }
 }
 
 bool CurrentCard::SetupTimeRecordGrid()

@@ -18,6 +18,8 @@ class CTimeRecord;
 class HintLabel;
 class NoticeLine;
 class PageHost;
+struct CheckedTimecard;
+struct PayPeriod;
 
 // Made of what the page's boxes name, and marked as soon as it is not what they name any more. Moving to another period or employee clears
 // the display but keeps the card. Whatever goes wrong is told in the given boxes, and its reason in the page's line and the session log.
@@ -40,6 +42,7 @@ public:
     bool RefreshTimeCard();                    // generates and shows it; false for any run-time failure
     void RegenerateAfterSave();                // the same, with a box for that failure, and with nothing in the line when it is shown
     bool ReadAgain();                          // without a box; where that fails, false, what is shown stays. May raise failures.
+    void CheckAgain();                         // with the limits that the options hold now
     void RenewFor(std::int32_t savedEmployee); // name, rates and deductions of that employee may be others now
     bool ClearTimeCardDisplay();               // always true
 
@@ -54,7 +57,8 @@ signals:
 private:
     void Mark();
     bool GenerateTimeCard();
-    bool Load(CTimeCard& card, const std::shared_ptr<CEmployee>& employee, DateTime start, DateTime end);
+    bool Load(CTimeCard& card, const std::shared_ptr<CEmployee>& employee, const PayPeriod& period);
+    void ShowFindings();
     bool Regenerate();
     bool ShowTimeCard(); // deliberately always false; nobody looks at it
     bool SetupTimeRecordGrid();
@@ -65,6 +69,7 @@ private:
     HintLabel& m_mark;
     CardDisplay& m_display;
     NoticeLine& m_line;
+    std::shared_ptr<const CheckedTimecard> m_checked; // the current card as it was last loaded; nullptr before
 };
 
 } // namespace ptk

@@ -5,6 +5,7 @@
 #include "model/CTimeCard.h"
 #include "model/CTimeRecord.h"
 #include "model/CTimeRecordList.h"
+#include "office/CardFindings.h"
 #include "office/CardRecords.h"
 #include "office/TimeCardNotices.h"
 #include "platform/BusyPointer.h"
@@ -38,6 +39,7 @@ constexpr auto kRecordsNotFilled = "Records not filled in";
 constexpr auto kNothingFilled = "No records were filled in";
 constexpr auto kNoEditor = "The record cannot be edited now";
 constexpr auto kNoAutoFill = "Auto Fill needs an employee of the list and two dates";
+constexpr auto kOpenElsewhere = "Open Record";
 constexpr auto kNotPrinted = "The card was not printed";
 
 QString Line(const std::string& text)
@@ -78,6 +80,8 @@ void TimeCardPage::ConnectActions()
     connect(m_ui->display, &CardDisplay::EditAsked, this, &TimeCardPage::EditRecord);
     connect(m_ui->cmdTCDelete, &QPushButton::clicked, this, &TimeCardPage::DeleteRecord);
     connect(m_ui->display, &CardDisplay::DeleteAsked, this, &TimeCardPage::DeleteRecord);
+    connect(m_ui->display, &CardDisplay::Elsewhere, this, &TimeCardPage::OfferElsewhere);
+    connect(m_ui->display, &CardDisplay::ElsewhereEntered, this, &TimeCardPage::EditElsewhere);
     connect(m_ui->cmdFill, &QPushButton::clicked, this, [this] { AutoFill({}); });
     connect(m_ui->cmdTCPrint, &QPushButton::clicked, this, &TimeCardPage::Print);
 }
@@ -153,6 +157,21 @@ PeriodTexts TimeCardPage::Period() const
     return m_choice->PeriodTexts();
 }
 
+void TimeCardPage::CheckAgain()
+{
+    m_card->CheckAgain();
+}
+
+void TimeCardPage::ShowHours(bool shown)
+{
+    m_ui->display->ShowHours(shown);
+}
+
+bool TimeCardPage::HoursShown() const
+{
+    return m_ui->display->HoursShown();
+}
+
 void TimeCardPage::Generate()
 {
     if (!m_card->RefreshTimeCard()) {
@@ -176,6 +195,25 @@ void TimeCardPage::EditRecord()
     const auto record = m_card->ChosenRecord();
     if (record == nullptr) {
         return Tell(m_host.Desktop(), kNoneToEdit);
+    }
+    OpenEditor({record, false, {}});
+}
+
+void TimeCardPage::OfferElsewhere(const FindingPlace& place)
+{
+    if (place.elsewhere.empty()) {
+        return m_ui->notice->Clear();
+    }
+    m_ui->notice->Offer(Line(place.text), kOpenElsewhere, [this, punch = *place.elsewhere.front()] { EditElsewhere(punch); });
+}
+
+void TimeCardPage::EditElsewhere(const Punch& punch)
+{
+    const auto card = m_host.TimeCard();
+    const auto employee = card == nullptr ? nullptr : card->Employee();
+    const auto record = employee == nullptr ? nullptr : RecordToEdit(punch, employee->EmployeeID());
+    if (record == nullptr) {
+        return m_ui->notice->Say(kNoEditor);
     }
     OpenEditor({record, false, {}});
 }

@@ -26,8 +26,10 @@ class CurrentCard;
 class FAutoFill;
 class FTimeEditor;
 class PageHost;
+struct FindingPlace;
 struct Notice;
 struct PeriodTexts;
+struct Punch;
 
 // Every change to a record is stored at once and followed by a fresh generation of the card.
 class TimeCardPage final : public QWidget, public TimeRecordReceiver
@@ -43,6 +45,9 @@ public:
     void SelectFirstEmployee();
     void EnablePrint();
     PeriodTexts Period() const; // as the boxes show it
+    void CheckAgain();          // the card that is shown, by limits that have changed
+    void ShowHours(bool shown); // the hours per day below the grid; remembered
+    bool HoursShown() const;
 
     bool ReturnTimeRecord(const std::shared_ptr<CTimeRecord>& thetimerecord) override;
 
@@ -84,6 +89,8 @@ private:
     void AutoFill(const std::optional<FillTexts>& typed);
     void Print();
 
+    void OfferElsewhere(const FindingPlace& place);
+    void EditElsewhere(const Punch& punch);
     void OpenEditor(const Editing& editing);
     void Prepare(FTimeEditor& editor, const Editing& editing);
     void HandOver(FAutoFill& window);

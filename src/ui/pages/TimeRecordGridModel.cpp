@@ -1,8 +1,11 @@
 #include "ui/pages/TimeRecordGridModel.h"
 
+#include "model/CTimeRecord.h"
 #include "office/CardTexts.h"
+#include "ui/widgets/FindingList.h"
 #include "ui/widgets/ThemeIcon.h"
 
+#include <algorithm>
 #include <array>
 #include <QGuiApplication>
 #include <QPalette>
@@ -32,7 +35,23 @@ void TimeRecordGridModel::Clear()
 {
     beginResetModel();
     m_lines.clear();
+    m_marks.clear();
     endResetModel();
+}
+
+void TimeRecordGridModel::SetMarks(RowMarks marks)
+{
+    m_marks = std::move(marks);
+    if (!m_lines.empty()) {
+        emit dataChanged(index(0, 0), index(rowCount() - 1, recordcolumn::Count - 1));
+    }
+}
+
+int TimeRecordGridModel::RowOf(std::int64_t timeRecordID) const
+{
+    const auto its = [&](const CardLine& line) { return line.record->TimeRecordID() == timeRecordID; };
+    const auto found = std::find_if(m_lines.begin(), m_lines.end(), its);
+    return found == m_lines.end() ? -1 : static_cast<int>(found - m_lines.begin());
 }
 
 void TimeRecordGridModel::SetFaded(bool faded)
@@ -73,6 +92,32 @@ QString TimeRecordGridModel::Note(const CardLine& line, int column)
     }
 }
 
+const RowMark* TimeRecordGridModel::Mark(const CardLine& line) const
+{
+    const auto mark = m_marks.find(line.record->TimeRecordID());
+    return mark == m_marks.end() ? nullptr : &mark->second;
+}
+
+// In every cell: a reader hears it whichever of them is the current one.
+QString TimeRecordGridModel::MarkedNote(const CardLine& line, int column) const
+{
+    const QString note = Note(line, column);
+    const RowMark* mark = Mark(line);
+    if (mark == nullptr) {
+        return note;
+    }
+    return note + (note.isEmpty() ? "" : "\n") + QString::fromStdString(mark->text);
+}
+
+QVariant TimeRecordGridModel::Icon(const CardLine& line, int column) const
+{
+    const RowMark* mark = Mark(line);
+    if (mark != nullptr && column == recordcolumn::Start) {
+        return ThemeIcon(SeverityIconName(mark->severity));
+    }
+    return IsStillOpen(line, column) ? QVariant(ThemeIcon("timecards")) : QVariant();
+}
+
 int TimeRecordGridModel::rowCount(const QModelIndex& parent) const
 {
     return parent.isValid() ? 0 : static_cast<int>(m_lines.size());
@@ -91,9 +136,9 @@ QVariant TimeRecordGridModel::data(const QModelIndex& index, int role) const
         return Text(line, index.column());
     case Qt::ToolTipRole:
     case Qt::AccessibleDescriptionRole:
-        return Note(line, index.column());
+        return MarkedNote(line, index.column());
     case Qt::DecorationRole:
-        return IsStillOpen(line, index.column()) ? QVariant(ThemeIcon("timecards")) : QVariant();
+        return Icon(line, index.column());
     case Qt::ForegroundRole:
         return m_faded ? QVariant(QGuiApplication::palette().brush(QPalette::PlaceholderText)) : QVariant();
     case Qt::TextAlignmentRole:

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "model/CardLine.h"
+#include "office/CardFindings.h"
 
 #include <memory>
 #include <QAbstractTableModel>
@@ -17,7 +18,8 @@ inline constexpr int Count = 3;
 } // namespace recordcolumn
 
 // Shows the lines as they were when the grid was filled; their texts are made as they are painted.
-// The weekday of a date, and of an end that is not there yet that somebody is at work, stand in tool tips and in descriptions for readers.
+// The weekday of a date, of an end that is not there yet that somebody is at work, and what the check says of a row stand in tool tips and
+// in descriptions for readers; a row of which it says something has an icon.
 class TimeRecordGridModel final : public QAbstractTableModel
 {
     Q_OBJECT
@@ -28,10 +30,14 @@ public:
     void SetLines(std::vector<CardLine> lines);
     void Clear();
 
+    void SetMarks(RowMarks marks); // what the check says, by record
+
     void SetFaded(bool faded); // greys all rows
 
     // The record itself, which the list may have let go of by now. REQUIRES: a row of the grid.
     std::shared_ptr<CTimeRecord> Record(int row) const { return m_lines.at(static_cast<std::size_t>(row)).record; }
+
+    int RowOf(std::int64_t timeRecordID) const; // -1 when there is none
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -42,7 +48,12 @@ private:
     static QString Text(const CardLine& line, int column);
     static QString Note(const CardLine& line, int column);
 
+    const RowMark* Mark(const CardLine& line) const; // nullptr for a row without a finding
+    QString MarkedNote(const CardLine& line, int column) const;
+    QVariant Icon(const CardLine& line, int column) const;
+
     std::vector<CardLine> m_lines;
+    RowMarks m_marks;
     bool m_faded = false;
 };
 
