@@ -23,8 +23,10 @@ class CompanyPage;
 class CTimeRecord;
 class EmployeePage;
 class OptionsPage;
+class OverviewWindow;
 class ReportsPage;
 class TimeCardPage;
+struct PayPeriod;
 
 // Must not be destroyed from within its own closing steps, in which the controller lets go of it: delete it later.
 class FController final : public QMainWindow, public MainWindow, public PageHost, public DesktopWindow
@@ -75,6 +77,7 @@ private:
     void AddPage(int index, QWidget* page);
     void BuildStatusBar();
     void ConnectMenus();
+    void ConnectViewMenu();
     void ConnectWindowMenu();
     void ConnectTabs();
     void ConnectTabKeys();
@@ -88,6 +91,9 @@ private:
     bool ShowTabPage(int index);
     void ShowTabIcons(bool shown);
     void Say(const QString& text); // in the shown page's line
+
+    void ShowOverview();
+    void ShowTimeCard(std::int32_t employeeID, const PayPeriod& period);
 
     void Exit();
     void About();
@@ -116,6 +122,7 @@ private:
     EmployeePage* m_employeePage = nullptr;
     CompanyPage* m_companyPage = nullptr;
     OptionsPage* m_optionsPage = nullptr;
+    std::unique_ptr<OverviewWindow> m_overview; // nullptr until it is asked for
     QLabel* m_statusText = nullptr;
 };
 

@@ -192,7 +192,8 @@ TEST_F(TimeCardTest, TellsWhatTheFiguresMean)
     const QModelIndex start = Grid().model()->index(1, 0);
     const QModelIndex end = start.siblingAtColumn(1);
     const QString found = "\nProblem: The shift that began on 03/06/2003 08:00 AM has no end and counts nothing."
-                          "\nProblem: The shift of 03/06/2003 08:00 AM starts in the future.";
+                          "\nProblem: The shift of 03/06/2003 08:00 AM starts in the future."
+                          "\nProblem: On 03/06/2003 the automatic deduction takes 0:45 hours off 0:00 hours worked.";
     EXPECT_EQ(start.data(Qt::ToolTipRole), "Thursday" + found);
     EXPECT_FALSE(start.data(Qt::DecorationRole).value<QIcon>().isNull());
     EXPECT_TRUE(start.siblingAtRow(0).data(Qt::ToolTipRole) == "Wednesday") << "9 hours are none";

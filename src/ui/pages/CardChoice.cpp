@@ -159,6 +159,11 @@ CardName CardChoice::Chosen() const
     return {employee == nullptr ? std::string() : EmployeeText(), PeriodText()};
 }
 
+void CardChoice::Employee(std::int32_t employeeID)
+{
+    m_ui->cboTCEmployeeName->setCurrentIndex(m_ui->cboTCEmployeeName->findData(employeeID, kEmployeeIDRole));
+}
+
 void CardChoice::SelectFirstEmployee()
 {
     m_ui->cboTCEmployeeName->setCurrentIndex(0);

@@ -32,8 +32,9 @@ public:
     ptk::PeriodTexts PeriodTexts() const; // as the boxes show it
     std::string PeriodText() const;       // both in one
 
-    std::string EmployeeText() const; // as it stands in the box
-    CardName Chosen() const;          // the employee is empty while the box holds nobody's name
+    std::string EmployeeText() const;       // as it stands in the box
+    CardName Chosen() const;                // the employee is empty while the box holds nobody's name
+    void Employee(std::int32_t employeeID); // chooses that row of the list, also of namesakes
     void SelectFirstEmployee();
     void FocusEmployee();
 

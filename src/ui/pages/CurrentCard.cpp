@@ -42,6 +42,18 @@ void CurrentCard::Mark()
 // After a run-time failure nothing is shown: the rows would be those of a card that is no longer the current one.
 bool CurrentCard::RefreshTimeCard()
 {
+    m_namesake = 0;
+    return Refresh();
+}
+
+bool CurrentCard::RefreshFor(std::int32_t employeeID)
+{
+    m_namesake = employeeID;
+    return Refresh();
+}
+
+bool CurrentCard::Refresh()
+{
     m_line.Clear();
     const auto refresh = [this] {
         if (m_choice.EmployeeText().empty()) {
@@ -58,12 +70,21 @@ bool CurrentCard::RefreshTimeCard()
     return false;
 }
 
+// After a save, too, a namesake's card is read again as long as the box holds the name.
+std::shared_ptr<CEmployee> CurrentCard::EmployeeToShow() const
+{
+    const auto list = Required(Required(m_host.Controller())->EmployeeList());
+    const auto namesake = m_namesake == 0 ? nullptr : list->GetEmployeeByID(m_namesake);
+    const std::string name = m_choice.EmployeeText();
+    return namesake != nullptr && namesake->DisplayName() == name ? namesake : list->GetEmployeeByName(name);
+}
+
 bool CurrentCard::GenerateTimeCard()
 {
     m_host.TimeCard(nullptr);
     m_checked = nullptr;
     const auto controller = Required(m_host.Controller());
-    const auto employee = Required(controller->EmployeeList())->GetEmployeeByName(m_choice.EmployeeText());
+    const auto employee = EmployeeToShow();
     const auto card = std::make_shared<CTimeCard>(Required(controller->TimeRecordFactory()));
     m_host.TimeCard(card);
     card->PTKDatabase(controller->PTKDatabase());

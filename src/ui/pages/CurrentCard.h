@@ -40,6 +40,7 @@ public:
     CurrentCard(PageHost& host, const Place& place, QObject* parent);
 
     bool RefreshTimeCard();                    // generates and shows it; false for any run-time failure
+    bool RefreshFor(std::int32_t employeeID);  // the same for one of several namesakes
     void RegenerateAfterSave();                // the same, with a box for that failure, and with nothing in the line when it is shown
     bool ReadAgain();                          // without a box; where that fails, false, what is shown stays. May raise failures.
     void CheckAgain();                         // with the limits that the options hold now
@@ -56,6 +57,8 @@ signals:
 
 private:
     void Mark();
+    bool Refresh();
+    std::shared_ptr<CEmployee> EmployeeToShow() const;
     bool GenerateTimeCard();
     bool Load(CTimeCard& card, const std::shared_ptr<CEmployee>& employee, const PayPeriod& period);
     void ShowFindings();
@@ -69,6 +72,7 @@ private:
     HintLabel& m_mark;
     CardDisplay& m_display;
     NoticeLine& m_line;
+    std::int32_t m_namesake = 0;                      // whose card it is where the name alone would find another; 0 for whom the name finds
     std::shared_ptr<const CheckedTimecard> m_checked; // the current card as it was last loaded; nullptr before
 };
 

@@ -157,6 +157,27 @@ PeriodTexts TimeCardPage::Period() const
     return m_choice->PeriodTexts();
 }
 
+std::optional<PayPeriod> TimeCardPage::ChosenPeriod() const
+{
+    std::optional<PayPeriod> period;
+    Succeeds([&] {
+        period = m_choice->Period();
+        return true;
+    });
+    return period;
+}
+
+void TimeCardPage::ShowCard(std::int32_t employeeID, const PayPeriod& period)
+{
+    m_choice->Period(period);
+    m_choice->Employee(employeeID);
+    ChooseEmployee();
+    if (!m_card->RefreshFor(employeeID)) {
+        Tell(m_host.Desktop(), kNotGenerated);
+    }
+    m_ui->display->setFocus();
+}
+
 void TimeCardPage::CheckAgain()
 {
     m_card->CheckAgain();
@@ -251,12 +272,7 @@ void TimeCardPage::Prepare(FTimeEditor& editor, const Editing& editing)
         editor.Texts(*editing.typed);
     }
     if (editing.isNew) {
-        std::optional<PayPeriod> period;
-        Succeeds([&] {
-            period = m_choice->Period();
-            return true;
-        });
-        editor.WarnAsNew(period);
+        editor.WarnAsNew(ChosenPeriod());
     }
 }
 

@@ -44,9 +44,11 @@ public:
     bool ClearTimeCardDisplay(); // always true
     void SelectFirstEmployee();
     void EnablePrint();
-    PeriodTexts Period() const; // as the boxes show it
-    void CheckAgain();          // the card that is shown, by limits that have changed
-    void ShowHours(bool shown); // the hours per day below the grid; remembered
+    PeriodTexts Period() const;                                      // as the boxes show it
+    std::optional<PayPeriod> ChosenPeriod() const;                   // nothing while a box holds no date
+    void ShowCard(std::int32_t employeeID, const PayPeriod& period); // chooses and generates it
+    void CheckAgain();                                               // the card that is shown, by limits that have changed
+    void ShowHours(bool shown);                                      // the hours per day below the grid; remembered
     bool HoursShown() const;
 
     bool ReturnTimeRecord(const std::shared_ptr<CTimeRecord>& thetimerecord) override;
