@@ -47,7 +47,7 @@ constexpr QSize kSmallestSize(512, 350); // as the main window's
 constexpr qint64 kReadingTime = 30;      // milliseconds without a glance at keys and mouse
 constexpr int kFindingLines = 3;
 constexpr int kRowSpace = 8;     // pixels around the text of a row
-constexpr int kColumnSpace = 34; // pixels around a heading: margins and the sorting arrow
+constexpr int kColumnSpace = 24; // pixels around a heading: margins and the sorting arrow
 constexpr int kNameCharacters = 18;
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "ui/widgets/ThemeIcon.h"
 
 #include <QKeyEvent>
+#include <QStyle>
 
 namespace ptk {
 
@@ -51,6 +52,8 @@ FindingList::FindingList(QWidget* parent) : QListView(parent), m_findings(new Fi
     setModel(m_findings);
     setAccessibleName(kName);
     setWordWrap(true);
+    const int icon = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
+    setIconSize({icon, icon});
     setResizeMode(QListView::Adjust);
     setLayoutMode(QListView::Batched);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
