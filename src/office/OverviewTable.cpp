@@ -68,10 +68,8 @@ OverviewCells CellsOf(const OverviewRow& row)
 OverviewCells TotalCells(const std::vector<OverviewRow>& rows, bool onlyProblems)
 {
     const OverviewTotals totals = TotalsOf(rows, onlyProblems);
-    const auto all = static_cast<std::int64_t>(rows.size());
-    const std::string whose =
-        onlyProblems ? fmt::format("{} of {}", ProblemCount(rows), CountText(all, "employee")) : CountText(all, "employee");
-    return {"Total of " + whose,
+    const std::string shown = onlyProblems ? fmt::format("{} of ", ProblemCount(rows)) : std::string();
+    return {fmt::format("Total ({}{})", shown, rows.size()),
             totals.figures.regular,
             totals.figures.overtime,
             totals.figures.gross,

@@ -29,7 +29,7 @@ using OverviewCells = std::array<std::string, kOverviewColumns>; // by OverviewC
 OverviewCells OverviewHeading();
 OverviewCells CellsOf(const OverviewRow& row); // without figures "not readable" stands in place of the gross pay
 
-// Of the rows that are shown: all, or those with problems alone.
+// Of the rows that are shown, all or those with problems alone, and how many they are: "Total (3 of 11)".
 OverviewCells TotalCells(const std::vector<OverviewRow>& rows, bool onlyProblems);
 
 // Whether the row at `left` stands before the one at `right` in ascending order; by name in the order of all lists of employees, by

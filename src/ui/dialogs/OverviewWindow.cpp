@@ -98,6 +98,7 @@ void OverviewWindow::PrepareTable()
     }
     m_ui->grdTotals->horizontalHeader()->hide();
     m_ui->grdTotals->setFixedHeight(m_ui->grdTotals->verticalHeader()->defaultSectionSize() + 2 * m_ui->grdTotals->frameWidth());
+    m_ui->grdOverview->viewport()->installEventFilter(this);
     m_ui->grdOverview->sortByColumn(static_cast<int>(OverviewColumn::Problems), Qt::DescendingOrder);
 }
 
@@ -370,10 +371,12 @@ void OverviewWindow::FitColumns()
     table->setColumnWidth(0, std::max(table->viewport()->width() - figures, least));
 }
 
-void OverviewWindow::resizeEvent(QResizeEvent* event)
+bool OverviewWindow::eventFilter(QObject* watched, QEvent* event)
 {
-    QWidget::resizeEvent(event);
-    FitColumns();
+    if (event->type() == QEvent::Resize) {
+        FitColumns();
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 // The chosen rows in the order in which they stand, or all.

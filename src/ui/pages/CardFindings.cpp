@@ -44,7 +44,6 @@ CardFindings::CardFindings(QWidget* parent)
 {
     m_line->setObjectName("cmdFindings");
     m_line->setAccessibleDescription(kLineDescription);
-    m_line->setAutoRaise(true);
     m_line->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     m_line->setShortcut(QKeySequence(kLineKeys));
     m_detail->setObjectName("lblFindings");
@@ -124,6 +123,7 @@ void CardFindings::ShowParts()
 {
     const bool opens = m_list->model()->rowCount() > 0;
     m_line->setCheckable(opens);
+    m_line->setAutoRaise(!opens);
     m_line->setChecked(opens && m_open);
     m_line->setFocusPolicy(opens ? Qt::StrongFocus : Qt::NoFocus);
     m_line->setToolTip(!opens ? "" : m_open ? kCloseTip : kOpenTip);

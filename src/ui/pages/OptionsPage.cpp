@@ -14,6 +14,8 @@
 #include "ui/widgets/ChosenOnly.h"
 #include "ui_OptionsPage.h"
 
+#include <algorithm>
+
 namespace ptk {
 
 namespace {
@@ -55,12 +57,15 @@ OptionsPage::~OptionsPage() = default;
 // The boxes of all frames stand below each other.
 void OptionsPage::AlignFrames()
 {
-    m_ui->lblAutoShiftStartTime->setMinimumWidth(m_ui->lblPeriodLength->sizeHint().width());
+    const int label = std::max(m_ui->lblPeriodLength->sizeHint().width(), m_ui->lblLongShift->sizeHint().width());
+    for (QWidget* first : {m_ui->lblPeriodLength, m_ui->lblAutoShiftStartTime, m_ui->lblLongShift}) {
+        first->setMinimumWidth(label);
+    }
     const int box = m_ui->dttbAutoShiftStartTime->sizeHint().width();
-    m_ui->txtPeriodLength->setMinimumWidth(box);
-    m_ui->lblLongShift->setMinimumWidth(m_ui->lblPeriodLength->sizeHint().width());
-    m_ui->txtLongShift->setMinimumWidth(box);
-    m_ui->cboFirstWeekday->setMinimumWidth(box);
+    for (QWidget* second : {static_cast<QWidget*>(m_ui->txtPeriodLength), static_cast<QWidget*>(m_ui->txtLongShift),
+                            static_cast<QWidget*>(m_ui->cboFirstWeekday)}) {
+        second->setMinimumWidth(box);
+    }
 }
 
 // A period of 14 days deliberately has 15: one sees it before a payday depends on it.

@@ -89,7 +89,9 @@ public:
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
         const int share = m_view.viewport()->width() / std::max(m_model.rowCount(), 1);
-        const int figure = option.fontMetrics.horizontalAdvance(QString::fromStdString(m_model.Column(index.row()).above));
+        QFont bold = option.font;
+        bold.setBold(true);
+        const int figure = QFontMetrics(bold).horizontalAdvance(QString::fromStdString(m_model.Column(index.row()).above));
         const int least = m_model.Column(index.row()).isWeek ? std::max(figure + kBarSpace, kLeastColumn) : kLeastColumn;
         return {std::max(std::min(share, kMostColumn), least), kBarsHeight + 3 * option.fontMetrics.lineSpacing() + 2 * kTextSpace};
     }
@@ -105,9 +107,14 @@ public:
             PaintBars(*painter, QRect(place.left(), place.top() + line + kTextSpace, place.width(), kBarsHeight), column, option.palette);
         }
         const int names = place.bottom() + 1 - 2 * line - kTextSpace;
-        PaintText(*painter, option, QRect(place.left(), FigureTop(place, line, column), place.width(), line), column.above, column.isWeek);
-        PaintText(*painter, option, QRect(place.left(), names, place.width(), line), column.name, false);
-        PaintText(*painter, option, QRect(place.left(), names + line, place.width(), line), column.day, false);
+        PaintText(*painter, option, QRect(place.left(), FigureTop(place, line, column), place.width(), line),
+                  QString::fromStdString(column.above), column.isWeek);
+        PaintText(*painter, option, QRect(place.left(), names, place.width(), line), QString::fromStdString(column.name), false);
+        const QRect below(place.left(), names + line, place.width(), line);
+        const QString day = QString::fromStdString(column.day);
+        if (!PaintText(*painter, option, below, day, false)) {
+            PaintText(*painter, option, below, day.section('/', 1), false); // the day of the month alone
+        }
         if (option.state.testFlag(QStyle::State_Selected)) {
             painter->setPen(QPen(option.palette.color(QPalette::Highlight), 2));
             painter->drawRect(place.adjusted(1, 1, -1, -1));
@@ -136,21 +143,18 @@ private:
         PaintPart(painter, QRect(place.left(), floor - Height(kLineMinutes), place.width(), 1), Part::Line, palette);
     }
 
-    // A figure that its column is too narrow for is told in words only.
-    static void PaintText(QPainter& painter, const QStyleOptionViewItem& option, const QRect& place, const std::string& text, bool bold)
+    // What its column is too narrow for is told in words only.
+    static bool PaintText(QPainter& painter, const QStyleOptionViewItem& option, const QRect& place, const QString& text, bool bold)
     {
-        const QString shown = QString::fromStdString(text);
         QFont font = option.font;
         font.setBold(bold);
-        if (QFontMetrics(font).horizontalAdvance(shown) > place.width()) {
-            font = option.font;
-        }
-        if (QFontMetrics(font).horizontalAdvance(shown) > place.width()) {
-            return;
+        if (QFontMetrics(font).horizontalAdvance(text) > place.width()) {
+            return false;
         }
         painter.setFont(font);
         painter.setPen(option.palette.color(QPalette::Text));
-        painter.drawText(place, Qt::AlignCenter, shown);
+        painter.drawText(place, Qt::AlignCenter, text);
+        return true;
     }
 
     const ColumnsModel& m_model;

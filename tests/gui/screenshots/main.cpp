@@ -11,6 +11,7 @@ namespace ptk {
 
 namespace {
 
+constexpr QSize kSmallScreen(1008, 652); // what a screen of 1024 x 700 leaves for a window
 constexpr QSize kLarge(1600, 1000);
 const DateTime kToday(CalendarDate{2003, 3, 5});
 constexpr auto kCareless = "Helen Fitzgerald"; // types wrongly, once or twice
@@ -63,6 +64,8 @@ public:
         Take(window, name + "-default");
         window.resize(1, 1); // as small as the window lets itself be made
         Take(window, name + "-smallest");
+        window.resize(kSmallScreen);
+        Take(window, name + "-1024");
         window.resize(kLarge);
         Take(window, name + "-large");
         window.resize(first);
