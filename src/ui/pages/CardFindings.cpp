@@ -18,9 +18,9 @@ namespace ptk {
 namespace {
 
 constexpr auto kLineDescription = "Shows or hides the sentences of the check";
-constexpr auto kOpenTip = "Show what was found (Alt+F)";
-constexpr auto kCloseTip = "Hide what was found (Alt+F)";
-constexpr auto kLineKeys = "Alt+F";
+constexpr auto kOpenTip = "Show what was found (Alt+L)";
+constexpr auto kCloseTip = "Hide what was found (Alt+L)";
+constexpr auto kLineKeys = "Alt+L";
 constexpr auto kHoursCaption = "Hours per day:";
 
 constexpr auto kHoursKey = "timecards/hours";
