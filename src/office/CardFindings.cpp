@@ -36,22 +36,21 @@ std::string DaysOf(const Punch& punch)
     return IsSet(punch.end) ? Day(*punch.end) : std::string();
 }
 
+// The days come first: the line that says it may be short of room.
 std::string WhereText(const FindingPlace& place, bool cardShown)
 {
     if (place.elsewhere.empty()) {
         return {};
     }
     const std::size_t count = place.elsewhere.size();
-    const bool alone = place.onCard.empty() && count == 1;
+    const char* which = count > 1 ? "The first" : place.onCard.empty() ? "It" : "One";
     const std::string days = DaysOf(*place.elsewhere.front());
-    const std::string on = days.empty() ? "has no day that can be read" : "lies on " + days;
-    if (!cardShown) {
-        return fmt::format("{} {}.", alone ? "This shift" : "The first of these shifts", on);
+    const std::string where =
+        days.empty() ? fmt::format("{} has no day that can be read", which) : fmt::format("{} lies on {}", which, days);
+    if (!cardShown || days.empty()) {
+        return where + '.';
     }
-    if (count == 1) {
-        return fmt::format("{} is not on this card: it {}.", alone ? "This shift" : "One of these shifts", on);
-    }
-    return fmt::format("{} of these shifts are not on this card; the first {}.", count, on);
+    return count > 1 ? fmt::format("{}; {} are not on this card.", where, count) : where + ", not on this card.";
 }
 
 } // namespace

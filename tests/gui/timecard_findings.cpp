@@ -71,7 +71,7 @@ TEST_F(FindingsTest, AreCountedListedAndFoundInTheGridOrElsewhere)
     EXPECT_EQ(Notice(), "");
     Choose(2);
     EXPECT_EQ(ChosenRow(), 2) << "of the overlapping ones the one on the card";
-    EXPECT_EQ(Notice(), "One of these shifts is not on this card: it lies on 03/04/2003 - 03/05/2003.");
+    EXPECT_EQ(Notice(), "One lies on 03/04/2003 - 03/05/2003, not on this card.");
     {
         const ExpectedModal editor([](QDialog& window) {
             EXPECT_EQ(Find<DateTimeBox>(window, "dttbStartTime").text(), "10:00:00 PM");

@@ -86,11 +86,11 @@ TEST(CardFindingsTest, SayOnWhichDaysARecordLiesThatIsNotOnTheCard)
     };
     for (const Case& c : {
              Case{{1, 2}, true, {1, 2}, {}, ""},
-             {{3}, true, {}, {3}, "This shift is not on this card: it lies on 03/14/2026 - 03/15/2026."},
-             {{1, 3}, true, {1}, {3}, "One of these shifts is not on this card: it lies on 03/14/2026 - 03/15/2026."},
-             {{1, 4, 3}, true, {1}, {4, 3}, "2 of these shifts are not on this card; the first lies on 03/20/2026."},
-             {{5}, true, {}, {5}, "This shift is not on this card: it lies on 03/04/2026."},
-             {{1, 2}, false, {}, {1, 2}, "The first of these shifts lies on 03/02/2026."},
+             {{3}, true, {}, {3}, "It lies on 03/14/2026 - 03/15/2026, not on this card."},
+             {{1, 3}, true, {1}, {3}, "One lies on 03/14/2026 - 03/15/2026, not on this card."},
+             {{1, 4, 3}, true, {1}, {4, 3}, "The first lies on 03/20/2026; 2 are not on this card."},
+             {{5}, true, {}, {5}, "It lies on 03/04/2026, not on this card."},
+             {{1, 2}, false, {}, {1, 2}, "The first lies on 03/02/2026."},
              {{}, true, {}, {}, ""},
          }) {
         CheckedTimecard checked = Checked();
@@ -106,8 +106,7 @@ TEST(CardFindingsTest, SayOnWhichDaysARecordLiesThatIsNotOnTheCard)
     }
     CheckedTimecard checked = Checked();
     checked.punches.at(0).end.reset();
-    EXPECT_EQ(PlaceOf(FindingOf(FindingKind::Unreadable, {5}), checked).text,
-              "This shift is not on this card: it has no day that can be read.");
+    EXPECT_EQ(PlaceOf(FindingOf(FindingKind::Unreadable, {5}), checked).text, "It has no day that can be read.");
 }
 
 TEST(CardFindingsTest, MakeARecordToEditOfWhatCanBeRead)

@@ -48,6 +48,7 @@ constexpr qint64 kReadingTime = 30;      // milliseconds without a glance at key
 constexpr int kFindingLines = 3;
 constexpr int kRowSpace = 8;     // pixels around the text of a row
 constexpr int kColumnSpace = 24; // pixels around a heading: margins and the sorting arrow
+constexpr int kCellSpace = 12;
 constexpr int kNameCharacters = 18;
 
 } // namespace
@@ -353,17 +354,21 @@ void OverviewWindow::ShowTotals()
 {
     if (!m_rows->IsEmpty()) {
         m_totals->Show(TotalCells(m_rows->Rows(), m_sorted->OnlyProblems()));
+        FitColumns();
     }
 }
 
-// The names take what the figures leave.
+// The names take what the figures leave. Headings and sums have to fit; no figure is wider than its sum, or hardly.
 void OverviewWindow::FitColumns()
 {
     QTableView* table = m_ui->grdOverview;
+    QFont bold = table->font();
+    bold.setBold(true);
     int figures = 0;
     for (int column = 1; column < m_sorted->columnCount(); ++column) {
         const QString heading = m_sorted->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
-        const int width = table->fontMetrics().horizontalAdvance(heading) + kColumnSpace;
+        const int sum = QFontMetrics(bold).horizontalAdvance(m_totals->index(0, column).data().toString());
+        const int width = std::max(table->fontMetrics().horizontalAdvance(heading) + kColumnSpace, sum + kCellSpace);
         table->setColumnWidth(column, width);
         figures += width;
     }

@@ -125,6 +125,11 @@ void CardDisplay::ShowCheck(const std::shared_ptr<const CheckedTimecard>& checke
     m_ui->findings->Show(checked);
 }
 
+void CardDisplay::OpenFindings()
+{
+    m_ui->findings->OpenList();
+}
+
 void CardDisplay::ShowHours(bool shown)
 {
     m_ui->findings->ShowHours(shown);

@@ -36,6 +36,7 @@ public:
     void ClearFigures();
     void ShowCheck(const std::shared_ptr<const CheckedTimecard>& checked); // marks its rows, too; also of a card that could not be made
 
+    void OpenFindings();        // the list of them
     void ShowHours(bool shown); // as a picture; remembered
     bool HoursShown() const;
 

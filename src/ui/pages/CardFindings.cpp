@@ -22,6 +22,7 @@ constexpr auto kOpenTip = "Show what was found (Alt+L)";
 constexpr auto kCloseTip = "Hide what was found (Alt+L)";
 constexpr auto kLineKeys = "Alt+L";
 constexpr auto kHoursCaption = "Hours per day:";
+constexpr auto kHoursHint = "The hours of a generated card stand here. F9 shows everybody's pay and problems.";
 
 constexpr auto kHoursKey = "timecards/hours";
 constexpr int kListLines = 5;
@@ -45,11 +46,11 @@ CardFindings::CardFindings(QWidget* parent)
     m_line->setObjectName("cmdFindings");
     m_line->setAccessibleDescription(kLineDescription);
     m_line->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    m_line->setShortcut(QKeySequence(kLineKeys));
     m_detail->setObjectName("lblFindings");
     m_list->setObjectName("lstFindings");
     m_list->KeepRoom(kListLines);
     m_chart->setObjectName("lstHours");
+    m_chart->SetHint(kHoursHint);
     m_hours->setVisible(QSettings().value(kHoursKey, true).toBool());
     LayOut();
     connect(m_line, &QToolButton::clicked, this, [this] {
@@ -108,6 +109,7 @@ void CardFindings::ShowLine()
     m_detail->Say(m_checked == nullptr ? QString() : QString::fromStdString(FindingDetailText(*m_checked)));
     if (has) {
         m_line->setText(QString::fromStdString(FindingLineText(*m_checked)));
+        m_line->setShortcut(QKeySequence(kLineKeys)); // which every text takes away
         m_line->setIcon(IconOf(*m_checked->check));
     }
 }
@@ -138,6 +140,12 @@ void CardFindings::SetStrange(bool strange)
 bool CardFindings::HoursShown() const
 {
     return !m_hours->isHidden();
+}
+
+void CardFindings::OpenList()
+{
+    m_open = true;
+    ShowParts();
 }
 
 void CardFindings::ShowHours(bool shown)

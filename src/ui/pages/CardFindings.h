@@ -29,6 +29,7 @@ public:
     void Show(std::shared_ptr<const CheckedTimecard> checked); // nullptr for none
     void SetStrange(bool strange);                             // greys the hours
 
+    void OpenList(); // as the line does
     void ShowHours(bool shown);
     bool HoursShown() const;
 

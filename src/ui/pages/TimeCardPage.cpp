@@ -169,6 +169,7 @@ std::optional<PayPeriod> TimeCardPage::ChosenPeriod() const
 
 void TimeCardPage::ShowCard(std::int32_t employeeID, const PayPeriod& period)
 {
+    m_ui->display->OpenFindings();
     m_choice->Period(period);
     m_choice->Employee(employeeID);
     ChooseEmployee();

@@ -46,7 +46,7 @@ public:
     void EnablePrint();
     PeriodTexts Period() const;                                      // as the boxes show it
     std::optional<PayPeriod> ChosenPeriod() const;                   // nothing while a box holds no date
-    void ShowCard(std::int32_t employeeID, const PayPeriod& period); // chooses and generates it
+    void ShowCard(std::int32_t employeeID, const PayPeriod& period); // chooses and generates it, with the list of what was found
     void CheckAgain();                                               // the card that is shown, by limits that have changed
     void ShowHours(bool shown);                                      // the hours per day below the grid; remembered
     bool HoursShown() const;

@@ -12,6 +12,7 @@ namespace {
 
 constexpr auto kName = "Findings";
 constexpr int kRowSpace = 4; // pixels above and below a sentence
+constexpr std::size_t kMostBroken = 200;
 
 } // namespace
 
@@ -38,6 +39,7 @@ QVariant FindingModel::data(const QModelIndex& index, int role) const
     switch (role) {
     case Qt::DisplayRole:
         return QString::fromStdString(finding.text);
+    case Qt::ToolTipRole:
     case Qt::AccessibleTextRole:
         return QString::fromStdString(SpokenText(finding));
     case Qt::DecorationRole:
@@ -67,6 +69,9 @@ FindingList::FindingList(QWidget* parent) : QListView(parent), m_findings(new Fi
 
 void FindingList::Show(std::vector<Finding> findings)
 {
+    const bool few = findings.size() <= kMostBroken;
+    setWordWrap(few);
+    setUniformItemSizes(!few);
     m_findings->SetFindings(std::move(findings));
 }
 

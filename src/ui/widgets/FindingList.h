@@ -26,8 +26,8 @@ private:
     std::vector<Finding> m_findings;
 };
 
-// Ten thousand of them open at once. What does not fit into a line is broken; an icon and, for a screen reader, a word tell problems from
-// notices.
+// An icon and, in tool tips and for a screen reader, a word tell problems from notices. What does not fit into a line is broken, or, where
+// there are hundreds, ends in dots: ten thousand of them open at once.
 class FindingList final : public QListView
 {
     Q_OBJECT

@@ -185,6 +185,16 @@ void HoursChart::Show(std::vector<HoursColumn> columns)
     static_cast<ColumnsModel*>(model())->SetColumns(std::move(columns));
 }
 
+void HoursChart::paintEvent(QPaintEvent* event)
+{
+    QListView::paintEvent(event);
+    if (model()->rowCount() == 0) {
+        QPainter painter(viewport());
+        painter.setPen(palette().color(QPalette::PlaceholderText));
+        painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap, m_hint);
+    }
+}
+
 void HoursChart::FitHeight()
 {
     const int column = kBarsHeight + 3 * fontMetrics().lineSpacing() + 2 * kTextSpace;

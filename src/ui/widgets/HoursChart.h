@@ -20,13 +20,17 @@ public:
     explicit HoursChart(QWidget* parent = nullptr);
 
     void Show(std::vector<HoursColumn> columns);
+    void SetHint(const QString& text) { m_hint = text; } // shown while there are no columns
 
 protected:
+    void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:
     void FitHeight();
+
+    QString m_hint;
 };
 
 // What the bars stand for.
