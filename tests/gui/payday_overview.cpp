@@ -112,6 +112,8 @@ TEST_F(OverviewWindowTest, OpensTheCardOfTheVeryEmployeeAndReadsAgain)
     EXPECT_EQ(The<QTableView>("grdTimeRecs").model()->rowCount(), 2) << "the second of the namesakes";
     EXPECT_EQ(Text("txtTCPeriodPay"), "10.00");
     EXPECT_EQ(The<QLabel>("lblTCStrange").text(), "");
+    Press("cmdTCPrint");
+    EXPECT_EQ(Text("txtTCPeriodPay"), "10.00") << "printed is what is shown";
     The<QTableView>("grdTimeRecs").selectRow(1);
     program.desktop.answers = {Answer::Yes};
     Press("cmdTCDelete");

@@ -145,6 +145,11 @@ bool CardDisplay::ShowsCard() const
     return m_records->rowCount() > 0;
 }
 
+bool CardDisplay::ShowsFindings() const
+{
+    return m_ui->findings->IsShown();
+}
+
 void CardDisplay::SetStrange(bool strange)
 {
     m_records->SetFaded(strange);

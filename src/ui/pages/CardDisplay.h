@@ -40,7 +40,8 @@ public:
     void ShowHours(bool shown); // as a picture; remembered
     bool HoursShown() const;
 
-    bool ShowsCard() const;        // rows are shown, as every generated card has some
+    bool ShowsCard() const; // rows are shown, as every generated card has some
+    bool ShowsFindings() const;
     void SetStrange(bool strange); // grey: a card that is not the one named above it
     void SetHint(const QString& text);
 

@@ -27,7 +27,8 @@ public:
     explicit CardFindings(QWidget* parent = nullptr);
 
     void Show(std::shared_ptr<const CheckedTimecard> checked); // nullptr for none
-    void SetStrange(bool strange);                             // greys the hours
+    bool IsShown() const { return m_checked != nullptr; }
+    void SetStrange(bool strange); // greys the hours
 
     void OpenList(); // as the line does
     void ShowHours(bool shown);

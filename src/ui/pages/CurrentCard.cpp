@@ -42,18 +42,6 @@ void CurrentCard::Mark()
 // After a run-time failure nothing is shown: the rows would be those of a card that is no longer the current one.
 bool CurrentCard::RefreshTimeCard()
 {
-    m_namesake = 0;
-    return Refresh();
-}
-
-bool CurrentCard::RefreshFor(std::int32_t employeeID)
-{
-    m_namesake = employeeID;
-    return Refresh();
-}
-
-bool CurrentCard::Refresh()
-{
     m_line.Clear();
     const auto refresh = [this] {
         if (m_choice.EmployeeText().empty()) {
@@ -70,13 +58,11 @@ bool CurrentCard::Refresh()
     return false;
 }
 
-// After a save, too, a namesake's card is read again as long as the box holds the name.
 std::shared_ptr<CEmployee> CurrentCard::EmployeeToShow() const
 {
     const auto list = Required(Required(m_host.Controller())->EmployeeList());
-    const auto namesake = m_namesake == 0 ? nullptr : list->GetEmployeeByID(m_namesake);
-    const std::string name = m_choice.EmployeeText();
-    return namesake != nullptr && namesake->DisplayName() == name ? namesake : list->GetEmployeeByName(name);
+    const bool meant = m_meant && m_meant == m_choice.EmployeeID();
+    return meant ? list->GetEmployeeByID(*m_meant) : list->GetEmployeeByName(m_choice.EmployeeText());
 }
 
 bool CurrentCard::GenerateTimeCard()
@@ -143,7 +129,7 @@ void CurrentCard::RegenerateAfterSave()
 bool CurrentCard::ReadAgain()
 {
     const auto card = Required(m_host.TimeCard());
-    if (!m_display.ShowsCard()) {
+    if (!m_display.ShowsCard() && !m_display.ShowsFindings()) {
         return true;
     }
     if (Load(*card, card->Employee(), {card->StartDate(), card->EndDate().AddDays(-1)})) {
@@ -153,6 +139,8 @@ bool CurrentCard::ReadAgain()
     const bool noneLeft = UnreadText(*card).empty();
     if (noneLeft) {
         ClearTimeCardDisplay();
+    }
+    if (!m_display.ShowsCard()) {
         ShowFindings();
     }
     return noneLeft;

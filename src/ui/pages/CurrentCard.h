@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <QObject>
 #include <string>
 
@@ -40,7 +41,6 @@ public:
     CurrentCard(PageHost& host, const Place& place, QObject* parent);
 
     bool RefreshTimeCard();                    // generates and shows it; false for any run-time failure
-    bool RefreshFor(std::int32_t employeeID);  // the same for one of several namesakes
     void RegenerateAfterSave();                // the same, with a box for that failure, and with nothing in the line when it is shown
     bool ReadAgain();                          // without a box; where that fails, false, what is shown stays. May raise failures.
     void CheckAgain();                         // with the limits that the options hold now
@@ -52,12 +52,14 @@ public:
     void ForgetChosenRecord();
     void Complain(const std::string& line); // into the page's line and the session log; nothing for an empty text
 
+    // Of several of one name, the card is to be of this one as long as the box holds its row; nothing: of the first of the name.
+    void Mean(std::optional<std::int32_t> employeeID) { m_meant = employeeID; }
+
 signals:
     void Rebuilt(); // the grid, with or without a card in it
 
 private:
     void Mark();
-    bool Refresh();
     std::shared_ptr<CEmployee> EmployeeToShow() const;
     bool GenerateTimeCard();
     bool Load(CTimeCard& card, const std::shared_ptr<CEmployee>& employee, const PayPeriod& period);
@@ -72,7 +74,7 @@ private:
     HintLabel& m_mark;
     CardDisplay& m_display;
     NoticeLine& m_line;
-    std::int32_t m_namesake = 0;                      // whose card it is where the name alone would find another; 0 for whom the name finds
+    std::optional<std::int32_t> m_meant;
     std::shared_ptr<const CheckedTimecard> m_checked; // the current card as it was last loaded; nullptr before
 };
 

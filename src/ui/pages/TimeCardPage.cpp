@@ -123,6 +123,7 @@ void TimeCardPage::SelectFirstEmployee()
 void TimeCardPage::ChooseEmployee()
 {
     m_host.EventSource(eventsource::Name);
+    m_card->Mean({});
     if (!m_choice->EmployeeText().empty()) {
         m_employeeName = m_choice->EmployeeText();
         ShowStatus();
@@ -173,9 +174,8 @@ void TimeCardPage::ShowCard(std::int32_t employeeID, const PayPeriod& period)
     m_choice->Period(period);
     m_choice->Employee(employeeID);
     ChooseEmployee();
-    if (!m_card->RefreshFor(employeeID)) {
-        Tell(m_host.Desktop(), kNotGenerated);
-    }
+    m_card->Mean(employeeID);
+    Generate();
     m_ui->display->setFocus();
 }
 
