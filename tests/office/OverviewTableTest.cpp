@@ -71,9 +71,8 @@ TEST(OverviewTableTest, SortsByWhatACellMeans)
 TEST(OverviewTableTest, SumsAndCopiesWhatIsShown)
 {
     std::vector<OverviewRow> rows = Rows();
-    EXPECT_EQ(TabSeparated({TotalCells(rows, false), TotalCells(rows, true)}),
-              "Total (4)\t88.50\t11.00\t1090.50\t\t5\t5\t1\n"
-              "Total (3 of 4)\t89.00\t1.00\t1090.50\t\t5\t2\t1\n");
+    EXPECT_EQ(TabSeparated({TotalCells(rows, false), TotalCells(rows, true)}), "Total (4)\t88.50\t11.00\t1090.50\t\t5\t5\t1\n"
+                                                                               "Total (3 of 4)\t89.00\t1.00\t1090.50\t\t5\t2\t1\n");
     rows = {Row({"=A\tB\n", CardFigures{"-0.50", "0.00", "0.00"}, 0, 0, 0, true}), Row({"C", std::nullopt, 1})};
     EXPECT_EQ(TabSeparated({OverviewHeading(), CellsOf(rows.at(0)), CellsOf(rows.at(1))}),
               "Name\tRegular\tOvertime\tGross Pay\tLongest Week\tProblems\tNotices\tClocked In\n"

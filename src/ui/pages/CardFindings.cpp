@@ -41,7 +41,7 @@ QIcon IconOf(const CardCheck& check)
 
 CardFindings::CardFindings(QWidget* parent)
     : QWidget(parent), m_line(new QToolButton(this)), m_detail(new HintLabel(this)), m_list(new FindingList(this)),
-      m_hours(new QWidget(this)), m_chart(new HoursChart(m_hours))
+      m_legend(new QWidget(this)), m_chart(new HoursChart(this))
 {
     m_line->setObjectName("cmdFindings");
     m_line->setAccessibleDescription(kLineDescription);
@@ -51,7 +51,9 @@ CardFindings::CardFindings(QWidget* parent)
     m_list->KeepRoom(kListLines);
     m_chart->setObjectName("lstHours");
     m_chart->SetHint(kHoursHint);
-    m_hours->setVisible(QSettings().value(kHoursKey, true).toBool());
+    const bool hours = QSettings().value(kHoursKey, true).toBool();
+    m_legend->setVisible(hours);
+    m_chart->setVisible(hours);
     LayOut();
     connect(m_line, &QToolButton::clicked, this, [this] {
         m_open = m_line->isChecked();
@@ -62,30 +64,29 @@ CardFindings::CardFindings(QWidget* parent)
     Show(nullptr);
 }
 
+// Line and legend, list and hours stand side by side where there is room.
 void CardFindings::LayOut()
 {
     auto* line = new QHBoxLayout;
     line->addWidget(m_line);
     line->addWidget(m_detail, 1);
-    auto* legend = new QHBoxLayout;
+    auto* legend = new QHBoxLayout(m_legend);
+    legend->setContentsMargins(0, 0, 0, 0);
     legend->addWidget(new QLabel(kHoursCaption));
     legend->addWidget(new HoursLegend);
-    legend->addStretch();
-    auto* hours = new QVBoxLayout(m_hours);
-    hours->setContentsMargins(0, 0, 0, 0);
-    hours->setSpacing(kSpace);
-    hours->addLayout(legend);
-    hours->addWidget(m_chart);
-    for (QWidget* part : {static_cast<QWidget*>(m_list), m_hours}) {
+    auto* top = new FoldingRow;
+    top->addLayout(line, 1);
+    top->addWidget(m_legend);
+    for (QWidget* part : {static_cast<QWidget*>(m_list), static_cast<QWidget*>(m_chart)}) {
         part->setMinimumWidth(kLeastWidth);
     }
     auto* parts = new FoldingRow;
     parts->addWidget(m_list, 1);
-    parts->addWidget(m_hours, 1);
+    parts->addWidget(m_chart, 1);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(kSpace);
-    column->addLayout(line);
+    column->addLayout(top);
     column->addLayout(parts);
     QSizePolicy keepsPlace = m_line->sizePolicy();
     keepsPlace.setRetainSizeWhenHidden(true);
@@ -139,7 +140,7 @@ void CardFindings::SetStrange(bool strange)
 
 bool CardFindings::HoursShown() const
 {
-    return !m_hours->isHidden();
+    return !m_chart->isHidden();
 }
 
 void CardFindings::OpenList()
@@ -150,7 +151,8 @@ void CardFindings::OpenList()
 
 void CardFindings::ShowHours(bool shown)
 {
-    m_hours->setVisible(shown);
+    m_legend->setVisible(shown);
+    m_chart->setVisible(shown);
     QSettings().setValue(kHoursKey, shown);
     ShowColumns();
 }

@@ -54,7 +54,7 @@ private:
     QToolButton* m_line; // all of these belong to the widget
     HintLabel* m_detail;
     FindingList* m_list;
-    QWidget* m_hours;
+    QWidget* m_legend;
     HoursChart* m_chart;
     std::shared_ptr<const CheckedTimecard> m_checked;
     bool m_open = false;

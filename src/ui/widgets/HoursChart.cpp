@@ -18,8 +18,9 @@ constexpr std::array<const char*, 3> kLegend{"Regular", "Overtime", "8 hours"};
 
 constexpr std::int64_t kLineMinutes = 480;
 constexpr std::int64_t kLeastTop = 600; // minutes up to which the scale reaches at least
-constexpr int kBarsHeight = 56;         // pixels
-constexpr int kBarSpace = 4;            // beside a bar
+constexpr auto kWideWeek = "100.00";
+constexpr int kBarsHeight = 48; // pixels
+constexpr int kBarSpace = 4;    // beside a bar
 constexpr int kTextSpace = 2;
 constexpr int kLeastColumn = 26;
 constexpr int kMostColumn = 64;
@@ -59,7 +60,9 @@ public:
         beginResetModel();
         m_columns = std::move(columns);
         m_top = kLeastTop;
+        m_weeks = 0;
         for (const HoursColumn& column : m_columns) {
+            m_weeks += column.isWeek ? 1 : 0;
             m_top = std::max(m_top, column.regular + column.overtime);
         }
         endResetModel();
@@ -67,6 +70,7 @@ public:
 
     const HoursColumn& Column(int row) const { return m_columns.at(static_cast<std::size_t>(row)); }
     std::int64_t Top() const { return m_top; } // minutes of a bar of full height
+    int Weeks() const { return m_weeks; }
 
     int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : static_cast<int>(m_columns.size()); }
 
@@ -79,6 +83,7 @@ public:
 private:
     std::vector<HoursColumn> m_columns;
     std::int64_t m_top = kLeastTop;
+    int m_weeks = 0;
 };
 
 class ColumnPainter final : public QStyledItemDelegate
@@ -88,13 +93,30 @@ public:
 
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
-        const int share = m_view.viewport()->width() / std::max(m_model.rowCount(), 1);
-        QFont bold = option.font;
-        bold.setBold(true);
-        const int figure = QFontMetrics(bold).horizontalAdvance(QString::fromStdString(m_model.Column(index.row()).above));
-        const int least = m_model.Column(index.row()).isWeek ? std::max(figure + kBarSpace, kLeastColumn) : kLeastColumn;
-        return {std::max(std::min(share, kMostColumn), least), kBarsHeight + 3 * option.fontMetrics.lineSpacing() + 2 * kTextSpace};
+        return {ColumnWidth(option.font, m_model.Column(index.row()).isWeek), ColumnHeight(option.fontMetrics)};
     }
+
+    // The weeks keep room for their figures; the days share the rest.
+    int ColumnWidth(const QFont& font, bool isWeek) const
+    {
+        const int room = m_view.width() - 2 * m_view.frameWidth();
+        const int share = room / std::max(m_model.rowCount(), 1);
+        const int week = WeekWidth(font);
+        if (share >= week) {
+            return std::min(share, kMostColumn);
+        }
+        const int days = std::max(m_model.rowCount() - m_model.Weeks(), 1);
+        return isWeek ? week : std::max((room - m_model.Weeks() * week) / days, kLeastColumn);
+    }
+
+    bool NeedsScrolling(const QFont& font) const
+    {
+        const int weeks = m_model.Weeks();
+        const int width = weeks * ColumnWidth(font, true) + (m_model.rowCount() - weeks) * ColumnWidth(font, false);
+        return width > m_view.width() - 2 * m_view.frameWidth();
+    }
+
+    static int ColumnHeight(const QFontMetrics& metrics) { return kBarsHeight + 3 * metrics.lineSpacing() + 2 * kTextSpace; }
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
@@ -122,6 +144,12 @@ public:
     }
 
 private:
+    static int WeekWidth(QFont font)
+    {
+        font.setBold(true);
+        return QFontMetrics(font).horizontalAdvance(kWideWeek) + kBarSpace;
+    }
+
     int Height(std::int64_t minutes) const { return static_cast<int>(minutes * kBarsHeight / m_model.Top()); }
 
     // Above the bar, or in the middle of a week's column.
@@ -183,6 +211,7 @@ HoursChart::HoursChart(QWidget* parent) : QListView(parent)
 void HoursChart::Show(std::vector<HoursColumn> columns)
 {
     static_cast<ColumnsModel*>(model())->SetColumns(std::move(columns));
+    FitHeight();
 }
 
 void HoursChart::paintEvent(QPaintEvent* event)
@@ -197,14 +226,16 @@ void HoursChart::paintEvent(QPaintEvent* event)
 
 void HoursChart::FitHeight()
 {
-    const int column = kBarsHeight + 3 * fontMetrics().lineSpacing() + 2 * kTextSpace;
-    setFixedHeight(column + 2 * frameWidth() + horizontalScrollBar()->sizeHint().height());
+    const bool scrolls = static_cast<const ColumnPainter*>(itemDelegate())->NeedsScrolling(font());
+    setFixedHeight(ColumnPainter::ColumnHeight(fontMetrics()) + 2 * frameWidth() +
+                   (scrolls ? horizontalScrollBar()->sizeHint().height() : 0));
 }
 
 void HoursChart::resizeEvent(QResizeEvent* event)
 {
     scheduleDelayedItemsLayout();
     QListView::resizeEvent(event);
+    FitHeight();
 }
 
 void HoursChart::changeEvent(QEvent* event)
