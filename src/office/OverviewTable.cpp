@@ -123,6 +123,9 @@ std::string OverviewNews(const Overview& overview, std::size_t offered)
     const std::int64_t problems = ProblemCount(overview.rows);
     const std::string made = FormatDateTime(overview.made, kMoment);
     const char* have = problems == 1 ? "has" : "have";
+    if (offered == 0) {
+        return fmt::format("Read {}: there are no employees to show.", made);
+    }
     if (read < offered) {
         return fmt::format("Stopped after {} of {} employees, read {}: {} of them {} problems.", read, offered, made, problems, have);
     }

@@ -85,6 +85,7 @@ TEST(OverviewTableTest, SaysWhenItWasReadAndHowMuch)
     Overview overview{{}, ToDateTime("3/15/2026 8:05"), {}, Rows()};
     EXPECT_EQ(OverviewNews(overview, 4), "Read 03/15/2026 08:05 AM: 3 of 4 employees have problems.");
     EXPECT_EQ(OverviewNews(overview, 9), "Stopped after 4 of 9 employees, read 03/15/2026 08:05 AM: 3 of them have problems.");
+    EXPECT_EQ(OverviewNews({{}, overview.made, {}, {}}, 0), "Read 03/15/2026 08:05 AM: there are no employees to show.");
     overview.rows.erase(overview.rows.begin() + 1, overview.rows.end());
     EXPECT_EQ(OverviewNews(overview, 1), "Read 03/15/2026 08:05 AM: 1 of 1 employee has problems.");
 }

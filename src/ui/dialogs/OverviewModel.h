@@ -25,7 +25,7 @@ public:
     const OverviewReading& Shown() const { return *m_reading; } // REQUIRES: a reading was shown, here and in the next two
     const std::vector<OverviewRow>& Rows() const;
     const OverviewRow& Row(int row) const { return Rows().at(static_cast<std::size_t>(row)); }
-    bool IsEmpty() const { return m_shown == 0; }
+    bool HasReading() const { return m_reading != nullptr; }
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;

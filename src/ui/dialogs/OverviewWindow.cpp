@@ -308,7 +308,7 @@ void OverviewWindow::ShowProgress()
 // Of the rows that are shown, which are an earlier reading's where the last one failed at once.
 void OverviewWindow::ShowRead()
 {
-    if (m_rows->IsEmpty()) {
+    if (!m_rows->HasReading()) {
         return m_ui->lblOverview->setText(QString());
     }
     m_ui->lblOverview->setText(QString::fromStdString(OverviewNews(m_rows->Shown().Result(), m_rows->Shown().Offered())));
@@ -340,6 +340,10 @@ void OverviewWindow::KeepChoice(const std::optional<std::int32_t>& employeeID)
 void OverviewWindow::ShowFindings()
 {
     const OverviewRow* row = ShownRow();
+    if (row == m_told && row != nullptr) {
+        return; // nobody reading them is disturbed by what is read meanwhile
+    }
+    m_told = row;
     m_ui->cmdOpenCard->setEnabled(row != nullptr);
     if (row == nullptr) {
         m_ui->lblOverviewFindings->setText(QString());
@@ -352,7 +356,7 @@ void OverviewWindow::ShowFindings()
 
 void OverviewWindow::ShowTotals()
 {
-    if (!m_rows->IsEmpty()) {
+    if (m_rows->HasReading()) {
         m_totals->Show(TotalCells(m_rows->Rows(), m_sorted->OnlyProblems()));
         FitColumns();
     }
