@@ -115,7 +115,7 @@ void ReportWriter::WriteOne(const Subject&... subject)
     const bool complete = report->GenerateReport(subject...);
     // A line lost on a full disk leaves the answer true, but a scheduled job must hear of it.
     if (!complete || report->ErrorNumber() != 0) {
-        const bool unopened = report->ErrorNumber() == report::FileNotOpened;
+        const bool unopened = report->ErrorNumber() == report::NotOpen;
         m_transcript.Complain(ProgramFailure(report->ErrorNumber(), report->ReportName(),
                                              unopened ? NativePath(report->ReportPath()).string() : report->Missing()));
         m_status = status::Failed;

@@ -62,7 +62,7 @@ bool CTimeRecordFactory::BuildList(std::int32_t theemployeeid, DateTime thestart
         if (m_database != nullptr) {
             m_database->CloseDB();
         }
-        return Fail(recordfactory::BuildFailed);
+        return Fail(recordfactory::CreateFailed);
     }
 }
 

@@ -62,7 +62,7 @@ std::int32_t CTimeRecordListSorter::FirstPosition(Predicate matches)
             }
         }
     } catch (...) {
-        m_errorNumber = recordsorter::FindFailed;
+        m_errorNumber = recordsorter::ReadFailed;
     }
     return kNotFound;
 }

@@ -1,6 +1,7 @@
 // One text file, read item by item or written line by line, with error numbers instead of raised failures.
 #pragma once
 
+#include "platform/ErrorNumbers.h"
 #include "platform/LineFile.h"
 #include "platform/Value.h"
 
@@ -10,13 +11,6 @@
 namespace ptk {
 
 class Clock;
-
-// Error numbers of CFile; any other is the platform's own failure number.
-namespace fileerror {
-inline constexpr std::int32_t NotOpen = 503;   // or no file number was free
-inline constexpr std::int32_t WriteOnly = 504; // read attempted in mode 1 or 2
-inline constexpr std::int32_t ReadOnly = 505;  // write attempted in mode 0
-} // namespace fileerror
 
 // Modes: 0 reads an existing file, 1 creates or truncates for writing, 2 writes on at the end (created if missing). Each written line lands
 // at what is then the end of the file. What is no regular file is not opened (75); what is created is for its owner only.

@@ -1,5 +1,6 @@
 #include "store/CTimeRecSQLConverter.h"
 
+#include "platform/ErrorNumbers.h"
 #include "platform/Text.h"
 
 #include <fmt/format.h>
@@ -8,11 +9,6 @@
 namespace ptk {
 
 namespace {
-
-constexpr std::int32_t kInsertFailed = 810;
-constexpr std::int32_t kUpdateFailed = 811;
-constexpr std::int32_t kDeleteFailed = 812;
-constexpr std::int32_t kFetchFailed = 813;
 
 // Appends to `sql`, so that what is there when a failure comes stays there.
 template <typename... Values>
@@ -64,13 +60,13 @@ std::string CTimeRecSQLConverter::ToSQL(const TimeRecordRow* thetimerecord)
     m_sqlstring.clear();
     switch (thetimerecord->ObjectState) {
     case state::New:
-        Build(BuildInsertSQL, *thetimerecord, kInsertFailed);
+        Build(BuildInsertSQL, *thetimerecord, sqlerror::InsertFailed);
         break;
     case state::Changed:
-        Build(BuildUpdateSQL, *thetimerecord, kUpdateFailed);
+        Build(BuildUpdateSQL, *thetimerecord, sqlerror::UpdateFailed);
         break;
     case state::Deleted:
-        Build(BuildDeleteSQL, *thetimerecord, kDeleteFailed);
+        Build(BuildDeleteSQL, *thetimerecord, sqlerror::DeleteFailed);
         break;
     default:
         break;
@@ -98,7 +94,7 @@ std::string CTimeRecSQLConverter::BuildFetchSQL(std::int32_t theemployeeid, Date
         Append(sql, "And (TimeRecord.EndTime <= #{}#))) ", GeneralText(theendtime));
         sql += "ORDER BY TimeRecord.StartTime, TimeRecord.EndTime;";
     } catch (...) {
-        m_errorNumber = kFetchFailed;
+        m_errorNumber = sqlerror::FetchFailed;
     }
     return sql;
 }

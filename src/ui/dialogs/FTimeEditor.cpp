@@ -3,6 +3,7 @@
 #include "model/CTimeRecord.h"
 #include "platform/Clock.h"
 #include "platform/Desktop.h"
+#include "platform/ErrorNumbers.h"
 #include "platform/Succeeds.h"
 #include "platform/Text.h"
 #include "ui/dialogs/TimeRecordReceiver.h"
@@ -14,8 +15,6 @@ namespace {
 
 constexpr auto kFormatTitle = "Date Format Error";
 constexpr auto kFormatText = "Error: Invalid date separator. Use : to separate time values.";
-
-constexpr std::int32_t kRecordRejected = 608;
 constexpr int kWarningLines = 2;
 
 void ShowDay(DateTimeBox& box, DateTime moment, DateTime today)
@@ -207,7 +206,7 @@ void FTimeEditor::Save()
 {
     ReadTimeRecord();
     if (m_parentWindow == nullptr || !m_parentWindow->ReturnTimeRecord(m_timeRecord)) {
-        m_saveErrorNumber = kRecordRejected;
+        m_saveErrorNumber = timecard::RecordRejected;
     }
     accept();
 }
