@@ -46,7 +46,8 @@ public:
 
 private:
     void RenewList();
-    void Load(std::int32_t theemployeeid, DateTime thestarttime, DateTime theendtime);
+    // False for a period without records; true, with an empty list, also where the database could not be read, deliberately.
+    bool Load(std::int32_t theemployeeid, DateTime thestarttime, DateTime theendtime);
     void InsertRows(RecordSet& rows);
     void TakeAnswer(bool stored);
     bool Fail(std::int32_t errorNumber); // always false

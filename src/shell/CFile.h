@@ -10,6 +10,7 @@
 
 namespace ptk {
 
+class Failure;
 class Clock;
 
 // Modes: 0 reads an existing file, 1 creates or truncates for writing, 2 writes on at the end (created if missing). Each written line lands
@@ -57,7 +58,7 @@ private:
     bool ReadyToRead();
     bool ReadyToWrite();
     bool Refuse(std::int32_t errorNumber, const char* description); // always false
-    bool Fail(const char* opening);                                 // of the failure being handled; always false
+    void Fail(const char* opening, const Failure& failure);
 
     const Clock& m_clock;
     std::string m_fileName = "C:\\default.txt";

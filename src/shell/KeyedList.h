@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/ErrorNumbers.h"
+#include "platform/Succeeds.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -110,13 +111,7 @@ protected:
     template <typename Operation>
     bool Guarded(std::int32_t errorNumber, Operation operation)
     {
-        try {
-            operation();
-            return true;
-        } catch (...) {
-            m_errorNumber = errorNumber;
-            return false;
-        }
+        return SucceedsOr(errorNumber, m_errorNumber, operation);
     }
 
 private:

@@ -1,6 +1,7 @@
 #include "store/CTimeRecSQLConverter.h"
 
 #include "platform/ErrorNumbers.h"
+#include "platform/Succeeds.h"
 #include "platform/Text.h"
 
 #include <fmt/format.h>
@@ -76,26 +77,20 @@ std::string CTimeRecSQLConverter::ToSQL(const TimeRecordRow* thetimerecord)
 
 void CTimeRecSQLConverter::Build(Builder builder, const TimeRecordRow& record, std::int32_t errorNumber)
 {
-    try {
-        builder(m_sqlstring, record);
-    } catch (...) {
-        m_errorNumber = errorNumber;
-    }
+    SucceedsOr(errorNumber, m_errorNumber, [&] { builder(m_sqlstring, record); });
 }
 
 std::string CTimeRecSQLConverter::BuildFetchSQL(std::int32_t theemployeeid, DateTime thestarttime, DateTime theendtime)
 {
     std::string sql;
-    try {
+    SucceedsOr(sqlerror::FetchFailed, m_errorNumber, [&] {
         sql = "SELECT TimeRecord.TimeRecordID, TimeRecord.EmployeeID, TimeRecord.StartTime, TimeRecord.EndTime "
               "From TimeRecord ";
         Append(sql, "Where ((TimeRecord.EmployeeID = {}) ", theemployeeid);
         Append(sql, "And ((TimeRecord.StartTime >= #{}#) ", GeneralText(thestarttime));
         Append(sql, "And (TimeRecord.EndTime <= #{}#))) ", GeneralText(theendtime));
         sql += "ORDER BY TimeRecord.StartTime, TimeRecord.EndTime;";
-    } catch (...) {
-        m_errorNumber = sqlerror::FetchFailed;
-    }
+    });
     return sql;
 }
 
