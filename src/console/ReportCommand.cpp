@@ -60,6 +60,7 @@ private:
 ReportWriter::ReportWriter(const ReportArguments& arguments, Console& console)
     : m_arguments(arguments), m_console(console), m_session(console.programFolder), m_desktop(console.err), m_viewers(m_transcript)
 {
+    m_session.LoadEmployees();
     for (const std::string& name : arguments.employees) {
         if (m_session.Employees()->GetEmployeeByName(name) == nullptr) {
             throw ProgramFailure(report::NoEmployee, name);
