@@ -48,6 +48,7 @@ int OverviewCommand(const OverviewArguments& arguments, Console& console)
         return RefuseUsage(console.err, "--from is after --to");
     }
     Session session(console.programFolder);
+    session.LoadEmployees();
     Overview overview;
     overview.period = {from, arguments.to ? *arguments.to : PeriodEnd(from, session.PeriodLength())};
     overview.made = made;

@@ -60,6 +60,7 @@ private:
 ReportWriter::ReportWriter(const ReportArguments& arguments, Console& console)
     : m_arguments(arguments), m_console(console), m_session(console.programFolder), m_desktop(console.err), m_viewers(m_transcript)
 {
+    m_session.LoadEmployees();
     for (const std::string& name : arguments.employees) {
         if (m_session.Employees()->GetEmployeeByName(name) == nullptr) {
             throw ProgramFailure(report::NoEmployee, name);
@@ -115,7 +116,7 @@ void ReportWriter::WriteOne(const Subject&... subject)
     const bool complete = report->GenerateReport(subject...);
     // A line lost on a full disk leaves the answer true, but a scheduled job must hear of it.
     if (!complete || report->ErrorNumber() != 0) {
-        const bool unopened = report->ErrorNumber() == report::FileNotOpened;
+        const bool unopened = report->ErrorNumber() == report::NotOpen;
         m_transcript.Complain(ProgramFailure(report->ErrorNumber(), report->ReportName(),
                                              unopened ? NativePath(report->ReportPath()).string() : report->Missing()));
         m_status = status::Failed;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "model/Entity.h"
+#include "platform/ErrorNumbers.h"
 #include "store/Rows.h"
 
 #include <cstdint>
@@ -12,11 +13,6 @@
 namespace ptk {
 
 class CJetDB;
-
-namespace company {
-inline constexpr std::int32_t SaveFailed = 321; // nothing to save in this state; deliberately not the employees' number
-inline constexpr std::int32_t TextFailed = 806; // the text form failed
-} // namespace company
 
 // Setters store the value as it is; the fields' meanings stand at CompanyRow.
 class CCompany : public Entity

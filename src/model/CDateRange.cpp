@@ -1,5 +1,6 @@
 #include "model/CDateRange.h"
 
+#include "platform/Succeeds.h"
 #include "platform/Text.h"
 
 namespace ptk {
@@ -25,12 +26,8 @@ bool CDateRange::ValidateRange(const Value& thestart, const Value& theend)
 {
     m_validRange = false;
     m_errorNumber = 0;
-    try {
-        const DateTime start = thestart.ToDateTime();
-        const DateTime end = theend.ToDateTime();
-        SetRange(start, end);
-    } catch (...) {
-        return Fail(daterange::NotConvertible);
+    if (!SucceedsOr(daterange::NotConvertible, m_errorNumber, [&] { SetRange(thestart.ToDateTime(), theend.ToDateTime()); })) {
+        return false;
     }
     if (!WithinLimits(m_startDate) || !WithinLimits(m_endDate)) {
         m_errorNumber = daterange::OutOfLimits;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/DateTime.h"
+#include "platform/ErrorNumbers.h"
 #include "platform/Value.h"
 
 #include <cstdint>
@@ -10,14 +11,6 @@
 #include <utility>
 
 namespace ptk {
-
-namespace daterange {
-inline constexpr std::int32_t NotADate = 801;
-inline constexpr std::int32_t EndBeforeStart = 802;
-inline constexpr std::int32_t OutOfLimits = 803;
-inline constexpr std::int32_t NeverValidated = 804;
-inline constexpr std::int32_t NotConvertible = 899;
-} // namespace daterange
 
 // Both ends and both limits are inclusive and compared with their times of day.
 class CDateRange

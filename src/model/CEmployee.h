@@ -3,6 +3,7 @@
 
 #include "model/Entity.h"
 #include "platform/DateTime.h"
+#include "platform/ErrorNumbers.h"
 #include "store/Rows.h"
 
 #include <cstdint>
@@ -14,11 +15,6 @@
 namespace ptk {
 
 class CJetDB;
-
-namespace employee {
-inline constexpr std::int32_t SaveFailed = 803; // nothing to save in this state
-inline constexpr std::int32_t TextFailed = 806; // a text form failed
-} // namespace employee
 
 // Setters store the value as it is; units and meanings of the fields stand at EmployeeRow.
 class CEmployee : public Entity

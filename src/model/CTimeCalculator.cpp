@@ -3,6 +3,7 @@
 #include "model/CEmployee.h"
 #include "model/CTimeRecordList.h"
 #include "platform/Failure.h"
+#include "platform/Succeeds.h"
 #include "platform/Value.h"
 
 #include <cmath>
@@ -40,7 +41,7 @@ float Product(float a, float b)
 template <typename ShiftAt>
 bool CTimeCalculator::Calculate(const CEmployee& employee, std::int64_t count, ShiftAt shiftAt)
 {
-    try {
+    return Succeeds([&] {
         const std::int16_t end = NarrowToInt16(count);
         for (std::int32_t i = 0; i < end;) {
             const WorkedShift opening = shiftAt(i);
@@ -53,10 +54,7 @@ bool CTimeCalculator::Calculate(const CEmployee& employee, std::int64_t count, S
             }
             AddDay(hours);
         }
-        return true;
-    } catch (...) {
-        return false;
-    }
+    });
 }
 
 bool CTimeCalculator::CalculateTimes(const CEmployee& theemployee, const CTimeRecordList& thetimerecordlist)
@@ -97,14 +95,12 @@ float CTimeCalculator::CalculatePay(float theregularrate, float theovertimerate)
         m_regularPay = m_overtimePay = m_totalPay = 0;
         return 0;
     }
-    try {
+    const bool paid = Succeeds([&] {
         m_regularPay = Product(theregularrate, m_regularHours);
         m_overtimePay = Product(m_overtimeHours, theovertimerate);
         m_totalPay = Sum(m_overtimePay, m_regularPay);
-        return m_totalPay;
-    } catch (...) {
-        return 0;
-    }
+    });
+    return paid ? m_totalPay : 0;
 }
 
 } // namespace ptk

@@ -5,6 +5,7 @@
 #include "model/CDateRange.h"
 #include "model/Entity.h"
 #include "platform/DateTime.h"
+#include "platform/ErrorNumbers.h"
 #include "platform/Failure.h"
 
 #include <cstdint>
@@ -19,17 +20,6 @@ class CEmployee;
 class CJetDB;
 class CTimeRecordFactory;
 class CTimeRecordList;
-
-namespace timecard {
-inline constexpr std::int32_t FetchFailed = 301; // clocking out
-inline constexpr std::int32_t NoDatabase = 405;
-inline constexpr std::int32_t GenerateFailed = 601;
-inline constexpr std::int32_t NoEmployee = 602;
-inline constexpr std::int32_t InvalidRange = 603;
-inline constexpr std::int32_t NoRecords = 605;
-inline constexpr std::int32_t NoSuchRecord = 607;
-inline constexpr std::int32_t TextFailed = 710;
-} // namespace timecard
 
 // All cards work through the one factory: generating a card replaces the records of every card generated before. No member raises.
 class CTimeCard : public Entity

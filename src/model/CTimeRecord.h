@@ -3,6 +3,7 @@
 
 #include "model/Entity.h"
 #include "platform/DateTime.h"
+#include "platform/ErrorNumbers.h"
 #include "store/Rows.h"
 
 #include <cstdint>
@@ -13,10 +14,6 @@
 namespace ptk {
 
 class CTimeRecordFactory;
-
-namespace timerecord {
-inline constexpr std::int32_t TextFailed = 806; // a text form failed
-} // namespace timerecord
 
 float HoursOf(std::int64_t minutes); // decimal hours, rounded to single
 

@@ -3,6 +3,8 @@
 #include "model/CTimeRecordList.h"
 #include "model/CTimeRecordListSorter.h"
 #include "platform/Failure.h"
+#include "platform/Required.h"
+#include "platform/Succeeds.h"
 #include "store/CJetDB.h"
 #include "store/CTimeRecSQLConverter.h"
 #include "store/engine/RecordSet.h"
@@ -49,21 +51,20 @@ bool CTimeRecordFactory::ResetError()
 bool CTimeRecordFactory::BuildList(std::int32_t theemployeeid, DateTime thestarttime, DateTime theendtime)
 {
     ResetError();
-    try {
+    const auto build = [&] {
         RenewList();
-        Load(theemployeeid, thestarttime, theendtime);
+        const bool found = Load(theemployeeid, thestarttime, theendtime);
         SortTimeRecordList();
-        return true;
-    } catch (...) {
-        // Also the way of an empty period, which is no failure: the hold must not outlive it, or no other program gets at the file.
-        if (const Failure reason = CurrentFailure(); reason.Number() != failure::NoCurrentRecord) {
-            m_lastFailure = reason;
-        }
+        return found;
+    };
+    // The hold must not outlive a failure, or no other program gets at the file.
+    const auto giveUp = [&](const Failure& reason) {
+        m_lastFailure = reason;
         if (m_database != nullptr) {
             m_database->CloseDB();
         }
-        return Fail(recordfactory::BuildFailed);
-    }
+    };
+    return Succeeds(build, giveUp) || Fail(recordfactory::CreateFailed);
 }
 
 void CTimeRecordFactory::RenewList()
@@ -76,14 +77,11 @@ void CTimeRecordFactory::RenewList()
     m_list->Create();
 }
 
-void CTimeRecordFactory::Load(std::int32_t theemployeeid, DateTime thestarttime, DateTime theendtime)
+bool CTimeRecordFactory::Load(std::int32_t theemployeeid, DateTime thestarttime, DateTime theendtime)
 {
-    if (m_database == nullptr) {
-        throw Failure(failure::ObjectNotSet);
-    }
-    if (!m_database->OpenDB()) {
+    if (!Required(m_database)->OpenDB()) {
         m_lastFailure = m_database->LastFailure();
-        return;
+        return true;
     }
     const auto rows = m_database->ExecuteSelect(CTimeRecSQLConverter().BuildFetchSQL(theemployeeid, thestarttime, theendtime));
     if (rows != nullptr) {
@@ -92,11 +90,11 @@ void CTimeRecordFactory::Load(std::int32_t theemployeeid, DateTime thestarttime,
         m_lastFailure = m_database->LastFailure();
     }
     m_database->CloseDB();
+    return rows == nullptr || rows->RecordCount() > 0;
 }
 
 void CTimeRecordFactory::InsertRows(RecordSet& rows)
 {
-    rows.MoveFirst();
     const std::int32_t count = rows.RecordCount();
     RowReader reader(rows, TimeRecordTable());
     m_list->Reserve(count);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/DateTime.h"
+#include "platform/ErrorNumbers.h"
 #include "platform/Failure.h"
 
 #include <cstdint>
@@ -13,15 +14,6 @@ class CJetDB;
 class CTimeRecord;
 class CTimeRecordList;
 class RecordSet;
-
-namespace recordfactory {
-inline constexpr std::int32_t BuildFailed = 301; // also: no records in the period
-inline constexpr std::int32_t DestroyFailed = 302;
-inline constexpr std::int32_t InsertFailed = 312;
-inline constexpr std::int32_t SortFailed = 314;
-inline constexpr std::int32_t SaveListFailed = 321;
-inline constexpr std::int32_t SaveFailed = 803; // the database refused a statement
-} // namespace recordfactory
 
 // The program has exactly one, which all time cards share. No member raises.
 class CTimeRecordFactory
@@ -54,7 +46,8 @@ public:
 
 private:
     void RenewList();
-    void Load(std::int32_t theemployeeid, DateTime thestarttime, DateTime theendtime);
+    // False for a period without records; true, with an empty list, also where the database could not be read, deliberately.
+    bool Load(std::int32_t theemployeeid, DateTime thestarttime, DateTime theendtime);
     void InsertRows(RecordSet& rows);
     void TakeAnswer(bool stored);
     bool Fail(std::int32_t errorNumber); // always false

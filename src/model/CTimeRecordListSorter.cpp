@@ -2,6 +2,8 @@
 
 #include "model/CTimeRecordList.h"
 #include "platform/Failure.h"
+#include "platform/Required.h"
+#include "platform/Succeeds.h"
 #include "platform/Value.h"
 
 #include <tuple>
@@ -52,19 +54,16 @@ template <typename Predicate>
 std::int32_t CTimeRecordListSorter::FirstPosition(Predicate matches)
 {
     m_errorNumber = 0;
-    try {
-        if (m_list == nullptr) {
-            throw Failure(failure::ObjectNotSet);
-        }
-        for (std::int32_t i = 1; i <= m_list->Count(); ++i) {
-            if (matches(m_list->RecordAt(i))) {
-                return i;
+    std::int32_t found = kNotFound;
+    SucceedsOr(recordsorter::ReadFailed, m_errorNumber, [&] {
+        const CTimeRecordList& list = *Required(m_list);
+        for (std::int32_t i = 1; i <= list.Count() && found == kNotFound; ++i) {
+            if (matches(list.RecordAt(i))) {
+                found = i;
             }
         }
-    } catch (...) {
-        m_errorNumber = recordsorter::FindFailed;
-    }
-    return kNotFound;
+    });
+    return found;
 }
 
 std::int32_t CTimeRecordListSorter::Find(const std::shared_ptr<CTimeRecord>& thisobject)
@@ -89,16 +88,12 @@ bool CTimeRecordListSorter::Sort(std::int16_t /*sortorder*/)
     if (m_list == nullptr) {
         return false;
     }
-    try {
+    return SucceedsOr(recordsorter::SortFailed, m_errorNumber, [&] {
         NarrowToInt16(m_list->Count()); // positions are 16-bit numbers here
         if (!InOrder(*m_list)) {
             SelectionSort();
         }
-        return true;
-    } catch (...) {
-        m_errorNumber = recordsorter::SortFailed;
-        return false;
-    }
+    });
 }
 
 // Every Move shortens the list by the record it should have moved; the walk goes on at the next position all the same.

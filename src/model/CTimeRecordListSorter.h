@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/DateTime.h"
+#include "platform/ErrorNumbers.h"
 
 #include <cstdint>
 #include <memory>
@@ -10,11 +11,6 @@ namespace ptk {
 
 class CTimeRecord;
 class CTimeRecordList;
-
-namespace recordsorter {
-inline constexpr std::int32_t SortFailed = 314;
-inline constexpr std::int32_t FindFailed = 341; // also: there is no list
-} // namespace recordsorter
 
 // The first match wins; not found is nullptr or -1 without a number.
 class CTimeRecordListSorter

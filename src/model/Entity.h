@@ -1,6 +1,7 @@
 // The part of every entity that remembers what the database still has to learn about it.
 #pragma once
 
+#include "platform/Succeeds.h"
 #include "store/Rows.h"
 
 #include <cstdint>
@@ -77,11 +78,7 @@ protected:
     std::string BuildText(std::int32_t failedNumber, Steps append)
     {
         std::string text;
-        try {
-            append(text);
-        } catch (...) {
-            m_errorNumber = failedNumber;
-        }
+        SucceedsOr(failedNumber, m_errorNumber, [&] { append(text); });
         return text;
     }
 

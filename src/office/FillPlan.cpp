@@ -26,9 +26,9 @@ FillRefusal ReadRange(const FillTexts& texts, CDateRange& range)
 }
 
 // Seconds from midnight, the same on every day.
-std::int64_t SecondOfDay(DateTime day, const std::string& time)
+std::int64_t SecondOfDay(DateTime day, const TypedMoment& time)
 {
-    return ToDateTime(ShortDateText(day) + " " + time).Seconds() - day.Seconds();
+    return Together({ShortDateText(day), DateTime(day.Date())}, time).Seconds() - day.Seconds();
 }
 
 std::vector<Shift> ShiftsOf(const CDateRange& range, const FillTexts& texts)
@@ -74,9 +74,9 @@ std::string DaysText(const FillPlan& plan, const std::optional<DayNumbers>& take
 std::string TimesText(const Shift& shift, const FillTexts& texts)
 {
     if (shift.start == shift.end) {
-        return texts.startTime.empty() && texts.endTime.empty() ? " Empty times mean midnight to midnight, 0 hours." : " Each has 0 hours.";
+        return texts.startTime.Empty() && texts.endTime.Empty() ? " Empty times mean midnight to midnight, 0 hours." : " Each has 0 hours.";
     }
-    std::string text = texts.startTime.empty() || texts.endTime.empty() ? " The empty time means midnight." : "";
+    std::string text = texts.startTime.Empty() || texts.endTime.Empty() ? " The empty time means midnight." : "";
     if (shift.end < shift.start) {
         text += " They end before they start and count 0 hours.";
     }

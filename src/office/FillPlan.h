@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/DateTime.h"
+#include "platform/TypedTime.h"
 
 #include <cstdint>
 #include <optional>
@@ -18,8 +19,8 @@ struct FillTexts
 {
     std::string from;
     std::string to;
-    std::string startTime; // empty: midnight
-    std::string endTime;
+    TypedMoment startTime; // empty: midnight
+    TypedMoment endTime;
 };
 
 enum class FillRefusal

@@ -1,5 +1,6 @@
 #include "office/NewRecord.h"
 
+#include "platform/Succeeds.h"
 #include "platform/Text.h"
 
 #include <fmt/format.h>
@@ -40,24 +41,24 @@ std::string PeriodWarning(const PayPeriod& period)
 
 DateTime RecordTexts::Start() const
 {
-    return ToDateTime(startDate + " " + startTime);
+    return Together(startDate, startTime);
 }
 
 DateTime RecordTexts::End() const
 {
-    return ToDateTime(endDate + " " + endTime);
+    return Together(endDate, endTime);
 }
 
 std::string NewRecordWarning(const RecordTexts& texts, const std::optional<PayPeriod>& period)
 {
-    try {
+    std::string warning; // empty for unreadable texts, of which the editor tells itself
+    Succeeds([&] {
         const DateTime start = texts.Start();
         const DateTime end = texts.End();
         const bool inside = !period || LiesIn(*period, start, end);
-        return TimesWarning(start, end) + (inside ? std::string() : PeriodWarning(*period));
-    } catch (...) {
-        return {}; // the editor tells of unreadable texts itself
-    }
+        warning = TimesWarning(start, end) + (inside ? std::string() : PeriodWarning(*period));
+    });
+    return warning;
 }
 
 } // namespace ptk

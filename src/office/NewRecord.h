@@ -3,6 +3,7 @@
 
 #include "model/PayPeriod.h"
 #include "platform/DateTime.h"
+#include "platform/TypedTime.h"
 
 #include <optional>
 #include <string>
@@ -12,10 +13,10 @@ namespace ptk {
 // As the boxes answer them.
 struct RecordTexts
 {
-    std::string startDate;
-    std::string startTime; // empty: midnight
-    std::string endDate;
-    std::string endTime;
+    TypedMoment startDate;
+    TypedMoment startTime; // empty: midnight
+    TypedMoment endDate;
+    TypedMoment endTime;
 
     DateTime Start() const; // raise Failure 13
     DateTime End() const;

@@ -57,10 +57,10 @@ std::string DescribeReport(std::int32_t errorNumber, const std::string& missing,
         return people.wanted == 0 ? "Nobody is selected: the report written is empty" : "1 report written";
     case report::Cancelled:
         return fmt::format("Cancelled after {} of {} employees{}", people.done, people.wanted, gaps);
-    case report::FileNotClosed:
+    case report::NotClosed:
     case report::LineNotWritten:
     case report::LineNotShown:
-    case report::NoTimeRecords:
+    case report::NoRecords:
     case report::NotGenerated:
         return fmt::format("The report is not complete: error {}{}", errorNumber, gaps);
     default:

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "model/CTimeCard.h"
+#include "platform/ErrorNumbers.h"
 #include "platform/Notice.h"
 
 #include <array>
@@ -40,11 +41,9 @@ struct CardError
     Notice notice;
 };
 
-inline constexpr std::int32_t kCalculationFailed = 604;
-
 // Of a card that could not be generated. 602 says "not active" also of a name that nobody has.
 inline constexpr std::array<CardError, 4> kCardErrors{{
-    {kCalculationFailed, kNotGenerated},
+    {timecard::CalculationFailed, kNotGenerated},
     {timecard::NoRecords, {kGenerationTitle, "There are no time records found for this employee during this period.", Icon::Information}},
     {timecard::NoEmployee, {kGenerationTitle, "This is not an active employee.", Icon::Exclamation}},
     {timecard::InvalidRange, {kGenerationTitle, kInvalidRangeText, Icon::Exclamation}},

@@ -1,9 +1,10 @@
 #include "platform/TypedTime.h"
 
+#include "platform/Characters.h"
+#include "platform/Failure.h"
 #include "platform/Text.h"
 
 #include <algorithm>
-#include <cctype>
 #include <string>
 
 namespace ptk {
@@ -16,20 +17,6 @@ enum class Half
     Am,
     Pm
 };
-
-bool IsDigit(char c)
-{
-    return c >= '0' && c <= '9';
-}
-
-std::string_view Trimmed(std::string_view text)
-{
-    const auto first = text.find_first_not_of(" \t");
-    if (first == std::string_view::npos) {
-        return {};
-    }
-    return text.substr(first, text.find_last_not_of(" \t") - first + 1);
-}
 
 // Takes "a", "am", "p" or "pm" off the end of text in small letters.
 Half TakeHalf(std::string_view& text)
@@ -45,6 +32,11 @@ Half TakeHalf(std::string_view& text)
     rest.remove_suffix(1);
     text = Trimmed(rest);
     return half;
+}
+
+bool IsMidnight(DateTime moment)
+{
+    return moment == DateTime(moment.Date());
 }
 
 std::optional<int> Number(std::string_view digits, std::size_t most)
@@ -125,10 +117,40 @@ std::optional<DateTime> ReadTypedDate(std::string_view text, DateTime today)
     if (!date && separator != std::string_view::npos) {
         date = ParseDateTime(std::string(typed) + typed[separator] + std::to_string(today.Date().year));
     }
-    if (!date || date->DayNumber() == 0 || date->Seconds() % 86400 != 0) {
+    if (!date || date->DayNumber() == 0 || !IsMidnight(*date)) {
         return std::nullopt;
     }
     return date;
+}
+
+TypedMoment TypedTime(std::string text)
+{
+    const auto moment = ReadTypedTime(text);
+    return {std::move(text), moment};
+}
+
+TypedMoment TypedDate(std::string text, DateTime today)
+{
+    auto moment = ReadTypedDate(text, today);
+    if (!moment) {
+        moment = ParseDateTime(text);
+    }
+    return {std::move(text), moment};
+}
+
+DateTime Together(const TypedMoment& day, const TypedMoment& time)
+{
+    const TypedMoment& one = day.Empty() ? time : day;
+    if (!one.moment || (!time.Empty() && !time.moment)) {
+        throw Failure(failure::TypeMismatch);
+    }
+    if (day.Empty() || time.Empty()) {
+        return *one.moment;
+    }
+    if (!IsMidnight(*day.moment)) {
+        throw Failure(failure::TypeMismatch);
+    }
+    return DateTime(day.moment->Date(), time.moment->Time());
 }
 
 } // namespace ptk

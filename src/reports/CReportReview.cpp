@@ -19,7 +19,7 @@ bool CReportReview::GenerateReport(const std::shared_ptr<CJetDB>& thedatabase, c
             return false;
         }
         if (recordslist == nullptr) {
-            return Fail(report::NoReviewList);
+            return Fail(report::ListEmpty);
         }
         Name(TitleOfDays(Range().StartDate(), Range().EndDate()), "salary_review_" + RangeCode() + ".txt");
         return Write([&] {

@@ -75,10 +75,10 @@ bool CReportTimeCard::WriteGenerated(const std::shared_ptr<CEmployee>& theemploy
         return true;
     }
     // Where there are no records, the number says so by itself.
-    if (m_timeCard->LastFailure().Number() != 0 || m_timeCard->ErrorNumber() != report::NoTimeRecords) {
+    if (m_timeCard->LastFailure().Number() != 0 || m_timeCard->ErrorNumber() != report::NoRecords) {
         NoteMissing(*m_timeCard);
     }
-    return Fail(m_timeCard->ErrorNumber() == report::NoTimeRecords ? report::NoTimeRecords : report::NotGenerated);
+    return Fail(m_timeCard->ErrorNumber() == report::NoRecords ? report::NoRecords : report::NotGenerated);
 }
 
 } // namespace ptk

@@ -17,8 +17,7 @@ std::string ReasonFor(const CTimeCard& card)
     if (card.LastFailure().Number() != 0) {
         return card.LastFailure().Description();
     }
-    return card.ErrorNumber() == report::NoTimeRecords ? "there are no time records in this period"
-                                                       : "the time card could not be generated";
+    return card.ErrorNumber() == report::NoRecords ? "there are no time records in this period" : "the time card could not be generated";
 }
 
 } // namespace

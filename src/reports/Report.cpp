@@ -15,8 +15,7 @@ namespace ptk {
 namespace {
 
 constexpr std::int16_t kWriteMode = 1;
-constexpr Notice kNoFile{docerror::NotOpenedTitle, "The path to the report is invalid or not able to be opened by Windows.",
-                         Icon::Exclamation};
+constexpr Notice kNoFile{kNotOpenedTitle, "The path to the report is invalid or not able to be opened by Windows.", Icon::Exclamation};
 
 const std::string kRule(72, '-');
 
@@ -61,7 +60,7 @@ bool Report::Write(const std::function<bool()>& body)
 {
     if (!OpenFile()) {
         DropFile();
-        return Fail(report::FileNotOpened);
+        return Fail(report::NotOpen);
     }
     if (!OpenViewer()) {
         DropFile();
@@ -94,7 +93,7 @@ void Report::DropFile()
 void Report::FinishFile()
 {
     if (!m_file->CloseFile()) {
-        m_errorNumber = report::FileNotClosed;
+        m_errorNumber = report::NotClosed;
     } else if (m_whole) {
         PublishFile();
     }
@@ -107,7 +106,7 @@ void Report::PublishFile()
         m_draft->Replace();
         m_fileWritten = true;
     } catch (...) {
-        m_errorNumber = report::FileNotClosed;
+        m_errorNumber = report::NotClosed;
     }
 }
 

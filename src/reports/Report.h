@@ -1,6 +1,7 @@
 // What all reports have in common: a text file in the reports folder, written line by line beside a viewer that shows the same lines.
 #pragma once
 
+#include "platform/ErrorNumbers.h"
 #include "reports/ReportViewer.h"
 
 #include <cstdint>
@@ -16,24 +17,6 @@ class CTimeRecordFactory;
 class Desktop;
 class DesktopWindow;
 class FileDraft;
-
-// Error numbers of the reports.
-namespace report {
-inline constexpr std::int32_t NoReviewList = 331;
-inline constexpr std::int32_t FileNotOpened = 503;
-inline constexpr std::int32_t FileNotClosed = 506; // or it could not take its place
-inline constexpr std::int32_t NoEmployee = 602;
-inline constexpr std::int32_t InvalidRange = 603;
-inline constexpr std::int32_t NoTimeRecords = 605;
-inline constexpr std::int32_t NoViewer = 701;
-inline constexpr std::int32_t LineNotWritten = 702;
-inline constexpr std::int32_t LineNotShown = 703;
-inline constexpr std::int32_t NoPhoneBookList = 704;
-inline constexpr std::int32_t NoEmployeeList = 705;
-inline constexpr std::int32_t NoTimeCard = 706;
-inline constexpr std::int32_t NotGenerated = 710; // a time card or another part of the body
-inline constexpr std::int32_t Cancelled = 711;    // stopped by the user; the report's last line says so
-} // namespace report
 
 // What reports are made with. The references outlive them.
 struct ReportContext

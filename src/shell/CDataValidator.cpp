@@ -1,19 +1,12 @@
 #include "shell/CDataValidator.h"
 
+#include "platform/Characters.h"
+#include "platform/Succeeds.h"
 #include "platform/Text.h"
 
 #include <algorithm>
 
 namespace ptk {
-
-namespace {
-
-bool IsDigit(char character)
-{
-    return character >= '0' && character <= '9';
-}
-
-} // namespace
 
 bool CDataValidator::CheckIntegerValues(const std::string& thestring) const
 {
@@ -30,12 +23,7 @@ bool CDataValidator::CheckSingleValues(const std::string& thestring) const
     if (!std::ranges::all_of(thestring, [](char character) { return character == '.' || IsDigit(character); })) {
         return false;
     }
-    try {
-        ToSingle(thestring);
-        return true;
-    } catch (...) {
-        return false;
-    }
+    return Succeeds([&] { ToSingle(thestring); });
 }
 
 } // namespace ptk

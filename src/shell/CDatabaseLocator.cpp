@@ -1,5 +1,6 @@
 #include "shell/CDatabaseLocator.h"
 
+#include "platform/Succeeds.h"
 #include "shell/CFileAdaptor.h"
 
 namespace ptk {
@@ -20,7 +21,7 @@ void CDatabaseLocator::ConfigFile(std::shared_ptr<CFileAdaptor> value)
 
 bool CDatabaseLocator::GetDatabasePath()
 {
-    try {
+    return Succeeds([&] {
         if (m_configFile) {
             m_databasePath = m_configFile->FindKeyValue(kPathKey);
         }
@@ -28,10 +29,7 @@ bool CDatabaseLocator::GetDatabasePath()
         if (m_databasePath.find(kPlaceholder) != std::string::npos) {
             m_databasePath = m_programFolder + m_databasePath.substr(m_databasePath.find('>') + 1);
         }
-        return true;
-    } catch (...) {
-        return false;
-    }
+    });
 }
 
 } // namespace ptk

@@ -2,6 +2,7 @@
 
 #include "platform/Desktop.h"
 #include "platform/ProgramFolder.h"
+#include "platform/Succeeds.h"
 
 namespace ptk {
 
@@ -31,15 +32,10 @@ bool CDocLauncher::Launch(const DesktopWindow* theparent, const std::string& the
     }
     m_parent = theparent;
     m_fileName = thedocname;
-    try {
+    return Succeeds([&] {
         const std::int32_t code = m_desktop.Shell(*m_parent, verb, NativePath(m_fileName).string());
-        if (code == ShellFileNotFound) {
-            return Refuse(docerror::DocumentNotFound);
-        }
-        return code > ShellSuccess;
-    } catch (...) {
-        return false;
-    }
+        return code == ShellFileNotFound ? Refuse(docerror::DocumentNotFound) : code > ShellSuccess;
+    });
 }
 
 bool CDocLauncher::Refuse(std::int32_t errorNumber)

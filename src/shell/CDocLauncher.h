@@ -1,6 +1,8 @@
 // Opens or prints a document through the desktop's shell.
 #pragma once
 
+#include "platform/ErrorNumbers.h"
+
 #include <cstdint>
 #include <string>
 
@@ -10,16 +12,9 @@ class Desktop;
 class DesktopWindow;
 enum class ShellVerb;
 
-// Error numbers of CDocLauncher. Any other refusal of the shell, and a success, leave ErrorNumber as it was.
-namespace docerror {
-inline constexpr std::int32_t NoDocumentName = 901;
-inline constexpr std::int32_t DocumentNotFound = 902;
-inline constexpr std::int32_t NoParentWindow = 911;
-
 // Of the box about any document that is not where it should be: the guide's title, which the reports have always shown as well,
 // deliberately.
-inline constexpr const char* NotOpenedTitle = "User's Guide Open Error";
-} // namespace docerror
+inline constexpr const char* kNotOpenedTitle = "User's Guide Open Error";
 
 class CDocLauncher
 {

@@ -4,6 +4,7 @@
 #include "platform/Failure.h"
 #include "platform/LineFile.h"
 #include "platform/ProgramFolder.h"
+#include "platform/Succeeds.h"
 #include "platform/Text.h"
 #include "shell/Numeric.h"
 
@@ -64,16 +65,14 @@ bool CFile::OpenFile(const std::string& paramfile, const Value& parammode)
     m_fileName = paramfile;
     const std::int16_t mode = ModeOf(parammode);
     m_fileMode = std::to_string(mode);
-    try {
+    const auto open = [&] {
         const std::int32_t number = AcquireFileNumber();
-        if (number == 0) {
-            return false;
+        if (number != 0) {
+            OpenUnder(number, static_cast<linefile::Mode>(mode));
         }
-        OpenUnder(number, static_cast<linefile::Mode>(mode));
-        return true;
-    } catch (...) {
-        return Fail(kOpening);
-    }
+        return number != 0;
+    };
+    return Succeeds(open, [&](const Failure& reason) { Fail(kOpening, reason); });
 }
 
 std::int32_t CFile::AcquireFileNumber()
@@ -99,12 +98,7 @@ bool CFile::CloseFile()
     ClearError();
     // Closed also when closing fails: from now on the number may be another file's.
     const bool wasOpen = std::exchange(m_fileOpen, false);
-    try {
-        linefile::Close(wasOpen ? m_fileNumber : kNoNumber);
-        return true;
-    } catch (...) {
-        return Fail(kClosing);
-    }
+    return Succeeds([&] { linefile::Close(wasOpen ? m_fileNumber : kNoNumber); }, [&](const Failure& reason) { Fail(kClosing, reason); });
 }
 
 std::string CFile::ReadLine()
@@ -113,16 +107,14 @@ std::string CFile::ReadLine()
     if (!ReadyToRead()) {
         return {};
     }
-    try {
-        if (!linefile::AtEnd(m_fileNumber)) {
-            return linefile::ReadItem(m_fileNumber);
-        }
-        m_endOfFile = true;
-        return "EOF";
-    } catch (...) {
-        Fail(kOpening);
-        return {};
-    }
+    std::string line;
+    const auto read = [&] {
+        const bool atEnd = linefile::AtEnd(m_fileNumber);
+        line = atEnd ? "EOF" : linefile::ReadItem(m_fileNumber);
+        m_endOfFile = m_endOfFile || atEnd;
+    };
+    Succeeds(read, [&](const Failure& reason) { Fail(kOpening, reason); });
+    return line;
 }
 
 bool CFile::WriteDateTime()
@@ -147,12 +139,7 @@ bool CFile::WriteText(std::string text)
     if (!ReadyToWrite()) {
         return false;
     }
-    try {
-        linefile::Write(m_fileNumber, text.append("\r\n"));
-        return true;
-    } catch (...) {
-        return Fail(kOpening);
-    }
+    return Succeeds([&] { linefile::Write(m_fileNumber, text.append("\r\n")); }, [&](const Failure& reason) { Fail(kOpening, reason); });
 }
 
 bool CFile::ReadyToRead()
@@ -185,12 +172,10 @@ bool CFile::Refuse(std::int32_t errorNumber, const char* description)
     return false;
 }
 
-bool CFile::Fail(const char* opening)
+void CFile::Fail(const char* opening, const Failure& failure)
 {
-    const Failure failure = CurrentFailure();
     m_errorNumber = failure.Number();
     m_errorDescription = fmt::format("{}\r\n\r\nError Number: {}\r\nError: {}", opening, failure.Number(), failure.Description());
-    return false;
 }
 
 } // namespace ptk

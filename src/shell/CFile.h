@@ -1,6 +1,7 @@
 // One text file, read item by item or written line by line, with error numbers instead of raised failures.
 #pragma once
 
+#include "platform/ErrorNumbers.h"
 #include "platform/LineFile.h"
 #include "platform/Value.h"
 
@@ -9,14 +10,8 @@
 
 namespace ptk {
 
+class Failure;
 class Clock;
-
-// Error numbers of CFile; any other is the platform's own failure number.
-namespace fileerror {
-inline constexpr std::int32_t NotOpen = 503;   // or no file number was free
-inline constexpr std::int32_t WriteOnly = 504; // read attempted in mode 1 or 2
-inline constexpr std::int32_t ReadOnly = 505;  // write attempted in mode 0
-} // namespace fileerror
 
 // Modes: 0 reads an existing file, 1 creates or truncates for writing, 2 writes on at the end (created if missing). Each written line lands
 // at what is then the end of the file. What is no regular file is not opened (75); what is created is for its owner only.
@@ -63,7 +58,7 @@ private:
     bool ReadyToRead();
     bool ReadyToWrite();
     bool Refuse(std::int32_t errorNumber, const char* description); // always false
-    bool Fail(const char* opening);                                 // of the failure being handled; always false
+    void Fail(const char* opening, const Failure& failure);
 
     const Clock& m_clock;
     std::string m_fileName = "C:\\default.txt";

@@ -2,6 +2,7 @@
 
 #include "platform/FileDraft.h"
 #include "platform/ProgramFolder.h"
+#include "platform/Succeeds.h"
 #include "platform/Value.h"
 #include "shell/CFile.h"
 
@@ -14,17 +15,6 @@ constexpr const char* kLineEnd = "\r\n";
 
 const Failure kNone(0, "", "");
 
-// True, or false when anything was raised.
-template <typename Operation>
-bool Attempt(Operation operation)
-{
-    try {
-        return operation();
-    } catch (...) {
-        return false;
-    }
-}
-
 } // namespace
 
 CFileAdaptor::CFileAdaptor(const std::string& programFolder) : m_fileName(programFolder + kConfigurationFile), m_lastFailure(kNone) {}
@@ -36,7 +26,7 @@ std::int16_t CFileAdaptor::FileLineCount() const
 
 bool CFileAdaptor::ReadFile(const std::string& thefilename)
 {
-    return Attempt([&] {
+    return Succeeds([&] {
         if (thefilename.empty()) {
             return false;
         }
@@ -68,7 +58,7 @@ void CFileAdaptor::ReadLines(CFile& file)
 
 bool CFileAdaptor::WriteFile(const std::string& thefilename)
 {
-    return Attempt([&] {
+    return Succeeds([&] {
         if (thefilename.empty()) {
             return false;
         }
@@ -91,21 +81,17 @@ std::string CFileAdaptor::Bytes()
 void CFileAdaptor::Put(const std::string& bytes)
 {
     m_lastFailure = kNone;
-    try {
-        PutFile(NativePath(m_fileName).string(), bytes);
-    } catch (...) {
-        m_lastFailure = CurrentFailure();
-    }
+    Succeeds([&] { PutFile(NativePath(m_fileName).string(), bytes); }, [&](const Failure& reason) { m_lastFailure = reason; });
 }
 
 bool CFileAdaptor::AddLine(const std::string& buffer)
 {
-    return Attempt([&] { return Insert(buffer, m_lines.Count()); });
+    return Succeeds([&] { return Insert(buffer, m_lines.Count()); });
 }
 
 bool CFileAdaptor::InsertLine(const std::string& buffer, std::int16_t index)
 {
-    return Attempt([&] { return Insert(buffer, index); });
+    return Succeeds([&] { return Insert(buffer, index); });
 }
 
 bool CFileAdaptor::Insert(const std::string& buffer, std::int32_t index)
@@ -116,7 +102,7 @@ bool CFileAdaptor::Insert(const std::string& buffer, std::int32_t index)
 
 bool CFileAdaptor::RemoveLine(std::int16_t index)
 {
-    return Attempt([&] {
+    return Succeeds([&] {
         m_lines.Remove(index);
         return m_lines.ErrorNumber() == 0;
     });
@@ -124,15 +110,14 @@ bool CFileAdaptor::RemoveLine(std::int16_t index)
 
 std::string CFileAdaptor::GetLine(std::int16_t index)
 {
-    try {
-        std::string line = m_lines.Item(index);
+    std::string line;
+    const bool read = Succeeds([&] {
+        line = m_lines.Item(index);
         ParseHeader(line);
         ParseKeyString(line);
         ParseKeyValue(line);
-        return line;
-    } catch (...) {
-        return {};
-    }
+    });
+    return read ? line : std::string();
 }
 
 std::int16_t CFileAdaptor::FindLine(const std::string& thekeystring)

@@ -1,6 +1,9 @@
 // The 1-based list that every list of the program is: employees, companies, time records, time cards and plain strings.
 #pragma once
 
+#include "platform/ErrorNumbers.h"
+#include "platform/Succeeds.h"
+
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
@@ -10,17 +13,6 @@
 #include <vector>
 
 namespace ptk {
-
-// Error numbers of every list. No operation raises; it answers false or an empty entry and leaves one of these.
-namespace listerror {
-inline constexpr std::int32_t CreateFailed = 301;
-inline constexpr std::int32_t DestroyFailed = 302;
-inline constexpr std::int32_t InsertFailed = 312;
-inline constexpr std::int32_t RemoveFailed = 313;
-inline constexpr std::int32_t ListEmpty = 331; // weeding a list without entries
-inline constexpr std::int32_t ReadFailed = 341;
-inline constexpr std::int32_t NoSuchPosition = 351; // removing outside 1 to Count
-} // namespace listerror
 
 // What all lists share, whatever their Insert and Remove answer. `Entry` is a shared reference (empty = nullptr) or text (empty = "").
 // Positions are 1 to Count. Every operation except the properties first clears ErrorNumber.
@@ -119,13 +111,7 @@ protected:
     template <typename Operation>
     bool Guarded(std::int32_t errorNumber, Operation operation)
     {
-        try {
-            operation();
-            return true;
-        } catch (...) {
-            m_errorNumber = errorNumber;
-            return false;
-        }
+        return SucceedsOr(errorNumber, m_errorNumber, operation);
     }
 
 private:

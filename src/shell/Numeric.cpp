@@ -1,5 +1,6 @@
 #include "shell/Numeric.h"
 
+#include "platform/Succeeds.h"
 #include "platform/Value.h"
 
 #include <variant>
@@ -11,12 +12,7 @@ bool IsNumeric(const Value& value)
     if (value.IsNull() || std::holds_alternative<DateTime>(value.Get())) {
         return false;
     }
-    try {
-        value.ToDouble();
-        return true;
-    } catch (...) {
-        return false;
-    }
+    return Succeeds([&] { value.ToDouble(); });
 }
 
 } // namespace ptk

@@ -2,6 +2,7 @@
 // tables and the entities through the stored queries inside the file.
 #pragma once
 
+#include "platform/ErrorNumbers.h"
 #include "platform/Failure.h"
 #include "store/Rows.h"
 
@@ -16,18 +17,6 @@ class CDatabaseLocator;
 class Engine;
 class RecordSet;
 class Statement;
-
-// Error numbers of CJetDB. A failed open leaves the engine's own number instead of one of these. Why it was is LastFailure's to tell.
-namespace jetdb {
-inline constexpr std::int32_t NoDatabase = 403;           // no handle, no name, or an operation found no open database
-inline constexpr std::int32_t NoSql = 406;                // neither an argument nor a stored statement
-inline constexpr std::int32_t StatementFailed = 407;      // a select or action failed
-inline constexpr std::int32_t ListingFailed = 411;        // a listing stored query failed
-inline constexpr std::int32_t InsertFailed = 412;         // an insert through a stored query failed
-inline constexpr std::int32_t UpdateFailed = 413;         // an update through a stored query failed
-inline constexpr std::int32_t NegativeCount = 421;        // a listing reported a negative row count
-inline constexpr std::int32_t WorkingReferenceLost = 312; // a loaded company did not arrive in its list
-} // namespace jetdb
 
 // Not thread-safe. Closed at creation; the destructor closes an open file. No member raises.
 // ErrorNumber is never reset: it keeps the last code until another is set, and LoadCompanyList even refuses on a stale one.
@@ -99,6 +88,7 @@ public:
     // Each opens the database when it is closed and closes it after success; a failed statement (412, 413) leaves it open.
     bool AddNewEmployee(const EmployeeRow& theemployee);
     bool LoadEmployeeList(EmployeeSink& thelist);
+    bool LoadEmployeesNamed(EmployeeSink& thelist, const std::string& thename); // by display name; nobody else's row is read
     bool UpdateEmployee(const EmployeeRow& theemployee);
     bool DeleteEmployee(const EmployeeRow& theemployee); // deliberately does nothing and answers false: employees are never deleted
     bool AddNewCompany(const CompanyRow& thecompany);
@@ -118,7 +108,9 @@ private:
     void CloseWhenOpen();
     template <typename Steps>
     bool Change(std::int32_t errorNumber, Steps steps);
-    std::shared_ptr<RecordSet> OpenListing(const char* query);
+    template <typename Listing>
+    std::shared_ptr<RecordSet> OpenListing(Listing listing);
+    bool FillEmployees(EmployeeSink& thelist, const std::shared_ptr<RecordSet>& rows);
     std::shared_ptr<RecordSet> OpenEmployeeQuery();
     std::shared_ptr<RecordSet> OpenCompanyQuery();
 

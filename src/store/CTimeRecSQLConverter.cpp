@@ -1,5 +1,7 @@
 #include "store/CTimeRecSQLConverter.h"
 
+#include "platform/ErrorNumbers.h"
+#include "platform/Succeeds.h"
 #include "platform/Text.h"
 
 #include <fmt/format.h>
@@ -8,11 +10,6 @@
 namespace ptk {
 
 namespace {
-
-constexpr std::int32_t kInsertFailed = 810;
-constexpr std::int32_t kUpdateFailed = 811;
-constexpr std::int32_t kDeleteFailed = 812;
-constexpr std::int32_t kFetchFailed = 813;
 
 // Appends to `sql`, so that what is there when a failure comes stays there.
 template <typename... Values>
@@ -64,13 +61,13 @@ std::string CTimeRecSQLConverter::ToSQL(const TimeRecordRow* thetimerecord)
     m_sqlstring.clear();
     switch (thetimerecord->ObjectState) {
     case state::New:
-        Build(BuildInsertSQL, *thetimerecord, kInsertFailed);
+        Build(BuildInsertSQL, *thetimerecord, sqlerror::InsertFailed);
         break;
     case state::Changed:
-        Build(BuildUpdateSQL, *thetimerecord, kUpdateFailed);
+        Build(BuildUpdateSQL, *thetimerecord, sqlerror::UpdateFailed);
         break;
     case state::Deleted:
-        Build(BuildDeleteSQL, *thetimerecord, kDeleteFailed);
+        Build(BuildDeleteSQL, *thetimerecord, sqlerror::DeleteFailed);
         break;
     default:
         break;
@@ -80,26 +77,20 @@ std::string CTimeRecSQLConverter::ToSQL(const TimeRecordRow* thetimerecord)
 
 void CTimeRecSQLConverter::Build(Builder builder, const TimeRecordRow& record, std::int32_t errorNumber)
 {
-    try {
-        builder(m_sqlstring, record);
-    } catch (...) {
-        m_errorNumber = errorNumber;
-    }
+    SucceedsOr(errorNumber, m_errorNumber, [&] { builder(m_sqlstring, record); });
 }
 
 std::string CTimeRecSQLConverter::BuildFetchSQL(std::int32_t theemployeeid, DateTime thestarttime, DateTime theendtime)
 {
     std::string sql;
-    try {
+    SucceedsOr(sqlerror::FetchFailed, m_errorNumber, [&] {
         sql = "SELECT TimeRecord.TimeRecordID, TimeRecord.EmployeeID, TimeRecord.StartTime, TimeRecord.EndTime "
               "From TimeRecord ";
         Append(sql, "Where ((TimeRecord.EmployeeID = {}) ", theemployeeid);
         Append(sql, "And ((TimeRecord.StartTime >= #{}#) ", GeneralText(thestarttime));
         Append(sql, "And (TimeRecord.EndTime <= #{}#))) ", GeneralText(theendtime));
         sql += "ORDER BY TimeRecord.StartTime, TimeRecord.EndTime;";
-    } catch (...) {
-        m_errorNumber = kFetchFailed;
-    }
+    });
     return sql;
 }
 

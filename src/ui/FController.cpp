@@ -373,7 +373,7 @@ void FController::UsersGuide()
     }
     Log(kGuideNotOpened);
     if (launcher.ErrorNumber() == docerror::DocumentNotFound) {
-        m_desktop.Show(kGuideText, docerror::NotOpenedTitle, Icon::Exclamation);
+        m_desktop.Show(kGuideText, kNotOpenedTitle, Icon::Exclamation);
     } else {
         Say(kGuideNotOpened);
     }

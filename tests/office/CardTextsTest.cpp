@@ -55,8 +55,12 @@ TEST(NewRecordTest, WarnsOfAnotherPeriodAndOfNoHours)
     const std::string backward = "This record ends before it starts and counts 0 hours. ";
     struct Case
     {
-        RecordTexts texts;
+        std::array<const char*, 4> texts;
         std::string warning;
+    };
+    const auto warning = [](const std::array<const char*, 4>& texts, const std::optional<PayPeriod>& shown) {
+        const DateTime today({2003, 3, 7});
+        return NewRecordWarning({TypedDate(texts[0], today), TypedTime(texts[1]), TypedDate(texts[2], today), TypedTime(texts[3])}, shown);
     };
     for (const Case& c : {
              Case{{"03/05/2003", "08:00:00 AM", "03/05/2003", "05:00:00 PM"}, ""},
@@ -70,9 +74,9 @@ TEST(NewRecordTest, WarnsOfAnotherPeriodAndOfNoHours)
              {{"03/05/2003", "8:00", "03/05/2003", "late"}, ""},
              {{"", "", "03/05/2003", ""}, ""},
          }) {
-        EXPECT_EQ(NewRecordWarning(c.texts, period), c.warning) << c.texts.startDate << c.texts.startTime << c.texts.endTime;
+        EXPECT_EQ(warning(c.texts, period), c.warning) << c.texts[0] << c.texts[1] << c.texts[3];
     }
-    EXPECT_EQ(NewRecordWarning({"03/04/2003", "8:00", "03/04/2003", "9:00"}, std::nullopt), "");
+    EXPECT_EQ(warning({"03/04/2003", "8:00", "03/04/2003", "9:00"}, std::nullopt), "");
 }
 
 } // namespace

@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 namespace ptk {
 
 namespace {
@@ -17,7 +19,7 @@ TEST(FillPlanTest, ForetellsWhatSaveWillDo)
 {
     struct Case
     {
-        FillTexts texts;
+        std::array<const char*, 4> texts;
         std::size_t shifts;
         const char* forecast;
     };
@@ -45,11 +47,12 @@ TEST(FillPlanTest, ForetellsWhatSaveWillDo)
              {{"12/31/2100", "01/01/2101", "8:00", "17:00"}, 0, "No records: the two dates are no period."},
              {{"03/04/2003", "03/05/2003", "8:00", "late"}, 0, "No records: a time cannot be read."},
          }) {
-        const FillPlan plan = PlanFill(c.texts);
+        const FillTexts texts{c.texts[0], c.texts[1], TypedTime(c.texts[2]), TypedTime(c.texts[3])};
+        const FillPlan plan = PlanFill(texts);
         EXPECT_EQ(plan.shifts.size(), c.shifts) << c.forecast;
-        EXPECT_EQ(FillForecast(plan, c.texts, taken), c.forecast);
+        EXPECT_EQ(FillForecast(plan, texts, taken), c.forecast);
     }
-    const FillTexts texts{"03/01/2003", "03/02/2003", "8:00", "17:00"};
+    const FillTexts texts{"03/01/2003", "03/02/2003", TypedTime("8:00"), TypedTime("17:00")};
     EXPECT_EQ(FillForecast(PlanFill(texts), texts, std::nullopt),
               "2 records, 2 on Saturdays and Sundays. Days that already have records could not be counted.");
     EXPECT_EQ(PlanFill(texts).shifts[1].end, DateTime({2003, 3, 2}, {17, 0, 0}));

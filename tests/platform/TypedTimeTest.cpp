@@ -1,5 +1,6 @@
 // What the time and date boxes understand.
 #include "platform/TypedTime.h"
+#include "platform/Failure.h"
 #include "platform/Text.h"
 
 #include <gtest/gtest.h>
@@ -70,6 +71,38 @@ TEST(TypedDateTest, ReadsDatesAndCompletesThemWithThisYear)
                           {"12/30/1899", ""},
                           {"3/5/2003 8:00 AM", ""}}) {
         EXPECT_EQ(Text(ReadTypedDate(c.typed, today), "mm/dd/yyyy"), c.read) << c.typed;
+    }
+}
+
+TEST(TypedTimeTest, PutsADayAndATimeTogether)
+{
+    const DateTime today({2003, 3, 7});
+    struct Pair
+    {
+        const char* day;
+        const char* time;
+        const char* moment; // empty: Failure 13
+    };
+    for (const Pair& c : {
+             Pair{"3/5", "830p", "3/5/2003 8:30:00 PM"},
+             {"03/05/2003", "", "3/5/2003"},
+             {"", "17", "5:00:00 PM"},
+             {"12/30/1899", "8:00", "8:00:00 AM"},
+             {"3/5/2003 8:00", "", "3/5/2003 8:00:00 AM"},
+             {"3/5/2003 8:00", "9:00", ""},
+             {"3/5", "late", ""},
+             {"soon", "8:00", ""},
+             {"soon", "", ""},
+             {"", "late", ""},
+             {"", "", ""},
+         }) {
+        std::string moment;
+        try {
+            moment = GeneralText(Together(TypedDate(c.day, today), TypedTime(c.time)));
+        } catch (const Failure& failure) {
+            EXPECT_EQ(failure.Number(), failure::TypeMismatch);
+        }
+        EXPECT_EQ(moment, c.moment) << c.day << '|' << c.time;
     }
 }
 

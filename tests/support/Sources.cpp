@@ -7,4 +7,4 @@ std::string SourceFolder()
     return PTK_SOURCE_DIR;
 }
 
-}
+} // namespace ptk

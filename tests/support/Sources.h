@@ -8,4 +8,4 @@ namespace ptk {
 // The root of the source tree, without a separator at its end.
 [[nodiscard]] std::string SourceFolder();
 
-}
+} // namespace ptk

@@ -49,16 +49,21 @@ std::unique_ptr<Statement> Engine::Prepare(std::string_view sql)
     return std::make_unique<Statement>(Open().Handle(), sql);
 }
 
-std::unique_ptr<Statement> Engine::PrepareStored(std::string_view query)
+// The queries' texts are part of the file, so that a file of other tables can bring queries that fit them.
+std::string Engine::StoredText(std::string_view query)
 {
-    // The queries' texts are part of the file, so that a file of other tables can bring queries that fit them.
     Statement search(Open().Handle(), "SELECT sql FROM _StoredQuery WHERE name = :name");
     search.Bind("name", std::string(query));
     const auto found = search.ReadRows();
     if (found->EndOfFile()) {
         throw EngineFailure(SQLITE_NOTFOUND, "there is no stored query " + std::string(query));
     }
-    return Prepare(found->TextAt(0));
+    return std::string(found->TextAt(0));
+}
+
+std::unique_ptr<Statement> Engine::PrepareStored(std::string_view query)
+{
+    return Prepare(StoredText(query));
 }
 
 std::shared_ptr<RecordSet> Engine::Select(std::string_view statement)
@@ -83,6 +88,16 @@ void Engine::ExecuteAll(std::span<const std::string> statements)
 std::shared_ptr<RecordSet> Engine::SelectStored(std::string_view query)
 {
     return PrepareStored(query)->ReadRows();
+}
+
+std::shared_ptr<RecordSet> Engine::SelectStored(std::string_view query, std::string_view condition, std::span<const Parameter> parameters)
+{
+    std::string text = StoredText(query);
+    text.erase(text.find_last_not_of(" \t\r\n;") + 1);
+    // On a line of its own, since the text may end in a comment.
+    const auto statement = Prepare("SELECT * FROM (" + text + "\n) WHERE " + std::string(condition));
+    statement->Bind(parameters);
+    return statement->ReadRows();
 }
 
 void Engine::ExecuteStored(std::string_view query, std::span<const Parameter> parameters)

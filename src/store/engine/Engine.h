@@ -46,6 +46,8 @@ public:
 
     // Of the queries inside the file. A missing query raises 12, an unknown parameter or one without a value 25.
     std::shared_ptr<RecordSet> SelectStored(std::string_view query);
+    // Only the rows for which a condition in the engine's own words holds, in the query's order.
+    std::shared_ptr<RecordSet> SelectStored(std::string_view query, std::string_view condition, std::span<const Parameter> parameters);
     void ExecuteStored(std::string_view query, std::span<const Parameter> parameters); // on disk when it returns
 
     // For many rows in one transaction: statements in the engine's own words, or of a stored query, to be run again and again; on disk at
@@ -61,6 +63,7 @@ public:
 
 private:
     Connection& Open() const;
+    std::string StoredText(std::string_view query);
     template <typename Steps>
     void Commit(Steps steps);
 

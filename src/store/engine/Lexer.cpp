@@ -1,5 +1,7 @@
 #include "store/engine/Lexer.h"
 
+#include "platform/Characters.h"
+
 #include <algorithm>
 
 namespace ptk {
@@ -9,11 +11,6 @@ namespace {
 bool IsWhiteSpace(char c)
 {
     return c == ' ' || c == '\t' || c == '\r' || c == '\n' || c == '\f';
-}
-
-bool IsDigit(char c)
-{
-    return c >= '0' && c <= '9';
 }
 
 bool IsWordStart(char c)

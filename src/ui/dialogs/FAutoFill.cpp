@@ -84,14 +84,14 @@ void FAutoFill::Announce(const std::string& owner, std::optional<DayNumbers> tak
 
 FillTexts FAutoFill::Texts() const
 {
-    return {m_ui->dttbTCFrom->Text().toStdString(), m_ui->dttbTCTo->Text().toStdString(), m_ui->dttbStartTime->Text().toStdString(),
-            m_ui->dttbEndTime->Text().toStdString()};
+    return {m_ui->dttbTCFrom->Text().toStdString(), m_ui->dttbTCTo->Text().toStdString(), m_ui->dttbStartTime->Moment(),
+            m_ui->dttbEndTime->Moment()};
 }
 
 void FAutoFill::Times(const FillTexts& value)
 {
-    m_ui->dttbStartTime->SetText(QString::fromStdString(value.startTime));
-    m_ui->dttbEndTime->SetText(QString::fromStdString(value.endTime));
+    m_ui->dttbStartTime->SetText(QString::fromStdString(value.startTime.text));
+    m_ui->dttbEndTime->SetText(QString::fromStdString(value.endTime.text));
 }
 
 void FAutoFill::Forecast()

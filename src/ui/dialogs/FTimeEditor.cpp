@@ -3,6 +3,7 @@
 #include "model/CTimeRecord.h"
 #include "platform/Clock.h"
 #include "platform/Desktop.h"
+#include "platform/ErrorNumbers.h"
 #include "platform/Succeeds.h"
 #include "platform/Text.h"
 #include "ui/dialogs/TimeRecordReceiver.h"
@@ -14,8 +15,6 @@ namespace {
 
 constexpr auto kFormatTitle = "Date Format Error";
 constexpr auto kFormatText = "Error: Invalid date separator. Use : to separate time values.";
-
-constexpr std::int32_t kRecordRejected = 608;
 constexpr int kWarningLines = 2;
 
 void ShowDay(DateTimeBox& box, DateTime moment, DateTime today)
@@ -102,15 +101,14 @@ void FTimeEditor::Warn()
 
 RecordTexts FTimeEditor::Texts() const
 {
-    const auto text = [](const DateTimeBox* box) { return box->Text().toStdString(); };
-    return {text(m_ui->dttbStartDate), text(m_ui->dttbStartTime), text(m_ui->dttbEndDate), text(m_ui->dttbEndTime)};
+    return {m_ui->dttbStartDate->Moment(), m_ui->dttbStartTime->Moment(), m_ui->dttbEndDate->Moment(), m_ui->dttbEndTime->Moment()};
 }
 
 void FTimeEditor::Texts(const RecordTexts& value)
 {
-    const std::array<const std::string*, 4> texts{&value.startDate, &value.startTime, &value.endDate, &value.endTime};
-    for (std::size_t i = 0; i < texts.size(); ++i) {
-        Boxes().at(i)->SetText(QString::fromStdString(*texts.at(i)));
+    const std::array<const TypedMoment*, 4> moments{&value.startDate, &value.startTime, &value.endDate, &value.endTime};
+    for (std::size_t i = 0; i < moments.size(); ++i) {
+        Boxes().at(i)->SetText(QString::fromStdString(moments.at(i)->text));
     }
     FollowTyping();
 }
@@ -207,7 +205,7 @@ void FTimeEditor::Save()
 {
     ReadTimeRecord();
     if (m_parentWindow == nullptr || !m_parentWindow->ReturnTimeRecord(m_timeRecord)) {
-        m_saveErrorNumber = kRecordRejected;
+        m_saveErrorNumber = timecard::RecordRejected;
     }
     accept();
 }

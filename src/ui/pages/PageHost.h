@@ -1,6 +1,8 @@
 // What a tab page knows of the main window around it.
 #pragma once
 
+#include "platform/ErrorNumbers.h"
+
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -24,14 +26,6 @@ inline constexpr std::int32_t SSN = 3;
 inline constexpr std::int32_t TimeRecordGrid = 4;
 inline constexpr std::int32_t EmployeeNumber = 5;
 } // namespace eventsource
-
-// Error numbers of the main window.
-namespace windowerror {
-inline constexpr std::int32_t NoController = 211;
-inline constexpr std::int32_t FillListsFailed = 221;
-inline constexpr std::int32_t ShowPageFailed = 281;
-inline constexpr std::int32_t ClearFieldsFailed = 283;
-} // namespace windowerror
 
 // What two date boxes show.
 struct PeriodTexts

@@ -2,7 +2,6 @@
 
 #include "platform/Clock.h"
 #include "platform/Text.h"
-#include "platform/TypedTime.h"
 
 #include <QApplication>
 #include <QFocusEvent>
@@ -37,8 +36,14 @@ void DateTimeBox::SetDateMode(const Clock& clock)
 
 QString DateTimeBox::Text() const
 {
-    const std::string readable = Readable(text());
-    return readable.empty() ? text() : QString::fromStdString(readable);
+    const auto moment = Read();
+    return moment ? QString::fromStdString(FormatDateTime(*moment, m_format)) : text();
+}
+
+TypedMoment DateTimeBox::Moment() const
+{
+    std::string text = Text().toStdString();
+    return m_dateClock == nullptr ? TypedTime(std::move(text)) : TypedDate(std::move(text), m_dateClock->Today());
 }
 
 void DateTimeBox::SetText(const QString& text)
@@ -53,18 +58,17 @@ void DateTimeBox::Clear()
     SetText({});
 }
 
-std::string DateTimeBox::Readable(const QString& text) const
+std::optional<DateTime> DateTimeBox::Read() const
 {
-    const std::string typed = text.toStdString();
-    const auto value = m_dateClock == nullptr ? ReadTypedTime(typed) : ReadTypedDate(typed, m_dateClock->Today());
-    return value ? FormatDateTime(*value, m_format) : std::string();
+    const std::string typed = text().toStdString();
+    return m_dateClock == nullptr ? ReadTypedTime(typed) : ReadTypedDate(typed, m_dateClock->Today());
 }
 
 void DateTimeBox::Type()
 {
     m_unreported = true;
     emit KeyEntered();
-    if (!Readable(text()).empty()) {
+    if (Read()) {
         emit Typed();
     }
 }

@@ -1,6 +1,9 @@
 // A box for a time of day, or for a date: free text that is put right on leaving.
 #pragma once
 
+#include "platform/TypedTime.h"
+
+#include <optional>
 #include <QLineEdit>
 #include <string>
 
@@ -20,7 +23,8 @@ public:
     void SetDisplayFormat(std::string pattern); // of a time, in the tokens of FormatDateTime; "hh:mm:ss AM/PM" at first
     void SetDateMode(const Clock& clock);       // the clock tells this year and must outlive the box
 
-    QString Text() const; // as it will be shown on leaving
+    QString Text() const;       // as it will be shown on leaving
+    TypedMoment Moment() const; // that text and what it was read as
     void SetText(const QString& text);
     void Clear();
     void TakeNote() { m_unreported = false; } // the text has been read by other means: no Changed is owed for it any more
@@ -39,7 +43,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    std::string Readable(const QString& text) const; // in display form, empty when it cannot be read
+    std::optional<DateTime> Read() const;
     void Type();
     void Finish();
     void ReportSoon();
