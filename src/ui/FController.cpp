@@ -2,7 +2,6 @@
 
 #include "model/CCompanyList.h"
 #include "model/CEmployeeList.h"
-#include "model/CTimeCard.h"
 #include "shell/CDocLauncher.h"
 #include "startup/CController.h"
 #include "startup/Notices.h"
@@ -234,7 +233,7 @@ void FController::Load()
         return;
     }
     ShowTabPage(kTimeCardTab);
-    m_timeCard = nullptr;
+    m_timeCardPage->GiveUpCard();
     m_reports->Clear(false);
     m_timeCardPage->InitializePayPeriod();
 }
@@ -282,16 +281,6 @@ bool FController::DisplaySystemOptions(std::shared_ptr<CSystemOptions> options)
 bool FController::ReturnTimeRecord(const std::shared_ptr<CTimeRecord>& thetimerecord)
 {
     return m_timeCardPage->ReturnTimeRecord(thetimerecord);
-}
-
-bool FController::FillEmployeeLists()
-{
-    try {
-        m_employeeModels->SetEmployees(m_controller->EmployeeList());
-        return true;
-    } catch (...) {
-        return false;
-    }
 }
 
 bool FController::SetStatusText(const std::string& name, const std::string& identifier)
@@ -399,7 +388,7 @@ void FController::CloseDown(bool keepReview)
     if (!m_optionsPage->SaveSystemOptions()) {
         Tell(m_desktop, notice::OptionsUnsaved);
     }
-    m_timeCard = nullptr;
+    m_timeCardPage->GiveUpCard();
     m_overview.reset();
     m_reports->Clear(keepReview);
     const auto controller = m_controller;

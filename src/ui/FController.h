@@ -59,11 +59,8 @@ public:
     void Log(const std::string& line) override;
     std::int32_t EventSource() const override { return m_eventSource; }
     void EventSource(std::int32_t value) override { m_eventSource = value; }
-    std::shared_ptr<CTimeCard> TimeCard() const override { return m_timeCard; }
-    void TimeCard(std::shared_ptr<CTimeCard> value) override { m_timeCard = std::move(value); }
     PeriodTexts TimeCardPeriod() const override;
     ptk::EmployeeModels& EmployeeModels() const override { return *m_employeeModels; }
-    bool FillEmployeeLists() override;
     OpenReports& Reports() const override { return *m_reports; }
 
 protected:
@@ -112,7 +109,6 @@ private:
     std::int16_t m_lastTab = 0; // chosen on the tab strip, 1 to 5; 0 before the first choice
     std::int32_t m_errorNumber = 0;
     std::int32_t m_eventSource = eventsource::None;
-    std::shared_ptr<CTimeCard> m_timeCard;
     int m_tabsWidth = 0; // of the tabs with their icons
     bool m_loaded = false;
     bool m_closing = false;

@@ -22,7 +22,7 @@ public:
     Host(std::shared_ptr<CController> controller, ptk::Desktop& desktop, const ptk::Clock& clock, const std::string& programFolder)
         : m_controller(std::move(controller)), m_desktop(desktop), m_clock(clock), m_reports(*this, programFolder)
     {
-        FillEmployeeLists();
+        m_models.SetEmployees(m_controller->EmployeeList());
     }
 
     std::shared_ptr<CController> Controller() const override { return m_controller; }
@@ -38,15 +38,8 @@ public:
     void Log(const std::string& line) override { logged.push_back(line); }
     std::int32_t EventSource() const override { return eventsource::None; }
     void EventSource(std::int32_t) override {}
-    std::shared_ptr<CTimeCard> TimeCard() const override { return nullptr; }
-    void TimeCard(std::shared_ptr<CTimeCard>) override {}
     PeriodTexts TimeCardPeriod() const override { return {"02/18/2003", "03/04/2003"}; }
     ptk::EmployeeModels& EmployeeModels() const override { return m_models; }
-    bool FillEmployeeLists() override
-    {
-        m_models.SetEmployees(m_controller->EmployeeList());
-        return true;
-    }
     OpenReports& Reports() const override { return m_reports; }
 
     std::string status;

@@ -30,10 +30,9 @@ CurrentCard::CurrentCard(PageHost& host, const Place& place, QObject* parent)
 
 void CurrentCard::Mark()
 {
-    const auto card = m_host.TimeCard();
     const CardName chosen = m_choice.Chosen();
     const bool shown = m_display.ShowsCard();
-    const std::string strange = card == nullptr ? std::string() : StrangeCardText(NameOf(*card), shown, chosen);
+    const std::string strange = m_card == nullptr ? std::string() : StrangeCardText(NameOf(*m_card), shown, chosen);
     m_mark.Say(QString::fromStdString(strange));
     m_display.SetStrange(shown && !strange.empty());
     m_display.SetHint(QString::fromStdString(NextStepText(chosen)));
@@ -47,7 +46,7 @@ bool CurrentCard::RefreshTimeCard()
         if (m_choice.EmployeeText().empty()) {
             Tell(m_host.Desktop(), kNoEmployeeChosen);
         } else if (Regenerate()) {
-            m_line.Say(QString::fromStdString(GeneratedText(*m_host.TimeCard())));
+            m_line.Say(QString::fromStdString(GeneratedText(*m_card)));
         }
         return true;
     };
@@ -67,12 +66,12 @@ std::shared_ptr<CEmployee> CurrentCard::EmployeeToShow() const
 
 bool CurrentCard::GenerateTimeCard()
 {
-    m_host.TimeCard(nullptr);
+    m_card = nullptr;
     m_checked = nullptr;
     const auto controller = Required(m_host.Controller());
     const auto employee = EmployeeToShow();
     const auto card = std::make_shared<CTimeCard>(Required(controller->TimeRecordFactory()));
-    m_host.TimeCard(card);
+    m_card = card;
     card->PTKDatabase(controller->PTKDatabase());
     const bool generated = Load(*card, employee, m_choice.Period());
     if (!generated) {
@@ -128,7 +127,7 @@ void CurrentCard::RegenerateAfterSave()
 // Of its own employee and period, whatever the boxes say by now.
 bool CurrentCard::ReadAgain()
 {
-    const auto card = Required(m_host.TimeCard());
+    const auto card = Required(m_card);
     if (!m_display.ShowsCard() && !m_display.ShowsFindings()) {
         return true;
     }
@@ -153,7 +152,7 @@ void CurrentCard::CheckAgain()
 
 void CurrentCard::RenewFor(std::int32_t savedEmployee)
 {
-    const auto card = m_host.TimeCard();
+    const auto card = m_card;
     if (card == nullptr || card->Employee() == nullptr || card->Employee()->EmployeeID() != savedEmployee) {
         return;
     }
@@ -172,7 +171,7 @@ void CurrentCard::RenewFor(std::int32_t savedEmployee)
 bool CurrentCard::ShowTimeCard()
 {
     SetupTimeRecordGrid();
-    m_display.DisplayTimeCard(*Required(m_host.TimeCard()));
+    m_display.DisplayTimeCard(*Required(m_card));
     ShowFindings();
     Mark();
     return false;
@@ -224,8 +223,7 @@ void CurrentCard::Complain(const std::string& line)
 
 std::string CurrentCard::Employee() const
 {
-    const auto card = m_host.TimeCard();
-    return card == nullptr ? std::string() : NameOf(*card).employee;
+    return m_card == nullptr ? std::string() : NameOf(*m_card).employee;
 }
 
 } // namespace ptk

@@ -40,6 +40,8 @@ public:
 
     CurrentCard(PageHost& host, const Place& place, QObject* parent);
 
+    const std::shared_ptr<CTimeCard>& Card() const { return m_card; } // nullptr before the first generation
+    void GiveUp() { m_card = nullptr; }
     bool RefreshTimeCard();                    // generates and shows it; false for any run-time failure
     void RegenerateAfterSave();                // the same, with a box for that failure, and with nothing in the line when it is shown
     bool ReadAgain();                          // without a box; where that fails, false, what is shown stays. May raise failures.
@@ -74,6 +76,7 @@ private:
     HintLabel& m_mark;
     CardDisplay& m_display;
     NoticeLine& m_line;
+    std::shared_ptr<CTimeCard> m_card;
     std::optional<std::int32_t> m_meant;
     std::shared_ptr<const CheckedTimecard> m_checked; // the current card as it was last loaded; nullptr before
 };

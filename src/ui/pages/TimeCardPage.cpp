@@ -108,9 +108,14 @@ bool TimeCardPage::ClearTimeCardDisplay()
     return m_card->ClearTimeCardDisplay();
 }
 
+void TimeCardPage::GiveUpCard()
+{
+    m_card->GiveUp();
+}
+
 void TimeCardPage::EnableFill()
 {
-    const bool hasCard = m_host.TimeCard() != nullptr;
+    const bool hasCard = m_card->Card() != nullptr;
     m_ui->cmdFill->setEnabled(hasCard);
     m_ui->cmdFill->setToolTip(hasCard ? QString() : kNothingToFill);
 }
@@ -203,7 +208,7 @@ void TimeCardPage::Generate()
 
 void TimeCardPage::NewRecord()
 {
-    if (m_host.TimeCard() == nullptr) {
+    if (m_card->Card() == nullptr) {
         return Tell(m_host.Desktop(), kNoCardForNew);
     }
     OpenEditor({std::make_shared<CTimeRecord>(), true, {}});
@@ -211,7 +216,7 @@ void TimeCardPage::NewRecord()
 
 void TimeCardPage::EditRecord()
 {
-    if (m_host.TimeCard() == nullptr) {
+    if (m_card->Card() == nullptr) {
         return Tell(m_host.Desktop(), kNoCard);
     }
     const auto record = m_card->ChosenRecord();
@@ -231,7 +236,7 @@ void TimeCardPage::OfferElsewhere(const FindingPlace& place)
 
 void TimeCardPage::EditElsewhere(const Punch& punch)
 {
-    const auto card = m_host.TimeCard();
+    const auto card = m_card->Card();
     const auto employee = card == nullptr ? nullptr : card->Employee();
     const auto record = employee == nullptr ? nullptr : RecordToEdit(punch, employee->EmployeeID());
     if (record == nullptr) {
@@ -286,7 +291,7 @@ bool TimeCardPage::ReturnTimeRecord(const std::shared_ptr<CTimeRecord>& thetimer
 
 void TimeCardPage::DeleteRecord()
 {
-    if (m_host.TimeCard() == nullptr) {
+    if (m_card->Card() == nullptr) {
         return Tell(m_host.Desktop(), kNoCard);
     }
     const auto record = m_card->ChosenRecord();
@@ -335,7 +340,7 @@ void TimeCardPage::HandOver(FAutoFill& window)
     const auto employee = Required(Required(controller->EmployeeList())->GetEmployeeByName(m_choice->EmployeeText()));
     window.EmployeeID(NarrowToInt16(employee->EmployeeID()));
     window.PeriodLength(options->PeriodLength());
-    window.TimeRecordList(Required(m_host.TimeCard())->TimeRecordList());
+    window.TimeRecordList(Required(m_card->Card())->TimeRecordList());
     const BusyPointer busy(m_host.Desktop());
     window.Announce("For " + employee->DisplayName(), DaysWithRecords(*Required(controller->PTKDatabase()), employee->EmployeeID()));
 }
@@ -357,7 +362,7 @@ bool TimeCardPage::StoreAndShow(const Storing& storing)
     m_ui->notice->Clear();
     const auto store = [&] {
         const BusyPointer busy(m_host.Desktop());
-        return storing.step(*Required(m_host.TimeCard()), *Required(Controller()->TimeRecordFactory()));
+        return storing.step(*Required(m_card->Card()), *Required(Controller()->TimeRecordFactory()));
     };
     if (Succeeds(store)) {
         m_card->RegenerateAfterSave();
@@ -365,7 +370,7 @@ bool TimeCardPage::StoreAndShow(const Storing& storing)
         m_ui->notice->Say(Line(storing.done) + (trouble.isEmpty() ? trouble : "; " + trouble));
         return true;
     }
-    const auto card = m_host.TimeCard();
+    const auto card = m_card->Card();
     const std::string refused = card == nullptr ? storing.refused : RefusedText(storing.refused, *card);
     Tell(m_host.Desktop(), storing.failed);
     Succeeds([this] { return m_card->ReadAgain(); });
@@ -386,10 +391,10 @@ void TimeCardPage::Print()
     };
     const auto print = [&] {
         if (!m_card->RefreshTimeCard()) {
-            tell(Required(m_host.TimeCard())->ErrorNumber());
+            tell(Required(m_card->Card())->ErrorNumber());
         }
         std::int32_t errorNumber = 0;
-        if (!m_host.Reports().PrintTimeCard(m_host.TimeCard(), errorNumber)) {
+        if (!m_host.Reports().PrintTimeCard(m_card->Card(), errorNumber)) {
             tell(errorNumber);
         }
         return true;
