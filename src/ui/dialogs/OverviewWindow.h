@@ -81,7 +81,7 @@ private:
     SortedOverview* m_sorted;
     OverviewTotalsModel* m_totals;
     std::shared_ptr<OverviewReading> m_reading; // that goes on, or the last one; nullptr before the first
-    const OverviewRow* m_told = nullptr; // whose findings are shown; part of the reading that is shown
+    const OverviewRow* m_told = nullptr;        // whose findings are shown; part of the reading that is shown
     std::optional<std::int32_t> m_kept;         // the employee who was chosen in the reading before
     QTimer m_next;
 };
