@@ -2,7 +2,6 @@
 
 #include "office/CardTexts.h"
 #include "platform/Text.h"
-#include "reports/ReportCatalog.h"
 
 #include <algorithm>
 #include <fmt/format.h>
@@ -142,8 +141,7 @@ PayPeriod OverviewPeriod(const std::optional<PayPeriod>& timecards, DateTime tod
     if (timecards && timecards->from <= timecards->to && timecards->from != today) {
         return *timecards;
     }
-    const ReportPeriod running = DefaultPayPeriod(today, periodLength);
-    return {running.from, running.to};
+    return DefaultPayPeriod(today, periodLength);
 }
 
 } // namespace ptk

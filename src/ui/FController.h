@@ -42,11 +42,11 @@ public:
     void Controller(std::shared_ptr<CController> value) override;
     bool DisplaySystemOptions(std::shared_ptr<CSystemOptions> options) override; // into the Options page
     bool ReturnTimeRecord(const std::shared_ptr<CTimeRecord>& thetimerecord);    // the editor's way back; always true
-    bool UnloadTimeCardReport() { return m_reports->UnloadTimeCardReport(); }
-    bool UnloadReviewReport() { return m_reports->UnloadReviewReport(); }
-    bool UnloadYTDTotalsReport() { return m_reports->UnloadYTDTotalsReport(); }
-    bool UnloadEmployeeReport() { return m_reports->UnloadEmployeeReport(); }
-    bool UnloadPhoneBookReport() { return m_reports->UnloadPhoneBookReport(); }
+    bool UnloadTimeCardReport() { return m_reports->UnloadReport(ReportKind::TimeCard); }
+    bool UnloadReviewReport() { return m_reports->UnloadReport(ReportKind::Review); }
+    bool UnloadYTDTotalsReport() { return m_reports->UnloadReport(ReportKind::YTDTotals); }
+    bool UnloadEmployeeReport() { return m_reports->UnloadReport(ReportKind::Employee); }
+    bool UnloadPhoneBookReport() { return m_reports->UnloadReport(ReportKind::PhoneBook); }
 
     void Unload() override;
     std::uintptr_t WindowHandle() const override { return static_cast<std::uintptr_t>(winId()); }

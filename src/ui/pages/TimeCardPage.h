@@ -44,7 +44,7 @@ public:
     bool ClearTimeCardDisplay(); // always true
     void SelectFirstEmployee();
     void EnablePrint();
-    void GiveUpCard(); // the current one; the display stays
+    void GiveUpCard();                                               // the current one; the display stays
     PeriodTexts Period() const;                                      // as the boxes show it
     std::optional<PayPeriod> ChosenPeriod() const;                   // nothing while a box holds no date
     void ShowCard(std::int32_t employeeID, const PayPeriod& period); // chooses and generates it, with the list of what was found
