@@ -101,7 +101,7 @@ const RowMark* TimeRecordGridModel::Mark(const CardLine& line) const
 // In every cell: a reader hears it whichever of them is the current one.
 QString TimeRecordGridModel::MarkedNote(const CardLine& line, int column) const
 {
-    const QString note = Note(line, column);
+    QString note = Note(line, column);
     const RowMark* mark = Mark(line);
     if (mark == nullptr) {
         return note;
