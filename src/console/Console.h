@@ -32,10 +32,10 @@ struct Console
 void Complain(std::ostream& err, const Failure& failure);
 
 // Says what is wrong with the command line; answers the status for that.
-int RefuseUsage(std::ostream& err, const std::string& text);
+[[nodiscard]] int RefuseUsage(std::ostream& err, const std::string& text);
 
 // Texts carry CR LF, as files keep them; a terminal wants LF alone. Names come from whoever filled the database: any other control
 // character but the tab, which a terminal might take for a command, becomes a question mark.
-std::string TerminalText(std::string_view text);
+[[nodiscard]] std::string TerminalText(std::string_view text);
 
 } // namespace ptk

@@ -10,6 +10,6 @@ namespace ptk {
 class Clock;
 
 // `words`: the command line without the program's name. Never raises; output that could not be written is a failure too.
-int RunConsole(const std::vector<std::string>& words, const Clock& clock, std::ostream& out, std::ostream& err);
+[[nodiscard]] int RunConsole(const std::vector<std::string>& words, const Clock& clock, std::ostream& out, std::ostream& err);
 
 } // namespace ptk

@@ -7,7 +7,6 @@
 #include <vector>
 
 namespace ptk {
-
 // How somebody's days look.
 enum class WorkPattern
 {
@@ -29,11 +28,11 @@ struct SampleEmployee
 
 // `today` is midnight of the sample's last day. The same `today` gives the same business. Raise Failure 5 or 6 when its dates leave the
 // calendar.
-std::vector<CompanyRow> SampleCompanies();
-std::vector<SampleEmployee> SampleEmployees(DateTime today);
+[[nodiscard]] std::vector<CompanyRow> SampleCompanies();
+[[nodiscard]] std::vector<SampleEmployee> SampleEmployees(DateTime today);
 
 // In order of their start: finished shifts up to yesterday, or to the release, and the open record of today.
-std::vector<TimeRecordRow> SampleShifts(const SampleEmployee& employee, std::int32_t employeeID, DateTime today);
+[[nodiscard]] std::vector<TimeRecordRow> SampleShifts(const SampleEmployee& employee, std::int32_t employeeID, DateTime today);
 
 // Puts into the shifts of some employees what goes wrong in every business: of each kind that the check of a card finds at least one, so
 // far as shifts can show it, nearly all in the week before today. REQUIRES: the shifts are those that SampleShifts answers.

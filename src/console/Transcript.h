@@ -14,10 +14,17 @@ class Failure;
 class Transcript
 {
 public:
-    void Print(std::string text);          // on the output
-    void Note(std::string_view line);      // on the error output, after the program's name
-    void Complain(const Failure& failure); // as ptk::Complain
-    void SayAll(const Console& console);   // in the order in which it came, once
+    // On the output.
+    void Print(std::string text);
+
+    // On the error output, after the program's name.
+    void Note(std::string_view line);
+
+    // As ptk::Complain.
+    void Complain(const Failure& failure);
+
+    // In the order in which it came, once.
+    void SayAll(const Console& console);
 
 private:
     struct Saying

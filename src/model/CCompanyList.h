@@ -9,13 +9,14 @@
 #include <string_view>
 
 namespace ptk {
-
 // The look-ups find the first match in list order, else nullptr.
 class CCompanyList final : public EntityList<CCompanyList, CCompany>, public CompanySink
 {
 public:
     std::shared_ptr<CCompany> GetCompanyByID(std::int32_t theid);
-    std::shared_ptr<CCompany> GetCompanyByName(std::string_view thename); // exact, in its letter case
+
+    // Exact, in its letter case.
+    std::shared_ptr<CCompany> GetCompanyByName(std::string_view thename);
 
     bool InsertLoaded(CompanyRow row, std::int32_t position) override;
 

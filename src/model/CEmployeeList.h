@@ -10,13 +10,15 @@
 #include <string_view>
 
 namespace ptk {
-
 // The look-ups find the first match in list order, else nullptr; texts match exactly, in their letter case.
 class CEmployeeList final : public EntityList<CEmployeeList, CEmployee>, public EmployeeSink
 {
 public:
     std::shared_ptr<CEmployee> GetEmployeeByID(std::int32_t theid);
-    std::shared_ptr<CEmployee> GetEmployeeByName(std::string_view thename); // by display name
+
+    // By display name.
+    std::shared_ptr<CEmployee> GetEmployeeByName(std::string_view thename);
+
     std::shared_ptr<CEmployee> GetEmployeeBySSN(std::string_view thessn);
     std::shared_ptr<CEmployee> GetEmployeeByNumber(std::int32_t thenumber);
 

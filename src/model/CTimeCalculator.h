@@ -22,19 +22,26 @@ struct WorkedShift
 class CTimeCalculator
 {
 public:
-    float RegularHours() const { return m_regularHours; } // negative when deductions exceed the hours, deliberately
-    float OvertimeHours() const { return m_overtimeHours; }
-    float RegularPay() const { return m_regularPay; }
-    float OvertimePay() const { return m_overtimePay; }
-    float TotalPay() const { return m_totalPay; }
-    float TotalBreakTime() const { return m_totalBreakTime; } // what was deducted
-    std::int32_t ErrorNumber() const { return 0; }            // a failure is told by the answer alone
+    // Negative when deductions exceed the hours, deliberately.
+    [[nodiscard]] float RegularHours() const { return m_regularHours; }
+
+    [[nodiscard]] float OvertimeHours() const { return m_overtimeHours; }
+    [[nodiscard]] float RegularPay() const { return m_regularPay; }
+    [[nodiscard]] float OvertimePay() const { return m_overtimePay; }
+    [[nodiscard]] float TotalPay() const { return m_totalPay; }
+
+    // What was deducted.
+    [[nodiscard]] float TotalBreakTime() const { return m_totalBreakTime; }
+
+    // A failure is told by the answer alone.
+    [[nodiscard]] std::int32_t ErrorNumber() const { return 0; }
 
     // REQUIRES: the list is in order of start times. False, with the figures as far as they were summed, for more than 32,767 records or an
     // overflow.
     bool CalculateTimes(const CEmployee& theemployee, const CTimeRecordList& thetimerecordlist);
 
-    bool CalculateTimes(const CEmployee& theemployee, std::span<const WorkedShift> theshifts); // the same, by start
+    // The same, by start.
+    bool CalculateTimes(const CEmployee& theemployee, std::span<const WorkedShift> theshifts);
 
     // Rates in money per hour. The total pay; 0 on an overflow. Negative regular hours pay nothing at all, not even overtime, deliberately.
     float CalculatePay(float theregularrate, float theovertimerate);

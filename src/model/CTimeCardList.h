@@ -7,13 +7,15 @@
 #include <memory>
 
 namespace ptk {
-
 // Whether Insert, Move and Remove succeeded is read from ErrorNumber. Cards live in memory only: they are generated, never loaded or saved.
 class CTimeCardList final : public DatabaseList<CTimeCardList, CTimeCard>
 {
 public:
-    bool LoadList(const std::shared_ptr<CJetDB>& thedatabase); // only keeps the database; false when there is none
-    bool SaveList();                                           // saves nothing; always false
+    // Only keeps the database; false when there is none.
+    bool LoadList(const std::shared_ptr<CJetDB>& thedatabase);
+
+    // Saves nothing; always false.
+    bool SaveList();
 };
 
 } // namespace ptk

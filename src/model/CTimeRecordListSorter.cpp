@@ -89,7 +89,7 @@ bool CTimeRecordListSorter::Sort(std::int16_t /*sortorder*/)
         return false;
     }
     return SucceedsOr(recordsorter::SortFailed, m_errorNumber, [&] {
-        NarrowToInt16(m_list->Count()); // positions are 16-bit numbers here
+        static_cast<void>(NarrowToInt16(m_list->Count())); // positions are 16-bit numbers here
         if (!InOrder(*m_list)) {
             SelectionSort();
         }

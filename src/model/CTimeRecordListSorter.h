@@ -19,13 +19,17 @@ public:
     CTimeRecordListSorter() = default;
     explicit CTimeRecordListSorter(std::shared_ptr<CTimeRecordList> list);
 
-    std::int32_t ErrorNumber() const { return m_errorNumber; }
+    [[nodiscard]] std::int32_t ErrorNumber() const { return m_errorNumber; }
     void TimeRecordList(std::shared_ptr<CTimeRecordList> value);
-    std::shared_ptr<CTimeRecordList> TimeRecordList() const { return m_list; }
+    [[nodiscard]] std::shared_ptr<CTimeRecordList> TimeRecordList() const { return m_list; }
 
-    std::int32_t Find(const std::shared_ptr<CTimeRecord>& thisobject); // the same object
+    // The same object.
+    std::int32_t Find(const std::shared_ptr<CTimeRecord>& thisobject);
+
     std::shared_ptr<CTimeRecord> GetTimeRecordByKey(DateTime thestarttime, DateTime theendtime);
-    std::int32_t GetIndexByKey(DateTime theshiftdate, DateTime thestarttime, DateTime theendtime); // the shift date is not used
+
+    // The shift date is not used.
+    std::int32_t GetIndexByKey(DateTime theshiftdate, DateTime thestarttime, DateTime theendtime);
 
     // Ascending by start, then end, whatever the sort order; equal records stay in place. False without a list, and with 314 for more than
     // 32,767 records. A list that is out of order loses each record that would have to move, deliberately: see CTimeRecordList::Move.

@@ -39,12 +39,13 @@ struct CardCheck
     bool clockedIn = false;      // somebody is at work
     bool figuresReadable = true; // false: the card's fetch takes a row that cannot be read, so that the card has no figures
 
-    std::int64_t LongestWeek() const; // minutes, 0 without weeks
+    // Minutes, 0 without weeks.
+    [[nodiscard]] std::int64_t LongestWeek() const;
 };
 
 // `punches`: the rows that the card's fetch takes, those that start in or reach into a work week of the period, those that cross either end
 // of it, and those that cannot be read; further ones do no harm. Linear after sorting. Nothing to tell of somebody without a shift on the
 // card or across its ends and without a row that cannot be read: such a check is empty, its weeks included.
-CardCheck CheckCard(const CheckedCard& card, const Punches& punches, DateTime now, const CheckLimits& limits);
+[[nodiscard]] CardCheck CheckCard(const CheckedCard& card, const Punches& punches, DateTime now, const CheckLimits& limits);
 
 } // namespace ptk

@@ -19,12 +19,14 @@ struct CardLine
     std::shared_ptr<CTimeRecord> record; // whose line it is
 
     // In the record's own format of times.
-    std::string StartText() const;
-    std::string EndText() const;
+    [[nodiscard]] std::string StartText() const;
+    [[nodiscard]] std::string EndText() const;
 
-    std::string HoursText(float breakHours = 0) const; // less the break, with two decimals
+    // Less the break, with two decimals.
+    [[nodiscard]] std::string HoursText(float breakHours = 0) const;
 
-    void AppendTo(std::string& text, float breakHours) const; // start, tab, end, tab, hours
+    // Start, tab, end, tab, hours.
+    void AppendTo(std::string& text, float breakHours) const;
 };
 
 } // namespace ptk

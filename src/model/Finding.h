@@ -10,7 +10,6 @@
 #include <vector>
 
 namespace ptk {
-
 // In the order in which findings of one moment are listed.
 enum class FindingKind
 {
@@ -39,9 +38,13 @@ enum class Severity
     Notice   // look at it
 };
 
-std::string_view NameOf(FindingKind kind); // "unreadable", "clocked-in": as data files carry it
-Severity SeverityOf(FindingKind kind);
-std::string_view NameOf(Severity severity); // "problem", "notice"
+// "unreadable", "clocked-in": as data files carry it.
+[[nodiscard]] std::string_view NameOf(FindingKind kind);
+
+[[nodiscard]] Severity SeverityOf(FindingKind kind);
+
+// "problem", "notice".
+[[nodiscard]] std::string_view NameOf(Severity severity);
 
 struct Finding
 {

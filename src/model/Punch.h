@@ -10,7 +10,7 @@
 
 namespace ptk {
 
-inline bool IsSet(const std::optional<DateTime>& time)
+[[nodiscard]] inline bool IsSet(const std::optional<DateTime>& time)
 {
     return time && !time->IsZero();
 }
@@ -25,14 +25,14 @@ struct Punch
     std::string endText;
 
     // Both times are real moments and the shift has a beginning; the members below count on it.
-    bool IsReadable() const { return IsSet(start) && end; }
+    [[nodiscard]] bool IsReadable() const { return IsSet(start) && end; }
 
-    bool IsOpen() const { return end->IsZero(); }
-    bool IsBackward() const { return !IsOpen() && *end < *start; }
-    bool IsClosed() const { return !IsOpen() && *end >= *start; }
+    [[nodiscard]] bool IsOpen() const { return end->IsZero(); }
+    [[nodiscard]] bool IsBackward() const { return !IsOpen() && *end < *start; }
+    [[nodiscard]] bool IsClosed() const { return !IsOpen() && *end >= *start; }
 
     // Whole minutes, seconds cut off both ends; 0 for a shift that is open or ends before it starts.
-    std::int64_t Minutes() const { return IsClosed() ? MinutesBetween(*start, *end) : 0; }
+    [[nodiscard]] std::int64_t Minutes() const { return IsClosed() ? MinutesBetween(*start, *end) : 0; }
 };
 
 using Punches = std::vector<Punch>;

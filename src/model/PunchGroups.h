@@ -19,9 +19,9 @@ struct PunchGroup
 
 // Each shares at least one whole minute with another of its group: a chain is one group. Minutes of the clock that two or more cover, each
 // counted once.
-std::vector<PunchGroup> OverlappingPunches(std::span<const Punch* const> punches);
+[[nodiscard]] std::vector<PunchGroup> OverlappingPunches(std::span<const Punch* const> punches);
 
 // The same start to the second, at least one of them without a length: open, backward or empty. Minutes of all together.
-std::vector<PunchGroup> SameStartPunches(std::span<const Punch* const> punches);
+[[nodiscard]] std::vector<PunchGroup> SameStartPunches(std::span<const Punch* const> punches);
 
 } // namespace ptk

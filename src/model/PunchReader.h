@@ -27,8 +27,8 @@ public:
     Punches Read(std::int32_t employeeID);
 
 private:
-    bool IsFetched(const Statement& row) const;
-    Punch ReadPunch(const Statement& row) const;
+    [[nodiscard]] bool IsFetched(const Statement& row) const;
+    [[nodiscard]] Punch ReadPunch(const Statement& row) const;
 
     DateTime m_from; // the bounds of the card's fetch, both included
     DateTime m_end;

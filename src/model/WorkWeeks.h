@@ -23,7 +23,7 @@ struct WorkWeek
     DateTime from;                   // midnight of its first day
     std::int64_t minutes = 0;        // by the day rules of the card; automatic deduction can bring it below 0
     std::int64_t paidAsOvertime = 0; // what is above 8 hours on its days
-    std::int64_t Above40() const { return minutes > kWeeklyRegularMinutes ? minutes - kWeeklyRegularMinutes : 0; }
+    [[nodiscard]] std::int64_t Above40() const { return minutes > kWeeklyRegularMinutes ? minutes - kWeeklyRegularMinutes : 0; }
 };
 
 // The minutes of one calendar day: those of all shifts that start on it.
@@ -35,22 +35,24 @@ struct WorkDay
 };
 
 // The midnight after a day; at the calendar's end, which has none, its last second.
-DateTime EndOfDay(DateTime day);
+[[nodiscard]] DateTime EndOfDay(DateTime day);
 
 // Hours with two decimals, as a time card shows its own: of a single, so 20 minutes are "0.33".
-std::string HoursText(std::int64_t minutes);
+[[nodiscard]] std::string HoursText(std::int64_t minutes);
 
 // Both days midnight; the week's first weekday is 0 (Sunday) to 6. Weeks are cut at the calendar's first and last day.
-DateTime WeekStart(DateTime day, std::int32_t firstWeekday);
-DateTime WeekLast(DateTime day, std::int32_t firstWeekday); // the week's last day
+[[nodiscard]] DateTime WeekStart(DateTime day, std::int32_t firstWeekday);
+
+// The week's last day.
+[[nodiscard]] DateTime WeekLast(DateTime day, std::int32_t firstWeekday);
 
 // The days on which a shift starts, in order; their shifts are parts of `punches`, which stand by start, all of them readable.
-std::vector<WorkDay> DaysOf(std::span<const Punch* const> punches);
+[[nodiscard]] std::vector<WorkDay> DaysOf(std::span<const Punch* const> punches);
 
 // What is left of a day's minutes after the automatic deduction, where the employee has it; can be below 0.
-std::int64_t PaidMinutes(const WorkDay& day, const CEmployee& employee);
+[[nodiscard]] std::int64_t PaidMinutes(const WorkDay& day, const CEmployee& employee);
 
 // The weeks in which one of these days lies, in order.
-std::vector<WorkWeek> WeeksOf(const std::vector<WorkDay>& days, const CEmployee& employee, std::int32_t firstWeekday);
+[[nodiscard]] std::vector<WorkWeek> WeeksOf(const std::vector<WorkDay>& days, const CEmployee& employee, std::int32_t firstWeekday);
 
 } // namespace ptk

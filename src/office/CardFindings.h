@@ -15,9 +15,10 @@ struct CardCheck;
 struct CheckedTimecard;
 
 // In their order; without the notices where they are not to be shown.
-std::vector<Finding> ShownFindings(const CardCheck& check, bool showNotices);
+[[nodiscard]] std::vector<Finding> ShownFindings(const CardCheck& check, bool showNotices);
 
-std::string SpokenText(const Finding& finding); // "Problem: The shift that began on ... has no end and counts nothing."
+// "Problem: The shift that began on ... has no end and counts nothing.".
+[[nodiscard]] std::string SpokenText(const Finding& finding);
 
 // What a row of the card is marked with: its worst finding, and the sentences of all, a line each.
 struct RowMark
@@ -28,12 +29,12 @@ struct RowMark
 
 using RowMarks = std::unordered_map<std::int64_t, RowMark>; // by TimeRecordID
 
-RowMarks MarksOf(const CardCheck& check, bool showNotices);
+[[nodiscard]] RowMarks MarksOf(const CardCheck& check, bool showNotices);
 
 // The line between grid and figures: "2 problems, 1 notice". Behind it the record that keeps the card from being made, and its value, or
 // why nothing was checked. Both can be empty.
-std::string FindingLineText(const CheckedTimecard& checked);
-std::string FindingDetailText(const CheckedTimecard& checked);
+[[nodiscard]] std::string FindingLineText(const CheckedTimecard& checked);
+[[nodiscard]] std::string FindingDetailText(const CheckedTimecard& checked);
 
 // Where the records of a finding are.
 struct FindingPlace
@@ -43,6 +44,6 @@ struct FindingPlace
     std::string text;                    // on which days the first of the latter lies; empty when there is none
 };
 
-FindingPlace PlaceOf(const Finding& finding, const CheckedTimecard& checked);
+[[nodiscard]] FindingPlace PlaceOf(const Finding& finding, const CheckedTimecard& checked);
 
 } // namespace ptk

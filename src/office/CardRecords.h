@@ -14,17 +14,17 @@ struct Punch;
 // All of these are false when the database refused a statement, too, which the card itself answers true to. They may raise failures.
 
 // New or changed, as the record of the card's employee.
-bool StoreRecord(CTimeCard& card, CTimeRecordFactory& factory, const std::shared_ptr<CTimeRecord>& record);
+[[nodiscard]] bool StoreRecord(CTimeCard& card, CTimeRecordFactory& factory, const std::shared_ptr<CTimeRecord>& record);
 
 // A record that could not be deleted stays as it was, so that it does not go with the next save of the whole card.
-bool StoreDeletion(CTimeCard& card, CTimeRecordFactory& factory, const std::shared_ptr<CTimeRecord>& record);
+[[nodiscard]] bool StoreDeletion(CTimeCard& card, CTimeRecordFactory& factory, const std::shared_ptr<CTimeRecord>& record);
 
 // Every new or changed record of the card's list, or, where one is refused, none of them. The new ones then leave the list, so that they do
 // not go with the next save of the whole card.
-bool StoreCard(CTimeCard& card, CTimeRecordFactory& factory);
+[[nodiscard]] bool StoreCard(CTimeCard& card, CTimeRecordFactory& factory);
 
 // A stored record as the check read it, to be edited; a time that cannot be read is not set in it, so that storing it mends the row.
 // nullptr for a key that no time record can have.
-std::shared_ptr<CTimeRecord> RecordToEdit(const Punch& punch, std::int32_t employeeID);
+[[nodiscard]] std::shared_ptr<CTimeRecord> RecordToEdit(const Punch& punch, std::int32_t employeeID);
 
 } // namespace ptk

@@ -27,7 +27,8 @@ struct CheckedTimecard
 // Generates the card as GenerateTimecard does, the whole of the period's last day included, and checks it while the database is still held.
 // `now` and the limits are the check's alone; without limits those of the database hold. Raises Failure 6 when the day after the period is
 // beyond the calendar. The database is the card's.
-CheckedTimecard GenerateChecked(CTimeCard& card, const std::shared_ptr<CJetDB>& database, const std::shared_ptr<CEmployee>& employee,
-                                const PayPeriod& period, DateTime now, const std::optional<CheckLimits>& limits = std::nullopt);
+[[nodiscard]] CheckedTimecard GenerateChecked(CTimeCard& card, const std::shared_ptr<CJetDB>& database,
+                                              const std::shared_ptr<CEmployee>& employee, const PayPeriod& period, DateTime now,
+                                              const std::optional<CheckLimits>& limits = std::nullopt);
 
 } // namespace ptk

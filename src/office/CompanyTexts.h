@@ -23,7 +23,7 @@ struct CompanyTexts
     bool operator==(const CompanyTexts&) const = default;
 };
 
-CompanyTexts ShowCompanyTexts(const CCompany& company);
+[[nodiscard]] CompanyTexts ShowCompanyTexts(const CCompany& company);
 
 // Puts the texts, but not the ID, into the company, whose web address stays.
 void ReadCompanyTexts(const CompanyTexts& texts, CCompany& company);

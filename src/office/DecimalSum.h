@@ -11,8 +11,11 @@ namespace ptk {
 class DecimalSum
 {
 public:
-    void Add(std::string_view amount); // as TwoDecimals writes it: "-1234.50"
-    std::string Text() const;          // in the same form
+    // As TwoDecimals writes it: "-1234.50".
+    void Add(std::string_view amount);
+
+    // In the same form.
+    [[nodiscard]] std::string Text() const;
 
 private:
     static constexpr std::size_t kDigits = 64; // a single has at most 39 before the point

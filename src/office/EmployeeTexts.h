@@ -51,15 +51,15 @@ enum class EmployeeRefusal
 inline constexpr std::int32_t kAdministratorID = 39;
 
 // Deliberately shows no pay rates of an inactive employee, so that saving one from the page stores zero rates.
-EmployeeTexts ShowEmployeeTexts(const CEmployee& employee);
+[[nodiscard]] EmployeeTexts ShowEmployeeTexts(const CEmployee& employee);
 
-std::optional<EmployeeRefusal> CheckEmployeeTexts(const EmployeeTexts& texts);
+[[nodiscard]] std::optional<EmployeeRefusal> CheckEmployeeTexts(const EmployeeTexts& texts);
 
 // Puts the texts, but not the ID, into the employee. Raises Failure 13 or 6 for a text that does not fit its field; the employee is then
 // untouched.
 void ReadEmployeeTexts(const EmployeeTexts& texts, CEmployee& employee);
 
 // First and last name: the first blank ends the first name; without a blank all of it is the last name.
-std::pair<std::string, std::string> SplitDisplayName(std::string_view name);
+[[nodiscard]] std::pair<std::string, std::string> SplitDisplayName(std::string_view name);
 
 } // namespace ptk

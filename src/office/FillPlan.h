@@ -43,14 +43,14 @@ struct FillPlan
     std::vector<Shift> shifts; // one for every day of the range, in order; empty when refused
 };
 
-FillPlan PlanFill(const FillTexts& texts);
+[[nodiscard]] FillPlan PlanFill(const FillTexts& texts);
 
 using DayNumbers = std::set<std::int64_t>; // DateTime::DayNumber
 
 // The days on which shifts of the employee start, over the whole range that can be chosen. Nothing when they could not be read.
-std::optional<DayNumbers> DaysWithRecords(CJetDB& database, std::int32_t employeeID);
+[[nodiscard]] std::optional<DayNumbers> DaysWithRecords(CJetDB& database, std::int32_t employeeID);
 
 // What OK will do, in sentences. `taken`: the days that already have records.
-std::string FillForecast(const FillPlan& plan, const FillTexts& texts, const std::optional<DayNumbers>& taken);
+[[nodiscard]] std::string FillForecast(const FillPlan& plan, const FillTexts& texts, const std::optional<DayNumbers>& taken);
 
 } // namespace ptk

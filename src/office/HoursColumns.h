@@ -25,6 +25,6 @@ struct HoursColumn
 
 // Every day of the period and every further day on which a shift of the card starts, an open one later on; of a period longer than a year
 // the latter days alone. firstWeekday: of the work weeks, 0 Sunday to 6 Saturday.
-std::vector<HoursColumn> HoursColumns(const CardCheck& check, const PayPeriod& period, std::int32_t firstWeekday);
+[[nodiscard]] std::vector<HoursColumn> HoursColumns(const CardCheck& check, const PayPeriod& period, std::int32_t firstWeekday);
 
 } // namespace ptk

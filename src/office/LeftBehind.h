@@ -7,7 +7,6 @@
 #include <string>
 
 namespace ptk {
-
 // `Texts` holds a page as texts and flags, compares with ==, and has the texts `id`, empty for a new record, and `name`.
 template <typename Texts>
 struct LeftBehind
@@ -33,14 +32,14 @@ public:
     }
 
     // What differs on the page from what it first showed; nothing when nothing does.
-    std::optional<LeftBehind<Texts>> Left(const Texts& page) const
+    [[nodiscard]] std::optional<LeftBehind<Texts>> Left(const Texts& page) const
     {
         return page == m_shown ? std::nullopt : std::optional(LeftBehind<Texts>{m_shown, page});
     }
 
     // The same when an entry of this list has just been chosen, whose text has taken the place of what was typed there. A typed text that
     // the chosen one holds was typed to find it, and is not missed.
-    std::optional<LeftBehind<Texts>> LeftByChoice(Texts page, Field list) const
+    [[nodiscard]] std::optional<LeftBehind<Texts>> LeftByChoice(Texts page, Field list) const
     {
         const bool sought = LowerCase(page.*list).find(LowerCase(m_typed.*list)) != std::string::npos;
         page.*list = sought ? m_shown.*list : m_typed.*list;
@@ -55,7 +54,7 @@ private:
 
 // "Changes to Ann Lee were not saved", "Bo Kim was not saved" for a new one.
 template <typename Texts>
-std::string NoticeOf(const LeftBehind<Texts>& left)
+[[nodiscard]] std::string NoticeOf(const LeftBehind<Texts>& left)
 {
     if (!left.shown.id.empty()) {
         return "Changes to " + left.shown.name + " were not saved";

@@ -27,7 +27,7 @@ enum class ListSave
 
 // The 1-based position of the first entity that satisfies it, or 0.
 template <typename List, typename Predicate>
-std::int32_t PositionWhere(List& list, Predicate matches)
+[[nodiscard]] std::int32_t PositionWhere(List& list, Predicate matches)
 {
     for (std::int32_t i = 1; i <= list.Count(); ++i) {
         if (const auto entity = list.Item(i); entity != nullptr && matches(*entity)) {
@@ -48,7 +48,7 @@ struct EditedCopy
 // `key` is the text of the ID, empty for a new entity; `keyOf` tells an entity's ID. Nothing when no entity has that ID; raises Failure 13
 // or 6 for a text that is no ID.
 template <typename Entity, typename List, typename KeyOf>
-std::optional<EditedCopy<Entity>> CopyToEdit(List& list, const std::string& key, KeyOf keyOf)
+[[nodiscard]] std::optional<EditedCopy<Entity>> CopyToEdit(List& list, const std::string& key, KeyOf keyOf)
 {
     if (key.empty()) {
         return EditedCopy<Entity>{std::make_shared<Entity>(), list.Count() + 1};
@@ -64,7 +64,7 @@ std::optional<EditedCopy<Entity>> CopyToEdit(List& list, const std::string& key,
 // Puts the edited copy into the place of the entity at `position`, or at the end when the position is Count + 1, and saves the list. Where
 // that fails, the list is as before, in step with the database, so that the next try finds what this one found.
 template <typename List, typename Entity>
-ListSave SaveInPlace(List& list, const std::shared_ptr<Entity>& edited, std::int32_t position)
+[[nodiscard]] ListSave SaveInPlace(List& list, const std::shared_ptr<Entity>& edited, std::int32_t position)
 {
     const auto original = position <= list.Count() ? list.Remove(position) : nullptr;
     ListSave result = ListSave::NotInserted;
@@ -83,7 +83,7 @@ ListSave SaveInPlace(List& list, const std::shared_ptr<Entity>& edited, std::int
 
 // Whether the copy was saved; tells `notSaved` where the database refused. A list that does not take the copy is passed over in silence.
 template <typename List, typename Entity>
-bool SaveOrTell(Desktop& desktop, List& list, const EditedCopy<Entity>& edited, const char* notSaved)
+[[nodiscard]] bool SaveOrTell(Desktop& desktop, List& list, const EditedCopy<Entity>& edited, const char* notSaved)
 {
     const ListSave result = [&] {
         const BusyPointer busy(desktop);

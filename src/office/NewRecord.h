@@ -9,7 +9,6 @@
 #include <string>
 
 namespace ptk {
-
 // As the boxes answer them.
 struct RecordTexts
 {
@@ -18,11 +17,13 @@ struct RecordTexts
     TypedMoment endDate;
     TypedMoment endTime;
 
-    DateTime Start() const; // raise Failure 13
-    DateTime End() const;
+    // Raise Failure 13.
+    [[nodiscard]] DateTime Start() const;
+
+    [[nodiscard]] DateTime End() const;
 };
 
 // Sentences, or nothing for a record that lies in the period (where one is given) and has hours, and for one that cannot be read yet.
-std::string NewRecordWarning(const RecordTexts& texts, const std::optional<PayPeriod>& period);
+[[nodiscard]] std::string NewRecordWarning(const RecordTexts& texts, const std::optional<PayPeriod>& period);
 
 } // namespace ptk

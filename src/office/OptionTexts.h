@@ -19,16 +19,16 @@ struct OptionTexts
     std::string autoShiftEnd;
 };
 
-OptionTexts ShowOptions(const CSystemOptions& options);
+[[nodiscard]] OptionTexts ShowOptions(const CSystemOptions& options);
 
 // Takes the texts over one by one and writes the options to the database. The first text that is none stops it with false: that option is
 // then 0 in memory, those before it keep what was typed, and nothing is written. False also when the writing fails.
 // Raises Failure 6 for a period length beyond 16 bits.
-bool StoreOptions(CSystemOptions& options, const OptionTexts& texts);
+[[nodiscard]] bool StoreOptions(CSystemOptions& options, const OptionTexts& texts);
 
 // What a period length typed as this text means from today on: "A period has 15 days, for example 03/05/2003 - 03/19/2003". Empty for a
 // text that is no length.
-std::string PeriodExample(const std::string& periodLength, DateTime today);
+[[nodiscard]] std::string PeriodExample(const std::string& periodLength, DateTime today);
 
 // The limits of the check of time cards, likewise.
 struct LimitTexts
@@ -40,12 +40,12 @@ struct LimitTexts
     bool operator==(const LimitTexts&) const = default;
 };
 
-LimitTexts ShowLimits(const CheckLimits& limits);
+[[nodiscard]] LimitTexts ShowLimits(const CheckLimits& limits);
 
 // Nothing where the hours are no whole number from 1 to 999.
-std::optional<CheckLimits> ReadLimits(const LimitTexts& texts);
+[[nodiscard]] std::optional<CheckLimits> ReadLimits(const LimitTexts& texts);
 
 // Why they cannot be stored; empty when they can.
-std::string LimitRefusal(const LimitTexts& texts);
+[[nodiscard]] std::string LimitRefusal(const LimitTexts& texts);
 
 } // namespace ptk

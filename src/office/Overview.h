@@ -32,7 +32,8 @@ struct OverviewRow
     std::optional<CardFigures> figures; // none where the card cannot be computed: a row of it cannot be read, or there are more than 32,767
     CardCheck check;
 
-    std::string LongestWeek() const; // hours; "0.00" without a week
+    // Hours; "0.00" without a week.
+    [[nodiscard]] std::string LongestWeek() const;
 };
 
 struct Overview
@@ -54,7 +55,7 @@ struct OverviewTotals
 using Employees = std::vector<std::shared_ptr<CEmployee>>;
 
 // Those with hours to show, in the list's order; namesakes each.
-Employees OfferedEmployees(CEmployeeList& employees);
+[[nodiscard]] Employees OfferedEmployees(CEmployeeList& employees);
 
 // Called with each row as soon as it is read; false ends the reading.
 using RowTaken = std::function<bool(const OverviewRow& row)>;
@@ -62,9 +63,10 @@ using RowTaken = std::function<bool(const OverviewRow& row)>;
 // Reads one row an employee behind those that the overview has, all of one moment: the database is held until it returns. False when
 // `taken` ended it. Raises the failure of a database that cannot be opened or read. REQUIRES: database and employees are not nullptr; the
 // overview's period, moment and limits are set.
-bool ReadOverview(Overview& overview, const std::shared_ptr<CJetDB>& database, std::span<const std::shared_ptr<CEmployee>> employees,
-                  const RowTaken& taken = {});
+bool ReadOverview(Overview& overview, const std::shared_ptr<CJetDB>& database,
+                                std::span<const std::shared_ptr<CEmployee>> employees, const RowTaken& taken = {});
 
-OverviewTotals TotalsOf(std::span<const OverviewRow> rows, bool onlyProblems = false); // of those with problems alone
+// Of those with problems alone.
+[[nodiscard]] OverviewTotals TotalsOf(std::span<const OverviewRow> rows, bool onlyProblems = false);
 
 } // namespace ptk

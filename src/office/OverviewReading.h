@@ -8,7 +8,6 @@
 #include <memory>
 
 namespace ptk {
-
 // The database is held within ReadOn alone: between two calls other programs, and this one, get at it. Every row is of one moment, the
 // whole need not be.
 class OverviewReading
@@ -21,9 +20,12 @@ public:
     // Raises the failure of a database that cannot be opened or read; the rows that were read before stay.
     void ReadOn(const std::function<bool()>& goOn);
 
-    bool IsDone() const { return m_overview.rows.size() == m_employees.size(); }
-    const Overview& Result() const { return m_overview; } // as far as it has been read
-    std::size_t Offered() const { return m_employees.size(); }
+    [[nodiscard]] bool IsDone() const { return m_overview.rows.size() == m_employees.size(); }
+
+    // As far as it has been read.
+    [[nodiscard]] const Overview& Result() const { return m_overview; }
+
+    [[nodiscard]] std::size_t Offered() const { return m_employees.size(); }
 
 private:
     std::shared_ptr<CJetDB> m_database;

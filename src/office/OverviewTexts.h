@@ -8,12 +8,16 @@ namespace ptk {
 struct CardCheck;
 struct Overview;
 
-// Lines end in CR LF.
-std::string OverviewText(const Overview& overview); // a table, under each employee the sentences, below it the sums
-std::string OverviewCsv(const Overview& overview);  // one line an employee and one a finding
-std::string OverviewJson(const Overview& overview); // one object
+// Lines end in CR LF. A table, under each employee the sentences, below it the sums
+[[nodiscard]] std::string OverviewText(const Overview& overview);
+
+// One line an employee and one a finding.
+[[nodiscard]] std::string OverviewCsv(const Overview& overview);
+
+// One object.
+[[nodiscard]] std::string OverviewJson(const Overview& overview);
 
 // One line a finding, "    problem: ..."; without the notices where they are not to be shown.
-std::string FindingLines(const CardCheck& check, bool showNotices);
+[[nodiscard]] std::string FindingLines(const CardCheck& check, bool showNotices);
 
 } // namespace ptk

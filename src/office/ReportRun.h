@@ -6,7 +6,6 @@
 #include <vector>
 
 namespace ptk {
-
 // INVARIANT: failed <= done <= wanted.
 struct ReportRun
 {
@@ -16,21 +15,23 @@ struct ReportRun
     std::vector<std::string> reasons{}; // of those failures that have one in words, each once
 };
 
-void NoteFailure(ReportRun& run, const std::string& reason); // empty where there is none in words
+// Empty where there is none in words.
+void NoteFailure(ReportRun& run, const std::string& reason);
 
 // Of reports that are made one for each employee.
-std::string DescribeRun(const ReportRun& run);
+[[nodiscard]] std::string DescribeRun(const ReportRun& run);
 
 // Of one report for all: errorNumber and `missing` are the report's, 0 when it is whole; `people` is what was done of all who were wanted
 // in it.
-std::string DescribeReport(std::int32_t errorNumber, const std::string& missing, const ReportRun& people);
+[[nodiscard]] std::string DescribeReport(std::int32_t errorNumber, const std::string& missing, const ReportRun& people);
 
 // For a report's viewer, empty when the report is whole.
-std::string DescribeGaps(std::int32_t errorNumber, const std::string& missing);
+[[nodiscard]] std::string DescribeGaps(std::int32_t errorNumber, const std::string& missing);
 
-std::string DescribeSelection(std::int32_t selected, std::int32_t all); // "3 of 11 selected"
+// "3 of 11 selected".
+[[nodiscard]] std::string DescribeSelection(std::int32_t selected, std::int32_t all);
 
 // What printing the open reports one by one came to; it stops at the first one that no printer takes.
-std::string DescribePrinting(std::int32_t printed, std::int32_t open);
+[[nodiscard]] std::string DescribePrinting(std::int32_t printed, std::int32_t open);
 
 } // namespace ptk

@@ -31,9 +31,15 @@ class ReportClient
 public:
     virtual ~ReportClient() = default;
     virtual std::shared_ptr<Report> NewReport(const ReportEntry& entry) = 0;
-    virtual bool GoOn(std::int32_t done) = 0;                                         // before each employee; false ends the run
-    virtual void Say(const std::string& outcome) = 0;                                 // once, what the run came to
-    virtual void Made(Report& report, bool complete, const std::string& outcome) = 0; // with what this one came to
+
+    // Before each employee; false ends the run.
+    virtual bool GoOn(std::int32_t done) = 0;
+
+    // Once, what the run came to.
+    virtual void Say(const std::string& outcome) = 0;
+
+    // With what this one came to.
+    virtual void Made(Report& report, bool complete, const std::string& outcome) = 0;
 };
 
 // For each employee a report of their own, or one for all, as its entry says. Of one report it is said what the run came to before its

@@ -5,25 +5,25 @@
 
 namespace ptk {
 
-constexpr bool IsBlank(char c)
+[[nodiscard]] constexpr bool IsBlank(char c)
 {
     return c == ' ' || c == '\t';
 }
-constexpr bool IsDigit(char c)
+[[nodiscard]] constexpr bool IsDigit(char c)
 {
     return c >= '0' && c <= '9';
 }
-constexpr bool IsLetter(char c)
+[[nodiscard]] constexpr bool IsLetter(char c)
 {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
 }
-constexpr char LowerCase(char c)
+[[nodiscard]] constexpr char LowerCase(char c)
 {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
 // Without the blanks around.
-constexpr std::string_view Trimmed(std::string_view text)
+[[nodiscard]] constexpr std::string_view Trimmed(std::string_view text)
 {
     while (!text.empty() && IsBlank(text.front())) {
         text.remove_prefix(1);

@@ -9,9 +9,12 @@ class Clock
 {
 public:
     virtual ~Clock() = default;
-    virtual DateTime Now() const = 0; // the local wall clock
 
-    DateTime Today() const { return DateTime(Now().Date()); } // this day at midnight
+    // The local wall clock.
+    [[nodiscard]] virtual DateTime Now() const = 0;
+
+    // This day at midnight.
+    [[nodiscard]] DateTime Today() const { return DateTime(Now().Date()); }
 };
 
 class SystemClock final : public Clock

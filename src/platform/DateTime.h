@@ -30,18 +30,24 @@ public:
 
     // Raises Failure 5 when there is no such day or time.
     DateTime(CalendarDate date, TimeOfDay time = {});
-    static DateTime FromSeconds(std::int64_t secondsSinceZero);
+    [[nodiscard]] static DateTime FromSeconds(std::int64_t secondsSinceZero);
 
-    constexpr std::int64_t Seconds() const { return m_seconds; }
-    constexpr bool IsZero() const { return m_seconds == 0; }
+    [[nodiscard]] constexpr std::int64_t Seconds() const { return m_seconds; }
+    [[nodiscard]] constexpr bool IsZero() const { return m_seconds == 0; }
 
-    CalendarDate Date() const;
-    TimeOfDay Time() const;
-    constexpr std::int64_t DayNumber() const { return Whole(m_seconds, kDay); }       // since the zero date-time, negative before it
-    constexpr std::int64_t MinuteNumber() const { return Whole(m_seconds, kMinute); } // likewise, the seconds cut off
-    int Weekday() const;                                                              // 0 Sunday to 6 Saturday
+    [[nodiscard]] CalendarDate Date() const;
+    [[nodiscard]] TimeOfDay Time() const;
 
-    DateTime AddDays(std::int64_t days) const;
+    // Since the zero date-time, negative before it.
+    [[nodiscard]] constexpr std::int64_t DayNumber() const { return Whole(m_seconds, kDay); }
+
+    // Likewise, the seconds cut off.
+    [[nodiscard]] constexpr std::int64_t MinuteNumber() const { return Whole(m_seconds, kMinute); }
+
+    // 0 Sunday to 6 Saturday.
+    [[nodiscard]] int Weekday() const;
+
+    [[nodiscard]] DateTime AddDays(std::int64_t days) const;
 
     constexpr auto operator<=>(const DateTime&) const = default; // NOLINT(modernize-use-nullptr): not a pointer
 
@@ -50,17 +56,20 @@ private:
     static constexpr std::int64_t kDay = 86400;
 
     // Rounded down.
-    static constexpr std::int64_t Whole(std::int64_t seconds, std::int64_t unit) { return seconds / unit - (seconds % unit < 0 ? 1 : 0); }
+    [[nodiscard]] static constexpr std::int64_t Whole(std::int64_t seconds, std::int64_t unit)
+    {
+        return seconds / unit - (seconds % unit < 0 ? 1 : 0);
+    }
 
     std::int64_t m_seconds = 0;
 };
 
 // Calendar differences: the day or minute boundaries crossed from `from` to `to`, negative when `to` is earlier. Smaller units are ignored.
-constexpr std::int64_t DaysBetween(DateTime from, DateTime to)
+[[nodiscard]] constexpr std::int64_t DaysBetween(DateTime from, DateTime to)
 {
     return to.DayNumber() - from.DayNumber();
 }
-constexpr std::int64_t MinutesBetween(DateTime from, DateTime to)
+[[nodiscard]] constexpr std::int64_t MinutesBetween(DateTime from, DateTime to)
 {
     return to.MinuteNumber() - from.MinuteNumber();
 }

@@ -48,7 +48,7 @@ class DesktopWindow
 {
 public:
     virtual ~DesktopWindow() = default;
-    virtual std::uintptr_t WindowHandle() const { return 0; }
+    [[nodiscard]] virtual std::uintptr_t WindowHandle() const { return 0; }
 };
 
 class Desktop

@@ -6,7 +6,6 @@
 #include <string>
 
 namespace ptk {
-
 // The platform's failure numbers, as the error log and the message boxes show them. Failures of the database engine carry the engine's own
 // result codes instead (5 is then "busy", not "invalid procedure call"); their source tells them apart.
 namespace failure {
@@ -39,13 +38,13 @@ public:
     Failure(std::int32_t number, std::string source, std::string description, std::int32_t lastSystemError = 0);
 
     // The failure that an errno of a file operation stands for; the errno is kept as the last system error.
-    static Failure FromErrno(int error);
+    [[nodiscard]] static Failure FromErrno(int error);
 
-    std::int32_t Number() const { return m_number; }
-    const std::string& Source() const { return m_source; }
-    const std::string& Description() const { return m_description; }
-    std::int32_t HelpContext() const { return m_helpContext; }
-    std::int32_t LastSystemError() const { return m_lastSystemError; }
+    [[nodiscard]] std::int32_t Number() const { return m_number; }
+    [[nodiscard]] const std::string& Source() const { return m_source; }
+    [[nodiscard]] const std::string& Description() const { return m_description; }
+    [[nodiscard]] std::int32_t HelpContext() const { return m_helpContext; }
+    [[nodiscard]] std::int32_t LastSystemError() const { return m_lastSystemError; }
     const char* what() const noexcept override { return m_description.c_str(); }
 
 private:
@@ -58,6 +57,6 @@ private:
 
 // What is being handled right now, for a catch (...) block: any Failure as it is, bad_alloc as 7, any other exception as 5 with its own
 // text. Outside a handler: number 0 and empty texts.
-Failure CurrentFailure();
+[[nodiscard]] Failure CurrentFailure();
 
 } // namespace ptk

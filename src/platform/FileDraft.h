@@ -8,7 +8,6 @@
 #include <string_view>
 
 namespace ptk {
-
 // An empty file beside the target, for its owner only, that anybody may fill under Path(). It is gone again with its owner unless one of
 // the two endings gave it the target's name. Paths are in the platform's own form.
 class FileDraft
@@ -22,8 +21,10 @@ public:
     FileDraft(const FileDraft&) = delete;
     FileDraft& operator=(const FileDraft&) = delete;
 
-    const std::string& Path() const { return m_path; }
-    SystemFile& File() { return m_file; } // the draft itself, open for writing
+    [[nodiscard]] const std::string& Path() const { return m_path; }
+
+    // The draft itself, open for writing.
+    SystemFile& File() { return m_file; }
 
     // Puts the draft in the place of whatever the target is by now: of a link itself, not of what it leads to. A file that is replaced
     // hands down its mode, unless it is a stranger's or has another name elsewhere. Raises 61, 57, 70; the target is then what it was,
@@ -33,13 +34,14 @@ public:
     // Gives the draft the target's name only where nothing has it. Raises AlreadyThere and what Replace raises; there is then no new file.
     void PlaceNew();
 
-    static Failure AlreadyThere(const std::string& target); // 75, with the name
+    // 75, with the name.
+    [[nodiscard]] static Failure AlreadyThere(const std::string& target);
 
 private:
     void Create();
     bool Hold();
     void HandDownMode();
-    bool RenameToFree() const;
+    [[nodiscard]] bool RenameToFree() const;
 
     std::string m_target;
     SystemFile m_folder;

@@ -16,7 +16,7 @@ enum class Mode : std::int16_t
 };
 
 // The lowest number (1 to 511) that no file is open under; 0 when all are taken.
-std::int32_t FreeNumber();
+[[nodiscard]] std::int32_t FreeNumber();
 
 // Opens under that number. Read: the file must exist. Write: created or truncated. Append: created if missing. What is created is for its
 // owner only. In both writing modes each text lands at what is then the end of the file, whoever else writes to it.
@@ -26,11 +26,12 @@ void Open(std::int32_t number, const std::string& path, Mode mode);
 // Raises 52 when no file is open under it, 57 or 61 when the system reports a late write failure; the number is free again all the same.
 void Close(std::int32_t number);
 
-bool AtEnd(std::int32_t number);
+[[nodiscard]] bool AtEnd(std::int32_t number);
 
 // The next item: up to a comma or a line end (CR LF, CR or LF), blanks before it skipped; an item in double quotes comes without them and
 // may hold commas and line ends, up to the closing quote or the end of the file. Raises 62 at the end of the file.
-std::string ReadItem(std::int32_t number);
+[[nodiscard]] std::string ReadItem(std::int32_t number);
 
-void Write(std::int32_t number, std::string_view text); // as it stands; raises 61 (disk full), 57
+// As it stands; raises 61 (disk full), 57.
+void Write(std::int32_t number, std::string_view text);
 } // namespace ptk::linefile

@@ -7,11 +7,10 @@
 #include <string>
 
 namespace ptk {
-
 // `xdg-open` for open, whose refusal (no program for it) is waited for, up to a second; `lp` for print, whose refusal (no printer, no
 // spooler) is waited for, up to five.
 // Returns the shell's codes: above ShellSuccess when taken over, ShellFileNotFound for a missing file, ShellNoProgram when the program is
 // not there or refuses. The path travels as an argument, never through a command interpreter.
-std::int32_t RunSystemShell(ShellVerb verb, const std::string& path);
+[[nodiscard]] std::int32_t RunSystemShell(ShellVerb verb, const std::string& path);
 
 } // namespace ptk

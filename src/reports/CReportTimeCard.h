@@ -13,7 +13,8 @@ class CReportTimeCard final : public Report
 public:
     explicit CReportTimeCard(ReportContext context) : Report(ReportKind::TimeCard, std::move(context)) {}
 
-    std::shared_ptr<CTimeCard> TimeCard() const { return m_timeCard; } // the card written, also one that could not be generated
+    // The card written, also one that could not be generated.
+    [[nodiscard]] std::shared_ptr<CTimeCard> TimeCard() const { return m_timeCard; }
 
     // The end date is exclusive: the title shows the day before it. False with 603, 602, 503, 701; with 605 or 710 the form is written
     // without its body and shown.

@@ -66,20 +66,20 @@ public:
     // Not owned; nullptr: nobody is told of the closing.
     void ParentWindow(ReportOwner* value) { m_parentWindow = value; }
 
-    std::string ReportName() const { return m_document.title; }
+    [[nodiscard]] std::string ReportName() const { return m_document.title; }
 
     // 0 = none; the last one when several things failed.
-    std::int32_t ErrorNumber() const { return m_errorNumber; }
+    [[nodiscard]] std::int32_t ErrorNumber() const { return m_errorNumber; }
 
     // Whose part is missing from a generated report, and why, in words for its readers; empty when that is all there is to say of the
     // number.
-    std::string Missing() const { return m_document.Missing(); }
+    [[nodiscard]] std::string Missing() const { return m_document.Missing(); }
 
     // What was generated last; only a title before.
-    const ReportDocument& Document() const { return m_document; }
+    [[nodiscard]] const ReportDocument& Document() const { return m_document; }
 
     // Whether the file holds what was generated last.
-    bool FileWritten() const { return m_fileWritten; }
+    [[nodiscard]] bool FileWritten() const { return m_fileWritten; }
 
     // Hands that file to the print spooler. False when it does not take it; that there is no such file the user is told in a box.
     bool PrintReport();
@@ -88,7 +88,7 @@ public:
     bool UnloadReportWindow();
 
     // Of the file, with backslashes.
-    std::string ReportPath() const;
+    [[nodiscard]] std::string ReportPath() const;
 
     void Progress(ReportProgress value) { m_progress = std::move(value); }
 
@@ -112,9 +112,9 @@ protected:
     bool Publish();
 
     ReportDocument& Body() { return m_document; }
-    const ReportContext& Context() const { return m_context; }
-    const ReportEntry& Entry() const { return m_entry; }
-    bool GoOn(std::int32_t done, std::int32_t total) const { return !m_progress || m_progress(done, total); }
+    [[nodiscard]] const ReportContext& Context() const { return m_context; }
+    [[nodiscard]] const ReportEntry& Entry() const { return m_entry; }
+    [[nodiscard]] bool GoOn(std::int32_t done, std::int32_t total) const { return !m_progress || m_progress(done, total); }
 
 private:
     bool OpenViewer();

@@ -49,12 +49,13 @@ struct ReportEntry
     std::shared_ptr<Report> (*make)(ReportContext context);
 };
 
-std::span<const ReportEntry> ReportCatalog(); // in the order of the report list
+// In the order of the report list.
+[[nodiscard]] std::span<const ReportEntry> ReportCatalog();
 
 // The entry with exactly this name; nullptr when there is none.
-const ReportEntry* FindReport(std::string_view caption);
-const ReportEntry* FindConsoleReport(std::string_view consoleName);
+[[nodiscard]] const ReportEntry* FindReport(std::string_view caption);
+[[nodiscard]] const ReportEntry* FindConsoleReport(std::string_view consoleName);
 
-const ReportEntry& EntryOf(ReportKind kind);
+[[nodiscard]] const ReportEntry& EntryOf(ReportKind kind);
 
 } // namespace ptk

@@ -10,7 +10,6 @@
 #include <vector>
 
 namespace ptk {
-
 // What the values of a column are.
 enum class CellType
 {
@@ -68,8 +67,11 @@ struct ReportDocument
     std::vector<ReportGap> gaps{};
     bool whole = true; // false: what should follow the last line is not there
 
-    std::int32_t Code() const;   // of the last thing found missing; 0 when the report is complete
-    std::string Missing() const; // the gaps in words, "without Ann Lee, Bo Kim: REASON; without Al: REASON"; empty without one
+    // Of the last thing found missing; 0 when the report is complete.
+    [[nodiscard]] std::int32_t Code() const;
+
+    // The gaps in words, "without Ann Lee, Bo Kim: REASON; without Al: REASON"; empty without one.
+    [[nodiscard]] std::string Missing() const;
 
     // Making it: lines go into the group begun last, and what is missing is noted behind the last line. REQUIRES: a group; a line.
     void BeginGroup(bool atFoot = false) { groups.push_back({0, atFoot}); }
@@ -84,6 +86,7 @@ struct ReportDocument
     void AddGap(const std::string& reason, const std::string& whose);
 };
 
-std::size_t CountLines(const std::string& text); // one more than it has line ends
+// One more than it has line ends.
+[[nodiscard]] std::size_t CountLines(const std::string& text);
 
 } // namespace ptk

@@ -8,7 +8,6 @@
 #include <string>
 
 namespace ptk {
-
 // Without an ending nothing is left of it. No member raises.
 class ReportFile
 {
@@ -22,7 +21,7 @@ public:
     [[nodiscard]] bool WriteLine(const std::string& text);
 
     // Whether any line was.
-    bool Lost() const { return m_lost; }
+    [[nodiscard]] bool Lost() const { return m_lost; }
 
     // False when the system refuses it.
     [[nodiscard]] bool Close();

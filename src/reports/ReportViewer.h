@@ -19,10 +19,17 @@ public:
     virtual ~ReportViewer() = default;
     virtual void Controller(std::shared_ptr<Report> value) = 0;
     virtual void Caption(const std::string& value) = 0;
-    virtual bool WriteLine(const std::string& buffer) = 0; // appends buffer and CR LF; false or a failure raised stands for a line lost
-    virtual void Show() = 0;                               // not modally
+
+    // Appends buffer and CR LF; false or a failure raised stands for a line lost.
+    virtual bool WriteLine(const std::string& buffer) = 0;
+
+    // Not modally.
+    virtual void Show() = 0;
+
     virtual void Hide() = 0;
-    virtual void Unload() = 0; // closes the window and drops the report, without calling back into it
+
+    // Closes the window and drops the report, without calling back into it.
+    virtual void Unload() = 0;
 };
 
 class ReportViewerFactory
@@ -39,7 +46,9 @@ class ReportOwner
 {
 public:
     virtual ~ReportOwner() = default;
-    virtual bool UnloadReport(ReportKind kind) = 0; // called once when a viewer of this kind closes; the answer is ignored
+
+    // Called once when a viewer of this kind closes; the answer is ignored.
+    virtual bool UnloadReport(ReportKind kind) = 0;
 };
 
 } // namespace ptk

@@ -23,7 +23,7 @@ bool CDataValidator::CheckSingleValues(const std::string& thestring) const
     if (!std::ranges::all_of(thestring, [](char character) { return character == '.' || IsDigit(character); })) {
         return false;
     }
-    return Succeeds([&] { ToSingle(thestring); });
+    return Succeeds([&] { static_cast<void>(ToSingle(thestring)); });
 }
 
 } // namespace ptk

@@ -8,9 +8,13 @@ namespace ptk {
 class CDataValidator
 {
 public:
-    bool CheckIntegerValues(const std::string& thestring) const; // digits only; deliberately true for "" and for numbers of any size
-    bool CheckDateTimeValues(const std::string& thestring) const;
-    bool CheckSingleValues(const std::string& thestring) const; // digits and a point that together are a single; no sign
+    // Digits only; deliberately true for "" and for numbers of any size.
+    [[nodiscard]] bool CheckIntegerValues(const std::string& thestring) const;
+
+    [[nodiscard]] bool CheckDateTimeValues(const std::string& thestring) const;
+
+    // Digits and a point that together are a single; no sign.
+    [[nodiscard]] bool CheckSingleValues(const std::string& thestring) const;
 };
 
 } // namespace ptk

@@ -13,9 +13,13 @@ class CDatabaseLocator
 public:
     explicit CDatabaseLocator(std::string programFolder) : m_programFolder(std::move(programFolder)) {}
 
-    void ConfigFile(std::shared_ptr<CFileAdaptor> value); // nullptr is ignored
-    std::shared_ptr<CFileAdaptor> ConfigFile() const { return m_configFile; }
-    std::string DatabasePath() const { return m_databasePath; } // with backslashes as configured
+    // nullptr is ignored.
+    void ConfigFile(std::shared_ptr<CFileAdaptor> value);
+
+    [[nodiscard]] std::shared_ptr<CFileAdaptor> ConfigFile() const { return m_configFile; }
+
+    // With backslashes as configured.
+    [[nodiscard]] std::string DatabasePath() const { return m_databasePath; }
 
     // True also without a configuration or without the key (the path is then "" or what it was); false only when reading raised a failure.
     bool GetDatabasePath();

@@ -23,7 +23,7 @@ public:
 
     // Deliberately a read that sets: stores the path and answers "".
     std::string FileName(const std::string& thedocname);
-    std::int32_t ErrorNumber() const { return m_errorNumber; }
+    [[nodiscard]] std::int32_t ErrorNumber() const { return m_errorNumber; }
 
     // False when the shell refused or an argument is missing (`theparent` nullptr, `thedocname` empty). Nothing is raised.
     bool DisplayDocument(const DesktopWindow* theparent, const std::string& thedocname);
@@ -31,7 +31,9 @@ public:
 
 private:
     bool Launch(const DesktopWindow* theparent, const std::string& thedocname, ShellVerb verb);
-    bool Refuse(std::int32_t errorNumber); // always false
+
+    // Always false.
+    bool Refuse(std::int32_t errorNumber);
 
     Desktop& m_desktop;
     const DesktopWindow* m_parent = nullptr; // the last one given; not owned

@@ -17,26 +17,30 @@ class CError
 public:
     explicit CError(Desktop& desktop) : m_desktop(desktop), m_failure(CurrentFailure()), m_description(m_failure.Description()) {}
 
-    std::int32_t ErrorNumber() const { return m_failure.Number(); }
-    std::string ErrorSource() const { return m_failure.Source(); }
-    void ErrorDescription(const std::string& thisDesc); // deliberately appends; an empty text only fills an empty description
-    std::string ErrorDescription() const { return m_description; }
+    [[nodiscard]] std::int32_t ErrorNumber() const { return m_failure.Number(); }
+    [[nodiscard]] std::string ErrorSource() const { return m_failure.Source(); }
+
+    // Deliberately appends; an empty text only fills an empty description.
+    void ErrorDescription(const std::string& thisDesc);
+
+    [[nodiscard]] std::string ErrorDescription() const { return m_description; }
     void AdditionalDescription(std::string thisDesc) { m_additionalDescription = std::move(thisDesc); }
-    std::string AdditionalDescription() const { return m_additionalDescription; }
-    std::int32_t HelpContext() const { return m_failure.HelpContext(); }
-    std::int32_t LastSystemError() const { return m_failure.LastSystemError(); }
+    [[nodiscard]] std::string AdditionalDescription() const { return m_additionalDescription; }
+    [[nodiscard]] std::int32_t HelpContext() const { return m_failure.HelpContext(); }
+    [[nodiscard]] std::int32_t LastSystemError() const { return m_failure.LastSystemError(); }
     void ModuleName(std::string thisModule);
-    std::string ModuleName() const { return m_moduleName; }
-    std::int16_t MsgBoxRetVal() const { return m_msgBoxRetVal; }
+    [[nodiscard]] std::string ModuleName() const { return m_moduleName; }
+    [[nodiscard]] std::int16_t MsgBoxRetVal() const { return m_msgBoxRetVal; }
 
     // The values of Icon and Buttons; what is missing or not numeric means an exclamation icon and OK. Sets the pointer back to its
     // default. Returns the Answer's value. Raises Failure 6 when an argument or the sum of both does not fit 16 bits.
     std::int16_t MessageBox(const Value& userIcon = {}, const Value& userButtons = {});
 
-    bool LogMessage() { return false; } // deliberately nothing: whoever catches the failure writes the log
+    // Deliberately nothing: whoever catches the failure writes the log.
+    bool LogMessage() { return false; }
 
 private:
-    std::string Text() const;
+    [[nodiscard]] std::string Text() const;
 
     Desktop& m_desktop;
     Failure m_failure;

@@ -19,45 +19,70 @@ class Clock;
 class CFile
 {
 public:
-    CFile();                            // tells the time by the system's clock
-    explicit CFile(const Clock& clock); // must outlive the file
+    // Tells the time by the system's clock.
+    CFile();
+
+    // Must outlive the file.
+    explicit CFile(const Clock& clock);
+
     ~CFile();
     CFile(const CFile&) = delete;
     CFile& operator=(const CFile&) = delete;
 
-    std::string FileName() const { return m_fileName; } // as given, not the platform's own form
-    std::string FileMode() const { return m_fileMode; } // "0", "1" or "2"; "" before the first OpenFile
-    bool FileOpen() const { return m_fileOpen; }
-    std::int32_t FileNumber() const { return m_fileNumber; }
-    std::string TempFile() const { return {}; }    // there are no temporary files
-    bool EndOfFile() const { return m_endOfFile; } // once true it stays true, also for the next file opened
-    std::int32_t ErrorNumber() const { return m_errorNumber; }
-    std::string ErrorDescription() const { return m_errorDescription; }
+    // As given, not the platform's own form.
+    [[nodiscard]] std::string FileName() const { return m_fileName; }
 
-    bool GetTempFile(std::string& parampath); // deliberately does nothing and answers false
+    // "0", "1" or "2"; "" before the first OpenFile.
+    [[nodiscard]] std::string FileMode() const { return m_fileMode; }
+
+    [[nodiscard]] bool FileOpen() const { return m_fileOpen; }
+    [[nodiscard]] std::int32_t FileNumber() const { return m_fileNumber; }
+
+    // There are no temporary files.
+    [[nodiscard]] std::string TempFile() const { return {}; }
+
+    // Once true it stays true, also for the next file opened.
+    [[nodiscard]] bool EndOfFile() const { return m_endOfFile; }
+
+    [[nodiscard]] std::int32_t ErrorNumber() const { return m_errorNumber; }
+    [[nodiscard]] std::string ErrorDescription() const { return m_errorDescription; }
+
+    // Deliberately does nothing and answers false.
+    bool GetTempFile(std::string& parampath);
 
     // A mode that is missing, not numeric or outside 0 to 2 reads. Another file that this object still has open is closed once this one is
     // open.
     bool OpenFile(const std::string& paramfile, const Value& parammode = {});
-    bool CloseFile(); // false when the system could not keep what was written; the file is closed all the same
+
+    // False when the system could not keep what was written; the file is closed all the same.
+    bool CloseFile();
 
     // The next item: up to a comma or the line's end, quotes removed. At the end of the file "EOF" and EndOfFile; "" after an error.
     std::string ReadLine();
 
     // Each is on its way to the disk when it answers: a full disk is told by the write that meets it. Lines end with CR LF.
-    bool WriteDateTime();                            // the general date-time text; deliberately false even when it was written
-    bool WriteHeader(const std::string& thisheader); // an empty line, then the header in brackets
+    // The general date-time text; deliberately false even when it was written.
+    bool WriteDateTime();
+
+    // An empty line, then the header in brackets.
+    bool WriteHeader(const std::string& thisheader);
+
     bool WriteLine(const std::string& buffer, const std::string& notes = {},
                    bool lineStatus = false); // `notes` only when lineStatus is true
 
 private:
-    bool ClearError(); // always true
+    // Always true.
+    bool ClearError();
+
     std::int32_t AcquireFileNumber();
     void OpenUnder(std::int32_t number, linefile::Mode mode);
     bool WriteText(std::string text);
     bool ReadyToRead();
     bool ReadyToWrite();
-    bool Refuse(std::int32_t errorNumber, const char* description); // always false
+
+    // Always false.
+    bool Refuse(std::int32_t errorNumber, const char* description);
+
     void Fail(const char* opening, const Failure& failure);
 
     const Clock& m_clock;

@@ -22,14 +22,19 @@ class CFileAdaptor
 public:
     explicit CFileAdaptor(const std::string& programFolder);
 
-    std::string FileName() const { return m_fileName; } // first <program folder>\system\ptk_11.cfg, then the last one read or written
-    std::int16_t FileLineCount() const;
+    // First <program folder>\system\ptk_11.cfg, then the last one read or written.
+    [[nodiscard]] std::string FileName() const { return m_fileName; }
+
+    [[nodiscard]] std::int16_t FileLineCount() const;
     void Header(std::string value) { m_header = std::move(value); }
-    std::string Header() const { return m_header; } // Header, KeyString, KeyValue: parsed from the line that GetLine last fetched
+
+    // Header, KeyString, KeyValue: parsed from the line that GetLine last fetched.
+    [[nodiscard]] std::string Header() const { return m_header; }
+
     void KeyString(std::string value) { m_keyString = std::move(value); }
-    std::string KeyString() const { return m_keyString; }
+    [[nodiscard]] std::string KeyString() const { return m_keyString; }
     void KeyValue(std::string value) { m_keyValue = std::move(value); }
-    std::string KeyValue() const { return m_keyValue; }
+    [[nodiscard]] std::string KeyValue() const { return m_keyValue; }
 
     // Puts the file's lines in front of those already held; a line is what one CFile::ReadLine gives, so a comma splits it, and a line
     // "EOF" is dropped. True also when the file could not be opened: a missing file reads as an empty configuration.
@@ -42,18 +47,26 @@ public:
 
     // What the two answers above do not tell: why the last ReadFile could not open its file, or the last WriteFile not write it. Number 0
     // when it did.
-    const Failure& LastFailure() const { return m_lastFailure; }
+    [[nodiscard]] const Failure& LastFailure() const { return m_lastFailure; }
 
-    bool AddLine(const std::string& buffer);                // deliberately before the present last line, not after it
-    std::string GetLine(std::int16_t index);                // "" outside 1 to the count; parses the line
-    std::int16_t FindLine(const std::string& thekeystring); // the first line that contains the text anywhere, or -1
+    // Deliberately before the present last line, not after it.
+    bool AddLine(const std::string& buffer);
+
+    // "" outside 1 to the count; parses the line.
+    std::string GetLine(std::int16_t index);
+
+    // The first line that contains the text anywhere, or -1.
+    std::int16_t FindLine(const std::string& thekeystring);
+
     bool InsertLine(const std::string& buffer, std::int16_t index);
 
     // Replaces the line that FindLine finds (not the one that FindKeyValue reads: the two tests differ on purpose). Adds nothing when there
     // is none.
     bool ReplaceLine(const std::string& thekeystring, const std::string& thekeyvalue);
     bool RemoveLine(std::int16_t index);
-    std::string FindKeyValue(const std::string& thekeystring); // of the first line with exactly that key, or ""
+
+    // Of the first line with exactly that key, or "".
+    std::string FindKeyValue(const std::string& thekeystring);
 
 private:
     void ReadLines(CFile& file);

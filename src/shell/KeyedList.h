@@ -13,15 +13,14 @@
 #include <vector>
 
 namespace ptk {
-
 // What all lists share, whatever their Insert and Remove answer. `Entry` is a shared reference (empty = nullptr) or text (empty = "").
 // Positions are 1 to Count. Every operation except the properties first clears ErrorNumber.
 template <typename Entry>
 class KeyedStore
 {
 public:
-    std::int32_t Count() const { return static_cast<std::int32_t>(m_entries.size()); }
-    std::int32_t ErrorNumber() const { return m_errorNumber; }
+    [[nodiscard]] std::int32_t Count() const { return static_cast<std::int32_t>(m_entries.size()); }
+    [[nodiscard]] std::int32_t ErrorNumber() const { return m_errorNumber; }
 
     bool Create()
     {
@@ -94,11 +93,13 @@ protected:
     }
     void ErrorNumber(std::int32_t value) { m_errorNumber = value; }
 
-    bool Holds(std::int32_t thisindex) const { return thisindex >= 1 && thisindex <= Count(); }
+    [[nodiscard]] bool Holds(std::int32_t thisindex) const { return thisindex >= 1 && thisindex <= Count(); }
 
     // The entries in order, for walks that need neither a copied reference nor a cleared error.
-    const std::vector<Entry>& Entries() const { return m_entries; }
-    void Reserve(std::int32_t count) { m_entries.reserve(static_cast<std::size_t>(count)); } // may raise bad_alloc
+    [[nodiscard]] const std::vector<Entry>& Entries() const { return m_entries; }
+
+    // May raise bad_alloc.
+    void Reserve(std::int32_t count) { m_entries.reserve(static_cast<std::size_t>(count)); }
 
     // Keeps the entries that satisfy it, in their order, in one pass.
     template <typename Predicate>

@@ -12,7 +12,7 @@ bool IsNumeric(const Value& value)
     if (value.IsNull() || std::holds_alternative<DateTime>(value.Get())) {
         return false;
     }
-    return Succeeds([&] { value.ToDouble(); });
+    return Succeeds([&] { static_cast<void>(value.ToDouble()); });
 }
 
 } // namespace ptk

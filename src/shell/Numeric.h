@@ -6,6 +6,6 @@ namespace ptk {
 class Value;
 
 // Numbers, booleans and text that reads as a number; neither nothing nor a date-time. Never raises.
-bool IsNumeric(const Value& value);
+[[nodiscard]] bool IsNumeric(const Value& value);
 
 } // namespace ptk

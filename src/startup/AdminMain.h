@@ -30,7 +30,8 @@ public:
     // program is over: the start failed, and the caller ends the process.
     void Start();
 
-    std::shared_ptr<CController> Controller() const { return m_controller; } // nullptr before Start and after the end routine
+    // nullptr before Start and after the end routine.
+    [[nodiscard]] std::shared_ptr<CController> Controller() const { return m_controller; }
 
 private:
     void OpenErrorLog();

@@ -24,7 +24,9 @@ public:
     std::int32_t AddCompany(const CompanyRow& company);
     std::int32_t AddEmployee(const EmployeeRow& employee);
     std::int32_t AddTimeRecord(const TimeRecordRow& record);
-    void Commit(); // on disk when it returns
+
+    // On disk when it returns.
+    void Commit();
 
 private:
     std::int32_t Run(Statement& statement);

@@ -7,14 +7,17 @@
 #include <string>
 
 namespace ptk {
-
 // Holds no connection; it only writes text. Error numbers: 810 insert, 811 update, 812 delete, 813 fetch. Nothing is raised.
 class CTimeRecSQLConverter
 {
 public:
-    std::string sqlstring() const { return m_sqlstring; } // the last statement of ToSQL
-    std::int32_t ErrorNumber() const { return m_errorNumber; }
-    bool ResetError(); // always true
+    // The last statement of ToSQL.
+    std::string sqlstring() const { return m_sqlstring; }
+
+    [[nodiscard]] std::int32_t ErrorNumber() const { return m_errorNumber; }
+
+    // Always true.
+    bool ResetError();
 
     // By the record's state: 1 insert, 2 update, 3 delete, any other the empty text. nullptr gives the empty text and keeps sqlstring.
     std::string ToSQL(const TimeRecordRow* thetimerecord);

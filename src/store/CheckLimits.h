@@ -17,7 +17,7 @@ struct CheckLimits
 
 // Files of earlier versions have no such table: where it, its row or a value in it is missing or of no use, the value above holds. Raises
 // the failure of a database that cannot be opened or read. REQUIRES: database is not nullptr, here and below.
-CheckLimits LoadCheckLimits(const std::shared_ptr<CJetDB>& database);
+[[nodiscard]] CheckLimits LoadCheckLimits(const std::shared_ptr<CJetDB>& database);
 
 // Makes the table where it is missing. On disk when it answers true; false with what CJetDB::ExecuteActions leaves.
 [[nodiscard]] bool SaveCheckLimits(const std::shared_ptr<CJetDB>& database, const CheckLimits& limits);

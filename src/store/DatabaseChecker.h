@@ -18,6 +18,6 @@ struct DatabaseCheck
 // Damage, missing identification, missing or differently typed tables and columns, missing or unusable stored queries, an options table of
 // not exactly one row, and in any row whatever the program could not use, by table, key, column and value: all that would stop a start or a
 // time card. Raises what opening the file raises.
-DatabaseCheck CheckDatabase(const std::string& path);
+[[nodiscard]] DatabaseCheck CheckDatabase(const std::string& path);
 
 } // namespace ptk

@@ -8,11 +8,10 @@
 #include <vector>
 
 namespace ptk {
-
 // In the order in which they are assigned.
-std::vector<Parameter> AddNewEmployeeParameters(const EmployeeRow& employee);
-std::vector<Parameter> UpdateEmployeeParameters(const EmployeeRow& employee);
-std::vector<Parameter> AddNewCompanyParameters(const CompanyRow& company);
-std::vector<Parameter> UpdateCompanyParameters(const CompanyRow& company);
+[[nodiscard]] std::vector<Parameter> AddNewEmployeeParameters(const EmployeeRow& employee);
+[[nodiscard]] std::vector<Parameter> UpdateEmployeeParameters(const EmployeeRow& employee);
+[[nodiscard]] std::vector<Parameter> AddNewCompanyParameters(const CompanyRow& company);
+[[nodiscard]] std::vector<Parameter> UpdateCompanyParameters(const CompanyRow& company);
 
 } // namespace ptk

@@ -10,7 +10,6 @@
 #include <vector>
 
 namespace ptk {
-
 // Finds go behind `problems` as sentences, each once. Reads the rows in portions, so that any number of them takes the same memory.
 class RowChecker
 {
@@ -25,7 +24,9 @@ public:
     // Of the stored queries: whether they run, know the parameters that they are given, and answer the columns that are read.
     void TryCompanyListing();
     void TryEmployeeListing();
-    void TryAction(const char* query, std::span<const Parameter> parameters); // without running it
+
+    // Without running it.
+    void TryAction(const char* query, std::span<const Parameter> parameters);
 
 private:
     using ReadRow = void (*)(RowReader& reader);

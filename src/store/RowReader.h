@@ -19,10 +19,13 @@ struct TableColumns
     std::span<const char* const> names; // the first is the key, by which a row is told to people
 };
 
-TableColumns EmployeeTable();
-TableColumns CompanyTable(); // the web address deliberately is not among them: it is written but never read back
-TableColumns TimeRecordTable();
-TableColumns OptionsTable();
+[[nodiscard]] TableColumns EmployeeTable();
+
+// The web address deliberately is not among them: it is written but never read back.
+[[nodiscard]] TableColumns CompanyTable();
+
+[[nodiscard]] TableColumns TimeRecordTable();
+[[nodiscard]] TableColumns OptionsTable();
 
 // Reads the current row of a record set column by column. A field whose column is null, or not greater than zero where only that has a
 // meaning, keeps its default. What cannot be read raises 94 (null), 13 (no such meaning) or 6 (does not fit), in words that name the row,
@@ -30,7 +33,8 @@ TableColumns OptionsTable();
 class RowReader
 {
 public:
-    RowReader(const RecordSet& rows, const TableColumns& columns); // raises Failure 9 for a missing column
+    // Raises Failure 9 for a missing column.
+    RowReader(const RecordSet& rows, const TableColumns& columns);
 
     // For the check of a file: what cannot be read is put behind `found` instead of being raised, and so is what can be read but never
     // serves: dates in any other form than the stored one, which searches pass over, missing times of a shift, keys below 1.
@@ -38,8 +42,12 @@ public:
 
     EmployeeRow ReadEmployee();
     CompanyRow ReadCompany();
-    TimeRecordRow ReadTimeRecord();    // unchanged
-    void ReadOptions(OptionsRow& row); // nothing may be null; what was read before a failure stays in the row
+
+    // Unchanged.
+    TimeRecordRow ReadTimeRecord();
+
+    // Nothing may be null; what was read before a failure stays in the row.
+    void ReadOptions(OptionsRow& row);
 
 private:
     void Start() { m_next = 0; }
@@ -54,7 +62,7 @@ private:
     void ReadMoment(std::size_t column, DateTime& field) const;
     void Flag(bool& field);
     void Doubt(const char* why) const;
-    std::string Place(std::size_t column, const std::string& why) const;
+    [[nodiscard]] std::string Place(std::size_t column, const std::string& why) const;
 
     const RecordSet& m_rows;
     TableColumns m_table;

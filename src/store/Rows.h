@@ -8,7 +8,6 @@
 #include <string>
 
 namespace ptk {
-
 // Persistence states of every entity.
 namespace state {
 inline constexpr std::int32_t NothingToDo = -1;

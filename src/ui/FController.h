@@ -37,11 +37,16 @@ public:
     FController(std::string programFolder, ptk::Desktop& desktop, const ptk::Clock& clock);
     ~FController() override;
 
-    std::int32_t ErrorNumber() const { return m_errorNumber; }
+    [[nodiscard]] std::int32_t ErrorNumber() const { return m_errorNumber; }
     std::shared_ptr<CController> Controller() const override { return m_controller; }
     void Controller(std::shared_ptr<CController> value) override;
-    bool DisplaySystemOptions(std::shared_ptr<CSystemOptions> options) override; // into the Options page
-    bool ReturnTimeRecord(const std::shared_ptr<CTimeRecord>& thetimerecord);    // the editor's way back; always true
+
+    // Into the Options page.
+    bool DisplaySystemOptions(std::shared_ptr<CSystemOptions> options) override;
+
+    // The editor's way back; always true.
+    bool ReturnTimeRecord(const std::shared_ptr<CTimeRecord>& thetimerecord);
+
     bool UnloadTimeCardReport() { return m_reports->UnloadReport(ReportKind::TimeCard); }
     bool UnloadReviewReport() { return m_reports->UnloadReport(ReportKind::Review); }
     bool UnloadYTDTotalsReport() { return m_reports->UnloadReport(ReportKind::YTDTotals); }
@@ -64,7 +69,9 @@ public:
     OpenReports& Reports() const override { return *m_reports; }
 
 protected:
-    bool eventFilter(QObject* watched, QEvent* event) override; // of the tab strip
+    // Of the tab strip.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
     void resizeEvent(QResizeEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -87,7 +94,9 @@ private:
     void ChangeTab(int index);
     bool ShowTabPage(int index);
     void ShowTabIcons(bool shown);
-    void Say(const QString& text); // in the shown page's line
+
+    // In the shown page's line.
+    void Say(const QString& text);
 
     void ShowOverview();
     void ShowTimeCard(std::int32_t employeeID, const PayPeriod& period);
@@ -96,7 +105,7 @@ private:
     void About();
     void UsersGuide();
     void CloseDown(bool keepReview);
-    bool IsBusyInDialog() const;
+    [[nodiscard]] bool IsBusyInDialog() const;
 
     std::unique_ptr<Ui::FController> m_ui;
     std::string m_programFolder;

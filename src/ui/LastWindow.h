@@ -6,7 +6,7 @@
 
 namespace ptk {
 
-bool IsAnyWindowShown();
+[[nodiscard]] bool IsAnyWindowShown();
 
 // Calls `gone` from the event loop, after any window was hidden and none is left. The toolkit's own signal of the last window counts only
 // windows that are closed, not those that hide themselves or are taken down with their owner.
@@ -15,7 +15,8 @@ class LastWindow final : public QObject
     Q_OBJECT
 
 public:
-    explicit LastWindow(std::function<void()> gone); // watches from now on
+    // Watches from now on.
+    explicit LastWindow(std::function<void()> gone);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 

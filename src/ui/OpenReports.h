@@ -19,7 +19,9 @@ class PageHost;
 class OpenReports final : public ReportOwner
 {
 public:
-    OpenReports(PageHost& host, const std::string& programFolder); // the host outlives it
+    // The host outlives it.
+    OpenReports(PageHost& host, const std::string& programFolder);
+
     ~OpenReports() override;
     OpenReports(const OpenReports&) = delete;
     OpenReports& operator=(const OpenReports&) = delete;
@@ -30,9 +32,12 @@ public:
     // Writes and shows the form of a generated card. errorNumber: the report's, 0 when nothing went wrong.
     bool PrintTimeCard(const std::shared_ptr<CTimeCard>& card, std::int32_t& errorNumber);
 
-    bool UnloadReport(ReportKind kind) override; // drops its reference and answers false, which nobody looks at
+    // Drops its reference and answers false, which nobody looks at.
+    bool UnloadReport(ReportKind kind) override;
 
-    void Clear(bool exceptReview); // drops the references; viewers stay open
+    // Drops the references; viewers stay open.
+    void Clear(bool exceptReview);
+
     QtViewerFactory& Viewers() { return m_viewers; }
 
 private:

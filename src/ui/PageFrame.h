@@ -6,7 +6,6 @@
 class QVBoxLayout;
 
 namespace ptk {
-
 // The page scrolls where the frame is too small for it, so that nothing is ever cut off. Its layout named "buttons" stays in sight, below
 // what scrolls, and its widgets are then the frame's children.
 class PageFrame final : public QGroupBox
@@ -14,7 +13,8 @@ class PageFrame final : public QGroupBox
     Q_OBJECT
 
 public:
-    PageFrame(const QString& caption, QWidget* page); // takes the page over
+    // Takes the page over.
+    PageFrame(const QString& caption, QWidget* page);
 
 private:
     static void AddButtons(QVBoxLayout& column, QWidget& page);

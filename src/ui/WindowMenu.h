@@ -16,9 +16,11 @@ class WindowMenu final : public QObject
     Q_OBJECT
 
 public:
-    WindowMenu(QMenu& menu, QtViewerFactory& viewers); // both outlive it
+    // Both outlive it.
+    WindowMenu(QMenu& menu, QtViewerFactory& viewers);
 
-    void PrintAll(); // in the order of their opening, until a printer refuses one; those printed are hidden
+    // In the order of their opening, until a printer refuses one; those printed are hidden.
+    void PrintAll();
 
 signals:
     void Done(const QString& outcome);

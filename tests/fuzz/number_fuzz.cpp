@@ -48,6 +48,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const bool isLong = Reads([&] { Require(ptk::ToInt32(ptk::DoubleText(ptk::ToInt32(text))) == ptk::ToInt32(text)); });
     const bool isShort = Reads([&] { Require(ptk::ToInt16(text) == ptk::ToInt32(text)); });
     Require((isDouble || !isSingle) && (isDouble || !isLong) && (isLong || !isShort));
-    Reads([&] { ptk::ToBoolean(text); });
+    Reads([&] { static_cast<void>(ptk::ToBoolean(text)); });
     return 0;
 }

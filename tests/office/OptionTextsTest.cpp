@@ -49,7 +49,7 @@ TEST(StoreOptionsTest, StopsAtTheFirstTextThatIsNone)
         EXPECT_EQ(options.AutoShiftStartTime(), c.start);
         EXPECT_EQ(options.AutoShiftEndTime(), c.end);
     }
-    EXPECT_EQ(FailureOf([&] { StoreOptions(options, {"99999", "8:00", "17:00"}); }), failure::Overflow);
+    EXPECT_EQ(FailureOf([&] { return StoreOptions(options, {"99999", "8:00", "17:00"}); }), failure::Overflow);
 }
 
 TEST(PeriodExampleTest, CountsTheDayThatALengthDoesNotSay)

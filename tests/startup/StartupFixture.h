@@ -32,7 +32,7 @@ public:
     void ConfigFile(std::shared_ptr<CFileAdaptor> value) override
     {
         configFile = std::move(value);
-        ToBoolean(configFile->FindKeyValue("ShowLoginHelp"));
+        static_cast<void>(ToBoolean(configFile->FindKeyValue("ShowLoginHelp")));
     }
     void EmployeeList(std::shared_ptr<CEmployeeList> value) override { employeeList = std::move(value); }
     void ShowModal() override

@@ -57,7 +57,7 @@ TEST_F(CheckLimitsTest, AreWhatTheRowSaysAndTheShippedOnesWhereItSaysNothing)
         EXPECT_EQ(problems.empty() ? "" : problems.front(), c.problem) << c.name;
     }
     std::filesystem::remove(Path());
-    EXPECT_EQ(FailureOf([&] { LoadCheckLimits(m_database); }), 14);
+    EXPECT_EQ(FailureOf([&] { return LoadCheckLimits(m_database); }), 14);
 }
 
 TEST_F(CheckLimitsTest, AreSavedAlsoWhereTheTableOrItsRowIsMissing)

@@ -213,7 +213,7 @@ TEST_F(DatabaseFileTest, TheCheckAcceptsFurtherTablesAndColumns)
 {
     Run("ALTER TABLE Employee ADD COLUMN Shoe TEXT; CREATE TABLE Extra (a); CREATE INDEX more ON Employee (LastName)");
     EXPECT_TRUE(CheckDatabase(Path()).problems.empty());
-    EXPECT_EQ(FailureOf([&] { CheckDatabase(File("missing.mdb")); }), SQLITE_CANTOPEN);
+    EXPECT_EQ(FailureOf([&] { return CheckDatabase(File("missing.mdb")); }), SQLITE_CANTOPEN);
 }
 
 } // namespace ptk

@@ -2,6 +2,8 @@
 #include "store/engine/StoredDate.h"
 #include "store/StoreFixture.h"
 
+#include <functional>
+
 namespace ptk {
 
 namespace {
@@ -64,12 +66,12 @@ TEST(RecordSetTest, WalksItsRowsAndKnowsTheirNumberAtOnce)
     EXPECT_EQ(rows->Field("name").ToText(), "two");
     rows->MoveNext();
     EXPECT_TRUE(rows->EndOfFile());
-    EXPECT_EQ(FailureOf([&] { rows->Int32At(0); }), failure::NoCurrentRecord);
+    EXPECT_EQ(FailureOf([&] { return rows->Int32At(0); }), failure::NoCurrentRecord);
     EXPECT_EQ(FailureOf([&] { rows->MoveNext(); }), failure::NoCurrentRecord);
     rows->MoveFirst();
     EXPECT_EQ(rows->Int32At(0), 1);
-    EXPECT_EQ(FailureOf([&] { rows->Field("Other"); }), failure::SubscriptOutOfRange);
-    EXPECT_EQ(FailureOf([&] { rows->Field(2); }), failure::SubscriptOutOfRange);
+    EXPECT_EQ(FailureOf([&] { return rows->Field("Other"); }), failure::SubscriptOutOfRange);
+    EXPECT_EQ(FailureOf([&] { return rows->Field(2); }), failure::SubscriptOutOfRange);
 }
 
 TEST(RecordSetTest, HasNoCurrentRowWithoutRows)
@@ -80,7 +82,7 @@ TEST(RecordSetTest, HasNoCurrentRowWithoutRows)
     EXPECT_TRUE(rows->EndOfFile());
     EXPECT_EQ(rows->RecordCount(), 0);
     EXPECT_EQ(FailureOf([&] { rows->MoveFirst(); }), failure::NoCurrentRecord);
-    EXPECT_EQ(FailureOf([&] { rows->Field("x"); }), failure::NoCurrentRecord);
+    EXPECT_EQ(FailureOf([&] { return rows->Field("x"); }), failure::NoCurrentRecord);
 }
 
 TEST(RecordSetTest, TypesValuesByTheColumnsDeclaration)
@@ -134,27 +136,32 @@ TEST(RecordSetTest, RefusesWhatACellDoesNotMean)
         const char* name;
         const char* declared;
         void (*add)(Builder&);
-        void (*read)(const RecordSet&);
+        std::function<void(const RecordSet&)> read;
         std::int32_t number;
     };
     for (const Case& c :
-         {Case{"null", "INTEGER", [](Builder& b) { b.AddNull(); }, [](const RecordSet& r) { r.Int32At(0); }, failure::InvalidUseOfNull},
-          Case{"null flag", "BOOLEAN", [](Builder& b) { b.AddNull(); }, [](const RecordSet& r) { r.BooleanAt(0); },
+         {Case{"null", "INTEGER", [](Builder& b) { b.AddNull(); }, [](const RecordSet& r) { return r.Int32At(0); },
                failure::InvalidUseOfNull},
-          Case{"null date", "DATETIME", [](Builder& b) { b.AddNull(); }, [](const RecordSet& r) { r.DateTimeAt(0); },
+          Case{"null flag", "BOOLEAN", [](Builder& b) { b.AddNull(); }, [](const RecordSet& r) { return r.BooleanAt(0); },
                failure::InvalidUseOfNull},
-          Case{"null text", "TEXT", [](Builder& b) { b.AddNull(); }, [](const RecordSet& r) { r.TextAt(0); }, failure::InvalidUseOfNull},
-          Case{"16 bits", "INTEGER", [](Builder& b) { b.AddInteger(32768); }, [](const RecordSet& r) { r.Int16At(0); }, failure::Overflow},
-          Case{"32 bits", "INTEGER", [](Builder& b) { b.AddInteger(1LL << 31); }, [](const RecordSet& r) { r.Int32At(0); },
+          Case{"null date", "DATETIME", [](Builder& b) { b.AddNull(); }, [](const RecordSet& r) { return r.DateTimeAt(0); },
+               failure::InvalidUseOfNull},
+          Case{"null text", "TEXT", [](Builder& b) { b.AddNull(); }, [](const RecordSet& r) { return r.TextAt(0); },
+               failure::InvalidUseOfNull},
+          Case{"16 bits", "INTEGER", [](Builder& b) { b.AddInteger(32768); }, [](const RecordSet& r) { return r.Int16At(0); },
                failure::Overflow},
-          Case{"single", "SINGLE", [](Builder& b) { b.AddReal(1e39); }, [](const RecordSet& r) { r.SingleAt(0); }, failure::Overflow},
-          Case{"word", "INTEGER", [](Builder& b) { b.AddText("many"); }, [](const RecordSet& r) { r.Int32At(0); }, failure::TypeMismatch},
-          Case{"no date", "DATETIME", [](Builder& b) { b.AddText("2003-02-30 00:00:00"); }, [](const RecordSet& r) { r.DateTimeAt(0); },
+          Case{"32 bits", "INTEGER", [](Builder& b) { b.AddInteger(1LL << 31); }, [](const RecordSet& r) { return r.Int32At(0); },
+               failure::Overflow},
+          Case{"single", "SINGLE", [](Builder& b) { b.AddReal(1e39); }, [](const RecordSet& r) { return r.SingleAt(0); },
+               failure::Overflow},
+          Case{"word", "INTEGER", [](Builder& b) { b.AddText("many"); }, [](const RecordSet& r) { return r.Int32At(0); },
                failure::TypeMismatch},
-          Case{"no date as field", "DATETIME", [](Builder& b) { b.AddText("soon"); }, [](const RecordSet& r) { r.Field(0); },
+          Case{"no date", "DATETIME", [](Builder& b) { b.AddText("2003-02-30 00:00:00"); },
+               [](const RecordSet& r) { return r.DateTimeAt(0); }, failure::TypeMismatch},
+          Case{"no date as field", "DATETIME", [](Builder& b) { b.AddText("soon"); }, [](const RecordSet& r) { return r.Field(0); },
                failure::TypeMismatch},
-          Case{"bytes", "TEXT", [](Builder& b) { b.AddBinary(); }, [](const RecordSet& r) { r.TextAt(0); }, failure::TypeMismatch},
-          Case{"bytes as field", "TEXT", [](Builder& b) { b.AddBinary(); }, [](const RecordSet& r) { r.Field(0); },
+          Case{"bytes", "TEXT", [](Builder& b) { b.AddBinary(); }, [](const RecordSet& r) { return r.TextAt(0); }, failure::TypeMismatch},
+          Case{"bytes as field", "TEXT", [](Builder& b) { b.AddBinary(); }, [](const RecordSet& r) { return r.Field(0); },
                failure::TypeMismatch}}) {
         SCOPED_TRACE(c.name);
         const auto rows = Single(c.declared, c.add);

@@ -12,11 +12,13 @@ namespace ptk {
 inline constexpr const char* kEngineSource = "SQLite";
 
 // With the code's meaning for the program's users as description ("the database is in use by another program").
-Failure EngineFailure(int resultCode);
-Failure EngineFailure(int resultCode, std::string description);
+[[nodiscard]] Failure EngineFailure(int resultCode);
+[[nodiscard]] Failure EngineFailure(int resultCode, std::string description);
 
 // With the code's meaning, or, where that is one of many (a wrong statement, a refused value), in the database's own words.
-Failure EngineFailure(int resultCode, sqlite3* database);
-void RaiseUnlessDone(sqlite3* database, int resultCode); // nothing on success
+[[nodiscard]] Failure EngineFailure(int resultCode, sqlite3* database);
+
+// Nothing on success.
+void RaiseUnlessDone(sqlite3* database, int resultCode);
 
 } // namespace ptk

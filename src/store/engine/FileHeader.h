@@ -7,7 +7,6 @@
 struct sqlite3;
 
 namespace ptk {
-
 // What this program marks its files with; 0, which tools that know nothing of it leave behind, is accepted for both.
 inline constexpr std::int32_t kApplicationId = 0x50544B31; // "PTK1"
 inline constexpr std::int32_t kFormatNumber = 1;           // the newest that this program knows
@@ -23,7 +22,9 @@ struct FileHeader
 };
 
 // Both change nothing and need no hold. Raise the engine's failure when the file cannot be read.
-FileHeader ReadFileHeader(sqlite3* database);
-std::int64_t FileSize(sqlite3* database); // bytes; the engine itself misses only whole pages of a file cut short
+[[nodiscard]] FileHeader ReadFileHeader(sqlite3* database);
+
+// Bytes; the engine itself misses only whole pages of a file cut short.
+[[nodiscard]] std::int64_t FileSize(sqlite3* database);
 
 } // namespace ptk

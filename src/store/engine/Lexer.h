@@ -25,6 +25,6 @@ struct Token
 };
 
 // The tokens refer to the statement's own characters.
-std::vector<Token> SplitTokens(std::string_view statement);
+[[nodiscard]] std::vector<Token> SplitTokens(std::string_view statement);
 
 } // namespace ptk

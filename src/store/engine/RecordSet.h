@@ -11,36 +11,50 @@
 #include <vector>
 
 namespace ptk {
-
 // Starts on its first row. Columns are addressed by name in any letter case, or by the ordinal that Column() gave, which the loaders use on
 // their hot path. The typed readers raise Failure 94 for a null, 13 for what has no such meaning, 6 for what does not fit; all readers
 // raise 3021 when no row is current and 9 for a column that is not there.
 class RecordSet
 {
 public:
-    std::int32_t RecordCount() const { return m_rowCount; } // all rows, whether visited or not
-    bool EndOfFile() const { return m_row >= m_rowCount; }
-    void MoveFirst(); // raises Failure 3021 on no rows
-    void MoveNext();  // past the last row EndOfFile() is true; raises Failure 3021 when it already is
+    // All rows, whether visited or not.
+    [[nodiscard]] std::int32_t RecordCount() const { return m_rowCount; }
 
-    std::size_t Column(std::string_view name) const; // raises Failure 9
+    [[nodiscard]] bool EndOfFile() const { return m_row >= m_rowCount; }
 
-    Value Field(std::string_view name) const { return Field(Column(name)); }
-    Value Field(std::size_t column) const; // typed by the column's declaration; null stays null
+    // Raises Failure 3021 on no rows.
+    void MoveFirst();
 
-    bool IsNull(std::size_t column) const;
-    std::int64_t Int64At(std::size_t column) const;
-    std::int32_t Int32At(std::size_t column) const;
-    std::int16_t Int16At(std::size_t column) const;
-    float SingleAt(std::size_t column) const;
-    bool BooleanAt(std::size_t column) const;
-    DateTime DateTimeAt(std::size_t column) const;     // no allocation for the stored form YYYY-MM-DD HH:MM:SS
-    std::string_view TextAt(std::size_t column) const; // of text cells only (13); valid as long as the record set
+    // Past the last row EndOfFile() is true; raises Failure 3021 when it already is.
+    void MoveNext();
+
+    // Raises Failure 9.
+    [[nodiscard]] std::size_t Column(std::string_view name) const;
+
+    [[nodiscard]] Value Field(std::string_view name) const { return Field(Column(name)); }
+
+    // Typed by the column's declaration; null stays null.
+    [[nodiscard]] Value Field(std::size_t column) const;
+
+    [[nodiscard]] bool IsNull(std::size_t column) const;
+    [[nodiscard]] std::int64_t Int64At(std::size_t column) const;
+    [[nodiscard]] std::int32_t Int32At(std::size_t column) const;
+    [[nodiscard]] std::int16_t Int16At(std::size_t column) const;
+    [[nodiscard]] float SingleAt(std::size_t column) const;
+    [[nodiscard]] bool BooleanAt(std::size_t column) const;
+
+    // No allocation for the stored form YYYY-MM-DD HH:MM:SS.
+    [[nodiscard]] DateTime DateTimeAt(std::size_t column) const;
+
+    // Of text cells only (13); valid as long as the record set.
+    [[nodiscard]] std::string_view TextAt(std::size_t column) const;
 
     // For telling people of a value, whatever it is: as it is stored, on one line, texts in quotes and cut where they are long; NULL for a
     // null.
-    std::string Shown(std::size_t column) const;
-    bool HasStoredDate(std::size_t column) const; // in the stored form YYYY-MM-DD HH:MM:SS, the only one that searches find
+    [[nodiscard]] std::string Shown(std::size_t column) const;
+
+    // In the stored form YYYY-MM-DD HH:MM:SS, the only one that searches find.
+    [[nodiscard]] bool HasStoredDate(std::size_t column) const;
 
     // How the engine hands the rows over; defined beside the engine.
     class Builder;
@@ -80,9 +94,9 @@ private:
         Kind kind = Kind::Null;
     };
 
-    const Cell& At(std::size_t column) const;
-    std::string_view TextOf(const Cell& cell) const { return {m_texts.data() + cell.content, cell.size}; }
-    Value Stored(const Cell& cell) const;
+    [[nodiscard]] const Cell& At(std::size_t column) const;
+    [[nodiscard]] std::string_view TextOf(const Cell& cell) const { return {m_texts.data() + cell.content, cell.size}; }
+    [[nodiscard]] Value Stored(const Cell& cell) const;
 
     std::vector<Heading> m_headings;
     std::vector<Cell> m_cells;

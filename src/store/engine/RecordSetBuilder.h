@@ -16,15 +16,21 @@ public:
     void AddNull() { Add(Kind::Null, 0); }
     void AddInteger(std::int64_t value) { Add(Kind::Integer, value); }
     void AddReal(double value);
-    void AddText(std::string_view value);      // a date-time column takes its stored form apart at once
-    void AddBinary() { Add(Kind::Binary, 0); } // no column has such values; reading the cell is a type mismatch
-    void EndRow();                             // raises Failure 7 when the rows take more than a gigabyte
+
+    // A date-time column takes its stored form apart at once.
+    void AddText(std::string_view value);
+
+    // No column has such values; reading the cell is a type mismatch.
+    void AddBinary() { Add(Kind::Binary, 0); }
+
+    // Raises Failure 7 when the rows take more than a gigabyte.
+    void EndRow();
 
     std::shared_ptr<RecordSet> Finish() { return std::move(m_rows); }
 
 private:
     void Add(Kind kind, std::int64_t content, std::uint32_t size = 0);
-    Type NextType() const { return m_rows->m_headings[m_column].type; }
+    [[nodiscard]] Type NextType() const { return m_rows->m_headings[m_column].type; }
 
     std::shared_ptr<RecordSet> m_rows;
     std::size_t m_column = 0; // of the next cell

@@ -67,10 +67,16 @@ public:
     void ForEachRow(const std::function<void()>& take);
 
     // For `take`, of the row at which ForEachRow stands; columns count from 0.
-    CellKind KindAt(int column) const;
-    std::int64_t Int64At(int column) const;                 // 0 for what is no number
-    std::string_view TextAt(int column) const;              // numbers as the engine writes them; valid until the next row
-    std::optional<DateTime> StoredDateAt(int column) const; // none for any other form than YYYY-MM-DD HH:MM:SS
+    [[nodiscard]] CellKind KindAt(int column) const;
+
+    // 0 for what is no number.
+    [[nodiscard]] std::int64_t Int64At(int column) const;
+
+    // Numbers as the engine writes them; valid until the next row.
+    [[nodiscard]] std::string_view TextAt(int column) const;
+
+    // None for any other form than YYYY-MM-DD HH:MM:SS.
+    [[nodiscard]] std::optional<DateTime> StoredDateAt(int column) const;
 
 private:
     struct Finalizer

@@ -8,10 +8,10 @@
 #include <string_view>
 
 namespace ptk {
-
-std::string StoredText(DateTime value); // the zero date-time is 1899-12-30 00:00:00
+// The zero date-time is 1899-12-30 00:00:00.
+[[nodiscard]] std::string StoredText(DateTime value);
 
 // Empty for every other form, dates that do not exist and years below 100 included. Does not allocate.
-std::optional<DateTime> FromStoredText(std::string_view text);
+[[nodiscard]] std::optional<DateTime> FromStoredText(std::string_view text);
 
 } // namespace ptk

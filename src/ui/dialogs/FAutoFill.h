@@ -30,16 +30,27 @@ public:
     ~FAutoFill() override;
 
     void StartDate(DateTime value);
-    DateTime StartDate() const; // raises Failure 13 when the box holds no date
+
+    // Raises Failure 13 when the box holds no date.
+    [[nodiscard]] DateTime StartDate() const;
+
     void EndDate(DateTime value);
-    DateTime EndDate() const;
-    void AutoShiftStartTime(DateTime value) { m_autoShiftStart = value; } // only the times of day matter
+    [[nodiscard]] DateTime EndDate() const;
+
+    // Only the times of day matter.
+    void AutoShiftStartTime(DateTime value) { m_autoShiftStart = value; }
+
     void AutoShiftEndTime(DateTime value) { m_autoShiftEnd = value; }
     void EmployeeID(std::int16_t value) { m_employeeID = value; }
-    void PeriodLength(std::int16_t value) { m_periodLength = value; } // days added to the first day for the last one
-    bool OKClick() const { return m_okClick; }                        // whether Save made the records
+
+    // Days added to the first day for the last one.
+    void PeriodLength(std::int16_t value) { m_periodLength = value; }
+
+    // Whether Save made the records.
+    [[nodiscard]] bool OKClick() const { return m_okClick; }
+
     void TimeRecordList(std::shared_ptr<CTimeRecordList> value) { m_list = std::move(value); }
-    std::shared_ptr<CTimeRecordList> TimeRecordList() const { return m_list; }
+    [[nodiscard]] std::shared_ptr<CTimeRecordList> TimeRecordList() const { return m_list; }
 
     // One record for each day from the first to the last, weekends and days with records included; a range of one day is refused,
     // deliberately. False when none were made: with a message for a wrong range, without one for times that cannot be read.
@@ -48,8 +59,10 @@ public:
     // A line that says whose the records will be, and one that follows the dates and times with what Save will do. takenDays: those that
     // already have records of that employee, none when that is not known.
     void Announce(const std::string& owner, std::optional<DayNumbers> takenDays);
-    FillTexts Texts() const;
-    void Times(const FillTexts& value); // puts its times back into their boxes
+    [[nodiscard]] FillTexts Texts() const;
+
+    // Puts its times back into their boxes.
+    void Times(const FillTexts& value);
 
 private:
     bool MayFill(const FillPlan& plan);

@@ -18,7 +18,8 @@ public:
     explicit FLoginHelp(QWidget* parent);
     ~FLoginHelp() override;
 
-    bool ShowHelp() const { return m_showHelp; } // deliberately always false
+    // Deliberately always false.
+    [[nodiscard]] bool ShowHelp() const { return m_showHelp; }
 
 private:
     void Close();

@@ -32,24 +32,38 @@ public:
     FTimeEditor(ptk::Desktop& desktop, const Clock& clock, QWidget* parent = nullptr);
     ~FTimeEditor() override;
 
-    void ParentWindow(TimeRecordReceiver* value) { m_parentWindow = value; } // not owned
-    TimeRecordReceiver* ParentWindow() const { return m_parentWindow; }
-    void TimeRecord(std::shared_ptr<CTimeRecord> value); // shows it; nullptr: empty boxes, and a new record as soon as they are read
-    std::shared_ptr<CTimeRecord> TimeRecord() const { return m_timeRecord; }
-    bool SetAutoShiftTimes(DateTime thestarttime, DateTime theendtime); // only the times of day matter; deliberately always false
+    // Not owned.
+    void ParentWindow(TimeRecordReceiver* value) { m_parentWindow = value; }
 
-    void Owner(const std::string& text);            // a line that says whose the record will be
-    void WarnAsNew(std::optional<PayPeriod> shown); // warns, in a line, of a new record that the card of that period would not show
-    RecordTexts Texts() const;                      // what stands in the boxes
-    void Texts(const RecordTexts& value);           // puts it back there, unreadable texts included
+    [[nodiscard]] TimeRecordReceiver* ParentWindow() const { return m_parentWindow; }
+
+    // Shows it; nullptr: empty boxes, and a new record as soon as they are read.
+    void TimeRecord(std::shared_ptr<CTimeRecord> value);
+
+    [[nodiscard]] std::shared_ptr<CTimeRecord> TimeRecord() const { return m_timeRecord; }
+
+    // Only the times of day matter; deliberately always false.
+    bool SetAutoShiftTimes(DateTime thestarttime, DateTime theendtime);
+
+    // A line that says whose the record will be.
+    void Owner(const std::string& text);
+
+    // Warns, in a line, of a new record that the card of that period would not show.
+    void WarnAsNew(std::optional<PayPeriod> shown);
+
+    // What stands in the boxes.
+    [[nodiscard]] RecordTexts Texts() const;
+
+    // Puts it back there, unreadable texts included.
+    void Texts(const RecordTexts& value);
 
 private:
-    std::array<DateTimeBox*, 4> Boxes() const;
+    [[nodiscard]] std::array<DateTimeBox*, 4> Boxes() const;
     void ClearControls();
     void ShowTimeRecord();
     bool ReadTimeRecord();
     void ReadTimes();
-    bool HasBothTimes() const;
+    [[nodiscard]] bool HasBothTimes() const;
     void FollowTyping();
     void UpdateTotal();
     void ShowTotal();

@@ -8,7 +8,6 @@
 class QProgressBar;
 
 namespace ptk {
-
 // Opens, and lets other events happen, only inside GoOn, never by a timer of its own: a box that tells of an employee's failure is then
 // never covered by it.
 class GenerationProgress final : public QDialog
@@ -18,10 +17,14 @@ class GenerationProgress final : public QDialog
 public:
     GenerationProgress(QWidget* window, std::int32_t total);
 
-    bool GoOn(std::int32_t done); // false once the user has cancelled
-    void Restart();               // after a box: what the user took to read it does not count
+    // False once the user has cancelled.
+    bool GoOn(std::int32_t done);
 
-    void reject() override; // Cancel, Escape and the close box
+    // After a box: what the user took to read it does not count.
+    void Restart();
+
+    // Cancel, Escape and the close box.
+    void reject() override;
 
 private:
     QProgressBar* m_bar; // belongs to the dialog

@@ -22,10 +22,12 @@ public:
     // Takes in what has been read since; another reading than before takes the place of its rows.
     void Show(const std::shared_ptr<const OverviewReading>& reading);
 
-    const OverviewReading& Shown() const { return *m_reading; } // REQUIRES: a reading was shown, here and in the next two
-    const std::vector<OverviewRow>& Rows() const;
-    const OverviewRow& Row(int row) const { return Rows().at(static_cast<std::size_t>(row)); }
-    bool HasReading() const { return m_reading != nullptr; }
+    // REQUIRES: a reading was shown, here and in the next two.
+    [[nodiscard]] const OverviewReading& Shown() const { return *m_reading; }
+
+    [[nodiscard]] const std::vector<OverviewRow>& Rows() const;
+    [[nodiscard]] const OverviewRow& Row(int row) const { return Rows().at(static_cast<std::size_t>(row)); }
+    [[nodiscard]] bool HasReading() const { return m_reading != nullptr; }
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -46,7 +48,7 @@ public:
     explicit SortedOverview(OverviewModel& rows);
 
     void ShowOnlyProblems(bool only);
-    bool OnlyProblems() const { return m_onlyProblems; }
+    [[nodiscard]] bool OnlyProblems() const { return m_onlyProblems; }
 
 protected:
     bool lessThan(const QModelIndex& left, const QModelIndex& right) const override;
@@ -66,7 +68,7 @@ public:
     using QAbstractTableModel::QAbstractTableModel;
 
     void Show(const OverviewCells& cells);
-    const OverviewCells& Cells() const { return m_cells; }
+    [[nodiscard]] const OverviewCells& Cells() const { return m_cells; }
 
     int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : 1; }
     int columnCount(const QModelIndex& parent = {}) const override;

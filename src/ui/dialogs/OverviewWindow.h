@@ -32,20 +32,26 @@ class OverviewWindow final : public QWidget
     Q_OBJECT
 
 public:
-    explicit OverviewWindow(PageHost& host); // the host outlives it
+    // The host outlives it.
+    explicit OverviewWindow(PageHost& host);
+
     ~OverviewWindow() override;
 
     // Brings it to the front. Where it was not open, it takes over the period, see OverviewPeriod, and reads.
     void Open(const std::optional<PayPeriod>& timecards);
 
-    void Say(const QString& text); // in its line
+    // In its line.
+    void Say(const QString& text);
 
 signals:
-    void CardWanted(std::int32_t employeeID, const ptk::PayPeriod& period); // of the period that was read
+    // Of the period that was read.
+    void CardWanted(std::int32_t employeeID, const ptk::PayPeriod& period);
 
 protected:
     void closeEvent(QCloseEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override; // the table's room
+
+    // The table's room.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void LayOut();
@@ -56,8 +62,12 @@ private:
 
     void StepPeriod(std::int16_t direction);
     void ShowPeriod(const PayPeriod& period);
-    std::optional<PayPeriod> Period() const; // nothing while the boxes do not hold one
-    std::int16_t PeriodLength() const;       // raises Failure 91 before the window has its controller
+
+    // Nothing while the boxes do not hold one.
+    [[nodiscard]] std::optional<PayPeriod> Period() const;
+
+    // Raises Failure 91 before the window has its controller.
+    [[nodiscard]] std::int16_t PeriodLength() const;
 
     void Refresh();
     void Begin();
@@ -67,7 +77,9 @@ private:
     void ShowProgress();
     void ShowRead();
 
-    const OverviewRow* ShownRow() const; // the chosen one, else the first; nullptr without rows
+    // The chosen one, else the first; nullptr without rows.
+    [[nodiscard]] const OverviewRow* ShownRow() const;
+
     void KeepChoice(const std::optional<std::int32_t>& employeeID);
     void ShowFindings();
     void ShowTotals();

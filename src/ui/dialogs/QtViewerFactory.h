@@ -9,21 +9,26 @@
 #include <vector>
 
 namespace ptk {
-
 // REQUIRES: CloseAll before it goes, so that reports and viewers let go of each other.
 class QtViewerFactory final : public ReportViewerFactory
 {
 public:
-    explicit QtViewerFactory(std::function<void(const std::string&)> log); // takes the lines that a viewer has for the session log
+    // Takes the lines that a viewer has for the session log.
+    explicit QtViewerFactory(std::function<void(const std::string&)> log);
 
     std::shared_ptr<ReportViewer> CreateViewer(ReportKind kind) override;
-    std::vector<std::shared_ptr<ReportViewerWindow>> Shown() const; // the longest open first
-    void ClosePrinted();                                            // those that printing has hidden
+
+    // The longest open first.
+    [[nodiscard]] std::vector<std::shared_ptr<ReportViewerWindow>> Shown() const;
+
+    // Those that printing has hidden.
+    void ClosePrinted();
+
     void CloseAll();
 
 private:
     template <typename Condition>
-    std::vector<std::shared_ptr<ReportViewerWindow>> Those(Condition condition) const;
+    [[nodiscard]] std::vector<std::shared_ptr<ReportViewerWindow>> Those(Condition condition) const;
 
     std::function<void(const std::string&)> m_log;
     std::vector<std::weak_ptr<ReportViewerWindow>> m_open;

@@ -12,7 +12,6 @@ class ReportViewerWindow;
 }
 
 namespace ptk {
-
 // The lines are collected and become one text when the window is shown, so that ten thousand of them open at once. Closing it unloads the
 // report.
 class ReportViewerWindow : public QMainWindow, public ReportViewer
@@ -20,31 +19,48 @@ class ReportViewerWindow : public QMainWindow, public ReportViewer
     Q_OBJECT
 
 public:
-    explicit ReportViewerWindow(const QString& name); // the object's name, under which its size is remembered
+    // The object's name, under which its size is remembered.
+    explicit ReportViewerWindow(const QString& name);
+
     ~ReportViewerWindow() override;
 
     void Controller(std::shared_ptr<Report> value) override { m_controller = std::move(value); }
     void Caption(const std::string& value) override;
-    bool WriteLine(const std::string& buffer) override; // always true
+
+    // Always true.
+    bool WriteLine(const std::string& buffer) override;
+
     void Show() override;
     void Hide() override;
     void Unload() override;
 
-    void BringUp();                            // to the front
-    bool Print();                              // hides the window when the printer has taken the report, and says so in its line when not
-    void LetGo();                              // what closing does: hides the window and unloads its report, once
-    bool Printed() const { return m_printed; } // hidden by printing, where nobody can close it
+    // To the front.
+    void BringUp();
+
+    // Hides the window when the printer has taken the report, and says so in its line when not.
+    bool Print();
+
+    // What closing does: hides the window and unloads its report, once.
+    void LetGo();
+
+    // Hidden by printing, where nobody can close it.
+    [[nodiscard]] bool Printed() const { return m_printed; }
 
 signals:
-    void Failed(const QString& line); // for the session log
+    // For the session log.
+    void Failed(const QString& line);
 
 protected:
     void closeEvent(QCloseEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override; // Ctrl+wheel over the text
+
+    // Ctrl+wheel over the text.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void ConnectControls();
-    void Escape(); // leaves the find bar, then the window
+
+    // Leaves the find bar, then the window.
+    void Escape();
 
     void ShowFindBar(bool shown);
     void Find(bool backward);
@@ -53,7 +69,7 @@ private:
     void ShowText();
     void ShowNotice();
     void Place();
-    QSize FirstSize() const;
+    [[nodiscard]] QSize FirstSize() const;
 
     std::unique_ptr<Ui::ReportViewerWindow> m_ui;
     std::shared_ptr<Report> m_controller;

@@ -27,34 +27,63 @@ public:
     explicit CardChoice(PageHost& host, QWidget* parent = nullptr);
     ~CardChoice() override;
 
-    bool InitializePayPeriod(); // starts it today; false when its length cannot be had, the end is then left alone
-    PayPeriod Period() const;   // raises Failure 13 when a box holds no date
-    void Period(PayPeriod value);
-    ptk::PeriodTexts PeriodTexts() const; // as the boxes show it
-    std::string PeriodText() const;       // both in one
+    // Starts it today; false when its length cannot be had, the end is then left alone.
+    bool InitializePayPeriod();
 
-    std::string EmployeeText() const;               // as it stands in the box
-    CardName Chosen() const;                        // the employee is empty while the box holds nobody's name
-    void Employee(std::int32_t employeeID);         // chooses that row of the list, also of namesakes
-    std::optional<std::int32_t> EmployeeID() const; // of the row that the box holds; nothing for a typed text
+    // Raises Failure 13 when a box holds no date.
+    [[nodiscard]] PayPeriod Period() const;
+
+    void Period(PayPeriod value);
+
+    // As the boxes show it.
+    [[nodiscard]] ptk::PeriodTexts PeriodTexts() const;
+
+    // Both in one.
+    [[nodiscard]] std::string PeriodText() const;
+
+    // As it stands in the box.
+    [[nodiscard]] std::string EmployeeText() const;
+
+    // The employee is empty while the box holds nobody's name.
+    [[nodiscard]] CardName Chosen() const;
+
+    // Chooses that row of the list, also of namesakes.
+    void Employee(std::int32_t employeeID);
+
+    // Of the row that the box holds; nothing for a typed text.
+    [[nodiscard]] std::optional<std::int32_t> EmployeeID() const;
+
     void SelectFirstEmployee();
     void FocusEmployee();
 
 signals:
-    void PeriodTyped();    // or picked in a calendar; the end has followed the start by then
-    void Stepped();        // by an arrow, also where there was nowhere to go
-    void EmployeeChosen(); // from the list or by typing
+    // Or picked in a calendar; the end has followed the start by then.
+    void PeriodTyped();
+
+    // By an arrow, also where there was nowhere to go.
+    void Stepped();
+
+    // From the list or by typing.
+    void EmployeeChosen();
+
     void GenerateAsked();
-    void Changed(); // any text of the boxes, by whatever means
+
+    // Any text of the boxes, by whatever means.
+    void Changed();
 
 private:
     void LayOut();
     void ConnectBoxes();
     bool AlignPeriodEnd();
-    bool MovePayPeriod(std::int16_t direction); // raises what the calculation raises
+
+    // Raises what the calculation raises.
+    bool MovePayPeriod(std::int16_t direction);
+
     void StepPeriod(std::int16_t direction);
     void StepEmployee(int direction);
-    std::int16_t PeriodLength() const; // raises Failure 91 before the window has its controller
+
+    // Raises Failure 91 before the window has its controller.
+    [[nodiscard]] std::int16_t PeriodLength() const;
 
     PageHost& m_host;
     std::unique_ptr<Ui::CardChoice> m_ui;

@@ -31,36 +31,59 @@ public:
     explicit CardDisplay(QWidget* parent = nullptr);
     ~CardDisplay() override;
 
-    bool SetupTimeRecordGrid();                  // empties the grid and what is found in it; always true
-    bool DisplayTimeCard(const CTimeCard& card); // fills grid and figures; raises Failure 91 for a card without employee or records
+    // Empties the grid and what is found in it; always true.
+    bool SetupTimeRecordGrid();
+
+    // Fills grid and figures; raises Failure 91 for a card without employee or records.
+    bool DisplayTimeCard(const CTimeCard& card);
+
     void ClearFigures();
-    void ShowCheck(const std::shared_ptr<const CheckedTimecard>& checked); // marks its rows, too; also of a card that could not be made
 
-    void OpenFindings();        // the list of them
-    void ShowHours(bool shown); // as a picture; remembered
-    bool HoursShown() const;
+    // Marks its rows, too; also of a card that could not be made.
+    void ShowCheck(const std::shared_ptr<const CheckedTimecard>& checked);
 
-    bool ShowsCard() const; // rows are shown, as every generated card has some
-    bool ShowsFindings() const;
-    void SetStrange(bool strange); // grey: a card that is not the one named above it
+    // The list of them.
+    void OpenFindings();
+
+    // As a picture; remembered.
+    void ShowHours(bool shown);
+
+    [[nodiscard]] bool HoursShown() const;
+
+    // Rows are shown, as every generated card has some.
+    [[nodiscard]] bool ShowsCard() const;
+
+    [[nodiscard]] bool ShowsFindings() const;
+
+    // grey: a card that is not the one named above it.
+    void SetStrange(bool strange);
+
     void SetHint(const QString& text);
 
-    std::shared_ptr<CTimeRecord> ChosenRecord() const; // the chosen row's own; nullptr when none is chosen
+    // The chosen row's own; nullptr when none is chosen.
+    [[nodiscard]] std::shared_ptr<CTimeRecord> ChosenRecord() const;
+
     void ForgetChoice();
 
 signals:
-    void RowChosen(); // by mouse or keys, also when it was chosen before
+    // By mouse or keys, also when it was chosen before.
+    void RowChosen();
+
     void EditAsked();
     void DeleteAsked();
-    void Elsewhere(const ptk::FindingPlace& place); // of a finding that was chosen: its records that are not on the card
-    void ElsewhereEntered(const ptk::Punch& punch); // such a record is to be edited
+
+    // Of a finding that was chosen: its records that are not on the card.
+    void Elsewhere(const ptk::FindingPlace& place);
+
+    // Such a record is to be edited.
+    void ElsewhereEntered(const ptk::Punch& punch);
 
 private:
     void PrepareGrid();
     void ConnectFindings();
     void ChooseRowOf(qint64 timeRecordID);
     bool FillTimeRecordGrid(std::vector<CardLine> lines);
-    std::array<FigureBox*, 5> Figures() const;
+    [[nodiscard]] std::array<FigureBox*, 5> Figures() const;
 
     std::unique_ptr<Ui::CardDisplay> m_ui;
     TimeRecordGridModel* m_records; // belongs to the widget

@@ -26,13 +26,19 @@ class CardFindings final : public QWidget
 public:
     explicit CardFindings(QWidget* parent = nullptr);
 
-    void Show(std::shared_ptr<const CheckedTimecard> checked); // nullptr for none
-    bool IsShown() const { return m_checked != nullptr; }
-    void SetStrange(bool strange); // greys the hours
+    // nullptr for none.
+    void Show(std::shared_ptr<const CheckedTimecard> checked);
 
-    void OpenList(); // as the line does
+    [[nodiscard]] bool IsShown() const { return m_checked != nullptr; }
+
+    // Greys the hours.
+    void SetStrange(bool strange);
+
+    // As the line does.
+    void OpenList();
+
     void ShowHours(bool shown);
-    bool HoursShown() const;
+    [[nodiscard]] bool HoursShown() const;
 
 signals:
     // A finding was chosen: the first row of the card that it concerns, and a record that is not on the card.

@@ -31,8 +31,12 @@ public:
     ~CompanyPage() override;
 
     bool ClearCompanyFields();
-    bool FillCompanyLists();                                       // false when there is no company list
-    bool ShowCompany(const std::shared_ptr<CCompany>& thecompany); // false for nullptr
+
+    // False when there is no company list.
+    bool FillCompanyLists();
+
+    // False for nullptr.
+    bool ShowCompany(const std::shared_ptr<CCompany>& thecompany);
 
 private:
     struct KeyList
@@ -43,13 +47,16 @@ private:
         int characters;
     };
 
-    std::array<KeyList, 2> KeyLists() const;
+    [[nodiscard]] std::array<KeyList, 2> KeyLists() const;
     void PrepareLists();
     void ConnectButtons();
     void FitFields();
 
     void Select(const KeyList& list);
-    std::shared_ptr<CCompany> ChosenIn(const QComboBox& box) const; // nullptr also for one that has left the list
+
+    // nullptr also for one that has left the list.
+    [[nodiscard]] std::shared_ptr<CCompany> ChosenIn(const QComboBox& box) const;
+
     void ShowStatus(const CCompany& company);
     void Fill(const CompanyTexts& texts);
 
@@ -59,11 +66,16 @@ private:
 
     void Save();
     void SaveTexts(const CompanyTexts& texts);
-    bool Reload(); // whether the companies could be read again
+
+    // Whether the companies could be read again.
+    bool Reload();
+
     bool ReloadAfresh();
 
-    CompanyTexts ReadTexts() const;
-    std::shared_ptr<CCompanyList> List() const; // raises Failure 91 when there is none
+    [[nodiscard]] CompanyTexts ReadTexts() const;
+
+    // Raises Failure 91 when there is none.
+    [[nodiscard]] std::shared_ptr<CCompanyList> List() const;
 
     PageHost& m_host;
     std::unique_ptr<Ui::CompanyPage> m_ui;

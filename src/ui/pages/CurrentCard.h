@@ -40,34 +40,58 @@ public:
 
     CurrentCard(PageHost& host, const Place& place, QObject* parent);
 
-    const std::shared_ptr<CTimeCard>& Card() const { return m_card; } // nullptr before the first generation
-    void GiveUp() { m_card = nullptr; }
-    bool RefreshTimeCard();                    // generates and shows it; false for any run-time failure
-    void RegenerateAfterSave();                // the same, with a box for that failure, and with nothing in the line when it is shown
-    bool ReadAgain();                          // without a box; where that fails, false, what is shown stays. May raise failures.
-    void CheckAgain();                         // with the limits that the options hold now
-    void RenewFor(std::int32_t savedEmployee); // name, rates and deductions of that employee may be others now
-    bool ClearTimeCardDisplay();               // always true
+    // nullptr before the first generation.
+    [[nodiscard]] const std::shared_ptr<CTimeCard>& Card() const { return m_card; }
 
-    std::string Employee() const;                      // display name; empty when there is no card or it is nobody's
-    std::shared_ptr<CTimeRecord> ChosenRecord() const; // nullptr when the user has chosen none since the grid was rebuilt
+    void GiveUp() { m_card = nullptr; }
+
+    // Generates and shows it; false for any run-time failure.
+    bool RefreshTimeCard();
+
+    // The same, with a box for that failure, and with nothing in the line when it is shown.
+    void RegenerateAfterSave();
+
+    // Without a box; where that fails, false, what is shown stays. May raise failures.
+    bool ReadAgain();
+
+    // With the limits that the options hold now.
+    void CheckAgain();
+
+    // Name, rates and deductions of that employee may be others now.
+    void RenewFor(std::int32_t savedEmployee);
+
+    // Always true.
+    bool ClearTimeCardDisplay();
+
+    // Display name; empty when there is no card or it is nobody's.
+    [[nodiscard]] std::string Employee() const;
+
+    // nullptr when the user has chosen none since the grid was rebuilt.
+    [[nodiscard]] std::shared_ptr<CTimeRecord> ChosenRecord() const;
+
     void ForgetChosenRecord();
-    void Complain(const std::string& line); // into the page's line and the session log; nothing for an empty text
+
+    // Into the page's line and the session log; nothing for an empty text.
+    void Complain(const std::string& line);
 
     // Of several of one name, the card is to be of this one as long as the box holds its row; nothing: of the first of the name.
     void Mean(std::optional<std::int32_t> employeeID) { m_meant = employeeID; }
 
 signals:
-    void Rebuilt(); // the grid, with or without a card in it
+    // The grid, with or without a card in it.
+    void Rebuilt();
 
 private:
     void Mark();
-    std::shared_ptr<CEmployee> EmployeeToShow() const;
+    [[nodiscard]] std::shared_ptr<CEmployee> EmployeeToShow() const;
     bool GenerateTimeCard();
     bool Load(CTimeCard& card, const std::shared_ptr<CEmployee>& employee, const PayPeriod& period);
     void ShowFindings();
     bool Regenerate();
-    bool ShowTimeCard(); // deliberately always false; nobody looks at it
+
+    // Deliberately always false; nobody looks at it.
+    bool ShowTimeCard();
+
     bool SetupTimeRecordGrid();
     void ReportCardError(std::int32_t errorNumber);
 

@@ -31,9 +31,14 @@ public:
     explicit EmployeePage(PageHost& host, QWidget* parent = nullptr);
     ~EmployeePage() override;
 
-    bool ClearEmployeeFields();                                       // leaves the "Employee Active" box as it is
-    bool FillEmployeeLists();                                         // also those of the time card and reports pages
-    bool ShowEmployee(const std::shared_ptr<CEmployee>& theemployee); // false for nullptr
+    // Leaves the "Employee Active" box as it is.
+    bool ClearEmployeeFields();
+
+    // Also those of the time card and reports pages.
+    bool FillEmployeeLists();
+
+    // False for nullptr.
+    bool ShowEmployee(const std::shared_ptr<CEmployee>& theemployee);
 
 private:
     struct KeyList
@@ -45,13 +50,16 @@ private:
         int characters;
     };
 
-    std::array<KeyList, 4> KeyLists() const;
+    [[nodiscard]] std::array<KeyList, 4> KeyLists() const;
     void ConnectLists();
     void ConnectButtons();
     void FitFields();
 
     void Select(const KeyList& list);
-    std::shared_ptr<CEmployee> ChosenIn(const QComboBox& box) const; // nullptr also for one who has left the list
+
+    // nullptr also for one who has left the list.
+    [[nodiscard]] std::shared_ptr<CEmployee> ChosenIn(const QComboBox& box) const;
+
     void ShowStatus(const CEmployee& employee);
     void Fill(const EmployeeTexts& texts);
     void EnableDeduction(bool enabled);
@@ -65,11 +73,16 @@ private:
     void Save();
     bool IsAccepted(const EmployeeTexts& texts);
     void SaveTexts(const EmployeeTexts& texts);
-    bool Reload(); // whether the employees could be read again
+
+    // Whether the employees could be read again.
+    bool Reload();
+
     void WarnOfSharedNumbers();
 
-    EmployeeTexts ReadTexts() const;
-    std::shared_ptr<CEmployeeList> List() const; // raises Failure 91 when there is none
+    [[nodiscard]] EmployeeTexts ReadTexts() const;
+
+    // Raises Failure 91 when there is none.
+    [[nodiscard]] std::shared_ptr<CEmployeeList> List() const;
 
     PageHost& m_host;
     std::unique_ptr<Ui::EmployeePage> m_ui;

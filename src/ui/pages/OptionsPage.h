@@ -26,12 +26,18 @@ public:
     explicit OptionsPage(PageHost& host, QWidget* parent = nullptr);
     ~OptionsPage() override;
 
-    bool DisplaySystemOptions(const std::shared_ptr<CSystemOptions>& options); // false for nullptr
-    bool SaveSystemOptions();                                                  // without a message; false also for any failure
-    bool RestoreSystemOptions();                                               // shows the controller's options again
+    // False for nullptr.
+    bool DisplaySystemOptions(const std::shared_ptr<CSystemOptions>& options);
+
+    // Without a message; false also for any failure.
+    bool SaveSystemOptions();
+
+    // Shows the controller's options again.
+    bool RestoreSystemOptions();
 
 signals:
-    void LimitsStored(); // others than before
+    // Others than before.
+    void LimitsStored();
 
 protected:
     void showEvent(QShowEvent* event) override;
@@ -41,7 +47,7 @@ private:
     void LoadLimits();
     void ShowStoredLimits();
     bool StoreLimits();
-    LimitTexts Limits() const;
+    [[nodiscard]] LimitTexts Limits() const;
     bool SaveOptions();
     void ShowExample();
     void Apply();

@@ -38,22 +38,31 @@ class PageHost
 public:
     virtual ~PageHost() = default;
 
-    virtual std::shared_ptr<CController> Controller() const = 0; // nullptr until the window was handed one
-    virtual ptk::Desktop& Desktop() const = 0;
-    virtual const ptk::Clock& Clock() const = 0;
-    virtual const DesktopWindow& AsDesktopWindow() const = 0;
+    // nullptr until the window was handed one.
+    [[nodiscard]] virtual std::shared_ptr<CController> Controller() const = 0;
 
-    virtual bool SetStatusText(const std::string& name, const std::string& identifier) = 0; // second panel: name " : " identifier
+    [[nodiscard]] virtual ptk::Desktop& Desktop() const = 0;
+    [[nodiscard]] virtual const ptk::Clock& Clock() const = 0;
+    [[nodiscard]] virtual const DesktopWindow& AsDesktopWindow() const = 0;
+
+    // Second panel: name " : " identifier.
+    virtual bool SetStatusText(const std::string& name, const std::string& identifier) = 0;
+
     virtual void ErrorNumber(std::int32_t value) = 0;
-    virtual void Log(const std::string& line) = 0; // into the session log; nothing without a controller
 
-    virtual std::int32_t EventSource() const = 0;
+    // Into the session log; nothing without a controller.
+    virtual void Log(const std::string& line) = 0;
+
+    [[nodiscard]] virtual std::int32_t EventSource() const = 0;
     virtual void EventSource(std::int32_t value) = 0;
 
-    virtual PeriodTexts TimeCardPeriod() const = 0; // as the Timecards page shows it
+    // As the Timecards page shows it.
+    [[nodiscard]] virtual PeriodTexts TimeCardPeriod() const = 0;
 
-    virtual ptk::EmployeeModels& EmployeeModels() const = 0; // the employees behind every list and box of the window
-    virtual ptk::OpenReports& Reports() const = 0;
+    // The employees behind every list and box of the window.
+    [[nodiscard]] virtual ptk::EmployeeModels& EmployeeModels() const = 0;
+
+    [[nodiscard]] virtual ptk::OpenReports& Reports() const = 0;
 };
 
 } // namespace ptk

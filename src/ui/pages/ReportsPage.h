@@ -25,10 +25,14 @@ public:
     explicit ReportsPage(PageHost& host, QWidget* parent = nullptr);
     ~ReportsPage() override;
 
-    bool FillReportList(); // always true; selects none
+    // Always true; selects none.
+    bool FillReportList();
+
     bool SelectFirstReport();
     void EnableGenerate();
-    bool IsGenerating() const { return m_generating; } // a box or the progress of it may be open
+
+    // A box or the progress of it may be open.
+    [[nodiscard]] bool IsGenerating() const { return m_generating; }
 
 private:
     class Client;
@@ -41,7 +45,10 @@ private:
     void OfferDates(ReportDates dates);
     void OfferEmployees(bool needed);
     void ChangeFromDate();
-    void StepPeriod(std::int16_t direction); // 1 or -1
+
+    // 1 or -1.
+    void StepPeriod(std::int16_t direction);
+
     void TakeTimeCardPeriod();
     void ShowStatus();
     void ShowSelected();
@@ -49,8 +56,10 @@ private:
     void Generate();
     void Run(const ReportEntry& entry);
 
-    std::vector<std::string> Names(ReportWhom whom) const; // in the list box's order
-    std::int16_t PeriodLength() const;
+    // In the list box's order.
+    [[nodiscard]] std::vector<std::string> Names(ReportWhom whom) const;
+
+    [[nodiscard]] std::int16_t PeriodLength() const;
     void ShowFailure(std::int32_t errorNumber, const std::string& reportName);
     void Say(const std::string& text);
 

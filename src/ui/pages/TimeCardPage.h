@@ -40,17 +40,34 @@ public:
     explicit TimeCardPage(PageHost& host, QWidget* parent = nullptr);
     ~TimeCardPage() override;
 
-    bool InitializePayPeriod();  // starts it today; false when its length cannot be had, the end is then left alone
-    bool ClearTimeCardDisplay(); // always true
+    // Starts it today; false when its length cannot be had, the end is then left alone.
+    bool InitializePayPeriod();
+
+    // Always true.
+    bool ClearTimeCardDisplay();
+
     void SelectFirstEmployee();
     void EnablePrint();
-    void GiveUpCard();                                               // the current one; the display stays
-    PeriodTexts Period() const;                                      // as the boxes show it
-    std::optional<PayPeriod> ChosenPeriod() const;                   // nothing while a box holds no date
-    void ShowCard(std::int32_t employeeID, const PayPeriod& period); // chooses and generates it, with the list of what was found
-    void CheckAgain();                                               // the card that is shown, by limits that have changed
-    void ShowHours(bool shown);                                      // the hours per day below the grid; remembered
-    bool HoursShown() const;
+
+    // The current one; the display stays.
+    void GiveUpCard();
+
+    // As the boxes show it.
+    [[nodiscard]] PeriodTexts Period() const;
+
+    // Nothing while a box holds no date.
+    [[nodiscard]] std::optional<PayPeriod> ChosenPeriod() const;
+
+    // Chooses and generates it, with the list of what was found.
+    void ShowCard(std::int32_t employeeID, const PayPeriod& period);
+
+    // The card that is shown, by limits that have changed.
+    void CheckAgain();
+
+    // The hours per day below the grid; remembered.
+    void ShowHours(bool shown);
+
+    [[nodiscard]] bool HoursShown() const;
 
     bool ReturnTimeRecord(const std::shared_ptr<CTimeRecord>& thetimerecord) override;
 
@@ -101,7 +118,8 @@ private:
     bool StoreAndShow(const Storing& storing);
     void OfferAgain(const std::function<void()>& action);
 
-    std::shared_ptr<CController> Controller() const; // raises Failure 91 when there is none
+    // Raises Failure 91 when there is none.
+    [[nodiscard]] std::shared_ptr<CController> Controller() const;
 
     PageHost& m_host;
     std::unique_ptr<Ui::TimeCardPage> m_ui;

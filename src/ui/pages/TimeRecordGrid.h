@@ -4,7 +4,6 @@
 #include <QTableView>
 
 namespace ptk {
-
 // Enter on a chosen row asks for it to be edited, as a double click does; without a chosen row Enter is left to the window. An empty table
 // says what to do.
 class TimeRecordGrid final : public QTableView
@@ -14,9 +13,11 @@ class TimeRecordGrid final : public QTableView
 public:
     explicit TimeRecordGrid(QWidget* parent = nullptr);
 
-    void SetHint(const QString& text); // shown while there are no rows
+    // Shown while there are no rows.
+    void SetHint(const QString& text);
 
-    QSize sizeHint() const override; // as high as its least height: it takes what the page has left
+    // As high as its least height: it takes what the page has left.
+    QSize sizeHint() const override;
 
 signals:
     void EditAsked();

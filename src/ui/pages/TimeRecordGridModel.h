@@ -30,14 +30,17 @@ public:
     void SetLines(std::vector<CardLine> lines);
     void Clear();
 
-    void SetMarks(RowMarks marks); // what the check says, by record
+    // What the check says, by record.
+    void SetMarks(RowMarks marks);
 
-    void SetFaded(bool faded); // greys all rows
+    // Greys all rows.
+    void SetFaded(bool faded);
 
     // The record itself, which the list may have let go of by now. REQUIRES: a row of the grid.
-    std::shared_ptr<CTimeRecord> Record(int row) const { return m_lines.at(static_cast<std::size_t>(row)).record; }
+    [[nodiscard]] std::shared_ptr<CTimeRecord> Record(int row) const { return m_lines.at(static_cast<std::size_t>(row)).record; }
 
-    int RowOf(std::int64_t timeRecordID) const; // -1 when there is none
+    // -1 when there is none.
+    [[nodiscard]] int RowOf(std::int64_t timeRecordID) const;
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -45,12 +48,14 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
-    static QString Text(const CardLine& line, int column);
-    static QString Note(const CardLine& line, int column);
+    [[nodiscard]] static QString Text(const CardLine& line, int column);
+    [[nodiscard]] static QString Note(const CardLine& line, int column);
 
-    const RowMark* Mark(const CardLine& line) const; // nullptr for a row without a finding
-    QString MarkedNote(const CardLine& line, int column) const;
-    QVariant Icon(const CardLine& line, int column) const;
+    // nullptr for a row without a finding.
+    [[nodiscard]] const RowMark* Mark(const CardLine& line) const;
+
+    [[nodiscard]] QString MarkedNote(const CardLine& line, int column) const;
+    [[nodiscard]] QVariant Icon(const CardLine& line, int column) const;
 
     std::vector<CardLine> m_lines;
     RowMarks m_marks;

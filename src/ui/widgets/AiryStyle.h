@@ -10,7 +10,8 @@ class AiryStyle final : public QProxyStyle
     Q_OBJECT
 
 public:
-    AiryStyle(); // over the application's present style
+    // Over the application's present style.
+    AiryStyle();
 
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size, const QWidget* widget) const override;
 };

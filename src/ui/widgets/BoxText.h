@@ -6,7 +6,7 @@
 
 namespace ptk {
 
-inline std::string TextOf(const QLineEdit* box)
+[[nodiscard]] inline std::string TextOf(const QLineEdit* box)
 {
     return box->text().toStdString();
 }

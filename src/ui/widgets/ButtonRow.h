@@ -6,7 +6,6 @@
 #include <vector>
 
 namespace ptk {
-
 // Buttons keep their own sizes and stand at the right. The one item that expands, the quiet line, takes what is left of the emptiest row,
 // or a row of its own above the others where that is too little for what it says. The least width is that of the widest button.
 class ButtonRow final : public QLayout
@@ -17,13 +16,19 @@ public:
     explicit ButtonRow(QWidget* parent = nullptr);
     ~ButtonRow() override;
 
-    void TakeFrom(QLayout& other); // all items of it, in their order
+    // All items of it, in their order.
+    void TakeFrom(QLayout& other);
 
-    void addItem(QLayoutItem* item) override; // owned from then on
+    // Owned from then on.
+    void addItem(QLayoutItem* item) override;
+
     int count() const override { return static_cast<int>(m_items.size()); }
     QLayoutItem* itemAt(int index) const override;
     QLayoutItem* takeAt(int index) override;
-    QSize sizeHint() const override; // of one row
+
+    // Of one row.
+    QSize sizeHint() const override;
+
     QSize minimumSize() const override;
     Qt::Orientations expandingDirections() const override { return Qt::Horizontal; }
     bool hasHeightForWidth() const override { return true; }
@@ -39,7 +44,7 @@ private:
         int height = 0;
     };
 
-    std::vector<Row> Rows(int width) const;
+    [[nodiscard]] std::vector<Row> Rows(int width) const;
     void AddTo(Row& row, QLayoutItem* item) const;
     void AddLine(std::vector<Row>& rows, QLayoutItem* line, int width) const;
     void Place(const Row& row, int top) const;

@@ -19,17 +19,24 @@ class DateCombo final : public QComboBox
 public:
     explicit DateCombo(QWidget* parent = nullptr);
 
-    void SetClock(const Clock& clock); // tells this year; must outlive the box. Without it the machine's clock does.
+    // Tells this year; must outlive the box. Without it the machine's clock does.
+    void SetClock(const Clock& clock);
 
-    QString Text() const; // as it will be shown on leaving: typed "3/5" already answers the whole date
+    // As it will be shown on leaving: typed "3/5" already answers the whole date.
+    [[nodiscard]] QString Text() const;
+
     void SetText(const QString& text);
-    std::optional<DateTime> Date() const; // midnight of the day; nothing for an empty text, no date, or a date out of range
+
+    // Midnight of the day; nothing for an empty text, no date, or a date out of range.
+    [[nodiscard]] std::optional<DateTime> Date() const;
+
     void SetDate(DateTime value);
 
     void showPopup() override;
 
 signals:
-    void Changed(); // by the user only: on each keystroke that alters the text, a day picked in the calendar, a step of a day
+    // By the user only: on each keystroke that alters the text, a day picked in the calendar, a step of a day.
+    void Changed();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -38,7 +45,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    DateTime Today() const;
+    [[nodiscard]] DateTime Today() const;
     bool Step(const QString& key);
     void Normalize();
     void Pick(QDate date);

@@ -20,19 +20,30 @@ class DateTimeBox final : public QLineEdit
 public:
     explicit DateTimeBox(QWidget* parent = nullptr);
 
-    void SetDisplayFormat(std::string pattern); // of a time, in the tokens of FormatDateTime; "hh:mm:ss AM/PM" at first
-    void SetDateMode(const Clock& clock);       // the clock tells this year and must outlive the box
+    // Of a time, in the tokens of FormatDateTime; "hh:mm:ss AM/PM" at first.
+    void SetDisplayFormat(std::string pattern);
 
-    QString Text() const;       // as it will be shown on leaving
-    TypedMoment Moment() const; // that text and what it was read as
+    // The clock tells this year and must outlive the box.
+    void SetDateMode(const Clock& clock);
+
+    // As it will be shown on leaving.
+    [[nodiscard]] QString Text() const;
+
+    // That text and what it was read as.
+    [[nodiscard]] TypedMoment Moment() const;
+
     void SetText(const QString& text);
     void Clear();
-    void TakeNote() { m_unreported = false; } // the text has been read by other means: no Changed is owed for it any more
+
+    // The text has been read by other means: no Changed is owed for it any more.
+    void TakeNote() { m_unreported = false; }
 
 signals:
-    // All by the user only.
-    void KeyEntered(); // on every keystroke that alters the text
-    void Typed();      // and on those that leave a readable one
+    // All by the user only. On every keystroke that alters the text
+    void KeyEntered();
+
+    // And on those that leave a readable one.
+    void Typed();
 
     // After leaving the box, or Enter in it, when it has been typed into since the last time. It may be answered by a message box, so it
     // waits for the click or key that brought it to be handled, and never comes when that hid the box's window or had the text read.
@@ -43,7 +54,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    std::optional<DateTime> Read() const;
+    [[nodiscard]] std::optional<DateTime> Read() const;
     void Type();
     void Finish();
     void ReportSoon();

@@ -52,8 +52,11 @@ class EmployeeModels final : public QObject
     Q_OBJECT
 
 public:
-    QAbstractItemModel* All(EmployeeText shown);         // every employee
-    QAbstractItemModel* Offered() { return &m_offered; } // the display names offered on time cards and reports
+    // Every employee.
+    QAbstractItemModel* All(EmployeeText shown);
+
+    // The display names offered on time cards and reports.
+    QAbstractItemModel* Offered() { return &m_offered; }
 
     // Resets all models. nullptr empties them.
     void SetEmployees(const std::shared_ptr<CEmployeeList>& list);

@@ -4,7 +4,6 @@
 class QWidget;
 
 namespace ptk {
-
 // In digits of the widget's font.
 namespace fieldwidth {
 inline constexpr int State = 6;

@@ -4,7 +4,6 @@
 #include <QLineEdit>
 
 namespace ptk {
-
 // As wide as a figure needs, which is little: it grows only where its layout has it fill a column.
 class FigureBox final : public QLineEdit
 {
@@ -13,8 +12,11 @@ class FigureBox final : public QLineEdit
 public:
     explicit FigureBox(QWidget* parent = nullptr);
 
-    void SetImportant();       // larger and bold
-    void SetFaded(bool faded); // grey, for a figure that does not belong to what stands around it
+    // Larger and bold.
+    void SetImportant();
+
+    // Grey, for a figure that does not belong to what stands around it.
+    void SetFaded(bool faded);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -24,7 +26,7 @@ protected:
 
 private:
     void TakeColors();
-    QSize SizeFor(const char* figure) const;
+    [[nodiscard]] QSize SizeFor(const char* figure) const;
 
     bool m_faded = false;
 };

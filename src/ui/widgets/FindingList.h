@@ -17,7 +17,7 @@ public:
     using QAbstractListModel::QAbstractListModel;
 
     void SetFindings(std::vector<Finding> findings);
-    const std::vector<Finding>& Findings() const { return m_findings; }
+    [[nodiscard]] const std::vector<Finding>& Findings() const { return m_findings; }
 
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
@@ -35,14 +35,20 @@ class FindingList final : public QListView
 public:
     explicit FindingList(QWidget* parent = nullptr);
 
-    void Show(std::vector<Finding> findings); // none of them chosen
-    void KeepRoom(int lines);                 // for at least so many lines of text, whatever it shows
+    // None of them chosen.
+    void Show(std::vector<Finding> findings);
+
+    // For at least so many lines of text, whatever it shows.
+    void KeepRoom(int lines);
 
     QSize sizeHint() const override;
 
 signals:
-    void Chosen(const Finding& finding);  // by mouse or keys, also when it was chosen before
-    void Entered(const Finding& finding); // by Enter or a double click
+    // By mouse or keys, also when it was chosen before.
+    void Chosen(const Finding& finding);
+
+    // By Enter or a double click.
+    void Entered(const Finding& finding);
 
 protected:
     void focusInEvent(QFocusEvent* event) override;
@@ -51,12 +57,14 @@ protected:
 private:
     void Choose();
     void Enter();
-    const Finding* Current() const; // nullptr when none is chosen
+
+    // nullptr when none is chosen.
+    [[nodiscard]] const Finding* Current() const;
 
     FindingModel* m_findings; // belongs to the widget
 };
 
 // "problem", "notice": the icon that stands for it.
-QString SeverityIconName(Severity severity);
+[[nodiscard]] QString SeverityIconName(Severity severity);
 
 } // namespace ptk

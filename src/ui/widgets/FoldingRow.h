@@ -4,7 +4,6 @@
 #include <QBoxLayout>
 
 namespace ptk {
-
 // The least width is that of the widest item alone. Without margins.
 class FoldingRow final : public QBoxLayout
 {
@@ -20,7 +19,7 @@ public:
     void setGeometry(const QRect& rect) override;
 
 private:
-    bool Folds(int width) const;
+    [[nodiscard]] bool Folds(int width) const;
 };
 
 } // namespace ptk

@@ -4,7 +4,6 @@
 #include <QLabel>
 
 namespace ptk {
-
 // Empty at first; breaks its lines. Each new text is announced to assistive tools.
 class HintLabel final : public QLabel
 {
@@ -14,7 +13,9 @@ public:
     explicit HintLabel(QWidget* parent = nullptr);
 
     void Say(const QString& text);
-    void KeepRoom(int lines); // so that nothing around it moves when it says more or less
+
+    // So that nothing around it moves when it says more or less.
+    void KeepRoom(int lines);
 };
 
 } // namespace ptk

@@ -9,7 +9,6 @@
 class QPainter;
 
 namespace ptk {
-
 // Each column can be reached with the arrow keys and tells its figures in words, as its tool tip and to a screen reader. Overtime is
 // hatched. Columns share the width; where they would become too narrow, the view scrolls.
 class HoursChart final : public QListView
@@ -20,7 +19,9 @@ public:
     explicit HoursChart(QWidget* parent = nullptr);
 
     void Show(std::vector<HoursColumn> columns);
-    void SetHint(const QString& text) { m_hint = text; } // shown while there are no columns
+
+    // Shown while there are no columns.
+    void SetHint(const QString& text) { m_hint = text; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;

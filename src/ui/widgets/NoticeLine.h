@@ -21,13 +21,14 @@ public:
 
     void Say(const QString& text);
 
-    void Remark(const QString& text); // says it, unless something is being offered
+    // Says it, unless something is being offered.
+    void Remark(const QString& text);
 
     // Says it, with a button beside it that runs `action` once; the line is empty again by the time it runs.
     void Offer(const QString& text, const QString& caption, std::function<void()> action);
 
     void Clear();
-    QString Text() const;
+    [[nodiscard]] QString Text() const;
 
 private:
     void Show(const QString& text);

@@ -7,7 +7,6 @@ class QComboBox;
 class QKeyEvent;
 
 namespace ptk {
-
 // The entries that hold the typed text anywhere, in any letter case, in a list below the box. What was typed stays as it is, whatever is
 // walked over in that list, until an entry is chosen there. Keys and clicks that are not meant for the list go where they would go without
 // it. Belongs to the box, whose model must be set already.
@@ -28,7 +27,9 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    bool IsTyped() const; // whether the box holds something other than the entry it stands on
+    // Whether the box holds something other than the entry it stands on.
+    [[nodiscard]] bool IsTyped() const;
+
     int MatchesOf(const QString& typed);
     void Propose(const QString& typed);
     bool Press(QKeyEvent& press);

@@ -7,9 +7,8 @@
 class QWidget;
 
 namespace ptk {
-
 // What the window's screen has to give, less what the window manager takes for borders and a title.
-QRect RoomFor(const QWidget& window);
+[[nodiscard]] QRect RoomFor(const QWidget& window);
 
 // Gives the window the size it last had under that name, `first` before that; never larger than its screen nor off any screen.
 void RestorePlace(QWidget& window, const QString& name, QSize first);
