@@ -111,6 +111,11 @@ TEST_F(ReportContentsTest, ATimeCardAlreadyOnScreenIsWrittenAsItStands)
     EXPECT_TRUE(report->WriteTimeCardReport(Card(zorn, first, last)));
     EXPECT_TRUE(DataOf(report->Document()).starts_with("17 8f\n")) << "one shift stays with its total";
 
+    const auto blank = std::make_shared<CTimeCard>(std::make_shared<CTimeRecordFactory>());
+    blank->Employee(jose);
+    EXPECT_TRUE(report->WriteTimeCardReport(blank));
+    EXPECT_TRUE(DataOf(report->Document()).starts_with("16 8f\n")) << "without shifts";
+
     EXPECT_TRUE(report->GenerateReport(database, ann, first, last));
     EXPECT_EQ(report->TimeCard()->EndDate(), DateTime({2003, 1, 17}));
 }

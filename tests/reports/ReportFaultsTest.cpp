@@ -88,6 +88,7 @@ TEST_F(ReportFaultsTest, NeedsItsFile)
         EXPECT_EQ(Records(false)->ErrorNumber(), 503);
     }
     EXPECT_FALSE(std::filesystem::exists(File(""))) << "the folder is never created";
+    EXPECT_EQ(ErrorOf(YTDTotals, Of({ann})), 503);
     const auto review = New(Review);
     review->Progress([](std::int32_t, std::int32_t) { return ADD_FAILURE() << "no card is made without a file", true; });
     EXPECT_FALSE(review->Generate(Of({ann})));
