@@ -5,6 +5,7 @@
 
 #include <chrono>
 #include <cstdint>
+#include <functional>
 #include <string>
 
 namespace ptk {
@@ -14,10 +15,16 @@ namespace ptk {
 class Connection
 {
 public:
+    enum class Access
+    {
+        Write,
+        Read // also of files that cannot be written; others may read them too
+    };
+
     // Opens for reading and writing, exclusively and without ever creating a file. Raises 14 (missing, no regular file), 5 (held by anyone,
     // a reader included, for more than a second), 8 (read-only), 26 (no database, another program's, or of a newer format) or 11 (damaged);
     // another program's file is not touched by that. An empty file passes.
-    explicit Connection(const std::string& path);
+    explicit Connection(const std::string& path, Access access = Access::Write);
     Connection(const Connection&) = delete;
     Connection& operator=(const Connection&) = delete;
 
@@ -29,7 +36,8 @@ public:
     void Hold();               // nothing when held
     void PrepareWrite();       // holds; before anything is changed
     void Commit();             // on disk when it returns, and not held; on failure nothing of the transaction is left
-    void Release() noexcept;   // drops what was changed since the last commit; nothing when not held
+    void CopyTo(const std::string& path, const std::function<bool(std::int32_t done, std::int32_t all)>& progress); // see Engine::CopyTo
+    void Release() noexcept; // drops what was changed since the last commit; nothing when not held
 
 private:
     void RefuseOtherPrograms(std::int32_t applicationId, std::int32_t formatNumber) const;
@@ -39,6 +47,7 @@ private:
     bool Wait();
 
     SQLite::Database m_database;
+    Access m_access;
     std::chrono::steady_clock::time_point m_patientUntil;
     bool m_inOrder = false; // whether what the file is was seen from outside, without a wait
     bool m_durable = false; // whether commits survive a power cut

@@ -9,12 +9,47 @@
 
 namespace ptk {
 
+namespace {
+
+// While it lives, nothing is committed: a statement that would end the transaction is refused, and what belongs to it goes.
+class OneTransaction
+{
+public:
+    explicit OneTransaction(sqlite3* database) : m_database(database)
+    {
+        sqlite3_commit_hook(
+            database, [](void* /*none*/) { return 1; }, nullptr);
+    }
+    ~OneTransaction() { sqlite3_commit_hook(m_database, nullptr, nullptr); }
+    OneTransaction(const OneTransaction&) = delete;
+    OneTransaction& operator=(const OneTransaction&) = delete;
+
+private:
+    sqlite3* m_database;
+};
+
+void RunWithin(sqlite3* database, const std::function<void()>& steps)
+{
+    const OneTransaction one(database);
+    steps();
+    if (sqlite3_get_autocommit(database) != 0) {
+        throw EngineFailure(SQLITE_ERROR, "the statement ended the transaction");
+    }
+}
+
+} // namespace
+
 Engine::Engine(const std::string& path) : m_connection(std::make_unique<Connection>(path))
 {
     m_connection->RefuseForeignFile();
 }
 
 Engine::Engine(const std::string& path, NewFile /*tag*/) : m_connection(std::make_unique<Connection>(path)) {}
+
+Engine::Engine(const std::string& path, ReadOnly /*tag*/) : m_connection(std::make_unique<Connection>(path, Connection::Access::Read))
+{
+    m_connection->RefuseForeignFile();
+}
 
 Engine::~Engine() = default;
 
@@ -49,16 +84,29 @@ std::unique_ptr<Statement> Engine::Prepare(std::string_view sql)
     return std::make_unique<Statement>(Open().Handle(), sql);
 }
 
-std::unique_ptr<Statement> Engine::PrepareStored(std::string_view query)
+// The queries' texts are part of the file, so that a file of other tables can bring queries that fit them.
+std::string Engine::StoredText(std::string_view query)
 {
-    // The queries' texts are part of the file, so that a file of other tables can bring queries that fit them.
     Statement search(Open().Handle(), "SELECT sql FROM _StoredQuery WHERE name = :name");
     search.Bind("name", std::string(query));
     const auto found = search.ReadRows();
     if (found->EndOfFile()) {
         throw EngineFailure(SQLITE_NOTFOUND, "there is no stored query " + std::string(query));
     }
-    return Prepare(found->TextAt(0));
+    return std::string(found->TextAt(0));
+}
+
+std::unique_ptr<Statement> Engine::PrepareStored(std::string_view query)
+{
+    return Prepare(StoredText(query));
+}
+
+// The line end closes a comment that may end the query; a semicolon may, too.
+std::unique_ptr<Statement> Engine::PrepareListed(std::string_view query, std::string_view column)
+{
+    std::string listing = StoredText(query);
+    listing.erase(listing.find_last_not_of("; \t\r\n") + 1);
+    return Prepare("SELECT * FROM (" + listing + "\n) WHERE " + std::string(column) + " = :key");
 }
 
 std::shared_ptr<RecordSet> Engine::Select(std::string_view statement)
@@ -66,16 +114,21 @@ std::shared_ptr<RecordSet> Engine::Select(std::string_view statement)
     return Prepare(TranslateStatement(statement))->ReadRows();
 }
 
+void Engine::Run(std::string_view statement)
+{
+    Prepare(TranslateStatement(statement))->Run();
+}
+
 void Engine::Execute(std::string_view statement)
 {
-    Commit([&] { Prepare(TranslateStatement(statement))->Run(); });
+    Write([&] { Run(statement); });
 }
 
 void Engine::ExecuteAll(std::span<const std::string> statements)
 {
-    Commit([&] {
+    Write([&] {
         for (const std::string& statement : statements) {
-            Prepare(TranslateStatement(statement))->Run();
+            Run(statement);
         }
     });
 }
@@ -85,28 +138,62 @@ std::shared_ptr<RecordSet> Engine::SelectStored(std::string_view query)
     return PrepareStored(query)->ReadRows();
 }
 
+void Engine::RunStored(std::string_view query, std::span<const Parameter> parameters)
+{
+    const auto statement = PrepareStored(query);
+    statement->Bind(parameters);
+    statement->Run();
+}
+
 void Engine::ExecuteStored(std::string_view query, std::span<const Parameter> parameters)
 {
-    Commit([&] {
-        const auto statement = PrepareStored(query);
-        statement->Bind(parameters);
-        statement->Run();
-    });
+    Write([&] { RunStored(query, parameters); });
 }
 
 // What a failed statement changed before it failed must not reach the disk with a later one.
-template <typename Steps>
-void Engine::Commit(Steps steps)
+void Engine::Write(const std::function<void()>& steps)
 {
     Connection& connection = Open();
     connection.PrepareWrite();
+    m_lastStep = 0;
     try {
-        steps();
+        RunSteps(steps);
     } catch (...) {
         connection.Release();
         throw;
     }
     connection.Commit();
+}
+
+void Engine::RunSteps(const std::function<void()>& steps)
+{
+    if (HasTrail(*this)) {
+        return RunSigned(steps);
+    }
+    Connection& connection = *m_connection;
+    const int before = sqlite3_total_changes(connection.Handle());
+    RunWithin(connection.Handle(), steps);
+    if (!m_keepCopy || sqlite3_total_changes(connection.Handle()) == before) {
+        return;
+    }
+    connection.Release();
+    m_keepCopy();
+    connection.PrepareWrite();
+    InstallTrail(*this);
+    RunSigned(steps);
+}
+
+void Engine::RunSigned(const std::function<void()>& steps)
+{
+    m_lastStep = m_step != 0 ? m_step : NextStep(*this);
+    OpenStep(*this, m_author, m_lastStep);
+    RunWithin(m_connection->Handle(), steps);
+    CloseStep(*this);
+}
+
+void Engine::CopyTo(const std::string& path, const CopyProgress& progress)
+{
+    Open().CopyTo(path, progress);
 }
 
 void Engine::BeginMany()
