@@ -69,7 +69,7 @@ std::shared_ptr<CJetDB> CJetDB::Afresh() const
 {
     auto fresh = std::make_shared<CJetDB>(m_programFolder);
     fresh->m_databaseName = m_databaseName;
-    fresh->m_author = m_author;
+    fresh->m_memory = m_memory;
     return fresh;
 }
 
@@ -245,11 +245,10 @@ bool CJetDB::Change(std::int32_t errorNumber, const std::function<void()>& steps
     const bool done = m_databaseOpen || FailWithoutDatabase();
     try {
         if (done) {
-            m_database->SignAs(m_author);
+            m_database->SignAs(m_memory->author);
             m_database->StepNumber(m_stepNumber);
             m_database->Write(steps);
-            m_lastStep = m_database->StepNumber();
-            m_stepNumber = m_steps > 0 ? m_lastStep : 0;
+            TakeStep(m_database->StepNumber());
         }
     } catch (const RowChanged& changed) {
         m_conflict = changed.Conflict();
@@ -259,6 +258,15 @@ bool CJetDB::Change(std::int32_t errorNumber, const std::function<void()>& steps
     }
     CloseWhenOpen();
     return done;
+}
+
+// Of the writes of one Step, the first that leaves an entry gives the number.
+void CJetDB::TakeStep(std::int64_t step)
+{
+    if (m_steps == 0 || step != 0) {
+        m_memory->lastStep = step;
+        m_stepNumber = m_steps > 0 ? step : 0;
+    }
 }
 
 bool CJetDB::ExecuteAction(const std::string& sqlstring)
@@ -322,7 +330,7 @@ bool CJetDB::UpdateOptions(const std::string& sqlstring, const OptionsRow& optio
 void CJetDB::RememberPassword(std::int32_t employeeID, const std::string& before, const std::string& after)
 {
     if (before != after) {
-        m_passwords.push_back({m_lastStep, employeeID, before, after});
+        m_memory->passwords.push_back({m_memory->lastStep, employeeID, before, after});
     }
 }
 

@@ -100,16 +100,16 @@ public:
     const std::optional<RowConflict>& Conflict() const { return m_conflict; }
 
     // In whose name all that follows is stored, as the edit trail tells it.
-    void StoredBy(Author value) { m_author = std::move(value); }
-    const Author& StoredBy() const { return m_author; }
+    void StoredBy(Author value) { m_memory->author = std::move(value); }
+    const Author& StoredBy() const { return m_memory->author; }
 
-    // The step of the edit trail that the last operation which stored something made; its entries are none where nothing changed.
-    std::int64_t LastStep() const { return m_lastStep; }
+    // The step of the edit trail of the last operation that stores; 0 where that changed nothing.
+    std::int64_t LastStep() const { return m_memory->lastStep; }
 
     // The passwords that were set so far, in the order of their steps.
-    const std::vector<PasswordChange>& Passwords() const { return m_passwords; }
+    const std::vector<PasswordChange>& Passwords() const { return m_memory->passwords; }
 
-    // A closed database of the same name, folder and author, that knows nothing of earlier failures.
+    // Another access to the same file, closed, that knows nothing of earlier failures. Author, steps and passwords are one for both.
     std::shared_ptr<CJetDB> Afresh() const;
 
     // Opens the file that the locator found. An empty path opens nothing, answers false and leaves ErrorNumber alone.
@@ -163,6 +163,7 @@ private:
     bool FailWithoutDatabase();
     void ForgetFailure();
     void Prepare(Engine& engine);
+    void TakeStep(std::int64_t step);
     void RememberPassword(std::int32_t employeeID, const std::string& before, const std::string& after);
     bool OpenFile(const std::string& name);
     bool JoinHold();
@@ -174,6 +175,14 @@ private:
     std::shared_ptr<RecordSet> OpenEmployeeQuery();
     std::shared_ptr<RecordSet> OpenCompanyQuery();
 
+    struct Memory
+    {
+        Author author;
+        std::int64_t lastStep = 0;
+        std::vector<PasswordChange> passwords;
+    };
+
+    std::shared_ptr<Memory> m_memory = std::make_shared<Memory>();
     std::shared_ptr<CDatabaseLocator> m_locator;
     std::unique_ptr<Engine> m_database; // kept after a close, as an unusable handle
     std::shared_ptr<RecordSet> m_recSet;
@@ -185,11 +194,8 @@ private:
     std::int32_t m_errorNumber = 0;
     Failure m_lastFailure{0, "", ""};
     std::optional<RowConflict> m_conflict;
-    Author m_author;
-    std::int64_t m_lastStep = 0;
     std::int32_t m_steps = 0;      // of those that live
     std::int64_t m_stepNumber = 0; // theirs, once something was stored
-    std::vector<PasswordChange> m_passwords;
     std::int32_t m_holds = 0;
     Failure m_holdFailure{0, "", ""}; // why the file that is to be held is not
     std::string m_programFolder;

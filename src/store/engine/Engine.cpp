@@ -185,10 +185,13 @@ void Engine::RunSteps(const std::function<void()>& steps)
 
 void Engine::RunSigned(const std::function<void()>& steps)
 {
-    m_lastStep = m_step != 0 ? m_step : NextStep(*this);
-    OpenStep(*this, m_author, m_lastStep);
+    const std::int64_t next = NextStep(*this);
+    const std::int64_t step = m_step != 0 ? m_step : next;
+    OpenStep(*this, m_author, step);
+    m_lastStep = step;
     RunWithin(m_connection->Handle(), steps);
     CloseStep(*this);
+    m_lastStep = NextStep(*this) == next ? 0 : step; // a number without entries is given to the next step
 }
 
 void Engine::CopyTo(const std::string& path, const CopyProgress& progress)

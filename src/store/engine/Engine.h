@@ -68,7 +68,7 @@ public:
     void Write(const std::function<void()>& steps);
     void SignAs(Author author) { m_author = std::move(author); }
     void StepNumber(std::int64_t step) { m_step = step; }  // of the writes that follow; 0: each is a step of its own
-    std::int64_t StepNumber() const { return m_lastStep; } // of the last write; 0 in a file without a trail
+    std::int64_t StepNumber() const { return m_lastStep; } // of the write that runs or was the last; 0 where it left no entry
     void KeepCopy(std::function<void()> keepCopy) { m_keepCopy = std::move(keepCopy); }
 
     // Into the empty file `path`, as of one moment, without making it safe on the disk. Nobody else gets at the file meanwhile; what was
