@@ -5,6 +5,7 @@
 #include "console/Session.h"
 #include "office/History.h"
 #include "platform/ErrorNumbers.h"
+#include "platform/ProgramFolder.h"
 
 namespace ptk {
 
@@ -18,6 +19,23 @@ HistoryForm FormOf(const std::string& format)
     return format == "csv" ? HistoryForm::Csv : HistoryForm::Text;
 }
 
+// The database is given up when it returns, before anything is written that somebody may be slow to read.
+std::string Read(const HistoryArguments& arguments, TrailQuery query, const std::string& programFolder)
+{
+    const auto database = ConfiguredDatabase(programFolder);
+    const CJetDB::Hold hold(database);
+    if (!database->OpenDB()) {
+        throw FileFailure(database->LastFailure(), NativePath(database->DatabaseName()).string());
+    }
+    if (arguments.employee) {
+        query.employee = FindInHistory(database, *arguments.employee);
+        if (!query.employee) {
+            throw ProgramFailure(timecard::NoEmployee, *arguments.employee);
+        }
+    }
+    return HistoryIn(FormOf(arguments.format), database, query);
+}
+
 } // namespace
 
 int HistoryCommand(const HistoryArguments& arguments, Console& console)
@@ -25,19 +43,10 @@ int HistoryCommand(const HistoryArguments& arguments, Console& console)
     if (arguments.from && arguments.to && *arguments.to < *arguments.from) {
         return RefuseUsage(console.err, "--from is after --to");
     }
-    Session session(console.programFolder);
     TrailQuery query;
     query.from = arguments.from;
     query.to = arguments.to;
-    if (arguments.employee) {
-        query.employee = FindInHistory(session.Database(), *session.Employees(), *arguments.employee);
-        if (!query.employee) {
-            throw ProgramFailure(timecard::NoEmployee, *arguments.employee);
-        }
-    }
-    const std::string history = HistoryIn(FormOf(arguments.format), session.Database(), *session.Employees(), query);
-    session.GiveUpDatabase();
-    console.out << TerminalText(history);
+    console.out << TerminalText(Read(arguments, query, console.programFolder));
     return status::Done;
 }
 

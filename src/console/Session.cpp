@@ -25,8 +25,6 @@ std::shared_ptr<CDatabaseLocator> LocateDatabase(const std::string& programFolde
     return locator;
 }
 
-namespace {
-
 std::shared_ptr<CJetDB> ConfiguredDatabase(const std::string& programFolder)
 {
     auto database = std::make_shared<CJetDB>(programFolder);
@@ -34,8 +32,6 @@ std::shared_ptr<CJetDB> ConfiguredDatabase(const std::string& programFolder)
     database->StoredBy(ConsoleAuthor());
     return database;
 }
-
-} // namespace
 
 Session::Session(const std::string& programFolder)
     : m_database(ConfiguredDatabase(programFolder)), m_hold(m_database), m_employees(std::make_shared<CEmployeeList>()),

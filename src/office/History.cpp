@@ -1,10 +1,11 @@
 #include "office/History.h"
 
-#include "model/CEmployee.h"
-#include "model/CEmployeeList.h"
 #include "platform/DataText.h"
 #include "platform/Text.h"
+#include "store/CJetDB.h"
+#include "store/engine/Statement.h"
 
+#include <algorithm>
 #include <fmt/format.h>
 
 namespace ptk {
@@ -13,10 +14,9 @@ namespace {
 
 constexpr auto kCsvHeading = "Change,When,Who,Program,Step,Table,Row,Action,Before,After,Text\r\n";
 
-std::string FullName(const std::string& first, const std::string& last)
-{
-    return first.empty() ? last : first + " " + last;
-}
+// In the order of the employee list; of any kind of value the text.
+constexpr const char* kNames = "SELECT EmployeeID, IFNULL(CAST(FirstName AS TEXT), ''), IFNULL(CAST(LastName AS TEXT), '') FROM Employee "
+                               "ORDER BY IFNULL(LastName, '') COLLATE NOCASE, IFNULL(FirstName, '') COLLATE NOCASE, EmployeeID";
 
 // "2003-03-05 17:00:00" as "2003-03-05T17:00:00".
 std::string Moment(std::string at)
@@ -91,89 +91,83 @@ std::string TextLine(const TrailEntry& entry, const std::string& text)
     return fmt::format("{}  {}  {}\r\n", moment ? FormatDateTime(*moment, "mm/dd/yyyy hh:mm:ss AM/PM") : entry.at, who, text);
 }
 
-// The names that a row of Employee had, walking back through its changes.
-class FormerNames
-{
-public:
-    explicit FormerNames(CEmployeeList& employees)
-    {
-        for (std::int32_t i = 1; i <= employees.Count(); ++i) {
-            if (const auto employee = employees.Item(i)) {
-                m_names[employee->EmployeeID()] = {employee->FirstName(), employee->LastName()};
-            }
-        }
-    }
-
-    // What the row was called right before this change, or after it when it was added.
-    std::string Before(const TrailEntry& entry)
-    {
-        auto& [first, last] = m_names[entry.row.value_or(0)];
-        if (const auto& row = entry.before ? entry.before : entry.after) {
-            Take(*row, "FirstName", first);
-            Take(*row, "LastName", last);
-        }
-        return FullName(first, last);
-    }
-
-private:
-    static void Take(const TrailRow& row, const char* column, std::string& name)
-    {
-        if (const TrailValue* value = ValueOf(row, column)) {
-            name = value->text;
-        }
-    }
-
-    std::map<std::int64_t, std::pair<std::string, std::string>> m_names;
-};
-
 } // namespace
 
-EmployeeNames::EmployeeNames(CEmployeeList& employees)
+EmployeeNames::EmployeeNames(const std::shared_ptr<CJetDB>& database)
 {
-    for (std::int32_t i = 1; i <= employees.Count(); ++i) {
-        if (const auto employee = employees.Item(i)) {
-            m_names[employee->EmployeeID()] = employee->DisplayName();
-        }
+    const CJetDB::Hold hold(database);
+    const auto rows = database->OpenDB() ? database->PrepareSelect(kNames) : nullptr;
+    if (rows == nullptr) {
+        throw database->LastFailure();
     }
+    rows->ForEachRow([&] {
+        m_order.push_back(rows->Int64At(0));
+        m_present[m_order.back()] = {std::string(rows->TextAt(1)), std::string(rows->TextAt(2))};
+    });
+    m_former = m_present;
+}
+
+void EmployeeNames::Name::Take(const TrailRow& row)
+{
+    const TrailValue* newFirst = ValueOf(row, "FirstName");
+    const TrailValue* newLast = ValueOf(row, "LastName");
+    first = newFirst == nullptr ? first : newFirst->text;
+    last = newLast == nullptr ? last : newLast->text;
 }
 
 std::string EmployeeNames::Of(std::int64_t employeeID) const
 {
-    const auto found = m_names.find(employeeID);
-    return found == m_names.end() ? std::string() : found->second;
+    const auto found = m_present.find(employeeID);
+    return found == m_present.end() ? std::string() : found->second.Display();
+}
+
+std::optional<std::int64_t> EmployeeNames::FirstOf(std::string_view displayName) const
+{
+    const auto found = std::find_if(m_order.begin(), m_order.end(), [&](std::int64_t id) { return Of(id) == displayName; });
+    return found == m_order.end() ? std::nullopt : std::optional(*found);
 }
 
 void EmployeeNames::Learn(const TrailEntry& entry)
 {
     if (entry.table == "Employee" && entry.row && entry.before && !entry.after) {
-        const auto text = [&](const char* column) {
-            const TrailValue* value = ValueOf(*entry.before, column);
-            return value == nullptr ? std::string() : value->text;
-        };
-        m_names.try_emplace(*entry.row, FullName(text("FirstName"), text("LastName")));
+        const auto [gone, isNew] = m_present.try_emplace(*entry.row);
+        if (isNew) {
+            gone->second.Take(*entry.before);
+        }
     }
 }
 
-std::optional<std::int64_t> FindInHistory(const std::shared_ptr<CJetDB>& database, CEmployeeList& employees, const std::string& name)
+std::string EmployeeNames::FormerOf(const TrailEntry& entry)
 {
-    if (const auto employee = employees.GetEmployeeByName(name)) {
-        return employee->EmployeeID();
+    Name& name = m_former[entry.row.value_or(0)];
+    if (entry.before || entry.after) {
+        name.Take(entry.before ? *entry.before : *entry.after);
+    }
+    return name.Display();
+}
+
+std::optional<std::int64_t> FindInHistory(const std::shared_ptr<CJetDB>& database, const std::string& name)
+{
+    const CJetDB::Hold hold(database);
+    EmployeeNames names(database);
+    if (const auto present = names.FirstOf(name)) {
+        return present;
     }
     std::optional<std::int64_t> found;
-    FormerNames names(employees);
     TrailQuery query;
     query.table = "Employee";
     ReadTrail(database, query, [&](const TrailEntry& entry) {
-        if (names.Before(entry) == name && !found) {
+        if (names.FormerOf(entry) == name && !found) {
             found = entry.row;
         }
     });
     return found;
 }
 
-std::string HistoryIn(HistoryForm form, const std::shared_ptr<CJetDB>& database, CEmployeeList& employees, const TrailQuery& query)
+std::string HistoryIn(HistoryForm form, const std::shared_ptr<CJetDB>& database, const TrailQuery& query)
 {
-    EmployeeNames names(employees);
+    const CJetDB::Hold hold(database);
+    EmployeeNames names(database);
     std::string text;
     ReadTrail(database, query, [&](const TrailEntry& entry) {
         names.Learn(entry);

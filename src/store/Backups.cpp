@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <functional>
+#include <future>
 #include <system_error>
 
 namespace ptk {
@@ -25,7 +26,7 @@ constexpr const char* kTables = "SELECT COUNT(*) FROM sqlite_master WHERE type =
                                 "('Company', 'Employee', 'TimeRecord', '_System', '_StoredQuery')";
 constexpr std::int32_t kTableCount = 5;
 
-// A fifth of the time of the engine's full check: all pages and rows, but not whether each row is in each index, which a copy of pages
+// A twentieth of the time of the engine's full check: all pages and rows, but not whether each row is in each index, which a copy of pages
 // cannot have spoiled.
 void RefuseDamage(Engine& engine)
 {
@@ -42,11 +43,15 @@ void RefuseForeignTables(Engine& engine)
     }
 }
 
-void FillDraft(Engine& database, const FileDraft& draft, const CopyProgress& progress)
+// The copy goes to the disk while it is checked. Nobody cuts it short meanwhile, so it need not be read into buffers.
+void FillDraft(Engine& database, FileDraft& draft, const CopyProgress& progress)
 {
     database.CopyTo(draft.Path(), progress);
+    auto flushed = std::async(std::launch::async, [&] { draft.File().Flush(); });
     Engine copy(draft.Path(), ReadOnly{});
+    copy.RunScript("PRAGMA mmap_size = 2147418112"); // the engine's most
     RefuseDamage(copy);
+    flushed.get();
 }
 
 std::vector<std::string> NamesIn(const std::string& folder)

@@ -282,11 +282,11 @@ TEST_F(UndoStackTest, TheHistorySaysItInPlainWords)
          }) {
         Elsewhere(c.sql);
         const auto entries = ReadTrail(m_database, {});
-        const EmployeeNames names(*Employees());
+        const EmployeeNames names(m_database);
         EXPECT_EQ(EntrySentence(entries.front(), [&](std::int64_t id) { return id == 40 ? "Ann Lee" : names.Of(id); }), c.text);
     }
-    EXPECT_EQ(FindInHistory(m_database, *Employees(), "Ann Lee"), 40) << "gone, but the trail names her";
-    EXPECT_EQ(FindInHistory(m_database, *Employees(), "Bo Lee"), std::nullopt);
+    EXPECT_EQ(FindInHistory(m_database, "Ann Lee"), 40) << "gone, but the trail names her";
+    EXPECT_EQ(FindInHistory(m_database, "Bo Lee"), std::nullopt);
     TrailQuery query;
     query.employee = 40;
     EXPECT_EQ(ReadTrail(m_database, query).size(), 6U) << "her rows, and the records that were hers before or after";

@@ -4,6 +4,7 @@
 #include "store/DatabaseChecker.h"
 #include "store/engine/Engine.h"
 #include "store/StoreFixture.h"
+#include "store/TrailReader.h"
 #include "support/Files.h"
 
 #include <fmt/format.h>
@@ -157,6 +158,17 @@ TEST_F(TrailTest, AnEarlierFileStaysAsItIsWithoutABackupAndLosesNoTableForAMissi
     EXPECT_TRUE(m_database->AddNewCompany({}));
     EXPECT_TRUE(m_database->ExecuteAction("INSERT INTO TimeRecord (EmployeeID, StartTime, EndTime) SELECT 40, #3/5/2003#, #3/5/2003#"));
     EXPECT_EQ(Entries("TableName"), "Company|") << "the time records go without";
+}
+
+TEST_F(TrailTest, AnEmployeesEntriesAreFoundByTheirIndexes)
+{
+    TrailQuery query;
+    query.employee = 40;
+    const std::string plan = Rows("EXPLAIN QUERY PLAN " + TrailSql(query));
+    EXPECT_NE(plan.find("USING INDEX _ChangeEmployee (EmployeeAfter=?"), std::string::npos) << plan;
+    EXPECT_NE(plan.find("USING INDEX _ChangeEmployeeBefore (EmployeeBefore=?"), std::string::npos) << plan;
+    EXPECT_EQ(plan.find("TEMP B-TREE"), std::string::npos) << plan;
+    EXPECT_EQ(plan.find("SCAN _Change"), std::string::npos) << plan;
 }
 
 } // namespace
