@@ -95,6 +95,10 @@ std::string NumberText(const std::string& digits)
 std::string ValueText(const TrailValue& value, Shape shape, const NameOfEmployee& nameOf)
 {
     using Kind = TrailValue::Kind;
+    const bool isTime = shape == Shape::Moment || shape == Shape::Day;
+    if (value.kind == Kind::Null && isTime) {
+        return "none";
+    }
     if (value.kind == Kind::Null || (value.kind == Kind::Text && value.text.empty())) {
         return "empty";
     }
@@ -111,7 +115,7 @@ std::string ValueText(const TrailValue& value, Shape shape, const NameOfEmployee
     if (value.kind == Kind::Number) {
         return Succeeds([&] { static_cast<void>(ToSingle(value.text)); }) ? NumberText(value.text) : value.text;
     }
-    const auto moment = shape == Shape::Moment || shape == Shape::Day ? ParseDateTime(value.text) : std::nullopt;
+    const auto moment = isTime ? ParseDateTime(value.text) : std::nullopt;
     return moment ? MomentText(*moment, shape) : '"' + value.text + '"';
 }
 
@@ -180,9 +184,7 @@ std::string WholeRow(const TrailEntry& entry, const std::optional<TrailRow>& row
     return entry.table == "Company" ? TextIn(row, "Name", nameOf) + " " : "";
 }
 
-} // namespace
-
-std::string EntrySentence(const TrailEntry& entry, const NameOfEmployee& nameOf)
+std::string Sentence(const TrailEntry& entry, const NameOfEmployee& nameOf)
 {
     if (entry.action == "restore") {
         return "Database restored from " + (entry.after ? PlainTextIn(*entry.after, "file") : std::string());
@@ -195,6 +197,16 @@ std::string EntrySentence(const TrailEntry& entry, const NameOfEmployee& nameOf)
         return start + ChangesText(entry, nameOf);
     }
     return start + WholeRow(entry, entry.after ? entry.after : entry.before, nameOf) + (entry.after ? "added" : "deleted");
+}
+
+} // namespace
+
+std::string EntrySentence(const TrailEntry& entry, const NameOfEmployee& nameOf)
+{
+    std::string sentence = Sentence(entry, nameOf);
+    const auto isControl = [](char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7F'; };
+    std::replace_if(sentence.begin(), sentence.end(), isControl, '?');
+    return sentence;
 }
 
 std::string RecordMoment(const TrailEntry& entry)
