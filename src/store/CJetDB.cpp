@@ -145,8 +145,11 @@ bool CJetDB::OpenFile(const std::string& name)
 {
     CloseFile(); // a hold of our own would lock us out like anybody else's
     try {
-        m_database = std::make_unique<Engine>(NativePath(name).string());
-        Prepare(*m_database);
+        const std::string path = NativePath(name).string();
+        if (m_database == nullptr || m_database->Path() != path || !m_database->Reopen()) {
+            m_database = std::make_unique<Engine>(path);
+            Prepare(*m_database);
+        }
     } catch (...) {
         const Failure reason = CurrentFailure();
         return Fail(reason.Number(), reason); // the engine's own, which tells a file in use from a damaged one

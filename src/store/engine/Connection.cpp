@@ -8,7 +8,9 @@
 #include <sqlite3.h>
 #include <SQLiteCpp/Exception.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
+#include <ctime>
 #include <thread>
 
 namespace ptk {
@@ -61,23 +63,68 @@ SQLite::Database OpenFile(const std::string& path, Connection::Access access)
 
 } // namespace
 
-Connection::Connection(const std::string& path, Access access) : m_database(OpenFile(PlainPath(path), access)), m_access(access)
+Connection::Connection(const std::string& path, Access access)
+    : m_path(PlainPath(path)), m_database(OpenFile(m_path, access)), m_access(access)
 {
-    const std::int64_t size = FileSize(Handle());
-    if (size == 0) { // as a device's always is
-        RefuseIrregularFile(PlainPath(path));
+    if (FileSize(Handle()) == 0) { // as a device's always is
+        RefuseIrregularFile(m_path);
     }
     if (access == Access::Write && sqlite3_db_readonly(Handle(), "main") != 0) {
         throw EngineFailure(SQLITE_READONLY);
     }
-    // Before the hold, which would finish what another program's crash left undone.
-    if (const FileHeader header = ReadFileHeader(Handle()); header.signature) {
-        RefuseOtherPrograms(header.applicationId, header.formatNumber);
-        m_inOrder = !header.writeAheadLog && size >= header.fileSize;
-    }
+    Inspect();
     sqlite3_busy_handler(
         Handle(), [](void* connection, int /*tries*/) { return static_cast<Connection*>(connection)->Wait() ? 1 : 0; }, this);
     Hold();
+}
+
+void Connection::Inspect()
+{
+    // Before the hold, which would finish what another program's crash left undone.
+    if (const FileHeader header = ReadFileHeader(Handle()); header.signature) {
+        RefuseOtherPrograms(header.applicationId, header.formatNumber);
+        m_inOrder = !header.writeAheadLog && FileSize(Handle()) >= header.fileSize;
+    }
+}
+
+// False where the path leads nowhere, or was written so lately that one more write might have the same time.
+bool Connection::ReadState(FileState& state) const
+{
+    constexpr std::int64_t kSecond = 1'000'000'000; // nanoseconds
+    constexpr std::int64_t kTooFresh = 50'000'000;  // nanoseconds: several ticks of the clock that files are dated by
+    struct stat file
+    {
+    };
+    struct timespec now
+    {
+    };
+    if (stat(m_path.c_str(), &file) != 0 || !S_ISREG(file.st_mode) || clock_gettime(CLOCK_REALTIME, &now) != 0) {
+        return false;
+    }
+    const auto nanoseconds = [](const timespec& time) { return time.tv_sec * kSecond + time.tv_nsec; };
+    state = {file.st_dev, file.st_ino, file.st_mode, file.st_size, nanoseconds(file.st_mtim), nanoseconds(file.st_ctim), getpid()};
+    return nanoseconds(now) - state.changed > kTooFresh;
+}
+
+bool Connection::Park()
+{
+    Release();
+    return !m_durable && m_access == Access::Write && ReadState(m_parked);
+}
+
+bool Connection::Resume()
+{
+    FileState now;
+    if (!ReadState(now) || now != m_parked) {
+        return false;
+    }
+    m_inOrder = false;
+    Inspect();
+    if (!m_inOrder) {
+        return false;
+    }
+    Hold();
+    return true;
 }
 
 void Connection::RefuseOtherPrograms(std::int32_t applicationId, std::int32_t formatNumber) const

@@ -28,6 +28,15 @@ public:
     Connection(const Connection&) = delete;
     Connection& operator=(const Connection&) = delete;
 
+    // Gives the hold up and keeps the file open, so that the next Resume need not read its tables' definitions again, which takes most of
+    // the time of a short operation. False when it should rather be closed: after a write, or where the file is so fresh that its time
+    // would not tell another change.
+    bool Park();
+
+    // Whether the path still leads to the file just as it was parked, by the same process; it is then held again, as by the constructor,
+    // which also raises the same. False when it is to be opened anew.
+    bool Resume();
+
     void RefuseForeignFile(); // raises 26 for an empty file, 11 for one cut short; to be called before anything else
 
     sqlite3* Handle() const { return m_database.getHandle(); }
@@ -40,12 +49,30 @@ public:
     void Release() noexcept; // drops what was changed since the last commit; nothing when not held
 
 private:
+    // What tells any change of the file or its rights.
+    struct FileState
+    {
+        std::uint64_t device = 0;
+        std::uint64_t node = 0;
+        std::uint32_t mode = 0;
+        std::int64_t size = 0;
+        std::int64_t written = 0; // nanoseconds
+        std::int64_t changed = 0; // nanoseconds, rights included
+        std::int32_t process = 0; // whose connection it is: it must not be used after a fork
+
+        bool operator==(const FileState&) const = default;
+    };
+
+    void Inspect();
+    bool ReadState(FileState& state) const;
     void RefuseOtherPrograms(std::int32_t applicationId, std::int32_t formatNumber) const;
     void RefuseOtherProgramsLog();
     void LeaveWriteAheadLog();
     bool IsHeld() const;
     bool Wait();
 
+    std::string m_path;
+    FileState m_parked;
     SQLite::Database m_database;
     Access m_access;
     std::chrono::steady_clock::time_point m_patientUntil;

@@ -6,6 +6,7 @@
 #include "store/engine/RecordSet.h"
 
 #include <sqlite3.h>
+#include <utility>
 
 namespace ptk {
 
@@ -39,7 +40,7 @@ void RunWithin(sqlite3* database, const std::function<void()>& steps)
 
 } // namespace
 
-Engine::Engine(const std::string& path) : m_connection(std::make_unique<Connection>(path))
+Engine::Engine(const std::string& path) : m_path(path), m_connection(std::make_unique<Connection>(path))
 {
     m_connection->RefuseForeignFile();
 }
@@ -55,7 +56,21 @@ Engine::~Engine() = default;
 
 void Engine::Close()
 {
+    if (m_connection != nullptr && m_connection->Park()) {
+        m_parked = std::move(m_connection);
+    }
     m_connection.reset();
+}
+
+bool Engine::Reopen()
+{
+    auto parked = std::exchange(m_parked, nullptr);
+    if (parked == nullptr || !parked->Resume()) {
+        return false;
+    }
+    parked->RefuseForeignFile();
+    m_connection = std::move(parked);
+    return true;
 }
 
 void Engine::Hold()

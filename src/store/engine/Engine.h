@@ -47,6 +47,11 @@ public:
 
     bool IsOpen() const { return m_connection != nullptr; }
     void Close(); // the members below then raise 21; nothing when closed
+
+    // After a Close: as the constructor opened it, from what was kept ready where the file is still the same. False when it is to be opened
+    // anew; raises what the constructor raises, and is closed then.
+    bool Reopen();
+    const std::string& Path() const { return m_path; }
     void Hold();
     void GiveUp() noexcept; // others get at the file; what was not committed is dropped
 
@@ -93,7 +98,9 @@ private:
     void RunSteps(const std::function<void()>& steps);
     void RunSigned(const std::function<void()>& steps);
 
+    std::string m_path;
     std::unique_ptr<Connection> m_connection;
+    std::unique_ptr<Connection> m_parked; // closed, and ready to be opened again
     Author m_author;
     std::int64_t m_step = 0;
     std::int64_t m_lastStep = 0;
