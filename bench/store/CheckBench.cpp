@@ -70,7 +70,7 @@ void CheckedCard(benchmark::State& state, const ptk::PayPeriod& period)
     for (auto unused : state) {
         ptk::CTimeCard card(office.factory);
         card.PTKDatabase(office.database);
-        const auto checked = GenerateChecked(card, office.database, employee, period, kLastDay.AddDays(1), {});
+        const auto checked = GenerateChecked(card, office.database, employee, period, kLastDay.AddDays(1), ptk::CheckLimits());
         if (!checked.generated || !checked.check || checked.check->weeks.size() < 2) {
             throw std::runtime_error("no checked card");
         }

@@ -2,6 +2,7 @@
 #include "model/CEmployee.h"
 #include "model/CEmployeeList.h"
 #include "model/CTimeRecordFactory.h"
+#include "model/PayPeriod.h"
 #include "platform/Clock.h"
 #include "platform/Desktop.h"
 #include "reports/CReportReview.h"

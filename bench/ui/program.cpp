@@ -8,7 +8,7 @@
 #include "platform/Clock.h"
 #include "startup/AdminMain.h"
 #include "startup/CController.h"
-#include "ui/dialogs/FReportViewers.h"
+#include "ui/dialogs/ReportViewerWindow.h"
 #include "ui/QtDesktop.h"
 #include "ui/QtWindowFactory.h"
 
@@ -85,7 +85,7 @@ void ShowReport(const QString& file)
 {
     const std::vector<std::string> lines = bench::Lines(file);
     const bench::Time start = bench::Now();
-    const auto viewer = std::make_shared<ptk::FReportReview>();
+    const auto viewer = std::make_shared<ptk::ReportViewerWindow>("FReportReview");
     const bench::Painted painted(bench::Any, [&](QWidget&) { bench::Finish(start); });
     viewer->Caption("Accountant's Review");
     for (const std::string& line : lines) {

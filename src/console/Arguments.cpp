@@ -30,6 +30,15 @@ void TakesFormat(CLI::App* command, std::string& format)
     command->add_option("--format", format, "How: text, csv or json")->type_name("FORMAT")->check(CLI::IsMember({"text", "csv", "json"}));
 }
 
+std::vector<std::string> ConsoleNames()
+{
+    std::vector<std::string> names;
+    for (const ReportEntry& entry : ReportCatalog()) {
+        names.emplace_back(entry.consoleName);
+    }
+    return names;
+}
+
 // The words as CLI11 stores them; dates are checked while reading and turned into dates afterwards.
 struct Words
 {
@@ -120,10 +129,7 @@ void Grammar::DescribeTimeCard()
 void Grammar::DescribeReport()
 {
     m_report = m_app.add_subcommand("report", "Write a report to the reports folder and print it");
-    m_report->add_option("report", m_words.report, "Which one")
-        ->type_name("KIND")
-        ->check(CLI::IsMember({"timecard", "review", "ytd", "employees", "phonebook"}))
-        ->required();
+    m_report->add_option("report", m_words.report, "Which one")->type_name("KIND")->check(CLI::IsMember(ConsoleNames()))->required();
     m_report->add_option("--employee", m_words.employees, "An employee's name, may be repeated; else all that the Reports page lists")
         ->type_name("NAME")
         ->allow_extra_args(false);
@@ -164,12 +170,13 @@ void Grammar::DescribeBackups()
 // What each report has no use for is refused rather than silently left aside.
 void Grammar::CheckReport() const
 {
+    const ReportEntry& entry = *FindConsoleReport(m_words.report);
     const bool dates = m_report->count("--from") + m_report->count("--to") > 0;
-    if (dates && (m_words.report == "employees" || m_words.report == "phonebook")) {
+    if (dates && entry.dates == ReportDates::None) {
         throw CLI::ValidationError("report " + m_words.report, "takes no dates");
     }
-    if (!m_words.employees.empty() && m_words.report == "phonebook") {
-        throw CLI::ValidationError("report phonebook", "takes no employees");
+    if (!m_words.employees.empty() && entry.whom == ReportWhom::Everyone) {
+        throw CLI::ValidationError("report " + m_words.report, "takes no employees");
     }
 }
 
@@ -209,7 +216,8 @@ Arguments Grammar::Result() const
                 TimeCardArguments{m_words.employee, ReadDay(m_words.from).value(), ReadDay(m_words.to).value(), m_words.check}};
     }
     if (m_report->parsed()) {
-        return {m_words.programFolder, ReportArguments{m_words.report, m_words.employees, ReadDay(m_words.from), ReadDay(m_words.to)}};
+        return {m_words.programFolder,
+                ReportArguments{*FindConsoleReport(m_words.report), m_words.employees, ReadDay(m_words.from), ReadDay(m_words.to)}};
     }
     if (m_overview->parsed()) {
         return {m_words.programFolder, OverviewArguments{m_words.employees, ReadDay(m_words.from), ReadDay(m_words.to), m_words.format}};

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/DateTime.h"
+#include "reports/ReportCatalog.h"
 
 #include <optional>
 #include <string>
@@ -26,7 +27,7 @@ struct TimeCardArguments
 
 struct ReportArguments
 {
-    std::string report;                 // one of timecard, review, ytd, employees, phonebook
+    const ReportEntry& report;
     std::vector<std::string> employees; // display names in the order given; none: all that are offered
     std::optional<DateTime> from;
     std::optional<DateTime> to;

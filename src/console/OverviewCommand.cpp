@@ -8,7 +8,6 @@
 #include "office/Overview.h"
 #include "office/OverviewTexts.h"
 #include "platform/Clock.h"
-#include "reports/ReportCatalog.h"
 
 namespace ptk {
 
@@ -48,8 +47,9 @@ int OverviewCommand(const OverviewArguments& arguments, Console& console)
         return RefuseUsage(console.err, "--from is after --to");
     }
     Session session(console.programFolder);
+    session.LoadEmployees();
     Overview overview;
-    overview.period = {from, arguments.to ? *arguments.to : PeriodEnd(from, session.PeriodLength())};
+    overview.period = {from, arguments.to ? *arguments.to : PayPeriodFrom(from, session.PeriodLength()).to};
     overview.made = made;
     overview.limits = LoadCheckLimits(session.Database());
     ReadOverview(overview, session.Database(), Chosen(*session.Employees(), arguments.employees));

@@ -38,10 +38,26 @@ Session::Session(const std::string& programFolder)
       m_factory(std::make_shared<CTimeRecordFactory>())
 {
     Open();
-    if (!m_employees->LoadList(m_database)) {
+    m_factory->PTKDatabase(m_database);
+}
+
+void Session::LoadEmployees()
+{
+    RequireLoaded(m_employees->LoadList(m_database));
+}
+
+std::shared_ptr<CEmployee> Session::EmployeeNamed(const std::string& name)
+{
+    CEmployeeList namesakes;
+    RequireLoaded(namesakes.LoadNamed(m_database, name));
+    return namesakes.GetEmployeeByName(name);
+}
+
+void Session::RequireLoaded(bool loaded) const
+{
+    if (!loaded) {
         throw ProgramFailure(m_database->ErrorNumber(), "", m_database->LastFailure().Description());
     }
-    m_factory->PTKDatabase(m_database);
 }
 
 void Session::Open()
@@ -56,9 +72,7 @@ std::int16_t Session::PeriodLength()
     Open();
     CSystemOptions options;
     options.PTKDatabase(m_database);
-    if (!options.Load()) {
-        throw ProgramFailure(m_database->ErrorNumber(), "", m_database->LastFailure().Description());
-    }
+    RequireLoaded(options.Load());
     m_database->CloseDB();
     return options.PeriodLength();
 }

@@ -11,6 +11,7 @@
 namespace ptk {
 
 class CDatabaseLocator;
+class CEmployee;
 class CEmployeeList;
 class CTimeRecordFactory;
 
@@ -24,18 +25,23 @@ std::shared_ptr<CJetDB> ConfiguredDatabase(const std::string& programFolder);
 class Session
 {
 public:
-    // Loads the employees. Raises the failure of what could not be read, an engine's number when the database could not be opened.
+    // Opens the database. Raises the engine's number when it could not be opened.
     explicit Session(const std::string& programFolder);
 
     const std::shared_ptr<CJetDB>& Database() const { return m_database; }
     const std::shared_ptr<CEmployeeList>& Employees() const { return m_employees; }
     const std::shared_ptr<CTimeRecordFactory>& Factory() const { return m_factory; }
 
-    std::int16_t PeriodLength();              // days, as the options say at this moment; raises what reading them raises
+    // Each raises the failure of what could not be read.
+    void LoadEmployees();
+    std::shared_ptr<CEmployee> EmployeeNamed(const std::string& name); // of all there are, the first of this display name, or nullptr
+    std::int16_t PeriodLength();                                       // days, as the options say at this moment
+
     void GiveUpDatabase() { m_hold.reset(); } // before anything is written that somebody may be slow to read
 
 private:
     void Open();
+    void RequireLoaded(bool loaded) const;
 
     std::shared_ptr<CJetDB> m_database;
     std::optional<CJetDB::Hold> m_hold;

@@ -3,7 +3,6 @@
 #include "console/Console.h"
 #include "console/ErrorText.h"
 #include "console/Session.h"
-#include "model/CEmployeeList.h"
 #include "model/CTimeCard.h"
 #include "model/FindingText.h"
 #include "office/CheckedTimecard.h"
@@ -25,7 +24,7 @@ public:
 
     int Print()
     {
-        const auto employee = m_session.Employees()->GetEmployeeByName(m_arguments.employee);
+        const auto employee = m_session.EmployeeNamed(m_arguments.employee);
         if (m_arguments.check && employee != nullptr) {
             return PrintChecked(employee);
         }

@@ -29,6 +29,16 @@ bool CEmployeeList::InsertLoaded(EmployeeRow row, std::int32_t position)
     return Insert(std::make_shared<CEmployee>(std::move(row)), position) != nullptr;
 }
 
+bool CEmployeeList::LoadNamed(const std::shared_ptr<CJetDB>& thedatabase, const std::string& thename)
+{
+    ClearError();
+    if (thedatabase == nullptr || !thedatabase->LoadEmployeesNamed(*this, thename)) {
+        ErrorNumber(listerror::CreateFailed);
+        return false;
+    }
+    return true;
+}
+
 bool CEmployeeList::FillFrom(CJetDB& thedatabase)
 {
     return thedatabase.LoadEmployeeList(*this);

@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <string>
 #include <string_view>
 
 namespace ptk {
@@ -18,6 +19,9 @@ public:
     std::shared_ptr<CEmployee> GetEmployeeByName(std::string_view thename); // by display name
     std::shared_ptr<CEmployee> GetEmployeeBySSN(std::string_view thessn);
     std::shared_ptr<CEmployee> GetEmployeeByNumber(std::int32_t thenumber);
+
+    // Puts only those of this display name, in their order, before those already here: for one card of one employee. False with 301.
+    bool LoadNamed(const std::shared_ptr<CJetDB>& thedatabase, const std::string& thename);
 
     bool InsertLoaded(EmployeeRow row, std::int32_t position) override;
 

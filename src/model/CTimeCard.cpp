@@ -29,6 +29,18 @@ std::shared_ptr<CTimeRecordList> CTimeCard::TimeRecordList() const
     return m_factory->TimeRecordList();
 }
 
+std::vector<CardLine> CTimeCard::Lines() const
+{
+    const auto list = TimeRecordList();
+    std::vector<CardLine> lines;
+    lines.reserve(list == nullptr ? 0 : static_cast<std::size_t>(list->Count()));
+    for (std::int32_t i = 1; list != nullptr && i <= list->Count(); ++i) {
+        const CTimeRecord& record = list->RecordAt(i);
+        lines.push_back({record.StartTime(), record.EndTime(), record.StoredHours(), list->Item(i)});
+    }
+    return lines;
+}
+
 float CTimeCard::RegularPay() const
 {
     return m_employee == nullptr ? 0 : m_employee->PayRate();
@@ -168,7 +180,7 @@ std::string CTimeCard::ToStringReport()
             text += m_employee->ToStringTimeCard() + "\r\n";
         }
         text += "\tStart Time\t\tEnd Time\t\tHours\r\n\r\n";
-        AppendRecords(text);
+        AppendLines(text);
         text += "\r\n";
         AppendSummary(text);
     });
@@ -179,17 +191,17 @@ std::string CTimeCard::ToStringReview()
     return BuildText(timecard::TextFailed, [this](std::string& text) { AppendSummary(text); });
 }
 
-void CTimeCard::AppendRecords(std::string& text)
+void CTimeCard::AppendLines(std::string& text)
 {
-    const auto list = TimeRecordList();
-    if (list == nullptr || list->Count() == 0) {
+    const std::vector<CardLine> lines = Lines();
+    if (lines.empty()) {
         ErrorNumber(timecard::NoRecords);
         return;
     }
     const float allowance = BreakAllowance();
-    for (std::int32_t i = 1; i <= list->Count(); ++i) {
+    for (const CardLine& line : lines) {
         text += '\t';
-        text += list->RecordAt(i).ToString(allowance);
+        line.AppendTo(text, allowance);
         text += "\r\n";
     }
 }

@@ -1,6 +1,7 @@
 // The pay period of one employee: its time records, hours, break time and pay, and their text forms.
 #pragma once
 
+#include "model/CardLine.h"
 #include "model/CDateRange.h"
 #include "model/Entity.h"
 #include "platform/DateTime.h"
@@ -11,12 +12,12 @@
 #include <memory>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace ptk {
 
 class CEmployee;
 class CJetDB;
-class CTimeRecord;
 class CTimeRecordFactory;
 class CTimeRecordList;
 
@@ -33,11 +34,14 @@ public:
     void EndDate(DateTime value); // the last moment that belongs to the period
     DateTime EndDate() const { return m_range.EndDate(); }
     std::shared_ptr<CTimeRecordList> TimeRecordList() const; // the factory's current list
+    std::vector<CardLine> Lines() const;                     // of that list, in its order; none without one
+    float BreakAllowance() const;                            // hours that the text forms take off every line; raises 91 without an employee
     float RegularHoursWorked() const { return m_regularHours; }
     float RegularPay() const; // deliberately the employee's pay rate of now, not an amount; 0 without an employee
     float OvertimeHoursWorked() const { return m_overtimeHours; }
     float OvertimePay() const; // likewise the overtime rate
     float TotalPay() const { return m_totalPay; }
+    float TotalBreakTime() const { return m_totalBreakTime; }                          // hours taken off automatically
     void PTKDatabase(std::shared_ptr<CJetDB> value) { m_database = std::move(value); } // must be set for GenerateTimecard
 
     // Loads the records that start at or after the start and end at or before the end (pass the midnight after the last day), and those
@@ -68,8 +72,7 @@ private:
     bool Calculate();
     bool CloseFirstOpen(CTimeRecordList& list, DateTime theendtime);
     void AppendSummary(std::string& text) const;
-    void AppendRecords(std::string& text);
-    float BreakAllowance() const;
+    void AppendLines(std::string& text);
     void Begin();
     bool Fail(std::int32_t errorNumber); // always false
 

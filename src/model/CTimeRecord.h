@@ -37,6 +37,7 @@ public:
     // Decimal hours. An end before the start is stored as a negative number but read as 0; the text form shows it as it is, deliberately.
     void HoursWorked(float value) { Set(m_hoursWorked, value); }
     float HoursWorked() const { return m_hoursWorked > 0 ? m_hoursWorked : 0; }
+    float StoredHours() const { return m_hoursWorked; } // negative as they are
 
     // Whether the text forms use FormatString or the general date-time text.
     void EnforceFormat(bool value) { m_enforceFormat = value; }
@@ -58,11 +59,12 @@ public:
     void KeepAsRead() { m_asRead = Row(); } // the database has it as it is now
     void ForgetAsRead() { m_asRead.reset(); }
 
+    void AppendTime(std::string& text, DateTime time) const; // in this record's format; may raise failures
+
     TimeRecordRow Row() const { return {m_timeRecordID, m_employeeID, m_startTime, m_endTime, ObjectState()}; }
 
 private:
     void SetTime(DateTime& time, DateTime value);
-    void AppendTime(std::string& text, DateTime time) const;
     void AppendTimes(std::string& text) const;
 
     static constexpr const char* kDefaultFormat = "mm/dd/yyyy hh:mm AM/PM";

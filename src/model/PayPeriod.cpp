@@ -20,6 +20,18 @@ PayPeriod PayPeriodFrom(DateTime from, std::int16_t length)
     return {from, from.AddDays(length)};
 }
 
+PayPeriod DefaultPayPeriod(DateTime today, std::int16_t length)
+{
+    const CalendarDate date = today.Date();
+    // The second half starts on the 15th, which belongs to both, deliberately.
+    return PayPeriodFrom(DateTime(CalendarDate{date.year, date.month, date.day <= 15 ? 1 : 15}), length);
+}
+
+PayPeriod YearToDate(DateTime today)
+{
+    return {DateTime(CalendarDate{today.Date().year, 1, 1}), DateTime(today.Date())};
+}
+
 std::optional<PayPeriod> StepPayPeriod(DateTime from, std::int16_t length, std::int16_t direction)
 {
     if (direction != 1 && direction != -1) {

@@ -1,4 +1,4 @@
-// The pay periods that the arrows step through.
+// Pay periods: how they are counted, stepped through and offered.
 #pragma once
 
 #include "platform/DateTime.h"
@@ -15,8 +15,12 @@ struct PayPeriod
     DateTime to;
 };
 
-// A length of L days deliberately spans L + 1: the last day is the first plus L.
+// A length of L days deliberately spans L + 1: the last day is the first plus L. Raises Failure 6 when it leaves the calendar.
 PayPeriod PayPeriodFrom(DateTime from, std::int16_t length);
+
+// What reports are offered for: the running period from the 1st of the month, after its 15th from the 15th; the year until today.
+PayPeriod DefaultPayPeriod(DateTime today, std::int16_t length);
+PayPeriod YearToDate(DateTime today);
 
 // The period after (direction 1) or before (-1) the one from `from`, without overlap or gap. Nothing for any other direction, and where the
 // period would leave the years 1900 to 2100. Raises Failure 6 when the days to step do not fit 16 bits.

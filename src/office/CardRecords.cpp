@@ -5,7 +5,10 @@
 #include "model/CTimeRecord.h"
 #include "model/CTimeRecordFactory.h"
 #include "model/CTimeRecordList.h"
+#include "model/Punch.h"
 #include "platform/Required.h"
+
+#include <limits>
 
 namespace ptk {
 
@@ -52,6 +55,20 @@ bool StoreCard(CTimeCard& card, CTimeRecordFactory& factory)
         DropNewRecords(*Required(card.TimeRecordList()));
     }
     return stored;
+}
+
+std::shared_ptr<CTimeRecord> RecordToEdit(const Punch& punch, std::int32_t employeeID)
+{
+    if (punch.id < 0 || punch.id > std::numeric_limits<std::int32_t>::max()) {
+        return nullptr;
+    }
+    auto record = std::make_shared<CTimeRecord>();
+    record->TimeRecordID(static_cast<std::int32_t>(punch.id));
+    record->EmployeeID(employeeID);
+    record->StartTime(punch.start.value_or(DateTime()));
+    record->EndTime(punch.end.value_or(DateTime()));
+    record->ObjectState(state::Unchanged); // last, since filling marks it changed
+    return record;
 }
 
 } // namespace ptk

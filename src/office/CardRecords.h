@@ -1,6 +1,7 @@
 // Storing what was done to the records of a time card, so that nothing is stored twice and nothing goes unnoticed.
 #pragma once
 
+#include <cstdint>
 #include <memory>
 
 namespace ptk {
@@ -8,6 +9,7 @@ namespace ptk {
 class CTimeCard;
 class CTimeRecord;
 class CTimeRecordFactory;
+struct Punch;
 
 // All of these are false when the database refused a statement, too, which the card itself answers true to. They may raise failures.
 
@@ -20,5 +22,9 @@ bool StoreDeletion(CTimeCard& card, CTimeRecordFactory& factory, const std::shar
 // Every new or changed record of the card's list, or, where one is refused, none of them. The new ones then leave the list, so that they do
 // not go with the next save of the whole card.
 bool StoreCard(CTimeCard& card, CTimeRecordFactory& factory);
+
+// A stored record as the check read it, to be edited; a time that cannot be read is not set in it, so that storing it mends the row.
+// nullptr for a key that no time record can have.
+std::shared_ptr<CTimeRecord> RecordToEdit(const Punch& punch, std::int32_t employeeID);
 
 } // namespace ptk

@@ -13,6 +13,7 @@ namespace ptk {
 
 namespace {
 
+constexpr std::int32_t kMostHours = 999;
 constexpr auto kDateFormat = "mm/dd/yyyy";
 
 // A negative length counts as none at all. Raises Failure 6 for one beyond 16 bits.
@@ -71,6 +72,29 @@ std::string PeriodExample(const std::string& periodLength, DateTime today)
     } catch (...) {
         return {}; // a length that no calendar holds
     }
+}
+
+LimitTexts ShowLimits(const CheckLimits& limits)
+{
+    return {std::to_string(limits.longShiftHours), limits.firstWeekday, limits.showNotices};
+}
+
+std::optional<CheckLimits> ReadLimits(const LimitTexts& texts)
+{
+    if (!CDataValidator().CheckIntegerValues(texts.longShiftHours)) {
+        return std::nullopt;
+    }
+    try {
+        const std::int32_t hours = ToInt32(texts.longShiftHours);
+        return hours < 1 || hours > kMostHours ? std::nullopt : std::optional(CheckLimits{hours, texts.firstWeekday, texts.showNotices});
+    } catch (...) {
+        return std::nullopt; // too long a number, or none at all
+    }
+}
+
+std::string LimitRefusal(const LimitTexts& texts)
+{
+    return ReadLimits(texts) ? std::string() : fmt::format("The longest usual shift is a whole number of hours from 1 to {}", kMostHours);
 }
 
 } // namespace ptk

@@ -2,7 +2,10 @@
 #pragma once
 
 #include "platform/DateTime.h"
+#include "store/CheckLimits.h"
 
+#include <cstdint>
+#include <optional>
 #include <string>
 
 namespace ptk {
@@ -26,5 +29,23 @@ bool StoreOptions(CSystemOptions& options, const OptionTexts& texts);
 // What a period length typed as this text means from today on: "A period has 15 days, for example 03/05/2003 - 03/19/2003". Empty for a
 // text that is no length.
 std::string PeriodExample(const std::string& periodLength, DateTime today);
+
+// The limits of the check of time cards, likewise.
+struct LimitTexts
+{
+    std::string longShiftHours;
+    std::int32_t firstWeekday = 0; // 0 Sunday to 6 Saturday
+    bool showNotices = true;
+
+    bool operator==(const LimitTexts&) const = default;
+};
+
+LimitTexts ShowLimits(const CheckLimits& limits);
+
+// Nothing where the hours are no whole number from 1 to 999.
+std::optional<CheckLimits> ReadLimits(const LimitTexts& texts);
+
+// Why they cannot be stored; empty when they can.
+std::string LimitRefusal(const LimitTexts& texts);
 
 } // namespace ptk

@@ -54,7 +54,8 @@ Employees OfferedEmployees(CEmployeeList& employees)
     return offered;
 }
 
-bool ReadOverview(Overview& overview, const std::shared_ptr<CJetDB>& database, const Employees& employees, const RowTaken& taken)
+bool ReadOverview(Overview& overview, const std::shared_ptr<CJetDB>& database, std::span<const std::shared_ptr<CEmployee>> employees,
+                  const RowTaken& taken)
 {
     const CJetDB::Hold hold(database);
     PunchReader reader(*database, overview.period, overview.limits.firstWeekday);
@@ -74,13 +75,16 @@ bool ReadOverview(Overview& overview, const std::shared_ptr<CJetDB>& database, c
     return true;
 }
 
-OverviewTotals TotalsOf(std::span<const OverviewRow> rows)
+OverviewTotals TotalsOf(std::span<const OverviewRow> rows, bool onlyProblems)
 {
     OverviewTotals totals;
     DecimalSum regular;
     DecimalSum overtime;
     DecimalSum gross;
     for (const OverviewRow& row : rows) {
+        if (onlyProblems && row.check.problems == 0) {
+            continue;
+        }
         totals.clockedIn += row.check.clockedIn ? 1 : 0;
         totals.problems += row.check.problems;
         totals.notices += row.check.notices;

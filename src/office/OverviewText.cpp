@@ -1,11 +1,10 @@
-#include "office/Overview.h"
+#include "office/OverviewTable.h"
 #include "office/OverviewTexts.h"
 #include "platform/Text.h"
 
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <array>
 
 namespace ptk {
 
@@ -14,38 +13,15 @@ namespace {
 // What the table says, once.
 constexpr auto kTitle = "Payday overview";
 constexpr auto kNobody = "There are no employees to show.";
-constexpr auto kNotReadable = "not readable";
-constexpr auto kClockedIn = "yes";
 constexpr auto kTotal = "Total";
 
-constexpr std::size_t kColumns = 8;
-using Cells = std::array<std::string, kColumns>;
+constexpr std::size_t kColumns = kOverviewColumns;
+using Cells = OverviewCells;
 const Cells kHeading{"Name", "Regular", "Overtime", "Gross", "Longest week", "Problems", "Notices", "Clocked in"};
 
 std::string Day(DateTime day)
 {
     return FormatDateTime(day, "mm/dd/yyyy");
-}
-
-// A name is one line here, whatever stands in the database.
-std::string OneLine(std::string text)
-{
-    std::replace_if(
-        text.begin(), text.end(), [](char c) { return c == '\r' || c == '\n' || c == '\t'; }, ' ');
-    return text;
-}
-
-Cells CellsOf(const OverviewRow& row)
-{
-    const CardFigures figures = row.figures.value_or(CardFigures{"", "", kNotReadable});
-    return {OneLine(row.employee->DisplayName()),
-            figures.regular,
-            figures.overtime,
-            figures.gross,
-            row.LongestWeek(),
-            std::to_string(row.check.problems),
-            std::to_string(row.check.notices),
-            row.check.clockedIn ? kClockedIn : ""};
 }
 
 Cells CellsOf(const OverviewTotals& totals)

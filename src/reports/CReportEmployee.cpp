@@ -5,36 +5,83 @@
 
 namespace ptk {
 
-CReportEmployee::CReportEmployee(ReportContext context)
-    : Report({ReportKind::Employee, "Employee Records", &ReportOwner::UnloadEmployeeReport}, std::move(context), "employee_records.txt")
+namespace {
+
+constexpr ReportColumn kColumns[] = {
+    {"Employee Number", CellType::WholeNumber},
+    {"First Name", CellType::Text},
+    {"Last Name", CellType::Text},
+    {"Social Security Number", CellType::Text},
+    {"Address 1", CellType::Text},
+    {"Address 2", CellType::Text},
+    {"City", CellType::Text},
+    {"State", CellType::Text},
+    {"ZIP Code", CellType::Text},
+    {"Phone", CellType::Text},
+    {"Date Of Birth", CellType::Date},
+    {"Active", CellType::Boolean},
+    {"Hire Date", CellType::Date},
+    {"Release Date", CellType::Date},
+    {"Regular Pay Rate", CellType::Money},
+    {"Overtime Pay Rate", CellType::Money},
+};
+
+Value Known(DateTime date)
 {
+    return date.IsZero() ? Value() : Value(date);
 }
+
+ReportRow RowOf(const CEmployee& employee)
+{
+    return {employee.EmployeeNumber(),
+            employee.FirstName(),
+            employee.LastName(),
+            employee.SSN(),
+            employee.Address1(),
+            employee.Address2(),
+            employee.City(),
+            employee.State(),
+            employee.ZipCode(),
+            employee.Phone(),
+            Known(employee.DateOfBirth()),
+            employee.EmployeeActive(),
+            Known(employee.HireDate()),
+            Known(employee.ReleaseDate()),
+            employee.PayRate(),
+            employee.OvertimePayRate()};
+}
+
+void AddEmployee(ReportDocument& document, CEmployee& employee)
+{
+    document.BeginGroup();
+    document.Add(employee.ToString());
+    document.AddRule();
+    document.Add("");
+    document.table.rows.push_back(RowOf(employee));
+}
+
+} // namespace
 
 bool CReportEmployee::GenerateReport(const std::shared_ptr<CEmployeeList>& theemployeelist)
 {
-    return Generate([&] {
+    return AtEdge([&] {
         if (theemployeelist == nullptr) {
-            return Fail(report::NoEmployeeList);
+            return Refuse(report::NoEmployeeList);
         }
-        return Write([&] { return WriteEmployees(*theemployeelist); });
+        if (!Open("", std::string(Entry().fileName))) {
+            return false;
+        }
+        Body().Add("");
+        Body().table.columns = kColumns;
+        for (std::int32_t i = 1; i <= theemployeelist->Count(); ++i) {
+            if (const auto employee = theemployeelist->Item(i)) {
+                AddEmployee(Body(), *employee);
+            } else {
+                Body().Fail(report::NotGenerated);
+            }
+        }
+        return Publish();
     });
-}
-
-bool CReportEmployee::WriteEmployees(CEmployeeList& theemployeelist)
-{
-    WriteLine("");
-    bool complete = true;
-    for (std::int32_t i = 1; i <= theemployeelist.Count(); ++i) {
-        const auto employee = theemployeelist.Item(i);
-        if (employee == nullptr) {
-            complete = Fail(report::NotGenerated);
-            continue;
-        }
-        WriteLine(employee->ToString());
-        WriteRule();
-        WriteLine("");
-    }
-    return complete;
 }
 
 } // namespace ptk

@@ -5,18 +5,14 @@
 
 namespace ptk {
 
-class CEmployeeList;
-
 class CReportEmployee final : public Report
 {
 public:
-    explicit CReportEmployee(ReportContext context);
+    explicit CReportEmployee(ReportContext context) : Report(ReportKind::Employee, std::move(context)) {}
 
     // False with 705, 503, 701; with 710 an empty entry of the list was left out.
     bool GenerateReport(const std::shared_ptr<CEmployeeList>& theemployeelist);
-
-private:
-    bool WriteEmployees(CEmployeeList& theemployeelist);
+    bool Generate(const ReportRequest& request) override { return GenerateReport(request.employees); }
 };
 
 } // namespace ptk

@@ -2,12 +2,16 @@
 
 #include "model/CEmployee.h"
 #include "model/CEmployeeList.h"
-#include "platform/Failure.h"
 #include "platform/Text.h"
 
 namespace ptk {
 
 namespace {
+
+constexpr ReportColumn kColumns[] = {
+    {"Last Name", CellType::Text}, {"First Name", CellType::Text}, {"Address", CellType::Text}, {"City", CellType::Text},
+    {"State", CellType::Text},     {"ZIP Code", CellType::Text},   {"Phone", CellType::Text},
+};
 
 constexpr std::size_t kLeftColumn = 40; // characters; a longer text is not cut and pushes the right column
 
@@ -37,43 +41,54 @@ std::string Phone(const CEmployee& employee)
     return employee.Phone();
 }
 
-} // namespace
-
-CReportPhoneBook::CReportPhoneBook(ReportContext context)
-    : Report({ReportKind::PhoneBook, "Employee Phone Book", &ReportOwner::UnloadPhoneBookReport}, std::move(context), "phone_book.txt")
+ReportRow RowOf(const CEmployee& employee)
 {
+    return {employee.LastName(), employee.FirstName(), employee.Address1(), employee.City(),
+            employee.State(),    employee.ZipCode(),   employee.Phone()};
 }
+
+// Without a right one its column stays empty.
+void AddPair(ReportDocument& document, const CEmployee& left, const CEmployee* right)
+{
+    document.BeginGroup();
+    for (const auto& text : {LastAndFirstName, Street, Town, Phone}) {
+        document.Add(TwoColumns(text(left), right == nullptr ? "" : text(*right)));
+    }
+    document.Add("\r\n"); // with its own line end two empty lines
+    document.table.rows.push_back(RowOf(left));
+    if (right != nullptr) {
+        document.table.rows.push_back(RowOf(*right));
+    }
+}
+
+void AddEmployees(ReportDocument& document, CEmployeeList& list)
+{
+    const std::int32_t count = list.Count();
+    for (std::int32_t i = 1; i <= count; i += 2) {
+        const auto left = list.Item(i);
+        const auto right = list.Item(i + 1);
+        if (left == nullptr || (right == nullptr && i < count)) {
+            return document.CutShort(report::NotGenerated);
+        }
+        AddPair(document, *left, right.get());
+    }
+}
+
+} // namespace
 
 bool CReportPhoneBook::GenerateReport(const std::shared_ptr<CEmployeeList>& phonebooklist)
 {
-    return Generate([&] {
+    return AtEdge([&] {
         if (phonebooklist == nullptr) {
-            return Fail(report::NoPhoneBookList);
+            return Refuse(report::NoPhoneBookList);
         }
-        return Write([&] { return WriteEmployees(*phonebooklist); });
+        if (!Open("", std::string(Entry().fileName))) {
+            return false;
+        }
+        Body().table.columns = kColumns;
+        AddEmployees(Body(), *phonebooklist);
+        return Publish();
     });
-}
-
-bool CReportPhoneBook::WriteEmployees(CEmployeeList& phonebooklist)
-{
-    const std::int32_t count = phonebooklist.Count();
-    for (std::int32_t i = 1; i <= count; i += 2) {
-        const auto left = phonebooklist.Item(i);
-        const auto right = phonebooklist.Item(i + 1);
-        if (left == nullptr || (right == nullptr && i < count)) {
-            throw Failure(failure::ObjectNotSet);
-        }
-        WritePair(*left, right.get());
-    }
-    return true;
-}
-
-void CReportPhoneBook::WritePair(const CEmployee& left, const CEmployee* right)
-{
-    for (const auto& text : {LastAndFirstName, Street, Town, Phone}) {
-        WriteLine(TwoColumns(text(left), right == nullptr ? "" : text(*right)));
-    }
-    WriteLine("\r\n"); // with its own line end two empty lines
 }
 
 } // namespace ptk

@@ -5,20 +5,14 @@
 
 namespace ptk {
 
-class CEmployee;
-class CEmployeeList;
-
 class CReportPhoneBook final : public Report
 {
 public:
-    explicit CReportPhoneBook(ReportContext context);
+    explicit CReportPhoneBook(ReportContext context) : Report(ReportKind::PhoneBook, std::move(context)) {}
 
     // False with 704, 503, 701; with 710 at an empty entry of the list, where the report ends.
     bool GenerateReport(const std::shared_ptr<CEmployeeList>& phonebooklist);
-
-private:
-    bool WriteEmployees(CEmployeeList& phonebooklist);
-    void WritePair(const CEmployee& left, const CEmployee* right); // nullptr: the column stays empty
+    bool Generate(const ReportRequest& request) override { return GenerateReport(request.employees); }
 };
 
 } // namespace ptk

@@ -1,59 +1,64 @@
 #include "reports/CReportReview.h"
 
+#include "model/CDateRange.h"
 #include "model/CEmployee.h"
 #include "model/CEmployeeList.h"
 #include "model/CTimeCard.h"
+#include "model/CTimeRecordFactory.h"
+#include "reports/ReportCards.h"
+#include "store/CJetDB.h"
+
+#include <fmt/format.h>
 
 namespace ptk {
-
-CReportReview::CReportReview(ReportContext context)
-    : PeriodReport({ReportKind::Review, "Accountant's Review : ", &ReportOwner::UnloadReviewReport}, std::move(context))
-{
-}
 
 bool CReportReview::GenerateReport(const std::shared_ptr<CJetDB>& thedatabase, const std::shared_ptr<CEmployeeList>& recordslist,
                                    const Value& thestartdate, const Value& theenddate)
 {
-    return Generate([&] {
-        if (!SetRange(thestartdate, theenddate)) {
-            return false;
+    return AtEdge([&] {
+        CDateRange days;
+        if (!days.ValidateRange(thestartdate, theenddate)) {
+            return Refuse(report::InvalidRange);
         }
         if (recordslist == nullptr) {
-            return Fail(report::ListEmpty);
+            return Refuse(report::ListEmpty);
         }
-        Name(TitleOfDays(Range().StartDate(), Range().EndDate()), "salary_review_" + RangeCode() + ".txt");
-        return Write([&] {
-            const CJetDB::Hold hold = HoldDatabase();
-            return WriteEmployees(thedatabase, *recordslist);
-        });
+        if (!Open(TitleOfDays(days.StartDate(), days.EndDate()), FileNameOf(Entry(), days))) {
+            return false;
+        }
+        Body().Add("");
+        AddEmployees(thedatabase, *recordslist, days);
+        return Publish();
     });
 }
 
-bool CReportReview::WriteEmployees(const std::shared_ptr<CJetDB>& thedatabase, CEmployeeList& recordslist)
+void CReportReview::AddEmployees(const std::shared_ptr<CJetDB>& database, CEmployeeList& list, const CDateRange& days)
 {
-    WriteLine("");
-    bool complete = true;
-    const std::int32_t count = recordslist.Count();
+    const CJetDB::Hold hold(Context().factory->PTKDatabase()); // all cards are of one moment
+    Body().table.columns = PayColumns();
+    const std::int32_t count = list.Count();
     for (std::int32_t i = 1; i <= count; ++i) {
+        Body().BeginGroup();
         if (!GoOn(i - 1, count)) {
-            return false;
+            Body().Add(fmt::format("Cancelled after {} of {} employees.", i - 1, count));
+            return Body().CutShort(report::Cancelled);
         }
-        complete = WriteEmployee(thedatabase, recordslist.Item(i)) && complete;
-        WriteRule();
-        WriteLine("");
+        AddEmployee(database, list.Item(i), days);
     }
-    return complete;
 }
 
-bool CReportReview::WriteEmployee(const std::shared_ptr<CJetDB>& thedatabase, const std::shared_ptr<CEmployee>& theemployee)
+void CReportReview::AddEmployee(const std::shared_ptr<CJetDB>& database, const std::shared_ptr<CEmployee>& employee, const CDateRange& days)
 {
-    const auto card = NewTimeCard(thedatabase);
-    if (!GenerateTimeCard(*card, theemployee)) {
-        NoteMissing(*card, theemployee == nullptr ? "an empty entry" : theemployee->DisplayName());
-        return Fail(report::NotGenerated);
+    const auto card = NewTimeCard(Context(), database);
+    if (GenerateTimeCard(*card, employee, days)) {
+        Body().Add(employee->ToStringReview() + "\r\n" + card->ToStringReview());
+        Body().table.rows.push_back(PayRow(*card, days));
+    } else {
+        Body().Fail(report::NotGenerated);
+        NoteMissing(Body(), *card, employee == nullptr ? "an empty entry" : employee->DisplayName());
     }
-    WriteLine(card->Employee()->ToStringReview() + "\r\n" + card->ToStringReview());
-    return true;
+    Body().AddRule();
+    Body().Add("");
 }
 
 } // namespace ptk

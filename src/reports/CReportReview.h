@@ -1,25 +1,29 @@
 // The accountant's review: the pay of all employees of a list for one period, one after the other.
 #pragma once
 
-#include "reports/PeriodReport.h"
+#include "reports/Report.h"
 
 namespace ptk {
 
-class CEmployeeList;
+class CDateRange;
 
-class CReportReview final : public PeriodReport
+class CReportReview final : public Report
 {
 public:
-    explicit CReportReview(ReportContext context);
+    explicit CReportReview(ReportContext context) : Report(ReportKind::Review, std::move(context)) {}
 
     // The title shows the end date as given. False with 603, 331, 503, 701; with 710 those who have no card are left out, as Missing tells,
     // with 711 all that come after the user's stop. The database is held while the cards are made.
     bool GenerateReport(const std::shared_ptr<CJetDB>& thedatabase, const std::shared_ptr<CEmployeeList>& recordslist,
                         const Value& thestartdate, const Value& theenddate);
+    bool Generate(const ReportRequest& request) override
+    {
+        return GenerateReport(request.database, request.employees, request.from, request.to);
+    }
 
 private:
-    bool WriteEmployees(const std::shared_ptr<CJetDB>& thedatabase, CEmployeeList& recordslist);
-    bool WriteEmployee(const std::shared_ptr<CJetDB>& thedatabase, const std::shared_ptr<CEmployee>& theemployee);
+    void AddEmployees(const std::shared_ptr<CJetDB>& database, CEmployeeList& list, const CDateRange& days);
+    void AddEmployee(const std::shared_ptr<CJetDB>& database, const std::shared_ptr<CEmployee>& employee, const CDateRange& days);
 };
 
 } // namespace ptk

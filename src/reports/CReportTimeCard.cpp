@@ -1,7 +1,9 @@
 #include "reports/CReportTimeCard.h"
 
+#include "model/CDateRange.h"
 #include "model/CEmployee.h"
 #include "model/CTimeCard.h"
+#include "reports/ReportCards.h"
 
 namespace ptk {
 
@@ -13,72 +15,99 @@ const std::string kSignatures = kSignatureRule + "\r\n" +                       
                                 kSignatureRule + "\r\n" +                                          //
                                 "Manager Signature" + std::string(33, ' ') + "Date";
 
-} // namespace
+constexpr ReportColumn kColumns[] = {
+    {"Employee Number", CellType::WholeNumber}, {"First Name", CellType::Text},   {"Last Name", CellType::Text},
+    {"Start Time", CellType::DateTime},         {"End Time", CellType::DateTime}, {"Hours", CellType::Hours},
+};
 
-CReportTimeCard::CReportTimeCard(ReportContext context)
-    : PeriodReport({ReportKind::TimeCard, "Employee Time Card : ", &ReportOwner::UnloadTimeCardReport}, std::move(context))
+ReportRow RowOf(const CEmployee& employee, const CardLine& line, float breakHours)
 {
+    return {employee.EmployeeNumber(), employee.FirstName(), employee.LastName(), line.start, line.end.IsZero() ? Value() : Value(line.end),
+            line.hours - breakHours};
 }
+
+} // namespace
 
 bool CReportTimeCard::GenerateReport(const std::shared_ptr<CJetDB>& thedatabase, const std::shared_ptr<CEmployee>& theemployee,
                                      const Value& thestartdate, const Value& theenddate)
 {
-    return Generate([&] {
-        if (!SetRange(thestartdate, theenddate)) {
-            return false;
+    return AtEdge([&] {
+        CDateRange days;
+        if (!days.ValidateRange(thestartdate, theenddate)) {
+            return Refuse(report::InvalidRange);
         }
         if (theemployee == nullptr) {
-            return Fail(report::NoEmployee);
+            return Refuse(report::NoEmployee);
         }
-        m_timeCard = NewTimeCard(thedatabase);
-        return WriteForm(*theemployee, [&] { return WriteGenerated(theemployee); });
+        m_timeCard = NewTimeCard(Context(), thedatabase);
+        if (!OpenForm(*theemployee, days)) {
+            return false;
+        }
+        AddGenerated(theemployee, days);
+        return PublishForm();
     });
 }
 
 bool CReportTimeCard::WriteTimeCardReport(const std::shared_ptr<CTimeCard>& theTimeCard)
 {
-    return Generate([&] {
+    return AtEdge([&] {
         if (theTimeCard == nullptr) {
-            return Fail(report::NoTimeCard);
+            return Refuse(report::NoTimeCard);
         }
         m_timeCard = theTimeCard;
         const auto employee = theTimeCard->Employee();
         if (employee == nullptr) {
-            return Fail(report::NoEmployee);
+            return Refuse(report::NoEmployee);
         }
-        Range().SetRange(theTimeCard->StartDate(), theTimeCard->EndDate());
-        return WriteForm(*employee, [&] {
-            WriteLine(m_timeCard->ToStringReport());
-            return true;
-        });
+        CDateRange days;
+        days.SetRange(theTimeCard->StartDate(), theTimeCard->EndDate());
+        if (!OpenForm(*employee, days)) {
+            return false;
+        }
+        AddBody();
+        return PublishForm();
     });
 }
 
-bool CReportTimeCard::WriteForm(const CEmployee& theemployee, const std::function<bool()>& writeCard)
+bool CReportTimeCard::OpenForm(const CEmployee& employee, const CDateRange& days)
 {
-    Name(TitleOfEmployee(theemployee) + TitleOfDays(Range().StartDate(), Range().EndDate().AddDays(-1)),
-         EmployeeFileName(theemployee, "_time_card.txt"));
-    return Write([&] {
-        WriteLine("");
-        const bool written = writeCard();
-        WriteLine("");
-        WriteLine("");
-        WriteLine(kSignatures);
-        return written;
-    });
-}
-
-bool CReportTimeCard::WriteGenerated(const std::shared_ptr<CEmployee>& theemployee)
-{
-    if (GenerateTimeCard(*m_timeCard, theemployee)) {
-        WriteLine(m_timeCard->ToStringReport());
-        return true;
+    const bool opened =
+        Open(TitleOfEmployee(employee) + TitleOfDays(days.StartDate(), days.EndDate().AddDays(-1)), FileNameOf(Entry(), days, &employee));
+    if (opened) {
+        Body().Add("");
+        Body().table.columns = kColumns;
     }
+    return opened;
+}
+
+void CReportTimeCard::AddGenerated(const std::shared_ptr<CEmployee>& employee, const CDateRange& days)
+{
+    if (GenerateTimeCard(*m_timeCard, employee, days)) {
+        return AddBody();
+    }
+    const bool noRecords = m_timeCard->ErrorNumber() == report::NoRecords;
+    Body().Fail(noRecords ? report::NoRecords : report::NotGenerated);
     // Where there are no records, the number says so by itself.
-    if (m_timeCard->LastFailure().Number() != 0 || m_timeCard->ErrorNumber() != report::NoRecords) {
-        NoteMissing(*m_timeCard);
+    if (m_timeCard->LastFailure().Number() != 0 || !noRecords) {
+        NoteMissing(Body(), *m_timeCard);
     }
-    return Fail(m_timeCard->ErrorNumber() == report::NoRecords ? report::NoRecords : report::NotGenerated);
+}
+
+void CReportTimeCard::AddBody()
+{
+    AddCard(Body(), *m_timeCard);
+    for (const CardLine& line : m_timeCard->Lines()) {
+        Body().table.rows.push_back(RowOf(*m_timeCard->Employee(), line, m_timeCard->BreakAllowance()));
+    }
+}
+
+bool CReportTimeCard::PublishForm()
+{
+    Body().BeginGroup(true);
+    Body().Add("");
+    Body().Add("");
+    Body().Add(kSignatures);
+    return Publish();
 }
 
 } // namespace ptk

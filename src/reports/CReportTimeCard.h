@@ -1,14 +1,17 @@
 // One employee's time card for one pay period as a paper form to sign.
 #pragma once
 
-#include "reports/PeriodReport.h"
+#include "reports/Report.h"
 
 namespace ptk {
 
-class CReportTimeCard final : public PeriodReport
+class CDateRange;
+class CTimeCard;
+
+class CReportTimeCard final : public Report
 {
 public:
-    explicit CReportTimeCard(ReportContext context);
+    explicit CReportTimeCard(ReportContext context) : Report(ReportKind::TimeCard, std::move(context)) {}
 
     std::shared_ptr<CTimeCard> TimeCard() const { return m_timeCard; } // the card written, also one that could not be generated
 
@@ -16,13 +19,19 @@ public:
     // without its body and shown.
     bool GenerateReport(const std::shared_ptr<CJetDB>& thedatabase, const std::shared_ptr<CEmployee>& theemployee,
                         const Value& thestartdate, const Value& theenddate);
+    bool Generate(const ReportRequest& request) override
+    {
+        return GenerateReport(request.database, request.employee, request.from, request.to);
+    }
 
     // The same form for a card already generated, as it stands. False with 706, 602, 503, 701.
     bool WriteTimeCardReport(const std::shared_ptr<CTimeCard>& theTimeCard);
 
 private:
-    bool WriteForm(const CEmployee& theemployee, const std::function<bool()>& writeCard);
-    bool WriteGenerated(const std::shared_ptr<CEmployee>& theemployee);
+    bool OpenForm(const CEmployee& employee, const CDateRange& days);
+    void AddGenerated(const std::shared_ptr<CEmployee>& employee, const CDateRange& days);
+    void AddBody();
+    bool PublishForm();
 
     std::shared_ptr<CTimeCard> m_timeCard;
 };

@@ -1,41 +1,39 @@
 #include "reports/CReportYTDTotals.h"
 
+#include "model/CDateRange.h"
 #include "model/CEmployee.h"
 #include "model/CTimeCard.h"
+#include "reports/ReportCards.h"
 
 namespace ptk {
-
-CReportYTDTotals::CReportYTDTotals(ReportContext context)
-    : PeriodReport({ReportKind::YTDTotals, "Employee Year-To-Date Totals : ", &ReportOwner::UnloadYTDTotalsReport}, std::move(context))
-{
-}
 
 bool CReportYTDTotals::GenerateReport(const std::shared_ptr<CJetDB>& thedatabase, const std::shared_ptr<CEmployee>& theemployee,
                                       const Value& thestartdate, const Value& theenddate)
 {
-    return Generate([&] {
-        if (!SetRange(thestartdate, theenddate)) {
-            return false;
+    return AtEdge([&] {
+        CDateRange days;
+        if (!days.ValidateRange(thestartdate, theenddate)) {
+            return Refuse(report::InvalidRange);
         }
         if (theemployee == nullptr) {
-            return Fail(report::NoEmployee);
+            return Refuse(report::NoEmployee);
         }
-        Name(TitleOfEmployee(*theemployee) + TitleOfDays(Range().StartDate(), Range().EndDate()),
-             EmployeeFileName(*theemployee, "_ytd_totals.txt"));
-        m_timeCard = NewTimeCard(thedatabase);
-        return Write([&] { return WriteTotals(theemployee); });
+        if (!Open(TitleOfEmployee(*theemployee) + TitleOfDays(days.StartDate(), days.EndDate()),
+                  FileNameOf(Entry(), days, theemployee.get()))) {
+            return false;
+        }
+        Body().Add("");
+        Body().table.columns = PayColumns();
+        const auto card = NewTimeCard(Context(), thedatabase);
+        if (GenerateTimeCard(*card, theemployee, days)) {
+            AddCard(Body(), *card);
+            Body().table.rows.push_back(PayRow(*card, days));
+        } else {
+            NoteMissing(Body(), *card);
+            Body().Fail(report::NotGenerated); // whatever the card's own number says
+        }
+        return Publish();
     });
-}
-
-bool CReportYTDTotals::WriteTotals(const std::shared_ptr<CEmployee>& theemployee)
-{
-    WriteLine("");
-    if (!GenerateTimeCard(*m_timeCard, theemployee)) {
-        NoteMissing(*m_timeCard);
-        return Fail(report::NotGenerated); // whatever the card's own number says
-    }
-    WriteLine(m_timeCard->ToStringReport());
-    return true;
 }
 
 } // namespace ptk

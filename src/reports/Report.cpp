@@ -1,28 +1,15 @@
 #include "reports/Report.h"
 
-#include "platform/Desktop.h"
-#include "platform/FileDraft.h"
-#include "platform/Notice.h"
-#include "platform/ProgramFolder.h"
-#include "platform/Succeeds.h"
-#include "shell/CDocLauncher.h"
-#include "shell/CFile.h"
+#include "reports/ReportFile.h"
+#include "reports/ReportPrinter.h"
+#include "reports/TextRenderer.h"
 
 #include <utility>
 
 namespace ptk {
 
-namespace {
-
-constexpr std::int16_t kWriteMode = 1;
-constexpr Notice kNoFile{kNotOpenedTitle, "The path to the report is invalid or not able to be opened by Windows.", Icon::Exclamation};
-
-const std::string kRule(72, '-');
-
-} // namespace
-
-Report::Report(const Shape& shape, ReportContext context, std::string fileName)
-    : m_shape(shape), m_context(std::move(context)), m_reportName(shape.name), m_fileName(std::move(fileName))
+Report::Report(ReportKind kind, ReportContext context)
+    : m_entry(EntryOf(kind)), m_context(std::move(context)), m_document{std::string(m_entry.title)}
 {
 }
 
@@ -30,84 +17,31 @@ Report::~Report() = default;
 
 std::string Report::ReportPath() const
 {
-    return m_context.programFolder + "\\reports\\" + m_fileName;
+    return m_context.programFolder + "\\reports\\" + m_document.fileName;
 }
 
-bool Report::Generate(const std::function<bool()>& steps)
-{
-    m_errorNumber = 0;
-    try {
-        return steps();
-    } catch (...) {
-        DropFile();
-        return Fail(report::NotGenerated);
-    }
-}
-
-bool Report::Fail(std::int32_t errorNumber)
+bool Report::Refuse(std::int32_t errorNumber)
 {
     m_errorNumber = errorNumber;
     return false;
 }
 
-void Report::Name(const std::string& titleRest, std::string fileName)
+bool Report::Open(const std::string& titleRest, std::string fileName)
 {
-    m_reportName = m_shape.name + titleRest;
-    m_fileName = std::move(fileName);
-}
-
-bool Report::Write(const std::function<bool()>& body)
-{
-    if (!OpenFile()) {
-        DropFile();
-        return Fail(report::NotOpen);
+    m_document = {std::string(m_entry.title) + titleRest, std::move(fileName)};
+    m_document.BeginGroup();
+    m_document.Add(m_document.title);
+    m_document.AddRule();
+    m_fileWritten = false;
+    auto file = std::make_unique<ReportFile>(m_context.clock);
+    if (!file->Open(ReportPath())) {
+        return Refuse(report::NotOpen);
     }
     if (!OpenViewer()) {
-        DropFile();
-        return Fail(report::NoViewer);
+        return Refuse(report::NoViewer);
     }
-    const bool complete = WriteBody(body);
-    FinishFile();
-    m_viewer->Show();
-    return complete;
-}
-
-bool Report::OpenFile()
-{
-    m_fileWritten = false;
-    m_whole = true;
-    m_file = std::make_unique<CFile>(m_context.clock);
-    return Succeeds([&] {
-        m_draft = std::make_unique<FileDraft>(NativePath(ReportPath()).string());
-        return m_file->OpenFile(m_draft->Path(), kWriteMode);
-    });
-}
-
-void Report::DropFile()
-{
-    m_file.reset();
-    m_draft.reset();
-}
-
-// A report that is cut short, or that a full disk cut, does not take the place of a whole one.
-void Report::FinishFile()
-{
-    if (!m_file->CloseFile()) {
-        m_errorNumber = report::NotClosed;
-    } else if (m_whole) {
-        PublishFile();
-    }
-    m_draft.reset();
-}
-
-void Report::PublishFile()
-{
-    try {
-        m_draft->Replace();
-        m_fileWritten = true;
-    } catch (...) {
-        m_errorNumber = report::NotClosed;
-    }
+    m_file = std::move(file);
+    return true;
 }
 
 bool Report::OpenViewer()
@@ -115,95 +49,64 @@ bool Report::OpenViewer()
     if (const auto previous = std::exchange(m_viewer, nullptr)) {
         previous->Unload();
     }
-    try {
-        m_viewer = m_context.viewers.CreateViewer(m_shape.kind);
-    } catch (...) {
-        return false;
+    const bool made = Succeeds([this] {
+        m_viewer = m_context.viewers.CreateViewer(m_entry.kind);
+        return m_viewer != nullptr;
+    });
+    if (made) {
+        m_viewer->Controller(shared_from_this());
+        m_viewer->Caption(m_document.title);
     }
-    if (m_viewer == nullptr) {
-        return false;
-    }
-    m_viewer->Controller(shared_from_this());
-    m_viewer->Caption(m_reportName);
-    return true;
+    return made;
 }
 
-// Whatever happens in the body, what was written so far is shown.
-bool Report::WriteBody(const std::function<bool()>& body)
+bool Report::Publish()
 {
-    try {
-        WriteLine(m_reportName);
-        WriteRule();
-        return body();
-    } catch (...) {
-        m_whole = false;
-        return Fail(report::NotGenerated);
-    }
+    m_errorNumber = RenderText(m_document, *m_file, *m_viewer);
+    Finish(*std::exchange(m_file, nullptr));
+    m_viewer->Show();
+    return m_document.Code() == 0;
 }
 
-void Report::WriteLine(const std::string& buffer)
+// A report that is cut short, or that a full disk cut, does not take the place of a whole one.
+void Report::Finish(ReportFile& file)
 {
-    if (m_file->FileOpen() && !m_file->WriteLine(buffer)) {
-        m_whole = false;
-        m_errorNumber = report::LineNotWritten;
-    }
-    if (!ShowLine(buffer)) {
-        m_errorNumber = report::LineNotShown;
+    if (!file.Close()) {
+        m_errorNumber = report::NotClosed;
+    } else if (!file.Lost() && m_document.whole) {
+        m_fileWritten = file.Publish();
+        m_errorNumber = m_fileWritten ? m_errorNumber : report::NotClosed;
     }
 }
 
-bool Report::ShowLine(const std::string& buffer)
+void Report::Break()
 {
-    return Succeeds([&] { return m_viewer->WriteLine(buffer); });
-}
-
-void Report::WriteRule()
-{
-    WriteLine(kRule);
-}
-
-bool Report::GoOn(std::int32_t done, std::int32_t total)
-{
-    if (!m_progress || m_progress(done, total)) {
-        return true;
+    const auto publish = [this] {
+        m_document.CutShort(report::NotGenerated);
+        Publish();
+    };
+    if (m_file == nullptr || !Succeeds(publish)) {
+        m_errorNumber = report::NotGenerated;
     }
-    WriteLine("Cancelled after " + std::to_string(done) + " of " + std::to_string(total) + " employees.");
-    m_whole = false;
-    return Fail(report::Cancelled);
 }
 
 bool Report::PrintReport()
 {
-    return Succeeds([&] {
-        if (!m_fileWritten) {
-            return TellNoFile(); // a file of that name is an earlier report's
-        }
-        CDocLauncher launcher(m_context.desktop);
-        return launcher.PrintDocument(m_context.window, ReportPath()) ||
-               (launcher.ErrorNumber() == docerror::DocumentNotFound && TellNoFile());
-    });
-}
-
-bool Report::TellNoFile()
-{
-    Tell(m_context.desktop, kNoFile);
-    return false;
+    // A file of that name is an earlier report's when this one has written none.
+    return PrintReportFile(m_context.desktop, m_context.window, m_fileWritten ? ReportPath() : "");
 }
 
 bool Report::UnloadReportWindow()
 {
     const auto self = shared_from_this(); // the viewer and the parent window may hold the last references
-    try {
+    return Succeeds([this] {
         if (const auto viewer = std::exchange(m_viewer, nullptr)) {
             viewer->Unload();
         }
         if (m_parentWindow != nullptr) {
-            (m_parentWindow->*m_shape.unload)();
+            m_parentWindow->UnloadReport(m_entry.kind);
         }
-        return true;
-    } catch (...) {
-        return false;
-    }
+    });
 }
 
 } // namespace ptk

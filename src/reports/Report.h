@@ -1,22 +1,27 @@
-// What all reports have in common: a text file in the reports folder, written line by line beside a viewer that shows the same lines.
+// What all reports have in common: a document is made, written to a text file in the reports folder and shown in a viewer.
 #pragma once
 
 #include "platform/ErrorNumbers.h"
+#include "platform/Succeeds.h"
+#include "reports/ReportDocument.h"
 #include "reports/ReportViewer.h"
 
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 
 namespace ptk {
 
-class CFile;
+class CEmployee;
+class CEmployeeList;
+class CJetDB;
 class Clock;
 class CTimeRecordFactory;
 class Desktop;
 class DesktopWindow;
-class FileDraft;
+class ReportFile;
 
 // What reports are made with. The references outlive them.
 struct ReportContext
@@ -29,12 +34,22 @@ struct ReportContext
     const DesktopWindow* window = nullptr;       // in whose name is printed; without one nothing is
 };
 
+// Whom and which days a report is asked for; a report looks at what it takes.
+struct ReportRequest
+{
+    std::shared_ptr<CJetDB> database;
+    std::shared_ptr<CEmployee> employee;
+    std::shared_ptr<CEmployeeList> employees;
+    Value from;
+    Value to;
+};
+
 // Called before each employee with the number of those done and of all; false stops the report there.
 using ReportProgress = std::function<bool(std::int32_t done, std::int32_t total)>;
 
 // Every report is written aside; its file takes the place of an earlier one of the same name at the end, for its owner only, or not at all:
-// an earlier report stays when lines were lost (702), at 506, 701 and 711, and when the body raised a failure. What a card could not be
-// generated for (605, 710) leaves a gap in a file that is whole.
+// an earlier report stays when lines were lost (702), at 506, 701 and 711, and when making the document raised a failure. What a card could
+// not be generated for (605, 710) leaves a gap in a file that is whole.
 //
 // The members common to all reports; each adds its GenerateReport, which may be called again and then starts afresh. No member raises.
 // REQUIRES: held by a std::shared_ptr from its making on, since it hands itself to its viewer.
@@ -45,69 +60,84 @@ public:
     Report(const Report&) = delete;
     Report& operator=(const Report&) = delete;
 
-    void ParentWindow(ReportOwner* value) { m_parentWindow = value; } // not owned; nullptr: nobody is told of the closing
-    std::string ReportName() const { return m_reportName; }
-    std::int32_t ErrorNumber() const { return m_errorNumber; } // 0 = none; the last one when several things failed
+    // The class's GenerateReport, with what it takes of the request.
+    virtual bool Generate(const ReportRequest& request) = 0;
+
+    // Not owned; nullptr: nobody is told of the closing.
+    void ParentWindow(ReportOwner* value) { m_parentWindow = value; }
+
+    std::string ReportName() const { return m_document.title; }
+
+    // 0 = none; the last one when several things failed.
+    std::int32_t ErrorNumber() const { return m_errorNumber; }
 
     // Whose part is missing from a generated report, and why, in words for its readers; empty when that is all there is to say of the
     // number.
-    virtual std::string Missing() const { return ""; }
+    std::string Missing() const { return m_document.Missing(); }
 
-    bool FileWritten() const { return m_fileWritten; } // whether the file holds what was generated last
-    bool PrintReport();                                // hands that file to the print spooler; tells the user when there is none
-    bool UnloadReportWindow();                         // closes the viewer and tells the parent window
+    // What was generated last; only a title before.
+    const ReportDocument& Document() const { return m_document; }
 
-    std::string ReportPath() const; // of the file, with backslashes
+    // Whether the file holds what was generated last.
+    bool FileWritten() const { return m_fileWritten; }
+
+    // Hands that file to the print spooler. False when it does not take it; that there is no such file the user is told in a box.
+    bool PrintReport();
+
+    // Closes the viewer and tells the parent window.
+    bool UnloadReportWindow();
+
+    // Of the file, with backslashes.
+    std::string ReportPath() const;
+
     void Progress(ReportProgress value) { m_progress = std::move(value); }
 
 protected:
-    // What sets one report apart for the common course.
-    struct Shape
-    {
-        ReportKind kind;
-        const char* name;              // the title, or what the title starts with
-        bool (ReportOwner::*unload)(); // told when the viewer closes
-    };
+    Report(ReportKind kind, ReportContext context);
 
-    Report(const Shape& shape, ReportContext context, std::string fileName = "");
+    // The edge of a generation: its steps are an argument check with Refuse, then Open, the making of Body() and Publish. A failure
+    // raised among them is 710; what was made until then is still written and shown.
+    template <typename Steps>
+    bool AtEdge(Steps steps);
 
-    // One generation from the argument checks on: the error number starts at 0, and a failure that nothing below turned into a code is 710.
-    bool Generate(const std::function<bool()>& steps);
-    void Name(const std::string& titleRest, std::string fileName);
+    // Always false.
+    bool Refuse(std::int32_t errorNumber);
 
-    // Opens the file and the viewer, writes the title, the rule and the body, puts the file in its place and shows the viewer. The answer
-    // is the body's; lines that could not be written or shown leave their number only, deliberately. False without a body when the file
-    // (503) or the viewer (701) is missing.
-    bool Write(const std::function<bool()>& body);
-    void WriteLine(const std::string& buffer); // may hold line ends of its own
-    void WriteRule();
+    // Begins the document with its title and a rule, opens its file and its viewer. False when the file (503) or the viewer (701) is
+    // missing.
+    bool Open(const std::string& titleRest, std::string fileName);
 
-    bool Fail(std::int32_t errorNumber); // always false
-    bool GoOn(std::int32_t done, std::int32_t total);
+    // Writes and shows the document, puts its file in place and shows the viewer. False when the document lacks something; lines that could
+    // not be written or shown leave their number only, deliberately.
+    bool Publish();
+
+    ReportDocument& Body() { return m_document; }
     const ReportContext& Context() const { return m_context; }
+    const ReportEntry& Entry() const { return m_entry; }
+    bool GoOn(std::int32_t done, std::int32_t total) const { return !m_progress || m_progress(done, total); }
 
 private:
-    bool OpenFile();
     bool OpenViewer();
-    bool WriteBody(const std::function<bool()>& body);
-    bool ShowLine(const std::string& buffer);
-    void DropFile();
-    void FinishFile();
-    void PublishFile();
-    bool TellNoFile(); // always false
+    void Finish(ReportFile& file);
+    void Break();
 
-    Shape m_shape;
+    const ReportEntry& m_entry;
     ReportContext m_context;
-    std::string m_reportName;
-    std::string m_fileName;
-    std::unique_ptr<FileDraft> m_draft; // while it is being written
-    std::unique_ptr<CFile> m_file;
-    bool m_whole = false;
+    ReportDocument m_document;
+    std::unique_ptr<ReportFile> m_file; // between Open and Publish
     bool m_fileWritten = false;
     std::shared_ptr<ReportViewer> m_viewer; // until UnloadReportWindow
     std::int32_t m_errorNumber = 0;
     ReportOwner* m_parentWindow = nullptr;
     ReportProgress m_progress;
 };
+
+template <typename Steps>
+bool Report::AtEdge(Steps steps)
+{
+    m_errorNumber = 0;
+    m_document.gaps.clear();
+    return Succeeds(steps, [this](const Failure&) { Break(); });
+}
 
 } // namespace ptk

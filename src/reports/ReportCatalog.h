@@ -1,20 +1,17 @@
-// The choice of reports: which there are, whom and which days each takes, and the dates it is offered with.
+// The table of reports: which there are, how each is called, and whom and which days it takes.
 #pragma once
 
-#include "platform/DateTime.h"
-
-#include <array>
 #include <cstdint>
 #include <memory>
-#include <string>
+#include <span>
 #include <string_view>
-#include <vector>
 
 namespace ptk {
 
-class CEmployee;
-class CEmployeeList;
+class Report;
+struct ReportContext;
 
+// By its kind an owner keeps a report and lets go of it.
 enum class ReportKind
 {
     TimeCard,
@@ -22,6 +19,13 @@ enum class ReportKind
     YTDTotals,
     Employee,
     PhoneBook
+};
+
+enum class ReportWhom
+{
+    Each,     // of those chosen: a report for each
+    Together, // of those chosen: one report for all
+    Everyone, // one report for all who are listed, chosen or not, but for the administrators
 };
 
 enum class ReportDates
@@ -34,32 +38,23 @@ enum class ReportDates
 struct ReportEntry
 {
     ReportKind kind;
-    std::string_view name; // as the report list shows it
-    bool needsEmployees;   // false: all that are listed
-    bool onePerEmployee;   // false: one report for all of them
+    std::string_view caption;     // in the report list
+    std::string_view consoleName; // for ptk-console
+    std::string_view title;       // or what the title starts with
+    std::string_view fileName;    // {number} stands for the employee's, {days} for the period's code
+    std::string_view viewer;      // the name of its viewer's window
+    ReportWhom whom;
     ReportDates dates;
+    bool tellsFailures; // in a box; deliberately not of the two lists
+    std::shared_ptr<Report> (*make)(ReportContext context);
 };
 
-// In the order of the report list.
-const std::array<ReportEntry, 5>& ReportCatalog();
-const ReportEntry* FindReport(std::string_view name); // nullptr when there is none of exactly this name
+std::span<const ReportEntry> ReportCatalog(); // in the order of the report list
 
-struct ReportPeriod
-{
-    DateTime from;
-    DateTime to;
-};
+// The entry with exactly this name; nullptr when there is none.
+const ReportEntry* FindReport(std::string_view caption);
+const ReportEntry* FindConsoleReport(std::string_view consoleName);
 
-// periodLength: days added to the first day. Raise Failure 6 when the end leaves the calendar.
-DateTime PeriodEnd(DateTime from, std::int16_t periodLength);
-ReportPeriod DefaultPayPeriod(DateTime today, std::int16_t periodLength); // from the 1st until the 15th, from the 15th after it
-ReportPeriod YearToDate(DateTime today);
-
-// The employees of these display names, in the names' order; a name that nobody has leaves an empty entry, which the reports answer with
-// their codes.
-std::shared_ptr<CEmployeeList> EmployeesByName(CEmployeeList& employees, const std::vector<std::string>& names);
-
-// The same without administrators and without names that nobody has.
-std::shared_ptr<CEmployeeList> PhoneBookEmployees(CEmployeeList& employees, const std::vector<std::string>& names);
+const ReportEntry& EntryOf(ReportKind kind);
 
 } // namespace ptk

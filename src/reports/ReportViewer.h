@@ -29,20 +29,17 @@ class ReportViewerFactory
 {
 public:
     virtual ~ReportViewerFactory() = default;
-    virtual std::shared_ptr<ReportViewer>
-    CreateViewer(ReportKind kind) = 0; // nullptr, or a failure raised, when there is no viewer to be had
+
+    // nullptr, or a failure raised, when there is no viewer to be had.
+    virtual std::shared_ptr<ReportViewer> CreateViewer(ReportKind kind) = 0;
 };
 
-// The parent window of reports. Closing a viewer calls the one member of its report; the results are ignored.
+// The parent window of reports.
 class ReportOwner
 {
 public:
     virtual ~ReportOwner() = default;
-    virtual bool UnloadTimeCardReport() = 0;
-    virtual bool UnloadReviewReport() = 0;
-    virtual bool UnloadYTDTotalsReport() = 0;
-    virtual bool UnloadEmployeeReport() = 0;
-    virtual bool UnloadPhoneBookReport() = 0;
+    virtual bool UnloadReport(ReportKind kind) = 0; // called once when a viewer of this kind closes; the answer is ignored
 };
 
 } // namespace ptk

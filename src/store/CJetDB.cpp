@@ -10,12 +10,21 @@
 #include "store/QueryParameters.h"
 #include "store/RowReader.h"
 
+#include <array>
+
 namespace ptk {
 
 namespace {
 
 constexpr std::int16_t kSnapshot = 4;
 constexpr const char* kNoSqlText = "there is no statement to run";
+
+constexpr const char* kAllEmployees = "GetAllEmployees";
+constexpr const char* kAllCompanies = "GetAllCompanies";
+
+// As CEmployee puts display names together.
+constexpr const char* kHasDisplayName =
+    "IIF(IFNULL(FirstName, '') = '', IFNULL(LastName, ''), FirstName || ' ' || IFNULL(LastName, '')) = :name";
 
 // Of what Update writes.
 bool SameOptions(const OptionsRow& a, const OptionsRow& b)
@@ -391,14 +400,16 @@ bool CJetDB::DeleteCompany(const CompanyRow& /*thecompany*/)
     return false;
 }
 
-std::shared_ptr<RecordSet> CJetDB::OpenListing(const char* query)
+// `listing` answers a snapshot: its count is the number of all its rows.
+template <typename Listing>
+std::shared_ptr<RecordSet> CJetDB::OpenListing(Listing listing)
 {
     if (!m_databaseOpen) {
         FailWithoutDatabase();
         return nullptr;
     }
     try {
-        auto rows = m_database->SelectStored(query); // a snapshot: its count is the number of all its rows
+        auto rows = listing();
         return rows->RecordCount() >= 0 || Fail(jetdb::NegativeCount, "the listing has a negative number of rows") ? rows : nullptr;
     } catch (...) {
         Fail(jetdb::ListingFailed, CurrentFailure());
@@ -408,19 +419,31 @@ std::shared_ptr<RecordSet> CJetDB::OpenListing(const char* query)
 
 std::shared_ptr<RecordSet> CJetDB::OpenEmployeeQuery()
 {
-    return OpenListing("GetAllEmployees");
+    return OpenListing([this] { return m_database->SelectStored(kAllEmployees); });
 }
 
 std::shared_ptr<RecordSet> CJetDB::OpenCompanyQuery()
 {
-    return OpenListing("GetAllCompanies");
+    return OpenListing([this] { return m_database->SelectStored(kAllCompanies); });
 }
 
 bool CJetDB::LoadEmployeeList(EmployeeSink& thelist)
 {
     ForgetFailure();
     OpenWhenClosed();
-    const auto rows = OpenEmployeeQuery();
+    return FillEmployees(thelist, OpenEmployeeQuery());
+}
+
+bool CJetDB::LoadEmployeesNamed(EmployeeSink& thelist, const std::string& thename)
+{
+    ForgetFailure();
+    OpenWhenClosed();
+    const std::array parameters{Parameter{"name", thename}};
+    return FillEmployees(thelist, OpenListing([&] { return m_database->SelectStored(kAllEmployees, kHasDisplayName, parameters); }));
+}
+
+bool CJetDB::FillEmployees(EmployeeSink& thelist, const std::shared_ptr<RecordSet>& rows)
+{
     if (rows == nullptr) {
         return false;
     }

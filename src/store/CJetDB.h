@@ -148,6 +148,7 @@ public:
     // Each opens the database when it is closed and closes it after success; a failed statement (412, 413) leaves it open.
     bool AddNewEmployee(const EmployeeRow& theemployee);
     bool LoadEmployeeList(EmployeeSink& thelist);
+    bool LoadEmployeesNamed(EmployeeSink& thelist, const std::string& thename); // by display name; nobody else's row is read
     bool UpdateEmployee(const EmployeeRow& theemployee);
     bool UpdateEmployee(const EmployeeRow& theemployee, const EmployeeRow& asRead); // 413 and a Conflict when it is not
     bool DeleteEmployee(const EmployeeRow& theemployee); // deliberately does nothing and answers false: employees are never deleted
@@ -171,7 +172,9 @@ private:
     void OpenWhenClosed();
     void CloseWhenOpen();
     bool Change(std::int32_t errorNumber, const std::function<void()>& steps);
-    std::shared_ptr<RecordSet> OpenListing(const char* query);
+    template <typename Listing>
+    std::shared_ptr<RecordSet> OpenListing(Listing listing);
+    bool FillEmployees(EmployeeSink& thelist, const std::shared_ptr<RecordSet>& rows);
     std::shared_ptr<RecordSet> OpenEmployeeQuery();
     std::shared_ptr<RecordSet> OpenCompanyQuery();
 

@@ -144,14 +144,19 @@ void Require(const char* table, std::int32_t key, std::vector<FieldDifference> d
     }
 }
 
-std::shared_ptr<RecordSet> RowOf(std::unique_ptr<Statement> search, const TableColumns& table, std::int32_t key)
+std::shared_ptr<RecordSet> Required(std::shared_ptr<RecordSet> row, const TableColumns& table, std::int32_t key)
 {
-    search->Bind("key", key);
-    auto row = search->ReadRows();
     if (row->EndOfFile()) {
         throw RowChanged({table.table, key, {}});
     }
     return row;
+}
+
+// By the listing that the file brings, as the row was read.
+std::shared_ptr<RecordSet> ListedRow(Engine& engine, const char* listing, const TableColumns& table, std::int32_t key)
+{
+    const Parameter parameter{"key", key};
+    return Required(engine.SelectStored(listing, std::string(table.names.front()) + " = :key", {&parameter, 1}), table, key);
 }
 
 } // namespace
@@ -177,20 +182,21 @@ RowChanged::RowChanged(RowConflict conflict) : Failure(jetdb::RowChanged, "PTK",
 void RequireAsRead(Engine& engine, const EmployeeRow& asRead)
 {
     const EmployeeRow read = AsLoaded(asRead);
-    const auto row = RowOf(engine.PrepareListed("GetAllEmployees", "EmployeeID"), EmployeeTable(), read.EmployeeID);
+    const auto row = ListedRow(engine, "GetAllEmployees", EmployeeTable(), read.EmployeeID);
     Require("Employee", read.EmployeeID, Differences(read, RowReader(*row, EmployeeTable()).ReadEmployee()));
 }
 
 void RequireAsRead(Engine& engine, const CompanyRow& read)
 {
-    const auto row = RowOf(engine.PrepareListed("GetAllCompanies", "CompanyID"), CompanyTable(), read.CompanyID);
+    const auto row = ListedRow(engine, "GetAllCompanies", CompanyTable(), read.CompanyID);
     Require("Company", read.CompanyID, Differences(read, RowReader(*row, CompanyTable()).ReadCompany()));
 }
 
 void RequireAsRead(Engine& engine, const TimeRecordRow& read)
 {
-    const auto row = RowOf(engine.Prepare("SELECT TimeRecordID, EmployeeID, StartTime, EndTime FROM TimeRecord WHERE TimeRecordID = :key"),
-                           TimeRecordTable(), read.TimeRecordID);
+    const auto search = engine.Prepare("SELECT TimeRecordID, EmployeeID, StartTime, EndTime FROM TimeRecord WHERE TimeRecordID = :key");
+    search->Bind("key", read.TimeRecordID);
+    const auto row = Required(search->ReadRows(), TimeRecordTable(), read.TimeRecordID);
     Require("TimeRecord", read.TimeRecordID, Differences(read, RowReader(*row, TimeRecordTable()).ReadTimeRecord()));
 }
 

@@ -2,11 +2,11 @@
 
 #include "model/CCompanyList.h"
 #include "model/CEmployeeList.h"
-#include "model/CTimeCard.h"
 #include "shell/CDocLauncher.h"
 #include "startup/CController.h"
 #include "startup/Notices.h"
 #include "ui/dialogs/FAbout.h"
+#include "ui/dialogs/OverviewWindow.h"
 #include "ui/PageFrame.h"
 #include "ui/pages/CompanyPage.h"
 #include "ui/pages/EmployeePage.h"
@@ -63,6 +63,8 @@ constexpr auto kGuideText = "File: ...\\documentation\\PTKAdminUserGuide.doc\r\n
 
 constexpr auto kGuideNotOpened = "The user's guide could not be opened: no program for it took it.";
 
+constexpr auto kBusy = "Not now: reports are being made";
+
 constexpr auto kPlaceName = "main";
 constexpr QSize kFirstSize(960, 660);
 
@@ -82,6 +84,7 @@ FController::FController(std::string programFolder, ptk::Desktop& desktop, const
     BuildPages();
     BuildStatusBar();
     ConnectMenus();
+    ConnectViewMenu();
     ConnectWindowMenu();
     ConnectTabs();
     ConnectTabKeys();
@@ -132,6 +135,15 @@ void FController::ConnectMenus()
     connect(m_ui->mnuFileExit, &QAction::triggered, this, &FController::Exit);
     connect(m_ui->mnuHelpAbout, &QAction::triggered, this, &FController::About);
     connect(m_ui->mnuHelpContents, &QAction::triggered, this, &FController::UsersGuide);
+}
+
+void FController::ConnectViewMenu()
+{
+    m_ui->mnuViewOverview->setIcon(ThemeIcon("overview"));
+    m_ui->mnuViewHours->setChecked(m_timeCardPage->HoursShown());
+    connect(m_ui->mnuViewOverview, &QAction::triggered, this, &FController::ShowOverview);
+    connect(m_ui->mnuViewHours, &QAction::toggled, m_timeCardPage, &TimeCardPage::ShowHours);
+    connect(m_optionsPage, &OptionsPage::LimitsStored, m_timeCardPage, &TimeCardPage::CheckAgain);
 }
 
 void FController::ConnectWindowMenu()
@@ -221,7 +233,7 @@ void FController::Load()
         return;
     }
     ShowTabPage(kTimeCardTab);
-    m_timeCard = nullptr;
+    m_timeCardPage->GiveUpCard();
     m_reports->Clear(false);
     m_timeCardPage->InitializePayPeriod();
 }
@@ -271,16 +283,6 @@ bool FController::ReturnTimeRecord(const std::shared_ptr<CTimeRecord>& thetimere
     return m_timeCardPage->ReturnTimeRecord(thetimerecord);
 }
 
-bool FController::FillEmployeeLists()
-{
-    try {
-        m_employeeModels->SetEmployees(m_controller->EmployeeList());
-        return true;
-    } catch (...) {
-        return false;
-    }
-}
-
 bool FController::SetStatusText(const std::string& name, const std::string& identifier)
 {
     m_statusText->setText(QString::fromStdString(name + " : " + identifier));
@@ -325,6 +327,28 @@ bool FController::ShowTabPage(int index)
     return m_ui->pages->currentIndex() == index - 1;
 }
 
+void FController::ShowOverview()
+{
+    if (m_overview == nullptr) {
+        m_overview = std::make_unique<OverviewWindow>(*this);
+        connect(m_overview.get(), &OverviewWindow::CardWanted, this, &FController::ShowTimeCard);
+    }
+    m_overview->Open(m_timeCardPage->ChosenPeriod());
+}
+
+// Not while reports are made: they and the page share the one list of records.
+void FController::ShowTimeCard(std::int32_t employeeID, const PayPeriod& period)
+{
+    if (IsBusyInDialog()) {
+        return m_overview->Say(kBusy);
+    }
+    m_ui->TabStrip->setCurrentIndex(kTimeCardTab - 1);
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    raise();
+    activateWindow();
+    m_timeCardPage->ShowCard(employeeID, period);
+}
+
 void FController::About()
 {
     FAbout(this).exec();
@@ -364,7 +388,8 @@ void FController::CloseDown(bool keepReview)
     if (!m_optionsPage->SaveSystemOptions()) {
         Tell(m_desktop, notice::OptionsUnsaved);
     }
-    m_timeCard = nullptr;
+    m_timeCardPage->GiveUpCard();
+    m_overview.reset();
     m_reports->Clear(keepReview);
     const auto controller = m_controller;
     if (controller == nullptr) {

@@ -23,8 +23,10 @@ class CompanyPage;
 class CTimeRecord;
 class EmployeePage;
 class OptionsPage;
+class OverviewWindow;
 class ReportsPage;
 class TimeCardPage;
+struct PayPeriod;
 
 // Must not be destroyed from within its own closing steps, in which the controller lets go of it: delete it later.
 class FController final : public QMainWindow, public MainWindow, public PageHost, public DesktopWindow
@@ -40,11 +42,11 @@ public:
     void Controller(std::shared_ptr<CController> value) override;
     bool DisplaySystemOptions(std::shared_ptr<CSystemOptions> options) override; // into the Options page
     bool ReturnTimeRecord(const std::shared_ptr<CTimeRecord>& thetimerecord);    // the editor's way back; always true
-    bool UnloadTimeCardReport() { return m_reports->UnloadTimeCardReport(); }
-    bool UnloadReviewReport() { return m_reports->UnloadReviewReport(); }
-    bool UnloadYTDTotalsReport() { return m_reports->UnloadYTDTotalsReport(); }
-    bool UnloadEmployeeReport() { return m_reports->UnloadEmployeeReport(); }
-    bool UnloadPhoneBookReport() { return m_reports->UnloadPhoneBookReport(); }
+    bool UnloadTimeCardReport() { return m_reports->UnloadReport(ReportKind::TimeCard); }
+    bool UnloadReviewReport() { return m_reports->UnloadReport(ReportKind::Review); }
+    bool UnloadYTDTotalsReport() { return m_reports->UnloadReport(ReportKind::YTDTotals); }
+    bool UnloadEmployeeReport() { return m_reports->UnloadReport(ReportKind::Employee); }
+    bool UnloadPhoneBookReport() { return m_reports->UnloadReport(ReportKind::PhoneBook); }
 
     void Unload() override;
     std::uintptr_t WindowHandle() const override { return static_cast<std::uintptr_t>(winId()); }
@@ -57,11 +59,8 @@ public:
     void Log(const std::string& line) override;
     std::int32_t EventSource() const override { return m_eventSource; }
     void EventSource(std::int32_t value) override { m_eventSource = value; }
-    std::shared_ptr<CTimeCard> TimeCard() const override { return m_timeCard; }
-    void TimeCard(std::shared_ptr<CTimeCard> value) override { m_timeCard = std::move(value); }
     PeriodTexts TimeCardPeriod() const override;
     ptk::EmployeeModels& EmployeeModels() const override { return *m_employeeModels; }
-    bool FillEmployeeLists() override;
     OpenReports& Reports() const override { return *m_reports; }
 
 protected:
@@ -75,6 +74,7 @@ private:
     void AddPage(int index, QWidget* page);
     void BuildStatusBar();
     void ConnectMenus();
+    void ConnectViewMenu();
     void ConnectWindowMenu();
     void ConnectTabs();
     void ConnectTabKeys();
@@ -88,6 +88,9 @@ private:
     bool ShowTabPage(int index);
     void ShowTabIcons(bool shown);
     void Say(const QString& text); // in the shown page's line
+
+    void ShowOverview();
+    void ShowTimeCard(std::int32_t employeeID, const PayPeriod& period);
 
     void Exit();
     void About();
@@ -106,7 +109,6 @@ private:
     std::int16_t m_lastTab = 0; // chosen on the tab strip, 1 to 5; 0 before the first choice
     std::int32_t m_errorNumber = 0;
     std::int32_t m_eventSource = eventsource::None;
-    std::shared_ptr<CTimeCard> m_timeCard;
     int m_tabsWidth = 0; // of the tabs with their icons
     bool m_loaded = false;
     bool m_closing = false;
@@ -116,6 +118,7 @@ private:
     EmployeePage* m_employeePage = nullptr;
     CompanyPage* m_companyPage = nullptr;
     OptionsPage* m_optionsPage = nullptr;
+    std::unique_ptr<OverviewWindow> m_overview; // nullptr until it is asked for
     QLabel* m_statusText = nullptr;
 };
 

@@ -2,11 +2,7 @@
 
 #include "platform/Desktop.h"
 #include "platform/Required.h"
-#include "reports/CReportEmployee.h"
-#include "reports/CReportPhoneBook.h"
-#include "reports/CReportReview.h"
 #include "reports/CReportTimeCard.h"
-#include "reports/CReportYTDTotals.h"
 #include "startup/CController.h"
 #include "ui/pages/PageHost.h"
 
@@ -22,90 +18,44 @@ OpenReports::~OpenReports()
     m_viewers.CloseAll();
 }
 
-template <typename AnyReport>
-std::shared_ptr<AnyReport> OpenReports::Make(std::shared_ptr<AnyReport>& kept)
+ReportContext OpenReports::Context()
 {
-    const auto controller = Required(m_host.Controller());
-    m_viewers.ClosePrinted();
-    auto report = std::make_shared<AnyReport>(ReportContext{m_programFolder, m_host.Desktop(), m_host.Clock(), m_viewers,
-                                                            controller->TimeRecordFactory(), &m_host.AsDesktopWindow()});
-    report->ParentWindow(this);
-    kept = report;
+    return {m_programFolder,          m_host.Desktop(), m_host.Clock(), m_viewers, Required(m_host.Controller())->TimeRecordFactory(),
+            &m_host.AsDesktopWindow()};
+}
+
+std::shared_ptr<Report> OpenReports::NewReport(const ReportEntry& entry)
+{
+    auto report = entry.make(Context());
+    Keep(entry.kind, report);
     return report;
 }
 
-std::shared_ptr<CReportTimeCard> OpenReports::NewTimeCardReport()
+void OpenReports::Keep(ReportKind kind, const std::shared_ptr<Report>& report)
 {
-    return Make(m_timeCard);
-}
-
-std::shared_ptr<CReportReview> OpenReports::NewReviewReport()
-{
-    return Make(m_review);
-}
-
-std::shared_ptr<CReportYTDTotals> OpenReports::NewYTDTotalsReport()
-{
-    return Make(m_ytdTotals);
-}
-
-std::shared_ptr<CReportEmployee> OpenReports::NewEmployeeReport()
-{
-    return Make(m_employee);
-}
-
-std::shared_ptr<CReportPhoneBook> OpenReports::NewPhoneBookReport()
-{
-    return Make(m_phoneBook);
+    m_viewers.ClosePrinted();
+    report->ParentWindow(this);
+    m_reports[kind] = report;
 }
 
 bool OpenReports::PrintTimeCard(const std::shared_ptr<CTimeCard>& card, std::int32_t& errorNumber)
 {
-    const auto report = NewTimeCardReport();
+    const auto report = std::make_shared<CReportTimeCard>(Context());
+    Keep(ReportKind::TimeCard, report);
     const bool written = report->WriteTimeCardReport(card);
     errorNumber = report->ErrorNumber();
     return written;
 }
 
-bool OpenReports::UnloadTimeCardReport()
+bool OpenReports::UnloadReport(ReportKind kind)
 {
-    m_timeCard = nullptr;
-    return false;
-}
-
-bool OpenReports::UnloadReviewReport()
-{
-    m_review = nullptr;
-    return false;
-}
-
-bool OpenReports::UnloadYTDTotalsReport()
-{
-    m_ytdTotals = nullptr;
-    return false;
-}
-
-bool OpenReports::UnloadEmployeeReport()
-{
-    m_employee = nullptr;
-    return false;
-}
-
-bool OpenReports::UnloadPhoneBookReport()
-{
-    m_phoneBook = nullptr;
+    m_reports.erase(kind);
     return false;
 }
 
 void OpenReports::Clear(bool exceptReview)
 {
-    m_timeCard = nullptr;
-    m_ytdTotals = nullptr;
-    m_employee = nullptr;
-    m_phoneBook = nullptr;
-    if (!exceptReview) {
-        m_review = nullptr;
-    }
+    std::erase_if(m_reports, [&](const auto& kept) { return !exceptReview || kept.first != ReportKind::Review; });
 }
 
 } // namespace ptk

@@ -3,19 +3,15 @@
 #pragma once
 
 #include "reports/Report.h"
-#include "ui/dialogs/FReportViewers.h"
+#include "ui/dialogs/QtViewerFactory.h"
 
 #include <cstdint>
+#include <map>
 #include <memory>
 #include <string>
 
 namespace ptk {
 
-class CReportEmployee;
-class CReportPhoneBook;
-class CReportReview;
-class CReportTimeCard;
-class CReportYTDTotals;
 class CTimeCard;
 class PageHost;
 
@@ -29,37 +25,24 @@ public:
     OpenReports& operator=(const OpenReports&) = delete;
 
     // Raise Failure 91 before the window has its controller.
-    std::shared_ptr<CReportTimeCard> NewTimeCardReport();
-    std::shared_ptr<CReportReview> NewReviewReport();
-    std::shared_ptr<CReportYTDTotals> NewYTDTotalsReport();
-    std::shared_ptr<CReportEmployee> NewEmployeeReport();
-    std::shared_ptr<CReportPhoneBook> NewPhoneBookReport();
+    std::shared_ptr<Report> NewReport(const ReportEntry& entry);
 
     // Writes and shows the form of a generated card. errorNumber: the report's, 0 when nothing went wrong.
     bool PrintTimeCard(const std::shared_ptr<CTimeCard>& card, std::int32_t& errorNumber);
 
-    // Each drops its reference and answers false, which nobody looks at.
-    bool UnloadTimeCardReport() override;
-    bool UnloadReviewReport() override;
-    bool UnloadYTDTotalsReport() override;
-    bool UnloadEmployeeReport() override;
-    bool UnloadPhoneBookReport() override;
+    bool UnloadReport(ReportKind kind) override; // drops its reference and answers false, which nobody looks at
 
     void Clear(bool exceptReview); // drops the references; viewers stay open
     QtViewerFactory& Viewers() { return m_viewers; }
 
 private:
-    template <typename AnyReport>
-    std::shared_ptr<AnyReport> Make(std::shared_ptr<AnyReport>& kept);
+    ReportContext Context();
+    void Keep(ReportKind kind, const std::shared_ptr<Report>& report);
 
     PageHost& m_host;
     std::string m_programFolder;
     QtViewerFactory m_viewers;
-    std::shared_ptr<CReportTimeCard> m_timeCard;
-    std::shared_ptr<CReportReview> m_review;
-    std::shared_ptr<CReportYTDTotals> m_ytdTotals;
-    std::shared_ptr<CReportEmployee> m_employee;
-    std::shared_ptr<CReportPhoneBook> m_phoneBook;
+    std::map<ReportKind, std::shared_ptr<Report>> m_reports;
 };
 
 } // namespace ptk

@@ -1,7 +1,7 @@
 #include "ui/WindowMenu.h"
 
 #include "office/ReportRun.h"
-#include "ui/dialogs/FReportViewers.h"
+#include "ui/dialogs/QtViewerFactory.h"
 
 #include <QMenu>
 #include <QRegularExpression>

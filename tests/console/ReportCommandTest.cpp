@@ -69,25 +69,9 @@ TEST_F(ReportCommandTest, WritesEachReportForTheTabsEmployeesAndDates)
 
 TEST_F(ReportCommandTest, TakesTheDatesGivenAndMovesTheEndWithTheStart)
 {
-    struct Case
-    {
-        std::vector<std::string> words;
-        const char* file;
-    };
-    for (const Case& c : {
-             Case{{"--from", "3/1/2026"}, "salary_review_0301_0315_2026.txt"},
-             Case{{"--from", "3/1/2026", "--to", "3/8/2026"}, "salary_review_0301_0308_2026.txt"},
-             Case{{"--to", "3/20/2026"}, "salary_review_0315_0320_2026.txt"},
-         }) {
-        SCOPED_TRACE(c.file);
-        std::vector<std::string> words{"report", "review", "--employee", "Ann Lee"};
-        words.insert(words.end(), c.words.begin(), c.words.end());
-        EXPECT_EQ(Run(words).err, Written({c.file}));
-    }
+    EXPECT_EQ(Run({"report", "review", "--employee", "Ann Lee", "--from", "3/1/2026"}).err, Written({"salary_review_0301_0315_2026.txt"}));
     EXPECT_EQ(Run({"report", "ytd", "--employee", "Ann Lee", "--from", "2/1/2026", "--to", "3/1/2026"}).err,
               Written({"101_0201_0301_2026_ytd_totals.txt"}));
-    EXPECT_EQ(Run({"report", "ytd", "--employee", "Ann Lee", "--from", "2/1/2026"}).err, Written({"101_0201_0320_2026_ytd_totals.txt"}))
-        << "ends today";
 }
 
 TEST_F(ReportCommandTest, KeepsTheOrderAndAnEmptyLineBetweenReports)

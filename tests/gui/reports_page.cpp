@@ -1,139 +1,69 @@
-// The Reports page over a started program: what is chosen is what is written, shown and told.
-#include "model/CEmployeeList.h"
-#include "platform/Text.h"
-#include "startup/StartupFixture.h"
-#include "store/CTimeRecSQLConverter.h"
-#include "ui/OpenReports.h"
-#include "ui/pages/PageHost.h"
-#include "ui/pages/ReportsPage.h"
+// The Reports page of the started program: what is offered, what is chosen is what is asked for, and how the outcome is told.
+#include "gui/PageFixture.h"
+#include "ui/dialogs/ReportViewerWindow.h"
 #include "ui/widgets/DateCombo.h"
-#include "ui/widgets/EmployeeModels.h"
-
-#include <QtTest>
-#include <QtWidgets>
 
 namespace ptk {
 
 namespace {
 
-class Host final : public PageHost
+// Listed: Ann Lee (40) and Zorn (42), who each worked 8 hours on 3/3/2003, and Bo Kim (41), who has no shifts.
+void AddStaff(BulkWriter& writer)
 {
-public:
-    Host(std::shared_ptr<CController> controller, ptk::Desktop& desktop, const ptk::Clock& clock, const std::string& programFolder)
-        : m_controller(std::move(controller)), m_desktop(desktop), m_clock(clock), m_reports(*this, programFolder)
-    {
-        FillEmployeeLists();
+    const auto add = [&writer](const char* firstName, const char* lastName, std::int32_t number) {
+        EmployeeRow row;
+        row.FirstName = firstName;
+        row.LastName = lastName;
+        row.EmployeeNumber = number;
+        row.EmployeeActive = true;
+        return writer.AddEmployee(row);
+    };
+    const std::int32_t ann = add("Ann", "Lee", 5);
+    add("Bo", "Kim", 6);
+    for (const std::int32_t id : {ann, add("", "Zorn", 17)}) {
+        writer.AddTimeRecord({-1, id, DateTime({2003, 3, 3}, {8, 0, 0}), DateTime({2003, 3, 3}, {16, 0, 0})});
     }
+}
 
-    std::shared_ptr<CController> Controller() const override { return m_controller; }
-    ptk::Desktop& Desktop() const override { return m_desktop; }
-    const ptk::Clock& Clock() const override { return m_clock; }
-    const DesktopWindow& AsDesktopWindow() const override { return m_window; }
-    bool SetStatusText(const std::string& name, const std::string& identifier) override
-    {
-        status = name + " : " + identifier;
-        return true;
-    }
-    void ErrorNumber(std::int32_t) override {}
-    void Log(const std::string& line) override { logged.push_back(line); }
-    std::int32_t EventSource() const override { return eventsource::None; }
-    void EventSource(std::int32_t) override {}
-    std::shared_ptr<CTimeCard> TimeCard() const override { return nullptr; }
-    void TimeCard(std::shared_ptr<CTimeCard>) override {}
-    PeriodTexts TimeCardPeriod() const override { return {"02/18/2003", "03/04/2003"}; }
-    ptk::EmployeeModels& EmployeeModels() const override { return m_models; }
-    bool FillEmployeeLists() override
-    {
-        m_models.SetEmployees(m_controller->EmployeeList());
-        return true;
-    }
-    OpenReports& Reports() const override { return m_reports; }
+ShownBox Failed(const std::string& text)
+{
+    return {text, "Report Generation Error", Icon::Exclamation, Buttons::Ok};
+}
 
-    std::string status;
-    std::vector<std::string> logged;
+const std::string kFailed = " : An error occurred generating the report: ";
 
-private:
-    std::shared_ptr<CController> m_controller;
-    ptk::Desktop& m_desktop;
-    const ptk::Clock& m_clock;
-    DesktopWindow m_window;
-    mutable ptk::EmployeeModels m_models;
-    mutable OpenReports m_reports;
-};
-
-// Listed: Bo Kim, who has no shifts, Ann Lee and Zorn, who each worked 8 hours on 3/3/2003. Today is 3/5/2003.
-class ReportsPageTest : public StartupFixture
+class ReportsPageTest : public PageTest
 {
 protected:
-    void SetUp() override
-    {
-        AddEmployee("Ann", "Lee", 5, true);
-        AddEmployee("Bo", "Kim", 6, false);
-        AddEmployee("", "Zorn", 17, true);
-        program.Start();
-        host = std::make_unique<Host>(program.Controller(), desktop, clock, folder.Path());
-        page = std::make_unique<ReportsPage>(*host);
-        page->FillReportList();
-        page->EnableGenerate();
-    }
-    void TearDown() override
-    {
-        page = nullptr;
-        host = nullptr;
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        ScriptedMain::Close(Controller());
-    }
+    ReportsPageTest() : PageTest(AddStaff) { ClickTab(Main(), 2); }
 
-    void AddEmployee(const char* firstName, const char* lastName, std::int32_t number, bool worked)
+    void Choose(const char* report) { The<QComboBox>("cboReports").setCurrentText(report); }
+    // By their lines: Bo Kim 0, Ann Lee 1, Zorn 2.
+    void Select(std::initializer_list<int> lines)
     {
-        EmployeeRow employee;
-        employee.FirstName = firstName;
-        employee.LastName = lastName;
-        employee.EmployeeNumber = number;
-        employee.EmployeeActive = true;
-        CJetDB database(folder.Path());
-        ASSERT_TRUE(database.AddNewEmployee(employee));
-        const TimeRecordRow shift{-1, ++m_lastID, DateTime({2003, 3, 3}, {8, 0, 0}), DateTime({2003, 3, 3}, {16, 0, 0})};
-        if (worked) {
-            ASSERT_TRUE(database.ExecuteAction(CTimeRecSQLConverter().ToSQL(&shift)));
+        auto& list = The<QListView>("lstEmployees");
+        list.clearSelection();
+        for (const int line : lines) {
+            list.selectionModel()->select(list.model()->index(line, 0), QItemSelectionModel::Select);
         }
     }
+    int Selected() { return static_cast<int>(The<QListView>("lstEmployees").selectionModel()->selectedRows().size()); }
+    std::string Line() { return Find<QLabel>(Find(Main(), "FrameArray(2)"), "lblNotice").text().toStdString(); }
+    std::string Dates() { return (The<DateCombo>("cboFromDate").Text() + " - " + The<DateCombo>("cboToDate").Text()).toStdString(); }
+    std::string Log() { return ReadBytes(program.logPath); }
 
-    template <typename Control>
-    Control& Find(const char* name)
+    // The open viewers whose title starts so.
+    static std::vector<ReportViewerWindow*> Shown(const QString& title)
     {
-        return *page->findChild<Control*>(name);
-    }
-    void Choose(const char* report) { Find<QComboBox>("cboReports").setCurrentText(report); }
-    void SelectLine(int row)
-    {
-        auto& list = Find<QListView>("lstEmployees");
-        list.selectionModel()->select(list.model()->index(row, 0), QItemSelectionModel::Select);
-    }
-    void SelectEveryone() { QTest::mouseClick(&Find<QPushButton>("cmdSelectAll"), Qt::LeftButton); }
-    int Selected() { return static_cast<int>(Find<QListView>("lstEmployees").selectionModel()->selectedRows().size()); }
-    void Generate() { QTest::mouseClick(&Find<QPushButton>("cmdGenerate"), Qt::LeftButton); }
-    QString Line() { return Find<QLabel>("lblNotice").text(); }
-    QString Dates() { return Find<DateCombo>("cboFromDate").Text() + " - " + Find<DateCombo>("cboToDate").Text(); }
-
-    // The texts of the open viewers whose title starts so.
-    static QStringList Shown(const QString& title)
-    {
-        QStringList texts;
-        for (const QWidget* window : QApplication::topLevelWidgets()) {
-            if (window->isVisible() && window->windowTitle().startsWith(title)) {
-                texts << window->findChild<QPlainTextEdit*>("txtReport")->toPlainText();
+        std::vector<ReportViewerWindow*> shown;
+        for (QWidget* window : QApplication::topLevelWidgets()) {
+            auto* viewer = qobject_cast<ReportViewerWindow*>(window);
+            if (viewer != nullptr && viewer->isVisible() && viewer->windowTitle().startsWith(title)) {
+                shown.push_back(viewer);
             }
         }
-        return texts;
+        return shown;
     }
-    bool Written(const char* file) const { return std::filesystem::is_regular_file(folder.Path() + "/reports/" + file); }
-
-    std::unique_ptr<Host> host;
-    std::unique_ptr<ReportsPage> page;
-
-private:
-    std::int32_t m_lastID = 39; // the administrator's
 };
 
 TEST_F(ReportsPageTest, EachReportOffersItsDatesAndEmployees)
@@ -146,8 +76,7 @@ TEST_F(ReportsPageTest, EachReportOffersItsDatesAndEmployees)
         bool employees;
         const char* dates;
     };
-    EXPECT_TRUE(page->SelectFirstReport());
-    EXPECT_EQ(host->status, "Reports : Timecard : 03/01/2003 - 03/15/2003");
+    EXPECT_EQ(The<QComboBox>("cboReports").currentText(), "Timecard");
     for (const Case& c : {Case{"Accountants Review", true, true, true, "03/01/2003 - 03/15/2003"},
                           Case{"Year-To-Date Totals", false, true, true, "01/01/2003 - 03/05/2003"},
                           Case{"Employee Records", false, false, true, "01/01/2003 - 03/05/2003"},
@@ -155,206 +84,129 @@ TEST_F(ReportsPageTest, EachReportOffersItsDatesAndEmployees)
                           Case{"Timecard", true, true, true, "03/01/2003 - 03/15/2003"}}) {
         SCOPED_TRACE(c.report);
         Choose(c.report);
-        EXPECT_EQ(Find<QWidget>("cboFromDate").isEnabled(), c.from);
-        EXPECT_EQ(Find<QWidget>("cboToDate").isEnabled(), c.to);
-        EXPECT_EQ(Find<QWidget>("lstEmployees").isEnabled(), c.employees);
+        EXPECT_EQ(The<QWidget>("cboFromDate").isEnabled(), c.from);
+        EXPECT_EQ(The<QWidget>("cmdReportPeriodBack").isEnabled(), c.from);
+        EXPECT_EQ(The<QWidget>("cmdSamePeriod").isEnabled(), c.from);
+        EXPECT_EQ(The<QWidget>("cboToDate").isEnabled(), c.to);
+        EXPECT_EQ(The<QWidget>("lstEmployees").isEnabled(), c.employees);
         EXPECT_EQ(Dates(), c.dates);
-        EXPECT_EQ(host->status, "Reports : " + std::string(c.report) + " : " + c.dates);
+        EXPECT_EQ(StatusText(Main()), "Reports : " + std::string(c.report) + " : " + c.dates);
     }
-    EXPECT_EQ(Find<QComboBox>("cboReports").count(), 5);
 }
 
-TEST_F(ReportsPageTest, TheLastDayFollowsTheFirst)
+TEST_F(ReportsPageTest, TheDatesFollowTyping)
 {
-    Choose("Timecard");
-    auto& from = Find<DateCombo>("cboFromDate");
-    from.lineEdit()->selectAll();
-    QTest::keyClicks(from.lineEdit(), "02/20/2003");
+    TypeInto(The<DateCombo>("cboFromDate"), "02/20/2003");
     EXPECT_EQ(Dates(), "02/20/2003 - 03/06/2003");
-    EXPECT_EQ(host->status, "Reports : Timecard : 02/20/2003 - 03/06/2003");
-    auto& to = Find<DateCombo>("cboToDate");
-    to.lineEdit()->selectAll();
-    QTest::keyClicks(to.lineEdit(), "02/28/2003");
+    TypeInto(The<DateCombo>("cboToDate"), "02/28/2003");
     EXPECT_EQ(Dates(), "02/20/2003 - 02/28/2003");
-    EXPECT_EQ(host->status, "Reports : Timecard : 02/20/2003 - 02/28/2003");
+    EXPECT_EQ(StatusText(Main()), "Reports : Timecard : 02/20/2003 - 02/28/2003");
 }
 
 TEST_F(ReportsPageTest, StepsByWholePeriodsAndTakesTheTimecardsDates)
 {
-    Choose("Timecard");
-    Find<QPushButton>("cmdReportPeriodNext").click();
+    Press("cmdReportPeriodNext");
     EXPECT_EQ(Dates(), "03/16/2003 - 03/30/2003");
-    EXPECT_EQ(host->status, "Reports : Timecard : 03/16/2003 - 03/30/2003");
-    Find<QPushButton>("cmdReportPeriodBack").click();
-    Find<QPushButton>("cmdReportPeriodBack").click();
-    EXPECT_EQ(Dates(), "02/14/2003 - 02/28/2003");
-    Find<QPushButton>("cmdSamePeriod").click();
-    EXPECT_EQ(host->status, "Reports : Timecard : 02/18/2003 - 03/04/2003");
-    Find<DateCombo>("cboFromDate").SetText("soon");
-    Find<QPushButton>("cmdReportPeriodNext").click();
+    Press("cmdReportPeriodBack");
+    Press("cmdReportPeriodBack");
+    EXPECT_EQ(StatusText(Main()), "Reports : Timecard : 02/14/2003 - 02/28/2003");
+    The<DateCombo>("dttbTCFrom").SetText("02/18/2003");
+    Press("cmdSamePeriod");
+    EXPECT_EQ(StatusText(Main()), "Reports : Timecard : 02/18/2003 - 03/19/2003");
+    The<DateCombo>("cboFromDate").SetText("soon");
+    Press("cmdReportPeriodNext");
     EXPECT_EQ(Line(), "Cannot move to the selected time period.");
-    Choose("Year-To-Date Totals");
-    EXPECT_FALSE(Find<QPushButton>("cmdReportPeriodBack").isEnabled());
-    EXPECT_FALSE(Find<QPushButton>("cmdSamePeriod").isEnabled());
 }
 
-TEST_F(ReportsPageTest, TheWheelPassesOverTheReportList)
+TEST_F(ReportsPageTest, IsChosenAndSelectedDeliberately)
 {
-    Choose("Timecard");
-    auto& reports = Find<QComboBox>("cboReports");
+    auto& reports = The<QComboBox>("cboReports");
     QWheelEvent wheel({5, 5}, reports.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
     QApplication::sendEvent(&reports, &wheel);
-    EXPECT_EQ(reports.currentText(), "Timecard");
-}
+    EXPECT_EQ(reports.currentText(), "Timecard") << "the wheel passes over it";
 
-TEST_F(ReportsPageTest, SaysWhomItWasFor)
-{
-    Choose("Timecard");
-    EXPECT_EQ(Find<QLabel>("lblSelected").text(), "0 of 3 selected");
-    Generate();
-    EXPECT_EQ(Line(), "Nobody is selected");
-    SelectLine(1);
-    SelectLine(2);
-    EXPECT_EQ(Find<QLabel>("lblSelected").text(), "2 of 3 selected");
-    Generate();
-    EXPECT_EQ(Line(), "2 reports written");
-    Choose("Employee Records");
-    Find<QPushButton>("cmdSelectNone").click();
-    Generate();
-    EXPECT_EQ(Line(), "Nobody is selected: the report written is empty");
-    EXPECT_TRUE(desktop.boxes.empty());
+    auto& list = The<QListView>("lstEmployees");
+    list.setFocus();
+    QTest::keyClick(&list, Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(Selected(), 3);
+    QTest::keyClick(&list, Qt::Key_A, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(The<QLabel>("lblSelected").text(), "0 of 3 selected");
+    Press("cmdSelectAll");
+    EXPECT_EQ(The<QLabel>("lblSelected").text(), "3 of 3 selected");
+    Press("cmdSelectNone");
+    EXPECT_EQ(Selected(), 0);
 }
 
 TEST_F(ReportsPageTest, NeedsAReport)
 {
-    Generate();
-    EXPECT_EQ(Boxes(), std::vector<std::string>{"Report Generation Error: You must select a report to generate before continuing."});
-    EXPECT_EQ(desktop.boxes[0].icon, Icon::Exclamation);
+    The<QComboBox>("cboReports").setCurrentIndex(-1);
+    Press("cmdGenerate");
+    EXPECT_EQ(Told(), Boxes{Failed("You must select a report to generate before continuing.")});
 }
 
-TEST_F(ReportsPageTest, OneTimeCardForEachAndAFailureStopsNoOther)
+TEST_F(ReportsPageTest, WhatIsChosenIsGeneratedAndWhatFailsIsTold)
 {
-    Choose("Timecard");
-    SelectEveryone();
-    Generate();
-    EXPECT_EQ(Shown("Employee Time Card : ").size(), 3);
+    Select({2, 0, 1});
+    Press("cmdGenerate");
+    EXPECT_EQ(Told(), Boxes{Failed("605" + kFailed + "Employee Time Card : Bo Kim : 3/1/2003 - 3/14/2003")});
     EXPECT_EQ(Line(), "2 of 3 reports complete, 1 failed");
-    EXPECT_EQ(Boxes(), std::vector<std::string>{"Report Generation Error: 605 : An error occurred generating the report: "
-                                                "Employee Time Card : Bo Kim : 3/1/2003 - 3/14/2003"});
-    EXPECT_TRUE(Written("5_0301_0315_2003_time_card.txt"));
-    EXPECT_TRUE(Written("6_0301_0315_2003_time_card.txt"));
-    EXPECT_TRUE(Written("17_0301_0315_2003_time_card.txt"));
-    EXPECT_EQ(desktop.pointer, Pointer::Default);
+    EXPECT_EQ(Shown("Employee Time Card : ").size(), 3U);
+    EXPECT_EQ(program.desktop.pointer, Pointer::Default);
+
+    The<DateCombo>("cboToDate").SetText("soon");
+    Select({1});
+    Press("cmdGenerate");
+    EXPECT_EQ(Told(), Boxes{Failed("603" + kFailed + "Employee Time Card : ")});
+    Select({});
+    Press("cmdGenerate");
+    EXPECT_EQ(Line(), "Nobody is selected");
+
+    Choose("Accountants Review");
+    Select({2, 1});
+    Press("cmdGenerate");
+    EXPECT_EQ(Told(), Boxes{});
+    EXPECT_EQ(Line(), "1 report written");
+    const QString text = Shown("Accountant's Review : 3/1/2003 - 3/15/2003").at(0)->findChild<QPlainTextEdit*>("txtReport")->toPlainText();
+    EXPECT_LT(text.indexOf("Name:  Ann Lee"), text.indexOf("Name:  Zorn")) << "in the list's order";
+    EXPECT_FALSE(text.contains("Kim"));
 }
 
-TEST_F(ReportsPageTest, OneReviewForAllSelected)
+TEST_F(ReportsPageTest, TheViewerBeforeStaysOpenAndKeepsItsReport)
 {
-    Choose("Accountants Review");
-    SelectLine(2);
-    SelectLine(1);
-    Generate();
-    EXPECT_TRUE(desktop.boxes.empty());
-    const QStringList texts = Shown("Accountant's Review : 3/1/2003 - 3/15/2003");
-    ASSERT_EQ(texts.size(), 1);
-    EXPECT_LT(texts[0].indexOf("Name:  Ann Lee"), texts[0].indexOf("Name:  Zorn"));
-    EXPECT_FALSE(texts[0].contains("Kim"));
-
-    SelectLine(0);
-    Generate();
-    EXPECT_EQ(Boxes(), std::vector<std::string>{"Report Generation Error: 710 : An error occurred generating the report: "
-                                                "Accountant's Review : 3/1/2003 - 3/15/2003"});
-    EXPECT_EQ(Shown("Accountant's Review").size(), 2) << "the viewer before stays open";
+    Choose("Employee Records");
+    Press("cmdGenerate");
+    Press("cmdGenerate");
+    ASSERT_EQ(Shown("Employee Records").size(), 2U);
+    for (ReportViewerWindow* viewer : Shown("Employee Records")) {
+        Click(*viewer, "cmdPrint");
+    }
+    EXPECT_EQ(program.desktop.requests.size(), 2U);
+    EXPECT_TRUE(Shown("Employee Records").empty());
 }
 
 TEST_F(ReportsPageTest, AReviewOfAHeldDatabaseTellsWhyAndWhomItLacks)
 {
     Choose("Accountants Review");
-    SelectLine(1);
-    SelectLine(2);
-    CJetDB other(folder.Path());
-    ASSERT_TRUE(other.OpenDB());
-    Generate();
+    Select({1, 2});
+    const auto other = HoldDatabase();
+    Press("cmdGenerate");
+    EXPECT_EQ(Told(), Boxes{Failed("710" + kFailed + "Accountant's Review : 3/1/2003 - 3/15/2003")});
     const std::string without = "without Ann Lee, Zorn: the database is in use by another program";
-    EXPECT_EQ(Line().toStdString(), "The report is not complete: error 710, " + without);
-    EXPECT_EQ(host->logged.back(), "Accountant's Review : 3/1/2003 - 3/15/2003: " + Line().toStdString());
-    for (const QWidget* window : QApplication::topLevelWidgets()) {
-        if (window->isVisible() && window->windowTitle().startsWith("Accountant's")) {
-            EXPECT_EQ(window->findChild<QLabel*>("lblNotice")->text().toStdString(),
-                      "This report is not complete: error 710. W" + without.substr(1) + ".");
-        }
-    }
+    EXPECT_EQ(Line(), "The report is not complete: error 710, " + without);
+    EXPECT_NE(Log().find("Accountant's Review : 3/1/2003 - 3/15/2003: " + Line()), std::string::npos);
+    EXPECT_EQ(Find<QLabel>(*Shown("Accountant's Review").at(0), "lblNotice").text().toStdString(),
+              "This report is not complete: error 710. W" + without.substr(1) + ".");
 }
 
-TEST_F(ReportsPageTest, TotalsRecordsAndPhoneBook)
+TEST_F(ReportsPageTest, TheListsFailWithoutABox)
 {
-    Choose("Year-To-Date Totals");
-    SelectLine(1);
-    Generate();
-    EXPECT_TRUE(Written("5_0101_0305_2003_ytd_totals.txt"));
-
-    Choose("Employee Records");
-    Generate();
-    ASSERT_EQ(Shown("Employee Records").size(), 1);
-    EXPECT_TRUE(Shown("Employee Records")[0].contains("Last Name:  Lee"));
-    EXPECT_FALSE(Shown("Employee Records")[0].contains("Zorn"));
-
+    std::filesystem::remove_all(program.folder.Path() + "/reports");
     Choose("Phone Book");
-    Generate();
-    ASSERT_EQ(Shown("Employee Phone Book").size(), 1);
-    for (const char* name : {"Kim, Bo", "Lee, Ann", "Zorn"}) {
-        EXPECT_TRUE(Shown("Employee Phone Book")[0].contains(name)) << name;
-    }
-    EXPECT_FALSE(Shown("Employee Phone Book")[0].contains("administrator"));
-    EXPECT_TRUE(desktop.boxes.empty());
-}
-
-TEST_F(ReportsPageTest, ADateThatIsNoneIsTheReportsToRefuse)
-{
-    Choose("Timecard");
-    SelectLine(1);
-    Find<DateCombo>("cboToDate").SetText("next week");
-    Generate();
-    EXPECT_EQ(Boxes(), std::vector<std::string>{"Report Generation Error: 603 : An error occurred generating the report: "
-                                                "Employee Time Card : "});
-    EXPECT_EQ(Find<DateCombo>("cboToDate").Text(), "next week");
-}
-
-TEST_F(ReportsPageTest, AnEmployeeWhoIsNoMoreIsRefused)
-{
-    Choose("Timecard");
-    SelectLine(1);
-    Controller().EmployeeList()->Destroy();
-    Generate();
-    EXPECT_EQ(Boxes(), std::vector<std::string>{"Report Generation Error: 602 : An error occurred generating the report: "
-                                                "Employee Time Card : "});
-}
-
-TEST_F(ReportsPageTest, WithoutTheFolderNoViewerOpens)
-{
-    std::filesystem::remove_all(folder.Path() + "/reports");
-    Choose("Accountants Review");
-    Generate();
-    EXPECT_EQ(Boxes(), std::vector<std::string>{"Report Generation Error: 503 : An error occurred generating the report: "
-                                                "Accountant's Review : 3/1/2003 - 3/15/2003"});
-    Choose("Phone Book");
-    Generate();
-    EXPECT_EQ(desktop.boxes.size(), 1U) << "the lists fail without a box";
+    Press("cmdGenerate");
+    EXPECT_EQ(Told(), Boxes{});
     EXPECT_EQ(Line(), "The report was not written: error 503");
-    EXPECT_EQ(host->logged.back(), "Employee Phone Book: The report was not written: error 503");
-    EXPECT_TRUE(Shown("Accountant's").empty() && Shown("Employee Phone Book").empty());
-}
-
-TEST_F(ReportsPageTest, SelectsAllAndNoneByKeyboard)
-{
-    Choose("Timecard");
-    auto& list = Find<QListView>("lstEmployees");
-    page->show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(page.get()));
-    list.setFocus();
-    QTest::keyClick(&list, Qt::Key_A, Qt::ControlModifier);
-    EXPECT_EQ(Selected(), 3);
-    QTest::keyClick(&list, Qt::Key_A, Qt::ControlModifier | Qt::ShiftModifier);
-    EXPECT_EQ(Selected(), 0);
+    EXPECT_NE(Log().find("Employee Phone Book: The report was not written: error 503"), std::string::npos);
+    EXPECT_TRUE(Shown("Employee Phone Book").empty());
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 // The viewer windows of the reports, driven as a user drives them.
 #include "reports/ReportFixture.h"
 #include "support/Hardship.h"
-#include "ui/dialogs/FReportViewers.h"
+#include "ui/dialogs/QtViewerFactory.h"
 
 #include <QtTest>
 #include <QtWidgets>
@@ -19,10 +19,9 @@ protected:
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 
-    template <typename AnyReport>
-    std::shared_ptr<AnyReport> NewShown()
+    std::shared_ptr<Report> NewShown(ReportKind kind)
     {
-        auto made = std::make_shared<AnyReport>(ReportContext{folder.Path(), desktop, clock, windows, factory, &window});
+        auto made = EntryOf(kind).make({folder.Path(), desktop, clock, windows, factory, &window});
         made->ParentWindow(&owner);
         return made;
     }
@@ -30,8 +29,8 @@ protected:
     // The records report of Ann and Zorn in its window.
     ReportViewerWindow& OpenRecords()
     {
-        report = NewShown<CReportEmployee>();
-        EXPECT_TRUE(report->GenerateReport(ListOf({ann, zorn})));
+        report = NewShown(ReportKind::Employee);
+        EXPECT_TRUE(report->Generate(Of({ann, zorn})));
         ReportViewerWindow& viewer = Window("FReportEmployee");
         EXPECT_TRUE(QTest::qWaitForWindowActive(&viewer));
         return viewer;
@@ -66,7 +65,7 @@ protected:
 
     QtViewerFactory windows{[this](const std::string& line) { logged.push_back(line); }};
     std::vector<std::string> logged;
-    std::shared_ptr<CReportEmployee> report;
+    std::shared_ptr<Report> report;
 };
 
 TEST_F(ReportViewersTest, ShowsTheReportFromItsTop)
@@ -94,13 +93,13 @@ TEST_F(ReportViewersTest, ClosingUnloadsTheReportOnce)
         QPointer<ReportViewerWindow> viewer = &OpenRecords();
         const std::weak_ptr<Report> watch = std::exchange(report, nullptr);
         EXPECT_FALSE(watch.expired()) << "the open viewer holds it";
-        owner.calls.clear();
+        owner.unloaded.clear();
         if (byKey) {
             QTest::keyClick(viewer, Qt::Key_Escape);
         } else {
             Click(*viewer, "cmdClose");
         }
-        EXPECT_EQ(owner.calls, std::vector<std::string>{"employees"});
+        EXPECT_EQ(owner.unloaded, std::vector<ReportKind>{ReportKind::Employee});
         EXPECT_TRUE(watch.expired());
         EXPECT_TRUE(Windows().empty());
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -124,9 +123,9 @@ TEST_F(ReportViewersTest, PrintingHidesTheViewerOnlyWhenItSucceeds)
     QTest::keyClick(&viewer, Qt::Key_P, Qt::ControlModifier);
     EXPECT_FALSE(viewer.isVisible());
     EXPECT_EQ(desktop.requests.size(), 3U);
-    EXPECT_TRUE(owner.calls.empty()) << "still loaded";
+    EXPECT_TRUE(owner.unloaded.empty()) << "still loaded";
     windows.ClosePrinted();
-    EXPECT_EQ(owner.calls, std::vector<std::string>{"employees"});
+    EXPECT_EQ(owner.unloaded, std::vector<ReportKind>{ReportKind::Employee});
 }
 
 TEST_F(ReportViewersTest, FindsText)
@@ -176,12 +175,11 @@ TEST_F(ReportViewersTest, ZoomsWithItsTabStops)
 TEST_F(ReportViewersTest, NoneStandsExactlyOnAnother)
 {
     AddShifts();
-    for (int i = 0; i < 3; ++i) {
-        EXPECT_TRUE(NewShown<CReportTimeCard>()->GenerateReport(database, ann, first, last));
+    for (const ReportEntry& entry : ReportCatalog()) {
+        EXPECT_TRUE(NewShown(entry.kind)->Generate(Of({ann})));
+        EXPECT_TRUE(Window(QString::fromUtf8(entry.viewer.data())).isVisible());
     }
-    EXPECT_TRUE(NewShown<CReportReview>()->GenerateReport(database, ListOf({ann}), first, last));
-    EXPECT_TRUE(NewShown<CReportYTDTotals>()->GenerateReport(database, ann, first, last));
-    EXPECT_TRUE(NewShown<CReportPhoneBook>()->GenerateReport(ListOf({ann})));
+    EXPECT_TRUE(NewShown(ReportKind::TimeCard)->Generate(Of({ann})));
     const auto shown = Windows();
     EXPECT_EQ(shown.size(), 6U);
     for (const auto* one : shown) {

@@ -191,13 +191,20 @@ TEST_F(TimeCardTest, TellsWhatTheFiguresMean)
     EXPECT_EQ(The<QLabel>("lblTCBreakTime").text(), "after 1:30 break time");
     const QModelIndex start = Grid().model()->index(1, 0);
     const QModelIndex end = start.siblingAtColumn(1);
-    EXPECT_EQ(start.data(Qt::ToolTipRole), "Thursday");
+    const QString found = "\nProblem: The shift that began on 03/06/2003 08:00 AM has no end and counts nothing."
+                          "\nProblem: The shift of 03/06/2003 08:00 AM starts in the future."
+                          "\nProblem: On 03/06/2003 the automatic deduction takes 0:45 hours off 0:00 hours worked.";
+    EXPECT_EQ(start.data(Qt::ToolTipRole), "Thursday" + found);
+    EXPECT_FALSE(start.data(Qt::DecorationRole).value<QIcon>().isNull());
+    EXPECT_TRUE(start.siblingAtRow(0).data(Qt::ToolTipRole) == "Wednesday") << "9 hours are none";
     EXPECT_EQ(end.data(), "12/30/1899 12:00 AM");
-    EXPECT_EQ(end.data(Qt::ToolTipRole), "still clocked in");
+    EXPECT_EQ(end.data(Qt::AccessibleDescriptionRole), "still clocked in" + found);
     EXPECT_FALSE(end.data(Qt::DecorationRole).value<QIcon>().isNull());
     Grid().setFocus();
     QTest::keyClick(&Grid(), Qt::Key_Tab);
-    EXPECT_EQ(QApplication::focusWidget()->objectName(), "cmdTCNew") << "figures are read, not filled in";
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget()->objectName(), "cmdTCNew") << "behind findings and hours; figures are read, not filled in";
 }
 
 TEST_F(TimeCardTest, AnEmployeeWhoWasSavedStaysChosenOnANewCard)

@@ -77,6 +77,31 @@ TEST(EmployeeTest, WritesTheHeadingsOfCardAndReview)
               "Phone Number: \t\r\nDate Of Birth: \r\n");
 }
 
+TEST(CompanyTest, WritesTheWholeRecordAndIsFoundByItsOwnKeys)
+{
+    CompanyRow row;
+    row.CompanyID = 4;
+    row.CompanyName = "Mill & Sons";
+    row.Address1 = "1 Mill Rd";
+    row.Address2 = "Rear";
+    row.City = "Salem";
+    row.State = "OR";
+    row.ZipCode = "97301";
+    row.Phone = "555-0100";
+    row.Fax = "555-0101";
+    row.FederalTaxID = "12-3456789";
+    row.URL = "mill.example";
+    CCompanyList list;
+    list.Insert(std::make_shared<CCompany>(CompanyRow{}), 1);
+    list.Insert(std::make_shared<CCompany>(row), 2);
+    EXPECT_EQ(list.GetCompanyByID(4), list.Item(2));
+    EXPECT_EQ(list.GetCompanyByName("Mill & Sons"), list.Item(2));
+    EXPECT_EQ(list.GetCompanyByID(5), nullptr);
+    EXPECT_EQ(list.Item(2)->ToString(),
+              "Company Name: \tMill & Sons\r\nAddress: \r\n\t1 Mill Rd\r\n\tRear\r\n\tSalem, OR. 97301\r\nPhone Number: \t\t555-0100\r\n"
+              "Fax Number: \t\t555-0101\r\nTax ID Number:   12-3456789\r\nWebsite URL: \tmill.example\r\n");
+}
+
 TEST(EmployeeTest, KnowsWhatHasToBeSaved)
 {
     CEmployee fresh;
@@ -145,12 +170,18 @@ TEST_F(StoredListTest, SavesEachEmployeeByItsStateAndLoadsThemInOrder)
     EXPECT_EQ(again.Item(1)->PayRate(), 12.3F);
     again.Item(1)->Phone("555-0199");
     again.Item(2)->ObjectState(state::Deleted);
+    again.Item(3)->Phone("555-0133");
     EXPECT_FALSE(again.SaveList()) << "employees are never deleted";
     EXPECT_EQ(again.Item(2)->ObjectState(), state::Unchanged);
     CEmployeeList third;
     ASSERT_TRUE(third.LoadList(database));
     EXPECT_EQ(third.Count(), 4);
     EXPECT_EQ(third.Item(1)->Phone(), "555-0199");
+    EXPECT_EQ(third.Item(3)->Phone(), "555-0133") << "one refused does not keep back those after it";
+    third.Item(1)->ObjectState(state::NothingToDo);
+    third.Item(2)->ObjectState(state::Unchanged);
+    EXPECT_TRUE(third.SaveList());
+    EXPECT_EQ(third.Item(1)->ObjectState(), state::NothingToDo) << "not touched";
 }
 
 TEST_F(StoredListTest, RefusesToSaveWhatIsUnchangedEachWithItsOwnNumber)
@@ -161,8 +192,12 @@ TEST_F(StoredListTest, RefusesToSaveWhatIsUnchangedEachWithItsOwnNumber)
     CCompany company(CompanyRow{});
     EXPECT_FALSE(company.Save(database));
     EXPECT_EQ(company.ErrorNumber(), 321);
+    employee.ObjectState(state::NothingToDo);
+    EXPECT_FALSE(employee.Save(database));
+    EXPECT_EQ(employee.ErrorNumber(), 803);
     employee.ObjectState(state::Deleted);
     EXPECT_FALSE(employee.Save(database));
+    EXPECT_EQ(employee.ErrorNumber(), 0) << "refused by the database, which is another matter";
     EXPECT_EQ(employee.ObjectState(), state::Unchanged);
 }
 
@@ -171,10 +206,6 @@ TEST_F(StoredListTest, LosesACompanysWebAddressOnLoading)
     CCompanyList list;
     const auto company = std::make_shared<CCompany>();
     company->CompanyName("Acme");
-    company->Address1("1 Mill Rd");
-    company->City("Salem");
-    company->State("OR");
-    company->ZipCode("97301");
     company->URL("https://acme.example");
     list.PTKDatabase(database);
     list.Insert(company, 1);
@@ -183,9 +214,7 @@ TEST_F(StoredListTest, LosesACompanysWebAddressOnLoading)
     ASSERT_TRUE(loaded.LoadList(database));
     ASSERT_NE(loaded.GetCompanyByName("Acme"), nullptr);
     EXPECT_EQ(loaded.GetCompanyByName("acme"), nullptr);
-    EXPECT_EQ(loaded.GetCompanyByID(1)->ToString(),
-              "Company Name: \tAcme\r\nAddress: \r\n\t1 Mill Rd\r\n\tSalem, OR. 97301\r\nPhone Number: \t\t\r\n"
-              "Fax Number: \t\t\r\nTax ID Number:   \r\nWebsite URL: \t\r\n");
+    EXPECT_EQ(loaded.GetCompanyByID(1)->URL(), "");
     ASSERT_TRUE(database->OpenDB());
     const auto rows = database->ExecuteSelect("SELECT URL FROM Company;");
     ASSERT_NE(rows, nullptr);
@@ -213,10 +242,15 @@ TEST(EmployeeListTest, FindsTheFirstExactMatch)
     for (const char* name : {"ann Lee", "Ann  Lee", "Ann Lee ", "Ann", "Lee", "", " Cher"}) {
         EXPECT_EQ(list.GetEmployeeByName(name), nullptr) << name;
     }
-    ann->SSN("9");
-    EXPECT_EQ(list.GetEmployeeBySSN("9"), ann);
+    const auto cher = list.Item(3);
+    cher->SSN("9");
+    cher->EmployeeNumber(5);
+    cher->EmployeeID(77);
+    EXPECT_EQ(list.GetEmployeeBySSN("9"), cher);
+    EXPECT_EQ(list.GetEmployeeByNumber(5), cher);
     EXPECT_EQ(list.GetEmployeeByNumber(0), ann);
-    EXPECT_EQ(list.GetEmployeeByID(77), nullptr);
+    EXPECT_EQ(list.GetEmployeeByID(77), cher);
+    EXPECT_EQ(list.GetEmployeeByID(78), nullptr);
 }
 
 TEST(EmployeeListTest, WeedsAndClonesAndMoves)

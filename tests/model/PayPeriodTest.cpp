@@ -42,6 +42,29 @@ TEST(PayPeriodTest, StepsWithoutOverlapOrGap)
     }
 }
 
+TEST(PayPeriodTest, OffersTheRunningHalfOfTheMonthAndTheYear)
+{
+    struct Case
+    {
+        DateTime today;
+        std::int16_t length;
+        DateTime from;
+        DateTime to;
+    };
+    for (const Case& c : {Case{DateTime({2003, 3, 1}), 14, DateTime({2003, 3, 1}), DateTime({2003, 3, 15})},
+                          Case{DateTime({2003, 3, 15}), 14, DateTime({2003, 3, 1}), DateTime({2003, 3, 15})},
+                          Case{DateTime({2003, 3, 16}), 14, DateTime({2003, 3, 15}), DateTime({2003, 3, 29})},
+                          Case{DateTime({2003, 12, 31}), 21, DateTime({2003, 12, 15}), DateTime({2004, 1, 5})},
+                          Case{DateTime({2004, 2, 29}), 15, DateTime({2004, 2, 15}), DateTime({2004, 3, 1})},
+                          Case{DateTime({2003, 3, 2}, {13, 0, 0}), 0, DateTime({2003, 3, 1}), DateTime({2003, 3, 1})}}) {
+        const PayPeriod period = DefaultPayPeriod(c.today, c.length);
+        EXPECT_EQ(period.from, c.from) << c.today.DayNumber();
+        EXPECT_EQ(period.to, c.to) << c.today.DayNumber();
+    }
+    EXPECT_EQ(YearToDate(DateTime({2003, 3, 20}, {9, 0, 0})).from, DateTime({2003, 1, 1}));
+    EXPECT_EQ(YearToDate(DateTime({2003, 3, 20}, {9, 0, 0})).to, DateTime({2003, 3, 20}));
+}
+
 TEST(PayPeriodTest, CountsItsStepIn16Bits)
 {
     const DateTime from({2003, 3, 1});

@@ -59,6 +59,8 @@ TEST(TimeCalculatorTest, SplitsEachDayAtEightHours)
           Case{"the same on two days", {{At(3, 8), At(3, 13)}, {At(4, 14), At(4, 18)}}, 0, 0, 9, 0, 0, 90},
           Case{"breaks once a day", {{At(3, 8), At(3, 12)}, {At(3, 12), At(3, 16, 45)}}, 30, 15, 8, 0, 0.75F, 80},
           Case{"breaks each day", {{At(3, 8), At(3, 12)}, {At(4, 8), At(4, 12)}}, 30, 0, 7, 0, 1, 70},
+          Case{"a third of an hour each day", {{At(3, 8), At(3, 16)}, {At(4, 8), At(4, 16)}}, 20, 0, 15.333333F, 0, 0.6666667F, 153.33333F},
+          Case{"20 and 10 minutes", {{At(3, 8), At(3, 15, 50)}}, 20, 10, 7.3333335F, 0, 0.5F, 73.333336F},
           Case{"less than the break", {{At(3, 8), At(3, 8, 30)}}, 60, 0, -0.5F, 0, 1, 0},
           Case{"negative in sum pays no overtime either", {{At(3, 8), At(3, 8, 30)}, {At(4, 0), At(4, 18)}}, 600, 0, -1.5F, 0, 20, 0},
           Case{"past midnight belongs to its first day", {{At(3, 22), At(4, 7)}, {At(4, 8), At(4, 9)}}, 0, 0, 9, 1, 0, 105},
@@ -79,7 +81,22 @@ TEST(TimeCalculatorTest, SplitsEachDayAtEightHours)
         EXPECT_EQ(calculator.TotalBreakTime(), c.breaks);
         EXPECT_EQ(calculator.CalculatePay(10, 15), c.pay);
         EXPECT_EQ(calculator.TotalPay(), c.pay);
+        EXPECT_EQ(calculator.RegularPay() + calculator.OvertimePay(), c.pay);
     }
+}
+
+TEST(TimeCalculatorTest, PaysRegularHoursAndOvertimeAtTheirOwnRates)
+{
+    CTimeRecordList list;
+    const auto record = std::make_shared<CTimeRecord>();
+    record->StartTime(At(3, 8));
+    record->EndTime(At(3, 17, 30));
+    list.Insert(record, 1);
+    CTimeCalculator calculator;
+    ASSERT_TRUE(calculator.CalculateTimes(*Employee(1, false, 0, 0), list));
+    EXPECT_EQ(calculator.CalculatePay(12, 20), 126);
+    EXPECT_EQ(calculator.RegularPay(), 96) << "8 hours";
+    EXPECT_EQ(calculator.OvertimePay(), 30) << "1.5 hours";
 }
 
 TEST(TimeCalculatorTest, AddsUpInSinglesAndRefusesWhatIsTooMuch)
@@ -191,6 +208,22 @@ TEST_F(TimeCardTest, TakesShiftsWhollyWithinThePeriodAndOpenOnes)
     EXPECT_EQ(card.RegularHoursWorked(), 16);
 }
 
+TEST_F(TimeCardTest, AnswersItsLinesAsTheyStood)
+{
+    EXPECT_TRUE(card.Lines().empty());
+    Add(7, At(3, 9), At(3, 8));
+    Add(7, At(4, 8), {});
+    ASSERT_TRUE(card.GenerateTimecard(Employee(7, false, 0, 0), At(3, 0), At(5, 0)));
+    const std::vector<CardLine> lines = card.Lines();
+    ASSERT_EQ(lines.size(), 2U);
+    EXPECT_EQ(lines[0].record, card.TimeRecordList()->Item(1));
+    lines[0].record->StartTime(At(3, 7));
+    EXPECT_EQ(lines[0].StartText() + '|' + lines[0].EndText() + '|' + lines[0].HoursText(0.5F),
+              "03/03/2003 09:00 AM|03/03/2003 08:00 AM|-1.50");
+    lines[1].record->EnforceFormat(false);
+    EXPECT_EQ(lines[1].StartText() + '|' + lines[1].EndText() + '|' + lines[1].HoursText(), "3/4/2003 8:00:00 AM|12:00:00 AM|0.00");
+}
+
 TEST_F(TimeCardTest, SaysWhyThereIsNone)
 {
     const auto employee = Employee(7, false, 0, 0);
@@ -213,6 +246,24 @@ TEST_F(TimeCardTest, SaysWhyThereIsNone)
     EXPECT_FALSE(card.GenerateTimecard(employee, At(3, 0), At(4, 0)));
     EXPECT_EQ(card.ErrorNumber(), 605) << "a file that cannot be opened yields an empty list";
     EXPECT_EQ(card.LastFailure().Description(), "the database is in use by another program");
+}
+
+TEST_F(TimeCardTest, MoreRecordsThanItsNumbersHoldPayNothing)
+{
+    const auto employee = Employee(7, false, 0, 0);
+    Add(7, At(3, 8), At(3, 12));
+    ASSERT_TRUE(card.GenerateTimecard(employee, At(3, 0), At(4, 0)));
+    EXPECT_FALSE(database->DatabaseOpen()) << "read, and given to others";
+    ASSERT_TRUE(database->ExecuteAction("INSERT INTO TimeRecord (EmployeeID, StartTime, EndTime) SELECT 7, #3/3/2003 13:00:00#, "
+                                        "#3/3/2003 13:01:00# FROM (WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n "
+                                        "WHERE i < 32767) SELECT i FROM n)"));
+    EXPECT_FALSE(card.GenerateTimecard(employee, At(3, 0), At(4, 0)));
+    EXPECT_EQ(card.TimeRecordList()->Count(), 32768);
+    EXPECT_EQ(card.RegularHoursWorked(), 0);
+    ASSERT_TRUE(database->ExecuteAction("DELETE FROM TimeRecord WHERE TimeRecordID = 2"));
+    EXPECT_TRUE(card.GenerateTimecard(employee, At(3, 0), At(4, 0)));
+    EXPECT_EQ(card.ErrorNumber(), 0);
+    EXPECT_EQ(card.RegularHoursWorked(), 8);
 }
 
 TEST_F(TimeCardTest, SharesOneListBetweenAllCards)

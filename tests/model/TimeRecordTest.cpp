@@ -134,10 +134,22 @@ TEST(TimeRecordListSorterTest, KeepsAnOrderedListAndLosesWhatIsOutOfOrder)
     list->AddNew(late);
     EXPECT_FALSE(sorter.Sort(1)) << "its positions are 16-bit numbers";
     EXPECT_EQ(sorter.ErrorNumber(), 314);
+    list->Remove(1);
+    EXPECT_TRUE(sorter.Sort(1));
+    EXPECT_EQ(sorter.ErrorNumber(), 0);
     CTimeRecordListSorter none;
     EXPECT_FALSE(none.Sort(1));
     EXPECT_EQ(none.Find(early), -1);
     EXPECT_EQ(none.ErrorNumber(), 341);
+}
+
+TEST(TimeRecordListSorterTest, TellsOpenRecordsApartByTheirStart)
+{
+    const auto list = std::make_shared<CTimeRecordList>();
+    const auto open = Shift(At(7, 8), {});
+    list->Insert(Shift(At(6, 8), {}), 1);
+    list->Insert(open, 2);
+    EXPECT_EQ(CTimeRecordListSorter(list).GetTimeRecordByKey(At(7, 8), {}), open);
 }
 
 TEST(DateRangeTest, AcceptsWithANumberWhatIsReversedOrOutOfLimits)
@@ -150,13 +162,14 @@ TEST(DateRangeTest, AcceptsWithANumberWhatIsReversedOrOutOfLimits)
         std::int32_t code;
         std::int32_t days;
     };
+    CDateRange range; // one for all: no answer leaves anything behind for the next
     for (const Case& c :
          {Case{"a week", "3/3/2003", "3/9/2003", true, 0, 6}, Case{"one day", "3/3/2003", DateTime({2003, 3, 3}, {23, 0, 0}), true, 0, 0},
           Case{"the limits", "1/1/1900", "12/31/2100", true, 0, 73413}, Case{"too early", "12/31/1899", "1/1/1900", true, 803, 1},
           Case{"too late", "1/1/2100", "1/1/2101", true, 803, 365}, Case{"reversed", "3/9/2003", "3/3/2003", true, 802, -6},
-          Case{"no date", "abc", "3/3/2003", false, 899, -1}, Case{"null", Value(), "3/3/2003", false, 899, -1}}) {
+          Case{"no date", "abc", "3/3/2003", false, 899, -1}, Case{"null", Value(), "3/3/2003", false, 899, -1},
+          Case{"a day, after what was no date", "3/3/2003", "3/4/2003", true, 0, 1}}) {
         SCOPED_TRACE(c.name);
-        CDateRange range;
         EXPECT_EQ(range.ValidateRange(c.start, c.end), c.valid);
         EXPECT_EQ(range.ValidRange(), c.valid);
         EXPECT_EQ(range.ErrorNumber(), c.code);

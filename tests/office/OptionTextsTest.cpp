@@ -62,6 +62,21 @@ TEST(PeriodExampleTest, CountsTheDayThatALengthDoesNotSay)
     }
 }
 
+TEST(LimitTextsTest, TakeWholeHoursOfAUsualShift)
+{
+    const LimitTexts shown = ShowLimits({12, 1, false});
+    EXPECT_EQ(shown, (LimitTexts{"12", 1, false}));
+    const auto read = ReadLimits(shown);
+    ASSERT_TRUE(read);
+    EXPECT_EQ(ShowLimits(*read), shown);
+    EXPECT_EQ(LimitRefusal(shown), "");
+    for (const char* hours : {"", "0", "1000", "-3", "8.5", "long", "99999999999"}) {
+        EXPECT_FALSE(ReadLimits({hours, 0, true})) << hours;
+        EXPECT_EQ(LimitRefusal({hours, 0, true}), "The longest usual shift is a whole number of hours from 1 to 999") << hours;
+    }
+    EXPECT_TRUE(ReadLimits({"1", 6, true}) && ReadLimits({"999", 0, true}));
+}
+
 } // namespace
 
 } // namespace ptk

@@ -5,6 +5,7 @@
 #include "model/CTimeRecordFactory.h"
 #include "model/FindingText.h"
 #include "office/CheckedTimecard.h"
+#include "office/OverviewReading.h"
 #include "office/OverviewTexts.h"
 #include "platform/Text.h"
 #include "store/BulkWriter.h"
@@ -12,6 +13,7 @@
 #include "store/DatabaseCreator.h"
 #include "store/engine/Engine.h"
 #include "store/engine/Statement.h"
+#include "support/Failures.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -96,6 +98,30 @@ TEST_F(OverviewTest, StopsWhenItIsToldToAndLetsTheFileGo)
     EXPECT_FALSE(ReadOverview(overview, m_database, OfferedEmployees(*m_employees), afterOne));
     EXPECT_EQ(overview.rows.size(), 2U);
     EXPECT_NO_THROW(Add("NULL", "NULL", 43));
+}
+
+TEST_F(OverviewTest, ReadsOnInStepsBetweenWhichTheFileIsFree)
+{
+    ASSERT_TRUE(SaveCheckLimits(m_database, {4, 1, false}));
+    OverviewReading reading(m_database, OfferedEmployees(*m_employees), kPeriod, kNow);
+    EXPECT_FALSE(reading.IsDone());
+    reading.ReadOn([] { return false; });
+    EXPECT_EQ(reading.Result().rows.size(), 1U) << "at least one";
+    EXPECT_EQ(reading.Result().limits.firstWeekday, 1);
+    Add("'2026-03-04 08:00:00'", "'2026-03-04 09:00:00'", 41);
+    reading.ReadOn([&] { return reading.Result().rows.size() < 3; });
+    EXPECT_FALSE(reading.IsDone());
+    reading.ReadOn([] { return true; });
+    ASSERT_TRUE(reading.IsDone());
+    EXPECT_EQ(reading.Result().rows.at(2).figures->regular, "5.33");
+    OverviewReading nobody(m_database, {}, kPeriod, kNow);
+    EXPECT_TRUE(nobody.IsDone());
+    CJetDB holder(m_folder.Path());
+    holder.DatabaseName(Path());
+    ASSERT_TRUE(holder.OpenDB());
+    OverviewReading held(m_database, OfferedEmployees(*m_employees), kPeriod, kNow);
+    EXPECT_EQ(FailureOf([&] { held.ReadOn([] { return true; }); }), 5);
+    EXPECT_TRUE(held.Result().rows.empty());
 }
 
 TEST_F(OverviewTest, ChecksAlsoACardThatCannotBeGenerated)

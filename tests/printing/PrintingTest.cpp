@@ -86,10 +86,9 @@ std::vector<std::string> SeenLines(const std::string& text)
 class PrintingTest : public ReportTest
 {
 protected:
-    template <typename AnyReport>
-    std::shared_ptr<AnyReport> NewPrintable()
+    std::shared_ptr<Report> NewPrintable(ReportKind kind)
     {
-        return std::make_shared<AnyReport>(ReportContext{folder.Path(), printer, clock, viewers, factory, &window});
+        return EntryOf(kind).make({folder.Path(), printer, clock, viewers, factory, &window});
     }
 
     static std::set<std::filesystem::path> Printouts()
@@ -135,14 +134,14 @@ TEST_F(PrintingTest, APrintedReportHoldsItsLinesUncutAndAligned)
 
     AddShifts();
     ann->EmployeeNumber(getpid()); // the file's name must not meet a printout of someone else
-    const auto card = NewPrintable<CReportTimeCard>();
-    ASSERT_TRUE(card->GenerateReport(database, ann, first, last));
+    const auto card = NewPrintable(ReportKind::TimeCard);
+    ASSERT_TRUE(card->Generate(Of({ann})));
     EXPECT_EQ(SeenLines(PrintedText(*card)), SeenLines(Golden("time_card.txt")));
 
     ann->Address1(std::string(31, 'W') + "!"); // a right column that reaches character 72
     zorn->Address1(std::string(50, 'M') + "!");
-    const auto book = NewPrintable<CReportPhoneBook>();
-    ASSERT_TRUE(book->GenerateReport(ListOf({jose, ann, ann, zorn})));
+    const auto book = NewPrintable(ReportKind::PhoneBook);
+    ASSERT_TRUE(book->Generate(Of({jose, ann, ann, zorn})));
     EXPECT_EQ(SeenLines(PrintedText(*book)), SeenLines(viewers.made.back()->text));
     EXPECT_TRUE(printer.boxes.empty());
 }
@@ -150,8 +149,8 @@ TEST_F(PrintingTest, APrintedReportHoldsItsLinesUncutAndAligned)
 TEST_F(PrintingTest, WithoutASchedulerItFailsSoonAndQuietly)
 {
     setenv("CUPS_SERVER", (folder.Path() + "/nobody.sock").c_str(), 1);
-    const auto report = NewPrintable<CReportEmployee>();
-    ASSERT_TRUE(report->GenerateReport(ListOf({ann})));
+    const auto report = NewPrintable(ReportKind::Employee);
+    ASSERT_TRUE(report->Generate(Of({ann})));
     const auto started = std::chrono::steady_clock::now();
     EXPECT_FALSE(report->PrintReport());
     EXPECT_LT(std::chrono::steady_clock::now() - started, 10s);

@@ -1,80 +1,49 @@
-#include "reports/ReportCatalog.h"
-
-#include "model/CEmployee.h"
-#include "model/CEmployeeList.h"
-
-#include <gtest/gtest.h>
+// The table of reports word for word: users, scripts and other programs know reports by these names.
+#include "reports/ReportFixture.h"
 
 namespace ptk {
 
 namespace {
 
-std::shared_ptr<CEmployee> Employee(const std::string& firstName, const std::string& lastName, std::int32_t id)
+TEST_F(ReportTest, AreCalledAndOfferedAsEver)
 {
-    EmployeeRow row;
-    row.EmployeeID = id;
-    row.FirstName = firstName;
-    row.LastName = lastName;
-    return std::make_shared<CEmployee>(row);
-}
-
-std::vector<std::int32_t> Ids(CEmployeeList& list)
-{
-    std::vector<std::int32_t> ids;
-    for (std::int32_t i = 1; i <= list.Count(); ++i) {
-        ids.push_back(list.Item(i) == nullptr ? 0 : list.Item(i)->EmployeeID());
-    }
-    return ids;
-}
-
-TEST(ReportCatalogTest, FindsReportsByTheirExactNames)
-{
-    for (const ReportEntry& entry : ReportCatalog()) {
-        EXPECT_EQ(FindReport(entry.name), &entry);
+    using enum ReportWhom;
+    struct Case
+    {
+        ReportKind kind;
+        const char* caption;
+        const char* consoleName;
+        const char* title;
+        const char* viewer;
+        ReportWhom whom;
+        ReportDates dates;
+        bool tellsFailures;
+    };
+    const std::vector<Case> cases{
+        {ReportKind::TimeCard, "Timecard", "timecard", "Employee Time Card : ", "FReportTimeCard", Each, ReportDates::PayPeriod, true},
+        {ReportKind::Review, "Accountants Review", "review", "Accountant's Review : ", "FReportReview", Together, ReportDates::PayPeriod,
+         true},
+        {ReportKind::YTDTotals, "Year-To-Date Totals", "ytd", "Employee Year-To-Date Totals : ", "FReportYTDTotals", Each,
+         ReportDates::YearToDate, true},
+        {ReportKind::Employee, "Employee Records", "employees", "Employee Records", "FReportEmployee", Together, ReportDates::None, false},
+        {ReportKind::PhoneBook, "Phone Book", "phonebook", "Employee Phone Book", "FReportPhoneBook", Everyone, ReportDates::None, false}};
+    ASSERT_EQ(ReportCatalog().size(), cases.size());
+    for (std::size_t i = 0; i < cases.size(); ++i) {
+        const Case& c = cases[i];
+        const ReportEntry& entry = ReportCatalog()[i];
+        SCOPED_TRACE(c.caption);
+        EXPECT_EQ(FindReport(c.caption), &entry);
+        EXPECT_EQ(FindConsoleReport(c.consoleName), &entry);
+        EXPECT_EQ(&EntryOf(c.kind), &entry);
+        EXPECT_EQ(New(c.kind)->ReportName(), c.title) << "before it is generated";
+        EXPECT_EQ(entry.viewer, c.viewer);
+        EXPECT_EQ(entry.whom, c.whom);
+        EXPECT_EQ(entry.dates, c.dates);
+        EXPECT_EQ(entry.tellsFailures, c.tellsFailures);
     }
     for (const char* name : {"", "timecard", "Timecard ", "Phone", "Accountant's Review"}) {
         EXPECT_EQ(FindReport(name), nullptr) << name;
     }
-    EXPECT_EQ(FindReport("Phone Book")->kind, ReportKind::PhoneBook);
-    EXPECT_FALSE(FindReport("Phone Book")->needsEmployees);
-}
-
-TEST(ReportCatalogTest, OffersTheRunningHalfOfTheMonth)
-{
-    struct Case
-    {
-        DateTime today;
-        std::int16_t length;
-        DateTime from;
-        DateTime to;
-    };
-    for (const Case& c : {Case{DateTime({2003, 3, 1}), 14, DateTime({2003, 3, 1}), DateTime({2003, 3, 15})},
-                          Case{DateTime({2003, 3, 15}), 14, DateTime({2003, 3, 1}), DateTime({2003, 3, 15})},
-                          Case{DateTime({2003, 3, 16}), 14, DateTime({2003, 3, 15}), DateTime({2003, 3, 29})},
-                          Case{DateTime({2003, 12, 31}), 21, DateTime({2003, 12, 15}), DateTime({2004, 1, 5})},
-                          Case{DateTime({2004, 2, 29}), 15, DateTime({2004, 2, 15}), DateTime({2004, 3, 1})},
-                          Case{DateTime({2003, 3, 2}, {13, 0, 0}), 0, DateTime({2003, 3, 1}), DateTime({2003, 3, 1})}}) {
-        const ReportPeriod period = DefaultPayPeriod(c.today, c.length);
-        EXPECT_EQ(period.from, c.from) << c.today.DayNumber();
-        EXPECT_EQ(period.to, c.to) << c.today.DayNumber();
-    }
-    EXPECT_EQ(YearToDate(DateTime({2003, 3, 20}, {9, 0, 0})).from, DateTime({2003, 1, 1}));
-    EXPECT_EQ(YearToDate(DateTime({2003, 3, 20}, {9, 0, 0})).to, DateTime({2003, 3, 20}));
-}
-
-TEST(ReportCatalogTest, LooksEmployeesUpByDisplayName)
-{
-    CEmployeeList all;
-    for (const auto& employee :
-         {Employee("Ann", "Lee", 1), Employee("", "Zorn", 2), Employee("Ann", "Lee", 3), Employee("", "Administrator", 39),
-          Employee("Admin", "ISTRATORs", 40), Employee("System administrator", "Bo", 41)}) {
-        all.Insert(employee, all.Count() + 1);
-    }
-    const std::vector<std::string> names{
-        "Zorn", "Ann Lee", "ann lee", "Administrator", "Ann Lee", "Admin ISTRATORs", "System administrator Bo"};
-    EXPECT_EQ(Ids(*EmployeesByName(all, names)), (std::vector<std::int32_t>{2, 1, 0, 39, 1, 40, 41}));
-    EXPECT_EQ(Ids(*PhoneBookEmployees(all, names)), (std::vector<std::int32_t>{2, 1, 1}));
-    EXPECT_EQ(EmployeesByName(all, {})->Count(), 0);
 }
 
 } // namespace

@@ -1,105 +1,144 @@
-// What the five reports write, byte by byte: the golden files were written by hand.
+// What the five reports say, as text and as data: the golden files and the tables were written by hand.
 #include "reports/ReportFixture.h"
 
 #include "model/CTimeCard.h"
+#include "platform/Text.h"
+#include "reports/CReportTimeCard.h"
+
+#include <array>
 
 namespace ptk {
 
 namespace {
 
+const std::string kRule = std::string(72, '-') + "\r\n";
+// By the order of CellType.
+bool IsOf(CellType type, const Value& cell)
+{
+    constexpr std::array kAlternatives{7, 3, 4, 4, 6, 6, 1};
+    return cell.IsNull() || static_cast<int>(cell.Get().index()) == kAlternatives.at(static_cast<std::size_t>(type));
+}
+
+// The groups' lines, one at the foot marked; the columns; the rows, money with two decimals: "9 1 8f", "Name|Rate", "Ann|10.50", "Bo|-".
+std::string DataOf(const ReportDocument& document)
+{
+    std::string text;
+    for (const LineGroup& group : document.groups) {
+        text += (text.empty() ? "" : " ") + std::to_string(group.lines) + (group.atFoot ? "f" : "");
+    }
+    char before = '\n';
+    for (const ReportColumn& column : document.table.columns) {
+        text += std::exchange(before, '|') + std::string(column.name);
+    }
+    for (const ReportRow& row : document.table.rows) {
+        EXPECT_EQ(row.size(), document.table.columns.size());
+        before = '\n';
+        for (std::size_t i = 0; i < row.size(); ++i) {
+            const CellType type = document.table.columns[i].type;
+            EXPECT_TRUE(IsOf(type, row[i])) << document.table.columns[i].name;
+            text += std::exchange(before, '|');
+            text += row[i].IsNull() ? "-" : type == CellType::Money ? TwoDecimals(row[i].ToSingle()) : row[i].ToText();
+        }
+    }
+    return text + "\n";
+}
+
 class ReportContentsTest : public ReportTest
 {
 protected:
-    // The file, the viewer and the golden text are the same bytes, and the viewer was handed over whole.
+    // The file, the last viewer and the golden text are the same bytes, and the viewer was handed over whole.
     void ExpectWritten(const Report& report, const std::string& file, const std::string& golden)
     {
-        EXPECT_EQ(FileBytes(File(file)), Golden(golden));
-        ASSERT_EQ(viewers.made.size(), 1U);
-        const RememberingViewer& viewer = *viewers.made.front();
-        EXPECT_EQ(viewer.text, Golden(golden));
+        const std::string text = Golden(golden + ".txt");
+        EXPECT_EQ(ReadBytes(File(file)), text);
+        EXPECT_EQ(report.ReportPath(), folder.Path() + "\\reports\\" + file);
+        EXPECT_EQ(report.ReportName() + "\r\n", text.substr(0, text.find('\n') + 1));
+        const RememberingViewer& viewer = *viewers.made.back();
+        EXPECT_EQ(viewer.text, text);
         EXPECT_EQ(viewer.caption, report.ReportName());
         EXPECT_EQ(viewer.controller.get(), &report);
         EXPECT_TRUE(viewer.shown);
-        EXPECT_EQ(report.ReportPath(), folder.Path() + "\\reports\\" + file);
+        EXPECT_EQ(DataOf(report.Document()), Golden(golden + ".table"));
+    }
+
+    std::shared_ptr<CTimeCard> Card(const std::shared_ptr<CEmployee>& employee, DateTime from, DateTime to)
+    {
+        auto card = std::make_shared<CTimeCard>(factory);
+        card->PTKDatabase(database);
+        EXPECT_TRUE(card->GenerateTimecard(employee, from, to));
+        return card;
     }
 };
 
-TEST_F(ReportContentsTest, TimeCard)
+TEST_F(ReportContentsTest, SayWhatTheyAlwaysSaid)
 {
+    struct Case
+    {
+        ReportKind kind;
+        ReportRequest request;
+        std::int32_t error;
+        const char* file;
+        const char* golden;
+    };
     AddShifts();
-    const auto report = New<CReportTimeCard>();
-    EXPECT_TRUE(report->GenerateReport(database, ann, first, last));
-    EXPECT_EQ(report->ErrorNumber(), 0);
-    EXPECT_EQ(report->ReportName(), "Employee Time Card : Ann Lee : 1/1/2003 - 1/15/2003");
-    ASSERT_NE(report->TimeCard(), nullptr);
-    EXPECT_EQ(report->TimeCard()->EndDate(), DateTime({2003, 1, 17}));
-    ExpectWritten(*report, "5_0101_0116_2003_time_card.txt", "time_card.txt");
+    const auto longName = Named(9, "Maxim", "Featherstonehaugh-Cholmondeley-Marjori");
+    ReportRequest year = Of({ann});
+    year.to = clock.Today();
+    for (const Case& c : {Case{ReportKind::TimeCard, Of({ann}), 0, "5_0101_0116_2003_time_card.txt", "time_card"},
+                          Case{ReportKind::TimeCard, Of({jose}), 605, "8_0101_0116_2003_time_card.txt", "time_card_empty"},
+                          Case{ReportKind::Review, Of({ann, jose, zorn}), 710, "salary_review_0101_0116_2003.txt", "review"},
+                          Case{ReportKind::YTDTotals, year, 0, "5_0101_0320_2003_ytd_totals.txt", "ytd_totals"},
+                          Case{ReportKind::Employee, Of({ann, zorn}), 0, "employee_records.txt", "employee_records"},
+                          Case{ReportKind::PhoneBook, Of({ann, zorn, longName, ann, jose}), 0, "phone_book.txt", "phone_book"}}) {
+        SCOPED_TRACE(c.golden);
+        const auto report = New(c.kind);
+        EXPECT_EQ(report->Generate(c.request), c.error == 0);
+        EXPECT_EQ(report->ErrorNumber(), c.error);
+        EXPECT_EQ(report->Document().Code(), c.error);
+        ExpectWritten(*report, c.file, c.golden);
+    }
 }
 
-TEST_F(ReportContentsTest, TimeCardAlreadyOnScreen)
+TEST_F(ReportContentsTest, ATimeCardAlreadyOnScreenIsWrittenAsItStands)
 {
     AddShifts();
-    const auto card = std::make_shared<CTimeCard>(factory);
-    card->PTKDatabase(database);
-    ASSERT_TRUE(card->GenerateTimecard(ann, first, DateTime({2003, 1, 16}, {23, 0, 0})));
-    const auto report = New<CReportTimeCard>();
+    const auto report = std::make_shared<CReportTimeCard>(Context());
+    const auto card = Card(ann, first, DateTime({2003, 1, 16}, {23, 0, 0}));
     EXPECT_TRUE(report->WriteTimeCardReport(card));
     EXPECT_EQ(report->TimeCard(), card);
-    ExpectWritten(*report, "5_0101_0116_2003_time_card.txt", "time_card.txt");
+    ExpectWritten(*report, "5_0101_0116_2003_time_card.txt", "time_card");
+
+    EXPECT_TRUE(report->WriteTimeCardReport(Card(zorn, first, last)));
+    EXPECT_TRUE(DataOf(report->Document()).starts_with("17 8f\n")) << "one shift stays with its total";
+
+    EXPECT_TRUE(report->GenerateReport(database, ann, first, last));
+    EXPECT_EQ(report->TimeCard()->EndDate(), DateTime({2003, 1, 17}));
 }
 
-TEST_F(ReportContentsTest, TimeCardWithoutShiftsKeepsTheFormOnly)
+TEST_F(ReportContentsTest, OpenAndBackwardShiftsAreDataAsOnPaper)
 {
-    const auto report = New<CReportTimeCard>();
-    EXPECT_FALSE(report->GenerateReport(database, jose, first, last));
-    EXPECT_EQ(report->ErrorNumber(), 605);
-    ExpectWritten(*report, "8_0101_0116_2003_time_card.txt", "time_card_empty.txt");
-}
-
-TEST_F(ReportContentsTest, ReviewLeavesOutWhoHasNoCard)
-{
-    AddShifts();
-    const auto report = New<CReportReview>();
-    EXPECT_FALSE(report->GenerateReport(database, ListOf({ann, jose, zorn}), first, last));
-    EXPECT_EQ(report->ErrorNumber(), 710);
-    ExpectWritten(*report, "salary_review_0101_0116_2003.txt", "review.txt");
-}
-
-TEST_F(ReportContentsTest, YearToDateTotals)
-{
-    AddShifts();
-    const auto report = New<CReportYTDTotals>();
-    EXPECT_TRUE(report->GenerateReport(database, ann, first, clock.Today()));
-    EXPECT_EQ(report->ErrorNumber(), 0);
-    ExpectWritten(*report, "5_0101_0320_2003_ytd_totals.txt", "ytd_totals.txt");
-}
-
-TEST_F(ReportContentsTest, EmployeeRecords)
-{
-    const auto report = New<CReportEmployee>();
-    EXPECT_TRUE(report->GenerateReport(ListOf({ann, zorn})));
-    ExpectWritten(*report, "employee_records.txt", "employee_records.txt");
-}
-
-TEST_F(ReportContentsTest, PhoneBook)
-{
-    const auto report = New<CReportPhoneBook>();
-    const auto longName = Named(9, "Maxim", "Featherstonehaugh-Cholmondeley-Marjori");
-    EXPECT_TRUE(report->GenerateReport(ListOf({ann, zorn, longName, ann, jose})));
-    ExpectWritten(*report, "phone_book.txt", "phone_book.txt");
+    AddShift(*jose, DateTime({2003, 1, 2}, {8, 0, 0}), DateTime());
+    AddShift(*jose, DateTime({2003, 1, 3}, {8, 0, 0}), DateTime({2003, 1, 3}, {6, 30, 0}));
+    const auto report = New(ReportKind::TimeCard);
+    EXPECT_TRUE(report->Generate(Of({jose})));
+    const std::string data = DataOf(report->Document());
+    EXPECT_EQ(data.substr(data.find("8|")),
+              "8|José|Ünsal|1/2/2003 8:00:00 AM|-|0\n8|José|Ünsal|1/3/2003 8:00:00 AM|1/3/2003 6:30:00 AM|-1.5\n");
 }
 
 TEST_F(ReportContentsTest, WithoutShiftsOrEmployeesTheHeaderRemains)
 {
-    const std::string rule = "------------------------------------------------------------------------\r\n";
-    EXPECT_FALSE(New<CReportYTDTotals>()->GenerateReport(database, jose, first, last));
-    EXPECT_EQ(viewers.made.back()->text, "Employee Year-To-Date Totals : José Ünsal : 1/1/2003 - 1/16/2003\r\n" + rule + "\r\n");
-    EXPECT_TRUE(New<CReportReview>()->GenerateReport(database, ListOf({}), first, last));
-    EXPECT_EQ(FileBytes(File("salary_review_0101_0116_2003.txt")), "Accountant's Review : 1/1/2003 - 1/16/2003\r\n" + rule + "\r\n");
-    EXPECT_TRUE(New<CReportEmployee>()->GenerateReport(ListOf({})));
-    EXPECT_EQ(FileBytes(File("employee_records.txt")), "Employee Records\r\n" + rule + "\r\n");
-    EXPECT_TRUE(New<CReportPhoneBook>()->GenerateReport(ListOf({})));
-    EXPECT_EQ(FileBytes(File("phone_book.txt")), "Employee Phone Book\r\n" + rule);
+    const auto written = [this](ReportKind kind, const std::vector<std::shared_ptr<CEmployee>>& employees) {
+        const auto report = New(kind);
+        EXPECT_EQ(report->Generate(Of(employees)), employees.empty());
+        EXPECT_TRUE(report->Document().table.rows.empty());
+        return ReadBytes(File(report->Document().fileName));
+    };
+    EXPECT_EQ(written(ReportKind::YTDTotals, {jose}),
+              "Employee Year-To-Date Totals : José Ünsal : 1/1/2003 - 1/16/2003\r\n" + kRule + "\r\n");
+    EXPECT_EQ(written(ReportKind::Review, {}), "Accountant's Review : 1/1/2003 - 1/16/2003\r\n" + kRule + "\r\n");
+    EXPECT_EQ(written(ReportKind::Employee, {}), "Employee Records\r\n" + kRule + "\r\n");
+    EXPECT_EQ(written(ReportKind::PhoneBook, {}), "Employee Phone Book\r\n" + kRule);
 }
 
 TEST_F(ReportContentsTest, NamesOfFilesAndTitles)
@@ -111,29 +150,29 @@ TEST_F(ReportContentsTest, NamesOfFilesAndTitles)
         std::int32_t number;
         DateTime from;
         DateTime to;
-        const char* cardFile;
+        const char* days;
         const char* cardTitle;
         const char* totalsTitle;
     };
-    const std::string card = "Employee Time Card : ";
-    const std::string totals = "Employee Year-To-Date Totals : ";
     for (const Case& c :
-         {Case{"Ann", "Lee", 5, DateTime({2003, 12, 16}), DateTime({2004, 1, 1}), "5_1216_0101_2003_time_card.txt",
-               "Ann Lee : 12/16/2003 - 12/31/2003", "Ann Lee : 12/16/2003 - 1/1/2004"},
-          Case{"", "Zorn", 17, DateTime({2003, 3, 1}), DateTime({2003, 3, 1}), "17_0301_0301_2003_time_card.txt",
-               " Zorn : 3/1/2003 - 2/28/2003", " Zorn : 3/1/2003 - 3/1/2003"},
-          Case{"../..", "a\\b:c?\n", -1, DateTime({1899, 12, 31}), DateTime({2150, 10, 9}, {23, 0, 0}), "-1_1231_1009_1899_time_card.txt",
+         {Case{"Ann", "Lee", 5, DateTime({2003, 12, 16}), DateTime({2004, 1, 1}), "5_1216_0101_2003_", "Ann Lee : 12/16/2003 - 12/31/2003",
+               "Ann Lee : 12/16/2003 - 1/1/2004"},
+          Case{"", "Zorn", 17, DateTime({2003, 3, 1}), DateTime({2003, 3, 1}), "17_0301_0301_2003_", " Zorn : 3/1/2003 - 2/28/2003",
+               " Zorn : 3/1/2003 - 3/1/2003"},
+          Case{"../..", "a\\b:c?\n", -1, DateTime({1899, 12, 31}), DateTime({2150, 10, 9}, {23, 0, 0}), "-1_1231_1009_1899_",
                "../.. a\\b:c?\n : 12/31/1899 - 10/8/2150", "../.. a\\b:c?\n : 12/31/1899 - 10/9/2150"},
-          Case{"B", "C", 2147483647, DateTime({2004, 3, 1}), DateTime({2004, 1, 1}), "2147483647_0301_0101_2004_time_card.txt",
+          Case{"B", "C", 2147483647, DateTime({2004, 3, 1}), DateTime({2004, 1, 1}), "2147483647_0301_0101_2004_",
                "B C : 3/1/2004 - 12/31/2003", "B C : 3/1/2004 - 1/1/2004"}}) {
-        const auto employee = Named(c.number, c.firstName, c.lastName);
-        const auto timeCard = New<CReportTimeCard>();
-        timeCard->GenerateReport(database, employee, c.from, c.to);
-        EXPECT_EQ(timeCard->ReportName(), card + c.cardTitle);
-        EXPECT_TRUE(std::filesystem::is_regular_file(File(c.cardFile))) << c.cardFile;
-        const auto ytd = New<CReportYTDTotals>();
-        ytd->GenerateReport(database, employee, c.from, c.to);
-        EXPECT_EQ(ytd->ReportName(), totals + c.totalsTitle);
+        const ReportRequest request{database, Named(c.number, c.firstName, c.lastName), nullptr, c.from, c.to};
+        const auto card = New(ReportKind::TimeCard);
+        const auto totals = New(ReportKind::YTDTotals);
+        card->Generate(request);
+        totals->Generate(request);
+        EXPECT_EQ(card->ReportName(), std::string("Employee Time Card : ") + c.cardTitle);
+        EXPECT_EQ(totals->ReportName(), std::string("Employee Year-To-Date Totals : ") + c.totalsTitle);
+        for (const char* ending : {"time_card.txt", "ytd_totals.txt"}) {
+            EXPECT_TRUE(std::filesystem::is_regular_file(File(std::string(c.days) + ending))) << c.days << ending;
+        }
     }
 }
 

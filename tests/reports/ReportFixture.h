@@ -4,14 +4,11 @@
 #include "model/CEmployee.h"
 #include "model/CEmployeeList.h"
 #include "model/CTimeRecordFactory.h"
-#include "reports/CReportEmployee.h"
-#include "reports/CReportPhoneBook.h"
-#include "reports/CReportReview.h"
-#include "reports/CReportTimeCard.h"
-#include "reports/CReportYTDTotals.h"
+#include "reports/Report.h"
 #include "store/CJetDB.h"
 #include "store/CTimeRecSQLConverter.h"
 #include "store/DatabaseCreator.h"
+#include "support/Files.h"
 #include "support/FixedClock.h"
 #include "support/RecordingDesktop.h"
 #include "support/Sources.h"
@@ -20,7 +17,6 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 #include <memory>
 #include <string>
 #include <vector>
@@ -34,11 +30,8 @@ public:
     void Caption(const std::string& value) override { caption = value; }
     bool WriteLine(const std::string& buffer) override
     {
-        if (loses) {
-            return false;
-        }
-        text += buffer + "\r\n";
-        return true;
+        text += loses ? "" : buffer + "\r\n";
+        return !loses;
     }
     void Show() override { shown = true; }
     void Hide() override { shown = false; }
@@ -90,28 +83,14 @@ public:
 class RememberingOwner final : public ReportOwner
 {
 public:
-    bool UnloadTimeCardReport() override { return Called("time card"); }
-    bool UnloadReviewReport() override { return Called("review"); }
-    bool UnloadYTDTotalsReport() override { return Called("year to date"); }
-    bool UnloadEmployeeReport() override { return Called("employees"); }
-    bool UnloadPhoneBookReport() override { return Called("phone book"); }
-
-    std::vector<std::string> calls;
-
-private:
-    bool Called(const char* what)
+    bool UnloadReport(ReportKind kind) override
     {
-        calls.emplace_back(what);
+        unloaded.push_back(kind);
         return false;
     }
-};
 
-inline std::string FileBytes(const std::filesystem::path& path)
-{
-    std::ifstream file(path, std::ios::binary);
-    EXPECT_TRUE(file.is_open()) << path;
-    return {std::istreambuf_iterator<char>(file), {}};
-}
+    std::vector<ReportKind> unloaded;
+};
 
 class ReportTest : public testing::Test
 {
@@ -130,12 +109,19 @@ protected:
         }
     }
 
-    template <typename AnyReport>
-    std::shared_ptr<AnyReport> New()
+    ReportContext Context() { return {folder.Path(), desktop, clock, viewers, factory, &window}; }
+
+    std::shared_ptr<Report> New(ReportKind kind)
     {
-        auto report = std::make_shared<AnyReport>(ReportContext{folder.Path(), desktop, clock, viewers, factory, &window});
+        auto report = EntryOf(kind).make(Context());
         report->ParentWindow(&owner);
         return report;
+    }
+
+    // Asked of any report: each takes its part.
+    ReportRequest Of(const std::vector<std::shared_ptr<CEmployee>>& employees) const
+    {
+        return {database, employees.empty() ? nullptr : employees.front(), ListOf(employees), first, last};
     }
 
     void AddShift(const CEmployee& employee, DateTime start, DateTime end)
@@ -169,6 +155,7 @@ protected:
         row.State = "IL";
         row.ZipCode = "62701";
         row.Phone = "555-0101";
+        row.Password = "secret";
         row.PayRate = 10;
         row.OvertimePayRate = 15;
         row.DateOfBirth = DateTime({1970, 2, 3});
@@ -215,8 +202,8 @@ protected:
         return list;
     }
 
-    std::filesystem::path File(const std::string& name) const { return std::filesystem::path(folder.Path()) / "reports" / name; }
-    static std::string Golden(const std::string& name) { return FileBytes(SourceFolder() + "/tests/reports/golden/" + name); }
+    std::string File(const std::string& name) const { return folder.Path() + "/reports/" + name; }
+    static std::string Golden(const std::string& name) { return ReadBytes(SourceFolder() + "/tests/reports/golden/" + name); }
 
     TemporaryFolder folder;
     RecordingDesktop desktop;

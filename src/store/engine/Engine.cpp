@@ -116,14 +116,6 @@ std::unique_ptr<Statement> Engine::PrepareStored(std::string_view query)
     return Prepare(StoredText(query));
 }
 
-// The line end closes a comment that may end the query; a semicolon may, too.
-std::unique_ptr<Statement> Engine::PrepareListed(std::string_view query, std::string_view column)
-{
-    std::string listing = StoredText(query);
-    listing.erase(listing.find_last_not_of("; \t\r\n") + 1);
-    return Prepare("SELECT * FROM (" + listing + "\n) WHERE " + std::string(column) + " = :key");
-}
-
 std::shared_ptr<RecordSet> Engine::Select(std::string_view statement)
 {
     return Prepare(TranslateStatement(statement))->ReadRows();
@@ -151,6 +143,16 @@ void Engine::ExecuteAll(std::span<const std::string> statements)
 std::shared_ptr<RecordSet> Engine::SelectStored(std::string_view query)
 {
     return PrepareStored(query)->ReadRows();
+}
+
+std::shared_ptr<RecordSet> Engine::SelectStored(std::string_view query, std::string_view condition, std::span<const Parameter> parameters)
+{
+    std::string text = StoredText(query);
+    text.erase(text.find_last_not_of(" \t\r\n;") + 1);
+    // On a line of its own, since the text may end in a comment.
+    const auto statement = Prepare("SELECT * FROM (" + text + "\n) WHERE " + std::string(condition));
+    statement->Bind(parameters);
+    return statement->ReadRows();
 }
 
 void Engine::RunStored(std::string_view query, std::span<const Parameter> parameters)

@@ -64,6 +64,8 @@ public:
 
     // Of the queries inside the file. A missing query raises 12, an unknown parameter or one without a value 25.
     std::shared_ptr<RecordSet> SelectStored(std::string_view query);
+    // Only the rows for which a condition in the engine's own words holds, in the query's order.
+    std::shared_ptr<RecordSet> SelectStored(std::string_view query, std::string_view condition, std::span<const Parameter> parameters);
     void ExecuteStored(std::string_view query, std::span<const Parameter> parameters); // on disk when it returns
 
     // The steps in one transaction, or nothing of them; on disk when it returns. What they change is in the edit trail as this author's,
@@ -84,7 +86,6 @@ public:
     // Commit only.
     std::unique_ptr<Statement> Prepare(std::string_view sql);
     std::unique_ptr<Statement> PrepareStored(std::string_view query);
-    std::unique_ptr<Statement> PrepareListed(std::string_view query, std::string_view column); // its rows whose column equals :key
     void BeginMany();
     void RunScript(const char* sql); // several statements in the engine's own words
     std::int64_t LastKey() const;    // of the row inserted last

@@ -159,6 +159,18 @@ CardName CardChoice::Chosen() const
     return {employee == nullptr ? std::string() : EmployeeText(), PeriodText()};
 }
 
+void CardChoice::Employee(std::int32_t employeeID)
+{
+    m_ui->cboTCEmployeeName->setCurrentIndex(m_ui->cboTCEmployeeName->findData(employeeID, kEmployeeIDRole));
+}
+
+std::optional<std::int32_t> CardChoice::EmployeeID() const
+{
+    const QComboBox& box = *m_ui->cboTCEmployeeName;
+    const QVariant id = box.currentData(kEmployeeIDRole);
+    return id.isValid() && box.currentText() == box.itemText(box.currentIndex()) ? std::optional(id.toInt()) : std::nullopt;
+}
+
 void CardChoice::SelectFirstEmployee()
 {
     m_ui->cboTCEmployeeName->setCurrentIndex(0);

@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <QWidget>
 #include <string>
 
@@ -32,8 +33,10 @@ public:
     ptk::PeriodTexts PeriodTexts() const; // as the boxes show it
     std::string PeriodText() const;       // both in one
 
-    std::string EmployeeText() const; // as it stands in the box
-    CardName Chosen() const;          // the employee is empty while the box holds nobody's name
+    std::string EmployeeText() const;               // as it stands in the box
+    CardName Chosen() const;                        // the employee is empty while the box holds nobody's name
+    void Employee(std::int32_t employeeID);         // chooses that row of the list, also of namesakes
+    std::optional<std::int32_t> EmployeeID() const; // of the row that the box holds; nothing for a typed text
     void SelectFirstEmployee();
     void FocusEmployee();
 

@@ -2,8 +2,8 @@
 
 #include "model/CEmployee.h"
 #include "model/CTimeCard.h"
-#include "model/CTimeRecordList.h"
 #include "office/CardTexts.h"
+#include "office/CheckedTimecard.h"
 #include "platform/Required.h"
 #include "platform/Text.h"
 #include "ui/pages/TimeRecordGridModel.h"
@@ -32,6 +32,7 @@ CardDisplay::CardDisplay(QWidget* parent)
     m_ui->txtTCPeriodPay->SetImportant();
     setFocusProxy(m_ui->grdTimeRecs);
     PrepareGrid();
+    ConnectFindings();
 }
 
 CardDisplay::~CardDisplay() = default;
@@ -57,16 +58,39 @@ void CardDisplay::PrepareGrid()
     connect(deleteKey, &QShortcut::activated, this, &CardDisplay::DeleteAsked);
 }
 
+void CardDisplay::ConnectFindings()
+{
+    connect(m_ui->findings, &CardFindings::RowWanted, this, &CardDisplay::ChooseRowOf);
+    connect(m_ui->findings, &CardFindings::RowEntered, this, [this](qint64 timeRecordID) {
+        ChooseRowOf(timeRecordID);
+        m_ui->grdTimeRecs->setFocus();
+    });
+    connect(m_ui->findings, &CardFindings::Elsewhere, this, &CardDisplay::Elsewhere);
+    connect(m_ui->findings, &CardFindings::ElsewhereEntered, this, &CardDisplay::ElsewhereEntered);
+}
+
+// Also where it is chosen already: the choice may have been forgotten elsewhere in the meantime.
+void CardDisplay::ChooseRowOf(qint64 timeRecordID)
+{
+    const int row = m_records->RowOf(timeRecordID);
+    if (row >= 0) {
+        m_ui->grdTimeRecs->setCurrentIndex(m_records->index(row, recordcolumn::Start));
+        emit RowChosen();
+    }
+}
+
 bool CardDisplay::SetupTimeRecordGrid()
 {
     m_records->Clear();
+    m_ui->findings->Show(nullptr);
     return true;
 }
 
 bool CardDisplay::DisplayTimeCard(const CTimeCard& card)
 {
     const auto employee = Required(card.Employee());
-    const bool filled = FillTimeRecordGrid(card.TimeRecordList());
+    Required(card.TimeRecordList());
+    const bool filled = FillTimeRecordGrid(card.Lines());
     m_ui->txtTCHours->setText(Figure(card.RegularHoursWorked()));
     m_ui->txtTCPayRate->setText(Figure(employee->PayRate()));
     m_ui->txtTCOvertimeHours->setText(Figure(card.OvertimeHoursWorked()));
@@ -76,9 +100,9 @@ bool CardDisplay::DisplayTimeCard(const CTimeCard& card)
     return filled;
 }
 
-bool CardDisplay::FillTimeRecordGrid(const std::shared_ptr<CTimeRecordList>& records)
+bool CardDisplay::FillTimeRecordGrid(std::vector<CardLine> lines)
 {
-    m_records->SetRecords(*Required(records));
+    m_records->SetLines(std::move(lines));
     return true;
 }
 
@@ -95,14 +119,41 @@ void CardDisplay::ClearFigures()
     m_ui->lblTCBreakTime->clear();
 }
 
+void CardDisplay::ShowCheck(const std::shared_ptr<const CheckedTimecard>& checked)
+{
+    m_records->SetMarks(checked->check ? MarksOf(*checked->check, checked->limits.showNotices) : RowMarks());
+    m_ui->findings->Show(checked);
+}
+
+void CardDisplay::OpenFindings()
+{
+    m_ui->findings->OpenList();
+}
+
+void CardDisplay::ShowHours(bool shown)
+{
+    m_ui->findings->ShowHours(shown);
+}
+
+bool CardDisplay::HoursShown() const
+{
+    return m_ui->findings->HoursShown();
+}
+
 bool CardDisplay::ShowsCard() const
 {
     return m_records->rowCount() > 0;
 }
 
+bool CardDisplay::ShowsFindings() const
+{
+    return m_ui->findings->IsShown();
+}
+
 void CardDisplay::SetStrange(bool strange)
 {
     m_records->SetFaded(strange);
+    m_ui->findings->SetStrange(strange);
     m_ui->lblTCBreakTime->setEnabled(!strange);
     for (auto* box : Figures()) {
         box->SetFaded(strange);

@@ -4,8 +4,10 @@
 #include "model/CEmployeeList.h"
 #include "model/CTimeCard.h"
 #include "office/CardTexts.h"
+#include "office/CheckedTimecard.h"
 #include "office/TimeCardNotices.h"
 #include "platform/BusyPointer.h"
+#include "platform/Clock.h"
 #include "platform/Required.h"
 #include "platform/Succeeds.h"
 #include "startup/CController.h"
@@ -28,10 +30,9 @@ CurrentCard::CurrentCard(PageHost& host, const Place& place, QObject* parent)
 
 void CurrentCard::Mark()
 {
-    const auto card = m_host.TimeCard();
     const CardName chosen = m_choice.Chosen();
     const bool shown = m_display.ShowsCard();
-    const std::string strange = card == nullptr ? std::string() : StrangeCardText(NameOf(*card), shown, chosen);
+    const std::string strange = m_card == nullptr ? std::string() : StrangeCardText(NameOf(*m_card), shown, chosen);
     m_mark.Say(QString::fromStdString(strange));
     m_display.SetStrange(shown && !strange.empty());
     m_display.SetHint(QString::fromStdString(NextStepText(chosen)));
@@ -45,7 +46,7 @@ bool CurrentCard::RefreshTimeCard()
         if (m_choice.EmployeeText().empty()) {
             Tell(m_host.Desktop(), kNoEmployeeChosen);
         } else if (Regenerate()) {
-            m_line.Say(QString::fromStdString(GeneratedText(*m_host.TimeCard())));
+            m_line.Say(QString::fromStdString(GeneratedText(*m_card)));
         }
         return true;
     };
@@ -56,16 +57,23 @@ bool CurrentCard::RefreshTimeCard()
     return false;
 }
 
+std::shared_ptr<CEmployee> CurrentCard::EmployeeToShow() const
+{
+    const auto list = Required(Required(m_host.Controller())->EmployeeList());
+    const bool meant = m_meant && m_meant == m_choice.EmployeeID();
+    return meant ? list->GetEmployeeByID(*m_meant) : list->GetEmployeeByName(m_choice.EmployeeText());
+}
+
 bool CurrentCard::GenerateTimeCard()
 {
-    m_host.TimeCard(nullptr);
+    m_card = nullptr;
+    m_checked = nullptr;
     const auto controller = Required(m_host.Controller());
-    const auto employee = Required(controller->EmployeeList())->GetEmployeeByName(m_choice.EmployeeText());
+    const auto employee = EmployeeToShow();
     const auto card = std::make_shared<CTimeCard>(Required(controller->TimeRecordFactory()));
-    m_host.TimeCard(card);
+    m_card = card;
     card->PTKDatabase(controller->PTKDatabase());
-    const PayPeriod period = m_choice.Period();
-    const bool generated = Load(*card, employee, period.from, period.to.AddDays(1));
+    const bool generated = Load(*card, employee, m_choice.Period());
     if (!generated) {
         ReportCardError(card->ErrorNumber());
         Complain(UnreadText(*card));
@@ -74,10 +82,12 @@ bool CurrentCard::GenerateTimeCard()
 }
 
 // The pointer is the usual one again before anything is told.
-bool CurrentCard::Load(CTimeCard& card, const std::shared_ptr<CEmployee>& employee, DateTime start, DateTime end)
+bool CurrentCard::Load(CTimeCard& card, const std::shared_ptr<CEmployee>& employee, const PayPeriod& period)
 {
     const BusyPointer busy(m_host.Desktop());
-    return card.GenerateTimecard(employee, start, end);
+    const auto database = Required(m_host.Controller())->PTKDatabase();
+    m_checked = std::make_shared<CheckedTimecard>(GenerateChecked(card, database, employee, period, m_host.Clock().Now()));
+    return m_checked->generated;
 }
 
 void CurrentCard::ReportCardError(std::int32_t errorNumber)
@@ -96,6 +106,7 @@ bool CurrentCard::Regenerate()
         ShowTimeCard();
     } else {
         ClearTimeCardDisplay();
+        ShowFindings();
     }
     return generated;
 }
@@ -116,11 +127,11 @@ void CurrentCard::RegenerateAfterSave()
 // Of its own employee and period, whatever the boxes say by now.
 bool CurrentCard::ReadAgain()
 {
-    const auto card = Required(m_host.TimeCard());
-    if (!m_display.ShowsCard()) {
+    const auto card = Required(m_card);
+    if (!m_display.ShowsCard() && !m_display.ShowsFindings()) {
         return true;
     }
-    if (Load(*card, card->Employee(), card->StartDate(), card->EndDate())) {
+    if (Load(*card, card->Employee(), {card->StartDate(), card->EndDate().AddDays(-1)})) {
         ShowTimeCard();
         return true;
     }
@@ -128,12 +139,20 @@ bool CurrentCard::ReadAgain()
     if (noneLeft) {
         ClearTimeCardDisplay();
     }
+    if (!m_display.ShowsCard()) {
+        ShowFindings();
+    }
     return noneLeft;
+}
+
+void CurrentCard::CheckAgain()
+{
+    Succeeds([this] { return ReadAgain(); });
 }
 
 void CurrentCard::RenewFor(std::int32_t savedEmployee)
 {
-    const auto card = m_host.TimeCard();
+    const auto card = m_card;
     if (card == nullptr || card->Employee() == nullptr || card->Employee()->EmployeeID() != savedEmployee) {
         return;
     }
@@ -152,9 +171,19 @@ void CurrentCard::RenewFor(std::int32_t savedEmployee)
 bool CurrentCard::ShowTimeCard()
 {
     SetupTimeRecordGrid();
-    m_display.DisplayTimeCard(*Required(m_host.TimeCard()));
+    m_display.DisplayTimeCard(*Required(m_card));
+    ShowFindings();
     Mark();
     return false;
+}
+
+// Also of a card that could not be made: what keeps it from that, and what crosses its ends.
+void CurrentCard::ShowFindings()
+{
+    const bool tells = m_checked != nullptr && m_checked->check && !m_checked->check->findings.empty();
+    if (m_display.ShowsCard() || tells) {
+        m_display.ShowCheck(m_checked);
+    }
 }
 
 bool CurrentCard::SetupTimeRecordGrid()
@@ -194,8 +223,7 @@ void CurrentCard::Complain(const std::string& line)
 
 std::string CurrentCard::Employee() const
 {
-    const auto card = m_host.TimeCard();
-    return card == nullptr ? std::string() : NameOf(*card).employee;
+    return m_card == nullptr ? std::string() : NameOf(*m_card).employee;
 }
 
 } // namespace ptk

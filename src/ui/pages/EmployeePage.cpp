@@ -118,7 +118,7 @@ void EmployeePage::ShowPassword(bool shown)
 
 bool EmployeePage::FillEmployeeLists()
 {
-    return m_host.FillEmployeeLists();
+    return Succeeds([this] { m_host.EmployeeModels().SetEmployees(List()); });
 }
 
 void EmployeePage::Select(const KeyList& list)

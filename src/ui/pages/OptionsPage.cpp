@@ -1,14 +1,20 @@
 #include "ui/pages/OptionsPage.h"
 
-#include "office/OptionTexts.h"
+#include "office/CardTexts.h"
 #include "platform/BusyPointer.h"
 #include "platform/Clock.h"
 #include "platform/Desktop.h"
+#include "platform/Failure.h"
+#include "platform/Required.h"
+#include "platform/Succeeds.h"
 #include "startup/CController.h"
 #include "startup/Notices.h"
 #include "store/CSystemOptions.h"
 #include "ui/pages/PageHost.h"
+#include "ui/widgets/ChosenOnly.h"
 #include "ui_OptionsPage.h"
+
+#include <algorithm>
 
 namespace ptk {
 
@@ -21,13 +27,23 @@ constexpr auto kRestoreText = "An error occurred while restoring system options 
 constexpr auto kApplied = "Options applied";
 constexpr auto kRestored = "Options restored";
 
+constexpr auto kLimitsUnread = "The limits of the check could not be read: ";
+
 constexpr auto kTimeFormat = "hh:mm:ss AM/PM";
+
+constexpr int kDaysPerWeek = 7;
+const DateTime kSunday(CalendarDate{1899, 12, 31});
 
 } // namespace
 
 OptionsPage::OptionsPage(PageHost& host, QWidget* parent) : QWidget(parent), m_host(host), m_ui(std::make_unique<Ui::OptionsPage>())
 {
     m_ui->setupUi(this);
+    for (int day = 0; day < kDaysPerWeek; ++day) {
+        m_ui->cboFirstWeekday->addItem(QString::fromStdString(WeekdayName(kSunday.AddDays(day))));
+    }
+    ChooseOnlyDeliberately(*m_ui->cboFirstWeekday);
+    m_ui->fraCheck->setEnabled(false);
     AlignFrames();
     m_ui->dttbAutoShiftStartTime->SetDisplayFormat(kTimeFormat);
     m_ui->dttbAutoShiftEndTime->SetDisplayFormat(kTimeFormat);
@@ -38,11 +54,18 @@ OptionsPage::OptionsPage(PageHost& host, QWidget* parent) : QWidget(parent), m_h
 
 OptionsPage::~OptionsPage() = default;
 
-// The boxes of both frames stand below each other.
+// The boxes of all frames stand below each other.
 void OptionsPage::AlignFrames()
 {
-    m_ui->lblAutoShiftStartTime->setMinimumWidth(m_ui->lblPeriodLength->sizeHint().width());
-    m_ui->txtPeriodLength->setMinimumWidth(m_ui->dttbAutoShiftStartTime->sizeHint().width());
+    const int label = std::max(m_ui->lblPeriodLength->sizeHint().width(), m_ui->lblLongShift->sizeHint().width());
+    for (QWidget* first : {m_ui->lblPeriodLength, m_ui->lblAutoShiftStartTime, m_ui->lblLongShift}) {
+        first->setMinimumWidth(label);
+    }
+    const int box = m_ui->dttbAutoShiftStartTime->sizeHint().width();
+    for (QWidget* second : {static_cast<QWidget*>(m_ui->txtPeriodLength), static_cast<QWidget*>(m_ui->txtLongShift),
+                            static_cast<QWidget*>(m_ui->cboFirstWeekday)}) {
+        second->setMinimumWidth(box);
+    }
 }
 
 // A period of 14 days deliberately has 15: one sees it before a payday depends on it.
@@ -64,19 +87,76 @@ bool OptionsPage::DisplaySystemOptions(const std::shared_ptr<CSystemOptions>& op
     return true;
 }
 
-bool OptionsPage::SaveSystemOptions()
+void OptionsPage::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    if (!m_limits) {
+        LoadLimits();
+    }
+}
+
+void OptionsPage::LoadLimits()
 {
     try {
         const auto controller = m_host.Controller();
-        const auto options = controller == nullptr ? nullptr : controller->SystemOptions();
-        if (options == nullptr) {
-            return false;
+        if (controller == nullptr || controller->PTKDatabase() == nullptr) {
+            return;
         }
-        return StoreOptions(*options, {m_ui->txtPeriodLength->text().toStdString(), m_ui->dttbAutoShiftStartTime->Text().toStdString(),
-                                       m_ui->dttbAutoShiftEndTime->Text().toStdString()});
+        const BusyPointer busy(m_host.Desktop());
+        m_limits = ShowLimits(LoadCheckLimits(controller->PTKDatabase()));
     } catch (...) {
+        const std::string line = kLimitsUnread + CurrentFailure().Description();
+        m_ui->notice->Say(QString::fromStdString(line));
+        m_host.Log(line);
+    }
+    ShowStoredLimits();
+}
+
+// What could not be read cannot be changed here either.
+void OptionsPage::ShowStoredLimits()
+{
+    m_ui->fraCheck->setEnabled(m_limits.has_value());
+    const LimitTexts shown = m_limits.value_or(LimitTexts());
+    m_ui->txtLongShift->setText(QString::fromStdString(shown.longShiftHours));
+    m_ui->cboFirstWeekday->setCurrentIndex(shown.firstWeekday);
+    m_ui->chkShowNotices->setChecked(shown.showNotices);
+}
+
+LimitTexts OptionsPage::Limits() const
+{
+    return {m_ui->txtLongShift->text().toStdString(), m_ui->cboFirstWeekday->currentIndex(), m_ui->chkShowNotices->isChecked()};
+}
+
+bool OptionsPage::StoreLimits()
+{
+    const LimitTexts texts = Limits();
+    if (!m_limits || texts == *m_limits) {
+        return true;
+    }
+    const auto limits = ReadLimits(texts);
+    const auto database = Required(Required(m_host.Controller())->PTKDatabase());
+    if (!limits || !SaveCheckLimits(database, *limits)) {
         return false;
     }
+    m_limits = ShowLimits(*limits);
+    emit LimitsStored();
+    return true;
+}
+
+bool OptionsPage::SaveOptions()
+{
+    const auto controller = m_host.Controller();
+    const auto options = controller == nullptr ? nullptr : controller->SystemOptions();
+    if (options == nullptr) {
+        return false;
+    }
+    return StoreOptions(*options, {m_ui->txtPeriodLength->text().toStdString(), m_ui->dttbAutoShiftStartTime->Text().toStdString(),
+                                   m_ui->dttbAutoShiftEndTime->Text().toStdString()});
+}
+
+bool OptionsPage::SaveSystemOptions()
+{
+    return Succeeds([this] { return SaveOptions() && StoreLimits(); });
 }
 
 bool OptionsPage::RestoreSystemOptions()
@@ -96,12 +176,14 @@ void OptionsPage::Apply()
         m_ui->notice->Say(kApplied);
     } else {
         m_host.Desktop().Show(kUpdateText, notice::OptionsUnsaved.title, Icon::Exclamation);
+        m_ui->notice->Say(m_limits ? QString::fromStdString(LimitRefusal(Limits())) : QString());
     }
 }
 
 void OptionsPage::Cancel()
 {
     m_ui->notice->Clear();
+    ShowStoredLimits();
     if (RestoreSystemOptions()) {
         m_ui->notice->Say(kRestored);
     } else {

@@ -1,7 +1,10 @@
-// The Options page: the length of a pay period and the times of the automatic shift.
+// The Options page: the length of a pay period, the times of the automatic shift and the limits of the check of time cards.
 #pragma once
 
+#include "office/OptionTexts.h"
+
 #include <memory>
+#include <optional>
 #include <QWidget>
 
 namespace Ui {
@@ -13,6 +16,8 @@ namespace ptk {
 class CSystemOptions;
 class PageHost;
 
+// The limits are read when the page is first seen, and written only where they were changed: a database of an earlier version has no table
+// for them until then.
 class OptionsPage final : public QWidget
 {
     Q_OBJECT
@@ -25,14 +30,26 @@ public:
     bool SaveSystemOptions();                                                  // without a message; false also for any failure
     bool RestoreSystemOptions();                                               // shows the controller's options again
 
+signals:
+    void LimitsStored(); // others than before
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private:
     void AlignFrames();
+    void LoadLimits();
+    void ShowStoredLimits();
+    bool StoreLimits();
+    LimitTexts Limits() const;
+    bool SaveOptions();
     void ShowExample();
     void Apply();
     void Cancel();
 
     PageHost& m_host;
     std::unique_ptr<Ui::OptionsPage> m_ui;
+    std::optional<LimitTexts> m_limits; // as they stand in the database; nothing until they have been read
 };
 
 } // namespace ptk

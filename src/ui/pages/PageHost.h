@@ -10,7 +10,6 @@
 namespace ptk {
 
 class CController;
-class CTimeCard;
 class Clock;
 class Desktop;
 class DesktopWindow;
@@ -51,13 +50,9 @@ public:
     virtual std::int32_t EventSource() const = 0;
     virtual void EventSource(std::int32_t value) = 0;
 
-    virtual std::shared_ptr<CTimeCard> TimeCard() const = 0; // the current time card, nullptr before the first generation
-    virtual void TimeCard(std::shared_ptr<CTimeCard> value) = 0;
-
     virtual PeriodTexts TimeCardPeriod() const = 0; // as the Timecards page shows it
 
     virtual ptk::EmployeeModels& EmployeeModels() const = 0; // the employees behind every list and box of the window
-    virtual bool FillEmployeeLists() = 0;                    // takes over the controller's employee list into all of them
     virtual ptk::OpenReports& Reports() const = 0;
 };
 

@@ -1,8 +1,9 @@
 #include "ui/pages/ReportsPage.h"
 
 #include "model/CEmployeeList.h"
-#include "model/PayPeriod.h"
+#include "office/ReportChoice.h"
 #include "office/ReportRun.h"
+#include "office/ReportRunner.h"
 #include "office/TimeCardNotices.h"
 #include "platform/BusyPointer.h"
 #include "platform/Clock.h"
@@ -11,11 +12,6 @@
 #include "platform/Required.h"
 #include "platform/Succeeds.h"
 #include "platform/Value.h"
-#include "reports/CReportEmployee.h"
-#include "reports/CReportPhoneBook.h"
-#include "reports/CReportReview.h"
-#include "reports/CReportTimeCard.h"
-#include "reports/CReportYTDTotals.h"
 #include "startup/CController.h"
 #include "store/CSystemOptions.h"
 #include "ui/dialogs/GenerationProgress.h"
@@ -53,6 +49,22 @@ Value ChosenDate(const DateCombo& box)
 {
     const auto date = box.Date();
     return date ? Value(*date) : Value(box.Text().toStdString());
+}
+
+QModelIndexList SelectedRows(const QListView& list)
+{
+    QModelIndexList rows = list.selectionModel()->selectedRows();
+    std::sort(rows.begin(), rows.end());
+    return rows;
+}
+
+QModelIndexList AllRows(const QListView& list)
+{
+    QModelIndexList rows;
+    for (int row = 0; row < list.model()->rowCount(); ++row) {
+        rows << list.model()->index(row, 0);
+    }
+    return rows;
 }
 
 void SetUsable(QWidget& control, bool usable, const char* reason, const char* use = "")
@@ -114,7 +126,7 @@ bool ReportsPage::FillReportList()
 {
     m_ui->cboReports->clear();
     for (const ReportEntry& entry : ReportCatalog()) {
-        m_ui->cboReports->addItem(QString::fromUtf8(entry.name.data(), static_cast<int>(entry.name.size())));
+        m_ui->cboReports->addItem(QString::fromUtf8(entry.caption.data(), static_cast<qsizetype>(entry.caption.size())));
     }
     m_ui->cboReports->setCurrentIndex(-1);
     return true;
@@ -139,7 +151,7 @@ void ReportsPage::SelectReport()
         return;
     }
     OfferDates(entry->dates);
-    OfferEmployees(entry->needsEmployees);
+    OfferEmployees(entry->whom != ReportWhom::Everyone);
     ShowStatus();
 }
 
@@ -152,13 +164,10 @@ void ReportsPage::OfferDates(ReportDates dates)
     SetUsable(*m_ui->cmdReportPeriodBack, period, reason, kBackTip);
     SetUsable(*m_ui->cmdReportPeriodNext, period, reason, kNextTip);
     SetUsable(*m_ui->cmdSamePeriod, period, reason, kSameTip);
-    if (dates == ReportDates::None) {
-        return; // what stands there stays
+    if (const auto offered = OfferedDays(dates, m_host.Clock().Today(), period ? PeriodLength() : std::int16_t{0})) {
+        m_ui->cboFromDate->SetDate(offered->from);
+        m_ui->cboToDate->SetDate(offered->to);
     }
-    const DateTime today = m_host.Clock().Today();
-    const ReportPeriod offered = dates == ReportDates::YearToDate ? YearToDate(today) : DefaultPayPeriod(today, PeriodLength());
-    m_ui->cboFromDate->SetDate(offered.from);
-    m_ui->cboToDate->SetDate(offered.to);
 }
 
 void ReportsPage::OfferEmployees(bool needed)
@@ -184,7 +193,7 @@ std::int16_t ReportsPage::PeriodLength() const
 void ReportsPage::ChangeFromDate()
 {
     if (const auto from = m_ui->cboFromDate->Date()) {
-        m_ui->cboToDate->SetDate(PeriodEnd(*from, PeriodLength()));
+        m_ui->cboToDate->SetDate(PayPeriodFrom(*from, PeriodLength()).to);
     }
     ShowStatus();
 }
@@ -230,141 +239,83 @@ void ReportsPage::Generate()
     }
     const QScopedValueRollback generating(m_generating, true);
     try {
-        GenerateKind(entry->kind);
+        Run(*entry);
     } catch (...) {
         ShowFailure(CurrentFailure().Number(), name);
     }
 }
 
-void ReportsPage::GenerateKind(ReportKind kind)
+// Shows what becomes of a run.
+class ReportsPage::Client final : public ReportClient
 {
-    OpenReports& reports = m_host.Reports();
+public:
+    Client(ReportsPage& page, const ReportOrder& order)
+        : m_page(page), m_entry(order.report),
+          m_progress(std::make_unique<GenerationProgress>(&page, static_cast<std::int32_t>(order.names.size())))
+    {
+    }
+
+    std::shared_ptr<Report> NewReport(const ReportEntry& entry) override { return m_page.m_host.Reports().NewReport(entry); }
+    bool GoOn(std::int32_t done) override { return m_progress->GoOn(done); }
+    void Say(const std::string& outcome) override { m_page.Say(outcome); }
+    void Made(Report& report, bool complete, const std::string& outcome) override;
+
+private:
+    void ShowFailure(const Report& report);
+
+    ReportsPage& m_page;
+    const ReportEntry& m_entry;
+    std::unique_ptr<GenerationProgress> m_progress;
+};
+
+void ReportsPage::Client::Made(Report& report, bool complete, const std::string& outcome)
+{
+    if (report.ErrorNumber() != 0) {
+        m_page.m_host.Log(report.ReportName() + ": " + outcome);
+    }
+    if (!complete && m_entry.tellsFailures) {
+        ShowFailure(report);
+    }
+}
+
+void ReportsPage::Client::ShowFailure(const Report& report)
+{
+    const bool more = m_entry.whom == ReportWhom::Each;
+    if (!more) {
+        m_progress = nullptr; // gone before the box opens
+    }
+    m_page.ShowFailure(report.ErrorNumber(), report.ReportName());
+    if (more) {
+        m_progress->Restart();
+    }
+}
+
+void ReportsPage::Run(const ReportEntry& entry)
+{
     const BusyPointer busy(m_host.Desktop());
-    switch (kind) {
-    case ReportKind::TimeCard:
-        return GenerateEach([&] { return reports.NewTimeCardReport(); });
-    case ReportKind::Review:
-        return GenerateReview();
-    case ReportKind::YTDTotals:
-        return GenerateEach([&] { return reports.NewYTDTotalsReport(); });
-    case ReportKind::Employee:
-        return GenerateEmployeeRecords();
-    case ReportKind::PhoneBook:
-        return GeneratePhoneBook();
-    }
+    const auto controller = Required(m_host.Controller());
+    const ReportOrder order{entry,
+                            controller->PTKDatabase(),
+                            Required(controller->EmployeeList()),
+                            Names(entry.whom),
+                            ChosenDate(*m_ui->cboFromDate),
+                            ChosenDate(*m_ui->cboToDate)};
+    Client client(*this, order);
+    RunReports(order, client);
 }
 
-template <typename MakeReport>
-void ReportsPage::GenerateEach(MakeReport makeReport)
+std::vector<std::string> ReportsPage::Names(ReportWhom whom) const
 {
-    const auto employees = SelectedEmployees();
-    ReportRun run{employees->Count()};
-    GenerationProgress progress(this, run.wanted);
-    while (run.done < run.wanted && progress.GoOn(run.done)) {
-        const auto report = makeReport();
-        const auto employee = employees->Item(++run.done);
-        const bool generated = report->GenerateReport(Required(m_host.Controller())->PTKDatabase(), employee, FromDate(), ToDate());
-        if (report->ErrorNumber() != 0) {
-            NoteFailure(run, report->Missing());
-            m_host.Log(report->ReportName() + ": " + DescribeReport(report->ErrorNumber(), report->Missing(), run));
-        }
-        if (!generated) {
-            ShowFailure(report->ErrorNumber(), report->ReportName());
-            progress.Restart();
-        }
-    }
-    Say(DescribeRun(run));
-}
-
-void ReportsPage::GenerateReview()
-{
-    const auto employees = SelectedEmployees();
-    ReportRun people{employees->Count()};
-    const auto report = m_host.Reports().NewReviewReport();
-    const bool complete = [&] {
-        GenerationProgress progress(this, people.wanted); // gone before a box opens
-        report->Progress([&](std::int32_t done, std::int32_t) {
-            people.done = done;
-            return progress.GoOn(done);
-        });
-        return report->GenerateReport(Required(m_host.Controller())->PTKDatabase(), employees, FromDate(), ToDate());
-    }();
-    report->Progress(nullptr);
-    SayOutcome(*report, people);
-    if (!complete) {
-        ShowFailure(report->ErrorNumber(), report->ReportName());
-    }
-}
-
-// Neither of the two lists opens a box when it fails, deliberately: the page's line tells it.
-void ReportsPage::GenerateEmployeeRecords()
-{
-    const auto employees = SelectedEmployees();
-    const auto report = m_host.Reports().NewEmployeeReport();
-    report->GenerateReport(employees);
-    SayOutcome(*report, {employees->Count()});
-}
-
-void ReportsPage::GeneratePhoneBook()
-{
-    const auto report = m_host.Reports().NewPhoneBookReport();
-    report->GenerateReport(PhoneBookEmployees(*Employees(), AllNames()));
-    SayOutcome(*report, {static_cast<std::int32_t>(AllNames().size())});
-}
-
-std::shared_ptr<CEmployeeList> ReportsPage::Employees() const
-{
-    return Required(Required(m_host.Controller())->EmployeeList());
-}
-
-std::shared_ptr<CEmployeeList> ReportsPage::SelectedEmployees() const
-{
-    return EmployeesByName(*Employees(), SelectedNames());
-}
-
-std::vector<std::string> ReportsPage::SelectedNames() const
-{
-    QModelIndexList rows = m_ui->lstEmployees->selectionModel()->selectedRows();
-    std::sort(rows.begin(), rows.end());
     std::vector<std::string> names;
-    for (const QModelIndex& row : rows) {
+    for (const QModelIndex& row : whom == ReportWhom::Everyone ? AllRows(*m_ui->lstEmployees) : SelectedRows(*m_ui->lstEmployees)) {
         names.push_back(row.data().toString().toStdString());
     }
     return names;
 }
 
-std::vector<std::string> ReportsPage::AllNames() const
-{
-    const QAbstractItemModel& lines = *m_ui->lstEmployees->model();
-    std::vector<std::string> names;
-    for (int row = 0; row < lines.rowCount(); ++row) {
-        names.push_back(lines.index(row, 0).data().toString().toStdString());
-    }
-    return names;
-}
-
-Value ReportsPage::FromDate() const
-{
-    return ChosenDate(*m_ui->cboFromDate);
-}
-
-Value ReportsPage::ToDate() const
-{
-    return ChosenDate(*m_ui->cboToDate);
-}
-
 void ReportsPage::ShowFailure(std::int32_t errorNumber, const std::string& reportName)
 {
     m_host.Desktop().Show(std::to_string(errorNumber) + kFailureText + reportName, kErrorTitle, Icon::Exclamation);
-}
-
-void ReportsPage::SayOutcome(const Report& report, const ReportRun& people)
-{
-    const std::string outcome = DescribeReport(report.ErrorNumber(), report.Missing(), people);
-    if (report.ErrorNumber() != 0) {
-        m_host.Log(report.ReportName() + ": " + outcome);
-    }
-    Say(outcome);
 }
 
 void ReportsPage::Say(const std::string& text)

@@ -16,9 +16,6 @@ class ReportsPage;
 namespace ptk {
 
 class PageHost;
-class Report;
-class Value;
-struct ReportRun;
 
 class ReportsPage final : public QWidget
 {
@@ -34,6 +31,8 @@ public:
     bool IsGenerating() const { return m_generating; } // a box or the progress of it may be open
 
 private:
+    class Client;
+
     void ConnectControls();
     void ConnectPeriod();
     void ConnectEmployees();
@@ -48,22 +47,11 @@ private:
     void ShowSelected();
 
     void Generate();
-    void GenerateKind(ReportKind kind);
-    void GenerateReview();
-    void GenerateEmployeeRecords();
-    void GeneratePhoneBook();
-    template <typename MakeReport>
-    void GenerateEach(MakeReport makeReport);
+    void Run(const ReportEntry& entry);
 
-    std::vector<std::string> SelectedNames() const;
-    std::vector<std::string> AllNames() const;
-    std::shared_ptr<CEmployeeList> Employees() const;         // the application's
-    std::shared_ptr<CEmployeeList> SelectedEmployees() const; // in the list box's order
+    std::vector<std::string> Names(ReportWhom whom) const; // in the list box's order
     std::int16_t PeriodLength() const;
-    Value FromDate() const;
-    Value ToDate() const;
     void ShowFailure(std::int32_t errorNumber, const std::string& reportName);
-    void SayOutcome(const Report& report, const ReportRun& people);
     void Say(const std::string& text);
 
     PageHost& m_host;

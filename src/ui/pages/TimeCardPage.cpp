@@ -5,6 +5,7 @@
 #include "model/CTimeCard.h"
 #include "model/CTimeRecord.h"
 #include "model/CTimeRecordList.h"
+#include "office/CardFindings.h"
 #include "office/CardRecords.h"
 #include "office/TimeCardNotices.h"
 #include "platform/BusyPointer.h"
@@ -38,6 +39,7 @@ constexpr auto kRecordsNotFilled = "Records not filled in";
 constexpr auto kNothingFilled = "No records were filled in";
 constexpr auto kNoEditor = "The record cannot be edited now";
 constexpr auto kNoAutoFill = "Auto Fill needs an employee of the list and two dates";
+constexpr auto kOpenElsewhere = "Open Record";
 constexpr auto kNotPrinted = "The card was not printed";
 
 QString Line(const std::string& text)
@@ -78,6 +80,8 @@ void TimeCardPage::ConnectActions()
     connect(m_ui->display, &CardDisplay::EditAsked, this, &TimeCardPage::EditRecord);
     connect(m_ui->cmdTCDelete, &QPushButton::clicked, this, &TimeCardPage::DeleteRecord);
     connect(m_ui->display, &CardDisplay::DeleteAsked, this, &TimeCardPage::DeleteRecord);
+    connect(m_ui->display, &CardDisplay::Elsewhere, this, &TimeCardPage::OfferElsewhere);
+    connect(m_ui->display, &CardDisplay::ElsewhereEntered, this, &TimeCardPage::EditElsewhere);
     connect(m_ui->cmdFill, &QPushButton::clicked, this, [this] { AutoFill({}); });
     connect(m_ui->cmdTCPrint, &QPushButton::clicked, this, &TimeCardPage::Print);
 }
@@ -104,9 +108,14 @@ bool TimeCardPage::ClearTimeCardDisplay()
     return m_card->ClearTimeCardDisplay();
 }
 
+void TimeCardPage::GiveUpCard()
+{
+    m_card->GiveUp();
+}
+
 void TimeCardPage::EnableFill()
 {
-    const bool hasCard = m_host.TimeCard() != nullptr;
+    const bool hasCard = m_card->Card() != nullptr;
     m_ui->cmdFill->setEnabled(hasCard);
     m_ui->cmdFill->setToolTip(hasCard ? QString() : kNothingToFill);
 }
@@ -119,6 +128,7 @@ void TimeCardPage::SelectFirstEmployee()
 void TimeCardPage::ChooseEmployee()
 {
     m_host.EventSource(eventsource::Name);
+    m_card->Mean({});
     if (!m_choice->EmployeeText().empty()) {
         m_employeeName = m_choice->EmployeeText();
         ShowStatus();
@@ -153,6 +163,42 @@ PeriodTexts TimeCardPage::Period() const
     return m_choice->PeriodTexts();
 }
 
+std::optional<PayPeriod> TimeCardPage::ChosenPeriod() const
+{
+    std::optional<PayPeriod> period;
+    Succeeds([&] {
+        period = m_choice->Period();
+        return true;
+    });
+    return period;
+}
+
+void TimeCardPage::ShowCard(std::int32_t employeeID, const PayPeriod& period)
+{
+    m_ui->display->OpenFindings();
+    m_choice->Period(period);
+    m_choice->Employee(employeeID);
+    ChooseEmployee();
+    m_card->Mean(employeeID);
+    Generate();
+    m_ui->display->setFocus();
+}
+
+void TimeCardPage::CheckAgain()
+{
+    m_card->CheckAgain();
+}
+
+void TimeCardPage::ShowHours(bool shown)
+{
+    m_ui->display->ShowHours(shown);
+}
+
+bool TimeCardPage::HoursShown() const
+{
+    return m_ui->display->HoursShown();
+}
+
 void TimeCardPage::Generate()
 {
     if (!m_card->RefreshTimeCard()) {
@@ -162,7 +208,7 @@ void TimeCardPage::Generate()
 
 void TimeCardPage::NewRecord()
 {
-    if (m_host.TimeCard() == nullptr) {
+    if (m_card->Card() == nullptr) {
         return Tell(m_host.Desktop(), kNoCardForNew);
     }
     OpenEditor({std::make_shared<CTimeRecord>(), true, {}});
@@ -170,12 +216,31 @@ void TimeCardPage::NewRecord()
 
 void TimeCardPage::EditRecord()
 {
-    if (m_host.TimeCard() == nullptr) {
+    if (m_card->Card() == nullptr) {
         return Tell(m_host.Desktop(), kNoCard);
     }
     const auto record = m_card->ChosenRecord();
     if (record == nullptr) {
         return Tell(m_host.Desktop(), kNoneToEdit);
+    }
+    OpenEditor({record, false, {}});
+}
+
+void TimeCardPage::OfferElsewhere(const FindingPlace& place)
+{
+    if (place.elsewhere.empty()) {
+        return m_ui->notice->Clear();
+    }
+    m_ui->notice->Offer(Line(place.text), kOpenElsewhere, [this, punch = *place.elsewhere.front()] { EditElsewhere(punch); });
+}
+
+void TimeCardPage::EditElsewhere(const Punch& punch)
+{
+    const auto card = m_card->Card();
+    const auto employee = card == nullptr ? nullptr : card->Employee();
+    const auto record = employee == nullptr ? nullptr : RecordToEdit(punch, employee->EmployeeID());
+    if (record == nullptr) {
+        return m_ui->notice->Say(kNoEditor);
     }
     OpenEditor({record, false, {}});
 }
@@ -213,12 +278,7 @@ void TimeCardPage::Prepare(FTimeEditor& editor, const Editing& editing)
         editor.Texts(*editing.typed);
     }
     if (editing.isNew) {
-        std::optional<PayPeriod> period;
-        Succeeds([&] {
-            period = m_choice->Period();
-            return true;
-        });
-        editor.WarnAsNew(period);
+        editor.WarnAsNew(ChosenPeriod());
     }
 }
 
@@ -231,7 +291,7 @@ bool TimeCardPage::ReturnTimeRecord(const std::shared_ptr<CTimeRecord>& thetimer
 
 void TimeCardPage::DeleteRecord()
 {
-    if (m_host.TimeCard() == nullptr) {
+    if (m_card->Card() == nullptr) {
         return Tell(m_host.Desktop(), kNoCard);
     }
     const auto record = m_card->ChosenRecord();
@@ -280,7 +340,7 @@ void TimeCardPage::HandOver(FAutoFill& window)
     const auto employee = Required(Required(controller->EmployeeList())->GetEmployeeByName(m_choice->EmployeeText()));
     window.EmployeeID(NarrowToInt16(employee->EmployeeID()));
     window.PeriodLength(options->PeriodLength());
-    window.TimeRecordList(Required(m_host.TimeCard())->TimeRecordList());
+    window.TimeRecordList(Required(m_card->Card())->TimeRecordList());
     const BusyPointer busy(m_host.Desktop());
     window.Announce("For " + employee->DisplayName(), DaysWithRecords(*Required(controller->PTKDatabase()), employee->EmployeeID()));
 }
@@ -302,7 +362,7 @@ bool TimeCardPage::StoreAndShow(const Storing& storing)
     m_ui->notice->Clear();
     const auto store = [&] {
         const BusyPointer busy(m_host.Desktop());
-        return storing.step(*Required(m_host.TimeCard()), *Required(Controller()->TimeRecordFactory()));
+        return storing.step(*Required(m_card->Card()), *Required(Controller()->TimeRecordFactory()));
     };
     if (Succeeds(store)) {
         m_card->RegenerateAfterSave();
@@ -310,7 +370,7 @@ bool TimeCardPage::StoreAndShow(const Storing& storing)
         m_ui->notice->Say(Line(storing.done) + (trouble.isEmpty() ? trouble : "; " + trouble));
         return true;
     }
-    const auto card = m_host.TimeCard();
+    const auto card = m_card->Card();
     const std::string refused = card == nullptr ? storing.refused : RefusedText(storing.refused, *card);
     Tell(m_host.Desktop(), storing.failed);
     Succeeds([this] { return m_card->ReadAgain(); });
@@ -331,10 +391,10 @@ void TimeCardPage::Print()
     };
     const auto print = [&] {
         if (!m_card->RefreshTimeCard()) {
-            tell(Required(m_host.TimeCard())->ErrorNumber());
+            tell(Required(m_card->Card())->ErrorNumber());
         }
         std::int32_t errorNumber = 0;
-        if (!m_host.Reports().PrintTimeCard(m_host.TimeCard(), errorNumber)) {
+        if (!m_host.Reports().PrintTimeCard(m_card->Card(), errorNumber)) {
             tell(errorNumber);
         }
         return true;

@@ -26,8 +26,10 @@ class CurrentCard;
 class FAutoFill;
 class FTimeEditor;
 class PageHost;
+struct FindingPlace;
 struct Notice;
 struct PeriodTexts;
+struct Punch;
 
 // Every change to a record is stored at once and followed by a fresh generation of the card.
 class TimeCardPage final : public QWidget, public TimeRecordReceiver
@@ -42,7 +44,13 @@ public:
     bool ClearTimeCardDisplay(); // always true
     void SelectFirstEmployee();
     void EnablePrint();
-    PeriodTexts Period() const; // as the boxes show it
+    void GiveUpCard();                                               // the current one; the display stays
+    PeriodTexts Period() const;                                      // as the boxes show it
+    std::optional<PayPeriod> ChosenPeriod() const;                   // nothing while a box holds no date
+    void ShowCard(std::int32_t employeeID, const PayPeriod& period); // chooses and generates it, with the list of what was found
+    void CheckAgain();                                               // the card that is shown, by limits that have changed
+    void ShowHours(bool shown);                                      // the hours per day below the grid; remembered
+    bool HoursShown() const;
 
     bool ReturnTimeRecord(const std::shared_ptr<CTimeRecord>& thetimerecord) override;
 
@@ -84,6 +92,8 @@ private:
     void AutoFill(const std::optional<FillTexts>& typed);
     void Print();
 
+    void OfferElsewhere(const FindingPlace& place);
+    void EditElsewhere(const Punch& punch);
     void OpenEditor(const Editing& editing);
     void Prepare(FTimeEditor& editor, const Editing& editing);
     void HandOver(FAutoFill& window);

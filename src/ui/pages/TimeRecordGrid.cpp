@@ -23,6 +23,11 @@ void TimeRecordGrid::SetHint(const QString& text)
     viewport()->update();
 }
 
+QSize TimeRecordGrid::sizeHint() const
+{
+    return {QTableView::sizeHint().width(), minimumHeight()};
+}
+
 void TimeRecordGrid::keyPressEvent(QKeyEvent* event)
 {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;

@@ -16,6 +16,8 @@ public:
 
     void SetHint(const QString& text); // shown while there are no rows
 
+    QSize sizeHint() const override; // as high as its least height: it takes what the page has left
+
 signals:
     void EditAsked();
 

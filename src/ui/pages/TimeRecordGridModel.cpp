@@ -1,9 +1,11 @@
 #include "ui/pages/TimeRecordGridModel.h"
 
-#include "model/CTimeRecordList.h"
+#include "model/CTimeRecord.h"
 #include "office/CardTexts.h"
+#include "ui/widgets/FindingList.h"
 #include "ui/widgets/ThemeIcon.h"
 
+#include <algorithm>
 #include <array>
 #include <QGuiApplication>
 #include <QPalette>
@@ -15,30 +17,41 @@ namespace {
 constexpr std::array<const char*, recordcolumn::Count> kHeadings{"Start", "End", "Total"};
 constexpr auto kStillClockedIn = "still clocked in";
 
-bool IsStillOpen(const CTimeRecord& record, int column)
+bool IsStillOpen(const CardLine& line, int column)
 {
-    return column == recordcolumn::End && record.EndTime().IsZero();
+    return column == recordcolumn::End && line.end.IsZero();
 }
 
 } // namespace
 
-void TimeRecordGridModel::SetRecords(CTimeRecordList& records)
+void TimeRecordGridModel::SetLines(std::vector<CardLine> lines)
 {
-    std::vector<Row> rows;
-    rows.reserve(static_cast<std::size_t>(records.Count()));
-    for (std::int32_t i = 1; i <= records.Count(); ++i) {
-        rows.push_back({records.Item(i), records.RecordAt(i)});
-    }
     beginResetModel();
-    m_rows = std::move(rows);
+    m_lines = std::move(lines);
     endResetModel();
 }
 
 void TimeRecordGridModel::Clear()
 {
     beginResetModel();
-    m_rows.clear();
+    m_lines.clear();
+    m_marks.clear();
     endResetModel();
+}
+
+void TimeRecordGridModel::SetMarks(RowMarks marks)
+{
+    m_marks = std::move(marks);
+    if (!m_lines.empty()) {
+        emit dataChanged(index(0, 0), index(rowCount() - 1, recordcolumn::Count - 1));
+    }
+}
+
+int TimeRecordGridModel::RowOf(std::int64_t timeRecordID) const
+{
+    const auto its = [&](const CardLine& line) { return line.record->TimeRecordID() == timeRecordID; };
+    const auto found = std::find_if(m_lines.begin(), m_lines.end(), its);
+    return found == m_lines.end() ? -1 : static_cast<int>(found - m_lines.begin());
 }
 
 void TimeRecordGridModel::SetFaded(bool faded)
@@ -47,35 +60,67 @@ void TimeRecordGridModel::SetFaded(bool faded)
         return;
     }
     m_faded = faded;
-    if (!m_rows.empty()) {
+    if (!m_lines.empty()) {
         emit dataChanged(index(0, 0), index(rowCount() - 1, recordcolumn::Count - 1), {Qt::ForegroundRole});
     }
 }
 
-QString TimeRecordGridModel::Text(const Row& row, int column)
+QString TimeRecordGridModel::Text(const CardLine& line, int column)
 {
-    CTimeRecord record = row.shown;
-    return QString::fromStdString(record.ToString(0)).section('\t', column, column);
+    switch (column) {
+    case recordcolumn::Start:
+        return QString::fromStdString(line.StartText());
+    case recordcolumn::End:
+        return QString::fromStdString(line.EndText());
+    default:
+        return QString::fromStdString(line.HoursText());
+    }
 }
 
-QString TimeRecordGridModel::Note(const Row& row, int column)
+QString TimeRecordGridModel::Note(const CardLine& line, int column)
 {
-    if (IsStillOpen(row.shown, column)) {
+    if (IsStillOpen(line, column)) {
         return kStillClockedIn;
     }
     switch (column) {
     case recordcolumn::Start:
-        return QString::fromStdString(WeekdayName(row.shown.StartTime()));
+        return QString::fromStdString(WeekdayName(line.start));
     case recordcolumn::End:
-        return QString::fromStdString(WeekdayName(row.shown.EndTime()));
+        return QString::fromStdString(WeekdayName(line.end));
     default:
         return {};
     }
 }
 
+const RowMark* TimeRecordGridModel::Mark(const CardLine& line) const
+{
+    const auto mark = m_marks.find(line.record->TimeRecordID());
+    return mark == m_marks.end() ? nullptr : &mark->second;
+}
+
+// In every cell: a reader hears it whichever of them is the current one.
+QString TimeRecordGridModel::MarkedNote(const CardLine& line, int column) const
+{
+    QString note = Note(line, column);
+    const RowMark* mark = Mark(line);
+    if (mark == nullptr) {
+        return note;
+    }
+    return note + (note.isEmpty() ? "" : "\n") + QString::fromStdString(mark->text);
+}
+
+QVariant TimeRecordGridModel::Icon(const CardLine& line, int column) const
+{
+    const RowMark* mark = Mark(line);
+    if (mark != nullptr && column == recordcolumn::Start) {
+        return ThemeIcon(SeverityIconName(mark->severity));
+    }
+    return IsStillOpen(line, column) ? QVariant(ThemeIcon("timecards")) : QVariant();
+}
+
 int TimeRecordGridModel::rowCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+    return parent.isValid() ? 0 : static_cast<int>(m_lines.size());
 }
 
 int TimeRecordGridModel::columnCount(const QModelIndex& parent) const
@@ -85,15 +130,15 @@ int TimeRecordGridModel::columnCount(const QModelIndex& parent) const
 
 QVariant TimeRecordGridModel::data(const QModelIndex& index, int role) const
 {
-    const Row& row = m_rows.at(static_cast<std::size_t>(index.row()));
+    const CardLine& line = m_lines.at(static_cast<std::size_t>(index.row()));
     switch (role) {
     case Qt::DisplayRole:
-        return Text(row, index.column());
+        return Text(line, index.column());
     case Qt::ToolTipRole:
     case Qt::AccessibleDescriptionRole:
-        return Note(row, index.column());
+        return MarkedNote(line, index.column());
     case Qt::DecorationRole:
-        return IsStillOpen(row.shown, index.column()) ? QVariant(ThemeIcon("timecards")) : QVariant();
+        return Icon(line, index.column());
     case Qt::ForegroundRole:
         return m_faded ? QVariant(QGuiApplication::palette().brush(QPalette::PlaceholderText)) : QVariant();
     case Qt::TextAlignmentRole:

@@ -1,15 +1,14 @@
 // The rows of the time record grid.
 #pragma once
 
-#include "model/CTimeRecord.h"
+#include "model/CardLine.h"
+#include "office/CardFindings.h"
 
 #include <memory>
 #include <QAbstractTableModel>
 #include <vector>
 
 namespace ptk {
-
-class CTimeRecordList;
 
 namespace recordcolumn {
 inline constexpr int Start = 0;
@@ -18,8 +17,9 @@ inline constexpr int Total = 2; // hours
 inline constexpr int Count = 3;
 } // namespace recordcolumn
 
-// Shows the records as they were when the grid was filled, whatever an editor does to them since; their texts are made as they are painted.
-// The weekday of a date, and of an end that is not there yet that somebody is at work, stand in tool tips and in descriptions for readers.
+// Shows the lines as they were when the grid was filled; their texts are made as they are painted.
+// The weekday of a date, of an end that is not there yet that somebody is at work, and what the check says of a row stand in tool tips and
+// in descriptions for readers; a row of which it says something has an icon.
 class TimeRecordGridModel final : public QAbstractTableModel
 {
     Q_OBJECT
@@ -27,13 +27,17 @@ class TimeRecordGridModel final : public QAbstractTableModel
 public:
     using QAbstractTableModel::QAbstractTableModel;
 
-    void SetRecords(CTimeRecordList& records);
+    void SetLines(std::vector<CardLine> lines);
     void Clear();
+
+    void SetMarks(RowMarks marks); // what the check says, by record
 
     void SetFaded(bool faded); // greys all rows
 
     // The record itself, which the list may have let go of by now. REQUIRES: a row of the grid.
-    std::shared_ptr<CTimeRecord> Record(int row) const { return m_rows.at(static_cast<std::size_t>(row)).record; }
+    std::shared_ptr<CTimeRecord> Record(int row) const { return m_lines.at(static_cast<std::size_t>(row)).record; }
+
+    int RowOf(std::int64_t timeRecordID) const; // -1 when there is none
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -41,16 +45,15 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
-    struct Row
-    {
-        std::shared_ptr<CTimeRecord> record;
-        CTimeRecord shown;
-    };
+    static QString Text(const CardLine& line, int column);
+    static QString Note(const CardLine& line, int column);
 
-    static QString Text(const Row& row, int column);
-    static QString Note(const Row& row, int column);
+    const RowMark* Mark(const CardLine& line) const; // nullptr for a row without a finding
+    QString MarkedNote(const CardLine& line, int column) const;
+    QVariant Icon(const CardLine& line, int column) const;
 
-    std::vector<Row> m_rows;
+    std::vector<CardLine> m_lines;
+    RowMarks m_marks;
     bool m_faded = false;
 };
 

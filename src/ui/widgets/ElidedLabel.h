@@ -10,6 +10,7 @@ class ElidedLabel final : public QLabel
     Q_OBJECT
 
 public:
+    explicit ElidedLabel(QWidget* parent = nullptr) : ElidedLabel(QString(), parent) {}
     explicit ElidedLabel(const QString& text, QWidget* parent = nullptr);
 
     QSize minimumSizeHint() const override;

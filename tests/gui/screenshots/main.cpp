@@ -11,8 +11,10 @@ namespace ptk {
 
 namespace {
 
+constexpr QSize kSmallScreen(1008, 652); // what a screen of 1024 x 700 leaves for a window
 constexpr QSize kLarge(1600, 1000);
 const DateTime kToday(CalendarDate{2003, 3, 5});
+constexpr auto kCareless = "Helen Fitzgerald"; // types wrongly, once or twice
 
 void FillSample(BulkWriter& writer)
 {
@@ -21,7 +23,9 @@ void FillSample(BulkWriter& writer)
     }
     for (const SampleEmployee& employee : SampleEmployees(kToday)) {
         const std::int32_t id = writer.AddEmployee(employee.row);
-        for (const TimeRecordRow& shift : SampleShifts(employee, id, kToday)) {
+        std::vector<TimeRecordRow> shifts = SampleShifts(employee, id, kToday);
+        AddIrregularities(employee, shifts, kToday);
+        for (const TimeRecordRow& shift : shifts) {
             writer.AddTimeRecord(shift);
         }
     }
@@ -60,6 +64,8 @@ public:
         Take(window, name + "-default");
         window.resize(1, 1); // as small as the window lets itself be made
         Take(window, name + "-smallest");
+        window.resize(kSmallScreen);
+        Take(window, name + "-1024");
         window.resize(kLarge);
         Take(window, name + "-large");
         window.resize(first);
@@ -110,6 +116,49 @@ void TakePages(FController& main, const Photographer& photographer)
     Find<QTabBar>(main, "TabStrip").setCurrentIndex(0);
 }
 
+// Of somebody with problems, the list of them open; on the smallest window also what one comes to by scrolling.
+void TakeFindings(FController& main, const Photographer& photographer)
+{
+    auto& employees = Find<QComboBox>(main, "cboTCEmployeeName");
+    employees.setCurrentIndex(employees.findText(kCareless));
+    emit employees.activated(employees.currentIndex());
+    Find<QPushButton>(main, "cmdGenTimeRecs").click();
+    auto& line = Find<QToolButton>(main, "cmdFindings");
+    line.click();
+    auto& list = Find<QListView>(main, "lstFindings");
+    list.setCurrentIndex(list.model()->index(0, 0));
+    photographer.TakeSizes(main, "timecards-findings");
+    const QSize first = main.size();
+    main.resize(1, 1);
+    QCoreApplication::processEvents();
+    for (QWidget* parent = &list; parent != nullptr; parent = parent->parentWidget()) {
+        if (auto* scroll = qobject_cast<QScrollArea*>(parent)) {
+            scroll->ensureWidgetVisible(&list);
+        }
+    }
+    photographer.Take(main, "timecards-findings-scrolled");
+    main.resize(first);
+    line.click();
+}
+
+void TakeOverview(FController& main, const Photographer& photographer)
+{
+    Find<QAction>(main, "mnuViewOverview").trigger();
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->objectName() != "OverviewWindow") {
+            continue;
+        }
+        while (Find<QWidget>(*window, "cmdStop").isVisible()) {
+            QCoreApplication::processEvents();
+        }
+        photographer.TakeSizes(*window, "overview");
+        Find<QCheckBox>(*window, "chkOnlyProblems").setChecked(true);
+        Find<QTableView>(*window, "grdOverview").selectRow(0);
+        photographer.Take(*window, "overview-problems");
+        window->close();
+    }
+}
+
 void TakeViewers(FController& main, const Photographer& photographer)
 {
     Find<QPushButton>(main, "cmdTCPrint").click();
@@ -130,6 +179,8 @@ void TakeAll(const QString& folder, const QString& theme)
     TakeModal(main, "cmdTCNew", photographer, "time-editor");
     TakeModal(main, "cmdFill", photographer, "auto-fill");
     TakeAbout(main, photographer);
+    TakeFindings(main, photographer);
+    TakeOverview(main, photographer);
     TakeViewers(main, photographer);
 }
 

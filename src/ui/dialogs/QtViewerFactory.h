@@ -1,4 +1,4 @@
-// The five viewer windows, alike but for their report, and the factory that the reports get them from.
+// The viewer windows of the reports, alike but for their names: opened here, and found again while they are open.
 #pragma once
 
 #include "ui/dialogs/ReportViewerWindow.h"
@@ -9,36 +9,6 @@
 #include <vector>
 
 namespace ptk {
-
-class FReportTimeCard final : public ReportViewerWindow
-{
-public:
-    FReportTimeCard() : ReportViewerWindow("FReportTimeCard") {}
-};
-
-class FReportReview final : public ReportViewerWindow
-{
-public:
-    FReportReview() : ReportViewerWindow("FReportReview") {}
-};
-
-class FReportYTDTotals final : public ReportViewerWindow
-{
-public:
-    FReportYTDTotals() : ReportViewerWindow("FReportYTDTotals") {}
-};
-
-class FReportEmployee final : public ReportViewerWindow
-{
-public:
-    FReportEmployee() : ReportViewerWindow("FReportEmployee") {}
-};
-
-class FReportPhoneBook final : public ReportViewerWindow
-{
-public:
-    FReportPhoneBook() : ReportViewerWindow("FReportPhoneBook") {}
-};
 
 // REQUIRES: CloseAll before it goes, so that reports and viewers let go of each other.
 class QtViewerFactory final : public ReportViewerFactory

@@ -1,31 +1,15 @@
-#include "ui/dialogs/FReportViewers.h"
+#include "ui/dialogs/QtViewerFactory.h"
 
 namespace ptk {
 
 namespace {
 
 // Windows are let go of in their own event handlers, so they are deleted when those have returned.
-template <typename Window>
-std::shared_ptr<ReportViewerWindow> NewWindow()
-{
-    return std::shared_ptr<ReportViewerWindow>(new Window, [](ReportViewerWindow* window) { window->deleteLater(); });
-}
-
 std::shared_ptr<ReportViewerWindow> NewWindow(ReportKind kind)
 {
-    switch (kind) {
-    case ReportKind::TimeCard:
-        return NewWindow<FReportTimeCard>();
-    case ReportKind::Review:
-        return NewWindow<FReportReview>();
-    case ReportKind::YTDTotals:
-        return NewWindow<FReportYTDTotals>();
-    case ReportKind::Employee:
-        return NewWindow<FReportEmployee>();
-    case ReportKind::PhoneBook:
-        return NewWindow<FReportPhoneBook>();
-    }
-    return nullptr;
+    const std::string_view name = EntryOf(kind).viewer;
+    return {new ReportViewerWindow(QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()))),
+            [](ReportViewerWindow* window) { window->deleteLater(); }};
 }
 
 } // namespace

@@ -1,0 +1,62 @@
+// A list of the sentences of findings.
+#pragma once
+
+#include "model/Finding.h"
+
+#include <QAbstractListModel>
+#include <QListView>
+#include <vector>
+
+namespace ptk {
+
+class FindingModel final : public QAbstractListModel
+{
+    Q_OBJECT
+
+public:
+    using QAbstractListModel::QAbstractListModel;
+
+    void SetFindings(std::vector<Finding> findings);
+    const std::vector<Finding>& Findings() const { return m_findings; }
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+
+private:
+    std::vector<Finding> m_findings;
+};
+
+// An icon and, in tool tips and for a screen reader, a word tell problems from notices. What does not fit into a line is broken, or, where
+// there are hundreds, ends in dots: ten thousand of them open at once.
+class FindingList final : public QListView
+{
+    Q_OBJECT
+
+public:
+    explicit FindingList(QWidget* parent = nullptr);
+
+    void Show(std::vector<Finding> findings); // none of them chosen
+    void KeepRoom(int lines);                 // for at least so many lines of text, whatever it shows
+
+    QSize sizeHint() const override;
+
+signals:
+    void Chosen(const Finding& finding);  // by mouse or keys, also when it was chosen before
+    void Entered(const Finding& finding); // by Enter or a double click
+
+protected:
+    void focusInEvent(QFocusEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void Choose();
+    void Enter();
+    const Finding* Current() const; // nullptr when none is chosen
+
+    FindingModel* m_findings; // belongs to the widget
+};
+
+// "problem", "notice": the icon that stands for it.
+QString SeverityIconName(Severity severity);
+
+} // namespace ptk
