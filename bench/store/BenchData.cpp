@@ -53,13 +53,35 @@ std::string RecordsSql(const Size& size)
                        days * size.employees, kFirstEmployee, size.employees, ptk::FormatDateTime(FirstDay(size), "yyyy-mm-dd"));
 }
 
+std::string TextOf(sqlite3* database, const char* sql)
+{
+    std::string text;
+    const auto append = [](void* to, int /*count*/, char** values, char** /*names*/) {
+        *static_cast<std::string*>(to) += values[0];
+        return 0;
+    };
+    Require(sqlite3_exec(database, sql, append, &text, nullptr), database);
+    return text;
+}
+
+void DropTriggers(sqlite3* database)
+{
+    Run(database,
+        TextOf(database, "SELECT 'DROP TRIGGER ' || name || ';' FROM sqlite_master WHERE type = 'trigger' AND tbl_name <> '_Edit'"));
+}
+
+// Only a file that is to have a history has one.
 void Fill(const std::string& path, const Size& size)
 {
     sqlite3* database = nullptr;
     Require(sqlite3_open_v2(path.c_str(), &database, SQLITE_OPEN_READWRITE, nullptr), database);
     Run(database, "PRAGMA synchronous=OFF; PRAGMA cache_size=-400000; BEGIN");
+    const std::string triggers = TextOf(database, "SELECT sql || ';' FROM sqlite_master WHERE type = 'trigger' AND tbl_name <> '_Edit'");
+    DropTriggers(database);
     Run(database, EmployeesSql(size.employees));
+    Run(database, size.history ? triggers : "");
     Run(database, RecordsSql(size));
+    Run(database, size.history ? "" : triggers);
     Run(database, "COMMIT");
     Require(sqlite3_close(database), nullptr);
 }
@@ -71,6 +93,11 @@ void DataFolder(std::string folder)
     dataFolder = std::move(folder);
 }
 
+std::string DataFolder()
+{
+    return dataFolder;
+}
+
 ptk::DateTime FirstDay(const Size& size)
 {
     return kLastDay.AddDays(1 - size.records / size.employees);
@@ -78,7 +105,7 @@ ptk::DateTime FirstDay(const Size& size)
 
 std::string DataFile(const Size& size)
 {
-    std::string path = dataFolder + "/" + size.name + ".mdb";
+    std::string path = dataFolder + "/" + size.name + ".trail.mdb"; // files without a trail had the names without it
     if (std::filesystem::exists(path)) {
         return path;
     }
@@ -88,6 +115,16 @@ std::string DataFile(const Size& size)
     Fill(unfinished, size);
     std::filesystem::rename(unfinished, path);
     return path;
+}
+
+std::string UntrailedCopy(const Size& size)
+{
+    std::string copy = ScratchCopy(size);
+    sqlite3* database = nullptr;
+    Require(sqlite3_open_v2(copy.c_str(), &database, SQLITE_OPEN_READWRITE, nullptr), database);
+    DropTriggers(database);
+    Require(sqlite3_close(database), nullptr);
+    return copy;
 }
 
 std::string ScratchCopy(const Size& size)

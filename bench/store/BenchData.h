@@ -15,6 +15,7 @@ struct Size
     const char* name;
     std::int32_t employees;
     std::int32_t records;
+    bool history = false; // whether the edit trail tells how each record was added
 };
 
 inline constexpr std::int32_t kFirstEmployee = 40;
@@ -24,11 +25,14 @@ extern const ptk::DateTime kLastDay;
 // The folder that --data names, else the present one.
 void DataFolder(std::string folder);
 
+std::string DataFolder();
+
 // The path of that file, made now if it is not there yet.
 std::string DataFile(const Size& size);
 
 // A copy to write to, made anew.
 std::string ScratchCopy(const Size& size);
+std::string UntrailedCopy(const Size& size); // of which no change is written down
 
 ptk::DateTime FirstDay(const Size& size); // the day of every employee's first shift
 

@@ -139,7 +139,7 @@ void ProgramList(benchmark::State& state)
 
 void RawSaves(benchmark::State& state)
 {
-    const std::string path = ScratchCopy(kSmall);
+    const std::string path = UntrailedCopy(kSmall);
     std::int32_t record = 0;
     for (auto unused : state) {
         ++record;

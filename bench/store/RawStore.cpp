@@ -143,4 +143,33 @@ void RawSave(const std::string& path, std::int32_t record, const std::string& en
     hold.Run("COMMIT");
 }
 
+void RawBackup(const std::string& path, const std::string& copy)
+{
+    const Hold from(path, "");
+    from.Run("COMMIT");
+    sqlite3* to = nullptr;
+    from.Require(sqlite3_open_v2(copy.c_str(), &to, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr));
+    sqlite3_backup* backup = sqlite3_backup_init(to, "main", from.Get(), "main");
+    from.Require(sqlite3_backup_step(backup, -1) == SQLITE_DONE ? SQLITE_OK : SQLITE_ERROR);
+    from.Require(sqlite3_backup_finish(backup)); // the engine flushes the copy when it commits it
+    sqlite3_close(to);
+}
+
+std::size_t RawHistory(const std::string& path, std::int32_t employee)
+{
+    const Hold hold(path, "");
+    sqlite3_stmt* statement = nullptr;
+    const std::string sql = fmt::format("SELECT * FROM _Change WHERE EmployeeAfter = {} ORDER BY ChangeID DESC", employee);
+    hold.Require(sqlite3_prepare_v2(hold.Get(), sql.c_str(), -1, &statement, nullptr));
+    std::size_t bytes = 0;
+    while (sqlite3_step(statement) == SQLITE_ROW) {
+        for (int column = 0; column < sqlite3_column_count(statement); ++column) {
+            bytes +=
+                sqlite3_column_text(statement, column) == nullptr ? 0 : static_cast<std::size_t>(sqlite3_column_bytes(statement, column));
+        }
+    }
+    sqlite3_finalize(statement);
+    return bytes;
+}
+
 } // namespace bench

@@ -9,6 +9,7 @@ namespace bench {
 void RegisterStoreBenchmarks(bool large);
 void RegisterReportBenchmarks();
 void RegisterCheckBenchmarks();
+void RegisterTrailBenchmarks();
 } // namespace bench
 
 int main(int argc, char** argv)
@@ -30,6 +31,7 @@ int main(int argc, char** argv)
     bench::RegisterStoreBenchmarks(large);
     bench::RegisterReportBenchmarks();
     bench::RegisterCheckBenchmarks();
+    bench::RegisterTrailBenchmarks();
     benchmark::RunSpecifiedBenchmarks();
     return 0;
 }

@@ -16,7 +16,7 @@ def program_folder(data, name):
     os.makedirs(os.path.join(folder, "system"), exist_ok=True)
     with open(os.path.join(folder, "system", "ptk_11.cfg"), "w", encoding="utf-8", newline="\r\n") as file:
         file.write("[PTK]\nDatabasePath=<app.path>\\system\\ptk_11.mdb\nShowLoginHelp=True\n")
-    shutil.copyfile(os.path.join(data, name + ".mdb"), os.path.join(folder, "system", "ptk_11.mdb"))
+    shutil.copyfile(os.path.join(data, name + ".trail.mdb"), os.path.join(folder, "system", "ptk_11.mdb"))
     return folder
 
 

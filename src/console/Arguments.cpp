@@ -25,6 +25,11 @@ void TakesDay(CLI::Option* option)
         CLI::Validator([](std::string& text) { return ReadDay(text) ? std::string() : "not a date: " + text; }, ""));
 }
 
+void TakesFormat(CLI::App* command, std::string& format)
+{
+    command->add_option("--format", format, "How: text, csv or json")->type_name("FORMAT")->check(CLI::IsMember({"text", "csv", "json"}));
+}
+
 std::vector<std::string> ConsoleNames()
 {
     std::vector<std::string> names;
@@ -46,6 +51,8 @@ struct Words
     std::string from;
     std::string to;
     std::string report;
+    std::string target;
+    std::string file;
     std::vector<std::string> employees;
 };
 
@@ -60,9 +67,12 @@ private:
     void DescribeTimeCard();
     void DescribeReport();
     void DescribeOverview();
+    void DescribeHistory();
+    void DescribeBackups();
     void CheckReport() const;
     std::variant<Arguments, UsageAnswer> Answer(const CLI::ParseError& error) const;
     Arguments Result() const;
+    Command BackupResult() const;
 
     Words m_words;
     CLI::App m_app{"PTK - Administrator for terminals and scheduled jobs: time cards and reports from the program folder's database",
@@ -71,6 +81,10 @@ private:
     CLI::App* m_timeCard = nullptr;
     CLI::App* m_report = nullptr;
     CLI::App* m_overview = nullptr;
+    CLI::App* m_history = nullptr;
+    CLI::App* m_backup = nullptr;
+    CLI::App* m_restore = nullptr;
+    CLI::App* m_backups = nullptr;
 };
 
 Grammar::Grammar()
@@ -88,6 +102,8 @@ Grammar::Grammar()
     DescribeTimeCard();
     DescribeReport();
     DescribeOverview();
+    DescribeHistory();
+    DescribeBackups();
     m_app.add_subcommand("check", "Verify the database's integrity and schema and print its row counts");
 }
 
@@ -129,9 +145,26 @@ void Grammar::DescribeOverview()
         ->allow_extra_args(false);
     TakesDay(m_overview->add_option("--from", m_words.from, "First day; else as the Reports page offers"));
     TakesDay(m_overview->add_option("--to", m_words.to, "Last day, inclusive; else by the length of a pay period"));
-    m_overview->add_option("--format", m_words.format, "How: text, csv or json")
-        ->type_name("FORMAT")
-        ->check(CLI::IsMember({"text", "csv", "json"}));
+    TakesFormat(m_overview, m_words.format);
+}
+
+void Grammar::DescribeHistory()
+{
+    m_history = m_app.add_subcommand("history", "Print who changed what, when, from what to what; the newest change first");
+    m_history->add_option("--employee", m_words.employee, "Only what was changed of this employee and of the time records")
+        ->type_name("NAME");
+    TakesDay(m_history->add_option("--from", m_words.from, "First day of the changes"));
+    TakesDay(m_history->add_option("--to", m_words.to, "Last day of the changes, inclusive"));
+    TakesFormat(m_history, m_words.format);
+}
+
+void Grammar::DescribeBackups()
+{
+    m_backup = m_app.add_subcommand("backup", "Back the database up into the folder backups, and remove backups that need not be kept");
+    m_backup->add_option("--to", m_words.target, "Into this new file instead, and remove nothing")->type_name("FILE");
+    m_restore = m_app.add_subcommand("restore", "Put a backup in the place of the database, which is backed up first");
+    m_restore->add_option("file", m_words.file, "The backup, or the name of one in the folder backups")->type_name("FILE")->required();
+    m_backups = m_app.add_subcommand("backups", "List the backups, the newest first");
 }
 
 // What each report has no use for is refused rather than silently left aside.
@@ -189,7 +222,26 @@ Arguments Grammar::Result() const
     if (m_overview->parsed()) {
         return {m_words.programFolder, OverviewArguments{m_words.employees, ReadDay(m_words.from), ReadDay(m_words.to), m_words.format}};
     }
-    return {m_words.programFolder, CheckArguments{}};
+    if (m_history->parsed()) {
+        const bool named = m_history->count("--employee") > 0;
+        return {m_words.programFolder, HistoryArguments{named ? std::optional(m_words.employee) : std::nullopt, ReadDay(m_words.from),
+                                                        ReadDay(m_words.to), m_words.format}};
+    }
+    return {m_words.programFolder, BackupResult()};
+}
+
+Command Grammar::BackupResult() const
+{
+    if (m_backup->parsed()) {
+        return BackupArguments{m_backup->count("--to") > 0 ? std::optional(m_words.target) : std::nullopt};
+    }
+    if (m_restore->parsed()) {
+        return RestoreArguments{m_words.file};
+    }
+    if (m_backups->parsed()) {
+        return BackupsArguments{};
+    }
+    return CheckArguments{};
 }
 
 } // namespace

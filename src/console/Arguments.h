@@ -41,14 +41,39 @@ struct OverviewArguments
     std::string format; // one of text, csv, json
 };
 
+struct HistoryArguments
+{
+    std::optional<std::string> employee; // a display name, present or former; none: all entries
+    std::optional<DateTime> from;
+    std::optional<DateTime> to; // inclusive
+    std::string format;         // one of text, csv, json
+};
+
+struct BackupArguments
+{
+    std::optional<std::string> to; // a file; none: into the folder of backups
+};
+
+struct RestoreArguments
+{
+    std::string file;
+};
+
+struct BackupsArguments
+{
+};
+
 struct CheckArguments
 {
 };
 
+using Command = std::variant<CreateDatabaseArguments, TimeCardArguments, ReportArguments, OverviewArguments, HistoryArguments,
+                             BackupArguments, RestoreArguments, BackupsArguments, CheckArguments>;
+
 struct Arguments
 {
     std::string programFolder; // empty: not given
-    std::variant<CreateDatabaseArguments, TimeCardArguments, ReportArguments, OverviewArguments, CheckArguments> command;
+    Command command;
 };
 
 // What stands instead of arguments when there is nothing to do any more: the text asked for (help, version) or what is wrong.

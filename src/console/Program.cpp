@@ -19,6 +19,10 @@ struct Dispatch
     int operator()(const TimeCardArguments& arguments) const { return TimeCardCommand(arguments, console); }
     int operator()(const ReportArguments& arguments) const { return ReportCommand(arguments, console); }
     int operator()(const OverviewArguments& arguments) const { return OverviewCommand(arguments, console); }
+    int operator()(const HistoryArguments& arguments) const { return HistoryCommand(arguments, console); }
+    int operator()(const BackupArguments& arguments) const { return BackupCommand(arguments, console); }
+    int operator()(const RestoreArguments& arguments) const { return RestoreCommand(arguments, console); }
+    int operator()(const BackupsArguments& arguments) const { return BackupsCommand(arguments, console); }
     int operator()(const CheckArguments& arguments) const { return CheckCommand(arguments, console); }
 };
 

@@ -1,5 +1,6 @@
 #include "console/Session.h"
 
+#include "console/Account.h"
 #include "console/ErrorText.h"
 #include "model/CEmployeeList.h"
 #include "model/CTimeRecordFactory.h"
@@ -24,16 +25,13 @@ std::shared_ptr<CDatabaseLocator> LocateDatabase(const std::string& programFolde
     return locator;
 }
 
-namespace {
-
 std::shared_ptr<CJetDB> ConfiguredDatabase(const std::string& programFolder)
 {
     auto database = std::make_shared<CJetDB>(programFolder);
     database->DatabaseName(LocateDatabase(programFolder)->DatabasePath());
+    database->StoredBy(ConsoleAuthor());
     return database;
 }
-
-} // namespace
 
 Session::Session(const std::string& programFolder)
     : m_database(ConfiguredDatabase(programFolder)), m_hold(m_database), m_employees(std::make_shared<CEmployeeList>()),

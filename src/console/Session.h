@@ -18,6 +18,9 @@ class CTimeRecordFactory;
 // Where the configuration says the database is, with backslashes as configured. Raises a failure without a number when it names none.
 std::shared_ptr<CDatabaseLocator> LocateDatabase(const std::string& programFolder);
 
+// The database that the configuration names, closed; what is stored through it is told as this program's.
+std::shared_ptr<CJetDB> ConfiguredDatabase(const std::string& programFolder);
+
 // Holds the database until it is told to give it up: whatever a command reads is of one moment.
 class Session
 {

@@ -7,18 +7,16 @@ namespace ptk {
 
 namespace {
 
-constexpr StoreCalls<CompanyRow> kCalls{&CJetDB::AddNewCompany, &CJetDB::UpdateCompany, &CJetDB::DeleteCompany, company::SaveFailed};
+constexpr StoreCalls<CompanyRow> kCalls{&CJetDB::AddNewCompany, &CJetDB::UpdateCompany, &CJetDB::UpdateCompany, &CJetDB::DeleteCompany,
+                                        company::SaveFailed};
 
 } // namespace
 
-CCompany::CCompany(CompanyRow row) : m_row(std::move(row))
-{
-    ObjectState(state::Unchanged);
-}
+CCompany::CCompany(CompanyRow row) : RowEntity(std::move(row)) {}
 
 bool CCompany::Save(const std::shared_ptr<CJetDB>& thedatabase)
 {
-    return SaveRow(thedatabase, m_row, kCalls);
+    return SaveRow(thedatabase, &CompanyRow::CompanyID, kCalls);
 }
 
 std::string CCompany::ToString()

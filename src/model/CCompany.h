@@ -15,7 +15,7 @@ namespace ptk {
 class CJetDB;
 
 // Setters store the value as it is; the fields' meanings stand at CompanyRow.
-class CCompany : public Entity
+class CCompany : public RowEntity<CompanyRow>
 {
 public:
     CCompany() = default;
@@ -23,36 +23,34 @@ public:
 
     void CompanyID(std::int32_t value) { SetKey(m_row.CompanyID, value); }
     std::int32_t CompanyID() const { return m_row.CompanyID; }
-    void CompanyName(std::string value) { Set(m_row.CompanyName, std::move(value)); }
+    void CompanyName(std::string value) { Change(&CompanyRow::CompanyName, std::move(value)); }
     const std::string& CompanyName() const { return m_row.CompanyName; }
-    void Address1(std::string value) { Set(m_row.Address1, std::move(value)); }
+    void Address1(std::string value) { Change(&CompanyRow::Address1, std::move(value)); }
     const std::string& Address1() const { return m_row.Address1; }
-    void Address2(std::string value) { Set(m_row.Address2, std::move(value)); }
+    void Address2(std::string value) { Change(&CompanyRow::Address2, std::move(value)); }
     const std::string& Address2() const { return m_row.Address2; }
-    void City(std::string value) { Set(m_row.City, std::move(value)); }
+    void City(std::string value) { Change(&CompanyRow::City, std::move(value)); }
     const std::string& City() const { return m_row.City; }
-    void State(std::string value) { Set(m_row.State, std::move(value)); }
+    void State(std::string value) { Change(&CompanyRow::State, std::move(value)); }
     const std::string& State() const { return m_row.State; }
-    void ZipCode(std::string value) { Set(m_row.ZipCode, std::move(value)); }
+    void ZipCode(std::string value) { Change(&CompanyRow::ZipCode, std::move(value)); }
     const std::string& ZipCode() const { return m_row.ZipCode; }
-    void Phone(std::string value) { Set(m_row.Phone, std::move(value)); }
+    void Phone(std::string value) { Change(&CompanyRow::Phone, std::move(value)); }
     const std::string& Phone() const { return m_row.Phone; }
-    void Fax(std::string value) { Set(m_row.Fax, std::move(value)); }
+    void Fax(std::string value) { Change(&CompanyRow::Fax, std::move(value)); }
     const std::string& Fax() const { return m_row.Fax; }
-    void FederalTaxID(std::string value) { Set(m_row.FederalTaxID, std::move(value)); }
+    void FederalTaxID(std::string value) { Change(&CompanyRow::FederalTaxID, std::move(value)); }
     const std::string& FederalTaxID() const { return m_row.FederalTaxID; }
-    void URL(std::string value) { Set(m_row.URL, std::move(value)); }
+    void URL(std::string value) { Change(&CompanyRow::URL, std::move(value)); }
     const std::string& URL() const { return m_row.URL; }
 
-    // Adds, updates or deletes by state; false with 321 in any other. Unchanged afterwards in every case.
+    // Adds, updates or deletes by state; false with 321 in any other. Unchanged afterwards in every case. A row that was changed since it
+    // was read is not overwritten: false with the database's Conflict.
     bool Save(const std::shared_ptr<CJetDB>& thedatabase);
 
     std::string ToString(); // the whole record; lines end in CR LF. What could be built, with 806, when it failed
 
-    const CompanyRow& Row() const { return m_row; }
-
-private:
-    CompanyRow m_row;
+    const CompanyRow& Row() const { return Fields(); }
 };
 
 } // namespace ptk

@@ -8,7 +8,8 @@ namespace ptk {
 
 namespace {
 
-constexpr StoreCalls<EmployeeRow> kCalls{&CJetDB::AddNewEmployee, &CJetDB::UpdateEmployee, &CJetDB::DeleteEmployee, employee::SaveFailed};
+constexpr StoreCalls<EmployeeRow> kCalls{&CJetDB::AddNewEmployee, &CJetDB::UpdateEmployee, &CJetDB::UpdateEmployee, &CJetDB::DeleteEmployee,
+                                         employee::SaveFailed};
 
 // An unknown date leaves the label alone on its line, without the tab.
 void AppendDate(std::string& text, const char* label, DateTime date)
@@ -43,14 +44,11 @@ void AppendEmployment(std::string& text, const EmployeeRow& row)
 
 } // namespace
 
-CEmployee::CEmployee(EmployeeRow row) : m_row(std::move(row))
-{
-    ObjectState(state::Unchanged);
-}
+CEmployee::CEmployee(EmployeeRow row) : RowEntity(std::move(row)) {}
 
 bool CEmployee::Save(const std::shared_ptr<CJetDB>& thedatabase)
 {
-    return SaveRow(thedatabase, m_row, kCalls);
+    return SaveRow(thedatabase, &EmployeeRow::EmployeeID, kCalls);
 }
 
 std::string CEmployee::ToString()

@@ -17,7 +17,7 @@ namespace ptk {
 class CJetDB;
 
 // Setters store the value as it is; units and meanings of the fields stand at EmployeeRow.
-class CEmployee : public Entity
+class CEmployee : public RowEntity<EmployeeRow>
 {
 public:
     CEmployee() = default;
@@ -25,50 +25,51 @@ public:
 
     void EmployeeID(std::int32_t value) { SetKey(m_row.EmployeeID, value); }
     std::int32_t EmployeeID() const { return m_row.EmployeeID; }
-    void SSN(std::string value) { Set(m_row.SSN, std::move(value)); }
+    void SSN(std::string value) { Change(&EmployeeRow::SSN, std::move(value)); }
     const std::string& SSN() const { return m_row.SSN; }
-    void EmployeeNumber(std::int32_t value) { Set(m_row.EmployeeNumber, value); }
+    void EmployeeNumber(std::int32_t value) { Change(&EmployeeRow::EmployeeNumber, value); }
     std::int32_t EmployeeNumber() const { return m_row.EmployeeNumber; }
-    void FirstName(std::string value) { Set(m_row.FirstName, std::move(value)); }
+    void FirstName(std::string value) { Change(&EmployeeRow::FirstName, std::move(value)); }
     const std::string& FirstName() const { return m_row.FirstName; }
-    void LastName(std::string value) { Set(m_row.LastName, std::move(value)); }
+    void LastName(std::string value) { Change(&EmployeeRow::LastName, std::move(value)); }
     const std::string& LastName() const { return m_row.LastName; }
-    void Address1(std::string value) { Set(m_row.Address1, std::move(value)); }
+    void Address1(std::string value) { Change(&EmployeeRow::Address1, std::move(value)); }
     const std::string& Address1() const { return m_row.Address1; }
-    void Address2(std::string value) { Set(m_row.Address2, std::move(value)); }
+    void Address2(std::string value) { Change(&EmployeeRow::Address2, std::move(value)); }
     const std::string& Address2() const { return m_row.Address2; }
-    void City(std::string value) { Set(m_row.City, std::move(value)); }
+    void City(std::string value) { Change(&EmployeeRow::City, std::move(value)); }
     const std::string& City() const { return m_row.City; }
-    void State(std::string value) { Set(m_row.State, std::move(value)); }
+    void State(std::string value) { Change(&EmployeeRow::State, std::move(value)); }
     const std::string& State() const { return m_row.State; }
-    void ZipCode(std::string value) { Set(m_row.ZipCode, std::move(value)); }
+    void ZipCode(std::string value) { Change(&EmployeeRow::ZipCode, std::move(value)); }
     const std::string& ZipCode() const { return m_row.ZipCode; }
-    void Phone(std::string value) { Set(m_row.Phone, std::move(value)); }
+    void Phone(std::string value) { Change(&EmployeeRow::Phone, std::move(value)); }
     const std::string& Phone() const { return m_row.Phone; }
-    void Password(std::string value) { Set(m_row.Password, std::move(value)); }
+    void Password(std::string value) { Change(&EmployeeRow::Password, std::move(value)); }
     const std::string& Password() const { return m_row.Password; }
-    void PayRate(float value) { Set(m_row.PayRate, value); }
+    void PayRate(float value) { Change(&EmployeeRow::PayRate, value); }
     float PayRate() const { return m_row.PayRate; }
-    void OvertimePayRate(float value) { Set(m_row.OvertimePayRate, value); }
+    void OvertimePayRate(float value) { Change(&EmployeeRow::OvertimePayRate, value); }
     float OvertimePayRate() const { return m_row.OvertimePayRate; }
-    void DateOfBirth(DateTime value) { Set(m_row.DateOfBirth, value); }
+    void DateOfBirth(DateTime value) { Change(&EmployeeRow::DateOfBirth, value); }
     DateTime DateOfBirth() const { return m_row.DateOfBirth; }
-    void HireDate(DateTime value) { Set(m_row.HireDate, value); }
+    void HireDate(DateTime value) { Change(&EmployeeRow::HireDate, value); }
     DateTime HireDate() const { return m_row.HireDate; }
-    void ReleaseDate(DateTime value) { Set(m_row.ReleaseDate, value); }
+    void ReleaseDate(DateTime value) { Change(&EmployeeRow::ReleaseDate, value); }
     DateTime ReleaseDate() const { return m_row.ReleaseDate; }
-    void EmployeeActive(bool value) { Set(m_row.EmployeeActive, value); }
+    void EmployeeActive(bool value) { Change(&EmployeeRow::EmployeeActive, value); }
     bool EmployeeActive() const { return m_row.EmployeeActive; }
-    void CompanyID(std::int32_t value) { Set(m_row.CompanyID, value); }
+    void CompanyID(std::int32_t value) { Change(&EmployeeRow::CompanyID, value); }
     std::int32_t CompanyID() const { return m_row.CompanyID; }
-    void AutoDeduct(bool value) { Set(m_row.AutoDeduct, value); }
+    void AutoDeduct(bool value) { Change(&EmployeeRow::AutoDeduct, value); }
     bool AutoDeduct() const { return m_row.AutoDeduct; }
-    void AutoDeductLunchLength(std::int16_t value) { Set(m_row.AutoDeductLunchLength, value); }
+    void AutoDeductLunchLength(std::int16_t value) { Change(&EmployeeRow::AutoDeductLunchLength, value); }
     std::int16_t AutoDeductLunchLength() const { return m_row.AutoDeductLunchLength; }
-    void AutoDeductBreakLength(std::int16_t value) { Set(m_row.AutoDeductBreakLength, value); }
+    void AutoDeductBreakLength(std::int16_t value) { Change(&EmployeeRow::AutoDeductBreakLength, value); }
     std::int16_t AutoDeductBreakLength() const { return m_row.AutoDeductBreakLength; }
 
-    // Adds, updates or deletes by state; false with 803 in any other. Unchanged afterwards in every case.
+    // Adds, updates or deletes by state; false with 803 in any other. Unchanged afterwards in every case. A row that was changed since it
+    // was read is not overwritten: false with the database's Conflict.
     bool Save(const std::shared_ptr<CJetDB>& thedatabase);
 
     // Lines end in CR LF. The labels' wording, blanks and tabs differ between the three forms, deliberately. What could be built, with 806,
@@ -85,10 +86,7 @@ public:
     // Whether the employee has hours to show: active, and not an administrator by display name.
     bool OfferedOnTimeCards() const;
 
-    const EmployeeRow& Row() const { return m_row; }
-
-private:
-    EmployeeRow m_row;
+    const EmployeeRow& Row() const { return Fields(); }
 };
 
 } // namespace ptk

@@ -54,6 +54,11 @@ public:
     std::string ToString(float breakHours);
     std::string ToStringReport(); // the same without the hours
 
+    // What the database had when the record was read or last stored there; nothing for one that never was. It holds a save to that row.
+    const std::optional<TimeRecordRow>& AsRead() const { return m_asRead; }
+    void KeepAsRead() { m_asRead = Row(); } // the database has it as it is now
+    void ForgetAsRead() { m_asRead.reset(); }
+
     void AppendTime(std::string& text, DateTime time) const; // in this record's format; may raise failures
 
     TimeRecordRow Row() const { return {m_timeRecordID, m_employeeID, m_startTime, m_endTime, ObjectState()}; }
@@ -66,6 +71,7 @@ private:
 
     std::weak_ptr<CTimeRecordFactory> m_factory;
     std::optional<std::string> m_formatString; // none = the default, which would cost every record an allocation
+    std::optional<TimeRecordRow> m_asRead;
     DateTime m_startTime;
     DateTime m_endTime;
     std::int32_t m_timeRecordID = -1;

@@ -24,6 +24,7 @@ std::shared_ptr<CTimeRecord> RecordOf(const TimeRecordRow& row)
     record->StartTime(row.StartTime);
     record->EndTime(row.EndTime);
     record->ObjectState(row.ObjectState); // last, since filling marks it changed
+    record->KeepAsRead();
     return record;
 }
 
@@ -44,7 +45,7 @@ void CTimeRecordFactory::PTKDatabase(std::shared_ptr<CJetDB> value)
 bool CTimeRecordFactory::ResetError()
 {
     m_errorNumber = 0;
-    m_lastFailure = Failure(0, "", "");
+    ForgetFailure();
     return true;
 }
 
@@ -116,12 +117,30 @@ bool CTimeRecordFactory::DestroyList()
     return true;
 }
 
-bool CTimeRecordFactory::Save(const std::shared_ptr<CTimeRecord>& thetimerecord)
+void CTimeRecordFactory::ForgetFailure()
 {
     m_lastFailure = Failure(0, "", "");
+    m_conflict.reset();
+}
+
+// What the database has now, for the next save: a new record's number is not known, a deleted one's row is gone.
+void CTimeRecordFactory::Stored(CTimeRecord& record)
+{
+    if (record.ObjectState() == state::Changed) {
+        record.KeepAsRead();
+    } else {
+        record.ForgetAsRead();
+    }
+}
+
+bool CTimeRecordFactory::Save(const std::shared_ptr<CTimeRecord>& thetimerecord)
+{
+    ForgetFailure();
     try {
         if (m_database != nullptr && thetimerecord != nullptr) {
-            TakeAnswer(m_database->ExecuteAction(thetimerecord->ToSQL()));
+            const TimeRecordWrite write = WriteOf(*thetimerecord);
+            const bool stored = write.asRead ? m_database->SaveTimeRecords({&write, 1}) : m_database->ExecuteAction(write.statement);
+            TakeAnswer(stored, {thetimerecord.get()});
         }
         return true;
     } catch (...) {
@@ -134,17 +153,16 @@ bool CTimeRecordFactory::SaveList()
 {
     ResetError();
     try {
-        if (m_list == nullptr) {
-            throw Failure(failure::ObjectNotSet);
-        }
-        std::vector<std::string> statements;
-        for (std::int32_t i = 1; i <= m_list->Count(); ++i) {
-            if (NeedsSaving(m_list->RecordAt(i))) {
-                statements.push_back(m_list->RecordAt(i).ToSQL());
+        std::vector<CTimeRecord*> records;
+        std::vector<TimeRecordWrite> writes;
+        for (std::int32_t i = 1; i <= Required(m_list)->Count(); ++i) {
+            if (CTimeRecord& record = m_list->RecordAt(i); NeedsSaving(record)) {
+                records.push_back(&record);
+                writes.push_back(WriteOf(record));
             }
         }
         if (m_database != nullptr) {
-            TakeAnswer(m_database->ExecuteActions(statements));
+            TakeAnswer(m_database->SaveTimeRecords(writes), records);
         }
         return true;
     } catch (...) {
@@ -153,11 +171,27 @@ bool CTimeRecordFactory::SaveList()
     }
 }
 
-void CTimeRecordFactory::TakeAnswer(bool stored)
+// A record that was given another number is not the row that was read, and a new one none at all.
+TimeRecordWrite CTimeRecordFactory::WriteOf(const CTimeRecord& record)
+{
+    TimeRecordWrite write{record.ToSQL(), record.AsRead()};
+    const bool sameRow = write.asRead && write.asRead->TimeRecordID == record.TimeRecordID() && record.ObjectState() != state::New;
+    if (!sameRow || write.statement.empty()) {
+        write.asRead.reset();
+    }
+    return write;
+}
+
+void CTimeRecordFactory::TakeAnswer(bool stored, const std::vector<CTimeRecord*>& records)
 {
     if (!stored) {
         m_errorNumber = recordfactory::SaveFailed;
         m_lastFailure = m_database->LastFailure();
+        m_conflict = m_database->Conflict();
+        return;
+    }
+    for (CTimeRecord* record : records) {
+        Stored(*record);
     }
 }
 

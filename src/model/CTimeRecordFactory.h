@@ -4,13 +4,15 @@
 #include "platform/DateTime.h"
 #include "platform/ErrorNumbers.h"
 #include "platform/Failure.h"
+#include "store/CJetDB.h"
 
 #include <cstdint>
 #include <memory>
+#include <optional>
+#include <vector>
 
 namespace ptk {
 
-class CJetDB;
 class CTimeRecord;
 class CTimeRecordList;
 class RecordSet;
@@ -28,6 +30,9 @@ public:
     // Why the last BuildList, Save or SaveList did not do what it should, in words for the program's users; number 0 and no text when it
     // did, a period without records included. See CJetDB::LastFailure.
     const Failure& LastFailure() const { return m_lastFailure; }
+
+    // The row that somebody else had changed or removed since it was read, where that was why the last Save or SaveList was refused.
+    const std::optional<RowConflict>& Conflict() const { return m_conflict; }
 
     // Replaces the contents of the current list, the same list object. Bounds as CTimeRecSQLConverter::BuildFetchSQL takes them. False with
     // 301 for a period without records or a failure, the list then holding what was read; a database that cannot be opened gives true and
@@ -49,13 +54,17 @@ private:
     // False for a period without records; true, with an empty list, also where the database could not be read, deliberately.
     bool Load(std::int32_t theemployeeid, DateTime thestarttime, DateTime theendtime);
     void InsertRows(RecordSet& rows);
-    void TakeAnswer(bool stored);
+    static TimeRecordWrite WriteOf(const CTimeRecord& record);
+    static void Stored(CTimeRecord& record);
+    void TakeAnswer(bool stored, const std::vector<CTimeRecord*>& records);
+    void ForgetFailure();
     bool Fail(std::int32_t errorNumber); // always false
 
     std::shared_ptr<CJetDB> m_database;
     std::shared_ptr<CTimeRecordList> m_list;
     std::int32_t m_errorNumber = 0;
     Failure m_lastFailure{0, "", ""};
+    std::optional<RowConflict> m_conflict;
 };
 
 } // namespace ptk

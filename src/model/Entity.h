@@ -19,6 +19,7 @@ struct StoreCalls
 {
     bool (CJetDB::*add)(const Row&);
     bool (CJetDB::*update)(const Row&);
+    bool (CJetDB::*updateAsRead)(const Row&, const Row& asRead); // refused when the stored row is another
     bool (CJetDB::*remove)(const Row&);
     std::int32_t wrongState;
 };
@@ -58,19 +59,6 @@ protected:
         }
     }
 
-    // Stores the row the way the state asks for. Deliberately unchanged afterwards even when that failed: a refused row is not tried again.
-    template <typename Row>
-    bool SaveRow(const std::shared_ptr<CJetDB>& thedatabase, const Row& row, const StoreCalls<Row>& calls)
-    {
-        m_errorNumber = 0;
-        const auto call = CallFor(calls);
-        if (call == nullptr) {
-            m_errorNumber = calls.wrongState;
-        }
-        m_objectState = state::Unchanged;
-        return call != nullptr && thedatabase != nullptr && ((*thedatabase).*call)(row);
-    }
-
     void ErrorNumber(std::int32_t value) { m_errorNumber = value; }
 
     // The text that `append` writes; with `failedNumber` what was there when it failed.
@@ -85,23 +73,69 @@ protected:
     static constexpr std::int32_t kNotStored = -1;
 
 private:
-    template <typename Row>
-    auto CallFor(const StoreCalls<Row>& calls) const -> bool (CJetDB::*)(const Row&)
-    {
-        switch (m_objectState) {
-        case state::New:
-            return calls.add;
-        case state::Changed:
-            return calls.update;
-        case state::Deleted:
-            return calls.remove;
-        default:
-            return nullptr;
-        }
-    }
-
     std::int32_t m_objectState = state::New;
     std::int32_t m_errorNumber = 0;
+};
+
+// An entity that is one row of a table, and knows as what it was read, so that a save overwrites nobody else's change.
+template <typename Row>
+class RowEntity : public Entity
+{
+public:
+    const Row& Fields() const { return m_row; }
+
+protected:
+    RowEntity() = default;
+    explicit RowEntity(Row row) : m_row(std::move(row)), m_stored(true) { ObjectState(state::Unchanged); } // as loaded
+    ~RowEntity() = default;
+
+    template <typename Field>
+    void Change(Field Row::*field, Field value)
+    {
+        if (m_stored) {
+            m_asRead = std::make_shared<const Row>(m_row); // only now: most entities are never changed
+            m_stored = false;
+        }
+        Set(m_row.*field, std::move(value));
+    }
+
+    // Stores the row the way the state asks for. Deliberately unchanged afterwards even when that failed: a refused row is not tried again.
+    bool SaveRow(const std::shared_ptr<CJetDB>& thedatabase, std::int32_t Row::*key, const StoreCalls<Row>& calls)
+    {
+        ErrorNumber(0);
+        const std::int32_t wanted = ObjectState();
+        ObjectState(state::Unchanged);
+        if (wanted != state::New && wanted != state::Changed && wanted != state::Deleted) {
+            ErrorNumber(calls.wrongState);
+            return false;
+        }
+        if (thedatabase == nullptr) {
+            return false;
+        }
+        if (wanted == state::Changed) {
+            return Update(*thedatabase, key, calls);
+        }
+        return ((*thedatabase).*(wanted == state::New ? calls.add : calls.remove))(m_row);
+    }
+
+    Row m_row;
+
+private:
+    // A row that was given another key is not the one that was read.
+    bool Update(CJetDB& database, std::int32_t Row::*key, const StoreCalls<Row>& calls)
+    {
+        const Row* asRead = m_stored ? &m_row : m_asRead.get();
+        const bool known = asRead != nullptr && asRead->*key == m_row.*key;
+        const bool updated = known ? (database.*calls.updateAsRead)(m_row, *asRead) : (database.*calls.update)(m_row);
+        if (updated) {
+            m_stored = true;
+            m_asRead.reset();
+        }
+        return updated;
+    }
+
+    std::shared_ptr<const Row> m_asRead; // where it was changed since
+    bool m_stored = false;               // whether the row is as the database has it
 };
 
 } // namespace ptk

@@ -2,15 +2,15 @@
 #pragma once
 
 #include "shell/KeyedList.h"
+#include "store/CJetDB.h"
 #include "store/Rows.h"
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <utility>
 
 namespace ptk {
-
-class CJetDB;
 
 // `Self` is the list class itself.
 template <typename Self, typename Object>
@@ -77,18 +77,26 @@ public:
         return loaded;
     }
 
-    // Saves every object that needs it, also after one failed. True when all of them, or none, were saved.
+    // Saves every object that needs it, also after one failed, as one step of the edit trail. True when all of them, or none, were saved.
     bool SaveList()
     {
         this->ClearError();
+        m_lastFailure = Failure(0, "", "");
+        m_conflict.reset();
+        const CJetDB::Step step(this->Database());
         bool saved = true;
         for (const auto& entry : this->Entries()) {
             if (entry != nullptr && entry->ObjectState() != state::Unchanged && entry->ObjectState() != state::NothingToDo) {
-                saved = entry->Save(this->Database()) && saved;
+                saved = SaveEntry(*entry) && saved;
             }
         }
         return saved;
     }
+
+    // Why the last SaveList failed first, in words for the program's users; number 0 and no text when it did not. And the row that somebody
+    // else had changed or removed, where that was why.
+    const Failure& LastFailure() const { return m_lastFailure; }
+    const std::optional<RowConflict>& Conflict() const { return m_conflict; }
 
 protected:
     EntityList() = default;
@@ -110,7 +118,20 @@ protected:
 private:
     static constexpr std::int32_t kAllCompanies = 0;
 
+    bool SaveEntry(Object& entry)
+    {
+        const bool saved = entry.Save(this->Database());
+        if (!saved && this->Database() != nullptr && m_lastFailure.Number() == 0) {
+            m_lastFailure = this->Database()->LastFailure();
+            m_conflict = this->Database()->Conflict();
+        }
+        return saved;
+    }
+
     virtual bool FillFrom(CJetDB& thedatabase) = 0;
+
+    Failure m_lastFailure{0, "", ""};
+    std::optional<RowConflict> m_conflict;
 };
 
 } // namespace ptk

@@ -35,6 +35,7 @@ constexpr std::array kTexts{
     NumberedText{jetdb::ListingFailed, "a stored query of the database could not be read"},
     NumberedText{jetdb::InsertFailed, "a record could not be added through its stored query"},
     NumberedText{jetdb::UpdateFailed, "a record could not be changed through its stored query"},
+    NumberedText{jetdb::RowChanged, "the record was changed or removed since it was read"},
     NumberedText{jetdb::NegativeCount, "a stored query of the database answered a negative number of rows"},
     NumberedText{report::NotOpen, "the report's file cannot be opened; is there a reports folder, and may it be written?"},
     NumberedText{fileerror::WriteOnly, "a file opened for writing cannot be read"},

@@ -43,6 +43,7 @@ inline constexpr std::int32_t StatementFailed = 407;                          //
 inline constexpr std::int32_t ListingFailed = 411;                            // a listing stored query failed
 inline constexpr std::int32_t InsertFailed = 412;                             // an insert through a stored query failed
 inline constexpr std::int32_t UpdateFailed = 413;                             // an update through a stored query failed
+inline constexpr std::int32_t RowChanged = 414;                               // only as a reason: the row is not as it was read
 inline constexpr std::int32_t NegativeCount = 421;                            // a listing reported a negative row count
 inline constexpr std::int32_t WorkingReferenceLost = listerror::InsertFailed; // a loaded company did not arrive in its list
 } // namespace jetdb

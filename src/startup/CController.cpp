@@ -103,7 +103,12 @@ bool CController::LogIn()
     m_loginWindow->ConfigFile(m_configFile);
     m_loginWindow->EmployeeList(m_employeeList);
     m_loginWindow->ShowModal();
-    return m_loginWindow->LoginValid();
+    if (!m_loginWindow->LoginValid()) {
+        return false;
+    }
+    m_author.name = m_loginWindow->LoggedIn();
+    m_database->StoredBy(m_author);
+    return true;
 }
 
 void CController::ShowMainWindow()
@@ -173,6 +178,7 @@ bool CController::OpenDatabase()
 {
     return Logged([this] {
         m_database = std::make_shared<CJetDB>(m_around.programFolder);
+        m_database->StoredBy(m_author);
         m_locator = std::make_shared<CDatabaseLocator>(m_around.programFolder);
         m_locator->ConfigFile(m_configFile);
         return m_locator->GetDatabasePath() && m_database->OpenPTKDatabase(m_locator);

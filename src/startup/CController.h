@@ -1,6 +1,8 @@
 // The hub of the running program: owns every shared object, brings the program up and shuts it down.
 #pragma once
 
+#include "store/engine/EditTrail.h"
+
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -109,6 +111,7 @@ private:
     std::shared_ptr<CTimeRecordFactory> m_timeRecordFactory;
     std::shared_ptr<CSystemOptions> m_systemOptions;
     std::shared_ptr<LoginWindow> m_loginWindow;
+    Author m_author{"", "ptk-admin"}; // of what is stored
 };
 
 } // namespace ptk

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <string>
 
 namespace ptk {
 
@@ -18,6 +19,7 @@ public:
     virtual void EmployeeList(std::shared_ptr<CEmployeeList> value) = 0;
     virtual void ShowModal() = 0; // returns when the window was hidden or closed
     virtual bool LoginValid() const = 0;
+    virtual std::string LoggedIn() const = 0; // the display name, as typed; of use when the login is valid
 };
 
 class MainWindow

@@ -1,8 +1,10 @@
 #include "store/CJetDB.h"
 
+#include "platform/Clock.h"
 #include "platform/Failure.h"
 #include "platform/ProgramFolder.h"
 #include "shell/CDatabaseLocator.h"
+#include "store/Backups.h"
 #include "store/engine/Engine.h"
 #include "store/engine/RecordSet.h"
 #include "store/QueryParameters.h"
@@ -23,6 +25,12 @@ constexpr const char* kAllCompanies = "GetAllCompanies";
 // As CEmployee puts display names together.
 constexpr const char* kHasDisplayName =
     "IIF(IFNULL(FirstName, '') = '', IFNULL(LastName, ''), FirstName || ' ' || IFNULL(LastName, '')) = :name";
+
+// Of what Update writes.
+bool SameOptions(const OptionsRow& a, const OptionsRow& b)
+{
+    return a.PeriodLength == b.PeriodLength && a.AutoShiftStartTime == b.AutoShiftStartTime && a.AutoShiftEndTime == b.AutoShiftEndTime;
+}
 
 } // namespace
 
@@ -50,6 +58,34 @@ CJetDB::Hold::~Hold()
     if (m_database != nullptr && --m_database->m_holds == 0) {
         m_database->CloseDB();
     }
+}
+
+CJetDB::Step::Step(std::shared_ptr<CJetDB> database) : m_database(std::move(database))
+{
+    if (m_database != nullptr && m_database->m_steps++ == 0) {
+        m_database->m_stepNumber = 0;
+    }
+}
+
+CJetDB::Step::~Step()
+{
+    if (m_database != nullptr && --m_database->m_steps == 0) {
+        m_database->m_stepNumber = 0;
+    }
+}
+
+std::shared_ptr<CJetDB> CJetDB::Afresh() const
+{
+    auto fresh = std::make_shared<CJetDB>(m_programFolder);
+    fresh->m_databaseName = m_databaseName;
+    fresh->m_memory = m_memory;
+    return fresh;
+}
+
+void CJetDB::ForgetFailure()
+{
+    m_lastFailure = Failure(0, "", "");
+    m_conflict.reset();
 }
 
 // The file stays open after a failure, deliberately; the hold goes, or others would be locked out until the next operation.
@@ -118,7 +154,11 @@ bool CJetDB::OpenFile(const std::string& name)
 {
     CloseFile(); // a hold of our own would lock us out like anybody else's
     try {
-        m_database = std::make_unique<Engine>(NativePath(name).string());
+        const std::string path = NativePath(name).string();
+        if (m_database == nullptr || m_database->Path() != path || !m_database->Reopen()) {
+            m_database = std::make_unique<Engine>(path);
+            Prepare(*m_database);
+        }
     } catch (...) {
         const Failure reason = CurrentFailure();
         return Fail(reason.Number(), reason); // the engine's own, which tells a file in use from a damaged one
@@ -127,6 +167,12 @@ bool CJetDB::OpenFile(const std::string& name)
     m_databaseOpen = true;
     m_holdFailure = Failure(0, "", "");
     return true;
+}
+
+// The times in the edit trail are the machine's too.
+void CJetDB::Prepare(Engine& engine)
+{
+    engine.KeepCopy([this, &engine] { BackUp(engine, BackupFolder(m_programFolder), SystemClock().Now()); });
 }
 
 bool CJetDB::JoinHold()
@@ -204,21 +250,35 @@ std::unique_ptr<Statement> CJetDB::PrepareSelect(const std::string& sqlstring)
 }
 
 // One operation that writes: opens the file when it is closed and closes it after success, whoever opened it.
-template <typename Steps>
-bool CJetDB::Change(std::int32_t errorNumber, Steps steps)
+bool CJetDB::Change(std::int32_t errorNumber, const std::function<void()>& steps)
 {
     ForgetFailure();
     OpenWhenClosed();
     const bool done = m_databaseOpen || FailWithoutDatabase();
     try {
         if (done) {
-            steps();
+            m_database->SignAs(m_memory->author);
+            m_database->StepNumber(m_stepNumber);
+            m_database->Write(steps);
+            TakeStep(m_database->StepNumber());
         }
+    } catch (const RowChanged& changed) {
+        m_conflict = changed.Conflict();
+        return Fail(errorNumber, changed);
     } catch (...) {
         return Fail(errorNumber, CurrentFailure()); // deliberately without closing: the next operation goes on with the open file
     }
     CloseWhenOpen();
     return done;
+}
+
+// Of the writes of one Step, the first that leaves an entry gives the number.
+void CJetDB::TakeStep(std::int64_t step)
+{
+    if (m_steps == 0 || step != 0) {
+        m_memory->lastStep = step;
+        m_stepNumber = m_steps > 0 ? step : 0;
+    }
 }
 
 bool CJetDB::ExecuteAction(const std::string& sqlstring)
@@ -229,7 +289,7 @@ bool CJetDB::ExecuteAction(const std::string& sqlstring)
         return false;
     }
     m_sql = sqlstring;
-    return Change(jetdb::StatementFailed, [&] { m_database->Execute(m_sql); });
+    return Change(jetdb::StatementFailed, [&] { m_database->Run(m_sql); });
 }
 
 bool CJetDB::ExecuteActions(std::span<const std::string> statements)
@@ -238,17 +298,78 @@ bool CJetDB::ExecuteActions(std::span<const std::string> statements)
         return true;
     }
     m_sql = statements.back();
-    return Change(jetdb::StatementFailed, [&] { m_database->ExecuteAll(statements); });
+    return Change(jetdb::StatementFailed, [&] {
+        for (const std::string& statement : statements) {
+            m_database->Run(statement);
+        }
+    });
+}
+
+bool CJetDB::ExecuteSteps(const std::function<void(Engine& engine)>& steps)
+{
+    return Change(jetdb::StatementFailed, [&] { steps(*m_database); });
+}
+
+bool CJetDB::SaveTimeRecords(std::span<const TimeRecordWrite> records)
+{
+    if (records.empty()) {
+        return true;
+    }
+    m_sql = records.back().statement;
+    return Change(jetdb::StatementFailed, [&] {
+        for (const TimeRecordWrite& record : records) {
+            if (record.asRead) {
+                RequireAsRead(*m_database, *record.asRead);
+            }
+            m_database->Run(record.statement);
+        }
+    });
+}
+
+bool CJetDB::UpdateOptions(const std::string& sqlstring, const OptionsRow& options, const OptionsRow& asRead)
+{
+    m_sql = sqlstring;
+    return Change(jetdb::StatementFailed, [&] {
+        const OptionsRow present = PresentOptions(*m_database);
+        if (SameOptions(options, present) || SameOptions(options, asRead)) {
+            return; // where only somebody else changed them, theirs stay
+        }
+        RequireAsRead(present, asRead);
+        m_database->Run(m_sql);
+    });
+}
+
+void CJetDB::RememberPassword(std::int32_t employeeID, const std::string& before, const std::string& after)
+{
+    if (before != after) {
+        m_memory->passwords.push_back({m_memory->lastStep, employeeID, before, after});
+    }
 }
 
 bool CJetDB::AddNewEmployee(const EmployeeRow& theemployee)
 {
-    return Change(jetdb::InsertFailed, [&] { m_database->ExecuteStored("AddNewEmployee", AddNewEmployeeParameters(theemployee)); });
+    const bool added = Change(jetdb::InsertFailed, [&] { m_database->RunStored("AddNewEmployee", AddNewEmployeeParameters(theemployee)); });
+    if (added) {
+        RememberPassword(0, "", theemployee.Password);
+    }
+    return added;
 }
 
 bool CJetDB::UpdateEmployee(const EmployeeRow& theemployee)
 {
-    return Change(jetdb::UpdateFailed, [&] { m_database->ExecuteStored("UpdateEmployee", UpdateEmployeeParameters(theemployee)); });
+    return Change(jetdb::UpdateFailed, [&] { m_database->RunStored("UpdateEmployee", UpdateEmployeeParameters(theemployee)); });
+}
+
+bool CJetDB::UpdateEmployee(const EmployeeRow& theemployee, const EmployeeRow& asRead)
+{
+    const bool updated = Change(jetdb::UpdateFailed, [&] {
+        RequireAsRead(*m_database, asRead);
+        m_database->RunStored("UpdateEmployee", UpdateEmployeeParameters(theemployee));
+    });
+    if (updated) {
+        RememberPassword(asRead.EmployeeID, asRead.Password, theemployee.Password);
+    }
+    return updated;
 }
 
 bool CJetDB::DeleteEmployee(const EmployeeRow& /*theemployee*/)
@@ -258,12 +379,20 @@ bool CJetDB::DeleteEmployee(const EmployeeRow& /*theemployee*/)
 
 bool CJetDB::AddNewCompany(const CompanyRow& thecompany)
 {
-    return Change(jetdb::InsertFailed, [&] { m_database->ExecuteStored("AddNewCompany", AddNewCompanyParameters(thecompany)); });
+    return Change(jetdb::InsertFailed, [&] { m_database->RunStored("AddNewCompany", AddNewCompanyParameters(thecompany)); });
 }
 
 bool CJetDB::UpdateCompany(const CompanyRow& thecompany)
 {
-    return Change(jetdb::UpdateFailed, [&] { m_database->ExecuteStored("UpdateCompany", UpdateCompanyParameters(thecompany)); });
+    return Change(jetdb::UpdateFailed, [&] { m_database->RunStored("UpdateCompany", UpdateCompanyParameters(thecompany)); });
+}
+
+bool CJetDB::UpdateCompany(const CompanyRow& thecompany, const CompanyRow& asRead)
+{
+    return Change(jetdb::UpdateFailed, [&] {
+        RequireAsRead(*m_database, asRead);
+        m_database->RunStored("UpdateCompany", UpdateCompanyParameters(thecompany));
+    });
 }
 
 bool CJetDB::DeleteCompany(const CompanyRow& /*thecompany*/)

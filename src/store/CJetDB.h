@@ -4,12 +4,17 @@
 
 #include "platform/ErrorNumbers.h"
 #include "platform/Failure.h"
+#include "store/engine/EditTrail.h"
+#include "store/RowConflict.h"
 #include "store/Rows.h"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
+#include <vector>
 
 namespace ptk {
 
@@ -17,6 +22,22 @@ class CDatabaseLocator;
 class Engine;
 class RecordSet;
 class Statement;
+
+// One time record to be stored: its statement, and the row as it was read, where it was. See CTimeRecSQLConverter.
+struct TimeRecordWrite
+{
+    std::string statement;
+    std::optional<TimeRecordRow> asRead;
+};
+
+// A password that an operation set. The edit trail says no more than that.
+struct PasswordChange
+{
+    std::int64_t step = 0;
+    std::int32_t employeeID = 0; // 0 for a new employee
+    std::string before;          // empty for a new employee
+    std::string after;
+};
 
 // Not thread-safe. Closed at creation; the destructor closes an open file. No member raises.
 // ErrorNumber is never reset: it keeps the last code until another is set, and LoadCompanyList even refuses on a stale one.
@@ -36,6 +57,19 @@ public:
         ~Hold();
         Hold(const Hold&) = delete;
         Hold& operator=(const Hold&) = delete;
+
+    private:
+        std::shared_ptr<CJetDB> m_database;
+    };
+
+    // While one lives, all that is stored is one step of the edit trail. Steps may nest.
+    class Step
+    {
+    public:
+        explicit Step(std::shared_ptr<CJetDB> database); // nullptr: of nothing
+        ~Step();
+        Step(const Step&) = delete;
+        Step& operator=(const Step&) = delete;
 
     private:
         std::shared_ptr<CJetDB> m_database;
@@ -62,6 +96,22 @@ public:
     // the engine's (source "SQLite"), a conversion's, or one of those above.
     const Failure& LastFailure() const { return m_lastFailure; }
 
+    // The same, where it was that the row to be stored had been changed or removed since it was read; nothing otherwise.
+    const std::optional<RowConflict>& Conflict() const { return m_conflict; }
+
+    // In whose name all that follows is stored, as the edit trail tells it.
+    void StoredBy(Author value) { m_memory->author = std::move(value); }
+    const Author& StoredBy() const { return m_memory->author; }
+
+    // The step of the edit trail of the last operation that stores; 0 where that changed nothing.
+    std::int64_t LastStep() const { return m_memory->lastStep; }
+
+    // The passwords that were set so far, in the order of their steps.
+    const std::vector<PasswordChange>& Passwords() const { return m_memory->passwords; }
+
+    // Another access to the same file, closed, that knows nothing of earlier failures. Author, steps and passwords are one for both.
+    std::shared_ptr<CJetDB> Afresh() const;
+
     // Opens the file that the locator found. An empty path opens nothing, answers false and leaves ErrorNumber alone.
     bool OpenPTKDatabase(const std::shared_ptr<CDatabaseLocator>& thedatabaselocator);
 
@@ -85,35 +135,57 @@ public:
     // The same for several statements in one transaction: all of them are stored, or none. Nothing to do is true.
     bool ExecuteActions(std::span<const std::string> statements);
 
+    // Stores time records, in one transaction and one step, provided that each row is as it was read: false with 407 and a Conflict where
+    // one is not, and nothing is stored.
+    bool SaveTimeRecords(std::span<const TimeRecordWrite> records);
+
+    // Changes the options in the same way; nothing is written where they are the same already.
+    bool UpdateOptions(const std::string& sqlstring, const OptionsRow& options, const OptionsRow& asRead);
+
+    // Runs steps in one transaction, as ExecuteAction runs a statement: false with 407. A RowChanged that they raise is a Conflict.
+    bool ExecuteSteps(const std::function<void(Engine& engine)>& steps);
+
     // Each opens the database when it is closed and closes it after success; a failed statement (412, 413) leaves it open.
     bool AddNewEmployee(const EmployeeRow& theemployee);
     bool LoadEmployeeList(EmployeeSink& thelist);
     bool LoadEmployeesNamed(EmployeeSink& thelist, const std::string& thename); // by display name; nobody else's row is read
     bool UpdateEmployee(const EmployeeRow& theemployee);
+    bool UpdateEmployee(const EmployeeRow& theemployee, const EmployeeRow& asRead); // 413 and a Conflict when it is not
     bool DeleteEmployee(const EmployeeRow& theemployee); // deliberately does nothing and answers false: employees are never deleted
     bool AddNewCompany(const CompanyRow& thecompany);
     bool LoadCompanyList(CompanySink& thelist);
     bool UpdateCompany(const CompanyRow& thecompany);
-    bool DeleteCompany(const CompanyRow& thecompany); // deliberately does nothing and answers false
+    bool UpdateCompany(const CompanyRow& thecompany, const CompanyRow& asRead); // as above
+    bool DeleteCompany(const CompanyRow& thecompany);                           // deliberately does nothing and answers false
 
 private:
     bool Fail(std::int32_t errorNumber, const char* reason); // always false, as the next
     bool Fail(std::int32_t errorNumber, Failure reason);
     bool FailWithoutDatabase();
-    void ForgetFailure() { m_lastFailure = Failure(0, "", ""); }
+    void ForgetFailure();
+    void Prepare(Engine& engine);
+    void TakeStep(std::int64_t step);
+    void RememberPassword(std::int32_t employeeID, const std::string& before, const std::string& after);
     bool OpenFile(const std::string& name);
     bool JoinHold();
     void CloseFile();
     void OpenWhenClosed();
     void CloseWhenOpen();
-    template <typename Steps>
-    bool Change(std::int32_t errorNumber, Steps steps);
+    bool Change(std::int32_t errorNumber, const std::function<void()>& steps);
     template <typename Listing>
     std::shared_ptr<RecordSet> OpenListing(Listing listing);
     bool FillEmployees(EmployeeSink& thelist, const std::shared_ptr<RecordSet>& rows);
     std::shared_ptr<RecordSet> OpenEmployeeQuery();
     std::shared_ptr<RecordSet> OpenCompanyQuery();
 
+    struct Memory
+    {
+        Author author;
+        std::int64_t lastStep = 0;
+        std::vector<PasswordChange> passwords;
+    };
+
+    std::shared_ptr<Memory> m_memory = std::make_shared<Memory>();
     std::shared_ptr<CDatabaseLocator> m_locator;
     std::unique_ptr<Engine> m_database; // kept after a close, as an unusable handle
     std::shared_ptr<RecordSet> m_recSet;
@@ -124,6 +196,9 @@ private:
     std::int16_t m_recordsetType = 0; // 0 stands for 4, a snapshot
     std::int32_t m_errorNumber = 0;
     Failure m_lastFailure{0, "", ""};
+    std::optional<RowConflict> m_conflict;
+    std::int32_t m_steps = 0;      // of those that live
+    std::int64_t m_stepNumber = 0; // theirs, once something was stored
     std::int32_t m_holds = 0;
     Failure m_holdFailure{0, "", ""}; // why the file that is to be held is not
     std::string m_programFolder;

@@ -43,7 +43,9 @@ bool CSystemOptions::Load()
         return false;
     }
     try {
+        m_asRead.reset();
         RowReader(*row, OptionsTable()).ReadOptions(m_row);
+        m_asRead = m_row;
     } catch (...) {
         m_database->GiveUpHold(); // the user is told before the next operation
         throw;
@@ -54,7 +56,14 @@ bool CSystemOptions::Load()
 bool CSystemOptions::Update()
 {
     BuildUpdateSQL();
-    return Required(m_database).ExecuteAction(m_sql);
+    if (!m_asRead) {
+        return Required(m_database).ExecuteAction(m_sql);
+    }
+    const bool updated = Required(m_database).UpdateOptions(m_sql, m_row, *m_asRead);
+    if (updated) {
+        m_asRead = m_row;
+    }
+    return updated;
 }
 
 bool CSystemOptions::BuildSelectSQL()

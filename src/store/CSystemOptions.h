@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 
 namespace ptk {
@@ -33,7 +34,8 @@ public:
     // (3021 for an empty table, 94 for a null), naming the column: the controller logs it.
     bool Load();
 
-    // Writes period length and shift times (never name and version) and leaves the database closed.
+    // Writes period length and shift times (never name and version) and leaves the database closed. After a Load it writes only what was
+    // changed since, and is refused when somebody else changed the options meanwhile: see CJetDB::Conflict.
     bool Update();
 
 private:
@@ -41,6 +43,7 @@ private:
     bool BuildUpdateSQL(); // always true
 
     OptionsRow m_row;
+    std::optional<OptionsRow> m_asRead;
     std::shared_ptr<CJetDB> m_database;
     std::shared_ptr<CFileAdaptor> m_configFile;
     std::string m_sql;

@@ -46,6 +46,18 @@ constexpr Columns kLimitColumns[] = {
     {"_CheckLimits", "BOOLEAN", "show_notices"},
 };
 
+// Of the edit trail, which files of earlier versions lack, too.
+constexpr Columns kTrailColumns[] = {
+    {"_Session", "TEXT", "user program"},
+    {"_Session", "INTEGER", "step"},
+    {"_Change", "INTEGER", "ChangeID Step RowID EmployeeBefore EmployeeAfter"},
+    {"_Change", "TEXT", "ChangedAt ChangedBy Program TableName Action Before After"},
+};
+
+constexpr const char* kUnwatched = "SELECT m.name FROM sqlite_master m WHERE m.type = 'table' AND m.name IN "
+                                   "('TimeRecord', 'Employee', 'Company', '_System', '_CheckLimits') AND (SELECT COUNT(*) FROM "
+                                   "sqlite_master t WHERE t.type = 'trigger' AND t.tbl_name = m.name AND t.sql LIKE '%INTO _Edit%') < 3";
+
 constexpr const char* kUselessLimits =
     "SELECT COUNT(*) FROM _CheckLimits WHERE NOT IFNULL(typeof(long_shift_hours) = 'integer' AND long_shift_hours BETWEEN 0 AND 2147483647 "
     "AND "
@@ -66,6 +78,7 @@ public:
         }
         CountRows();
         CheckLimitsTable();
+        CheckTrail();
         CheckActions();
         CheckRows();
         return std::move(m_check);
@@ -110,9 +123,32 @@ private:
         }
     }
 
+    bool HasTable(const char* name)
+    {
+        return !m_engine.Select(fmt::format("SELECT 1 FROM sqlite_master WHERE type = 'table' AND name = '{}' COLLATE NOCASE", name))
+                    ->EndOfFile();
+    }
+
+    // A file has both tables or, from an earlier version, none.
+    void CheckTrail()
+    {
+        if (!HasTable("_Session") && !HasTable("_Change")) {
+            return;
+        }
+        for (const Columns& columns : kTrailColumns) {
+            CheckColumns(columns);
+        }
+        if (!m_incomplete.contains("_Session") && Count("_Session") != 1) {
+            Report("The table _Session has {} rows, not 1.", Count("_Session"));
+        }
+        for (const auto rows = m_engine.Select(kUnwatched); !rows->EndOfFile(); rows->MoveNext()) {
+            Report("The edit trail misses changes of the table {}.", rows->TextAt(0));
+        }
+    }
+
     void CheckLimitsTable()
     {
-        if (m_engine.Select("SELECT 1 FROM sqlite_master WHERE type = 'table' AND name = '_CheckLimits' COLLATE NOCASE")->EndOfFile()) {
+        if (!HasTable("_CheckLimits")) {
             return;
         }
         for (const Columns& columns : kLimitColumns) {

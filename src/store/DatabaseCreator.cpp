@@ -3,22 +3,14 @@
 #include "platform/Failure.h"
 #include "platform/FileDraft.h"
 #include "store/BulkWriter.h"
+#include "store/engine/EditTrail.h"
 #include "store/engine/Engine.h"
+#include "store/FileSteps.h"
 #include "store/Schema.h"
-
-#include <filesystem>
-#include <system_error>
 
 namespace ptk {
 
 namespace {
-
-// Also for a link that leads nowhere. What cannot be told from here, making the file will tell.
-bool IsThere(const std::string& path)
-{
-    std::error_code ignored;
-    return std::filesystem::exists(std::filesystem::symlink_status(path, ignored));
-}
 
 // The engine keeps what it has not finished in files of these names, and would finish it in the new database.
 void RefuseLeftovers(const std::string& path)
@@ -42,6 +34,7 @@ void Fill(const std::string& path, const std::function<void(BulkWriter&)>& fill)
     if (fill) {
         fill(writer);
     }
+    InstallTrail(engine); // last: what a new database starts with is no change
     writer.Commit();
 }
 

@@ -5,5 +5,6 @@ namespace ptk {
 
 extern const char* const kSchemaSql;        // tables, index, format numbers, the options' row, the administrator
 extern const char* const kStoredQueriesSql; // the rows of _StoredQuery
+extern const char* const kTrailSql;         // the edit trail: tables, indexes, triggers
 
 } // namespace ptk

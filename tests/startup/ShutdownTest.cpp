@@ -4,6 +4,7 @@
 #include "model/CTimeRecordFactory.h"
 #include "model/CTimeRecordList.h"
 #include "store/CSystemOptions.h"
+#include "store/TrailReader.h"
 
 #include <cstdlib>
 
@@ -48,6 +49,8 @@ TEST_F(ShutdownTest, ExitSavesAndEndsOnceAlthoughItRunsTheClosingStepsTwice)
     EXPECT_EQ(Log(), kLogBegin + kLogEnd);
     EXPECT_EQ(ReadBytes(configPath), "[PTK]\r\nDatabasePath=<app.path>\\system\\ptk_11.mdb\r\nShowLoginHelp=False\r\n");
     EXPECT_EQ(StoredPeriodLength(), 7);
+    const auto trail = std::make_shared<CJetDB>(folder.Path());
+    EXPECT_EQ(ReadTrail(trail, {}).front().by, "Ann Lee");
     EXPECT_EQ(program.Controller(), nullptr);
     EXPECT_EQ(controller->ControllerWindow(), nullptr);
     EXPECT_EQ(controller->EmployeeList(), nullptr);

@@ -43,6 +43,7 @@ public:
         shown = true;
     }
     bool LoginValid() const override { return shown && m_valid; }
+    std::string LoggedIn() const override { return "Ann Lee"; }
 
     std::shared_ptr<CFileAdaptor> configFile;
     std::shared_ptr<CEmployeeList> employeeList;

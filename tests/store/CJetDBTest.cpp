@@ -337,7 +337,8 @@ TEST_F(CJetDBTest, AnEmployeeLoadFailsOnWhatHasNoMeaning)
     for (const char* change :
          {"UPDATE Employee SET Active = NULL", "UPDATE Employee SET Active = 1, AutoDeduct = NULL",
           "UPDATE Employee SET AutoDeduct = 0, HireDate = 'soon'", "UPDATE Employee SET HireDate = NULL, EmployeeNumber = 2147483648",
-          "UPDATE Employee SET EmployeeNumber = 0, AutoDeductLunchLength = 32768", "ALTER TABLE Employee DROP COLUMN Password",
+          "UPDATE Employee SET EmployeeNumber = 0, AutoDeductLunchLength = 32768",
+          "PRAGMA legacy_alter_table = ON; ALTER TABLE Employee DROP COLUMN Password",
           "DELETE FROM _StoredQuery WHERE name = 'GetAllEmployees'", "DROP TABLE Employee"}) {
         Run(change);
         CJetDB database(m_folder.Path());

@@ -139,7 +139,10 @@ TEST_F(DatabaseFileTest, TheCheckFindsWhatIsWrong)
              Case{"PRAGMA application_id = 0", "The application_id is 0, not 1347701553."},
              Case{"PRAGMA user_version = 0", "The user_version is 0, not 1."},
              Case{"DROP TABLE TimeRecord", "There is no column TimeRecord.TimeRecordID."},
-             Case{"ALTER TABLE Employee DROP COLUMN AutoDeduct", "There is no column Employee.AutoDeduct."},
+             Case{"PRAGMA legacy_alter_table = ON; ALTER TABLE Employee DROP COLUMN AutoDeduct", "There is no column Employee.AutoDeduct."},
+             Case{"ALTER TABLE _Change RENAME COLUMN Step TO Steps", "There is no column _Change.Step."},
+             Case{"DELETE FROM _Session", "The table _Session has 0 rows, not 1."},
+             Case{"DROP TRIGGER _CompanyDelete", "The edit trail misses changes of the table Company."},
              Case{"DROP TABLE _System; CREATE TABLE _System (program TEXT, version REAL, period_length INTEGER, auto_shift_start_time "
                   "DATETIME, "
                   "auto_shift_end_time DATETIME); INSERT INTO _System VALUES ('', 1, 14, '', '')",

@@ -62,6 +62,18 @@ protected:
     void Run(const std::string& sql) const { RawDatabase(Path()).Run(sql); }
     std::string Rows(const std::string& sql) const { return RawDatabase(Path()).Rows(sql); }
 
+    // As the version before the edit trail and the check's limits made it.
+    void MakeEarlier() const
+    {
+        for (const char* table : {"TimeRecord", "Employee", "Company"}) {
+            for (const char* action : {"Insert", "Update", "Delete"}) {
+                Run(std::string("DROP TRIGGER _") + table + action);
+            }
+        }
+        Run("DROP TRIGGER _SystemInsert; DROP TRIGGER _SystemUpdate; DROP TRIGGER _SystemDelete; DROP TABLE _CheckLimits; DROP VIEW _Edit; "
+            "DROP TABLE _Session; DROP TABLE _Change");
+    }
+
     TemporaryFolder m_folder;
 };
 

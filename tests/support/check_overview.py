@@ -36,7 +36,8 @@ def faults(value, schema, root, path="$"):
     if isinstance(value, dict):
         known = schema.get("properties", {})
         found += [f"{path} lacks {name}" for name in schema.get("required", []) if name not in value]
-        found += [f"{path} has {name}" for name in value if name not in known]
+        if schema.get("additionalProperties", True) is False:
+            found += [f"{path} has {name}" for name in value if name not in known]
         for name in value.keys() & known.keys():
             found += faults(value[name], known[name], root, f"{path}.{name}")
     return found

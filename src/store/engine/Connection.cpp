@@ -8,7 +8,9 @@
 #include <sqlite3.h>
 #include <SQLiteCpp/Exception.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
+#include <ctime>
 #include <thread>
 
 namespace ptk {
@@ -36,12 +38,23 @@ void RefuseIrregularFile(const std::string& path)
 }
 
 // Only one thread uses a connection, so the engine need not lock itself for every cell.
-constexpr int kOpenMode = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX;
-
-SQLite::Database OpenFile(const std::string& path)
+int OpenMode(Connection::Access access)
 {
+    return SQLITE_OPEN_NOMUTEX | (access == Connection::Access::Write ? SQLITE_OPEN_READWRITE : SQLITE_OPEN_READONLY);
+}
+
+// Nobody asks how much memory the engine takes, and counting it costs a sixth of an opening. False where the engine is in use already.
+void SpareMemoryCount()
+{
+    static const bool spared = sqlite3_config(SQLITE_CONFIG_MEMSTATUS, 0) == SQLITE_OK;
+    static_cast<void>(spared);
+}
+
+SQLite::Database OpenFile(const std::string& path, Connection::Access access)
+{
+    SpareMemoryCount();
     try {
-        return {path, kOpenMode};
+        return {path, OpenMode(access)};
     } catch (const SQLite::Exception& exception) {
         RefuseIrregularFile(path);
         throw EngineFailure(exception.getErrorCode());
@@ -50,23 +63,68 @@ SQLite::Database OpenFile(const std::string& path)
 
 } // namespace
 
-Connection::Connection(const std::string& path) : m_database(OpenFile(PlainPath(path)))
+Connection::Connection(const std::string& path, Access access)
+    : m_path(PlainPath(path)), m_database(OpenFile(m_path, access)), m_access(access)
 {
-    const std::int64_t size = FileSize(Handle());
-    if (size == 0) { // as a device's always is
-        RefuseIrregularFile(PlainPath(path));
+    if (FileSize(Handle()) == 0) { // as a device's always is
+        RefuseIrregularFile(m_path);
     }
-    if (sqlite3_db_readonly(Handle(), "main") != 0) {
+    if (access == Access::Write && sqlite3_db_readonly(Handle(), "main") != 0) {
         throw EngineFailure(SQLITE_READONLY);
     }
-    // Before the hold, which would finish what another program's crash left undone.
-    if (const FileHeader header = ReadFileHeader(Handle()); header.signature) {
-        RefuseOtherPrograms(header.applicationId, header.formatNumber);
-        m_inOrder = !header.writeAheadLog && size >= header.fileSize;
-    }
+    Inspect();
     sqlite3_busy_handler(
         Handle(), [](void* connection, int /*tries*/) { return static_cast<Connection*>(connection)->Wait() ? 1 : 0; }, this);
     Hold();
+}
+
+void Connection::Inspect()
+{
+    // Before the hold, which would finish what another program's crash left undone.
+    if (const FileHeader header = ReadFileHeader(Handle()); header.signature) {
+        RefuseOtherPrograms(header.applicationId, header.formatNumber);
+        m_inOrder = !header.writeAheadLog && FileSize(Handle()) >= header.fileSize;
+    }
+}
+
+// False where the path leads nowhere, or was written so lately that one more write might have the same time.
+bool Connection::ReadState(FileState& state) const
+{
+    constexpr std::int64_t kSecond = 1'000'000'000; // nanoseconds
+    constexpr std::int64_t kTooFresh = 50'000'000;  // nanoseconds: several ticks of the clock that files are dated by
+    struct stat file
+    {
+    };
+    struct timespec now
+    {
+    };
+    if (stat(m_path.c_str(), &file) != 0 || !S_ISREG(file.st_mode) || clock_gettime(CLOCK_REALTIME, &now) != 0) {
+        return false;
+    }
+    const auto nanoseconds = [](const timespec& time) { return time.tv_sec * kSecond + time.tv_nsec; };
+    state = {file.st_dev, file.st_ino, file.st_mode, file.st_size, nanoseconds(file.st_mtim), nanoseconds(file.st_ctim), getpid()};
+    return nanoseconds(now) - state.changed > kTooFresh;
+}
+
+bool Connection::Park()
+{
+    Release();
+    return !m_durable && m_access == Access::Write && ReadState(m_parked);
+}
+
+bool Connection::Resume()
+{
+    FileState now;
+    if (!ReadState(now) || now != m_parked) {
+        return false;
+    }
+    m_inOrder = false;
+    Inspect();
+    if (!m_inOrder) {
+        return false;
+    }
+    Hold();
+    return true;
 }
 
 void Connection::RefuseOtherPrograms(std::int32_t applicationId, std::int32_t formatNumber) const
@@ -95,7 +153,9 @@ void Connection::RefuseForeignFile()
     RefuseOtherPrograms(header.applicationId, header.formatNumber);
     if (header.writeAheadLog) {
         RefuseOtherProgramsLog();
-        LeaveWriteAheadLog();
+        if (m_access == Access::Write) {
+            LeaveWriteAheadLog();
+        }
     }
 }
 
@@ -172,6 +232,53 @@ void Connection::Commit()
         Release();
         throw;
     }
+}
+
+namespace {
+
+constexpr int kPortion = 512; // pages, after which one may be told
+
+void Copy(sqlite3* from, sqlite3* to, const std::function<bool(std::int32_t, std::int32_t)>& progress)
+{
+    sqlite3_backup* copy = sqlite3_backup_init(to, "main", from, "main");
+    if (copy == nullptr) {
+        throw EngineFailure(sqlite3_errcode(to), to);
+    }
+    int code = SQLITE_OK;
+    while (code == SQLITE_OK) {
+        code = sqlite3_backup_step(copy, kPortion);
+        const int all = sqlite3_backup_pagecount(copy);
+        if (code == SQLITE_OK && progress && !progress(all - sqlite3_backup_remaining(copy), all)) {
+            code = SQLITE_INTERRUPT;
+        }
+    }
+    sqlite3_backup_finish(copy);
+    if (code == SQLITE_INTERRUPT) {
+        throw EngineFailure(code, std::string("the copy was given up"));
+    }
+    if (code != SQLITE_DONE) {
+        throw EngineFailure(code);
+    }
+}
+
+} // namespace
+
+// In a transaction of the same connection the engine refuses to copy; so the lock is kept without one.
+void Connection::CopyTo(const std::string& path, const std::function<bool(std::int32_t, std::int32_t)>& progress)
+{
+    SQLite::Database copy = OpenFile(PlainPath(path), Access::Write);
+    RaiseUnlessDone(copy.getHandle(), copy.tryExec("PRAGMA synchronous=OFF; PRAGMA journal_mode=OFF")); // nothing to lose in it yet
+    Run("PRAGMA locking_mode=EXCLUSIVE");
+    Release();
+    try {
+        Copy(Handle(), copy.getHandle(), progress);
+    } catch (const Failure&) {
+        Run("PRAGMA locking_mode=NORMAL");
+        Hold();
+        throw;
+    }
+    Run("PRAGMA locking_mode=NORMAL");
+    Hold();
 }
 
 void Connection::Release() noexcept

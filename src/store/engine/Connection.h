@@ -5,6 +5,7 @@
 
 #include <chrono>
 #include <cstdint>
+#include <functional>
 #include <string>
 
 namespace ptk {
@@ -14,12 +15,27 @@ namespace ptk {
 class Connection
 {
 public:
+    enum class Access
+    {
+        Write,
+        Read // also of files that cannot be written; others may read them too
+    };
+
     // Opens for reading and writing, exclusively and without ever creating a file. Raises 14 (missing, no regular file), 5 (held by anyone,
     // a reader included, for more than a second), 8 (read-only), 26 (no database, another program's, or of a newer format) or 11 (damaged);
     // another program's file is not touched by that. An empty file passes.
-    explicit Connection(const std::string& path);
+    explicit Connection(const std::string& path, Access access = Access::Write);
     Connection(const Connection&) = delete;
     Connection& operator=(const Connection&) = delete;
+
+    // Gives the hold up and keeps the file open, so that the next Resume need not read its tables' definitions again, which takes most of
+    // the time of a short operation. False when it should rather be closed: after a write, or where the file is so fresh that its time
+    // would not tell another change.
+    bool Park();
+
+    // Whether the path still leads to the file just as it was parked, by the same process; it is then held again, as by the constructor,
+    // which also raises the same. False when it is to be opened anew.
+    bool Resume();
 
     void RefuseForeignFile(); // raises 26 for an empty file, 11 for one cut short; to be called before anything else
 
@@ -29,16 +45,36 @@ public:
     void Hold();               // nothing when held
     void PrepareWrite();       // holds; before anything is changed
     void Commit();             // on disk when it returns, and not held; on failure nothing of the transaction is left
-    void Release() noexcept;   // drops what was changed since the last commit; nothing when not held
+    void CopyTo(const std::string& path, const std::function<bool(std::int32_t done, std::int32_t all)>& progress); // see Engine::CopyTo
+    void Release() noexcept; // drops what was changed since the last commit; nothing when not held
 
 private:
+    // What tells any change of the file or its rights.
+    struct FileState
+    {
+        std::uint64_t device = 0;
+        std::uint64_t node = 0;
+        std::uint32_t mode = 0;
+        std::int64_t size = 0;
+        std::int64_t written = 0; // nanoseconds
+        std::int64_t changed = 0; // nanoseconds, rights included
+        std::int32_t process = 0; // whose connection it is: it must not be used after a fork
+
+        bool operator==(const FileState&) const = default;
+    };
+
+    void Inspect();
+    bool ReadState(FileState& state) const;
     void RefuseOtherPrograms(std::int32_t applicationId, std::int32_t formatNumber) const;
     void RefuseOtherProgramsLog();
     void LeaveWriteAheadLog();
     bool IsHeld() const;
     bool Wait();
 
+    std::string m_path;
+    FileState m_parked;
     SQLite::Database m_database;
+    Access m_access;
     std::chrono::steady_clock::time_point m_patientUntil;
     bool m_inOrder = false; // whether what the file is was seen from outside, without a wait
     bool m_durable = false; // whether commits survive a power cut

@@ -6,21 +6,71 @@
 #include "store/engine/RecordSet.h"
 
 #include <sqlite3.h>
+#include <utility>
 
 namespace ptk {
 
-Engine::Engine(const std::string& path) : m_connection(std::make_unique<Connection>(path))
+namespace {
+
+// While it lives, nothing is committed: a statement that would end the transaction is refused, and what belongs to it goes.
+class OneTransaction
+{
+public:
+    explicit OneTransaction(sqlite3* database) : m_database(database)
+    {
+        sqlite3_commit_hook(
+            database, [](void* /*none*/) { return 1; }, nullptr);
+    }
+    ~OneTransaction() { sqlite3_commit_hook(m_database, nullptr, nullptr); }
+    OneTransaction(const OneTransaction&) = delete;
+    OneTransaction& operator=(const OneTransaction&) = delete;
+
+private:
+    sqlite3* m_database;
+};
+
+void RunWithin(sqlite3* database, const std::function<void()>& steps)
+{
+    const OneTransaction one(database);
+    steps();
+    if (sqlite3_get_autocommit(database) != 0) {
+        throw EngineFailure(SQLITE_ERROR, "the statement ended the transaction");
+    }
+}
+
+} // namespace
+
+Engine::Engine(const std::string& path) : m_path(path), m_connection(std::make_unique<Connection>(path))
 {
     m_connection->RefuseForeignFile();
 }
 
 Engine::Engine(const std::string& path, NewFile /*tag*/) : m_connection(std::make_unique<Connection>(path)) {}
 
+Engine::Engine(const std::string& path, ReadOnly /*tag*/) : m_connection(std::make_unique<Connection>(path, Connection::Access::Read))
+{
+    m_connection->RefuseForeignFile();
+}
+
 Engine::~Engine() = default;
 
 void Engine::Close()
 {
+    if (m_connection != nullptr && m_connection->Park()) {
+        m_parked = std::move(m_connection);
+    }
     m_connection.reset();
+}
+
+bool Engine::Reopen()
+{
+    auto parked = std::exchange(m_parked, nullptr);
+    if (parked == nullptr || !parked->Resume()) {
+        return false;
+    }
+    parked->RefuseForeignFile();
+    m_connection = std::move(parked);
+    return true;
 }
 
 void Engine::Hold()
@@ -71,16 +121,21 @@ std::shared_ptr<RecordSet> Engine::Select(std::string_view statement)
     return Prepare(TranslateStatement(statement))->ReadRows();
 }
 
+void Engine::Run(std::string_view statement)
+{
+    Prepare(TranslateStatement(statement))->Run();
+}
+
 void Engine::Execute(std::string_view statement)
 {
-    Commit([&] { Prepare(TranslateStatement(statement))->Run(); });
+    Write([&] { Run(statement); });
 }
 
 void Engine::ExecuteAll(std::span<const std::string> statements)
 {
-    Commit([&] {
+    Write([&] {
         for (const std::string& statement : statements) {
-            Prepare(TranslateStatement(statement))->Run();
+            Run(statement);
         }
     });
 }
@@ -100,28 +155,65 @@ std::shared_ptr<RecordSet> Engine::SelectStored(std::string_view query, std::str
     return statement->ReadRows();
 }
 
+void Engine::RunStored(std::string_view query, std::span<const Parameter> parameters)
+{
+    const auto statement = PrepareStored(query);
+    statement->Bind(parameters);
+    statement->Run();
+}
+
 void Engine::ExecuteStored(std::string_view query, std::span<const Parameter> parameters)
 {
-    Commit([&] {
-        const auto statement = PrepareStored(query);
-        statement->Bind(parameters);
-        statement->Run();
-    });
+    Write([&] { RunStored(query, parameters); });
 }
 
 // What a failed statement changed before it failed must not reach the disk with a later one.
-template <typename Steps>
-void Engine::Commit(Steps steps)
+void Engine::Write(const std::function<void()>& steps)
 {
     Connection& connection = Open();
     connection.PrepareWrite();
+    m_lastStep = 0;
     try {
-        steps();
+        RunSteps(steps);
     } catch (...) {
         connection.Release();
         throw;
     }
     connection.Commit();
+}
+
+void Engine::RunSteps(const std::function<void()>& steps)
+{
+    if (HasTrail(*this)) {
+        return RunSigned(steps);
+    }
+    Connection& connection = *m_connection;
+    const int before = sqlite3_total_changes(connection.Handle());
+    RunWithin(connection.Handle(), steps);
+    if (!m_keepCopy || sqlite3_total_changes(connection.Handle()) == before) {
+        return;
+    }
+    connection.Release();
+    m_keepCopy();
+    connection.PrepareWrite();
+    InstallTrail(*this);
+    RunSigned(steps);
+}
+
+void Engine::RunSigned(const std::function<void()>& steps)
+{
+    const std::int64_t next = NextStep(*this);
+    const std::int64_t step = m_step != 0 ? m_step : next;
+    OpenStep(*this, m_author, step);
+    m_lastStep = step;
+    RunWithin(m_connection->Handle(), steps);
+    CloseStep(*this);
+    m_lastStep = NextStep(*this) == next ? 0 : step; // a number without entries is given to the next step
+}
+
+void Engine::CopyTo(const std::string& path, const CopyProgress& progress)
+{
+    Open().CopyTo(path, progress);
 }
 
 void Engine::BeginMany()

@@ -83,6 +83,7 @@ bool FLogin::ValidateLogin()
             return false;
         }
         m_loginValid = employee->Password() == m_ui->txtPassword->text().toStdString();
+        m_loggedIn = employee->DisplayName();
         return m_loginValid;
     } catch (...) {
         return false;

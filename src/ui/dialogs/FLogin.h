@@ -28,6 +28,7 @@ public:
     void EmployeeList(std::shared_ptr<CEmployeeList> value) override;
     void ShowModal() override;
     bool LoginValid() const override { return m_loginValid; }
+    std::string LoggedIn() const override { return m_loggedIn; }
     std::string UserName() const { return m_userName; } // deliberately always empty
 
     void reject() override; // Cancel, Escape and the close box
@@ -50,6 +51,7 @@ private:
     bool m_loginValid = false;
     bool m_showHelp = true;
     std::string m_userName;
+    std::string m_loggedIn;
 };
 
 } // namespace ptk

@@ -248,10 +248,8 @@ bool CompanyPage::ReloadAfresh()
 {
     const auto stale = Required(Required(m_host.Controller())->PTKDatabase());
     stale->CloseDB();
-    const auto fresh = std::make_shared<CJetDB>(std::string());
-    fresh->DatabaseName(stale->DatabaseName());
     List()->Destroy();
-    return List()->LoadList(fresh);
+    return List()->LoadList(stale->Afresh());
 }
 
 std::shared_ptr<CCompanyList> CompanyPage::List() const

@@ -1,0 +1,66 @@
+// The edit trail's history and backups, beside the raw engine on the same files.
+#include "office/History.h"
+#include "platform/Text.h"
+#include "store/Backups.h"
+#include "store/BenchData.h"
+#include "store/CJetDB.h"
+#include "store/RawStore.h"
+
+#include <benchmark/benchmark.h>
+#include <filesystem>
+
+namespace bench {
+
+namespace {
+
+constexpr Size kMedium{"1m", 1'000, 1'000'000};
+constexpr Size kChanges{"changes", 1'000, 1'000'000, true};
+
+void RawBackups(benchmark::State& state)
+{
+    const std::string path = DataFile(kMedium);
+    const std::string copy = DataFolder() + "/raw backup.mdb";
+    for (auto unused : state) {
+        RawBackup(path, copy);
+        std::filesystem::remove(copy);
+    }
+}
+
+void ProgramBackups(benchmark::State& state)
+{
+    const std::string path = DataFile(kMedium);
+    for (auto unused : state) {
+        std::filesystem::remove(ptk::BackUp(path, DataFolder() + "/backups", kLastDay));
+    }
+}
+
+void RawHistories(benchmark::State& state)
+{
+    const std::string path = DataFile(kChanges);
+    for (auto unused : state) {
+        benchmark::DoNotOptimize(RawHistory(path, kFirstEmployee + 3));
+    }
+}
+
+void ProgramHistories(benchmark::State& state)
+{
+    const auto database = std::make_shared<ptk::CJetDB>(".");
+    database->DatabaseName(DataFile(kChanges));
+    ptk::TrailQuery query;
+    query.employee = kFirstEmployee + 3;
+    for (auto unused : state) {
+        benchmark::DoNotOptimize(ptk::HistoryIn(ptk::HistoryForm::Text, database, query));
+    }
+}
+
+} // namespace
+
+void RegisterTrailBenchmarks()
+{
+    benchmark::RegisterBenchmark("backup of 1 million records/raw", RawBackups);
+    benchmark::RegisterBenchmark("backup of 1 million records/program", ProgramBackups);
+    benchmark::RegisterBenchmark("history of one employee, 1 million changes/raw", RawHistories);
+    benchmark::RegisterBenchmark("history of one employee, 1 million changes/program", ProgramHistories);
+}
+
+} // namespace bench

@@ -1,0 +1,115 @@
+#include "console/Account.h"
+#include "console/Arguments.h"
+#include "console/Commands.h"
+#include "console/Console.h"
+#include "console/ErrorText.h"
+#include "console/Session.h"
+#include "office/BackupRun.h"
+#include "platform/Clock.h"
+#include "platform/ProgramFolder.h"
+#include "platform/Text.h"
+#include "shell/CDatabaseLocator.h"
+#include "shell/CFileAdaptor.h"
+#include "store/engine/EngineFailure.h"
+#include "store/FileSteps.h"
+#include "store/Restore.h"
+
+#include <filesystem>
+#include <fmt/format.h>
+
+namespace ptk {
+
+namespace {
+
+// The database's path, and the second folder that the configuration names.
+BackupOrder OrderOf(const Console& console)
+{
+    const auto locator = LocateDatabase(console.programFolder);
+    return {NativePath(locator->DatabasePath()).string(), console.programFolder, SecondBackupFolder(*locator->ConfigFile()),
+            console.clock.Now()};
+}
+
+// A failure of the engine is one of the database, any other of what was to be written.
+template <typename Action>
+auto Naming(const std::string& database, const std::string& target, Action action)
+{
+    try {
+        return action();
+    } catch (const Failure& failure) {
+        throw FileFailure(failure, failure.Source() == kEngineSource ? database : target);
+    }
+}
+
+int BackUpInto(const BackupOrder& order, Console& console)
+{
+    const BackupOutcome outcome = Naming(order.database, BackupFolder(order.programFolder), [&] { return MakeBackup(order); });
+    console.out << "backup: " << TerminalText(outcome.path) << '\n';
+    if (outcome.secondProblem.empty()) {
+        return status::Done;
+    }
+    Complain(console.err, Failure(0, "PTK", outcome.secondProblem));
+    return status::ProblemsFound;
+}
+
+// One of the backups may be named without its folder.
+std::string FileToRestore(const Console& console, const std::string& file)
+{
+    const std::string listed = BackupFolder(console.programFolder) + '/' + file;
+    const bool isName = file.find('/') == std::string::npos && !IsThere(file);
+    return isName && IsThere(listed) ? listed : std::filesystem::absolute(file).string();
+}
+
+std::string Line(const BackupEntry& entry)
+{
+    if (!entry.content) {
+        return fmt::format("{}  {} bytes  damaged: {}\n", entry.name, entry.size, entry.fault);
+    }
+    const BackupContent& content = *entry.content;
+    return fmt::format("{}  {} bytes  {} employees  {} records  newest shift {}\n", entry.name, entry.size, content.employees,
+                       content.records, content.newestShift ? FormatDateTime(*content.newestShift, "mm/dd/yyyy hh:mm AM/PM") : "none");
+}
+
+} // namespace
+
+int BackupCommand(const BackupArguments& arguments, Console& console)
+{
+    const BackupOrder order = OrderOf(console);
+    if (!arguments.to) {
+        return BackUpInto(order, console);
+    }
+    const std::string target = std::filesystem::absolute(*arguments.to).string();
+    const auto write = [&] {
+        BackUpTo(order.database, target);
+        return target;
+    };
+    console.out << "backup: " << TerminalText(Naming(order.database, target, write)) << '\n';
+    return status::Done;
+}
+
+int RestoreCommand(const RestoreArguments& arguments, Console& console)
+{
+    const BackupOrder order = OrderOf(console);
+    const std::string file = FileToRestore(console, arguments.file);
+    const std::string folder = BackupFolder(console.programFolder);
+    const std::string kept = Restore({file, order.database, folder, order.now, ConsoleAuthor()});
+    if (!kept.empty()) {
+        console.out << "kept: " << TerminalText(kept) << '\n';
+        PruneBackups(folder, std::filesystem::path(kept).filename().string(), file);
+    }
+    console.out << "restored: " << TerminalText(file) << '\n';
+    return status::Done;
+}
+
+int BackupsCommand(const BackupsArguments&, Console& console)
+{
+    int result = status::Done;
+    for (const BackupEntry& entry : ListBackups(BackupFolder(console.programFolder))) {
+        console.out << TerminalText(Line(entry));
+        if (!entry.content) {
+            result = status::ProblemsFound;
+        }
+    }
+    return result;
+}
+
+} // namespace ptk

@@ -1,0 +1,53 @@
+#include "console/Arguments.h"
+#include "console/Commands.h"
+#include "console/Console.h"
+#include "console/ErrorText.h"
+#include "console/Session.h"
+#include "office/History.h"
+#include "platform/ErrorNumbers.h"
+#include "platform/ProgramFolder.h"
+
+namespace ptk {
+
+namespace {
+
+HistoryForm FormOf(const std::string& format)
+{
+    if (format == "json") {
+        return HistoryForm::Json;
+    }
+    return format == "csv" ? HistoryForm::Csv : HistoryForm::Text;
+}
+
+// The database is given up when it returns, before anything is written that somebody may be slow to read.
+std::string Read(const HistoryArguments& arguments, TrailQuery query, const std::string& programFolder)
+{
+    const auto database = ConfiguredDatabase(programFolder);
+    const CJetDB::Hold hold(database);
+    if (!database->OpenDB()) {
+        throw FileFailure(database->LastFailure(), NativePath(database->DatabaseName()).string());
+    }
+    if (arguments.employee) {
+        query.employee = FindInHistory(database, *arguments.employee);
+        if (!query.employee) {
+            throw ProgramFailure(timecard::NoEmployee, *arguments.employee);
+        }
+    }
+    return HistoryIn(FormOf(arguments.format), database, query);
+}
+
+} // namespace
+
+int HistoryCommand(const HistoryArguments& arguments, Console& console)
+{
+    if (arguments.from && arguments.to && *arguments.to < *arguments.from) {
+        return RefuseUsage(console.err, "--from is after --to");
+    }
+    TrailQuery query;
+    query.from = arguments.from;
+    query.to = arguments.to;
+    console.out << TerminalText(Read(arguments, query, console.programFolder));
+    return status::Done;
+}
+
+} // namespace ptk

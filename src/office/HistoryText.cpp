@@ -1,0 +1,218 @@
+#include "office/HistoryText.h"
+
+#include "platform/Succeeds.h"
+#include "platform/Text.h"
+
+#include <algorithm>
+#include <array>
+#include <fmt/format.h>
+#include <string_view>
+
+namespace ptk {
+
+namespace {
+
+enum class Shape
+{
+    Plain,
+    Moment,
+    Day,
+    Flag,
+    Employee
+};
+
+struct ColumnWords
+{
+    std::string_view column;
+    const char* words;
+    Shape shape;
+};
+
+constexpr std::array kColumns{
+    ColumnWords{"TimeRecordID", "number", Shape::Plain},
+    ColumnWords{"EmployeeID", "employee", Shape::Employee},
+    ColumnWords{"ShiftDate", "shift date", Shape::Day},
+    ColumnWords{"StartTime", "start", Shape::Moment},
+    ColumnWords{"EndTime", "end", Shape::Moment},
+    ColumnWords{"SSNumber", "SS number", Shape::Plain},
+    ColumnWords{"FirstName", "first name", Shape::Plain},
+    ColumnWords{"LastName", "last name", Shape::Plain},
+    ColumnWords{"Name", "name", Shape::Plain},
+    ColumnWords{"Address", "address", Shape::Plain},
+    ColumnWords{"Address1", "address", Shape::Plain},
+    ColumnWords{"Address2", "second address line", Shape::Plain},
+    ColumnWords{"City", "city", Shape::Plain},
+    ColumnWords{"State", "state", Shape::Plain},
+    ColumnWords{"ZipCode", "ZIP code", Shape::Plain},
+    ColumnWords{"Phone", "phone", Shape::Plain},
+    ColumnWords{"Fax", "fax", Shape::Plain},
+    ColumnWords{"FederalTaxID", "federal tax ID", Shape::Plain},
+    ColumnWords{"URL", "web address", Shape::Plain},
+    ColumnWords{"EmployeeNumber", "employee number", Shape::Plain},
+    ColumnWords{"DateOfBirth", "date of birth", Shape::Day},
+    ColumnWords{"HireDate", "hire date", Shape::Day},
+    ColumnWords{"ReleaseDate", "release date", Shape::Day},
+    ColumnWords{"PayRate", "pay rate", Shape::Plain},
+    ColumnWords{"OvertimePayRate", "overtime pay rate", Shape::Plain},
+    ColumnWords{"Active", "active", Shape::Flag},
+    ColumnWords{"CompanyID", "company", Shape::Plain},
+    ColumnWords{"AutoDeduct", "automatic deduction", Shape::Flag},
+    ColumnWords{"AutoDeductLunchLength", "lunch", Shape::Plain},
+    ColumnWords{"AutoDeductBreakLength", "break", Shape::Plain},
+    ColumnWords{"period_length", "period length", Shape::Plain},
+    ColumnWords{"auto_shift_start_time", "start of the automatic shift", Shape::Moment},
+    ColumnWords{"auto_shift_end_time", "end of the automatic shift", Shape::Moment},
+    ColumnWords{"long_shift_hours", "longest usual shift", Shape::Plain},
+    ColumnWords{"first_weekday", "first day of the work week", Shape::Plain},
+    ColumnWords{"show_notices", "showing notices", Shape::Flag},
+};
+
+ColumnWords WordsOf(std::string_view column)
+{
+    const auto* found = std::find_if(kColumns.begin(), kColumns.end(), [&](const ColumnWords& words) { return words.column == column; });
+    return found == kColumns.end() ? ColumnWords{column, nullptr, Shape::Plain} : *found;
+}
+
+// The seconds are told only where there are any: nobody types them.
+std::string MomentText(DateTime moment, Shape shape)
+{
+    if (moment.IsZero()) {
+        return "none";
+    }
+    if (shape == Shape::Day && moment == DateTime(moment.Date())) {
+        return FormatDateTime(moment, "mm/dd/yyyy");
+    }
+    const char* const time = moment.Time().second == 0 ? "hh:mm AM/PM" : "hh:mm:ss AM/PM";
+    return moment.DayNumber() == 0 ? FormatDateTime(moment, time) : FormatDateTime(moment, std::string("mm/dd/yyyy ") + time);
+}
+
+// Numbers come with 17 digits; people know them with those that they typed.
+std::string NumberText(const std::string& digits)
+{
+    return digits.find('.') == std::string::npos ? digits : SingleText(ToSingle(digits));
+}
+
+std::string ValueText(const TrailValue& value, Shape shape, const NameOfEmployee& nameOf)
+{
+    using Kind = TrailValue::Kind;
+    const bool isTime = shape == Shape::Moment || shape == Shape::Day;
+    if (value.kind == Kind::Null && isTime) {
+        return "none";
+    }
+    if (value.kind == Kind::Null || (value.kind == Kind::Text && value.text.empty())) {
+        return "empty";
+    }
+    if (value.kind == Kind::Bytes) {
+        return "bytes";
+    }
+    if (shape == Shape::Flag && value.kind == Kind::Number) {
+        return value.text == "0" ? "no" : "yes";
+    }
+    if (shape == Shape::Employee && value.kind == Kind::Number) {
+        const std::string name = nameOf(std::strtoll(value.text.c_str(), nullptr, 10));
+        return name.empty() ? value.text : name;
+    }
+    if (value.kind == Kind::Number) {
+        return Succeeds([&] { static_cast<void>(ToSingle(value.text)); }) ? NumberText(value.text) : value.text;
+    }
+    const auto moment = isTime ? ParseDateTime(value.text) : std::nullopt;
+    return moment ? MomentText(*moment, shape) : '"' + value.text + '"';
+}
+
+std::string TextIn(const std::optional<TrailRow>& row, std::string_view column, const NameOfEmployee& nameOf)
+{
+    const TrailValue* value = row ? ValueOf(*row, column) : nullptr;
+    return value == nullptr ? std::string() : ValueText(*value, WordsOf(column).shape, nameOf);
+}
+
+std::string PlainTextIn(const TrailRow& row, std::string_view column)
+{
+    const TrailValue* value = ValueOf(row, column);
+    return value == nullptr ? std::string() : value->text;
+}
+
+std::string ChangeText(const TrailValue& before, const TrailValue& after, const NameOfEmployee& nameOf)
+{
+    if (before.column == "Password") {
+        return "password changed";
+    }
+    const ColumnWords words = WordsOf(before.column);
+    return fmt::format("{} {} became {}", words.words == nullptr ? before.column : words.words, ValueText(before, words.shape, nameOf),
+                       ValueText(after, words.shape, nameOf));
+}
+
+std::string ChangesText(const TrailEntry& entry, const NameOfEmployee& nameOf)
+{
+    std::string text;
+    for (const TrailValue& before : *entry.before) {
+        if (const TrailValue* after = ValueOf(*entry.after, before.column)) {
+            text += (text.empty() ? "" : "; ") + ChangeText(before, *after, nameOf);
+        }
+    }
+    return text;
+}
+
+std::string EmployeeName(const TrailEntry& entry, const NameOfEmployee& nameOf)
+{
+    if (!entry.employee) {
+        return "Employee";
+    }
+    const std::string name = nameOf(*entry.employee);
+    return name.empty() ? fmt::format("Employee {}", *entry.employee) : name;
+}
+
+std::string Subject(const TrailEntry& entry, const NameOfEmployee& nameOf)
+{
+    if (entry.table == "TimeRecord" || entry.table == "Employee") {
+        return EmployeeName(entry, nameOf);
+    }
+    if (entry.table == "_System") {
+        return "Options";
+    }
+    if (entry.table == "_CheckLimits") {
+        return "Options of the check";
+    }
+    return entry.row ? fmt::format("{} {}", entry.table, *entry.row) : entry.table;
+}
+
+// What a whole row is: a record its times, a company its name; an employee's name is the subject already.
+std::string WholeRow(const TrailEntry& entry, const std::optional<TrailRow>& row, const NameOfEmployee& nameOf)
+{
+    if (entry.table == "TimeRecord") {
+        return TextIn(row, "StartTime", nameOf) + " - " + TextIn(row, "EndTime", nameOf) + " ";
+    }
+    return entry.table == "Company" ? TextIn(row, "Name", nameOf) + " " : "";
+}
+
+std::string Sentence(const TrailEntry& entry, const NameOfEmployee& nameOf)
+{
+    if (entry.action == "restore") {
+        return "Database restored from " + (entry.after ? PlainTextIn(*entry.after, "file") : std::string());
+    }
+    if (entry.action == "import") {
+        return "Records of the former program imported";
+    }
+    const std::string start = Subject(entry, nameOf) + ": ";
+    if (entry.before && entry.after) {
+        return start + ChangesText(entry, nameOf);
+    }
+    return start + WholeRow(entry, entry.after ? entry.after : entry.before, nameOf) + (entry.after ? "added" : "deleted");
+}
+
+} // namespace
+
+std::string EntrySentence(const TrailEntry& entry, const NameOfEmployee& nameOf)
+{
+    std::string sentence = Sentence(entry, nameOf);
+    const auto isControl = [](char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7F'; };
+    std::replace_if(sentence.begin(), sentence.end(), isControl, '?');
+    return sentence;
+}
+
+std::string RecordMoment(const TrailEntry& entry)
+{
+    const auto none = [](std::int64_t) { return std::string(); };
+    return TextIn(entry.before ? entry.before : entry.after, "StartTime", none);
+}
+
+} // namespace ptk

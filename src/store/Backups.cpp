@@ -1,0 +1,173 @@
+#include "store/Backups.h"
+
+#include "platform/FileDraft.h"
+#include "platform/ProgramFolder.h"
+#include "platform/Text.h"
+#include "store/BackupNames.h"
+#include "store/engine/EngineFailure.h"
+#include "store/engine/RecordSet.h"
+#include "store/FileSteps.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <functional>
+#include <future>
+#include <system_error>
+
+namespace ptk {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::int32_t kCorrupt = 11; // the engine's numbers
+constexpr std::int32_t kNoDatabase = 26;
+constexpr const char* kTables = "SELECT COUNT(*) FROM sqlite_master WHERE type = 'table' AND name COLLATE NOCASE IN "
+                                "('Company', 'Employee', 'TimeRecord', '_System', '_StoredQuery')";
+constexpr std::int32_t kTableCount = 5;
+
+// A twentieth of the time of the engine's full check: all pages and rows, but not whether each row is in each index, which a copy of pages
+// cannot have spoiled.
+void RefuseDamage(Engine& engine)
+{
+    const auto found = engine.Prepare("PRAGMA quick_check(1)")->ReadRows(Statement::kAllRows, Statement::kAnySteps);
+    if (found->EndOfFile() || found->TextAt(0) != "ok") {
+        throw EngineFailure(kCorrupt);
+    }
+}
+
+void RefuseForeignTables(Engine& engine)
+{
+    if (engine.Select(kTables)->Int32At(0) != kTableCount) {
+        throw EngineFailure(kNoDatabase);
+    }
+}
+
+// The copy goes to the disk while it is checked. Nobody cuts it short meanwhile, so it need not be read into buffers.
+void FillDraft(Engine& database, FileDraft& draft, const CopyProgress& progress)
+{
+    database.CopyTo(draft.Path(), progress);
+    auto flushed = std::async(std::launch::async, [&] { draft.File().Flush(); });
+    Engine copy(draft.Path(), ReadOnly{});
+    copy.RunScript("PRAGMA mmap_size = 2147418112"); // the engine's most
+    RefuseDamage(copy);
+    flushed.get();
+}
+
+std::vector<std::string> NamesIn(const std::string& folder)
+{
+    std::vector<std::string> names;
+    std::error_code error;
+    for (fs::directory_iterator at(folder, error), end; !error && at != end; at.increment(error)) {
+        names.push_back(at->path().filename().string());
+    }
+    return names;
+}
+
+BackupEntry EntryOf(const std::string& folder, const std::string& name)
+{
+    const std::string path = folder + '/' + name;
+    BackupEntry entry{name, 0, {}, {}};
+    std::error_code ignored;
+    if (const auto size = fs::file_size(path, ignored); !ignored) {
+        entry.size = static_cast<std::int64_t>(size);
+    }
+    try {
+        entry.content = ExamineBackup(path);
+    } catch (...) {
+        entry.fault = CurrentFailure().Description();
+    }
+    return entry;
+}
+
+} // namespace
+
+std::string BackupFolder(const std::string& programFolder)
+{
+    return (NativePath(programFolder) / "backups").string();
+}
+
+std::string BackUp(Engine& database, const std::string& folder, DateTime now, const CopyProgress& progress)
+{
+    MakeOwnFolder(folder);
+    const auto pathOf = [&](DateTime moment) { return folder + '/' + BackupName(moment); };
+    DateTime named = now;
+    while (IsThere(pathOf(named))) {
+        named = DateTime::FromSeconds(named.Seconds() + 1);
+    }
+    FileDraft draft(pathOf(named));
+    FillDraft(database, draft, progress);
+    draft.PlaceNew();
+    return pathOf(named);
+}
+
+std::string BackUp(const std::string& path, const std::string& folder, DateTime now, const CopyProgress& progress)
+{
+    Engine database(path);
+    return BackUp(database, folder, now, progress);
+}
+
+void BackUpTo(const std::string& path, const std::string& target, const CopyProgress& progress)
+{
+    if (IsThere(target)) {
+        throw FileDraft::AlreadyThere(target);
+    }
+    Engine database(path);
+    FileDraft draft(target);
+    FillDraft(database, draft, progress);
+    draft.PlaceNew();
+}
+
+void PruneBackups(const std::string& folder, const std::string& newest, const std::string& spared)
+{
+    const auto made = BackupMoment(newest);
+    if (!made) {
+        return;
+    }
+    for (const std::string& name : DispensableBackups(NamesIn(folder), *made)) {
+        std::error_code ignored; // the next pruning comes by it again
+        const fs::path path = fs::path(folder) / name;
+        if (name != newest && (spared.empty() || !fs::equivalent(path, spared, ignored))) {
+            fs::remove(path, ignored);
+        }
+    }
+}
+
+void CopyBackup(const std::string& backup, const std::string& folder)
+{
+    const std::string name = fs::path(backup).filename().string();
+    FileDraft draft((fs::path(folder) / name).string());
+    CopyBytes(backup, draft);
+    draft.Replace();
+    PruneBackups(folder, name);
+}
+
+BackupContent ExamineBackup(const std::string& path)
+{
+    Engine engine(path, ReadOnly{});
+    RefuseDamage(engine);
+    RefuseForeignTables(engine);
+    BackupContent content;
+    content.employees = engine.Select("SELECT COUNT(*) FROM Employee")->Int64At(0);
+    content.records = engine.Select("SELECT COUNT(*) FROM TimeRecord")->Int64At(0);
+    const auto newest = engine.Select("SELECT MAX(StartTime) FROM TimeRecord");
+    if (!newest->IsNull(0) && newest->HasStoredDate(0)) {
+        content.newestShift = newest->DateTimeAt(0);
+    }
+    return content;
+}
+
+std::vector<BackupEntry> ListBackups(const std::string& folder)
+{
+    std::vector<std::string> names = NamesIn(folder);
+    std::erase_if(names, [](const std::string& name) { return !BackupMoment(name); });
+    std::sort(names.begin(), names.end(), std::greater<>());
+    std::vector<BackupEntry> entries;
+    entries.reserve(names.size());
+    for (const std::string& name : names) {
+        entries.push_back(EntryOf(folder, name));
+    }
+    return entries;
+}
+
+} // namespace ptk

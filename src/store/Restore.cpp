@@ -1,0 +1,142 @@
+#include "store/Restore.h"
+
+#include "platform/DataText.h"
+#include "platform/FileDraft.h"
+#include "store/BackupNames.h"
+#include "store/Backups.h"
+#include "store/engine/Engine.h"
+#include "store/engine/EngineFailure.h"
+#include "store/FileSteps.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <memory>
+#include <system_error>
+
+namespace ptk {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* kBeside[] = {"-journal", "-wal", "-shm"}; // where the engine keeps what it has not finished
+
+// The engine's numbers for a file that is there and of no use as a database.
+constexpr std::int32_t kCorrupt = 11;
+constexpr std::int32_t kNoDatabase = 26;
+
+bool IsSpoiled(const Failure& failure)
+{
+    return failure.Source() == kEngineSource && (failure.Number() == kCorrupt || failure.Number() == kNoDatabase);
+}
+
+void AddEntry(Engine& restored, const RestoreOrder& order)
+{
+    if (!HasTrail(restored)) {
+        return;
+    }
+    restored.SignAs(order.author);
+    restored.Write([&] {
+        const auto entry = restored.Prepare("INSERT INTO _Change (ChangedAt, ChangedBy, Program, Step, Action, After) "
+                                            "SELECT datetime('now', 'localtime'), user, program, step, 'restore', :after FROM _Session");
+        entry->Bind("after", "{\"file\":" + JsonText(order.file) + "}");
+        entry->Run();
+    });
+}
+
+void FillDraft(const FileDraft& draft, const RestoreOrder& order)
+{
+    {
+        Engine(order.file, ReadOnly{}).CopyTo(draft.Path());
+    }
+    ExamineBackup(draft.Path());
+    Engine restored(draft.Path());
+    AddEntry(restored, order);
+}
+
+std::string FreePath(const RestoreOrder& order, const std::string& ending)
+{
+    DateTime moment = order.now;
+    std::string path;
+    do {
+        path = order.backups + '/' + fs::path(BackupName(moment)).stem().string() + ending;
+        moment = DateTime::FromSeconds(moment.Seconds() + 1);
+    } while (IsThere(path));
+    return path;
+}
+
+void KeepBytes(const std::string& from, const std::string& to)
+{
+    FileDraft draft(to);
+    CopyBytes(from, draft);
+    draft.PlaceNew();
+}
+
+// What the engine left beside a database that it cannot finish any more must not be taken for the restored one's.
+void MoveLeftovers(const RestoreOrder& order, const std::string& kept)
+{
+    for (const char* ending : kBeside) {
+        if (IsThere(order.database + ending)) {
+            KeepBytes(order.database + ending, kept + ending);
+            fs::remove(order.database + ending);
+        }
+    }
+}
+
+std::string KeepSpoiled(const RestoreOrder& order)
+{
+    MakeOwnFolder(order.backups);
+    const std::string kept = FreePath(order, "-damaged.mdb");
+    if (IsThere(order.database)) {
+        KeepBytes(order.database, kept);
+    }
+    MoveLeftovers(order, kept);
+    return IsThere(order.database) ? kept : std::string();
+}
+
+bool HasLeftovers(const RestoreOrder& order)
+{
+    return std::any_of(std::begin(kBeside), std::end(kBeside), [&](const char* ending) { return IsThere(order.database + ending); });
+}
+
+// The present database, held while it is replaced, and what was kept of it.
+struct Present
+{
+    std::unique_ptr<Engine> held;
+    std::string kept;
+};
+
+Present KeepPresent(const RestoreOrder& order)
+{
+    if (!IsThere(order.database)) {
+        return {nullptr, HasLeftovers(order) ? KeepSpoiled(order) : std::string()};
+    }
+    try {
+        Present present{std::make_unique<Engine>(order.database), {}};
+        present.kept = BackUp(*present.held, order.backups, order.now);
+        return present;
+    } catch (const Failure& failure) {
+        if (!IsSpoiled(failure)) {
+            throw;
+        }
+    }
+    return {nullptr, KeepSpoiled(order)};
+}
+
+} // namespace
+
+std::string Restore(const RestoreOrder& order)
+{
+    std::error_code ignored;
+    RestoreOrder target = order;
+    if (fs::is_symlink(order.database, ignored)) {
+        target.database = fs::weakly_canonical(order.database).string(); // the link stays one
+    }
+    FileDraft draft(target.database);
+    FillDraft(draft, target);
+    const Present present = KeepPresent(target);
+    draft.Replace();
+    return present.kept;
+}
+
+} // namespace ptk

@@ -1,0 +1,26 @@
+// Putting a backup in the place of the database.
+#pragma once
+
+#include "platform/DateTime.h"
+#include "store/engine/EditTrail.h"
+
+#include <string>
+
+namespace ptk {
+
+struct RestoreOrder
+{
+    std::string file;     // the backup, in the platform's own form, as all of these
+    std::string database; // what it takes the place of; may be missing
+    std::string backups;  // where the present database is kept
+    DateTime now;
+    Author author;
+};
+
+// The file is checked first; it stays as it is. The present database is backed up; where it is spoiled, its bytes, with a journal or a log
+// beside it, are moved to `backups` under the name of a backup with "-damaged" in it. The restored one has one entry more in its trail,
+// where it has a trail. Answers the path of what was kept of the present database; empty where there was none. Raises what examining the
+// file raises, and 5 when the database is held; nothing has changed then, except that there may be a backup more.
+std::string Restore(const RestoreOrder& order);
+
+} // namespace ptk

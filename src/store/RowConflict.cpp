@@ -1,0 +1,222 @@
+#include "store/RowConflict.h"
+
+#include "platform/ErrorNumbers.h"
+#include "platform/Text.h"
+#include "store/engine/Engine.h"
+#include "store/engine/RecordSet.h"
+#include "store/RowReader.h"
+
+#include <algorithm>
+#include <fmt/format.h>
+
+namespace ptk {
+
+namespace {
+
+std::string Shown(const std::string& value)
+{
+    return value;
+}
+std::string Shown(std::int32_t value)
+{
+    return std::to_string(value);
+}
+std::string Shown(float value)
+{
+    return SingleText(value);
+}
+std::string Shown(bool value)
+{
+    return BooleanText(value);
+}
+
+// A time of day lies on the zero date, an unset moment is nothing.
+std::string Shown(DateTime value)
+{
+    if (value.IsZero()) {
+        return "";
+    }
+    return value.DayNumber() == 0 ? FormatDateTime(value, "hh:mm AM/PM") : FormatDateTime(value, "mm/dd/yyyy hh:mm:ss AM/PM");
+}
+
+// Collects what differs between two rows.
+template <typename Row>
+class Comparison
+{
+public:
+    Comparison(const Row& read, const Row& present) : m_read(read), m_present(present) {}
+
+    template <typename Field>
+    Comparison& Of(const char* column, Field Row::*field)
+    {
+        if (m_read.*field != m_present.*field) {
+            m_found.push_back({column, Shown(m_read.*field), Shown(m_present.*field)});
+        }
+        return *this;
+    }
+
+    Comparison& Hidden(const char* column, std::string Row::*field)
+    {
+        if (m_read.*field != m_present.*field) {
+            m_found.push_back({column, "", "changed"});
+        }
+        return *this;
+    }
+
+    std::vector<FieldDifference> Found() { return std::move(m_found); }
+
+private:
+    const Row& m_read;
+    const Row& m_present;
+    std::vector<FieldDifference> m_found;
+};
+
+std::vector<FieldDifference> Differences(const EmployeeRow& read, const EmployeeRow& present)
+{
+    using Row = EmployeeRow;
+    return Comparison(read, present)
+        .Of("SSNumber", &Row::SSN)
+        .Of("FirstName", &Row::FirstName)
+        .Of("LastName", &Row::LastName)
+        .Of("Address", &Row::Address1)
+        .Of("Address2", &Row::Address2)
+        .Of("City", &Row::City)
+        .Of("State", &Row::State)
+        .Of("ZipCode", &Row::ZipCode)
+        .Of("Phone", &Row::Phone)
+        .Of("EmployeeNumber", &Row::EmployeeNumber)
+        .Of("DateOfBirth", &Row::DateOfBirth)
+        .Of("HireDate", &Row::HireDate)
+        .Of("ReleaseDate", &Row::ReleaseDate)
+        .Of("PayRate", &Row::PayRate)
+        .Of("OvertimePayRate", &Row::OvertimePayRate)
+        .Of("Active", &Row::EmployeeActive)
+        .Of("CompanyID", &Row::CompanyID)
+        .Of("AutoDeduct", &Row::AutoDeduct)
+        .Of("AutoDeductLunchLength", &Row::AutoDeductLunchLength)
+        .Of("AutoDeductBreakLength", &Row::AutoDeductBreakLength)
+        .Hidden("Password", &Row::Password)
+        .Found();
+}
+
+// The web address is never read, so nobody can tell whether it changed.
+std::vector<FieldDifference> Differences(const CompanyRow& read, const CompanyRow& present)
+{
+    using Row = CompanyRow;
+    return Comparison(read, present)
+        .Of("Name", &Row::CompanyName)
+        .Of("Address1", &Row::Address1)
+        .Of("Address2", &Row::Address2)
+        .Of("City", &Row::City)
+        .Of("State", &Row::State)
+        .Of("ZipCode", &Row::ZipCode)
+        .Of("Phone", &Row::Phone)
+        .Of("Fax", &Row::Fax)
+        .Of("FederalTaxID", &Row::FederalTaxID)
+        .Found();
+}
+
+std::vector<FieldDifference> Differences(const TimeRecordRow& read, const TimeRecordRow& present)
+{
+    using Row = TimeRecordRow;
+    return Comparison(read, present)
+        .Of("EmployeeID", &Row::EmployeeID)
+        .Of("StartTime", &Row::StartTime)
+        .Of("EndTime", &Row::EndTime)
+        .Found();
+}
+
+// What was stored here is read back without the numbers that mean nothing.
+EmployeeRow AsLoaded(EmployeeRow row)
+{
+    row.PayRate = std::max(row.PayRate, 0.0F);
+    row.OvertimePayRate = std::max(row.OvertimePayRate, 0.0F);
+    row.CompanyID = std::max(row.CompanyID, 0);
+    row.AutoDeductLunchLength = std::max<std::int16_t>(row.AutoDeductLunchLength, 0);
+    row.AutoDeductBreakLength = std::max<std::int16_t>(row.AutoDeductBreakLength, 0);
+    return row;
+}
+
+void Require(const char* table, std::int32_t key, std::vector<FieldDifference> differences)
+{
+    if (!differences.empty()) {
+        throw RowChanged({table, key, std::move(differences)});
+    }
+}
+
+std::shared_ptr<RecordSet> Required(std::shared_ptr<RecordSet> row, const TableColumns& table, std::int32_t key)
+{
+    if (row->EndOfFile()) {
+        throw RowChanged({table.table, key, {}});
+    }
+    return row;
+}
+
+// By the listing that the file brings, as the row was read.
+std::shared_ptr<RecordSet> ListedRow(Engine& engine, const char* listing, const TableColumns& table, std::int32_t key)
+{
+    const Parameter parameter{"key", key};
+    return Required(engine.SelectStored(listing, std::string(table.names.front()) + " = :key", {&parameter, 1}), table, key);
+}
+
+} // namespace
+
+std::string RowConflict::Text() const
+{
+    const std::string name = key == 0 ? table : fmt::format("{} {}", table, key);
+    if (Removed()) {
+        return name + " was removed since it was read";
+    }
+    std::string text = name + " was changed since it was read:";
+    for (const FieldDifference& field : differences) {
+        text += &field == differences.data() ? " " : ", ";
+        text += field.column == "Password" ? "Password is another one now"
+                                           : fmt::format("{} was {} and is {} now", field.column, field.read.empty() ? "empty" : field.read,
+                                                         field.present.empty() ? "empty" : field.present);
+    }
+    return text;
+}
+
+RowChanged::RowChanged(RowConflict conflict) : Failure(jetdb::RowChanged, "PTK", conflict.Text()), m_conflict(std::move(conflict)) {}
+
+void RequireAsRead(Engine& engine, const EmployeeRow& asRead)
+{
+    const EmployeeRow read = AsLoaded(asRead);
+    const auto row = ListedRow(engine, "GetAllEmployees", EmployeeTable(), read.EmployeeID);
+    Require("Employee", read.EmployeeID, Differences(read, RowReader(*row, EmployeeTable()).ReadEmployee()));
+}
+
+void RequireAsRead(Engine& engine, const CompanyRow& read)
+{
+    const auto row = ListedRow(engine, "GetAllCompanies", CompanyTable(), read.CompanyID);
+    Require("Company", read.CompanyID, Differences(read, RowReader(*row, CompanyTable()).ReadCompany()));
+}
+
+void RequireAsRead(Engine& engine, const TimeRecordRow& read)
+{
+    const auto search = engine.Prepare("SELECT TimeRecordID, EmployeeID, StartTime, EndTime FROM TimeRecord WHERE TimeRecordID = :key");
+    search->Bind("key", read.TimeRecordID);
+    const auto row = Required(search->ReadRows(), TimeRecordTable(), read.TimeRecordID);
+    Require("TimeRecord", read.TimeRecordID, Differences(read, RowReader(*row, TimeRecordTable()).ReadTimeRecord()));
+}
+
+OptionsRow PresentOptions(Engine& engine)
+{
+    const auto row = engine.Select("SELECT program, version, period_length, auto_shift_start_time, auto_shift_end_time FROM _System");
+    OptionsRow present;
+    RowReader(*row, OptionsTable()).ReadOptions(present);
+    return present;
+}
+
+void RequireAsRead(const OptionsRow& present, const OptionsRow& read)
+{
+    using Row = OptionsRow;
+    Require("_System", 0,
+            Comparison(read, present)
+                .Of("period_length", &Row::PeriodLength)
+                .Of("auto_shift_start_time", &Row::AutoShiftStartTime)
+                .Of("auto_shift_end_time", &Row::AutoShiftEndTime)
+                .Found());
+}
+
+} // namespace ptk

@@ -1,0 +1,86 @@
+#include "store/engine/EditTrail.h"
+
+#include "platform/Failure.h"
+#include "store/engine/Engine.h"
+#include "store/engine/RecordSet.h"
+#include "store/Schema.h"
+
+#include <fmt/format.h>
+
+namespace ptk {
+
+namespace {
+
+constexpr const char* kFind = "SELECT COUNT(*) FROM sqlite_master WHERE type = 'table' AND name IN ('_Session', '_Change')";
+constexpr const char* kNext = "SELECT IFNULL((SELECT seq FROM sqlite_sequence WHERE name = '_Change'), 0) + 1";
+constexpr const char* kClear = "DELETE FROM _Session; INSERT INTO _Session VALUES (NULL, NULL, NULL)";
+constexpr const char* kTables[] = {"TimeRecord", "Employee", "Company", "_System", "_CheckLimits"};
+constexpr const char* kLimits =
+    "CREATE TABLE IF NOT EXISTS _CheckLimits (long_shift_hours INTEGER, first_weekday INTEGER, show_notices BOOLEAN);"
+    "INSERT INTO _CheckLimits SELECT 16, 0, 1 WHERE NOT EXISTS (SELECT 1 FROM _CheckLimits);";
+
+Value TextOrNull(const std::string& text)
+{
+    return text.empty() ? Value() : Value(text);
+}
+
+bool Prepares(Engine& engine, const std::string& sql)
+{
+    try {
+        engine.Prepare(sql);
+        return true;
+    } catch (const Failure&) {
+        return false;
+    }
+}
+
+// A table that lacks a column would refuse every write from now on, because its triggers ask for it. It goes without a trail instead; the
+// check of the file tells that.
+void DropUnusableTriggers(Engine& engine, const char* table)
+{
+    if (Prepares(engine, fmt::format("INSERT INTO {} DEFAULT VALUES", table)) && Prepares(engine, fmt::format("DELETE FROM {}", table)) &&
+        Prepares(engine, fmt::format("UPDATE {0} SET rowid = rowid", table))) {
+        return;
+    }
+    const char* const start = *table == '_' ? "" : "_";
+    for (const char* action : {"Insert", "Update", "Delete"}) {
+        engine.RunScript(fmt::format("DROP TRIGGER IF EXISTS {}{}{}", start, table, action).c_str());
+    }
+}
+
+} // namespace
+
+bool HasTrail(Engine& engine)
+{
+    return engine.Prepare(kFind)->ReadRows()->Int32At(0) == 2;
+}
+
+std::int64_t NextStep(Engine& engine)
+{
+    return engine.Prepare(kNext)->ReadRows()->Int64At(0);
+}
+
+void OpenStep(Engine& engine, const Author& author, std::int64_t step)
+{
+    engine.RunScript("DELETE FROM _Session");
+    const auto set = engine.Prepare(fmt::format("INSERT INTO _Session VALUES (:user, :program, {})", step));
+    set->Bind("user", TextOrNull(author.name));
+    set->Bind("program", TextOrNull(author.program));
+    set->Run();
+}
+
+void CloseStep(Engine& engine)
+{
+    engine.RunScript(kClear);
+}
+
+void InstallTrail(Engine& engine)
+{
+    engine.RunScript(kLimits);
+    engine.RunScript(kTrailSql);
+    for (const char* table : kTables) {
+        DropUnusableTriggers(engine, table);
+    }
+}
+
+} // namespace ptk
