@@ -42,6 +42,9 @@ CREATE TABLE Employee (
     Password TEXT
 );
 
+-- The order of the list of employees, as its stored query asks for it: sorting ten thousand of them took a third of the program's start.
+CREATE INDEX EmployeeOrder ON Employee (IFNULL(LastName, '') COLLATE NOCASE, IFNULL(FirstName, '') COLLATE NOCASE, EmployeeID);
+
 -- Date-times are texts 'YYYY-MM-DD HH:MM:SS'; an EndTime of 1899-12-30 00:00:00 is a shift that still runs.
 CREATE TABLE TimeRecord (
     TimeRecordID INTEGER PRIMARY KEY AUTOINCREMENT,

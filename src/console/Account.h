@@ -4,8 +4,7 @@
 #include "store/engine/EditTrail.h"
 
 namespace ptk {
-
 // The name of the account that the process has the rights of, its number where it has no name; and this program.
-Author ConsoleAuthor();
+[[nodiscard]] Author ConsoleAuthor();
 
 } // namespace ptk

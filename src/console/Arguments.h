@@ -84,6 +84,6 @@ struct UsageAnswer
 };
 
 // `words`: the command line without the program's name.
-std::variant<Arguments, UsageAnswer> ReadArguments(const std::vector<std::string>& words);
+[[nodiscard]] std::variant<Arguments, UsageAnswer> ReadArguments(const std::vector<std::string>& words);
 
 } // namespace ptk

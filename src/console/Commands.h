@@ -14,14 +14,14 @@ struct ReportArguments;
 struct RestoreArguments;
 struct TimeCardArguments;
 
-int CreateDatabaseCommand(const CreateDatabaseArguments& arguments, Console& console);
-int TimeCardCommand(const TimeCardArguments& arguments, Console& console);
-int ReportCommand(const ReportArguments& arguments, Console& console);
-int OverviewCommand(const OverviewArguments& arguments, Console& console);
-int HistoryCommand(const HistoryArguments& arguments, Console& console);
-int BackupCommand(const BackupArguments& arguments, Console& console);
-int RestoreCommand(const RestoreArguments& arguments, Console& console);
-int BackupsCommand(const BackupsArguments& arguments, Console& console);
-int CheckCommand(const CheckArguments& arguments, Console& console);
+[[nodiscard]] int CreateDatabaseCommand(const CreateDatabaseArguments& arguments, Console& console);
+[[nodiscard]] int TimeCardCommand(const TimeCardArguments& arguments, Console& console);
+[[nodiscard]] int ReportCommand(const ReportArguments& arguments, Console& console);
+[[nodiscard]] int OverviewCommand(const OverviewArguments& arguments, Console& console);
+[[nodiscard]] int HistoryCommand(const HistoryArguments& arguments, Console& console);
+[[nodiscard]] int BackupCommand(const BackupArguments& arguments, Console& console);
+[[nodiscard]] int RestoreCommand(const RestoreArguments& arguments, Console& console);
+[[nodiscard]] int BackupsCommand(const BackupsArguments& arguments, Console& console);
+[[nodiscard]] int CheckCommand(const CheckArguments& arguments, Console& console);
 
 } // namespace ptk

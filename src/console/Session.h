@@ -16,10 +16,10 @@ class CEmployeeList;
 class CTimeRecordFactory;
 
 // Where the configuration says the database is, with backslashes as configured. Raises a failure without a number when it names none.
-std::shared_ptr<CDatabaseLocator> LocateDatabase(const std::string& programFolder);
+[[nodiscard]] std::shared_ptr<CDatabaseLocator> LocateDatabase(const std::string& programFolder);
 
 // The database that the configuration names, closed; what is stored through it is told as this program's.
-std::shared_ptr<CJetDB> ConfiguredDatabase(const std::string& programFolder);
+[[nodiscard]] std::shared_ptr<CJetDB> ConfiguredDatabase(const std::string& programFolder);
 
 // Holds the database until it is told to give it up: whatever a command reads is of one moment.
 class Session
@@ -28,16 +28,21 @@ public:
     // Opens the database. Raises the engine's number when it could not be opened.
     explicit Session(const std::string& programFolder);
 
-    const std::shared_ptr<CJetDB>& Database() const { return m_database; }
-    const std::shared_ptr<CEmployeeList>& Employees() const { return m_employees; }
-    const std::shared_ptr<CTimeRecordFactory>& Factory() const { return m_factory; }
+    [[nodiscard]] const std::shared_ptr<CJetDB>& Database() const { return m_database; }
+    [[nodiscard]] const std::shared_ptr<CEmployeeList>& Employees() const { return m_employees; }
+    [[nodiscard]] const std::shared_ptr<CTimeRecordFactory>& Factory() const { return m_factory; }
 
     // Each raises the failure of what could not be read.
     void LoadEmployees();
-    std::shared_ptr<CEmployee> EmployeeNamed(const std::string& name); // of all there are, the first of this display name, or nullptr
-    std::int16_t PeriodLength();                                       // days, as the options say at this moment
 
-    void GiveUpDatabase() { m_hold.reset(); } // before anything is written that somebody may be slow to read
+    // Of all there are, the first of this display name, or nullptr.
+    std::shared_ptr<CEmployee> EmployeeNamed(const std::string& name);
+
+    // Days, as the options say at this moment.
+    std::int16_t PeriodLength();
+
+    // Before anything is written that somebody may be slow to read.
+    void GiveUpDatabase() { m_hold.reset(); }
 
 private:
     void Open();

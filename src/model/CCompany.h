@@ -19,38 +19,41 @@ class CCompany : public RowEntity<CompanyRow>
 {
 public:
     CCompany() = default;
-    explicit CCompany(CompanyRow row); // as loaded: unchanged
+
+    // As loaded: unchanged.
+    explicit CCompany(CompanyRow row);
 
     void CompanyID(std::int32_t value) { SetKey(m_row.CompanyID, value); }
-    std::int32_t CompanyID() const { return m_row.CompanyID; }
+    [[nodiscard]] std::int32_t CompanyID() const { return m_row.CompanyID; }
     void CompanyName(std::string value) { Change(&CompanyRow::CompanyName, std::move(value)); }
-    const std::string& CompanyName() const { return m_row.CompanyName; }
+    [[nodiscard]] const std::string& CompanyName() const { return m_row.CompanyName; }
     void Address1(std::string value) { Change(&CompanyRow::Address1, std::move(value)); }
-    const std::string& Address1() const { return m_row.Address1; }
+    [[nodiscard]] const std::string& Address1() const { return m_row.Address1; }
     void Address2(std::string value) { Change(&CompanyRow::Address2, std::move(value)); }
-    const std::string& Address2() const { return m_row.Address2; }
+    [[nodiscard]] const std::string& Address2() const { return m_row.Address2; }
     void City(std::string value) { Change(&CompanyRow::City, std::move(value)); }
-    const std::string& City() const { return m_row.City; }
+    [[nodiscard]] const std::string& City() const { return m_row.City; }
     void State(std::string value) { Change(&CompanyRow::State, std::move(value)); }
-    const std::string& State() const { return m_row.State; }
+    [[nodiscard]] const std::string& State() const { return m_row.State; }
     void ZipCode(std::string value) { Change(&CompanyRow::ZipCode, std::move(value)); }
-    const std::string& ZipCode() const { return m_row.ZipCode; }
+    [[nodiscard]] const std::string& ZipCode() const { return m_row.ZipCode; }
     void Phone(std::string value) { Change(&CompanyRow::Phone, std::move(value)); }
-    const std::string& Phone() const { return m_row.Phone; }
+    [[nodiscard]] const std::string& Phone() const { return m_row.Phone; }
     void Fax(std::string value) { Change(&CompanyRow::Fax, std::move(value)); }
-    const std::string& Fax() const { return m_row.Fax; }
+    [[nodiscard]] const std::string& Fax() const { return m_row.Fax; }
     void FederalTaxID(std::string value) { Change(&CompanyRow::FederalTaxID, std::move(value)); }
-    const std::string& FederalTaxID() const { return m_row.FederalTaxID; }
+    [[nodiscard]] const std::string& FederalTaxID() const { return m_row.FederalTaxID; }
     void URL(std::string value) { Change(&CompanyRow::URL, std::move(value)); }
-    const std::string& URL() const { return m_row.URL; }
+    [[nodiscard]] const std::string& URL() const { return m_row.URL; }
 
     // Adds, updates or deletes by state; false with 321 in any other. Unchanged afterwards in every case. A row that was changed since it
     // was read is not overwritten: false with the database's Conflict.
     bool Save(const std::shared_ptr<CJetDB>& thedatabase);
 
-    std::string ToString(); // the whole record; lines end in CR LF. What could be built, with 806, when it failed
+    // The whole record; lines end in CR LF. What could be built, with 806, when it failed.
+    std::string ToString();
 
-    const CompanyRow& Row() const { return Fields(); }
+    [[nodiscard]] const CompanyRow& Row() const { return Fields(); }
 };
 
 } // namespace ptk

@@ -21,72 +21,80 @@ class CEmployee : public RowEntity<EmployeeRow>
 {
 public:
     CEmployee() = default;
-    explicit CEmployee(EmployeeRow row); // as loaded: unchanged
+
+    // As loaded: unchanged.
+    explicit CEmployee(EmployeeRow row);
 
     void EmployeeID(std::int32_t value) { SetKey(m_row.EmployeeID, value); }
-    std::int32_t EmployeeID() const { return m_row.EmployeeID; }
+    [[nodiscard]] std::int32_t EmployeeID() const { return m_row.EmployeeID; }
     void SSN(std::string value) { Change(&EmployeeRow::SSN, std::move(value)); }
-    const std::string& SSN() const { return m_row.SSN; }
+    [[nodiscard]] const std::string& SSN() const { return m_row.SSN; }
     void EmployeeNumber(std::int32_t value) { Change(&EmployeeRow::EmployeeNumber, value); }
-    std::int32_t EmployeeNumber() const { return m_row.EmployeeNumber; }
+    [[nodiscard]] std::int32_t EmployeeNumber() const { return m_row.EmployeeNumber; }
     void FirstName(std::string value) { Change(&EmployeeRow::FirstName, std::move(value)); }
-    const std::string& FirstName() const { return m_row.FirstName; }
+    [[nodiscard]] const std::string& FirstName() const { return m_row.FirstName; }
     void LastName(std::string value) { Change(&EmployeeRow::LastName, std::move(value)); }
-    const std::string& LastName() const { return m_row.LastName; }
+    [[nodiscard]] const std::string& LastName() const { return m_row.LastName; }
     void Address1(std::string value) { Change(&EmployeeRow::Address1, std::move(value)); }
-    const std::string& Address1() const { return m_row.Address1; }
+    [[nodiscard]] const std::string& Address1() const { return m_row.Address1; }
     void Address2(std::string value) { Change(&EmployeeRow::Address2, std::move(value)); }
-    const std::string& Address2() const { return m_row.Address2; }
+    [[nodiscard]] const std::string& Address2() const { return m_row.Address2; }
     void City(std::string value) { Change(&EmployeeRow::City, std::move(value)); }
-    const std::string& City() const { return m_row.City; }
+    [[nodiscard]] const std::string& City() const { return m_row.City; }
     void State(std::string value) { Change(&EmployeeRow::State, std::move(value)); }
-    const std::string& State() const { return m_row.State; }
+    [[nodiscard]] const std::string& State() const { return m_row.State; }
     void ZipCode(std::string value) { Change(&EmployeeRow::ZipCode, std::move(value)); }
-    const std::string& ZipCode() const { return m_row.ZipCode; }
+    [[nodiscard]] const std::string& ZipCode() const { return m_row.ZipCode; }
     void Phone(std::string value) { Change(&EmployeeRow::Phone, std::move(value)); }
-    const std::string& Phone() const { return m_row.Phone; }
+    [[nodiscard]] const std::string& Phone() const { return m_row.Phone; }
     void Password(std::string value) { Change(&EmployeeRow::Password, std::move(value)); }
-    const std::string& Password() const { return m_row.Password; }
+    [[nodiscard]] const std::string& Password() const { return m_row.Password; }
     void PayRate(float value) { Change(&EmployeeRow::PayRate, value); }
-    float PayRate() const { return m_row.PayRate; }
+    [[nodiscard]] float PayRate() const { return m_row.PayRate; }
     void OvertimePayRate(float value) { Change(&EmployeeRow::OvertimePayRate, value); }
-    float OvertimePayRate() const { return m_row.OvertimePayRate; }
+    [[nodiscard]] float OvertimePayRate() const { return m_row.OvertimePayRate; }
     void DateOfBirth(DateTime value) { Change(&EmployeeRow::DateOfBirth, value); }
-    DateTime DateOfBirth() const { return m_row.DateOfBirth; }
+    [[nodiscard]] DateTime DateOfBirth() const { return m_row.DateOfBirth; }
     void HireDate(DateTime value) { Change(&EmployeeRow::HireDate, value); }
-    DateTime HireDate() const { return m_row.HireDate; }
+    [[nodiscard]] DateTime HireDate() const { return m_row.HireDate; }
     void ReleaseDate(DateTime value) { Change(&EmployeeRow::ReleaseDate, value); }
-    DateTime ReleaseDate() const { return m_row.ReleaseDate; }
+    [[nodiscard]] DateTime ReleaseDate() const { return m_row.ReleaseDate; }
     void EmployeeActive(bool value) { Change(&EmployeeRow::EmployeeActive, value); }
-    bool EmployeeActive() const { return m_row.EmployeeActive; }
+    [[nodiscard]] bool EmployeeActive() const { return m_row.EmployeeActive; }
     void CompanyID(std::int32_t value) { Change(&EmployeeRow::CompanyID, value); }
-    std::int32_t CompanyID() const { return m_row.CompanyID; }
+    [[nodiscard]] std::int32_t CompanyID() const { return m_row.CompanyID; }
     void AutoDeduct(bool value) { Change(&EmployeeRow::AutoDeduct, value); }
-    bool AutoDeduct() const { return m_row.AutoDeduct; }
+    [[nodiscard]] bool AutoDeduct() const { return m_row.AutoDeduct; }
     void AutoDeductLunchLength(std::int16_t value) { Change(&EmployeeRow::AutoDeductLunchLength, value); }
-    std::int16_t AutoDeductLunchLength() const { return m_row.AutoDeductLunchLength; }
+    [[nodiscard]] std::int16_t AutoDeductLunchLength() const { return m_row.AutoDeductLunchLength; }
     void AutoDeductBreakLength(std::int16_t value) { Change(&EmployeeRow::AutoDeductBreakLength, value); }
-    std::int16_t AutoDeductBreakLength() const { return m_row.AutoDeductBreakLength; }
+    [[nodiscard]] std::int16_t AutoDeductBreakLength() const { return m_row.AutoDeductBreakLength; }
 
     // Adds, updates or deletes by state; false with 803 in any other. Unchanged afterwards in every case. A row that was changed since it
     // was read is not overwritten: false with the database's Conflict.
     bool Save(const std::shared_ptr<CJetDB>& thedatabase);
 
     // Lines end in CR LF. The labels' wording, blanks and tabs differ between the three forms, deliberately. What could be built, with 806,
-    // when it failed.
-    std::string ToString();         // the whole record
-    std::string ToStringTimeCard(); // heading of a time card
-    std::string ToStringReview();   // heading of an accountant's review
+    // when it failed. The whole record
+    std::string ToString();
+
+    // Heading of a time card.
+    std::string ToStringTimeCard();
+
+    // Heading of an accountant's review.
+    std::string ToStringReview();
 
     // First name, blank, last name; the last name alone when there is no first name. The form in which the program shows and finds
     // employees.
-    std::string DisplayName() const;
-    bool HasDisplayName(std::string_view name) const; // exact, without building a text
+    [[nodiscard]] std::string DisplayName() const;
+
+    // Exact, without building a text.
+    [[nodiscard]] bool HasDisplayName(std::string_view name) const;
 
     // Whether the employee has hours to show: active, and not an administrator by display name.
-    bool OfferedOnTimeCards() const;
+    [[nodiscard]] bool OfferedOnTimeCards() const;
 
-    const EmployeeRow& Row() const { return Fields(); }
+    [[nodiscard]] const EmployeeRow& Row() const { return Fields(); }
 };
 
 } // namespace ptk

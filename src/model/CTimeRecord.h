@@ -15,53 +15,70 @@ namespace ptk {
 
 class CTimeRecordFactory;
 
-float HoursOf(std::int64_t minutes); // decimal hours, rounded to single
+// Decimal hours, rounded to single.
+[[nodiscard]] float HoursOf(std::int64_t minutes);
 
 class CTimeRecord : public Entity
 {
 public:
-    void TimeRecordFactory(const std::shared_ptr<CTimeRecordFactory>& value); // nullptr is ignored; not kept alive
-    std::shared_ptr<CTimeRecordFactory> TimeRecordFactory() const { return m_factory.lock(); }
+    // nullptr is ignored; not kept alive.
+    void TimeRecordFactory(const std::shared_ptr<CTimeRecordFactory>& value);
+
+    [[nodiscard]] std::shared_ptr<CTimeRecordFactory> TimeRecordFactory() const { return m_factory.lock(); }
 
     void TimeRecordID(std::int32_t value) { SetKey(m_timeRecordID, value); }
-    std::int32_t TimeRecordID() const { return m_timeRecordID; } // -1 = not stored yet
+
+    // -1 = not stored yet.
+    [[nodiscard]] std::int32_t TimeRecordID() const { return m_timeRecordID; }
+
     void EmployeeID(std::int32_t value) { Set(m_employeeID, value); }
-    std::int32_t EmployeeID() const { return m_employeeID; }
+    [[nodiscard]] std::int32_t EmployeeID() const { return m_employeeID; }
 
     // Setting either recalculates the hours as soon as both are known (not zero).
     void StartTime(DateTime value);
-    DateTime StartTime() const { return m_startTime; }
+    [[nodiscard]] DateTime StartTime() const { return m_startTime; }
     void EndTime(DateTime value);
-    DateTime EndTime() const { return m_endTime; } // zero = still clocked in
+
+    // Zero = still clocked in.
+    [[nodiscard]] DateTime EndTime() const { return m_endTime; }
 
     // Decimal hours. An end before the start is stored as a negative number but read as 0; the text form shows it as it is, deliberately.
     void HoursWorked(float value) { Set(m_hoursWorked, value); }
-    float HoursWorked() const { return m_hoursWorked > 0 ? m_hoursWorked : 0; }
-    float StoredHours() const { return m_hoursWorked; } // negative as they are
+    [[nodiscard]] float HoursWorked() const { return m_hoursWorked > 0 ? m_hoursWorked : 0; }
+
+    // Negative as they are.
+    [[nodiscard]] float StoredHours() const { return m_hoursWorked; }
 
     // Whether the text forms use FormatString or the general date-time text.
     void EnforceFormat(bool value) { m_enforceFormat = value; }
-    bool EnforceFormat() const { return m_enforceFormat; }
+    [[nodiscard]] bool EnforceFormat() const { return m_enforceFormat; }
     void FormatString(std::string value) { m_formatString = std::move(value); }
-    std::string FormatString() const { return m_formatString.value_or(kDefaultFormat); }
+    [[nodiscard]] std::string FormatString() const { return m_formatString.value_or(kDefaultFormat); }
 
-    float CalculateHoursWorked(); // from the minute boundaries crossed; marks nothing
+    // From the minute boundaries crossed; marks nothing.
+    float CalculateHoursWorked();
 
     // The statement that stores the record, by its state; empty when there is nothing to store. See CTimeRecSQLConverter.
-    std::string ToSQL() const;
+    [[nodiscard]] std::string ToSQL() const;
 
     // One line without a line end: start, tab, end, tab, hours less `breakHours` with two decimals. With 806 what could be built.
     std::string ToString(float breakHours);
-    std::string ToStringReport(); // the same without the hours
+
+    // The same without the hours.
+    std::string ToStringReport();
 
     // What the database had when the record was read or last stored there; nothing for one that never was. It holds a save to that row.
-    const std::optional<TimeRecordRow>& AsRead() const { return m_asRead; }
-    void KeepAsRead() { m_asRead = Row(); } // the database has it as it is now
+    [[nodiscard]] const std::optional<TimeRecordRow>& AsRead() const { return m_asRead; }
+
+    // The database has it as it is now.
+    void KeepAsRead() { m_asRead = Row(); }
+
     void ForgetAsRead() { m_asRead.reset(); }
 
-    void AppendTime(std::string& text, DateTime time) const; // in this record's format; may raise failures
+    // In this record's format; may raise failures.
+    void AppendTime(std::string& text, DateTime time) const;
 
-    TimeRecordRow Row() const { return {m_timeRecordID, m_employeeID, m_startTime, m_endTime, ObjectState()}; }
+    [[nodiscard]] TimeRecordRow Row() const { return {m_timeRecordID, m_employeeID, m_startTime, m_endTime, ObjectState()}; }
 
 private:
     void SetTime(DateTime& time, DateTime value);

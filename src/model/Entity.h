@@ -19,7 +19,10 @@ struct StoreCalls
 {
     bool (CJetDB::*add)(const Row&);
     bool (CJetDB::*update)(const Row&);
-    bool (CJetDB::*updateAsRead)(const Row&, const Row& asRead); // refused when the stored row is another
+
+    // Refused when the stored row is another.
+    bool (CJetDB::*updateAsRead)(const Row&, const Row& asRead);
+
     bool (CJetDB::*remove)(const Row&);
     std::int32_t wrongState;
 };
@@ -29,8 +32,12 @@ class Entity
 {
 public:
     void ObjectState(std::int32_t value) { m_objectState = value; }
-    std::int32_t ObjectState() const { return m_objectState; } // see ptk::state
-    std::int32_t ErrorNumber() const { return m_errorNumber; } // 0 = none
+
+    // See ptk::state.
+    [[nodiscard]] std::int32_t ObjectState() const { return m_objectState; }
+
+    // 0 = none.
+    [[nodiscard]] std::int32_t ErrorNumber() const { return m_errorNumber; }
 
 protected:
     Entity() = default;
@@ -82,7 +89,7 @@ template <typename Row>
 class RowEntity : public Entity
 {
 public:
-    const Row& Fields() const { return m_row; }
+    [[nodiscard]] const Row& Fields() const { return m_row; }
 
 protected:
     RowEntity() = default;

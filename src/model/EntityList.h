@@ -11,7 +11,6 @@
 #include <utility>
 
 namespace ptk {
-
 // `Self` is the list class itself.
 template <typename Self, typename Object>
 class DatabaseList : public KeyedList<std::shared_ptr<Object>>
@@ -37,7 +36,7 @@ protected:
     DatabaseList() = default;
     ~DatabaseList() = default;
 
-    const std::shared_ptr<CJetDB>& Database() const { return m_database; }
+    [[nodiscard]] const std::shared_ptr<CJetDB>& Database() const { return m_database; }
 
 private:
     std::shared_ptr<CJetDB> m_database;
@@ -95,8 +94,8 @@ public:
 
     // Why the last SaveList failed first, in words for the program's users; number 0 and no text when it did not. And the row that somebody
     // else had changed or removed, where that was why.
-    const Failure& LastFailure() const { return m_lastFailure; }
-    const std::optional<RowConflict>& Conflict() const { return m_conflict; }
+    [[nodiscard]] const Failure& LastFailure() const { return m_lastFailure; }
+    [[nodiscard]] const std::optional<RowConflict>& Conflict() const { return m_conflict; }
 
 protected:
     EntityList() = default;

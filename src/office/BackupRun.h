@@ -25,12 +25,12 @@ struct BackupOutcome
 };
 
 // The key BackupFolder of the configuration; empty without it.
-std::string SecondBackupFolder(CFileAdaptor& configuration);
+[[nodiscard]] std::string SecondBackupFolder(CFileAdaptor& configuration);
 
 // Raises what store/Backups.h says; a second copy that fails is no failure.
-BackupOutcome MakeBackup(const BackupOrder& order, const CopyProgress& progress = {});
+[[nodiscard]] BackupOutcome MakeBackup(const BackupOrder& order, const CopyProgress& progress = {});
 
 // Whether there is no backup of this day or a later one yet, by the names.
-bool BackupIsDue(const std::string& programFolder, DateTime today);
+[[nodiscard]] bool BackupIsDue(const std::string& programFolder, DateTime today);
 
 } // namespace ptk

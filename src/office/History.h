@@ -21,11 +21,17 @@ class CJetDB;
 class EmployeeNames
 {
 public:
-    explicit EmployeeNames(const std::shared_ptr<CJetDB>& database); // raises what reading the database raises
+    // Raises what reading the database raises.
+    explicit EmployeeNames(const std::shared_ptr<CJetDB>& database);
 
-    std::string Of(std::int64_t employeeID) const;                           // the display name; empty for an unknown one
-    std::optional<std::int64_t> FirstOf(std::string_view displayName) const; // in the order of the employee list
-    void Learn(const TrailEntry& entry);                                     // entries newest first
+    // The display name; empty for an unknown one.
+    [[nodiscard]] std::string Of(std::int64_t employeeID) const;
+
+    // In the order of the employee list.
+    [[nodiscard]] std::optional<std::int64_t> FirstOf(std::string_view displayName) const;
+
+    // Entries newest first.
+    void Learn(const TrailEntry& entry);
 
     // What the row of Employee that this entry is about was called right before it, or after it when it was added; entries newest first.
     std::string FormerOf(const TrailEntry& entry);
@@ -36,7 +42,7 @@ private:
         std::string first;
         std::string last;
 
-        std::string Display() const { return first.empty() ? last : first + " " + last; }
+        [[nodiscard]] std::string Display() const { return first.empty() ? last : first + " " + last; }
         void Take(const TrailRow& row);
     };
 
@@ -47,7 +53,7 @@ private:
 
 // The number of the employee of that display name: the first in the list, else the one that had it last, as the trail tells. Raises what
 // reading the database raises.
-std::optional<std::int64_t> FindInHistory(const std::shared_ptr<CJetDB>& database, const std::string& name);
+[[nodiscard]] std::optional<std::int64_t> FindInHistory(const std::shared_ptr<CJetDB>& database, const std::string& name);
 
 enum class HistoryForm
 {
@@ -58,9 +64,9 @@ enum class HistoryForm
 
 // The entries of the query, newest first, in one of the forms that docs/history-format.md describes; as text one line an entry, nothing
 // without one. Lines end in CR LF. Raises what reading the trail raises.
-std::string HistoryIn(HistoryForm form, const std::shared_ptr<CJetDB>& database, const TrailQuery& query);
+[[nodiscard]] std::string HistoryIn(HistoryForm form, const std::shared_ptr<CJetDB>& database, const TrailQuery& query);
 
 // One line each, for a window that has entries already.
-std::string HistoryCsv(const std::vector<TrailEntry>& entries, const NameOfEmployee& nameOf);
+[[nodiscard]] std::string HistoryCsv(const std::vector<TrailEntry>& entries, const NameOfEmployee& nameOf);
 
 } // namespace ptk

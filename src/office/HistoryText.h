@@ -7,15 +7,14 @@
 #include <string>
 
 namespace ptk {
-
 // The display name of an employee by number, empty for one that nobody knows any more.
 using NameOfEmployee = std::function<std::string(std::int64_t employeeID)>;
 
 // "Ann Lee: end 03/05/2003 05:00 PM became 03/05/2003 06:00 PM", "Ann Lee: 03/05/2003 08:00 AM - 03/05/2003 05:00 PM deleted". One line, no
 // full stop.
-std::string EntrySentence(const TrailEntry& entry, const NameOfEmployee& nameOf);
+[[nodiscard]] std::string EntrySentence(const TrailEntry& entry, const NameOfEmployee& nameOf);
 
 // The start that tells a time record, "03/05/2003 08:00 AM"; empty where the entry does not tell it.
-std::string RecordMoment(const TrailEntry& entry);
+[[nodiscard]] std::string RecordMoment(const TrailEntry& entry);
 
 } // namespace ptk

@@ -63,8 +63,8 @@ using RowTaken = std::function<bool(const OverviewRow& row)>;
 // Reads one row an employee behind those that the overview has, all of one moment: the database is held until it returns. False when
 // `taken` ended it. Raises the failure of a database that cannot be opened or read. REQUIRES: database and employees are not nullptr; the
 // overview's period, moment and limits are set.
-bool ReadOverview(Overview& overview, const std::shared_ptr<CJetDB>& database,
-                                std::span<const std::shared_ptr<CEmployee>> employees, const RowTaken& taken = {});
+bool ReadOverview(Overview& overview, const std::shared_ptr<CJetDB>& database, std::span<const std::shared_ptr<CEmployee>> employees,
+                  const RowTaken& taken = {});
 
 // Of those with problems alone.
 [[nodiscard]] OverviewTotals TotalsOf(std::span<const OverviewRow> rows, bool onlyProblems = false);

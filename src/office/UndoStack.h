@@ -20,16 +20,20 @@ class CJetDB;
 class UndoStack
 {
 public:
-    explicit UndoStack(std::shared_ptr<CJetDB> database); // not nullptr; the one that everything is stored by, or one made Afresh of it
+    // Not nullptr; the one that everything is stored by, or one made Afresh of it.
+    explicit UndoStack(std::shared_ptr<CJetDB> database);
 
     // Takes in the step that was stored last; nothing where nothing changed, where it is known already, or where it is no such change. What
     // could be redone then cannot be any more. False when the trail could not be read: see Refusal.
     bool Remember();
 
-    bool CanUndo() const { return !m_done.empty(); }
-    bool CanRedo() const { return !m_undone.empty(); }
-    std::string UndoText() const; // "Undo Delete 03/05/2003 08:00 AM"; "Undo" when there is nothing
-    std::string RedoText() const;
+    [[nodiscard]] bool CanUndo() const { return !m_done.empty(); }
+    [[nodiscard]] bool CanRedo() const { return !m_undone.empty(); }
+
+    // "Undo Delete 03/05/2003 08:00 AM"; "Undo" when there is nothing.
+    [[nodiscard]] std::string UndoText() const;
+
+    [[nodiscard]] std::string RedoText() const;
 
     // False, with a Refusal, when somebody else changed one of the rows meanwhile or the database failed: nothing is changed then, and the
     // step stays the next to be undone. False without one when there is nothing to undo.
@@ -37,7 +41,7 @@ public:
     bool Redo();
 
     // Why the last call answered false: one sentence for people; empty when it did not.
-    const std::string& Refusal() const { return m_refusal; }
+    [[nodiscard]] const std::string& Refusal() const { return m_refusal; }
 
 private:
     struct Step
@@ -49,10 +53,10 @@ private:
     };
 
     void Take(const std::vector<TrailEntry>& entries);
-    Step StepOf(const std::vector<TrailEntry>& entries) const;
-    std::string TextOf(const std::vector<TrailEntry>& entries) const;
-    std::string NameOf(const TrailEntry& entry) const;
-    bool PutPasswords(const TrailEntry& entry, RowChange& change) const;
+    [[nodiscard]] Step StepOf(const std::vector<TrailEntry>& entries) const;
+    [[nodiscard]] std::string TextOf(const std::vector<TrailEntry>& entries) const;
+    [[nodiscard]] std::string NameOf(const TrailEntry& entry) const;
+    [[nodiscard]] bool PutPasswords(const TrailEntry& entry, RowChange& change) const;
     bool Move(std::vector<Step>& from, std::vector<Step>& to, const char* word);
 
     std::shared_ptr<CJetDB> m_database;

@@ -9,7 +9,7 @@
 namespace ptk {
 // The reference itself; raises Failure 91 when it is empty.
 template <typename Object>
-[[nodiscard]] std::shared_ptr<Object> Required(std::shared_ptr<Object> object)
+std::shared_ptr<Object> Required(std::shared_ptr<Object> object)
 {
     if (object == nullptr) {
         throw Failure(failure::ObjectNotSet);

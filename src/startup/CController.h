@@ -54,20 +54,34 @@ public:
     // repeated. Deliberately always false.
     bool Cleanup();
 
-    std::int32_t ErrorNumber() const { return 0; } // no operation of the controller sets it
-    std::shared_ptr<MainWindow> ControllerWindow() const { return m_controllerWindow; }
-    std::shared_ptr<CFileAdaptor> ConfigFile() const; // deliberately raises Failure 91: the configuration is not handed out
-    std::shared_ptr<CJetDB> PTKDatabase() const { return m_database; }
-    std::shared_ptr<CSystemOptions> SystemOptions() const { return m_systemOptions; }
-    std::shared_ptr<CTimeRecordFactory> TimeRecordFactory() const { return m_timeRecordFactory; }
-    std::shared_ptr<CCompanyList> CompanyList() const { return m_companyList; }
-    std::shared_ptr<CEmployeeList> EmployeeList() const { return m_employeeList; }
+    // No operation of the controller sets it.
+    [[nodiscard]] std::int32_t ErrorNumber() const { return 0; }
 
-    bool ReadConfigFile();                   // true also when the file could not be read: that shows up as a database that cannot be opened
-    bool WriteConfigFile();                  // true also when the file could not be written: that is logged
-    bool GetCompanyList();                   // reloads into the same list object
-    bool GetEmployeeList();                  // reloads into the same list object
-    bool GetTimeCardList() { return false; } // reserved
+    [[nodiscard]] std::shared_ptr<MainWindow> ControllerWindow() const { return m_controllerWindow; }
+
+    // Deliberately raises Failure 91: the configuration is not handed out.
+    [[nodiscard]] std::shared_ptr<CFileAdaptor> ConfigFile() const;
+
+    [[nodiscard]] std::shared_ptr<CJetDB> PTKDatabase() const { return m_database; }
+    [[nodiscard]] std::shared_ptr<CSystemOptions> SystemOptions() const { return m_systemOptions; }
+    [[nodiscard]] std::shared_ptr<CTimeRecordFactory> TimeRecordFactory() const { return m_timeRecordFactory; }
+    [[nodiscard]] std::shared_ptr<CCompanyList> CompanyList() const { return m_companyList; }
+    [[nodiscard]] std::shared_ptr<CEmployeeList> EmployeeList() const { return m_employeeList; }
+
+    // True also when the file could not be read: that shows up as a database that cannot be opened.
+    bool ReadConfigFile();
+
+    // True also when the file could not be written: that is logged.
+    bool WriteConfigFile();
+
+    // Reloads into the same list object.
+    bool GetCompanyList();
+
+    // Reloads into the same list object.
+    bool GetEmployeeList();
+
+    // Reserved.
+    bool GetTimeCardList() { return false; }
 
     // Makes the factory on the present database, or empties the current list of the one there is, which keeps its first database.
     bool StartTimeRecordFactory();
@@ -85,17 +99,21 @@ private:
     void ShutDown();
     void ReleaseObjects();
 
-    bool OpenDatabase(); // on a fresh database object and locator each time
+    // On a fresh database object and locator each time.
+    bool OpenDatabase();
+
     void CloseDatabase();
     bool LoadSystemOptions();
     bool StoreSystemOptions();
     bool BuildLists();
-    std::string ConfigPath() const;
+    [[nodiscard]] std::string ConfigPath() const;
 
     void TellDatabaseUnopened();
     void LogFailure(const char* kind, std::int32_t number, const std::string& description);
     void LogConfigFailure();
-    bool LogUnloaded(const char* list); // always false
+
+    // Always false.
+    bool LogUnloaded(const char* list);
 
     // The operation's answer, or false and a line in the log when it raised a failure.
     template <typename Operation>

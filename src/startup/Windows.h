@@ -14,21 +14,35 @@ class CSystemOptions;
 class LoginWindow
 {
 public:
-    virtual ~LoginWindow() = default;                                 // unloads the window
-    virtual void ConfigFile(std::shared_ptr<CFileAdaptor> value) = 0; // raises Failure 13 when ShowLoginHelp is no boolean
+    // Unloads the window.
+    virtual ~LoginWindow() = default;
+
+    // Raises Failure 13 when ShowLoginHelp is no boolean.
+    virtual void ConfigFile(std::shared_ptr<CFileAdaptor> value) = 0;
+
     virtual void EmployeeList(std::shared_ptr<CEmployeeList> value) = 0;
-    virtual void ShowModal() = 0; // returns when the window was hidden or closed
-    virtual bool LoginValid() const = 0;
-    virtual std::string LoggedIn() const = 0; // the display name, as typed; of use when the login is valid
+
+    // Returns when the window was hidden or closed.
+    virtual void ShowModal() = 0;
+
+    [[nodiscard]] virtual bool LoginValid() const = 0;
+
+    // The display name, as typed; of use when the login is valid.
+    [[nodiscard]] virtual std::string LoggedIn() const = 0;
 };
 
 class MainWindow
 {
 public:
     virtual ~MainWindow() = default;
-    virtual void Controller(std::shared_ptr<CController> value) = 0; // brings the window up, not modally
+
+    // Brings the window up, not modally.
+    virtual void Controller(std::shared_ptr<CController> value) = 0;
+
     virtual bool DisplaySystemOptions(std::shared_ptr<CSystemOptions> options) = 0;
-    virtual void Unload() = 0; // hides and closes the window; its own closing steps run
+
+    // Hides and closes the window; its own closing steps run.
+    virtual void Unload() = 0;
 };
 
 // The program lets go of a window from within the window's own closing steps, so its deleter must not destroy it before those have

@@ -10,10 +10,10 @@
 #include <vector>
 
 namespace ptk {
-
 // All paths are in the platform's own form. Where nothing else is said, failures are those of FileDraft and of the engine.
 
-std::string BackupFolder(const std::string& programFolder); // "<program folder>/backups"
+// "<program folder>/backups".
+[[nodiscard]] std::string BackupFolder(const std::string& programFolder);
 
 // Makes the folder (for its owner only) where it is missing, and in it a backup named by `now`, or by the next second that is free. The
 // backup is as of one moment, sound, for its owner only, and safe on the disk when its path is answered. On failure there is nothing new.
@@ -42,7 +42,7 @@ struct BackupContent
 
 // Raises the failure that makes the file unusable: missing (14), no database of this program (26), damaged (11), in use (5). Others may
 // read it meanwhile; it stays as it is.
-BackupContent ExamineBackup(const std::string& path);
+[[nodiscard]] BackupContent ExamineBackup(const std::string& path);
 
 struct BackupEntry
 {
@@ -53,6 +53,6 @@ struct BackupEntry
 };
 
 // Newest first; empty without the folder.
-std::vector<BackupEntry> ListBackups(const std::string& folder);
+[[nodiscard]] std::vector<BackupEntry> ListBackups(const std::string& folder);
 
 } // namespace ptk

@@ -53,7 +53,9 @@ public:
     class Hold
     {
     public:
-        explicit Hold(std::shared_ptr<CJetDB> database); // nullptr holds nothing
+        // nullptr holds nothing.
+        explicit Hold(std::shared_ptr<CJetDB> database);
+
         ~Hold();
         Hold(const Hold&) = delete;
         Hold& operator=(const Hold&) = delete;
@@ -66,7 +68,9 @@ public:
     class Step
     {
     public:
-        explicit Step(std::shared_ptr<CJetDB> database); // nullptr: of nothing
+        // nullptr: of nothing.
+        explicit Step(std::shared_ptr<CJetDB> database);
+
         ~Step();
         Step(const Step&) = delete;
         Step& operator=(const Step&) = delete;
@@ -81,36 +85,36 @@ public:
     CJetDB& operator=(const CJetDB&) = delete;
 
     void DatabasePath(std::string value) { m_databasePath = std::move(value); }
-    std::string DatabasePath() const { return m_databasePath; }
+    [[nodiscard]] std::string DatabasePath() const { return m_databasePath; }
     void DatabaseName(std::string value) { m_databaseName = std::move(value); }
-    std::string DatabaseName() const { return m_databaseName; }
-    bool DatabaseOpen() const { return m_databaseOpen; }
+    [[nodiscard]] std::string DatabaseName() const { return m_databaseName; }
+    [[nodiscard]] bool DatabaseOpen() const { return m_databaseOpen; }
     void RecordsetType(std::int16_t value) { m_recordsetType = value; }
-    std::int16_t RecordsetType() const { return m_recordsetType; }
+    [[nodiscard]] std::int16_t RecordsetType() const { return m_recordsetType; }
     void SQL(std::string value) { m_sql = std::move(value); }
-    std::string SQL() const { return m_sql; }
-    std::shared_ptr<RecordSet> RecSet() const { return m_recSet; }
-    std::int32_t ErrorNumber() const { return m_errorNumber; }
+    [[nodiscard]] std::string SQL() const { return m_sql; }
+    [[nodiscard]] std::shared_ptr<RecordSet> RecSet() const { return m_recSet; }
+    [[nodiscard]] std::int32_t ErrorNumber() const { return m_errorNumber; }
 
     // Why the last operation failed, in words for the program's users; number 0 and no text when it did not. The number is the cause's own:
     // the engine's (source "SQLite"), a conversion's, or one of those above.
-    const Failure& LastFailure() const { return m_lastFailure; }
+    [[nodiscard]] const Failure& LastFailure() const { return m_lastFailure; }
 
     // The same, where it was that the row to be stored had been changed or removed since it was read; nothing otherwise.
-    const std::optional<RowConflict>& Conflict() const { return m_conflict; }
+    [[nodiscard]] const std::optional<RowConflict>& Conflict() const { return m_conflict; }
 
     // In whose name all that follows is stored, as the edit trail tells it.
     void StoredBy(Author value) { m_memory->author = std::move(value); }
-    const Author& StoredBy() const { return m_memory->author; }
+    [[nodiscard]] const Author& StoredBy() const { return m_memory->author; }
 
     // The step of the edit trail of the last operation that stores; 0 where that changed nothing.
-    std::int64_t LastStep() const { return m_memory->lastStep; }
+    [[nodiscard]] std::int64_t LastStep() const { return m_memory->lastStep; }
 
     // The passwords that were set so far, in the order of their steps.
-    const std::vector<PasswordChange>& Passwords() const { return m_memory->passwords; }
+    [[nodiscard]] const std::vector<PasswordChange>& Passwords() const { return m_memory->passwords; }
 
     // Another access to the same file, closed, that knows nothing of earlier failures. Author, steps and passwords are one for both.
-    std::shared_ptr<CJetDB> Afresh() const;
+    [[nodiscard]] std::shared_ptr<CJetDB> Afresh() const;
 
     // Opens the file that the locator found. An empty path opens nothing, answers false and leaves ErrorNumber alone.
     bool OpenPTKDatabase(const std::shared_ptr<CDatabaseLocator>& thedatabaselocator);
@@ -119,9 +123,11 @@ public:
     // The connect text and the password are accepted and not used.
     bool OpenDB(const std::string& paramName = "", const std::string& paramConnect = "", const std::string& paramPassword = "");
 
-    bool CloseDB(); // false only when nothing was ever opened
+    // False only when nothing was ever opened.
+    bool CloseDB();
 
-    void GiveUpHold(); // lets others at the open file until the next operation; nothing inside a Hold
+    // Lets others at the open file until the next operation; nothing inside a Hold.
+    void GiveUpHold();
 
     // The caller opens and closes the database. nullptr with 403, 406 or 407.
     std::shared_ptr<RecordSet> ExecuteSelect(const std::string& sqlstring);
@@ -148,18 +154,32 @@ public:
     // Each opens the database when it is closed and closes it after success; a failed statement (412, 413) leaves it open.
     bool AddNewEmployee(const EmployeeRow& theemployee);
     bool LoadEmployeeList(EmployeeSink& thelist);
-    bool LoadEmployeesNamed(EmployeeSink& thelist, const std::string& thename); // by display name; nobody else's row is read
+
+    // By display name; nobody else's row is read.
+    bool LoadEmployeesNamed(EmployeeSink& thelist, const std::string& thename);
+
     bool UpdateEmployee(const EmployeeRow& theemployee);
-    bool UpdateEmployee(const EmployeeRow& theemployee, const EmployeeRow& asRead); // 413 and a Conflict when it is not
-    bool DeleteEmployee(const EmployeeRow& theemployee); // deliberately does nothing and answers false: employees are never deleted
+
+    // 413 and a Conflict when it is not.
+    bool UpdateEmployee(const EmployeeRow& theemployee, const EmployeeRow& asRead);
+
+    // Deliberately does nothing and answers false: employees are never deleted.
+    bool DeleteEmployee(const EmployeeRow& theemployee);
+
     bool AddNewCompany(const CompanyRow& thecompany);
     bool LoadCompanyList(CompanySink& thelist);
     bool UpdateCompany(const CompanyRow& thecompany);
-    bool UpdateCompany(const CompanyRow& thecompany, const CompanyRow& asRead); // as above
-    bool DeleteCompany(const CompanyRow& thecompany);                           // deliberately does nothing and answers false
+
+    // As above.
+    bool UpdateCompany(const CompanyRow& thecompany, const CompanyRow& asRead);
+
+    // Deliberately does nothing and answers false.
+    bool DeleteCompany(const CompanyRow& thecompany);
 
 private:
-    bool Fail(std::int32_t errorNumber, const char* reason); // always false, as the next
+    // Always false, as the next.
+    bool Fail(std::int32_t errorNumber, const char* reason);
+
     bool Fail(std::int32_t errorNumber, Failure reason);
     bool FailWithoutDatabase();
     void ForgetFailure();

@@ -16,19 +16,28 @@ class CJetDB;
 class CSystemOptions
 {
 public:
-    void ConfigFile(std::shared_ptr<CFileAdaptor> value); // nullptr is ignored
-    void PTKDatabase(std::shared_ptr<CJetDB> value);      // nullptr is ignored
+    // nullptr is ignored.
+    void ConfigFile(std::shared_ptr<CFileAdaptor> value);
+
+    // nullptr is ignored.
+    void PTKDatabase(std::shared_ptr<CJetDB> value);
 
     void ProgramName(std::string value) { m_row.ProgramName = std::move(value); }
-    std::string ProgramName() const { return m_row.ProgramName; }
+    [[nodiscard]] std::string ProgramName() const { return m_row.ProgramName; }
     void ProgramVersion(std::string value) { m_row.ProgramVersion = std::move(value); }
-    std::string ProgramVersion() const { return m_row.ProgramVersion; }
+    [[nodiscard]] std::string ProgramVersion() const { return m_row.ProgramVersion; }
     void PeriodLength(std::int16_t value) { m_row.PeriodLength = value; }
-    std::int16_t PeriodLength() const { return m_row.PeriodLength; } // days added to a period's first day
+
+    // Days added to a period's first day.
+    [[nodiscard]] std::int16_t PeriodLength() const { return m_row.PeriodLength; }
+
     void AutoShiftStartTime(DateTime value) { m_row.AutoShiftStartTime = value; }
-    DateTime AutoShiftStartTime() const { return m_row.AutoShiftStartTime; } // only the time of day matters
+
+    // Only the time of day matters.
+    [[nodiscard]] DateTime AutoShiftStartTime() const { return m_row.AutoShiftStartTime; }
+
     void AutoShiftEndTime(DateTime value) { m_row.AutoShiftEndTime = value; }
-    DateTime AutoShiftEndTime() const { return m_row.AutoShiftEndTime; }
+    [[nodiscard]] DateTime AutoShiftEndTime() const { return m_row.AutoShiftEndTime; }
 
     // Reads the row; the database must be open and stays open. False when there is no result set. Raises what reading the row raises
     // (3021 for an empty table, 94 for a null), naming the column: the controller logs it.
@@ -39,8 +48,11 @@ public:
     bool Update();
 
 private:
-    bool BuildSelectSQL(); // always true
-    bool BuildUpdateSQL(); // always true
+    // Always true.
+    bool BuildSelectSQL();
+
+    // Always true.
+    bool BuildUpdateSQL();
 
     OptionsRow m_row;
     std::optional<OptionsRow> m_asRead;

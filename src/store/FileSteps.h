@@ -7,7 +7,8 @@ namespace ptk {
 
 class FileDraft;
 
-bool IsThere(const std::string& path); // also a link that leads nowhere; false for what cannot be told
+// Also a link that leads nowhere; false for what cannot be told.
+[[nodiscard]] bool IsThere(const std::string& path);
 
 // The bytes of a regular file into an empty draft. Raises what opening, reading and writing files raises.
 void CopyBytes(const std::string& from, FileDraft& to);

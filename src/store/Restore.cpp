@@ -49,7 +49,7 @@ void FillDraft(const FileDraft& draft, const RestoreOrder& order)
     {
         Engine(order.file, ReadOnly{}).CopyTo(draft.Path());
     }
-    ExamineBackup(draft.Path());
+    static_cast<void>(ExamineBackup(draft.Path()));
     Engine restored(draft.Path());
     AddEntry(restored, order);
 }

@@ -21,6 +21,6 @@ struct RestoreOrder
 // beside it, are moved to `backups` under the name of a backup with "-damaged" in it. The restored one has one entry more in its trail,
 // where it has a trail. Answers the path of what was kept of the present database; empty where there was none. Raises what examining the
 // file raises, and 5 when the database is held; nothing has changed then, except that there may be a backup more.
-std::string Restore(const RestoreOrder& order);
+[[nodiscard]] std::string Restore(const RestoreOrder& order);
 
 } // namespace ptk

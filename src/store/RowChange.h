@@ -24,7 +24,7 @@ struct RowChange
 };
 
 // What takes these changes back, the last one first.
-std::vector<RowChange> Inverse(const std::vector<RowChange>& changes);
+[[nodiscard]] std::vector<RowChange> Inverse(const std::vector<RowChange>& changes);
 
 // Whose changes of a row do not count as somebody else's.
 struct KnownSteps
@@ -37,6 +37,7 @@ struct KnownSteps
 // that somebody else changed it meanwhile, or others rely on a row that is to go. A row that comes back has its number again.
 void Redo(Engine& engine, const std::vector<RowChange>& changes, const KnownSteps& known);
 
-std::int64_t NewestEntry(Engine& engine); // its number; 0 without one
+// Its number; 0 without one.
+[[nodiscard]] std::int64_t NewestEntry(Engine& engine);
 
 } // namespace ptk

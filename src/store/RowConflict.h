@@ -28,10 +28,10 @@ struct RowConflict
     std::int32_t key = 0;                     // 0 for the options
     std::vector<FieldDifference> differences; // none for a row that is no more
 
-    bool Removed() const { return differences.empty(); }
+    [[nodiscard]] bool Removed() const { return differences.empty(); }
 
     // "Employee 40 was changed since it was read: PayRate was 10 and is 12 now", "TimeRecord 7 was removed since it was read".
-    std::string Text() const;
+    [[nodiscard]] std::string Text() const;
 };
 
 // Failure jetdb::RowChanged with the conflict's text.
@@ -39,7 +39,7 @@ class RowChanged : public Failure
 {
 public:
     explicit RowChanged(RowConflict conflict);
-    const RowConflict& Conflict() const { return m_conflict; }
+    [[nodiscard]] const RowConflict& Conflict() const { return m_conflict; }
 
 private:
     RowConflict m_conflict;
@@ -51,7 +51,7 @@ void RequireAsRead(Engine& engine, const CompanyRow& read);
 void RequireAsRead(Engine& engine, const TimeRecordRow& read);
 
 // What the options are now.
-OptionsRow PresentOptions(Engine& engine);
+[[nodiscard]] OptionsRow PresentOptions(Engine& engine);
 void RequireAsRead(const OptionsRow& present, const OptionsRow& read);
 
 } // namespace ptk

@@ -35,7 +35,7 @@ struct TrailValue
 using TrailRow = std::vector<TrailValue>; // in the table's order
 
 // nullptr where the row does not tell that column.
-const TrailValue* ValueOf(const TrailRow& row, std::string_view column);
+[[nodiscard]] const TrailValue* ValueOf(const TrailRow& row, std::string_view column);
 
 struct TrailEntry
 {
@@ -66,9 +66,9 @@ struct TrailQuery
 // Newest first; `take` must not use the database. Nothing in a file without a trail. Raises the failure of a database that cannot be opened
 // or read. REQUIRES: database is not nullptr.
 void ReadTrail(const std::shared_ptr<CJetDB>& database, const TrailQuery& query, const std::function<void(const TrailEntry&)>& take);
-std::vector<TrailEntry> ReadTrail(const std::shared_ptr<CJetDB>& database, const TrailQuery& query);
+[[nodiscard]] std::vector<TrailEntry> ReadTrail(const std::shared_ptr<CJetDB>& database, const TrailQuery& query);
 
 // The statement that answers such a query, for a test of its plan.
-std::string TrailSql(const TrailQuery& query);
+[[nodiscard]] std::string TrailSql(const TrailQuery& query);
 
 } // namespace ptk

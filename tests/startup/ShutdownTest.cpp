@@ -128,8 +128,7 @@ TEST_F(ShutdownTest, EmptiesTheFactorysListOnceThereIsOne)
 TEST_F(ShutdownTest, TheConfigurationIsNotHandedOut)
 {
     try {
-        controller->ConfigFile();
-        FAIL() << "handed out";
+        FAIL() << "handed out: " << controller->ConfigFile();
     } catch (const Failure& failure) {
         EXPECT_EQ(failure.Number(), 91);
     }

@@ -126,6 +126,14 @@ TEST_F(EngineTest, FetchesAPeriodFromTheIndexAlone)
     EXPECT_EQ(plan->Field("detail").ToText(), "SEARCH TimeRecord USING COVERING INDEX TimeRecordPeriod (EmployeeID=? AND StartTime>?)");
 }
 
+TEST_F(EngineTest, ListsEmployeesInTheOrderOfAnIndex)
+{
+    const std::string query = Rows("SELECT sql FROM _StoredQuery WHERE name = 'GetAllEmployees'");
+    const std::string plan = Rows("EXPLAIN QUERY PLAN " + query.substr(0, query.rfind('|')));
+    EXPECT_NE(plan.find("USING INDEX EmployeeOrder"), std::string::npos) << plan;
+    EXPECT_EQ(plan.find("TEMP B-TREE"), std::string::npos) << plan;
+}
+
 TEST_F(EngineTest, HasEverythingOnDiskWhenAStatementAnswers)
 {
     const int status = InAnotherProcess([&] {

@@ -9,7 +9,6 @@
 #include <string>
 
 namespace ptk {
-
 // The hold is a transaction: taken by the constructor, given up by Commit and Release, and taken again by the next Hold. A file in
 // use is waited for, up to one second for each taking.
 class Connection
@@ -37,16 +36,28 @@ public:
     // which also raises the same. False when it is to be opened anew.
     bool Resume();
 
-    void RefuseForeignFile(); // raises 26 for an empty file, 11 for one cut short; to be called before anything else
+    // Raises 26 for an empty file, 11 for one cut short; to be called before anything else.
+    void RefuseForeignFile();
 
-    sqlite3* Handle() const { return m_database.getHandle(); }
+    [[nodiscard]] sqlite3* Handle() const { return m_database.getHandle(); }
 
-    void Run(const char* sql); // statements without parameters
-    void Hold();               // nothing when held
-    void PrepareWrite();       // holds; before anything is changed
-    void Commit();             // on disk when it returns, and not held; on failure nothing of the transaction is left
-    void CopyTo(const std::string& path, const std::function<bool(std::int32_t done, std::int32_t all)>& progress); // see Engine::CopyTo
-    void Release() noexcept; // drops what was changed since the last commit; nothing when not held
+    // Statements without parameters.
+    void Run(const char* sql);
+
+    // Nothing when held.
+    void Hold();
+
+    // Holds; before anything is changed.
+    void PrepareWrite();
+
+    // On disk when it returns, and not held; on failure nothing of the transaction is left.
+    void Commit();
+
+    // See Engine::CopyTo.
+    void CopyTo(const std::string& path, const std::function<bool(std::int32_t done, std::int32_t all)>& progress);
+
+    // Drops what was changed since the last commit; nothing when not held.
+    void Release() noexcept;
 
 private:
     // What tells any change of the file or its rights.
@@ -64,11 +75,11 @@ private:
     };
 
     void Inspect();
-    bool ReadState(FileState& state) const;
+    [[nodiscard]] bool ReadState(FileState& state) const;
     void RefuseOtherPrograms(std::int32_t applicationId, std::int32_t formatNumber) const;
     void RefuseOtherProgramsLog();
     void LeaveWriteAheadLog();
-    bool IsHeld() const;
+    [[nodiscard]] bool IsHeld() const;
     bool Wait();
 
     std::string m_path;

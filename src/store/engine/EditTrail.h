@@ -17,10 +17,19 @@ struct Author
 };
 
 // All of these need the hold and no more than the transaction of the present write. Raise the engine's failures.
-bool HasTrail(Engine& engine);                                          // files of earlier versions lack it
-void OpenStep(Engine& engine, const Author& author, std::int64_t step); // the entries that follow are this one's
-void CloseStep(Engine& engine);                                         // they are nobody's any more
-std::int64_t NextStep(Engine& engine);                                  // a number that no entry has: its first entry's own
-void InstallTrail(Engine& engine);                                      // and the table _CheckLimits, where it is missing
+// Files of earlier versions lack it.
+[[nodiscard]] bool HasTrail(Engine& engine);
+
+// The entries that follow are this one's.
+void OpenStep(Engine& engine, const Author& author, std::int64_t step);
+
+// They are nobody's any more.
+void CloseStep(Engine& engine);
+
+// A number that no entry has: its first entry's own.
+[[nodiscard]] std::int64_t NextStep(Engine& engine);
+
+// And the table _CheckLimits, where it is missing.
+void InstallTrail(Engine& engine);
 
 } // namespace ptk

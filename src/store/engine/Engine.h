@@ -41,32 +41,49 @@ public:
     // Never creates a file. Raises 14 (missing, no regular file), 5 (held by anyone, a reader included, for more than a second), 8
     // (read-only), 26 (no database, another program's, or of a newer format) or 11 (damaged); the file is then as it was.
     explicit Engine(const std::string& path);
-    Engine(const std::string& path, NewFile); // the file must be there, empty
+
+    // The file must be there, empty.
+    Engine(const std::string& path, NewFile);
+
     Engine(const std::string& path, ReadOnly);
     ~Engine();
 
-    bool IsOpen() const { return m_connection != nullptr; }
-    void Close(); // the members below then raise 21; nothing when closed
+    [[nodiscard]] bool IsOpen() const { return m_connection != nullptr; }
+
+    // The members below then raise 21; nothing when closed.
+    void Close();
 
     // After a Close: as the constructor opened it, from what was kept ready where the file is still the same. False when it is to be opened
     // anew; raises what the constructor raises, and is closed then.
     bool Reopen();
-    const std::string& Path() const { return m_path; }
+    [[nodiscard]] const std::string& Path() const { return m_path; }
     void Hold();
-    void GiveUp() noexcept; // others get at the file; what was not committed is dropped
+
+    // Others get at the file; what was not committed is dropped.
+    void GiveUp() noexcept;
 
     // In the program's own SQL. Select takes only statements that answer rows and change nothing, Execute only those that answer none.
     std::shared_ptr<RecordSet> Select(std::string_view statement);
-    void Run(std::string_view statement);                                          // as a step of Write
-    void RunStored(std::string_view query, std::span<const Parameter> parameters); // likewise
-    void Execute(std::string_view statement);                                      // on disk when it returns
-    void ExecuteAll(std::span<const std::string> statements);                      // all of them in one transaction, or nothing
+
+    // As a step of Write.
+    void Run(std::string_view statement);
+
+    // Likewise.
+    void RunStored(std::string_view query, std::span<const Parameter> parameters);
+
+    // On disk when it returns.
+    void Execute(std::string_view statement);
+
+    // All of them in one transaction, or nothing.
+    void ExecuteAll(std::span<const std::string> statements);
 
     // Of the queries inside the file. A missing query raises 12, an unknown parameter or one without a value 25.
     std::shared_ptr<RecordSet> SelectStored(std::string_view query);
     // Only the rows for which a condition in the engine's own words holds, in the query's order.
     std::shared_ptr<RecordSet> SelectStored(std::string_view query, std::string_view condition, std::span<const Parameter> parameters);
-    void ExecuteStored(std::string_view query, std::span<const Parameter> parameters); // on disk when it returns
+
+    // On disk when it returns.
+    void ExecuteStored(std::string_view query, std::span<const Parameter> parameters);
 
     // The steps in one transaction, or nothing of them; on disk when it returns. What they change is in the edit trail as this author's,
     // all under the number of one step. In a file of an earlier version, which has no trail, steps that change any row are undone,
@@ -74,8 +91,13 @@ public:
     // `keepCopy` such a file stays as it is.
     void Write(const std::function<void()>& steps);
     void SignAs(Author author) { m_author = std::move(author); }
-    void StepNumber(std::int64_t step) { m_step = step; }  // of the writes that follow; 0: each is a step of its own
-    std::int64_t StepNumber() const { return m_lastStep; } // of the write that runs or was the last; 0 where it left no entry
+
+    // Of the writes that follow; 0: each is a step of its own.
+    void StepNumber(std::int64_t step) { m_step = step; }
+
+    // Of the write that runs or was the last; 0 where it left no entry.
+    [[nodiscard]] std::int64_t StepNumber() const { return m_lastStep; }
+
     void KeepCopy(std::function<void()> keepCopy) { m_keepCopy = std::move(keepCopy); }
 
     // Into the empty file `path`, as of one moment, without making it safe on the disk. Nobody else gets at the file meanwhile; what was
@@ -87,11 +109,17 @@ public:
     std::unique_ptr<Statement> Prepare(std::string_view sql);
     std::unique_ptr<Statement> PrepareStored(std::string_view query);
     void BeginMany();
-    void RunScript(const char* sql); // several statements in the engine's own words
-    std::int64_t LastKey() const;    // of the row inserted last
+
+    // Several statements in the engine's own words.
+    void RunScript(const char* sql);
+
+    // Of the row inserted last.
+    [[nodiscard]] std::int64_t LastKey() const;
+
     void Commit();
 
-    std::shared_ptr<RecordSet> CheckIntegrity(); // one text a row, "ok" alone for a sound file; without a bound on its steps
+    // One text a row, "ok" alone for a sound file; without a bound on its steps.
+    std::shared_ptr<RecordSet> CheckIntegrity();
 
 private:
     Connection& Open() const;

@@ -24,17 +24,24 @@ public:
     explicit FLogin(ptk::Desktop& desktop);
     ~FLogin() override;
 
-    void ConfigFile(std::shared_ptr<CFileAdaptor> value) override; // raises Failure 91 for nullptr, 13 when ShowLoginHelp is no boolean
+    // Raises Failure 91 for nullptr, 13 when ShowLoginHelp is no boolean.
+    void ConfigFile(std::shared_ptr<CFileAdaptor> value) override;
+
     void EmployeeList(std::shared_ptr<CEmployeeList> value) override;
     void ShowModal() override;
     bool LoginValid() const override { return m_loginValid; }
     std::string LoggedIn() const override { return m_loggedIn; }
-    std::string UserName() const { return m_userName; } // deliberately always empty
 
-    void reject() override; // Cancel, Escape and the close box
+    // Deliberately always empty.
+    [[nodiscard]] std::string UserName() const { return m_userName; }
+
+    // Cancel, Escape and the close box.
+    void reject() override;
 
 protected:
-    void keyPressEvent(QKeyEvent* event) override; // Enter after the name goes on to an empty password
+    // Enter after the name goes on to an empty password.
+    void keyPressEvent(QKeyEvent* event) override;
+
     void closeEvent(QCloseEvent* event) override;
 
 private:
