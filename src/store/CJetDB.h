@@ -1,5 +1,5 @@
-// The only class that touches the database engine: opens and closes the file, runs SQL, and moves employees and companies between their
-// tables and the entities through the stored queries inside the file.
+// The program's database as its classes ask for it: opens and closes the file, runs their SQL, and moves employees and companies between
+// their tables and the entities through the stored queries inside the file.
 #pragma once
 
 #include "platform/ErrorNumbers.h"

@@ -2,7 +2,7 @@
 
 namespace ptk {
 
-// The password deliberately comes twice: the query asked for it at either place in its history, and both must find it.
+// The password deliberately comes twice, since it always did; parameters are found by name, and both carry the same value.
 std::vector<Parameter> AddNewEmployeeParameters(const EmployeeRow& employee)
 {
     return {

@@ -44,7 +44,7 @@ public:
     // Into the Options page.
     bool DisplaySystemOptions(std::shared_ptr<CSystemOptions> options) override;
 
-    // The editor's way back; always true.
+    // Hands a record on to the Timecards page, where the editor hands its own; always true.
     bool ReturnTimeRecord(const std::shared_ptr<CTimeRecord>& thetimerecord);
 
     bool UnloadTimeCardReport() { return m_reports->UnloadReport(ReportKind::TimeCard); }

@@ -16,7 +16,8 @@ class DesktopWindow;
 class EmployeeModels;
 class OpenReports;
 
-// Which list the user is working with while its click is handled; several pages share the one marker.
+// In which list the user chose something last: a page's own list while it fills its fields from that, the time records until another
+// choice. Several pages share the one marker.
 namespace eventsource {
 inline constexpr std::int32_t None = 0;
 inline constexpr std::int32_t ID = 1;
