@@ -3,6 +3,7 @@
 #include "platform/Clock.h"
 #include "platform/Failure.h"
 #include "platform/ProgramFolder.h"
+#include "platform/Text.h"
 #include "shell/CDatabaseLocator.h"
 #include "store/Backups.h"
 #include "store/engine/Engine.h"
@@ -11,6 +12,7 @@
 #include "store/RowReader.h"
 
 #include <array>
+#include <fmt/format.h>
 
 namespace ptk {
 
@@ -22,9 +24,18 @@ constexpr const char* kNoSqlText = "there is no statement to run";
 constexpr const char* kAllEmployees = "GetAllEmployees";
 constexpr const char* kAllCompanies = "GetAllCompanies";
 
-// As CEmployee puts display names together.
-constexpr const char* kHasDisplayName =
-    "IIF(IFNULL(FirstName, '') = '', IFNULL(LastName, ''), FirstName || ' ' || IFNULL(LastName, '')) = :name";
+// Who has the display name :name, as CEmployee puts it together. A last name is all of it or what follows one of its blanks: asked for
+// first, because the index of the listing finds that.
+std::string HasDisplayName(const std::string& name)
+{
+    std::string lastNames = ":name";
+    for (std::size_t blank = name.find(' '); blank != std::string::npos; blank = name.find(' ', blank + 1)) {
+        lastNames += fmt::format(", SUBSTR(:name, {})", CharacterCount(name.substr(0, blank)) + 2); // counted in characters, from 1
+    }
+    return fmt::format("IFNULL(LastName, '') COLLATE NOCASE IN ({}) AND "
+                       "IIF(IFNULL(FirstName, '') = '', IFNULL(LastName, ''), FirstName || ' ' || IFNULL(LastName, '')) = :name",
+                       lastNames);
+}
 
 // Of what Update writes.
 bool SameOptions(const OptionsRow& a, const OptionsRow& b)
@@ -439,7 +450,8 @@ bool CJetDB::LoadEmployeesNamed(EmployeeSink& thelist, const std::string& thenam
     ForgetFailure();
     OpenWhenClosed();
     const std::array parameters{Parameter{"name", thename}};
-    return FillEmployees(thelist, OpenListing([&] { return m_database->SelectStored(kAllEmployees, kHasDisplayName, parameters); }));
+    return FillEmployees(thelist,
+                         OpenListing([&] { return m_database->SelectStored(kAllEmployees, HasDisplayName(thename), parameters); }));
 }
 
 bool CJetDB::FillEmployees(EmployeeSink& thelist, const std::shared_ptr<RecordSet>& rows)

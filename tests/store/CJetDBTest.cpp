@@ -271,13 +271,20 @@ TEST_F(CJetDBTest, LoadsOnlyTheEmployeesOfOneDisplayName)
 {
     Run("INSERT INTO Employee (FirstName, LastName, Active, AutoDeduct) VALUES "
         "('Z', 'b A', 1, 0), ('Z b', 'A', 0, 0), ('Z b', 'A', 1, 0), (NULL, 'Z b A', 1, 0), ('z b', 'A', 1, 0), ('', 'Cher', 1, 0), "
+        "('\xC3\x89', 'de la Ros\xC3\xA9', 1, 0), "
         "('Bad', 'Row', NULL, 0)");
     struct Case
     {
         const char* name;
         std::vector<std::int32_t> ids;
     };
-    for (const Case& c : {Case{"Z b A", {41, 42, 40, 43}}, {"Cher", {45}}, {" Cher", {}}, {"nobody", {}}, {"Bad Row", {}}}) {
+    for (const Case& c : {Case{"Z b A", {41, 42, 40, 43}},
+                          {"Cher", {45}},
+                          {"\xC3\x89 de la Ros\xC3\xA9", {46}},
+                          {"\xC3\x89 de la rosa", {}},
+                          {" Cher", {}},
+                          {"nobody", {}},
+                          {"Bad Row", {}}}) {
         Employees loaded;
         EXPECT_EQ(m_database.LoadEmployeesNamed(loaded, c.name), c.name != std::string("Bad Row")) << c.name;
         std::vector<std::int32_t> ids;
