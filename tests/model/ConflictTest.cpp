@@ -113,6 +113,7 @@ TEST_F(ConflictTest, ATimeRecordIsNeitherOverwrittenNorDeleted)
     unread->TimeRecordID(99);
     EXPECT_TRUE(factory.Save(unread)) << "nobody read a row of it";
     EXPECT_EQ(factory.LastFailure().Number(), 0);
+    EXPECT_FALSE(factory.Conflict().has_value());
 }
 
 TEST_F(ConflictTest, OptionsThatOnlySomebodyElseChangedStayTheirs)

@@ -320,6 +320,7 @@ TEST_F(TimeCardTest, AFactoryWithoutAListOrDatabaseSaysSo)
     EXPECT_EQ(factory->ErrorNumber(), 302);
     EXPECT_FALSE(factory->SaveList());
     EXPECT_EQ(factory->ErrorNumber(), 321);
+    EXPECT_EQ(factory->LastFailure().Number(), 91);
     EXPECT_FALSE(factory->SortTimeRecordList());
     EXPECT_EQ(factory->ErrorNumber(), 314);
     EXPECT_EQ(factory->GetTimeRecordByKey(At(3, 8), At(3, 9)), nullptr);

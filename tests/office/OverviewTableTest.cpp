@@ -66,6 +66,9 @@ TEST(OverviewTableTest, SortsByWhatACellMeans)
     const std::vector<OverviewRow> rows = Rows();
     EXPECT_FALSE(StandsBefore(rows, 0, 0, OverviewColumn::Name));
     EXPECT_TRUE(StandsBefore(rows, 0, 1, OverviewColumn::Name));
+    for (const auto column : {OverviewColumn::Regular, OverviewColumn::Gross, OverviewColumn::LongestWeek, OverviewColumn::Problems}) {
+        EXPECT_FALSE(StandsBefore({rows[0], rows[0]}, 0, 1, column)) << "equals keep the order of the list";
+    }
 }
 
 TEST(OverviewTableTest, SumsAndCopiesWhatIsShown)

@@ -122,6 +122,12 @@ TEST_F(CFileTest, TellsThePlatformsFailures)
     EXPECT_EQ(file.ErrorNumber(), 75) << "no regular file";
 
     ASSERT_TRUE(file.OpenFile(Path(), 1));
+    EXPECT_EQ(file.ReadLine(), "");
+    EXPECT_EQ(file.ErrorNumber(), 504);
+    EXPECT_TRUE(file.CloseFile());
+    EXPECT_EQ(file.ErrorNumber(), 0) << "what went wrong before is not the closing's";
+
+    ASSERT_TRUE(file.OpenFile(Path(), 1));
     const FullDisk full;
     EXPECT_FALSE(file.WriteLine("x"));
     EXPECT_EQ(file.ErrorNumber(), 61) << "a full disk is told by the write that meets it";
