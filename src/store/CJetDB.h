@@ -22,6 +22,7 @@ class CDatabaseLocator;
 class Engine;
 class RecordSet;
 class Statement;
+struct TableColumns;
 
 // One time record to be stored: its statement, and the row as it was read, where it was. See CTimeRecSQLConverter.
 struct TimeRecordWrite
@@ -181,7 +182,15 @@ private:
     bool Fail(std::int32_t errorNumber, const char* reason);
 
     bool Fail(std::int32_t errorNumber, Failure reason);
+    void FailOpening(const Failure& reason);
     bool FailWithoutDatabase();
+
+    // For Succeeds: the operation fails with this number and what was raised.
+    auto FailingWith(std::int32_t errorNumber)
+    {
+        return [this, errorNumber](const Failure& reason) { Fail(errorNumber, reason); };
+    }
+
     void ForgetFailure();
     void Prepare(Engine& engine);
     void TakeStep(std::int64_t step);
@@ -192,8 +201,11 @@ private:
     void OpenWhenClosed();
     void CloseWhenOpen();
     bool Change(std::int32_t errorNumber, const std::function<void()>& steps);
+    void Write(const std::function<void()>& steps);
     template <typename Listing>
     std::shared_ptr<RecordSet> OpenListing(Listing listing);
+    template <typename Take>
+    bool Fill(RecordSet& rows, const TableColumns& table, Take take);
     bool FillEmployees(EmployeeSink& thelist, const std::shared_ptr<RecordSet>& rows);
     std::shared_ptr<RecordSet> OpenEmployeeQuery();
     std::shared_ptr<RecordSet> OpenCompanyQuery();
