@@ -77,7 +77,7 @@ int BackupCommand(const BackupArguments& arguments, Console& console)
     if (!arguments.to) {
         return BackUpInto(order, console);
     }
-    const std::string target = std::filesystem::absolute(*arguments.to).string();
+    std::string target = std::filesystem::absolute(*arguments.to).string();
     const auto write = [&] {
         BackUpTo(order.database, target);
         return target;

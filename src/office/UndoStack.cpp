@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <fmt/format.h>
+#include <ranges>
 
 namespace ptk {
 
@@ -98,9 +99,9 @@ UndoStack::Step UndoStack::StepOf(const std::vector<TrailEntry>& entries) const
     Step step;
     step.text = TextOf(entries);
     step.lastEntry = entries.front().id;
-    for (auto entry = entries.rbegin(); entry != entries.rend(); ++entry) {
-        RowChange& change = step.changes.emplace_back(RowChange{entry->table, *entry->row, entry->before, entry->after});
-        step.complete = PutPasswords(*entry, change) && step.complete;
+    for (const TrailEntry& entry : std::views::reverse(entries)) {
+        RowChange& change = step.changes.emplace_back(RowChange{entry.table, *entry.row, entry.before, entry.after});
+        step.complete = PutPasswords(entry, change) && step.complete;
     }
     return step;
 }
