@@ -4,6 +4,7 @@
 #include "store/engine/EditTrail.h"
 
 namespace ptk {
+
 // The name of the account that the process has the rights of, its number where it has no name; and this program.
 [[nodiscard]] Author ConsoleAuthor();
 

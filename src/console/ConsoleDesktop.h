@@ -6,6 +6,7 @@
 #include <iosfwd>
 
 namespace ptk {
+
 // Nobody is there to answer: a question with Yes and No is answered No, any other with OK.
 class ConsoleDesktop final : public Desktop
 {

@@ -7,6 +7,7 @@
 #include <string>
 
 namespace ptk {
+
 // A failure of this number with its text and, where given, what it is about and why ("...: Ann Lee: the disk is full").
 [[nodiscard]] Failure ProgramFailure(std::int32_t number, const std::string& subject = "", const std::string& reason = "");
 

@@ -7,6 +7,7 @@
 #include <vector>
 
 namespace ptk {
+
 // How somebody's days look.
 enum class WorkPattern
 {

@@ -4,6 +4,7 @@
 #include <string>
 
 namespace ptk {
+
 // "Address: " and the indented lines below it, each ending in CR LF. An empty second line is left out.
 template <typename Row>
 void AppendAddress(std::string& text, const Row& row)

@@ -9,6 +9,7 @@
 #include <string_view>
 
 namespace ptk {
+
 // The look-ups find the first match in list order, else nullptr.
 class CCompanyList final : public EntityList<CCompanyList, CCompany>, public CompanySink
 {

@@ -11,6 +11,7 @@
 #include <utility>
 
 namespace ptk {
+
 // Both ends and both limits are inclusive and compared with their times of day.
 class CDateRange
 {

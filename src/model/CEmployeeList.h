@@ -10,6 +10,7 @@
 #include <string_view>
 
 namespace ptk {
+
 // The look-ups find the first match in list order, else nullptr; texts match exactly, in their letter case.
 class CEmployeeList final : public EntityList<CEmployeeList, CEmployee>, public EmployeeSink
 {

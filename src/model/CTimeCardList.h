@@ -7,6 +7,7 @@
 #include <memory>
 
 namespace ptk {
+
 // Whether Insert, Move and Remove succeeded is read from ErrorNumber. Cards live in memory only: they are generated, never loaded or saved.
 class CTimeCardList final : public DatabaseList<CTimeCardList, CTimeCard>
 {

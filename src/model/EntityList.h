@@ -11,6 +11,7 @@
 #include <utility>
 
 namespace ptk {
+
 // `Self` is the list class itself.
 template <typename Self, typename Object>
 class DatabaseList : public KeyedList<std::shared_ptr<Object>>

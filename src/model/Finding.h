@@ -10,6 +10,7 @@
 #include <vector>
 
 namespace ptk {
+
 // In the order in which findings of one moment are listed.
 enum class FindingKind
 {

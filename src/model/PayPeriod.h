@@ -7,6 +7,7 @@
 #include <optional>
 
 namespace ptk {
+
 // Both days are inclusive.
 struct PayPeriod
 {

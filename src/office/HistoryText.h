@@ -7,6 +7,7 @@
 #include <string>
 
 namespace ptk {
+
 // The display name of an employee by number, empty for one that nobody knows any more.
 using NameOfEmployee = std::function<std::string(std::int64_t employeeID)>;
 

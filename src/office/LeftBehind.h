@@ -7,6 +7,7 @@
 #include <string>
 
 namespace ptk {
+
 // `Texts` holds a page as texts and flags, compares with ==, and has the texts `id`, empty for a new record, and `name`.
 template <typename Texts>
 struct LeftBehind

@@ -9,6 +9,7 @@
 #include <string>
 
 namespace ptk {
+
 // As the boxes answer them.
 struct RecordTexts
 {

@@ -8,6 +8,7 @@
 #include <memory>
 
 namespace ptk {
+
 // The database is held within ReadOn alone: between two calls other programs, and this one, get at it. Every row is of one moment, the
 // whole need not be.
 class OverviewReading

@@ -6,6 +6,7 @@
 #include <vector>
 
 namespace ptk {
+
 // INVARIANT: failed <= done <= wanted.
 struct ReportRun
 {

@@ -5,6 +5,7 @@
 #include <string_view>
 
 namespace ptk {
+
 // In both, bytes that are no UTF-8 become U+FFFD.
 
 // A JSON string with its quotes. Control characters are escaped, delete and those behind it included.

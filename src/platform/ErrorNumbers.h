@@ -7,6 +7,7 @@
 #include <cstdint>
 
 namespace ptk {
+
 // Of every keyed list. No operation raises; it answers false or an empty entry and leaves one of these.
 namespace listerror {
 inline constexpr std::int32_t CreateFailed = 301;

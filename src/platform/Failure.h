@@ -6,6 +6,7 @@
 #include <string>
 
 namespace ptk {
+
 // The platform's failure numbers, as the error log and the message boxes show them. Failures of the database engine carry the engine's own
 // result codes instead (5 is then "busy", not "invalid procedure call"); their source tells them apart.
 namespace failure {

@@ -8,6 +8,7 @@
 #include <string_view>
 
 namespace ptk {
+
 // An empty file beside the target, for its owner only, that anybody may fill under Path(). It is gone again with its owner unless one of
 // the two endings gave it the target's name. Paths are in the platform's own form.
 class FileDraft

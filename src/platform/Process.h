@@ -2,6 +2,7 @@
 #pragma once
 
 namespace ptk {
+
 // From here on, writing to a reader that went away or beyond the limit on file size is a failure that the writer is told, not the end of
 // the process. And a standard stream that the caller closed does not become the number of the database or of a report.
 void SettleProcess();

@@ -6,6 +6,7 @@
 #include <string_view>
 
 namespace ptk {
+
 // The folder that holds system/, reports/ and documentation/, without a trailing separator: `option` when not empty, else the environment
 // variable PTK_PROGRAM_FOLDER when set and not empty, else the folder of the executable. Made absolute.
 [[nodiscard]] std::string FindProgramFolder(const std::string& option);

@@ -7,6 +7,7 @@
 #include <utility>
 
 namespace ptk {
+
 // The reference itself; raises Failure 91 when it is empty.
 template <typename Object>
 std::shared_ptr<Object> Required(std::shared_ptr<Object> object)

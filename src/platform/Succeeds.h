@@ -7,6 +7,7 @@
 #include <type_traits>
 
 namespace ptk {
+
 // The answer of a step (true for one that answers nothing); false when it raised anything, which is handed to `told` first. `told` itself
 // should raise nothing: nothing holds that back.
 template <typename Step, typename Told>

@@ -6,6 +6,7 @@
 #include <string_view>
 
 namespace ptk {
+
 // Owns a descriptor. Failures carry the number of the errno: 61 (disk full, or beyond a limit on file size or space), 57 and the like.
 class SystemFile
 {

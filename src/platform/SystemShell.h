@@ -7,6 +7,7 @@
 #include <string>
 
 namespace ptk {
+
 // `xdg-open` for open, whose refusal (no program for it) is waited for, up to a second; `lp` for print, whose refusal (no printer, no
 // spooler) is waited for, up to five.
 // Returns the shell's codes: above ShellSuccess when taken over, ShellFileNotFound for a missing file, ShellNoProgram when the program is

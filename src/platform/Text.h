@@ -9,6 +9,7 @@
 #include <string_view>
 
 namespace ptk {
+
 // The general text, as SQL literals and the log carry it: "3/5/2003 8:05:09 AM"; no time at exactly midnight, no date on the zero date
 // ("12:00:00 AM" for the zero date-time itself).
 [[nodiscard]] std::string GeneralText(DateTime value);

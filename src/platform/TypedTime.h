@@ -8,6 +8,7 @@
 #include <string_view>
 
 namespace ptk {
+
 // A time of day on the zero date: 17, 830, 0830, 8.30, 8:30, 8:30:15, each with a, p, am or pm behind it. One or two digits are the hour.
 [[nodiscard]] std::optional<DateTime> ReadTypedTime(std::string_view text);
 

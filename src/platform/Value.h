@@ -8,6 +8,7 @@
 #include <variant>
 
 namespace ptk {
+
 // Nothing (a database null), a boolean, a 16- or 32-bit integer, a single, a double, a date-time or text.
 // The conversions raise Failure 94 for null, 13 for what has no such meaning, 6 for what does not fit; nothing ever wraps.
 class Value

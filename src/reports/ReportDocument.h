@@ -10,6 +10,7 @@
 #include <vector>
 
 namespace ptk {
+
 // What the values of a column are.
 enum class CellType
 {

@@ -8,6 +8,7 @@
 #include <string>
 
 namespace ptk {
+
 // Without an ending nothing is left of it. No member raises.
 class ReportFile
 {

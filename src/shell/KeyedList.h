@@ -13,6 +13,7 @@
 #include <vector>
 
 namespace ptk {
+
 // What all lists share, whatever their Insert and Remove answer. `Entry` is a shared reference (empty = nullptr) or text (empty = "").
 // Positions are 1 to Count. Every operation except the properties first clears ErrorNumber.
 template <typename Entry>

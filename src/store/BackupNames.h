@@ -10,6 +10,7 @@
 #include <vector>
 
 namespace ptk {
+
 // "ptk_11-YYYY-MM-DD-HHMMSS.mdb".
 [[nodiscard]] std::string BackupName(DateTime made);
 

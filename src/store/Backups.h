@@ -10,6 +10,7 @@
 #include <vector>
 
 namespace ptk {
+
 // All paths are in the platform's own form. Where nothing else is said, failures are those of FileDraft and of the engine.
 
 // "<program folder>/backups".

@@ -7,6 +7,7 @@
 #include <string>
 
 namespace ptk {
+
 // Holds no connection; it only writes text. Error numbers: 810 insert, 811 update, 812 delete, 813 fetch. Nothing is raised.
 class CTimeRecSQLConverter
 {

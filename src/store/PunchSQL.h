@@ -2,6 +2,7 @@
 #pragma once
 
 namespace ptk::punchsql {
+
 // What starts between two moments, both included. Answered by the index TimeRecordPeriod alone.
 inline constexpr auto kStarting = "SELECT TimeRecordID, StartTime, EndTime FROM TimeRecord "
                                   "WHERE EmployeeID = :employee AND StartTime BETWEEN :first AND :last";

@@ -8,6 +8,7 @@
 #include <vector>
 
 namespace ptk {
+
 // In the order in which they are assigned.
 [[nodiscard]] std::vector<Parameter> AddNewEmployeeParameters(const EmployeeRow& employee);
 [[nodiscard]] std::vector<Parameter> UpdateEmployeeParameters(const EmployeeRow& employee);

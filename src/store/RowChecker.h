@@ -10,6 +10,7 @@
 #include <vector>
 
 namespace ptk {
+
 // Finds go behind `problems` as sentences, each once. Reads the rows in portions, so that any number of them takes the same memory.
 class RowChecker
 {

@@ -8,6 +8,7 @@
 #include <string>
 
 namespace ptk {
+
 // Persistence states of every entity.
 namespace state {
 inline constexpr std::int32_t NothingToDo = -1;

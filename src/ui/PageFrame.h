@@ -6,6 +6,7 @@
 class QVBoxLayout;
 
 namespace ptk {
+
 // The page scrolls where the frame is too small for it, so that nothing is ever cut off. Its layout named "buttons" stays in sight, below
 // what scrolls, and its widgets are then the frame's children.
 class PageFrame final : public QGroupBox

@@ -9,6 +9,7 @@
 #include <string>
 
 namespace ptk {
+
 // The hold is a transaction: taken by the constructor, given up by Commit and Release, and taken again by the next Hold. A file in
 // use is waited for, up to one second for each taking.
 class Connection

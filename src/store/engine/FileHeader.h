@@ -7,6 +7,7 @@
 struct sqlite3;
 
 namespace ptk {
+
 // What this program marks its files with; 0, which tools that know nothing of it leave behind, is accepted for both.
 inline constexpr std::int32_t kApplicationId = 0x50544B31; // "PTK1"
 inline constexpr std::int32_t kFormatNumber = 1;           // the newest that this program knows

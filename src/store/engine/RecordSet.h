@@ -11,6 +11,7 @@
 #include <vector>
 
 namespace ptk {
+
 // Starts on its first row. Columns are addressed by name in any letter case, or by the ordinal that Column() gave, which the loaders use on
 // their hot path. The typed readers raise Failure 94 for a null, 13 for what has no such meaning, 6 for what does not fit; all readers
 // raise 3021 when no row is current and 9 for a column that is not there.

@@ -8,6 +8,7 @@
 #include <string_view>
 
 namespace ptk {
+
 // The zero date-time is 1899-12-30 00:00:00.
 [[nodiscard]] std::string StoredText(DateTime value);
 

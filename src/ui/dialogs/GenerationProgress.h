@@ -8,6 +8,7 @@
 class QProgressBar;
 
 namespace ptk {
+
 // Opens, and lets other events happen, only inside GoOn, never by a timer of its own: a box that tells of an employee's failure is then
 // never covered by it.
 class GenerationProgress final : public QDialog

@@ -9,6 +9,7 @@
 #include <vector>
 
 namespace ptk {
+
 // REQUIRES: CloseAll before it goes, so that reports and viewers let go of each other.
 class QtViewerFactory final : public ReportViewerFactory
 {

@@ -12,6 +12,7 @@ class ReportViewerWindow;
 }
 
 namespace ptk {
+
 // The lines are collected and become one text when the window is shown, so that ten thousand of them open at once. Closing it unloads the
 // report.
 class ReportViewerWindow : public QMainWindow, public ReportViewer

@@ -8,6 +8,7 @@
 #include <utility>
 
 namespace ptk {
+
 // Says in the page's line what was left behind, with a button that calls bringBack(left). Where nothing was, the line keeps an earlier
 // offer and nothing else.
 template <typename Texts, typename BringBack>

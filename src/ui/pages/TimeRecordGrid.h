@@ -4,6 +4,7 @@
 #include <QTableView>
 
 namespace ptk {
+
 // Enter on a chosen row asks for it to be edited, as a double click does; without a chosen row Enter is left to the window. An empty table
 // says what to do.
 class TimeRecordGrid final : public QTableView

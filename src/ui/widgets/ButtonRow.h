@@ -6,6 +6,7 @@
 #include <vector>
 
 namespace ptk {
+
 // Buttons keep their own sizes and stand at the right. The one item that expands, the quiet line, takes what is left of the emptiest row,
 // or a row of its own above the others where that is too little for what it says. The least width is that of the widest button.
 class ButtonRow final : public QLayout

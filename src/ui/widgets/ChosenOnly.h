@@ -4,6 +4,7 @@
 class QComboBox;
 
 namespace ptk {
+
 // In both, the wheel turns the page under the pointer and never the choice in the box it passes over, the arrow keys go on from what was
 // typed, typing into an editable box opens its Proposals, and Enter chooses the entry that was typed, in any letter case. The box must have
 // its model already.

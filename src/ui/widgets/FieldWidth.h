@@ -4,6 +4,7 @@
 class QWidget;
 
 namespace ptk {
+
 // In digits of the widget's font.
 namespace fieldwidth {
 inline constexpr int State = 6;

@@ -4,6 +4,7 @@
 #include <QLineEdit>
 
 namespace ptk {
+
 // As wide as a figure needs, which is little: it grows only where its layout has it fill a column.
 class FigureBox final : public QLineEdit
 {

@@ -4,6 +4,7 @@
 #include <QBoxLayout>
 
 namespace ptk {
+
 // The least width is that of the widest item alone. Without margins.
 class FoldingRow final : public QBoxLayout
 {

@@ -4,6 +4,7 @@
 #include <QLabel>
 
 namespace ptk {
+
 // Empty at first; breaks its lines. Each new text is announced to assistive tools.
 class HintLabel final : public QLabel
 {

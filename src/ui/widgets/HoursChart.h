@@ -9,6 +9,7 @@
 class QPainter;
 
 namespace ptk {
+
 // Each column can be reached with the arrow keys and tells its figures in words, as its tool tip and to a screen reader. Overtime is
 // hatched. Columns share the width; where they would become too narrow, the view scrolls.
 class HoursChart final : public QListView

@@ -7,6 +7,7 @@ class QComboBox;
 class QKeyEvent;
 
 namespace ptk {
+
 // The entries that hold the typed text anywhere, in any letter case, in a list below the box. What was typed stays as it is, whatever is
 // walked over in that list, until an entry is chosen there. Keys and clicks that are not meant for the list go where they would go without
 // it. Belongs to the box, whose model must be set already.

@@ -4,6 +4,7 @@
 #include <QIcon>
 
 namespace ptk {
+
 // data/icons/NAME.svg; what is drawn there in "currentColor" takes the colour of the palette's window text each time it is painted, so
 // light and dark themes both show it, at any scaling.
 [[nodiscard]] QIcon ThemeIcon(const QString& name);

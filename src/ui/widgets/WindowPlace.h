@@ -7,6 +7,7 @@
 class QWidget;
 
 namespace ptk {
+
 // What the window's screen has to give, less what the window manager takes for borders and a title.
 [[nodiscard]] QRect RoomFor(const QWidget& window);
 
