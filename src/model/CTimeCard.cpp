@@ -5,6 +5,7 @@
 #include "model/CTimeRecordFactory.h"
 #include "model/CTimeRecordList.h"
 #include "platform/Failure.h"
+#include "platform/Succeeds.h"
 #include "platform/Text.h"
 #include "platform/Value.h"
 
@@ -60,12 +61,8 @@ void CTimeCard::Begin()
 bool CTimeCard::GenerateTimecard(const std::shared_ptr<CEmployee>& theemployee, DateTime thestartdate, DateTime theenddate)
 {
     Begin();
-    try {
-        return Generate(theemployee, thestartdate, theenddate);
-    } catch (...) {
-        m_lastFailure = CurrentFailure();
-        return Fail(timecard::GenerateFailed);
-    }
+    return Succeeds([&] { return Generate(theemployee, thestartdate, theenddate); },
+                    [&](const Failure& reason) { Fail(timecard::GenerateFailed, reason); });
 }
 
 bool CTimeCard::Generate(const std::shared_ptr<CEmployee>& theemployee, DateTime thestartdate, DateTime theenddate)
@@ -110,15 +107,10 @@ bool CTimeCard::CloseTimeRecord(const std::shared_ptr<CEmployee>& theemployee, D
     }
     // Both bounds on the shift date: of the records from there on, an open one's end lies before every bound.
     if (!m_factory->BuildList(theemployee->EmployeeID(), theshiftdate, theshiftdate)) {
-        m_lastFailure = m_factory->LastFailure();
-        return Fail(timecard::FetchFailed);
+        return Fail(timecard::FetchFailed, m_factory->LastFailure());
     }
-    try {
-        return CloseFirstOpen(*TimeRecordList(), theendtime);
-    } catch (...) {
-        m_lastFailure = CurrentFailure();
-        return Fail(timecard::FetchFailed);
-    }
+    return Succeeds([&] { return CloseFirstOpen(*TimeRecordList(), theendtime); },
+                    [&](const Failure& reason) { Fail(timecard::FetchFailed, reason); });
 }
 
 bool CTimeCard::CloseFirstOpen(CTimeRecordList& list, DateTime theendtime)
@@ -226,6 +218,12 @@ void CTimeCard::AppendSummary(std::string& text) const
     text += "\tOvertime Pay Rate: \t\t" + TwoDecimals(OvertimePay()) + "\r\n";
     text += "\tTotal Break Time: \t\t" + TwoDecimals(m_totalBreakTime) + "\r\n";
     text += "\tGross Pay: \t\t\t" + TwoDecimals(m_totalPay) + "\r\n";
+}
+
+bool CTimeCard::Fail(std::int32_t errorNumber, const Failure& reason)
+{
+    m_lastFailure = reason;
+    return Fail(errorNumber);
 }
 
 bool CTimeCard::Fail(std::int32_t errorNumber)

@@ -105,6 +105,7 @@ private:
 
     // Always false.
     bool Fail(std::int32_t errorNumber);
+    bool Fail(std::int32_t errorNumber, const Failure& reason);
 
     std::shared_ptr<CEmployee> m_employee;
     CDateRange m_range;

@@ -136,23 +136,20 @@ void CTimeRecordFactory::Stored(CTimeRecord& record)
 bool CTimeRecordFactory::Save(const std::shared_ptr<CTimeRecord>& thetimerecord)
 {
     ForgetFailure();
-    try {
+    const auto save = [&] {
         if (m_database != nullptr && thetimerecord != nullptr) {
             const TimeRecordWrite write = WriteOf(*thetimerecord);
             const bool stored = write.asRead ? m_database->SaveTimeRecords({&write, 1}) : m_database->ExecuteAction(write.statement);
             TakeAnswer(stored, {thetimerecord.get()});
         }
-        return true;
-    } catch (...) {
-        m_lastFailure = CurrentFailure();
-        return Fail(recordfactory::SaveFailed);
-    }
+    };
+    return Succeeds(save, [&](const Failure& reason) { Fail(recordfactory::SaveFailed, reason); });
 }
 
 bool CTimeRecordFactory::SaveList()
 {
     ResetError();
-    try {
+    const auto save = [&] {
         std::vector<CTimeRecord*> records;
         std::vector<TimeRecordWrite> writes;
         for (std::int32_t i = 1; i <= Required(m_list)->Count(); ++i) {
@@ -164,11 +161,8 @@ bool CTimeRecordFactory::SaveList()
         if (m_database != nullptr) {
             TakeAnswer(m_database->SaveTimeRecords(writes), records);
         }
-        return true;
-    } catch (...) {
-        m_lastFailure = CurrentFailure();
-        return Fail(recordfactory::SaveListFailed);
-    }
+    };
+    return Succeeds(save, [&](const Failure& reason) { Fail(recordfactory::SaveListFailed, reason); });
 }
 
 // A record that was given another number is not the row that was read, and a new one none at all.
@@ -213,6 +207,12 @@ std::shared_ptr<CTimeRecord> CTimeRecordFactory::GetTimeRecordByKey(DateTime the
 bool CTimeRecordFactory::SortTimeRecordList()
 {
     return CTimeRecordListSorter(m_list).Sort(kAscending) || Fail(recordfactory::SortFailed);
+}
+
+void CTimeRecordFactory::Fail(std::int32_t errorNumber, const Failure& reason)
+{
+    m_lastFailure = reason;
+    m_errorNumber = errorNumber;
 }
 
 bool CTimeRecordFactory::Fail(std::int32_t errorNumber)

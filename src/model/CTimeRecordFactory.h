@@ -77,6 +77,7 @@ private:
 
     // Always false.
     bool Fail(std::int32_t errorNumber);
+    void Fail(std::int32_t errorNumber, const Failure& reason);
 
     std::shared_ptr<CJetDB> m_database;
     std::shared_ptr<CTimeRecordList> m_list;

@@ -2,6 +2,7 @@
 
 #include "platform/Failure.h"
 #include "platform/ProgramFolder.h"
+#include "platform/Succeeds.h"
 #include "shell/CFileAdaptor.h"
 #include "store/BackupNames.h"
 
@@ -23,11 +24,9 @@ BackupOutcome MakeBackup(const BackupOrder& order, const CopyProgress& progress)
     PruneBackups(folder, std::filesystem::path(outcome.path).filename().string());
     if (!order.secondFolder.empty()) {
         const std::string second = NativePath(order.secondFolder).string();
-        try {
-            CopyBackup(outcome.path, second);
-        } catch (...) {
-            outcome.secondProblem = "there is no second copy in " + second + ": " + CurrentFailure().Description();
-        }
+        Succeeds(
+            [&] { CopyBackup(outcome.path, second); },
+            [&](const Failure& reason) { outcome.secondProblem = "there is no second copy in " + second + ": " + reason.Description(); });
     }
     return outcome;
 }

@@ -3,6 +3,7 @@
 #include "model/CEmployee.h"
 #include "model/CTimeCard.h"
 #include "model/PunchReader.h"
+#include "platform/Succeeds.h"
 #include "store/CJetDB.h"
 
 namespace ptk {
@@ -18,13 +19,12 @@ CheckedTimecard GenerateChecked(CTimeCard& card, const std::shared_ptr<CJetDB>& 
     if (employee == nullptr || database == nullptr) {
         return result;
     }
-    try {
+    const auto check = [&] {
         result.limits = limits ? *limits : LoadCheckLimits(database);
         result.punches = PunchReader(*database, period, result.limits.firstWeekday).Read(employee->EmployeeID());
         result.check = CheckCard({*employee, period.from, period.to}, result.punches, now, result.limits);
-    } catch (...) {
-        result.failure = CurrentFailure();
-    }
+    };
+    Succeeds(check, [&](const Failure& reason) { result.failure = reason; });
     return result;
 }
 

@@ -90,11 +90,7 @@ FillPlan PlanFill(const FillTexts& texts)
     FillPlan plan;
     CDateRange range;
     plan.refusal = ReadRange(texts, range);
-    const auto make = [&] {
-        plan.shifts = ShiftsOf(range, texts);
-        return true;
-    };
-    if (plan.refusal == FillRefusal::None && !Succeeds(make)) {
+    if (plan.refusal == FillRefusal::None && !Succeeds([&] { plan.shifts = ShiftsOf(range, texts); })) {
         plan.refusal = FillRefusal::NoTime;
     }
     return plan;

@@ -1,6 +1,7 @@
 #include "office/OptionTexts.h"
 
 #include "model/PayPeriod.h"
+#include "platform/Succeeds.h"
 #include "platform/Text.h"
 #include "shell/CDataValidator.h"
 #include "store/CSystemOptions.h"
@@ -61,17 +62,15 @@ bool StoreOptions(CSystemOptions& options, const OptionTexts& texts)
 
 std::string PeriodExample(const std::string& periodLength, DateTime today)
 {
-    try {
-        const auto length = PeriodLength(periodLength);
-        if (!length) {
-            return {};
+    std::string example; // stays empty for a length that no calendar holds
+    Succeeds([&] {
+        if (const auto length = PeriodLength(periodLength)) {
+            const PayPeriod period = PayPeriodFrom(today, *length);
+            example = fmt::format("A period has {} {}, for example {} - {}", *length + 1, *length == 0 ? "day" : "days",
+                                  FormatDateTime(period.from, kDateFormat), FormatDateTime(period.to, kDateFormat));
         }
-        const PayPeriod period = PayPeriodFrom(today, *length);
-        return fmt::format("A period has {} {}, for example {} - {}", *length + 1, *length == 0 ? "day" : "days",
-                           FormatDateTime(period.from, kDateFormat), FormatDateTime(period.to, kDateFormat));
-    } catch (...) {
-        return {}; // a length that no calendar holds
-    }
+    });
+    return example;
 }
 
 LimitTexts ShowLimits(const CheckLimits& limits)
@@ -81,15 +80,11 @@ LimitTexts ShowLimits(const CheckLimits& limits)
 
 std::optional<CheckLimits> ReadLimits(const LimitTexts& texts)
 {
-    if (!CDataValidator().CheckIntegerValues(texts.longShiftHours)) {
-        return std::nullopt;
-    }
-    try {
-        const std::int32_t hours = ToInt32(texts.longShiftHours);
-        return hours < 1 || hours > kMostHours ? std::nullopt : std::optional(CheckLimits{hours, texts.firstWeekday, texts.showNotices});
-    } catch (...) {
-        return std::nullopt; // too long a number, or none at all
-    }
+    std::int32_t hours = 0;
+    const bool isNumber =
+        CDataValidator().CheckIntegerValues(texts.longShiftHours) && Succeeds([&] { hours = ToInt32(texts.longShiftHours); });
+    return !isNumber || hours < 1 || hours > kMostHours ? std::nullopt
+                                                        : std::optional(CheckLimits{hours, texts.firstWeekday, texts.showNotices});
 }
 
 std::string LimitRefusal(const LimitTexts& texts)

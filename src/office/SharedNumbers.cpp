@@ -15,10 +15,7 @@ namespace {
 std::optional<std::int32_t> Number(const std::string& text)
 {
     std::int32_t number = 0;
-    const bool isNumber = Succeeds([&] {
-        number = ToInt32(text);
-        return true;
-    });
+    const bool isNumber = Succeeds([&] { number = ToInt32(text); });
     return isNumber ? std::optional(number) : std::nullopt;
 }
 

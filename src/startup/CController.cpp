@@ -7,6 +7,7 @@
 #include "platform/Failure.h"
 #include "platform/ProgramFolder.h"
 #include "platform/Required.h"
+#include "platform/Succeeds.h"
 #include "shell/CDatabaseLocator.h"
 #include "shell/CError.h"
 #include "shell/CFile.h"
@@ -50,25 +51,17 @@ CController::~CController() = default;
 template <typename Operation>
 bool CController::Logged(Operation operation)
 {
-    try {
-        return operation();
-    } catch (...) {
-        const CError error(m_around.desktop);
-        LogFailure(kOperationFailed, error.ErrorNumber(), error.ErrorDescription());
-        return false;
-    }
+    return Succeeds(operation, [this](const Failure& reason) { LogFailure(kOperationFailed, reason.Number(), reason.Description()); });
 }
 
 void CController::Start()
 {
     const std::shared_ptr<CController> self = shared_from_this(); // the end routine gives up its own
-    try {
-        BringUp();
-    } catch (...) {
-        CError error(m_around.desktop);
-        error.MessageBox(static_cast<std::int16_t>(Icon::Critical), static_cast<std::int16_t>(Buttons::Ok));
-        LogFailure(kConstructionFailed, error.ErrorNumber(), error.ErrorDescription());
-    }
+    Succeeds([this] { BringUp(); },
+             [this](const Failure& reason) {
+                 CError(m_around.desktop).MessageBox(static_cast<std::int16_t>(Icon::Critical), static_cast<std::int16_t>(Buttons::Ok));
+                 LogFailure(kConstructionFailed, reason.Number(), reason.Description());
+             });
 }
 
 void CController::BringUp()
@@ -127,11 +120,7 @@ bool CController::Cleanup()
         return false;
     }
     const std::shared_ptr<CController> self = shared_from_this(); // the end routine and the main window give up theirs
-    try {
-        ShutDown();
-    } catch (...) {
-        return false;
-    }
+    Succeeds([this] { ShutDown(); });
     return false;
 }
 

@@ -2,6 +2,7 @@
 
 #include "platform/FileDraft.h"
 #include "platform/ProgramFolder.h"
+#include "platform/Succeeds.h"
 #include "platform/Text.h"
 #include "store/BackupNames.h"
 #include "store/engine/EngineFailure.h"
@@ -72,11 +73,7 @@ BackupEntry EntryOf(const std::string& folder, const std::string& name)
     if (const auto size = fs::file_size(path, ignored); !ignored) {
         entry.size = static_cast<std::int64_t>(size);
     }
-    try {
-        entry.content = ExamineBackup(path);
-    } catch (...) {
-        entry.fault = CurrentFailure().Description();
-    }
+    Succeeds([&] { entry.content = ExamineBackup(path); }, [&](const Failure& reason) { entry.fault = reason.Description(); });
     return entry;
 }
 

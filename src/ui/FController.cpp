@@ -2,6 +2,7 @@
 
 #include "model/CCompanyList.h"
 #include "model/CEmployeeList.h"
+#include "platform/Succeeds.h"
 #include "shell/CDocLauncher.h"
 #include "startup/CController.h"
 #include "startup/Notices.h"
@@ -251,17 +252,14 @@ bool FController::InitializeTabPages()
 
 bool FController::FillTabLists()
 {
-    try {
+    return Succeeds([this] {
         const bool companies = m_companyPage->FillCompanyLists();
         const bool employees = m_employeePage->FillEmployeeLists();
         const bool reports = m_reportsPage->FillReportList();
         if (!companies || !employees || !reports) {
             m_errorNumber = windowerror::FillListsFailed;
         }
-        return true;
-    } catch (...) {
-        return false;
-    }
+    });
 }
 
 void FController::ShowFirstRecords()

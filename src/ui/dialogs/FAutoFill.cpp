@@ -7,6 +7,7 @@
 #include "platform/Clock.h"
 #include "platform/Desktop.h"
 #include "platform/Required.h"
+#include "platform/Succeeds.h"
 #include "platform/Text.h"
 #include "ui_FAutoFill.h"
 
@@ -102,7 +103,7 @@ void FAutoFill::Forecast()
 
 bool FAutoFill::LoadTimeRecordList()
 {
-    try {
+    return Succeeds([this] {
         const FillPlan plan = PlanFill(Texts());
         if (!MayFill(plan)) {
             return false;
@@ -112,9 +113,7 @@ bool FAutoFill::LoadTimeRecordList()
             AddRecord(shift);
         }
         return true;
-    } catch (...) {
-        return false;
-    }
+    });
 }
 
 // Of times that cannot be read no box tells, deliberately.

@@ -4,6 +4,7 @@
 #include "model/CEmployeeList.h"
 #include "platform/Desktop.h"
 #include "platform/Required.h"
+#include "platform/Succeeds.h"
 #include "platform/Text.h"
 #include "shell/CFileAdaptor.h"
 #include "ui/dialogs/FLoginHelp.h"
@@ -77,7 +78,7 @@ bool FLogin::SaveShowLoginHelp()
 // Everything that goes wrong on the way is a refused login.
 bool FLogin::ValidateLogin()
 {
-    try {
+    return Succeeds([this] {
         const auto employee = Required(m_employeeList)->GetEmployeeByName(m_ui->txtName->text().toStdString());
         if (employee == nullptr || employee->Password().empty()) {
             return false;
@@ -85,9 +86,7 @@ bool FLogin::ValidateLogin()
         m_loginValid = employee->Password() == m_ui->txtPassword->text().toStdString();
         m_loggedIn = employee->DisplayName();
         return m_loginValid;
-    } catch (...) {
-        return false;
-    }
+    });
 }
 
 void FLogin::Login()

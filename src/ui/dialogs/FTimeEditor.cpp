@@ -141,13 +141,7 @@ bool FTimeEditor::ReadTimeRecord()
     for (auto* box : Boxes()) {
         box->TakeNote();
     }
-    try {
-        ReadTimes();
-        return true;
-    } catch (...) {
-        m_desktop.Show(kFormatText, kFormatTitle, Icon::Exclamation);
-        return false;
-    }
+    return Succeeds([this] { ReadTimes(); }, [this](const Failure&) { m_desktop.Show(kFormatText, kFormatTitle, Icon::Exclamation); });
 }
 
 void FTimeEditor::ReadTimes()
@@ -175,11 +169,7 @@ bool FTimeEditor::HasBothTimes() const
 // Without a box, which would take the next key: what is wrong is told when the time box is left.
 void FTimeEditor::FollowTyping()
 {
-    const auto read = [this] {
-        ReadTimes();
-        return true;
-    };
-    if (HasBothTimes() && Succeeds(read)) {
+    if (HasBothTimes() && Succeeds([this] { ReadTimes(); })) {
         ShowTotal();
     }
 }

@@ -112,7 +112,6 @@ void OverviewWindow::ConnectPeriod()
             if (const auto from = m_ui->dttbOverviewFrom->Date()) {
                 m_ui->dttbOverviewTo->SetDate(PayPeriodFrom(*from, PeriodLength()).to);
             }
-            return true;
         });
     });
     for (DateCombo* box : {m_ui->dttbOverviewFrom, m_ui->dttbOverviewTo}) {
@@ -175,11 +174,7 @@ void OverviewWindow::Open(const std::optional<PayPeriod>& timecards)
         return;
     }
     m_ui->grdOverview->setFocus();
-    const bool has = Succeeds([&] {
-        ShowPeriod(OverviewPeriod(timecards, m_host.Clock().Today(), PeriodLength()));
-        return true;
-    });
-    if (has) {
+    if (Succeeds([&] { ShowPeriod(OverviewPeriod(timecards, m_host.Clock().Today(), PeriodLength())); })) {
         Refresh();
     }
 }
@@ -230,11 +225,7 @@ void OverviewWindow::Refresh()
 {
     Say(QString());
     m_next.stop();
-    try {
-        Begin();
-    } catch (...) {
-        Complain(CurrentFailure().Description());
-    }
+    Succeeds([this] { Begin(); }, [this](const Failure& reason) { Complain(reason.Description()); });
 }
 
 void OverviewWindow::Begin()
@@ -257,12 +248,10 @@ void OverviewWindow::ReadOn()
     const auto chosen = shown != nullptr && m_ui->grdOverview->selectionModel()->hasSelection()
                             ? std::optional(shown->employee->EmployeeID())
                             : std::nullopt;
-    try {
-        QElapsedTimer time;
-        time.start();
-        m_reading->ReadOn([&] { return time.elapsed() < kReadingTime; });
-    } catch (...) {
-        Complain(CurrentFailure().Description());
+    QElapsedTimer time;
+    time.start();
+    const auto read = [&] { m_reading->ReadOn([&] { return time.elapsed() < kReadingTime; }); };
+    if (!Succeeds(read, [this](const Failure& reason) { Complain(reason.Description()); })) {
         return Stop();
     }
     m_rows->Show(m_reading);

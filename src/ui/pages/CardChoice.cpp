@@ -90,10 +90,7 @@ bool CardChoice::InitializePayPeriod()
 
 bool CardChoice::AlignPeriodEnd()
 {
-    return Succeeds([this] {
-        m_ui->dttbTCTo->SetDate(PayPeriodFrom(ChosenDate(*m_ui->dttbTCFrom), PeriodLength()).to);
-        return true;
-    });
+    return Succeeds([this] { m_ui->dttbTCTo->SetDate(PayPeriodFrom(ChosenDate(*m_ui->dttbTCFrom), PeriodLength()).to); });
 }
 
 bool CardChoice::MovePayPeriod(std::int16_t direction)

@@ -7,6 +7,7 @@
 #include "platform/BusyPointer.h"
 #include "platform/Desktop.h"
 #include "platform/Required.h"
+#include "platform/Succeeds.h"
 #include "startup/CController.h"
 #include "store/CJetDB.h"
 #include "ui/pages/OfferLeft.h"
@@ -123,11 +124,9 @@ void CompanyPage::ShowStatus(const CCompany& company)
 // By the row's own ID: of companies of one name each is found.
 std::shared_ptr<CCompany> CompanyPage::ChosenIn(const QComboBox& box) const
 {
-    try {
-        return List()->GetCompanyByID(box.currentData().toInt());
-    } catch (...) {
-        return nullptr;
-    }
+    std::shared_ptr<CCompany> chosen;
+    Succeeds([&] { chosen = List()->GetCompanyByID(box.currentData().toInt()); });
+    return chosen;
 }
 
 bool CompanyPage::ShowCompany(const std::shared_ptr<CCompany>& thecompany)
@@ -210,11 +209,8 @@ void CompanyPage::Save()
     if (texts.name.empty()) {
         return (void)m_host.Desktop().Show(kNoName, kSaveTitle, Icon::Exclamation);
     }
-    try {
-        SaveTexts(texts);
-    } catch (...) {
-        m_host.Desktop().Show(kNotRead, listedit::kSaveTitle, Icon::Exclamation);
-    }
+    Succeeds([&] { SaveTexts(texts); },
+             [this](const Failure&) { m_host.Desktop().Show(kNotRead, listedit::kSaveTitle, Icon::Exclamation); });
 }
 
 void CompanyPage::SaveTexts(const CompanyTexts& texts)

@@ -48,7 +48,6 @@ bool CurrentCard::RefreshTimeCard()
         } else if (Regenerate()) {
             m_line.Say(QString::fromStdString(GeneratedText(*m_card)));
         }
-        return true;
     };
     if (Succeeds(refresh)) {
         return true;
@@ -114,11 +113,7 @@ bool CurrentCard::Regenerate()
 // What was to be saved is saved; that the card cannot be shown again is another matter.
 void CurrentCard::RegenerateAfterSave()
 {
-    const auto regenerate = [this] {
-        Regenerate();
-        return true;
-    };
-    if (!Succeeds(regenerate)) {
+    if (!Succeeds([this] { Regenerate(); })) {
         ClearTimeCardDisplay();
         Tell(m_host.Desktop(), kNotGenerated);
     }

@@ -145,11 +145,9 @@ void EmployeePage::ShowStatus(const CEmployee& employee)
 // By the row's own ID: of namesakes each is found.
 std::shared_ptr<CEmployee> EmployeePage::ChosenIn(const QComboBox& box) const
 {
-    try {
-        return List()->GetEmployeeByID(box.currentData(kEmployeeIDRole).toInt());
-    } catch (...) {
-        return nullptr;
-    }
+    std::shared_ptr<CEmployee> chosen;
+    Succeeds([&] { chosen = List()->GetEmployeeByID(box.currentData(kEmployeeIDRole).toInt()); });
+    return chosen;
 }
 
 bool EmployeePage::ShowEmployee(const std::shared_ptr<CEmployee>& theemployee)
@@ -270,10 +268,7 @@ void EmployeePage::BringBack(const LeftBehind<EmployeeTexts>& left)
 
 void EmployeePage::WarnOfSharedNumbers()
 {
-    Succeeds([this] {
-        m_ui->notice->Remark(QString::fromStdString(SharedNumbersNotice(*List(), ReadTexts())));
-        return true;
-    });
+    Succeeds([this] { m_ui->notice->Remark(QString::fromStdString(SharedNumbersNotice(*List(), ReadTexts()))); });
 }
 
 void EmployeePage::Save()
@@ -283,11 +278,8 @@ void EmployeePage::Save()
     if (!IsAccepted(texts)) {
         return;
     }
-    try {
-        SaveTexts(texts);
-    } catch (...) {
-        m_host.Desktop().Show(kNotRead, listedit::kSaveTitle, Icon::Exclamation);
-    }
+    Succeeds([&] { SaveTexts(texts); },
+             [this](const Failure&) { m_host.Desktop().Show(kNotRead, listedit::kSaveTitle, Icon::Exclamation); });
 }
 
 bool EmployeePage::IsAccepted(const EmployeeTexts& texts)

@@ -97,18 +97,19 @@ void OptionsPage::showEvent(QShowEvent* event)
 
 void OptionsPage::LoadLimits()
 {
-    try {
-        const auto controller = m_host.Controller();
-        if (controller == nullptr || controller->PTKDatabase() == nullptr) {
-            return;
-        }
+    const auto controller = m_host.Controller();
+    if (controller == nullptr || controller->PTKDatabase() == nullptr) {
+        return;
+    }
+    const auto load = [&] {
         const BusyPointer busy(m_host.Desktop());
         m_limits = ShowLimits(LoadCheckLimits(controller->PTKDatabase()));
-    } catch (...) {
-        const std::string line = kLimitsUnread + CurrentFailure().Description();
+    };
+    Succeeds(load, [this](const Failure& reason) {
+        const std::string line = kLimitsUnread + reason.Description();
         m_ui->notice->Say(QString::fromStdString(line));
         m_host.Log(line);
-    }
+    });
     ShowStoredLimits();
 }
 

@@ -238,11 +238,7 @@ void ReportsPage::Generate()
         return;
     }
     const QScopedValueRollback generating(m_generating, true);
-    try {
-        Run(*entry);
-    } catch (...) {
-        ShowFailure(CurrentFailure().Number(), name);
-    }
+    Succeeds([&] { Run(*entry); }, [&](const Failure& reason) { ShowFailure(reason.Number(), name); });
 }
 
 // Shows what becomes of a run.

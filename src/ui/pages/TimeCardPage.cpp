@@ -166,10 +166,7 @@ PeriodTexts TimeCardPage::Period() const
 std::optional<PayPeriod> TimeCardPage::ChosenPeriod() const
 {
     std::optional<PayPeriod> period;
-    Succeeds([&] {
-        period = m_choice->Period();
-        return true;
-    });
+    Succeeds([&] { period = m_choice->Period(); });
     return period;
 }
 
@@ -397,7 +394,6 @@ void TimeCardPage::Print()
         if (!m_host.Reports().PrintTimeCard(m_card->Card(), errorNumber)) {
             tell(errorNumber);
         }
-        return true;
     };
     if (!Succeeds(print)) {
         m_ui->notice->Say(kNotPrinted);
