@@ -65,25 +65,14 @@ DateTime DayBefore(DateTime day)
     return day > firstDay ? day.AddDays(-1) : day;
 }
 
-std::unique_ptr<Statement> Prepare(CJetDB& database, const char* sql)
-{
-    auto statement = database.PrepareSelect(sql);
-    if (statement == nullptr) {
-        throw database.LastFailure();
-    }
-    return statement;
-}
-
 } // namespace
 
 PunchReader::PunchReader(CJetDB& database, const PayPeriod& period, std::int32_t firstWeekday)
     : m_from(period.from), m_end(EndOfDay(period.to))
 {
-    if (!database.OpenDB()) {
-        throw database.LastFailure();
-    }
-    m_unusual = Prepare(database, punchsql::kUnusual);
-    m_starting = Prepare(database, punchsql::kStarting);
+    RequireOpen(database);
+    m_unusual = RequireSelect(database, punchsql::kUnusual);
+    m_starting = RequireSelect(database, punchsql::kStarting);
     m_starting->Bind("first", DayBefore(WeekStart(period.from, firstWeekday)));
     // A shift without length at the card's last moment is on the card, though it begins behind the period and perhaps its weeks.
     m_starting->Bind("last", std::max(LastSecond(WeekLast(period.to, firstWeekday)), m_end));

@@ -96,10 +96,8 @@ std::string TextLine(const TrailEntry& entry, const std::string& text)
 EmployeeNames::EmployeeNames(const std::shared_ptr<CJetDB>& database)
 {
     const CJetDB::Hold hold(database);
-    const auto rows = database->OpenDB() ? database->PrepareSelect(kNames) : nullptr;
-    if (rows == nullptr) {
-        throw database->LastFailure();
-    }
+    RequireOpen(*database);
+    const auto rows = RequireSelect(*database, kNames);
     rows->ForEachRow([&] {
         m_order.push_back(rows->Int64At(0));
         m_present[m_order.back()] = {std::string(rows->TextAt(1)), std::string(rows->TextAt(2))};

@@ -4,8 +4,9 @@
 #include "platform/Succeeds.h"
 #include "platform/Text.h"
 #include "store/CJetDB.h"
+#include "store/DisplayNameSQL.h"
 #include "store/engine/Engine.h"
-#include "store/engine/RecordSet.h"
+#include "store/engine/Statement.h"
 
 #include <algorithm>
 #include <fmt/format.h>
@@ -46,6 +47,14 @@ bool AreNewRecords(const std::vector<TrailEntry>& entries)
 {
     return std::all_of(entries.begin(), entries.end(),
                        [](const TrailEntry& entry) { return entry.table == "TimeRecord" && !entry.before; });
+}
+
+const char* NameSql(const std::string& table)
+{
+    if (table == "TimeRecord") {
+        return "StartTime";
+    }
+    return table == "Company" ? "Name" : kDisplayNameSql;
 }
 
 std::string Titled(const char* word, const std::string& text)
@@ -145,21 +154,14 @@ std::string UndoStack::NameOf(const TrailEntry& entry) const
         return RecordMoment(entry);
     }
     const CJetDB::Hold hold(m_database);
-    const char* const name = entry.table == "TimeRecord" ? "StartTime"
-                             : entry.table == "Company"
-                                 ? "Name"
-                                 : "CASE WHEN IFNULL(FirstName, '') = '' THEN LastName ELSE FirstName || ' ' || LastName END";
-    const bool open = m_database->OpenDB();
-    const auto row = open ? m_database->ExecuteSelect(
-                                fmt::format("SELECT CAST({} AS TEXT) FROM {} WHERE {}ID = {}", name, entry.table, entry.table, *entry.row))
-                          : nullptr;
-    if (row == nullptr) {
-        throw m_database->LastFailure();
-    }
-    if (row->EndOfFile() || row->IsNull(0)) {
+    RequireOpen(*m_database);
+    const auto search = RequireSelect(*m_database, fmt::format("SELECT IFNULL(CAST({} AS TEXT), '') FROM {} WHERE {}ID = {}",
+                                                               NameSql(entry.table), entry.table, entry.table, *entry.row));
+    std::string text;
+    search->ForEachRow([&] { text = search->TextAt(0); });
+    if (text.empty()) {
         return fmt::format("{} {}", entry.table, *entry.row);
     }
-    const std::string text = std::string(row->TextAt(0));
     const auto moment = entry.table == "TimeRecord" ? ParseDateTime(text) : std::nullopt;
     return moment ? FormatDateTime(*moment, "mm/dd/yyyy hh:mm AM/PM") : text;
 }

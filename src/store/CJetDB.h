@@ -236,4 +236,8 @@ private:
     std::string m_programFolder;
 };
 
+// For readers that raise: the member's failure as what LastFailure says of it.
+void RequireOpen(CJetDB& database);
+[[nodiscard]] std::unique_ptr<Statement> RequireSelect(CJetDB& database, const std::string& sql);
+
 } // namespace ptk

@@ -2,6 +2,7 @@
 #include "platform/Succeeds.h"
 #include "platform/Text.h"
 #include "store/CJetDB.h"
+#include "store/DisplayNameSQL.h"
 #include "store/engine/Engine.h"
 #include "store/engine/RecordSet.h"
 #include "store/QueryParameters.h"
@@ -17,7 +18,7 @@ namespace {
 constexpr const char* kAllEmployees = "GetAllEmployees";
 constexpr const char* kAllCompanies = "GetAllCompanies";
 
-// Who has the display name :name, as CEmployee puts it together. A last name is all of it or what follows one of its blanks: asked for
+// Who has the display name :name. A last name is all of it or what follows one of its blanks: asked for
 // first, because the index of the listing finds that.
 std::string HasDisplayName(const std::string& name)
 {
@@ -25,9 +26,7 @@ std::string HasDisplayName(const std::string& name)
     for (std::size_t blank = name.find(' '); blank != std::string::npos; blank = name.find(' ', blank + 1)) {
         lastNames += fmt::format(", SUBSTR(:name, {})", CharacterCount(name.substr(0, blank)) + 2); // counted in characters, from 1
     }
-    return fmt::format("IFNULL(LastName, '') COLLATE NOCASE IN ({}) AND "
-                       "IIF(IFNULL(FirstName, '') = '', IFNULL(LastName, ''), FirstName || ' ' || IFNULL(LastName, '')) = :name",
-                       lastNames);
+    return fmt::format("IFNULL(LastName, '') COLLATE NOCASE IN ({}) AND {} = :name", lastNames, kDisplayNameSql);
 }
 
 } // namespace

@@ -145,4 +145,20 @@ bool CJetDB::UpdateOptions(const std::string& sqlstring, const OptionsRow& optio
     });
 }
 
+void RequireOpen(CJetDB& database)
+{
+    if (!database.OpenDB()) {
+        throw database.LastFailure();
+    }
+}
+
+std::unique_ptr<Statement> RequireSelect(CJetDB& database, const std::string& sql)
+{
+    auto statement = database.PrepareSelect(sql);
+    if (statement == nullptr) {
+        throw database.LastFailure();
+    }
+    return statement;
+}
+
 } // namespace ptk

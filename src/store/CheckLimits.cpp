@@ -55,7 +55,8 @@ CheckLimits LimitsOf(const RecordSet& row)
 CheckLimits LoadCheckLimits(const std::shared_ptr<CJetDB>& database)
 {
     const CJetDB::Hold hold(database);
-    if (!database->OpenDB() || database->ExecuteSelect(kFindTable) == nullptr) {
+    RequireOpen(*database);
+    if (database->ExecuteSelect(kFindTable) == nullptr) {
         throw database->LastFailure();
     }
     if (database->RecSet()->EndOfFile()) {

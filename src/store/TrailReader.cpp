@@ -12,8 +12,6 @@ namespace ptk {
 
 namespace {
 
-constexpr const char* kFind = "SELECT COUNT(*) FROM sqlite_master WHERE type = 'table' AND name IN ('_Session', '_Change')";
-
 // Whatever another tool put there, what is read has these kinds: numbers, or texts, or a null.
 constexpr const char* kColumns = "ChangeID, ChangedAt, ChangedBy, Program, Step, TableName, RowID, Action, "
                                  "CASE WHEN json_valid(Before) THEN Before END, CASE WHEN json_valid(After) THEN After END, "
@@ -67,15 +65,6 @@ void Bind(Statement& statement, const TrailQuery& query)
     }
 }
 
-std::unique_ptr<Statement> Prepared(CJetDB& database, const std::string& sql)
-{
-    auto statement = database.PrepareSelect(sql);
-    if (statement == nullptr) {
-        throw database.LastFailure();
-    }
-    return statement;
-}
-
 std::string TextOf(const Statement& row, int column)
 {
     return row.KindAt(column) == CellKind::Null ? std::string() : std::string(row.TextAt(column));
@@ -90,7 +79,7 @@ std::optional<std::int64_t> NumberOf(const Statement& row, int column)
 class RowParser
 {
 public:
-    explicit RowParser(CJetDB& database) : m_fields(Prepared(database, kFields)) {}
+    explicit RowParser(CJetDB& database) : m_fields(RequireSelect(database, kFields)) {}
 
     std::optional<TrailRow> Parse(const Statement& entry, int column)
     {
@@ -137,7 +126,7 @@ TrailEntry EntryOf(const Statement& row, RowParser& parser)
 
 bool HasTrail(CJetDB& database)
 {
-    const auto found = database.ExecuteSelect(kFind);
+    const auto found = database.ExecuteSelect(kFindTrail);
     if (found == nullptr) {
         throw database.LastFailure();
     }
@@ -167,14 +156,12 @@ std::string TrailSql(const TrailQuery& query)
 void ReadTrail(const std::shared_ptr<CJetDB>& database, const TrailQuery& query, const std::function<void(const TrailEntry&)>& take)
 {
     const CJetDB::Hold hold(database);
-    if (!database->OpenDB()) {
-        throw database->LastFailure();
-    }
+    RequireOpen(*database);
     if (!HasTrail(*database)) {
         return;
     }
     RowParser parser(*database);
-    const auto entries = Prepared(*database, TrailSql(query));
+    const auto entries = RequireSelect(*database, TrailSql(query));
     Bind(*entries, query);
     entries->ForEachRow([&] { take(EntryOf(*entries, parser)); });
 }

@@ -11,7 +11,6 @@ namespace ptk {
 
 namespace {
 
-constexpr const char* kFind = "SELECT COUNT(*) FROM sqlite_master WHERE type = 'table' AND name IN ('_Session', '_Change')";
 constexpr const char* kNext = "SELECT IFNULL((SELECT seq FROM sqlite_sequence WHERE name = '_Change'), 0) + 1";
 constexpr const char* kClear = "DELETE FROM _Session; INSERT INTO _Session VALUES (NULL, NULL, NULL)";
 constexpr const char* kTables[] = {"TimeRecord", "Employee", "Company", "_System", "_CheckLimits"};
@@ -52,7 +51,7 @@ void DropUnusableTriggers(Engine& engine, const char* table)
 
 bool HasTrail(Engine& engine)
 {
-    return engine.Prepare(kFind)->ReadRows()->Int32At(0) == 2;
+    return engine.Prepare(kFindTrail)->ReadRows()->Int32At(0) == 2;
 }
 
 std::int64_t NextStep(Engine& engine)

@@ -16,8 +16,10 @@ struct Author
     std::string program; // "ptk-admin" or "ptk-console"
 };
 
-// All of these need the hold and no more than the transaction of the present write. Raise the engine's failures.
-// Files of earlier versions lack it.
+// Answers 2 where the file has the trail; files of earlier versions lack it.
+inline constexpr const char* kFindTrail = "SELECT COUNT(*) FROM sqlite_master WHERE type = 'table' AND name IN ('_Session', '_Change')";
+
+// All that follow need the hold and no more than the transaction of the present write. Raise the engine's failures.
 [[nodiscard]] bool HasTrail(Engine& engine);
 
 // The entries that follow are this one's.
@@ -29,7 +31,7 @@ void CloseStep(Engine& engine);
 // A number that no entry has: its first entry's own.
 [[nodiscard]] std::int64_t NextStep(Engine& engine);
 
-// And the table _CheckLimits, where it is missing.
+// With the table _CheckLimits, where that is missing, too.
 void InstallTrail(Engine& engine);
 
 } // namespace ptk
