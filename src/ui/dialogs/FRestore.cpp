@@ -11,8 +11,8 @@ namespace ptk {
 
 namespace {
 
-constexpr auto kQuestion =
-    "What is the database to be again? The present one is kept as one more backup. What was typed and not saved is given up.";
+constexpr auto kQuestion = "Choose the backup that the database is to be again. The present database is kept as one more backup; what was "
+                           "typed and not saved is given up.";
 constexpr auto kNone = "There is no backup in the program's folder. A second copy in another place can be chosen as another file.";
 constexpr auto kChooseSound = "Choose a backup that was checked and found sound.";
 constexpr auto kChecking = "checking...";
@@ -20,7 +20,8 @@ constexpr auto kSound = "sound";
 constexpr auto kOtherTitle = "Restore from Another File";
 constexpr auto kFilter = "Databases (*.mdb);;All Files (*)";
 
-constexpr QSize kFirstSize(720, 400);
+constexpr QSize kFirstSize(820, 420);
+constexpr QSize kSmallestSize(420, 260);
 constexpr int kRowSpace = 8;     // pixels around the text of a row
 constexpr int kColumnSpace = 24; // pixels beside the text of a cell
 
@@ -36,11 +37,18 @@ enum Column
 
 const QStringList kHeadings{"Made", "Size", "Employees", "Records", "Newest Shift", "Checked"};
 
+// Figures stand below each other.
+Qt::Alignment AlignmentOf(int column)
+{
+    return (column == Made || column == Checked ? Qt::AlignLeading : Qt::AlignTrailing) | Qt::AlignVCenter;
+}
+
 } // namespace
 
 FRestore::FRestore(QWidget* parent) : QDialog(parent), m_ui(std::make_unique<Ui::FRestore>())
 {
     m_ui->setupUi(this);
+    setMinimumSize(kSmallestSize);
     resize(kFirstSize);
     PrepareTable();
     connect(m_ui->cmdRestore, &QPushButton::clicked, this, &FRestore::Take);
@@ -61,8 +69,8 @@ void FRestore::PrepareTable()
     table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + kRowSpace);
     table->verticalHeader()->hide();
-    for (const int column : {Made, Checked}) {
-        table->horizontalHeaderItem(column)->setTextAlignment(Qt::AlignLeading | Qt::AlignVCenter);
+    for (int column = Made; column <= Checked; ++column) {
+        table->horizontalHeaderItem(column)->setTextAlignment(AlignmentOf(column));
     }
     const auto widthOf = [&](const QString& text) { return table->fontMetrics().horizontalAdvance(text) + kColumnSpace; };
     table->setColumnWidth(Made, widthOf("Wed 00/00/0000 00:00 AM"));
@@ -145,8 +153,7 @@ void FRestore::ShowCells(int row, const BackupCells& cells)
 void FRestore::Put(int row, int column, const std::string& text)
 {
     auto* item = new QTableWidgetItem(QString::fromStdString(text));
-    const bool isFigure = column != Made && column != Checked;
-    item->setTextAlignment((isFigure ? Qt::AlignTrailing : Qt::AlignLeading) | Qt::AlignVCenter);
+    item->setTextAlignment(AlignmentOf(column));
     m_ui->grdBackups->setItem(row, column, item);
 }
 
