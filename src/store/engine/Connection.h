@@ -3,6 +3,8 @@
 
 #include <SQLiteCpp/Database.h>
 
+#include "store/engine/StatementCache.h"
+
 #include <chrono>
 #include <cstdint>
 #include <functional>
@@ -42,6 +44,7 @@ public:
     void RefuseForeignFile();
 
     [[nodiscard]] sqlite3* Handle() const { return m_database.getHandle(); }
+    [[nodiscard]] StatementCache& Prepared() { return m_prepared; }
 
     // Statements without parameters.
     void Run(const char* sql);
@@ -101,6 +104,7 @@ private:
     std::string m_path;
     std::optional<FileState> m_parked;
     SQLite::Database m_database;
+    StatementCache m_prepared; // ends before it
     Access m_access;
     std::chrono::steady_clock::time_point m_patientUntil;
     bool m_inOrder = false; // whether what the file is was seen from outside, without a wait
