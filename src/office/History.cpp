@@ -153,7 +153,7 @@ std::optional<std::int64_t> FindInHistory(const std::shared_ptr<CJetDB>& databas
     }
     std::optional<std::int64_t> found;
     TrailQuery query;
-    query.table = "Employee";
+    query.kind = TrailKind::Employees;
     ReadTrail(database, query, [&](const TrailEntry& entry) {
         if (names.FormerOf(entry) == name && !found) {
             found = entry.row;
