@@ -15,7 +15,7 @@ constexpr std::int32_t kPage = 1000; // entries; some tens of milliseconds
 
 HistoryFile::HistoryFile(const std::string& path, std::shared_ptr<CJetDB> database, TrailQuery query,
                          std::shared_ptr<const EmployeeNames> names)
-    : m_draft(path), m_database(std::move(database)), m_query(std::move(query)), m_names(std::move(names))
+    : m_path(path), m_draft(path), m_database(std::move(database)), m_query(std::move(query)), m_names(std::move(names))
 {
     m_query.most = kPage;
     m_draft.File().Write(HistoryCsvHeading());

@@ -23,10 +23,13 @@ public:
 
     [[nodiscard]] bool IsDone() const { return m_done; }
 
+    [[nodiscard]] const std::string& Path() const { return m_path; }
+
     // Entries.
     [[nodiscard]] std::int64_t Written() const { return m_written; }
 
 private:
+    std::string m_path;
     FileDraft m_draft;
     std::shared_ptr<CJetDB> m_database;
     TrailQuery m_query;

@@ -31,6 +31,12 @@ HistoryCells CellsOf(const TrailEntry& entry, const NameOfEmployee& nameOf)
     return {EntryMoment(entry), Who(entry), EntryEmployee(entry, nameOf), EntryDeed(entry, nameOf)};
 }
 
+std::string InOneText(const HistoryCells& cells)
+{
+    const auto& [when, who, employee, what] = cells;
+    return fmt::format("{}, {}: {}{}", when, who, employee.empty() ? "" : employee + ", ", what);
+}
+
 std::string TabSeparated(const std::vector<HistoryCells>& lines)
 {
     std::string text;

@@ -24,6 +24,9 @@ using HistoryCells = std::array<std::string, kHistoryColumns>; // by HistoryColu
 [[nodiscard]] HistoryCells HistoryHeading();
 [[nodiscard]] HistoryCells CellsOf(const TrailEntry& entry, const NameOfEmployee& nameOf);
 
+// "03/05/2003 05:00:09 PM, Bob Ray: Ann Lee, end none became 03/05/2003 05:00 PM".
+[[nodiscard]] std::string InOneText(const HistoryCells& cells);
+
 // Each line ends in LF; no cell holds a tab or a line end, and none is a formula to a spreadsheet.
 [[nodiscard]] std::string TabSeparated(const std::vector<HistoryCells>& lines);
 
