@@ -51,7 +51,7 @@ constexpr int kRowSpace = 8;             // pixels around the text of a row
 constexpr int kColumnSpace = 16;
 constexpr int kLeastCharacters = 44; // of what was changed
 constexpr int kNamesPart = 6;        // of the width, at most, for each of the names
-constexpr int kNameCharacters = 12;  // in any case
+constexpr int kNameCharacters = 14;  // in any case
 constexpr int kEntryLines = 2;
 constexpr auto kWidestMoment = "03/05/2003 08:00:00 PM";
 
