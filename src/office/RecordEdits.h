@@ -14,8 +14,8 @@ namespace ptk {
 class CJetDB;
 class CTimeCard;
 
-// By TimeRecordID, of those of which there is anything to say: "Added by Ann Lee on 03/05/2003 06:00 PM" and, in a line of its own, the last
-// "Changed by ...".
+// By TimeRecordID, of those of which there is anything to say: "Added by Ann Lee on 03/05/2003 06:00 PM" and, in a line of its own, the
+// last "Changed by ...".
 using RecordEdits = std::unordered_map<std::int64_t, std::string>;
 
 // Clocking in and out is neither: another program adds a record, and puts an end where there was none. REQUIRES: entries newest first.

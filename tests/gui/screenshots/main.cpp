@@ -183,8 +183,8 @@ void MakeEdits(const GuiProgram& program)
     };
     const std::string some =
         " WHERE TimeRecordID IN (SELECT TimeRecordID FROM TimeRecord WHERE EndTime > StartTime ORDER BY StartTime DESC LIMIT ";
-    by("administrator", "ptk-admin", "UPDATE TimeRecord SET EndTime = datetime(EndTime, '+1 hour')" + some + "12)");
     by("Susan Whitcombe-Harrington", "ptk-admin", "UPDATE TimeRecord SET StartTime = datetime(StartTime, '-15 minutes')" + some + "300)");
+    by("administrator", "ptk-admin", "UPDATE TimeRecord SET EndTime = datetime(EndTime, '+1 hour')" + some + "12)");
     by("root", "ptk-console",
        "UPDATE Employee SET PayRate = PayRate + 0.5, Phone = '555-0199', City = 'Springfield' WHERE EmployeeID < 44");
     by("", "", "INSERT INTO TimeRecord (EmployeeID, StartTime, EndTime) SELECT 41, #3/4/2003 8:00 AM#, #3/4/2003 5:00 PM#");
