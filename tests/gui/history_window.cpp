@@ -88,6 +88,20 @@ TEST_F(HistoryWindowTest, TellsOnTheCardAndOpensItsHistory)
     Open("mnuViewCardHistory");
     EXPECT_EQ(Its<QCheckBox>("chkHistoryScope").text(), "&Only the record of 03/05/2003 08:00 AM");
     EXPECT_EQ(Rows(), QStringList{kChanged});
+    QStringList offered;
+    QTimer::singleShot(0, [&] {
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        for (const QAction* action : menu->actions()) {
+            offered << action->text();
+        }
+        menu->actions().at(1)->trigger();
+        menu->close();
+    });
+    emit Grid().customContextMenuRequested({5, 5});
+    EXPECT_EQ(offered, (QStringList{"History of This &Record", "&History of Ann Lee in This Period"}));
+    EXPECT_EQ(Rows(), (QStringList{kDeleted, kChanged}));
+    Open("mnuViewCardHistory");
+    EXPECT_EQ(Rows(), QStringList{kChanged}) << "the record is still chosen";
     QTest::mouseClick(&Its<QCheckBox>("chkHistoryScope"), Qt::LeftButton, {}, {8, 8});
     EXPECT_EQ(Rows(), (QStringList{kDeleted, kChanged}));
     Open("mnuViewHistory");

@@ -6,7 +6,7 @@
 #include "ui_HistoryFilter.h"
 
 #include <algorithm>
-#include <QSignalBlocker>
+#include <utility>
 
 namespace ptk {
 
@@ -51,10 +51,28 @@ bool IsFaulty(const DateCombo& box)
     return !box.Date() && !box.Text().trimmed().isEmpty();
 }
 
-// The first entry where it is gone.
-void Choose(QComboBox& box, const QVariant& meant)
+using Entries = std::vector<std::pair<QString, QVariant>>;
+
+bool Holds(const QComboBox& box, const Entries& entries)
 {
-    box.setCurrentIndex(meant.isValid() ? std::max(box.findData(meant), 0) : 0);
+    bool same = box.count() == static_cast<int>(entries.size());
+    for (int i = 0; same && i < box.count(); ++i) {
+        const auto& [text, meaning] = entries.at(static_cast<std::size_t>(i));
+        same = box.itemText(i) == text && box.itemData(i) == meaning;
+    }
+    return same;
+}
+
+// Many thousand entries take a moment, and seldom are they others. The first one is chosen where the chosen one is gone.
+void Refill(QComboBox& box, const Entries& entries, const QVariant& chosen)
+{
+    if (!Holds(box, entries)) {
+        box.clear();
+        for (const auto& [text, meaning] : entries) {
+            box.addItem(text, meaning);
+        }
+    }
+    box.setCurrentIndex(chosen.isValid() ? std::max(box.findData(chosen), 0) : 0);
 }
 
 } // namespace
@@ -129,24 +147,20 @@ void HistoryFilter::Fill(const EmployeeNames& employees, const std::vector<std::
 {
     QComboBox& whose = *m_ui->cboHistoryEmployee;
     const QVariant employee = m_scope ? QVariant(static_cast<qlonglong>(m_scope->employee)) : whose.currentData();
-    whose.clear();
-    whose.addItem(kAllEmployees);
+    Entries entries{{kAllEmployees, {}}};
     for (const std::int64_t id : employees.Present()) {
-        whose.addItem(Text(employees.Of(id)), static_cast<qlonglong>(id));
+        entries.emplace_back(Text(employees.Of(id)), static_cast<qlonglong>(id));
     }
     for (const std::int64_t id : employees.Gone()) {
-        whose.addItem(QString(kGone).arg(Text(employees.Of(id))), static_cast<qlonglong>(id));
+        entries.emplace_back(QString(kGone).arg(Text(employees.Of(id))), static_cast<qlonglong>(id));
     }
-    Choose(whose, employee);
-    QComboBox& who = *m_ui->cboHistoryPerson;
-    const QVariant person = who.currentData();
-    who.clear();
-    who.addItem(kEverybody);
+    Refill(whose, entries, employee);
+    entries = {{kEverybody, {}}};
     for (const std::string& name : persons) {
-        who.addItem(Text(name), Text(name));
+        entries.emplace_back(Text(name), Text(name));
     }
-    who.addItem(kAnotherProgram, QString(""));
-    Choose(who, person);
+    entries.emplace_back(kAnotherProgram, QString(""));
+    Refill(*m_ui->cboHistoryPerson, entries, m_ui->cboHistoryPerson->currentData());
 }
 
 void HistoryFilter::Start(const std::optional<HistoryScope>& scope)

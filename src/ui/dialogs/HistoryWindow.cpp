@@ -49,11 +49,10 @@ constexpr QSize kFirstSize(900, 640);
 constexpr QSize kSmallestSize(512, 350); // as the main window's
 constexpr int kRowSpace = 8;             // pixels around the text of a row
 constexpr int kColumnSpace = 16;
-constexpr int kLeastCharacters = 44; // of what was changed
-constexpr int kNamesPart = 6;        // of the width, at most, for each of the names
-constexpr int kNameCharacters = 14;  // in any case
+constexpr int kNameCharacters = 14; // shown in any case
 constexpr int kEntryLines = 2;
 constexpr auto kWidestMoment = "03/05/2003 08:00:00 PM";
+constexpr auto kUsualChange = "start 03/05/2003 08:00 AM became 03/05/2003 08:00 AM"; // whole, wherever there is room
 
 QString CountOf(std::int64_t changes)
 {
@@ -206,11 +205,12 @@ void HistoryWindow::FitColumns()
         table->setColumnWidth(static_cast<int>(column), width);
         rest -= width;
     };
-    const int most = std::max(rest / kNamesPart, kNameCharacters * metrics.averageCharWidth() + kColumnSpace);
     set(HistoryColumn::When, metrics.horizontalAdvance(kWidestMoment) + kColumnSpace);
+    const int change = metrics.horizontalAdvance(kUsualChange) + kColumnSpace;
+    const int most = std::max((rest - change) / 2, kNameCharacters * metrics.averageCharWidth() + kColumnSpace);
     set(HistoryColumn::Who, std::min(NamesWidth(HistoryColumn::Who), most));
     set(HistoryColumn::Employee, std::min(NamesWidth(HistoryColumn::Employee), most));
-    set(HistoryColumn::What, std::max(rest, kLeastCharacters * metrics.averageCharWidth()));
+    set(HistoryColumn::What, std::max(rest, change));
 }
 
 // Of the first page; who comes later is seldom wider.
