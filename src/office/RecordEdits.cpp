@@ -54,7 +54,7 @@ RecordEdits EditsIn(const std::vector<TrailEntry>& entries)
             edits[*entry.row] = EditText(kChanged, entry);
         } else if (!entry.before && IsNamed(entry)) {
             std::string& text = edits[*entry.row];
-            text = EditText(kAdded, entry) + (text.empty() ? "" : "\n") + text;
+            text.insert(0, EditText(kAdded, entry) + (text.empty() ? "" : "\n"));
         }
     }
     return edits;
