@@ -6,6 +6,7 @@
 #include "shell/CDocLauncher.h"
 #include "startup/CController.h"
 #include "startup/Notices.h"
+#include "ui/BackupMenu.h"
 #include "ui/dialogs/FAbout.h"
 #include "ui/dialogs/HistoryWindow.h"
 #include "ui/dialogs/OverviewWindow.h"
@@ -27,6 +28,7 @@
 #include <QPushButton>
 #include <QShortcut>
 #include <QThread>
+#include <QTimer>
 
 namespace ptk {
 
@@ -67,6 +69,8 @@ constexpr auto kGuideNotOpened = "The user's guide could not be opened: no progr
 
 constexpr auto kBusy = "Not now: reports are being made";
 
+constexpr int kBackupDelay = 300; // milliseconds: nobody waits for the day's first backup to see the window
+
 constexpr auto kPlaceName = "main";
 constexpr QSize kFirstSize(960, 660);
 
@@ -86,6 +90,7 @@ FController::FController(std::string programFolder, ptk::Desktop& desktop, const
     BuildPages();
     BuildStatusBar();
     ConnectMenus();
+    ConnectBackups();
     ConnectViewMenu();
     ConnectWindowMenu();
     ConnectTabs();
@@ -137,6 +142,13 @@ void FController::ConnectMenus()
     connect(m_ui->mnuFileExit, &QAction::triggered, this, &FController::Exit);
     connect(m_ui->mnuHelpAbout, &QAction::triggered, this, &FController::About);
     connect(m_ui->mnuHelpContents, &QAction::triggered, this, &FController::UsersGuide);
+}
+
+void FController::ConnectBackups()
+{
+    m_backups = new BackupMenu(*m_ui->mnuFileBackUp, *m_ui->mnuFileRestore, *this, this);
+    connect(m_backups, &BackupMenu::Done, this, &FController::Say);
+    connect(m_backups, &BackupMenu::Restored, this, &FController::ShowRestored);
 }
 
 void FController::ConnectViewMenu()
@@ -221,16 +233,43 @@ void FController::Controller(std::shared_ptr<CController> value)
     if (m_controller == nullptr) {
         m_errorNumber = windowerror::NoController;
     } else {
-        InitializeTabPages();
-        if (FillTabLists()) {
-            ShowFirstRecords();
-        } else {
-            m_errorNumber = windowerror::FillListsFailed;
-        }
+        ShowAll();
         m_timeCardPage->EnablePrint();
         m_reportsPage->EnableGenerate();
+        QTimer::singleShot(kBackupDelay, this, &FController::BackUpWhenDue);
     }
     show();
+}
+
+void FController::BackUpWhenDue()
+{
+    if (IsBusyInDialog()) {
+        return QTimer::singleShot(kBackupDelay, this, &FController::BackUpWhenDue);
+    }
+    m_backups->BackUpWhenDue();
+}
+
+void FController::ShowAll()
+{
+    InitializeTabPages();
+    if (FillTabLists()) {
+        ShowFirstRecords();
+    } else {
+        m_errorNumber = windowerror::FillListsFailed;
+    }
+}
+
+// The reports that are open stay: they say of which day they are.
+void FController::ShowRestored(const QString& outcome)
+{
+    m_timeCardPage->GiveUpCard();
+    m_overview.reset();
+    ShowAll();
+    if (!m_optionsPage->DisplaySystemOptions(m_controller->SystemOptions())) {
+        Tell(m_desktop, notice::OptionsUnread);
+    }
+    m_optionsPage->ForgetLimits();
+    Say(outcome);
 }
 
 void FController::Load()

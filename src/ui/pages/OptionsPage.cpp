@@ -1,5 +1,6 @@
 #include "ui/pages/OptionsPage.h"
 
+#include "office/BackupRun.h"
 #include "office/CardTexts.h"
 #include "platform/BusyPointer.h"
 #include "platform/Clock.h"
@@ -15,6 +16,7 @@
 #include "ui_OptionsPage.h"
 
 #include <algorithm>
+#include <QFileDialog>
 
 namespace ptk {
 
@@ -28,6 +30,8 @@ constexpr auto kApplied = "Options applied";
 constexpr auto kRestored = "Options restored";
 
 constexpr auto kLimitsUnread = "The limits of the check could not be read: ";
+
+constexpr auto kFolderTitle = "Folder for a Second Copy of Backups";
 
 constexpr auto kTimeFormat = "hh:mm:ss AM/PM";
 
@@ -48,6 +52,7 @@ OptionsPage::OptionsPage(PageHost& host, QWidget* parent) : QWidget(parent), m_h
     m_ui->dttbAutoShiftStartTime->SetDisplayFormat(kTimeFormat);
     m_ui->dttbAutoShiftEndTime->SetDisplayFormat(kTimeFormat);
     connect(m_ui->txtPeriodLength, &QLineEdit::textChanged, this, &OptionsPage::ShowExample);
+    connect(m_ui->cmdBackupFolder, &QPushButton::clicked, this, &OptionsPage::BrowseForFolder);
     connect(m_ui->cmdApplyOptions, &QPushButton::clicked, this, &OptionsPage::Apply);
     connect(m_ui->cmdCancelOptions, &QPushButton::clicked, this, &OptionsPage::Cancel);
 }
@@ -58,7 +63,7 @@ OptionsPage::~OptionsPage() = default;
 void OptionsPage::AlignFrames()
 {
     const int label = std::max(m_ui->lblPeriodLength->sizeHint().width(), m_ui->lblLongShift->sizeHint().width());
-    for (QWidget* first : {m_ui->lblPeriodLength, m_ui->lblAutoShiftStartTime, m_ui->lblLongShift}) {
+    for (QWidget* first : {m_ui->lblPeriodLength, m_ui->lblAutoShiftStartTime, m_ui->lblLongShift, m_ui->lblBackupFolder}) {
         first->setMinimumWidth(label);
     }
     const int box = m_ui->dttbAutoShiftStartTime->sizeHint().width();
@@ -84,6 +89,7 @@ bool OptionsPage::DisplaySystemOptions(const std::shared_ptr<CSystemOptions>& op
     m_ui->txtPeriodLength->setText(QString::fromStdString(texts.periodLength));
     m_ui->dttbAutoShiftStartTime->SetText(QString::fromStdString(texts.autoShiftStart));
     m_ui->dttbAutoShiftEndTime->SetText(QString::fromStdString(texts.autoShiftEnd));
+    ShowBackupFolder();
     return true;
 }
 
@@ -155,9 +161,41 @@ bool OptionsPage::SaveOptions()
                                    m_ui->dttbAutoShiftEndTime->Text().toStdString()});
 }
 
+void OptionsPage::ForgetLimits()
+{
+    m_limits.reset();
+    if (isVisible()) {
+        LoadLimits();
+    }
+}
+
+bool OptionsPage::StoreBackupFolder()
+{
+    const std::string folder = BackupFolder();
+    return SecondFolderRefusal(folder).empty() && Required(m_host.Controller())->SecondBackupFolder(folder);
+}
+
+std::string OptionsPage::BackupFolder() const
+{
+    return m_ui->txtBackupFolder->text().toStdString();
+}
+
+void OptionsPage::ShowBackupFolder()
+{
+    Succeeds([this] { m_ui->txtBackupFolder->setText(QString::fromStdString(Required(m_host.Controller())->SecondBackupFolder())); });
+}
+
+void OptionsPage::BrowseForFolder()
+{
+    const QString folder = QFileDialog::getExistingDirectory(this, kFolderTitle, m_ui->txtBackupFolder->text());
+    if (!folder.isEmpty()) {
+        m_ui->txtBackupFolder->setText(folder);
+    }
+}
+
 bool OptionsPage::SaveSystemOptions()
 {
-    return Succeeds([this] { return SaveOptions() && StoreLimits(); });
+    return Succeeds([this] { return SaveOptions() && StoreLimits() && StoreBackupFolder(); });
 }
 
 bool OptionsPage::RestoreSystemOptions()
@@ -177,8 +215,15 @@ void OptionsPage::Apply()
         m_ui->notice->Say(kApplied);
     } else {
         m_host.Desktop().Show(kUpdateText, notice::OptionsUnsaved.title, Icon::Exclamation);
-        m_ui->notice->Say(m_limits ? QString::fromStdString(LimitRefusal(Limits())) : QString());
+        m_ui->notice->Say(QString::fromStdString(Refusal()));
     }
+}
+
+// What of the typed texts stands in the way; empty when that is something else.
+std::string OptionsPage::Refusal() const
+{
+    const std::string limits = m_limits ? LimitRefusal(Limits()) : std::string();
+    return limits.empty() ? SecondFolderRefusal(BackupFolder()) : limits;
 }
 
 void OptionsPage::Cancel()
