@@ -264,6 +264,7 @@ void FController::ShowRestored(const QString& outcome)
 {
     m_timeCardPage->GiveUpCard();
     m_overview.reset();
+    m_history.reset();
     ShowAll();
     if (!m_optionsPage->DisplaySystemOptions(m_controller->SystemOptions())) {
         Tell(m_desktop, notice::OptionsUnread);
