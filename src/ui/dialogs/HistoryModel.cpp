@@ -17,7 +17,7 @@ void HistoryModel::Show(std::shared_ptr<HistoryReading> reading)
 {
     beginResetModel();
     m_reading = std::move(reading);
-    m_shown = static_cast<int>(m_reading->Rows().size());
+    m_shown = m_reading == nullptr ? 0 : static_cast<int>(m_reading->Rows().size());
     m_failed = false;
     endResetModel();
 }

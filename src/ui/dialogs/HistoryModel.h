@@ -15,10 +15,8 @@ class HistoryModel final : public QAbstractTableModel
 public:
     using QAbstractTableModel::QAbstractTableModel;
 
-    // With what has been read of it so far.
+    // With what has been read of it so far; nullptr: nothing.
     void Show(std::shared_ptr<HistoryReading> reading);
-
-    [[nodiscard]] bool HasReading() const { return m_reading != nullptr; }
 
     // REQUIRES: a row.
     [[nodiscard]] const HistoryCells& Cells(int row) const { return m_reading->Rows().at(static_cast<std::size_t>(row)); }

@@ -31,6 +31,7 @@ namespace ptk {
 namespace {
 
 constexpr auto kNoDays = "Choose days, the first not after the last, or leave them empty";
+constexpr auto kUnread = "Press F5 to read the history";
 constexpr auto kNotRead = "The history could not be read: ";
 constexpr auto kCopied = "Copied: %1 and a heading";
 constexpr auto kSaveTitle = "Save the History";
@@ -101,7 +102,7 @@ void HistoryWindow::PrepareTable()
 
 void HistoryWindow::Connect()
 {
-    connect(m_ui->filter, &HistoryFilter::Changed, this, &HistoryWindow::Refresh);
+    connect(m_ui->filter, &HistoryFilter::Changed, this, &HistoryWindow::StartOver);
     connect(m_rows, &QAbstractItemModel::rowsInserted, this, &HistoryWindow::ShowNews);
     connect(m_rows, &QAbstractItemModel::modelReset, this, &HistoryWindow::ShowEntry);
     connect(m_ui->grdHistory->selectionModel(), &QItemSelectionModel::selectionChanged, this, &HistoryWindow::ShowEntry);
@@ -143,7 +144,7 @@ void HistoryWindow::Open(const std::optional<HistoryScope>& scope)
     }
     m_ui->grdHistory->setFocus();
     m_ui->filter->Start(scope);
-    Refresh();
+    StartOver();
 }
 
 void HistoryWindow::Say(const QString& text)
@@ -155,6 +156,15 @@ void HistoryWindow::Complain(const std::string& line)
 {
     Say(QString::fromStdString(line));
     m_host.Log(line);
+}
+
+// What was read before is not what is chosen now, also where that cannot be read.
+void HistoryWindow::StartOver()
+{
+    m_ui->grdHistory->SetHint(kUnread);
+    m_rows->Show(nullptr);
+    ShowSaving();
+    Refresh();
 }
 
 // A failure leaves what was read before in its place.

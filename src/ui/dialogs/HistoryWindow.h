@@ -51,6 +51,7 @@ private:
 
     void Say(const QString& text);
     void Complain(const std::string& line);
+    void StartOver();
     void Refresh();
     void Begin();
     void ShowNews();
