@@ -25,8 +25,10 @@ class CTimeRecordFactory;
 class CurrentCard;
 class FAutoFill;
 class FTimeEditor;
+class HistoryActions;
 class PageHost;
 struct FindingPlace;
+struct HistoryScope;
 struct Notice;
 struct PeriodTexts;
 struct Punch;
@@ -71,6 +73,12 @@ public:
 
     bool ReturnTimeRecord(const std::shared_ptr<CTimeRecord>& thetimerecord) override;
 
+    // Of the chosen record, else of the card.
+    void AskForHistory();
+
+signals:
+    void HistoryWanted(const ptk::HistoryScope& scope);
+
 protected:
     void showEvent(QShowEvent* event) override;
 
@@ -96,6 +104,7 @@ private:
 
     void ConnectChoice();
     void ConnectActions();
+    void ConnectHistory();
 
     void ChooseEmployee();
     void TurnToChosenEmployee();
@@ -123,8 +132,9 @@ private:
 
     PageHost& m_host;
     std::unique_ptr<Ui::TimeCardPage> m_ui;
-    CardChoice* m_choice; // these two belong to the page
+    CardChoice* m_choice; // these three belong to the page
     CurrentCard* m_card = nullptr;
+    HistoryActions* m_history = nullptr;
     std::string m_employeeName; // as of the last change of employee
     bool m_editingNew = false;  // whether the editor was last opened for a new record; nothing depends on it
     bool m_refused = false;     // whether the record that the editor returned could not be stored
