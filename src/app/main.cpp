@@ -2,6 +2,7 @@
 #include "platform/Clock.h"
 #include "platform/Process.h"
 #include "platform/ProgramFolder.h"
+#include "platform/Version.h"
 #include "shell/CError.h"
 #include "startup/AdminMain.h"
 #include "ui/dialogs/FFirstStart.h"
@@ -136,7 +137,7 @@ int main(int argc, char** argv)
     ptk::SettleProcess();
     QCoreApplication::setOrganizationName("PTK");
     QCoreApplication::setApplicationName("ptk-admin");
-    QCoreApplication::setApplicationVersion("1.0");
+    QCoreApplication::setApplicationVersion(ptk::Version());
     QApplication::setDesktopFileName("ptk-admin");
     AnswerWithoutDisplay(argc, argv);
     ptk::QtDesktop desktop;
