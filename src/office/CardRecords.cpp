@@ -68,7 +68,21 @@ std::shared_ptr<CTimeRecord> RecordToEdit(const Punch& punch, std::int32_t emplo
     record->StartTime(punch.start.value_or(DateTime()));
     record->EndTime(punch.end.value_or(DateTime()));
     record->ObjectState(state::Unchanged); // last, since filling marks it changed
+    if (punch.IsReadable()) {
+        record->KeepAsRead();
+    }
     return record;
+}
+
+std::shared_ptr<CTimeRecord> RecordOnCard(const CTimeCard& card, std::int32_t timeRecordID)
+{
+    const auto records = card.TimeRecordList();
+    for (std::int32_t i = 1; records != nullptr && i <= records->Count(); ++i) {
+        if (records->RecordAt(i).TimeRecordID() == timeRecordID) {
+            return records->Item(i);
+        }
+    }
+    return nullptr;
 }
 
 } // namespace ptk

@@ -23,8 +23,11 @@ struct Punch;
 // not go with the next save of the whole card.
 [[nodiscard]] bool StoreCard(CTimeCard& card, CTimeRecordFactory& factory);
 
-// A stored record as the check read it, to be edited; a time that cannot be read is not set in it, so that storing it mends the row.
-// nullptr for a key that no time record can have.
+// A stored record as the check read it, to be edited; a time that cannot be read is not set in it, so that storing it mends the row,
+// whatever stands there by then. nullptr for a key that no time record can have.
 [[nodiscard]] std::shared_ptr<CTimeRecord> RecordToEdit(const Punch& punch, std::int32_t employeeID);
+
+// nullptr when it is not in the card's list.
+[[nodiscard]] std::shared_ptr<CTimeRecord> RecordOnCard(const CTimeCard& card, std::int32_t timeRecordID);
 
 } // namespace ptk

@@ -35,6 +35,21 @@ struct EmployeeTexts
     bool autoDeduct = false;
 
     bool operator==(const EmployeeTexts&) const = default;
+
+    // With a pointer to each member but the ID.
+    template <typename Visit>
+    static void ForEachField(Visit visit)
+    {
+        using Texts = EmployeeTexts;
+        for (std::string Texts::*text : {&Texts::number, &Texts::name, &Texts::ssn, &Texts::address1, &Texts::address2, &Texts::city,
+                                         &Texts::state, &Texts::zip, &Texts::phone, &Texts::password, &Texts::payRate,
+                                         &Texts::overtimePayRate, &Texts::dateOfBirth, &Texts::hireDate, &Texts::releaseDate,
+                                         &Texts::lunchLength, &Texts::breakLength}) {
+            visit(text);
+        }
+        visit(&Texts::active);
+        visit(&Texts::autoDeduct);
+    }
 };
 
 // Why a page cannot be saved, in the order in which it is told.
