@@ -77,7 +77,8 @@ std::string DifferenceText(const FieldDifference& field, const NameOfEmployee& n
     const ColumnWords words = WordsOf(field.column);
     std::string text = fmt::format("{}: {} when read, {} now", Capital(words.words == nullptr ? field.column : words.words),
                                    ValueText(field.read, words.shape, nameOf), ValueText(field.present, words.shape, nameOf));
-    std::replace_if(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < ' '; }, '?');
+    std::replace_if(
+        text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < ' '; }, '?');
     return text;
 }
 

@@ -10,8 +10,8 @@
 namespace ptk {
 
 // "The record of Ann Lee was changed by somebody else since it was read.", a line for each difference ("Pay rate: 10 when read, 12 now";
-// of a password only that it changed), and what can be done. `name` is an employee's or company's, or "03/05/2003 08:00 AM of Ann Lee" for a
-// time record; options need none. Lines end with CR LF.
+// of a password only that it changed), and what can be done. `name` is an employee's or company's, or "03/05/2003 08:00 AM of Ann Lee" for
+// a time record; options need none. Lines end with CR LF.
 [[nodiscard]] std::string ConflictText(const RowConflict& conflict, const std::string& name, const NameOfEmployee& nameOf = {});
 
 // Asks whether to load what is stored now; of a time record, whose card is always read again, it only tells. True for Yes.

@@ -41,10 +41,10 @@ struct EmployeeTexts
     static void ForEachField(Visit visit)
     {
         using Texts = EmployeeTexts;
-        for (std::string Texts::*text : {&Texts::number, &Texts::name, &Texts::ssn, &Texts::address1, &Texts::address2, &Texts::city,
-                                         &Texts::state, &Texts::zip, &Texts::phone, &Texts::password, &Texts::payRate,
-                                         &Texts::overtimePayRate, &Texts::dateOfBirth, &Texts::hireDate, &Texts::releaseDate,
-                                         &Texts::lunchLength, &Texts::breakLength}) {
+        for (std::string Texts::*text :
+             {&Texts::number, &Texts::name, &Texts::ssn, &Texts::address1, &Texts::address2, &Texts::city, &Texts::state, &Texts::zip,
+              &Texts::phone, &Texts::password, &Texts::payRate, &Texts::overtimePayRate, &Texts::dateOfBirth, &Texts::hireDate,
+              &Texts::releaseDate, &Texts::lunchLength, &Texts::breakLength}) {
             visit(text);
         }
         visit(&Texts::active);

@@ -26,7 +26,8 @@ struct MovedStep
 // Of time records, employees and companies: one step is what one action stored, an auto fill as a whole. It reads what was done from the
 // edit trail, which an undo and a redo write on; passwords, which are not there, it remembers. No member raises.
 //
-// After every save, of whatever kind, Remember is to be called, before anything else is stored. After Undo and Redo the lists and cards are to be read again.
+// After every save, of whatever kind, Remember is to be called, before anything else is stored. After Undo and Redo the lists and cards are
+// to be read again.
 class UndoStack
 {
 public:

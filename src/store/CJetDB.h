@@ -32,7 +32,7 @@ struct TimeRecordWrite
     std::optional<TimeRecordRow> asRead;
 };
 
-// A password that an operation set. The edit trail says no more than that.
+// A password that an operation set, be it the same. The edit trail says no more than that it changed.
 struct PasswordChange
 {
     std::int64_t step = 0;

@@ -8,12 +8,14 @@
 #include "startup/Notices.h"
 #include "ui/dialogs/FAbout.h"
 #include "ui/dialogs/OverviewWindow.h"
+#include "ui/EditMenu.h"
 #include "ui/PageFrame.h"
 #include "ui/pages/CompanyPage.h"
 #include "ui/pages/EmployeePage.h"
 #include "ui/pages/OptionsPage.h"
 #include "ui/pages/ReportsPage.h"
 #include "ui/pages/TimeCardPage.h"
+#include "ui/RecordPages.h"
 #include "ui/widgets/ElidedLabel.h"
 #include "ui/widgets/NoticeLine.h"
 #include "ui/widgets/ThemeIcon.h"
@@ -78,13 +80,15 @@ const Tab& TabAt(int index)
 
 FController::FController(std::string programFolder, ptk::Desktop& desktop, const ptk::Clock& clock)
     : m_ui(std::make_unique<Ui::FController>()), m_programFolder(std::move(programFolder)), m_desktop(desktop), m_clock(clock),
-      m_employeeModels(std::make_unique<ptk::EmployeeModels>()), m_reports(std::make_unique<OpenReports>(*this, m_programFolder))
+      m_employeeModels(std::make_unique<ptk::EmployeeModels>()), m_reports(std::make_unique<OpenReports>(*this, m_programFolder)),
+      m_sharedRecords(std::make_unique<ptk::SharedRecords>())
 {
     m_ui->setupUi(this);
     setMinimumSize(kSmallestSize); // the pages scroll below their own size
     BuildPages();
     BuildStatusBar();
     ConnectMenus();
+    ConnectEditMenu();
     ConnectViewMenu();
     ConnectWindowMenu();
     ConnectTabs();
@@ -136,6 +140,23 @@ void FController::ConnectMenus()
     connect(m_ui->mnuFileExit, &QAction::triggered, this, &FController::Exit);
     connect(m_ui->mnuHelpAbout, &QAction::triggered, this, &FController::About);
     connect(m_ui->mnuHelpContents, &QAction::triggered, this, &FController::UsersGuide);
+}
+
+void FController::ConnectEditMenu()
+{
+    const auto isBusy = [this] { return IsBusyInDialog(); };
+    const auto saysBusy = [this] {
+        const bool busy = IsBusyInDialog();
+        if (busy) {
+            Say(kBusy);
+        }
+        return busy;
+    };
+    const std::array<RecordPages::Place, 3> places{
+        {{0, "TimeRecord", *m_timeCardPage}, {2, "Employee", *m_employeePage}, {3, "Company", *m_companyPage}}};
+    auto* pages = new RecordPages(*this, {*m_ui->TabStrip, *m_ui->pages, *this, isBusy}, places);
+    auto* menu = new EditMenu(*m_ui->mnuEdit, {*m_ui->mnuEditUndo, *m_ui->mnuEditRedo}, *this, saysBusy);
+    connect(menu, &EditMenu::Moved, pages, &RecordPages::ShowMoved);
 }
 
 void FController::ConnectViewMenu()
@@ -212,6 +233,7 @@ void FController::ShowTabIcons(bool shown)
 void FController::Controller(std::shared_ptr<CController> value)
 {
     m_controller = std::move(value);
+    m_sharedRecords->Use(m_controller == nullptr ? nullptr : m_controller->PTKDatabase());
     Load();
     if (m_controller == nullptr) {
         m_errorNumber = windowerror::NoController;
@@ -386,6 +408,7 @@ void FController::CloseDown(bool keepReview)
     if (!m_optionsPage->SaveSystemOptions()) {
         Tell(m_desktop, notice::OptionsUnsaved);
     }
+    m_sharedRecords->Use(nullptr);
     m_timeCardPage->GiveUpCard();
     m_overview.reset();
     m_reports->Clear(keepReview);

@@ -5,6 +5,7 @@
 #include "startup/Windows.h"
 #include "ui/OpenReports.h"
 #include "ui/pages/PageHost.h"
+#include "ui/SharedRecords.h"
 #include "ui/widgets/EmployeeModels.h"
 
 #include <memory>
@@ -67,6 +68,7 @@ public:
     PeriodTexts TimeCardPeriod() const override;
     ptk::EmployeeModels& EmployeeModels() const override { return *m_employeeModels; }
     OpenReports& Reports() const override { return *m_reports; }
+    ptk::SharedRecords& SharedRecords() const override { return *m_sharedRecords; }
 
 protected:
     // Of the tab strip.
@@ -81,6 +83,7 @@ private:
     void AddPage(int index, QWidget* page);
     void BuildStatusBar();
     void ConnectMenus();
+    void ConnectEditMenu();
     void ConnectViewMenu();
     void ConnectWindowMenu();
     void ConnectTabs();
@@ -113,6 +116,7 @@ private:
     const ptk::Clock& m_clock;
     std::unique_ptr<ptk::EmployeeModels> m_employeeModels;
     std::unique_ptr<OpenReports> m_reports;
+    std::unique_ptr<ptk::SharedRecords> m_sharedRecords;
 
     std::shared_ptr<CController> m_controller;
     std::int16_t m_lastTab = 0; // chosen on the tab strip, 1 to 5; 0 before the first choice

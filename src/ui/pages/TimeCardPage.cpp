@@ -4,9 +4,12 @@
 #include "model/CEmployeeList.h"
 #include "model/CTimeCard.h"
 #include "model/CTimeRecord.h"
+#include "model/CTimeRecordFactory.h"
 #include "model/CTimeRecordList.h"
 #include "office/CardFindings.h"
 #include "office/CardRecords.h"
+#include "office/ColumnWords.h"
+#include "office/ConflictNotice.h"
 #include "office/TimeCardNotices.h"
 #include "platform/BusyPointer.h"
 #include "platform/Desktop.h"
@@ -20,6 +23,7 @@
 #include "ui/pages/CardChoice.h"
 #include "ui/pages/CurrentCard.h"
 #include "ui/pages/PageHost.h"
+#include "ui/SharedRecords.h"
 #include "ui/widgets/EmployeeModels.h"
 #include "ui_TimeCardPage.h"
 
@@ -186,6 +190,20 @@ void TimeCardPage::CheckAgain()
     m_card->CheckAgain();
 }
 
+void TimeCardPage::ReadAgain(std::optional<std::int64_t> row)
+{
+    m_card->Renew();
+    if (row) {
+        m_ui->display->ChooseRowOf(*row);
+    }
+    m_ui->notice->Remark({});
+}
+
+void TimeCardPage::TellChanges()
+{
+    m_card->TellChanges();
+}
+
 void TimeCardPage::ShowHours(bool shown)
 {
     m_ui->display->ShowHours(shown);
@@ -254,13 +272,25 @@ void TimeCardPage::OpenEditor(const Editing& editing)
         editor.exec();
         if (m_refused) {
             *editing.record = before;
-            const Editing again{editing.record, editing.isNew, editor.Texts()};
-            OfferAgain([this, again] { OpenEditor(again); });
+            EditAgain(editing, editor.Texts());
         }
         return true;
     };
     if (!Succeeds(edit)) {
         m_ui->notice->Say(kNoEditor);
+    }
+}
+
+// What somebody else changed meanwhile is edited as it is now; what was removed, as a new record.
+void TimeCardPage::EditAgain(const Editing& editing, const RecordTexts& typed)
+{
+    Editing again{editing.record, editing.isNew, typed};
+    if (m_conflict) {
+        again.isNew = m_conflict->Removed();
+        again.record = again.isNew ? std::make_shared<CTimeRecord>() : RecordOnCard(*Required(m_card->Card()), m_conflict->key);
+    }
+    if (again.record != nullptr) {
+        OfferAgain([this, again] { OpenEditor(again); });
     }
 }
 
@@ -282,7 +312,7 @@ void TimeCardPage::Prepare(FTimeEditor& editor, const Editing& editing)
 bool TimeCardPage::ReturnTimeRecord(const std::shared_ptr<CTimeRecord>& thetimerecord)
 {
     const auto store = [&](CTimeCard& card, CTimeRecordFactory& factory) { return StoreRecord(card, factory, thetimerecord); };
-    m_refused = !StoreAndShow({store, kNotStored, kRecordNotSaved, "Record saved for " + m_card->Employee()});
+    m_refused = !StoreAndShow({store, kNotStored, kRecordNotSaved, "Record saved for " + m_card->Employee(), thetimerecord});
     return true;
 }
 
@@ -299,7 +329,7 @@ void TimeCardPage::DeleteRecord()
         return;
     }
     const auto remove = [&](CTimeCard& card, CTimeRecordFactory& factory) { return StoreDeletion(card, factory, record); };
-    StoreAndShow({remove, kNotDeleted, kRecordNotDeleted, "Record of " + m_card->Employee() + " deleted"});
+    StoreAndShow({remove, kNotDeleted, kRecordNotDeleted, "Record of " + m_card->Employee() + " deleted", record});
 }
 
 // Without a card, or with a name that nobody has, there is nothing to fill.
@@ -348,7 +378,7 @@ void TimeCardPage::TakeOver(const FAutoFill& window, std::int32_t records)
     ShowStatus();
     const FillTexts texts = window.Texts();
     const std::string done = CountText(records, "record") + " filled in for " + m_choice->EmployeeText();
-    if (!StoreAndShow({StoreCard, kNotFilled, kRecordsNotFilled, done})) {
+    if (!StoreAndShow({StoreCard, kNotFilled, kRecordsNotFilled, done, nullptr})) {
         OfferAgain([this, texts] { AutoFill(texts); });
     }
 }
@@ -357,22 +387,55 @@ void TimeCardPage::TakeOver(const FAutoFill& window, std::int32_t records)
 bool TimeCardPage::StoreAndShow(const Storing& storing)
 {
     m_ui->notice->Clear();
+    m_conflict.reset();
     const auto store = [&] {
         const BusyPointer busy(m_host.Desktop());
-        return storing.step(*Required(m_card->Card()), *Required(Controller()->TimeRecordFactory()));
+        const auto factory = Required(Controller()->TimeRecordFactory());
+        factory->ResetError();
+        const bool stored = storing.step(*Required(m_card->Card()), *factory);
+        m_conflict = factory->Conflict();
+        return stored;
     };
     if (Succeeds(store)) {
+        m_host.SharedRecords().Remember();
         m_card->RegenerateAfterSave();
         const QString trouble = m_ui->notice->Text();
         m_ui->notice->Say(Line(storing.done) + (trouble.isEmpty() ? trouble : "; " + trouble));
         return true;
     }
-    const auto card = m_card->Card();
-    const std::string refused = card == nullptr ? storing.refused : RefusedText(storing.refused, *card);
-    Tell(m_host.Desktop(), storing.failed);
+    const std::string refused = TellRefusal(storing);
     Succeeds([this] { return m_card->ReadAgain(); });
     m_card->Complain(refused);
     return false;
+}
+
+// Answers the same for the page's line.
+std::string TimeCardPage::TellRefusal(const Storing& storing)
+{
+    if (m_conflict) {
+        TellConflict(storing);
+        return std::string(storing.refused) + ": " + ConflictRemark(*m_conflict);
+    }
+    const auto card = m_card->Card();
+    std::string refused = card == nullptr ? storing.refused : RefusedText(storing.refused, *card);
+    Tell(m_host.Desktop(), storing.failed);
+    return refused;
+}
+
+void TimeCardPage::TellConflict(const Storing& storing)
+{
+    const auto nameOf = [this](std::int64_t employeeID) {
+        const auto employee = Required(Controller()->EmployeeList())->GetEmployeeByID(static_cast<std::int32_t>(employeeID));
+        return employee == nullptr ? std::string() : employee->DisplayName();
+    };
+    const auto tell = [&] {
+        const auto read = Required(storing.record)->AsRead();
+        const std::string name = MomentText(read ? read->StartTime : DateTime(), ColumnShape::Moment) + " of " + m_card->Employee();
+        AskToLoad(m_host.Desktop(), storing.failed.title, *m_conflict, ConflictText(*m_conflict, name, nameOf));
+    };
+    if (!Succeeds(tell)) {
+        Tell(m_host.Desktop(), storing.failed);
+    }
 }
 
 // Beside what the line says already.

@@ -3,7 +3,9 @@
 
 #include "office/FillPlan.h"
 #include "office/NewRecord.h"
+#include "store/RowConflict.h"
 #include "ui/dialogs/TimeRecordReceiver.h"
+#include "ui/pages/RecordPage.h"
 
 #include <cstdint>
 #include <functional>
@@ -32,7 +34,7 @@ struct PeriodTexts;
 struct Punch;
 
 // Every change to a record is stored at once and followed by a fresh generation of the card.
-class TimeCardPage final : public QWidget, public TimeRecordReceiver
+class TimeCardPage final : public QWidget, public TimeRecordReceiver, public RecordPage
 {
     Q_OBJECT
 
@@ -64,6 +66,9 @@ public:
     // The card that is shown, by limits that have changed.
     void CheckAgain();
 
+    void ReadAgain(std::optional<std::int64_t> row) override;
+    void TellChanges() override;
+
     // The hours per day below the grid; remembered.
     void ShowHours(bool shown);
 
@@ -84,6 +89,7 @@ private:
         const Notice& failed;
         const char* refused; // for the page's line, before the reason
         std::string done;
+        std::shared_ptr<CTimeRecord> record; // nullptr for several new ones
     };
 
     // A record in the editor, and what was typed for it in vain before.
@@ -115,7 +121,10 @@ private:
     void Prepare(FTimeEditor& editor, const Editing& editing);
     void HandOver(FAutoFill& window);
     void TakeOver(const FAutoFill& window, std::int32_t records);
+    void EditAgain(const Editing& editing, const RecordTexts& typed);
     bool StoreAndShow(const Storing& storing);
+    std::string TellRefusal(const Storing& storing);
+    void TellConflict(const Storing& storing);
     void OfferAgain(const std::function<void()>& action);
 
     // Raises Failure 91 when there is none.
@@ -125,9 +134,10 @@ private:
     std::unique_ptr<Ui::TimeCardPage> m_ui;
     CardChoice* m_choice; // these two belong to the page
     CurrentCard* m_card = nullptr;
-    std::string m_employeeName; // as of the last change of employee
-    bool m_editingNew = false;  // whether the editor was last opened for a new record; nothing depends on it
-    bool m_refused = false;     // whether the record that the editor returned could not be stored
+    std::string m_employeeName;            // as of the last change of employee
+    bool m_editingNew = false;             // whether the editor was last opened for a new record; nothing depends on it
+    bool m_refused = false;                // whether the record that the editor returned could not be stored
+    std::optional<RowConflict> m_conflict; // why the last storing was refused, where somebody else had changed the record
     bool m_seen = false;
 };
 
