@@ -10,6 +10,7 @@ class CTimeCard;
 class CTimeRecord;
 class CTimeRecordFactory;
 struct Punch;
+struct RowConflict;
 
 // All of these are false when the database refused a statement, too, which the card itself answers true to. They may raise failures.
 
@@ -27,7 +28,8 @@ struct Punch;
 // whatever stands there by then. nullptr for a key that no time record can have.
 [[nodiscard]] std::shared_ptr<CTimeRecord> RecordToEdit(const Punch& punch, std::int32_t employeeID);
 
-// nullptr when it is not in the card's list.
-[[nodiscard]] std::shared_ptr<CTimeRecord> RecordOnCard(const CTimeCard& card, std::int32_t timeRecordID);
+// What a refused record is to be edited as once more: as it is stored now, a removed one as a new record. nullptr for one that somebody
+// else gave to another employee. REQUIRES: it was read before.
+[[nodiscard]] std::shared_ptr<CTimeRecord> RecordToTryAgain(const CTimeRecord& refused, const RowConflict& conflict);
 
 } // namespace ptk

@@ -1,7 +1,6 @@
 #include "ui/EditMenu.h"
 
-#include "model/CEmployee.h"
-#include "model/CEmployeeList.h"
+#include "office/EmployeeTexts.h"
 #include "platform/BusyPointer.h"
 #include "platform/Required.h"
 #include "platform/Succeeds.h"
@@ -23,7 +22,9 @@ constexpr auto kUndone = "Undone: ";
 constexpr auto kRedone = "Done again: ";
 constexpr auto kNothingToUndo = "Nothing has been stored since login that could be undone";
 constexpr auto kNothingToRedo = "Nothing has been undone that could be done again";
-constexpr auto kNothing = "Undo";
+constexpr auto kUndo = "Undo";
+constexpr auto kRedo = "Redo";
+constexpr auto kBusy = "Not now: the program is busy";
 
 constexpr qsizetype kMostCharacters = 60; // of a line: names have any length
 
@@ -62,8 +63,8 @@ void EditMenu::Show()
     const UndoStack* stack = m_host.SharedRecords().Undo();
     const bool canUndo = stack != nullptr && stack->CanUndo();
     const bool canRedo = stack != nullptr && stack->CanRedo();
-    ShowLine(m_lines.undo, canUndo, canUndo ? stack->UndoText() : kNothing, kNothingToUndo);
-    ShowLine(m_lines.redo, canRedo, canRedo ? stack->RedoText() : "Redo", kNothingToRedo);
+    ShowLine(m_lines.undo, canUndo, canUndo ? stack->UndoText() : kUndo, kNothingToUndo);
+    ShowLine(m_lines.redo, canRedo, canRedo ? stack->RedoText() : kRedo, kNothingToRedo);
 }
 
 void EditMenu::Undo()
@@ -79,8 +80,11 @@ void EditMenu::Redo()
 void EditMenu::Move(bool undo)
 {
     SharedRecords& records = m_host.SharedRecords();
-    if (records.Undo() == nullptr || m_isBusy()) {
+    if (records.Undo() == nullptr) {
         return;
+    }
+    if (m_isBusy()) {
+        return (void)emit Said(kBusy);
     }
     const bool moved = [&] {
         const BusyPointer busy(m_host.Desktop());
@@ -107,11 +111,9 @@ std::string EditMenu::DoneText(const char* word, const MovedStep& step) const
 {
     std::string name;
     if (step.table == "TimeRecord" && step.employee) {
-        const auto employee =
-            Required(Required(m_host.Controller())->EmployeeList())->GetEmployeeByID(static_cast<std::int32_t>(*step.employee));
-        name = employee == nullptr ? "" : " (" + employee->DisplayName() + ")";
+        name = DisplayNameOf(*Required(Required(m_host.Controller())->EmployeeList()), *step.employee);
     }
-    return word + step.text + name;
+    return word + step.text + (name.empty() ? name : " (" + name + ")");
 }
 
 } // namespace ptk

@@ -25,12 +25,15 @@ public:
         QAction& redo;
     };
 
-    // All outlive it. `isBusy` tells, and says, that nothing can be undone just now.
+    // All outlive it. `isBusy` tells that nothing can be undone just now.
     EditMenu(QMenu& menu, const Lines& lines, PageHost& host, std::function<bool()> isBusy);
 
 signals:
     // And "Undone: Delete 03/05/2003 08:00 AM (Ann Lee)".
     void Moved(const ptk::MovedStep& step, const QString& done);
+
+    // Why nothing was done.
+    void Said(const QString& text);
 
 private:
     void Show();

@@ -145,18 +145,12 @@ void FController::ConnectMenus()
 void FController::ConnectEditMenu()
 {
     const auto isBusy = [this] { return IsBusyInDialog(); };
-    const auto saysBusy = [this] {
-        const bool busy = IsBusyInDialog();
-        if (busy) {
-            Say(kBusy);
-        }
-        return busy;
-    };
     const std::array<RecordPages::Place, 3> places{
         {{0, "TimeRecord", *m_timeCardPage}, {2, "Employee", *m_employeePage}, {3, "Company", *m_companyPage}}};
     auto* pages = new RecordPages(*this, {*m_ui->TabStrip, *m_ui->pages, *this, isBusy}, places);
-    auto* menu = new EditMenu(*m_ui->mnuEdit, {*m_ui->mnuEditUndo, *m_ui->mnuEditRedo}, *this, saysBusy);
+    auto* menu = new EditMenu(*m_ui->mnuEdit, {*m_ui->mnuEditUndo, *m_ui->mnuEditRedo}, *this, isBusy);
     connect(menu, &EditMenu::Moved, pages, &RecordPages::ShowMoved);
+    connect(menu, &EditMenu::Said, this, &FController::Say);
 }
 
 void FController::ConnectViewMenu()

@@ -165,10 +165,18 @@ TEST_F(SharedRecordsTest, AnUndoneEmployeeIsShownAndNothingTypedIsLost)
     Pick(The<QComboBox>("cboEmployeeID"), "40");
     Type(The<QLineEdit>("txtEmployeePhone"), "88");
     Find<QAction>(Main(), "mnuEditUndo").trigger();
+    EXPECT_EQ(Line("mnuEditRedo"), "&Redo Change Ann Lee");
     EXPECT_EQ(Said(3), "Undone: Change Ann Lee. Changes to Ann Lee were not saved");
     EXPECT_EQ(Text("txtEmployeePhone") + " " + Text("txtPayRate"), " 10.00");
     PressNotice(3);
     EXPECT_EQ(Text("txtEmployeePhone") + " " + Text("txtPayRate"), "88 10.00") << "and the undone rate stays undone";
+    Pick(The<QComboBox>("cboEmployeeID"), "41");
+    Press("cmdEmployeeSave");
+    Type(The<QLineEdit>("txtEmployeePhone"), "99");
+    Pick(The<QComboBox>("cboEmployeeID"), "41");
+    Type(The<QLineEdit>("txtEmployeePhone"), "66");
+    Press("cmdEmployeeSave");
+    EXPECT_EQ(Line("mnuEditUndo"), "&Undo Change Bo && Co");
 }
 
 TEST_F(SharedRecordsTest, ARefusedEmployeeCanBeLoadedAndKeepsWhatWasTyped)

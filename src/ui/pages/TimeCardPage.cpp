@@ -8,8 +8,6 @@
 #include "model/CTimeRecordList.h"
 #include "office/CardFindings.h"
 #include "office/CardRecords.h"
-#include "office/ColumnWords.h"
-#include "office/ConflictNotice.h"
 #include "office/TimeCardNotices.h"
 #include "platform/BusyPointer.h"
 #include "platform/Desktop.h"
@@ -21,9 +19,9 @@
 #include "ui/dialogs/FTimeEditor.h"
 #include "ui/OpenReports.h"
 #include "ui/pages/CardChoice.h"
+#include "ui/pages/CardStoring.h"
 #include "ui/pages/CurrentCard.h"
 #include "ui/pages/PageHost.h"
-#include "ui/SharedRecords.h"
 #include "ui/widgets/EmployeeModels.h"
 #include "ui_TimeCardPage.h"
 
@@ -60,6 +58,7 @@ TimeCardPage::TimeCardPage(PageHost& host, QWidget* parent)
     m_ui->setupUi(this);
     m_ui->layout->insertWidget(0, m_choice);
     m_card = new CurrentCard(host, {*m_choice, *m_ui->lblTCStrange, *m_ui->display, *m_ui->notice}, this);
+    m_storing = std::make_unique<CardStoring>(host, *m_card, *m_ui->notice);
     ConnectChoice();
     ConnectActions();
     m_card->ClearTimeCardDisplay();
@@ -285,9 +284,9 @@ void TimeCardPage::OpenEditor(const Editing& editing)
 void TimeCardPage::EditAgain(const Editing& editing, const RecordTexts& typed)
 {
     Editing again{editing.record, editing.isNew, typed};
-    if (m_conflict) {
-        again.isNew = m_conflict->Removed();
-        again.record = again.isNew ? std::make_shared<CTimeRecord>() : RecordOnCard(*Required(m_card->Card()), m_conflict->key);
+    if (const auto& conflict = m_storing->Conflict()) {
+        again.isNew = conflict->Removed();
+        again.record = RecordToTryAgain(*editing.record, *conflict);
     }
     if (again.record != nullptr) {
         OfferAgain([this, again] { OpenEditor(again); });
@@ -312,7 +311,7 @@ void TimeCardPage::Prepare(FTimeEditor& editor, const Editing& editing)
 bool TimeCardPage::ReturnTimeRecord(const std::shared_ptr<CTimeRecord>& thetimerecord)
 {
     const auto store = [&](CTimeCard& card, CTimeRecordFactory& factory) { return StoreRecord(card, factory, thetimerecord); };
-    m_refused = !StoreAndShow({store, kNotStored, kRecordNotSaved, "Record saved for " + m_card->Employee(), thetimerecord});
+    m_refused = !m_storing->Store({store, kNotStored, kRecordNotSaved, "Record saved for " + m_card->Employee(), thetimerecord});
     return true;
 }
 
@@ -329,7 +328,7 @@ void TimeCardPage::DeleteRecord()
         return;
     }
     const auto remove = [&](CTimeCard& card, CTimeRecordFactory& factory) { return StoreDeletion(card, factory, record); };
-    StoreAndShow({remove, kNotDeleted, kRecordNotDeleted, "Record of " + m_card->Employee() + " deleted", record});
+    m_storing->Store({remove, kNotDeleted, kRecordNotDeleted, "Record of " + m_card->Employee() + " deleted", record});
 }
 
 // Without a card, or with a name that nobody has, there is nothing to fill.
@@ -378,63 +377,8 @@ void TimeCardPage::TakeOver(const FAutoFill& window, std::int32_t records)
     ShowStatus();
     const FillTexts texts = window.Texts();
     const std::string done = CountText(records, "record") + " filled in for " + m_choice->EmployeeText();
-    if (!StoreAndShow({StoreCard, kNotFilled, kRecordsNotFilled, done, nullptr})) {
+    if (!m_storing->Store({StoreCard, kNotFilled, kRecordsNotFilled, done, nullptr})) {
         OfferAgain([this, texts] { AutoFill(texts); });
-    }
-}
-
-// The grid and the totals show what is in the database from then on, or the user learns that nothing has changed there.
-bool TimeCardPage::StoreAndShow(const Storing& storing)
-{
-    m_ui->notice->Clear();
-    m_conflict.reset();
-    const auto store = [&] {
-        const BusyPointer busy(m_host.Desktop());
-        const auto factory = Required(Controller()->TimeRecordFactory());
-        factory->ResetError();
-        const bool stored = storing.step(*Required(m_card->Card()), *factory);
-        m_conflict = factory->Conflict();
-        return stored;
-    };
-    if (Succeeds(store)) {
-        m_host.SharedRecords().Remember();
-        m_card->RegenerateAfterSave();
-        const QString trouble = m_ui->notice->Text();
-        m_ui->notice->Say(Line(storing.done) + (trouble.isEmpty() ? trouble : "; " + trouble));
-        return true;
-    }
-    const std::string refused = TellRefusal(storing);
-    Succeeds([this] { return m_card->ReadAgain(); });
-    m_card->Complain(refused);
-    return false;
-}
-
-// Answers the same for the page's line.
-std::string TimeCardPage::TellRefusal(const Storing& storing)
-{
-    if (m_conflict) {
-        TellConflict(storing);
-        return std::string(storing.refused) + ": " + ConflictRemark(*m_conflict);
-    }
-    const auto card = m_card->Card();
-    std::string refused = card == nullptr ? storing.refused : RefusedText(storing.refused, *card);
-    Tell(m_host.Desktop(), storing.failed);
-    return refused;
-}
-
-void TimeCardPage::TellConflict(const Storing& storing)
-{
-    const auto nameOf = [this](std::int64_t employeeID) {
-        const auto employee = Required(Controller()->EmployeeList())->GetEmployeeByID(static_cast<std::int32_t>(employeeID));
-        return employee == nullptr ? std::string() : employee->DisplayName();
-    };
-    const auto tell = [&] {
-        const auto read = Required(storing.record)->AsRead();
-        const std::string name = MomentText(read ? read->StartTime : DateTime(), ColumnShape::Moment) + " of " + m_card->Employee();
-        AskToLoad(m_host.Desktop(), storing.failed.title, *m_conflict, ConflictText(*m_conflict, name, nameOf));
-    };
-    if (!Succeeds(tell)) {
-        Tell(m_host.Desktop(), storing.failed);
     }
 }
 

@@ -3,7 +3,6 @@
 
 #include "office/FillPlan.h"
 #include "office/NewRecord.h"
-#include "store/RowConflict.h"
 #include "ui/dialogs/TimeRecordReceiver.h"
 #include "ui/pages/RecordPage.h"
 
@@ -21,15 +20,13 @@ class TimeCardPage;
 namespace ptk {
 
 class CardChoice;
+class CardStoring;
 class CController;
-class CTimeCard;
-class CTimeRecordFactory;
 class CurrentCard;
 class FAutoFill;
 class FTimeEditor;
 class PageHost;
 struct FindingPlace;
-struct Notice;
 struct PeriodTexts;
 struct Punch;
 
@@ -80,18 +77,6 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
-    using CardStep = std::function<bool(CTimeCard&, CTimeRecordFactory&)>;
-
-    // A change to the card's records, and what is said of it.
-    struct Storing
-    {
-        CardStep step;
-        const Notice& failed;
-        const char* refused; // for the page's line, before the reason
-        std::string done;
-        std::shared_ptr<CTimeRecord> record; // nullptr for several new ones
-    };
-
     // A record in the editor, and what was typed for it in vain before.
     struct Editing
     {
@@ -122,9 +107,6 @@ private:
     void HandOver(FAutoFill& window);
     void TakeOver(const FAutoFill& window, std::int32_t records);
     void EditAgain(const Editing& editing, const RecordTexts& typed);
-    bool StoreAndShow(const Storing& storing);
-    std::string TellRefusal(const Storing& storing);
-    void TellConflict(const Storing& storing);
     void OfferAgain(const std::function<void()>& action);
 
     // Raises Failure 91 when there is none.
@@ -134,10 +116,10 @@ private:
     std::unique_ptr<Ui::TimeCardPage> m_ui;
     CardChoice* m_choice; // these two belong to the page
     CurrentCard* m_card = nullptr;
-    std::string m_employeeName;            // as of the last change of employee
-    bool m_editingNew = false;             // whether the editor was last opened for a new record; nothing depends on it
-    bool m_refused = false;                // whether the record that the editor returned could not be stored
-    std::optional<RowConflict> m_conflict; // why the last storing was refused, where somebody else had changed the record
+    std::unique_ptr<CardStoring> m_storing;
+    std::string m_employeeName; // as of the last change of employee
+    bool m_editingNew = false;  // whether the editor was last opened for a new record; nothing depends on it
+    bool m_refused = false;     // whether the record that the editor returned could not be stored
     bool m_seen = false;
 };
 
