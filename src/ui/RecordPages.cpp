@@ -19,7 +19,7 @@ namespace ptk {
 namespace {
 
 constexpr auto kLoaded = "What is stored now was loaded";
-constexpr auto kNotLoaded = "What is stored now could not be loaded: ";
+constexpr auto kNotLoaded = "what is stored now could not be loaded: ";
 
 } // namespace
 
@@ -39,20 +39,23 @@ void RecordPages::ShowMoved(const MovedStep& step, const QString& done)
             m_frame.strip.setCurrentIndex(place.tab);
         }
     }
-    if (ReadPages(step)) {
-        Line()->SayBefore(done);
-    }
+    const std::string trouble = ReadPages(step);
+    Line()->SayBefore(trouble.empty() ? done : done + "; " + QString::fromStdString(trouble));
 }
 
 void RecordPages::ReadAgain()
 {
-    if (ReadPages({}) && !Line()->IsOffering()) {
-        Line()->Say(kLoaded);
+    const std::string trouble = ReadPages({});
+    if (!trouble.empty()) {
+        Line()->SayBefore(QString::fromStdString(trouble));
+    } else {
+        Line()->Remark(kLoaded);
     }
 }
 
-// Lists that cannot be read are empty afterwards, so the database is asked first. The time card is read last, with the employee's new row.
-bool RecordPages::ReadPages(const MovedStep& step)
+// Answers what went wrong. Lists that cannot be read are empty afterwards, so the database is asked first. The time card is read last, with
+// the employee's new row.
+std::string RecordPages::ReadPages(const MovedStep& step)
 {
     const auto read = [&] {
         const BusyPointer busy(m_frame.host.Desktop());
@@ -63,11 +66,12 @@ bool RecordPages::ReadPages(const MovedStep& step)
             place->page.ReadAgain(step.table == place->table ? std::optional(step.row) : std::nullopt);
         }
     };
-    return Succeeds(read, [this](const Failure& failure) {
-        const std::string reason = kNotLoaded + failure.Description();
-        m_frame.host.Log(reason);
-        Line()->SayBefore(QString::fromStdString(reason));
+    std::string trouble;
+    Succeeds(read, [&](const Failure& failure) {
+        trouble = kNotLoaded + failure.Description();
+        m_frame.host.Log(trouble);
     });
+    return trouble;
 }
 
 void RecordPages::TellNotRemembered(const QString& reason)

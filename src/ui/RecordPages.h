@@ -52,7 +52,7 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    bool ReadPages(const MovedStep& step);
+    std::string ReadPages(const MovedStep& step);
     void LookSoon();
     void Look();
     [[nodiscard]] NoticeLine* Line() const;

@@ -195,7 +195,7 @@ void CompanyPage::LeaveBehind(const std::optional<LeftBehind<CompanyTexts>>& lef
 void CompanyPage::BringBack(const LeftBehind<CompanyTexts>& left)
 {
     if (!left.shown.id.empty() && m_ui->cboCompanyID->findText(QString::fromStdString(left.shown.id)) < 0) {
-        return m_ui->notice->Say(QString::fromStdString(left.shown.name + kNotInList));
+        return m_ui->notice->Offer(QString::fromStdString(left.shown.name + kNotInList), kBringBack, [this, left] { BringBack(left); });
     }
     LeaveBehind(m_texts.Left(ReadTexts()));
     PutBack(left);
@@ -224,7 +224,7 @@ void CompanyPage::ReadAgain(std::optional<std::int64_t> row)
 {
     const auto left = m_texts.Left(ReadTexts());
     const std::string id = m_ui->cboCompanyID->currentText().toStdString();
-    Reload();
+    const bool read = Reload();
     if (!left) {
         const auto wanted = row ? Of(std::to_string(*row)) : nullptr;
         ShowCompany(wanted != nullptr ? wanted : Of(id));
@@ -232,7 +232,7 @@ void CompanyPage::ReadAgain(std::optional<std::int64_t> row)
     }
     const bool isThere = ShowCompany(Of(id));
     if (!isThere && !id.empty()) {
-        return LeaveBehind(AsNew(*left));
+        return LeaveBehind(read ? AsNew(*left) : left);
     }
     if (isThere && ReadTexts() != left->shown) {
         return LeaveBehind(left);

@@ -259,7 +259,7 @@ void EmployeePage::LeaveBehind(const std::optional<LeftBehind<EmployeeTexts>>& l
 void EmployeePage::BringBack(const LeftBehind<EmployeeTexts>& left)
 {
     if (!left.shown.id.empty() && m_ui->cboEmployeeID->findText(QString::fromStdString(left.shown.id)) < 0) {
-        return m_ui->notice->Say(QString::fromStdString(left.shown.name + kNotInList));
+        return m_ui->notice->Offer(QString::fromStdString(left.shown.name + kNotInList), kBringBack, [this, left] { BringBack(left); });
     }
     LeaveBehind(m_texts.Left(ReadTexts()));
     PutBack(left);
@@ -288,7 +288,7 @@ void EmployeePage::ReadAgain(std::optional<std::int64_t> row)
 {
     const auto left = m_texts.Left(ReadTexts());
     const std::string id = m_ui->cboEmployeeID->currentText().toStdString();
-    Reload();
+    const bool read = Reload();
     if (!left) {
         const auto wanted = row ? Of(std::to_string(*row)) : nullptr;
         ShowEmployee(wanted != nullptr ? wanted : Of(id));
@@ -296,7 +296,7 @@ void EmployeePage::ReadAgain(std::optional<std::int64_t> row)
     }
     const bool isThere = ShowEmployee(Of(id));
     if (!isThere && !id.empty()) {
-        return LeaveBehind(AsNew(*left));
+        return LeaveBehind(read ? AsNew(*left) : left);
     }
     if (isThere && ReadTexts() != left->shown) {
         return LeaveBehind(left);

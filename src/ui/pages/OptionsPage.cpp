@@ -13,6 +13,7 @@
 #include "startup/Notices.h"
 #include "store/CJetDB.h"
 #include "store/CSystemOptions.h"
+#include "ui/pages/OfferLeft.h"
 #include "ui/pages/PageHost.h"
 #include "ui/SharedRecords.h"
 #include "ui/widgets/ChosenOnly.h"
@@ -33,7 +34,6 @@ constexpr auto kRestored = "Options restored";
 
 constexpr auto kOptionsUnread = "The options could not be read: ";
 constexpr auto kLeft = "What was typed was not applied";
-constexpr auto kBringBack = "Bring Back";
 constexpr auto kLimitsUnread = "The limits of the check could not be read: ";
 
 constexpr auto kTimeFormat = "hh:mm:ss AM/PM";
