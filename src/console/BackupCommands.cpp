@@ -12,7 +12,6 @@
 #include "shell/CFileAdaptor.h"
 #include "store/engine/EngineFailure.h"
 #include "store/FileSteps.h"
-#include "store/Restore.h"
 
 #include <filesystem>
 #include <fmt/format.h>
@@ -90,11 +89,9 @@ int RestoreCommand(const RestoreArguments& arguments, Console& console)
 {
     const BackupOrder order = OrderOf(console);
     const std::string file = FileToRestore(console, arguments.file);
-    const std::string folder = BackupFolder(console.programFolder);
-    const std::string kept = Restore({file, order.database, folder, order.now, ConsoleAuthor()});
+    const std::string kept = RestoreBackup(order, file, ConsoleAuthor());
     if (!kept.empty()) {
         console.out << "kept: " << TerminalText(kept) << '\n';
-        PruneBackups(folder, std::filesystem::path(kept).filename().string(), file);
     }
     console.out << "restored: " << TerminalText(file) << '\n';
     return status::Done;
@@ -103,7 +100,9 @@ int RestoreCommand(const RestoreArguments& arguments, Console& console)
 int BackupsCommand(const BackupsArguments&, Console& console)
 {
     int result = status::Done;
-    for (const BackupEntry& entry : ListBackups(BackupFolder(console.programFolder))) {
+    const std::string folder = BackupFolder(console.programFolder);
+    for (const std::string& name : BackupsIn(folder)) {
+        const BackupEntry entry = CheckedBackup(folder, name);
         console.out << TerminalText(Line(entry));
         if (!entry.content) {
             result = status::ProblemsFound;

@@ -219,16 +219,17 @@ Failure FileDraft::AlreadyThere(const std::string& target)
     return {failure::PathFileAccess, "PTK", "There is already a file " + target + "."};
 }
 
-void PutFile(const std::string& path, std::string_view bytes)
+bool PutFile(const std::string& path, std::string_view bytes)
 {
     if (Holds(path, bytes)) {
-        return;
+        return false;
     }
     std::error_code ignored;
     const bool isLink = std::filesystem::is_symlink(path, ignored);
     FileDraft draft(isLink ? std::filesystem::weakly_canonical(path).string() : path);
     draft.File().Write(bytes);
     draft.Replace();
+    return true;
 }
 
 } // namespace ptk

@@ -52,7 +52,7 @@ private:
 };
 
 // Makes these bytes the whole content of the file by way of a draft; a file that holds just them is not touched. A link stays one, and what
-// it leads to gets the bytes. Raises what a draft raises.
-void PutFile(const std::string& path, std::string_view bytes);
+// it leads to gets the bytes. False where nothing had to be written. Raises what a draft raises.
+bool PutFile(const std::string& path, std::string_view bytes);
 
 } // namespace ptk

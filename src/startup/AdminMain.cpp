@@ -1,10 +1,13 @@
 #include "startup/AdminMain.h"
 
+#include "platform/ProgramFolder.h"
+#include "platform/SoleUse.h"
 #include "shell/CEnumHolder.h"
 #include "shell/CFile.h"
 #include "startup/CController.h"
 #include "startup/Notices.h"
 
+#include <cstdlib>
 #include <utility>
 
 namespace ptk {
@@ -12,6 +15,7 @@ namespace ptk {
 namespace {
 
 constexpr std::int32_t kWriteMode = 1;
+constexpr auto kSystemFolder = "\\system";
 const std::string kRule(30, '-');
 
 } // namespace
@@ -26,11 +30,22 @@ AdminMain::~AdminMain() = default;
 
 void AdminMain::Start()
 {
+    if (!TakeFolder()) {
+        Tell(m_desktop, notice::AlreadyOpen);
+        return m_endProcess(EXIT_SUCCESS);
+    }
     OpenErrorLog();
     m_enumHolder = std::make_unique<CEnumHolder>();
     m_controller = std::make_shared<CController>(
-        CController::Surroundings{m_programFolder, m_desktop, m_windows, m_errorLog, [this](int status) { End(status); }});
+        CController::Surroundings{m_programFolder, m_desktop, m_clock, m_windows, m_errorLog, [this](int status) { End(status); }});
     m_controller->Start();
+}
+
+bool AdminMain::TakeFolder()
+{
+    m_use.reset();
+    m_use = std::make_unique<SoleUse>(NativePath(m_programFolder + kSystemFolder).string());
+    return !m_use->TakenElsewhere();
 }
 
 void AdminMain::OpenErrorLog()

@@ -12,10 +12,12 @@ class CEnumHolder;
 class CFile;
 class Clock;
 class Desktop;
+class SoleUse;
 class WindowFactory;
 
-// Start opens the error log, <program folder>\system\errorlog.txt, makes the controller and has it bring the program up. The end routine,
-// which the controller runs, writes the log's last lines, closes it and calls `endProcess` with the exit status: 0, or 1 when the
+// Start makes sure that it is the only one on the program folder: a second one says so and ends with status 0, before it touches anything
+// of the first. It opens the error log, <program folder>\system\errorlog.txt, makes the controller and has it bring the program up. The end
+// routine, which the controller runs, writes the log's last lines, closes it and calls `endProcess` with the exit status: 0, or 1 when the
 // start failed or was cancelled. `endProcess` is to end the process at once, without returning; where it does return (in a test), every
 // caller returns straight away as well.
 class AdminMain
@@ -34,6 +36,7 @@ public:
     [[nodiscard]] std::shared_ptr<CController> Controller() const { return m_controller; }
 
 private:
+    [[nodiscard]] bool TakeFolder();
     void OpenErrorLog();
     void End(int status);
     void CloseErrorLog();
@@ -43,6 +46,7 @@ private:
     const Clock& m_clock;
     WindowFactory& m_windows;
     std::function<void(int)> m_endProcess;
+    std::unique_ptr<SoleUse> m_use; // of the folder, until the program ends
     std::shared_ptr<CFile> m_errorLog;
     std::unique_ptr<CEnumHolder> m_enumHolder;
     std::shared_ptr<CController> m_controller;

@@ -4,6 +4,7 @@
 #include "model/CEmployeeList.h"
 #include "model/CTimeRecordFactory.h"
 #include "model/CTimeRecordList.h"
+#include "platform/Clock.h"
 #include "platform/Failure.h"
 #include "platform/ProgramFolder.h"
 #include "platform/Required.h"
@@ -13,6 +14,7 @@
 #include "shell/CFile.h"
 #include "shell/CFileAdaptor.h"
 #include "startup/Notices.h"
+#include "startup/Safekeeping.h"
 #include "startup/Windows.h"
 #include "store/CJetDB.h"
 #include "store/CSystemOptions.h"
@@ -28,6 +30,7 @@ namespace {
 
 constexpr const char* kConstructionFailed = "Program Construction Error";
 constexpr const char* kOperationFailed = "Error";
+constexpr const char* kNotReadAgain = ", but not everything in it could be read: see the log";
 
 // A list that exists is emptied and filled again, so that whoever holds it sees the new contents.
 template <typename List>
@@ -44,7 +47,11 @@ bool Reload(std::shared_ptr<List>& list, const std::shared_ptr<CJetDB>& database
 
 } // namespace
 
-CController::CController(Surroundings surroundings) : m_around(std::move(surroundings)) {}
+CController::CController(Surroundings surroundings)
+    : m_around(std::move(surroundings)),
+      m_safekeeping(std::make_unique<Safekeeping>(m_around.desktop, m_around.windows, [this](const std::string& line) { Log(line); }))
+{
+}
 
 CController::~CController() = default;
 
@@ -70,24 +77,42 @@ void CController::BringUp()
         Tell(m_around.desktop, notice::ConfigurationUnread);
         return m_around.endRoutine(EXIT_FAILURE);
     }
+    OpenAndShow();
+}
+
+void CController::OpenAndShow()
+{
     if (!OpenDatabase()) {
-        return TellDatabaseUnopened();
+        TellDatabaseUnopened();
+        if (RestoredInstead()) {
+            OpenAndShow();
+        }
+        return;
     }
     if (!LoadSystemOptions()) {
         Tell(m_around.desktop, notice::OptionsUnread);
     }
     if (!BuildLists()) {
         Tell(m_around.desktop, notice::ListsUnbuilt);
-        return m_around.endRoutine(EXIT_FAILURE);
+        return RestoredInstead() ? OpenAndShow() : m_around.endRoutine(EXIT_FAILURE);
     }
     const bool loginValid = LogIn();
     if (loginValid) {
+        m_safekeeping->Begin(m_database);
         ShowMainWindow();
     }
     CloseDatabase();
     if (!loginValid) {
         m_around.endRoutine(EXIT_FAILURE);
     }
+}
+
+// Instead of a database that is of no use.
+bool CController::RestoredInstead()
+{
+    CloseDatabase();
+    const BackupOrder order = Order();
+    return Safekeeping::CanReplace(order) && !m_safekeeping->Restore(order, m_author).empty();
 }
 
 bool CController::LogIn()
@@ -134,6 +159,7 @@ void CController::ShutDown()
         Tell(m_around.desktop, notice::OptionsUnsaved);
     }
     CloseDatabase();
+    m_safekeeping->BackUpChanges(Order(), m_database);
     if (!WriteConfigFile() || m_configFile->LastFailure().Number() != 0) {
         Tell(m_around.desktop, notice::ConfigurationUnsaved);
     }
@@ -275,6 +301,49 @@ bool CController::UnloadControllerWindow()
         window->Unload();
     }
     return false;
+}
+
+std::string CController::BackUpWhenDue()
+{
+    return m_safekeeping->BackUpWhenDue(Order());
+}
+
+std::string CController::BackUpNow()
+{
+    return m_safekeeping->BackUpNow(Order());
+}
+
+// Whoever still works with an object of before works with what is no more: all are new.
+std::string CController::Restore()
+{
+    CloseDatabase();
+    const std::string restored = m_safekeeping->Restore(Order(), m_author);
+    if (restored.empty()) {
+        return {};
+    }
+    m_timeRecordFactory.reset();
+    const bool read = OpenDatabase() && LoadSystemOptions() && BuildLists();
+    CloseDatabase();
+    return read ? restored : restored + kNotReadAgain;
+}
+
+BackupOrder CController::Order() const
+{
+    return {NativePath(Required(m_locator)->DatabasePath()).string(), m_around.programFolder, SecondBackupFolder(), m_around.clock.Now()};
+}
+
+std::string CController::SecondBackupFolder() const
+{
+    return ptk::SecondBackupFolder(*Required(m_configFile));
+}
+
+bool CController::SecondBackupFolder(const std::string& folder)
+{
+    if (folder == SecondBackupFolder()) {
+        return true;
+    }
+    ptk::SecondBackupFolder(*m_configFile, folder);
+    return WriteConfigFile() && m_configFile->LastFailure().Number() == 0;
 }
 
 void CController::TellDatabaseUnopened()

@@ -18,10 +18,13 @@ class CFileAdaptor;
 class CJetDB;
 class CSystemOptions;
 class CTimeRecordFactory;
+class Clock;
 class Desktop;
 class LoginWindow;
 class MainWindow;
+class Safekeeping;
 class WindowFactory;
+struct BackupOrder;
 
 // Always held by std::shared_ptr: make it, then call Start once. Accessors hand out the shared objects themselves, nullptr before they
 // exist and after Cleanup released them. No operation raises; failures go to the error log as "Error: number : description".
@@ -32,6 +35,7 @@ public:
     {
         std::string programFolder;
         Desktop& desktop;
+        const Clock& clock;
         WindowFactory& windows;
         std::shared_ptr<CFile> errorLog; // written to only while it is open
 
@@ -89,11 +93,28 @@ public:
     // Hides, unloads and releases the main window; a second call from its closing steps does nothing. Deliberately always false.
     bool UnloadControllerWindow();
 
+    // See Safekeeping: for the main window once it is shown, for its menu, and what each answers for its line.
+    [[nodiscard]] std::string BackUpWhenDue();
+    [[nodiscard]] std::string BackUpNow();
+
+    // The same; where something was restored, everything has been read again into objects of its own, and the options' window is to be
+    // given those that hold now.
+    [[nodiscard]] std::string Restore();
+
+    // The folder for a second copy of each backup; empty for none.
+    [[nodiscard]] std::string SecondBackupFolder() const;
+
+    // Into the configuration file; false, with a line in the log, when that could not be written. REQUIRES: the file can hold it, see
+    // office/BackupRun.
+    [[nodiscard]] bool SecondBackupFolder(const std::string& folder);
+
     // One line for the session log, of something that went wrong outside the controller.
     void Log(const std::string& line);
 
 private:
     void BringUp();
+    void OpenAndShow();
+    bool RestoredInstead();
     bool LogIn();
     void ShowMainWindow();
     void ShutDown();
@@ -107,6 +128,7 @@ private:
     bool StoreSystemOptions();
     bool BuildLists();
     [[nodiscard]] std::string ConfigPath() const;
+    [[nodiscard]] BackupOrder Order() const;
 
     void TellDatabaseUnopened();
     void LogFailure(const char* kind, std::int32_t number, const std::string& description);
@@ -129,6 +151,7 @@ private:
     std::shared_ptr<CTimeRecordFactory> m_timeRecordFactory;
     std::shared_ptr<CSystemOptions> m_systemOptions;
     std::shared_ptr<LoginWindow> m_loginWindow;
+    std::unique_ptr<Safekeeping> m_safekeeping;
     Author m_author{"", "ptk-admin"}; // of what is stored
 };
 

@@ -7,6 +7,7 @@ namespace ptk {
 
 namespace notice {
 
+inline constexpr Notice AlreadyOpen{"PTK - Administrator", "The program is already open on this program folder.", Icon::Information};
 inline constexpr Notice LogUnopened{"Log Open Error", "An error occurred opening the errorlog for writing.", Icon::Critical};
 inline constexpr Notice ConfigurationUnread{
     "Configuration Settings Error", "Configuration File Read Error: check the configuration file before continuing.", Icon::Critical};

@@ -1,6 +1,7 @@
 // The windows that the start-up shows, as it knows them: the user interface above implements them and hands in the factory.
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <string>
 
@@ -45,6 +46,34 @@ public:
     virtual void Unload() = 0;
 };
 
+struct ProgressWords
+{
+    std::string title;
+    std::string text;
+};
+
+// Comes up by itself once the work takes its time, and lets the user end it.
+class ProgressWindow
+{
+public:
+    // Unloads the window.
+    virtual ~ProgressWindow() = default;
+
+    // Of `all` steps. False once the user has ended the work.
+    [[nodiscard]] virtual bool GoOn(std::int32_t done, std::int32_t all) = 0;
+};
+
+// Asks which backup the database is to be again.
+class RestoreWindow
+{
+public:
+    // Unloads the window.
+    virtual ~RestoreWindow() = default;
+
+    // Of the backups in the folder, or of any other place. Returns when the user has chosen: the file's path, or nothing.
+    [[nodiscard]] virtual std::string Choose(const std::string& folder) = 0;
+};
+
 // The program lets go of a window from within the window's own closing steps, so its deleter must not destroy it before those have
 // returned.
 class WindowFactory
@@ -53,6 +82,8 @@ public:
     virtual ~WindowFactory() = default;
     virtual std::shared_ptr<LoginWindow> CreateLoginWindow() = 0;
     virtual std::shared_ptr<MainWindow> CreateMainWindow() = 0;
+    virtual std::shared_ptr<RestoreWindow> CreateRestoreWindow() = 0;
+    virtual std::shared_ptr<ProgressWindow> CreateProgressWindow(const ProgressWords& words) = 0;
 };
 
 } // namespace ptk

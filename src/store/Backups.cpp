@@ -65,18 +65,6 @@ std::vector<std::string> NamesIn(const std::string& folder)
     return names;
 }
 
-BackupEntry EntryOf(const std::string& folder, const std::string& name)
-{
-    const std::string path = folder + '/' + name;
-    BackupEntry entry{name, 0, {}, {}};
-    std::error_code ignored;
-    if (const auto size = fs::file_size(path, ignored); !ignored) {
-        entry.size = static_cast<std::int64_t>(size);
-    }
-    Succeeds([&] { entry.content = ExamineBackup(path); }, [&](const Failure& reason) { entry.fault = reason.Description(); });
-    return entry;
-}
-
 } // namespace
 
 std::string BackupFolder(const std::string& programFolder)
@@ -154,17 +142,24 @@ BackupContent ExamineBackup(const std::string& path)
     return content;
 }
 
-std::vector<BackupEntry> ListBackups(const std::string& folder)
+std::vector<std::string> BackupsIn(const std::string& folder)
 {
     std::vector<std::string> names = NamesIn(folder);
     std::erase_if(names, [](const std::string& name) { return !BackupMoment(name); });
     std::sort(names.begin(), names.end(), std::greater<>());
-    std::vector<BackupEntry> entries;
-    entries.reserve(names.size());
-    for (const std::string& name : names) {
-        entries.push_back(EntryOf(folder, name));
+    return names;
+}
+
+BackupEntry CheckedBackup(const std::string& folder, const std::string& name)
+{
+    const std::string path = folder + '/' + name;
+    BackupEntry entry{name, 0, {}, {}};
+    std::error_code ignored;
+    if (const auto size = fs::file_size(path, ignored); !ignored) {
+        entry.size = static_cast<std::int64_t>(size);
     }
-    return entries;
+    Succeeds([&] { entry.content = ExamineBackup(path); }, [&](const Failure& reason) { entry.fault = reason.Description(); });
+    return entry;
 }
 
 } // namespace ptk

@@ -53,7 +53,10 @@ struct BackupEntry
     std::string fault;                    // why
 };
 
-// Newest first; empty without the folder.
-[[nodiscard]] std::vector<BackupEntry> ListBackups(const std::string& folder);
+// By their names, newest first; empty without the folder.
+[[nodiscard]] std::vector<std::string> BackupsIn(const std::string& folder);
+
+// The backup of that name in the folder, checked whole.
+[[nodiscard]] BackupEntry CheckedBackup(const std::string& folder, const std::string& name);
 
 } // namespace ptk

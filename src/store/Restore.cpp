@@ -44,10 +44,10 @@ void AddEntry(Engine& restored, const RestoreOrder& order)
     });
 }
 
-void FillDraft(const FileDraft& draft, const RestoreOrder& order)
+void FillDraft(const FileDraft& draft, const RestoreOrder& order, const CopyProgress& progress)
 {
     {
-        Engine(order.file, ReadOnly{}).CopyTo(draft.Path());
+        Engine(order.file, ReadOnly{}).CopyTo(draft.Path(), progress);
     }
     static_cast<void>(ExamineBackup(draft.Path()));
     Engine restored(draft.Path());
@@ -106,14 +106,14 @@ struct Present
     std::string kept;
 };
 
-Present KeepPresent(const RestoreOrder& order)
+Present KeepPresent(const RestoreOrder& order, const CopyProgress& progress)
 {
     if (!IsThere(order.database)) {
         return {nullptr, HasLeftovers(order) ? KeepSpoiled(order) : std::string()};
     }
     try {
         Present present{std::make_unique<Engine>(order.database), {}};
-        present.kept = BackUp(*present.held, order.backups, order.now);
+        present.kept = BackUp(*present.held, order.backups, order.now, progress);
         return present;
     } catch (const Failure& failure) {
         if (!IsSpoiled(failure)) {
@@ -125,7 +125,7 @@ Present KeepPresent(const RestoreOrder& order)
 
 } // namespace
 
-std::string Restore(const RestoreOrder& order)
+std::string Restore(const RestoreOrder& order, const CopyProgress& progress)
 {
     std::error_code ignored;
     RestoreOrder target = order;
@@ -133,8 +133,8 @@ std::string Restore(const RestoreOrder& order)
         target.database = fs::weakly_canonical(order.database).string(); // the link stays one
     }
     FileDraft draft(target.database);
-    FillDraft(draft, target);
-    const Present present = KeepPresent(target);
+    FillDraft(draft, target, progress);
+    const Present present = KeepPresent(target, progress);
     draft.Replace();
     return present.kept;
 }

@@ -6,6 +6,7 @@
 #include "shell/CDocLauncher.h"
 #include "startup/CController.h"
 #include "startup/Notices.h"
+#include "ui/BackupMenu.h"
 #include "ui/dialogs/FAbout.h"
 #include "ui/dialogs/OverviewWindow.h"
 #include "ui/EditMenu.h"
@@ -28,6 +29,7 @@
 #include <QPushButton>
 #include <QShortcut>
 #include <QThread>
+#include <QTimer>
 
 namespace ptk {
 
@@ -68,6 +70,8 @@ constexpr auto kGuideNotOpened = "The user's guide could not be opened: no progr
 
 constexpr auto kBusy = "Not now: reports are being made";
 
+constexpr int kBackupDelay = 300; // milliseconds: nobody waits for the day's first backup to see the window
+
 constexpr auto kPlaceName = "main";
 constexpr QSize kFirstSize(960, 660);
 
@@ -89,6 +93,7 @@ FController::FController(std::string programFolder, ptk::Desktop& desktop, const
     BuildStatusBar();
     ConnectMenus();
     ConnectEditMenu();
+    ConnectBackups();
     ConnectViewMenu();
     ConnectWindowMenu();
     ConnectTabs();
@@ -151,6 +156,13 @@ void FController::ConnectEditMenu()
     auto* menu = new EditMenu(*m_ui->mnuEdit, {*m_ui->mnuEditUndo, *m_ui->mnuEditRedo}, *this, isBusy);
     connect(menu, &EditMenu::Moved, pages, &RecordPages::ShowMoved);
     connect(menu, &EditMenu::Said, this, &FController::Say);
+}
+
+void FController::ConnectBackups()
+{
+    m_backups = new BackupMenu(*m_ui->mnuFileBackUp, *m_ui->mnuFileRestore, *this, this);
+    connect(m_backups, &BackupMenu::Done, this, &FController::Say);
+    connect(m_backups, &BackupMenu::Restored, this, &FController::ShowRestored);
 }
 
 void FController::ConnectViewMenu()
@@ -232,16 +244,44 @@ void FController::Controller(std::shared_ptr<CController> value)
     if (m_controller == nullptr) {
         m_errorNumber = windowerror::NoController;
     } else {
-        InitializeTabPages();
-        if (FillTabLists()) {
-            ShowFirstRecords();
-        } else {
-            m_errorNumber = windowerror::FillListsFailed;
-        }
+        ShowAll();
         m_timeCardPage->EnablePrint();
         m_reportsPage->EnableGenerate();
+        QTimer::singleShot(kBackupDelay, this, &FController::BackUpWhenDue);
     }
     show();
+}
+
+void FController::BackUpWhenDue()
+{
+    if (IsBusyInDialog()) {
+        return QTimer::singleShot(kBackupDelay, this, &FController::BackUpWhenDue);
+    }
+    m_backups->BackUpWhenDue();
+}
+
+void FController::ShowAll()
+{
+    InitializeTabPages();
+    if (FillTabLists()) {
+        ShowFirstRecords();
+    } else {
+        m_errorNumber = windowerror::FillListsFailed;
+    }
+}
+
+// The reports that are open stay: they say of which day they are.
+void FController::ShowRestored(const QString& outcome)
+{
+    m_timeCardPage->GiveUpCard();
+    m_overview.reset();
+    m_sharedRecords->Use(m_controller->PTKDatabase());
+    ShowAll();
+    if (!m_optionsPage->DisplaySystemOptions(m_controller->SystemOptions())) {
+        Tell(m_desktop, notice::OptionsUnread);
+    }
+    m_optionsPage->ForgetLimits();
+    Say(outcome);
 }
 
 void FController::Load()

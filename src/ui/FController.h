@@ -20,6 +20,7 @@ class FController;
 
 namespace ptk {
 
+class BackupMenu;
 class CompanyPage;
 class CTimeRecord;
 class EmployeePage;
@@ -84,6 +85,7 @@ private:
     void BuildStatusBar();
     void ConnectMenus();
     void ConnectEditMenu();
+    void ConnectBackups();
     void ConnectViewMenu();
     void ConnectWindowMenu();
     void ConnectTabs();
@@ -93,6 +95,9 @@ private:
     bool InitializeTabPages();
     bool FillTabLists();
     void ShowFirstRecords();
+    void ShowAll();
+    void BackUpWhenDue();
+    void ShowRestored(const QString& outcome);
 
     void ChangeTab(int index);
     bool ShowTabPage(int index);
@@ -126,6 +131,7 @@ private:
     bool m_loaded = false;
     bool m_closing = false;
 
+    BackupMenu* m_backups = nullptr;
     TimeCardPage* m_timeCardPage = nullptr; // the pages belong to the window's widgets
     ReportsPage* m_reportsPage = nullptr;
     EmployeePage* m_employeePage = nullptr;

@@ -1,6 +1,8 @@
 #include "ui/QtWindowFactory.h"
 
 #include "ui/dialogs/FLogin.h"
+#include "ui/dialogs/FRestore.h"
+#include "ui/dialogs/WorkProgress.h"
 #include "ui/FController.h"
 #include "ui/widgets/AiryStyle.h"
 #include "ui/widgets/ThemeIcon.h"
@@ -30,6 +32,16 @@ std::shared_ptr<LoginWindow> QtWindowFactory::CreateLoginWindow()
 std::shared_ptr<MainWindow> QtWindowFactory::CreateMainWindow()
 {
     return std::shared_ptr<FController>(new FController(m_programFolder, m_desktop, m_clock), kDeleteLater);
+}
+
+std::shared_ptr<RestoreWindow> QtWindowFactory::CreateRestoreWindow()
+{
+    return std::make_shared<FRestore>(QApplication::activeWindow());
+}
+
+std::shared_ptr<ProgressWindow> QtWindowFactory::CreateProgressWindow(const ProgressWords& words)
+{
+    return std::make_shared<WorkProgress>(QApplication::activeWindow(), words);
 }
 
 } // namespace ptk

@@ -19,6 +19,8 @@ public:
 
     std::shared_ptr<LoginWindow> CreateLoginWindow() override;
     std::shared_ptr<MainWindow> CreateMainWindow() override;
+    std::shared_ptr<RestoreWindow> CreateRestoreWindow() override;
+    std::shared_ptr<ProgressWindow> CreateProgressWindow(const ProgressWords& words) override;
 
 private:
     std::string m_programFolder;

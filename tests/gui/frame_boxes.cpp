@@ -69,7 +69,7 @@ TEST_F(RealBoxesTest, ACancelledRunTellsHowFarItCame)
 {
     Start(400);
     SelectEveryone();
-    const KeyPresses keys({{"QMessageBox", Qt::Key_Return}, {"ptk::GenerationProgress", Qt::Key_Escape}});
+    const KeyPresses keys({{"QMessageBox", Qt::Key_Return}, {"ptk::WorkProgress", Qt::Key_Escape}});
     Click(Main(), "cmdGenerate");
     EXPECT_LT(Viewers(), 401);
     EXPECT_EQ(Line(), QString("Cancelled: %1 of 401 reports complete, 1 failed").arg(Viewers() - 1));
@@ -80,7 +80,7 @@ TEST_F(RealBoxesTest, ClosingInTheMiddleOfARunEndsTheRunFirst)
     Start(400);
     SelectEveryone();
     QPointer<FController> main = &Main();
-    const KeyPresses keys({{"QMessageBox", Qt::Key_Return}, {"ptk::GenerationProgress", Qt::Key_Escape, 0, [&] { main->close(); }}});
+    const KeyPresses keys({{"QMessageBox", Qt::Key_Return}, {"ptk::WorkProgress", Qt::Key_Escape, 0, [&] { main->close(); }}});
     Click(*main, "cmdGenerate");
     EXPECT_TRUE(main->isVisible());
     EXPECT_TRUE(Line().startsWith("Cancelled: "));

@@ -85,6 +85,32 @@ private:
     std::shared_ptr<CController> m_controller;
 };
 
+// The user gives in to nothing and has the time.
+class ScriptedProgress final : public ProgressWindow
+{
+public:
+    bool GoOn(std::int32_t, std::int32_t) override { return goesOn; }
+
+    bool goesOn = true;
+};
+
+// Chooses one file after the other, then none.
+class ScriptedRestore final : public RestoreWindow
+{
+public:
+    explicit ScriptedRestore(std::vector<std::string>& files) : m_files(files) {}
+
+    std::string Choose(const std::string& folder) override
+    {
+        const std::string file = m_files.empty() ? std::string() : folder + '/' + m_files.front();
+        m_files.erase(m_files.begin(), m_files.begin() + (m_files.empty() ? 0 : 1));
+        return file;
+    }
+
+private:
+    std::vector<std::string>& m_files;
+};
+
 class ScriptedWindows final : public WindowFactory
 {
 public:
@@ -95,9 +121,18 @@ public:
         main->displays = mainDisplays;
         return main;
     }
+    std::shared_ptr<RestoreWindow> CreateRestoreWindow() override { return std::make_shared<ScriptedRestore>(restored); }
+    std::shared_ptr<ProgressWindow> CreateProgressWindow(const ProgressWords&) override
+    {
+        auto progress = std::make_shared<ScriptedProgress>();
+        progress->goesOn = backupGoesOn;
+        return progress;
+    }
 
     bool loginValid = true;
     bool mainDisplays = true;
+    bool backupGoesOn = true;
+    std::vector<std::string> restored; // names of backups, as they are chosen one after the other
     std::shared_ptr<ScriptedLogin> login;
     std::shared_ptr<ScriptedMain> main;
 };

@@ -116,15 +116,15 @@ TEST_F(BackupsTest, AreWholeForTheirOwnerAndNamedByTheNextFreeSecond)
     EXPECT_EQ(status.st_mode & 0777U, 0700U);
 
     WriteBytes(Backup(kSecond), ReadBytes(Backup(kSecond)).substr(0, 20000));
-    const auto list = ListBackups(Folder());
-    ASSERT_EQ(list.size(), 2U);
-    EXPECT_EQ(list[0].name, kSecond);
-    EXPECT_FALSE(list[0].content);
-    EXPECT_EQ(list[0].fault, "the database file is damaged");
-    EXPECT_EQ(list[1].content.value().employees, 1);
-    EXPECT_EQ(list[1].content->records, 2);
-    EXPECT_EQ(list[1].content->newestShift, ToDateTime("3/5/2003 8:00"));
-    EXPECT_EQ(list[1].size, static_cast<std::int64_t>(ReadBytes(Path()).size()));
+    EXPECT_EQ(BackupsIn(Folder()), (std::vector<std::string>{kSecond, kFirst}));
+    const BackupEntry damaged = CheckedBackup(Folder(), kSecond);
+    EXPECT_FALSE(damaged.content);
+    EXPECT_EQ(damaged.fault, "the database file is damaged");
+    const BackupEntry sound = CheckedBackup(Folder(), kFirst);
+    EXPECT_EQ(sound.content.value().employees, 1);
+    EXPECT_EQ(sound.content->records, 2);
+    EXPECT_EQ(sound.content->newestShift, ToDateTime("3/5/2003 8:00"));
+    EXPECT_EQ(sound.size, static_cast<std::int64_t>(ReadBytes(Path()).size()));
 }
 
 TEST_F(BackupsTest, LeaveNothingBehindWhereTheyFail)

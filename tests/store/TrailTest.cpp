@@ -130,7 +130,7 @@ TEST_F(TrailTest, AnEarlierFileGetsItWithTheFirstChange)
     EXPECT_TRUE(CheckDatabase(Path()).problems.empty());
     EXPECT_TRUE(m_database->ExecuteAction("UPDATE TimeRecord SET EndTime = StartTime WHERE TimeRecordID = 2"));
     EXPECT_FALSE(m_database->ExecuteAction("UPDATE TimeRecord SET Nothing = 1"));
-    EXPECT_EQ(hasTrail() + std::to_string(ListBackups(BackupFolder(m_folder.Path())).size()), "0|0") << "no row has changed";
+    EXPECT_EQ(hasTrail() + std::to_string(BackupsIn(BackupFolder(m_folder.Path())).size()), "0|0") << "no row has changed";
 
     EXPECT_TRUE(m_database->ExecuteAction("DELETE FROM TimeRecord"));
     EXPECT_EQ(hasTrail(), "3|");
@@ -138,11 +138,12 @@ TEST_F(TrailTest, AnEarlierFileGetsItWithTheFirstChange)
     EXPECT_EQ(Rows("PRAGMA user_version; PRAGMA integrity_check; SELECT COUNT(*) FROM TimeRecord; SELECT * FROM _CheckLimits"),
               "1|ok|0|16|0|1|");
     EXPECT_TRUE(CheckDatabase(Path()).problems.empty());
-    const auto backups = ListBackups(BackupFolder(m_folder.Path()));
+    const std::string folder = BackupFolder(m_folder.Path());
+    const auto backups = BackupsIn(folder);
     ASSERT_EQ(backups.size(), 1U);
-    EXPECT_EQ(backups[0].content.value().records, 1);
+    EXPECT_EQ(CheckedBackup(folder, backups[0]).content.value().records, 1);
     EXPECT_TRUE(m_database->ExecuteAction("UPDATE _CheckLimits SET first_weekday = 1"));
-    EXPECT_EQ(ListBackups(BackupFolder(m_folder.Path())).size(), 1U);
+    EXPECT_EQ(BackupsIn(folder).size(), 1U);
 }
 
 TEST_F(TrailTest, AnEarlierFileStaysAsItIsWithoutABackupAndLosesNoTableForAMissingColumn)

@@ -87,8 +87,7 @@ void Connection::Inspect()
     }
 }
 
-// False where the path leads nowhere, or was written so lately that one more write might have the same time.
-bool Connection::ReadState(FileState& state) const
+std::optional<Connection::FileState> Connection::ReadState() const
 {
     constexpr std::int64_t kSecond = 1'000'000'000; // nanoseconds
     constexpr std::int64_t kTooFresh = 50'000'000;  // nanoseconds: several ticks of the clock that files are dated by
@@ -99,23 +98,30 @@ bool Connection::ReadState(FileState& state) const
     {
     };
     if (stat(m_path.c_str(), &file) != 0 || !S_ISREG(file.st_mode) || clock_gettime(CLOCK_REALTIME, &now) != 0) {
-        return false;
+        return std::nullopt;
     }
     const auto nanoseconds = [](const timespec& time) { return time.tv_sec * kSecond + time.tv_nsec; };
-    state = {file.st_dev, file.st_ino, file.st_mode, file.st_size, nanoseconds(file.st_mtim), nanoseconds(file.st_ctim), getpid()};
-    return nanoseconds(now) - state.changed > kTooFresh;
+    FileState state{{file.st_dev, file.st_ino, file.st_mode, getpid()}, {}};
+    if (nanoseconds(now) - nanoseconds(file.st_ctim) > kTooFresh) {
+        state.content = FileContent{file.st_size, nanoseconds(file.st_mtim), nanoseconds(file.st_ctim)};
+    }
+    return state;
 }
 
 bool Connection::Park()
 {
     Release();
-    return !m_durable && m_access == Access::Write && ReadState(m_parked);
+    m_parked = m_access == Access::Write ? ReadState() : std::nullopt;
+    if (m_parked && !m_parked->content) {
+        sqlite3_db_release_memory(Handle());
+    }
+    return m_parked.has_value();
 }
 
 bool Connection::Resume()
 {
-    FileState now;
-    if (!ReadState(now) || now != m_parked) {
+    const auto now = ReadState();
+    if (!now || now->identity != m_parked->identity || (m_parked->content && now->content != m_parked->content)) {
         return false;
     }
     m_inOrder = false;

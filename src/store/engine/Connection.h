@@ -8,6 +8,7 @@
 #include <chrono>
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 
 namespace ptk {
@@ -31,12 +32,12 @@ public:
     Connection& operator=(const Connection&) = delete;
 
     // Gives the hold up and keeps the file open, so that the next Resume need not read its tables' definitions again, which takes most of
-    // the time of a short operation. False when it should rather be closed: after a write, or where the file is so fresh that its time
-    // would not tell another change.
+    // the time of a short operation. Of a file so fresh, after a write for instance, that its time would not tell another change, only the
+    // definitions are kept, which have a number of their own. False when it should rather be closed.
     bool Park();
 
-    // Whether the path still leads to the file just as it was parked, by the same process; it is then held again, as by the constructor,
-    // which also raises the same. False when it is to be opened anew.
+    // Whether the path still leads to the file as it was parked, by the same process; it is then held again, as by the constructor, which
+    // also raises the same. False when it is to be opened anew.
     bool Resume();
 
     // Raises 26 for an empty file, 11 for one cut short; to be called before anything else.
@@ -63,22 +64,36 @@ public:
     void Release() noexcept;
 
 private:
-    // What tells any change of the file or its rights.
-    struct FileState
+    struct FileIdentity
     {
         std::uint64_t device = 0;
         std::uint64_t node = 0;
         std::uint32_t mode = 0;
+        std::int32_t process = 0; // whose connection it is: it must not be used after a fork
+
+        bool operator==(const FileIdentity&) const = default;
+    };
+
+    // What tells any change of what is in it.
+    struct FileContent
+    {
         std::int64_t size = 0;
         std::int64_t written = 0; // nanoseconds
         std::int64_t changed = 0; // nanoseconds, rights included
-        std::int32_t process = 0; // whose connection it is: it must not be used after a fork
 
-        bool operator==(const FileState&) const = default;
+        bool operator==(const FileContent&) const = default;
+    };
+
+    struct FileState
+    {
+        FileIdentity identity;
+        std::optional<FileContent> content; // nothing where one more write might have the same time
     };
 
     void Inspect();
-    [[nodiscard]] bool ReadState(FileState& state) const;
+
+    // Nothing where the path leads to no file.
+    [[nodiscard]] std::optional<FileState> ReadState() const;
     void RefuseOtherPrograms(std::int32_t applicationId, std::int32_t formatNumber) const;
     void RefuseOtherProgramsLog();
     void LeaveWriteAheadLog();
@@ -86,7 +101,7 @@ private:
     bool Wait();
 
     std::string m_path;
-    FileState m_parked;
+    std::optional<FileState> m_parked;
     SQLite::Database m_database;
     Access m_access;
     WhenHeld m_whenHeld;

@@ -1,5 +1,6 @@
 #include "ui/pages/OptionsPage.h"
 
+#include "office/BackupRun.h"
 #include "office/CardTexts.h"
 #include "office/ConflictNotice.h"
 #include "office/LeftBehind.h"
@@ -20,6 +21,7 @@
 #include "ui_OptionsPage.h"
 
 #include <algorithm>
+#include <QFileDialog>
 
 namespace ptk {
 
@@ -35,6 +37,8 @@ constexpr auto kRestored = "Options restored";
 constexpr auto kOptionsUnread = "The options could not be read: ";
 constexpr auto kLeft = "What was typed was not applied";
 constexpr auto kLimitsUnread = "The limits of the check could not be read: ";
+
+constexpr auto kFolderTitle = "Folder for a Second Copy of Backups";
 
 constexpr auto kTimeFormat = "hh:mm:ss AM/PM";
 
@@ -55,6 +59,7 @@ OptionsPage::OptionsPage(PageHost& host, QWidget* parent) : QWidget(parent), m_h
     m_ui->dttbAutoShiftStartTime->SetDisplayFormat(kTimeFormat);
     m_ui->dttbAutoShiftEndTime->SetDisplayFormat(kTimeFormat);
     connect(m_ui->txtPeriodLength, &QLineEdit::textChanged, this, &OptionsPage::ShowExample);
+    connect(m_ui->cmdBackupFolder, &QPushButton::clicked, this, &OptionsPage::BrowseForFolder);
     connect(m_ui->cmdApplyOptions, &QPushButton::clicked, this, &OptionsPage::Apply);
     connect(m_ui->cmdCancelOptions, &QPushButton::clicked, this, &OptionsPage::Cancel);
 }
@@ -65,7 +70,7 @@ OptionsPage::~OptionsPage() = default;
 void OptionsPage::AlignFrames()
 {
     const int label = std::max(m_ui->lblPeriodLength->sizeHint().width(), m_ui->lblLongShift->sizeHint().width());
-    for (QWidget* first : {m_ui->lblPeriodLength, m_ui->lblAutoShiftStartTime, m_ui->lblLongShift}) {
+    for (QWidget* first : {m_ui->lblPeriodLength, m_ui->lblAutoShiftStartTime, m_ui->lblLongShift, m_ui->lblBackupFolder}) {
         first->setMinimumWidth(label);
     }
     const int box = m_ui->dttbAutoShiftStartTime->sizeHint().width();
@@ -89,6 +94,7 @@ bool OptionsPage::DisplaySystemOptions(const std::shared_ptr<CSystemOptions>& op
     }
     ShowTexts(ShowOptions(*options));
     m_shown = Texts();
+    ShowBackupFolder();
     return true;
 }
 
@@ -188,8 +194,40 @@ bool OptionsPage::SaveSystemOptions()
             m_conflict = database->Conflict();
         }
         m_host.SharedRecords().Remember();
-        return saved;
+        return saved && StoreBackupFolder();
     });
+}
+
+void OptionsPage::ForgetLimits()
+{
+    m_limits.reset();
+    if (isVisible()) {
+        LoadLimits();
+    }
+}
+
+bool OptionsPage::StoreBackupFolder()
+{
+    const std::string folder = BackupFolder();
+    return SecondFolderRefusal(folder).empty() && Required(m_host.Controller())->SecondBackupFolder(folder);
+}
+
+std::string OptionsPage::BackupFolder() const
+{
+    return m_ui->txtBackupFolder->text().toStdString();
+}
+
+void OptionsPage::ShowBackupFolder()
+{
+    Succeeds([this] { m_ui->txtBackupFolder->setText(QString::fromStdString(Required(m_host.Controller())->SecondBackupFolder())); });
+}
+
+void OptionsPage::BrowseForFolder()
+{
+    const QString folder = QFileDialog::getExistingDirectory(this, kFolderTitle, m_ui->txtBackupFolder->text());
+    if (!folder.isEmpty()) {
+        m_ui->txtBackupFolder->setText(folder);
+    }
 }
 
 bool OptionsPage::RestoreSystemOptions()
@@ -211,7 +249,7 @@ void OptionsPage::Apply()
         AskForPresent();
     } else {
         m_host.Desktop().Show(kUpdateText, notice::OptionsUnsaved.title, Icon::Exclamation);
-        m_ui->notice->Say(m_limits ? QString::fromStdString(LimitRefusal(Limits())) : QString());
+        m_ui->notice->Say(QString::fromStdString(Refusal()));
     }
 }
 
@@ -245,6 +283,13 @@ void OptionsPage::Complain(const std::string& line)
 {
     m_ui->notice->Say(QString::fromStdString(line));
     m_host.Log(line);
+}
+
+// What of the typed texts stands in the way; empty when that is something else.
+std::string OptionsPage::Refusal() const
+{
+    const std::string limits = m_limits ? LimitRefusal(Limits()) : std::string();
+    return limits.empty() ? SecondFolderRefusal(BackupFolder()) : limits;
 }
 
 void OptionsPage::Cancel()

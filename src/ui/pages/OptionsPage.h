@@ -1,4 +1,5 @@
-// The Options page: the length of a pay period, the times of the automatic shift and the limits of the check of time cards.
+// The Options page: the length of a pay period, the times of the automatic shift, the limits of the check of time cards and the folder for
+// a second copy of backups.
 #pragma once
 
 #include "office/OptionTexts.h"
@@ -36,6 +37,9 @@ public:
     // Shows the controller's options again.
     bool RestoreSystemOptions();
 
+    // They are read again when the page is seen next.
+    void ForgetLimits();
+
 signals:
     // Others than before.
     void LimitsStored();
@@ -53,6 +57,12 @@ private:
     [[nodiscard]] LimitTexts Limits() const;
     void ShowLimitTexts(const LimitTexts& texts);
     bool SaveOptions();
+
+    [[nodiscard]] bool StoreBackupFolder();
+    [[nodiscard]] std::string BackupFolder() const;
+    [[nodiscard]] std::string Refusal() const;
+    void ShowBackupFolder();
+    void BrowseForFolder();
     void ShowExample();
     void Apply();
     void AskForPresent();

@@ -14,7 +14,7 @@
 #include "platform/Value.h"
 #include "startup/CController.h"
 #include "store/CSystemOptions.h"
-#include "ui/dialogs/GenerationProgress.h"
+#include "ui/dialogs/WorkProgress.h"
 #include "ui/OpenReports.h"
 #include "ui/pages/PageHost.h"
 #include "ui/widgets/ChosenOnly.h"
@@ -25,6 +25,7 @@
 #include <QShortcut>
 
 #include <algorithm>
+#include <fmt/format.h>
 
 namespace ptk {
 
@@ -34,6 +35,9 @@ constexpr auto kErrorTitle = "Report Generation Error";
 constexpr auto kNoReportText = "You must select a report to generate before continuing.";
 constexpr auto kFailureText = " : An error occurred generating the report: ";
 constexpr auto kStatusName = "Reports : ";
+
+constexpr auto kProgressTitle = "Generate Report";
+constexpr auto kProgressText = "Generating for {} employees...";
 
 constexpr auto kNoDatesTip = "This report needs no dates.";
 constexpr auto kYearTip = "Year-to-date totals start on 1 January.";
@@ -247,12 +251,13 @@ class ReportsPage::Client final : public ReportClient
 public:
     Client(ReportsPage& page, const ReportOrder& order)
         : m_page(page), m_entry(order.report),
-          m_progress(std::make_unique<GenerationProgress>(&page, static_cast<std::int32_t>(order.names.size())))
+          m_progress(std::make_unique<WorkProgress>(&page, ProgressWords{kProgressTitle, fmt::format(kProgressText, order.names.size())})),
+          m_all(static_cast<std::int32_t>(order.names.size()))
     {
     }
 
     std::shared_ptr<Report> NewReport(const ReportEntry& entry) override { return m_page.m_host.Reports().NewReport(entry); }
-    bool GoOn(std::int32_t done) override { return m_progress->GoOn(done); }
+    bool GoOn(std::int32_t done) override { return m_progress->GoOn(done, m_all); }
     void Say(const std::string& outcome) override { m_page.Say(outcome); }
     void Made(Report& report, bool complete, const std::string& outcome) override;
 
@@ -261,7 +266,8 @@ private:
 
     ReportsPage& m_page;
     const ReportEntry& m_entry;
-    std::unique_ptr<GenerationProgress> m_progress;
+    std::unique_ptr<WorkProgress> m_progress;
+    std::int32_t m_all; // employees
 };
 
 void ReportsPage::Client::Made(Report& report, bool complete, const std::string& outcome)

@@ -116,6 +116,30 @@ void TakePages(FController& main, const Photographer& photographer)
     Find<QTabBar>(main, "TabStrip").setCurrentIndex(0);
 }
 
+// Three of three days, the one in the middle damaged; checked first, then the list without any.
+void TakeRestore(GuiProgram& program, const Photographer& photographer)
+{
+    FController& main = program.Main();
+    const QString folder = QString::fromStdString(program.folder.Path()) + "/backups";
+    QDir(folder).removeRecursively();
+    const auto take = [&](const QString& name) {
+        const ModalScript script([&](QDialog& window) {
+            while (Find<QTableWidget>(window, "grdBackups").findItems("checking...", Qt::MatchExactly).size() > 0) {
+                QCoreApplication::processEvents();
+            }
+            photographer.TakeSizes(window, name);
+        });
+        Find<QAction>(main, "mnuFileRestore").trigger();
+    };
+    take("restore-none");
+    for (const int days : {-2, -1, 0}) {
+        program.clock.now = DateTime(kToday.AddDays(days).Date(), {17, 4, 9});
+        Find<QAction>(main, "mnuFileBackUp").trigger();
+    }
+    QFile::resize(folder + "/ptk_11-2003-03-04-170409.mdb", 30000);
+    take("restore");
+}
+
 // Of somebody with problems, the list of them open; on the smallest window also what one comes to by scrolling.
 void TakeFindings(FController& main, const Photographer& photographer)
 {
@@ -194,6 +218,7 @@ void TakeAll(const QString& folder, const QString& theme)
     TakeModal(main, "cmdTCNew", photographer, "time-editor");
     TakeModal(main, "cmdFill", photographer, "auto-fill");
     TakeAbout(main, photographer);
+    TakeRestore(program, photographer);
     TakeFindings(main, photographer);
     TakeOverview(main, photographer);
     TakeEditMenu(main, program.desktop, photographer);

@@ -1,5 +1,7 @@
-// Tells how far a report over several employees is, once it takes longer than half a second, and lets the user stop it.
+// Tells how far a longer work is, once it takes more than half a second, and lets the user end it.
 #pragma once
+
+#include "startup/Windows.h"
 
 #include <cstdint>
 #include <QDialog>
@@ -11,15 +13,15 @@ namespace ptk {
 
 // Opens, and lets other events happen, only inside GoOn, never by a timer of its own: a box that tells of an employee's failure is then
 // never covered by it.
-class GenerationProgress final : public QDialog
+class WorkProgress final : public QDialog, public ProgressWindow
 {
     Q_OBJECT
 
 public:
-    GenerationProgress(QWidget* window, std::int32_t total);
+    // Without a window it blocks all that there are.
+    WorkProgress(QWidget* window, const ProgressWords& words);
 
-    // False once the user has cancelled.
-    bool GoOn(std::int32_t done);
+    bool GoOn(std::int32_t done, std::int32_t all) override;
 
     // After a box: what the user took to read it does not count.
     void Restart();

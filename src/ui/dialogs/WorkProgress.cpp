@@ -1,4 +1,4 @@
-#include "ui/dialogs/GenerationProgress.h"
+#include "ui/dialogs/WorkProgress.h"
 
 #include <QApplication>
 #include <QDialogButtonBox>
@@ -11,8 +11,6 @@ namespace ptk {
 
 namespace {
 
-constexpr auto kTitle = "Generate Report";
-constexpr auto kText = "Generating for %1 employees...";
 constexpr qint64 kShownAfter = 500; // milliseconds
 constexpr int kLeastWidth = 320;    // pixels
 
@@ -26,20 +24,19 @@ void LightenPointer()
 
 } // namespace
 
-GenerationProgress::GenerationProgress(QWidget* window, std::int32_t total) : QDialog(window), m_bar(new QProgressBar(this))
+WorkProgress::WorkProgress(QWidget* window, const ProgressWords& words) : QDialog(window), m_bar(new QProgressBar(this))
 {
     setObjectName("dlgProgress");
-    setWindowTitle(kTitle);
-    setWindowModality(Qt::WindowModal);
+    setWindowTitle(QString::fromStdString(words.title));
+    setWindowModality(window == nullptr ? Qt::ApplicationModal : Qt::WindowModal);
     setMinimumWidth(kLeastWidth);
-    auto* text = new QLabel(QString(kText).arg(total), this);
+    auto* text = new QLabel(QString::fromStdString(words.text), this);
     text->setObjectName("lblProgress");
     m_bar->setObjectName("barProgress");
-    m_bar->setAccessibleName(kTitle);
-    m_bar->setRange(0, total);
+    m_bar->setAccessibleName(windowTitle());
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
     buttons->button(QDialogButtonBox::Cancel)->setObjectName("cmdCancel");
-    connect(buttons, &QDialogButtonBox::rejected, this, &GenerationProgress::reject);
+    connect(buttons, &QDialogButtonBox::rejected, this, &WorkProgress::reject);
     auto* column = new QVBoxLayout(this);
     column->addWidget(text);
     column->addWidget(m_bar);
@@ -47,25 +44,26 @@ GenerationProgress::GenerationProgress(QWidget* window, std::int32_t total) : QD
     Restart();
 }
 
-void GenerationProgress::Restart()
+void WorkProgress::Restart()
 {
     m_sinceStart.start();
 }
 
-bool GenerationProgress::GoOn(std::int32_t done)
+bool WorkProgress::GoOn(std::int32_t done, std::int32_t all)
 {
     if (!isVisible() && !m_cancelled && m_sinceStart.elapsed() >= kShownAfter) {
         show();
         LightenPointer();
     }
     if (isVisible()) {
+        m_bar->setRange(0, all);
         m_bar->setValue(done);
         QApplication::processEvents();
     }
     return !m_cancelled;
 }
 
-void GenerationProgress::reject()
+void WorkProgress::reject()
 {
     m_cancelled = true;
     QDialog::reject();

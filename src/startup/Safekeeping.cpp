@@ -1,0 +1,169 @@
+#include "startup/Safekeeping.h"
+
+#include "platform/BusyPointer.h"
+#include "platform/Desktop.h"
+#include "platform/Succeeds.h"
+#include "startup/Windows.h"
+#include "store/engine/EngineFailure.h"
+
+#include <filesystem>
+#include <utility>
+
+namespace ptk {
+
+namespace {
+
+const ProgressWords kBackingUp{"Backup", "Backing up the database..."};
+const ProgressWords kRestoring{"Restore", "Restoring the database..."};
+
+constexpr auto kBackupTitle = "Backup Error";
+constexpr auto kNotBackedUp = "The database could not be backed up: ";
+constexpr auto kBackedUp = "Backed up as ";
+constexpr auto kButNoSecond = "The database was backed up, but ";
+constexpr auto kGivenUp = "The backup was given up";
+
+constexpr auto kRestoreTitle = "Restore Error";
+constexpr auto kNotRestored = "The database could not be restored and is what it was: ";
+constexpr auto kRestored = "Restored from ";
+
+// The engine's numbers.
+constexpr std::int32_t kDamaged = 11;
+constexpr std::int32_t kMissing = 14;
+constexpr std::int32_t kNoDatabase = 26;
+
+bool IsUseless(const Failure& reason)
+{
+    const std::int32_t number = reason.Number();
+    return reason.Source() == kEngineSource && (number == kDamaged || number == kMissing || number == kNoDatabase);
+}
+
+std::string NameOf(const std::string& path)
+{
+    return std::filesystem::path(path).filename().string();
+}
+
+// A failure of the engine is one of the database, any other of the folder.
+std::string Located(const Failure& reason, const BackupOrder& order)
+{
+    return reason.Description() + (reason.Source() == kEngineSource ? "" : ": " + BackupFolder(order.programFolder));
+}
+
+std::string SecondProblem(const BackupOutcome& outcome)
+{
+    return outcome.secondProblem.empty() ? std::string() : kButNoSecond + outcome.secondProblem;
+}
+
+} // namespace
+
+Safekeeping::Safekeeping(Desktop& desktop, WindowFactory& windows, std::function<void(const std::string& line)> log)
+    : m_desktop(desktop), m_windows(windows), m_log(std::move(log))
+{
+}
+
+void Safekeeping::Begin(const std::shared_ptr<CJetDB>& database)
+{
+    m_newest.reset();
+    Succeeds([&] { m_newest = NewestChange(database); });
+}
+
+std::string Safekeeping::BackUpWhenDue(const BackupOrder& order)
+{
+    if (!BackupIsDue(order.programFolder, order.now)) {
+        return {};
+    }
+    const Attempt attempt = Make(order);
+    return attempt.outcome.secondIsNews ? SecondProblem(attempt.outcome) : attempt.problem;
+}
+
+void Safekeeping::BackUpChanges(const BackupOrder& order, const std::shared_ptr<CJetDB>& database)
+{
+    std::optional<std::int64_t> newest;
+    Succeeds([&] { newest = NewestChange(database); });
+    const bool unchanged = newest && newest == m_newest;
+    if (unchanged && !BackupIsDue(order.programFolder, order.now)) {
+        return;
+    }
+    const Attempt attempt = Make(order);
+    const std::string told = attempt.outcome.secondIsNews ? SecondProblem(attempt.outcome) : attempt.problem;
+    if (!told.empty()) {
+        Tell(kBackupTitle, told);
+    }
+}
+
+std::string Safekeeping::BackUpNow(const BackupOrder& order)
+{
+    const Attempt attempt = Make(order);
+    if (attempt.outcome.path.empty()) {
+        return attempt.problem.empty() ? kGivenUp : attempt.problem;
+    }
+    const std::string second = SecondProblem(attempt.outcome);
+    return second.empty() ? kBackedUp + NameOf(attempt.outcome.path) : second;
+}
+
+Safekeeping::Attempt Safekeeping::Make(const BackupOrder& order)
+{
+    const auto window = m_windows.CreateProgressWindow(kBackingUp);
+    Attempt attempt;
+    bool goesOn = true;
+    const auto make = [&] {
+        const BusyPointer busy(m_desktop);
+        attempt.outcome = MakeBackup(order, [&](std::int32_t done, std::int32_t all) { return goesOn = window->GoOn(done, all); });
+    };
+    Succeeds(make, [&](const Failure& reason) { attempt.problem = goesOn ? kNotBackedUp + Located(reason, order) : std::string(); });
+    for (const std::string& line : {attempt.problem, attempt.outcome.secondProblem}) {
+        if (!line.empty()) {
+            m_log(line);
+        }
+    }
+    return attempt;
+}
+
+std::string Safekeeping::Restore(const BackupOrder& order, const Author& author)
+{
+    const auto window = m_windows.CreateRestoreWindow();
+    std::string file = window->Choose(BackupFolder(order.programFolder));
+    while (!file.empty() && !PutBack(order, file, author)) {
+        file = window->Choose(BackupFolder(order.programFolder));
+    }
+    if (file.empty()) {
+        return {};
+    }
+    m_log(kRestored + file);
+    return kRestored + NameOf(file);
+}
+
+bool Safekeeping::PutBack(const BackupOrder& order, const std::string& file, const Author& author)
+{
+    const auto window = m_windows.CreateProgressWindow(kRestoring);
+    bool goesOn = true;
+    const auto putBack = [&] {
+        const BusyPointer busy(m_desktop);
+        RestoreBackup(order, file, author, [&](std::int32_t done, std::int32_t all) { return goesOn = window->GoOn(done, all); });
+    };
+    std::string problem;
+    const bool done =
+        Succeeds(putBack, [&](const Failure& reason) { problem = goesOn ? kNotRestored + reason.Description() : std::string(); });
+    if (!problem.empty()) {
+        m_log(problem);
+        Tell(kRestoreTitle, problem);
+    }
+    return done;
+}
+
+bool Safekeeping::CanReplace(const BackupOrder& order)
+{
+    if (order.database.empty() || BackupsIn(BackupFolder(order.programFolder)).empty()) {
+        return false;
+    }
+    bool replaceable = false;
+    const auto examine = [&] { static_cast<void>(ExamineBackup(order.database)); };
+    Succeeds(examine, [&](const Failure& reason) { replaceable = IsUseless(reason); });
+    return replaceable;
+}
+
+void Safekeeping::Tell(const char* title, const std::string& text)
+{
+    m_desktop.Show(text + '.', title, Icon::Exclamation);
+}
+
+} // namespace ptk

@@ -1,0 +1,36 @@
+// What the File menu offers for the safety of the data.
+#pragma once
+
+#include <QObject>
+
+class QAction;
+
+namespace ptk {
+
+class PageHost;
+
+class BackupMenu final : public QObject
+{
+    Q_OBJECT
+
+public:
+    // All outlive it.
+    BackupMenu(QAction& backUp, QAction& restore, PageHost& host, QObject* parent);
+
+    // The day's first backup, where there is none yet.
+    void BackUpWhenDue();
+
+signals:
+    void Done(const QString& outcome);
+
+    // All that the windows show is of another database.
+    void Restored(const QString& outcome);
+
+private:
+    void BackUpNow();
+    void Restore();
+
+    PageHost& m_host;
+};
+
+} // namespace ptk
