@@ -12,6 +12,8 @@ namespace ptk {
 
 namespace {
 
+constexpr auto kAnotherProgram = "another program";
+
 // Numbers come with 17 digits; people know them with those that they typed.
 std::string NumberText(const std::string& digits)
 {
@@ -110,7 +112,18 @@ std::string WholeRow(const TrailEntry& entry, const std::optional<TrailRow>& row
     return entry.table == "Company" ? TextIn(row, "Name", nameOf) + " " : "";
 }
 
-std::string Sentence(const TrailEntry& entry, const NameOfEmployee& nameOf)
+// Of no row: the database as a whole.
+bool IsWhole(const TrailEntry& entry)
+{
+    return entry.action == "restore" || entry.action == "import";
+}
+
+bool IsOfEmployee(const TrailEntry& entry)
+{
+    return !IsWhole(entry) && (entry.table == "TimeRecord" || entry.table == "Employee");
+}
+
+std::string Deed(const TrailEntry& entry, const NameOfEmployee& nameOf)
 {
     if (entry.action == "restore") {
         return "Database restored from " + (entry.after ? PlainTextIn(*entry.after, "file") : std::string());
@@ -118,21 +131,49 @@ std::string Sentence(const TrailEntry& entry, const NameOfEmployee& nameOf)
     if (entry.action == "import") {
         return "Records of the former program imported";
     }
-    const std::string start = Subject(entry, nameOf) + ": ";
     if (entry.before && entry.after) {
-        return start + ChangesText(entry, nameOf);
+        return ChangesText(entry, nameOf);
     }
-    return start + WholeRow(entry, entry.after ? entry.after : entry.before, nameOf) + (entry.after ? "added" : "deleted");
+    return WholeRow(entry, entry.after ? entry.after : entry.before, nameOf) + (entry.after ? "added" : "deleted");
+}
+
+std::string OneLine(std::string text)
+{
+    const auto isControl = [](char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7F'; };
+    std::replace_if(text.begin(), text.end(), isControl, '?');
+    return text;
 }
 
 } // namespace
 
 std::string EntrySentence(const TrailEntry& entry, const NameOfEmployee& nameOf)
 {
-    std::string sentence = Sentence(entry, nameOf);
-    const auto isControl = [](char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7F'; };
-    std::replace_if(sentence.begin(), sentence.end(), isControl, '?');
-    return sentence;
+    return OneLine((IsWhole(entry) ? "" : Subject(entry, nameOf) + ": ") + Deed(entry, nameOf));
+}
+
+std::string EntryEmployee(const TrailEntry& entry, const NameOfEmployee& nameOf)
+{
+    return IsOfEmployee(entry) ? OneLine(EmployeeName(entry, nameOf)) : "";
+}
+
+std::string EntryDeed(const TrailEntry& entry, const NameOfEmployee& nameOf)
+{
+    if (!IsOfEmployee(entry)) {
+        return EntrySentence(entry, nameOf);
+    }
+    const bool wholeEmployee = entry.table == "Employee" && !(entry.before && entry.after);
+    return (wholeEmployee ? "employee " : "") + OneLine(Deed(entry, nameOf));
+}
+
+std::string EntryPerson(const TrailEntry& entry)
+{
+    return entry.by.empty() ? kAnotherProgram : OneLine(entry.by);
+}
+
+std::string EntryMoment(const TrailEntry& entry)
+{
+    const auto moment = ParseDateTime(entry.at);
+    return moment ? FormatDateTime(*moment, "mm/dd/yyyy hh:mm:ss AM/PM") : OneLine(entry.at);
 }
 
 std::string RecordMoment(const TrailEntry& entry)

@@ -46,7 +46,7 @@ std::unique_ptr<Statement> CJetDB::PrepareSelect(const std::string& sqlstring)
         return nullptr;
     }
     std::unique_ptr<Statement> statement;
-    Succeeds([&] { statement = m_database->Prepare(sqlstring); }, FailingWith(jetdb::StatementFailed));
+    Succeeds([&] { statement = m_database->PrepareToKeep(sqlstring); }, FailingWith(jetdb::StatementFailed));
     return statement;
 }
 

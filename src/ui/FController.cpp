@@ -8,6 +8,7 @@
 #include "startup/Notices.h"
 #include "ui/BackupMenu.h"
 #include "ui/dialogs/FAbout.h"
+#include "ui/dialogs/HistoryWindow.h"
 #include "ui/dialogs/OverviewWindow.h"
 #include "ui/EditMenu.h"
 #include "ui/PageFrame.h"
@@ -168,8 +169,12 @@ void FController::ConnectBackups()
 void FController::ConnectViewMenu()
 {
     m_ui->mnuViewOverview->setIcon(ThemeIcon("overview"));
+    m_ui->mnuViewHistory->setIcon(ThemeIcon("history"));
     m_ui->mnuViewHours->setChecked(m_timeCardPage->HoursShown());
     connect(m_ui->mnuViewOverview, &QAction::triggered, this, &FController::ShowOverview);
+    connect(m_ui->mnuViewHistory, &QAction::triggered, this, [this] { ShowHistory({}); });
+    connect(m_ui->mnuViewCardHistory, &QAction::triggered, m_timeCardPage, &TimeCardPage::AskForHistory);
+    connect(m_timeCardPage, &TimeCardPage::HistoryWanted, this, [this](const HistoryScope& scope) { ShowHistory(scope); });
     connect(m_ui->mnuViewHours, &QAction::toggled, m_timeCardPage, &TimeCardPage::ShowHours);
     connect(m_optionsPage, &OptionsPage::LimitsStored, m_timeCardPage, &TimeCardPage::CheckAgain);
 }
@@ -276,6 +281,7 @@ void FController::ShowRestored(const QString& outcome)
     m_timeCardPage->GiveUpCard();
     m_overview.reset();
     m_sharedRecords->Use(m_controller->PTKDatabase());
+    m_history.reset();
     ShowAll();
     if (!m_optionsPage->DisplaySystemOptions(m_controller->SystemOptions())) {
         Tell(m_desktop, notice::OptionsUnread);
@@ -403,6 +409,14 @@ void FController::ShowTimeCard(std::int32_t employeeID, const PayPeriod& period)
     m_timeCardPage->ShowCard(employeeID, period);
 }
 
+void FController::ShowHistory(const std::optional<HistoryScope>& scope)
+{
+    if (m_history == nullptr) {
+        m_history = std::make_unique<HistoryWindow>(*this);
+    }
+    m_history->Open(scope);
+}
+
 void FController::About()
 {
     FAbout(this).exec();
@@ -445,6 +459,7 @@ void FController::CloseDown(bool keepReview)
     m_sharedRecords->Use(nullptr);
     m_timeCardPage->GiveUpCard();
     m_overview.reset();
+    m_history.reset();
     m_reports->Clear(keepReview);
     const auto controller = m_controller;
     if (controller == nullptr) {

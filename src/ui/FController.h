@@ -9,6 +9,7 @@
 #include "ui/widgets/EmployeeModels.h"
 
 #include <memory>
+#include <optional>
 #include <QMainWindow>
 #include <string>
 
@@ -24,10 +25,12 @@ class BackupMenu;
 class CompanyPage;
 class CTimeRecord;
 class EmployeePage;
+class HistoryWindow;
 class OptionsPage;
 class OverviewWindow;
 class ReportsPage;
 class TimeCardPage;
+struct HistoryScope;
 struct PayPeriod;
 
 // Must not be destroyed from within its own closing steps, in which the controller lets go of it: delete it later.
@@ -108,6 +111,7 @@ private:
 
     void ShowOverview();
     void ShowTimeCard(std::int32_t employeeID, const PayPeriod& period);
+    void ShowHistory(const std::optional<HistoryScope>& scope);
 
     void Exit();
     void About();
@@ -137,7 +141,8 @@ private:
     EmployeePage* m_employeePage = nullptr;
     CompanyPage* m_companyPage = nullptr;
     OptionsPage* m_optionsPage = nullptr;
-    std::unique_ptr<OverviewWindow> m_overview; // nullptr until it is asked for
+    std::unique_ptr<OverviewWindow> m_overview; // these two: nullptr until they are asked for
+    std::unique_ptr<HistoryWindow> m_history;
     QLabel* m_statusText = nullptr;
 };
 

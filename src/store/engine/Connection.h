@@ -5,6 +5,8 @@
 
 #include <SQLiteCpp/Database.h>
 
+#include "store/engine/StatementCache.h"
+
 #include <chrono>
 #include <cstdint>
 #include <functional>
@@ -44,6 +46,7 @@ public:
     void RefuseForeignFile();
 
     [[nodiscard]] sqlite3* Handle() const { return m_database.getHandle(); }
+    [[nodiscard]] StatementCache& Prepared() { return m_prepared; }
 
     // Statements without parameters.
     void Run(const char* sql);
@@ -103,6 +106,7 @@ private:
     std::string m_path;
     std::optional<FileState> m_parked;
     SQLite::Database m_database;
+    StatementCache m_prepared; // ends before it
     Access m_access;
     WhenHeld m_whenHeld;
     std::chrono::steady_clock::time_point m_patientUntil;

@@ -100,6 +100,12 @@ std::unique_ptr<Statement> Engine::Prepare(std::string_view sql)
     return std::make_unique<Statement>(Open().Handle(), sql);
 }
 
+std::unique_ptr<Statement> Engine::PrepareToKeep(std::string_view sql)
+{
+    Connection& connection = Open();
+    return std::make_unique<Statement>(connection.Handle(), sql, &connection.Prepared());
+}
+
 // The queries' texts are part of the file, so that a file of other tables can bring queries that fit them.
 std::string Engine::StoredText(std::string_view query)
 {

@@ -108,6 +108,10 @@ public:
     // For many rows in one transaction: statements in the engine's own words, or of a stored query, to be run again and again; on disk at
     // Commit only.
     std::unique_ptr<Statement> Prepare(std::string_view sql);
+
+    // The same, ready for the next who asks for this text, also after the file was closed and opened again. Must end before it is closed.
+    std::unique_ptr<Statement> PrepareToKeep(std::string_view sql);
+
     std::unique_ptr<Statement> PrepareStored(std::string_view query);
     void BeginMany();
 

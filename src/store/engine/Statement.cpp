@@ -3,6 +3,7 @@
 #include "platform/Text.h"
 #include "store/engine/EngineFailure.h"
 #include "store/engine/RecordSetBuilder.h"
+#include "store/engine/StatementCache.h"
 #include "store/engine/StoredDate.h"
 
 #include <fmt/format.h>
@@ -30,6 +31,19 @@ bool HoldsStatement(sqlite3* database, std::string_view rest)
     sqlite3_stmt* second = Prepare(database, rest);
     sqlite3_finalize(second);
     return second != nullptr || !rest.empty();
+}
+
+// The one statement that the text holds.
+sqlite3_stmt* PrepareOnly(sqlite3* database, std::string_view sql)
+{
+    std::unique_ptr<sqlite3_stmt, int (*)(sqlite3_stmt*)> statement(Prepare(database, sql), sqlite3_finalize);
+    if (statement == nullptr) {
+        throw EngineFailure(SQLITE_ERROR, "there is no statement to run");
+    }
+    if (HoldsStatement(database, sql)) {
+        throw EngineFailure(SQLITE_ERROR, "there is more text after the statement");
+    }
+    return statement.release();
 }
 
 // Binds one kind of value each.
@@ -106,18 +120,19 @@ private:
     std::int32_t m_mostSteps;
 };
 
-void Statement::Finalizer::operator()(sqlite3_stmt* statement) const
+void Statement::Ending::operator()(sqlite3_stmt* statement) const
 {
+    if (cache != nullptr) {
+        return cache->Keep(sql, statement);
+    }
     sqlite3_finalize(statement); // answers the failure of the last step, which was raised there
 }
 
-Statement::Statement(sqlite3* database, std::string_view sql) : m_database(database), m_statement(Prepare(database, sql))
+Statement::Statement(sqlite3* database, std::string_view sql, StatementCache* cache)
+    : m_database(database), m_statement(cache == nullptr ? nullptr : cache->Take(sql), Ending{cache, std::string(sql)})
 {
     if (m_statement == nullptr) {
-        throw EngineFailure(SQLITE_ERROR, "there is no statement to run");
-    }
-    if (HoldsStatement(database, sql)) {
-        throw EngineFailure(SQLITE_ERROR, "there is more text after the statement");
+        m_statement.reset(PrepareOnly(database, sql));
     }
     m_assigned.resize(static_cast<std::size_t>(sqlite3_bind_parameter_count(m_statement.get())));
 }
@@ -244,11 +259,12 @@ std::shared_ptr<RecordSet> Statement::ReadRows(std::int32_t most, std::int32_t m
 {
     RefuseUnlessRows();
     sqlite3_stmt* row = m_statement.get();
-    const int columns = sqlite3_column_count(row);
     RecordSet::Builder rows;
-    AddColumns(rows, row);
     const Limit limit(*this, mostSteps);
-    for (std::int32_t count = 0; count < most && Step(); ++count) {
+    bool isRow = most > 0 && Step(); // a kept statement learns only now of a table that somebody made anew with other columns
+    const int columns = sqlite3_column_count(row);
+    AddColumns(rows, row);
+    for (std::int32_t count = 1; isRow; isRow = count++ < most && Step()) {
         for (int column = 0; column < columns; ++column) {
             AddCell(rows, row, column);
         }

@@ -19,6 +19,7 @@ struct sqlite3_stmt;
 namespace ptk {
 
 class RecordSet;
+class StatementCache;
 
 // A value for a parameter, by its exact name without the colon.
 struct Parameter
@@ -47,8 +48,9 @@ public:
     static constexpr std::int32_t kMostSteps = 400;
     static constexpr std::int32_t kAnySteps = std::numeric_limits<std::int32_t>::max();
 
-    // `sql` is in the engine's own words and holds exactly one statement.
-    Statement(sqlite3* database, std::string_view sql);
+    // `sql` is in the engine's own words and holds exactly one statement. With a cache, of the same connection, which outlives it, it is
+    // taken from there and left there.
+    Statement(sqlite3* database, std::string_view sql, StatementCache* cache = nullptr);
 
     // The same parameter may be assigned again. An unknown name is refused with 25.
     void Bind(const std::string& name, const Value& value);
@@ -79,9 +81,12 @@ public:
     [[nodiscard]] std::optional<DateTime> StoredDateAt(int column) const;
 
 private:
-    struct Finalizer
+    struct Ending
     {
         void operator()(sqlite3_stmt* statement) const;
+
+        StatementCache* cache = nullptr; // nullptr: it is given up
+        std::string sql;
     };
     class Limit;
 
@@ -91,7 +96,7 @@ private:
     void Rewind();
 
     sqlite3* m_database;
-    std::unique_ptr<sqlite3_stmt, Finalizer> m_statement;
+    std::unique_ptr<sqlite3_stmt, Ending> m_statement;
     std::vector<bool> m_assigned; // by parameter, from 0
     std::int32_t m_steps = 0;     // in millions, since the statement began
 };

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "model/CardLine.h"
+#include "office/RecordEdits.h"
 
 #include <array>
 #include <memory>
@@ -42,7 +43,10 @@ public:
     // Marks its rows, too; also of a card that could not be made.
     void ShowCheck(const std::shared_ptr<const CheckedTimecard>& checked);
 
-    // The list of them.
+    // Of its rows, by whom they were entered or changed.
+    void ShowEdits(RecordEdits edits);
+
+    // The list of what is found.
     void OpenFindings();
 
     // As a picture; remembered.
@@ -74,6 +78,9 @@ signals:
 
     void EditAsked();
     void DeleteAsked();
+
+    // On the grid, at this place of the screen.
+    void MenuAsked(const QPoint& place);
 
     // Of a finding that was chosen: its records that are not on the card.
     void Elsewhere(const ptk::FindingPlace& place);

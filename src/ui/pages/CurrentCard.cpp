@@ -11,6 +11,7 @@
 #include "platform/Required.h"
 #include "platform/Succeeds.h"
 #include "startup/CController.h"
+#include "store/CJetDB.h"
 #include "ui/pages/CardChoice.h"
 #include "ui/pages/CardDisplay.h"
 #include "ui/pages/PageHost.h"
@@ -26,6 +27,7 @@ namespace {
 
 constexpr auto kWasChanged = " was changed";
 constexpr auto kRecordsChanged = "'s records were changed";
+constexpr auto kNoEdits = "Who changed the records of the card could not be read: ";
 
 } // namespace
 
@@ -96,8 +98,20 @@ bool CurrentCard::Load(CTimeCard& card, const std::shared_ptr<CEmployee>& employ
     if (employee != nullptr) {
         m_host.SharedRecords().AboutToRead(Shown::CardRecords, employee->EmployeeID());
     }
+    const CJetDB::Hold hold(database);
     m_checked = std::make_shared<CheckedTimecard>(GenerateChecked(card, database, employee, period, m_host.Clock().Now()));
+    m_edits.clear();
+    if (m_checked->generated) {
+        ReadEdits(card);
+    }
     return m_checked->generated;
+}
+
+// Without them the card is shown all the same.
+void CurrentCard::ReadEdits(const CTimeCard& card)
+{
+    Succeeds([&] { m_edits = ReadRecordEdits(Required(m_host.Controller())->PTKDatabase(), card); },
+             [this](const Failure& reason) { m_host.Log(kNoEdits + reason.Description()); });
 }
 
 void CurrentCard::ReportCardError(std::int32_t errorNumber)
@@ -211,6 +225,7 @@ bool CurrentCard::ShowTimeCard()
 {
     SetupTimeRecordGrid();
     m_display.DisplayTimeCard(*Required(m_card));
+    m_display.ShowEdits(m_edits);
     ShowFindings();
     Mark();
     return false;

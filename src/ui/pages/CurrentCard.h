@@ -1,6 +1,7 @@
 // The main window's current time card, and how the Timecards page shows it.
 #pragma once
 
+#include "office/RecordEdits.h"
 #include "platform/DateTime.h"
 
 #include <cstdint>
@@ -94,6 +95,7 @@ private:
     [[nodiscard]] std::shared_ptr<CEmployee> EmployeeToShow() const;
     bool GenerateTimeCard();
     bool Load(CTimeCard& card, const std::shared_ptr<CEmployee>& employee, const PayPeriod& period);
+    void ReadEdits(const CTimeCard& card);
     void ShowFindings();
     bool Regenerate();
 
@@ -111,6 +113,7 @@ private:
     std::shared_ptr<CTimeCard> m_card;
     std::optional<std::int32_t> m_meant;
     std::shared_ptr<const CheckedTimecard> m_checked; // the current card as it was last loaded; nullptr before
+    RecordEdits m_edits;                              // of its records
 };
 
 } // namespace ptk

@@ -21,6 +21,7 @@
 #include "ui/pages/CardChoice.h"
 #include "ui/pages/CardStoring.h"
 #include "ui/pages/CurrentCard.h"
+#include "ui/pages/HistoryActions.h"
 #include "ui/pages/PageHost.h"
 #include "ui/widgets/EmployeeModels.h"
 #include "ui_TimeCardPage.h"
@@ -42,6 +43,7 @@ constexpr auto kNothingFilled = "No records were filled in";
 constexpr auto kNoEditor = "The record cannot be edited now";
 constexpr auto kNoAutoFill = "Auto Fill needs an employee of the list and two dates";
 constexpr auto kOpenElsewhere = "Open Record";
+constexpr auto kNoHistory = "Choose an employee and two dates to see what was changed";
 constexpr auto kNotPrinted = "The card was not printed";
 
 QString Line(const std::string& text)
@@ -61,6 +63,7 @@ TimeCardPage::TimeCardPage(PageHost& host, QWidget* parent)
     m_storing = std::make_unique<CardStoring>(host, *m_card, *m_ui->notice);
     ConnectChoice();
     ConnectActions();
+    ConnectHistory();
     m_card->ClearTimeCardDisplay();
 }
 
@@ -87,6 +90,18 @@ void TimeCardPage::ConnectActions()
     connect(m_ui->display, &CardDisplay::ElsewhereEntered, this, &TimeCardPage::EditElsewhere);
     connect(m_ui->cmdFill, &QPushButton::clicked, this, [this] { AutoFill({}); });
     connect(m_ui->cmdTCPrint, &QPushButton::clicked, this, &TimeCardPage::Print);
+}
+
+void TimeCardPage::ConnectHistory()
+{
+    m_history = new HistoryActions(*m_choice, *m_card, *m_ui->display, this);
+    connect(m_history, &HistoryActions::Wanted, this, &TimeCardPage::HistoryWanted);
+    connect(m_history, &HistoryActions::NothingChosen, this, [this] { m_ui->notice->Say(kNoHistory); });
+}
+
+void TimeCardPage::AskForHistory()
+{
+    m_history->Ask();
 }
 
 // Another page may have taken the marker over in the meantime; a row that cannot be edited must not look chosen.

@@ -25,8 +25,10 @@ class CController;
 class CurrentCard;
 class FAutoFill;
 class FTimeEditor;
+class HistoryActions;
 class PageHost;
 struct FindingPlace;
+struct HistoryScope;
 struct PeriodTexts;
 struct Punch;
 
@@ -73,6 +75,12 @@ public:
 
     bool ReturnTimeRecord(const std::shared_ptr<CTimeRecord>& thetimerecord) override;
 
+    // Of the chosen record, else of the card.
+    void AskForHistory();
+
+signals:
+    void HistoryWanted(const ptk::HistoryScope& scope);
+
 protected:
     void showEvent(QShowEvent* event) override;
 
@@ -87,6 +95,7 @@ private:
 
     void ConnectChoice();
     void ConnectActions();
+    void ConnectHistory();
 
     void ChooseEmployee();
     void TurnToChosenEmployee();
@@ -114,9 +123,10 @@ private:
 
     PageHost& m_host;
     std::unique_ptr<Ui::TimeCardPage> m_ui;
-    CardChoice* m_choice; // these two belong to the page
+    CardChoice* m_choice; // these three belong to the page
     CurrentCard* m_card = nullptr;
     std::unique_ptr<CardStoring> m_storing;
+    HistoryActions* m_history = nullptr;
     std::string m_employeeName; // as of the last change of employee
     bool m_editingNew = false;  // whether the editor was last opened for a new record; nothing depends on it
     bool m_refused = false;     // whether the record that the editor returned could not be stored

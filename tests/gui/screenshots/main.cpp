@@ -2,6 +2,7 @@
 #include "console/SampleBusiness.h"
 #include "gui/GuiProgram.h"
 #include "store/BulkWriter.h"
+#include "store/CJetDB.h"
 
 #include <cstdio>
 #include <QSettings>
@@ -198,6 +199,58 @@ void TakeEditMenu(FController& main, RecordingDesktop& desktop, const Photograph
     photographer.Take(main, "timecards-undone");
 }
 
+QWidget& History()
+{
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->objectName() == "HistoryWindow") {
+            return *window;
+        }
+    }
+    throw std::runtime_error("no history");
+}
+
+// Some weeks of corrections by three people and another program, dated as if they were made one after the other.
+void MakeEdits(const GuiProgram& program)
+{
+    const auto database = std::make_shared<CJetDB>(program.folder.Path());
+    database->DatabaseName(NativePath(program.databasePath).string());
+    const auto by = [&](const char* person, const char* name, const std::string& sql) {
+        database->StoredBy({person, name});
+        if (!database->ExecuteAction(sql)) {
+            throw database->LastFailure();
+        }
+    };
+    const std::string some =
+        " WHERE TimeRecordID IN (SELECT TimeRecordID FROM TimeRecord WHERE EndTime > StartTime ORDER BY StartTime DESC LIMIT ";
+    by("Susan Whitcombe-Harrington", "ptk-admin", "UPDATE TimeRecord SET StartTime = datetime(StartTime, '-15 minutes')" + some + "300)");
+    by("administrator", "ptk-admin", "UPDATE TimeRecord SET EndTime = datetime(EndTime, '+1 hour')" + some + "12)");
+    by("root", "ptk-console",
+       "UPDATE Employee SET PayRate = PayRate + 0.5, Phone = '555-0199', City = 'Springfield' WHERE EmployeeID < 44");
+    by("", "", "INSERT INTO TimeRecord (EmployeeID, StartTime, EndTime) SELECT 41, #3/4/2003 8:00 AM#, #3/4/2003 5:00 PM#");
+    by("administrator", "ptk-admin", "UPDATE _System SET period_length = 13");
+    by("administrator", "ptk-admin", "UPDATE Company SET Phone = '555-0142'");
+    by("administrator", "ptk-admin", "DELETE FROM TimeRecord" + some + "3)");
+    by("administrator", "ptk-admin",
+       "UPDATE _Change SET ChangedAt = datetime('2003-03-05 08:05:00', '-' || (((SELECT MAX(ChangeID) FROM _Change) - ChangeID) * 11) "
+       "|| ' minutes')");
+}
+
+void TakeHistory(GuiProgram& program, const Photographer& photographer)
+{
+    FController& main = program.Main();
+    Find<QAction>(main, "mnuViewHistory").trigger();
+    photographer.Take(History(), "history-empty");
+    History().close();
+    MakeEdits(program);
+    Find<QAction>(main, "mnuViewHistory").trigger();
+    Find<QTableView>(History(), "grdHistory").selectRow(7);
+    photographer.TakeSizes(History(), "history");
+    Find<QPushButton>(main, "cmdGenTimeRecs").click();
+    Find<QAction>(main, "mnuViewCardHistory").trigger();
+    photographer.TakeSizes(History(), "history-card");
+    History().close();
+}
+
 void TakeViewers(FController& main, const Photographer& photographer)
 {
     Find<QPushButton>(main, "cmdTCPrint").click();
@@ -221,6 +274,7 @@ void TakeAll(const QString& folder, const QString& theme)
     TakeRestore(program, photographer);
     TakeFindings(main, photographer);
     TakeOverview(main, photographer);
+    TakeHistory(program, photographer);
     TakeEditMenu(main, program.desktop, photographer);
     TakeViewers(main, photographer);
 }
