@@ -28,6 +28,7 @@ class EmployeePage;
 class HistoryWindow;
 class OptionsPage;
 class OverviewWindow;
+class PageTabs;
 class ReportsPage;
 class TimeCardPage;
 struct HistoryScope;
@@ -75,9 +76,6 @@ public:
     ptk::SharedRecords& SharedRecords() const override { return *m_sharedRecords; }
 
 protected:
-    // Of the tab strip.
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
     void resizeEvent(QResizeEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -92,7 +90,6 @@ private:
     void ConnectViewMenu();
     void ConnectWindowMenu();
     void ConnectTabs();
-    void ConnectTabKeys();
 
     void Load();
     bool InitializeTabPages();
@@ -104,7 +101,6 @@ private:
 
     void ChangeTab(int index);
     bool ShowTabPage(int index);
-    void ShowTabIcons(bool shown);
 
     // In the shown page's line.
     void Say(const QString& text);
@@ -114,8 +110,6 @@ private:
     void ShowHistory(const std::optional<HistoryScope>& scope);
 
     void Exit();
-    void About();
-    void UsersGuide();
     void CloseDown(bool keepReview);
     [[nodiscard]] bool IsBusyInDialog() const;
 
@@ -131,11 +125,11 @@ private:
     std::int16_t m_lastTab = 0; // chosen on the tab strip, 1 to 5; 0 before the first choice
     std::int32_t m_errorNumber = 0;
     std::int32_t m_eventSource = eventsource::None;
-    int m_tabsWidth = 0; // of the tabs with their icons
     bool m_loaded = false;
     bool m_closing = false;
 
     BackupMenu* m_backups = nullptr;
+    PageTabs* m_tabs = nullptr;
     TimeCardPage* m_timeCardPage = nullptr; // the pages belong to the window's widgets
     ReportsPage* m_reportsPage = nullptr;
     EmployeePage* m_employeePage = nullptr;

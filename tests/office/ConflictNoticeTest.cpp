@@ -1,5 +1,4 @@
 #include "office/ConflictNotice.h"
-#include "support/RecordingDesktop.h"
 
 #include <gtest/gtest.h>
 
@@ -58,17 +57,6 @@ TEST(ConflictNoticeTest, NamesTheRecordAndWhatDiffersInPlainWords)
          }) {
         EXPECT_EQ(ConflictText(c.conflict, c.name, [](std::int64_t id) { return id == 40 ? "Ann Lee" : ""; }), c.text);
     }
-}
-
-TEST(ConflictNoticeTest, AsksWhereThereIsSomethingToLoad)
-{
-    RecordingDesktop desktop;
-    desktop.answers = {Answer::Yes, Answer::No};
-    EXPECT_TRUE(AskToLoad(desktop, "Title", {"Employee", 40, {}}, "text"));
-    EXPECT_FALSE(AskToLoad(desktop, "Title", {"_System", 0, {}}, "text"));
-    EXPECT_TRUE(AskToLoad(desktop, "Title", {"TimeRecord", 7, {}}, "text"));
-    const ShownBox asked{"text", "Title", Icon::Exclamation, Buttons::YesNo};
-    EXPECT_EQ(desktop.Take(), (std::vector<ShownBox>{asked, asked, {"text", "Title", Icon::Exclamation, Buttons::Ok}}));
 }
 
 } // namespace

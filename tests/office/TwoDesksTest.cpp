@@ -43,7 +43,7 @@ struct Desk
     {
         database->DatabaseName(path);
         database->StoredBy({"Ann Lee", "ptk-admin"}); // both: a name tells nobody apart
-        records.PTKDatabase(database);
+        factory.PTKDatabase(database);
     }
 
     void Read(const Rows& rows)
@@ -52,17 +52,12 @@ struct Desk
         employees.Destroy();
         employees.Create();
         EXPECT_TRUE(employees.LoadList(database));
-        records.BuildList(40, ToDateTime("3/1/2003"), ToDateTime("4/1/2003"));
-    }
-
-    std::shared_ptr<CTimeRecord> Record(const std::string& key) const
-    {
-        for (std::int32_t i = 1; i <= records.TimeRecordList()->Count(); ++i) {
-            if (records.TimeRecordList()->RecordAt(i).TimeRecordID() == ToInt32(key.substr(1))) {
-                return records.TimeRecordList()->Item(i);
-            }
+        factory.BuildList(40, ToDateTime("3/1/2003"), ToDateTime("4/1/2003"));
+        records.clear();
+        for (std::int32_t i = 1; i <= factory.TimeRecordList()->Count(); ++i) {
+            const auto record = factory.TimeRecordList()->Item(i);
+            records["R" + std::to_string(record->TimeRecordID())] = record;
         }
-        return nullptr;
     }
 
     // Whether it was stored.
@@ -72,21 +67,22 @@ struct Desk
             employees.GetEmployeeByID(ToInt32(key.substr(1)))->Phone(value);
             return employees.SaveList();
         }
-        const auto record = Record(key);
+        const auto record = records[key];
         record->ObjectState(value.empty() ? state::Deleted : state::Changed);
         if (!value.empty()) {
             record->EndTime(ToDateTime(value));
         }
-        records.ResetError();
-        EXPECT_TRUE(records.Save(record));
-        return records.ErrorNumber() == 0;
+        factory.ResetError();
+        EXPECT_TRUE(factory.Save(record));
+        return factory.ErrorNumber() == 0;
     }
 
     std::shared_ptr<CJetDB> database;
     UndoStack undo{database};
     CEmployeeList employees;
-    CTimeRecordFactory records;
-    Rows seen; // as they were read or saved last
+    CTimeRecordFactory factory;
+    std::map<std::string, std::shared_ptr<CTimeRecord>> records; // of its list
+    Rows seen;                                                   // as they were read or saved last
     std::vector<Done> done;
 };
 
