@@ -1,8 +1,9 @@
 // Pictures of every window for a person to look at: ui_screenshots OUTDIR. Each at its smallest, first and a large size, light and dark.
-#include "console/SampleBusiness.h"
 #include "gui/GuiProgram.h"
+#include "office/SampleBusiness.h"
 #include "store/BulkWriter.h"
 #include "store/CJetDB.h"
+#include "ui/dialogs/FFirstStart.h"
 
 #include <cstdio>
 #include <QSettings>
@@ -19,17 +20,7 @@ constexpr auto kCareless = "Helen Fitzgerald"; // types wrongly, once or twice
 
 void FillSample(BulkWriter& writer)
 {
-    for (const CompanyRow& company : SampleCompanies()) {
-        writer.AddCompany(company);
-    }
-    for (const SampleEmployee& employee : SampleEmployees(kToday)) {
-        const std::int32_t id = writer.AddEmployee(employee.row);
-        std::vector<TimeRecordRow> shifts = SampleShifts(employee, id, kToday);
-        AddIrregularities(employee, shifts, kToday);
-        for (const TimeRecordRow& shift : shifts) {
-            writer.AddTimeRecord(shift);
-        }
-    }
+    AddSampleBusiness(writer, kToday);
 }
 
 QPalette DarkPalette()
@@ -76,6 +67,17 @@ private:
     QString m_folder;
     QString m_theme;
 };
+
+void TakeFirstStart(const GuiProgram& program, const Photographer& photographer)
+{
+    FFirstStart window("/home/ann/.local/share/ptk-admin", program.clock);
+    window.show();
+    photographer.TakeSizes(window, "first-start");
+    Find<QPushButton>(window, "cmdStart").click();
+    photographer.Take(window, "first-start-refused");
+    Find<QRadioButton>(window, "optFolder").click();
+    photographer.Take(window, "first-start-folder");
+}
 
 void TakeLogin(GuiProgram& program, const Photographer& photographer)
 {
@@ -265,6 +267,7 @@ void TakeAll(const QString& folder, const QString& theme)
 {
     const Photographer photographer(folder, theme);
     GuiProgram program(FillSample);
+    TakeFirstStart(program, photographer);
     TakeLogin(program, photographer);
     FController& main = program.Main();
     TakePages(main, photographer);
