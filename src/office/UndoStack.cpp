@@ -10,7 +10,6 @@
 
 #include <algorithm>
 #include <fmt/format.h>
-#include <ranges>
 
 namespace ptk {
 
@@ -109,10 +108,10 @@ UndoStack::Step UndoStack::StepOf(const std::vector<TrailEntry>& entries) const
     const TrailEntry& first = entries.back();
     step.told = {TextOf(entries), first.table, *first.row, first.employee};
     step.lastEntry = entries.front().id;
-    for (const TrailEntry& entry : std::views::reverse(entries)) {
+    std::for_each(entries.rbegin(), entries.rend(), [&](const TrailEntry& entry) {
         RowChange& change = step.changes.emplace_back(RowChange{entry.table, *entry.row, entry.before, entry.after});
         step.complete = PutPasswords(entry, change) && step.complete;
-    }
+    });
     return step;
 }
 

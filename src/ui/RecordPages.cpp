@@ -10,6 +10,7 @@
 #include "ui/SharedRecords.h"
 #include "ui/widgets/NoticeLine.h"
 
+#include <algorithm>
 #include <QEvent>
 #include <QStackedWidget>
 #include <QTabBar>
@@ -62,9 +63,9 @@ std::string RecordPages::ReadPages(const MovedStep& step)
         const auto database = Required(Required(m_frame.host.Controller())->PTKDatabase());
         RequireOpen(*database);
         database->CloseDB();
-        for (auto place = m_places.rbegin(); place != m_places.rend(); ++place) {
-            place->page.ReadAgain(step.table == place->table ? std::optional(step.row) : std::nullopt);
-        }
+        std::for_each(m_places.rbegin(), m_places.rend(), [&](const Place& place) {
+            place.page.ReadAgain(step.table == place.table ? std::optional(step.row) : std::nullopt);
+        });
     };
     std::string trouble;
     Succeeds(read, [&](const Failure& failure) {
