@@ -69,6 +69,9 @@ public:
 
     void ForgetChoice();
 
+    // Nothing when it is not on the card.
+    void ChooseRowOf(qint64 timeRecordID);
+
 signals:
     // By mouse or keys, also when it was chosen before.
     void RowChosen();
@@ -88,7 +91,6 @@ signals:
 private:
     void PrepareGrid();
     void ConnectFindings();
-    void ChooseRowOf(qint64 timeRecordID);
     bool FillTimeRecordGrid(std::vector<CardLine> lines);
     [[nodiscard]] std::array<FigureBox*, 5> Figures() const;
 

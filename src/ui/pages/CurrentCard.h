@@ -55,6 +55,12 @@ public:
     // Without a box; where that fails, false, what is shown stays. May raise failures.
     bool ReadAgain();
 
+    // With its employee as the list has him now, where the card is shown or is what the boxes name. Without a box.
+    void Renew();
+
+    // Says in the line, with a button to load it, that somebody else changed the employee or the records shown.
+    void TellChanges();
+
     // With the limits that the options hold now.
     void CheckAgain();
 
@@ -84,6 +90,8 @@ signals:
 
 private:
     void Mark();
+    [[nodiscard]] bool IsWanted() const;
+    bool LoadAgain();
     [[nodiscard]] std::shared_ptr<CEmployee> EmployeeToShow() const;
     bool GenerateTimeCard();
     bool Load(CTimeCard& card, const std::shared_ptr<CEmployee>& employee, const PayPeriod& period);

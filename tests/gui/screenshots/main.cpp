@@ -186,6 +186,21 @@ void TakeOverview(FController& main, const Photographer& photographer)
     }
 }
 
+// After a record was deleted, and after it is back.
+void TakeEditMenu(FController& main, RecordingDesktop& desktop, const Photographer& photographer)
+{
+    desktop.answers = {Answer::Yes};
+    Find<QTableView>(main, "grdTimeRecs").setCurrentIndex(Find<QTableView>(main, "grdTimeRecs").model()->index(0, 0));
+    main.EventSource(eventsource::TimeRecordGrid);
+    Find<QPushButton>(main, "cmdTCDelete").click();
+    auto& menu = Find<QMenu>(main, "mnuEdit");
+    menu.popup(main.mapToGlobal(QPoint()));
+    photographer.Take(menu, "edit-menu");
+    menu.close();
+    Find<QAction>(main, "mnuEditUndo").trigger();
+    photographer.Take(main, "timecards-undone");
+}
+
 QWidget& History()
 {
     for (QWidget* window : QApplication::topLevelWidgets()) {
@@ -263,6 +278,7 @@ void TakeAll(const QString& folder, const QString& theme)
     TakeFindings(main, photographer);
     TakeOverview(main, photographer);
     TakeHistory(program, photographer);
+    TakeEditMenu(main, program.desktop, photographer);
     TakeViewers(main, photographer);
 }
 
