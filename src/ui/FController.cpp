@@ -131,7 +131,7 @@ void FController::ConnectMenus()
 {
     m_ui->mnuFileExit->setIcon(ThemeIcon("exit"));
     connect(m_ui->mnuFileExit, &QAction::triggered, this, &FController::Exit);
-    auto* help = new HelpMenu(*this, {*m_ui->mnuHelpAbout, *m_ui->mnuHelpContents}, *this, m_programFolder);
+    auto* help = new HelpMenu(*this, {*m_ui->mnuHelpAbout, *m_ui->mnuHelpContents, *m_ui->mnuHelpShortcuts}, *this, m_programFolder);
     connect(help, &HelpMenu::Said, this, &FController::Say);
 }
 

@@ -3,6 +3,7 @@
 #include "platform/Desktop.h"
 #include "shell/CDocLauncher.h"
 #include "ui/dialogs/FAbout.h"
+#include "ui/dialogs/FShortcuts.h"
 #include "ui/pages/PageHost.h"
 #include "ui/widgets/ThemeIcon.h"
 
@@ -27,11 +28,17 @@ HelpMenu::HelpMenu(QWidget& window, const Lines& lines, PageHost& host, std::str
     lines.contents.setIcon(ThemeIcon("guide"));
     connect(&lines.about, &QAction::triggered, this, &HelpMenu::About);
     connect(&lines.contents, &QAction::triggered, this, &HelpMenu::UsersGuide);
+    connect(&lines.shortcuts, &QAction::triggered, this, &HelpMenu::Shortcuts);
 }
 
 void HelpMenu::About()
 {
     FAbout(&m_window).exec();
+}
+
+void HelpMenu::Shortcuts()
+{
+    FShortcuts(m_window).exec();
 }
 
 void HelpMenu::UsersGuide()

@@ -20,6 +20,7 @@ public:
     {
         QAction& about;
         QAction& contents;
+        QAction& shortcuts;
     };
 
     // All outlive it; the window is the parent.
@@ -31,6 +32,7 @@ signals:
 private:
     void About();
     void UsersGuide();
+    void Shortcuts();
 
     QWidget& m_window;
     PageHost& m_host;

@@ -105,6 +105,12 @@ void TakeAbout(FController& main, const Photographer& photographer)
     Find<QAction>(main, "mnuHelpAbout").trigger();
 }
 
+void TakeShortcuts(FController& main, const Photographer& photographer)
+{
+    const ModalScript script([&](QDialog& window) { photographer.TakeSizes(window, "shortcuts"); });
+    Find<QAction>(main, "mnuHelpShortcuts").trigger();
+}
+
 void TakePages(FController& main, const Photographer& photographer)
 {
     Find<QComboBox>(main, "cboTCEmployeeName").setCurrentIndex(1);
@@ -274,6 +280,7 @@ void TakeAll(const QString& folder, const QString& theme)
     TakeModal(main, "cmdTCNew", photographer, "time-editor");
     TakeModal(main, "cmdFill", photographer, "auto-fill");
     TakeAbout(main, photographer);
+    TakeShortcuts(main, photographer);
     TakeRestore(program, photographer);
     TakeFindings(main, photographer);
     TakeOverview(main, photographer);
