@@ -12,7 +12,6 @@ namespace ptk {
 
 namespace {
 
-
 // A day, not a time: what has a time of day in it is no date here.
 std::optional<DateTime> ReadDay(const std::string& text)
 {
