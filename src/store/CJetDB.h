@@ -23,7 +23,6 @@ class CDatabaseLocator;
 class Engine;
 class RecordSet;
 class Statement;
-struct TableColumns;
 
 // One time record to be stored: its statement, and the row as it was read, where it was. See CTimeRecSQLConverter.
 struct TimeRecordWrite
@@ -206,12 +205,7 @@ private:
     void CloseWhenOpen();
     bool Change(std::int32_t errorNumber, const std::function<void()>& steps);
     void Write(const std::function<void()>& steps);
-    template <typename Listing>
-    std::shared_ptr<RecordSet> OpenListing(Listing listing);
-    template <typename Take>
-    bool Fill(RecordSet& rows, const TableColumns& table, Take take);
-    bool FillEmployees(EmployeeSink& thelist, const std::shared_ptr<RecordSet>& rows);
-    std::shared_ptr<RecordSet> OpenEmployeeQuery();
+    bool FillEmployees(EmployeeSink& thelist, const std::function<std::unique_ptr<Statement>()>& prepare);
     std::shared_ptr<RecordSet> OpenCompanyQuery();
 
     struct Memory

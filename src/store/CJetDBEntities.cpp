@@ -5,6 +5,7 @@
 #include "store/DisplayNameSQL.h"
 #include "store/engine/Engine.h"
 #include "store/engine/RecordSet.h"
+#include "store/engine/Statement.h"
 #include "store/QueryParameters.h"
 #include "store/RowReader.h"
 
@@ -17,6 +18,8 @@ namespace {
 
 constexpr const char* kAllEmployees = "GetAllEmployees";
 constexpr const char* kAllCompanies = "GetAllCompanies";
+
+constexpr std::int32_t kPortion = 256; // rows
 
 // Who has the display name :name. A last name is all of it or what follows one of its blanks: asked for
 // first, because the index of the listing finds that.
@@ -91,9 +94,8 @@ bool CJetDB::DeleteCompany(const CompanyRow& /*thecompany*/)
     return false;
 }
 
-// `listing` answers a snapshot: its count is the number of all its rows.
-template <typename Listing>
-std::shared_ptr<RecordSet> CJetDB::OpenListing(Listing listing)
+// A snapshot: its count is the number of all its rows.
+std::shared_ptr<RecordSet> CJetDB::OpenCompanyQuery()
 {
     if (!m_databaseOpen) {
         FailWithoutDatabase();
@@ -102,32 +104,42 @@ std::shared_ptr<RecordSet> CJetDB::OpenListing(Listing listing)
     std::shared_ptr<RecordSet> rows;
     const bool listed = Succeeds(
         [&] {
-            rows = listing();
+            rows = m_database->SelectStored(kAllCompanies);
             return rows->RecordCount() >= 0 || Fail(jetdb::NegativeCount, "the listing has a negative number of rows");
         },
         FailingWith(jetdb::ListingFailed));
     return listed ? rows : nullptr;
 }
 
-std::shared_ptr<RecordSet> CJetDB::OpenEmployeeQuery()
+bool CJetDB::LoadEmployeeList(EmployeeSink& thelist)
 {
-    return OpenListing([this] { return m_database->SelectStored(kAllEmployees); });
+    return FillEmployees(thelist, [this] { return m_database->PrepareStored(kAllEmployees); });
 }
 
-std::shared_ptr<RecordSet> CJetDB::OpenCompanyQuery()
+bool CJetDB::LoadEmployeesNamed(EmployeeSink& thelist, const std::string& thename)
 {
-    return OpenListing([this] { return m_database->SelectStored(kAllCompanies); });
+    const std::array parameters{Parameter{"name", thename}};
+    return FillEmployees(thelist, [&] { return m_database->PrepareStored(kAllEmployees, HasDisplayName(thename), parameters); });
 }
 
-// The rows one after the other, as far as they can be read.
-template <typename Take>
-bool CJetDB::Fill(RecordSet& rows, const TableColumns& table, Take take)
+// In portions that stay in the processor's memory: thousands of rows at once would cost as much again.
+bool CJetDB::FillEmployees(EmployeeSink& thelist, const std::function<std::unique_ptr<Statement>()>& prepare)
 {
+    ForgetFailure();
+    OpenWhenClosed();
+    if (!m_databaseOpen) {
+        return FailWithoutDatabase();
+    }
     const auto fill = [&] {
-        RowReader reader(rows, table);
-        for (std::int32_t position = 1; position <= rows.RecordCount(); ++position) {
-            take(reader, position);
-            rows.MoveNext();
+        const auto statement = prepare();
+        std::int32_t position = 0;
+        std::int32_t read = kPortion;
+        while (read == kPortion) {
+            const auto rows = statement->ReadRows(kPortion);
+            read = rows->RecordCount();
+            for (RowReader reader(*rows, EmployeeTable()); !rows->EndOfFile(); rows->MoveNext()) {
+                thelist.InsertLoaded(reader.ReadEmployee(), ++position); // deliberately not asked, unlike a company's list
+            }
         }
     };
     if (!Succeeds(fill, FailingWith(jetdb::ListingFailed))) {
@@ -135,32 +147,6 @@ bool CJetDB::Fill(RecordSet& rows, const TableColumns& table, Take take)
     }
     CloseWhenOpen();
     return true;
-}
-
-bool CJetDB::LoadEmployeeList(EmployeeSink& thelist)
-{
-    ForgetFailure();
-    OpenWhenClosed();
-    return FillEmployees(thelist, OpenEmployeeQuery());
-}
-
-bool CJetDB::LoadEmployeesNamed(EmployeeSink& thelist, const std::string& thename)
-{
-    ForgetFailure();
-    OpenWhenClosed();
-    const std::array parameters{Parameter{"name", thename}};
-    return FillEmployees(thelist,
-                         OpenListing([&] { return m_database->SelectStored(kAllEmployees, HasDisplayName(thename), parameters); }));
-}
-
-bool CJetDB::FillEmployees(EmployeeSink& thelist, const std::shared_ptr<RecordSet>& rows)
-{
-    if (rows == nullptr) {
-        return false;
-    }
-    return Fill(*rows, EmployeeTable(), [&](RowReader& reader, std::int32_t position) {
-        thelist.InsertLoaded(reader.ReadEmployee(), position); // deliberately not asked, unlike a company's list
-    });
 }
 
 bool CJetDB::LoadCompanyList(CompanySink& thelist)
@@ -172,11 +158,20 @@ bool CJetDB::LoadCompanyList(CompanySink& thelist)
     if (m_errorNumber == jetdb::NegativeCount || m_errorNumber == jetdb::ListingFailed || m_errorNumber == jetdb::NoDatabase) {
         return m_lastFailure.Number() != 0 ? false : Fail(m_errorNumber, "the companies are not listed after an earlier failure");
     }
-    return Fill(*rows, CompanyTable(), [&](RowReader& reader, std::int32_t position) {
-        if (!thelist.InsertLoaded(reader.ReadCompany(), position)) {
-            m_errorNumber = jetdb::WorkingReferenceLost;
+    const auto fill = [&] {
+        RowReader reader(*rows, CompanyTable());
+        for (std::int32_t position = 1; position <= rows->RecordCount(); ++position) {
+            if (!thelist.InsertLoaded(reader.ReadCompany(), position)) {
+                m_errorNumber = jetdb::WorkingReferenceLost;
+            }
+            rows->MoveNext();
         }
-    });
+    };
+    if (!Succeeds(fill, FailingWith(jetdb::ListingFailed))) {
+        return false;
+    }
+    CloseWhenOpen();
+    return true;
 }
 
 } // namespace ptk

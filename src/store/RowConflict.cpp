@@ -4,6 +4,7 @@
 #include "platform/Text.h"
 #include "store/engine/Engine.h"
 #include "store/engine/RecordSet.h"
+#include "store/engine/Statement.h"
 #include "store/RowReader.h"
 
 #include <algorithm>
@@ -156,7 +157,7 @@ std::shared_ptr<RecordSet> Required(std::shared_ptr<RecordSet> row, const TableC
 std::shared_ptr<RecordSet> ListedRow(Engine& engine, const char* listing, const TableColumns& table, std::int32_t key)
 {
     const Parameter parameter{"key", key};
-    return Required(engine.SelectStored(listing, std::string(table.names.front()) + " = :key", {&parameter, 1}), table, key);
+    return Required(engine.PrepareStored(listing, std::string(table.names.front()) + " = :key", {&parameter, 1})->ReadRows(), table, key);
 }
 
 } // namespace

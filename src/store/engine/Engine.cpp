@@ -152,14 +152,14 @@ std::shared_ptr<RecordSet> Engine::SelectStored(std::string_view query)
     return PrepareStored(query)->ReadRows();
 }
 
-std::shared_ptr<RecordSet> Engine::SelectStored(std::string_view query, std::string_view condition, std::span<const Parameter> parameters)
+std::unique_ptr<Statement> Engine::PrepareStored(std::string_view query, std::string_view condition, std::span<const Parameter> parameters)
 {
     std::string text = StoredText(query);
     text.erase(text.find_last_not_of(" \t\r\n;") + 1);
     // On a line of its own, since the text may end in a comment.
-    const auto statement = Prepare("SELECT * FROM (" + text + "\n) WHERE " + std::string(condition));
+    auto statement = Prepare("SELECT * FROM (" + text + "\n) WHERE " + std::string(condition));
     statement->Bind(parameters);
-    return statement->ReadRows();
+    return statement;
 }
 
 void Engine::RunStored(std::string_view query, std::span<const Parameter> parameters)

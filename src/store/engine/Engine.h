@@ -80,8 +80,6 @@ public:
 
     // Of the queries inside the file. A missing query raises 12, an unknown parameter or one without a value 25.
     std::shared_ptr<RecordSet> SelectStored(std::string_view query);
-    // Only the rows for which a condition in the engine's own words holds, in the query's order.
-    std::shared_ptr<RecordSet> SelectStored(std::string_view query, std::string_view condition, std::span<const Parameter> parameters);
 
     // On disk when it returns.
     void ExecuteStored(std::string_view query, std::span<const Parameter> parameters);
@@ -113,6 +111,9 @@ public:
     std::unique_ptr<Statement> PrepareToKeep(std::string_view sql);
 
     std::unique_ptr<Statement> PrepareStored(std::string_view query);
+
+    // Only the rows for which a condition in the engine's own words holds, in the query's order.
+    std::unique_ptr<Statement> PrepareStored(std::string_view query, std::string_view condition, std::span<const Parameter> parameters);
     void BeginMany();
 
     // Several statements in the engine's own words.
