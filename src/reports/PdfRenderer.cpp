@@ -1,0 +1,125 @@
+#include "reports/PdfRenderer.h"
+
+#include "platform/Failure.h"
+#include "reports/CellText.h"
+#include "reports/PageDrawing.h"
+#include "reports/PageLayout.h"
+#include "reports/ReportDocument.h"
+
+#include <dlfcn.h>
+#include <filesystem>
+#include <fmt/format.h>
+#include <iterator>
+#include <utility>
+#include <vector>
+
+namespace ptk {
+
+namespace {
+
+constexpr auto kNoDrawing = "pages cannot be drawn: {}";
+constexpr auto kTitleOfMany = "{}, and {} more";
+
+constexpr auto kInstalledFolder = "../lib/ptk"; // seen from the programs
+
+// Beside the program as it was built, else where it is installed.
+std::filesystem::path ModulePath()
+{
+    const std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe").parent_path();
+    std::error_code ignored;
+    const bool isBeside = std::filesystem::exists(program / kPageModule, ignored);
+    return isBeside ? program / kPageModule : program / kInstalledFolder / kPageModule;
+}
+
+// It stays loaded until the program ends: its libraries keep caches that the next document needs again.
+PtkDrawPages LoadDrawing()
+{
+    void* module = ::dlopen(ModulePath().c_str(), RTLD_NOW | RTLD_LOCAL);
+    void* draw = module == nullptr ? nullptr : ::dlsym(module, kDrawPages);
+    if (draw == nullptr) {
+        throw Failure(failure::FileNotFound, "PTK", fmt::format(kNoDrawing, ::dlerror()));
+    }
+    return reinterpret_cast<PtkDrawPages>(draw);
+}
+
+// One page, ready to be drawn.
+class Sheet
+{
+public:
+    Sheet(const Page& page, const Paper& paper);
+    [[nodiscard]] PtkPage Drawn() const { return {m_texts.data(), m_texts.size(), m_rules.data(), m_rules.size()}; }
+
+private:
+    std::vector<PtkText> m_texts;
+    std::vector<PtkRule> m_rules;
+};
+
+Sheet::Sheet(const Page& page, const Paper& paper)
+{
+    for (const PlacedLine& line : page) {
+        const double y = paper.margin + static_cast<double>(line.row) * paper.lineHeight;
+        if (line.style == LineStyle::Rule) {
+            m_rules.push_back({paper.margin, y + paper.lineHeight / 2, paper.width - 2 * paper.margin});
+        }
+        for (const TextPiece& piece : line.pieces) {
+            m_texts.push_back({paper.margin + static_cast<double>(piece.column) * paper.characterWidth, y,
+                               static_cast<double>(piece.room) * paper.characterWidth, piece.text.c_str(), line.style == LineStyle::Bold});
+        }
+    }
+}
+
+std::vector<Page> PagesOf(std::span<const ReportDocument> documents, const Paper& paper, DateTime printed)
+{
+    std::vector<Page> pages;
+    for (const ReportDocument& document : documents) {
+        std::vector<Page> own = LayOut(document, paper, printed);
+        std::move(own.begin(), own.end(), std::back_inserter(pages));
+    }
+    return pages;
+}
+
+// As one line without control characters, which the file's own description must not hold.
+std::string TitleOf(std::span<const ReportDocument> documents)
+{
+    std::string title;
+    for (const TextPiece& piece : PiecesOf(documents.front().title, documents.front().title.size() + 1).front()) {
+        title += (title.empty() ? "" : " ") + piece.text;
+    }
+    return documents.size() == 1 ? title : fmt::format(kTitleOfMany, title, documents.size() - 1);
+}
+
+int Take(void* taker, const unsigned char* bytes, unsigned length) noexcept
+{
+    try {
+        static_cast<std::string*>(taker)->append(reinterpret_cast<const char*>(bytes), length);
+        return 1;
+    } catch (const std::bad_alloc&) {
+        return 0;
+    }
+}
+
+} // namespace
+
+std::string PdfOf(std::span<const ReportDocument> documents, PaperSize size, DateTime made)
+{
+    static const PtkDrawPages draw = LoadDrawing();
+    const Paper paper = PaperOf(size);
+    const std::vector<Page> pages = PagesOf(documents, paper, made);
+    std::vector<Sheet> sheets;
+    std::vector<PtkPage> drawn;
+    sheets.reserve(pages.size());
+    for (const Page& page : pages) {
+        drawn.push_back(sheets.emplace_back(page, paper).Drawn());
+    }
+    const std::string title = TitleOf(documents);
+    const std::string moment = MomentText(made);
+    const PtkPages job{paper.width,   paper.height,   paper.characterWidth, paper.lineHeight,
+                       title.c_str(), moment.c_str(), drawn.data(),         drawn.size()};
+    std::string bytes;
+    if (const char* error = draw(&job, &Take, &bytes)) {
+        throw Failure(failure::DeviceIoError, "PTK", fmt::format(kNoDrawing, error));
+    }
+    return bytes;
+}
+
+} // namespace ptk
