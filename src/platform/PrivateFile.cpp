@@ -14,7 +14,11 @@ namespace ptk {
 PrivateFile::PrivateFile(const std::string& name, std::string_view bytes)
 {
     std::error_code error;
-    m_folder = (std::filesystem::temp_directory_path(error) / "ptk-XXXXXX").string(); // becomes random characters
+    const std::filesystem::path folder = std::filesystem::temp_directory_path(error);
+    if (error) {
+        throw Failure::FromErrno(error.value());
+    }
+    m_folder = (folder / "ptk-XXXXXX").string(); // becomes random characters
     if (::mkdtemp(m_folder.data()) == nullptr) {
         throw Failure::FromErrno(errno);
     }

@@ -81,8 +81,9 @@ std::vector<Page> PagesOf(std::span<const ReportDocument> documents, const Paper
 // As one line without control characters, which the file's own description must not hold.
 std::string TitleOf(std::span<const ReportDocument> documents)
 {
+    const auto lines = PiecesOf(documents.front().title, documents.front().title.size() + 1);
     std::string title;
-    for (const TextPiece& piece : PiecesOf(documents.front().title, documents.front().title.size() + 1).front()) {
+    for (const TextPiece& piece : lines.front()) {
         title += (title.empty() ? "" : " ") + piece.text;
     }
     return documents.size() == 1 ? title : fmt::format(kTitleOfMany, title, documents.size() - 1);
