@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <fmt/format.h>
+#include <sstream>
 #include <string_view>
 #include <utility>
 
@@ -124,10 +125,7 @@ private:
 
 PageMaker::PageMaker(const ReportDocument& document, const Paper& paper) : m_paper(paper)
 {
-    std::string title = document.title;
-    std::replace_if(
-        title.begin(), title.end(), [](char c) { return c == '\r' || c == '\n'; }, ' ');
-    m_title = PiecesOf(title, paper.Columns());
+    m_title = PiecesOf(HeadOf(document), paper.Columns());
     m_heading = PiecesOf(document.heading, paper.Columns()).front();
     m_end = paper.Rows() - kFootRows;
     m_title.resize(std::min(m_title.size(), m_end / 2)); // whatever somebody is called
@@ -203,6 +201,16 @@ void PageMaker::AddFoot(Page& page, const std::string& left, const std::string& 
 Paper PaperOf(PaperSize size)
 {
     return size == PaperSize::A4 ? kA4 : kLetter;
+}
+
+std::string HeadOf(const ReportDocument& document)
+{
+    std::istringstream words(document.title);
+    std::string head;
+    for (std::string word; words >> word;) {
+        head += (head.empty() ? "" : " ") + word;
+    }
+    return head;
 }
 
 std::vector<Page> LayOut(const ReportDocument& document, const Paper& paper, DateTime printed)

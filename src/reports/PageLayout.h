@@ -6,6 +6,7 @@
 #include "reports/TextPieces.h"
 
 #include <cstddef>
+#include <string>
 #include <vector>
 
 namespace ptk {
@@ -28,6 +29,9 @@ struct Paper
 };
 
 [[nodiscard]] Paper PaperOf(PaperSize size);
+
+// The document's title on one line, one blank between its words.
+[[nodiscard]] std::string HeadOf(const ReportDocument& document);
 
 enum class LineStyle
 {

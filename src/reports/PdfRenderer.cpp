@@ -78,14 +78,12 @@ std::vector<Page> PagesOf(std::span<const ReportDocument> documents, const Paper
     return pages;
 }
 
-// As one line without control characters, which the file's own description must not hold.
+// Without control characters, which the file's own description must not hold.
 std::string TitleOf(std::span<const ReportDocument> documents)
 {
-    const auto lines = PiecesOf(documents.front().title, documents.front().title.size() + 1);
-    std::string title;
-    for (const TextPiece& piece : lines.front()) {
-        title += (title.empty() ? "" : " ") + piece.text;
-    }
+    const std::string head = HeadOf(documents.front());
+    const auto pieces = PiecesOf(head, 2 * head.size() + 1).front(); // never broken, one blank being all that is between words
+    const std::string title = pieces.empty() ? "" : pieces.front().text;
     return documents.size() == 1 ? title : fmt::format(kTitleOfMany, title, documents.size() - 1);
 }
 

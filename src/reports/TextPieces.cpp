@@ -75,7 +75,7 @@ public:
     std::vector<std::vector<TextPiece>> Finish();
 
 private:
-    void NextLine();
+    void NextLine(std::size_t column);
 
     const std::size_t m_columns;
     std::vector<std::vector<TextPiece>> m_lines{1};
@@ -102,7 +102,9 @@ void PieceMaker::AddWord(std::string_view word)
 {
     const std::size_t width = ptk::WidthOf(word);
     if (m_column + width > m_columns && !m_lines.back().empty()) {
-        NextLine();
+        const std::size_t under = m_lines.back().back().column;
+        const std::size_t below = !m_joined ? m_column : under <= m_columns / 2 ? under : 0;
+        NextLine(std::min(below, m_columns - std::min(width, m_columns)));
     }
     m_characters += CharacterCount(word);
     if (m_joined) {
@@ -114,17 +116,17 @@ void PieceMaker::AddWord(std::string_view word)
         m_lines.back().push_back({m_column, 0, TakeWidth(word, m_columns - m_column)});
         m_column += ptk::WidthOf(m_lines.back().back().text);
         if (!word.empty()) {
-            NextLine();
+            NextLine(0);
         }
     }
     m_joined = false;
 }
 
-void PieceMaker::NextLine()
+void PieceMaker::NextLine(std::size_t column)
 {
     m_lines.emplace_back();
-    m_column = 0;
-    m_characters = 0;
+    m_column = column;
+    m_characters = column;
     m_joined = false;
 }
 

@@ -18,7 +18,7 @@ struct TextPiece
 
 // The text in as many lines as it takes on paper of so many columns, one at least. Tabs lead to every eighth column. What stands behind
 // several blanks keeps the column that it has where every character is counted as one, as the reports' columns are. A word that a line has
-// no room for begins the next one. REQUIRES: no line ends in it; columns > 0.
+// no room for stands below it, under what it belongs to as far as it fits there. REQUIRES: no line ends in it; columns > 0.
 [[nodiscard]] std::vector<std::vector<TextPiece>> PiecesOf(std::string_view line, std::size_t columns);
 
 // In columns.

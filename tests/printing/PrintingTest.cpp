@@ -143,8 +143,8 @@ TEST_F(PrintingTest, APrintedReportHoldsItsLinesUncut)
     ASSERT_TRUE(card->Generate(Of({ann})));
     EXPECT_EQ(ReadLines(PrintedText(*card)), Printed(Golden("time_card.txt")));
 
-    ann->Address1(std::string(31, 'W') + "!"); // a right column that reaches character 72
-    zorn->Address1(std::string(50, 'M') + "!");
+    ann->Address1(std::string(31, 'W') + "!");  // a right column that reaches character 72
+    zorn->Address1(std::string(40, 'M') + "!"); // and beyond it, as far as either paper holds
     const auto book = NewPrintable(ReportKind::PhoneBook);
     ASSERT_TRUE(book->Generate(Of({jose, ann, ann, zorn})));
     EXPECT_EQ(ReadLines(PrintedText(*book)), Printed(viewers.made.back()->text));

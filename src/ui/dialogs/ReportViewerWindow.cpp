@@ -5,6 +5,7 @@
 #include "platform/Succeeds.h"
 #include "reports/Report.h"
 #include "ui/dialogs/SaveDialog.h"
+#include "ui/widgets/ButtonRow.h"
 #include "ui/widgets/WindowPlace.h"
 #include "ui_ReportViewerWindow.h"
 
@@ -64,6 +65,7 @@ ReportViewerWindow::ReportViewerWindow(const QString& name) : m_ui(std::make_uni
 {
     m_ui->setupUi(this);
     setObjectName(name);
+    LayOutButtons();
     m_ui->pnlFind->hide();
     m_ui->txtReport->viewport()->installEventFilter(this);
     m_ui->txtReport->setFont(ReportFont());
@@ -73,6 +75,15 @@ ReportViewerWindow::ReportViewerWindow(const QString& name) : m_ui(std::make_uni
 }
 
 ReportViewerWindow::~ReportViewerWindow() = default;
+
+// Where they leave the line beside them too little room, it stands above them.
+void ReportViewerWindow::LayOutButtons()
+{
+    auto* row = new ButtonRow;
+    m_ui->layout->addLayout(row);
+    const std::unique_ptr<QLayout> before(m_ui->buttons);
+    row->TakeFrom(*before);
+}
 
 void ReportViewerWindow::ConnectControls()
 {

@@ -183,12 +183,17 @@ void TakeOverview(FController& main, const Photographer& photographer)
     }
 }
 
-void TakeViewers(FController& main, const Photographer& photographer)
+void TakeViewers(GuiProgram& program, const Photographer& photographer)
 {
+    FController& main = program.Main();
     Find<QPushButton>(main, "cmdTCPrint").click();
     for (QWidget* window : QApplication::topLevelWidgets()) {
         if (window->isVisible() && window->findChild<QWidget*>("txtReport") != nullptr) {
             photographer.TakeSizes(*window, "viewer");
+            program.desktop.shellCodes = {ShellNoProgram};
+            program.desktop.refusal = "no program is set up for this kind of document";
+            Find<QPushButton>(*window, "cmdOpenPdf").click();
+            photographer.TakeSizes(*window, "viewer-notice");
         }
     }
 }
@@ -206,7 +211,7 @@ void TakeAll(const QString& folder, const QString& theme)
     TakeRestore(program, photographer);
     TakeFindings(main, photographer);
     TakeOverview(main, photographer);
-    TakeViewers(main, photographer);
+    TakeViewers(program, photographer);
 }
 
 int Run(int argc, char** argv)
