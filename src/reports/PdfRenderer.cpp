@@ -34,7 +34,7 @@ std::filesystem::path ModulePath()
 // It stays loaded until the program ends: its libraries keep caches that the next document needs again.
 PtkDrawPages LoadDrawing()
 {
-    void* module = ::dlopen(ModulePath().c_str(), RTLD_NOW | RTLD_LOCAL);
+    void* module = ::dlopen(ModulePath().c_str(), RTLD_LAZY | RTLD_LOCAL);
     void* draw = module == nullptr ? nullptr : ::dlsym(module, kDrawPages);
     if (draw == nullptr) {
         throw Failure(failure::FileNotFound, "PTK", fmt::format(kNoDrawing, ::dlerror()));
