@@ -1,5 +1,6 @@
 // The edit trail's history and backups, beside the raw engine on the same files.
 #include "office/History.h"
+#include "office/HistoryReading.h"
 #include "platform/Text.h"
 #include "store/Backups.h"
 #include "store/BenchData.h"
@@ -53,6 +54,25 @@ void ProgramHistories(benchmark::State& state)
     }
 }
 
+// As the window opens on a card: whom there is, who changed anything, and the first page of what a period's total came of.
+void ProgramHistoryPages(benchmark::State& state)
+{
+    const auto database = std::make_shared<ptk::CJetDB>(".");
+    database->DatabaseName(DataFile(kChanges));
+    ptk::TrailQuery query;
+    query.employee = kFirstEmployee + 3;
+    query.recordsIn = ptk::TrailDays{kLastDay.AddDays(-kPeriodDays), kLastDay};
+    for (auto unused : state) {
+        const ptk::CJetDB::Hold hold(database);
+        const auto names = std::make_shared<ptk::EmployeeNames>(database);
+        names->LearnGone(database);
+        benchmark::DoNotOptimize(ptk::ReadTrailPersons(database));
+        ptk::HistoryReading reading(database, query, names);
+        reading.ReadOn();
+        benchmark::DoNotOptimize(reading.Rows().data());
+    }
+}
+
 } // namespace
 
 void RegisterTrailBenchmarks()
@@ -61,6 +81,8 @@ void RegisterTrailBenchmarks()
     benchmark::RegisterBenchmark("backup of 1 million records/program", ProgramBackups);
     benchmark::RegisterBenchmark("history of one employee, 1 million changes/raw", RawHistories);
     benchmark::RegisterBenchmark("history of one employee, 1 million changes/program", ProgramHistories);
+    benchmark::RegisterBenchmark("history of one period, 1 million changes/raw", RawHistories);
+    benchmark::RegisterBenchmark("history of one period, 1 million changes/program", ProgramHistoryPages);
 }
 
 } // namespace bench

@@ -2,8 +2,10 @@
 #include "platform/Clock.h"
 #include "platform/Process.h"
 #include "platform/ProgramFolder.h"
+#include "platform/Version.h"
 #include "shell/CError.h"
 #include "startup/AdminMain.h"
+#include "ui/dialogs/FFirstStart.h"
 #include "ui/LastWindow.h"
 #include "ui/QtDesktop.h"
 #include "ui/QtWindowFactory.h"
@@ -97,15 +99,29 @@ std::string ProgramFolderOption(const QApplication& application)
     return parser.value(kFolderOption).toStdString();
 }
 
+// Empty when somebody who has no program folder yet does not begin one.
+std::string FolderToWorkIn(const ptk::ProgramFolder& found, const ptk::Clock& clock)
+{
+    if (found.named || ptk::HoldsConfiguration(found.path)) {
+        return found.path;
+    }
+    ptk::QtWindowFactory::DressWindows();
+    ptk::FFirstStart first(found.path, clock);
+    return first.exec() == QDialog::Accepted ? first.Folder() : std::string();
+}
+
 int Run(const QApplication& application, ptk::Desktop& desktop)
 {
-    const std::string folder = ptk::FindProgramFolder(ProgramFolderOption(application));
     const ptk::SystemClock clock;
+    // Between the login and the main window there is no window, and the program must not take that for its end.
+    QApplication::setQuitOnLastWindowClosed(false);
+    const std::string folder = FolderToWorkIn(ptk::FindProgramFolder(ProgramFolderOption(application)), clock);
+    if (folder.empty()) {
+        return EXIT_FAILURE;
+    }
     ptk::QtWindowFactory windows(folder, desktop, clock);
     ptk::AdminMain admin(folder, desktop, clock, windows, [](int status) { std::_Exit(status); });
 
-    // Between the login and the main window there is no window, and the program must not take that for its end.
-    QApplication::setQuitOnLastWindowClosed(false);
     admin.Start();
     if (!ptk::IsAnyWindowShown()) {
         return EXIT_FAILURE; // the start-up has told why by then
@@ -121,7 +137,7 @@ int main(int argc, char** argv)
     ptk::SettleProcess();
     QCoreApplication::setOrganizationName("PTK");
     QCoreApplication::setApplicationName("ptk-admin");
-    QCoreApplication::setApplicationVersion("1.0");
+    QCoreApplication::setApplicationVersion(ptk::Version());
     QApplication::setDesktopFileName("ptk-admin");
     AnswerWithoutDisplay(argc, argv);
     ptk::QtDesktop desktop;

@@ -1,6 +1,7 @@
 #include "console/Arguments.h"
 
 #include "platform/Text.h"
+#include "platform/Version.h"
 
 #include <CLI/CLI.hpp>
 
@@ -11,8 +12,6 @@
 namespace ptk {
 
 namespace {
-
-constexpr const char* kVersion = "ptk-console 1.0";
 
 // A day, not a time: what has a time of day in it is no date here.
 std::optional<DateTime> ReadDay(const std::string& text)
@@ -100,7 +99,7 @@ private:
 Grammar::Grammar()
 {
     m_app.set_help_flag("-h,--help", "Show this help");
-    m_app.set_version_flag("--version", kVersion, "Show the version");
+    m_app.set_version_flag("--version", std::string("ptk-console ") + Version(), "Show the version");
     m_app
         .add_option("--program-folder", m_words.programFolder,
                     "The folder with system/ and reports/; else PTK_PROGRAM_FOLDER, else the folder of ptk-console")

@@ -2,8 +2,8 @@
 #include "console/Commands.h"
 #include "console/Console.h"
 #include "console/ErrorText.h"
-#include "console/SampleBusiness.h"
 #include "console/Session.h"
+#include "office/SampleBusiness.h"
 #include "platform/Clock.h"
 #include "platform/ProgramFolder.h"
 #include "shell/CDatabaseLocator.h"
@@ -13,23 +13,6 @@
 namespace ptk {
 
 namespace {
-
-void AddSampleBusiness(BulkWriter& writer, DateTime today)
-{
-    std::vector<std::int32_t> companies;
-    for (const CompanyRow& company : SampleCompanies()) {
-        companies.push_back(writer.AddCompany(company));
-    }
-    for (SampleEmployee& employee : SampleEmployees(today)) {
-        employee.row.CompanyID = companies.at(static_cast<std::size_t>(employee.row.CompanyID - 1));
-        const std::int32_t employeeID = writer.AddEmployee(employee.row);
-        std::vector<TimeRecordRow> shifts = SampleShifts(employee, employeeID, today);
-        AddIrregularities(employee, shifts, today);
-        for (const TimeRecordRow& shift : shifts) {
-            writer.AddTimeRecord(shift);
-        }
-    }
-}
 
 void Create(const std::string& path, const std::function<void(BulkWriter&)>& fill)
 {

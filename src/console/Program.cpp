@@ -42,7 +42,7 @@ int Run(const std::vector<std::string>& words, const Clock& clock, std::ostream&
         return ShowUsage(*answer, out, err);
     }
     const auto& arguments = std::get<Arguments>(read);
-    Console console{FindProgramFolder(arguments.programFolder), clock, out, err, terminal};
+    Console console{FindProgramFolder(arguments.programFolder).path, clock, out, err, terminal};
     return std::visit(Dispatch{console}, arguments.command);
 }
 

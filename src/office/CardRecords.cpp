@@ -7,6 +7,8 @@
 #include "model/CTimeRecordList.h"
 #include "model/Punch.h"
 #include "platform/Required.h"
+#include "platform/Text.h"
+#include "store/RowConflict.h"
 
 #include <limits>
 
@@ -27,6 +29,17 @@ void DropNewRecords(CTimeRecordList& records)
             records.Remove(i);
         }
     }
+}
+
+std::shared_ptr<CTimeRecord> StoredRecord(const TimeRecordRow& row)
+{
+    auto record = std::make_shared<CTimeRecord>();
+    record->TimeRecordID(row.TimeRecordID);
+    record->EmployeeID(row.EmployeeID);
+    record->StartTime(row.StartTime);
+    record->EndTime(row.EndTime);
+    record->ObjectState(row.ObjectState); // last, since filling marks it changed
+    return record;
 }
 
 } // namespace
@@ -62,12 +75,29 @@ std::shared_ptr<CTimeRecord> RecordToEdit(const Punch& punch, std::int32_t emplo
     if (punch.id < 0 || punch.id > std::numeric_limits<std::int32_t>::max()) {
         return nullptr;
     }
-    auto record = std::make_shared<CTimeRecord>();
-    record->TimeRecordID(static_cast<std::int32_t>(punch.id));
-    record->EmployeeID(employeeID);
-    record->StartTime(punch.start.value_or(DateTime()));
-    record->EndTime(punch.end.value_or(DateTime()));
-    record->ObjectState(state::Unchanged); // last, since filling marks it changed
+    auto record = StoredRecord({static_cast<std::int32_t>(punch.id), employeeID, punch.start.value_or(DateTime()),
+                                punch.end.value_or(DateTime()), state::Unchanged});
+    if (punch.IsReadable()) {
+        record->KeepAsRead();
+    }
+    return record;
+}
+
+std::shared_ptr<CTimeRecord> RecordToTryAgain(const CTimeRecord& refused, const RowConflict& conflict)
+{
+    if (conflict.Removed()) {
+        return std::make_shared<CTimeRecord>();
+    }
+    TimeRecordRow row = refused.AsRead().value();
+    row.ObjectState = state::Unchanged;
+    for (const FieldDifference& field : conflict.differences) {
+        if (field.column == "EmployeeID") {
+            return nullptr;
+        }
+        (field.column == "StartTime" ? row.StartTime : row.EndTime) = ParseDateTime(field.present).value_or(DateTime());
+    }
+    auto record = StoredRecord(row);
+    record->KeepAsRead();
     return record;
 }
 

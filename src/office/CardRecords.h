@@ -10,6 +10,7 @@ class CTimeCard;
 class CTimeRecord;
 class CTimeRecordFactory;
 struct Punch;
+struct RowConflict;
 
 // All of these are false when the database refused a statement, too, which the card itself answers true to. They may raise failures.
 
@@ -23,8 +24,12 @@ struct Punch;
 // not go with the next save of the whole card.
 [[nodiscard]] bool StoreCard(CTimeCard& card, CTimeRecordFactory& factory);
 
-// A stored record as the check read it, to be edited; a time that cannot be read is not set in it, so that storing it mends the row.
-// nullptr for a key that no time record can have.
+// A stored record as the check read it, to be edited; a time that cannot be read is not set in it, so that storing it mends the row,
+// whatever stands there by then. nullptr for a key that no time record can have.
 [[nodiscard]] std::shared_ptr<CTimeRecord> RecordToEdit(const Punch& punch, std::int32_t employeeID);
+
+// What a refused record is to be edited as once more: as it is stored now, a removed one as a new record. nullptr for one that somebody
+// else gave to another employee. REQUIRES: it was read before.
+[[nodiscard]] std::shared_ptr<CTimeRecord> RecordToTryAgain(const CTimeRecord& refused, const RowConflict& conflict);
 
 } // namespace ptk

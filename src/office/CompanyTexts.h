@@ -21,6 +21,17 @@ struct CompanyTexts
     std::string federalTaxID;
 
     bool operator==(const CompanyTexts&) const = default;
+
+    // With a pointer to each member but the ID.
+    template <typename Visit>
+    static void ForEachField(Visit visit)
+    {
+        using Texts = CompanyTexts;
+        for (std::string Texts::*text : {&Texts::name, &Texts::address1, &Texts::address2, &Texts::city, &Texts::state, &Texts::zip,
+                                         &Texts::phone, &Texts::fax, &Texts::federalTaxID}) {
+            visit(text);
+        }
+    }
 };
 
 [[nodiscard]] CompanyTexts ShowCompanyTexts(const CCompany& company);

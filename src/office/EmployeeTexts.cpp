@@ -1,6 +1,7 @@
 #include "office/EmployeeTexts.h"
 
 #include "model/CEmployee.h"
+#include "model/CEmployeeList.h"
 #include "platform/Text.h"
 #include "shell/CDataValidator.h"
 
@@ -145,6 +146,12 @@ void ReadEmployeeTexts(const EmployeeTexts& texts, CEmployee& employee)
     SetFigures(figures, employee);
     employee.EmployeeActive(texts.active);
     employee.AutoDeduct(texts.autoDeduct);
+}
+
+std::string DisplayNameOf(CEmployeeList& list, std::int64_t employeeID)
+{
+    const auto employee = list.GetEmployeeByID(static_cast<std::int32_t>(employeeID));
+    return employee == nullptr ? std::string() : employee->DisplayName();
 }
 
 std::pair<std::string, std::string> SplitDisplayName(std::string_view name)

@@ -10,6 +10,7 @@
 namespace ptk {
 
 class CEmployee;
+class CEmployeeList;
 
 struct EmployeeTexts
 {
@@ -35,6 +36,21 @@ struct EmployeeTexts
     bool autoDeduct = false;
 
     bool operator==(const EmployeeTexts&) const = default;
+
+    // With a pointer to each member but the ID.
+    template <typename Visit>
+    static void ForEachField(Visit visit)
+    {
+        using Texts = EmployeeTexts;
+        for (std::string Texts::*text :
+             {&Texts::number, &Texts::name, &Texts::ssn, &Texts::address1, &Texts::address2, &Texts::city, &Texts::state, &Texts::zip,
+              &Texts::phone, &Texts::password, &Texts::payRate, &Texts::overtimePayRate, &Texts::dateOfBirth, &Texts::hireDate,
+              &Texts::releaseDate, &Texts::lunchLength, &Texts::breakLength}) {
+            visit(text);
+        }
+        visit(&Texts::active);
+        visit(&Texts::autoDeduct);
+    }
 };
 
 // Why a page cannot be saved, in the order in which it is told.
@@ -58,6 +74,9 @@ inline constexpr std::int32_t kAdministratorID = 39;
 // Puts the texts, but not the ID, into the employee. Raises Failure 13 or 6 for a text that does not fit its field; the employee is then
 // untouched.
 void ReadEmployeeTexts(const EmployeeTexts& texts, CEmployee& employee);
+
+// Empty for nobody's number.
+[[nodiscard]] std::string DisplayNameOf(CEmployeeList& list, std::int64_t employeeID);
 
 // First and last name: the first blank ends the first name; without a blank all of it is the last name.
 [[nodiscard]] std::pair<std::string, std::string> SplitDisplayName(std::string_view name);

@@ -1,11 +1,8 @@
 #include "office/History.h"
 
 #include "platform/DataText.h"
-#include "platform/Text.h"
 #include "store/CJetDB.h"
-#include "store/engine/Statement.h"
 
-#include <algorithm>
 #include <fmt/format.h>
 
 namespace ptk {
@@ -13,10 +10,6 @@ namespace ptk {
 namespace {
 
 constexpr auto kCsvHeading = "Change,When,Who,Program,Step,Table,Row,Action,Before,After,Text\r\n";
-
-// In the order of the employee list; of any kind of value the text.
-constexpr const char* kNames = "SELECT EmployeeID, IFNULL(CAST(FirstName AS TEXT), ''), IFNULL(CAST(LastName AS TEXT), '') FROM Employee "
-                               "ORDER BY IFNULL(LastName, '') COLLATE NOCASE, IFNULL(FirstName, '') COLLATE NOCASE, EmployeeID";
 
 // "2003-03-05 17:00:00" as "2003-03-05T17:00:00".
 std::string Moment(std::string at)
@@ -86,81 +79,10 @@ std::string CsvLine(const TrailEntry& entry, const std::string& text)
 
 std::string TextLine(const TrailEntry& entry, const std::string& text)
 {
-    const auto moment = ParseDateTime(entry.at);
-    const std::string who = entry.by.empty() ? "another program" : entry.by;
-    return fmt::format("{}  {}  {}\r\n", moment ? FormatDateTime(*moment, "mm/dd/yyyy hh:mm:ss AM/PM") : entry.at, who, text);
+    return fmt::format("{}  {}  {}\r\n", EntryMoment(entry), EntryPerson(entry), text);
 }
 
 } // namespace
-
-EmployeeNames::EmployeeNames(const std::shared_ptr<CJetDB>& database)
-{
-    const CJetDB::Hold hold(database);
-    RequireOpen(*database);
-    const auto rows = RequireSelect(*database, kNames);
-    rows->ForEachRow([&] {
-        m_order.push_back(rows->Int64At(0));
-        m_present[m_order.back()] = {std::string(rows->TextAt(1)), std::string(rows->TextAt(2))};
-    });
-    m_former = m_present;
-}
-
-void EmployeeNames::Name::Take(const TrailRow& row)
-{
-    const TrailValue* newFirst = ValueOf(row, "FirstName");
-    const TrailValue* newLast = ValueOf(row, "LastName");
-    first = newFirst == nullptr ? first : newFirst->text;
-    last = newLast == nullptr ? last : newLast->text;
-}
-
-std::string EmployeeNames::Of(std::int64_t employeeID) const
-{
-    const auto found = m_present.find(employeeID);
-    return found == m_present.end() ? std::string() : found->second.Display();
-}
-
-std::optional<std::int64_t> EmployeeNames::FirstOf(std::string_view displayName) const
-{
-    const auto found = std::find_if(m_order.begin(), m_order.end(), [&](std::int64_t id) { return Of(id) == displayName; });
-    return found == m_order.end() ? std::nullopt : std::optional(*found);
-}
-
-void EmployeeNames::Learn(const TrailEntry& entry)
-{
-    if (entry.table == "Employee" && entry.row && entry.before && !entry.after) {
-        const auto [gone, isNew] = m_present.try_emplace(*entry.row);
-        if (isNew) {
-            gone->second.Take(*entry.before);
-        }
-    }
-}
-
-std::string EmployeeNames::FormerOf(const TrailEntry& entry)
-{
-    Name& name = m_former[entry.row.value_or(0)];
-    if (entry.before || entry.after) {
-        name.Take(entry.before ? *entry.before : *entry.after);
-    }
-    return name.Display();
-}
-
-std::optional<std::int64_t> FindInHistory(const std::shared_ptr<CJetDB>& database, const std::string& name)
-{
-    const CJetDB::Hold hold(database);
-    EmployeeNames names(database);
-    if (const auto present = names.FirstOf(name)) {
-        return present;
-    }
-    std::optional<std::int64_t> found;
-    TrailQuery query;
-    query.table = "Employee";
-    ReadTrail(database, query, [&](const TrailEntry& entry) {
-        if (names.FormerOf(entry) == name && !found) {
-            found = entry.row;
-        }
-    });
-    return found;
-}
 
 std::string HistoryIn(HistoryForm form, const std::shared_ptr<CJetDB>& database, const TrailQuery& query)
 {
@@ -182,13 +104,14 @@ std::string HistoryIn(HistoryForm form, const std::shared_ptr<CJetDB>& database,
     return form == HistoryForm::Csv ? kCsvHeading + text : text;
 }
 
-std::string HistoryCsv(const std::vector<TrailEntry>& entries, const NameOfEmployee& nameOf)
+std::string HistoryCsvHeading()
 {
-    std::string text = kCsvHeading;
-    for (const TrailEntry& entry : entries) {
-        text += CsvLine(entry, EntrySentence(entry, nameOf));
-    }
-    return text;
+    return kCsvHeading;
+}
+
+std::string HistoryCsvLine(const TrailEntry& entry, const NameOfEmployee& nameOf)
+{
+    return CsvLine(entry, EntrySentence(entry, nameOf));
 }
 
 } // namespace ptk

@@ -1,59 +1,16 @@
 // The edit trail as people and other programs read it: who changed what, when, from what to what.
 #pragma once
 
+#include "office/EmployeeNames.h"
 #include "office/HistoryText.h"
 #include "store/TrailReader.h"
 
-#include <cstdint>
-#include <map>
 #include <memory>
-#include <optional>
 #include <string>
-#include <string_view>
-#include <vector>
 
 namespace ptk {
 
 class CJetDB;
-
-// The names of employees by number: of all rows, whatever else in them can be read, and of those that are gone, as far as the entries read
-// so far tell them.
-class EmployeeNames
-{
-public:
-    // Raises what reading the database raises.
-    explicit EmployeeNames(const std::shared_ptr<CJetDB>& database);
-
-    // The display name; empty for an unknown one.
-    [[nodiscard]] std::string Of(std::int64_t employeeID) const;
-
-    // In the order of the employee list.
-    [[nodiscard]] std::optional<std::int64_t> FirstOf(std::string_view displayName) const;
-
-    // Entries newest first.
-    void Learn(const TrailEntry& entry);
-
-    // What the row of Employee that this entry is about was called right before it, or after it when it was added; entries newest first.
-    std::string FormerOf(const TrailEntry& entry);
-
-private:
-    struct Name
-    {
-        std::string first;
-        std::string last;
-
-        [[nodiscard]] std::string Display() const { return first.empty() ? last : first + " " + last; }
-        void Take(const TrailRow& row);
-    };
-
-    std::map<std::int64_t, Name> m_present; // and gone ones
-    std::map<std::int64_t, Name> m_former;
-    std::vector<std::int64_t> m_order;
-};
-
-// The number of the employee of that display name: the first in the list, else the one that had it last, as the trail tells. Raises what
-// reading the database raises.
-[[nodiscard]] std::optional<std::int64_t> FindInHistory(const std::shared_ptr<CJetDB>& database, const std::string& name);
 
 enum class HistoryForm
 {
@@ -66,7 +23,8 @@ enum class HistoryForm
 // without one. Lines end in CR LF. Raises what reading the trail raises.
 [[nodiscard]] std::string HistoryIn(HistoryForm form, const std::shared_ptr<CJetDB>& database, const TrailQuery& query);
 
-// One line each, for a window that has entries already.
-[[nodiscard]] std::string HistoryCsv(const std::vector<TrailEntry>& entries, const NameOfEmployee& nameOf);
+// The lines of the CSV form, each with its end.
+[[nodiscard]] std::string HistoryCsvHeading();
+[[nodiscard]] std::string HistoryCsvLine(const TrailEntry& entry, const NameOfEmployee& nameOf);
 
 } // namespace ptk

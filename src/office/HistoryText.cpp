@@ -1,10 +1,10 @@
 #include "office/HistoryText.h"
 
+#include "office/ColumnWords.h"
 #include "platform/Succeeds.h"
 #include "platform/Text.h"
 
 #include <algorithm>
-#include <array>
 #include <fmt/format.h>
 #include <string_view>
 
@@ -12,79 +12,7 @@ namespace ptk {
 
 namespace {
 
-enum class Shape
-{
-    Plain,
-    Moment,
-    Day,
-    Flag,
-    Employee
-};
-
-struct ColumnWords
-{
-    std::string_view column;
-    const char* words;
-    Shape shape;
-};
-
-constexpr std::array kColumns{
-    ColumnWords{"TimeRecordID", "number", Shape::Plain},
-    ColumnWords{"EmployeeID", "employee", Shape::Employee},
-    ColumnWords{"ShiftDate", "shift date", Shape::Day},
-    ColumnWords{"StartTime", "start", Shape::Moment},
-    ColumnWords{"EndTime", "end", Shape::Moment},
-    ColumnWords{"SSNumber", "SS number", Shape::Plain},
-    ColumnWords{"FirstName", "first name", Shape::Plain},
-    ColumnWords{"LastName", "last name", Shape::Plain},
-    ColumnWords{"Name", "name", Shape::Plain},
-    ColumnWords{"Address", "address", Shape::Plain},
-    ColumnWords{"Address1", "address", Shape::Plain},
-    ColumnWords{"Address2", "second address line", Shape::Plain},
-    ColumnWords{"City", "city", Shape::Plain},
-    ColumnWords{"State", "state", Shape::Plain},
-    ColumnWords{"ZipCode", "ZIP code", Shape::Plain},
-    ColumnWords{"Phone", "phone", Shape::Plain},
-    ColumnWords{"Fax", "fax", Shape::Plain},
-    ColumnWords{"FederalTaxID", "federal tax ID", Shape::Plain},
-    ColumnWords{"URL", "web address", Shape::Plain},
-    ColumnWords{"EmployeeNumber", "employee number", Shape::Plain},
-    ColumnWords{"DateOfBirth", "date of birth", Shape::Day},
-    ColumnWords{"HireDate", "hire date", Shape::Day},
-    ColumnWords{"ReleaseDate", "release date", Shape::Day},
-    ColumnWords{"PayRate", "pay rate", Shape::Plain},
-    ColumnWords{"OvertimePayRate", "overtime pay rate", Shape::Plain},
-    ColumnWords{"Active", "active", Shape::Flag},
-    ColumnWords{"CompanyID", "company", Shape::Plain},
-    ColumnWords{"AutoDeduct", "automatic deduction", Shape::Flag},
-    ColumnWords{"AutoDeductLunchLength", "lunch", Shape::Plain},
-    ColumnWords{"AutoDeductBreakLength", "break", Shape::Plain},
-    ColumnWords{"period_length", "period length", Shape::Plain},
-    ColumnWords{"auto_shift_start_time", "start of the automatic shift", Shape::Moment},
-    ColumnWords{"auto_shift_end_time", "end of the automatic shift", Shape::Moment},
-    ColumnWords{"long_shift_hours", "longest usual shift", Shape::Plain},
-    ColumnWords{"first_weekday", "first day of the work week", Shape::Plain},
-    ColumnWords{"show_notices", "showing notices", Shape::Flag},
-};
-
-ColumnWords WordsOf(std::string_view column)
-{
-    const auto* found = std::find_if(kColumns.begin(), kColumns.end(), [&](const ColumnWords& words) { return words.column == column; });
-    return found == kColumns.end() ? ColumnWords{column, nullptr, Shape::Plain} : *found;
-}
-
-// The seconds are told only where there are any: nobody types them.
-std::string MomentText(DateTime moment, Shape shape)
-{
-    if (moment.IsZero()) {
-        return "none";
-    }
-    if (shape == Shape::Day && moment == DateTime(moment.Date())) {
-        return FormatDateTime(moment, "mm/dd/yyyy");
-    }
-    const char* const time = moment.Time().second == 0 ? "hh:mm AM/PM" : "hh:mm:ss AM/PM";
-    return moment.DayNumber() == 0 ? FormatDateTime(moment, time) : FormatDateTime(moment, std::string("mm/dd/yyyy ") + time);
-}
+constexpr auto kAnotherProgram = "another program";
 
 // Numbers come with 17 digits; people know them with those that they typed.
 std::string NumberText(const std::string& digits)
@@ -92,10 +20,10 @@ std::string NumberText(const std::string& digits)
     return digits.find('.') == std::string::npos ? digits : SingleText(ToSingle(digits));
 }
 
-std::string ValueText(const TrailValue& value, Shape shape, const NameOfEmployee& nameOf)
+std::string ValueText(const TrailValue& value, ColumnShape shape, const NameOfEmployee& nameOf)
 {
     using Kind = TrailValue::Kind;
-    const bool isTime = shape == Shape::Moment || shape == Shape::Day;
+    const bool isTime = shape == ColumnShape::Moment || shape == ColumnShape::Day;
     if (value.kind == Kind::Null && isTime) {
         return "none";
     }
@@ -105,10 +33,10 @@ std::string ValueText(const TrailValue& value, Shape shape, const NameOfEmployee
     if (value.kind == Kind::Bytes) {
         return "bytes";
     }
-    if (shape == Shape::Flag && value.kind == Kind::Number) {
+    if (shape == ColumnShape::Flag && value.kind == Kind::Number) {
         return value.text == "0" ? "no" : "yes";
     }
-    if (shape == Shape::Employee && value.kind == Kind::Number) {
+    if (shape == ColumnShape::Employee && value.kind == Kind::Number) {
         const std::string name = nameOf(std::strtoll(value.text.c_str(), nullptr, 10));
         return name.empty() ? value.text : name;
     }
@@ -184,7 +112,18 @@ std::string WholeRow(const TrailEntry& entry, const std::optional<TrailRow>& row
     return entry.table == "Company" ? TextIn(row, "Name", nameOf) + " " : "";
 }
 
-std::string Sentence(const TrailEntry& entry, const NameOfEmployee& nameOf)
+// Of no row: the database as a whole.
+bool IsWhole(const TrailEntry& entry)
+{
+    return entry.action == "restore" || entry.action == "import";
+}
+
+bool IsOfEmployee(const TrailEntry& entry)
+{
+    return !IsWhole(entry) && (entry.table == "TimeRecord" || entry.table == "Employee");
+}
+
+std::string Deed(const TrailEntry& entry, const NameOfEmployee& nameOf)
 {
     if (entry.action == "restore") {
         return "Database restored from " + (entry.after ? PlainTextIn(*entry.after, "file") : std::string());
@@ -192,21 +131,49 @@ std::string Sentence(const TrailEntry& entry, const NameOfEmployee& nameOf)
     if (entry.action == "import") {
         return "Records of the former program imported";
     }
-    const std::string start = Subject(entry, nameOf) + ": ";
     if (entry.before && entry.after) {
-        return start + ChangesText(entry, nameOf);
+        return ChangesText(entry, nameOf);
     }
-    return start + WholeRow(entry, entry.after ? entry.after : entry.before, nameOf) + (entry.after ? "added" : "deleted");
+    return WholeRow(entry, entry.after ? entry.after : entry.before, nameOf) + (entry.after ? "added" : "deleted");
+}
+
+std::string OneLine(std::string text)
+{
+    const auto isControl = [](char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7F'; };
+    std::replace_if(text.begin(), text.end(), isControl, '?');
+    return text;
 }
 
 } // namespace
 
 std::string EntrySentence(const TrailEntry& entry, const NameOfEmployee& nameOf)
 {
-    std::string sentence = Sentence(entry, nameOf);
-    const auto isControl = [](char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7F'; };
-    std::replace_if(sentence.begin(), sentence.end(), isControl, '?');
-    return sentence;
+    return OneLine((IsWhole(entry) ? "" : Subject(entry, nameOf) + ": ") + Deed(entry, nameOf));
+}
+
+std::string EntryEmployee(const TrailEntry& entry, const NameOfEmployee& nameOf)
+{
+    return IsOfEmployee(entry) ? OneLine(EmployeeName(entry, nameOf)) : "";
+}
+
+std::string EntryDeed(const TrailEntry& entry, const NameOfEmployee& nameOf)
+{
+    if (!IsOfEmployee(entry)) {
+        return EntrySentence(entry, nameOf);
+    }
+    const bool wholeEmployee = entry.table == "Employee" && !(entry.before && entry.after);
+    return (wholeEmployee ? "employee " : "") + OneLine(Deed(entry, nameOf));
+}
+
+std::string EntryPerson(const TrailEntry& entry)
+{
+    return entry.by.empty() ? kAnotherProgram : OneLine(entry.by);
+}
+
+std::string EntryMoment(const TrailEntry& entry)
+{
+    const auto moment = ParseDateTime(entry.at);
+    return moment ? FormatDateTime(*moment, "mm/dd/yyyy hh:mm:ss AM/PM") : OneLine(entry.at);
 }
 
 std::string RecordMoment(const TrailEntry& entry)

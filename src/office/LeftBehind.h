@@ -8,7 +8,8 @@
 
 namespace ptk {
 
-// `Texts` holds a page as texts and flags, compares with ==, and has the texts `id`, empty for a new record, and `name`.
+// `Texts` holds a page as texts and flags, visits them with ForEachField, compares with ==, and has the texts `id`, empty for a new record,
+// and `name`.
 template <typename Texts>
 struct LeftBehind
 {
@@ -52,6 +53,27 @@ private:
     Texts m_shown;
     Texts m_typed; // of use for the lists only
 };
+
+// What was typed, put over what the record is by now: somebody else's change of another field stays.
+template <typename Texts>
+[[nodiscard]] Texts TypedOver(const LeftBehind<Texts>& left, Texts present)
+{
+    Texts::ForEachField([&](auto field) {
+        if (left.typed.*field != left.shown.*field) {
+            present.*field = left.typed.*field;
+        }
+    });
+    return present;
+}
+
+// As a new record, of one that somebody else removed.
+template <typename Texts>
+[[nodiscard]] LeftBehind<Texts> AsNew(LeftBehind<Texts> left)
+{
+    left.shown = {};
+    left.typed.id.clear();
+    return left;
+}
 
 // "Changes to Ann Lee were not saved", "Bo Kim was not saved" for a new one.
 template <typename Texts>

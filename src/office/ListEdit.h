@@ -22,7 +22,8 @@ enum class ListSave
 {
     Saved,
     NotInserted,
-    Failed
+    Failed,
+    Conflict // somebody else changed or removed it: see the list's own Conflict
 };
 
 // The 1-based position of the first entity that satisfies it, or 0.
@@ -73,7 +74,7 @@ template <typename List, typename Entity>
             return ListSave::Saved;
         }
         list.Remove(position);
-        result = ListSave::Failed;
+        result = list.Conflict() ? ListSave::Conflict : ListSave::Failed;
     }
     if (original != nullptr) {
         list.Insert(original, position);
@@ -81,9 +82,9 @@ template <typename List, typename Entity>
     return result;
 }
 
-// Whether the copy was saved; tells `notSaved` where the database refused. A list that does not take the copy is passed over in silence.
+// Tells `notSaved` where the database refused, a conflict excepted. A list that does not take the copy is passed over in silence.
 template <typename List, typename Entity>
-[[nodiscard]] bool SaveOrTell(Desktop& desktop, List& list, const EditedCopy<Entity>& edited, const char* notSaved)
+[[nodiscard]] ListSave SaveOrTell(Desktop& desktop, List& list, const EditedCopy<Entity>& edited, const char* notSaved)
 {
     const ListSave result = [&] {
         const BusyPointer busy(desktop);
@@ -92,7 +93,7 @@ template <typename List, typename Entity>
     if (result == ListSave::Failed) {
         desktop.Show(notSaved, listedit::kSaveTitle, Icon::Exclamation);
     }
-    return result == ListSave::Saved;
+    return result;
 }
 
 } // namespace ptk

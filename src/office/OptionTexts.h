@@ -17,6 +17,15 @@ struct OptionTexts
     std::string periodLength;
     std::string autoShiftStart;
     std::string autoShiftEnd;
+
+    // With a pointer to each member.
+    template <typename Visit>
+    static void ForEachField(Visit visit)
+    {
+        for (std::string OptionTexts::*text : {&OptionTexts::periodLength, &OptionTexts::autoShiftStart, &OptionTexts::autoShiftEnd}) {
+            visit(text);
+        }
+    }
 };
 
 [[nodiscard]] OptionTexts ShowOptions(const CSystemOptions& options);
@@ -38,6 +47,14 @@ struct LimitTexts
     bool showNotices = true;
 
     bool operator==(const LimitTexts&) const = default;
+
+    template <typename Visit>
+    static void ForEachField(Visit visit)
+    {
+        visit(&LimitTexts::longShiftHours);
+        visit(&LimitTexts::firstWeekday);
+        visit(&LimitTexts::showNotices);
+    }
 };
 
 [[nodiscard]] LimitTexts ShowLimits(const CheckLimits& limits);

@@ -1,6 +1,7 @@
 #include "office/OverviewTable.h"
 
 #include "office/CardTexts.h"
+#include "platform/DataText.h"
 #include "platform/Text.h"
 
 #include <algorithm>
@@ -21,12 +22,6 @@ std::string OneLine(std::string text)
     std::replace_if(
         text.begin(), text.end(), [](char c) { return c == '\r' || c == '\n' || c == '\t'; }, ' ');
     return text;
-}
-
-// Figures are plain numbers and need none of this.
-std::string NoFormula(const std::string& name)
-{
-    return name.find_first_of("=+-@") == 0 ? '\'' + name : name;
 }
 
 std::optional<double> Figure(const OverviewRow& row, std::string CardFigures::*figure)
@@ -107,7 +102,7 @@ std::string TabSeparated(const std::vector<OverviewCells>& lines)
 {
     std::string text;
     for (const OverviewCells& cells : lines) {
-        text += NoFormula(cells.front());
+        text += NoFormula(cells.front()); // the figures are plain numbers
         for (std::size_t i = 1; i < cells.size(); ++i) {
             text += '\t' + cells.at(i);
         }

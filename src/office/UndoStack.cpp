@@ -10,7 +10,6 @@
 
 #include <algorithm>
 #include <fmt/format.h>
-#include <ranges>
 
 namespace ptk {
 
@@ -68,12 +67,12 @@ UndoStack::UndoStack(std::shared_ptr<CJetDB> database) : m_database(std::move(da
 
 std::string UndoStack::UndoText() const
 {
-    return Titled(kUndo, m_done.empty() ? std::string() : m_done.back().text);
+    return Titled(kUndo, m_done.empty() ? std::string() : m_done.back().told.text);
 }
 
 std::string UndoStack::RedoText() const
 {
-    return Titled(kRedo, m_undone.empty() ? std::string() : m_undone.back().text);
+    return Titled(kRedo, m_undone.empty() ? std::string() : m_undone.back().told.text);
 }
 
 bool UndoStack::Remember()
@@ -106,12 +105,13 @@ void UndoStack::Take(const std::vector<TrailEntry>& entries)
 UndoStack::Step UndoStack::StepOf(const std::vector<TrailEntry>& entries) const
 {
     Step step;
-    step.text = TextOf(entries);
+    const TrailEntry& first = entries.back();
+    step.told = {TextOf(entries), first.table, *first.row, first.employee};
     step.lastEntry = entries.front().id;
-    for (const TrailEntry& entry : std::views::reverse(entries)) {
+    std::for_each(entries.rbegin(), entries.rend(), [&](const TrailEntry& entry) {
         RowChange& change = step.changes.emplace_back(RowChange{entry.table, *entry.row, entry.before, entry.after});
         step.complete = PutPasswords(entry, change) && step.complete;
-    }
+    });
     return step;
 }
 
@@ -185,7 +185,7 @@ bool UndoStack::Move(std::vector<Step>& from, std::vector<Step>& to, const char*
     }
     Step step = from.back();
     if (!step.complete) {
-        m_refusal = fmt::format("\"{}\" was not {}: the former password is not known.", step.text, word);
+        m_refusal = fmt::format("\"{}\" was not {}: the former password is not known.", step.told.text, word);
         return false;
     }
     step.changes = Inverse(step.changes);
@@ -195,11 +195,12 @@ bool UndoStack::Move(std::vector<Step>& from, std::vector<Step>& to, const char*
     });
     if (!done) {
         m_refusal = m_database->Conflict()
-                        ? fmt::format("\"{}\" was not {}: somebody else changed or uses what it is about.", step.text, word)
-                        : fmt::format("\"{}\" was not {}: {}.", step.text, word, m_database->LastFailure().Description());
+                        ? fmt::format("\"{}\" was not {}: somebody else changed or uses what it is about.", step.told.text, word)
+                        : fmt::format("\"{}\" was not {}: {}.", step.told.text, word, m_database->LastFailure().Description());
         return false;
     }
     m_ours.insert(m_database->LastStep());
+    m_moved = step.told;
     from.pop_back();
     to.push_back(std::move(step));
     return true;

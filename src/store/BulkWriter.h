@@ -25,6 +25,9 @@ public:
     std::int32_t AddEmployee(const EmployeeRow& employee);
     std::int32_t AddTimeRecord(const TimeRecordRow& record);
 
+    // The account that every new database holds: nobody can log in with it any more.
+    void CloseShippedAccount();
+
     // On disk when it returns.
     void Commit();
 

@@ -137,7 +137,7 @@ bool CJetDB::OpenFile(const std::string& name)
     const auto open = [&] {
         const std::string path = NativePath(name).string();
         if (m_database == nullptr || m_database->Path() != path || !m_database->Reopen()) {
-            m_database = std::make_unique<Engine>(path);
+            m_database = std::make_unique<Engine>(path, m_whenHeld);
             Prepare(*m_database);
         }
     };

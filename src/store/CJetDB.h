@@ -5,6 +5,7 @@
 #include "platform/ErrorNumbers.h"
 #include "platform/Failure.h"
 #include "store/engine/EditTrail.h"
+#include "store/engine/WhenHeld.h"
 #include "store/RowConflict.h"
 #include "store/Rows.h"
 
@@ -31,7 +32,7 @@ struct TimeRecordWrite
     std::optional<TimeRecordRow> asRead;
 };
 
-// A password that an operation set. The edit trail says no more than that.
+// A password that an operation set, be it the same. The edit trail says no more than that it changed.
 struct PasswordChange
 {
     std::int64_t step = 0;
@@ -116,6 +117,9 @@ public:
 
     // Another access to the same file, closed, that knows nothing of earlier failures. Author, steps and passwords are one for both.
     [[nodiscard]] std::shared_ptr<CJetDB> Afresh() const;
+
+    // From now on a file that somebody else has is not waited for: for questions that can as well be asked later.
+    void DoNotWait() { m_whenHeld = WhenHeld::Refuse; }
 
     // Opens the file that the locator found. An empty path opens nothing, answers false and leaves ErrorNumber alone.
     bool OpenPTKDatabase(const std::shared_ptr<CDatabaseLocator>& thedatabaselocator);
@@ -232,6 +236,7 @@ private:
     std::int32_t m_steps = 0;      // of those that live
     std::int64_t m_stepNumber = 0; // theirs, once something was stored
     std::int32_t m_holds = 0;
+    WhenHeld m_whenHeld = WhenHeld::Wait;
     Failure m_holdFailure{0, "", ""}; // why the file that is to be held is not
     std::string m_programFolder;
 };

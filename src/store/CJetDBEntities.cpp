@@ -31,11 +31,10 @@ std::string HasDisplayName(const std::string& name)
 
 } // namespace
 
+// Also an empty one, and one that took the place of none at all: the trail tells only that it changed.
 void CJetDB::RememberPassword(std::int32_t employeeID, const std::string& before, const std::string& after)
 {
-    if (before != after) {
-        m_memory->passwords.push_back({m_memory->lastStep, employeeID, before, after});
-    }
+    m_memory->passwords.push_back({m_memory->lastStep, employeeID, before, after});
 }
 
 bool CJetDB::AddNewEmployee(const EmployeeRow& theemployee)

@@ -2,11 +2,12 @@
 
 #include "platform/Failure.h"
 #include "store/CJetDB.h"
+#include "store/engine/Engine.h"
 #include "store/engine/RecordSet.h"
+#include "store/RowConflict.h"
 
 #include <fmt/format.h>
 #include <limits>
-#include <vector>
 
 namespace ptk {
 
@@ -50,32 +51,44 @@ CheckLimits LimitsOf(const RecordSet& row)
     return limits;
 }
 
+// `prepare` makes a statement of a text.
+template <typename Prepare>
+CheckLimits StoredLimits(Prepare prepare)
+{
+    if (prepare(kFindTable)->ReadRows()->EndOfFile()) {
+        return {};
+    }
+    const auto row = prepare(kSelect)->ReadRows();
+    return row->EndOfFile() ? CheckLimits() : LimitsOf(*row);
+}
+
+void Update(Engine& engine, const CheckLimits& limits)
+{
+    engine.Run(kCreate);
+    engine.Run(kAddRow);
+    engine.Run(fmt::format("UPDATE _CheckLimits SET long_shift_hours = {}, first_weekday = {}, show_notices = {}", limits.longShiftHours,
+                           limits.firstWeekday, limits.showNotices ? 1 : 0));
+}
+
 } // namespace
 
 CheckLimits LoadCheckLimits(const std::shared_ptr<CJetDB>& database)
 {
     const CJetDB::Hold hold(database);
     RequireOpen(*database);
-    if (database->ExecuteSelect(kFindTable) == nullptr) {
-        throw database->LastFailure();
-    }
-    if (database->RecSet()->EndOfFile()) {
-        return {};
-    }
-    if (database->ExecuteSelect(kSelect) == nullptr) {
-        throw database->LastFailure();
-    }
-    const RecordSet& row = *database->RecSet();
-    return row.EndOfFile() ? CheckLimits() : LimitsOf(row);
+    return StoredLimits([&](const char* sql) { return RequireSelect(*database, sql); });
 }
 
-bool SaveCheckLimits(const std::shared_ptr<CJetDB>& database, const CheckLimits& limits)
+bool SaveCheckLimits(const std::shared_ptr<CJetDB>& database, const CheckLimits& limits, const CheckLimits& asRead)
 {
-    const std::vector<std::string> statements{
-        kCreate, kAddRow,
-        fmt::format("UPDATE _CheckLimits SET long_shift_hours = {}, first_weekday = {}, show_notices = {}", limits.longShiftHours,
-                    limits.firstWeekday, limits.showNotices ? 1 : 0)};
-    return database->ExecuteActions(statements);
+    return database->ExecuteSteps([&](Engine& engine) {
+        const CheckLimits present = StoredLimits([&](const char* sql) { return engine.Prepare(sql); });
+        if (limits == present || limits == asRead) {
+            return;
+        }
+        RequireAsRead(present, asRead);
+        Update(engine, limits);
+    });
 }
 
 } // namespace ptk

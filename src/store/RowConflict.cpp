@@ -219,4 +219,14 @@ void RequireAsRead(const OptionsRow& present, const OptionsRow& read)
                 .Found());
 }
 
+void RequireAsRead(const CheckLimits& present, const CheckLimits& read)
+{
+    Require("_CheckLimits", 0,
+            Comparison(read, present)
+                .Of("long_shift_hours", &CheckLimits::longShiftHours)
+                .Of("first_weekday", &CheckLimits::firstWeekday)
+                .Of("show_notices", &CheckLimits::showNotices)
+                .Found());
+}
+
 } // namespace ptk

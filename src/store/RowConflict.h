@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/Failure.h"
+#include "store/CheckLimits.h"
 #include "store/Rows.h"
 
 #include <cstdint>
@@ -25,7 +26,7 @@ struct FieldDifference
 struct RowConflict
 {
     std::string table;
-    std::int32_t key = 0;                     // 0 for the options
+    std::int32_t key = 0;                     // 0 for the options and limits
     std::vector<FieldDifference> differences; // none for a row that is no more
 
     [[nodiscard]] bool Removed() const { return differences.empty(); }
@@ -53,5 +54,6 @@ void RequireAsRead(Engine& engine, const TimeRecordRow& read);
 // What the options are now.
 [[nodiscard]] OptionsRow PresentOptions(Engine& engine);
 void RequireAsRead(const OptionsRow& present, const OptionsRow& read);
+void RequireAsRead(const CheckLimits& present, const CheckLimits& read);
 
 } // namespace ptk

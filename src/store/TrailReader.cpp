@@ -1,69 +1,23 @@
 #include "store/TrailReader.h"
 
-#include "platform/Text.h"
 #include "store/CJetDB.h"
 #include "store/engine/RecordSet.h"
 #include "store/engine/Statement.h"
+#include "store/TrailSQL.h"
 
 #include <algorithm>
-#include <fmt/format.h>
 
 namespace ptk {
 
 namespace {
 
-// Whatever another tool put there, what is read has these kinds: numbers, or texts, or a null.
-constexpr const char* kColumns = "ChangeID, ChangedAt, ChangedBy, Program, Step, TableName, RowID, Action, "
-                                 "CASE WHEN json_valid(Before) THEN Before END, CASE WHEN json_valid(After) THEN After END, "
-                                 "IFNULL(EmployeeAfter, EmployeeBefore)";
 constexpr const char* kFields = "SELECT key, type, CASE type WHEN 'real' THEN printf('%!.17g', atom) WHEN 'object' THEN "
                                 "json_extract(value, '$.blob') ELSE atom END FROM json_each(:json)";
 
-enum Column
-{
-    kId,
-    kAt,
-    kBy,
-    kProgram,
-    kStep,
-    kTable,
-    kRow,
-    kAction,
-    kBefore,
-    kAfter,
-    kEmployee
-};
-
-std::string Conditions(const TrailQuery& query)
-{
-    std::string sql = "ChangeID > :newer";
-    sql += query.from ? " AND ChangedAt >= :from" : "";
-    sql += query.to ? " AND ChangedAt < :behind" : "";
-    sql += query.step ? " AND Step = :step" : "";
-    sql += query.table.empty() ? "" : " AND TableName = :table";
-    return sql;
-}
-
-void Bind(Statement& statement, const TrailQuery& query)
-{
-    const auto day = [](DateTime date) { return FormatDateTime(date, "yyyy-mm-dd"); };
-    statement.Bind("newer", std::to_string(query.newerThan));
-    if (query.employee) {
-        statement.Bind("employee", std::to_string(*query.employee));
-    }
-    if (query.from) {
-        statement.Bind("from", day(*query.from));
-    }
-    if (query.to) { // "~" lies behind every time of that day
-        statement.Bind("behind", day(*query.to) + "~");
-    }
-    if (query.step) {
-        statement.Bind("step", std::to_string(*query.step));
-    }
-    if (!query.table.empty()) {
-        statement.Bind("table", query.table);
-    }
-}
+// From one person to the next by their index, however many entries each has.
+constexpr const char* kPersons = "WITH RECURSIVE Person (name) AS (SELECT MIN(ChangedBy) FROM _Change WHERE ChangedBy > '' UNION ALL "
+                                 "SELECT (SELECT MIN(ChangedBy) FROM _Change WHERE ChangedBy > name) FROM Person WHERE name IS NOT NULL) "
+                                 "SELECT CAST(name AS TEXT) FROM Person WHERE name IS NOT NULL";
 
 std::string TextOf(const Statement& row, int column)
 {
@@ -110,6 +64,7 @@ private:
 TrailEntry EntryOf(const Statement& row, RowParser& parser)
 {
     TrailEntry entry;
+    using namespace trailsql;
     entry.id = row.Int64At(kId);
     entry.at = TextOf(row, kAt);
     entry.by = TextOf(row, kBy);
@@ -141,18 +96,6 @@ const TrailValue* ValueOf(const TrailRow& row, std::string_view column)
     return found == row.end() ? nullptr : &*found;
 }
 
-// The two halves find each entry once, each by its own index and in the order of the numbers.
-std::string TrailSql(const TrailQuery& query)
-{
-    const std::string select = fmt::format("SELECT {} FROM _Change WHERE {}", kColumns, Conditions(query));
-    const std::string end = fmt::format(" ORDER BY 1 DESC LIMIT {}", query.most);
-    if (!query.employee) {
-        return select + end;
-    }
-    return select + " AND EmployeeAfter = CAST(:employee AS INTEGER) UNION ALL " + select +
-           " AND EmployeeBefore = CAST(:employee AS INTEGER) AND EmployeeBefore IS NOT EmployeeAfter" + end;
-}
-
 void ReadTrail(const std::shared_ptr<CJetDB>& database, const TrailQuery& query, const std::function<void(const TrailEntry&)>& take)
 {
     const CJetDB::Hold hold(database);
@@ -162,7 +105,7 @@ void ReadTrail(const std::shared_ptr<CJetDB>& database, const TrailQuery& query,
     }
     RowParser parser(*database);
     const auto entries = RequireSelect(*database, TrailSql(query));
-    Bind(*entries, query);
+    BindTrail(*entries, query);
     entries->ForEachRow([&] { take(EntryOf(*entries, parser)); });
 }
 
@@ -171,6 +114,18 @@ std::vector<TrailEntry> ReadTrail(const std::shared_ptr<CJetDB>& database, const
     std::vector<TrailEntry> entries;
     ReadTrail(database, query, [&](const TrailEntry& entry) { entries.push_back(entry); });
     return entries;
+}
+
+std::vector<std::string> ReadTrailPersons(const std::shared_ptr<CJetDB>& database)
+{
+    const CJetDB::Hold hold(database);
+    RequireOpen(*database);
+    std::vector<std::string> persons;
+    if (HasTrail(*database)) {
+        const auto names = RequireSelect(*database, kPersons);
+        names->ForEachRow([&] { persons.emplace_back(names->TextAt(0)); });
+    }
+    return persons;
 }
 
 } // namespace ptk

@@ -52,14 +52,38 @@ struct TrailEntry
     std::optional<std::int64_t> employee; // whose row it is or was, or whose record
 };
 
+enum class TrailKind : std::uint8_t
+{
+    TimeRecords,
+    Employees,
+    Companies,
+    Options, // those of the check, too
+    Whole    // restores and imports
+};
+
+// Days, both included.
+struct TrailDays
+{
+    DateTime first;
+    DateTime last;
+};
+
 struct TrailQuery
 {
     std::optional<std::int64_t> employee; // whose row it is, or whose record it was before or after
     std::optional<DateTime> from;         // days of the change, both included
     std::optional<DateTime> to;
     std::optional<std::int64_t> step;
-    std::int64_t newerThan = 0; // a number of an entry
-    std::string table;          // empty: any
+    std::int64_t newerThan = 0; // numbers of entries
+    std::optional<std::int64_t> olderThan;
+    std::optional<std::string> person; // who changed it; empty: another tool
+    std::optional<TrailKind> kind;
+    std::string action;                               // empty: any
+    std::optional<std::vector<std::int64_t>> records; // time records alone, by their keys
+
+    // Of the employee, all about their own row and about every record that starts or ends in these days, or ever did. REQUIRES: employee.
+    std::optional<TrailDays> recordsIn;
+
     std::int32_t most = std::numeric_limits<std::int32_t>::max();
 };
 
@@ -68,7 +92,7 @@ struct TrailQuery
 void ReadTrail(const std::shared_ptr<CJetDB>& database, const TrailQuery& query, const std::function<void(const TrailEntry&)>& take);
 [[nodiscard]] std::vector<TrailEntry> ReadTrail(const std::shared_ptr<CJetDB>& database, const TrailQuery& query);
 
-// The statement that answers such a query, for a test of its plan.
-[[nodiscard]] std::string TrailSql(const TrailQuery& query);
+// Everybody whom an entry names, in the order of their names. Raises the same.
+[[nodiscard]] std::vector<std::string> ReadTrailPersons(const std::shared_ptr<CJetDB>& database);
 
 } // namespace ptk

@@ -3,18 +3,21 @@
 #include "model/CCompanyList.h"
 #include "model/CEmployeeList.h"
 #include "platform/Succeeds.h"
-#include "shell/CDocLauncher.h"
 #include "startup/CController.h"
 #include "startup/Notices.h"
 #include "ui/BackupMenu.h"
-#include "ui/dialogs/FAbout.h"
+#include "ui/dialogs/HistoryWindow.h"
 #include "ui/dialogs/OverviewWindow.h"
+#include "ui/EditMenu.h"
+#include "ui/HelpMenu.h"
 #include "ui/PageFrame.h"
 #include "ui/pages/CompanyPage.h"
 #include "ui/pages/EmployeePage.h"
 #include "ui/pages/OptionsPage.h"
 #include "ui/pages/ReportsPage.h"
 #include "ui/pages/TimeCardPage.h"
+#include "ui/PageTabs.h"
+#include "ui/RecordPages.h"
 #include "ui/widgets/ElidedLabel.h"
 #include "ui/widgets/NoticeLine.h"
 #include "ui/widgets/ThemeIcon.h"
@@ -25,7 +28,6 @@
 #include <array>
 #include <QCloseEvent>
 #include <QPushButton>
-#include <QShortcut>
 #include <QThread>
 #include <QTimer>
 
@@ -51,20 +53,11 @@ constexpr std::array<Tab, 5> kTabs{{
     {"Company", "  Company Information   ", "Company Information", "company"},
     {"Options", " General Program Options ", "System Options", "options"},
 }};
-constexpr int kTabCount = static_cast<int>(kTabs.size());
 constexpr int kTimeCardTab = 1;
-constexpr int kForward = 1;
-constexpr int kBackward = -1;
 
 constexpr auto kProgramPanel = "PTK - Administrator";
 constexpr int kPanelMargin = 6;
 constexpr auto kFirstStatus = "<object name : ID>";
-
-constexpr auto kGuidePath = "\\documentation\\PTKAdminUserGuide.doc";
-constexpr auto kGuideText = "File: ...\\documentation\\PTKAdminUserGuide.doc\r\n"
-                            "The path to the User's Guide is invalid or not able to be opened by Windows.";
-
-constexpr auto kGuideNotOpened = "The user's guide could not be opened: no program for it took it.";
 
 constexpr auto kBusy = "Not now: reports are being made";
 
@@ -82,18 +75,19 @@ const Tab& TabAt(int index)
 
 FController::FController(std::string programFolder, ptk::Desktop& desktop, const ptk::Clock& clock)
     : m_ui(std::make_unique<Ui::FController>()), m_programFolder(std::move(programFolder)), m_desktop(desktop), m_clock(clock),
-      m_employeeModels(std::make_unique<ptk::EmployeeModels>()), m_reports(std::make_unique<OpenReports>(*this, m_programFolder))
+      m_employeeModels(std::make_unique<ptk::EmployeeModels>()), m_reports(std::make_unique<OpenReports>(*this, m_programFolder)),
+      m_sharedRecords(std::make_unique<ptk::SharedRecords>())
 {
     m_ui->setupUi(this);
     setMinimumSize(kSmallestSize); // the pages scroll below their own size
     BuildPages();
     BuildStatusBar();
     ConnectMenus();
+    ConnectEditMenu();
     ConnectBackups();
     ConnectViewMenu();
     ConnectWindowMenu();
     ConnectTabs();
-    ConnectTabKeys();
     RestorePlace(*this, kPlaceName, kFirstSize);
 }
 
@@ -136,11 +130,20 @@ void FController::BuildStatusBar()
 void FController::ConnectMenus()
 {
     m_ui->mnuFileExit->setIcon(ThemeIcon("exit"));
-    m_ui->mnuHelpAbout->setIcon(ThemeIcon("about"));
-    m_ui->mnuHelpContents->setIcon(ThemeIcon("guide"));
     connect(m_ui->mnuFileExit, &QAction::triggered, this, &FController::Exit);
-    connect(m_ui->mnuHelpAbout, &QAction::triggered, this, &FController::About);
-    connect(m_ui->mnuHelpContents, &QAction::triggered, this, &FController::UsersGuide);
+    auto* help = new HelpMenu(*this, {*m_ui->mnuHelpAbout, *m_ui->mnuHelpContents, *m_ui->mnuHelpShortcuts}, *this, m_programFolder);
+    connect(help, &HelpMenu::Said, this, &FController::Say);
+}
+
+void FController::ConnectEditMenu()
+{
+    const auto isBusy = [this] { return IsBusyInDialog(); };
+    const std::array<RecordPages::Place, 3> places{
+        {{0, "TimeRecord", *m_timeCardPage}, {2, "Employee", *m_employeePage}, {3, "Company", *m_companyPage}}};
+    auto* pages = new RecordPages(*this, {*m_ui->TabStrip, *m_ui->pages, *this, isBusy}, places);
+    auto* menu = new EditMenu(*m_ui->mnuEdit, {*m_ui->mnuEditUndo, *m_ui->mnuEditRedo}, *this, isBusy);
+    connect(menu, &EditMenu::Moved, pages, &RecordPages::ShowMoved);
+    connect(menu, &EditMenu::Said, this, &FController::Say);
 }
 
 void FController::ConnectBackups()
@@ -153,8 +156,12 @@ void FController::ConnectBackups()
 void FController::ConnectViewMenu()
 {
     m_ui->mnuViewOverview->setIcon(ThemeIcon("overview"));
+    m_ui->mnuViewHistory->setIcon(ThemeIcon("history"));
     m_ui->mnuViewHours->setChecked(m_timeCardPage->HoursShown());
     connect(m_ui->mnuViewOverview, &QAction::triggered, this, &FController::ShowOverview);
+    connect(m_ui->mnuViewHistory, &QAction::triggered, this, [this] { ShowHistory({}); });
+    connect(m_ui->mnuViewCardHistory, &QAction::triggered, m_timeCardPage, &TimeCardPage::AskForHistory);
+    connect(m_timeCardPage, &TimeCardPage::HistoryWanted, this, [this](const HistoryScope& scope) { ShowHistory(scope); });
     connect(m_ui->mnuViewHours, &QAction::toggled, m_timeCardPage, &TimeCardPage::ShowHours);
     connect(m_optionsPage, &OptionsPage::LimitsStored, m_timeCardPage, &TimeCardPage::CheckAgain);
 }
@@ -179,51 +186,20 @@ void FController::ConnectTabs()
     };
     connect(strip, &QTabBar::tabBarClicked, this, change);
     connect(strip, &QTabBar::currentChanged, this, change);
-    strip->installEventFilter(this);
-    m_tabsWidth = strip->sizeHint().width();
-}
-
-void FController::ConnectTabKeys()
-{
-    struct Turn
-    {
-        const char* keys;
-        int step;
-    };
-    QTabBar* strip = m_ui->TabStrip;
-    for (const Turn& turn :
-         {Turn{"Ctrl+Tab", kForward}, {"Ctrl+PgDown", kForward}, {"Ctrl+Shift+Tab", kBackward}, {"Ctrl+PgUp", kBackward}}) {
-        connect(new QShortcut(QKeySequence(turn.keys), this), &QShortcut::activated, strip,
-                [strip, step = turn.step] { strip->setCurrentIndex((strip->currentIndex() + step + kTabCount) % kTabCount); });
-    }
-}
-
-// The strip announces a click of every button; only the left one turns a page.
-bool FController::eventFilter(QObject* watched, QEvent* event)
-{
-    const bool press = event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick;
-    return (press && static_cast<QMouseEvent*>(event)->button() != Qt::LeftButton) || QMainWindow::eventFilter(watched, event);
+    m_tabs = new PageTabs(*strip);
 }
 
 void FController::resizeEvent(QResizeEvent* event)
 {
     QMainWindow::resizeEvent(event);
     const QMargins margins = m_ui->layout->contentsMargins();
-    ShowTabIcons(m_tabsWidth <= m_ui->content->width() - margins.left() - margins.right());
-}
-
-void FController::ShowTabIcons(bool shown)
-{
-    for (int tab = 0; tab < kTabCount; ++tab) {
-        if (m_ui->TabStrip->tabIcon(tab).isNull() == shown) {
-            m_ui->TabStrip->setTabIcon(tab, shown ? ThemeIcon(TabAt(tab + 1).icon) : QIcon());
-        }
-    }
+    m_tabs->FitInto(m_ui->content->width() - margins.left() - margins.right());
 }
 
 void FController::Controller(std::shared_ptr<CController> value)
 {
     m_controller = std::move(value);
+    m_sharedRecords->Use(m_controller == nullptr ? nullptr : m_controller->PTKDatabase());
     Load();
     if (m_controller == nullptr) {
         m_errorNumber = windowerror::NoController;
@@ -259,6 +235,8 @@ void FController::ShowRestored(const QString& outcome)
 {
     m_timeCardPage->GiveUpCard();
     m_overview.reset();
+    m_sharedRecords->Use(m_controller->PTKDatabase());
+    m_history.reset();
     ShowAll();
     if (!m_optionsPage->DisplaySystemOptions(m_controller->SystemOptions())) {
         Tell(m_desktop, notice::OptionsUnread);
@@ -386,23 +364,12 @@ void FController::ShowTimeCard(std::int32_t employeeID, const PayPeriod& period)
     m_timeCardPage->ShowCard(employeeID, period);
 }
 
-void FController::About()
+void FController::ShowHistory(const std::optional<HistoryScope>& scope)
 {
-    FAbout(this).exec();
-}
-
-void FController::UsersGuide()
-{
-    CDocLauncher launcher(m_desktop);
-    if (launcher.DisplayDocument(this, m_programFolder + kGuidePath)) {
-        return;
+    if (m_history == nullptr) {
+        m_history = std::make_unique<HistoryWindow>(*this);
     }
-    Log(kGuideNotOpened);
-    if (launcher.ErrorNumber() == docerror::DocumentNotFound) {
-        m_desktop.Show(kGuideText, kNotOpenedTitle, Icon::Exclamation);
-    } else {
-        Say(kGuideNotOpened);
-    }
+    m_history->Open(scope);
 }
 
 // Unloading the window, in the middle of this, runs the whole close path once more; all of it is harmless when repeated.
@@ -425,8 +392,10 @@ void FController::CloseDown(bool keepReview)
     if (!m_optionsPage->SaveSystemOptions()) {
         Tell(m_desktop, notice::OptionsUnsaved);
     }
+    m_sharedRecords->Use(nullptr);
     m_timeCardPage->GiveUpCard();
     m_overview.reset();
+    m_history.reset();
     m_reports->Clear(keepReview);
     const auto controller = m_controller;
     if (controller == nullptr) {

@@ -5,9 +5,11 @@
 #include "startup/Windows.h"
 #include "ui/OpenReports.h"
 #include "ui/pages/PageHost.h"
+#include "ui/SharedRecords.h"
 #include "ui/widgets/EmployeeModels.h"
 
 #include <memory>
+#include <optional>
 #include <QMainWindow>
 #include <string>
 
@@ -23,10 +25,13 @@ class BackupMenu;
 class CompanyPage;
 class CTimeRecord;
 class EmployeePage;
+class HistoryWindow;
 class OptionsPage;
 class OverviewWindow;
+class PageTabs;
 class ReportsPage;
 class TimeCardPage;
+struct HistoryScope;
 struct PayPeriod;
 
 // Must not be destroyed from within its own closing steps, in which the controller lets go of it: delete it later.
@@ -68,11 +73,9 @@ public:
     PeriodTexts TimeCardPeriod() const override;
     ptk::EmployeeModels& EmployeeModels() const override { return *m_employeeModels; }
     OpenReports& Reports() const override { return *m_reports; }
+    ptk::SharedRecords& SharedRecords() const override { return *m_sharedRecords; }
 
 protected:
-    // Of the tab strip.
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
     void resizeEvent(QResizeEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -82,11 +85,11 @@ private:
     void AddPage(int index, QWidget* page);
     void BuildStatusBar();
     void ConnectMenus();
+    void ConnectEditMenu();
     void ConnectBackups();
     void ConnectViewMenu();
     void ConnectWindowMenu();
     void ConnectTabs();
-    void ConnectTabKeys();
 
     void Load();
     bool InitializeTabPages();
@@ -98,17 +101,15 @@ private:
 
     void ChangeTab(int index);
     bool ShowTabPage(int index);
-    void ShowTabIcons(bool shown);
 
     // In the shown page's line.
     void Say(const QString& text);
 
     void ShowOverview();
     void ShowTimeCard(std::int32_t employeeID, const PayPeriod& period);
+    void ShowHistory(const std::optional<HistoryScope>& scope);
 
     void Exit();
-    void About();
-    void UsersGuide();
     void CloseDown(bool keepReview);
     [[nodiscard]] bool IsBusyInDialog() const;
 
@@ -118,22 +119,24 @@ private:
     const ptk::Clock& m_clock;
     std::unique_ptr<ptk::EmployeeModels> m_employeeModels;
     std::unique_ptr<OpenReports> m_reports;
+    std::unique_ptr<ptk::SharedRecords> m_sharedRecords;
 
     std::shared_ptr<CController> m_controller;
     std::int16_t m_lastTab = 0; // chosen on the tab strip, 1 to 5; 0 before the first choice
     std::int32_t m_errorNumber = 0;
     std::int32_t m_eventSource = eventsource::None;
-    int m_tabsWidth = 0; // of the tabs with their icons
     bool m_loaded = false;
     bool m_closing = false;
 
     BackupMenu* m_backups = nullptr;
+    PageTabs* m_tabs = nullptr;
     TimeCardPage* m_timeCardPage = nullptr; // the pages belong to the window's widgets
     ReportsPage* m_reportsPage = nullptr;
     EmployeePage* m_employeePage = nullptr;
     CompanyPage* m_companyPage = nullptr;
     OptionsPage* m_optionsPage = nullptr;
-    std::unique_ptr<OverviewWindow> m_overview; // nullptr until it is asked for
+    std::unique_ptr<OverviewWindow> m_overview; // these two: nullptr until they are asked for
+    std::unique_ptr<HistoryWindow> m_history;
     QLabel* m_statusText = nullptr;
 };
 

@@ -20,6 +20,11 @@ constexpr auto kDeleteLater = [](QObject* window) { window->deleteLater(); };
 QtWindowFactory::QtWindowFactory(std::string programFolder, Desktop& desktop, const Clock& clock)
     : m_programFolder(std::move(programFolder)), m_desktop(desktop), m_clock(clock)
 {
+    DressWindows();
+}
+
+void QtWindowFactory::DressWindows()
+{
     QApplication::setWindowIcon(ThemeIcon("ptk-admin"));
     QApplication::setStyle(new AiryStyle);
 }

@@ -17,6 +17,9 @@ class QtWindowFactory final : public WindowFactory
 public:
     QtWindowFactory(std::string programFolder, Desktop& desktop, const Clock& clock);
 
+    // All windows of the program, also those that come up before any factory: their icon and style.
+    static void DressWindows();
+
     std::shared_ptr<LoginWindow> CreateLoginWindow() override;
     std::shared_ptr<MainWindow> CreateMainWindow() override;
     std::shared_ptr<RestoreWindow> CreateRestoreWindow() override;

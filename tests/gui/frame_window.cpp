@@ -113,6 +113,22 @@ TEST_F(MainWindowTest, ShowsTheAboutBox)
     Find<QAction>(Main(), "mnuHelpAbout").trigger();
 }
 
+TEST_F(MainWindowTest, ListsTheKeysOfItsMenusAndOfTheRest)
+{
+    const ExpectedModal list([](QDialog& window) {
+        const auto& table = Find<QTableWidget>(window, "grdShortcuts");
+        const auto keysOf = [&](const QString& what) {
+            const auto found = table.findItems(what, Qt::MatchExactly);
+            return found.size() == 1 ? table.item(found.first()->row(), 1)->text() : QString::number(found.size());
+        };
+        EXPECT_EQ(keysOf("Payday Overview"), "F9");
+        EXPECT_EQ(keysOf("Undo"), "Ctrl+Z");
+        EXPECT_EQ(keysOf("Delete the chosen record"), "Delete");
+        Click(window, "cmdClose");
+    });
+    Find<QAction>(Main(), "mnuHelpShortcuts").trigger();
+}
+
 TEST_F(MainWindowTest, OpensTheGuideAndTellsOnlyWhenItIsMissing)
 {
     program.desktop.shellCodes = {ShellSuccess + 1, ShellFileNotFound, ShellNoProgram};

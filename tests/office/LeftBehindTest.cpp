@@ -61,6 +61,15 @@ TEST(TypedTextsTest, WhatWasBroughtBackIsStillUnsaved)
     EXPECT_EQ(texts.LeftByChoice(Company("1", "Birch", ""), &CompanyTexts::name)->typed, Company("1", "Oak", ""));
 }
 
+TEST(TypedTextsTest, WhatIsBroughtBackLeavesOthersChangesAlone)
+{
+    const LeftBehind<CompanyTexts> left{Company("1", "Acorn", "Harbor"), Company("1", "Oak", "Harbor")};
+    EXPECT_EQ(TypedOver(left, Company("1", "Ash", "Quay")), Company("1", "Oak", "Quay"));
+    const auto removed = AsNew(left);
+    EXPECT_EQ(NoticeOf(removed), "Oak was not saved");
+    EXPECT_EQ(removed.typed, Company("", "Oak", "Harbor"));
+}
+
 } // namespace
 
 } // namespace ptk

@@ -102,7 +102,7 @@ TEST_F(OverviewTest, StopsWhenItIsToldToAndLetsTheFileGo)
 
 TEST_F(OverviewTest, ReadsOnInStepsBetweenWhichTheFileIsFree)
 {
-    ASSERT_TRUE(SaveCheckLimits(m_database, {4, 1, false}));
+    ASSERT_TRUE(SaveCheckLimits(m_database, {4, 1, false}, {}));
     OverviewReading reading(m_database, OfferedEmployees(*m_employees), kPeriod, kNow);
     EXPECT_FALSE(reading.IsDone());
     reading.ReadOn([] { return false; });

@@ -123,13 +123,31 @@ TEST_F(SystemShellTest, DoesNotWaitForASpoolerThatHangsNorForAnOpenerThatStays)
     EXPECT_EQ(RunSystemShell(ShellVerb::Print, document), ShellNoProgram);
 }
 
-TEST(ProgramFolderTest, TakesTheOptionThenTheVariableThenTheExecutable)
+TEST(ProgramFolderTest, TakesTheOptionTheVariableTheExecutablesTheRememberedThenTheUsersOwn)
 {
+    const TemporaryFolder home;
     ::setenv("PTK_PROGRAM_FOLDER", "/srv/ptk/", 1);
-    EXPECT_EQ(FindProgramFolder("/opt/ptk//"), "/opt/ptk");
-    EXPECT_EQ(FindProgramFolder(""), "/srv/ptk");
+    ::setenv("HOME", home.Path().c_str(), 1);
+    ::setenv("XDG_DATA_HOME", "/data", 1);
+    ::setenv("XDG_CONFIG_HOME", "relative paths count for nothing", 1);
+    const auto found = [](const std::string& option) {
+        const ProgramFolder folder = FindProgramFolder(option);
+        return (folder.named ? "named " : "own ") + folder.path;
+    };
+    EXPECT_EQ(found("/opt/ptk//"), "named /opt/ptk");
+    EXPECT_EQ(found(""), "named /srv/ptk");
     ::unsetenv("PTK_PROGRAM_FOLDER");
-    EXPECT_EQ(FindProgramFolder(""), std::filesystem::read_symlink("/proc/self/exe").parent_path().string());
+    EXPECT_EQ(found(""), "own /data/ptk-admin");
+    RememberProgramFolder("/mnt/books");
+    EXPECT_EQ(ReadBytes(home.Path() + "/.config/ptk-admin/program-folder"), "/mnt/books\n");
+    EXPECT_EQ(found(""), "own /mnt/books");
+    ::unsetenv("XDG_DATA_HOME");
+    EXPECT_EQ(UserFolder(), home.Path() + "/.local/share/ptk-admin");
+    const std::string executable = std::filesystem::read_symlink("/proc/self/exe").parent_path().string();
+    std::filesystem::create_directory(executable + "/system");
+    WriteBytes(executable + "/system/ptk_11.cfg", "");
+    EXPECT_EQ(found(""), "named " + executable);
+    std::filesystem::remove_all(executable + "/system");
     EXPECT_EQ(NativePath("/srv\\system\\ptk_11.mdb"), "/srv/system/ptk_11.mdb");
 }
 

@@ -64,13 +64,27 @@ TEST_F(CheckLimitsTest, AreSavedAlsoWhereTheTableOrItsRowIsMissing)
 {
     for (const char* before : {"SELECT 1", "DELETE FROM _CheckLimits", "DROP TABLE _CheckLimits"}) {
         Run(before);
-        EXPECT_TRUE(SaveCheckLimits(m_database, {10, 1, false})) << before;
+        EXPECT_TRUE(SaveCheckLimits(m_database, {10, 1, false}, {})) << before;
         EXPECT_EQ(Rows("SELECT * FROM _CheckLimits"), "10|1|0|") << before;
     }
     Run("DROP TABLE _CheckLimits; CREATE TABLE _CheckLimits (hours)");
-    EXPECT_FALSE(SaveCheckLimits(m_database, {}));
+    EXPECT_FALSE(SaveCheckLimits(m_database, {10, 1, false}, {}));
     EXPECT_EQ(m_database->ErrorNumber(), jetdb::StatementFailed);
     EXPECT_EQ(Rows("SELECT * FROM _CheckLimits"), "") << "nothing half";
+}
+
+TEST_F(CheckLimitsTest, OverwriteNobodyElses)
+{
+    Run("UPDATE _CheckLimits SET long_shift_hours = 12, show_notices = 0");
+    EXPECT_FALSE(SaveCheckLimits(m_database, {10, 0, true}, {}));
+    EXPECT_EQ(m_database->LastFailure().Description(),
+              "_CheckLimits was changed since it was read: long_shift_hours was 16 and is 12 now, show_notices was True and is False now");
+    EXPECT_TRUE(m_database->Conflict().has_value());
+    EXPECT_TRUE(SaveCheckLimits(m_database, {}, {})) << "only somebody else changed them";
+    EXPECT_TRUE(SaveCheckLimits(m_database, {12, 0, false}, {})) << "the same change";
+    EXPECT_EQ(Rows("SELECT * FROM _CheckLimits"), "12|0|0|");
+    EXPECT_TRUE(SaveCheckLimits(m_database, {10, 0, false}, {12, 0, false}));
+    EXPECT_EQ(Rows("SELECT * FROM _CheckLimits"), "10|0|0|");
 }
 
 // The search for the rows that a check needs must not go through the history, and the index behind it must not refuse any value.

@@ -5,6 +5,7 @@
 #include "store/engine/Engine.h"
 #include "store/StoreFixture.h"
 #include "store/TrailReader.h"
+#include "store/TrailSQL.h"
 #include "support/Files.h"
 
 #include <fmt/format.h>
@@ -161,15 +162,115 @@ TEST_F(TrailTest, AnEarlierFileStaysAsItIsWithoutABackupAndLosesNoTableForAMissi
     EXPECT_EQ(Entries("TableName"), "Company|") << "the time records go without";
 }
 
-TEST_F(TrailTest, AnEmployeesEntriesAreFoundByTheirIndexes)
+// What Ann and Bob did to the records 1 to 3 of the employees 40 and 41, and another tool to the options.
+class TrailReaderTest : public TrailTest
 {
-    TrailQuery query;
-    query.employee = 40;
-    const std::string plan = Rows("EXPLAIN QUERY PLAN " + TrailSql(query));
-    EXPECT_NE(plan.find("USING INDEX _ChangeEmployee (EmployeeAfter=?"), std::string::npos) << plan;
-    EXPECT_NE(plan.find("USING INDEX _ChangeEmployeeBefore (EmployeeBefore=?"), std::string::npos) << plan;
-    EXPECT_EQ(plan.find("TEMP B-TREE"), std::string::npos) << plan;
-    EXPECT_EQ(plan.find("SCAN _Change"), std::string::npos) << plan;
+protected:
+    TrailReaderTest()
+    {
+        Write("Ann Lee", "INSERT INTO Employee (FirstName, LastName) VALUES ('Jo', 'Kim')");                                           // 1
+        Write("Ann Lee", "INSERT INTO TimeRecord (EmployeeID, StartTime, EndTime) SELECT 40, #3/5/2003 8:00 AM#, #3/5/2003 5:00 PM#"); // 2
+        Write("Bob Ray", "INSERT INTO TimeRecord (EmployeeID, StartTime, EndTime) SELECT 40, #4/5/2003 8:00 AM#, #4/5/2003 5:00 PM#"); // 3
+        Write("Bob Ray", "UPDATE TimeRecord SET EndTime = #3/5/2003 6:00 PM# WHERE TimeRecordID = 1");                                 // 4
+        Write("Ann Lee", "UPDATE TimeRecord SET EmployeeID = 41 WHERE TimeRecordID = 1");                                              // 5
+        Write("Bob Ray", "UPDATE TimeRecord SET StartTime = #3/6/2003#, EndTime = #3/6/2003 9:00 AM# WHERE TimeRecordID = 2");         // 6
+        Write("Bob Ray", "DELETE FROM TimeRecord WHERE TimeRecordID = 2");                                                             // 7
+        Run("UPDATE _System SET period_length = 7");                                                                                   // 8
+        Write("Bob Ray", "INSERT INTO Company (Name) VALUES ('Ltd')");                                                                 // 9
+        Run("INSERT INTO _Change (Action, ChangedAt, After) VALUES ('restore', '2003-03-05 23:59:59', 'no JSON')");                    // 10
+        Run("UPDATE _Change SET ChangedAt = '2003-03-0' || (ChangeID - 1) || ' 08:00:00' WHERE ChangeID < 10");
+    }
+
+    void Write(const char* person, const std::string& sql)
+    {
+        m_database->StoredBy({person, "ptk-admin"});
+        ASSERT_TRUE(m_database->ExecuteAction(sql)) << m_database->LastFailure().Description();
+    }
+
+    std::string Found(const TrailQuery& query)
+    {
+        std::string numbers;
+        for (const TrailEntry& entry : ReadTrail(m_database, query)) {
+            numbers += std::to_string(entry.id) + " ";
+        }
+        return numbers;
+    }
+};
+
+struct QueryCase
+{
+    const char* name;
+    std::function<void(TrailQuery&)> set;
+    const char* entries;
+    const char* index; // by which they are found; the order of the numbers where it is empty
+};
+
+const QueryCase kQueryCases[] = {
+    {"all", [](TrailQuery&) {}, "10 9 8 7 6 5 4 3 2 1 ", ""},
+    {"a page", [](TrailQuery& query) { query.olderThan = 6, query.most = 2; }, "5 4 ", ""},
+    {"an employee", [](TrailQuery& query) { query.employee = 40; }, "7 6 5 4 3 2 1 ", "_ChangeEmployee (EmployeeAfter=?"},
+    {"whose record it became", [](TrailQuery& query) { query.employee = 41; }, "5 ", "_ChangeEmployeeBefore (EmployeeBefore=?"},
+    {"an employee's page", [](TrailQuery& query) { query.employee = 40, query.olderThan = 6, query.most = 3; }, "5 4 3 ",
+     "_ChangeEmployee (EmployeeAfter=? AND rowid>? AND rowid<?)"},
+    {"a person", [](TrailQuery& query) { query.person = "Bob Ray"; }, "9 7 6 4 3 ", "_ChangePerson (ChangedBy=?"},
+    {"another tool", [](TrailQuery& query) { query.person = ""; }, "10 8 ", ""},
+    {"a person's of an employee", [](TrailQuery& query) { query.person = "Ann Lee", query.employee = 40; }, "5 2 1 ", "_Change"},
+    {"time records", [](TrailQuery& query) { query.kind = TrailKind::TimeRecords; }, "7 6 5 4 3 2 ", ""},
+    {"employees", [](TrailQuery& query) { query.kind = TrailKind::Employees; }, "1 ", "_ChangeOther (TableName=?"},
+    {"companies", [](TrailQuery& query) { query.kind = TrailKind::Companies; }, "9 ", "_ChangeOther (TableName=?"},
+    {"options", [](TrailQuery& query) { query.kind = TrailKind::Options; }, "8 ", "_ChangeOther (TableName=?"},
+    {"whole", [](TrailQuery& query) { query.kind = TrailKind::Whole; }, "10 ", "_ChangeOther (TableName=?"},
+    {"deletions", [](TrailQuery& query) { query.action = "delete"; }, "7 ", ""},
+    {"days",
+     [](TrailQuery& query) {
+         query.from = DateTime({2003, 3, 4}), query.to = DateTime({2003, 3, 5});
+     },
+     "10 6 5 ", ""},
+    {"records",
+     [](TrailQuery& query) {
+         query.records = std::vector<std::int64_t>{1, 7};
+     },
+     "5 4 2 ", "_ChangeRecord (RowID=?"},
+    {"no records", [](TrailQuery& query) { query.records.emplace(); }, "", "_ChangeRecord (RowID=?"},
+    {"what was in days", // the first record is another's now, the second was moved there and deleted
+     [](TrailQuery& query) {
+         query.employee = 40, query.recordsIn = TrailDays{DateTime({2003, 3, 6}), DateTime({2003, 3, 9})};
+     },
+     "7 6 3 1 ", "_ChangeEmployee (EmployeeAfter=?"},
+    {"what is in days",
+     [](TrailQuery& query) {
+         query.employee = 41, query.recordsIn = TrailDays{DateTime({2003, 3, 5}), DateTime({2003, 3, 5})};
+     },
+     "5 ", "_ChangeEmployee (EmployeeAfter=?"},
+};
+
+// A million entries of others cost such a question nothing.
+TEST_F(TrailReaderTest, FindsWhatIsAskedForByItsIndex)
+{
+    for (const QueryCase& c : kQueryCases) {
+        TrailQuery query;
+        c.set(query);
+        EXPECT_EQ(Found(query), c.entries) << c.name;
+        const std::string plan = Rows("EXPLAIN QUERY PLAN " + TrailSql(query));
+        const std::string search = *c.index == '\0' ? "_Change USING INTEGER PRIMARY KEY" : std::string("USING INDEX ") + c.index;
+        EXPECT_NE(plan.find(search), std::string::npos) << c.name << ": " << plan;
+        EXPECT_EQ(plan.find("SCAN _Change"), std::string::npos) << c.name << ": " << plan;
+    }
+}
+
+TEST_F(TrailReaderTest, TellsThePersonsAndNeedsNoIndex)
+{
+    const auto persons = [&] { return ReadTrailPersons(m_database); };
+    EXPECT_EQ(persons(), (std::vector<std::string>{"Ann Lee", "Bob Ray"}));
+    Run("DROP INDEX _ChangePerson; DROP INDEX _ChangeRecord; DROP INDEX _ChangeOther");
+    EXPECT_EQ(persons().size(), 2U) << "a file that was made before";
+    for (const QueryCase& c : kQueryCases) {
+        TrailQuery query;
+        c.set(query);
+        EXPECT_EQ(Found(query), c.entries) << c.name;
+    }
+    Run("DROP TABLE _Session");
+    EXPECT_TRUE(persons().empty()) << "no trail";
 }
 
 } // namespace

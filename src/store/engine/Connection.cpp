@@ -63,8 +63,8 @@ SQLite::Database OpenFile(const std::string& path, Connection::Access access)
 
 } // namespace
 
-Connection::Connection(const std::string& path, Access access)
-    : m_path(PlainPath(path)), m_database(OpenFile(m_path, access)), m_access(access)
+Connection::Connection(const std::string& path, Access access, WhenHeld whenHeld)
+    : m_path(PlainPath(path)), m_database(OpenFile(m_path, access)), m_access(access), m_whenHeld(whenHeld)
 {
     if (FileSize(Handle()) == 0) { // as a device's always is
         RefuseIrregularFile(m_path);
@@ -202,7 +202,10 @@ bool Connection::IsHeld() const
 void Connection::Hold()
 {
     if (!IsHeld()) {
-        m_patientUntil = std::chrono::steady_clock::now() + kPatience;
+        m_patientUntil = std::chrono::steady_clock::now();
+        if (m_whenHeld == WhenHeld::Wait) {
+            m_patientUntil += kPatience;
+        }
         Run("BEGIN EXCLUSIVE");
     }
 }

@@ -1,6 +1,8 @@
 // The engine's handle on one database file and the exclusive hold on it.
 #pragma once
 
+#include "store/engine/WhenHeld.h"
+
 #include <SQLiteCpp/Database.h>
 
 #include "store/engine/StatementCache.h"
@@ -14,7 +16,7 @@
 namespace ptk {
 
 // The hold is a transaction: taken by the constructor, given up by Commit and Release, and taken again by the next Hold. A file in
-// use is waited for, up to one second for each taking.
+// use is waited for, up to one second for each taking, or not at all.
 class Connection
 {
 public:
@@ -27,7 +29,7 @@ public:
     // Opens for reading and writing, exclusively and without ever creating a file. Raises 14 (missing, no regular file), 5 (held by anyone,
     // a reader included, for more than a second), 8 (read-only), 26 (no database, another program's, or of a newer format) or 11 (damaged);
     // another program's file is not touched by that. An empty file passes.
-    explicit Connection(const std::string& path, Access access = Access::Write);
+    explicit Connection(const std::string& path, Access access = Access::Write, WhenHeld whenHeld = WhenHeld::Wait);
     Connection(const Connection&) = delete;
     Connection& operator=(const Connection&) = delete;
 
@@ -106,6 +108,7 @@ private:
     SQLite::Database m_database;
     StatementCache m_prepared; // ends before it
     Access m_access;
+    WhenHeld m_whenHeld;
     std::chrono::steady_clock::time_point m_patientUntil;
     bool m_inOrder = false; // whether what the file is was seen from outside, without a wait
     bool m_durable = false; // whether commits survive a power cut

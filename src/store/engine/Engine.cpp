@@ -40,7 +40,8 @@ void RunWithin(sqlite3* database, const std::function<void()>& steps)
 
 } // namespace
 
-Engine::Engine(const std::string& path) : m_path(path), m_connection(std::make_unique<Connection>(path))
+Engine::Engine(const std::string& path, WhenHeld whenHeld)
+    : m_path(path), m_connection(std::make_unique<Connection>(path, Connection::Access::Write, whenHeld))
 {
     m_connection->RefuseForeignFile();
 }

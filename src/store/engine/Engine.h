@@ -3,6 +3,7 @@
 
 #include "store/engine/EditTrail.h"
 #include "store/engine/Statement.h"
+#include "store/engine/WhenHeld.h"
 
 #include <functional>
 #include <memory>
@@ -40,7 +41,7 @@ class Engine
 public:
     // Never creates a file. Raises 14 (missing, no regular file), 5 (held by anyone, a reader included, for more than a second), 8
     // (read-only), 26 (no database, another program's, or of a newer format) or 11 (damaged); the file is then as it was.
-    explicit Engine(const std::string& path);
+    explicit Engine(const std::string& path, WhenHeld whenHeld = WhenHeld::Wait);
 
     // The file must be there, empty.
     Engine(const std::string& path, NewFile);

@@ -259,11 +259,12 @@ std::shared_ptr<RecordSet> Statement::ReadRows(std::int32_t most, std::int32_t m
 {
     RefuseUnlessRows();
     sqlite3_stmt* row = m_statement.get();
-    const int columns = sqlite3_column_count(row);
     RecordSet::Builder rows;
-    AddColumns(rows, row);
     const Limit limit(*this, mostSteps);
-    for (std::int32_t count = 0; count < most && Step(); ++count) {
+    bool isRow = most > 0 && Step(); // a kept statement learns only now of a table that somebody made anew with other columns
+    const int columns = sqlite3_column_count(row);
+    AddColumns(rows, row);
+    for (std::int32_t count = 1; isRow; isRow = count++ < most && Step()) {
         for (int column = 0; column < columns; ++column) {
             AddCell(rows, row, column);
         }

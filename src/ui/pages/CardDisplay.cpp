@@ -54,6 +54,9 @@ void CardDisplay::PrepareGrid()
     connect(grid, &QTableView::clicked, this, choose);
     connect(grid->selectionModel(), &QItemSelectionModel::selectionChanged, this, choose);
     connect(grid, &TimeRecordGrid::EditAsked, this, &CardDisplay::EditAsked);
+    grid->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(grid, &QWidget::customContextMenuRequested, this,
+            [this, grid](const QPoint& place) { emit MenuAsked(grid->viewport()->mapToGlobal(place)); });
     auto* deleteKey = new QShortcut(QKeySequence::Delete, grid, nullptr, nullptr, Qt::WidgetShortcut);
     connect(deleteKey, &QShortcut::activated, this, &CardDisplay::DeleteAsked);
 }
@@ -123,6 +126,11 @@ void CardDisplay::ShowCheck(const std::shared_ptr<const CheckedTimecard>& checke
 {
     m_records->SetMarks(checked->check ? MarksOf(*checked->check, checked->limits.showNotices) : RowMarks());
     m_ui->findings->Show(checked);
+}
+
+void CardDisplay::ShowEdits(RecordEdits edits)
+{
+    m_records->SetEdits(std::move(edits));
 }
 
 void CardDisplay::OpenFindings()

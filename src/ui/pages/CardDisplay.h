@@ -2,6 +2,7 @@
 #pragma once
 
 #include "model/CardLine.h"
+#include "office/RecordEdits.h"
 
 #include <array>
 #include <memory>
@@ -42,7 +43,10 @@ public:
     // Marks its rows, too; also of a card that could not be made.
     void ShowCheck(const std::shared_ptr<const CheckedTimecard>& checked);
 
-    // The list of them.
+    // Of its rows, by whom they were entered or changed.
+    void ShowEdits(RecordEdits edits);
+
+    // The list of what is found.
     void OpenFindings();
 
     // As a picture; remembered.
@@ -65,12 +69,18 @@ public:
 
     void ForgetChoice();
 
+    // Nothing when it is not on the card.
+    void ChooseRowOf(qint64 timeRecordID);
+
 signals:
     // By mouse or keys, also when it was chosen before.
     void RowChosen();
 
     void EditAsked();
     void DeleteAsked();
+
+    // On the grid, at this place of the screen.
+    void MenuAsked(const QPoint& place);
 
     // Of a finding that was chosen: its records that are not on the card.
     void Elsewhere(const ptk::FindingPlace& place);
@@ -81,7 +91,6 @@ signals:
 private:
     void PrepareGrid();
     void ConnectFindings();
-    void ChooseRowOf(qint64 timeRecordID);
     bool FillTimeRecordGrid(std::vector<CardLine> lines);
     [[nodiscard]] std::array<FigureBox*, 5> Figures() const;
 

@@ -3,15 +3,18 @@
 #include "model/CCompany.h"
 #include "model/CCompanyList.h"
 #include "office/CompanyTexts.h"
+#include "office/ConflictNotice.h"
 #include "office/ListEdit.h"
 #include "platform/BusyPointer.h"
 #include "platform/Desktop.h"
 #include "platform/Required.h"
 #include "platform/Succeeds.h"
+#include "platform/Text.h"
 #include "startup/CController.h"
 #include "store/CJetDB.h"
 #include "ui/pages/OfferLeft.h"
 #include "ui/pages/PageHost.h"
+#include "ui/SharedRecords.h"
 #include "ui/widgets/BoxText.h"
 #include "ui/widgets/ChosenOnly.h"
 #include "ui/widgets/FieldWidth.h"
@@ -192,13 +195,56 @@ void CompanyPage::LeaveBehind(const std::optional<LeftBehind<CompanyTexts>>& lef
 void CompanyPage::BringBack(const LeftBehind<CompanyTexts>& left)
 {
     if (!left.shown.id.empty() && m_ui->cboCompanyID->findText(QString::fromStdString(left.shown.id)) < 0) {
-        return m_ui->notice->Say(QString::fromStdString(left.shown.name + kNotInList));
+        return m_ui->notice->Offer(QString::fromStdString(left.shown.name + kNotInList), kBringBack, [this, left] { BringBack(left); });
     }
     LeaveBehind(m_texts.Left(ReadTexts()));
-    Fill(left.typed);
-    m_texts.BringBack(left);
+    PutBack(left);
     if (const auto company = ChosenIn(*m_ui->cboCompanyID); company != nullptr) {
         ShowStatus(*company);
+    }
+}
+
+// Over what is stored by now.
+void CompanyPage::PutBack(const LeftBehind<CompanyTexts>& left)
+{
+    LeftBehind<CompanyTexts> now = left;
+    if (ShowCompany(Of(left.shown.id))) {
+        now = {ReadTexts(), TypedOver(left, ReadTexts())};
+    }
+    Fill(now.typed);
+    m_texts.BringBack(now);
+}
+
+std::shared_ptr<CCompany> CompanyPage::Of(const std::string& id) const
+{
+    return id.empty() ? nullptr : List()->GetCompanyByID(ToInt32(id));
+}
+
+void CompanyPage::ReadAgain(std::optional<std::int64_t> row)
+{
+    const auto left = m_texts.Left(ReadTexts());
+    const std::string id = m_ui->cboCompanyID->currentText().toStdString();
+    const bool read = Reload();
+    if (!left) {
+        const auto wanted = row ? Of(std::to_string(*row)) : nullptr;
+        ShowCompany(wanted != nullptr ? wanted : Of(id));
+        return LeaveBehind(left);
+    }
+    const bool isThere = ShowCompany(Of(id));
+    if (!isThere && !id.empty()) {
+        return LeaveBehind(read ? AsNew(*left) : left);
+    }
+    if (isThere && ReadTexts() != left->shown) {
+        return LeaveBehind(left);
+    }
+    PutBack(*left);
+}
+
+void CompanyPage::TellChanges()
+{
+    const auto company = Of(m_ui->cboCompanyID->currentText().toStdString());
+    if (company != nullptr && m_host.SharedRecords().IsChanged(Shown::Company, company->CompanyID())) {
+        m_host.SharedRecords().OfferLoad(*m_ui->notice, company->CompanyName() + " was changed");
     }
 }
 
@@ -221,15 +267,29 @@ void CompanyPage::SaveTexts(const CompanyTexts& texts)
         return (void)m_host.Desktop().Show(kNotFound, listedit::kNotFoundTitle, Icon::Exclamation);
     }
     ReadCompanyTexts(texts, *edited->entity);
-    if (SaveOrTell(m_host.Desktop(), *list, *edited, kNotSaved)) {
+    const ListSave saved = SaveOrTell(m_host.Desktop(), *list, *edited, kNotSaved);
+    if (saved == ListSave::Conflict) {
+        return AskForPresent(RowConflict(*list->Conflict()), texts.id);
+    }
+    if (saved == ListSave::Saved) {
+        m_host.SharedRecords().Remember();
         const bool read = Reload();
         m_ui->notice->Say(QString::fromStdString(texts.name + (read ? kSaved : kSavedUnread)));
+    }
+}
+
+void CompanyPage::AskForPresent(const RowConflict& conflict, const std::string& id)
+{
+    const auto company = Required(Of(id)); // as it was read
+    if (AskToLoad(m_host.Desktop(), listedit::kSaveTitle, conflict, ConflictText(conflict, company->CompanyName()))) {
+        emit m_host.SharedRecords().ReadAgainWanted();
     }
 }
 
 bool CompanyPage::Reload()
 {
     const BusyPointer busy(m_host.Desktop());
+    m_host.SharedRecords().AboutToRead(Shown::Company);
     const bool read = Required(m_host.Controller())->GetCompanyList() || ReloadAfresh();
     if (!FillCompanyLists()) {
         m_host.ErrorNumber(windowerror::FillListsFailed);

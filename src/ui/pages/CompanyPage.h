@@ -4,6 +4,9 @@
 #include "office/CompanyTexts.h"
 #include "office/LeftBehind.h"
 
+#include "store/RowConflict.h"
+#include "ui/pages/RecordPage.h"
+
 #include <array>
 #include <cstdint>
 #include <memory>
@@ -22,7 +25,7 @@ class CCompanyList;
 class PageHost;
 
 // A page without a chosen ID holds a new company. What is refused stays on the page as it was typed.
-class CompanyPage final : public QWidget
+class CompanyPage final : public QWidget, public RecordPage
 {
     Q_OBJECT
 
@@ -34,6 +37,9 @@ public:
 
     // False when there is no company list.
     bool FillCompanyLists();
+
+    void ReadAgain(std::optional<std::int64_t> row) override;
+    void TellChanges() override;
 
     // False for nullptr.
     bool ShowCompany(const std::shared_ptr<CCompany>& thecompany);
@@ -63,9 +69,12 @@ private:
     void StartAnew();
     void LeaveBehind(const std::optional<LeftBehind<CompanyTexts>>& left);
     void BringBack(const LeftBehind<CompanyTexts>& left);
+    void PutBack(const LeftBehind<CompanyTexts>& left);
+    [[nodiscard]] std::shared_ptr<CCompany> Of(const std::string& id) const;
 
     void Save();
     void SaveTexts(const CompanyTexts& texts);
+    void AskForPresent(const RowConflict& conflict, const std::string& id);
 
     // Whether the companies could be read again.
     bool Reload();

@@ -11,15 +11,25 @@
 #include "platform/Required.h"
 #include "platform/Succeeds.h"
 #include "startup/CController.h"
+#include "store/CJetDB.h"
 #include "ui/pages/CardChoice.h"
 #include "ui/pages/CardDisplay.h"
 #include "ui/pages/PageHost.h"
+#include "ui/SharedRecords.h"
 #include "ui/widgets/HintLabel.h"
 #include "ui/widgets/NoticeLine.h"
 
 namespace ptk {
 
 using namespace timecardnotice;
+
+namespace {
+
+constexpr auto kWasChanged = " was changed";
+constexpr auto kRecordsChanged = "'s records were changed";
+constexpr auto kNoEdits = "Who changed the records of the card could not be read: ";
+
+} // namespace
 
 CurrentCard::CurrentCard(PageHost& host, const Place& place, QObject* parent)
     : QObject(parent), m_host(host), m_choice(place.choice), m_mark(place.mark), m_display(place.display), m_line(place.line)
@@ -85,8 +95,23 @@ bool CurrentCard::Load(CTimeCard& card, const std::shared_ptr<CEmployee>& employ
 {
     const BusyPointer busy(m_host.Desktop());
     const auto database = Required(m_host.Controller())->PTKDatabase();
+    if (employee != nullptr) {
+        m_host.SharedRecords().AboutToRead(Shown::CardRecords, employee->EmployeeID());
+    }
+    const CJetDB::Hold hold(database);
     m_checked = std::make_shared<CheckedTimecard>(GenerateChecked(card, database, employee, period, m_host.Clock().Now()));
+    m_edits.clear();
+    if (m_checked->generated) {
+        ReadEdits(card);
+    }
     return m_checked->generated;
+}
+
+// Without them the card is shown all the same.
+void CurrentCard::ReadEdits(const CTimeCard& card)
+{
+    Succeeds([&] { m_edits = ReadRecordEdits(Required(m_host.Controller())->PTKDatabase(), card); },
+             [this](const Failure& reason) { m_host.Log(kNoEdits + reason.Description()); });
 }
 
 void CurrentCard::ReportCardError(std::int32_t errorNumber)
@@ -119,13 +144,16 @@ void CurrentCard::RegenerateAfterSave()
     }
 }
 
-// Of its own employee and period, whatever the boxes say by now.
 bool CurrentCard::ReadAgain()
 {
+    static_cast<void>(Required(m_card));
+    return m_display.ShowsCard() || m_display.ShowsFindings() ? LoadAgain() : true;
+}
+
+// Of its own employee and period, whatever the boxes say by now.
+bool CurrentCard::LoadAgain()
+{
     const auto card = Required(m_card);
-    if (!m_display.ShowsCard() && !m_display.ShowsFindings()) {
-        return true;
-    }
     if (Load(*card, card->Employee(), {card->StartDate(), card->EndDate().AddDays(-1)})) {
         ShowTimeCard();
         return true;
@@ -147,14 +175,30 @@ void CurrentCard::CheckAgain()
 
 void CurrentCard::RenewFor(std::int32_t savedEmployee)
 {
+    if (m_card != nullptr && m_card->Employee() != nullptr && m_card->Employee()->EmployeeID() == savedEmployee) {
+        Renew();
+    }
+}
+
+// Also a card that had no records left.
+bool CurrentCard::IsWanted() const
+{
+    return m_display.ShowsCard() || m_display.ShowsFindings() || NameOf(*m_card) == m_choice.Chosen();
+}
+
+void CurrentCard::Renew()
+{
     const auto card = m_card;
-    if (card == nullptr || card->Employee() == nullptr || card->Employee()->EmployeeID() != savedEmployee) {
+    if (card == nullptr || card->Employee() == nullptr) {
         return;
     }
     const auto renew = [&] {
+        const std::int32_t id = card->Employee()->EmployeeID();
         const auto list = Required(Required(m_host.Controller())->EmployeeList());
-        card->Employee(Required(list->GetEmployeeByID(savedEmployee)));
-        return ReadAgain();
+        m_host.SharedRecords().AboutToRead(Shown::CardEmployee, id);
+        const bool wanted = IsWanted();
+        card->Employee(Required(list->GetEmployeeByID(id)));
+        return !wanted || LoadAgain();
     };
     if (Succeeds(renew)) {
         Mark();
@@ -163,10 +207,25 @@ void CurrentCard::RenewFor(std::int32_t savedEmployee)
     }
 }
 
+void CurrentCard::TellChanges()
+{
+    if (m_card == nullptr || m_card->Employee() == nullptr || !m_display.ShowsCard()) {
+        return;
+    }
+    SharedRecords& records = m_host.SharedRecords();
+    const std::int32_t id = m_card->Employee()->EmployeeID();
+    if (records.IsChanged(Shown::CardEmployee, id)) {
+        records.OfferLoad(m_line, Employee() + kWasChanged);
+    } else if (records.IsChanged(Shown::CardRecords, id)) {
+        records.OfferLoad(m_line, Employee() + kRecordsChanged);
+    }
+}
+
 bool CurrentCard::ShowTimeCard()
 {
     SetupTimeRecordGrid();
     m_display.DisplayTimeCard(*Required(m_card));
+    m_display.ShowEdits(m_edits);
     ShowFindings();
     Mark();
     return false;

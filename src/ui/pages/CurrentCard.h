@@ -1,6 +1,7 @@
 // The main window's current time card, and how the Timecards page shows it.
 #pragma once
 
+#include "office/RecordEdits.h"
 #include "platform/DateTime.h"
 
 #include <cstdint>
@@ -54,6 +55,12 @@ public:
     // Without a box; where that fails, false, what is shown stays. May raise failures.
     bool ReadAgain();
 
+    // With its employee as the list has him now, where the card is shown or is what the boxes name. Without a box.
+    void Renew();
+
+    // Says in the line, with a button to load it, that somebody else changed the employee or the records shown.
+    void TellChanges();
+
     // With the limits that the options hold now.
     void CheckAgain();
 
@@ -83,9 +90,12 @@ signals:
 
 private:
     void Mark();
+    [[nodiscard]] bool IsWanted() const;
+    bool LoadAgain();
     [[nodiscard]] std::shared_ptr<CEmployee> EmployeeToShow() const;
     bool GenerateTimeCard();
     bool Load(CTimeCard& card, const std::shared_ptr<CEmployee>& employee, const PayPeriod& period);
+    void ReadEdits(const CTimeCard& card);
     void ShowFindings();
     bool Regenerate();
 
@@ -103,6 +113,7 @@ private:
     std::shared_ptr<CTimeCard> m_card;
     std::optional<std::int32_t> m_meant;
     std::shared_ptr<const CheckedTimecard> m_checked; // the current card as it was last loaded; nullptr before
+    RecordEdits m_edits;                              // of its records
 };
 
 } // namespace ptk

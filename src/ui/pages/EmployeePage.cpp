@@ -2,6 +2,7 @@
 
 #include "model/CEmployee.h"
 #include "model/CEmployeeList.h"
+#include "office/ConflictNotice.h"
 #include "office/EmployeeTexts.h"
 #include "office/ListEdit.h"
 #include "office/SharedNumbers.h"
@@ -9,9 +10,11 @@
 #include "platform/Desktop.h"
 #include "platform/Required.h"
 #include "platform/Succeeds.h"
+#include "platform/Text.h"
 #include "startup/CController.h"
 #include "ui/pages/OfferLeft.h"
 #include "ui/pages/PageHost.h"
+#include "ui/SharedRecords.h"
 #include "ui/widgets/BoxText.h"
 #include "ui/widgets/ChosenOnly.h"
 #include "ui/widgets/EmployeeModels.h"
@@ -256,13 +259,56 @@ void EmployeePage::LeaveBehind(const std::optional<LeftBehind<EmployeeTexts>>& l
 void EmployeePage::BringBack(const LeftBehind<EmployeeTexts>& left)
 {
     if (!left.shown.id.empty() && m_ui->cboEmployeeID->findText(QString::fromStdString(left.shown.id)) < 0) {
-        return m_ui->notice->Say(QString::fromStdString(left.shown.name + kNotInList));
+        return m_ui->notice->Offer(QString::fromStdString(left.shown.name + kNotInList), kBringBack, [this, left] { BringBack(left); });
     }
     LeaveBehind(m_texts.Left(ReadTexts()));
-    Fill(left.typed);
-    m_texts.BringBack(left);
+    PutBack(left);
     if (const auto employee = ChosenIn(*m_ui->cboEmployeeID); employee != nullptr) {
         ShowStatus(*employee);
+    }
+}
+
+// Over what is stored by now.
+void EmployeePage::PutBack(const LeftBehind<EmployeeTexts>& left)
+{
+    LeftBehind<EmployeeTexts> now = left;
+    if (ShowEmployee(Of(left.shown.id))) {
+        now = {ReadTexts(), TypedOver(left, ReadTexts())};
+    }
+    Fill(now.typed);
+    m_texts.BringBack(now);
+}
+
+std::shared_ptr<CEmployee> EmployeePage::Of(const std::string& id) const
+{
+    return id.empty() ? nullptr : List()->GetEmployeeByID(ToInt32(id));
+}
+
+void EmployeePage::ReadAgain(std::optional<std::int64_t> row)
+{
+    const auto left = m_texts.Left(ReadTexts());
+    const std::string id = m_ui->cboEmployeeID->currentText().toStdString();
+    const bool read = Reload();
+    if (!left) {
+        const auto wanted = row ? Of(std::to_string(*row)) : nullptr;
+        ShowEmployee(wanted != nullptr ? wanted : Of(id));
+        return LeaveBehind(left);
+    }
+    const bool isThere = ShowEmployee(Of(id));
+    if (!isThere && !id.empty()) {
+        return LeaveBehind(read ? AsNew(*left) : left);
+    }
+    if (isThere && ReadTexts() != left->shown) {
+        return LeaveBehind(left);
+    }
+    PutBack(*left);
+}
+
+void EmployeePage::TellChanges()
+{
+    const auto employee = Of(m_ui->cboEmployeeID->currentText().toStdString());
+    if (employee != nullptr && m_host.SharedRecords().IsChanged(Shown::Employee, employee->EmployeeID())) {
+        m_host.SharedRecords().OfferLoad(*m_ui->notice, employee->DisplayName() + " was changed");
     }
 }
 
@@ -319,17 +365,31 @@ void EmployeePage::SaveTexts(const EmployeeTexts& texts)
     }
     ReadEmployeeTexts(texts, *edited->entity);
     const std::string shared = SharedNumbersNotice(*list, texts);
-    if (!SaveOrTell(m_host.Desktop(), *list, *edited, kNotSaved)) {
+    const ListSave saved = SaveOrTell(m_host.Desktop(), *list, *edited, kNotSaved);
+    if (saved == ListSave::Conflict) {
+        return AskForPresent(RowConflict(*list->Conflict()), texts.id);
+    }
+    if (saved != ListSave::Saved) {
         return;
     }
+    m_host.SharedRecords().Remember();
     const bool read = Reload();
     m_ui->notice->Say(QString::fromStdString(texts.name + (read ? kSaved : kSavedUnread) + (shared.empty() ? "" : ". ") + shared));
     emit m_host.EmployeeModels().Saved(edited->entity->EmployeeID());
 }
 
+void EmployeePage::AskForPresent(const RowConflict& conflict, const std::string& id)
+{
+    const auto employee = Required(Of(id)); // as it was read
+    if (AskToLoad(m_host.Desktop(), listedit::kSaveTitle, conflict, ConflictText(conflict, employee->DisplayName()))) {
+        emit m_host.SharedRecords().ReadAgainWanted();
+    }
+}
+
 bool EmployeePage::Reload()
 {
     const BusyPointer busy(m_host.Desktop());
+    m_host.SharedRecords().AboutToRead(Shown::Employee);
     const bool read = Required(m_host.Controller())->GetEmployeeList();
     if (!FillEmployeeLists()) {
         m_host.ErrorNumber(windowerror::FillListsFailed);

@@ -4,6 +4,9 @@
 #include "office/EmployeeTexts.h"
 #include "office/LeftBehind.h"
 
+#include "store/RowConflict.h"
+#include "ui/pages/RecordPage.h"
+
 #include <array>
 #include <cstdint>
 #include <memory>
@@ -23,7 +26,7 @@ class PageHost;
 enum class EmployeeText;
 
 // A page without a chosen ID holds a new employee. What is refused stays on the page as it was typed.
-class EmployeePage final : public QWidget
+class EmployeePage final : public QWidget, public RecordPage
 {
     Q_OBJECT
 
@@ -36,6 +39,9 @@ public:
 
     // Also those of the time card and reports pages.
     bool FillEmployeeLists();
+
+    void ReadAgain(std::optional<std::int64_t> row) override;
+    void TellChanges() override;
 
     // False for nullptr.
     bool ShowEmployee(const std::shared_ptr<CEmployee>& theemployee);
@@ -69,10 +75,13 @@ private:
     void Cancel();
     void LeaveBehind(const std::optional<LeftBehind<EmployeeTexts>>& left);
     void BringBack(const LeftBehind<EmployeeTexts>& left);
+    void PutBack(const LeftBehind<EmployeeTexts>& left);
+    [[nodiscard]] std::shared_ptr<CEmployee> Of(const std::string& id) const;
 
     void Save();
     bool IsAccepted(const EmployeeTexts& texts);
     void SaveTexts(const EmployeeTexts& texts);
+    void AskForPresent(const RowConflict& conflict, const std::string& id);
 
     // Whether the employees could be read again.
     bool Reload();

@@ -9,6 +9,8 @@
 
 namespace ptk {
 
+inline constexpr auto kBringBack = "Bring Back";
+
 // Says in the page's line what was left behind, with a button that calls bringBack(left). Where nothing was, the line keeps an earlier
 // offer and nothing else.
 template <typename Texts, typename BringBack>
@@ -17,8 +19,7 @@ void OfferLeft(NoticeLine& line, const std::optional<LeftBehind<Texts>>& left, B
     if (!left) {
         return line.Remark(QString());
     }
-    line.Offer(QString::fromStdString(NoticeOf(*left)), "Bring Back",
-               [left = *left, bringBack = std::move(bringBack)] { bringBack(left); });
+    line.Offer(QString::fromStdString(NoticeOf(*left)), kBringBack, [left = *left, bringBack = std::move(bringBack)] { bringBack(left); });
 }
 
 } // namespace ptk

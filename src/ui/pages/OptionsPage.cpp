@@ -2,6 +2,8 @@
 
 #include "office/BackupRun.h"
 #include "office/CardTexts.h"
+#include "office/ConflictNotice.h"
+#include "office/LeftBehind.h"
 #include "platform/BusyPointer.h"
 #include "platform/Clock.h"
 #include "platform/Desktop.h"
@@ -10,8 +12,11 @@
 #include "platform/Succeeds.h"
 #include "startup/CController.h"
 #include "startup/Notices.h"
+#include "store/CJetDB.h"
 #include "store/CSystemOptions.h"
+#include "ui/pages/OfferLeft.h"
 #include "ui/pages/PageHost.h"
+#include "ui/SharedRecords.h"
 #include "ui/widgets/ChosenOnly.h"
 #include "ui_OptionsPage.h"
 
@@ -29,6 +34,8 @@ constexpr auto kRestoreText = "An error occurred while restoring system options 
 constexpr auto kApplied = "Options applied";
 constexpr auto kRestored = "Options restored";
 
+constexpr auto kOptionsUnread = "The options could not be read: ";
+constexpr auto kLeft = "What was typed was not applied";
 constexpr auto kLimitsUnread = "The limits of the check could not be read: ";
 
 constexpr auto kFolderTitle = "Folder for a Second Copy of Backups";
@@ -85,12 +92,23 @@ bool OptionsPage::DisplaySystemOptions(const std::shared_ptr<CSystemOptions>& op
     if (options == nullptr) {
         return false;
     }
-    const OptionTexts texts = ShowOptions(*options);
+    ShowTexts(ShowOptions(*options));
+    m_shown = Texts();
+    ShowBackupFolder();
+    return true;
+}
+
+void OptionsPage::ShowTexts(const OptionTexts& texts)
+{
     m_ui->txtPeriodLength->setText(QString::fromStdString(texts.periodLength));
     m_ui->dttbAutoShiftStartTime->SetText(QString::fromStdString(texts.autoShiftStart));
     m_ui->dttbAutoShiftEndTime->SetText(QString::fromStdString(texts.autoShiftEnd));
-    ShowBackupFolder();
-    return true;
+}
+
+OptionTexts OptionsPage::Texts() const
+{
+    return {m_ui->txtPeriodLength->text().toStdString(), m_ui->dttbAutoShiftStartTime->Text().toStdString(),
+            m_ui->dttbAutoShiftEndTime->Text().toStdString()};
 }
 
 void OptionsPage::showEvent(QShowEvent* event)
@@ -109,13 +127,9 @@ void OptionsPage::LoadLimits()
     }
     const auto load = [&] {
         const BusyPointer busy(m_host.Desktop());
-        m_limits = ShowLimits(LoadCheckLimits(controller->PTKDatabase()));
+        m_limits = LoadCheckLimits(controller->PTKDatabase());
     };
-    Succeeds(load, [this](const Failure& reason) {
-        const std::string line = kLimitsUnread + reason.Description();
-        m_ui->notice->Say(QString::fromStdString(line));
-        m_host.Log(line);
-    });
+    Succeeds(load, [this](const Failure& reason) { Complain(kLimitsUnread + reason.Description()); });
     ShowStoredLimits();
 }
 
@@ -123,10 +137,14 @@ void OptionsPage::LoadLimits()
 void OptionsPage::ShowStoredLimits()
 {
     m_ui->fraCheck->setEnabled(m_limits.has_value());
-    const LimitTexts shown = m_limits.value_or(LimitTexts());
-    m_ui->txtLongShift->setText(QString::fromStdString(shown.longShiftHours));
-    m_ui->cboFirstWeekday->setCurrentIndex(shown.firstWeekday);
-    m_ui->chkShowNotices->setChecked(shown.showNotices);
+    ShowLimitTexts(m_limits ? ShowLimits(*m_limits) : LimitTexts());
+}
+
+void OptionsPage::ShowLimitTexts(const LimitTexts& texts)
+{
+    m_ui->txtLongShift->setText(QString::fromStdString(texts.longShiftHours));
+    m_ui->cboFirstWeekday->setCurrentIndex(texts.firstWeekday);
+    m_ui->chkShowNotices->setChecked(texts.showNotices);
 }
 
 LimitTexts OptionsPage::Limits() const
@@ -137,15 +155,15 @@ LimitTexts OptionsPage::Limits() const
 bool OptionsPage::StoreLimits()
 {
     const LimitTexts texts = Limits();
-    if (!m_limits || texts == *m_limits) {
+    if (!m_limits || texts == ShowLimits(*m_limits)) {
         return true;
     }
     const auto limits = ReadLimits(texts);
     const auto database = Required(Required(m_host.Controller())->PTKDatabase());
-    if (!limits || !SaveCheckLimits(database, *limits)) {
+    if (!limits || !SaveCheckLimits(database, *limits, *m_limits)) {
         return false;
     }
-    m_limits = ShowLimits(*limits);
+    m_limits = limits;
     emit LimitsStored();
     return true;
 }
@@ -157,8 +175,27 @@ bool OptionsPage::SaveOptions()
     if (options == nullptr) {
         return false;
     }
-    return StoreOptions(*options, {m_ui->txtPeriodLength->text().toStdString(), m_ui->dttbAutoShiftStartTime->Text().toStdString(),
-                                   m_ui->dttbAutoShiftEndTime->Text().toStdString()});
+    return StoreOptions(*options, Texts());
+}
+
+// Both in one step of the edit trail. The hold also makes the database forget an earlier conflict.
+bool OptionsPage::SaveSystemOptions()
+{
+    m_conflict.reset();
+    return Succeeds([this] {
+        const auto controller = m_host.Controller();
+        const auto database = controller == nullptr ? nullptr : controller->PTKDatabase();
+        const CJetDB::Hold hold(database);
+        const CJetDB::Step step(database);
+        const bool saved = SaveOptions() && StoreLimits();
+        if (saved) {
+            m_shown = Texts();
+        } else if (database != nullptr) {
+            m_conflict = database->Conflict();
+        }
+        m_host.SharedRecords().Remember();
+        return saved && StoreBackupFolder();
+    });
 }
 
 void OptionsPage::ForgetLimits()
@@ -193,11 +230,6 @@ void OptionsPage::BrowseForFolder()
     }
 }
 
-bool OptionsPage::SaveSystemOptions()
-{
-    return Succeeds([this] { return SaveOptions() && StoreLimits() && StoreBackupFolder(); });
-}
-
 bool OptionsPage::RestoreSystemOptions()
 {
     const auto controller = m_host.Controller();
@@ -213,10 +245,44 @@ void OptionsPage::Apply()
     }();
     if (saved) {
         m_ui->notice->Say(kApplied);
+    } else if (m_conflict) {
+        AskForPresent();
     } else {
         m_host.Desktop().Show(kUpdateText, notice::OptionsUnsaved.title, Icon::Exclamation);
         m_ui->notice->Say(QString::fromStdString(Refusal()));
     }
+}
+
+void OptionsPage::AskForPresent()
+{
+    if (AskToLoad(m_host.Desktop(), notice::OptionsUnsaved.title, *m_conflict, ConflictText(*m_conflict, {}))) {
+        Succeeds([this] { LoadPresent(); }, [this](const Failure& reason) { Complain(kOptionsUnread + reason.Description()); });
+    }
+}
+
+void OptionsPage::LoadPresent()
+{
+    const LeftBehind<OptionTexts> left{m_shown, Texts()};
+    const LeftBehind<LimitTexts> leftLimits{m_limits ? ShowLimits(*m_limits) : LimitTexts(), Limits()};
+    const auto controller = Required(m_host.Controller());
+    {
+        const CJetDB::Hold hold(controller->PTKDatabase());
+        RequireOpen(*Required(controller->PTKDatabase()));
+        Required(controller->SystemOptions())->Load();
+        m_limits = LoadCheckLimits(controller->PTKDatabase());
+    }
+    DisplaySystemOptions(controller->SystemOptions());
+    ShowStoredLimits();
+    m_ui->notice->Offer(kLeft, kBringBack, [this, left, leftLimits] {
+        ShowTexts(TypedOver(left, Texts()));
+        ShowLimitTexts(TypedOver(leftLimits, Limits()));
+    });
+}
+
+void OptionsPage::Complain(const std::string& line)
+{
+    m_ui->notice->Say(QString::fromStdString(line));
+    m_host.Log(line);
 }
 
 // What of the typed texts stands in the way; empty when that is something else.

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "office/OptionTexts.h"
+#include "store/RowConflict.h"
 
 #include <memory>
 #include <optional>
@@ -51,7 +52,10 @@ private:
     void LoadLimits();
     void ShowStoredLimits();
     bool StoreLimits();
+    [[nodiscard]] OptionTexts Texts() const;
+    void ShowTexts(const OptionTexts& texts);
     [[nodiscard]] LimitTexts Limits() const;
+    void ShowLimitTexts(const LimitTexts& texts);
     bool SaveOptions();
 
     [[nodiscard]] bool StoreBackupFolder();
@@ -61,11 +65,16 @@ private:
     void BrowseForFolder();
     void ShowExample();
     void Apply();
+    void AskForPresent();
+    void LoadPresent();
+    void Complain(const std::string& line);
     void Cancel();
 
     PageHost& m_host;
     std::unique_ptr<Ui::OptionsPage> m_ui;
-    std::optional<LimitTexts> m_limits; // as they stand in the database; nothing until they have been read
+    OptionTexts m_shown;                   // as they were put into the boxes
+    std::optional<CheckLimits> m_limits;   // as they stand in the database; nothing until they have been read
+    std::optional<RowConflict> m_conflict; // why the last saving was refused, where somebody else had changed the options
 };
 
 } // namespace ptk

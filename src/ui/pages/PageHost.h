@@ -15,6 +15,7 @@ class Desktop;
 class DesktopWindow;
 class EmployeeModels;
 class OpenReports;
+class SharedRecords;
 
 // In which list the user chose something last: a page's own list while it fills its fields from that, the time records until another
 // choice. Several pages share the one marker.
@@ -64,6 +65,9 @@ public:
     [[nodiscard]] virtual ptk::EmployeeModels& EmployeeModels() const = 0;
 
     [[nodiscard]] virtual ptk::OpenReports& Reports() const = 0;
+
+    // To be told of every save and before every reading.
+    [[nodiscard]] virtual ptk::SharedRecords& SharedRecords() const = 0;
 };
 
 } // namespace ptk

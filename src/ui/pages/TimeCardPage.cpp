@@ -4,6 +4,7 @@
 #include "model/CEmployeeList.h"
 #include "model/CTimeCard.h"
 #include "model/CTimeRecord.h"
+#include "model/CTimeRecordFactory.h"
 #include "model/CTimeRecordList.h"
 #include "office/CardFindings.h"
 #include "office/CardRecords.h"
@@ -18,7 +19,9 @@
 #include "ui/dialogs/FTimeEditor.h"
 #include "ui/OpenReports.h"
 #include "ui/pages/CardChoice.h"
+#include "ui/pages/CardStoring.h"
 #include "ui/pages/CurrentCard.h"
+#include "ui/pages/HistoryActions.h"
 #include "ui/pages/PageHost.h"
 #include "ui/widgets/EmployeeModels.h"
 #include "ui_TimeCardPage.h"
@@ -40,6 +43,7 @@ constexpr auto kNothingFilled = "No records were filled in";
 constexpr auto kNoEditor = "The record cannot be edited now";
 constexpr auto kNoAutoFill = "Auto Fill needs an employee of the list and two dates";
 constexpr auto kOpenElsewhere = "Open Record";
+constexpr auto kNoHistory = "Choose an employee and two dates to see what was changed";
 constexpr auto kNotPrinted = "The card was not printed";
 
 QString Line(const std::string& text)
@@ -56,8 +60,10 @@ TimeCardPage::TimeCardPage(PageHost& host, QWidget* parent)
     m_ui->setupUi(this);
     m_ui->layout->insertWidget(0, m_choice);
     m_card = new CurrentCard(host, {*m_choice, *m_ui->lblTCStrange, *m_ui->display, *m_ui->notice}, this);
+    m_storing = std::make_unique<CardStoring>(host, *m_card, *m_ui->notice);
     ConnectChoice();
     ConnectActions();
+    ConnectHistory();
     m_card->ClearTimeCardDisplay();
 }
 
@@ -84,6 +90,18 @@ void TimeCardPage::ConnectActions()
     connect(m_ui->display, &CardDisplay::ElsewhereEntered, this, &TimeCardPage::EditElsewhere);
     connect(m_ui->cmdFill, &QPushButton::clicked, this, [this] { AutoFill({}); });
     connect(m_ui->cmdTCPrint, &QPushButton::clicked, this, &TimeCardPage::Print);
+}
+
+void TimeCardPage::ConnectHistory()
+{
+    m_history = new HistoryActions(*m_choice, *m_card, *m_ui->display, this);
+    connect(m_history, &HistoryActions::Wanted, this, &TimeCardPage::HistoryWanted);
+    connect(m_history, &HistoryActions::NothingChosen, this, [this] { m_ui->notice->Say(kNoHistory); });
+}
+
+void TimeCardPage::AskForHistory()
+{
+    m_history->Ask();
 }
 
 // Another page may have taken the marker over in the meantime; a row that cannot be edited must not look chosen.
@@ -186,6 +204,20 @@ void TimeCardPage::CheckAgain()
     m_card->CheckAgain();
 }
 
+void TimeCardPage::ReadAgain(std::optional<std::int64_t> row)
+{
+    m_card->Renew();
+    if (row) {
+        m_ui->display->ChooseRowOf(*row);
+    }
+    m_ui->notice->Remark({});
+}
+
+void TimeCardPage::TellChanges()
+{
+    m_card->TellChanges();
+}
+
 void TimeCardPage::ShowHours(bool shown)
 {
     m_ui->display->ShowHours(shown);
@@ -254,13 +286,25 @@ void TimeCardPage::OpenEditor(const Editing& editing)
         editor.exec();
         if (m_refused) {
             *editing.record = before;
-            const Editing again{editing.record, editing.isNew, editor.Texts()};
-            OfferAgain([this, again] { OpenEditor(again); });
+            EditAgain(editing, editor.Texts());
         }
         return true;
     };
     if (!Succeeds(edit)) {
         m_ui->notice->Say(kNoEditor);
+    }
+}
+
+// What somebody else changed meanwhile is edited as it is now; what was removed, as a new record.
+void TimeCardPage::EditAgain(const Editing& editing, const RecordTexts& typed)
+{
+    Editing again{editing.record, editing.isNew, typed};
+    if (const auto& conflict = m_storing->Conflict()) {
+        again.isNew = conflict->Removed();
+        again.record = RecordToTryAgain(*editing.record, *conflict);
+    }
+    if (again.record != nullptr) {
+        OfferAgain([this, again] { OpenEditor(again); });
     }
 }
 
@@ -282,7 +326,7 @@ void TimeCardPage::Prepare(FTimeEditor& editor, const Editing& editing)
 bool TimeCardPage::ReturnTimeRecord(const std::shared_ptr<CTimeRecord>& thetimerecord)
 {
     const auto store = [&](CTimeCard& card, CTimeRecordFactory& factory) { return StoreRecord(card, factory, thetimerecord); };
-    m_refused = !StoreAndShow({store, kNotStored, kRecordNotSaved, "Record saved for " + m_card->Employee()});
+    m_refused = !m_storing->Store({store, kNotStored, kRecordNotSaved, "Record saved for " + m_card->Employee(), thetimerecord});
     return true;
 }
 
@@ -299,7 +343,7 @@ void TimeCardPage::DeleteRecord()
         return;
     }
     const auto remove = [&](CTimeCard& card, CTimeRecordFactory& factory) { return StoreDeletion(card, factory, record); };
-    StoreAndShow({remove, kNotDeleted, kRecordNotDeleted, "Record of " + m_card->Employee() + " deleted"});
+    m_storing->Store({remove, kNotDeleted, kRecordNotDeleted, "Record of " + m_card->Employee() + " deleted", record});
 }
 
 // Without a card, or with a name that nobody has, there is nothing to fill.
@@ -348,31 +392,9 @@ void TimeCardPage::TakeOver(const FAutoFill& window, std::int32_t records)
     ShowStatus();
     const FillTexts texts = window.Texts();
     const std::string done = CountText(records, "record") + " filled in for " + m_choice->EmployeeText();
-    if (!StoreAndShow({StoreCard, kNotFilled, kRecordsNotFilled, done})) {
+    if (!m_storing->Store({StoreCard, kNotFilled, kRecordsNotFilled, done, nullptr})) {
         OfferAgain([this, texts] { AutoFill(texts); });
     }
-}
-
-// The grid and the totals show what is in the database from then on, or the user learns that nothing has changed there.
-bool TimeCardPage::StoreAndShow(const Storing& storing)
-{
-    m_ui->notice->Clear();
-    const auto store = [&] {
-        const BusyPointer busy(m_host.Desktop());
-        return storing.step(*Required(m_card->Card()), *Required(Controller()->TimeRecordFactory()));
-    };
-    if (Succeeds(store)) {
-        m_card->RegenerateAfterSave();
-        const QString trouble = m_ui->notice->Text();
-        m_ui->notice->Say(Line(storing.done) + (trouble.isEmpty() ? trouble : "; " + trouble));
-        return true;
-    }
-    const auto card = m_card->Card();
-    const std::string refused = card == nullptr ? storing.refused : RefusedText(storing.refused, *card);
-    Tell(m_host.Desktop(), storing.failed);
-    Succeeds([this] { return m_card->ReadAgain(); });
-    m_card->Complain(refused);
-    return false;
 }
 
 // Beside what the line says already.

@@ -4,6 +4,7 @@
 #include "office/FillPlan.h"
 #include "office/NewRecord.h"
 #include "ui/dialogs/TimeRecordReceiver.h"
+#include "ui/pages/RecordPage.h"
 
 #include <cstdint>
 #include <functional>
@@ -19,20 +20,20 @@ class TimeCardPage;
 namespace ptk {
 
 class CardChoice;
+class CardStoring;
 class CController;
-class CTimeCard;
-class CTimeRecordFactory;
 class CurrentCard;
 class FAutoFill;
 class FTimeEditor;
+class HistoryActions;
 class PageHost;
 struct FindingPlace;
-struct Notice;
+struct HistoryScope;
 struct PeriodTexts;
 struct Punch;
 
 // Every change to a record is stored at once and followed by a fresh generation of the card.
-class TimeCardPage final : public QWidget, public TimeRecordReceiver
+class TimeCardPage final : public QWidget, public TimeRecordReceiver, public RecordPage
 {
     Q_OBJECT
 
@@ -64,6 +65,9 @@ public:
     // The card that is shown, by limits that have changed.
     void CheckAgain();
 
+    void ReadAgain(std::optional<std::int64_t> row) override;
+    void TellChanges() override;
+
     // The hours per day below the grid; remembered.
     void ShowHours(bool shown);
 
@@ -71,21 +75,16 @@ public:
 
     bool ReturnTimeRecord(const std::shared_ptr<CTimeRecord>& thetimerecord) override;
 
+    // Of the chosen record, else of the card.
+    void AskForHistory();
+
+signals:
+    void HistoryWanted(const ptk::HistoryScope& scope);
+
 protected:
     void showEvent(QShowEvent* event) override;
 
 private:
-    using CardStep = std::function<bool(CTimeCard&, CTimeRecordFactory&)>;
-
-    // A change to the card's records, and what is said of it.
-    struct Storing
-    {
-        CardStep step;
-        const Notice& failed;
-        const char* refused; // for the page's line, before the reason
-        std::string done;
-    };
-
     // A record in the editor, and what was typed for it in vain before.
     struct Editing
     {
@@ -96,6 +95,7 @@ private:
 
     void ConnectChoice();
     void ConnectActions();
+    void ConnectHistory();
 
     void ChooseEmployee();
     void TurnToChosenEmployee();
@@ -115,7 +115,7 @@ private:
     void Prepare(FTimeEditor& editor, const Editing& editing);
     void HandOver(FAutoFill& window);
     void TakeOver(const FAutoFill& window, std::int32_t records);
-    bool StoreAndShow(const Storing& storing);
+    void EditAgain(const Editing& editing, const RecordTexts& typed);
     void OfferAgain(const std::function<void()>& action);
 
     // Raises Failure 91 when there is none.
@@ -123,8 +123,10 @@ private:
 
     PageHost& m_host;
     std::unique_ptr<Ui::TimeCardPage> m_ui;
-    CardChoice* m_choice; // these two belong to the page
+    CardChoice* m_choice; // these three belong to the page
     CurrentCard* m_card = nullptr;
+    std::unique_ptr<CardStoring> m_storing;
+    HistoryActions* m_history = nullptr;
     std::string m_employeeName; // as of the last change of employee
     bool m_editingNew = false;  // whether the editor was last opened for a new record; nothing depends on it
     bool m_refused = false;     // whether the record that the editor returned could not be stored

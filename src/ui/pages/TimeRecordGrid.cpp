@@ -1,26 +1,12 @@
 #include "ui/pages/TimeRecordGrid.h"
 
 #include <QKeyEvent>
-#include <QPainter>
 
 namespace ptk {
 
-namespace {
-
-constexpr int kMargin = 12; // pixels around the hint
-
-} // namespace
-
-TimeRecordGrid::TimeRecordGrid(QWidget* parent) : QTableView(parent)
+TimeRecordGrid::TimeRecordGrid(QWidget* parent) : HintTable(parent)
 {
     connect(this, &QTableView::doubleClicked, this, &TimeRecordGrid::EditAsked);
-}
-
-void TimeRecordGrid::SetHint(const QString& text)
-{
-    m_hint = text;
-    setAccessibleDescription(text);
-    viewport()->update();
 }
 
 QSize TimeRecordGrid::sizeHint() const
@@ -36,18 +22,6 @@ void TimeRecordGrid::keyPressEvent(QKeyEvent* event)
         return;
     }
     QTableView::keyPressEvent(event);
-}
-
-void TimeRecordGrid::paintEvent(QPaintEvent* event)
-{
-    QTableView::paintEvent(event);
-    if (model()->rowCount() > 0) {
-        return;
-    }
-    QPainter painter(viewport());
-    painter.setPen(palette().color(QPalette::PlaceholderText));
-    const QRect room = viewport()->rect().adjusted(kMargin, kMargin, -kMargin, -kMargin);
-    painter.drawText(room, Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, m_hint);
 }
 
 } // namespace ptk

@@ -36,14 +36,26 @@ void TimeRecordGridModel::Clear()
     beginResetModel();
     m_lines.clear();
     m_marks.clear();
+    m_edits.clear();
     endResetModel();
 }
 
 void TimeRecordGridModel::SetMarks(RowMarks marks)
 {
     m_marks = std::move(marks);
+    ChangeAll();
+}
+
+void TimeRecordGridModel::SetEdits(RecordEdits edits)
+{
+    m_edits = std::move(edits);
+    ChangeAll({Qt::ToolTipRole, Qt::AccessibleDescriptionRole});
+}
+
+void TimeRecordGridModel::ChangeAll(const QList<int>& roles)
+{
     if (!m_lines.empty()) {
-        emit dataChanged(index(0, 0), index(rowCount() - 1, recordcolumn::Count - 1));
+        emit dataChanged(index(0, 0), index(rowCount() - 1, recordcolumn::Count - 1), roles);
     }
 }
 
@@ -60,9 +72,7 @@ void TimeRecordGridModel::SetFaded(bool faded)
         return;
     }
     m_faded = faded;
-    if (!m_lines.empty()) {
-        emit dataChanged(index(0, 0), index(rowCount() - 1, recordcolumn::Count - 1), {Qt::ForegroundRole});
-    }
+    ChangeAll({Qt::ForegroundRole});
 }
 
 QString TimeRecordGridModel::Text(const CardLine& line, int column)
@@ -101,12 +111,15 @@ const RowMark* TimeRecordGridModel::Mark(const CardLine& line) const
 // In every cell: a reader hears it whichever of them is the current one.
 QString TimeRecordGridModel::MarkedNote(const CardLine& line, int column) const
 {
-    QString note = Note(line, column);
-    const RowMark* mark = Mark(line);
-    if (mark == nullptr) {
-        return note;
+    QStringList notes{Note(line, column)};
+    if (const RowMark* mark = Mark(line)) {
+        notes << QString::fromStdString(mark->text);
     }
-    return note + (note.isEmpty() ? "" : "\n") + QString::fromStdString(mark->text);
+    if (const auto edit = m_edits.find(line.record->TimeRecordID()); edit != m_edits.end()) {
+        notes << QString::fromStdString(edit->second);
+    }
+    notes.removeAll(QString());
+    return notes.join('\n');
 }
 
 QVariant TimeRecordGridModel::Icon(const CardLine& line, int column) const

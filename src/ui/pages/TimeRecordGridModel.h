@@ -3,6 +3,7 @@
 
 #include "model/CardLine.h"
 #include "office/CardFindings.h"
+#include "office/RecordEdits.h"
 
 #include <memory>
 #include <QAbstractTableModel>
@@ -18,8 +19,8 @@ inline constexpr int Count = 3;
 } // namespace recordcolumn
 
 // Shows the lines as they were when the grid was filled; their texts are made as they are painted.
-// The weekday of a date, of an end that is not there yet that somebody is at work, and what the check says of a row stand in tool tips and
-// in descriptions for readers; a row of which it says something has an icon.
+// The weekday of a date, of an end that is not there yet that somebody is at work, what the check says of a row, and who entered or changed
+// it by hand stand in tool tips and in descriptions for readers; a row of which the check says something has an icon.
 class TimeRecordGridModel final : public QAbstractTableModel
 {
     Q_OBJECT
@@ -32,6 +33,8 @@ public:
 
     // What the check says, by record.
     void SetMarks(RowMarks marks);
+
+    void SetEdits(RecordEdits edits);
 
     // Greys all rows.
     void SetFaded(bool faded);
@@ -54,11 +57,13 @@ private:
     // nullptr for a row without a finding.
     [[nodiscard]] const RowMark* Mark(const CardLine& line) const;
 
+    void ChangeAll(const QList<int>& roles = {});
     [[nodiscard]] QString MarkedNote(const CardLine& line, int column) const;
     [[nodiscard]] QVariant Icon(const CardLine& line, int column) const;
 
     std::vector<CardLine> m_lines;
     RowMarks m_marks;
+    RecordEdits m_edits;
     bool m_faded = false;
 };
 

@@ -31,9 +31,17 @@ void NoticeLine::Say(const QString& text)
 
 void NoticeLine::Remark(const QString& text)
 {
-    if (m_action == nullptr) {
+    if (!IsOffering()) {
         Say(text);
     }
+}
+
+void NoticeLine::SayBefore(const QString& text)
+{
+    if (!IsOffering()) {
+        return Say(text);
+    }
+    Show(Text().isEmpty() ? text : text + ". " + Text());
 }
 
 void NoticeLine::Offer(const QString& text, const QString& caption, std::function<void()> action)

@@ -27,6 +27,11 @@ public:
     // Says it, with a button beside it that runs `action` once; the line is empty again by the time it runs.
     void Offer(const QString& text, const QString& caption, std::function<void()> action);
 
+    // Says it before the words of what is being offered, which stays; as Say where nothing is.
+    void SayBefore(const QString& text);
+
+    [[nodiscard]] bool IsOffering() const { return m_action != nullptr; }
+
     void Clear();
     [[nodiscard]] QString Text() const;
 

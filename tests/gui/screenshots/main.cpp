@@ -1,7 +1,9 @@
 // Pictures of every window for a person to look at: ui_screenshots OUTDIR. Each at its smallest, first and a large size, light and dark.
-#include "console/SampleBusiness.h"
 #include "gui/GuiProgram.h"
+#include "office/SampleBusiness.h"
 #include "store/BulkWriter.h"
+#include "store/CJetDB.h"
+#include "ui/dialogs/FFirstStart.h"
 
 #include <cstdio>
 #include <QSettings>
@@ -18,17 +20,7 @@ constexpr auto kCareless = "Helen Fitzgerald"; // types wrongly, once or twice
 
 void FillSample(BulkWriter& writer)
 {
-    for (const CompanyRow& company : SampleCompanies()) {
-        writer.AddCompany(company);
-    }
-    for (const SampleEmployee& employee : SampleEmployees(kToday)) {
-        const std::int32_t id = writer.AddEmployee(employee.row);
-        std::vector<TimeRecordRow> shifts = SampleShifts(employee, id, kToday);
-        AddIrregularities(employee, shifts, kToday);
-        for (const TimeRecordRow& shift : shifts) {
-            writer.AddTimeRecord(shift);
-        }
-    }
+    AddSampleBusiness(writer, kToday);
 }
 
 QPalette DarkPalette()
@@ -76,6 +68,17 @@ private:
     QString m_theme;
 };
 
+void TakeFirstStart(const GuiProgram& program, const Photographer& photographer)
+{
+    FFirstStart window("/home/ann/.local/share/ptk-admin", program.clock);
+    window.show();
+    photographer.TakeSizes(window, "first-start");
+    Find<QPushButton>(window, "cmdStart").click();
+    photographer.Take(window, "first-start-refused");
+    Find<QRadioButton>(window, "optFolder").click();
+    photographer.Take(window, "first-start-folder");
+}
+
 void TakeLogin(GuiProgram& program, const Photographer& photographer)
 {
     const ModalScript login([&](QDialog& window) {
@@ -100,6 +103,12 @@ void TakeAbout(FController& main, const Photographer& photographer)
 {
     const ModalScript script([&](QDialog& window) { photographer.Take(window, "about"); });
     Find<QAction>(main, "mnuHelpAbout").trigger();
+}
+
+void TakeShortcuts(FController& main, const Photographer& photographer)
+{
+    const ModalScript script([&](QDialog& window) { photographer.TakeSizes(window, "shortcuts"); });
+    Find<QAction>(main, "mnuHelpShortcuts").trigger();
 }
 
 void TakePages(FController& main, const Photographer& photographer)
@@ -183,6 +192,73 @@ void TakeOverview(FController& main, const Photographer& photographer)
     }
 }
 
+// After a record was deleted, and after it is back.
+void TakeEditMenu(FController& main, RecordingDesktop& desktop, const Photographer& photographer)
+{
+    desktop.answers = {Answer::Yes};
+    Find<QTableView>(main, "grdTimeRecs").setCurrentIndex(Find<QTableView>(main, "grdTimeRecs").model()->index(0, 0));
+    main.EventSource(eventsource::TimeRecordGrid);
+    Find<QPushButton>(main, "cmdTCDelete").click();
+    auto& menu = Find<QMenu>(main, "mnuEdit");
+    menu.popup(main.mapToGlobal(QPoint()));
+    photographer.Take(menu, "edit-menu");
+    menu.close();
+    Find<QAction>(main, "mnuEditUndo").trigger();
+    photographer.Take(main, "timecards-undone");
+}
+
+QWidget& History()
+{
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->objectName() == "HistoryWindow") {
+            return *window;
+        }
+    }
+    throw std::runtime_error("no history");
+}
+
+// Some weeks of corrections by three people and another program, dated as if they were made one after the other.
+void MakeEdits(const GuiProgram& program)
+{
+    const auto database = std::make_shared<CJetDB>(program.folder.Path());
+    database->DatabaseName(NativePath(program.databasePath).string());
+    const auto by = [&](const char* person, const char* name, const std::string& sql) {
+        database->StoredBy({person, name});
+        if (!database->ExecuteAction(sql)) {
+            throw database->LastFailure();
+        }
+    };
+    const std::string some =
+        " WHERE TimeRecordID IN (SELECT TimeRecordID FROM TimeRecord WHERE EndTime > StartTime ORDER BY StartTime DESC LIMIT ";
+    by("Susan Whitcombe-Harrington", "ptk-admin", "UPDATE TimeRecord SET StartTime = datetime(StartTime, '-15 minutes')" + some + "300)");
+    by("administrator", "ptk-admin", "UPDATE TimeRecord SET EndTime = datetime(EndTime, '+1 hour')" + some + "12)");
+    by("root", "ptk-console",
+       "UPDATE Employee SET PayRate = PayRate + 0.5, Phone = '555-0199', City = 'Springfield' WHERE EmployeeID < 44");
+    by("", "", "INSERT INTO TimeRecord (EmployeeID, StartTime, EndTime) SELECT 41, #3/4/2003 8:00 AM#, #3/4/2003 5:00 PM#");
+    by("administrator", "ptk-admin", "UPDATE _System SET period_length = 13");
+    by("administrator", "ptk-admin", "UPDATE Company SET Phone = '555-0142'");
+    by("administrator", "ptk-admin", "DELETE FROM TimeRecord" + some + "3)");
+    by("administrator", "ptk-admin",
+       "UPDATE _Change SET ChangedAt = datetime('2003-03-05 08:05:00', '-' || (((SELECT MAX(ChangeID) FROM _Change) - ChangeID) * 11) "
+       "|| ' minutes')");
+}
+
+void TakeHistory(GuiProgram& program, const Photographer& photographer)
+{
+    FController& main = program.Main();
+    Find<QAction>(main, "mnuViewHistory").trigger();
+    photographer.Take(History(), "history-empty");
+    History().close();
+    MakeEdits(program);
+    Find<QAction>(main, "mnuViewHistory").trigger();
+    Find<QTableView>(History(), "grdHistory").selectRow(7);
+    photographer.TakeSizes(History(), "history");
+    Find<QPushButton>(main, "cmdGenTimeRecs").click();
+    Find<QAction>(main, "mnuViewCardHistory").trigger();
+    photographer.TakeSizes(History(), "history-card");
+    History().close();
+}
+
 void TakeViewers(GuiProgram& program, const Photographer& photographer)
 {
     FController& main = program.Main();
@@ -202,15 +278,19 @@ void TakeAll(const QString& folder, const QString& theme)
 {
     const Photographer photographer(folder, theme);
     GuiProgram program(FillSample);
+    TakeFirstStart(program, photographer);
     TakeLogin(program, photographer);
     FController& main = program.Main();
     TakePages(main, photographer);
     TakeModal(main, "cmdTCNew", photographer, "time-editor");
     TakeModal(main, "cmdFill", photographer, "auto-fill");
     TakeAbout(main, photographer);
+    TakeShortcuts(main, photographer);
     TakeRestore(program, photographer);
     TakeFindings(main, photographer);
     TakeOverview(main, photographer);
+    TakeHistory(program, photographer);
+    TakeEditMenu(main, program.desktop, photographer);
     TakeViewers(program, photographer);
 }
 

@@ -8,6 +8,8 @@
 
 namespace ptk {
 
+class BulkWriter;
+
 // How somebody's days look.
 enum class WorkPattern
 {
@@ -38,5 +40,8 @@ struct SampleEmployee
 // Puts into the shifts of some employees what goes wrong in every business: of each kind that the check of a card finds at least one, so
 // far as shifts can show it, nearly all in the week before today. REQUIRES: the shifts are those that SampleShifts answers.
 void AddIrregularities(const SampleEmployee& employee, std::vector<TimeRecordRow>& shifts, DateTime today);
+
+// All of these.
+void AddSampleBusiness(BulkWriter& writer, DateTime today);
 
 } // namespace ptk

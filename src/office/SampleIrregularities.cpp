@@ -1,5 +1,5 @@
 // The sample's mistakes: what the check of a time card finds, at least one of each kind, in the days before `today`.
-#include "console/SampleBusiness.h"
+#include "office/SampleBusiness.h"
 
 #include <algorithm>
 

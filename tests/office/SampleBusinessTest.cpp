@@ -1,4 +1,4 @@
-#include "console/SampleBusiness.h"
+#include "office/SampleBusiness.h"
 
 #include <gtest/gtest.h>
 

@@ -1,0 +1,48 @@
+# bash completion for ptk-console and ptk-admin
+_ptk_console() {
+    local commands="create-database time-card overview report history backup backups restore check"
+    local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} command= i
+    for ((i = 1; i < COMP_CWORD; i++)); do
+        case ${COMP_WORDS[i]} in
+            --program-folder) ((i++)) ;;
+            -*) ;;
+            *) command=${COMP_WORDS[i]}; break ;;
+        esac
+    done
+    case $before in
+        --program-folder) mapfile -t COMPREPLY < <(compgen -d -- "$word"); return ;;
+        --to) [[ $command == backup ]] && mapfile -t COMPREPLY < <(compgen -f -- "$word"); return ;;
+        --format)
+            local formats="text csv json"
+            [[ $command == report ]] && formats+=" pdf"
+            mapfile -t COMPREPLY < <(compgen -W "$formats" -- "$word")
+            return
+            ;;
+        -o | --output) mapfile -t COMPREPLY < <(compgen -f -- "$word"); return ;;
+        --employee | --from | --today) return ;;
+    esac
+    local words
+    case $command in
+        "") words="$commands --program-folder --help --version" ;;
+        create-database) words="--sample --today --help" ;;
+        time-card) words="--employee --from --to --check --help" ;;
+        overview | history) words="--employee --from --to --format --help" ;;
+        report) words="timecard review ytd employees phonebook --employee --from --to --format --output --help" ;;
+        backup) words="--to --help" ;;
+        restore) mapfile -t COMPREPLY < <(compgen -f -- "$word"); return ;;
+        *) words="--help" ;;
+    esac
+    mapfile -t COMPREPLY < <(compgen -W "$words" -- "$word")
+}
+
+_ptk_admin() {
+    local word=${COMP_WORDS[COMP_CWORD]}
+    if [[ ${COMP_WORDS[COMP_CWORD - 1]} == --program-folder ]]; then
+        mapfile -t COMPREPLY < <(compgen -d -- "$word")
+    else
+        mapfile -t COMPREPLY < <(compgen -W "--program-folder --help --version" -- "$word")
+    fi
+}
+
+complete -o filenames -F _ptk_console ptk-console
+complete -o filenames -F _ptk_admin ptk-admin

@@ -1,0 +1,91 @@
+#include "office/ChangeWatch.h"
+
+#include "office/UndoStack.h"
+#include "platform/Succeeds.h"
+#include "store/CJetDB.h"
+
+#include <algorithm>
+
+namespace ptk {
+
+namespace {
+
+// Whose record it was before or is after.
+std::set<std::int64_t> EmployeesOf(const TrailEntry& entry)
+{
+    std::set<std::int64_t> employees;
+    if (entry.employee) {
+        employees.insert(*entry.employee);
+    }
+    for (const auto& row : {entry.before, entry.after}) {
+        const TrailValue* employee = row ? ValueOf(*row, "EmployeeID") : nullptr;
+        if (employee != nullptr && employee->kind == TrailValue::Kind::Number) {
+            employees.insert(std::strtoll(employee->text.c_str(), nullptr, 10));
+        }
+    }
+    return employees;
+}
+
+} // namespace
+
+ChangeWatch::ChangeWatch(const std::shared_ptr<CJetDB>& database, const UndoStack& own) : m_database(database->Afresh()), m_own(own)
+{
+    m_database->DoNotWait();
+    Look();
+}
+
+// What could not be asked now is asked the next time: no more than a notice depends on it.
+void ChangeWatch::Look()
+{
+    Succeeds([this] { m_newest ? TakeNew() : Start(); });
+    m_database->CloseDB();
+}
+
+void ChangeWatch::Start()
+{
+    TrailQuery query;
+    query.most = 1;
+    const auto newest = ReadTrail(m_database, query);
+    m_newest = newest.empty() ? 0 : newest.front().id;
+}
+
+void ChangeWatch::TakeNew()
+{
+    TrailQuery query;
+    query.newerThan = *m_newest;
+    for (const TrailEntry& entry : ReadTrail(m_database, query)) {
+        Take(entry);
+    }
+}
+
+void ChangeWatch::Take(const TrailEntry& entry)
+{
+    m_newest = std::max(*m_newest, entry.id);
+    if (entry.step && m_own.IsOwn(*entry.step)) {
+        return;
+    }
+    if (entry.table == "TimeRecord") {
+        for (const std::int64_t employee : EmployeesOf(entry)) {
+            m_changed.emplace(Shown::CardRecords, employee);
+        }
+    } else if (entry.table == "Employee" && entry.row) {
+        m_changed.emplace(Shown::Employee, *entry.row);
+        m_changed.emplace(Shown::CardEmployee, *entry.row);
+    } else if (entry.table == "Company" && entry.row) {
+        m_changed.emplace(Shown::Company, *entry.row);
+    }
+}
+
+void ChangeWatch::AboutToRead(Shown what)
+{
+    Look();
+    std::erase_if(m_changed, [&](const auto& changed) { return changed.first == what; });
+}
+
+void ChangeWatch::AboutToRead(Shown what, std::int64_t row)
+{
+    Look();
+    m_changed.erase({what, row});
+}
+
+} // namespace ptk

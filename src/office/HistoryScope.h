@@ -1,0 +1,28 @@
+// What of the history a time card asks for: that of one record, or of all that its total came of.
+#pragma once
+
+#include "model/PayPeriod.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace ptk {
+
+struct TrailQuery;
+
+struct HistoryScope
+{
+    std::int64_t employee = 0;
+    PayPeriod period;
+    std::optional<std::int64_t> record; // nothing: every record that lies in the period or ever did, and the employee's own row
+    DateTime start;                     // of the record
+};
+
+// "Only the record of 03/05/2003 08:00 AM", "Only what counts for 03/01/2003 - 03/15/2003".
+[[nodiscard]] std::string ScopeText(const HistoryScope& scope);
+
+// A record is followed also where it was another employee's before.
+void Narrow(TrailQuery& query, const HistoryScope& scope);
+
+} // namespace ptk

@@ -1,0 +1,38 @@
+// The questions to the edit trail, in the engine's own words.
+#pragma once
+
+#include <string>
+
+namespace ptk {
+
+class Statement;
+struct TrailQuery;
+
+namespace trailsql {
+
+// Of the statement below. Whatever another tool put there, all are numbers, or texts, or a null.
+enum Column
+{
+    kId,
+    kAt,
+    kBy,
+    kProgram,
+    kStep,
+    kTable,
+    kRow,
+    kAction,
+    kBefore,
+    kAfter,
+    kEmployee
+};
+
+} // namespace trailsql
+
+// The statement that answers such a query, newest first. What it reads to the first entries does not grow with the trail where the query
+// names an employee, a person, records, or a kind other than time records; else it reads from the newest entry on.
+[[nodiscard]] std::string TrailSql(const TrailQuery& query);
+
+// All that it asks for.
+void BindTrail(Statement& statement, const TrailQuery& query);
+
+} // namespace ptk

@@ -1,0 +1,53 @@
+// Storing changes to the records of the current time card, and telling what came of it.
+#pragma once
+
+#include "store/RowConflict.h"
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace ptk {
+
+class CTimeCard;
+class CTimeRecord;
+class CTimeRecordFactory;
+class CurrentCard;
+class NoticeLine;
+class PageHost;
+struct Notice;
+
+class CardStoring
+{
+public:
+    struct Change
+    {
+        std::function<bool(CTimeCard&, CTimeRecordFactory&)> step;
+        const Notice& failed;
+        const char* refused; // for the page's line, before the reason
+        std::string done;
+        std::shared_ptr<CTimeRecord> record; // nullptr for several new ones
+    };
+
+    // All outlive it.
+    CardStoring(PageHost& host, CurrentCard& card, NoticeLine& line) : m_host(host), m_card(card), m_line(line) {}
+
+    // The card shows what is in the database from then on, or the user learns that nothing has changed there.
+    bool Store(const Change& change);
+
+    // Why the last one was refused, where somebody else had changed or removed the record.
+    [[nodiscard]] const std::optional<RowConflict>& Conflict() const { return m_conflict; }
+
+private:
+    bool StoreQuietly(const Change& change);
+    std::string TellRefusal(const Change& change);
+    void TellConflict(const Change& change);
+
+    PageHost& m_host;
+    CurrentCard& m_card;
+    NoticeLine& m_line;
+    std::optional<RowConflict> m_conflict;
+};
+
+} // namespace ptk
