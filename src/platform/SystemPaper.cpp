@@ -51,7 +51,7 @@ std::optional<PaperSize> NamedIn(const std::string& path)
 std::string LocaleName()
 {
     for (const char* name : {"LC_ALL", "LC_PAPER", "LANG"}) {
-        if (const std::string value = Variable(name); !value.empty()) {
+        if (std::string value = Variable(name); !value.empty()) {
             return value;
         }
     }

@@ -108,6 +108,7 @@ std::string PdfOf(std::span<const ReportDocument> documents, PaperSize size, Dat
     std::vector<Sheet> sheets;
     std::vector<PtkPage> drawn;
     sheets.reserve(pages.size());
+    drawn.reserve(pages.size());
     for (const Page& page : pages) {
         drawn.push_back(sheets.emplace_back(page, paper).Drawn());
     }
