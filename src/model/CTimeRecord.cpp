@@ -86,4 +86,16 @@ void CTimeRecord::AppendTime(std::string& text, DateTime time) const
     }
 }
 
+std::shared_ptr<CTimeRecord> StoredRecord(const TimeRecordRow& row)
+{
+    auto record = std::make_shared<CTimeRecord>();
+    record->TimeRecordID(row.TimeRecordID);
+    record->EmployeeID(row.EmployeeID);
+    record->StartTime(row.StartTime);
+    record->EndTime(row.EndTime);
+    record->ObjectState(row.ObjectState); // last, since filling marks it changed
+    record->KeepAsRead();
+    return record;
+}
+
 } // namespace ptk

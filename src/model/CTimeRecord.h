@@ -97,4 +97,7 @@ private:
     bool m_enforceFormat = true;
 };
 
+// A record as the database has it.
+[[nodiscard]] std::shared_ptr<CTimeRecord> StoredRecord(const TimeRecordRow& row);
+
 } // namespace ptk

@@ -16,18 +16,6 @@ namespace {
 
 constexpr std::int16_t kAscending = 1;
 
-std::shared_ptr<CTimeRecord> RecordOf(const TimeRecordRow& row)
-{
-    auto record = std::make_shared<CTimeRecord>();
-    record->TimeRecordID(row.TimeRecordID);
-    record->EmployeeID(row.EmployeeID);
-    record->StartTime(row.StartTime);
-    record->EndTime(row.EndTime);
-    record->ObjectState(row.ObjectState); // last, since filling marks it changed
-    record->KeepAsRead();
-    return record;
-}
-
 bool NeedsSaving(const CTimeRecord& record)
 {
     return record.ObjectState() != state::Unchanged && record.ObjectState() != state::NothingToDo;
@@ -100,7 +88,7 @@ void CTimeRecordFactory::InsertRows(RecordSet& rows)
     RowReader reader(rows, TimeRecordTable());
     m_list->Reserve(count);
     for (std::int32_t i = 1; i <= count; ++i) {
-        if (!m_list->Insert(RecordOf(reader.ReadTimeRecord()), i)) {
+        if (!m_list->Insert(StoredRecord(reader.ReadTimeRecord()), i)) {
             m_errorNumber = recordfactory::InsertFailed;
         }
         rows.MoveNext();

@@ -31,17 +31,6 @@ void DropNewRecords(CTimeRecordList& records)
     }
 }
 
-std::shared_ptr<CTimeRecord> StoredRecord(const TimeRecordRow& row)
-{
-    auto record = std::make_shared<CTimeRecord>();
-    record->TimeRecordID(row.TimeRecordID);
-    record->EmployeeID(row.EmployeeID);
-    record->StartTime(row.StartTime);
-    record->EndTime(row.EndTime);
-    record->ObjectState(row.ObjectState); // last, since filling marks it changed
-    return record;
-}
-
 } // namespace
 
 bool StoreRecord(CTimeCard& card, CTimeRecordFactory& factory, const std::shared_ptr<CTimeRecord>& record)
@@ -77,8 +66,8 @@ std::shared_ptr<CTimeRecord> RecordToEdit(const Punch& punch, std::int32_t emplo
     }
     auto record = StoredRecord({static_cast<std::int32_t>(punch.id), employeeID, punch.start.value_or(DateTime()),
                                 punch.end.value_or(DateTime()), state::Unchanged});
-    if (punch.IsReadable()) {
-        record->KeepAsRead();
+    if (!punch.IsReadable()) {
+        record->ForgetAsRead();
     }
     return record;
 }
@@ -96,9 +85,7 @@ std::shared_ptr<CTimeRecord> RecordToTryAgain(const CTimeRecord& refused, const 
         }
         (field.column == "StartTime" ? row.StartTime : row.EndTime) = ParseDateTime(field.present).value_or(DateTime());
     }
-    auto record = StoredRecord(row);
-    record->KeepAsRead();
-    return record;
+    return StoredRecord(row);
 }
 
 } // namespace ptk

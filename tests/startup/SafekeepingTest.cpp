@@ -29,15 +29,6 @@ protected:
     std::string Folder() const { return folder.Path() + "/backups"; }
     std::string Backups() const { return fmt::format("{}", fmt::join(BackupsIn(Folder()), " ")); }
     void Spoil() { WriteBytes(databasePath, std::string(40000, 'x')); }
-
-    std::int16_t StoredPeriodLength()
-    {
-        const auto database = std::make_shared<CJetDB>(folder.Path());
-        CSystemOptions options;
-        options.PTKDatabase(database);
-        EXPECT_TRUE(database->OpenDB() && options.Load());
-        return options.PeriodLength();
-    }
 };
 
 const std::string kOfNow = "ptk_11-2003-03-05-080509.mdb"; // by the fixture's clock

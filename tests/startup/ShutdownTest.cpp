@@ -27,15 +27,6 @@ protected:
         controller = program.Controller();
     }
 
-    std::int16_t StoredPeriodLength()
-    {
-        const auto database = std::make_shared<CJetDB>(folder.Path());
-        CSystemOptions options;
-        options.PTKDatabase(database);
-        EXPECT_TRUE(database->OpenDB() && options.Load());
-        return options.PeriodLength();
-    }
-
     std::shared_ptr<CController> controller;
 };
 

@@ -8,6 +8,7 @@
 #include "startup/CController.h"
 #include "startup/Windows.h"
 #include "store/CJetDB.h"
+#include "store/CSystemOptions.h"
 #include "store/DatabaseCreator.h"
 #include "support/Files.h"
 #include "support/FixedClock.h"
@@ -160,6 +161,15 @@ protected:
     {
         CJetDB database(folder.Path());
         ASSERT_TRUE(database.ExecuteAction(sql)) << sql;
+    }
+
+    std::int16_t StoredPeriodLength()
+    {
+        const auto database = std::make_shared<CJetDB>(folder.Path());
+        CSystemOptions options;
+        options.PTKDatabase(database);
+        EXPECT_TRUE(database->OpenDB() && options.Load());
+        return options.PeriodLength();
     }
 
     std::string Log() const { return ReadBytes(logPath); }
