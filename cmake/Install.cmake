@@ -2,6 +2,7 @@
 include(GNUInstallDirs)
 
 install(TARGETS ptk-console RUNTIME COMPONENT console)
+install(TARGETS ptk_pages LIBRARY DESTINATION lib/ptk-console COMPONENT console) # each program's own: either package may be there alone
 
 find_program(PANDOC pandoc REQUIRED)
 set(man_page ${CMAKE_BINARY_DIR}/man/ptk-admin.1)
@@ -20,6 +21,7 @@ if(NOT PTK_UI)
 endif()
 
 install(TARGETS ptk-admin RUNTIME COMPONENT admin)
+install(TARGETS ptk_pages LIBRARY DESTINATION lib/ptk-admin COMPONENT admin)
 install(FILES ${man_page} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT admin)
 install(FILES packaging/completion.bash DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME ptk-admin COMPONENT admin)
 install(FILES packaging/ptk-admin.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications COMPONENT admin)

@@ -17,6 +17,13 @@ function(ptk_layer name)
   set_target_properties(ptk_${name} PROPERTIES VERIFY_INTERFACE_HEADER_SETS ON)
 endfunction()
 
+# ptk_draws_pages(target): the module that draws pages beside a program that is not built beside it.
+function(ptk_draws_pages target)
+  add_dependencies(${target} ptk_pages)
+  add_custom_command(TARGET ${target} POST_BUILD
+    COMMAND ${CMAKE_COMMAND} -E create_symlink $<TARGET_FILE:ptk_pages> $<TARGET_FILE_DIR:${target}>/$<TARGET_FILE_NAME:ptk_pages> VERBATIM)
+endfunction()
+
 # ptk_test(model): the test program model_tests of tests/model, linking ptk_model and the fixtures only.
 function(ptk_test name)
   cmake_parse_arguments(ARG "" "" "USES" ${ARGN})

@@ -12,7 +12,13 @@ _ptk_console() {
     case $before in
         --program-folder) mapfile -t COMPREPLY < <(compgen -d -- "$word"); return ;;
         --to) [[ $command == backup ]] && mapfile -t COMPREPLY < <(compgen -f -- "$word"); return ;;
-        --format) mapfile -t COMPREPLY < <(compgen -W "text csv json" -- "$word"); return ;;
+        --format)
+            local formats="text csv json"
+            [[ $command == report ]] && formats+=" pdf"
+            mapfile -t COMPREPLY < <(compgen -W "$formats" -- "$word")
+            return
+            ;;
+        -o | --output) mapfile -t COMPREPLY < <(compgen -f -- "$word"); return ;;
         --employee | --from | --today) return ;;
     esac
     local words
@@ -21,7 +27,7 @@ _ptk_console() {
         create-database) words="--sample --today --help" ;;
         time-card) words="--employee --from --to --check --help" ;;
         overview | history) words="--employee --from --to --format --help" ;;
-        report) words="timecard review ytd employees phonebook --employee --from --to --help" ;;
+        report) words="timecard review ytd employees phonebook --employee --from --to --format --output --help" ;;
         backup) words="--to --help" ;;
         restore) mapfile -t COMPREPLY < <(compgen -f -- "$word"); return ;;
         *) words="--help" ;;

@@ -6,6 +6,7 @@
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
+#include <map>
 #include <sstream>
 
 namespace ptk {
@@ -29,6 +30,13 @@ void TakesFormat(CLI::App* command, std::string& format)
     command->add_option("--format", format, "How: text, csv or json")->type_name("FORMAT")->check(CLI::IsMember({"text", "csv", "json"}));
 }
 
+const std::map<std::string, ReportForm>& ReportForms()
+{
+    static const std::map<std::string, ReportForm> forms{
+        {"text", ReportForm::Text}, {"csv", ReportForm::Csv}, {"json", ReportForm::Json}, {"pdf", ReportForm::Pdf}};
+    return forms;
+}
+
 std::vector<std::string> ConsoleNames()
 {
     std::vector<std::string> names;
@@ -50,6 +58,7 @@ struct Words
     std::string from;
     std::string to;
     std::string report;
+    std::string output;
     std::string target;
     std::string file;
     std::vector<std::string> employees;
@@ -71,6 +80,7 @@ private:
     void CheckReport() const;
     std::variant<Arguments, UsageAnswer> Answer(const CLI::ParseError& error) const;
     Arguments Result() const;
+    Command ReportResult() const;
     Command BackupResult() const;
 
     Words m_words;
@@ -134,6 +144,10 @@ void Grammar::DescribeReport()
         ->allow_extra_args(false);
     TakesDay(m_report->add_option("--from", m_words.from, "First day; else as the Reports page offers"));
     TakesDay(m_report->add_option("--to", m_words.to, "Last day; else as the Reports page offers"));
+    m_report->add_option("--format", m_words.format, "How: text, csv, json or pdf")
+        ->type_name("FORMAT")
+        ->check(CLI::IsMember(ReportForms()));
+    m_report->add_option("-o,--output", m_words.output, "Into this file instead of printing it; all reports into one")->type_name("FILE");
 }
 
 void Grammar::DescribeOverview()
@@ -215,8 +229,7 @@ Arguments Grammar::Result() const
                 TimeCardArguments{m_words.employee, ReadDay(m_words.from).value(), ReadDay(m_words.to).value(), m_words.check}};
     }
     if (m_report->parsed()) {
-        return {m_words.programFolder,
-                ReportArguments{*FindConsoleReport(m_words.report), m_words.employees, ReadDay(m_words.from), ReadDay(m_words.to)}};
+        return {m_words.programFolder, ReportResult()};
     }
     if (m_overview->parsed()) {
         return {m_words.programFolder, OverviewArguments{m_words.employees, ReadDay(m_words.from), ReadDay(m_words.to), m_words.format}};
@@ -227,6 +240,16 @@ Arguments Grammar::Result() const
                                                         ReadDay(m_words.to), m_words.format}};
     }
     return {m_words.programFolder, BackupResult()};
+}
+
+Command Grammar::ReportResult() const
+{
+    return ReportArguments{*FindConsoleReport(m_words.report),
+                           m_words.employees,
+                           ReadDay(m_words.from),
+                           ReadDay(m_words.to),
+                           ReportForms().at(m_words.format),
+                           m_report->count("--output") > 0 ? std::optional(m_words.output) : std::nullopt};
 }
 
 Command Grammar::BackupResult() const

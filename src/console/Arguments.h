@@ -3,6 +3,7 @@
 
 #include "platform/DateTime.h"
 #include "reports/ReportCatalog.h"
+#include "reports/ReportForms.h"
 
 #include <optional>
 #include <string>
@@ -31,6 +32,8 @@ struct ReportArguments
     std::vector<std::string> employees; // display names in the order given; none: all that are offered
     std::optional<DateTime> from;
     std::optional<DateTime> to;
+    ReportForm form = ReportForm::Text;
+    std::optional<std::string> output; // a file; none: the standard output
 };
 
 struct OverviewArguments

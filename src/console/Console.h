@@ -26,6 +26,7 @@ struct Console
     const ptk::Clock& clock;
     std::ostream& out;
     std::ostream& err;
+    bool terminal = false; // somebody reads `out` on one
 };
 
 // "ptk-console: NUMBER: TEXT" on one line, without the number where there is none (0).

@@ -35,23 +35,23 @@ int ShowUsage(const UsageAnswer& answer, std::ostream& out, std::ostream& err)
     return RefuseUsage(err, answer.text);
 }
 
-int Run(const std::vector<std::string>& words, const Clock& clock, std::ostream& out, std::ostream& err)
+int Run(const std::vector<std::string>& words, const Clock& clock, std::ostream& out, std::ostream& err, bool terminal)
 {
     const auto read = ReadArguments(words);
     if (const auto* answer = std::get_if<UsageAnswer>(&read)) {
         return ShowUsage(*answer, out, err);
     }
     const auto& arguments = std::get<Arguments>(read);
-    Console console{FindProgramFolder(arguments.programFolder).path, clock, out, err};
+    Console console{FindProgramFolder(arguments.programFolder).path, clock, out, err, terminal};
     return std::visit(Dispatch{console}, arguments.command);
 }
 
 } // namespace
 
-int RunConsole(const std::vector<std::string>& words, const Clock& clock, std::ostream& out, std::ostream& err)
+int RunConsole(const std::vector<std::string>& words, const Clock& clock, std::ostream& out, std::ostream& err, bool terminal)
 {
     try {
-        const int result = Run(words, clock, out, err);
+        const int result = Run(words, clock, out, err, terminal);
         if (out.flush() || result == status::Failed || result == status::WrongUsage) {
             return result;
         }

@@ -9,7 +9,9 @@ namespace ptk {
 
 class Clock;
 
-// `words`: the command line without the program's name. Never raises; output that could not be written is a failure too.
-[[nodiscard]] int RunConsole(const std::vector<std::string>& words, const Clock& clock, std::ostream& out, std::ostream& err);
+// `words`: the command line without the program's name. Never raises; output that could not be written is a failure too. `terminal`:
+// whether `out` is one, which shows no byte order mark and no PDF file.
+[[nodiscard]] int RunConsole(const std::vector<std::string>& words, const Clock& clock, std::ostream& out, std::ostream& err,
+                             bool terminal = false);
 
 } // namespace ptk

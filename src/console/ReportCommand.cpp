@@ -10,12 +10,21 @@
 #include "office/ReportChoice.h"
 #include "office/ReportRunner.h"
 #include "platform/Clock.h"
+#include "platform/FileDraft.h"
 #include "platform/ProgramFolder.h"
+#include "platform/Succeeds.h"
 #include "reports/Report.h"
+#include "reports/ReportForms.h"
+
+#include <algorithm>
 
 namespace ptk {
 
 namespace {
+
+constexpr auto kNotOnATerminal = "a PDF file is nothing for a terminal: name a file with -o";
+constexpr auto kNoName = "-o needs the name of a file";
+constexpr auto kNothingToWrite = "nobody is offered reports: there is no page to write";
 
 // The Reports page without its window.
 class ReportWriter final : private ReportClient
@@ -30,6 +39,9 @@ private:
     bool GoOn(std::int32_t /*done*/) override { return true; }
     void Say(const std::string& /*outcome*/) override {} // the files are named and the failures told one by one
     void Made(Report& report, bool complete, const std::string& outcome) override;
+    void Deliver();
+    void Print(std::string text);
+    void Store(const std::string& path, const std::string& bytes);
 
     const ReportArguments& m_arguments;
     Console& m_console;
@@ -43,6 +55,9 @@ private:
 ReportWriter::ReportWriter(const ReportArguments& arguments, Console& console)
     : m_arguments(arguments), m_console(console), m_session(console.programFolder), m_desktop(console.err), m_viewers(m_transcript)
 {
+    if (arguments.form != ReportForm::Text || arguments.output) {
+        m_viewers.KeepReports();
+    }
     m_session.LoadEmployees();
     for (const std::string& name : arguments.employees) {
         if (m_session.Employees()->GetEmployeeByName(name) == nullptr) {
@@ -86,14 +101,60 @@ int ReportWriter::Write()
 {
     RunReports(Order(), *this);
     m_session.GiveUpDatabase();
+    if (!Succeeds([this] { Deliver(); }, [this](const Failure& reason) { m_transcript.Complain(reason); })) {
+        m_status = status::Failed;
+    }
     m_transcript.SayAll(m_console);
     return m_status;
+}
+
+// Half a report takes no other's place, as it does not in the reports folder.
+void ReportWriter::Deliver()
+{
+    const std::vector<ReportDocument>& reports = m_viewers.Kept();
+    const bool keeps = m_arguments.form != ReportForm::Text || m_arguments.output;
+    if (!keeps || (reports.empty() && m_status != status::Done)) {
+        return;
+    }
+    if (reports.empty() && m_arguments.form == ReportForm::Pdf) {
+        throw Failure(0, "PTK", kNothingToWrite);
+    }
+    std::string bytes = FileOf(m_arguments.form, reports, m_console.clock.Now());
+    if (!m_arguments.output) {
+        Print(std::move(bytes));
+    } else if (std::all_of(reports.begin(), reports.end(), [](const ReportDocument& report) { return report.whole; })) {
+        Store(*m_arguments.output, bytes);
+    }
+}
+
+void ReportWriter::Print(std::string text)
+{
+    if (m_console.terminal) {
+        text = TerminalText(text.starts_with(kByteOrderMark) ? text.substr(kByteOrderMark.size()) : text);
+    }
+    m_transcript.Print(std::move(text));
+}
+
+void ReportWriter::Store(const std::string& path, const std::string& bytes)
+{
+    try {
+        PutFile(path, bytes);
+    } catch (const Failure& reason) {
+        throw FileFailure(reason, path);
+    }
+    m_transcript.NameFile(path);
 }
 
 } // namespace
 
 int ReportCommand(const ReportArguments& arguments, Console& console)
 {
+    if (arguments.form == ReportForm::Pdf && !arguments.output && console.terminal) {
+        return RefuseUsage(console.err, kNotOnATerminal);
+    }
+    if (arguments.output && arguments.output->empty()) {
+        return RefuseUsage(console.err, kNoName);
+    }
     return ReportWriter(arguments, console).Write();
 }
 

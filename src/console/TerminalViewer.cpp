@@ -19,13 +19,7 @@ public:
         m_text += buffer + "\r\n";
         return true;
     }
-    void Show() override
-    {
-        m_viewers.Print(TerminalText(m_text));
-        if (m_report->FileWritten()) {
-            m_viewers.NameFile(NativePath(m_report->ReportPath()).string());
-        }
-    }
+    void Show() override { m_viewers.Show(*m_report, m_text); }
     void Hide() override {}
     void Unload() override { m_report.reset(); }
 
@@ -40,15 +34,17 @@ std::shared_ptr<ReportViewer> TerminalViewers::CreateViewer(ReportKind)
     return std::make_shared<TerminalViewer>(*this);
 }
 
-void TerminalViewers::Print(const std::string& text)
+void TerminalViewers::Show(const Report& report, const std::string& text)
 {
-    m_transcript.Print(m_printed ? '\n' + text : text);
-    m_printed = true;
-}
-
-void TerminalViewers::NameFile(const std::string& path)
-{
-    m_transcript.Note("written: " + path);
+    if (m_keeps) {
+        m_kept.push_back(report.Document());
+    } else {
+        m_transcript.Print((m_printed ? "\n" : "") + TerminalText(text));
+        m_printed = true;
+    }
+    if (report.FileWritten()) {
+        m_transcript.NameFile(NativePath(report.ReportPath()).string());
+    }
 }
 
 } // namespace ptk

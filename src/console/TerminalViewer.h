@@ -1,9 +1,11 @@
-// The console's report viewers: a shown report is printed, and the file that it was written to, if any, is named beside it.
+// The console's report viewers: a shown report is printed or kept, and the file that it was written to, if any, is named beside it.
 #pragma once
 
+#include "reports/ReportDocument.h"
 #include "reports/ReportViewer.h"
 
 #include <string>
+#include <vector>
 
 namespace ptk {
 
@@ -15,14 +17,21 @@ public:
     // Reports go to the output, one empty line between them, the files' paths to the error output. The transcript outlives the viewers.
     explicit TerminalViewers(Transcript& transcript) : m_transcript(transcript) {}
 
+    // Keeps the reports instead of printing them.
+    void KeepReports() { m_keeps = true; }
+
+    // In the order in which they were shown.
+    [[nodiscard]] const std::vector<ReportDocument>& Kept() const { return m_kept; }
+
     std::shared_ptr<ReportViewer> CreateViewer(ReportKind kind) override;
 
-    void Print(const std::string& text);
-    void NameFile(const std::string& path);
+    void Show(const Report& report, const std::string& text);
 
 private:
     Transcript& m_transcript;
     bool m_printed = false;
+    bool m_keeps = false;
+    std::vector<ReportDocument> m_kept;
 };
 
 } // namespace ptk

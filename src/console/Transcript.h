@@ -20,6 +20,9 @@ public:
     // On the error output, after the program's name.
     void Note(std::string_view line);
 
+    // A file that was written, likewise.
+    void NameFile(const std::string& path) { Note("written: " + path); }
+
     // As ptk::Complain.
     void Complain(const Failure& failure);
 

@@ -171,7 +171,8 @@ std::string CTimeCard::ToStringReport()
         if (m_employee != nullptr) {
             text += m_employee->ToStringTimeCard() + "\r\n";
         }
-        text += "\tStart Time\t\tEnd Time\t\tHours\r\n\r\n";
+        text += kReportHeading;
+        text += "\r\n\r\n";
         AppendLines(text);
         text += "\r\n";
         AppendSummary(text);

@@ -25,6 +25,9 @@ class CTimeRecordList;
 class CTimeCard : public Entity
 {
 public:
+    // The line above the shifts in the report's form.
+    static constexpr const char* kReportHeading = "\tStart Time\t\tEnd Time\t\tHours";
+
     // REQUIRES: not nullptr.
     explicit CTimeCard(std::shared_ptr<CTimeRecordFactory> factory);
 

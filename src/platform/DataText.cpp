@@ -1,5 +1,7 @@
 #include "platform/DataText.h"
 
+#include "platform/Utf8.h"
+
 #include <algorithm>
 #include <fmt/format.h>
 #include <iterator>
@@ -16,39 +18,6 @@ unsigned Byte(std::string_view text, std::size_t position)
     return static_cast<unsigned char>(text[position]);
 }
 
-// What the second byte of a character may be, by the first: neither overlong forms nor surrogates nor what lies beyond U+10FFFF.
-bool FitsBehind(unsigned first, unsigned second)
-{
-    switch (first) {
-    case 0xE0:
-        return second >= 0xA0 && second <= 0xBF;
-    case 0xED:
-        return second >= 0x80 && second <= 0x9F;
-    case 0xF0:
-        return second >= 0x90 && second <= 0xBF;
-    case 0xF4:
-        return second >= 0x80 && second <= 0x8F;
-    default:
-        return second >= 0x80 && second <= 0xBF;
-    }
-}
-
-// In bytes, of the UTF-8 character at the beginning; 0 where there is none.
-std::size_t CharacterLength(std::string_view text)
-{
-    const unsigned first = Byte(text, 0);
-    const std::size_t length = first < 0x80 ? 1 : first < 0xC2 ? 0 : first < 0xE0 ? 2 : first < 0xF0 ? 3 : first < 0xF5 ? 4 : 0;
-    if (length > text.size() || (length > 1 && !FitsBehind(first, Byte(text, 1)))) {
-        return 0;
-    }
-    for (std::size_t i = 2; i < length; ++i) {
-        if ((Byte(text, i) & 0xC0U) != 0x80U) {
-            return 0;
-        }
-    }
-    return length;
-}
-
 bool IsPlain(char c)
 {
     return c >= ' ' && c < '\x7F' && c != '"' && c != '\\';
@@ -60,7 +29,7 @@ void ForEachCharacter(std::string_view text, Take take)
 {
     while (!text.empty()) {
         const auto plain = static_cast<std::size_t>(std::find_if_not(text.begin(), text.end(), IsPlain) - text.begin());
-        const std::size_t length = plain > 0 ? plain : CharacterLength(text);
+        const std::size_t length = plain > 0 ? plain : Utf8Length(text);
         take(length == 0 ? kReplacement : text.substr(0, length));
         text.remove_prefix(length == 0 ? 1 : length);
     }

@@ -65,6 +65,15 @@ public:
     // ShellSuccess.
     virtual std::int32_t Shell(const DesktopWindow& owner, ShellVerb verb, const std::string& path) = 0;
 
+    // The same for printing, under a title that the print queue shows.
+    virtual std::int32_t Print(const DesktopWindow& owner, const std::string& path, const std::string& /*title*/)
+    {
+        return Shell(owner, ShellVerb::Print, path);
+    }
+
+    // Why the last document was not taken over, in words; empty where only the code is known.
+    [[nodiscard]] virtual std::string Refusal() const { return {}; }
+
     Answer Show(const std::string& text, const std::string& title, Icon icon) { return MessageBox(text, title, icon, Buttons::Ok); }
 };
 

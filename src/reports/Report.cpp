@@ -1,5 +1,7 @@
 #include "reports/Report.h"
 
+#include "platform/Clock.h"
+#include "platform/PrivateFile.h"
 #include "reports/ReportFile.h"
 #include "reports/ReportPrinter.h"
 #include "reports/TextRenderer.h"
@@ -92,14 +94,35 @@ void Report::Break()
 
 bool Report::PrintReport()
 {
-    // A file of that name is an earlier report's when this one has written none.
-    return PrintReportFile(m_context.desktop, m_context.window, m_fileWritten ? ReportPath() : "");
+    m_refusal.clear();
+    if (!m_fileWritten) {
+        // A file of that name is an earlier report's then.
+        return Succeeds([this] {
+            TellNoFile(m_context.desktop);
+            return false;
+        });
+    }
+    return PrintPages(m_context.desktop, m_context.window, m_document, Now(), m_refusal);
+}
+
+bool Report::OpenPages()
+{
+    auto opened = ptk::OpenPages(m_context.desktop, m_context.window, m_document, Now(), m_refusal);
+    const bool shown = opened != nullptr;
+    m_opened = shown ? std::move(opened) : std::move(m_opened);
+    return shown;
+}
+
+DateTime Report::Now() const
+{
+    return m_context.clock.Now();
 }
 
 bool Report::UnloadReportWindow()
 {
     const auto self = shared_from_this(); // the viewer and the parent window may hold the last references
     return Succeeds([this] {
+        m_opened.reset();
         if (const auto viewer = std::exchange(m_viewer, nullptr)) {
             viewer->Unload();
         }

@@ -21,6 +21,7 @@ class Clock;
 class CTimeRecordFactory;
 class Desktop;
 class DesktopWindow;
+class PrivateFile;
 class ReportFile;
 
 // What reports are made with. The references outlive them.
@@ -81,8 +82,19 @@ public:
     // Whether the file holds what was generated last.
     [[nodiscard]] bool FileWritten() const { return m_fileWritten; }
 
-    // Hands that file to the print spooler. False when it does not take it; that there is no such file the user is told in a box.
+    // Hands the document's pages to the print spooler. False when it does not take them; that there is no file of it, which is then not
+    // whole either, the user is told in a box.
     bool PrintReport();
+
+    // Has the desktop show the document's pages, in a file for its owner only that lives as long as the viewer. False when nothing shows
+    // it.
+    bool OpenPages();
+
+    // Why the last of these two was refused, in words; empty where that is not known.
+    [[nodiscard]] std::string Refusal() const { return m_refusal; }
+
+    // By the clock of the reports.
+    [[nodiscard]] DateTime Now() const;
 
     // Closes the viewer and tells the parent window.
     bool UnloadReportWindow();
@@ -128,6 +140,8 @@ private:
     bool m_fileWritten = false;
     std::shared_ptr<ReportViewer> m_viewer; // until UnloadReportWindow
     std::int32_t m_errorNumber = 0;
+    std::unique_ptr<PrivateFile> m_opened; // shown by the desktop
+    std::string m_refusal;
     ReportOwner* m_parentWindow = nullptr;
     ReportProgress m_progress;
 };

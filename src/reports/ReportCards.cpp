@@ -69,6 +69,7 @@ void NoteMissing(ReportDocument& document, const CTimeCard& card, const std::str
 
 void AddCard(ReportDocument& document, CTimeCard& card)
 {
+    document.heading = CTimeCard::kReportHeading;
     document.Add(card.ToStringReport());
     const std::size_t shifts = card.Lines().size();
     const std::size_t summary = CountLines(card.ToString()); // with the empty line above it

@@ -49,7 +49,7 @@ void ReportDocument::SplitBefore(std::size_t count, std::size_t below)
         return;
     }
     groups.back().lines -= count + below;
-    groups.insert(groups.end(), count, LineGroup{1});
+    groups.insert(groups.end(), count, LineGroup{1, false, true});
     groups.back().lines += below;
 }
 

@@ -47,8 +47,9 @@ struct ReportLine
 // Lines that belong together: a page ends inside a group only where no page could hold it.
 struct LineGroup
 {
-    std::size_t lines = 0; // counted with the line ends inside them
-    bool atFoot = false;   // belongs to the foot of its page
+    std::size_t lines = 0;     // counted with the line ends inside them
+    bool atFoot = false;       // belongs to the foot of its page, and to the group before it
+    bool underHeading = false; // goes on under the document's heading
 };
 
 // Those whose part is missing for one reason.
@@ -64,6 +65,7 @@ struct ReportDocument
     std::string fileName{}; // of the text form, inside the reports folder
     std::vector<ReportLine> lines{};
     std::vector<LineGroup> groups{}; // of all lines, in their order
+    std::string heading{};           // of the columns; stands again where a page begins in the midst of them
     ReportTable table{};
     std::vector<ReportGap> gaps{};
     bool whole = true; // false: what should follow the last line is not there
@@ -79,7 +81,8 @@ struct ReportDocument
     void Add(std::string text);
     void AddRule();
 
-    // Splits the last group: before each of the `count` lines that end `below` lines above the group's end a page may begin.
+    // Splits the last group: before each of the `count` lines that end `below` lines above the group's end a page may begin, under the
+    // heading.
     void SplitBefore(std::size_t count, std::size_t below);
 
     void Fail(std::int32_t code) { lines.back().code = code; }

@@ -2,7 +2,10 @@
 
 #include "platform/Desktop.h"
 #include "platform/Notice.h"
+#include "platform/PrivateFile.h"
 #include "platform/Succeeds.h"
+#include "reports/ReportDocument.h"
+#include "reports/ReportForms.h"
 #include "shell/CDocLauncher.h"
 
 namespace ptk {
@@ -11,18 +14,45 @@ namespace {
 
 constexpr Notice kNoFile{kNotOpenedTitle, "The path to the report is invalid or not able to be opened by Windows.", Icon::Exclamation};
 
+std::unique_ptr<PrivateFile> PagesOf(const ReportDocument& document, DateTime now)
+{
+    return std::make_unique<PrivateFile>(FileNameFor(document, ReportForm::Pdf), FileOf(ReportForm::Pdf, {&document, 1}, now));
+}
+
 } // namespace
 
-bool PrintReportFile(Desktop& desktop, const DesktopWindow* window, const std::string& path)
+bool PrintPages(Desktop& desktop, const DesktopWindow* window, const ReportDocument& document, DateTime now, std::string& refusal)
 {
-    return Succeeds([&] {
+    const auto print = [&] {
+        const auto pages = PagesOf(document, now); // the spooler has a copy of its own when it answers
         CDocLauncher launcher(desktop);
-        const bool printed = !path.empty() && launcher.PrintDocument(window, path);
-        if (path.empty() || launcher.ErrorNumber() == docerror::DocumentNotFound) {
-            Tell(desktop, kNoFile);
+        const bool printed = launcher.PrintDocument(window, pages->Path(), document.title);
+        refusal = printed ? "" : desktop.Refusal();
+        if (launcher.ErrorNumber() == docerror::DocumentNotFound) {
+            TellNoFile(desktop);
         }
         return printed;
-    });
+    };
+    return Succeeds(print, [&](const Failure& reason) { refusal = reason.Description(); });
+}
+
+std::unique_ptr<PrivateFile> OpenPages(Desktop& desktop, const DesktopWindow* window, const ReportDocument& document, DateTime now,
+                                       std::string& refusal)
+{
+    std::unique_ptr<PrivateFile> pages;
+    const auto open = [&] {
+        pages = PagesOf(document, now);
+        const bool opened = CDocLauncher(desktop).DisplayDocument(window, pages->Path());
+        refusal = opened ? "" : desktop.Refusal();
+        return opened;
+    };
+    const bool opened = Succeeds(open, [&](const Failure& reason) { refusal = reason.Description(); });
+    return opened ? std::move(pages) : nullptr;
+}
+
+void TellNoFile(Desktop& desktop)
+{
+    Tell(desktop, kNoFile);
 }
 
 } // namespace ptk

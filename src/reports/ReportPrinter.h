@@ -1,15 +1,29 @@
-// The way of a report's file to the print spooler.
+// The way of a report's pages to the print spooler and to the program that the desktop shows PDF files with.
 #pragma once
 
+#include "platform/DateTime.h"
+
+#include <memory>
 #include <string>
 
 namespace ptk {
 
 class Desktop;
 class DesktopWindow;
+class PrivateFile;
+struct ReportDocument;
 
-// False when the spooler does not take it. Of a file that is not there, as of an empty path, the user is told in a box; of any other
-// refusal only the answer tells. Raises nothing.
-[[nodiscard]] bool PrintReportFile(Desktop& desktop, const DesktopWindow* window, const std::string& path);
+// Neither raises anything; `refusal` says why not, in words, where that is known. The files are for their owner only.
+
+// False when the spooler does not take it.
+[[nodiscard]] bool PrintPages(Desktop& desktop, const DesktopWindow* window, const ReportDocument& document, DateTime now,
+                              std::string& refusal);
+
+// The file that is shown, for the caller to keep as long as it may be looked at; nullptr when nothing shows it.
+[[nodiscard]] std::unique_ptr<PrivateFile> OpenPages(Desktop& desktop, const DesktopWindow* window, const ReportDocument& document,
+                                                     DateTime now, std::string& refusal);
+
+// The box about a report whose file is not there.
+void TellNoFile(Desktop& desktop);
 
 } // namespace ptk

@@ -14,15 +14,21 @@ std::string CDocLauncher::FileName(const std::string& thedocname)
 
 bool CDocLauncher::DisplayDocument(const DesktopWindow* theparent, const std::string& thedocname)
 {
-    return Launch(theparent, thedocname, ShellVerb::Open);
+    return Launch(theparent, thedocname, [&](const std::string& path) { return m_desktop.Shell(*m_parent, ShellVerb::Open, path); });
 }
 
 bool CDocLauncher::PrintDocument(const DesktopWindow* theparent, const std::string& thedocname)
 {
-    return Launch(theparent, thedocname, ShellVerb::Print);
+    return Launch(theparent, thedocname, [&](const std::string& path) { return m_desktop.Shell(*m_parent, ShellVerb::Print, path); });
 }
 
-bool CDocLauncher::Launch(const DesktopWindow* theparent, const std::string& thedocname, ShellVerb verb)
+bool CDocLauncher::PrintDocument(const DesktopWindow* theparent, const std::string& thedocname, const std::string& title)
+{
+    return Launch(theparent, thedocname, [&](const std::string& path) { return m_desktop.Print(*m_parent, path, title); });
+}
+
+template <typename Request>
+bool CDocLauncher::Launch(const DesktopWindow* theparent, const std::string& thedocname, Request request)
 {
     if (theparent == nullptr) {
         return Refuse(docerror::NoParentWindow);
@@ -33,7 +39,7 @@ bool CDocLauncher::Launch(const DesktopWindow* theparent, const std::string& the
     m_parent = theparent;
     m_fileName = thedocname;
     return Succeeds([&] {
-        const std::int32_t code = m_desktop.Shell(*m_parent, verb, NativePath(m_fileName).string());
+        const std::int32_t code = request(NativePath(m_fileName).string());
         return code == ShellFileNotFound ? Refuse(docerror::DocumentNotFound) : code > ShellSuccess;
     });
 }

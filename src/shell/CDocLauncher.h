@@ -29,8 +29,12 @@ public:
     bool DisplayDocument(const DesktopWindow* theparent, const std::string& thedocname);
     bool PrintDocument(const DesktopWindow* theparent, const std::string& thedocname);
 
+    // Under a title that the print queue shows.
+    bool PrintDocument(const DesktopWindow* theparent, const std::string& thedocname, const std::string& title);
+
 private:
-    bool Launch(const DesktopWindow* theparent, const std::string& thedocname, ShellVerb verb);
+    template <typename Request>
+    bool Launch(const DesktopWindow* theparent, const std::string& thedocname, Request request);
 
     // Always false.
     bool Refuse(std::int32_t errorNumber);

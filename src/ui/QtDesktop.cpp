@@ -117,9 +117,19 @@ void QtDesktop::SetPointer(Pointer pointer)
 
 std::int32_t QtDesktop::Shell(const DesktopWindow&, ShellVerb verb, const std::string& path)
 {
+    return Run(verb, path, "");
+}
+
+std::int32_t QtDesktop::Print(const DesktopWindow&, const std::string& path, const std::string& title)
+{
+    return Run(ShellVerb::Print, path, title);
+}
+
+std::int32_t QtDesktop::Run(ShellVerb verb, const std::string& path, const std::string& title)
+{
     const bool busy = m_busy;
     SetPointer(Pointer::Busy);
-    const std::int32_t code = RunSystemShell(verb, path);
+    const std::int32_t code = RunSystemShell(verb, path, title, m_refusal);
     SetPointer(busy ? Pointer::Busy : Pointer::Default);
     return code;
 }

@@ -4,6 +4,7 @@
 #include "support/Hardship.h"
 
 #include <filesystem>
+#include <map>
 
 namespace ptk {
 
@@ -95,6 +96,40 @@ TEST_F(ReportCommandTest, AFailedReportIsToldAndTheOthersStillCome)
     EXPECT_EQ(unknown.status, 1);
     EXPECT_EQ(unknown.err, "ptk-console: 602: no employee has this name: Nobody\n");
     EXPECT_EQ(unknown.out, "");
+}
+
+TEST_F(ReportCommandTest, OneFileTakesAllReportsOfARun)
+{
+    const std::string file = Folder().string() + "/all";
+    const auto run = [&](const std::string& format, const std::string& output) {
+        return Run({"report", "timecard", "--employee", "Yuki Tanaka", "--employee", "Ann Lee", "--format", format, "-o", output});
+    };
+    const std::vector<std::string> names{"201_0315_0329_2026_time_card.txt", "101_0315_0329_2026_time_card.txt"};
+    for (const auto& [format, start] : std::map<std::string, std::string>{{"text", Report(names[0])},
+                                                                          {"csv", "\xEF\xBB\xBF"
+                                                                                  "Employee Number,"},
+                                                                          {"json", "{\"made\":\"2026-03-20T09:30:00\","},
+                                                                          {"pdf", "%PDF-"}}) {
+        WriteBytes(file, "an earlier one");
+        const Answer answer = run(format, file);
+        EXPECT_EQ(answer.status, 0);
+        EXPECT_EQ(answer.out, "");
+        EXPECT_EQ(answer.err, Written(names) + "ptk-console: written: " + file + "\n");
+        EXPECT_TRUE(ReadBytes(file).starts_with(start)) << format;
+    }
+    EXPECT_EQ(run("text", file).status, 0);
+    EXPECT_EQ(ReadBytes(file), Report(names[0]) + "\r\n" + Report(names[1]));
+
+    const Answer nowhere = run("csv", Folder().string() + "/none/file");
+    EXPECT_EQ(nowhere.status, 1);
+    EXPECT_EQ(nowhere.err, Written(names) + "ptk-console: 76: Path not found: " + Folder().string() + "/none/file\n");
+    EXPECT_EQ(run("csv", "").status, 2);
+    EXPECT_EQ(run("xml", file).status, 2);
+
+    const Answer incomplete = Run({"report", "timecard", "--employee", "Peter Lindqvist", "--format", "json", "-o", file});
+    EXPECT_EQ(incomplete.status, 1);
+    EXPECT_NE(incomplete.err.find("ptk-console: 605: "), std::string::npos);
+    EXPECT_NE(ReadBytes(file).find("\"complete\":false,\"missing\":null,\"rows\":[]"), std::string::npos);
 }
 
 TEST_F(ReportCommandTest, AnUnreadableRecordIsNamedAndWhomItLeavesOut)

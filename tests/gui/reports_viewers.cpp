@@ -1,4 +1,5 @@
 // The viewer windows of the reports, driven as a user drives them.
+#include "gui/GuiProgram.h"
 #include "reports/ReportFixture.h"
 #include "support/Hardship.h"
 #include "ui/dialogs/QtViewerFactory.h"
@@ -57,6 +58,7 @@ protected:
         throw std::runtime_error("no such window: " + name.toStdString());
     }
 
+    static QString Notice(const QWidget& viewer) { return viewer.findChild<QLabel*>("lblNotice")->text(); }
     static QPlainTextEdit& Text(const QWidget& viewer) { return *viewer.findChild<QPlainTextEdit*>("txtReport"); }
     static void Click(const QWidget& viewer, const char* button)
     {
@@ -122,10 +124,55 @@ TEST_F(ReportViewersTest, PrintingHidesTheViewerOnlyWhenItSucceeds)
     EXPECT_EQ(desktop.boxes[0].title, "User's Guide Open Error");
     QTest::keyClick(&viewer, Qt::Key_P, Qt::ControlModifier);
     EXPECT_FALSE(viewer.isVisible());
-    EXPECT_EQ(desktop.requests.size(), 3U);
+    ASSERT_EQ(desktop.requests.size(), 3U);
+    EXPECT_TRUE(desktop.requests[2].path.ends_with("/employee_records.pdf"));
     EXPECT_TRUE(owner.unloaded.empty()) << "still loaded";
     windows.ClosePrinted();
     EXPECT_EQ(owner.unloaded, std::vector<ReportKind>{ReportKind::Employee});
+}
+
+TEST_F(ReportViewersTest, OpensItsPagesOrSaysWhyNot)
+{
+    ReportViewerWindow& viewer = OpenRecords();
+    desktop.shellCodes = {42, 31};
+    Click(viewer, "cmdOpenPdf");
+    ASSERT_EQ(desktop.requests.size(), 1U);
+    const std::string path = desktop.requests[0].path;
+    EXPECT_TRUE(ReadBytes(path).starts_with("%PDF-"));
+    desktop.refusal = "no program is set up for this kind of document";
+    QTest::keyClick(&viewer, Qt::Key_O, Qt::ControlModifier);
+    EXPECT_EQ(Notice(viewer), "Not opened: no program is set up for this kind of document.");
+    EXPECT_EQ(logged, std::vector<std::string>{"Not opened: Employee Records: no program is set up for this kind of document"});
+    viewer.close();
+    EXPECT_FALSE(std::filesystem::exists(path)) << "it lives as long as the window";
+}
+
+TEST_F(ReportViewersTest, SavesInTheFormThatIsChosenOrNamed)
+{
+    QSettings().setValue("save/folder", QString::fromStdString(folder.Path()));
+    ReportViewerWindow& viewer = OpenRecords();
+    const auto save = [&](const std::function<void(QFileDialog&)>& choose) {
+        const ModalScript script([&](QDialog& dialog) {
+            choose(dynamic_cast<QFileDialog&>(dialog));
+            dialog.accept();
+        });
+        Click(viewer, "cmdSaveAs");
+        EXPECT_TRUE(script.WasRun());
+    };
+    save([](const QFileDialog&) {});
+    EXPECT_TRUE(ReadBytes(folder.Path() + "/employee_records.pdf").starts_with("%PDF-"));
+    EXPECT_EQ(Notice(viewer).toStdString(), "Saved as " + folder.Path() + "/employee_records.pdf.");
+    save([](QFileDialog& dialog) { QTest::keyClick(dialog.findChild<QComboBox*>("fileTypeCombo"), Qt::Key_Down); });
+    EXPECT_TRUE(ReadBytes(folder.Path() + "/employee_records.csv")
+                    .starts_with("\xEF\xBB\xBF"
+                                 "Employee Number,"));
+    save([this](QFileDialog& dialog) { dialog.selectFile(QString::fromStdString(folder.Path() + "/system/other.TXT")); });
+    EXPECT_EQ(ReadBytes(folder.Path() + "/system/other.TXT"), Golden("employee_records.txt"));
+    EXPECT_EQ(QSettings().value("save/folder").toString().toStdString(), folder.Path() + "/system") << "for the next time";
+
+    save([](QFileDialog& dialog) { dialog.selectFile("/proc/report.pdf"); });
+    EXPECT_TRUE(Notice(viewer).startsWith("Not saved: "));
+    EXPECT_EQ(logged.size(), 1U);
 }
 
 TEST_F(ReportViewersTest, FindsText)

@@ -81,6 +81,40 @@ TEST_F(SystemShellTest, TellsWhatIsMissing)
     EXPECT_EQ(RunSystemShell(ShellVerb::Open, document), ShellNoProgram);
 }
 
+TEST_F(SystemShellTest, SaysWhyNothingIsPrintedOrOpened)
+{
+    struct Case
+    {
+        ShellVerb verb;
+        const char* program;
+        const char* body;
+        const char* refusal;
+    };
+    for (const Case& c : {
+             Case{ShellVerb::Print, "lp", "echo 'lp: Error - scheduler not responding.' >&2; exit 1", "the print scheduler is not running"},
+             Case{ShellVerb::Print, "lp", "echo 'lp: Error - No default destination.' >&2; exit 1", "no printer is set up"},
+             Case{ShellVerb::Print, "lpstat", "echo scheduler is not running", "the print scheduler is not running"}, // the lp above
+             Case{ShellVerb::Print, "lp", "echo one >&2; echo 'lp: The queue sleeps.' >&2; exit 1", "lp: The queue sleeps."},
+             Case{ShellVerb::Print, "lp", "exit 1", "the print scheduler refused it"},
+             Case{ShellVerb::Print, "lp", "echo 'a warning' >&2", ""},
+             Case{ShellVerb::Open, "xdg-open", "exit 3", "no program is set up for this kind of document"},
+             Case{ShellVerb::Open, "xdg-open", "exit 0", ""},
+         }) {
+        Script("lpstat", "echo scheduler is running");
+        Script(c.program, c.body);
+        std::string refusal = "of an earlier one";
+        EXPECT_EQ(RunSystemShell(c.verb, document, "", refusal) > ShellSuccess, *c.refusal == '\0');
+        EXPECT_EQ(refusal, c.refusal) << c.body;
+    }
+    Script("lp", "printf '%s|' \"$@\" > " + folder.Path() + "/heard");
+    std::string refusal;
+    EXPECT_GT(RunSystemShell(ShellVerb::Print, document, "Employee Time Card : $(x)", refusal), ShellSuccess);
+    EXPECT_EQ(Heard(), "-t|Employee Time Card : $(x)|--|" + document + "|");
+    ::setenv("PATH", (folder.Path() + "/documentation").c_str(), 1);
+    EXPECT_EQ(RunSystemShell(ShellVerb::Print, document, "", refusal), ShellNoProgram);
+    EXPECT_EQ(refusal, "there is no program for printing (lp)");
+}
+
 TEST_F(SystemShellTest, DoesNotWaitForASpoolerThatHangsNorForAnOpenerThatStays)
 {
     Script("xdg-open", "exec sleep 2");

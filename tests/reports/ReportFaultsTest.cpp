@@ -272,7 +272,7 @@ TEST_F(ReportFaultsTest, AReportLivesAsLongAsItsViewer)
     EXPECT_TRUE(watch.expired());
 }
 
-TEST_F(ReportFaultsTest, PrintsTheFileAndTellsWhenItIsGone)
+TEST_F(ReportFaultsTest, PrintsItsPagesAndTellsWhenTheirFileIsGone)
 {
     struct Case
     {
@@ -294,8 +294,35 @@ TEST_F(ReportFaultsTest, PrintsTheFileAndTellsWhenItIsGone)
         }
     }
     EXPECT_EQ(desktop.requests[0].verb, ShellVerb::Print);
-    EXPECT_EQ(desktop.requests[0].path, File("5_0101_0116_2003_time_card.txt"));
+    EXPECT_TRUE(desktop.requests[0].path.ends_with("/5_0101_0116_2003_time_card.pdf")) << desktop.requests[0].path;
+    EXPECT_FALSE(std::filesystem::exists(std::filesystem::path(desktop.requests[0].path).parent_path()));
     EXPECT_EQ(reports[0]->ErrorNumber(), 0);
+}
+
+TEST_F(ReportFaultsTest, ShowsItsPagesInAFileForItsOwnerAsLongAsTheViewerIsOpen)
+{
+    const auto report = Records(true);
+    EXPECT_TRUE(report->OpenPages());
+    ASSERT_EQ(desktop.requests.size(), 1U);
+    EXPECT_EQ(desktop.requests[0].verb, ShellVerb::Open);
+    const std::string path = desktop.requests[0].path;
+    EXPECT_TRUE(path.ends_with("/employee_records.pdf")) << path;
+    EXPECT_TRUE(ReadBytes(path).starts_with("%PDF-"));
+    EXPECT_EQ(ModeOf(path), 0600);
+    EXPECT_EQ(ModeOf(std::filesystem::path(path).parent_path()), 0700);
+
+    desktop.shellCodes = {31};
+    EXPECT_FALSE(report->OpenPages());
+    EXPECT_TRUE(std::filesystem::exists(path)) << "what is open stays";
+    report->UnloadReportWindow();
+    EXPECT_FALSE(std::filesystem::exists(std::filesystem::path(path).parent_path()));
+
+    setenv("TMPDIR", "/proc/none", 1);
+    EXPECT_FALSE(report->OpenPages());
+    EXPECT_FALSE(report->PrintReport());
+    EXPECT_NE(report->Refusal(), "") << "whatever the reason is, it is told";
+    unsetenv("TMPDIR");
+    EXPECT_EQ(desktop.requests.size(), 2U);
 }
 
 } // namespace

@@ -37,6 +37,7 @@ public:
     Pointer pointer = Pointer::Default;  // the shape set last
     std::deque<Answer> answers;          // for boxes that ask; none left: No
     std::deque<std::int32_t> shellCodes; // for shell requests; none left: taken over
+    std::string refusal;                 // the reason given for a code that is none of success
 
     Answer MessageBox(const std::string& text, const std::string& title, Icon icon, Buttons buttons) override
     {
@@ -64,6 +65,8 @@ public:
         shellCodes.pop_front();
         return code;
     }
+
+    [[nodiscard]] std::string Refusal() const override { return refusal; }
 
     // The boxes since the last call.
     std::vector<ShownBox> Take() { return std::exchange(boxes, {}); }

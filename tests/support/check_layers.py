@@ -10,6 +10,7 @@ ALLOWED = {layer: set(CORE[: index + 1]) for index, layer in enumerate(CORE)}
 ALLOWED["startup"] = {*CORE, "startup"}
 ALLOWED["console"] = {*CORE, "console"}
 ALLOWED["ui"] = {*CORE, "startup", "ui"}
+ALLOWED["pages"] = {"reports", "pages"}
 ALLOWED["app"] = {*CORE, "startup", "ui", "app"}
 
 QT_LAYERS = {"ui", "app"}

@@ -3,10 +3,12 @@
 #include "platform/Process.h"
 
 #include <iostream>
+#include <unistd.h>
 
 int main(int argc, char* argv[])
 {
     ptk::SettleProcess();
     std::ios::sync_with_stdio(false);
-    return ptk::RunConsole({argv + (argc > 0 ? 1 : 0), argv + argc}, ptk::SystemClock(), std::cout, std::cerr);
+    return ptk::RunConsole({argv + (argc > 0 ? 1 : 0), argv + argc}, ptk::SystemClock(), std::cout, std::cerr,
+                           ::isatty(STDOUT_FILENO) == 1);
 }

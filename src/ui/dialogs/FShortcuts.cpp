@@ -38,6 +38,8 @@ constexpr Shortcut kShortcuts[] = {
     {"Overview, History", "F5", "Read again"},
     {"Overview, History", "Ctrl+C", "Copy the chosen rows, or all"},
     {"History", "Ctrl+S", "Save as CSV"},
+    {"Report windows", "Ctrl+S", "Save as a PDF document, a table or text"},
+    {"Report windows", "Ctrl+O", "Show as it will be printed"},
     {"Report windows", "Ctrl+P", "Print"},
     {"Report windows", "Ctrl+F, F3, Shift+F3", "Find, again, backwards"},
     {"Report windows", "Ctrl++, Ctrl+-, Ctrl+0", "Larger, smaller, as at first"},

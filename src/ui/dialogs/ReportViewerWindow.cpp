@@ -1,7 +1,11 @@
 #include "ui/dialogs/ReportViewerWindow.h"
 
 #include "office/ReportRun.h"
+#include "office/SaveReport.h"
+#include "platform/Succeeds.h"
 #include "reports/Report.h"
+#include "ui/dialogs/SaveDialog.h"
+#include "ui/widgets/ButtonRow.h"
 #include "ui/widgets/WindowPlace.h"
 #include "ui_ReportViewerWindow.h"
 
@@ -23,8 +27,10 @@ namespace ptk {
 namespace {
 
 constexpr auto kNotFound = "Not found";
-constexpr auto kNotPrinted = "Not printed. Check that a printer is set up and that the report's file is still there.";
-constexpr auto kNotPrintedLog = "Not printed: %1";
+constexpr auto kNotPrinted = "Not printed";
+constexpr auto kCheckPrinter = "Check that a printer is set up and that the report's file is still there.";
+constexpr auto kNotOpened = "Not opened";
+constexpr auto kCheckViewer = "Check that a program for PDF documents is set up.";
 
 constexpr int kTabWidth = 8;      // characters, as the reports' columns are made for
 constexpr int kFirstColumns = 84; // the 72 characters of a rule and some air
@@ -59,6 +65,7 @@ ReportViewerWindow::ReportViewerWindow(const QString& name) : m_ui(std::make_uni
 {
     m_ui->setupUi(this);
     setObjectName(name);
+    LayOutButtons();
     m_ui->pnlFind->hide();
     m_ui->txtReport->viewport()->installEventFilter(this);
     m_ui->txtReport->setFont(ReportFont());
@@ -69,8 +76,19 @@ ReportViewerWindow::ReportViewerWindow(const QString& name) : m_ui(std::make_uni
 
 ReportViewerWindow::~ReportViewerWindow() = default;
 
+// Where they leave the line beside them too little room, it stands above them.
+void ReportViewerWindow::LayOutButtons()
+{
+    auto* row = new ButtonRow;
+    m_ui->layout->addLayout(row);
+    const std::unique_ptr<QLayout> before(m_ui->buttons);
+    row->TakeFrom(*before);
+}
+
 void ReportViewerWindow::ConnectControls()
 {
+    connect(m_ui->cmdSaveAs, &QPushButton::clicked, this, &ReportViewerWindow::SaveAs);
+    connect(m_ui->cmdOpenPdf, &QPushButton::clicked, this, &ReportViewerWindow::OpenPdf);
     connect(m_ui->cmdPrint, &QPushButton::clicked, this, &ReportViewerWindow::Print);
     connect(m_ui->cmdClose, &QPushButton::clicked, this, &QWidget::close);
     connect(m_ui->cmdFindNext, &QPushButton::clicked, this, [this] { Find(false); });
@@ -83,6 +101,8 @@ void ReportViewerWindow::ConnectControls()
     };
     const auto zoom = [this](double steps) { SetPointSize(m_ui->txtReport->font().pointSizeF() + steps); };
     onKey(QKeySequence::Print, [this] { Print(); });
+    onKey(QKeySequence::Save, [this] { SaveAs(); });
+    onKey(QKeySequence::Open, [this] { OpenPdf(); });
     onKey(QKeySequence::Find, [this] { ShowFindBar(true); });
     onKey(QKeySequence::FindNext, [this] { Find(false); });
     onKey(QKeySequence::FindPrevious, [this] { Find(true); });
@@ -145,7 +165,7 @@ void ReportViewerWindow::BringUp()
 void ReportViewerWindow::ShowNotice()
 {
     if (m_controller != nullptr) {
-        m_ui->lblNotice->Say(QString::fromStdString(DescribeGaps(m_controller->ErrorNumber(), m_controller->Missing())));
+        Say("");
     }
 }
 
@@ -207,13 +227,63 @@ bool ReportViewerWindow::Print()
         return false;
     }
     if (!m_controller->PrintReport()) {
-        m_ui->lblNotice->Say(kNotPrinted);
-        emit Failed(QString(kNotPrintedLog).arg(windowTitle()));
+        TellRefusal(kNotPrinted, kCheckPrinter);
         return false;
     }
     m_printed = true;
     Hide();
     return true;
+}
+
+void ReportViewerWindow::OpenPdf()
+{
+    if (m_controller == nullptr) {
+        return;
+    }
+    if (m_controller->OpenPages()) {
+        Say("");
+    } else {
+        TellRefusal(kNotOpened, kCheckViewer);
+    }
+}
+
+void ReportViewerWindow::SaveAs()
+{
+    const auto report = m_controller; // the dialog lets the window go on
+    if (report == nullptr) {
+        return;
+    }
+    const ReportDocument& document = report->Document();
+    const auto save = [&] {
+        const auto forms = SavedForms();
+        const auto target = AskWhereToSave(*this, QString::fromStdString(FileNameFor(document, forms.front())), forms);
+        if (!target) {
+            return;
+        }
+        const SaveOutcome outcome = ptk::SaveAs(target->path, target->form, [&](ReportForm form) {
+            return FileOf(form, {&document, 1}, report->Now());
+        });
+        Say(outcome.said);
+        if (!outcome.saved) {
+            emit Failed(windowTitle() + ": " + QString::fromStdString(outcome.said));
+        }
+    };
+    Succeeds(save, [this](const Failure& reason) { Say(reason.Description()); });
+}
+
+// What is missing from a report is said beside whatever else there is to say.
+void ReportViewerWindow::Say(const std::string& text)
+{
+    const std::string gaps = m_controller == nullptr ? "" : DescribeGaps(m_controller->ErrorNumber(), m_controller->Missing());
+    m_ui->lblNotice->Say(QString::fromStdString(text + (text.empty() || gaps.empty() ? "" : " ") + gaps));
+}
+
+void ReportViewerWindow::TellRefusal(const char* what, const char* advice)
+{
+    const std::string reason = m_controller->Refusal();
+    Say(reason.empty() ? std::string(what) + ". " + advice : std::string(what) + ": " + reason + ".");
+    const QString logged = QString("%1: %2").arg(what, windowTitle());
+    emit Failed(reason.empty() ? logged : logged + ": " + QString::fromStdString(reason));
 }
 
 void ReportViewerWindow::Escape()

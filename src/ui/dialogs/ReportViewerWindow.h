@@ -1,4 +1,4 @@
-// The viewer window of the reports: the text as it was written, find, zoom, print and close.
+// The viewer window of the reports: the text as it was written, find, zoom, save, show as pages, print and close.
 #pragma once
 
 #include "reports/ReportViewer.h"
@@ -58,7 +58,15 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void LayOutButtons();
     void ConnectControls();
+
+    void SaveAs();
+    void OpenPdf();
+    void Say(const std::string& text);
+
+    // In the window's line, and for the session log.
+    void TellRefusal(const char* what, const char* advice);
 
     // Leaves the find bar, then the window.
     void Escape();

@@ -16,6 +16,7 @@ namespace {
 constexpr QSize kSmallScreen(1008, 652); // what a screen of 1024 x 700 leaves for a window
 constexpr QSize kLarge(1600, 1000);
 const DateTime kToday(CalendarDate{2003, 3, 5});
+constexpr auto kCareful = "Ann Lee";
 constexpr auto kCareless = "Helen Fitzgerald"; // types wrongly, once or twice
 
 void FillSample(BulkWriter& writer)
@@ -259,12 +260,21 @@ void TakeHistory(GuiProgram& program, const Photographer& photographer)
     History().close();
 }
 
-void TakeViewers(FController& main, const Photographer& photographer)
+void TakeViewers(GuiProgram& program, const Photographer& photographer)
 {
+    FController& main = program.Main();
+    auto& employees = Find<QComboBox>(main, "cboTCEmployeeName");
+    employees.setCurrentIndex(employees.findText(kCareful));
+    emit employees.activated(employees.currentIndex());
+    Find<QPushButton>(main, "cmdGenTimeRecs").click();
     Find<QPushButton>(main, "cmdTCPrint").click();
     for (QWidget* window : QApplication::topLevelWidgets()) {
         if (window->isVisible() && window->findChild<QWidget*>("txtReport") != nullptr) {
             photographer.TakeSizes(*window, "viewer");
+            program.desktop.shellCodes = {ShellNoProgram};
+            program.desktop.refusal = "no program is set up for this kind of document";
+            Find<QPushButton>(*window, "cmdOpenPdf").click();
+            photographer.TakeSizes(*window, "viewer-notice");
         }
     }
 }
@@ -284,9 +294,9 @@ void TakeAll(const QString& folder, const QString& theme)
     TakeRestore(program, photographer);
     TakeFindings(main, photographer);
     TakeOverview(main, photographer);
+    TakeViewers(program, photographer);
     TakeHistory(program, photographer);
     TakeEditMenu(main, program.desktop, photographer);
-    TakeViewers(main, photographer);
 }
 
 int Run(int argc, char** argv)

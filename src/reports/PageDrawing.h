@@ -1,0 +1,60 @@
+// What the programs and the module that draws pages (src/pages) agree on. The module is loaded only when pages are wanted: the libraries
+// that it draws with take longer to load than a time card takes from the file to the terminal. Plain data, since each side has a C++
+// runtime of its own, and no failure may be raised from one into the other.
+#pragma once
+
+#include <cstddef>
+
+extern "C" {
+
+// Lengths in points, from the upper left corner of the paper. Texts are UTF-8 without control characters.
+struct PtkText
+{
+    double x;
+    double y;     // the upper edge of its line
+    double width; // the most it may take
+    const char* text;
+    int bold;
+};
+
+struct PtkRule
+{
+    double x;
+    double y;
+    double width;
+};
+
+struct PtkPage
+{
+    const PtkText* texts;
+    std::size_t textCount;
+    const PtkRule* rules;
+    std::size_t ruleCount;
+};
+
+struct PtkPages
+{
+    double width;
+    double height;
+    double characterWidth; // the typeface is taken in the size that has this
+    double lineHeight;
+    const char* title;
+    const char* created; // YYYY-MM-DDTHH:MM:SS, by the wall clock
+    const PtkPage* pages;
+    std::size_t count;
+};
+
+// Takes the next bytes of the PDF file; 0 when it cannot. Raises nothing.
+using PtkTakeBytes = int (*)(void* taker, const unsigned char* bytes, unsigned length);
+
+// nullptr, or what went wrong, in words of a lifetime without end.
+using PtkDrawPages = const char* (*)(const PtkPages* pages, PtkTakeBytes take, void* taker);
+
+} // extern "C"
+
+namespace ptk {
+
+inline constexpr const char* kPageModule = "ptk-pages.so";
+inline constexpr const char* kDrawPages = "ptk_draw_pages"; // a PtkDrawPages
+
+} // namespace ptk
