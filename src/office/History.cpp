@@ -91,27 +91,28 @@ std::string HistoryIn(HistoryForm form, const std::shared_ptr<CJetDB>& database,
     std::string text;
     ReadTrail(database, query, [&](const TrailEntry& entry) {
         names.Learn(entry);
-        const std::string sentence = EntrySentence(entry, [&](std::int64_t id) { return names.Of(id); });
+        const auto nameOf = [&](std::int64_t id) { return names.Of(id); };
         if (form == HistoryForm::Json) {
-            text += (text.empty() ? "\r\n" : ",\r\n") + JsonLine(entry, sentence);
+            text += (text.empty() ? "\r\n" : ",\r\n") + JsonLine(entry, EntrySentence(entry, nameOf));
         } else {
-            text += form == HistoryForm::Csv ? CsvLine(entry, sentence) : TextLine(entry, sentence);
+            text += HistoryLine(form, entry, nameOf);
         }
     });
     if (form == HistoryForm::Json) {
         return "{\"changes\":[" + text + (text.empty() ? "" : "\r\n") + "]}\r\n";
     }
-    return form == HistoryForm::Csv ? kCsvHeading + text : text;
+    return HistoryHeading(form) + text;
 }
 
-std::string HistoryCsvHeading()
+std::string HistoryHeading(HistoryForm form)
 {
-    return kCsvHeading;
+    return form == HistoryForm::Csv ? kCsvHeading : "";
 }
 
-std::string HistoryCsvLine(const TrailEntry& entry, const NameOfEmployee& nameOf)
+std::string HistoryLine(HistoryForm form, const TrailEntry& entry, const NameOfEmployee& nameOf)
 {
-    return CsvLine(entry, EntrySentence(entry, nameOf));
+    const std::string sentence = EntrySentence(entry, nameOf);
+    return form == HistoryForm::Csv ? CsvLine(entry, sentence) : TextLine(entry, sentence);
 }
 
 } // namespace ptk

@@ -23,8 +23,10 @@ enum class HistoryForm
 // without one. Lines end in CR LF. Raises what reading the trail raises.
 [[nodiscard]] std::string HistoryIn(HistoryForm form, const std::shared_ptr<CJetDB>& database, const TrailQuery& query);
 
-// The lines of the CSV form, each with its end.
-[[nodiscard]] std::string HistoryCsvHeading();
-[[nodiscard]] std::string HistoryCsvLine(const TrailEntry& entry, const NameOfEmployee& nameOf);
+// With which the form begins; empty for text. REQUIRES: not Json, here and below.
+[[nodiscard]] std::string HistoryHeading(HistoryForm form);
+
+// With its end.
+[[nodiscard]] std::string HistoryLine(HistoryForm form, const TrailEntry& entry, const NameOfEmployee& nameOf);
 
 } // namespace ptk

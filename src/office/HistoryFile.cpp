@@ -1,7 +1,7 @@
 #include "office/HistoryFile.h"
 
-#include "office/History.h"
 #include "platform/Text.h"
+#include "reports/ReportForms.h"
 
 #include <utility>
 
@@ -13,12 +13,15 @@ constexpr std::int32_t kPage = 1000; // entries; some tens of milliseconds
 
 } // namespace
 
-HistoryFile::HistoryFile(const std::string& path, std::shared_ptr<CJetDB> database, TrailQuery query,
+HistoryFile::HistoryFile(const std::string& path, HistoryForm form, std::shared_ptr<CJetDB> database, TrailQuery query,
                          std::shared_ptr<const EmployeeNames> names)
-    : m_path(path), m_draft(path), m_database(std::move(database)), m_query(std::move(query)), m_names(std::move(names))
+    : m_path(path), m_form(form), m_draft(path), m_database(std::move(database)), m_query(std::move(query)), m_names(std::move(names))
 {
     m_query.most = kPage;
-    m_draft.File().Write(HistoryCsvHeading());
+    if (m_form == HistoryForm::Csv) {
+        m_draft.File().Write(kByteOrderMark);
+    }
+    m_draft.File().Write(HistoryHeading(m_form));
 }
 
 void HistoryFile::WriteOn()
@@ -26,7 +29,7 @@ void HistoryFile::WriteOn()
     std::string lines;
     std::int64_t count = 0;
     ReadTrail(m_database, m_query, [&](const TrailEntry& entry) {
-        lines += HistoryCsvLine(entry, [this](std::int64_t id) { return m_names->Of(id); });
+        lines += HistoryLine(m_form, entry, [this](std::int64_t id) { return m_names->Of(id); });
         m_query.olderThan = entry.id;
         ++count;
     });
@@ -40,7 +43,7 @@ void HistoryFile::WriteOn()
 
 std::string HistoryFileName(DateTime today)
 {
-    return "PTK history " + FormatDateTime(today, "yyyy-mm-dd") + ".csv";
+    return "PTK history " + FormatDateTime(today, "yyyy-mm-dd");
 }
 
 } // namespace ptk

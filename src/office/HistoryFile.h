@@ -1,7 +1,8 @@
-// The history as a CSV file, written while it is read.
+// The history as a file, written while it is read.
 #pragma once
 
 #include "office/EmployeeNames.h"
+#include "office/History.h"
 #include "platform/FileDraft.h"
 
 #include <cstdint>
@@ -15,8 +16,10 @@ namespace ptk {
 class HistoryFile
 {
 public:
-    // `path` in the platform's own form. Raises what a draft raises. REQUIRES: neither pointer is nullptr.
-    HistoryFile(const std::string& path, std::shared_ptr<CJetDB> database, TrailQuery query, std::shared_ptr<const EmployeeNames> names);
+    // `path` in the platform's own form; as CSV, with a byte order mark, or as text. Raises what a draft raises. REQUIRES: neither pointer
+    // is nullptr; the form is not Json.
+    HistoryFile(const std::string& path, HistoryForm form, std::shared_ptr<CJetDB> database, TrailQuery query,
+                std::shared_ptr<const EmployeeNames> names);
 
     // Raises the failure of a database that cannot be opened or read, and what writing and a draft raise. REQUIRES: not IsDone.
     void WriteOn();
@@ -30,6 +33,7 @@ public:
 
 private:
     std::string m_path;
+    HistoryForm m_form;
     FileDraft m_draft;
     std::shared_ptr<CJetDB> m_database;
     TrailQuery m_query;
@@ -38,7 +42,7 @@ private:
     bool m_done = false;
 };
 
-// "PTK history 2003-03-05.csv".
+// "PTK history 2003-03-05", without an ending.
 [[nodiscard]] std::string HistoryFileName(DateTime today);
 
 } // namespace ptk

@@ -97,4 +97,14 @@ std::string OverviewText(const Overview& overview)
     return text + "\r\n" + table.Line(totals);
 }
 
+std::string OverviewFile(ReportForm form, const Overview& overview)
+{
+    return form == ReportForm::Csv ? std::string(kByteOrderMark) + OverviewCsv(overview) : OverviewText(overview);
+}
+
+std::string OverviewFileName(const PayPeriod& period)
+{
+    return "PTK overview " + FormatDateTime(period.from, "yyyy-mm-dd");
+}
+
 } // namespace ptk

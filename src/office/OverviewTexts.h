@@ -1,12 +1,15 @@
 // The payday overview as text for people and as data for other programs; docs/overview-format.md describes the latter.
 #pragma once
 
+#include "reports/ReportForms.h"
+
 #include <string>
 
 namespace ptk {
 
 struct CardCheck;
 struct Overview;
+struct PayPeriod;
 
 // Lines end in CR LF. A table, under each employee the sentences, below it the sums
 [[nodiscard]] std::string OverviewText(const Overview& overview);
@@ -16,6 +19,12 @@ struct Overview;
 
 // One object.
 [[nodiscard]] std::string OverviewJson(const Overview& overview);
+
+// The bytes of a file of it: CSV with a byte order mark, or text.
+[[nodiscard]] std::string OverviewFile(ReportForm form, const Overview& overview);
+
+// "PTK overview 2003-03-01", the period's first day, without an ending.
+[[nodiscard]] std::string OverviewFileName(const PayPeriod& period);
 
 // One line a finding, "    problem: ..."; without the notices where they are not to be shown.
 [[nodiscard]] std::string FindingLines(const CardCheck& check, bool showNotices);

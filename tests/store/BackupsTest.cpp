@@ -127,6 +127,21 @@ TEST_F(BackupsTest, AreWholeForTheirOwnerAndNamedByTheNextFreeSecond)
     EXPECT_EQ(sound.size, static_cast<std::int64_t>(ReadBytes(Path()).size()));
 }
 
+TEST_F(BackupsTest, PruningSparesTheFileThatIsBeingRestored)
+{
+    const auto backup = [](int second) { return BackupName(DateTime::FromSeconds(ToDateTime("1/1/2000").Seconds() + second)); };
+    std::filesystem::create_directory(Folder());
+    const std::string newest = BackupName(m_now);
+    WriteBytes(Backup(newest), "");
+    for (int second = 0; second < 11; ++second) {
+        WriteBytes(Backup(backup(second)), "");
+    }
+    PruneBackups(Folder(), newest, Backup(backup(0))); // ten are kept: that one and the nine newest of eleven
+    EXPECT_TRUE(std::filesystem::exists(Backup(backup(0))));
+    EXPECT_FALSE(std::filesystem::exists(Backup(backup(1))));
+    EXPECT_TRUE(std::filesystem::exists(Backup(backup(2))));
+}
+
 TEST_F(BackupsTest, LeaveNothingBehindWhereTheyFail)
 {
     RawDatabase other(Path());

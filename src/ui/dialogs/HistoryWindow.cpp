@@ -3,6 +3,7 @@
 #include "office/CardTexts.h"
 #include "office/HistoryFile.h"
 #include "office/HistoryTable.h"
+#include "office/SaveReport.h"
 #include "platform/BusyPointer.h"
 #include "platform/Clock.h"
 #include "platform/Required.h"
@@ -10,6 +11,7 @@
 #include "startup/CController.h"
 #include "store/CJetDB.h"
 #include "ui/dialogs/HistoryModel.h"
+#include "ui/dialogs/SaveDialog.h"
 #include "ui/pages/PageHost.h"
 #include "ui/widgets/ButtonRow.h"
 #include "ui/widgets/ThemeIcon.h"
@@ -20,11 +22,9 @@
 #include <QClipboard>
 #include <QCloseEvent>
 #include <QDir>
-#include <QFileDialog>
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QShortcut>
-#include <QStandardPaths>
 
 namespace ptk {
 
@@ -34,9 +34,6 @@ constexpr auto kNoDays = "Choose days, the first not after the last, or leave th
 constexpr auto kUnread = "Press F5 to read the history";
 constexpr auto kNotRead = "The history could not be read: ";
 constexpr auto kCopied = "Copied: %1 and a heading";
-constexpr auto kSaveTitle = "Save the History";
-constexpr auto kFileKind = "Comma separated values (*.csv)";
-constexpr auto kFileEnding = "csv";
 constexpr auto kSaveTip = "Save all changes that fit what is chosen above, also those not shown yet";
 constexpr auto kNothingToSave = "Nothing is shown that could be saved";
 constexpr auto kBeingSaved = "The file is being saved";
@@ -269,28 +266,20 @@ void HistoryWindow::Copy()
 
 void HistoryWindow::SaveAs()
 {
-    const QString path = AskFile();
-    if (path.isEmpty()) {
+    const auto name = QString::fromStdString(HistoryFileName(m_host.Clock().Today()));
+    const auto target = AskWhereToSave(*this, name, SavedListForms());
+    if (!target) {
         return;
     }
     Say(QString());
     const auto begin = [&] {
+        const HistoryForm form = target->form == ReportForm::Csv ? HistoryForm::Csv : HistoryForm::Text;
         const auto database = Required(Required(m_host.Controller())->PTKDatabase())->Afresh();
-        m_file = std::make_unique<HistoryFile>(QFile::encodeName(path).toStdString(), database, m_query, m_names);
+        m_file = std::make_unique<HistoryFile>(target->path, form, database, m_query, m_names);
         m_saving.start(0);
     };
     Succeeds(begin, [this](const Failure& reason) { Complain(kNotSaved + reason.Description()); });
     ShowSaving();
-}
-
-// Empty when there is none.
-QString HistoryWindow::AskFile()
-{
-    QFileDialog dialog(this, kSaveTitle, QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation), kFileKind);
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(kFileEnding);
-    dialog.selectFile(QString::fromStdString(HistoryFileName(m_host.Clock().Today())));
-    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 
 void HistoryWindow::SaveOn()

@@ -61,7 +61,6 @@ private:
     void Copy();
 
     void SaveAs();
-    [[nodiscard]] QString AskFile();
     void SaveOn();
     void StopSaving();
     void ShowSaving();

@@ -4,6 +4,8 @@
 #include "office/CardFindings.h"
 #include "office/OverviewReading.h"
 #include "office/OverviewTable.h"
+#include "office/OverviewTexts.h"
+#include "office/SaveReport.h"
 #include "platform/Clock.h"
 #include "platform/Failure.h"
 #include "platform/Required.h"
@@ -11,6 +13,7 @@
 #include "startup/CController.h"
 #include "store/CSystemOptions.h"
 #include "ui/dialogs/OverviewModel.h"
+#include "ui/dialogs/SaveDialog.h"
 #include "ui/pages/PageHost.h"
 #include "ui/widgets/ButtonRow.h"
 #include "ui/widgets/FoldingRow.h"
@@ -138,6 +141,7 @@ void OverviewWindow::ConnectTable()
             [this](int column, int, int width) { m_ui->grdTotals->setColumnWidth(column, width); });
     connect(table->horizontalScrollBar(), &QScrollBar::valueChanged, m_ui->grdTotals->horizontalScrollBar(), &QScrollBar::setValue);
     connect(m_ui->lstOverviewFindings, &FindingList::Entered, this, &OverviewWindow::OpenCard);
+    connect(m_ui->cmdSaveAs, &QPushButton::clicked, this, &OverviewWindow::SaveAs);
     connect(m_ui->cmdOpenCard, &QPushButton::clicked, this, &OverviewWindow::OpenCard);
     connect(m_ui->cmdClose, &QPushButton::clicked, this, &QWidget::close);
 }
@@ -149,6 +153,7 @@ void OverviewWindow::ConnectKeys()
     };
     onKey(this, Qt::Key_F5, Qt::WindowShortcut, [this] { Refresh(); });
     onKey(this, QKeySequence::Copy, Qt::WindowShortcut, [this] { Copy(); });
+    onKey(this, QKeySequence::Save, Qt::WindowShortcut, [this] { SaveAs(); });
     onKey(this, Qt::ALT | Qt::Key_Left, Qt::WindowShortcut, [this] { StepPeriod(-1); });
     onKey(this, Qt::ALT | Qt::Key_Right, Qt::WindowShortcut, [this] { StepPeriod(1); });
     onKey(this, Qt::Key_Escape, Qt::WindowShortcut, [this] {
@@ -390,6 +395,22 @@ void OverviewWindow::Copy()
     QGuiApplication::clipboard()->setText(QString::fromStdString(TabSeparated(lines)));
     const auto count = lines.size() - 1;
     Say(QString(kCopied).arg(count == 1 ? QString(kOneLine) : QString(kLines).arg(count)));
+}
+
+// All that was read, sorted as it was read.
+void OverviewWindow::SaveAs()
+{
+    if (!m_rows->HasReading()) {
+        return;
+    }
+    const auto reading = m_reading; // the dialog lets the window go on
+    const auto name = QString::fromStdString(OverviewFileName(reading->Result().period));
+    const auto target = AskWhereToSave(*this, name, SavedListForms());
+    if (!target) {
+        return;
+    }
+    const auto make = [&](ReportForm form) { return OverviewFile(form, reading->Result()); };
+    Say(QString::fromStdString(ptk::SaveAs(target->path, target->form, make).said));
 }
 
 void OverviewWindow::OpenCard()

@@ -85,6 +85,7 @@ private:
     void ShowTotals();
     void FitColumns();
     void Copy();
+    void SaveAs();
     void OpenCard();
 
     PageHost& m_host;
