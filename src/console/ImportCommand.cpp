@@ -47,10 +47,10 @@ int ImportCommand(const ImportArguments& arguments, Console& console)
     if (!outcome.refusal.empty()) {
         throw Failure(0, "PTK", outcome.refusal + kAccept);
     }
-    if (!outcome.accountProblem.empty()) {
-        Complain(console.err, Failure(0, "PTK", "imported, but the account is not in the folder of reports: " + outcome.accountProblem));
+    if (!outcome.problem.empty()) {
+        Complain(console.err, Failure(0, "PTK", "imported, but " + outcome.problem));
     }
-    return outcome.account.signs.empty() && outcome.accountProblem.empty() ? status::Done : status::ProblemsFound;
+    return outcome.account.signs.empty() && outcome.problem.empty() ? status::Done : status::ProblemsFound;
 }
 
 } // namespace ptk

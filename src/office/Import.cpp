@@ -33,6 +33,8 @@ constexpr const char* kNotEqual = "the new database does not read back as it was
 constexpr const char* kRefusedForDamage =
     "the file shows signs of damage ({}); nothing was changed. What can still be read is only taken where that is accepted";
 
+constexpr const char* kNoAccount = "the account could not be kept: ";
+
 constexpr const char* kImpossibleKey = "impossible key";
 constexpr const char* kImpossibleMoment = "impossible start or end";
 constexpr const char* kDoubledKey = "key that an earlier row has";
@@ -346,7 +348,7 @@ ImportOutcome ImportOldDatabase(const ImportOrder& order, const ImportProgress& 
             draft->File().Flush();
             draft->PlaceNew();
         };
-        Succeeds(keep, [&](const Failure& reason) { outcome.accountProblem = reason.Description(); });
+        Succeeds(keep, [&](const Failure& reason) { outcome.problem = kNoAccount + reason.Description(); });
     }
     return outcome;
 }

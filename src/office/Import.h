@@ -30,9 +30,9 @@ struct ImportOrder
 struct ImportOutcome
 {
     ImportAccount account;
-    std::string refusal;        // why nothing was taken although all could be read, one sentence; empty where it was, or would be
-    std::string accountFile;    // of an import
-    std::string accountProblem; // why there is none, although the import was done; empty where there is one
+    std::string refusal;     // why nothing was taken although all could be read, one sentence; empty where it was, or would be
+    std::string accountFile; // of an import
+    std::string problem;     // what went wrong after the import was done, its account above all; empty where nothing did
 };
 
 // A file with signs of damage is only taken where that is accepted. At most 25 seconds; the file is not changed in any way, nor are its

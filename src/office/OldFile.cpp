@@ -18,7 +18,7 @@ constexpr std::size_t kLongestLine = std::size_t{64} << 20; // bytes
 
 constexpr const char* kUnreadable = "the file is too damaged to be read";
 constexpr const char* kGarbled = "the reader of older files gave something that it never should";
-constexpr const char* kNoReader = "the program ptk-jet-reader, which reads older files, is missing";
+constexpr const char* kNoReader = "the program ptk-jet-reader, which reads older files, is missing; it comes with the package ptk-console";
 
 // By the reader's exit status; see jetreader/Refusal.h.
 struct Reason

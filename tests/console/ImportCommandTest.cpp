@@ -1,40 +1,11 @@
 #include "console/ConsoleFixture.h"
-#include "support/JetFileBuilder.h"
+#include "support/OldDatabase.h"
 
 #include <algorithm>
 
 namespace ptk {
 
 namespace {
-
-using Builder = JetFileBuilder;
-using Type = Builder::Type;
-
-// `counted`: the records that the table claims to hold; it holds one.
-void WriteOldFile(const std::string& path, std::uint32_t counted)
-{
-    std::vector<Builder::Column> staff{{"EmployeeID", Type::Long}};
-    for (const char* name : {"SSNumber", "FirstName", "LastName", "Address", "Address2", "City", "State", "ZipCode", "Phone", "Password"}) {
-        staff.push_back({name, Type::Text});
-    }
-    for (const char* name : {"EmployeeNumber", "PayRate", "OvertimePayRate", "CompanyID", "AutoDeductLunchLength", "AutoDeductBreakLength",
-                             "Active", "AutoDeduct"}) {
-        staff.push_back({name, Type::Long});
-    }
-    std::vector<Builder::Column> firms{{"CompanyID", Type::Long}};
-    for (const char* name : {"Name", "Address1", "Address2", "City", "State", "ZipCode", "Phone"}) {
-        firms.push_back({name, Type::Text});
-    }
-    Builder builder;
-    Builder::Row lee(staff.size(), 1.0);
-    std::fill(lee.begin() + 1, lee.begin() + 11, Builder::Cell("Jos\xE9"));
-    builder.AddTable("Staff", staff, {lee});
-    builder.AddTable("Firms", firms, {});
-    builder.AddTable("TimeRecord",
-                     {{"TimeRecordID", Type::Long}, {"EmployeeID", Type::Long}, {"StartTime", Type::Date}, {"EndTime", Type::Date}},
-                     {{1.0, 1.0, 38000.25, 38000.5}}, counted);
-    WriteBytes(path, builder.Build());
-}
 
 class ImportCommandTest : public ConsoleTest
 {
@@ -57,14 +28,14 @@ TEST_F(ImportCommandTest, EndsWithTheStatusThatTellsWhatBecameOfIt)
         "ptk-console: the file shows signs of damage (1); nothing was changed. What can still be read is only taken "
         "where that is accepted (--accept-damaged)\n";
     Expect({}, 1, "ptk-console: " + Old() + ": there is no such file\n");
-    WriteOldFile(Old(), 2);
+    WriteOldDatabase(Old(), 2);
     Expect({"--dry-run"}, 1, damaged);
     Expect({}, 1, damaged);
     Expect({"--dry-run", "--accept-damaged"}, 3, "");
     EXPECT_FALSE(std::filesystem::exists(Database()));
     Expect({"--accept-damaged"}, 3, "");
     std::filesystem::remove(Database());
-    WriteOldFile(Old(), 1);
+    WriteOldDatabase(Old(), 1);
     Expect({"--dry-run"}, 0, "");
     Expect({"--code-page", "437"}, 0, "");
     EXPECT_NE(Run({"report", "phonebook"}).out.find("Jos\u0398, Jos\u0398"), std::string::npos);
@@ -82,7 +53,7 @@ TEST_F(ImportCommandTest, EndsWithTheStatusThatTellsWhatBecameOfIt)
 
 TEST_F(ImportCommandTest, PrintsTheAccountThatItKeeps)
 {
-    WriteOldFile(Old(), 1);
+    WriteOldDatabase(Old(), 1);
     std::string printed = Run({"import", Old(), "--dry-run"}).out;
     EXPECT_EQ(Run({"import", Old()}).out, printed);
     EXPECT_NE(printed.find("TimeRecord from TimeRecord: found 1, taken 1, left out 0\n"), std::string::npos) << printed;
