@@ -175,7 +175,7 @@ std::string_view GuardedChild::Read()
         RefuseToWaitLonger();
         pollfd ends[] = {{m_output.Descriptor(), POLLIN, 0}, {errorsOpen ? m_errorOutput.Descriptor() : -1, POLLIN, 0}};
         ::poll(ends, std::size(ends), static_cast<int>(kBetweenLooks.count()));
-        errorsOpen = (ends[1].revents & (POLLHUP | POLLIN)) != POLLHUP;
+        errorsOpen = errorsOpen && (ends[1].revents & (POLLHUP | POLLIN)) != POLLHUP;
         TakeErrors();
         if (ends[0].revents == 0) {
             continue;

@@ -76,7 +76,7 @@ void CreateAndChangeDatabase(const std::string& path, const std::function<void(E
 
 void WithPassingDatabase(const std::function<void(Engine&)>& change)
 {
-    const std::string name = "ptk-trial-" + std::to_string(::getpid()) + ".mdb";
+    const std::string name = "ptk-trial-" + std::to_string(::geteuid()) + ".mdb"; // so that the next one removes what a killed one left
     const FileDraft draft((std::filesystem::temp_directory_path() / name).string());
     Engine engine(draft.Path(), NewFile{});
     Fill(engine, {});

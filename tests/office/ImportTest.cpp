@@ -293,6 +293,26 @@ TEST_F(ImportTest, WritesNothingOnTrialAndNothingToTheOldFile)
     EXPECT_EQ(after.st_mtim.tv_sec, before.st_mtim.tv_sec);
 }
 
+TEST_F(ImportTest, BringsAnEarlierDatabaseUpToDateAfterABackup)
+{
+    Write({});
+    CreateDatabase(m_order.database);
+    for (const char* table : {"TimeRecord", "Employee", "Company"}) {
+        for (const char* action : {"Insert", "Update", "Delete"}) {
+            RawDatabase(m_order.database).Run(std::string("DROP TRIGGER _") + table + action);
+        }
+    }
+    RawDatabase(m_order.database)
+        .Run(
+            "DROP TRIGGER _SystemInsert; DROP TRIGGER _SystemUpdate; DROP TRIGGER _SystemDelete; DROP TABLE _CheckLimits; DROP VIEW _Edit; "
+            "DROP TABLE _Session; DROP TABLE _Change");
+    EXPECT_EQ(Refusal(), "");
+    EXPECT_EQ(Rows("SELECT COUNT(*), (SELECT Action FROM _Change) FROM _Change"), "1|import|");
+    EXPECT_EQ(Rows("SELECT COUNT(*) FROM TimeRecord"), "1|");
+    EXPECT_TRUE(fs::exists(m_folder.Path() + "/backups/ptk_11-2026-03-20-093000.mdb"));
+    EXPECT_EQ(m_account.figures.rows[static_cast<std::size_t>(ImportTableId::TimeRecord)], 1) << "counted once, though written twice";
+}
+
 // Fifty of them, changed and cut at random: they end in a refusal or in a true account, and a refusal changes nothing.
 TEST_F(ImportTest, DamagedFilesDoNoHarm)
 {

@@ -22,6 +22,7 @@ constexpr auto kRefused = "Nothing was changed: %1.";
 constexpr auto kImported = "Imported. The account is kept as %1.";
 constexpr auto kImportedBut = "Imported, but %1.";
 
+constexpr auto kNameFirst = "Choose the older database first.";
 constexpr auto kReadFirst = "Choose the older database and read it first.";
 constexpr auto kAcceptFirst = "Tick that what can still be read is to be taken.";
 constexpr auto kClose = "&Close";
@@ -78,7 +79,9 @@ void FImport::Forget()
     m_ui->chkAccept->setChecked(false);
     m_ui->chkAccept->hide();
     m_ui->lblHint->Say(QString());
-    m_ui->cmdRead->setEnabled(!m_ui->txtFile->text().isEmpty());
+    const bool isNamed = !m_ui->txtFile->text().isEmpty();
+    m_ui->cmdRead->setEnabled(isNamed);
+    m_ui->cmdRead->setToolTip(isNamed ? QString() : kNameFirst);
     m_ui->cmdRead->setDefault(true);
     EnableImport();
 }
