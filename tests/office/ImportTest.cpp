@@ -246,6 +246,32 @@ TEST_F(ImportTest, RefusesWhatIsNotThereInASentence)
     EXPECT_EQ(Accounts(), 0);
 }
 
+TEST_F(ImportTest, StoredQueriesTellWhichTableAndColumnIsInUse)
+{
+    std::vector<Builder::Column> company = kCompany;
+    company.push_back({"Slogan", Type::Text});
+    Builder::Row firm = Company(7);
+    firm.emplace_back("Better bread");
+    Builder builder;
+    builder.AddTable("Staff", kEmployee, {Employee(4, "Old")});
+    builder.AddTable("Staff2", kEmployee, {Employee(5, "Lee")});
+    builder.AddTable("Firms", company, {firm});
+    builder.AddTable("TimeRecord", kTimeRecord, {});
+    builder.AddObject(900, "GetAllEmployees", 5);
+    builder.AddObject(901, "AddNewCompany", 5);
+    builder.AddTable(
+        "MSysQueries",
+        {{"ObjectId", Type::Long}, {"Attribute", Type::Short}, {"Expression", Type::Text}, {"Name1", Type::Text}, {"Name2", Type::Text}},
+        {{900.0, 5.0, kNone, "staff2", kNone},
+         {901.0, 6.0, "[paramName]", kNone, "Slogan"},
+         {901.0, 6.0, "[paramURL]", kNone, "Homepage"}});
+    WriteBytes(m_order.file, builder.Build());
+    EXPECT_EQ(Refusal(), "");
+    EXPECT_EQ(m_account.otherTables, std::vector<std::string>{"Staff"});
+    EXPECT_EQ(m_account.furtherColumns, (std::vector<std::string>{"Shoe of Staff2", "Slogan of Firms"}));
+    EXPECT_EQ(Rows("SELECT LastName FROM Employee WHERE EmployeeID < 39; SELECT URL FROM Company"), "Lee|www.example.org|");
+}
+
 TEST_F(ImportTest, LeavesADatabaseWithPeopleInItAlone)
 {
     Write({});

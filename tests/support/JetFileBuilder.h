@@ -51,6 +51,9 @@ public:
         m_catalog.push_back({static_cast<double>(definition), name, 1.0, 0.0});
     }
 
+    // An object of the catalog that is no table: 5 is a stored query, whose parts are rows of the table MSysQueries.
+    void AddObject(double id, const std::string& name, double type) { m_catalog.push_back({id, name, type, 0.0}); }
+
     // The bytes of the file.
     std::string Build()
     {
