@@ -3,6 +3,7 @@ include(GNUInstallDirs)
 
 install(TARGETS ptk-console RUNTIME COMPONENT console)
 install(TARGETS ptk_pages LIBRARY DESTINATION lib/ptk-console COMPONENT console) # each program's own: either package may be there alone
+install(TARGETS ptk-jet-reader RUNTIME DESTINATION libexec/ptk COMPONENT console) # where platform/ProgramFolder looks for it
 
 find_program(PANDOC pandoc REQUIRED)
 set(man_page ${CMAKE_BINARY_DIR}/man/ptk-admin.1)

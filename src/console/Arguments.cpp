@@ -1,5 +1,6 @@
 #include "console/Arguments.h"
 
+#include "office/OldFile.h"
 #include "platform/Text.h"
 #include "platform/Version.h"
 
@@ -61,6 +62,9 @@ struct Words
     std::string output;
     std::string target;
     std::string file;
+    bool dryRun = false;
+    bool acceptDamaged = false;
+    int codePage = 0;
     std::vector<std::string> employees;
 };
 
@@ -77,11 +81,12 @@ private:
     void DescribeOverview();
     void DescribeHistory();
     void DescribeBackups();
+    void DescribeImport();
     void CheckReport() const;
     std::variant<Arguments, UsageAnswer> Answer(const CLI::ParseError& error) const;
     Arguments Result() const;
     Command ReportResult() const;
-    Command BackupResult() const;
+    Command FileResult() const;
 
     Words m_words;
     CLI::App m_app{"PTK - Administrator for terminals and scheduled jobs: time cards and reports from the program folder's database",
@@ -94,6 +99,7 @@ private:
     CLI::App* m_backup = nullptr;
     CLI::App* m_restore = nullptr;
     CLI::App* m_backups = nullptr;
+    CLI::App* m_import = nullptr;
 };
 
 Grammar::Grammar()
@@ -113,6 +119,7 @@ Grammar::Grammar()
     DescribeOverview();
     DescribeHistory();
     DescribeBackups();
+    DescribeImport();
     m_app.add_subcommand("check", "Verify the database's integrity and schema and print its row counts");
 }
 
@@ -180,6 +187,21 @@ void Grammar::DescribeBackups()
     m_backups = m_app.add_subcommand("backups", "List the backups, the newest first");
 }
 
+void Grammar::DescribeImport()
+{
+    m_import = m_app.add_subcommand("import", "Bring an older database (.mdb, Jet 3 or 4) along into one that is still empty");
+    m_import->add_option("file", m_words.file, "The older database; it is only read")->type_name("FILE")->required();
+    m_import->add_flag("--dry-run", m_words.dryRun, "Print the same account, and write nothing");
+    m_import->add_flag("--accept-damaged", m_words.acceptDamaged, "Take what can be read of a file that shows signs of damage");
+    const auto known = [](const std::string& text) {
+        const auto number = text.size() < 6 && text.find_first_not_of("0123456789") == std::string::npos ? std::atoi(text.c_str()) : 0;
+        return IsKnownCodePage(number) ? std::string() : "no code page that is known: " + text;
+    };
+    m_import->add_option("--code-page", m_words.codePage, "Of the texts in a Jet 3 file (Access 97), instead of the one that it names")
+        ->type_name("N")
+        ->check(CLI::Validator([known](std::string& text) { return known(text); }, ""));
+}
+
 // What each report has no use for is refused rather than silently left aside.
 void Grammar::CheckReport() const
 {
@@ -239,7 +261,7 @@ Arguments Grammar::Result() const
         return {m_words.programFolder, HistoryArguments{named ? std::optional(m_words.employee) : std::nullopt, ReadDay(m_words.from),
                                                         ReadDay(m_words.to), m_words.format}};
     }
-    return {m_words.programFolder, BackupResult()};
+    return {m_words.programFolder, FileResult()};
 }
 
 Command Grammar::ReportResult() const
@@ -252,7 +274,7 @@ Command Grammar::ReportResult() const
                            m_report->count("--output") > 0 ? std::optional(m_words.output) : std::nullopt};
 }
 
-Command Grammar::BackupResult() const
+Command Grammar::FileResult() const
 {
     if (m_backup->parsed()) {
         return BackupArguments{m_backup->count("--to") > 0 ? std::optional(m_words.target) : std::nullopt};
@@ -262,6 +284,10 @@ Command Grammar::BackupResult() const
     }
     if (m_backups->parsed()) {
         return BackupsArguments{};
+    }
+    if (m_import->parsed()) {
+        const bool named = m_import->count("--code-page") > 0;
+        return ImportArguments{m_words.file, m_words.dryRun, m_words.acceptDamaged, named ? std::optional(m_words.codePage) : std::nullopt};
     }
     return CheckArguments{};
 }

@@ -66,12 +66,20 @@ struct BackupsArguments
 {
 };
 
+struct ImportArguments
+{
+    std::string file;
+    bool dryRun = false;
+    bool acceptDamaged = false;
+    std::optional<int> codePage; // one that is known
+};
+
 struct CheckArguments
 {
 };
 
 using Command = std::variant<CreateDatabaseArguments, TimeCardArguments, ReportArguments, OverviewArguments, HistoryArguments,
-                             BackupArguments, RestoreArguments, BackupsArguments, CheckArguments>;
+                             BackupArguments, RestoreArguments, BackupsArguments, ImportArguments, CheckArguments>;
 
 struct Arguments
 {

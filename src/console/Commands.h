@@ -9,6 +9,7 @@ struct BackupsArguments;
 struct CheckArguments;
 struct CreateDatabaseArguments;
 struct HistoryArguments;
+struct ImportArguments;
 struct OverviewArguments;
 struct ReportArguments;
 struct RestoreArguments;
@@ -22,6 +23,7 @@ struct TimeCardArguments;
 [[nodiscard]] int BackupCommand(const BackupArguments& arguments, Console& console);
 [[nodiscard]] int RestoreCommand(const RestoreArguments& arguments, Console& console);
 [[nodiscard]] int BackupsCommand(const BackupsArguments& arguments, Console& console);
+[[nodiscard]] int ImportCommand(const ImportArguments& arguments, Console& console);
 [[nodiscard]] int CheckCommand(const CheckArguments& arguments, Console& console);
 
 } // namespace ptk

@@ -23,6 +23,7 @@ struct Dispatch
     int operator()(const BackupArguments& arguments) const { return BackupCommand(arguments, console); }
     int operator()(const RestoreArguments& arguments) const { return RestoreCommand(arguments, console); }
     int operator()(const BackupsArguments& arguments) const { return BackupsCommand(arguments, console); }
+    int operator()(const ImportArguments& arguments) const { return ImportCommand(arguments, console); }
     int operator()(const CheckArguments& arguments) const { return CheckCommand(arguments, console); }
 };
 

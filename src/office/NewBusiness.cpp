@@ -73,14 +73,19 @@ void CopyGuide(const std::string& folder)
     fs::copy_file(InstalledFile(kInstalledGuide), folder + kGuide, ignored);
 }
 
-void Begin(const std::string& folder, bool loginHelp, const std::function<void(BulkWriter&)>& fill)
+void Furnish(const FolderDraft& draft, bool loginHelp)
 {
-    const FolderDraft draft(folder);
     for (const char* part : {"/system", "/reports", "/documentation"}) {
         MakeOwnFolder(draft.Path() + part);
     }
     PutFile(NativePath(draft.Path() + kConfigurationFile).string(),
             fmt::format(fmt::runtime(kConfiguration), loginHelp ? "True" : "False"));
+}
+
+void Begin(const std::string& folder, bool loginHelp, const std::function<void(BulkWriter&)>& fill)
+{
+    const FolderDraft draft(folder);
+    Furnish(draft, loginHelp);
     CreateDatabase(draft.Path() + kDatabase, fill);
     CopyGuide(draft.Path());
     draft.Place();
@@ -123,6 +128,21 @@ void BeginBusiness(const std::string& folder, const NewBusiness& business, DateT
 void BeginSample(const std::string& folder, DateTime today)
 {
     Begin(folder, true, [&](BulkWriter& writer) { AddSampleBusiness(writer, today); });
+}
+
+ImportOutcome BeginWithOldDatabase(const std::string& folder, ImportOrder order, const ImportProgress& progress)
+{
+    const FolderDraft draft(folder);
+    Furnish(draft, true);
+    order.database = draft.Path() + kDatabase;
+    order.programFolder = draft.Path();
+    ImportOutcome outcome = ImportOldDatabase(order, progress);
+    if (!order.trial && outcome.refusal.empty()) {
+        CopyGuide(draft.Path());
+        draft.Place();
+        outcome.accountFile.replace(0, draft.Path().size(), folder);
+    }
+    return outcome;
 }
 
 std::string FolderRefusal(const std::string& folder)

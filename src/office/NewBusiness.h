@@ -1,6 +1,7 @@
 // A program folder for somebody who has none yet.
 #pragma once
 
+#include "office/Import.h"
 #include "platform/DateTime.h"
 
 #include <functional>
@@ -23,7 +24,7 @@ struct NewBusiness
 // Why nothing can be begun with these, one sentence; empty when it can.
 [[nodiscard]] std::string BusinessRefusal(const NewBusiness& business);
 
-// Both make `folder` and its parents, with the configuration and a database, for its owner only, whole or not at all. They raise 75 when
+// All make `folder` and its parents, with the configuration and a database, for its owner only, whole or not at all. They raise 75 when
 // there is something of that name, and what making folders, files and databases raises.
 
 // The company and the person, who is its first employee and may log in; the shipped account may not. REQUIRES: no refusal.
@@ -31,6 +32,10 @@ void BeginBusiness(const std::string& folder, const NewBusiness& business, DateT
 
 // The sample business up to today. The shipped account may log in, and the login's help says how.
 void BeginSample(const std::string& folder, DateTime today);
+
+// What ImportOldDatabase takes of the order's file; its places are the new folder's. On trial, and where the import is refused, there is no
+// folder afterwards. The login's help says how to get in, since the shipped account may be the only one that can.
+[[nodiscard]] ImportOutcome BeginWithOldDatabase(const std::string& folder, ImportOrder order, const ImportProgress& progress);
 
 // Why this folder is not one to work in: it is not there, has no configuration, or may not be written; one sentence with its name. Empty
 // when it is one.

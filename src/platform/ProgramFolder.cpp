@@ -106,6 +106,13 @@ fs::path InstalledFile(std::string_view name)
     return (ExecutableFolder() / ".." / "share" / name).lexically_normal();
 }
 
+fs::path HelperProgram(std::string_view name)
+{
+    std::error_code error;
+    const fs::path beside = ExecutableFolder() / name;
+    return fs::exists(beside, error) ? beside : (ExecutableFolder() / ".." / "libexec" / "ptk" / name).lexically_normal();
+}
+
 fs::path NativePath(std::string_view path)
 {
     std::string native(path);

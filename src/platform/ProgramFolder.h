@@ -31,6 +31,10 @@ void RememberProgramFolder(const std::string& folder);
 // A file of the installed package's own, beside the executable's folder: "<prefix>/share/NAME". It need not be there.
 [[nodiscard]] std::filesystem::path InstalledFile(std::string_view name);
 
+// A program that is started by this one: beside the executable, else in the package's folder for such, "<prefix>/libexec/ptk/NAME". It need
+// not be there.
+[[nodiscard]] std::filesystem::path HelperProgram(std::string_view name);
+
 // Configuration and texts keep backslashes as written ("<folder>\system\ptk_11.mdb"); only where a file is opened do they become the
 // platform's own separators.
 [[nodiscard]] std::filesystem::path NativePath(std::string_view path);

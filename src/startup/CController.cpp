@@ -30,6 +30,7 @@ namespace {
 
 constexpr const char* kConstructionFailed = "Program Construction Error";
 constexpr const char* kOperationFailed = "Error";
+constexpr const char* kImportNotReadAgain = "not everything that was imported could be read: see the log";
 constexpr const char* kNotReadAgain = ", but not everything in it could be read: see the log";
 
 // A list that exists is emptied and filled again, so that whoever holds it sees the new contents.
@@ -321,10 +322,30 @@ std::string CController::Restore()
     if (restored.empty()) {
         return {};
     }
+    return ReadAgain() ? restored : restored + kNotReadAgain;
+}
+
+bool CController::ReadAgain()
+{
     m_timeRecordFactory.reset();
     const bool read = OpenDatabase() && LoadSystemOptions() && BuildLists();
     CloseDatabase();
-    return read ? restored : restored + kNotReadAgain;
+    return read;
+}
+
+ImportOutcome CController::ImportOldDatabase(ImportOrder order, const ImportProgress& progress)
+{
+    CloseDatabase();
+    const BackupOrder places = Order();
+    order.database = places.database;
+    order.programFolder = places.programFolder;
+    order.now = places.now;
+    order.author = m_author;
+    ImportOutcome outcome = ptk::ImportOldDatabase(order, progress);
+    if (!order.trial && outcome.refusal.empty() && !ReadAgain()) {
+        outcome.problem += (outcome.problem.empty() ? "" : ", and ") + std::string(kImportNotReadAgain);
+    }
+    return outcome;
 }
 
 BackupOrder CController::Order() const

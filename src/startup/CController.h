@@ -1,6 +1,7 @@
 // The hub of the running program: owns every shared object, brings the program up and shuts it down.
 #pragma once
 
+#include "office/Import.h"
 #include "store/engine/EditTrail.h"
 
 #include <cstdint>
@@ -101,6 +102,10 @@ public:
     // given those that hold now.
     [[nodiscard]] std::string Restore();
 
+    // Of the order, its file and what is wanted of it count. Where something was imported, everything has been read again as after a
+    // restore; what of that failed is the outcome's problem. Raises what office/Import says.
+    [[nodiscard]] ImportOutcome ImportOldDatabase(ImportOrder order, const ImportProgress& progress);
+
     // The folder for a second copy of each backup; empty for none.
     [[nodiscard]] std::string SecondBackupFolder() const;
 
@@ -115,6 +120,7 @@ private:
     void BringUp();
     void OpenAndShow();
     bool RestoredInstead();
+    bool ReadAgain();
     bool LogIn();
     void ShowMainWindow();
     void ShutDown();

@@ -8,6 +8,10 @@
 #include "store/FileSteps.h"
 #include "store/Schema.h"
 
+#include <unistd.h>
+
+#include <filesystem>
+
 namespace ptk {
 
 namespace {
@@ -24,9 +28,8 @@ void RefuseLeftovers(const std::string& path)
     }
 }
 
-void Fill(const std::string& path, const std::function<void(BulkWriter&)>& fill)
+void Fill(Engine& engine, const std::function<void(BulkWriter&)>& fill)
 {
-    Engine engine(path, NewFile{});
     engine.BeginMany();
     engine.RunScript(kSchemaSql);
     engine.RunScript(kStoredQueriesSql);
@@ -38,17 +41,46 @@ void Fill(const std::string& path, const std::function<void(BulkWriter&)>& fill)
     writer.Commit();
 }
 
-} // namespace
-
-void CreateDatabase(const std::string& path, const std::function<void(BulkWriter&)>& fill)
+void RefuseTaken(const std::string& path)
 {
     if (IsThere(path)) {
         throw FileDraft::AlreadyThere(path);
     }
     RefuseLeftovers(path);
+}
+
+} // namespace
+
+void CreateDatabase(const std::string& path, const std::function<void(BulkWriter&)>& fill)
+{
+    RefuseTaken(path);
     FileDraft draft(path);
-    Fill(draft.Path(), fill);
+    {
+        Engine engine(draft.Path(), NewFile{});
+        Fill(engine, fill);
+    }
     draft.PlaceNew();
+}
+
+void CreateAndChangeDatabase(const std::string& path, const std::function<void(Engine&)>& change)
+{
+    RefuseTaken(path);
+    FileDraft draft(path);
+    {
+        Engine engine(draft.Path(), NewFile{});
+        Fill(engine, {});
+        change(engine);
+    }
+    draft.PlaceNew();
+}
+
+void WithPassingDatabase(const std::function<void(Engine&)>& change)
+{
+    const std::string name = "ptk-trial-" + std::to_string(::geteuid()) + ".mdb"; // so that the next one removes what a killed one left
+    const FileDraft draft((std::filesystem::temp_directory_path() / name).string());
+    Engine engine(draft.Path(), NewFile{});
+    Fill(engine, {});
+    change(engine);
 }
 
 } // namespace ptk

@@ -7,11 +7,18 @@
 namespace ptk {
 
 class BulkWriter;
+class Engine;
 
 // With its tables, stored queries, options, the administrator and whatever `fill` adds (without committing), readable by its owner only. It
 // appears under `path` (in the platform's own form) complete and safely on disk, or not at all; what killed attempts left beside it goes.
 // Raises 75 when there is something of that name already, which stays untouched, or a -journal, -wal or -shm of another database of that
 // name, 76 without the folder, 70, 61, 57, the engine's failures, and what `fill` raises.
 void CreateDatabase(const std::string& path, const std::function<void(BulkWriter&)>& fill = {});
+
+// The same, but what `change` does to the new database is a change that it tells.
+void CreateAndChangeDatabase(const std::string& path, const std::function<void(Engine&)>& change);
+
+// The database in a file of its own, which is gone when this returns.
+void WithPassingDatabase(const std::function<void(Engine&)>& change);
 
 } // namespace ptk

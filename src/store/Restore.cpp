@@ -1,6 +1,5 @@
 #include "store/Restore.h"
 
-#include "platform/DataText.h"
 #include "platform/FileDraft.h"
 #include "store/BackupNames.h"
 #include "store/Backups.h"
@@ -36,12 +35,7 @@ void AddEntry(Engine& restored, const RestoreOrder& order)
         return;
     }
     restored.SignAs(order.author);
-    restored.Write([&] {
-        const auto entry = restored.Prepare("INSERT INTO _Change (ChangedAt, ChangedBy, Program, Step, Action, After) "
-                                            "SELECT datetime('now', 'localtime'), user, program, step, 'restore', :after FROM _Session");
-        entry->Bind("after", "{\"file\":" + JsonText(order.file) + "}");
-        entry->Run();
-    });
+    restored.Write([&] { AddWholeEntry(restored, "restore", order.file); });
 }
 
 void FillDraft(const FileDraft& draft, const RestoreOrder& order, const CopyProgress& progress)

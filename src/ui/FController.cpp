@@ -10,6 +10,7 @@
 #include "ui/dialogs/OverviewWindow.h"
 #include "ui/EditMenu.h"
 #include "ui/HelpMenu.h"
+#include "ui/ImportMenu.h"
 #include "ui/PageFrame.h"
 #include "ui/pages/CompanyPage.h"
 #include "ui/pages/EmployeePage.h"
@@ -151,6 +152,9 @@ void FController::ConnectBackups()
     m_backups = new BackupMenu(*m_ui->mnuFileBackUp, *m_ui->mnuFileRestore, *this, this);
     connect(m_backups, &BackupMenu::Done, this, &FController::Say);
     connect(m_backups, &BackupMenu::Restored, this, &FController::ShowRestored);
+    auto* import = new ImportMenu(*m_ui->mnuFileImport, *this, *this);
+    connect(import, &ImportMenu::Imported, this, &FController::ShowRestored);
+    connect(import, &ImportMenu::Said, this, &FController::Say);
 }
 
 void FController::ConnectViewMenu()

@@ -1,7 +1,8 @@
-// A save, a backup, a restore and the writing of the configuration, killed or out of room at every call that changes something on the disk:
-// what is there afterwards is the old or the new, never an empty or a mixed one, and the next try finds nothing in its way.
+// A save, an import, a backup, a restore and the writing of the configuration, killed or out of room at every call that changes something
+// on the disk: what is there afterwards is the old or the new, never an empty or a mixed one, and the next try finds nothing in its way.
 #include "crash/WriteCalls.h"
 #include "office/BackupRun.h"
+#include "office/Import.h"
 #include "platform/Failure.h"
 #include "platform/ProgramFolder.h"
 #include "shell/CFileAdaptor.h"
@@ -10,6 +11,7 @@
 #include "store/DatabaseCreator.h"
 #include "store/RawDatabase.h"
 #include "support/Files.h"
+#include "support/OldDatabase.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -129,6 +131,26 @@ TEST_P(CrashTest, ASavedRecordIsThereWholeWithItsTrailOrNotAtAll)
         const std::string old = "2003-03-05 17:00:00|0|0|ok|";
         const std::string saved = "2003-03-05 18:00:00|1|0|ok|";
         EXPECT_TRUE(rows == saved || (!done && rows == old)) << rows;
+    });
+}
+
+TEST_P(CrashTest, AnImportIsThereWholeWithItsEntryOrNotAtAll)
+{
+    RawDatabase(m_database).Run("DELETE FROM TimeRecord; DELETE FROM _Change");
+    m_bytes = ReadBytes(m_database);
+    WriteOldDatabase(m_folder.Path() + "/old.mdb");
+    const auto import = [&] {
+        ImportOrder order;
+        order.file = m_folder.Path() + "/old.mdb";
+        order.database = m_database;
+        order.programFolder = m_folder.Path();
+        return ImportOldDatabase(order).problem.empty();
+    };
+    AtEveryCall(import, [&](bool done) {
+        const std::string rows =
+            Rows("SELECT COUNT(*) FROM Employee; SELECT COUNT(*) FROM TimeRecord; SELECT COUNT(*) FROM _Change; SELECT "
+                 "COUNT(*) FROM _Session WHERE user IS NOT NULL; PRAGMA integrity_check");
+        EXPECT_TRUE(rows == "2|1|1|0|ok|" || (!done && rows == "1|0|0|0|ok|")) << rows;
     });
 }
 

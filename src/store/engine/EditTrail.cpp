@@ -1,5 +1,6 @@
 #include "store/engine/EditTrail.h"
 
+#include "platform/DataText.h"
 #include "platform/Failure.h"
 #include "store/engine/Engine.h"
 #include "store/engine/RecordSet.h"
@@ -71,6 +72,18 @@ void OpenStep(Engine& engine, const Author& author, std::int64_t step)
 void CloseStep(Engine& engine)
 {
     engine.RunScript(kClear);
+}
+
+void AddWholeEntry(Engine& engine, const char* action, const std::string& file)
+{
+    if (!HasTrail(engine)) {
+        return;
+    }
+    const auto entry = engine.Prepare("INSERT INTO _Change (ChangedAt, ChangedBy, Program, Step, Action, After) "
+                                      "SELECT datetime('now', 'localtime'), user, program, step, :action, :after FROM _Session");
+    entry->Bind("action", action);
+    entry->Bind("after", "{\"file\":" + JsonText(file) + "}");
+    entry->Run();
 }
 
 void InstallTrail(Engine& engine)

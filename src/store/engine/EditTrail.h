@@ -31,6 +31,10 @@ void CloseStep(Engine& engine);
 // A number that no entry has: its first entry's own.
 [[nodiscard]] std::int64_t NextStep(Engine& engine);
 
+// One entry of the step that is open, of no row but of the database as a whole: "restore" or "import", and from which file. Nothing in a
+// database without the trail.
+void AddWholeEntry(Engine& engine, const char* action, const std::string& file);
+
 // With the table _CheckLimits, where that is missing, too.
 void InstallTrail(Engine& engine);
 

@@ -218,6 +218,20 @@ void Engine::RunSigned(const std::function<void()>& steps)
     m_lastStep = NextStep(*this) == next ? 0 : step; // a number without entries is given to the next step
 }
 
+void Engine::Untold(const std::function<void()>& steps)
+{
+    sqlite3* const database = Open().Handle();
+    const auto triggers = [database](int run) { sqlite3_db_config(database, SQLITE_DBCONFIG_ENABLE_TRIGGER, run, nullptr); };
+    triggers(0);
+    try {
+        steps();
+    } catch (...) {
+        triggers(1);
+        throw;
+    }
+    triggers(1);
+}
+
 void Engine::CopyTo(const std::string& path, const CopyProgress& progress)
 {
     Open().CopyTo(path, progress);

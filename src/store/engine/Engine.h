@@ -89,6 +89,10 @@ public:
     // `keepCopy` is called, with nobody else at the file meanwhile, and they are done again together with the making of the trail; without
     // `keepCopy` such a file stays as it is.
     void Write(const std::function<void()>& steps);
+
+    // Within the steps of Write: what is changed here is in the trail as the one entry that the caller adds, not row by row. No trigger of
+    // the file runs meanwhile.
+    void Untold(const std::function<void()>& steps);
     void SignAs(Author author) { m_author = std::move(author); }
 
     // Of the writes that follow; 0: each is a step of its own.

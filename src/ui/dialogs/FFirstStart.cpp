@@ -6,6 +6,7 @@
 #include "platform/Failure.h"
 #include "platform/ProgramFolder.h"
 #include "platform/Succeeds.h"
+#include "ui/dialogs/FImport.h"
 #include "ui_FFirstStart.h"
 
 #include <QFileDialog>
@@ -19,6 +20,8 @@ constexpr auto kWelcome = "There is no business on this computer yet. A new one 
 constexpr auto kWithoutConfiguration = "%1 has no configuration (system/ptk_11.cfg). Choose where to work.";
 constexpr auto kFolderTitle = "Existing Program Folder";
 constexpr auto kSampleEnding = "-sample";
+constexpr auto kFirstPerson = "administrator"; // nobody has logged in yet
+constexpr auto kProgram = "ptk-admin";
 constexpr auto kNotMade = "It could not be begun: ";
 
 constexpr int kHintLines = 2;
@@ -36,7 +39,7 @@ FFirstStart::FFirstStart(std::string folder, const Clock& clock)
     const bool there = QFileInfo::exists(QString::fromStdString(m_folder));
     m_ui->lblWelcome->setText(QString(there ? kWithoutConfiguration : kWelcome).arg(QString::fromStdString(m_folder)));
     m_ui->lblHint->KeepRoom(kHintLines);
-    for (const QRadioButton* choice : {m_ui->optNew, m_ui->optSample, m_ui->optFolder}) {
+    for (const QRadioButton* choice : {m_ui->optNew, m_ui->optSample, m_ui->optImport, m_ui->optFolder}) {
         connect(choice, &QRadioButton::toggled, this, &FFirstStart::EnableChosen);
     }
     connect(m_ui->cmdBrowse, &QPushButton::clicked, this, &FFirstStart::Browse);
@@ -64,6 +67,9 @@ void FFirstStart::Browse()
 
 void FFirstStart::Begin()
 {
+    if (m_ui->optImport->isChecked()) {
+        return BeginWithOld();
+    }
     std::string problem;
     const auto begin = [&] {
         if (m_ui->optNew->isChecked()) {
@@ -111,6 +117,21 @@ std::string FFirstStart::UseExisting()
         m_folder = folder;
     }
     return refusal;
+}
+
+// The window of the import asks for the file, shows what is in it and tells what went wrong.
+void FFirstStart::BeginWithOld()
+{
+    const auto import = [this](ImportOrder order, const ImportProgress& progress) {
+        order.now = m_clock.Now();
+        order.author = {kFirstPerson, kProgram};
+        return BeginWithOldDatabase(m_folder, std::move(order), progress);
+    };
+    FImport window(this, import);
+    window.exec();
+    if (window.HasImported()) {
+        accept();
+    }
 }
 
 } // namespace ptk

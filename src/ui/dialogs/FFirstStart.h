@@ -36,6 +36,8 @@ private:
     std::string BeginWithSample();
     std::string UseExisting();
 
+    void BeginWithOld();
+
     std::unique_ptr<Ui::FFirstStart> m_ui;
     const Clock& m_clock;
     std::string m_folder;

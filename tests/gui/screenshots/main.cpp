@@ -3,7 +3,9 @@
 #include "office/SampleBusiness.h"
 #include "store/BulkWriter.h"
 #include "store/CJetDB.h"
+#include "support/OldDatabase.h"
 #include "ui/dialogs/FFirstStart.h"
+#include "ui/dialogs/FImport.h"
 
 #include <cstdio>
 #include <QSettings>
@@ -260,6 +262,25 @@ void TakeHistory(GuiProgram& program, const Photographer& photographer)
     History().close();
 }
 
+void TakeImport(GuiProgram& program, const Photographer& photographer)
+{
+    const std::string old = program.folder.Path() + "/old.mdb";
+    WriteOldDatabase(old, 2);
+    FImport window(&program.Main(), [&](ImportOrder order, const ImportProgress& progress) {
+        order.database = program.folder.Path() + "/system/new.mdb";
+        order.programFolder = program.folder.Path();
+        return ImportOldDatabase(order, progress);
+    });
+    window.show();
+    photographer.TakeSizes(window, "import-empty");
+    Find<QLineEdit>(window, "txtFile").setText(QString::fromStdString(old));
+    Find<QPushButton>(window, "cmdRead").click();
+    photographer.TakeSizes(window, "import-damaged");
+    Find<QCheckBox>(window, "chkAccept").click();
+    Find<QPushButton>(window, "cmdImport").click();
+    photographer.Take(window, "import-done");
+}
+
 void TakeViewers(GuiProgram& program, const Photographer& photographer)
 {
     FController& main = program.Main();
@@ -292,6 +313,7 @@ void TakeAll(const QString& folder, const QString& theme)
     TakeAbout(main, photographer);
     TakeShortcuts(main, photographer);
     TakeRestore(program, photographer);
+    TakeImport(program, photographer);
     TakeFindings(main, photographer);
     TakeOverview(main, photographer);
     TakeViewers(program, photographer);

@@ -1,0 +1,185 @@
+#include "store/ImportWriter.h"
+
+#include "platform/Failure.h"
+#include "store/DatabaseCreator.h"
+#include "store/engine/Engine.h"
+#include "store/engine/RecordSet.h"
+#include "store/FileSteps.h"
+
+#include <fmt/format.h>
+#include <utility>
+
+namespace ptk {
+
+namespace {
+
+constexpr std::int32_t kAdministrator = 39;
+
+constexpr const char* kNotEmpty = "the database already holds companies, employees or time records; an older database can only be brought "
+                                  "along into one that is still empty";
+constexpr const char* kCountOthers = "SELECT (SELECT COUNT(*) FROM Company) + (SELECT COUNT(*) FROM TimeRecord) + "
+                                     "(SELECT COUNT(*) FROM Employee WHERE EmployeeID <> 39)";
+constexpr const char* kWhereShipped = " WHERE EmployeeID = 39";
+constexpr const char* kRecords = "SELECT EmployeeID, StartTime, EndTime FROM TimeRecord";
+constexpr const char* kOrphans =
+    "SELECT COUNT(*) FROM TimeRecord WHERE NOT EXISTS (SELECT 1 FROM Employee WHERE Employee.EmployeeID = TimeRecord.EmployeeID)";
+
+std::string InsertText(const ImportTable& table)
+{
+    std::string names;
+    std::string parameters;
+    for (const ImportColumn& column : table.columns) {
+        names += fmt::format("{}{}", names.empty() ? "" : ", ", column.name);
+        parameters += fmt::format("{}:{}", parameters.empty() ? "" : ", ", column.name);
+    }
+    return fmt::format("INSERT INTO {} ({}) VALUES ({})", table.name, names, parameters);
+}
+
+std::string FindText(const ImportTable& table)
+{
+    return fmt::format("SELECT 1 FROM {} WHERE {} = :key", table.name, table.columns.front().name);
+}
+
+std::int64_t NumberFrom(Engine& engine, const std::string& sql)
+{
+    return engine.Prepare(sql)->ReadRows()->Int64At(0);
+}
+
+std::int64_t CountRows(Engine& engine, const ImportTable& table)
+{
+    return NumberFrom(engine, fmt::format("SELECT COUNT(*) FROM {}", table.name));
+}
+
+void RefuseUnlessEmpty(Engine& engine)
+{
+    if (NumberFrom(engine, kCountOthers) != 0) {
+        throw Failure(0, "PTK", kNotEmpty);
+    }
+}
+
+void Change(Engine& engine, const ImportTarget& target, const std::function<void(Engine&)>& fill)
+{
+    engine.SignAs(target.author);
+    engine.Write([&] {
+        RefuseUnlessEmpty(engine);
+        engine.Untold([&] { fill(engine); });
+        AddWholeEntry(engine, "import", target.file);
+    });
+}
+
+void ReadHours(Engine& engine, ImportFigures& figures)
+{
+    const auto records = engine.Prepare(kRecords);
+    records->ForEachRow([&] {
+        const auto start = records->StoredDateAt(1);
+        const auto end = records->StoredDateAt(2);
+        if (!start || !end) {
+            throw Failure(0, "PTK", "a time record does not read back as it was written");
+        }
+        const bool isNone = records->KindAt(0) == CellKind::Null;
+        figures.Count(isNone ? std::nullopt : std::optional(NarrowToInt32(records->Int64At(0))), *start, *end);
+    });
+}
+
+} // namespace
+
+void ImportFigures::Count(std::optional<std::int32_t> employee, DateTime start, DateTime end)
+{
+    Hours& sum = hours[employee];
+    ++sum.records;
+    if (end.IsZero()) {
+        ++open;
+    } else if (end < start) {
+        ++backward;
+    } else {
+        sum.minutes += MinutesBetween(start, end);
+    }
+}
+
+ImportWriter::ImportWriter(Engine& engine) : m_engine(engine)
+{
+    for (std::size_t i = 0; i < kImportTableCount; ++i) {
+        const ImportTable& table = ImportTableOf(static_cast<ImportTableId>(i));
+        m_statements[i] = {table.hasKey ? engine.Prepare(FindText(table)) : nullptr, engine.Prepare(InsertText(table))};
+        m_shipped[i] = CountRows(engine, table);
+    }
+}
+
+ImportWriter::~ImportWriter() = default;
+
+bool ImportWriter::Add(ImportTableId table, std::span<const Value> values)
+{
+    if (IsTaken(table, values.front())) {
+        return false;
+    }
+    Statement& add = *m_statements[static_cast<std::size_t>(table)].add;
+    const auto columns = ImportTableOf(table).columns;
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+        add.Bind(columns[i].name, values[i]);
+    }
+    add.Run();
+    return true;
+}
+
+bool ImportWriter::IsTaken(ImportTableId table, const Value& key)
+{
+    if (table == ImportTableId::System) {
+        ClearShipped(table);
+        return std::exchange(m_hasOptions, true);
+    }
+    if (table == ImportTableId::Employee && key.ToInt32() == kAdministrator) {
+        ClearShipped(table);
+    }
+    Statement& find = *m_statements[static_cast<std::size_t>(table)].find;
+    find.Bind("key", key);
+    bool isThere = false;
+    find.ForEachRow([&] { isThere = true; });
+    return isThere;
+}
+
+// All that the table holds before the first row of an import.
+void ImportWriter::ClearShipped(ImportTableId table)
+{
+    std::int64_t& shipped = m_shipped[static_cast<std::size_t>(table)];
+    if (std::exchange(shipped, 0) != 0) {
+        m_engine.Prepare(fmt::format("DELETE FROM {}{}", ImportTableOf(table).name, table == ImportTableId::System ? "" : kWhereShipped))
+            ->Run();
+    }
+}
+
+ImportFigures ReadFigures(Engine& engine)
+{
+    ImportFigures figures;
+    for (std::size_t i = 0; i < kImportTableCount; ++i) {
+        figures.rows[i] = CountRows(engine, ImportTableOf(static_cast<ImportTableId>(i)));
+    }
+    ReadHours(engine, figures);
+    figures.orphans = NumberFrom(engine, kOrphans);
+    return figures;
+}
+
+void RefuseUnlessEmpty(const std::string& database)
+{
+    Engine engine(database, ReadOnly{});
+    RefuseUnlessEmpty(engine);
+}
+
+void Import(const ImportTarget& target, const std::function<void(Engine&)>& fill)
+{
+    if (!IsThere(target.database)) {
+        return CreateAndChangeDatabase(target.database, [&](Engine& engine) { Change(engine, target, fill); });
+    }
+    Engine engine(target.database);
+    engine.KeepCopy([&] { target.keepCopy(engine); });
+    Change(engine, target, fill);
+}
+
+void TryImport(const ImportTarget& target, const std::function<void(Engine&)>& fill)
+{
+    if (IsThere(target.database)) {
+        RefuseUnlessEmpty(target.database);
+    }
+    WithPassingDatabase([&](Engine& engine) { Change(engine, target, fill); });
+}
+
+} // namespace ptk

@@ -1,0 +1,34 @@
+// File > Import Older Database.
+#pragma once
+
+#include <QObject>
+
+class QAction;
+class QWidget;
+
+namespace ptk {
+
+class PageHost;
+
+class ImportMenu final : public QObject
+{
+    Q_OBJECT
+
+public:
+    // All outlive it; `window` is what the dialog belongs to.
+    ImportMenu(QAction& action, PageHost& host, QWidget& window);
+
+signals:
+    // All that the windows show is of another database.
+    void Imported(const QString& outcome);
+
+    void Said(const QString& text);
+
+private:
+    void Import();
+
+    PageHost& m_host;
+    QWidget& m_window;
+};
+
+} // namespace ptk
