@@ -11,7 +11,6 @@
 #include "store/engine/Engine.h"
 #include "store/FileSteps.h"
 
-#include <array>
 #include <chrono>
 #include <filesystem>
 #include <fmt/format.h>
