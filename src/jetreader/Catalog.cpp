@@ -5,6 +5,7 @@
 #include "jetreader/Lines.h"
 #include "jetreader/Refusal.h"
 
+#include <algorithm>
 #include <array>
 #include <cstring>
 #include <map>

@@ -1,7 +1,6 @@
 #include "jetreader/JetText.h"
 
 #include <algorithm>
-#include <array>
 #include <cstdint>
 #include <iconv.h>
 #include <iterator>

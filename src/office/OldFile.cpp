@@ -42,7 +42,7 @@ SystemFile OpenWithoutTrace(const std::string& path)
         return OpenRegularFile(path, O_RDONLY | O_NOATIME);
     } catch (const Failure& failure) {
         if (failure.LastSystemError() != EPERM) {
-            throw;
+            throw Failure(failure.Number(), failure.Source(), path + ": " + failure.Description(), failure.LastSystemError());
         }
         return OpenRegularFile(path, O_RDONLY);
     }
