@@ -124,7 +124,7 @@ std::int64_t NewestChange(const std::shared_ptr<CJetDB>& database)
 std::string RestoreBackup(const BackupOrder& order, const std::string& file, const Author& author, const CopyProgress& progress)
 {
     const std::string folder = BackupFolder(order.programFolder);
-    const std::string kept = Restore({file, order.database, folder, order.now, author}, progress);
+    std::string kept = Restore({file, order.database, folder, order.now, author}, progress);
     if (!kept.empty()) {
         PruneBackups(folder, fs::path(kept).filename().string(), file);
     }
