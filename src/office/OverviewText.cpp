@@ -1,6 +1,7 @@
 #include "office/OverviewTable.h"
 #include "office/OverviewTexts.h"
 #include "platform/Text.h"
+#include "reports/ReportDocument.h"
 
 #include <fmt/format.h>
 
@@ -14,6 +15,7 @@ namespace {
 constexpr auto kTitle = "Payday overview";
 constexpr auto kNobody = "There are no employees to show.";
 constexpr auto kTotal = "Total";
+constexpr auto kLineEnd = "\r\n";
 
 constexpr std::size_t kColumns = kOverviewColumns;
 using Cells = OverviewCells;
@@ -48,7 +50,7 @@ public:
             line += "  " + Blanks(cells, i) + cells[i];
         }
         line.erase(line.find_last_not_of(' ') + 1);
-        return line + "\r\n";
+        return line;
     }
 
 private:
@@ -60,45 +62,101 @@ private:
     std::array<std::size_t, kColumns> m_widths{};
 };
 
+// The table, a text a line.
+struct Lines
+{
+    std::string heading;
+    std::vector<std::string> rows; // an employee each
+    std::string totals;
+};
+
+Lines LinesOf(const Overview& overview)
+{
+    const Cells totals = CellsOf(TotalsOf(overview.rows));
+    std::vector<Cells> cells;
+    cells.reserve(overview.rows.size());
+    Table table;
+    table.Fit(kHeading);
+    table.Fit(totals);
+    for (const OverviewRow& row : overview.rows) {
+        table.Fit(cells.emplace_back(CellsOf(row)));
+    }
+    Lines lines{table.Line(kHeading), {}, table.Line(totals)};
+    for (const Cells& row : cells) {
+        lines.rows.push_back(table.Line(row));
+    }
+    return lines;
+}
+
+std::vector<std::string> Sentences(const CardCheck& check, bool showNotices)
+{
+    std::vector<std::string> sentences;
+    for (const Finding& finding : check.findings) {
+        const Severity severity = SeverityOf(finding.kind);
+        if (severity == Severity::Problem || showNotices) {
+            sentences.push_back(fmt::format("    {}: {}", NameOf(severity), finding.text));
+        }
+    }
+    return sentences;
+}
+
+std::string PeriodText(const Overview& overview)
+{
+    return fmt::format("{} {} - {}", kTitle, Day(overview.period.from), Day(overview.period.to));
+}
+
 } // namespace
 
 std::string FindingLines(const CardCheck& check, bool showNotices)
 {
     std::string lines;
-    for (const Finding& finding : check.findings) {
-        const Severity severity = SeverityOf(finding.kind);
-        if (severity == Severity::Problem || showNotices) {
-            lines += fmt::format("    {}: {}\r\n", NameOf(severity), finding.text);
-        }
+    for (const std::string& sentence : Sentences(check, showNotices)) {
+        lines += sentence + kLineEnd;
     }
     return lines;
 }
 
 std::string OverviewText(const Overview& overview)
 {
-    const Cells totals = CellsOf(TotalsOf(overview.rows));
-    std::vector<Cells> lines;
-    lines.reserve(overview.rows.size());
-    Table table;
-    table.Fit(kHeading);
-    table.Fit(totals);
-    for (const OverviewRow& row : overview.rows) {
-        table.Fit(lines.emplace_back(CellsOf(row)));
-    }
-    std::string text = fmt::format("{} {} - {}, made {}\r\n\r\n", kTitle, Day(overview.period.from), Day(overview.period.to),
-                                   FormatDateTime(overview.made, "mm/dd/yyyy hh:mm AM/PM"));
+    std::string text = fmt::format("{}, made {}\r\n\r\n", PeriodText(overview), FormatDateTime(overview.made, "mm/dd/yyyy hh:mm AM/PM"));
     if (overview.rows.empty()) {
-        return text + kNobody + "\r\n";
+        return text + kNobody + kLineEnd;
     }
-    text += table.Line(kHeading);
-    for (std::size_t i = 0; i < lines.size(); ++i) {
-        text += table.Line(lines[i]) + FindingLines(overview.rows[i].check, overview.limits.showNotices);
+    const Lines lines = LinesOf(overview);
+    text += lines.heading + kLineEnd;
+    for (std::size_t i = 0; i < lines.rows.size(); ++i) {
+        text += lines.rows[i] + kLineEnd + FindingLines(overview.rows[i].check, overview.limits.showNotices);
     }
-    return text + "\r\n" + table.Line(totals);
+    return text + kLineEnd + lines.totals + kLineEnd;
+}
+
+ReportDocument OverviewDocument(const Overview& overview)
+{
+    const Lines lines = LinesOf(overview);
+    ReportDocument document{.title = PeriodText(overview), .heading = lines.heading, .columns = CharacterCount(lines.heading)};
+    const auto begin = [&](const std::string& line) {
+        document.BeginGroup();
+        document.groups.back().underHeading = !document.lines.empty();
+        document.Add(line);
+    };
+    begin(lines.heading);
+    for (std::size_t i = 0; i < lines.rows.size(); ++i) {
+        begin(lines.rows[i]);
+        for (const std::string& sentence : Sentences(overview.rows[i].check, overview.limits.showNotices)) {
+            document.Add(sentence);
+        }
+    }
+    begin("");
+    document.Add(lines.totals);
+    return document;
 }
 
 std::string OverviewFile(ReportForm form, const Overview& overview)
 {
+    if (form == ReportForm::Pdf) {
+        const ReportDocument document = OverviewDocument(overview);
+        return FileOf(form, {&document, 1}, overview.made);
+    }
     return form == ReportForm::Csv ? std::string(kByteOrderMark) + OverviewCsv(overview) : OverviewText(overview);
 }
 

@@ -10,9 +10,13 @@ namespace ptk {
 struct CardCheck;
 struct Overview;
 struct PayPeriod;
+struct ReportDocument;
 
 // Lines end in CR LF. A table, under each employee the sentences, below it the sums
 [[nodiscard]] std::string OverviewText(const Overview& overview);
+
+// The same for pages: an employee is kept together with the sentences.
+[[nodiscard]] ReportDocument OverviewDocument(const Overview& overview);
 
 // One line an employee and one a finding.
 [[nodiscard]] std::string OverviewCsv(const Overview& overview);
@@ -20,7 +24,7 @@ struct PayPeriod;
 // One object.
 [[nodiscard]] std::string OverviewJson(const Overview& overview);
 
-// The bytes of a file of it: CSV with a byte order mark, or text.
+// The bytes of a file of it: CSV with a byte order mark, text, or pages. Raises what PdfOf raises.
 [[nodiscard]] std::string OverviewFile(ReportForm form, const Overview& overview);
 
 // "PTK overview 2003-03-01", the period's first day, without an ending.

@@ -203,6 +203,18 @@ Paper PaperOf(PaperSize size)
     return size == PaperSize::A4 ? kA4 : kLetter;
 }
 
+Paper PaperFor(std::size_t columns, PaperSize size)
+{
+    constexpr double kSmallest = 2.0 / 3;
+    Paper paper = PaperOf(size);
+    if (columns > paper.Columns()) {
+        const double scale = std::max(kSmallest, static_cast<double>(paper.Columns()) / static_cast<double>(columns));
+        paper.characterWidth *= scale;
+        paper.lineHeight *= scale;
+    }
+    return paper;
+}
+
 std::string HeadOf(const ReportDocument& document)
 {
     std::istringstream words(document.title);

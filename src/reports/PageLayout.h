@@ -30,6 +30,9 @@ struct Paper
 
 [[nodiscard]] Paper PaperOf(PaperSize size);
 
+// The same in a type small enough for so many columns, but no smaller than two thirds.
+[[nodiscard]] Paper PaperFor(std::size_t columns, PaperSize size);
+
 // The document's title on one line, one blank between its words.
 [[nodiscard]] std::string HeadOf(const ReportDocument& document);
 

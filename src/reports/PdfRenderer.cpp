@@ -103,7 +103,10 @@ int Take(void* taker, const unsigned char* bytes, unsigned length) noexcept
 std::string PdfOf(std::span<const ReportDocument> documents, PaperSize size, DateTime made)
 {
     static const PtkDrawPages draw = LoadDrawing();
-    const Paper paper = PaperOf(size);
+    const auto widest = std::max_element(documents.begin(), documents.end(), [](const ReportDocument& left, const ReportDocument& right) {
+        return left.columns < right.columns;
+    });
+    const Paper paper = PaperFor(widest->columns, size);
     const std::vector<Page> pages = PagesOf(documents, paper, made);
     std::vector<Sheet> sheets;
     std::vector<PtkPage> drawn;

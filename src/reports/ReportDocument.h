@@ -67,6 +67,7 @@ struct ReportDocument
     std::vector<LineGroup> groups{}; // of all lines, in their order
     std::string heading{};           // of the columns; stands again where a page begins in the midst of them
     ReportTable table{};
+    std::size_t columns = 0; // that its lines need, where they are wider than a report's: its pages have a smaller type then
     std::vector<ReportGap> gaps{};
     bool whole = true; // false: what should follow the last line is not there
 

@@ -8,6 +8,7 @@
 #include "office/OverviewReading.h"
 #include "office/OverviewTexts.h"
 #include "platform/Text.h"
+#include "reports/ReportDocument.h"
 #include "store/BulkWriter.h"
 #include "store/CJetDB.h"
 #include "store/DatabaseCreator.h"
@@ -225,6 +226,15 @@ TEST(OverviewTextsTest, CarryTheSameInEveryForm)
     std::string withoutNotices = text;
     withoutNotices.erase(withoutNotices.find("    notice"), 21);
     EXPECT_EQ(OverviewText(overview), withoutNotices) << "the sentences go, the number stays";
+    const ReportDocument pages = OverviewDocument(overview);
+    std::string printed;
+    for (const ReportLine& line : pages.lines) {
+        printed += line.text + "\r\n";
+    }
+    EXPECT_EQ(printed, withoutNotices.substr(withoutNotices.find("Name "))) << "the first line is the pages' head";
+    EXPECT_EQ(pages.groups.size(), overview.rows.size() + 2) << "each employee's stand together";
+    {
+    }
 }
 
 } // namespace

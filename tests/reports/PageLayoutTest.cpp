@@ -148,6 +148,9 @@ TEST(PageLayoutTest, BothPapersHoldARuleOf72AndWhatTabsAddToIt)
     EXPECT_EQ(PaperOf(PaperSize::Letter).Rows(), 57U);
     EXPECT_EQ(PaperOf(PaperSize::A4).Columns(), 81U);
     EXPECT_EQ(PaperOf(PaperSize::A4).Rows(), 61U);
+    EXPECT_EQ(PaperFor(84, PaperSize::Letter).Columns(), 84U);
+    EXPECT_EQ(PaperFor(105, PaperSize::Letter).Rows(), 71U) << "684 points of 9.6 each";
+    EXPECT_EQ(PaperFor(500, PaperSize::Letter).characterWidth, 4.0) << "smaller is not read";
 }
 
 } // namespace

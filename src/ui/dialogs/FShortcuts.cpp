@@ -37,7 +37,7 @@ constexpr Shortcut kShortcuts[] = {
     {"Overview", "Enter", "The card of the chosen employee"},
     {"Overview, History", "F5", "Read again"},
     {"Overview, History", "Ctrl+C", "Copy the chosen rows, or all"},
-    {"Overview, History", "Ctrl+S", "Save as a table or text"},
+    {"Overview, History", "Ctrl+S", "Save in a file"},
     {"Report windows", "Ctrl+S", "Save as a PDF document, a table or text"},
     {"Report windows", "Ctrl+O", "Show as it will be printed"},
     {"Report windows", "Ctrl+P", "Print"},

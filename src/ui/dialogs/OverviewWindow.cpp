@@ -405,7 +405,7 @@ void OverviewWindow::SaveAs()
     }
     const auto reading = m_reading; // the dialog lets the window go on
     const auto name = QString::fromStdString(OverviewFileName(reading->Result().period));
-    const auto target = AskWhereToSave(*this, name, SavedListForms());
+    const auto target = AskWhereToSave(*this, name, SavedForms());
     if (!target) {
         return;
     }
