@@ -90,7 +90,7 @@ std::string FFirstStart::BeginNew()
     const NewBusiness business{m_ui->txtCompany->text().toStdString(), m_ui->txtFirstName->text().toStdString(),
                                m_ui->txtLastName->text().toStdString(), m_ui->txtPassword->text().toStdString(),
                                m_ui->txtRepeated->text().toStdString()};
-    const std::string refusal = BusinessRefusal(business);
+    std::string refusal = BusinessRefusal(business);
     if (refusal.empty()) {
         BeginBusiness(m_folder, business, m_clock.Today());
     }
@@ -111,7 +111,7 @@ std::string FFirstStart::BeginWithSample()
 std::string FFirstStart::UseExisting()
 {
     const std::string folder = m_ui->txtFolder->text().toStdString();
-    const std::string refusal = FolderRefusal(folder);
+    std::string refusal = FolderRefusal(folder);
     if (refusal.empty()) {
         RememberProgramFolder(folder);
         m_folder = folder;
