@@ -88,7 +88,7 @@ bool MisfortuneMet()
 
 } // namespace ptk
 
-#define REAL(name) Real(&name, #name) // NOLINT(cppcoreguidelines-macro-usage): a name is looked up by its text
+#define REAL(name) Real(&(name), #name) // NOLINT(cppcoreguidelines-macro-usage): a name is looked up by its text
 
 extern "C" {
 

@@ -2,6 +2,7 @@
 // write.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
 #include <numeric>
@@ -155,8 +156,9 @@ private:
             }
         }
         bytes += texts + static_cast<char>(1 + fixedWidth + texts.size());
-        for (auto start = starts.rbegin(); start != starts.rend(); ++start) {
-            bytes += static_cast<char>(1 + fixedWidth + *start);
+        std::reverse(starts.begin(), starts.end());
+        for (const std::size_t start : starts) {
+            bytes += static_cast<char>(1 + fixedWidth + start);
         }
         return bytes + static_cast<char>(starts.size()) + there;
     }
@@ -167,7 +169,7 @@ private:
         std::string head = std::string("\1\1\0\0", 4) + Little(table, 4) + Little(rows.size(), 2);
         std::string tail;
         for (const std::string& row : rows) {
-            tail = row + tail;
+            tail.insert(0, row);
             head += Little(kPage - tail.size(), 2);
         }
         return head + std::string(kPage - head.size() - tail.size(), '\0') + tail;
