@@ -71,8 +71,7 @@ std::string Safekeeping::BackUpWhenDue(const BackupOrder& order)
     if (!BackupIsDue(order.programFolder, order.now)) {
         return {};
     }
-    const Attempt attempt = Make(order);
-    return attempt.outcome.secondIsNews ? SecondProblem(attempt.outcome) : attempt.problem;
+    return NewsOf(Make(order));
 }
 
 void Safekeeping::BackUpChanges(const BackupOrder& order, const std::shared_ptr<CJetDB>& database)
@@ -83,11 +82,15 @@ void Safekeeping::BackUpChanges(const BackupOrder& order, const std::shared_ptr<
     if (unchanged && !BackupIsDue(order.programFolder, order.now)) {
         return;
     }
-    const Attempt attempt = Make(order);
-    const std::string told = attempt.outcome.secondIsNews ? SecondProblem(attempt.outcome) : attempt.problem;
-    if (!told.empty()) {
-        Tell(kBackupTitle, told);
+    const std::string news = NewsOf(Make(order));
+    if (!news.empty()) {
+        Tell(kBackupTitle, news);
     }
+}
+
+std::string Safekeeping::NewsOf(const Attempt& attempt)
+{
+    return attempt.outcome.secondIsNews ? SecondProblem(attempt.outcome) : attempt.problem;
 }
 
 std::string Safekeeping::BackUpNow(const BackupOrder& order)

@@ -49,6 +49,9 @@ private:
     };
 
     [[nodiscard]] Attempt Make(const BackupOrder& order);
+
+    // For people who did not ask for the backup: empty where all is well or was told before.
+    [[nodiscard]] static std::string NewsOf(const Attempt& attempt);
     [[nodiscard]] bool PutBack(const BackupOrder& order, const std::string& file, const Author& author);
     void Tell(const char* title, const std::string& text);
 
