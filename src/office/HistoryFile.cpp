@@ -1,7 +1,6 @@
 #include "office/HistoryFile.h"
 
 #include "platform/Text.h"
-#include "reports/ReportForms.h"
 
 #include <utility>
 
@@ -13,12 +12,12 @@ constexpr std::int32_t kPage = 1000; // entries; some tens of milliseconds
 
 } // namespace
 
-HistoryFile::HistoryFile(const std::string& path, HistoryForm form, std::shared_ptr<CJetDB> database, TrailQuery query,
+HistoryFile::HistoryFile(const std::string& path, ReportForm form, std::shared_ptr<CJetDB> database, TrailQuery query,
                          std::shared_ptr<const EmployeeNames> names)
     : m_path(path), m_form(form), m_draft(path), m_database(std::move(database)), m_query(std::move(query)), m_names(std::move(names))
 {
     m_query.most = kPage;
-    if (m_form == HistoryForm::Csv) {
+    if (m_form == ReportForm::Csv) {
         m_draft.File().Write(kByteOrderMark);
     }
     m_draft.File().Write(HistoryHeading(m_form));

@@ -18,7 +18,7 @@ class HistoryFile
 public:
     // `path` in the platform's own form; as CSV, with a byte order mark, or as text. Raises what a draft raises. REQUIRES: neither pointer
     // is nullptr; the form is not Json.
-    HistoryFile(const std::string& path, HistoryForm form, std::shared_ptr<CJetDB> database, TrailQuery query,
+    HistoryFile(const std::string& path, ReportForm form, std::shared_ptr<CJetDB> database, TrailQuery query,
                 std::shared_ptr<const EmployeeNames> names);
 
     // Raises the failure of a database that cannot be opened or read, and what writing and a draft raise. REQUIRES: not IsDone.
@@ -33,7 +33,7 @@ public:
 
 private:
     std::string m_path;
-    HistoryForm m_form;
+    ReportForm m_form;
     FileDraft m_draft;
     std::shared_ptr<CJetDB> m_database;
     TrailQuery m_query;

@@ -136,7 +136,7 @@ TEST_F(HistoryTest, IsReadAndSavedPageByPage)
     HistoryReading reading(m_database, {}, Names());
     reading.ReadOn();
     EXPECT_EQ(HistoryNews(reading.Rows().size(), !reading.IsDone()), "The newest 250 changes; older ones follow as you scroll down");
-    HistoryFile file(path, HistoryForm::Csv, m_database, {}, Names());
+    HistoryFile file(path, ReportForm::Csv, m_database, {}, Names());
     file.WriteOn();
     EXPECT_FALSE(file.IsDone() || std::filesystem::exists(path));
     Elsewhere("DELETE FROM TimeRecord WHERE TimeRecordID = 1002");
@@ -155,8 +155,8 @@ TEST_F(HistoryTest, IsReadAndSavedPageByPage)
     EXPECT_EQ(file.Written(), 1004);
     TrailQuery query;
     query.olderThan = 1005;
-    EXPECT_EQ(ReadBytes(path), "\xEF\xBB\xBF" + HistoryIn(HistoryForm::Csv, m_database, query));
-    EXPECT_EQ(FailureOf([&] { HistoryFile(m_folder.Path() + "/nowhere/history.csv", HistoryForm::Csv, m_database, {}, Names()); }), 76);
+    EXPECT_EQ(ReadBytes(path), "\xEF\xBB\xBF" + HistoryIn(ReportForm::Csv, m_database, query));
+    EXPECT_EQ(FailureOf([&] { HistoryFile(m_folder.Path() + "/nowhere/history.csv", ReportForm::Csv, m_database, {}, Names()); }), 76);
     EXPECT_EQ(HistoryFileName(ToDateTime("3/5/2003")), "PTK history 2003-03-05");
 }
 

@@ -273,9 +273,8 @@ void HistoryWindow::SaveAs()
     }
     Say(QString());
     const auto begin = [&] {
-        const HistoryForm form = target->form == ReportForm::Csv ? HistoryForm::Csv : HistoryForm::Text;
         const auto database = Required(Required(m_host.Controller())->PTKDatabase())->Afresh();
-        m_file = std::make_unique<HistoryFile>(target->path, form, database, m_query, m_names);
+        m_file = std::make_unique<HistoryFile>(target->path, target->form, database, m_query, m_names);
         m_saving.start(0);
     };
     Succeeds(begin, [this](const Failure& reason) { Complain(kNotSaved + reason.Description()); });
