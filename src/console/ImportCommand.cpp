@@ -8,7 +8,7 @@
 #include "platform/Clock.h"
 #include "platform/ProgramFolder.h"
 #include "shell/CDatabaseLocator.h"
-#include "store/engine/EngineFailure.h"
+#include "store/sqlite/EngineFailure.h"
 
 #include <filesystem>
 

@@ -191,7 +191,7 @@ bool UndoStack::Move(std::vector<Step>& from, std::vector<Step>& to, const char*
     step.changes = Inverse(step.changes);
     const bool done = m_database->ExecuteSteps([&](Engine& engine) {
         ptk::Redo(engine, step.changes, {step.lastEntry, m_ours});
-        step.lastEntry = NewestEntry(engine);
+        step.lastEntry = engine.NewestEntry();
     });
     if (!done) {
         m_refusal = m_database->Conflict()

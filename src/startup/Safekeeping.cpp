@@ -4,7 +4,7 @@
 #include "platform/Desktop.h"
 #include "platform/Succeeds.h"
 #include "startup/Windows.h"
-#include "store/engine/EngineFailure.h"
+#include "store/sqlite/EngineFailure.h"
 
 #include <filesystem>
 #include <utility>

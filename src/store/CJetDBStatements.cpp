@@ -50,6 +50,11 @@ std::unique_ptr<Statement> CJetDB::PrepareSelect(const std::string& sqlstring)
     return statement;
 }
 
+bool CJetDB::HasTrail()
+{
+    return m_database->HasTrail();
+}
+
 // One operation that writes: opens the file when it is closed and closes it after success, whoever opened it.
 bool CJetDB::Change(std::int32_t errorNumber, const std::function<void()>& steps)
 {

@@ -3,10 +3,10 @@
 #include "platform/Failure.h"
 #include "platform/FileDraft.h"
 #include "store/BulkWriter.h"
-#include "store/engine/EditTrail.h"
-#include "store/engine/Engine.h"
 #include "store/FileSteps.h"
 #include "store/Schema.h"
+#include "store/sqlite/EditTrail.h"
+#include "store/sqlite/SqliteEngine.h"
 
 #include <unistd.h>
 
@@ -56,7 +56,7 @@ void CreateDatabase(const std::string& path, const std::function<void(BulkWriter
     RefuseTaken(path);
     FileDraft draft(path);
     {
-        Engine engine(draft.Path(), NewFile{});
+        SqliteEngine engine(draft.Path(), NewFile{});
         Fill(engine, fill);
     }
     draft.PlaceNew();
@@ -67,7 +67,7 @@ void CreateAndChangeDatabase(const std::string& path, const std::function<void(E
     RefuseTaken(path);
     FileDraft draft(path);
     {
-        Engine engine(draft.Path(), NewFile{});
+        SqliteEngine engine(draft.Path(), NewFile{});
         Fill(engine, {});
         change(engine);
     }
@@ -78,7 +78,7 @@ void WithPassingDatabase(const std::function<void(Engine&)>& change)
 {
     const std::string name = "ptk-trial-" + std::to_string(::geteuid()) + ".mdb"; // so that the next one removes what a killed one left
     const FileDraft draft((std::filesystem::temp_directory_path() / name).string());
-    Engine engine(draft.Path(), NewFile{});
+    SqliteEngine engine(draft.Path(), NewFile{});
     Fill(engine, {});
     change(engine);
 }

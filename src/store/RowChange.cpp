@@ -162,9 +162,4 @@ void Redo(Engine& engine, const std::vector<RowChange>& changes, const KnownStep
     }
 }
 
-std::int64_t NewestEntry(Engine& engine)
-{
-    return NextStep(engine) - 1;
-}
-
 } // namespace ptk

@@ -79,15 +79,6 @@ TrailEntry EntryOf(const Statement& row, RowParser& parser)
     return entry;
 }
 
-bool HasTrail(CJetDB& database)
-{
-    const auto found = database.ExecuteSelect(kFindTrail);
-    if (found == nullptr) {
-        throw database.LastFailure();
-    }
-    return found->Int32At(0) == 2;
-}
-
 } // namespace
 
 const TrailValue* ValueOf(const TrailRow& row, std::string_view column)
@@ -100,7 +91,7 @@ void ReadTrail(const std::shared_ptr<CJetDB>& database, const TrailQuery& query,
 {
     const CJetDB::Hold hold(database);
     RequireOpen(*database);
-    if (!HasTrail(*database)) {
+    if (!database->HasTrail()) {
         return;
     }
     RowParser parser(*database);
@@ -121,7 +112,7 @@ std::vector<std::string> ReadTrailPersons(const std::shared_ptr<CJetDB>& databas
     const CJetDB::Hold hold(database);
     RequireOpen(*database);
     std::vector<std::string> persons;
-    if (HasTrail(*database)) {
+    if (database->HasTrail()) {
         const auto names = RequireSelect(*database, kPersons);
         names->ForEachRow([&] { persons.emplace_back(names->TextAt(0)); });
     }

@@ -9,8 +9,8 @@
 #include "store/CJetDB.h"
 #include "store/CSystemOptions.h"
 #include "store/DatabaseCreator.h"
-#include "store/engine/Engine.h"
 #include "store/engine/RecordSet.h"
+#include "store/sqlite/SqliteEngine.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -34,8 +34,8 @@ protected:
     }
 
     std::string Path() const { return m_folder.Path() + "/system/ptk_11.mdb"; }
-    void Elsewhere(const std::string& sql) const { Engine(Path()).Execute(sql); }
-    std::string Value(const std::string& sql) const { return Engine(Path()).Select(sql)->Shown(0); }
+    void Elsewhere(const std::string& sql) const { SqliteEngine(Path()).Execute(sql); }
+    std::string Value(const std::string& sql) const { return SqliteEngine(Path()).Select(sql)->Shown(0); }
 
     TemporaryFolder m_folder;
     std::shared_ptr<CJetDB> m_database = std::make_shared<CJetDB>(m_folder.Path());

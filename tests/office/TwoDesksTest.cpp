@@ -9,8 +9,8 @@
 #include "platform/Text.h"
 #include "store/CJetDB.h"
 #include "store/DatabaseCreator.h"
-#include "store/engine/Engine.h"
 #include "store/engine/RecordSet.h"
+#include "store/sqlite/SqliteEngine.h"
 #include "support/TemporaryFolder.h"
 
 #include <fmt/format.h>
@@ -100,12 +100,12 @@ protected:
     }
 
     std::string Path() const { return m_folder.Path() + "/system/ptk_11.mdb"; }
-    void Elsewhere(const std::string& sql) const { Engine(Path()).Execute(sql); }
+    void Elsewhere(const std::string& sql) const { SqliteEngine(Path()).Execute(sql); }
 
     Rows Stored() const
     {
         Rows stored;
-        Engine engine(Path());
+        SqliteEngine engine(Path());
         const auto rows = engine.Prepare(kRows);
         rows->ForEachRow([&] { stored[std::string(rows->TextAt(0))] = std::string(rows->TextAt(1)); });
         return stored;
@@ -228,7 +228,7 @@ TEST_F(TwoDesksTest, OnlyOthersChangesAreToldAndOnlyOnce)
          }) {
         Elsewhere(c.sql);
         {
-            const Engine holder(Path());
+            const SqliteEngine holder(Path());
             const auto asked = std::chrono::steady_clock::now();
             watch.Look();
             EXPECT_LT(std::chrono::steady_clock::now() - asked, std::chrono::milliseconds(500)) << "waits for nobody";

@@ -15,7 +15,7 @@ ALLOWED["pages"] = {"reports", "pages"}
 ALLOWED["app"] = {*CORE, "startup", "ui", "app"}
 
 QT_LAYERS = {"ui", "app"}
-SQLITE_FOLDER = "store/engine/"
+SQLITE_FOLDER = "store/sqlite/"
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.MULTILINE)
 QT_HEADER = re.compile(r"^(Q[A-Z]\w*|Qt\w+/.*|q[a-z]+\.h)$")

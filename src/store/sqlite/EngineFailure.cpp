@@ -1,4 +1,4 @@
-#include "store/engine/EngineFailure.h"
+#include "store/sqlite/EngineFailure.h"
 
 #include <sqlite3.h>
 
