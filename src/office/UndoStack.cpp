@@ -155,7 +155,7 @@ std::string UndoStack::NameOf(const TrailEntry& entry) const
     }
     const CJetDB::Hold hold(m_database);
     RequireOpen(*m_database);
-    const auto search = RequireSelect(*m_database, fmt::format("SELECT IFNULL(CAST({} AS TEXT), '') FROM {} WHERE {}ID = {}",
+    const auto search = RequireSelect(*m_database, fmt::format("SELECT COALESCE(CAST({} AS TEXT), '') FROM {} WHERE {}ID = {}",
                                                                NameSql(entry.table), entry.table, entry.table, *entry.row));
     std::string text;
     search->ForEachRow([&] { text = search->TextAt(0); });

@@ -21,6 +21,7 @@ namespace ptk {
 
 class CDatabaseLocator;
 class Engine;
+struct EngineWords;
 class RecordSet;
 class Statement;
 
@@ -138,6 +139,9 @@ public:
 
     // The same for rows that are read again and again with other parameters, in the engine's own words. Must end before the file is closed.
     std::unique_ptr<Statement> PrepareSelect(const std::string& sqlstring);
+
+    // Of the open database, for the texts that PrepareSelect takes.
+    [[nodiscard]] const EngineWords& Words() const;
 
     // Whether the open database has the edit trail. Raises the engine's failure.
     [[nodiscard]] bool HasTrail();

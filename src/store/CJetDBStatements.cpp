@@ -50,6 +50,11 @@ std::unique_ptr<Statement> CJetDB::PrepareSelect(const std::string& sqlstring)
     return statement;
 }
 
+const EngineWords& CJetDB::Words() const
+{
+    return m_database->Words();
+}
+
 bool CJetDB::HasTrail()
 {
     return m_database->HasTrail();

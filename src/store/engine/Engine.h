@@ -2,6 +2,7 @@
 #pragma once
 
 #include "store/engine/Author.h"
+#include "store/engine/EngineWords.h"
 #include "store/engine/Statement.h"
 
 #include <functional>
@@ -89,6 +90,8 @@ public:
 
     // Of the write that runs or was the last; 0 where it left no entry.
     [[nodiscard]] std::int64_t StepNumber() const { return m_lastStep; }
+
+    [[nodiscard]] virtual const EngineWords& Words() const = 0;
 
     // For many rows in one transaction: statements in the engine's own words, or of a stored query, to be run again and again; on disk at
     // Commit only.

@@ -3,6 +3,7 @@
 
 #include "store/engine/Engine.h"
 #include "store/engine/WhenHeld.h"
+#include "store/sqlite/SqliteWords.h"
 
 namespace ptk {
 
@@ -53,6 +54,7 @@ public:
     [[nodiscard]] bool HasTrail() override;
     [[nodiscard]] std::int64_t NewestEntry() override;
 
+    [[nodiscard]] const EngineWords& Words() const override { return kSqliteWords; }
     std::unique_ptr<Statement> Prepare(std::string_view sql) override;
     std::unique_ptr<Statement> PrepareToKeep(std::string_view sql) override;
     void BeginMany() override;
