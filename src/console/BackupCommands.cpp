@@ -11,7 +11,7 @@
 #include "shell/CDatabaseLocator.h"
 #include "shell/CFileAdaptor.h"
 #include "store/FileSteps.h"
-#include "store/sqlite/EngineFailure.h"
+#include "store/engine/EngineSource.h"
 
 #include <filesystem>
 #include <fmt/format.h>
@@ -35,7 +35,7 @@ auto Naming(const std::string& database, const std::string& target, Action actio
     try {
         return action();
     } catch (const Failure& failure) {
-        throw FileFailure(failure, failure.Source() == kEngineSource ? database : target);
+        throw FileFailure(failure, IsOfDatabase(failure) ? database : target);
     }
 }
 

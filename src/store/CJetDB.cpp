@@ -5,6 +5,8 @@
 #include "platform/Succeeds.h"
 #include "shell/CDatabaseLocator.h"
 #include "store/Backups.h"
+#include "store/postgres/PostgresEngine.h"
+#include "store/postgres/ServerAddress.h"
 #include "store/sqlite/SqliteEngine.h"
 
 namespace ptk {
@@ -135,7 +137,7 @@ bool CJetDB::OpenFile(const std::string& name)
 {
     CloseFile(); // a hold of our own would lock us out like anybody else's
     const auto open = [&] {
-        const std::string path = NativePath(name).string();
+        const std::string path = IsServerAddress(name) ? name : NativePath(name).string();
         if (m_database == nullptr || m_openPath != path || !m_database->Reopen()) {
             m_database = OpenEngine(path);
             m_openPath = path;
@@ -153,6 +155,9 @@ bool CJetDB::OpenFile(const std::string& name)
 // The times in the edit trail are the machine's too.
 std::unique_ptr<Engine> CJetDB::OpenEngine(const std::string& path)
 {
+    if (IsServerAddress(path)) {
+        return std::make_unique<PostgresEngine>(path, m_whenHeld);
+    }
     auto file = std::make_unique<SqliteEngine>(path, m_whenHeld);
     file->KeepCopy([this, engine = file.get()] { BackUp(*engine, BackupFolder(m_programFolder), SystemClock().Now()); });
     return file;

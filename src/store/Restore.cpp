@@ -4,7 +4,7 @@
 #include "store/BackupNames.h"
 #include "store/Backups.h"
 #include "store/FileSteps.h"
-#include "store/sqlite/EngineFailure.h"
+#include "store/engine/EngineSource.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -25,7 +25,7 @@ constexpr std::int32_t kNoDatabase = 26;
 
 bool IsSpoiled(const Failure& failure)
 {
-    return failure.Source() == kEngineSource && (failure.Number() == kCorrupt || failure.Number() == kNoDatabase);
+    return IsOfDatabase(failure) && (failure.Number() == kCorrupt || failure.Number() == kNoDatabase);
 }
 
 void AddEntry(SqliteEngine& restored, const RestoreOrder& order)

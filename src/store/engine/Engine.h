@@ -120,9 +120,10 @@ protected:
     [[nodiscard]] std::int64_t WantedStep() const { return m_step; }
     void TookStep(std::int64_t step) { m_lastStep = step; }
 
-private:
-    std::string StoredText(std::string_view query);
+    // Raises 12 for a missing query.
+    virtual std::string StoredText(std::string_view query);
 
+private:
     Author m_author;
     std::int64_t m_step = 0;
     std::int64_t m_lastStep = 0;

@@ -1,0 +1,56 @@
+#include "store/postgres/ServerText.h"
+
+#include "platform/Text.h"
+#include "store/engine/Lexer.h"
+
+#include <algorithm>
+
+namespace ptk {
+
+namespace {
+
+bool IsColon(const std::vector<Token>& tokens, std::size_t at)
+{
+    return at < tokens.size() && tokens[at].kind == TokenKind::Sign && tokens[at].text == ":";
+}
+
+// "a::text" is a conversion, not a parameter.
+bool IsParameter(const std::vector<Token>& tokens, std::size_t at)
+{
+    return IsColon(tokens, at) && at + 1 < tokens.size() && tokens[at + 1].kind == TokenKind::Word && (at == 0 || !IsColon(tokens, at - 1));
+}
+
+std::string NumberOf(std::string_view name, std::vector<std::string>& parameters)
+{
+    auto found = std::find(parameters.begin(), parameters.end(), name);
+    if (found == parameters.end()) {
+        found = parameters.emplace(parameters.end(), name);
+    }
+    return '$' + std::to_string(found - parameters.begin() + 1);
+}
+
+std::string SmallName(std::string_view quoted)
+{
+    return '"' + LowerCase(quoted.substr(1, quoted.size() - 2)) + '"';
+}
+
+} // namespace
+
+ServerText TranslateForServer(std::string_view statement)
+{
+    const std::vector<Token> tokens = SplitTokens(statement);
+    ServerText text;
+    text.sql.reserve(statement.size());
+    for (std::size_t i = 0; i < tokens.size(); ++i) {
+        if (IsParameter(tokens, i)) {
+            text.sql += NumberOf(tokens[++i].text, text.parameters);
+        } else if (tokens[i].kind == TokenKind::Quoted && tokens[i].text.size() >= 2) {
+            text.sql += SmallName(tokens[i].text);
+        } else {
+            text.sql += tokens[i].text;
+        }
+    }
+    return text;
+}
+
+} // namespace ptk
