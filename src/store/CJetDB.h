@@ -140,6 +140,10 @@ public:
     // The same for rows that are read again and again with other parameters, in the engine's own words. Must end before the file is closed.
     std::unique_ptr<Statement> PrepareSelect(const std::string& sqlstring);
 
+    // See Engine; raises what opening the database raises.
+    [[nodiscard]] bool TellsNews() const;
+    [[nodiscard]] std::optional<std::int64_t> TakeNews();
+
     // Of the open database, for the texts that PrepareSelect takes.
     [[nodiscard]] const EngineWords& Words() const;
 

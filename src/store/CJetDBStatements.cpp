@@ -50,6 +50,17 @@ std::unique_ptr<Statement> CJetDB::PrepareSelect(const std::string& sqlstring)
     return statement;
 }
 
+bool CJetDB::TellsNews() const
+{
+    return m_database != nullptr && m_database->TellsNews();
+}
+
+std::optional<std::int64_t> CJetDB::TakeNews()
+{
+    RequireOpen(*this);
+    return m_database->TakeNews();
+}
+
 const EngineWords& CJetDB::Words() const
 {
     return m_database->Words();

@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -82,6 +83,13 @@ public:
 
     // Within the steps of Write: the number of its newest entry so far; 0 without one.
     [[nodiscard]] virtual std::int64_t NewestEntry() = 0;
+
+    // Whether the database tells by itself when somebody changes it. A file has to be asked.
+    [[nodiscard]] virtual bool TellsNews() const { return false; }
+
+    // The least number of an entry that it told of since the last question; 0 where it may have told of any before, as at the first
+    // question, and nothing where there was none.
+    [[nodiscard]] virtual std::optional<std::int64_t> TakeNews() { return 0; }
 
     void SignAs(Author author) { m_author = std::move(author); }
 

@@ -7,6 +7,7 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <ctime>
 #include <thread>
@@ -70,6 +71,7 @@ void PostgresEngine::Connect()
     m_formerRoundTrips = RoundTrips();
     m_line.reset();
     m_begun = false;
+    m_listens = false;
     m_line = std::make_unique<ServerLine>(m_address, m_patience);
     if (m_checks) {
         RequireStructure(*m_line);
@@ -254,6 +256,25 @@ void PostgresEngine::Settle(const ServerFailure& lost)
 std::int64_t PostgresEngine::NewestEntry()
 {
     return NumberIn(Ask({kNewest, {}, true, false}));
+}
+
+std::optional<std::int64_t> PostgresEngine::TakeNews()
+{
+    RequireOpen();
+    Release();
+    if (!m_line->IsAlive()) {
+        Connect();
+    }
+    if (!std::exchange(m_listens, true)) {
+        static_cast<void>(m_line->Send({{"LISTEN ptk_change", {}, false, false}}));
+        return 0;
+    }
+    std::optional<std::int64_t> first;
+    for (const std::string& notice : m_line->TakeNotices()) {
+        const std::int64_t told = std::strtoll(notice.c_str(), nullptr, 10);
+        first = first ? std::min(*first, told) : told;
+    }
+    return first;
 }
 
 void PostgresEngine::Untold(const std::function<void()>& steps)

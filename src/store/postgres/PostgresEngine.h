@@ -47,6 +47,8 @@ public:
     void AddWholeEntry(const char* action, const std::string& file) override;
     [[nodiscard]] bool HasTrail() override { return true; }
     [[nodiscard]] std::int64_t NewestEntry() override;
+    [[nodiscard]] bool TellsNews() const override { return true; }
+    [[nodiscard]] std::optional<std::int64_t> TakeNews() override;
     [[nodiscard]] const EngineWords& Words() const override { return kPostgresWords; }
     std::unique_ptr<Statement> Prepare(std::string_view sql) override;
     std::unique_ptr<Statement> PrepareToKeep(std::string_view sql) override;
@@ -88,6 +90,7 @@ private:
     std::unique_ptr<ServerLine> m_line;
     bool m_checks = true; // the structure of what it connects to
     bool m_open = true;
+    bool m_listens = false;
     bool m_begun = false; // a transaction that the server knows of
     Transaction m_transaction = Transaction::Read;
     std::string m_number; // of the write's transaction, by which the server knows what became of it
