@@ -10,8 +10,8 @@
 #include "platform/Text.h"
 #include "shell/CDatabaseLocator.h"
 #include "shell/CFileAdaptor.h"
-#include "store/FileSteps.h"
 #include "store/engine/EngineSource.h"
+#include "store/FileSteps.h"
 
 #include <filesystem>
 #include <fmt/format.h>

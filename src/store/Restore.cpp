@@ -3,8 +3,8 @@
 #include "platform/FileDraft.h"
 #include "store/BackupNames.h"
 #include "store/Backups.h"
-#include "store/FileSteps.h"
 #include "store/engine/EngineSource.h"
+#include "store/FileSteps.h"
 
 #include <algorithm>
 #include <filesystem>
