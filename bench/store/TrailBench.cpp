@@ -50,7 +50,7 @@ void ProgramHistories(benchmark::State& state)
     ptk::TrailQuery query;
     query.employee = kFirstEmployee + 3;
     for (auto unused : state) {
-        benchmark::DoNotOptimize(ptk::HistoryIn(ptk::HistoryForm::Text, database, query));
+        benchmark::DoNotOptimize(ptk::HistoryIn(ptk::ReportForm::Text, database, query));
     }
 }
 

@@ -11,12 +11,12 @@ namespace ptk {
 
 namespace {
 
-HistoryForm FormOf(const std::string& format)
+ReportForm FormOf(const std::string& format)
 {
     if (format == "json") {
-        return HistoryForm::Json;
+        return ReportForm::Json;
     }
-    return format == "csv" ? HistoryForm::Csv : HistoryForm::Text;
+    return format == "csv" ? ReportForm::Csv : ReportForm::Text;
 }
 
 // The database is given up when it returns, before anything is written that somebody may be slow to read.

@@ -1,6 +1,5 @@
 #include "console/Session.h"
 
-#include "console/Account.h"
 #include "console/ErrorText.h"
 #include "model/CEmployeeList.h"
 #include "model/CTimeRecordFactory.h"
@@ -29,7 +28,6 @@ std::shared_ptr<CJetDB> ConfiguredDatabase(const std::string& programFolder)
 {
     auto database = std::make_shared<CJetDB>(programFolder);
     database->DatabaseName(LocateDatabase(programFolder)->DatabasePath());
-    database->StoredBy(ConsoleAuthor());
     return database;
 }
 

@@ -18,7 +18,8 @@ class CTimeRecordFactory;
 // Where the configuration says the database is, with backslashes as configured. Raises a failure without a number when it names none.
 [[nodiscard]] std::shared_ptr<CDatabaseLocator> LocateDatabase(const std::string& programFolder);
 
-// The database that the configuration names, closed; what is stored through it is told as this program's.
+// The database that the configuration names, closed, for commands that read: nobody is asked whose account this is, and nothing that is
+// stored through it would carry a name.
 [[nodiscard]] std::shared_ptr<CJetDB> ConfiguredDatabase(const std::string& programFolder);
 
 // Holds the database until it is told to give it up: whatever a command reads is of one moment.

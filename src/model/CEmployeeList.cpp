@@ -26,7 +26,7 @@ std::shared_ptr<CEmployee> CEmployeeList::GetEmployeeByNumber(std::int32_t thenu
 
 bool CEmployeeList::InsertLoaded(EmployeeRow row, std::int32_t position)
 {
-    return Insert(std::make_shared<CEmployee>(std::move(row)), position) != nullptr;
+    return InsertAt(std::make_shared<CEmployee>(std::move(row)), position);
 }
 
 bool CEmployeeList::LoadNamed(const std::shared_ptr<CJetDB>& thedatabase, const std::string& thename)

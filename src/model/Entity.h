@@ -93,7 +93,7 @@ public:
 
 protected:
     RowEntity() = default;
-    explicit RowEntity(Row row) : m_row(std::move(row)), m_stored(true) { ObjectState(state::Unchanged); } // as loaded
+    explicit RowEntity(Row&& row) : m_row(std::move(row)), m_stored(true) { ObjectState(state::Unchanged); } // as loaded
     ~RowEntity() = default;
 
     template <typename Field>

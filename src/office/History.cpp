@@ -84,7 +84,7 @@ std::string TextLine(const TrailEntry& entry, const std::string& text)
 
 } // namespace
 
-std::string HistoryIn(HistoryForm form, const std::shared_ptr<CJetDB>& database, const TrailQuery& query)
+std::string HistoryIn(ReportForm form, const std::shared_ptr<CJetDB>& database, const TrailQuery& query)
 {
     const CJetDB::Hold hold(database);
     EmployeeNames names(database);
@@ -92,27 +92,27 @@ std::string HistoryIn(HistoryForm form, const std::shared_ptr<CJetDB>& database,
     ReadTrail(database, query, [&](const TrailEntry& entry) {
         names.Learn(entry);
         const auto nameOf = [&](std::int64_t id) { return names.Of(id); };
-        if (form == HistoryForm::Json) {
+        if (form == ReportForm::Json) {
             text += (text.empty() ? "\r\n" : ",\r\n") + JsonLine(entry, EntrySentence(entry, nameOf));
         } else {
             text += HistoryLine(form, entry, nameOf);
         }
     });
-    if (form == HistoryForm::Json) {
+    if (form == ReportForm::Json) {
         return "{\"changes\":[" + text + (text.empty() ? "" : "\r\n") + "]}\r\n";
     }
     return HistoryHeading(form) + text;
 }
 
-std::string HistoryHeading(HistoryForm form)
+std::string HistoryHeading(ReportForm form)
 {
-    return form == HistoryForm::Csv ? kCsvHeading : "";
+    return form == ReportForm::Csv ? kCsvHeading : "";
 }
 
-std::string HistoryLine(HistoryForm form, const TrailEntry& entry, const NameOfEmployee& nameOf)
+std::string HistoryLine(ReportForm form, const TrailEntry& entry, const NameOfEmployee& nameOf)
 {
     const std::string sentence = EntrySentence(entry, nameOf);
-    return form == HistoryForm::Csv ? CsvLine(entry, sentence) : TextLine(entry, sentence);
+    return form == ReportForm::Csv ? CsvLine(entry, sentence) : TextLine(entry, sentence);
 }
 
 } // namespace ptk

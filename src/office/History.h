@@ -3,6 +3,7 @@
 
 #include "office/EmployeeNames.h"
 #include "office/HistoryText.h"
+#include "reports/ReportForms.h"
 #include "store/TrailReader.h"
 
 #include <memory>
@@ -12,21 +13,14 @@ namespace ptk {
 
 class CJetDB;
 
-enum class HistoryForm
-{
-    Text,
-    Csv,
-    Json
-};
-
 // The entries of the query, newest first, in one of the forms that docs/history-format.md describes; as text one line an entry, nothing
-// without one. Lines end in CR LF. Raises what reading the trail raises.
-[[nodiscard]] std::string HistoryIn(HistoryForm form, const std::shared_ptr<CJetDB>& database, const TrailQuery& query);
+// without one. Lines end in CR LF. Raises what reading the trail raises. REQUIRES: not Pdf, here and below.
+[[nodiscard]] std::string HistoryIn(ReportForm form, const std::shared_ptr<CJetDB>& database, const TrailQuery& query);
 
-// With which the form begins; empty for text. REQUIRES: not Json, here and below.
-[[nodiscard]] std::string HistoryHeading(HistoryForm form);
+// With which the form begins; empty for text. REQUIRES: not Json, as below.
+[[nodiscard]] std::string HistoryHeading(ReportForm form);
 
 // With its end.
-[[nodiscard]] std::string HistoryLine(HistoryForm form, const TrailEntry& entry, const NameOfEmployee& nameOf);
+[[nodiscard]] std::string HistoryLine(ReportForm form, const TrailEntry& entry, const NameOfEmployee& nameOf);
 
 } // namespace ptk

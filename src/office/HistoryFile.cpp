@@ -1,7 +1,7 @@
 #include "office/HistoryFile.h"
 
 #include "platform/Text.h"
-#include "reports/ReportForms.h"
+#include "reports/ReportDocument.h"
 
 #include <utility>
 
@@ -13,12 +13,13 @@ constexpr std::int32_t kPage = 1000; // entries; some tens of milliseconds
 
 } // namespace
 
-HistoryFile::HistoryFile(const std::string& path, HistoryForm form, std::shared_ptr<CJetDB> database, TrailQuery query,
+HistoryFile::HistoryFile(const std::string& path, ReportForm form, DateTime made, std::shared_ptr<CJetDB> database, TrailQuery query,
                          std::shared_ptr<const EmployeeNames> names)
-    : m_path(path), m_form(form), m_draft(path), m_database(std::move(database)), m_query(std::move(query)), m_names(std::move(names))
+    : m_path(path), m_form(form), m_made(made), m_draft(path), m_database(std::move(database)), m_query(std::move(query)),
+      m_names(std::move(names))
 {
     m_query.most = kPage;
-    if (m_form == HistoryForm::Csv) {
+    if (m_form == ReportForm::Csv) {
         m_draft.File().Write(kByteOrderMark);
     }
     m_draft.File().Write(HistoryHeading(m_form));
@@ -26,19 +27,40 @@ HistoryFile::HistoryFile(const std::string& path, HistoryForm form, std::shared_
 
 void HistoryFile::WriteOn()
 {
-    std::string lines;
+    std::string bytes;
     std::int64_t count = 0;
     ReadTrail(m_database, m_query, [&](const TrailEntry& entry) {
-        lines += HistoryLine(m_form, entry, [this](std::int64_t id) { return m_names->Of(id); });
+        bytes += Take(entry);
         m_query.olderThan = entry.id;
         ++count;
     });
-    m_draft.File().Write(lines);
+    const bool last = count < kPage;
+    m_draft.File().Write(last ? bytes + End() : bytes);
     m_written += count;
-    if (count < kPage) {
+    if (last) {
         m_draft.Replace();
         m_done = true;
     }
+}
+
+// Its line; nothing of what is to stand on pages.
+std::string HistoryFile::Take(const TrailEntry& entry)
+{
+    const auto nameOf = [this](std::int64_t id) { return m_names->Of(id); };
+    if (m_form != ReportForm::Pdf) {
+        return HistoryLine(m_form, entry, nameOf);
+    }
+    m_pages.Add(CellsOf(entry, nameOf));
+    return "";
+}
+
+std::string HistoryFile::End() const
+{
+    if (m_form != ReportForm::Pdf) {
+        return "";
+    }
+    const ReportDocument pages = m_pages.Document();
+    return FileOf(m_form, {&pages, 1}, m_made);
 }
 
 std::string HistoryFileName(DateTime today)

@@ -39,11 +39,6 @@ std::span<const ReportForm> SavedForms()
     return kForms;
 }
 
-std::span<const ReportForm> SavedListForms()
-{
-    return std::span(kForms).subspan(1);
-}
-
 std::string FilterOf(ReportForm form)
 {
     return fmt::format("{} (*{})", NameOf(form), EndingOf(form));

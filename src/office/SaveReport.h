@@ -12,9 +12,6 @@ namespace ptk {
 // The forms in which windows offer to save, the most usual first.
 [[nodiscard]] std::span<const ReportForm> SavedForms();
 
-// Those for lists that are no reports and have no pages, likewise.
-[[nodiscard]] std::span<const ReportForm> SavedListForms();
-
 // The line of a file dialog: "PDF document (*.pdf)".
 [[nodiscard]] std::string FilterOf(ReportForm form);
 

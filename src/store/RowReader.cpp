@@ -107,7 +107,7 @@ void RowReader::Doubt(const char* why) const
 
 // Reads the next column; a failure gets the words that lead to the value.
 template <typename Read>
-void RowReader::Take(Read read)
+void RowReader::Take(const Read& read)
 {
     const std::size_t column = m_next++;
     try {

@@ -52,7 +52,7 @@ public:
 private:
     void Start() { m_next = 0; }
     template <typename Read>
-    void Take(Read read);
+    void Take(const Read& read);
     template <typename Number>
     void Positive(Number& field, const char* doubt = nullptr);
     void Key(std::int32_t& field);

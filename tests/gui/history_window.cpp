@@ -125,7 +125,7 @@ TEST_F(HistoryWindowTest, ChoosesCopiesAndSaves)
               "05:00 PM became 03/05/2003 06:00 PM\n");
     const auto saveTo = [](const QString& path) {
         const ExpectedModal dialog([&](QDialog& window) {
-            EXPECT_EQ(QFileInfo(dynamic_cast<QFileDialog&>(window).selectedFiles().value(0)).fileName(), "PTK history 2003-03-05.csv");
+            EXPECT_EQ(QFileInfo(dynamic_cast<QFileDialog&>(window).selectedFiles().value(0)).fileName(), "PTK history 2003-03-05.pdf");
             dynamic_cast<QFileDialog&>(window).selectFile(path);
             window.accept();
         });

@@ -4,10 +4,12 @@
 #include "model/CTimeCard.h"
 #include "model/CTimeRecordFactory.h"
 #include "office/HistoryFile.h"
+#include "office/HistoryPages.h"
 #include "office/HistoryReading.h"
 #include "office/HistoryScope.h"
 #include "office/RecordEdits.h"
 #include "platform/Text.h"
+#include "reports/ReportDocument.h"
 #include "store/CJetDB.h"
 #include "store/DatabaseCreator.h"
 #include "store/sqlite/SqliteEngine.h"
@@ -136,7 +138,7 @@ TEST_F(HistoryTest, IsReadAndSavedPageByPage)
     HistoryReading reading(m_database, {}, Names());
     reading.ReadOn();
     EXPECT_EQ(HistoryNews(reading.Rows().size(), !reading.IsDone()), "The newest 250 changes; older ones follow as you scroll down");
-    HistoryFile file(path, HistoryForm::Csv, m_database, {}, Names());
+    HistoryFile file(path, ReportForm::Csv, {}, m_database, {}, Names());
     file.WriteOn();
     EXPECT_FALSE(file.IsDone() || std::filesystem::exists(path));
     Elsewhere("DELETE FROM TimeRecord WHERE TimeRecordID = 1002");
@@ -155,9 +157,34 @@ TEST_F(HistoryTest, IsReadAndSavedPageByPage)
     EXPECT_EQ(file.Written(), 1004);
     TrailQuery query;
     query.olderThan = 1005;
-    EXPECT_EQ(ReadBytes(path), "\xEF\xBB\xBF" + HistoryIn(HistoryForm::Csv, m_database, query));
-    EXPECT_EQ(FailureOf([&] { HistoryFile(m_folder.Path() + "/nowhere/history.csv", HistoryForm::Csv, m_database, {}, Names()); }), 76);
+    EXPECT_EQ(ReadBytes(path), "\xEF\xBB\xBF" + HistoryIn(ReportForm::Csv, m_database, query));
+    EXPECT_EQ(FailureOf([&] { HistoryFile(m_folder.Path() + "/nowhere/history.csv", ReportForm::Csv, {}, m_database, {}, Names()); }), 76);
+    const std::string pages = m_folder.Path() + "/history.pdf";
+    HistoryFile asPages(pages, ReportForm::Pdf, ToDateTime("3/5/2003"), m_database, {}, Names());
+    asPages.WriteOn();
+    asPages.WriteOn();
+    EXPECT_TRUE(asPages.IsDone() && ReadBytes(pages).starts_with("%PDF-"));
     EXPECT_EQ(HistoryFileName(ToDateTime("3/5/2003")), "PTK history 2003-03-05");
+}
+
+TEST(HistoryPagesTest, AreATableOfWhichNoMoreIsKeptThanAPdfDocumentHolds)
+{
+    HistoryPages pages;
+    pages.Add({"03/07/2003 06:00:00 PM", "Zo\xC3\xAB (ptk-console)", "Ann Lee", "employee deleted"});
+    pages.Add({"", "Bo", "", "Options: period length 14 became 7"});
+    const ReportDocument document = pages.Document();
+    std::string printed;
+    for (const ReportLine& line : document.lines) {
+        printed += line.text + "\n";
+    }
+    EXPECT_EQ(printed, "When                    Who                What\n\n"
+                       "03/07/2003 06:00:00 PM  Zo\xC3\xAB (ptk-console)  Ann Lee: employee deleted\n"
+                       "                        Bo                 Options: period length 14 became 7\n"
+                       "\n2 changes\n");
+    for (int row = 2; row < 10000; ++row) {
+        pages.Add({});
+    }
+    EXPECT_EQ(FailureOf([&] { pages.Add({}); }), 6);
 }
 
 } // namespace

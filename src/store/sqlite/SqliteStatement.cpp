@@ -67,23 +67,24 @@ struct Binder
     }
 };
 
-std::string_view TextOf(sqlite3_stmt* row, int column)
+std::string_view TextOf(sqlite3_value* value)
 {
-    const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(row, column));
-    return {text, static_cast<std::size_t>(sqlite3_column_bytes(row, column))};
+    const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(value));
+    return {text, static_cast<std::size_t>(sqlite3_value_bytes(value))};
 }
 
-void AddCell(RecordSet::Builder& rows, sqlite3_stmt* row, int column)
+// Of the value itself, which only one thread may look at as only one uses a connection: that spares several ways to it.
+void AddCell(RecordSet::Builder& rows, sqlite3_value* value)
 {
-    switch (sqlite3_column_type(row, column)) {
+    switch (sqlite3_value_type(value)) {
     case SQLITE_NULL:
         return rows.AddNull();
     case SQLITE_INTEGER:
-        return rows.AddInteger(sqlite3_column_int64(row, column));
+        return rows.AddInteger(sqlite3_value_int64(value));
     case SQLITE_FLOAT:
-        return rows.AddReal(sqlite3_column_double(row, column));
+        return rows.AddReal(sqlite3_value_double(value));
     case SQLITE_TEXT:
-        return rows.AddText(TextOf(row, column));
+        return rows.AddText(TextOf(value));
     default:
         return rows.AddBinary();
     }
@@ -228,7 +229,7 @@ CellKind SqliteStatement::KindAt(int column) const
 
 std::string_view SqliteStatement::TextAt(int column) const
 {
-    return TextOf(m_statement.get(), column);
+    return TextOf(sqlite3_column_value(m_statement.get(), column));
 }
 
 std::int64_t SqliteStatement::Int64At(int column) const
@@ -238,13 +239,11 @@ std::int64_t SqliteStatement::Int64At(int column) const
 
 std::optional<DateTime> SqliteStatement::StoredDateAt(int column) const
 {
-    // The value itself, which only one thread may look at as only one uses a connection, spares three ways to it.
     sqlite3_value* value = sqlite3_column_value(m_statement.get(), column);
     if (sqlite3_value_type(value) != SQLITE_TEXT) {
         return std::nullopt;
     }
-    const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(value));
-    return FromStoredText({text, static_cast<std::size_t>(sqlite3_value_bytes(value))});
+    return FromStoredText(TextOf(value));
 }
 
 std::shared_ptr<RecordSet> SqliteStatement::ReadRows(std::int32_t most)
@@ -258,7 +257,7 @@ std::shared_ptr<RecordSet> SqliteStatement::ReadRows(std::int32_t most)
     AddColumns(rows, row);
     for (std::int32_t count = 1; isRow; isRow = count++ < most && Step()) {
         for (int column = 0; column < columns; ++column) {
-            AddCell(rows, row, column);
+            AddCell(rows, sqlite3_column_value(row, column));
         }
         rows.EndRow();
     }

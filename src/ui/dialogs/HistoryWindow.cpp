@@ -267,15 +267,14 @@ void HistoryWindow::Copy()
 void HistoryWindow::SaveAs()
 {
     const auto name = QString::fromStdString(HistoryFileName(m_host.Clock().Today()));
-    const auto target = AskWhereToSave(*this, name, SavedListForms());
+    const auto target = AskWhereToSave(*this, name, SavedForms());
     if (!target) {
         return;
     }
     Say(QString());
     const auto begin = [&] {
-        const HistoryForm form = target->form == ReportForm::Csv ? HistoryForm::Csv : HistoryForm::Text;
         const auto database = Required(Required(m_host.Controller())->PTKDatabase())->Afresh();
-        m_file = std::make_unique<HistoryFile>(target->path, form, database, m_query, m_names);
+        m_file = std::make_unique<HistoryFile>(target->path, target->form, m_host.Clock().Now(), database, m_query, m_names);
         m_saving.start(0);
     };
     Succeeds(begin, [this](const Failure& reason) { Complain(kNotSaved + reason.Description()); });
