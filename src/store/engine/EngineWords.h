@@ -32,6 +32,9 @@ struct EngineWords
     // Digits, whatever the type of the column that they are for.
     const char* number;
 
+    // Answers a row where the table _CheckLimits is there, which files of earlier versions lack; empty where it always is.
+    const char* findLimits;
+
     // Behind a SELECT within a write: nobody else changes these rows before its end.
     const char* lockRows;
 

@@ -20,6 +20,7 @@ inline constexpr EngineWords kPostgresWords{
                   "JOIN json_each_text(CAST(:json AS json)) WITH ORDINALITY AS said (key, value, place) ON said.place = one.place "
                   "ORDER BY one.place",
     .number = "'{0}'",
+    .findLimits = "",
     .lockRows = " FOR UPDATE",
     .lockTable = "LOCK TABLE {0} IN SHARE MODE",
 };

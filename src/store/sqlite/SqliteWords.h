@@ -18,6 +18,7 @@ inline constexpr EngineWords kSqliteWords{
     .jsonFields = "SELECT key, type, CASE type WHEN 'real' THEN printf('%!.17g', atom) WHEN 'object' THEN "
                   "json_extract(value, '$.blob') ELSE atom END FROM json_each(:json)",
     .number = "{0}",
+    .findLimits = "SELECT name FROM sqlite_master WHERE type = 'table' AND name = '_CheckLimits' COLLATE NOCASE",
     .lockRows = "",
     .lockTable = "",
 };
