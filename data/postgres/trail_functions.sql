@@ -30,6 +30,9 @@ BEGIN
     ELSE
         PERFORM set_config('ptk.next', '', true);
     END IF;
+    IF ptk_number('ptk.last') IS NULL THEN -- who listens asks for this entry and those behind it
+        PERFORM pg_notify('ptk_change', id::text);
+    END IF;
     PERFORM set_config('ptk.last', id::text, true);
     INSERT INTO _Change VALUES (id, to_char(clock_timestamp(), 'YYYY-MM-DD HH24:MI:SS'), NULLIF(current_setting('ptk.user', true), ''),
         NULLIF(current_setting('ptk.program', true), ''), ptk_number('ptk.step'), tab, row_id, act, was, is_now, employee_was, employee_is);

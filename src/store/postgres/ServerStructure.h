@@ -7,9 +7,10 @@ namespace ptk {
 
 class ServerLine;
 
-inline constexpr std::int64_t kServerStructure = 1; // the newest that this program knows
+inline constexpr std::int64_t kServerStructure = 2; // the newest that this program knows
 
-// Raises 26 for a database that is not this program's, or of a newer version.
+// Brings an older version up to date, whole or not at all. Raises 26 for a database that is not this program's, of a newer version, or of an
+// older one that whoever connects may not change.
 void RequireStructure(ServerLine& line);
 
 } // namespace ptk
