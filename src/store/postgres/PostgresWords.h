@@ -6,7 +6,7 @@
 namespace ptk {
 
 inline constexpr EngineWords kPostgresWords{
-    .caseless = "lower({0})",
+    .caseless = "lower({0} COLLATE \"C\")",
     .caselessFirstName = "lower(COALESCE(FirstName, ''))",
     .caselessLastName = "lower(COALESCE(LastName, ''))",
     .unusualPunch = "CASE WHEN StartTime IS NOT NULL THEN StartTime = TIMESTAMP '1899-12-30 00:00:00' "
