@@ -146,7 +146,7 @@ TEST_P(ContractTest, AnEmployeeComesBackToTheLastBit)
     EXPECT_FALSE(row.AutoDeduct);
     EXPECT_EQ(row.AutoDeductLunchLength, 32767);
     Employees named;
-    EXPECT_TRUE(database->LoadEmployeesNamed(named, "Анна O'Neil \"Ω\" \\ 李"));
+    EXPECT_TRUE(database->LoadEmployeesNamed(named, "Анна O'Neil \"Ω\" \\ 李")) << database->LastFailure().Description();
     EXPECT_EQ(named.rows.size(), 1U);
 }
 

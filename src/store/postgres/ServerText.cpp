@@ -34,6 +34,20 @@ std::string SmallName(std::string_view quoted)
     return '"' + LowerCase(quoted.substr(1, quoted.size() - 2)) + '"';
 }
 
+// Collations are the server's own, and named as it does.
+bool IsBehindCollate(const std::vector<Token>& tokens, std::size_t at)
+{
+    while (at > 0 && tokens[at - 1].kind == TokenKind::Blank) {
+        --at;
+    }
+    return at > 0 && LowerCase(tokens[at - 1].text) == "collate";
+}
+
+bool IsNameOfOurs(const std::vector<Token>& tokens, std::size_t at)
+{
+    return tokens[at].kind == TokenKind::Quoted && tokens[at].text.size() >= 2 && !IsBehindCollate(tokens, at);
+}
+
 } // namespace
 
 ServerText TranslateForServer(std::string_view statement)
@@ -44,7 +58,7 @@ ServerText TranslateForServer(std::string_view statement)
     for (std::size_t i = 0; i < tokens.size(); ++i) {
         if (IsParameter(tokens, i)) {
             text.sql += NumberOf(tokens[++i].text, text.parameters);
-        } else if (tokens[i].kind == TokenKind::Quoted && tokens[i].text.size() >= 2) {
+        } else if (IsNameOfOurs(tokens, i)) {
             text.sql += SmallName(tokens[i].text);
         } else {
             text.sql += tokens[i].text;
