@@ -6,12 +6,9 @@
 #include "store/CSystemOptions.h"
 #include "store/CTimeRecSQLConverter.h"
 #include "store/engine/RecordSet.h"
-#include "store/postgres/PostgresEngine.h"
 #include "store/PunchSQL.h"
-#include "store/Schema.h"
-#include "store/sqlite/SqliteEngine.h"
 #include "store/TrailReader.h"
-#include "support/ServerDatabase.h"
+#include "support/NewServerDatabase.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -35,13 +32,6 @@ protected:
     {
         if (GetParam() == Kept::OnServer) {
             m_server.emplace();
-            PostgresEngine engine(m_server->Address(), NewStructure{});
-            engine.BeginMany();
-            for (const char* sql :
-                 {kServerSchemaSql, kServerStoredQueriesSql, kServerTrailFunctionsSql, kServerTrailSql, kServerRolesSql}) {
-                engine.RunScript(sql);
-            }
-            engine.Commit();
         } else {
             CreateDatabase(Name());
         }
@@ -89,7 +79,7 @@ protected:
     }
 
     TemporaryFolder folder;
-    std::optional<ServerDatabase> m_server;
+    std::optional<NewServerDatabase> m_server;
     std::shared_ptr<CJetDB> database;
     std::size_t m_columns = 1;
 };

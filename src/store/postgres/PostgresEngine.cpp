@@ -18,8 +18,9 @@ namespace ptk {
 namespace {
 
 constexpr std::chrono::seconds kPatience(5);
-constexpr std::chrono::seconds kShortPatience(1); // of those who can as well ask later
-constexpr int kMostTries = 5;                     // of a write that stood in another's way
+constexpr std::chrono::seconds kShortPatience(1);      // of those who can as well ask later
+constexpr std::chrono::milliseconds kBetweenTries(50); // of asking what became of a write
+constexpr int kMostTries = 5;                          // of a write that stood in another's way
 
 constexpr const char* kBeginRead = "BEGIN ISOLATION LEVEL REPEATABLE READ READ ONLY";
 constexpr const char* kBeginWrite = "BEGIN ISOLATION LEVEL READ COMMITTED"; // what a lock was waited for is seen as it is then
@@ -78,6 +79,14 @@ void PostgresEngine::Connect()
     }
 }
 
+// Outside a transaction: one that is not known to be lost.
+void PostgresEngine::RequireLine()
+{
+    if (m_line == nullptr || !m_line->IsAlive()) {
+        Connect();
+    }
+}
+
 std::int64_t PostgresEngine::RoundTrips() const
 {
     return m_formerRoundTrips + (m_line == nullptr ? 0 : m_line->RoundTrips());
@@ -98,9 +107,7 @@ void PostgresEngine::Close()
 
 bool PostgresEngine::Reopen()
 {
-    if (m_line == nullptr || !m_line->IsAlive()) {
-        Connect();
-    }
+    RequireLine();
     m_open = true;
     m_transaction = Transaction::Read;
     return true;
@@ -174,6 +181,7 @@ ServerResult PostgresEngine::Ask(const ServerCommand& command)
 std::vector<ServerResult> PostgresEngine::SendFirst(const std::vector<ServerCommand>& commands)
 {
     try {
+        RequireLine();
         m_begun = true;
         return m_line->Send(commands);
     } catch (const ServerFailure& failure) {
@@ -233,23 +241,33 @@ void PostgresEngine::CommitWrite()
     m_transaction = Transaction::Read;
 }
 
-// The answer to a commit was lost. The server still knows what became of it.
+// The answer to a commit was lost. The server still knows what became of it, also after it was started anew.
 void PostgresEngine::Settle(const ServerFailure& lost)
 {
-    std::string state = "in progress";
+    const auto until = std::chrono::steady_clock::now() + kPatience;
+    do {
+        const std::string fate = FateOfWrite();
+        if (fate == "committed") {
+            return;
+        }
+        if (fate == "aborted") {
+            throw lost;
+        }
+        std::this_thread::sleep_for(kBetweenTries);
+    } while (std::chrono::steady_clock::now() < until);
+    throw ServerFailure(engine::Lost, "the connection to the server was lost while a change was stored, and whether it was stored is not "
+                                      "known: look before you enter it again");
+}
+
+// Empty where the server cannot be asked.
+std::string PostgresEngine::FateOfWrite()
+{
     try {
         Connect();
-        while (state == "in progress") {
-            const auto results = m_line->Send({{"SELECT COALESCE(pg_xact_status($1::xid8), 'unknown')", {m_number}, false, false}});
-            state = results.front().Text(0, 0);
-        }
+        const auto results = m_line->Send({{"SELECT COALESCE(pg_xact_status($1::xid8), '')", {m_number}, false, false}});
+        return std::string(results.front().Text(0, 0));
     } catch (const ServerFailure&) {
-        throw ServerFailure(engine::Lost,
-                            "the connection to the server was lost while a change was stored, and whether it was stored is not "
-                            "known: look before you enter it again");
-    }
-    if (state != "committed") {
-        throw lost;
+        return {};
     }
 }
 
@@ -262,9 +280,7 @@ std::optional<std::int64_t> PostgresEngine::TakeNews()
 {
     RequireOpen();
     Release();
-    if (!m_line->IsAlive()) {
-        Connect();
-    }
+    RequireLine();
     if (!std::exchange(m_listens, true)) {
         static_cast<void>(m_line->Send({{"LISTEN ptk_change", {}, false, false}}));
         return 0;

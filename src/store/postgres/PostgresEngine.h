@@ -75,6 +75,7 @@ private:
     };
 
     void Connect();
+    void RequireLine();
     void RequireOpen() const;
     void Begin(Transaction transaction);
     [[nodiscard]] std::vector<ServerCommand> Opening() const;
@@ -83,6 +84,7 @@ private:
     void WriteOnce(const std::function<void()>& steps);
     void CommitWrite();
     void Settle(const ServerFailure& lost);
+    [[nodiscard]] std::string FateOfWrite();
     void Release() noexcept;
 
     std::string m_address;

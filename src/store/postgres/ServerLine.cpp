@@ -62,8 +62,8 @@ std::string Settings(const std::optional<std::chrono::milliseconds>& patience)
 {
     const auto limit = patience ? (*patience - std::min(*patience / 2, kMargin)).count() : 0;
     return fmt::format(" -c datestyle=ISO,YMD -c standard_conforming_strings=on -c extra_float_digits=1 -c client_min_messages=warning "
-                       "-c statement_timeout={0} -c lock_timeout={0} -c idle_in_transaction_session_timeout={0}",
-                       limit);
+                       "-c statement_timeout={0} -c lock_timeout={1} -c idle_in_transaction_session_timeout={0}",
+                       limit, limit * 9 / 10);
 }
 
 } // namespace
