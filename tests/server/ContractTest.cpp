@@ -6,6 +6,7 @@
 #include "store/CSystemOptions.h"
 #include "store/CTimeRecSQLConverter.h"
 #include "store/engine/RecordSet.h"
+#include "store/engine/Statement.h"
 #include "store/PunchSQL.h"
 #include "store/TrailReader.h"
 #include "support/NewServerDatabase.h"

@@ -90,6 +90,7 @@ TEST(ServerFaults, DatabasesOfOthersAreRefused)
     EXPECT_FALSE(database->OpenDB());
     EXPECT_EQ(database->LastFailure().Description(), "the server's database has no tables of this program");
     const NewServerDatabase server;
+    EXPECT_EQ(FailureOf([&] { CreateDatabase(server.Address()); }), failure::PathFileAccess) << "made twice";
     server.Run("UPDATE _Structure SET version = 1; DROP FUNCTION ptk_add_entry");
     EXPECT_EQ(Asked(*Open(server.Address()), "SELECT version FROM _Structure"), "2") << "brought up to date";
     server.Run("SELECT ptk_add_entry('import', 'a'); UPDATE _Structure SET version = 3");

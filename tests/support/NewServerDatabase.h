@@ -1,8 +1,7 @@
-// A database on the tests' server with the program's tables, as create-database makes them.
+// A database on the tests' server with the program's tables.
 #pragma once
 
-#include "store/postgres/PostgresEngine.h"
-#include "store/Schema.h"
+#include "store/DatabaseCreator.h"
 #include "support/ServerDatabase.h"
 
 namespace ptk {
@@ -10,15 +9,7 @@ namespace ptk {
 class NewServerDatabase : public ServerDatabase
 {
 public:
-    NewServerDatabase()
-    {
-        PostgresEngine engine(Address(), NewStructure{});
-        engine.BeginMany();
-        for (const char* sql : {kServerSchemaSql, kServerStoredQueriesSql, kServerTrailFunctionsSql, kServerTrailSql, kServerRolesSql}) {
-            engine.RunScript(sql);
-        }
-        engine.Commit();
-    }
+    NewServerDatabase() { CreateDatabase(Address()); }
 };
 
 } // namespace ptk

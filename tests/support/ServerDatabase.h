@@ -1,7 +1,6 @@
 // A database of a test's own on the tests' server, gone with it.
 #pragma once
 
-#include "store/DatabaseCreator.h"
 #include "store/postgres/ServerLine.h"
 
 #include <fmt/format.h>

@@ -328,7 +328,9 @@ std::string PostgresEngine::StoredText(std::string_view query)
 
 void PostgresEngine::BeginMany()
 {
-    Begin(Transaction::Many);
+    if (!m_begun || m_transaction != Transaction::Many) {
+        Begin(Transaction::Many);
+    }
 }
 
 void PostgresEngine::RunScript(const char* sql)
