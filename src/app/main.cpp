@@ -5,7 +5,9 @@
 #include "platform/Version.h"
 #include "shell/CError.h"
 #include "startup/AdminMain.h"
+#include "store/postgres/ServerAddress.h"
 #include "ui/dialogs/FFirstStart.h"
+#include "ui/dialogs/FServerPassword.h"
 #include "ui/LastWindow.h"
 #include "ui/QtDesktop.h"
 #include "ui/QtWindowFactory.h"
@@ -119,6 +121,7 @@ int Run(const QApplication& application, ptk::Desktop& desktop)
     if (folder.empty()) {
         return EXIT_FAILURE;
     }
+    ptk::AskForPasswordsWith(ptk::FServerPassword::Ask);
     ptk::QtWindowFactory windows(folder, desktop, clock);
     ptk::AdminMain admin(folder, desktop, clock, windows, [](int status) { std::_Exit(status); });
 

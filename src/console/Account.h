@@ -1,7 +1,7 @@
 // Who runs the program on a terminal.
 #pragma once
 
-#include "store/engine/EditTrail.h"
+#include "store/sqlite/EditTrail.h"
 
 namespace ptk {
 

@@ -10,7 +10,7 @@
 #include "platform/Text.h"
 #include "shell/CDatabaseLocator.h"
 #include "shell/CFileAdaptor.h"
-#include "store/engine/EngineFailure.h"
+#include "store/engine/EngineSource.h"
 #include "store/FileSteps.h"
 
 #include <filesystem>
@@ -35,7 +35,7 @@ auto Naming(const std::string& database, const std::string& target, Action actio
     try {
         return action();
     } catch (const Failure& failure) {
-        throw FileFailure(failure, failure.Source() == kEngineSource ? database : target);
+        throw FileFailure(failure, IsOfDatabase(failure) ? database : target);
     }
 }
 

@@ -14,10 +14,11 @@ namespace ptk {
 
 namespace {
 
-void Create(const std::string& path, const std::function<void(BulkWriter&)>& fill)
+// What is left to do.
+std::string Create(const std::string& path, const std::function<void(BulkWriter&)>& fill)
 {
     try {
-        CreateDatabase(path, fill);
+        return CreateDatabase(path, fill);
     } catch (const Failure& failure) {
         throw FileFailure(failure, path);
     }
@@ -28,13 +29,13 @@ void Create(const std::string& path, const std::function<void(BulkWriter&)>& fil
 int CreateDatabaseCommand(const CreateDatabaseArguments& arguments, Console& console)
 {
     const std::string path = NativePath(LocateDatabase(console.programFolder)->DatabasePath()).string();
-    if (arguments.sample) {
-        const DateTime today = arguments.today.value_or(console.clock.Today());
-        Create(path, [today](BulkWriter& writer) { AddSampleBusiness(writer, today); });
-    } else {
-        Create(path, nullptr);
-    }
+    const DateTime today = arguments.today.value_or(console.clock.Today());
+    const auto sample = [today](BulkWriter& writer) { AddSampleBusiness(writer, today); };
+    const std::string left = arguments.sample ? Create(path, sample) : Create(path, nullptr);
     console.out << "created: " << TerminalText(path) << '\n';
+    if (!left.empty()) {
+        console.err << "ptk-console: " << left << '\n';
+    }
     return status::Done;
 }
 

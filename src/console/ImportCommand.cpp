@@ -8,7 +8,7 @@
 #include "platform/Clock.h"
 #include "platform/ProgramFolder.h"
 #include "shell/CDatabaseLocator.h"
-#include "store/engine/EngineFailure.h"
+#include "store/engine/EngineSource.h"
 
 #include <filesystem>
 
@@ -23,7 +23,7 @@ ImportOutcome Import(const ImportOrder& order)
     try {
         return ImportOldDatabase(order);
     } catch (const Failure& failure) {
-        throw failure.Source() == kEngineSource ? FileFailure(failure, order.database) : failure;
+        throw IsOfDatabase(failure) ? FileFailure(failure, order.database) : failure;
     }
 }
 

@@ -71,7 +71,7 @@ PunchReader::PunchReader(CJetDB& database, const PayPeriod& period, std::int32_t
     : m_from(period.from), m_end(EndOfDay(period.to))
 {
     RequireOpen(database);
-    m_unusual = RequireSelect(database, punchsql::kUnusual);
+    m_unusual = RequireSelect(database, punchsql::Unusual(database.Words()));
     m_starting = RequireSelect(database, punchsql::kStarting);
     m_starting->Bind("first", DayBefore(WeekStart(period.from, firstWeekday)));
     // A shift without length at the card's last moment is on the card, though it begins behind the period and perhaps its weeks.

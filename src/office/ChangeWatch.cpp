@@ -10,6 +10,8 @@ namespace ptk {
 
 namespace {
 
+constexpr std::chrono::seconds kBetweenTries(10); // of a server that does not answer: each try takes a second of the window's time
+
 // Whose record it was before or is after.
 std::set<std::int64_t> EmployeesOf(const TrailEntry& entry)
 {
@@ -37,12 +39,35 @@ ChangeWatch::ChangeWatch(const std::shared_ptr<CJetDB>& database, const UndoStac
 // What could not be asked now is asked the next time: no more than a notice depends on it.
 void ChangeWatch::Look()
 {
-    Succeeds([this] { m_newest ? TakeNew() : Start(); });
+    if (!IsWorthTrying()) {
+        return;
+    }
+    const auto look = [this] { m_newest ? TakeNew() : Start(); };
+    if (!Succeeds(look) && IsTold()) {
+        m_notBefore = std::chrono::steady_clock::now() + kBetweenTries;
+    }
     m_database->CloseDB();
 }
 
+bool ChangeWatch::IsWorthTrying() const
+{
+    return std::chrono::steady_clock::now() >= m_notBefore;
+}
+
+bool ChangeWatch::IsTold() const
+{
+    return m_database->TellsNews();
+}
+
+bool ChangeWatch::IsAnyChanged(Shown what) const
+{
+    return std::any_of(m_changed.begin(), m_changed.end(), [&](const auto& changed) { return changed.first == what; });
+}
+
+// Listens before it looks, so that nothing falls between.
 void ChangeWatch::Start()
 {
+    static_cast<void>(m_database->TakeNews());
     TrailQuery query;
     query.most = 1;
     const auto newest = ReadTrail(m_database, query);
@@ -51,8 +76,13 @@ void ChangeWatch::Start()
 
 void ChangeWatch::TakeNew()
 {
+    const auto first = m_database->TakeNews();
+    if (!first) {
+        return;
+    }
+    // Where many write at once, an entry of a small number may come to be seen after one of a greater.
     TrailQuery query;
-    query.newerThan = *m_newest;
+    query.newerThan = *first == 0 ? *m_newest : std::min(*m_newest, *first - 1);
     for (const TrailEntry& entry : ReadTrail(m_database, query)) {
         Take(entry);
     }

@@ -3,6 +3,7 @@
 
 #include "store/TrailReader.h"
 
+#include <chrono>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -34,6 +35,12 @@ public:
     // the undo stack before.
     void Look();
 
+    // Whether looking costs next to nothing, since the database tells of changes by itself.
+    [[nodiscard]] bool IsTold() const;
+
+    // As far as it looked: of anything or anybody.
+    [[nodiscard]] bool IsAnyChanged(Shown what) const;
+
     // As far as it looked. `row` is the employee's or the company's number.
     [[nodiscard]] bool IsChanged(Shown what, std::int64_t row) const { return m_changed.contains({what, row}); }
 
@@ -45,10 +52,12 @@ private:
     void Start();
     void TakeNew();
     void Take(const TrailEntry& entry);
+    [[nodiscard]] bool IsWorthTrying() const;
 
     std::shared_ptr<CJetDB> m_database; // an access of its own, which waits for nobody
     const UndoStack& m_own;
-    std::optional<std::int64_t> m_newest; // entry that was looked at; nothing until the trail could be read
+    std::optional<std::int64_t> m_newest;              // entry that was looked at; nothing until the trail could be read
+    std::chrono::steady_clock::time_point m_notBefore; // is it asked again: it could not be reached
     std::set<std::pair<Shown, std::int64_t>> m_changed;
 };
 

@@ -1,6 +1,7 @@
 #include "office/EmployeeNames.h"
 
 #include "store/CJetDB.h"
+#include "store/engine/EngineWords.h"
 #include "store/engine/Statement.h"
 
 #include <algorithm>
@@ -11,8 +12,11 @@ namespace ptk {
 namespace {
 
 // In the order of the employee list; of any kind of value the text.
-constexpr const char* kNames = "SELECT EmployeeID, IFNULL(CAST(FirstName AS TEXT), ''), IFNULL(CAST(LastName AS TEXT), '') FROM Employee "
-                               "ORDER BY IFNULL(LastName, '') COLLATE NOCASE, IFNULL(FirstName, '') COLLATE NOCASE, EmployeeID";
+std::string NamesSql(const EngineWords& words)
+{
+    return "SELECT EmployeeID, COALESCE(CAST(FirstName AS TEXT), ''), COALESCE(CAST(LastName AS TEXT), '') FROM Employee ORDER BY " +
+           ListOrder(words);
+}
 
 } // namespace
 
@@ -20,7 +24,7 @@ EmployeeNames::EmployeeNames(const std::shared_ptr<CJetDB>& database)
 {
     const CJetDB::Hold hold(database);
     RequireOpen(*database);
-    const auto rows = RequireSelect(*database, kNames);
+    const auto rows = RequireSelect(*database, NamesSql(database->Words()));
     rows->ForEachRow([&] {
         m_order.push_back(rows->Int64At(0));
         m_present[m_order.back()] = {std::string(rows->TextAt(1)), std::string(rows->TextAt(2))};

@@ -157,7 +157,7 @@ std::string AccountText(const ImportAccount& account)
 
 ImportTarget TargetOf(const ImportOrder& order)
 {
-    const auto keepCopy = [&order](Engine& engine) { BackUp(engine, BackupFolder(order.programFolder), order.now); };
+    const auto keepCopy = [&order](SqliteEngine& engine) { BackUp(engine, BackupFolder(order.programFolder), order.now); };
     return {order.database, order.file, order.author, keepCopy};
 }
 

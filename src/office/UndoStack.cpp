@@ -155,7 +155,7 @@ std::string UndoStack::NameOf(const TrailEntry& entry) const
     }
     const CJetDB::Hold hold(m_database);
     RequireOpen(*m_database);
-    const auto search = RequireSelect(*m_database, fmt::format("SELECT IFNULL(CAST({} AS TEXT), '') FROM {} WHERE {}ID = {}",
+    const auto search = RequireSelect(*m_database, fmt::format("SELECT COALESCE(CAST({} AS TEXT), '') FROM {} WHERE {}ID = {}",
                                                                NameSql(entry.table), entry.table, entry.table, *entry.row));
     std::string text;
     search->ForEachRow([&] { text = search->TextAt(0); });
@@ -191,7 +191,7 @@ bool UndoStack::Move(std::vector<Step>& from, std::vector<Step>& to, const char*
     step.changes = Inverse(step.changes);
     const bool done = m_database->ExecuteSteps([&](Engine& engine) {
         ptk::Redo(engine, step.changes, {step.lastEntry, m_ours});
-        step.lastEntry = NewestEntry(engine);
+        step.lastEntry = engine.NewestEntry();
     });
     if (!done) {
         m_refusal = m_database->Conflict()

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "office/Import.h"
-#include "store/engine/EditTrail.h"
+#include "store/sqlite/EditTrail.h"
 
 #include <cstdint>
 #include <functional>

@@ -4,7 +4,7 @@
 #include "platform/Desktop.h"
 #include "platform/Succeeds.h"
 #include "startup/Windows.h"
-#include "store/engine/EngineFailure.h"
+#include "store/engine/EngineSource.h"
 
 #include <filesystem>
 #include <utility>
@@ -34,7 +34,7 @@ constexpr std::int32_t kNoDatabase = 26;
 bool IsUseless(const Failure& reason)
 {
     const std::int32_t number = reason.Number();
-    return reason.Source() == kEngineSource && (number == kDamaged || number == kMissing || number == kNoDatabase);
+    return IsOfDatabase(reason) && (number == kDamaged || number == kMissing || number == kNoDatabase);
 }
 
 std::string NameOf(const std::string& path)
@@ -45,7 +45,7 @@ std::string NameOf(const std::string& path)
 // A failure of the engine is one of the database, any other of the folder.
 std::string Located(const Failure& reason, const BackupOrder& order)
 {
-    return reason.Description() + (reason.Source() == kEngineSource ? "" : ": " + BackupFolder(order.programFolder));
+    return reason.Description() + (IsOfDatabase(reason) ? "" : ": " + BackupFolder(order.programFolder));
 }
 
 std::string SecondProblem(const BackupOutcome& outcome)

@@ -5,9 +5,9 @@
 #include "platform/Succeeds.h"
 #include "platform/Text.h"
 #include "store/BackupNames.h"
-#include "store/engine/EngineFailure.h"
 #include "store/engine/RecordSet.h"
 #include "store/FileSteps.h"
+#include "store/sqlite/EngineFailure.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -27,17 +27,16 @@ constexpr const char* kTables = "SELECT COUNT(*) FROM sqlite_master WHERE type =
                                 "('Company', 'Employee', 'TimeRecord', '_System', '_StoredQuery')";
 constexpr std::int32_t kTableCount = 5;
 
-// A twentieth of the time of the engine's full check: all pages and rows, but not whether each row is in each index, which a copy of pages
-// cannot have spoiled.
-void RefuseDamage(Engine& engine)
+// The quick check is enough: a copy of pages cannot have spoiled which row is in which index.
+void RefuseDamage(SqliteEngine& engine)
 {
-    const auto found = engine.Prepare("PRAGMA quick_check(1)")->ReadRows(Statement::kAllRows, Statement::kAnySteps);
+    const auto found = engine.CheckQuickly();
     if (found->EndOfFile() || found->TextAt(0) != "ok") {
         throw EngineFailure(kCorrupt);
     }
 }
 
-void RefuseForeignTables(Engine& engine)
+void RefuseForeignTables(SqliteEngine& engine)
 {
     if (engine.Select(kTables)->Int32At(0) != kTableCount) {
         throw EngineFailure(kNoDatabase);
@@ -45,11 +44,11 @@ void RefuseForeignTables(Engine& engine)
 }
 
 // The copy goes to the disk while it is checked. Nobody cuts it short meanwhile, so it need not be read into buffers.
-void FillDraft(Engine& database, FileDraft& draft, const CopyProgress& progress)
+void FillDraft(SqliteEngine& database, FileDraft& draft, const CopyProgress& progress)
 {
     database.CopyTo(draft.Path(), progress);
     auto flushed = std::async(std::launch::async, [&] { draft.File().Flush(); });
-    Engine copy(draft.Path(), ReadOnly{});
+    SqliteEngine copy(draft.Path(), ReadOnly{});
     copy.RunScript("PRAGMA mmap_size = 2147418112"); // the engine's most
     RefuseDamage(copy);
     flushed.get();
@@ -72,7 +71,7 @@ std::string BackupFolder(const std::string& programFolder)
     return (NativePath(programFolder) / "backups").string();
 }
 
-std::string BackUp(Engine& database, const std::string& folder, DateTime now, const CopyProgress& progress)
+std::string BackUp(SqliteEngine& database, const std::string& folder, DateTime now, const CopyProgress& progress)
 {
     MakeOwnFolder(folder);
     const auto pathOf = [&](DateTime moment) { return folder + '/' + BackupName(moment); };
@@ -88,7 +87,7 @@ std::string BackUp(Engine& database, const std::string& folder, DateTime now, co
 
 std::string BackUp(const std::string& path, const std::string& folder, DateTime now, const CopyProgress& progress)
 {
-    Engine database(path);
+    SqliteEngine database(path);
     return BackUp(database, folder, now, progress);
 }
 
@@ -97,7 +96,7 @@ void BackUpTo(const std::string& path, const std::string& target, const CopyProg
     if (IsThere(target)) {
         throw FileDraft::AlreadyThere(target);
     }
-    Engine database(path);
+    SqliteEngine database(path);
     FileDraft draft(target);
     FillDraft(database, draft, progress);
     draft.PlaceNew();
@@ -129,7 +128,7 @@ void CopyBackup(const std::string& backup, const std::string& folder)
 
 BackupContent ExamineBackup(const std::string& path)
 {
-    Engine engine(path, ReadOnly{});
+    SqliteEngine engine(path, ReadOnly{});
     RefuseDamage(engine);
     RefuseForeignTables(engine);
     BackupContent content;

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "platform/DateTime.h"
-#include "store/engine/Engine.h"
+#include "store/sqlite/SqliteEngine.h"
 
 #include <cstdint>
 #include <optional>
@@ -19,7 +19,7 @@ namespace ptk {
 // Makes the folder (for its owner only) where it is missing, and in it a backup named by `now`, or by the next second that is free. The
 // backup is as of one moment, sound, for its owner only, and safe on the disk when its path is answered. On failure there is nothing new.
 // Raises 11 when the database is damaged.
-std::string BackUp(Engine& database, const std::string& folder, DateTime now, const CopyProgress& progress = {});
+std::string BackUp(SqliteEngine& database, const std::string& folder, DateTime now, const CopyProgress& progress = {});
 
 // The same as one operation on the closed file `path`, which raises what opening it raises: 5 when it is held.
 std::string BackUp(const std::string& path, const std::string& folder, DateTime now, const CopyProgress& progress = {});

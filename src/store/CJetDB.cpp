@@ -5,7 +5,9 @@
 #include "platform/Succeeds.h"
 #include "shell/CDatabaseLocator.h"
 #include "store/Backups.h"
-#include "store/engine/Engine.h"
+#include "store/postgres/PostgresEngine.h"
+#include "store/postgres/ServerAddress.h"
+#include "store/sqlite/SqliteEngine.h"
 
 namespace ptk {
 
@@ -135,10 +137,10 @@ bool CJetDB::OpenFile(const std::string& name)
 {
     CloseFile(); // a hold of our own would lock us out like anybody else's
     const auto open = [&] {
-        const std::string path = NativePath(name).string();
-        if (m_database == nullptr || m_database->Path() != path || !m_database->Reopen()) {
-            m_database = std::make_unique<Engine>(path, m_whenHeld);
-            Prepare(*m_database);
+        const std::string path = IsServerAddress(name) ? name : NativePath(name).string();
+        if (m_database == nullptr || m_openPath != path || !m_database->Reopen()) {
+            m_database = OpenEngine(path);
+            m_openPath = path;
         }
     };
     if (!Succeeds(open, [this](const Failure& reason) { FailOpening(reason); })) {
@@ -151,9 +153,14 @@ bool CJetDB::OpenFile(const std::string& name)
 }
 
 // The times in the edit trail are the machine's too.
-void CJetDB::Prepare(Engine& engine)
+std::unique_ptr<Engine> CJetDB::OpenEngine(const std::string& path)
 {
-    engine.KeepCopy([this, &engine] { BackUp(engine, BackupFolder(m_programFolder), SystemClock().Now()); });
+    if (IsServerAddress(path)) {
+        return std::make_unique<PostgresEngine>(path, m_whenHeld);
+    }
+    auto file = std::make_unique<SqliteEngine>(path, m_whenHeld);
+    file->KeepCopy([this, engine = file.get()] { BackUp(*engine, BackupFolder(m_programFolder), SystemClock().Now()); });
+    return file;
 }
 
 bool CJetDB::JoinHold()

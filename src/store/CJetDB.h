@@ -4,7 +4,7 @@
 
 #include "platform/ErrorNumbers.h"
 #include "platform/Failure.h"
-#include "store/engine/EditTrail.h"
+#include "store/engine/Author.h"
 #include "store/engine/WhenHeld.h"
 #include "store/RowConflict.h"
 #include "store/Rows.h"
@@ -21,6 +21,7 @@ namespace ptk {
 
 class CDatabaseLocator;
 class Engine;
+struct EngineWords;
 class RecordSet;
 class Statement;
 
@@ -139,6 +140,16 @@ public:
     // The same for rows that are read again and again with other parameters, in the engine's own words. Must end before the file is closed.
     std::unique_ptr<Statement> PrepareSelect(const std::string& sqlstring);
 
+    // See Engine; raises what opening the database raises.
+    [[nodiscard]] bool TellsNews() const;
+    [[nodiscard]] std::optional<std::int64_t> TakeNews();
+
+    // Of the open database, for the texts that PrepareSelect takes.
+    [[nodiscard]] const EngineWords& Words() const;
+
+    // Whether the open database has the edit trail. Raises the engine's failure.
+    [[nodiscard]] bool HasTrail();
+
     // Opens the database when it is closed and always leaves it closed, except after a failed statement (407). Committed on return.
     bool ExecuteAction(const std::string& sqlstring);
 
@@ -195,7 +206,7 @@ private:
     }
 
     void ForgetFailure();
-    void Prepare(Engine& engine);
+    [[nodiscard]] std::unique_ptr<Engine> OpenEngine(const std::string& path);
     void TakeStep(std::int64_t step);
     void RememberPassword(std::int32_t employeeID, const std::string& before, const std::string& after);
     bool OpenFile(const std::string& name);
@@ -218,6 +229,7 @@ private:
     std::shared_ptr<Memory> m_memory = std::make_shared<Memory>();
     std::shared_ptr<CDatabaseLocator> m_locator;
     std::unique_ptr<Engine> m_database; // kept after a close, as an unusable handle
+    std::string m_openPath;             // its, in the platform's own form
     std::shared_ptr<RecordSet> m_recSet;
     std::string m_databasePath;
     std::string m_databaseName;

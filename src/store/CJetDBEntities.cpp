@@ -23,13 +23,14 @@ constexpr std::int32_t kPortion = 256; // rows
 
 // Who has the display name :name. A last name is all of it or what follows one of its blanks: asked for
 // first, because the index of the listing finds that.
-std::string HasDisplayName(const std::string& name)
+std::string HasDisplayName(const std::string& name, const EngineWords& words)
 {
-    std::string lastNames = ":name";
+    std::string lastNames = Said(words.caseless, ":name");
     for (std::size_t blank = name.find(' '); blank != std::string::npos; blank = name.find(' ', blank + 1)) {
-        lastNames += fmt::format(", SUBSTR(:name, {})", CharacterCount(name.substr(0, blank)) + 2); // counted in characters, from 1
+        const std::string behind = fmt::format("SUBSTR(:name, {})", CharacterCount(name.substr(0, blank)) + 2); // in characters, from 1
+        lastNames += ", " + Said(words.caseless, behind);
     }
-    return fmt::format("IFNULL(LastName, '') COLLATE NOCASE IN ({}) AND {} = :name", lastNames, kDisplayNameSql);
+    return fmt::format("{} IN ({}) AND {} = :name", words.caselessLastName, lastNames, kDisplayNameSql);
 }
 
 } // namespace
@@ -119,7 +120,8 @@ bool CJetDB::LoadEmployeeList(EmployeeSink& thelist)
 bool CJetDB::LoadEmployeesNamed(EmployeeSink& thelist, const std::string& thename)
 {
     const std::array parameters{Parameter{"name", thename}};
-    return FillEmployees(thelist, [&] { return m_database->PrepareStored(kAllEmployees, HasDisplayName(thename), parameters); });
+    return FillEmployees(
+        thelist, [&] { return m_database->PrepareStored(kAllEmployees, HasDisplayName(thename, m_database->Words()), parameters); });
 }
 
 // In portions that stay in the processor's memory: thousands of rows at once would cost as much again.

@@ -50,6 +50,27 @@ std::unique_ptr<Statement> CJetDB::PrepareSelect(const std::string& sqlstring)
     return statement;
 }
 
+bool CJetDB::TellsNews() const
+{
+    return m_database != nullptr && m_database->TellsNews();
+}
+
+std::optional<std::int64_t> CJetDB::TakeNews()
+{
+    RequireOpen(*this);
+    return m_database->TakeNews();
+}
+
+const EngineWords& CJetDB::Words() const
+{
+    return m_database->Words();
+}
+
+bool CJetDB::HasTrail()
+{
+    return m_database->HasTrail();
+}
+
 // One operation that writes: opens the file when it is closed and closes it after success, whoever opened it.
 bool CJetDB::Change(std::int32_t errorNumber, const std::function<void()>& steps)
 {

@@ -13,7 +13,6 @@ namespace ptk {
 
 namespace {
 
-constexpr const char* kFindTable = "SELECT name FROM sqlite_master WHERE type = 'table' AND name = '_CheckLimits' COLLATE NOCASE";
 constexpr const char* kSelect = "SELECT * FROM _CheckLimits LIMIT 1";
 constexpr const char* kCreate =
     "CREATE TABLE IF NOT EXISTS _CheckLimits (long_shift_hours INTEGER, first_weekday INTEGER, show_notices BOOLEAN)";
@@ -51,22 +50,24 @@ CheckLimits LimitsOf(const RecordSet& row)
     return limits;
 }
 
-// `prepare` makes a statement of a text.
+// `prepare` makes a statement of a text; `lock` goes behind the select.
 template <typename Prepare>
-CheckLimits StoredLimits(Prepare prepare)
+CheckLimits StoredLimits(const EngineWords& words, const char* lock, Prepare prepare)
 {
-    if (prepare(kFindTable)->ReadRows()->EndOfFile()) {
+    if (*words.findLimits != '\0' && prepare(words.findLimits)->ReadRows()->EndOfFile()) {
         return {};
     }
-    const auto row = prepare(kSelect)->ReadRows();
+    const auto row = prepare(std::string(kSelect) + lock)->ReadRows();
     return row->EndOfFile() ? CheckLimits() : LimitsOf(*row);
 }
 
 void Update(Engine& engine, const CheckLimits& limits)
 {
-    engine.Run(kCreate);
-    engine.Run(kAddRow);
-    engine.Run(fmt::format("UPDATE _CheckLimits SET long_shift_hours = {}, first_weekday = {}, show_notices = {}", limits.longShiftHours,
+    if (*engine.Words().findLimits != '\0') {
+        engine.Run(kCreate);
+        engine.Run(kAddRow);
+    }
+    engine.Run(fmt::format("UPDATE _CheckLimits SET long_shift_hours = {}, first_weekday = {}, show_notices = '{}'", limits.longShiftHours,
                            limits.firstWeekday, limits.showNotices ? 1 : 0));
 }
 
@@ -76,13 +77,14 @@ CheckLimits LoadCheckLimits(const std::shared_ptr<CJetDB>& database)
 {
     const CJetDB::Hold hold(database);
     RequireOpen(*database);
-    return StoredLimits([&](const char* sql) { return RequireSelect(*database, sql); });
+    return StoredLimits(database->Words(), "", [&](const std::string& sql) { return RequireSelect(*database, sql); });
 }
 
 bool SaveCheckLimits(const std::shared_ptr<CJetDB>& database, const CheckLimits& limits, const CheckLimits& asRead)
 {
     return database->ExecuteSteps([&](Engine& engine) {
-        const CheckLimits present = StoredLimits([&](const char* sql) { return engine.Prepare(sql); });
+        const CheckLimits present =
+            StoredLimits(engine.Words(), engine.Words().lockRows, [&](const std::string& sql) { return engine.Prepare(sql); });
         if (limits == present || limits == asRead) {
             return;
         }

@@ -2,11 +2,11 @@
 
 #include "platform/Failure.h"
 #include "platform/Text.h"
-#include "store/engine/Engine.h"
-#include "store/engine/FileHeader.h"
 #include "store/engine/RecordSet.h"
 #include "store/QueryParameters.h"
 #include "store/RowChecker.h"
+#include "store/sqlite/FileHeader.h"
+#include "store/sqlite/SqliteEngine.h"
 
 #include <fmt/format.h>
 #include <set>
@@ -210,7 +210,7 @@ private:
         }
     }
 
-    Engine m_engine;
+    SqliteEngine m_engine;
     DatabaseCheck m_check;
     RowChecker m_rows{m_engine, m_check.problems};
     std::set<std::string> m_incomplete; // tables that lack a column

@@ -3,10 +3,13 @@
 #include "platform/Failure.h"
 #include "platform/FileDraft.h"
 #include "store/BulkWriter.h"
-#include "store/engine/EditTrail.h"
-#include "store/engine/Engine.h"
 #include "store/FileSteps.h"
+#include "store/postgres/PostgresEngine.h"
+#include "store/postgres/ServerAddress.h"
+#include "store/postgres/ServerCreator.h"
 #include "store/Schema.h"
+#include "store/sqlite/EditTrail.h"
+#include "store/sqlite/SqliteEngine.h"
 
 #include <unistd.h>
 
@@ -15,6 +18,10 @@
 namespace ptk {
 
 namespace {
+
+constexpr const char* kRolesMissing =
+    "The roles ptk_office and ptk_reader are missing, since this login may not make roles: see the chapter on "
+    "several computers in the user's guide.";
 
 // The engine keeps what it has not finished in files of these names, and would finish it in the new database.
 void RefuseLeftovers(const std::string& path)
@@ -41,6 +48,17 @@ void Fill(Engine& engine, const std::function<void(BulkWriter&)>& fill)
     writer.Commit();
 }
 
+std::string CreateOnServer(const std::string& address, const std::function<void(BulkWriter&)>& fill)
+{
+    const ServerRoles roles = CreateServerDatabase(address, [&](PostgresEngine& engine) {
+        if (fill) {
+            BulkWriter writer(engine);
+            fill(writer);
+        }
+    });
+    return roles == ServerRoles::Ready ? "" : kRolesMissing;
+}
+
 void RefuseTaken(const std::string& path)
 {
     if (IsThere(path)) {
@@ -51,15 +69,19 @@ void RefuseTaken(const std::string& path)
 
 } // namespace
 
-void CreateDatabase(const std::string& path, const std::function<void(BulkWriter&)>& fill)
+std::string CreateDatabase(const std::string& path, const std::function<void(BulkWriter&)>& fill)
 {
+    if (IsServerAddress(path)) {
+        return CreateOnServer(path, fill);
+    }
     RefuseTaken(path);
     FileDraft draft(path);
     {
-        Engine engine(draft.Path(), NewFile{});
+        SqliteEngine engine(draft.Path(), NewFile{});
         Fill(engine, fill);
     }
     draft.PlaceNew();
+    return {};
 }
 
 void CreateAndChangeDatabase(const std::string& path, const std::function<void(Engine&)>& change)
@@ -67,7 +89,7 @@ void CreateAndChangeDatabase(const std::string& path, const std::function<void(E
     RefuseTaken(path);
     FileDraft draft(path);
     {
-        Engine engine(draft.Path(), NewFile{});
+        SqliteEngine engine(draft.Path(), NewFile{});
         Fill(engine, {});
         change(engine);
     }
@@ -78,7 +100,7 @@ void WithPassingDatabase(const std::function<void(Engine&)>& change)
 {
     const std::string name = "ptk-trial-" + std::to_string(::geteuid()) + ".mdb"; // so that the next one removes what a killed one left
     const FileDraft draft((std::filesystem::temp_directory_path() / name).string());
-    Engine engine(draft.Path(), NewFile{});
+    SqliteEngine engine(draft.Path(), NewFile{});
     Fill(engine, {});
     change(engine);
 }

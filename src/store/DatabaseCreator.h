@@ -1,4 +1,4 @@
-// Makes a new database file.
+// Makes a new database.
 #pragma once
 
 #include <functional>
@@ -13,7 +13,10 @@ class Engine;
 // appears under `path` (in the platform's own form) complete and safely on disk, or not at all; what killed attempts left beside it goes.
 // Raises 75 when there is something of that name already, which stays untouched, or a -journal, -wal or -shm of another database of that
 // name, 76 without the folder, 70, 61, 57, the engine's failures, and what `fill` raises.
-void CreateDatabase(const std::string& path, const std::function<void(BulkWriter&)>& fill = {});
+//
+// With a server's address as `path` the tables and all else are made in its empty database, in one transaction: 75 where they are there
+// already, or where the database is not in UTF8. Answers what is left for the server's owner to do, in a sentence; empty: nothing.
+std::string CreateDatabase(const std::string& path, const std::function<void(BulkWriter&)>& fill = {});
 
 // The same, but what `change` does to the new database is a change that it tells.
 void CreateAndChangeDatabase(const std::string& path, const std::function<void(Engine&)>& change);

@@ -1,10 +1,10 @@
-// The display name of an employee in the engine's own words.
+// The display name of an employee in SQL.
 #pragma once
 
 namespace ptk {
 
 // As CEmployee puts it together: first name, blank, last name, or the last name alone. Never null.
 inline constexpr const char* kDisplayNameSql =
-    "IIF(IFNULL(FirstName, '') = '', IFNULL(LastName, ''), FirstName || ' ' || IFNULL(LastName, ''))";
+    "CASE WHEN COALESCE(FirstName, '') = '' THEN COALESCE(LastName, '') ELSE FirstName || ' ' || COALESCE(LastName, '') END";
 
 } // namespace ptk

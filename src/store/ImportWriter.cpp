@@ -2,9 +2,9 @@
 
 #include "platform/Failure.h"
 #include "store/DatabaseCreator.h"
-#include "store/engine/Engine.h"
 #include "store/engine/RecordSet.h"
 #include "store/FileSteps.h"
+#include "store/sqlite/SqliteEngine.h"
 
 #include <fmt/format.h>
 #include <utility>
@@ -63,7 +63,7 @@ void Change(Engine& engine, const ImportTarget& target, const std::function<void
     engine.Write([&] {
         RefuseUnlessEmpty(engine);
         engine.Untold([&] { fill(engine); });
-        AddWholeEntry(engine, "import", target.file);
+        engine.AddWholeEntry("import", target.file);
     });
 }
 
@@ -160,7 +160,7 @@ ImportFigures ReadFigures(Engine& engine)
 
 void RefuseUnlessEmpty(const std::string& database)
 {
-    Engine engine(database, ReadOnly{});
+    SqliteEngine engine(database, ReadOnly{});
     RefuseUnlessEmpty(engine);
 }
 
@@ -169,7 +169,7 @@ void Import(const ImportTarget& target, const std::function<void(Engine&)>& fill
     if (!IsThere(target.database)) {
         return CreateAndChangeDatabase(target.database, [&](Engine& engine) { Change(engine, target, fill); });
     }
-    Engine engine(target.database);
+    SqliteEngine engine(target.database);
     engine.KeepCopy([&] { target.keepCopy(engine); });
     Change(engine, target, fill);
 }

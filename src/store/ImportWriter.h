@@ -1,8 +1,8 @@
 // The rows of an import on their way into a database that holds nothing yet.
 #pragma once
 
-#include "store/engine/EditTrail.h"
 #include "store/ImportTables.h"
+#include "store/sqlite/EditTrail.h"
 
 #include <array>
 #include <cstdint>
@@ -16,6 +16,7 @@
 namespace ptk {
 
 class Engine;
+class SqliteEngine;
 class Statement;
 
 // What an import can be told by, of what was to be written and of what was. Minutes are those of the wall clock between start and end, both
@@ -82,7 +83,7 @@ struct ImportTarget
     std::string database; // in the platform's own form; a missing one is made
     std::string file;     // where the rows come from, for the trail
     Author author;
-    std::function<void(Engine&)> keepCopy; // called before a database of an earlier version is brought up to date
+    std::function<void(SqliteEngine&)> keepCopy; // called before a database of an earlier version is brought up to date
 };
 
 // Raises a failure without a number where there is a database that holds companies, time records or more employees than the administrator,

@@ -3,8 +3,7 @@
 #include "platform/FileDraft.h"
 #include "store/BackupNames.h"
 #include "store/Backups.h"
-#include "store/engine/Engine.h"
-#include "store/engine/EngineFailure.h"
+#include "store/engine/EngineSource.h"
 #include "store/FileSteps.h"
 
 #include <algorithm>
@@ -26,25 +25,25 @@ constexpr std::int32_t kNoDatabase = 26;
 
 bool IsSpoiled(const Failure& failure)
 {
-    return failure.Source() == kEngineSource && (failure.Number() == kCorrupt || failure.Number() == kNoDatabase);
+    return IsOfDatabase(failure) && (failure.Number() == kCorrupt || failure.Number() == kNoDatabase);
 }
 
-void AddEntry(Engine& restored, const RestoreOrder& order)
+void AddEntry(SqliteEngine& restored, const RestoreOrder& order)
 {
-    if (!HasTrail(restored)) {
+    if (!restored.HasTrail()) {
         return;
     }
     restored.SignAs(order.author);
-    restored.Write([&] { AddWholeEntry(restored, "restore", order.file); });
+    restored.Write([&] { restored.AddWholeEntry("restore", order.file); });
 }
 
 void FillDraft(const FileDraft& draft, const RestoreOrder& order, const CopyProgress& progress)
 {
     {
-        Engine(order.file, ReadOnly{}).CopyTo(draft.Path(), progress);
+        SqliteEngine(order.file, ReadOnly{}).CopyTo(draft.Path(), progress);
     }
     static_cast<void>(ExamineBackup(draft.Path()));
-    Engine restored(draft.Path());
+    SqliteEngine restored(draft.Path());
     AddEntry(restored, order);
 }
 
@@ -96,7 +95,7 @@ bool HasLeftovers(const RestoreOrder& order)
 // The present database, held while it is replaced, and what was kept of it.
 struct Present
 {
-    std::unique_ptr<Engine> held;
+    std::unique_ptr<SqliteEngine> held;
     std::string kept;
 };
 
@@ -106,7 +105,7 @@ Present KeepPresent(const RestoreOrder& order, const CopyProgress& progress)
         return {nullptr, HasLeftovers(order) ? KeepSpoiled(order) : std::string()};
     }
     try {
-        Present present{std::make_unique<Engine>(order.database), {}};
+        Present present{std::make_unique<SqliteEngine>(order.database), {}};
         present.kept = BackUp(*present.held, order.backups, order.now, progress);
         return present;
     } catch (const Failure& failure) {

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "platform/DateTime.h"
-#include "store/engine/EditTrail.h"
-#include "store/engine/Engine.h"
+#include "store/engine/Author.h"
+#include "store/sqlite/SqliteEngine.h"
 
 #include <string>
 

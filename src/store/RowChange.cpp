@@ -33,13 +33,13 @@ std::string TextLiteral(const std::string& text)
     return "CAST(X'" + hex + "' AS TEXT)";
 }
 
-std::string Literal(const TrailValue& value)
+std::string Literal(const TrailValue& value, const EngineWords& words)
 {
     switch (value.kind) {
     case TrailValue::Kind::Null:
         return "NULL";
     case TrailValue::Kind::Number:
-        return value.text; // 17 digits, which read back to the same double
+        return Said(words.number, value.text); // 17 digits, which read back to the same double
     case TrailValue::Kind::Text:
         return TextLiteral(value.text);
     default:
@@ -56,12 +56,12 @@ std::string Quoted(const std::string& name)
     return quoted + "\"";
 }
 
-// " AND a IS 1 AND b IS 'x'".
-std::string Holding(const TrailRow& row)
+// " AND a is 1 AND b is 'x'", where a null is like another.
+std::string Holding(const TrailRow& row, const EngineWords& words)
 {
     std::string conditions;
     for (const TrailValue& value : row) {
-        conditions += " AND " + Quoted(value.column) + " IS " + Literal(value);
+        conditions += " AND " + Quoted(value.column) + " IS NOT DISTINCT FROM " + Literal(value, words);
     }
     return conditions;
 }
@@ -95,31 +95,42 @@ void RequireUntouched(Engine& engine, const RowChange& change, const KnownSteps&
     }
 }
 
-// A person's time records and a company's people would be nobody's.
-void RequireUnused(Engine& engine, const RowChange& change)
+void RequireNone(Engine& engine, const RowChange& change, const char* table, const char* column)
 {
-    if ((change.table == "Employee" && Any(engine, fmt::format("TimeRecord WHERE EmployeeID = {}", change.row))) ||
-        (change.table == "Company" && Any(engine, fmt::format("Employee WHERE CompanyID = {}", change.row)))) {
+    if (const std::string lock = Said(engine.Words().lockTable, table); !lock.empty()) {
+        engine.Prepare(lock)->Run();
+    }
+    if (Any(engine, fmt::format("{} WHERE {} = {}", table, column, change.row))) {
         Refuse(change);
     }
 }
 
-std::string InsertSql(const RowChange& change)
+// A person's time records and a company's people would be nobody's.
+void RequireUnused(Engine& engine, const RowChange& change)
+{
+    if (change.table == "Employee") {
+        RequireNone(engine, change, "TimeRecord", "EmployeeID");
+    } else if (change.table == "Company") {
+        RequireNone(engine, change, "Employee", "CompanyID");
+    }
+}
+
+std::string InsertSql(const RowChange& change, const EngineWords& words)
 {
     std::string columns;
     std::string values;
     for (const TrailValue& value : *change.after) {
         columns += (columns.empty() ? "" : ", ") + Quoted(value.column);
-        values += (values.empty() ? "" : ", ") + Literal(value);
+        values += (values.empty() ? "" : ", ") + Literal(value, words);
     }
     return fmt::format("INSERT INTO {} ({}) VALUES ({})", change.table, columns, values);
 }
 
-std::string UpdateSql(const RowChange& change)
+std::string UpdateSql(const RowChange& change, const EngineWords& words)
 {
     std::string set;
     for (const TrailValue& value : *change.after) {
-        set += (set.empty() ? "" : ", ") + Quoted(value.column) + " = " + Literal(value);
+        set += (set.empty() ? "" : ", ") + Quoted(value.column) + " = " + Literal(value, words);
     }
     return fmt::format("UPDATE {} SET {} WHERE {} = {}", change.table, set, KeyOf(change.table), KeyNow(change));
 }
@@ -132,13 +143,13 @@ void RedoOne(Engine& engine, const RowChange& change, const KnownSteps& known)
         if (Any(engine, row)) {
             Refuse(change);
         }
-        return engine.Prepare(InsertSql(change))->Run();
+        return engine.Prepare(InsertSql(change, engine.Words()))->Run();
     }
-    if (!Any(engine, row + Holding(*change.before))) {
+    if (!Any(engine, row + Holding(*change.before, engine.Words()) + engine.Words().lockRows)) {
         Refuse(change);
     }
     if (change.after) {
-        return engine.Prepare(UpdateSql(change))->Run();
+        return engine.Prepare(UpdateSql(change, engine.Words()))->Run();
     }
     RequireUnused(engine, change);
     engine.Prepare("DELETE FROM " + row)->Run();
@@ -160,11 +171,6 @@ void Redo(Engine& engine, const std::vector<RowChange>& changes, const KnownStep
     for (const RowChange& change : changes) {
         RedoOne(engine, change, known);
     }
-}
-
-std::int64_t NewestEntry(Engine& engine)
-{
-    return NextStep(engine) - 1;
 }
 
 } // namespace ptk

@@ -37,7 +37,4 @@ struct KnownSteps
 // that somebody else changed it meanwhile, or others rely on a row that is to go. A row that comes back has its number again.
 void Redo(Engine& engine, const std::vector<RowChange>& changes, const KnownSteps& known);
 
-// Its number; 0 without one.
-[[nodiscard]] std::int64_t NewestEntry(Engine& engine);
-
 } // namespace ptk

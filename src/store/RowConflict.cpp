@@ -157,7 +157,10 @@ std::shared_ptr<RecordSet> Required(std::shared_ptr<RecordSet> row, const TableC
 std::shared_ptr<RecordSet> ListedRow(Engine& engine, const char* listing, const TableColumns& table, std::int32_t key)
 {
     const Parameter parameter{"key", key};
-    return Required(engine.PrepareStored(listing, std::string(table.names.front()) + " = :key", {&parameter, 1})->ReadRows(), table, key);
+    return Required(
+        engine.PrepareStored(listing, fmt::format("{} = :key{}", table.names.front(), engine.Words().lockRows), {&parameter, 1})
+            ->ReadRows(),
+        table, key);
 }
 
 } // namespace
@@ -195,7 +198,8 @@ void RequireAsRead(Engine& engine, const CompanyRow& read)
 
 void RequireAsRead(Engine& engine, const TimeRecordRow& read)
 {
-    const auto search = engine.Prepare("SELECT TimeRecordID, EmployeeID, StartTime, EndTime FROM TimeRecord WHERE TimeRecordID = :key");
+    const auto search = engine.Prepare(fmt::format(
+        "SELECT TimeRecordID, EmployeeID, StartTime, EndTime FROM TimeRecord WHERE TimeRecordID = :key{}", engine.Words().lockRows));
     search->Bind("key", read.TimeRecordID);
     const auto row = Required(search->ReadRows(), TimeRecordTable(), read.TimeRecordID);
     Require("TimeRecord", read.TimeRecordID, Differences(read, RowReader(*row, TimeRecordTable()).ReadTimeRecord()));
@@ -203,7 +207,8 @@ void RequireAsRead(Engine& engine, const TimeRecordRow& read)
 
 OptionsRow PresentOptions(Engine& engine)
 {
-    const auto row = engine.Select("SELECT program, version, period_length, auto_shift_start_time, auto_shift_end_time FROM _System");
+    const auto row = engine.Select(fmt::format(
+        "SELECT program, version, period_length, auto_shift_start_time, auto_shift_end_time FROM _System{}", engine.Words().lockRows));
     OptionsRow present;
     RowReader(*row, OptionsTable()).ReadOptions(present);
     return present;

@@ -7,4 +7,11 @@ extern const char* const kSchemaSql;        // tables, index, format numbers, th
 extern const char* const kStoredQueriesSql; // the rows of _StoredQuery
 extern const char* const kTrailSql;         // the edit trail: tables, indexes, triggers
 
+// The same for a server, to be run in this order.
+extern const char* const kServerSchemaSql;
+extern const char* const kServerStoredQueriesSql;
+extern const char* const kServerTrailFunctionsSql; // may be run again over an older version of them
+extern const char* const kServerTrailSql;
+extern const char* const kServerRolesSql; // may be run again; leaves the roles out where whoever runs it may not make them
+
 } // namespace ptk

@@ -1,7 +1,7 @@
 #include "store/TrailReader.h"
 
 #include "store/CJetDB.h"
-#include "store/engine/RecordSet.h"
+#include "store/engine/EngineWords.h"
 #include "store/engine/Statement.h"
 #include "store/TrailSQL.h"
 
@@ -10,9 +10,6 @@
 namespace ptk {
 
 namespace {
-
-constexpr const char* kFields = "SELECT key, type, CASE type WHEN 'real' THEN printf('%!.17g', atom) WHEN 'object' THEN "
-                                "json_extract(value, '$.blob') ELSE atom END FROM json_each(:json)";
 
 // From one person to the next by their index, however many entries each has.
 constexpr const char* kPersons = "WITH RECURSIVE Person (name) AS (SELECT MIN(ChangedBy) FROM _Change WHERE ChangedBy > '' UNION ALL "
@@ -33,7 +30,7 @@ std::optional<std::int64_t> NumberOf(const Statement& row, int column)
 class RowParser
 {
 public:
-    explicit RowParser(CJetDB& database) : m_fields(RequireSelect(database, kFields)) {}
+    explicit RowParser(CJetDB& database) : m_fields(RequireSelect(database, database.Words().jsonFields)) {}
 
     std::optional<TrailRow> Parse(const Statement& entry, int column)
     {
@@ -79,15 +76,6 @@ TrailEntry EntryOf(const Statement& row, RowParser& parser)
     return entry;
 }
 
-bool HasTrail(CJetDB& database)
-{
-    const auto found = database.ExecuteSelect(kFindTrail);
-    if (found == nullptr) {
-        throw database.LastFailure();
-    }
-    return found->Int32At(0) == 2;
-}
-
 } // namespace
 
 const TrailValue* ValueOf(const TrailRow& row, std::string_view column)
@@ -100,11 +88,11 @@ void ReadTrail(const std::shared_ptr<CJetDB>& database, const TrailQuery& query,
 {
     const CJetDB::Hold hold(database);
     RequireOpen(*database);
-    if (!HasTrail(*database)) {
+    if (!database->HasTrail()) {
         return;
     }
     RowParser parser(*database);
-    const auto entries = RequireSelect(*database, TrailSql(query));
+    const auto entries = RequireSelect(*database, TrailSql(query, database->Words()));
     BindTrail(*entries, query);
     entries->ForEachRow([&] { take(EntryOf(*entries, parser)); });
 }
@@ -121,7 +109,7 @@ std::vector<std::string> ReadTrailPersons(const std::shared_ptr<CJetDB>& databas
     const CJetDB::Hold hold(database);
     RequireOpen(*database);
     std::vector<std::string> persons;
-    if (HasTrail(*database)) {
+    if (database->HasTrail()) {
         const auto names = RequireSelect(*database, kPersons);
         names->ForEachRow([&] { persons.emplace_back(names->TextAt(0)); });
     }

@@ -1,6 +1,7 @@
 #include "store/TrailSQL.h"
 
 #include "platform/Text.h"
+#include "store/engine/EngineWords.h"
 #include "store/engine/Statement.h"
 #include "store/TrailReader.h"
 
@@ -11,13 +12,16 @@ namespace ptk {
 
 namespace {
 
-constexpr const char* kColumns = "ChangeID, ChangedAt, ChangedBy, Program, Step, TableName, RowID, Action, "
-                                 "CASE WHEN json_valid(Before) THEN Before END, CASE WHEN json_valid(After) THEN After END, "
-                                 "IFNULL(EmployeeAfter, EmployeeBefore)";
+std::string Columns(const EngineWords& words)
+{
+    return fmt::format("ChangeID, ChangedAt, ChangedBy, Program, Step, TableName, RowID, Action, {}, {}, "
+                       "COALESCE(EmployeeAfter, EmployeeBefore)",
+                       Said(words.json, "Before"), Said(words.json, "After"));
+}
 
 // An employee's entries in two halves: each finds an entry once, by its own index and in the order of the numbers.
 constexpr const char* kAfterOf = "EmployeeAfter = CAST(:employee AS INTEGER)";
-constexpr const char* kBeforeOf = "EmployeeBefore = CAST(:employee AS INTEGER) AND EmployeeBefore IS NOT EmployeeAfter";
+constexpr const char* kBeforeOf = "EmployeeBefore = CAST(:employee AS INTEGER) AND EmployeeBefore IS DISTINCT FROM EmployeeAfter";
 
 // The conditions of the partial indexes stand here to the letter.
 const char* ConditionOf(TrailKind kind)
@@ -26,14 +30,19 @@ const char* ConditionOf(TrailKind kind)
     case TrailKind::TimeRecords:
         return "TableName = 'TimeRecord'";
     case TrailKind::Employees:
-        return "TableName IS NOT 'TimeRecord' AND TableName = 'Employee'";
+        return "TableName IS DISTINCT FROM 'TimeRecord' AND TableName = 'Employee'";
     case TrailKind::Companies:
-        return "TableName IS NOT 'TimeRecord' AND TableName = 'Company'";
+        return "TableName IS DISTINCT FROM 'TimeRecord' AND TableName = 'Company'";
     case TrailKind::Options:
-        return "TableName IS NOT 'TimeRecord' AND TableName IN ('_System', '_CheckLimits')";
+        return "TableName IS DISTINCT FROM 'TimeRecord' AND TableName IN ('_System', '_CheckLimits')";
     default:
-        return "TableName IS NOT 'TimeRecord' AND TableName IS NULL";
+        return "TableName IS DISTINCT FROM 'TimeRecord' AND TableName IS NULL";
     }
+}
+
+std::string NumberList(const std::vector<std::int64_t>& numbers)
+{
+    return numbers.empty() ? "NULL" : fmt::format("{}", fmt::join(numbers, ","));
 }
 
 std::string Conditions(const TrailQuery& query)
@@ -44,34 +53,34 @@ std::string Conditions(const TrailQuery& query)
     sql += query.to ? " AND ChangedAt < :behind" : "";
     sql += query.step ? " AND Step = :step" : "";
     if (query.person) {
-        sql += query.person->empty() ? " AND IFNULL(ChangedBy, '') = ''" : " AND ChangedBy = :person";
+        sql += query.person->empty() ? " AND COALESCE(ChangedBy, '') = ''" : " AND ChangedBy = :person";
     }
     sql += query.kind ? std::string(" AND ") + ConditionOf(*query.kind) : "";
     sql += query.action.empty() ? "" : " AND Action = :action";
-    sql += query.records ? " AND TableName = 'TimeRecord' AND RowID IN (SELECT value FROM json_each(:records))" : "";
+    sql += query.records ? fmt::format(" AND TableName = 'TimeRecord' AND RowID IN ({})", NumberList(*query.records)) : "";
     sql += query.recordsIn ? " AND (TableName = 'Employee' OR TableName = 'TimeRecord' AND RowID IN (SELECT Record FROM InDays))" : "";
     return sql;
 }
 
 // An entry tells only the columns that changed: one moment in the days is enough to know the record by.
-std::string TellsMomentInDays()
+std::string TellsMomentInDays(const EngineWords& words)
 {
     std::string sql;
     for (const char* side : {"Before", "After"}) {
         for (const char* column : {"StartTime", "EndTime"}) {
-            sql += fmt::format("{}json_extract({}, '$.{}') BETWEEN :first AND :last", sql.empty() ? "" : " OR ", side, column);
+            sql += fmt::format("{}{} BETWEEN :first AND :last", sql.empty() ? "" : " OR ", Said(words.jsonField, side, column));
         }
     }
-    return "CASE WHEN json_valid(IFNULL(Before, '{}')) AND json_valid(IFNULL(After, '{}')) THEN " + sql + " END";
+    return '(' + sql + ')';
 }
 
 // The keys of the employee's records that lie in the days now, and of those that did.
-std::string RecordsInDays()
+std::string RecordsInDays(const EngineWords& words)
 {
-    const std::string did = "UNION SELECT RowID FROM _Change WHERE TableName = 'TimeRecord' AND " + TellsMomentInDays() + " AND ";
-    return std::string("WITH InDays (Record) AS MATERIALIZED (SELECT TimeRecordID FROM TimeRecord WHERE EmployeeID = "
-                       "CAST(:employee AS INTEGER) AND (StartTime BETWEEN :first AND :last OR EndTime BETWEEN :first AND :last) ") +
-           did + kAfterOf + " " + did + kBeforeOf + ") ";
+    const std::string did = "UNION SELECT RowID FROM _Change WHERE TableName = 'TimeRecord' AND " + TellsMomentInDays(words) + " AND ";
+    return fmt::format("WITH InDays (Record) AS MATERIALIZED (SELECT TimeRecordID FROM TimeRecord WHERE EmployeeID = "
+                       "CAST(:employee AS INTEGER) AND ({} OR {}) {}{} {}{}) ",
+                       Said(words.inDays, "StartTime"), Said(words.inDays, "EndTime"), did, kAfterOf, did, kBeforeOf);
 }
 
 std::string Day(DateTime date)
@@ -108,14 +117,14 @@ void BindNumber(Statement& statement, const char* name, const std::optional<std:
 
 } // namespace
 
-std::string TrailSql(const TrailQuery& query)
+std::string TrailSql(const TrailQuery& query, const EngineWords& words)
 {
-    const std::string select = fmt::format("SELECT {} FROM _Change WHERE {}", kColumns, Conditions(query));
+    const std::string select = fmt::format("SELECT {} FROM _Change WHERE {}", Columns(words), Conditions(query));
     const std::string end = fmt::format(" ORDER BY 1 DESC LIMIT {}", query.most);
     if (!query.employee) {
         return select + end;
     }
-    return (query.recordsIn ? RecordsInDays() : "") + select + " AND " + kAfterOf + " UNION ALL " + select + " AND " + kBeforeOf + end;
+    return (query.recordsIn ? RecordsInDays(words) : "") + select + " AND " + kAfterOf + " UNION ALL " + select + " AND " + kBeforeOf + end;
 }
 
 void BindTrail(Statement& statement, const TrailQuery& query)
@@ -130,9 +139,6 @@ void BindTrail(Statement& statement, const TrailQuery& query)
     }
     if (!query.action.empty()) {
         statement.Bind("action", query.action);
-    }
-    if (query.records) {
-        statement.Bind("records", fmt::format("[{}]", fmt::join(*query.records, ",")));
     }
 }
 

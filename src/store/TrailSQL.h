@@ -1,4 +1,4 @@
-// The questions to the edit trail, in the engine's own words.
+// The questions to the edit trail.
 #pragma once
 
 #include <string>
@@ -6,6 +6,7 @@
 namespace ptk {
 
 class Statement;
+struct EngineWords;
 struct TrailQuery;
 
 namespace trailsql {
@@ -30,7 +31,7 @@ enum Column
 
 // The statement that answers such a query, newest first. What it reads to the first entries does not grow with the trail where the query
 // names an employee, a person, records, or a kind other than time records; else it reads from the newest entry on.
-[[nodiscard]] std::string TrailSql(const TrailQuery& query);
+[[nodiscard]] std::string TrailSql(const TrailQuery& query, const EngineWords& words);
 
 // All that it asks for.
 void BindTrail(Statement& statement, const TrailQuery& query);

@@ -1,10 +1,10 @@
-# Puts the SQL of data/ into the library ptk_store.
-set(PTK_SCHEMA_SQL ${CMAKE_SOURCE_DIR}/data/schema.sql)
-set(PTK_STORED_QUERIES_SQL ${CMAKE_SOURCE_DIR}/data/stored_queries.sql)
-set(PTK_TRAIL_SQL ${CMAKE_SOURCE_DIR}/data/trail.sql)
-set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${PTK_SCHEMA_SQL} ${PTK_STORED_QUERIES_SQL} ${PTK_TRAIL_SQL})
-file(READ ${PTK_SCHEMA_SQL} PTK_SCHEMA)
-file(READ ${PTK_STORED_QUERIES_SQL} PTK_STORED_QUERIES)
-file(READ ${PTK_TRAIL_SQL} PTK_TRAIL)
+# Puts the SQL of data/ into the library ptk_store: PTK_SQL_<name> for each file.
+set(sql_files schema stored_queries trail postgres/schema postgres/stored_queries postgres/trail_functions postgres/trail postgres/roles)
+foreach(name ${sql_files})
+  set(file ${CMAKE_SOURCE_DIR}/data/${name}.sql)
+  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${file})
+  string(REPLACE "/" "_" variable ${name})
+  file(READ ${file} PTK_SQL_${variable})
+endforeach()
 configure_file(${CMAKE_SOURCE_DIR}/src/store/Schema.cpp.in ${CMAKE_BINARY_DIR}/generated/store/Schema.cpp @ONLY)
 target_sources(ptk_store PRIVATE ${CMAKE_BINARY_DIR}/generated/store/Schema.cpp)

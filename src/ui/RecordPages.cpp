@@ -11,13 +11,18 @@
 #include "ui/widgets/NoticeLine.h"
 
 #include <algorithm>
+#include <chrono>
+#include <QApplication>
 #include <QEvent>
 #include <QStackedWidget>
 #include <QTabBar>
+#include <QTimer>
 
 namespace ptk {
 
 namespace {
+
+constexpr std::chrono::seconds kBetweenLooks(2);
 
 constexpr auto kLoaded = "What is stored now was loaded";
 constexpr auto kNotLoaded = "what is stored now could not be loaded: ";
@@ -30,6 +35,13 @@ RecordPages::RecordPages(QWidget& window, Frame frame, const std::array<Place, 3
     window.installEventFilter(this);
     connect(&m_frame.pages, &QStackedWidget::currentChanged, this, &RecordPages::LookSoon);
     connect(&m_frame.host.SharedRecords(), &SharedRecords::ReadAgainWanted, this, &RecordPages::ReadAgain);
+    auto* const timer = new QTimer(this);
+    connect(timer, &QTimer::timeout, this, [this] {
+        if (m_frame.host.SharedRecords().IsTold()) {
+            Look();
+        }
+    });
+    timer->start(kBetweenLooks);
     connect(&m_frame.host.SharedRecords(), &SharedRecords::NotRemembered, this, &RecordPages::TellNotRemembered, Qt::QueuedConnection);
 }
 
@@ -101,9 +113,23 @@ void RecordPages::Look()
         return;
     }
     m_frame.host.SharedRecords().Look();
+    if (m_frame.host.SharedRecords().IsTold()) {
+        ReadIdleLists();
+    }
     for (const Place& place : m_places) {
         if (place.tab == m_frame.pages.currentIndex()) {
             Succeeds([&] { place.page.TellChanges(); });
+        }
+    }
+}
+
+// Not while something is chosen from a list that drops down.
+void RecordPages::ReadIdleLists()
+{
+    for (const Place& place : m_places) {
+        const auto list = place.page.IdleList();
+        if (list && m_frame.host.SharedRecords().IsAnyChanged(*list) && QApplication::activePopupWidget() == nullptr) {
+            Succeeds([&] { place.page.ReadAgain(std::nullopt); });
         }
     }
 }

@@ -16,7 +16,8 @@ class NoticeLine;
 class PageHost;
 class RecordPage;
 
-// Looks for other people's changes whenever the window or one of the pages comes to the front, but never while `isBusy`.
+// Looks for other people's changes whenever the window or one of the pages comes to the front, and every two seconds where the database
+// tells them by itself; but never while `isBusy`. In the latter case lists of people and companies are kept as they are stored, too.
 class RecordPages final : public QObject
 {
     Q_OBJECT
@@ -55,6 +56,7 @@ private:
     std::string ReadPages(const MovedStep& step);
     void LookSoon();
     void Look();
+    void ReadIdleLists();
     [[nodiscard]] NoticeLine* Line() const;
 
     Frame m_frame;

@@ -37,6 +37,8 @@ public:
     void Look();
     void AboutToRead(Shown what);
     void AboutToRead(Shown what, std::int64_t row);
+    [[nodiscard]] bool IsTold() const { return m_watch != nullptr && m_watch->IsTold(); }
+    [[nodiscard]] bool IsAnyChanged(Shown what) const { return m_watch != nullptr && m_watch->IsAnyChanged(what); }
     [[nodiscard]] bool IsChanged(Shown what, std::int64_t row) const;
 
     // Says in a page's line that `whose` was changed by somebody else, with a button that has all pages read again; nothing while the line

@@ -1,7 +1,7 @@
 #include "console/ConsoleFixture.h"
 
 #include "store/BackupNames.h"
-#include "store/engine/Engine.h"
+#include "store/sqlite/SqliteEngine.h"
 
 #include <unistd.h>
 
@@ -16,7 +16,7 @@ class HistoryAndBackupsTest : public ConsoleTest
 protected:
     void SetUp() override { ASSERT_EQ(Run({"create-database", "--sample", "--today", "3/20/2026"}).status, 0); }
 
-    void Elsewhere(const std::string& sql) const { Engine(Database().string()).Execute(sql); }
+    void Elsewhere(const std::string& sql) const { SqliteEngine(Database().string()).Execute(sql); }
     std::string Backup(const std::string& name) const { return (Folder() / "backups" / name).string(); }
 };
 

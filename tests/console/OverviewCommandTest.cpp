@@ -2,8 +2,8 @@
 
 #include "platform/Text.h"
 
-#include "store/engine/Engine.h"
 #include "store/engine/Statement.h"
+#include "store/sqlite/SqliteEngine.h"
 
 #include <algorithm>
 #include <set>
@@ -17,7 +17,7 @@ class OverviewCommandTest : public ConsoleTest
 {
 protected:
     void MakeSample() { ASSERT_EQ(Run({"create-database", "--sample"}).status, 0); }
-    void Change(const std::string& sql) const { Engine(Database().string()).Execute(sql); }
+    void Change(const std::string& sql) const { SqliteEngine(Database().string()).Execute(sql); }
 
     static int Count(const std::string& text, const std::string& part)
     {

@@ -1,6 +1,6 @@
 // Who changed what: the history as a window, and how a card leads to it.
 #include "gui/PageFixture.h"
-#include "store/engine/Engine.h"
+#include "store/sqlite/SqliteEngine.h"
 #include "ui/widgets/DateCombo.h"
 
 namespace ptk {
@@ -38,7 +38,7 @@ protected:
     }
 
     // As another tool would.
-    void Elsewhere(const std::string& sql) const { Engine(NativePath(program.databasePath).string()).Execute(sql); }
+    void Elsewhere(const std::string& sql) const { SqliteEngine(NativePath(program.databasePath).string()).Execute(sql); }
     void Date() const { Elsewhere("UPDATE _Change SET ChangedAt = '2003-03-05 08:05:09'"); }
     QTableView& Grid() { return The<QTableView>("grdTimeRecs"); }
     void Open(const char* action) { Find<QAction>(Main(), action).trigger(); }

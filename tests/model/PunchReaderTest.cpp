@@ -6,8 +6,8 @@
 #include "store/BulkWriter.h"
 #include "store/CJetDB.h"
 #include "store/DatabaseCreator.h"
-#include "store/engine/Engine.h"
 #include "store/engine/Statement.h"
+#include "store/sqlite/SqliteEngine.h"
 #include "support/TemporaryFolder.h"
 
 #include <algorithm>
@@ -62,7 +62,7 @@ protected:
     }
 
     std::string Path() const { return m_folder.Path() + "/system/ptk_11.mdb"; }
-    void Run(const std::string& sql) const { Engine(Path()).Execute(sql); }
+    void Run(const std::string& sql) const { SqliteEngine(Path()).Execute(sql); }
 
     Punches Read(std::int32_t employeeID = 40) const
     {

@@ -12,7 +12,7 @@
 #include "reports/ReportDocument.h"
 #include "store/CJetDB.h"
 #include "store/DatabaseCreator.h"
-#include "store/engine/Engine.h"
+#include "store/sqlite/SqliteEngine.h"
 #include "support/Failures.h"
 #include "support/Files.h"
 #include "support/TemporaryFolder.h"
@@ -38,7 +38,7 @@ protected:
     }
 
     std::string Path() const { return m_folder.Path() + "/system/ptk_11.mdb"; }
-    void Elsewhere(const std::string& sql) const { Engine(Path()).Execute(sql); }
+    void Elsewhere(const std::string& sql) const { SqliteEngine(Path()).Execute(sql); }
 
     void By(const char* person, const std::string& sql, const char* program = "ptk-admin")
     {

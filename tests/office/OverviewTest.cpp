@@ -12,8 +12,8 @@
 #include "store/BulkWriter.h"
 #include "store/CJetDB.h"
 #include "store/DatabaseCreator.h"
-#include "store/engine/Engine.h"
 #include "store/engine/Statement.h"
+#include "store/sqlite/SqliteEngine.h"
 #include "support/Failures.h"
 #include "support/TemporaryFolder.h"
 
@@ -63,8 +63,8 @@ protected:
     std::string Path() const { return m_folder.Path() + "/system/ptk_11.mdb"; }
     void Add(const std::string& start, const std::string& end, std::int32_t employee)
     {
-        Engine(Path()).Execute("INSERT INTO TimeRecord (EmployeeID, StartTime, EndTime) VALUES (" + std::to_string(employee) + ", " +
-                               start + ", " + end + ")");
+        SqliteEngine(Path()).Execute("INSERT INTO TimeRecord (EmployeeID, StartTime, EndTime) VALUES (" + std::to_string(employee) + ", " +
+                                     start + ", " + end + ")");
     }
 
     TemporaryFolder m_folder;

@@ -5,8 +5,8 @@
 #include "office/History.h"
 #include "store/CJetDB.h"
 #include "store/DatabaseCreator.h"
-#include "store/engine/Engine.h"
 #include "store/engine/RecordSet.h"
+#include "store/sqlite/SqliteEngine.h"
 #include "support/TemporaryFolder.h"
 
 #include <fmt/format.h>
@@ -31,12 +31,12 @@ protected:
     std::string Path() const { return m_folder.Path() + "/system/ptk_11.mdb"; }
 
     // By another tool, or another window.
-    void Elsewhere(const std::string& sql) const { Engine(Path()).Execute(sql); }
+    void Elsewhere(const std::string& sql) const { SqliteEngine(Path()).Execute(sql); }
 
     std::string Rows(const std::string& sql) const
     {
         std::string text;
-        Engine engine(Path());
+        SqliteEngine engine(Path());
         const auto rows = engine.Prepare(sql);
         rows->ForEachRow([&] { text += std::string(rows->TextAt(0)) + ";"; });
         return text;

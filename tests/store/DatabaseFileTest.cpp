@@ -2,7 +2,7 @@
 #include "store/BulkWriter.h"
 #include "store/DatabaseChecker.h"
 #include "store/DatabaseCreator.h"
-#include "store/engine/Engine.h"
+#include "store/sqlite/SqliteEngine.h"
 #include "store/StoreFixture.h"
 #include "support/Files.h"
 
@@ -118,7 +118,7 @@ TEST_F(DatabaseFileTest, TakesManyRowsInOneTransaction)
         EXPECT_EQ(rows.AddTimeRecord(shift), 2);
     });
     {
-        Engine engine(File("new.mdb"));
+        SqliteEngine engine(File("new.mdb"));
         BulkWriter(engine).AddCompany(mill); // never committed
     }
     RawDatabase file(File("new.mdb"));

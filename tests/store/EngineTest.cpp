@@ -1,7 +1,8 @@
-#include "store/engine/Engine.h"
 #include "store/CTimeRecSQLConverter.h"
 #include "store/engine/RecordSet.h"
 #include "store/engine/Statement.h"
+#include "store/sqlite/SqliteEngine.h"
+#include "store/sqlite/SqliteStatement.h"
 #include "store/StoreFixture.h"
 #include "support/Files.h"
 
@@ -24,7 +25,7 @@ constexpr std::int32_t kFlushesTheFolderToo = 3;
 TEST_F(EngineTest, KeepsNothingOfAFailedStatementAndNothingOfItReachesTheDiskLater)
 {
     Run("CREATE TRIGGER rule BEFORE INSERT ON Company WHEN NEW.Name = 'Bad' BEGIN SELECT RAISE(FAIL, 'no'); END");
-    Engine engine(Path());
+    SqliteEngine engine(Path());
     EXPECT_EQ(FailureOf([&] { engine.Execute("INSERT INTO Company (Name) VALUES ('Good'), ('Bad')"); }), SQLITE_CONSTRAINT);
     EXPECT_EQ(engine.Select("SELECT * FROM Company")->RecordCount(), 0);
     engine.Execute(kInsert);
@@ -35,7 +36,7 @@ TEST_F(EngineTest, KeepsNothingOfAFailedStatementAndNothingOfItReachesTheDiskLat
 TEST_F(EngineTest, StoresSeveralStatementsTogetherOrNoneOfThem)
 {
     Run("CREATE TRIGGER rule BEFORE INSERT ON Company WHEN NEW.Name = 'Bad' BEGIN SELECT RAISE(FAIL, 'no'); END");
-    Engine engine(Path());
+    SqliteEngine engine(Path());
     const auto store = [&](const std::string& last) {
         const std::string statements[] = {kInsert, "UPDATE Company SET Company.City = 'Easton'", last};
         engine.ExecuteAll(statements);
@@ -49,16 +50,21 @@ TEST_F(EngineTest, StoresSeveralStatementsTogetherOrNoneOfThem)
 TEST_F(EngineTest, StopsWhatNeverComesToAnEnd)
 {
     Run("CREATE VIEW Endless AS WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n) SELECT i FROM n");
-    Engine engine(Path());
-    EXPECT_EQ(FailureOf([&] { engine.Prepare("SELECT MAX(i) FROM Endless")->ReadRows(Statement::kAllRows, 2); }), SQLITE_INTERRUPT);
-    const auto rows = engine.Prepare("SELECT i FROM Endless");
-    EXPECT_EQ(rows->ReadRows(50'000, 2)->RecordCount(), 50'000);
-    EXPECT_EQ(FailureOf([&] { rows->ReadRows(500'000, 2); }), SQLITE_INTERRUPT) << "the steps of all portions count";
+    SqliteEngine engine(Path());
+    const auto briefly = [&](const char* sql) {
+        auto statement = engine.Prepare(sql);
+        dynamic_cast<SqliteStatement&>(*statement).AllowSteps(2);
+        return statement;
+    };
+    EXPECT_EQ(FailureOf([&] { briefly("SELECT MAX(i) FROM Endless")->ReadRows(); }), SQLITE_INTERRUPT);
+    const auto rows = briefly("SELECT i FROM Endless");
+    EXPECT_EQ(rows->ReadRows(50'000)->RecordCount(), 50'000);
+    EXPECT_EQ(FailureOf([&] { rows->ReadRows(500'000); }), SQLITE_INTERRUPT) << "the steps of all portions count";
 }
 
 TEST_F(EngineTest, TakesOneStatementOfTheRightKind)
 {
-    Engine engine(Path());
+    SqliteEngine engine(Path());
     for (const char* statement :
          {"", " -- nothing", "SELECT 1; SELECT 2", "DELETE FROM Employee", "INSERT INTO Company (Name) VALUES ('x') RETURNING 1", "COMMIT",
           "SELECT :unknown", "SELECT ?", "SELECT 'open", "SELECT * FROM Nowhere"}) {
@@ -76,7 +82,7 @@ TEST_F(EngineTest, TakesOneStatementOfTheRightKind)
 
 TEST_F(EngineTest, RefusesStoredQueriesThatDoNotFit)
 {
-    Engine engine(Path());
+    SqliteEngine engine(Path());
     const std::vector<Parameter> unknown = {{"paramName", "Mill"}, {"paramCountry", "US"}};
     const std::vector<Parameter> few = {{"paramName", "Mill"}};
     EXPECT_EQ(FailureOf([&] { engine.SelectStored("GetNobody"); }), SQLITE_NOTFOUND);
@@ -94,7 +100,7 @@ TEST_F(EngineTest, RefusesStoredQueriesThatDoNotFit)
 
 TEST_F(EngineTest, StoresEveryKindOfValueInItsForm)
 {
-    Engine engine(Path());
+    SqliteEngine engine(Path());
     engine.BeginMany();
     engine.RunScript("CREATE TABLE Kinds (a, b, c, d SINGLE, e, f DATETIME, g DATETIME, h TEXT)");
     auto insert = engine.Prepare("INSERT INTO Kinds VALUES (:a, :b, :c, :d, :e, :f, :g, :h)");
@@ -119,7 +125,7 @@ TEST_F(EngineTest, StoresEveryKindOfValueInItsForm)
 
 TEST_F(EngineTest, FetchesAPeriodFromTheIndexAlone)
 {
-    Engine engine(Path());
+    SqliteEngine engine(Path());
     const DateTime day(CalendarDate{2003, 3, 5});
     const auto plan = engine.Select("EXPLAIN QUERY PLAN " + CTimeRecSQLConverter().BuildFetchSQL(12, day, day.AddDays(14)));
     ASSERT_EQ(plan->RecordCount(), 1); // one row: nothing is sorted
@@ -137,7 +143,7 @@ TEST_F(EngineTest, ListsEmployeesInTheOrderOfAnIndex)
 TEST_F(EngineTest, HasEverythingOnDiskWhenAStatementAnswers)
 {
     const int status = InAnotherProcess([&] {
-        Engine engine(Path());
+        SqliteEngine engine(Path());
         engine.Execute(kInsert);
         EXPECT_EQ(engine.Select("PRAGMA synchronous")->Int32At(0), kFlushesTheFolderToo);
         if (!HasFailure()) {
@@ -153,14 +159,14 @@ TEST_F(EngineTest, HasEverythingOnDiskWhenAStatementAnswers)
 TEST_F(EngineTest, LosesNothingElseWhenKilledBeforeTheCommit)
 {
     const int status = InAnotherProcess([&] {
-        Engine engine(Path());
+        SqliteEngine engine(Path());
         engine.Execute(kInsert);
         engine.BeginMany();
         engine.RunScript("PRAGMA cache_size=1; DELETE FROM Company; INSERT INTO Company (Name) SELECT hex(randomblob(90000))");
         kill(getpid(), SIGKILL);
     });
     ASSERT_TRUE(WIFSIGNALED(status));
-    Engine engine(Path());
+    SqliteEngine engine(Path());
     EXPECT_EQ(engine.Select("SELECT Name FROM Company")->Field("Name").ToText(), "Mill");
     EXPECT_EQ(engine.Select("PRAGMA integrity_check")->TextAt(0), "ok");
 }
@@ -172,7 +178,7 @@ TEST_F(EngineTest, AFullDiskFailsTheStatementAndLeavesTheFileAsItWas)
                   signal(SIGXFSZ, SIG_IGN);
                   const rlimit limit{before.size(), before.size()};
                   EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &limit), 0);
-                  Engine engine(Path());
+                  SqliteEngine engine(Path());
                   EXPECT_NE(FailureOf([&] { engine.Execute("INSERT INTO Company (Name) SELECT hex(randomblob(90000))"); }), 0);
                   engine.Execute(kInsert); // what still fits goes on
                   EXPECT_EQ(engine.Select("SELECT * FROM Company")->RecordCount(), 1);

@@ -15,11 +15,13 @@ ALLOWED["pages"] = {"reports", "pages"}
 ALLOWED["app"] = {*CORE, "startup", "ui", "app"}
 
 QT_LAYERS = {"ui", "app"}
-SQLITE_FOLDER = "store/engine/"
+SQLITE_FOLDER = "store/sqlite/"
+POSTGRES_FOLDER = "store/postgres/"
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.MULTILINE)
 QT_HEADER = re.compile(r"^(Q[A-Z]\w*|Qt\w+/.*|q[a-z]+\.h)$")
 SQLITE_HEADER = re.compile(r"^(sqlite3\w*\.h|SQLiteCpp/.*)$")
+POSTGRES_HEADER = re.compile(r"^(libpq-fe\.h|libpq/.*)$")
 GENERATED_HEADER = re.compile(r"^(ui_\w+\.h|\w+\.moc)$")
 
 
@@ -35,6 +37,8 @@ def fault(path, quote, header):
         return None if layer in QT_LAYERS else "Qt belongs to " + " and ".join(sorted(QT_LAYERS))
     if SQLITE_HEADER.match(header):
         return None if path.startswith(SQLITE_FOLDER) else "SQLite belongs to " + SQLITE_FOLDER
+    if POSTGRES_HEADER.match(header):
+        return None if path.startswith(POSTGRES_FOLDER) else "the server's library belongs to " + POSTGRES_FOLDER
     if quote == "<" or (layer in QT_LAYERS and GENERATED_HEADER.match(header)):
         return None
     if "/" not in header:

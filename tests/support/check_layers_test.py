@@ -21,7 +21,7 @@ REFUSED = [
 ]
 ACCEPTED = [
     ("startup/CController.cpp", '#include "reports/Report.h"'),
-    ("store/engine/Engine.cpp", "#include <sqlite3.h>"),
+    ("store/sqlite/SqliteEngine.cpp", "#include <sqlite3.h>"),
     ("model/CTimeRecordFactory.cpp", '#include "store/engine/RecordSet.h"'),
     ("console/Session.cpp", '#include "reports/Report.h"'),
     ("ui/FLogin.cpp", '#include "ui_FLogin.h"\n#include <QLineEdit>\n#include "startup/Windows.h"'),

@@ -1,6 +1,8 @@
 #include "console/Program.h"
+#include "console/TerminalPassword.h"
 #include "platform/Clock.h"
 #include "platform/Process.h"
+#include "store/postgres/ServerAddress.h"
 
 #include <iostream>
 #include <unistd.h>
@@ -9,6 +11,7 @@ int main(int argc, char* argv[])
 {
     ptk::SettleProcess();
     std::ios::sync_with_stdio(false);
+    ptk::AskForPasswordsWith(ptk::AskAtTerminal);
     return ptk::RunConsole({argv + (argc > 0 ? 1 : 0), argv + argc}, ptk::SystemClock(), std::cout, std::cerr,
                            ::isatty(STDOUT_FILENO) == 1);
 }

@@ -240,6 +240,11 @@ void CompanyPage::ReadAgain(std::optional<std::int64_t> row)
     PutBack(*left);
 }
 
+std::optional<Shown> CompanyPage::IdleList() const
+{
+    return m_texts.Left(ReadTexts()) ? std::nullopt : std::optional(Shown::Company);
+}
+
 void CompanyPage::TellChanges()
 {
     const auto company = Of(m_ui->cboCompanyID->currentText().toStdString());

@@ -304,6 +304,11 @@ void EmployeePage::ReadAgain(std::optional<std::int64_t> row)
     PutBack(*left);
 }
 
+std::optional<Shown> EmployeePage::IdleList() const
+{
+    return m_texts.Left(ReadTexts()) ? std::nullopt : std::optional(Shown::Employee);
+}
+
 void EmployeePage::TellChanges()
 {
     const auto employee = Of(m_ui->cboEmployeeID->currentText().toStdString());

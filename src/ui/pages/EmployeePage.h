@@ -41,6 +41,7 @@ public:
     bool FillEmployeeLists();
 
     void ReadAgain(std::optional<std::int64_t> row) override;
+    [[nodiscard]] std::optional<Shown> IdleList() const override;
     void TellChanges() override;
 
     // False for nullptr.

@@ -1,4 +1,4 @@
-#include "store/engine/StatementCache.h"
+#include "store/sqlite/StatementCache.h"
 
 #include <algorithm>
 #include <sqlite3.h>

@@ -1,6 +1,6 @@
-#include "store/engine/FileHeader.h"
+#include "store/sqlite/FileHeader.h"
 
-#include "store/engine/EngineFailure.h"
+#include "store/sqlite/EngineFailure.h"
 
 #include <algorithm>
 #include <array>

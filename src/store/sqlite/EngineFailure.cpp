@@ -1,4 +1,4 @@
-#include "store/engine/EngineFailure.h"
+#include "store/sqlite/EngineFailure.h"
 
 #include <sqlite3.h>
 
@@ -43,7 +43,7 @@ const char* Meaning(int primaryCode)
 
 Failure EngineFailure(int resultCode, std::string description)
 {
-    return {resultCode & kPrimaryCode, kEngineSource, std::move(description)};
+    return {resultCode & kPrimaryCode, kFileSource, std::move(description)};
 }
 
 Failure EngineFailure(int resultCode)

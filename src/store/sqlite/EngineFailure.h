@@ -1,15 +1,13 @@
 // Failures of the engine: its primary result codes as numbers, "SQLite" as source.
 #pragma once
 
-#include "platform/Failure.h"
+#include "store/engine/EngineSource.h"
 
 #include <string>
 
 struct sqlite3;
 
 namespace ptk {
-
-inline constexpr const char* kEngineSource = "SQLite";
 
 // With the code's meaning for the program's users as description ("the database is in use by another program").
 [[nodiscard]] Failure EngineFailure(int resultCode);

@@ -1,4 +1,4 @@
-#include "store/engine/EditTrail.h"
+#include "store/sqlite/EditTrail.h"
 
 #include "platform/DataText.h"
 #include "platform/Failure.h"
@@ -12,6 +12,7 @@ namespace ptk {
 
 namespace {
 
+constexpr const char* kFindTrail = "SELECT COUNT(*) FROM sqlite_master WHERE type = 'table' AND name IN ('_Session', '_Change')"; // 2
 constexpr const char* kNext = "SELECT IFNULL((SELECT seq FROM sqlite_sequence WHERE name = '_Change'), 0) + 1";
 constexpr const char* kClear = "DELETE FROM _Session; INSERT INTO _Session VALUES (NULL, NULL, NULL)";
 constexpr const char* kTables[] = {"TimeRecord", "Employee", "Company", "_System", "_CheckLimits"};
@@ -74,11 +75,8 @@ void CloseStep(Engine& engine)
     engine.RunScript(kClear);
 }
 
-void AddWholeEntry(Engine& engine, const char* action, const std::string& file)
+void AddEntry(Engine& engine, const char* action, const std::string& file)
 {
-    if (!HasTrail(engine)) {
-        return;
-    }
     const auto entry = engine.Prepare("INSERT INTO _Change (ChangedAt, ChangedBy, Program, Step, Action, After) "
                                       "SELECT datetime('now', 'localtime'), user, program, step, :action, :after FROM _Session");
     entry->Bind("action", action);

@@ -1,9 +1,9 @@
-#include "store/engine/Connection.h"
+#include "store/sqlite/Connection.h"
 
-#include "store/engine/EngineFailure.h"
-#include "store/engine/FileHeader.h"
 #include "store/engine/RecordSet.h"
-#include "store/engine/Statement.h"
+#include "store/sqlite/EngineFailure.h"
+#include "store/sqlite/FileHeader.h"
+#include "store/sqlite/SqliteStatement.h"
 
 #include <sqlite3.h>
 #include <SQLiteCpp/Exception.h>
@@ -168,7 +168,7 @@ void Connection::RefuseForeignFile()
 // What marks a file as another program's may be in its log only, and must still be there afterwards.
 void Connection::RefuseOtherProgramsLog()
 {
-    const auto number = [this](const char* pragma) { return Statement(Handle(), pragma).ReadRows()->Int32At(0); };
+    const auto number = [this](const char* pragma) { return SqliteStatement(Handle(), pragma).ReadRows()->Int32At(0); };
     try {
         RefuseOtherPrograms(number("PRAGMA application_id"), number("PRAGMA user_version"));
     } catch (const Failure&) {

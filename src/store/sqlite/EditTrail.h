@@ -2,22 +2,14 @@
 // to it: who writes, and which changes belong together.
 #pragma once
 
+#include "store/engine/Author.h"
+
 #include <cstdint>
 #include <string>
 
 namespace ptk {
 
 class Engine;
-
-// Who writes, as the entries tell it. An empty text is told as nothing, as another tool's writes are.
-struct Author
-{
-    std::string name;    // of the person, or the account
-    std::string program; // "ptk-admin" or "ptk-console"
-};
-
-// Answers 2 where the file has the trail; files of earlier versions lack it.
-inline constexpr const char* kFindTrail = "SELECT COUNT(*) FROM sqlite_master WHERE type = 'table' AND name IN ('_Session', '_Change')";
 
 // All that follow need the hold and no more than the transaction of the present write. Raise the engine's failures.
 [[nodiscard]] bool HasTrail(Engine& engine);
@@ -31,9 +23,8 @@ void CloseStep(Engine& engine);
 // A number that no entry has: its first entry's own.
 [[nodiscard]] std::int64_t NextStep(Engine& engine);
 
-// One entry of the step that is open, of no row but of the database as a whole: "restore" or "import", and from which file. Nothing in a
-// database without the trail.
-void AddWholeEntry(Engine& engine, const char* action, const std::string& file);
+// One entry of the step that is open, of no row. REQUIRES: the file has the trail.
+void AddEntry(Engine& engine, const char* action, const std::string& file);
 
 // With the table _CheckLimits, where that is missing, too.
 void InstallTrail(Engine& engine);

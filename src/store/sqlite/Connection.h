@@ -5,7 +5,7 @@
 
 #include <SQLiteCpp/Database.h>
 
-#include "store/engine/StatementCache.h"
+#include "store/sqlite/StatementCache.h"
 
 #include <chrono>
 #include <cstdint>

@@ -1,0 +1,27 @@
+-- Who may do what: logins become members of one of these two. They are of the whole server, so they may be there already, and who makes a database
+-- may not be allowed to make them: then its owner makes them, and runs this part again.
+DO $$
+DECLARE
+    role_name text;
+BEGIN
+    FOREACH role_name IN ARRAY ARRAY['ptk_office', 'ptk_reader'] LOOP
+        IF NOT EXISTS (SELECT 1 FROM pg_roles WHERE rolname = role_name) THEN
+            BEGIN
+                EXECUTE format('CREATE ROLE %I NOLOGIN', role_name);
+            EXCEPTION
+                WHEN duplicate_object OR unique_violation THEN
+                    NULL; -- another database of this server was made at the same time
+                WHEN insufficient_privilege THEN
+                    RETURN;
+            END;
+        END IF;
+    END LOOP;
+
+    -- The office reads and writes all rows, but not the trail's, and has no right on what the tables are.
+    EXECUTE format('GRANT USAGE ON SCHEMA %I TO ptk_office, ptk_reader', current_schema);
+    GRANT SELECT ON Company, Employee, TimeRecord, _System, _CheckLimits, _StoredQuery, _Structure, _Change TO ptk_office, ptk_reader;
+    GRANT INSERT, UPDATE, DELETE ON Company, Employee, TimeRecord, _System, _CheckLimits TO ptk_office;
+    GRANT USAGE ON SEQUENCE _change_changeid_seq TO ptk_office;
+    GRANT EXECUTE ON FUNCTION ptk_add_entry TO ptk_office;
+END
+$$;

@@ -1,0 +1,57 @@
+// What the engines' SQL says differently; all other texts are the same for both.
+#pragma once
+
+#include <fmt/format.h>
+
+#include <string>
+
+namespace ptk {
+
+// {0} stands for what is said of; see Said. A condition or an expression that stands in an index is here as it stands there, to the letter.
+struct EngineWords
+{
+    // A text without the difference of letter case, which is that of the 26 letters alone; texts and names so changed are compared, and
+    // sorted, by their bytes. The names are those of the index of the listing.
+    const char* caseless;
+    const char* caselessFirstName;
+    const char* caselessLastName;
+
+    // Of a time record: whether a search by its start would pass it over when a card is checked, as the index TimeRecordUnusual has it.
+    const char* unusualPunch;
+
+    // Whether a column of date-times lies in the days :first to :last, of the forms YYYY-MM-DD and YYYY-MM-DD~.
+    const char* inDays;
+
+    // A column of JSON, nothing where it holds none, and the text of its field {1}.
+    const char* json;
+    const char* jsonField;
+
+    // Of the JSON object :json the name, the kind (null, text, object, array or another) and the text of each field, in their order.
+    const char* jsonFields;
+
+    // Digits, whatever the type of the column that they are for.
+    const char* number;
+
+    // Answers a row where the table _CheckLimits is there, which files of earlier versions lack; empty where it always is.
+    const char* findLimits;
+
+    // Behind a SELECT within a write: nobody else changes these rows before its end.
+    const char* lockRows;
+
+    // A statement: nobody else adds rows to a table, or takes any away, before the end of the write. Empty where nobody could.
+    const char* lockTable;
+};
+
+template <typename... Names>
+[[nodiscard]] std::string Said(const char* words, const Names&... of)
+{
+    return fmt::format(fmt::runtime(words), of...);
+}
+
+// The order of the employee list.
+[[nodiscard]] inline std::string ListOrder(const EngineWords& words)
+{
+    return fmt::format("{}, {}, EmployeeID", words.caselessLastName, words.caselessFirstName);
+}
+
+} // namespace ptk

@@ -1,0 +1,55 @@
+// The server's client library, loaded when a server is asked for: who keeps the books in a file neither needs it nor waits for it.
+#pragma once
+
+#include <libpq-fe.h>
+
+namespace ptk {
+
+// The functions that the program calls; they behave as the library documents them.
+struct LibPq
+{
+    decltype(&PQconninfoParse) conninfoParse;
+    decltype(&PQconninfoFree) conninfoFree;
+    decltype(&PQfreemem) freemem;
+    decltype(&PQconnectStartParams) connectStartParams;
+    decltype(&PQconnectPoll) connectPoll;
+    decltype(&PQconnectionNeedsPassword) connectionNeedsPassword;
+    decltype(&PQfinish) finish;
+    decltype(&PQstatus) status;
+    decltype(&PQsocket) socket;
+    decltype(&PQserverVersion) serverVersion;
+    decltype(&PQerrorMessage) errorMessage;
+    decltype(&PQsetNoticeProcessor) setNoticeProcessor;
+    decltype(&PQsetnonblocking) setnonblocking;
+    decltype(&PQenterPipelineMode) enterPipelineMode;
+    decltype(&PQexitPipelineMode) exitPipelineMode;
+    decltype(&PQpipelineSync) pipelineSync;
+    decltype(&PQsendQuery) sendQuery;
+    decltype(&PQsendQueryParams) sendQueryParams;
+    decltype(&PQsendPrepare) sendPrepare;
+    decltype(&PQsendQueryPrepared) sendQueryPrepared;
+    decltype(&PQsendDescribePrepared) sendDescribePrepared;
+    decltype(&PQflush) flush;
+    decltype(&PQconsumeInput) consumeInput;
+    decltype(&PQisBusy) isBusy;
+    decltype(&PQgetResult) getResult;
+    decltype(&PQnotifies) notifies;
+    decltype(&PQclear) clear;
+    decltype(&PQresultStatus) resultStatus;
+    decltype(&PQresultErrorField) resultErrorField;
+    decltype(&PQntuples) ntuples;
+    decltype(&PQnfields) nfields;
+    decltype(&PQfname) fname;
+    decltype(&PQftype) ftype;
+    decltype(&PQgetvalue) getvalue;
+    decltype(&PQgetlength) getlength;
+    decltype(&PQgetisnull) getisnull;
+    decltype(&PQputCopyData) putCopyData;
+    decltype(&PQputCopyEnd) putCopyEnd;
+    decltype(&PQgetCopyData) getCopyData;
+};
+
+// Raises Failure 14 where the library is not installed.
+[[nodiscard]] const LibPq& Library();
+
+} // namespace ptk

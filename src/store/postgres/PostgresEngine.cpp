@@ -1,0 +1,357 @@
+#include "store/postgres/PostgresEngine.h"
+
+#include "store/postgres/PostgresStatement.h"
+#include "store/postgres/ServerFailure.h"
+#include "store/postgres/ServerLine.h"
+#include "store/postgres/ServerStructure.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <ctime>
+#include <thread>
+#include <utility>
+
+namespace ptk {
+
+namespace {
+
+constexpr std::chrono::seconds kPatience(5);
+constexpr std::chrono::seconds kShortPatience(1);      // of those who can as well ask later
+constexpr std::chrono::milliseconds kBetweenTries(50); // of asking what became of a write
+constexpr int kMostTries = 5;                          // of a write that stood in another's way
+
+constexpr const char* kBeginRead = "BEGIN ISOLATION LEVEL REPEATABLE READ READ ONLY";
+constexpr const char* kBeginWrite = "BEGIN ISOLATION LEVEL READ COMMITTED"; // what a lock was waited for is seen as it is then
+
+// The first entry of a step has the step's own number; the day and hour of the entries are those where the person sits.
+constexpr const char* kSign =
+    "SELECT set_config('ptk.user', $1, true), set_config('ptk.program', $2, true), set_config('ptk.step', step::text, true), "
+    "set_config('ptk.next', CASE WHEN $3 = '' THEN step::text ELSE '' END, true), set_config('TimeZone', $4, true), "
+    "step, pg_current_xact_id()::text "
+    "FROM (SELECT COALESCE(NULLIF($3, '')::bigint, nextval('_change_changeid_seq')) AS step) AS numbered";
+constexpr int kStepColumn = 5;
+constexpr int kNumberColumn = 6;
+constexpr const char* kNewest = "SELECT COALESCE(NULLIF(current_setting('ptk.last', true), '')::bigint, 0)";
+
+// As the server reads a time zone: "<+0530>-05:30", east of Greenwich counting down.
+std::string LocalTimeZone()
+{
+    const std::time_t now = std::time(nullptr);
+    std::tm local{};
+    localtime_r(&now, &local);
+    const long minutes = local.tm_gmtoff / 60;
+    const long hours = std::labs(minutes) / 60;
+    const long rest = std::labs(minutes) % 60;
+    return fmt::format("<{0}{1:02}{2:02}>{3}{1:02}:{2:02}", minutes < 0 ? '-' : '+', hours, rest, minutes < 0 ? '+' : '-');
+}
+
+std::int64_t NumberIn(const ServerResult& result, int column = 0)
+{
+    return std::strtoll(std::string(result.Text(0, column)).c_str(), nullptr, 10);
+}
+
+} // namespace
+
+PostgresEngine::PostgresEngine(const std::string& address, WhenHeld whenHeld)
+    : m_address(address), m_patience(whenHeld == WhenHeld::Wait ? kPatience : kShortPatience)
+{
+    Connect();
+}
+
+PostgresEngine::PostgresEngine(const std::string& address, NewStructure /*tag*/) : m_address(address), m_checks(false)
+{
+    Connect();
+}
+
+PostgresEngine::~PostgresEngine() = default;
+
+void PostgresEngine::Connect()
+{
+    m_formerRoundTrips = RoundTrips();
+    m_line.reset();
+    m_begun = false;
+    m_listens = false;
+    m_line = std::make_unique<ServerLine>(m_address, m_patience);
+    if (m_checks) {
+        RequireStructure(*m_line);
+    }
+}
+
+// Outside a transaction: one that is not known to be lost.
+void PostgresEngine::RequireLine()
+{
+    if (m_line == nullptr || !m_line->IsAlive()) {
+        Connect();
+    }
+}
+
+std::int64_t PostgresEngine::RoundTrips() const
+{
+    return m_formerRoundTrips + (m_line == nullptr ? 0 : m_line->RoundTrips());
+}
+
+void PostgresEngine::RequireOpen() const
+{
+    if (!m_open) {
+        throw ServerFailure(engine::Misuse, "the database is closed");
+    }
+}
+
+void PostgresEngine::Close()
+{
+    Release();
+    m_open = false;
+}
+
+bool PostgresEngine::Reopen()
+{
+    RequireLine();
+    m_open = true;
+    m_transaction = Transaction::Read;
+    return true;
+}
+
+void PostgresEngine::Hold()
+{
+    RequireOpen();
+}
+
+void PostgresEngine::GiveUp() noexcept
+{
+    Release();
+}
+
+// Nobody waits for the answer: what could go wrong has then ended the transaction as well.
+void PostgresEngine::Release() noexcept
+{
+    if (std::exchange(m_begun, false)) {
+        try {
+            m_line->SendUnheard("ROLLBACK");
+        } catch (const ServerFailure&) {
+            // deliberately: a lost line has no transaction any more, and the next who asks hears of it
+        }
+    }
+    m_transaction = Transaction::Read;
+}
+
+void PostgresEngine::Begin(Transaction transaction)
+{
+    RequireOpen();
+    Release();
+    m_transaction = transaction;
+}
+
+ServerCommand PostgresEngine::Signing() const
+{
+    const std::string wanted = WantedStep() == 0 ? "" : std::to_string(WantedStep());
+    return {kSign, {Signature().name, Signature().program, wanted, LocalTimeZone()}, true, false};
+}
+
+// What goes before the first statement of a transaction.
+std::vector<ServerCommand> PostgresEngine::Opening() const
+{
+    std::vector<ServerCommand> commands;
+    commands.push_back({m_transaction == Transaction::Read ? kBeginRead : kBeginWrite, {}, true, false});
+    if (m_transaction == Transaction::Write) {
+        commands.push_back(Signing());
+    }
+    return commands;
+}
+
+ServerResult PostgresEngine::Ask(const ServerCommand& command)
+{
+    RequireOpen();
+    if (m_begun) {
+        return std::move(m_line->Send({command}).front());
+    }
+    std::vector<ServerCommand> commands = Opening();
+    commands.push_back(command);
+    std::vector<ServerResult> results = SendFirst(commands);
+    if (m_transaction == Transaction::Write) {
+        const ServerResult& signing = results.at(1);
+        TookStep(NumberIn(signing, kStepColumn));
+        m_number = signing.Text(0, kNumberColumn);
+    }
+    return std::move(results.back());
+}
+
+// Over a new line where the old one turns out to be lost: nothing of this transaction was committed.
+std::vector<ServerResult> PostgresEngine::SendFirst(const std::vector<ServerCommand>& commands)
+{
+    try {
+        RequireLine();
+        m_begun = true;
+        return m_line->Send(commands);
+    } catch (const ServerFailure& failure) {
+        if (!failure.IsLost()) {
+            throw;
+        }
+    }
+    Connect();
+    m_begun = true;
+    return m_line->Send(commands);
+}
+
+void PostgresEngine::Write(const std::function<void()>& steps)
+{
+    int tries = 0;
+    while (true) {
+        try {
+            return WriteOnce(steps);
+        } catch (const ServerFailure& failure) {
+            if (!failure.MayBeTriedAgain() || ++tries == kMostTries) {
+                throw;
+            }
+        }
+    }
+}
+
+void PostgresEngine::WriteOnce(const std::function<void()>& steps)
+{
+    Begin(Transaction::Write);
+    TookStep(0);
+    try {
+        steps();
+    } catch (...) {
+        Release();
+        throw;
+    }
+    CommitWrite();
+}
+
+// Also asks whether the step left any entry.
+void PostgresEngine::CommitWrite()
+{
+    if (!m_begun) { // nothing was asked
+        return Release();
+    }
+    try {
+        const auto results = m_line->Send({{kNewest, {}, true, false}, {"COMMIT", {}, true, false}});
+        TookStep(NumberIn(results.front()) == 0 ? 0 : StepNumber());
+    } catch (const ServerFailure& failure) {
+        if (!failure.IsLost()) {
+            Release();
+            throw;
+        }
+        Settle(failure);
+    }
+    m_begun = false;
+    m_transaction = Transaction::Read;
+}
+
+// The answer to a commit was lost. The server still knows what became of it, also after it was started anew.
+void PostgresEngine::Settle(const ServerFailure& lost)
+{
+    const auto until = std::chrono::steady_clock::now() + kPatience;
+    do {
+        const std::string fate = FateOfWrite();
+        if (fate == "committed") {
+            return;
+        }
+        if (fate == "aborted") {
+            throw lost;
+        }
+        std::this_thread::sleep_for(kBetweenTries);
+    } while (std::chrono::steady_clock::now() < until);
+    throw ServerFailure(engine::Lost, "the connection to the server was lost while a change was stored, and whether it was stored is not "
+                                      "known: look before you enter it again");
+}
+
+// Empty where the server cannot be asked.
+std::string PostgresEngine::FateOfWrite()
+{
+    try {
+        Connect();
+        const auto results = m_line->Send({{"SELECT COALESCE(pg_xact_status($1::xid8), '')", {m_number}, false, false}});
+        return std::string(results.front().Text(0, 0));
+    } catch (const ServerFailure&) {
+        return {};
+    }
+}
+
+std::int64_t PostgresEngine::NewestEntry()
+{
+    return NumberIn(Ask({kNewest, {}, true, false}));
+}
+
+std::optional<std::int64_t> PostgresEngine::TakeNews()
+{
+    RequireOpen();
+    Release();
+    RequireLine();
+    if (!std::exchange(m_listens, true)) {
+        static_cast<void>(m_line->Send({{"LISTEN ptk_change", {}, false, false}}));
+        return 0;
+    }
+    std::optional<std::int64_t> first;
+    for (const std::string& notice : m_line->TakeNotices()) {
+        const std::int64_t told = std::strtoll(notice.c_str(), nullptr, 10);
+        first = first ? std::min(*first, told) : told;
+    }
+    return first;
+}
+
+void PostgresEngine::Untold(const std::function<void()>& steps)
+{
+    const auto tell = [this](const char* untold) {
+        static_cast<void>(Ask({"SELECT set_config('ptk.untold', $1, true)", {untold}, false, false}));
+    };
+    tell("1");
+    steps(); // a failure ends the transaction, and the setting with it
+    tell("");
+}
+
+void PostgresEngine::AddWholeEntry(const char* action, const std::string& file)
+{
+    static_cast<void>(Ask({"SELECT ptk_add_entry($1, $2)", {action, file}, false, false}));
+}
+
+std::unique_ptr<Statement> PostgresEngine::Prepare(std::string_view sql)
+{
+    RequireOpen();
+    return std::make_unique<PostgresStatement>(*this, sql, false);
+}
+
+std::unique_ptr<Statement> PostgresEngine::PrepareToKeep(std::string_view sql)
+{
+    RequireOpen();
+    return std::make_unique<PostgresStatement>(*this, sql, true);
+}
+
+std::string PostgresEngine::StoredText(std::string_view query)
+{
+    const auto found = m_storedTexts.find(query);
+    return found != m_storedTexts.end() ? found->second : m_storedTexts.emplace(query, Engine::StoredText(query)).first->second;
+}
+
+void PostgresEngine::BeginMany()
+{
+    if (!m_begun || m_transaction != Transaction::Many) {
+        Begin(Transaction::Many);
+    }
+}
+
+void PostgresEngine::RunScript(const char* sql)
+{
+    if (!m_begun) {
+        static_cast<void>(SendFirst(Opening()));
+    }
+    m_line->RunScript(sql);
+}
+
+std::int64_t PostgresEngine::LastKey()
+{
+    return NumberIn(Ask({"SELECT lastval()", {}, true, false}));
+}
+
+void PostgresEngine::Commit()
+{
+    if (std::exchange(m_begun, false)) {
+        static_cast<void>(m_line->Send({{"COMMIT", {}, true, false}}));
+    }
+    m_transaction = Transaction::Read;
+}
+
+} // namespace ptk

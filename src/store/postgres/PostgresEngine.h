@@ -1,0 +1,103 @@
+// An open database on a server.
+#pragma once
+
+#include "store/engine/Engine.h"
+#include "store/engine/WhenHeld.h"
+#include "store/postgres/PostgresWords.h"
+
+#include <chrono>
+#include <map>
+#include <optional>
+
+namespace ptk {
+
+class ServerFailure;
+class ServerLine;
+class ServerResult;
+struct ServerCommand;
+
+// Tells that a server's database is about to get its tables.
+struct NewStructure
+{
+};
+
+// Failures carry the source "PostgreSQL". The hold is a transaction that only reads, and begins with the first question: what is asked in
+// it is of one moment, and nobody waits for it. A write is a transaction of its own; it waits for those who write the same rows, never for
+// others. Nothing waits for more than five seconds.
+//
+// The connection outlives Close. One that was lost is made anew where nothing can have been done over the old one: before an operation's
+// first answer. A write whose end was not heard is asked for over a new connection.
+class PostgresEngine final : public Engine
+{
+public:
+    // Raises 14 (the server cannot be reached or does not let in) or 26 (no database of this program, or of a newer structure).
+    explicit PostgresEngine(const std::string& address, WhenHeld whenHeld = WhenHeld::Wait);
+
+    // Of any database, whatever is in it; waits as long as it takes.
+    PostgresEngine(const std::string& address, NewStructure);
+    ~PostgresEngine() override;
+
+    [[nodiscard]] bool IsOpen() const override { return m_open; }
+    void Close() override;
+    bool Reopen() override;
+    void Hold() override;
+    void GiveUp() noexcept override;
+    void Write(const std::function<void()>& steps) override;
+    void Untold(const std::function<void()>& steps) override;
+    void AddWholeEntry(const char* action, const std::string& file) override;
+    [[nodiscard]] bool HasTrail() override { return true; }
+    [[nodiscard]] std::int64_t NewestEntry() override;
+    [[nodiscard]] bool TellsNews() const override { return true; }
+    [[nodiscard]] std::optional<std::int64_t> TakeNews() override;
+    [[nodiscard]] const EngineWords& Words() const override { return kPostgresWords; }
+    std::unique_ptr<Statement> Prepare(std::string_view sql) override;
+    std::unique_ptr<Statement> PrepareToKeep(std::string_view sql) override;
+    void BeginMany() override;
+    void RunScript(const char* sql) override;
+    [[nodiscard]] std::int64_t LastKey() override;
+    void Commit() override;
+
+    // One statement within the hold or the write.
+    [[nodiscard]] ServerResult Ask(const ServerCommand& command);
+
+    // How often an answer was waited for, over all connections.
+    [[nodiscard]] std::int64_t RoundTrips() const;
+
+protected:
+    std::string StoredText(std::string_view query) override;
+
+private:
+    enum class Transaction
+    {
+        Read,
+        Write, // of a step of the trail
+        Many   // of no step
+    };
+
+    void Connect();
+    void RequireLine();
+    void RequireOpen() const;
+    void Begin(Transaction transaction);
+    [[nodiscard]] std::vector<ServerCommand> Opening() const;
+    [[nodiscard]] ServerCommand Signing() const;
+    [[nodiscard]] std::vector<ServerResult> SendFirst(const std::vector<ServerCommand>& commands);
+    void WriteOnce(const std::function<void()>& steps);
+    void CommitWrite();
+    void Settle(const ServerFailure& lost);
+    [[nodiscard]] std::string FateOfWrite();
+    void Release() noexcept;
+
+    std::string m_address;
+    std::optional<std::chrono::milliseconds> m_patience;
+    std::unique_ptr<ServerLine> m_line;
+    bool m_checks = true; // the structure of what it connects to
+    bool m_open = true;
+    bool m_listens = false;
+    bool m_begun = false; // a transaction that the server knows of
+    Transaction m_transaction = Transaction::Read;
+    std::string m_number; // of the write's transaction, by which the server knows what became of it
+    std::int64_t m_formerRoundTrips = 0;
+    std::map<std::string, std::string, std::less<>> m_storedTexts; // as they were when first asked for
+};
+
+} // namespace ptk

@@ -1,0 +1,46 @@
+// A statement of a server's database.
+#pragma once
+
+#include "store/engine/Statement.h"
+#include "store/postgres/ServerLine.h"
+#include "store/postgres/ServerText.h"
+
+#include <vector>
+
+namespace ptk {
+
+class PostgresEngine;
+
+// Failures carry the source "PostgreSQL". All rows of an answer are there at once, so that other statements can be run between them.
+class PostgresStatement final : public Statement
+{
+public:
+    // With `keep` the server keeps it prepared for the next who asks for this text, else only from its second run on.
+    PostgresStatement(PostgresEngine& engine, std::string_view sql, bool keep);
+
+    using Statement::Bind;
+    void Bind(const std::string& name, const Value& value) override;
+    void RefuseUnlessAction() override;
+    void Run() override;
+    std::shared_ptr<RecordSet> ReadRows(std::int32_t most = kAllRows) override;
+    void ForEachRow(const std::function<void()>& take) override;
+    [[nodiscard]] CellKind KindAt(int column) const override;
+    [[nodiscard]] std::int64_t Int64At(int column) const override;
+    [[nodiscard]] std::string_view TextAt(int column) const override;
+    [[nodiscard]] std::optional<DateTime> StoredDateAt(int column) const override;
+
+private:
+    void RefuseMissingParameters() const;
+    [[nodiscard]] ServerResult Ask();
+    [[nodiscard]] ServerResult AskForRows();
+
+    PostgresEngine& m_engine;
+    ServerText m_text;
+    std::vector<ServerValue> m_values;
+    std::vector<bool> m_assigned; // by parameter
+    bool m_keep;
+    std::optional<ServerResult> m_rows; // of the answer that is being read
+    int m_row = 0;                      // the next, or the one at which ForEachRow stands
+};
+
+} // namespace ptk

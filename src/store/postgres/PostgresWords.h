@@ -1,0 +1,28 @@
+// The words of a server. Every value there is of its column's type.
+#pragma once
+
+#include "store/engine/EngineWords.h"
+
+namespace ptk {
+
+inline constexpr EngineWords kPostgresWords{
+    .caseless = "lower({0} COLLATE \"C\")",
+    .caselessFirstName = "lower(COALESCE(FirstName, ''))",
+    .caselessLastName = "lower(COALESCE(LastName, ''))",
+    .unusualPunch = "CASE WHEN StartTime IS NOT NULL THEN StartTime = TIMESTAMP '1899-12-30 00:00:00' "
+                    "OR EndTime NOT BETWEEN StartTime AND StartTime + interval '1 day' ELSE true END",
+    .inDays = "({0} >= CAST(left(:first, 10) AS date) AND {0} < CAST(left(:last, 10) AS date) + 1)",
+    .json = "{0}",
+    .jsonField = "({0} ->> '{1}')",
+    .jsonFields = "SELECT one.key, CASE json_typeof(one.value) WHEN 'string' THEN 'text' ELSE json_typeof(one.value) END, "
+                  "CASE json_typeof(one.value) WHEN 'object' THEN one.value ->> 'blob' ELSE said.value END "
+                  "FROM json_each(CAST(:json AS json)) WITH ORDINALITY AS one (key, value, place) "
+                  "JOIN json_each_text(CAST(:json AS json)) WITH ORDINALITY AS said (key, value, place) ON said.place = one.place "
+                  "ORDER BY one.place",
+    .number = "'{0}'",
+    .findLimits = "",
+    .lockRows = " FOR UPDATE",
+    .lockTable = "LOCK TABLE {0} IN SHARE MODE",
+};
+
+} // namespace ptk

@@ -1,0 +1,57 @@
+#include "store/postgres/ServerAddress.h"
+
+#include <map>
+#include <utility>
+
+namespace ptk {
+
+namespace {
+
+AskPassword& Asker()
+{
+    static AskPassword ask;
+    return ask;
+}
+
+std::map<std::string, std::string>& ToldPasswords()
+{
+    static std::map<std::string, std::string> told;
+    return told;
+}
+
+} // namespace
+
+bool IsServerAddress(std::string_view name)
+{
+    return name.starts_with("postgresql://") || name.starts_with("postgres://");
+}
+
+void AskForPasswordsWith(AskPassword ask)
+{
+    Asker() = std::move(ask);
+}
+
+std::optional<std::string> passwords::Told(const std::string& address)
+{
+    const auto found = ToldPasswords().find(address);
+    return found == ToldPasswords().end() ? std::nullopt : std::optional(found->second);
+}
+
+std::optional<std::string> passwords::Of(const std::string& address)
+{
+    if (auto told = Told(address)) {
+        return told;
+    }
+    auto answer = Asker() ? Asker()(address) : std::nullopt;
+    if (answer) {
+        ToldPasswords()[address] = *answer;
+    }
+    return answer;
+}
+
+void passwords::Forget(const std::string& address)
+{
+    ToldPasswords().erase(address);
+}
+
+} // namespace ptk

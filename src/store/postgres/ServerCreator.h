@@ -1,0 +1,22 @@
+// Makes a server's database ready.
+#pragma once
+
+#include <functional>
+#include <string>
+
+namespace ptk {
+
+class PostgresEngine;
+
+// Whether the roles of the office and of readers, which are the whole server's, are there and have their rights.
+enum class ServerRoles
+{
+    Ready,
+    Missing // whoever makes the database may not make roles
+};
+
+// All tables, queries, triggers and rights, and what `fill` adds, in one transaction, or nothing. The database must be there, in UTF8 and
+// without any table of these names. Raises 14 where it cannot be reached, and 75 where it is not so.
+ServerRoles CreateServerDatabase(const std::string& address, const std::function<void(PostgresEngine&)>& fill);
+
+} // namespace ptk

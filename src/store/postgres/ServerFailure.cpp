@@ -1,0 +1,77 @@
+#include "store/postgres/ServerFailure.h"
+
+#include "store/engine/EngineSource.h"
+
+#include <utility>
+
+namespace ptk {
+
+namespace {
+
+struct Meaning
+{
+    std::string_view state; // of one fault, or the two characters of a class
+    std::int32_t number;
+    const char* words; // nullptr: the server's own
+};
+
+// The first that fits.
+constexpr Meaning kMeanings[] = {
+    {"55P03", engine::Busy, "somebody else is changing what is to be read or changed"},
+    {"40", engine::Busy, "somebody else is changing what is to be read or changed"},
+    {"57014", engine::Interrupted, "the statement did not come to an end in time"},
+    {"57", engine::Lost, "the server is going down or gave the connection up"},
+    {"25P03", engine::Lost, "the server gave the connection up"},
+    {"08", engine::Lost, "the connection to the server was lost"},
+    {"53100", engine::DiskFull, "the server's disk is full"},
+    {"53200", engine::NoMemory, "the server is out of memory"},
+    {"53", engine::CannotOpen, "the server takes no more connections"},
+    {"42501", engine::ReadOnly, nullptr},
+    {"25006", engine::Refused, "the statement answers no rows or changes the database"},
+    {"28", engine::CannotOpen, nullptr},
+    {"3D", engine::CannotOpen, nullptr},
+    {"23", engine::Constraint, nullptr},
+    {"22", engine::Constraint, nullptr},
+    {"XX001", engine::Damaged, "the server's database is damaged"},
+    {"XX002", engine::Damaged, "the server's database is damaged"},
+    {"58030", engine::Lost, "the server's disk failed while reading or writing the database"},
+};
+
+// One line, without the mark of its kind.
+std::string OneLine(std::string_view message)
+{
+    std::string line(message.substr(0, message.find('\n')));
+    while (!line.empty() && line.back() == ' ') {
+        line.pop_back();
+    }
+    return line;
+}
+
+} // namespace
+
+ServerFailure::ServerFailure(std::int32_t number, std::string description) : Failure(number, kServerSource, std::move(description)) {}
+
+ServerFailure ServerFailure::OfState(std::string_view state, std::string_view message)
+{
+    Meaning meaning{"", engine::Refused, nullptr};
+    for (const Meaning& each : kMeanings) {
+        if (state.starts_with(each.state)) {
+            meaning = each;
+            break;
+        }
+    }
+    ServerFailure failure(meaning.number, meaning.words != nullptr ? meaning.words : OneLine(message));
+    failure.m_lost = state.starts_with("57P") || state.starts_with("08") || state == "25P03";
+    failure.m_again = state == "40001" || state == "40P01";
+    failure.m_missingTable = state == "42P01";
+    return failure;
+}
+
+ServerFailure ServerFailure::OfLostConnection(std::string_view message)
+{
+    ServerFailure failure(engine::Lost, "the connection to the server was lost" + (message.empty() ? "" : ": " + OneLine(message)));
+    failure.m_lost = true;
+    return failure;
+}
+
+} // namespace ptk

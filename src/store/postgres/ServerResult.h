@@ -1,0 +1,39 @@
+// What the server answered to one statement.
+#pragma once
+
+#include "store/postgres/LibPq.h"
+
+#include <memory>
+#include <string_view>
+
+namespace ptk {
+
+// Owns the library's result; rows and columns count from 0.
+class ServerResult
+{
+public:
+    explicit ServerResult(PGresult* result) : m_result(result) {}
+
+    [[nodiscard]] PGresult* Get() const { return m_result.get(); }
+    [[nodiscard]] bool HasRows() const { return Library().resultStatus(Get()) == PGRES_TUPLES_OK; }
+    [[nodiscard]] int RowCount() const { return Library().ntuples(Get()); }
+    [[nodiscard]] int ColumnCount() const { return Library().nfields(Get()); }
+    [[nodiscard]] Oid TypeOf(int column) const { return Library().ftype(Get(), column); }
+    [[nodiscard]] bool IsNull(int row, int column) const { return Library().getisnull(Get(), row, column) != 0; }
+
+    // Valid as long as this lives.
+    [[nodiscard]] std::string_view Text(int row, int column) const
+    {
+        return {Library().getvalue(Get(), row, column), static_cast<std::size_t>(Library().getlength(Get(), row, column))};
+    }
+
+private:
+    struct Ending
+    {
+        void operator()(PGresult* result) const { Library().clear(result); }
+    };
+
+    std::unique_ptr<PGresult, Ending> m_result;
+};
+
+} // namespace ptk

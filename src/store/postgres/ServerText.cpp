@@ -1,0 +1,70 @@
+#include "store/postgres/ServerText.h"
+
+#include "platform/Text.h"
+#include "store/engine/Lexer.h"
+
+#include <algorithm>
+
+namespace ptk {
+
+namespace {
+
+bool IsColon(const std::vector<Token>& tokens, std::size_t at)
+{
+    return at < tokens.size() && tokens[at].kind == TokenKind::Sign && tokens[at].text == ":";
+}
+
+// "a::text" is a conversion, not a parameter.
+bool IsParameter(const std::vector<Token>& tokens, std::size_t at)
+{
+    return IsColon(tokens, at) && at + 1 < tokens.size() && tokens[at + 1].kind == TokenKind::Word && (at == 0 || !IsColon(tokens, at - 1));
+}
+
+std::string NumberOf(std::string_view name, std::vector<std::string>& parameters)
+{
+    auto found = std::find(parameters.begin(), parameters.end(), name);
+    if (found == parameters.end()) {
+        found = parameters.emplace(parameters.end(), name);
+    }
+    return '$' + std::to_string(found - parameters.begin() + 1);
+}
+
+std::string SmallName(std::string_view quoted)
+{
+    return '"' + LowerCase(quoted.substr(1, quoted.size() - 2)) + '"';
+}
+
+// Collations are the server's own, and named as it does.
+bool IsBehindCollate(const std::vector<Token>& tokens, std::size_t at)
+{
+    while (at > 0 && tokens[at - 1].kind == TokenKind::Blank) {
+        --at;
+    }
+    return at > 0 && LowerCase(tokens[at - 1].text) == "collate";
+}
+
+bool IsNameOfOurs(const std::vector<Token>& tokens, std::size_t at)
+{
+    return tokens[at].kind == TokenKind::Quoted && tokens[at].text.size() >= 2 && !IsBehindCollate(tokens, at);
+}
+
+} // namespace
+
+ServerText TranslateForServer(std::string_view statement)
+{
+    const std::vector<Token> tokens = SplitTokens(statement);
+    ServerText text;
+    text.sql.reserve(statement.size());
+    for (std::size_t i = 0; i < tokens.size(); ++i) {
+        if (IsParameter(tokens, i)) {
+            text.sql += NumberOf(tokens[++i].text, text.parameters);
+        } else if (IsNameOfOurs(tokens, i)) {
+            text.sql += SmallName(tokens[i].text);
+        } else {
+            text.sql += tokens[i].text;
+        }
+    }
+    return text;
+}
+
+} // namespace ptk

@@ -1,0 +1,21 @@
+// The program's statements in the server's words.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace ptk {
+
+// A statement as the server takes it, and the names of its parameters: the first is $1.
+struct ServerText
+{
+    std::string sql;
+    std::vector<std::string> parameters;
+};
+
+// ":name" becomes "$1", the same name the same number. Names in quotes or brackets are written in small letters, as the server itself
+// writes those without: its tables are the file's, whatever the case of their letters.
+[[nodiscard]] ServerText TranslateForServer(std::string_view statement);
+
+} // namespace ptk

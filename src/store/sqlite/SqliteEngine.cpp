@@ -1,0 +1,228 @@
+#include "store/sqlite/SqliteEngine.h"
+
+#include "store/engine/RecordSet.h"
+#include "store/sqlite/Connection.h"
+#include "store/sqlite/EditTrail.h"
+#include "store/sqlite/EngineFailure.h"
+#include "store/sqlite/SqliteStatement.h"
+
+#include <sqlite3.h>
+#include <utility>
+
+namespace ptk {
+
+namespace {
+
+// While it lives, nothing is committed: a statement that would end the transaction is refused, and what belongs to it goes.
+class OneTransaction
+{
+public:
+    explicit OneTransaction(sqlite3* database) : m_database(database)
+    {
+        sqlite3_commit_hook(
+            database, [](void* /*none*/) { return 1; }, nullptr);
+    }
+    ~OneTransaction() { sqlite3_commit_hook(m_database, nullptr, nullptr); }
+    OneTransaction(const OneTransaction&) = delete;
+    OneTransaction& operator=(const OneTransaction&) = delete;
+
+private:
+    sqlite3* m_database;
+};
+
+void RunWithin(sqlite3* database, const std::function<void()>& steps)
+{
+    const OneTransaction one(database);
+    steps();
+    if (sqlite3_get_autocommit(database) != 0) {
+        throw EngineFailure(SQLITE_ERROR, "the statement ended the transaction");
+    }
+}
+
+} // namespace
+
+SqliteEngine::SqliteEngine(const std::string& path, WhenHeld whenHeld)
+    : m_connection(std::make_unique<Connection>(path, Connection::Access::Write, whenHeld))
+{
+    m_connection->RefuseForeignFile();
+}
+
+SqliteEngine::SqliteEngine(const std::string& path, NewFile /*tag*/) : m_connection(std::make_unique<Connection>(path)) {}
+
+SqliteEngine::SqliteEngine(const std::string& path, ReadOnly /*tag*/)
+    : m_connection(std::make_unique<Connection>(path, Connection::Access::Read))
+{
+    m_connection->RefuseForeignFile();
+}
+
+SqliteEngine::~SqliteEngine() = default;
+
+void SqliteEngine::Close()
+{
+    if (m_connection != nullptr && m_connection->Park()) {
+        m_parked = std::move(m_connection);
+    }
+    m_connection.reset();
+}
+
+bool SqliteEngine::Reopen()
+{
+    auto parked = std::exchange(m_parked, nullptr);
+    if (parked == nullptr || !parked->Resume()) {
+        return false;
+    }
+    parked->RefuseForeignFile();
+    m_connection = std::move(parked);
+    return true;
+}
+
+void SqliteEngine::Hold()
+{
+    Open();
+}
+
+void SqliteEngine::GiveUp() noexcept
+{
+    if (m_connection != nullptr) {
+        m_connection->Release();
+    }
+}
+
+Connection& SqliteEngine::Open() const
+{
+    if (m_connection == nullptr) {
+        throw EngineFailure(SQLITE_MISUSE, "the database is closed");
+    }
+    m_connection->Hold();
+    return *m_connection;
+}
+
+std::unique_ptr<Statement> SqliteEngine::Prepare(std::string_view sql)
+{
+    return std::make_unique<SqliteStatement>(Open().Handle(), sql);
+}
+
+std::unique_ptr<Statement> SqliteEngine::PrepareToKeep(std::string_view sql)
+{
+    Connection& connection = Open();
+    return std::make_unique<SqliteStatement>(connection.Handle(), sql, &connection.Prepared());
+}
+
+// What a failed statement changed before it failed must not reach the disk with a later one.
+void SqliteEngine::Write(const std::function<void()>& steps)
+{
+    Connection& connection = Open();
+    connection.PrepareWrite();
+    TookStep(0);
+    try {
+        RunSteps(steps);
+    } catch (...) {
+        connection.Release();
+        throw;
+    }
+    connection.Commit();
+}
+
+void SqliteEngine::RunSteps(const std::function<void()>& steps)
+{
+    if (HasTrail()) {
+        return RunSigned(steps);
+    }
+    Connection& connection = *m_connection;
+    const int before = sqlite3_total_changes(connection.Handle());
+    RunWithin(connection.Handle(), steps);
+    if (!m_keepCopy || sqlite3_total_changes(connection.Handle()) == before) {
+        return;
+    }
+    connection.Release();
+    m_keepCopy();
+    connection.PrepareWrite();
+    InstallTrail(*this);
+    RunSigned(steps);
+}
+
+void SqliteEngine::RunSigned(const std::function<void()>& steps)
+{
+    const std::int64_t next = NextStep(*this);
+    const std::int64_t step = WantedStep() != 0 ? WantedStep() : next;
+    OpenStep(*this, Signature(), step);
+    TookStep(step);
+    RunWithin(m_connection->Handle(), steps);
+    CloseStep(*this);
+    TookStep(NextStep(*this) == next ? 0 : step); // a number without entries is given to the next step
+}
+
+void SqliteEngine::Untold(const std::function<void()>& steps)
+{
+    sqlite3* const database = Open().Handle();
+    const auto triggers = [database](int run) { sqlite3_db_config(database, SQLITE_DBCONFIG_ENABLE_TRIGGER, run, nullptr); };
+    triggers(0);
+    try {
+        steps();
+    } catch (...) {
+        triggers(1);
+        throw;
+    }
+    triggers(1);
+}
+
+void SqliteEngine::AddWholeEntry(const char* action, const std::string& file)
+{
+    if (HasTrail()) {
+        AddEntry(*this, action, file);
+    }
+}
+
+bool SqliteEngine::HasTrail()
+{
+    return ptk::HasTrail(*this);
+}
+
+std::int64_t SqliteEngine::NewestEntry()
+{
+    return NextStep(*this) - 1;
+}
+
+void SqliteEngine::CopyTo(const std::string& path, const CopyProgress& progress)
+{
+    Open().CopyTo(path, progress);
+}
+
+void SqliteEngine::BeginMany()
+{
+    Open().PrepareWrite();
+}
+
+void SqliteEngine::RunScript(const char* sql)
+{
+    Open().Run(sql);
+}
+
+std::int64_t SqliteEngine::LastKey()
+{
+    return sqlite3_last_insert_rowid(Open().Handle());
+}
+
+void SqliteEngine::Commit()
+{
+    Open().Commit();
+}
+
+std::shared_ptr<RecordSet> SqliteEngine::Patiently(const char* pragma)
+{
+    SqliteStatement statement(Open().Handle(), pragma);
+    statement.AllowSteps(SqliteStatement::kAnySteps);
+    return statement.ReadRows();
+}
+
+std::shared_ptr<RecordSet> SqliteEngine::CheckIntegrity()
+{
+    return Patiently("PRAGMA integrity_check");
+}
+
+std::shared_ptr<RecordSet> SqliteEngine::CheckQuickly()
+{
+    return Patiently("PRAGMA quick_check(1)");
+}
+
+} // namespace ptk

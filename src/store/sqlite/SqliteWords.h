@@ -1,0 +1,26 @@
+// The words of a database file. Other tools may have stored anything in it, so none relies on the kind of a value.
+#pragma once
+
+#include "store/engine/EngineWords.h"
+
+namespace ptk {
+
+inline constexpr EngineWords kSqliteWords{
+    .caseless = "{0} COLLATE NOCASE",
+    .caselessFirstName = "IFNULL(FirstName, '') COLLATE NOCASE",
+    .caselessLastName = "IFNULL(LastName, '') COLLATE NOCASE",
+    .unusualPunch = "CASE WHEN StartTime BETWEEN '0100-' AND ':' THEN "
+                    "datetime(StartTime, '+0 days') IS NOT NULLIF(StartTime, '1899-12-30 00:00:00') "
+                    "OR EndTime NOT BETWEEN StartTime AND datetime(StartTime, '+1 day') ELSE 1 END",
+    .inDays = "{0} BETWEEN :first AND :last",
+    .json = "CASE WHEN json_valid({0}) THEN {0} END",
+    .jsonField = "CASE WHEN json_valid({0}) THEN json_extract({0}, '$.{1}') END",
+    .jsonFields = "SELECT key, type, CASE type WHEN 'real' THEN printf('%!.17g', atom) WHEN 'object' THEN "
+                  "json_extract(value, '$.blob') ELSE atom END FROM json_each(:json)",
+    .number = "{0}",
+    .findLimits = "SELECT name FROM sqlite_master WHERE type = 'table' AND name = '_CheckLimits' COLLATE NOCASE",
+    .lockRows = "",
+    .lockTable = "",
+};
+
+} // namespace ptk

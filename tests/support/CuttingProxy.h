@@ -1,0 +1,124 @@
+// A line to the tests' server that breaks: between a client and the server's socket, cut after so many bytes of the server's answers.
+#pragma once
+
+#include "support/ServerDatabase.h"
+#include "support/TemporaryFolder.h"
+
+#include <poll.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+#include <array>
+#include <atomic>
+#include <cstring>
+#include <thread>
+
+namespace ptk {
+
+class CuttingProxy
+{
+public:
+    CuttingProxy() : m_listener(Listen(m_folder.Path() + kSocket)), m_thread([this] { Serve(); }) {}
+    ~CuttingProxy()
+    {
+        m_stopped = true;
+        m_thread.join();
+        ::close(m_listener);
+    }
+    CuttingProxy(const CuttingProxy&) = delete;
+    CuttingProxy& operator=(const CuttingProxy&) = delete;
+
+    [[nodiscard]] const std::string& Folder() const { return m_folder.Path(); }
+
+    // The line that is open then is cut when the server has answered so many bytes more; later ones hold.
+    void CutAfter(int bytes) { m_left = bytes; }
+    [[nodiscard]] bool WasCut() const { return m_left < 0; }
+
+private:
+    static constexpr const char* kSocket = "/.s.PGSQL.5432";
+
+    static sockaddr_un AddressOf(const std::string& path)
+    {
+        sockaddr_un address{};
+        address.sun_family = AF_UNIX;
+        path.copy(address.sun_path, sizeof(address.sun_path) - 1);
+        return address;
+    }
+
+    static int Listen(const std::string& path)
+    {
+        const int listener = ::socket(AF_UNIX, SOCK_STREAM, 0);
+        const sockaddr_un address = AddressOf(path);
+        if (::bind(listener, reinterpret_cast<const sockaddr*>(&address), sizeof(address)) != 0 || ::listen(listener, 8) != 0) {
+            throw std::runtime_error("no proxy");
+        }
+        return listener;
+    }
+
+    static bool IsReadable(int socket, int milliseconds = 5)
+    {
+        pollfd one{socket, POLLIN, 0};
+        return ::poll(&one, 1, milliseconds) > 0;
+    }
+
+    // One line after the other, as a program has one at a time.
+    void Serve()
+    {
+        while (!m_stopped) {
+            if (IsReadable(m_listener)) {
+                const int client = ::accept(m_listener, nullptr, nullptr);
+                const int server = ::socket(AF_UNIX, SOCK_STREAM, 0);
+                const sockaddr_un address = AddressOf(TestServer() + kSocket);
+                if (::connect(server, reinterpret_cast<const sockaddr*>(&address), sizeof(address)) == 0) {
+                    Relay(client, server);
+                }
+                ::close(client);
+                ::close(server);
+            }
+        }
+    }
+
+    void Relay(int client, int server)
+    {
+        std::array<char, 4096> buffer{};
+        while (!m_stopped) {
+            std::array<pollfd, 2> both{{{client, POLLIN, 0}, {server, POLLIN, 0}}};
+            ::poll(both.data(), both.size(), 5);
+            if (both[0].revents != 0) {
+                const auto size = ::read(client, buffer.data(), buffer.size());
+                if (size <= 0 || ::write(server, buffer.data(), static_cast<std::size_t>(size)) != size) {
+                    return;
+                }
+            }
+            if (both[1].revents != 0 && !PassBack(client, server, buffer)) {
+                return;
+            }
+        }
+    }
+
+    bool PassBack(int client, int server, std::array<char, 4096>& buffer)
+    {
+        auto size = ::read(server, buffer.data(), buffer.size());
+        if (size <= 0) {
+            return false;
+        }
+        const int left = m_left;
+        const bool cut = left >= 0 && size > left;
+        size = cut ? left : size;
+        if (left >= 0) {
+            m_left = cut ? -1 : left - static_cast<int>(size);
+        }
+        return ::write(client, buffer.data(), static_cast<std::size_t>(size)) == size && !cut;
+    }
+
+    static constexpr int kNever = -2;
+
+    TemporaryFolder m_folder;
+    std::atomic<int> m_left = kNever;
+    std::atomic<bool> m_stopped = false;
+    int m_listener;
+    std::thread m_thread;
+};
+
+} // namespace ptk

@@ -1,0 +1,55 @@
+// A database of a test's own on the tests' server, gone with it.
+#pragma once
+
+#include "store/postgres/ServerLine.h"
+
+#include <fmt/format.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <stdexcept>
+#include <string>
+
+namespace ptk {
+
+// The folder of the socket of the server that CTest starts. Without CTest: tests/support/server_cluster start DIR, and
+// PTK_TEST_SERVER=DIR/socket.
+inline std::string TestServer()
+{
+    const char* const folder = std::getenv("PTK_TEST_SERVER");
+    if (folder == nullptr) {
+        throw std::runtime_error("no server: run tests/support/server_cluster start DIR and set PTK_TEST_SERVER=DIR/socket");
+    }
+    return folder;
+}
+
+class ServerDatabase
+{
+public:
+    // Empty.
+    ServerDatabase()
+    {
+        static int made = 0;
+        m_name = fmt::format("ptk_{}_{}", ::getpid(), ++made);
+        Owner("postgres").RunScript(fmt::format("CREATE DATABASE {} TEMPLATE template0 ENCODING 'UTF8'", m_name).c_str());
+    }
+    ~ServerDatabase() { Owner("postgres").RunScript(fmt::format("DROP DATABASE {} WITH (FORCE)", m_name).c_str()); }
+    ServerDatabase(const ServerDatabase&) = delete;
+    ServerDatabase& operator=(const ServerDatabase&) = delete;
+
+    [[nodiscard]] std::string Address(const std::string& user = "postgres") const { return AddressOf(m_name, user); }
+
+    // As another tool would.
+    void Run(const std::string& sql) const { Owner(m_name).RunScript(sql.c_str()); }
+
+private:
+    static std::string AddressOf(const std::string& name, const std::string& user)
+    {
+        return fmt::format("postgresql:///{}?host={}&user={}", name, TestServer(), user);
+    }
+    static ServerLine Owner(const std::string& name) { return ServerLine(AddressOf(name, "postgres"), std::nullopt); }
+
+    std::string m_name;
+};
+
+} // namespace ptk
