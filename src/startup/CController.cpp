@@ -19,6 +19,7 @@
 #include "startup/Windows.h"
 #include "store/CJetDB.h"
 #include "store/CSystemOptions.h"
+#include "store/postgres/ServerAddress.h"
 
 #include <fmt/format.h>
 
@@ -198,7 +199,11 @@ bool CController::OpenDatabase()
         m_database->StoredBy(m_author);
         m_locator = std::make_shared<CDatabaseLocator>(m_around.programFolder);
         m_locator->ConfigFile(m_configFile);
-        return m_locator->GetDatabasePath() && m_database->OpenPTKDatabase(m_locator);
+        const bool opened = m_locator->GetDatabasePath() && m_database->OpenPTKDatabase(m_locator);
+        if (!opened && IsServerAddress(m_locator->DatabasePath())) { // of which the box, made for files, says too little
+            LogFailure(kOperationFailed, m_database->LastFailure().Number(), m_database->LastFailure().Description());
+        }
+        return opened;
     });
 }
 
