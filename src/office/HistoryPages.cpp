@@ -15,15 +15,21 @@ namespace {
 
 constexpr auto kTitle = "History of changes";
 constexpr auto kTooMany = "a PDF document holds {} changes at most. Choose fewer of them, or save a table or text";
-constexpr auto kRow = "{:<22}  {:<{}}  {}";
 
+constexpr std::size_t kMoment = 22;    // characters: 03/05/2003 08:00:00 PM
 constexpr std::size_t kWidest = 120;   // characters of a line: "Christopher Hernandez: start MOMENT became MOMENT" with whoever did it
 constexpr std::size_t kWidestWho = 32; // so that what was changed begins in the left half and goes on below itself
+
+// With two blanks behind it.
+std::string Column(const std::string& text, std::size_t width)
+{
+    return text + std::string(width - std::min(width, CharacterCount(text)) + 2, ' ');
+}
 
 std::string LineOf(const HistoryCells& cells, std::size_t whoWidth)
 {
     const auto& [when, who, employee, what] = cells;
-    return fmt::format(kRow, when, who, whoWidth, employee.empty() ? what : employee + ": " + what);
+    return Column(when, kMoment) + Column(who, whoWidth) + (employee.empty() ? "" : employee + ": ") + what;
 }
 
 } // namespace

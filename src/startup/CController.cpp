@@ -9,6 +9,7 @@
 #include "platform/ProgramFolder.h"
 #include "platform/Required.h"
 #include "platform/Succeeds.h"
+#include "platform/VectorRegisters.h"
 #include "shell/CDatabaseLocator.h"
 #include "shell/CError.h"
 #include "shell/CFile.h"
@@ -270,6 +271,7 @@ bool CController::GetCompanyList()
 
 bool CController::GetEmployeeList()
 {
+    ClearUpperVectors(); // the longest work of the start, right behind the windows' own
     return Logged([this] { return Reload(m_employeeList, m_database) || LogUnloaded("employees"); });
 }
 

@@ -8,10 +8,8 @@
 #include "platform/Text.h"
 #include "store/CJetDB.h"
 #include "store/CSystemOptions.h"
-#include "store/DatabaseCreator.h"
 #include "store/engine/RecordSet.h"
-#include "store/sqlite/SqliteEngine.h"
-#include "support/TemporaryFolder.h"
+#include "support/EitherDatabase.h"
 
 #include <gtest/gtest.h>
 
@@ -24,21 +22,19 @@ class ConflictTest : public testing::Test
 protected:
     ConflictTest()
     {
-        CreateDatabase(m_folder.Path() + "/system/ptk_11.mdb");
-        Elsewhere(
-            "INSERT INTO Employee (EmployeeID, FirstName, LastName, PayRate, Active, AutoDeduct, Password) VALUES (40, 'Bo', 'Kim', 10, 1, "
-            "0, 'old')");
+        Elsewhere("INSERT INTO Employee (EmployeeID, FirstName, LastName, PayRate, Active, AutoDeduct, Password) VALUES (40, 'Bo', 'Kim', "
+                  "10, '1', "
+                  "'0', 'old')");
         Elsewhere("INSERT INTO Company (CompanyID, Name, URL) VALUES (1, 'Ltd', 'http://ltd')");
         Elsewhere("INSERT INTO TimeRecord (EmployeeID, StartTime, EndTime) VALUES (40, #3/5/2003 8:00 AM#, #3/5/2003 5:00 PM#)");
-        m_database->DatabaseName(Path());
+        m_database->DatabaseName(m_kept.Name());
     }
 
-    std::string Path() const { return m_folder.Path() + "/system/ptk_11.mdb"; }
-    void Elsewhere(const std::string& sql) const { SqliteEngine(Path()).Execute(sql); }
-    std::string Value(const std::string& sql) const { return SqliteEngine(Path()).Select(sql)->Shown(0); }
+    void Elsewhere(const std::string& sql) const { m_kept.Open()->Execute(sql); }
+    std::string Value(const std::string& sql) const { return m_kept.Open()->Select(sql)->Shown(0); }
 
-    TemporaryFolder m_folder;
-    std::shared_ptr<CJetDB> m_database = std::make_shared<CJetDB>(m_folder.Path());
+    EitherDatabase m_kept;
+    std::shared_ptr<CJetDB> m_database = std::make_shared<CJetDB>(m_kept.Folder());
 };
 
 TEST_F(ConflictTest, AnEmployeeOrCompanyIsNotOverwritten)

@@ -171,7 +171,7 @@ TEST(HistoryPagesTest, AreATableOfWhichNoMoreIsKeptThanAPdfDocumentHolds)
 {
     HistoryPages pages;
     pages.Add({"03/07/2003 06:00:00 PM", "Zo\xC3\xAB (ptk-console)", "Ann Lee", "employee deleted"});
-    pages.Add({"", "Bo", "", "Options: period length 14 became 7"});
+    pages.Add({"", "\xE5\x8D\x9A", "", "Options: period length 14 became 7"});
     const ReportDocument document = pages.Document();
     std::string printed;
     for (const ReportLine& line : document.lines) {
@@ -179,7 +179,7 @@ TEST(HistoryPagesTest, AreATableOfWhichNoMoreIsKeptThanAPdfDocumentHolds)
     }
     EXPECT_EQ(printed, "When                    Who                What\n\n"
                        "03/07/2003 06:00:00 PM  Zo\xC3\xAB (ptk-console)  Ann Lee: employee deleted\n"
-                       "                        Bo                 Options: period length 14 became 7\n"
+                       "                        \xE5\x8D\x9A                  Options: period length 14 became 7\n"
                        "\n2 changes\n");
     for (int row = 2; row < 10000; ++row) {
         pages.Add({});

@@ -424,6 +424,8 @@ std::vector<std::string> ServerLine::TakeNotices()
 {
     std::vector<std::string> notices;
     if (IsAlive()) {
+        Begin();
+        HearUnheard(); // what is told lies behind it
         while (PGnotify* const notice = Library().notifies(m_connection.get())) {
             notices.emplace_back(notice->extra);
             Library().freemem(notice);

@@ -57,7 +57,7 @@ public:
     // False where it was lost: also noticed while nothing was asked. Does not wait.
     [[nodiscard]] bool IsAlive();
 
-    // What LISTEN promised, in the order of the commits that told it; each once. Does not wait.
+    // What LISTEN promised, in the order of the commits that told it; each once. Does not wait for more.
     [[nodiscard]] std::vector<std::string> TakeNotices();
 
     // How often an answer was waited for.
