@@ -8,8 +8,11 @@ BEGIN
         IF NOT EXISTS (SELECT 1 FROM pg_roles WHERE rolname = role_name) THEN
             BEGIN
                 EXECUTE format('CREATE ROLE %I NOLOGIN', role_name);
-            EXCEPTION WHEN insufficient_privilege THEN
-                RETURN;
+            EXCEPTION
+                WHEN duplicate_object OR unique_violation THEN
+                    NULL; -- another database of this server was made at the same time
+                WHEN insufficient_privilege THEN
+                    RETURN;
             END;
         END IF;
     END LOOP;

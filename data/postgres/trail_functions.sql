@@ -5,7 +5,10 @@
 --   ptk.last               set here: the number of the newest entry of this transaction
 --   ptk.untold             1 while rows are not told one by one
 -- A write never fails for the sake of its entry: what the settings hold is looked at before it is taken. The functions write with their owner's
--- right, since nobody else may change the trail.
+-- right, since nobody else may change the trail. Run in one transaction: until its end the path below holds, which the functions keep. Without it
+-- they would look first among the temporary tables of whoever writes, which may bear the trail's names.
+
+SELECT set_config('search_path', quote_ident(current_schema()) || ', pg_temp', true);
 
 CREATE OR REPLACE FUNCTION ptk_number(setting text) RETURNS bigint LANGUAGE sql STABLE AS $$
     SELECT CASE WHEN current_setting(setting, true) ~ '^[0-9]{1,18}$' THEN current_setting(setting, true)::bigint END
@@ -40,7 +43,8 @@ END
 $$;
 REVOKE EXECUTE ON FUNCTION ptk_add FROM PUBLIC;
 
-CREATE OR REPLACE FUNCTION ptk_tell() RETURNS trigger LANGUAGE plpgsql SECURITY DEFINER SET search_path FROM CURRENT AS $$
+-- Rates are told with all their digits, however many the writer's session asks for.
+CREATE OR REPLACE FUNCTION ptk_tell() RETURNS trigger LANGUAGE plpgsql SECURITY DEFINER SET search_path FROM CURRENT SET extra_float_digits = 1 AS $$
 DECLARE
     tab text := TG_ARGV[0];
     old_row jsonb := CASE WHEN TG_OP <> 'INSERT' THEN to_jsonb(OLD) END;
@@ -60,6 +64,9 @@ BEGIN
             is_now := concat_ws(',', is_now, '"' || rtrim(named, '@') || '":' || ptk_told(new_row -> key, named));
         END IF;
     END LOOP;
+    IF was IS NULL AND is_now IS NULL THEN
+        RETURN NULL; -- only a column that another tool added
+    END IF;
     key := lower(tab) || 'id'; -- the tables of one row have none
     PERFORM ptk_add(tab, lower(TG_OP), COALESCE((COALESCE(old_row, new_row) ->> key)::bigint, 1),
         CASE WHEN old_row IS NOT NULL THEN ('{' || was || '}')::json END, CASE WHEN new_row IS NOT NULL THEN ('{' || is_now || '}')::json END,

@@ -4,7 +4,6 @@
 
 #include <array>
 #include <chrono>
-#include <fmt/format.h>
 #include <tuple>
 
 namespace ptk {
@@ -17,10 +16,10 @@ constexpr int kFirstYear = 100;
 // The numbers in the form's places of two digits each: century, year, month, day, hour, minute, second. Every date-time that is read passes
 // here.
 using Parts = std::array<unsigned, 7>;
+constexpr std::array<std::size_t, 7> kPlaces{0, 2, 5, 8, 11, 14, 17};
 
 constexpr bool TakeApart(std::string_view text, Parts& parts)
 {
-    constexpr std::array<std::size_t, 7> kPlaces{0, 2, 5, 8, 11, 14, 17};
     if (text.size() != kPattern.size() || text[4] != '-' || text[7] != '-' || text[10] != ' ' || text[13] != ':' || text[16] != ':') {
         return false;
     }
@@ -40,7 +39,13 @@ std::string StoredText(DateTime value)
 {
     const CalendarDate date = value.Date();
     const TimeOfDay time = value.Time();
-    return fmt::format("{:04}-{:02}-{:02} {:02}:{:02}:{:02}", date.year, date.month, date.day, time.hour, time.minute, time.second);
+    const std::array parts{date.year / 100, date.year % 100, date.month, date.day, time.hour, time.minute, time.second};
+    std::string text(kPattern);
+    for (std::size_t i = 0; i < parts.size(); ++i) {
+        text[kPlaces[i]] = static_cast<char>('0' + parts[i] / 10);
+        text[kPlaces[i] + 1] = static_cast<char>('0' + parts[i] % 10);
+    }
+    return text;
 }
 
 std::optional<DateTime> FromStoredText(std::string_view text)

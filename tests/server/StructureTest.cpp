@@ -1,0 +1,162 @@
+// What a server's database holds by itself, whichever tool writes there: the trail to the letter, its rates, and who may do what.
+#include "platform/Failure.h"
+#include "support/NewServerDatabase.h"
+
+#include <gmock/gmock.h>
+
+namespace ptk {
+
+namespace {
+
+using ::testing::HasSubstr;
+
+class StructureTest : public ::testing::Test
+{
+protected:
+    // The rows of the last statement: "a|NULL|b|", each value with its bar.
+    static std::string Rows(ServerLine& line, const std::string& sql)
+    {
+        std::string rows;
+        const auto results = line.Send({{sql, {}, false, false}});
+        for (int row = 0; row < results.back().RowCount(); ++row) {
+            for (int column = 0; column < results.back().ColumnCount(); ++column) {
+                rows += results.back().IsNull(row, column) ? "NULL" : std::string(results.back().Text(row, column));
+                rows += '|';
+            }
+        }
+        return rows;
+    }
+    std::string Rows(const std::string& sql) { return Rows(m_line, sql); }
+    std::string Entries(const std::string& columns) { return Rows("SELECT " + columns + " FROM _Change ORDER BY ChangeID"); }
+
+    // Empty when the script was done.
+    static std::string Refusal(ServerLine& line, const std::string& script)
+    {
+        try {
+            line.RunScript(script.c_str());
+            return "";
+        } catch (const Failure& failure) {
+            return failure.Description();
+        }
+    }
+
+    NewServerDatabase m_database;
+    ServerLine m_line{m_database.Address(), std::nullopt};
+};
+
+TEST_F(StructureTest, TellsEveryChangeOfAnotherToolAsTheFileDoes)
+{
+    EXPECT_EQ(Entries("*"), "") << "a new database starts with none";
+    struct Case
+    {
+        const char* sql;
+        const char* entry; // table, row, action, before, after, employees
+    };
+    for (const Case& c : {
+             Case{"INSERT INTO TimeRecord (EmployeeID, StartTime) VALUES (40, '0100-01-01 08:00:00')",
+                  R"(TimeRecord|1|insert|NULL|{"TimeRecordID":1,"EmployeeID":40,"ShiftDate":null,"StartTime":"0100-01-01 08:00:00",)"
+                  R"("EndTime":null}|NULL|40|)"},
+             Case{"UPDATE TimeRecord SET EndTime = '9999-12-31 23:59:59', EmployeeID = 40",
+                  R"(TimeRecord|1|update|{"EndTime":null}|{"EndTime":"9999-12-31 23:59:59"}|40|40|)"},
+             Case{"UPDATE TimeRecord SET EndTime = EndTime", ""},
+             Case{"UPDATE TimeRecord SET TimeRecordID = 7, EmployeeID = 41",
+                  R"(TimeRecord|1|update|{"TimeRecordID":1,"EmployeeID":40}|{"TimeRecordID":7,"EmployeeID":41}|40|41|)"},
+             Case{"DELETE FROM TimeRecord",
+                  R"(TimeRecord|7|delete|{"TimeRecordID":7,"EmployeeID":41,"ShiftDate":null,"StartTime":"0100-01-01 08:00:00",)"
+                  R"("EndTime":"9999-12-31 23:59:59"}|NULL|41|NULL|)"},
+             Case{"SET extra_float_digits = 0; UPDATE Employee SET Password = 'new', PayRate = 16777215, OvertimePayRate = 0.1, Active = "
+                  "false",
+                  R"(Employee|39|update|{"PayRate":0,"OvertimePayRate":0,"Active":1,"Password":"changed"}|)"
+                  R"({"PayRate":16777215,"OvertimePayRate":0.1,"Active":0,"Password":"changed"}|39|39|)"},
+             Case{"UPDATE Employee SET Password = NULL, PayRate = '-inf', HireDate = NULL, Active = NULL",
+                  R"(Employee|39|update|{"HireDate":"1899-12-30 00:00:00","PayRate":16777215,"Active":0,"Password":"changed"}|)"
+                  R"({"HireDate":null,"PayRate":"-Infinity","Active":null,"Password":null}|39|39|)"},
+             Case{R"(UPDATE Employee SET City = 'true', State = E'Тула "a"\\\n\x01', ZipCode = '2003-03-05T08:00:00')",
+                  R"(Employee|39|update|{"City":"","State":"","ZipCode":""}|)"
+                  R"({"City":"true","State":"Тула \"a\"\\\n\u0001","ZipCode":"2003-03-05T08:00:00"}|39|39|)"},
+             Case{"INSERT INTO Company (Name) VALUES ('Ltd')",
+                  R"(Company|1|insert|NULL|{"CompanyID":1,"Name":"Ltd","Address1":null,"Address2":null,"City":null,"State":null,)"
+                  R"("ZipCode":null,"Phone":null,"Fax":null,"FederalTaxID":null,"URL":null}|NULL|NULL|)"},
+             Case{"UPDATE _System SET period_length = 7, auto_shift_end_time = '1899-12-30 16:30:00'",
+                  R"(_System|1|update|{"period_length":14,"auto_shift_end_time":"1899-12-30 17:00:00"}|)"
+                  R"({"period_length":7,"auto_shift_end_time":"1899-12-30 16:30:00"}|NULL|NULL|)"},
+             Case{"DELETE FROM _CheckLimits",
+                  R"(_CheckLimits|1|delete|{"long_shift_hours":16,"first_weekday":0,"show_notices":1}|NULL|NULL|NULL|)"},
+             Case{"ALTER TABLE Company ADD COLUMN Logo bytea, DROP COLUMN Address2; UPDATE Company SET Logo = '\\x00'", ""},
+             Case{"SET ptk.step = 'x'; SET ptk.next = '99999999999999999999'; UPDATE Company SET Fax = '5'",
+                  R"(Company|1|update|{"Fax":null}|{"Fax":"5"}|NULL|NULL|)"},
+         }) {
+        m_line.RunScript(c.sql);
+        EXPECT_EQ(Entries("TableName, RowID, Action, Before, After, EmployeeBefore, EmployeeAfter"), c.entry) << c.sql;
+        EXPECT_EQ(Rows("SELECT COUNT(*) FROM _Change WHERE ChangedBy IS NOT NULL OR Program IS NOT NULL OR Step IS NOT NULL OR "
+                       "ABS(EXTRACT(epoch FROM localtimestamp - ChangedAt::timestamp)) > 60"),
+                  "0|")
+            << c.sql;
+        m_line.RunScript("DELETE FROM _Change");
+    }
+}
+
+TEST_F(StructureTest, KeepsAStepTogether)
+{
+    const std::string open = "BEGIN; SELECT set_config('ptk.user', 'Ann Lee', true), set_config('ptk.program', 'ptk-admin', true), "
+                             "set_config('ptk.step', n, true), set_config('ptk.next', n, true) "
+                             "FROM (SELECT nextval('_change_changeid_seq')::text) AS step (n);";
+    const std::string two = "INSERT INTO Company (Name) VALUES ('a'), ('b');";
+    m_line.RunScript((open + two).c_str());
+    EXPECT_EQ(Rows("SELECT current_setting('ptk.last')"), "2|");
+    m_line.RunScript("COMMIT");
+    m_line.RunScript((open + "SAVEPOINT a; " + two + "ROLLBACK TO a; DELETE FROM Company WHERE Name = 'a'; COMMIT").c_str());
+    m_line.RunScript("BEGIN; SET LOCAL ptk.untold = '1'; DELETE FROM Company; SELECT ptk_add_entry('import', 'x'); COMMIT");
+    m_line.RunScript(two.c_str());
+    EXPECT_EQ(Entries("ChangeID, ChangedBy, Program, Step, Action"),
+              "1|Ann Lee|ptk-admin|1|insert|2|Ann Lee|ptk-admin|1|insert|3|Ann Lee|ptk-admin|3|delete|5|NULL|NULL|NULL|import|"
+              "6|NULL|NULL|NULL|insert|7|NULL|NULL|NULL|insert|");
+}
+
+TEST_F(StructureTest, KeepsRatesToTheLastBit)
+{
+    for (const char* rate : {"12.3", "0.1", "1.6777216e+07", "7.8333335", "3.4028235e+38", "1e-45", "-0.33333334"}) {
+        EXPECT_EQ(Rows(fmt::format("UPDATE Employee SET PayRate = '{}' RETURNING PayRate", rate)), fmt::format("{}|", rate));
+        EXPECT_EQ(Rows("SELECT (After ->> 'PayRate')::real FROM _Change ORDER BY ChangeID DESC LIMIT 1"), fmt::format("{}|", rate));
+    }
+}
+
+TEST_F(StructureTest, LetsTheRolesDoTheirsAndNoMore)
+{
+    m_line.RunScript("DO $$ BEGIN CREATE ROLE ptk_ann LOGIN IN ROLE ptk_office; CREATE ROLE ptk_bob LOGIN IN ROLE ptk_reader; "
+                     "EXCEPTION WHEN duplicate_object THEN NULL; END $$");
+    ServerLine ann(m_database.Address("ptk_ann"), std::nullopt);
+    ServerLine bob(m_database.Address("ptk_bob"), std::nullopt);
+    for (const char* write : {"INSERT INTO Employee (LastName) VALUES ('Lee')", "UPDATE Employee SET City = 'x'",
+                              "INSERT INTO TimeRecord (EmployeeID) VALUES (40)", "DELETE FROM TimeRecord",
+                              "INSERT INTO Company (Name) VALUES ('a')", "UPDATE Company SET Name = 'b'", "DELETE FROM Company",
+                              "UPDATE _System SET period_length = 7", "UPDATE _CheckLimits SET show_notices = false",
+                              "SELECT nextval('_change_changeid_seq')", "SELECT ptk_add_entry('restore', 'x')"}) {
+        EXPECT_EQ(Refusal(ann, write), "") << write;
+        EXPECT_THAT(Refusal(bob, write), HasSubstr("permission denied")) << write;
+    }
+    EXPECT_EQ(Refusal(bob, "SELECT Password FROM Employee; SELECT * FROM _Change; SELECT * FROM _StoredQuery; SELECT * FROM _Structure"),
+              "");
+    for (const char* refused :
+         {"ALTER TABLE Company ADD COLUMN x integer", "DROP INDEX EmployeeOrder", "INSERT INTO _Change (RowID) VALUES (1)",
+          "UPDATE _Change SET Step = 1", "SELECT ptk_add('a', 'insert', 1, NULL, NULL, NULL, NULL)",
+          "SELECT setval('_change_changeid_seq', 1)", "SET session_replication_role = replica", "CREATE TABLE public.x (y integer)",
+          "CREATE TEMP TABLE x (y integer); CREATE TRIGGER x AFTER INSERT ON x EXECUTE FUNCTION ptk_tell()"}) {
+        EXPECT_NE(Refusal(ann, refused), "") << refused;
+        EXPECT_NE(Refusal(bob, refused), "") << refused;
+    }
+}
+
+// A login may always make tables of its own that last as long as its line, under whatever names.
+TEST_F(StructureTest, EntriesGoToTheTrailAndNoOtherTableOfThatName)
+{
+    m_line.RunScript("CREATE TEMP TABLE _Change (LIKE public._Change); CREATE SCHEMA postgres; CREATE TABLE postgres._Change (LIKE "
+                     "public._Change); UPDATE Employee SET City = 'x'");
+    EXPECT_EQ(Rows("SELECT (SELECT COUNT(*) FROM pg_temp._Change), (SELECT COUNT(*) FROM postgres._Change), (SELECT COUNT(*) FROM "
+                   "public._Change)"),
+              "0|0|1|");
+}
+
+} // namespace
+
+} // namespace ptk
