@@ -19,6 +19,8 @@
 #include "startup/Windows.h"
 #include "store/CJetDB.h"
 #include "store/CSystemOptions.h"
+#include "store/postgres/ServerAddress.h"
+#include "store/Restore.h"
 
 #include <fmt/format.h>
 
@@ -325,6 +327,11 @@ std::string CController::Restore()
         return {};
     }
     return ReadAgain() ? restored : restored + kNotReadAgain;
+}
+
+std::string CController::RestoreRefusal() const
+{
+    return IsServerAddress(Order().database) ? kNoRestoreOnServer : "";
 }
 
 bool CController::ReadAgain()

@@ -20,7 +20,7 @@ struct RestoreOrder
 
 inline constexpr const char* kNoRestoreOnServer =
     "A database on a server is not replaced by a backup: make an empty database there, copy the backup into it with ptk-console "
-    "copy-database, and enter its address as DatabasePath";
+    "copy-database --from, and enter its address as DatabasePath";
 
 // Refused for a server's address as the database, with what to do instead: others may be at work there.
 //

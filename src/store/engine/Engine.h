@@ -125,7 +125,7 @@ public:
 
     virtual void Commit() = 0;
 
-    // For the rows of one table, within BeginMany or Write. The engine's other members must not be called before its Finish.
+    // For the rows of one table in a new database that is being made, and Untold. No other member may be called before its Finish.
     virtual std::unique_ptr<RowSink> Fill(const StoredTable& table) = 0;
 
 protected:
