@@ -22,6 +22,9 @@ BEGIN
     GRANT SELECT ON Company, Employee, TimeRecord, _System, _CheckLimits, _StoredQuery, _Structure, _Change TO ptk_office, ptk_reader;
     GRANT INSERT, UPDATE, DELETE ON Company, Employee, TimeRecord, _System, _CheckLimits TO ptk_office;
     GRANT USAGE ON SEQUENCE _change_changeid_seq TO ptk_office;
+    GRANT UPDATE ON SEQUENCE company_companyid_seq, employee_employeeid_seq, timerecord_timerecordid_seq TO ptk_office; -- for rows with their numbers
+    GRANT SELECT ON SEQUENCE company_companyid_seq, employee_employeeid_seq, timerecord_timerecordid_seq, _change_changeid_seq
+        TO ptk_office, ptk_reader; -- a copy's numbers go on behind them
     GRANT EXECUTE ON FUNCTION ptk_add_entry TO ptk_office;
 END
 $$;

@@ -82,6 +82,7 @@ private:
     void DescribeHistory();
     void DescribeBackups();
     void DescribeImport();
+    void DescribeCopy();
     void CheckReport() const;
     std::variant<Arguments, UsageAnswer> Answer(const CLI::ParseError& error) const;
     Arguments Result() const;
@@ -100,6 +101,7 @@ private:
     CLI::App* m_restore = nullptr;
     CLI::App* m_backups = nullptr;
     CLI::App* m_import = nullptr;
+    CLI::App* m_copy = nullptr;
 };
 
 Grammar::Grammar()
@@ -120,6 +122,7 @@ Grammar::Grammar()
     DescribeHistory();
     DescribeBackups();
     DescribeImport();
+    DescribeCopy();
     m_app.add_subcommand("check", "Verify the database's integrity and schema and print its row counts");
 }
 
@@ -200,6 +203,16 @@ void Grammar::DescribeImport()
     m_import->add_option("--code-page", m_words.codePage, "Of the texts in a Jet 3 file (Access 97), instead of the one that it names")
         ->type_name("N")
         ->check(CLI::Validator([known](std::string& text) { return known(text); }, ""));
+}
+
+void Grammar::DescribeCopy()
+{
+    m_copy = m_app.add_subcommand("copy-database", "Copy all that is in the database into a new one: a file or a PostgreSQL server's");
+    m_copy->add_option("--to", m_words.target, "A file that is not there yet, or the address of a server's empty database")
+        ->type_name("DATABASE")
+        ->required();
+    m_copy->add_option("--from", m_words.from, "This file or address instead of the database that the configuration names")
+        ->type_name("DATABASE");
 }
 
 // What each report has no use for is refused rather than silently left aside.
@@ -288,6 +301,9 @@ Command Grammar::FileResult() const
     if (m_import->parsed()) {
         const bool named = m_import->count("--code-page") > 0;
         return ImportArguments{m_words.file, m_words.dryRun, m_words.acceptDamaged, named ? std::optional(m_words.codePage) : std::nullopt};
+    }
+    if (m_copy->parsed()) {
+        return CopyDatabaseArguments{m_copy->count("--from") > 0 ? std::optional(m_words.from) : std::nullopt, m_words.target};
     }
     return CheckArguments{};
 }

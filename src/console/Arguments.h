@@ -74,12 +74,18 @@ struct ImportArguments
     std::optional<int> codePage; // one that is known
 };
 
+struct CopyDatabaseArguments
+{
+    std::optional<std::string> from; // a file or an address; none: the configured database
+    std::string to;
+};
+
 struct CheckArguments
 {
 };
 
 using Command = std::variant<CreateDatabaseArguments, TimeCardArguments, ReportArguments, OverviewArguments, HistoryArguments,
-                             BackupArguments, RestoreArguments, BackupsArguments, ImportArguments, CheckArguments>;
+                             BackupArguments, RestoreArguments, BackupsArguments, ImportArguments, CopyDatabaseArguments, CheckArguments>;
 
 struct Arguments
 {

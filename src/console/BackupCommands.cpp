@@ -12,6 +12,7 @@
 #include "shell/CFileAdaptor.h"
 #include "store/engine/EngineSource.h"
 #include "store/FileSteps.h"
+#include "store/postgres/ServerAddress.h"
 
 #include <filesystem>
 #include <fmt/format.h>
@@ -19,6 +20,8 @@
 namespace ptk {
 
 namespace {
+
+constexpr const char* kBackupIsFile = "a backup is a file; ptk-console copy-database copies into a server's database";
 
 // The database's path, and the second folder that the configuration names.
 BackupOrder OrderOf(const Console& console)
@@ -75,6 +78,9 @@ int BackupCommand(const BackupArguments& arguments, Console& console)
     const BackupOrder order = OrderOf(console);
     if (!arguments.to) {
         return BackUpInto(order, console);
+    }
+    if (IsServerAddress(*arguments.to)) {
+        throw Failure(0, "PTK", kBackupIsFile);
     }
     std::string target = std::filesystem::absolute(*arguments.to).string();
     const auto write = [&] {

@@ -7,6 +7,7 @@ struct Console;
 struct BackupArguments;
 struct BackupsArguments;
 struct CheckArguments;
+struct CopyDatabaseArguments;
 struct CreateDatabaseArguments;
 struct HistoryArguments;
 struct ImportArguments;
@@ -24,6 +25,7 @@ struct TimeCardArguments;
 [[nodiscard]] int RestoreCommand(const RestoreArguments& arguments, Console& console);
 [[nodiscard]] int BackupsCommand(const BackupsArguments& arguments, Console& console);
 [[nodiscard]] int ImportCommand(const ImportArguments& arguments, Console& console);
+[[nodiscard]] int CopyDatabaseCommand(const CopyDatabaseArguments& arguments, Console& console);
 [[nodiscard]] int CheckCommand(const CheckArguments& arguments, Console& console);
 
 } // namespace ptk

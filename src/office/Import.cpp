@@ -10,6 +10,7 @@
 #include "store/DisplayNameSQL.h"
 #include "store/engine/Engine.h"
 #include "store/FileSteps.h"
+#include "store/postgres/ServerAddress.h"
 
 #include <chrono>
 #include <filesystem>
@@ -54,7 +55,8 @@ void RefuseFile(const ImportOrder& order)
 void RequireFolders(const ImportOrder& order)
 {
     std::error_code ignored;
-    for (const std::string& folder : {order.programFolder + "/reports", fs::path(order.database).parent_path().string()}) {
+    const auto home = IsServerAddress(order.database) ? fs::path(order.programFolder) : fs::path(order.database).parent_path();
+    for (const std::string& folder : {order.programFolder + "/reports", home.string()}) {
         if (!fs::is_directory(folder, ignored)) {
             throw Failure(failure::PathNotFound, "PTK", "there is no folder " + folder);
         }
@@ -179,7 +181,7 @@ ImportOutcome ImportOldDatabase(const ImportOrder& order, const ImportProgress& 
 {
     RefuseFile(order);
     RequireFolders(order);
-    if (IsThere(order.database)) {
+    if (IsServerAddress(order.database) || IsThere(order.database)) {
         RefuseUnlessEmpty(order.database);
     }
     ImportOutcome outcome;

@@ -20,6 +20,7 @@
 #include "store/CJetDB.h"
 #include "store/CSystemOptions.h"
 #include "store/postgres/ServerAddress.h"
+#include "store/Restore.h"
 
 #include <fmt/format.h>
 
@@ -330,6 +331,11 @@ std::string CController::Restore()
         return {};
     }
     return ReadAgain() ? restored : restored + kNotReadAgain;
+}
+
+std::string CController::RestoreRefusal() const
+{
+    return IsServerAddress(Order().database) ? kNoRestoreOnServer : "";
 }
 
 bool CController::ReadAgain()

@@ -102,6 +102,9 @@ public:
     // given those that hold now.
     [[nodiscard]] std::string Restore();
 
+    // Why the database is none that a restore could replace, a sentence without a full stop; empty where it is one.
+    [[nodiscard]] std::string RestoreRefusal() const;
+
     // Of the order, its file and what is wanted of it count. Where something was imported, everything has been read again as after a
     // restore; what of that failed is the outcome's problem. Raises what office/Import says.
     [[nodiscard]] ImportOutcome ImportOldDatabase(ImportOrder order, const ImportProgress& progress);

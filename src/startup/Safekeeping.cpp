@@ -5,6 +5,7 @@
 #include "platform/Succeeds.h"
 #include "startup/Windows.h"
 #include "store/engine/EngineSource.h"
+#include "store/postgres/ServerAddress.h"
 
 #include <filesystem>
 #include <utility>
@@ -155,7 +156,7 @@ bool Safekeeping::PutBack(const BackupOrder& order, const std::string& file, con
 
 bool Safekeeping::CanReplace(const BackupOrder& order)
 {
-    if (order.database.empty() || BackupsIn(BackupFolder(order.programFolder)).empty()) {
+    if (order.database.empty() || IsServerAddress(order.database) || BackupsIn(BackupFolder(order.programFolder)).empty()) {
         return false;
     }
     bool replaceable = false;

@@ -38,7 +38,7 @@ public:
     // Lets the user choose a file, and choose again where that could not be restored. Answers what was done; empty when nothing was.
     [[nodiscard]] std::string Restore(const BackupOrder& order, const Author& author);
 
-    // Whether the database is damaged, none, or missing, and there is a backup to take its place.
+    // Whether the database is a file, damaged, none, or missing, and there is a backup to take its place.
     [[nodiscard]] static bool CanReplace(const BackupOrder& order);
 
 private:

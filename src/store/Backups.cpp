@@ -5,8 +5,10 @@
 #include "platform/Succeeds.h"
 #include "platform/Text.h"
 #include "store/BackupNames.h"
+#include "store/DatabaseCopier.h"
 #include "store/engine/RecordSet.h"
 #include "store/FileSteps.h"
+#include "store/postgres/ServerAddress.h"
 #include "store/sqlite/EngineFailure.h"
 
 #include <algorithm>
@@ -64,6 +66,29 @@ std::vector<std::string> NamesIn(const std::string& folder)
     return names;
 }
 
+// Makes the folder. The first free name from that moment on.
+std::string NewBackup(const std::string& folder, DateTime now)
+{
+    MakeOwnFolder(folder);
+    DateTime named = now;
+    std::string path = folder + '/' + BackupName(named);
+    while (IsThere(path)) {
+        named = DateTime::FromSeconds(named.Seconds() + 1);
+        path = folder + '/' + BackupName(named);
+    }
+    return path;
+}
+
+// Into a file of the program's own form, which is read anywhere without a server.
+void BackUpServer(const std::string& address, const std::string& target, const CopyProgress& progress)
+{
+    RowProgress rows;
+    if (progress) {
+        rows = [&](std::int64_t done, std::int64_t all) { return progress(NarrowToInt32(done), NarrowToInt32(all)); };
+    }
+    static_cast<void>(CopyDatabase(address, target, rows));
+}
+
 } // namespace
 
 std::string BackupFolder(const std::string& programFolder)
@@ -73,20 +98,20 @@ std::string BackupFolder(const std::string& programFolder)
 
 std::string BackUp(SqliteEngine& database, const std::string& folder, DateTime now, const CopyProgress& progress)
 {
-    MakeOwnFolder(folder);
-    const auto pathOf = [&](DateTime moment) { return folder + '/' + BackupName(moment); };
-    DateTime named = now;
-    while (IsThere(pathOf(named))) {
-        named = DateTime::FromSeconds(named.Seconds() + 1);
-    }
-    FileDraft draft(pathOf(named));
+    const std::string path = NewBackup(folder, now);
+    FileDraft draft(path);
     FillDraft(database, draft, progress);
     draft.PlaceNew();
-    return pathOf(named);
+    return path;
 }
 
 std::string BackUp(const std::string& path, const std::string& folder, DateTime now, const CopyProgress& progress)
 {
+    if (IsServerAddress(path)) {
+        const std::string backup = NewBackup(folder, now);
+        BackUpServer(path, backup, progress);
+        return backup;
+    }
     SqliteEngine database(path);
     return BackUp(database, folder, now, progress);
 }
@@ -95,6 +120,9 @@ void BackUpTo(const std::string& path, const std::string& target, const CopyProg
 {
     if (IsThere(target)) {
         throw FileDraft::AlreadyThere(target);
+    }
+    if (IsServerAddress(path)) {
+        return BackUpServer(path, target, progress);
     }
     SqliteEngine database(path);
     FileDraft draft(target);

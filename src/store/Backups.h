@@ -21,10 +21,11 @@ namespace ptk {
 // Raises 11 when the database is damaged.
 std::string BackUp(SqliteEngine& database, const std::string& folder, DateTime now, const CopyProgress& progress = {});
 
-// The same as one operation on the closed file `path`, which raises what opening it raises: 5 when it is held.
+// The same as one operation on the closed database `path`, which raises what opening it raises: 5 when a file is held. Of a server, whose
+// address that is, a backup is a file, too; `progress` is told of rows then.
 std::string BackUp(const std::string& path, const std::string& folder, DateTime now, const CopyProgress& progress = {});
 
-// A backup of that file under a name of one's own. Raises 75 when there is something of that name, 76 without its folder.
+// A backup of that database under a name of one's own. Raises 75 when there is something of that name, 76 without its folder.
 void BackUpTo(const std::string& path, const std::string& target, const CopyProgress& progress = {});
 
 // Removes what need not be kept now that the backup of this name was made; never that one, nor `spared`. See DispensableBackups.

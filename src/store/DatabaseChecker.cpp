@@ -3,8 +3,9 @@
 #include "platform/Failure.h"
 #include "platform/Text.h"
 #include "store/engine/RecordSet.h"
-#include "store/QueryParameters.h"
+#include "store/postgres/ServerAddress.h"
 #include "store/RowChecker.h"
+#include "store/ServerChecker.h"
 #include "store/sqlite/FileHeader.h"
 #include "store/sqlite/SqliteEngine.h"
 
@@ -79,8 +80,8 @@ public:
         CountRows();
         CheckLimitsTable();
         CheckTrail();
-        CheckActions();
-        CheckRows();
+        m_rows.TryActions();
+        m_rows.CheckRows(m_incomplete);
         return std::move(m_check);
     }
 
@@ -164,32 +165,6 @@ private:
         }
     }
 
-    void CheckActions()
-    {
-        m_rows.TryAction("AddNewCompany", AddNewCompanyParameters({}));
-        m_rows.TryAction("AddNewEmployee", AddNewEmployeeParameters({}));
-        m_rows.TryAction("UpdateCompany", UpdateCompanyParameters({}));
-        m_rows.TryAction("UpdateEmployee", UpdateEmployeeParameters({}));
-    }
-
-    // A table that lacks a column has been reported as that.
-    void CheckRows()
-    {
-        struct Table
-        {
-            const char* name;
-            void (RowChecker::*check)();
-        };
-        for (const Table& table : {Table{"_System", &RowChecker::CheckOptions}, Table{"Company", &RowChecker::CheckCompanies},
-                                   Table{"Employee", &RowChecker::CheckEmployees}, Table{"TimeRecord", &RowChecker::CheckTimeRecords}}) {
-            if (!m_incomplete.contains(table.name)) {
-                (m_rows.*table.check)();
-            }
-        }
-        m_rows.TryCompanyListing();
-        m_rows.TryEmployeeListing();
-    }
-
     // 0 for a table that is not there, which has been reported by then.
     std::int32_t Count(const char* table)
     {
@@ -220,7 +195,7 @@ private:
 
 DatabaseCheck CheckDatabase(const std::string& path)
 {
-    return Inspector(path).Inspect();
+    return IsServerAddress(path) ? CheckServerDatabase(path) : Inspector(path).Inspect();
 }
 
 } // namespace ptk

@@ -35,31 +35,31 @@ void RefuseLeftovers(const std::string& path)
     }
 }
 
-void Fill(Engine& engine, const std::function<void(BulkWriter&)>& fill)
+std::function<void(Engine&)> Bulk(const std::function<void(BulkWriter&)>& fill)
+{
+    return [&fill](Engine& engine) {
+        BulkWriter writer(engine);
+        if (fill) {
+            fill(writer);
+        }
+    };
+}
+
+void Fill(Engine& engine, const std::function<void(Engine&)>& fill)
 {
     engine.BeginMany();
     engine.RunScript(kSchemaSql);
     engine.RunScript(kStoredQueriesSql);
-    BulkWriter writer(engine);
+    InstallTrail(engine);
     if (fill) {
-        fill(writer);
+        engine.Untold([&] { fill(engine); }); // what a new database starts with is no change
     }
-    InstallTrail(engine); // last: what a new database starts with is no change
-    writer.Commit();
+    engine.Commit();
 }
 
-std::string CreateOnServer(const std::string& address, const std::function<void(BulkWriter&)>& fill)
-{
-    const ServerRoles roles = CreateServerDatabase(address, [&](PostgresEngine& engine) {
-        if (fill) {
-            BulkWriter writer(engine);
-            fill(writer);
-        }
-    });
-    return roles == ServerRoles::Ready ? "" : kRolesMissing;
-}
+} // namespace
 
-void RefuseTaken(const std::string& path)
+void RefuseTakenPath(const std::string& path)
 {
     if (IsThere(path)) {
         throw FileDraft::AlreadyThere(path);
@@ -67,14 +67,17 @@ void RefuseTaken(const std::string& path)
     RefuseLeftovers(path);
 }
 
-} // namespace
-
 std::string CreateDatabase(const std::string& path, const std::function<void(BulkWriter&)>& fill)
 {
+    return CreateFilledDatabase(path, Bulk(fill));
+}
+
+std::string CreateFilledDatabase(const std::string& path, const std::function<void(Engine&)>& fill)
+{
     if (IsServerAddress(path)) {
-        return CreateOnServer(path, fill);
+        return CreateServerDatabase(path, fill) == ServerRoles::Ready ? "" : kRolesMissing;
     }
-    RefuseTaken(path);
+    RefuseTakenPath(path);
     FileDraft draft(path);
     {
         SqliteEngine engine(draft.Path(), NewFile{});
@@ -86,7 +89,7 @@ std::string CreateDatabase(const std::string& path, const std::function<void(Bul
 
 void CreateAndChangeDatabase(const std::string& path, const std::function<void(Engine&)>& change)
 {
-    RefuseTaken(path);
+    RefuseTakenPath(path);
     FileDraft draft(path);
     {
         SqliteEngine engine(draft.Path(), NewFile{});

@@ -18,6 +18,12 @@ class Engine;
 // already, or where the database is not in UTF8. Answers what is left for the server's owner to do, in a sentence; empty: nothing.
 std::string CreateDatabase(const std::string& path, const std::function<void(BulkWriter&)>& fill = {});
 
+// The same with a `fill` that works on the database itself, within the transaction that makes it; what it does is no change to be told.
+std::string CreateFilledDatabase(const std::string& path, const std::function<void(Engine&)>& fill);
+
+// Raises 75 where a new file cannot have this name, as above.
+void RefuseTakenPath(const std::string& path);
+
 // The same, but what `change` does to the new database is a change that it tells.
 void CreateAndChangeDatabase(const std::string& path, const std::function<void(Engine&)>& change);
 

@@ -4,6 +4,8 @@
 #include "store/DatabaseCreator.h"
 #include "store/engine/RecordSet.h"
 #include "store/FileSteps.h"
+#include "store/postgres/PostgresEngine.h"
+#include "store/postgres/ServerAddress.h"
 #include "store/sqlite/SqliteEngine.h"
 
 #include <fmt/format.h>
@@ -57,12 +59,35 @@ void RefuseUnlessEmpty(Engine& engine)
     }
 }
 
+// Nobody adds a row between the look and the writing.
+void LockTables(Engine& engine)
+{
+    for (std::size_t i = 0; i < kImportTableCount && *engine.Words().lockTable != '\0'; ++i) {
+        engine.Prepare(Said(engine.Words().lockTable, ImportTableOf(static_cast<ImportTableId>(i)).name))->Run();
+    }
+}
+
+// The next row's number lies behind those that came along.
+void SkipNumbers(Engine& engine)
+{
+    for (std::size_t i = 0; i < kImportTableCount; ++i) {
+        const ImportTable& table = ImportTableOf(static_cast<ImportTableId>(i));
+        if (table.hasKey) {
+            const char* const key = table.columns.front().name;
+            const std::int64_t greatest = NumberFrom(engine, fmt::format("SELECT COALESCE(MAX({}), 0) FROM {}", key, table.name));
+            engine.RunScript(Said(engine.Words().skipNumbers, table.name, key, greatest).c_str());
+        }
+    }
+}
+
 void Change(Engine& engine, const ImportTarget& target, const std::function<void(Engine&)>& fill)
 {
     engine.SignAs(target.author);
     engine.Write([&] {
+        LockTables(engine);
         RefuseUnlessEmpty(engine);
         engine.Untold([&] { fill(engine); });
+        SkipNumbers(engine);
         engine.AddWholeEntry("import", target.file);
     });
 }
@@ -160,12 +185,20 @@ ImportFigures ReadFigures(Engine& engine)
 
 void RefuseUnlessEmpty(const std::string& database)
 {
+    if (IsServerAddress(database)) {
+        PostgresEngine engine(database);
+        return RefuseUnlessEmpty(engine);
+    }
     SqliteEngine engine(database, ReadOnly{});
     RefuseUnlessEmpty(engine);
 }
 
 void Import(const ImportTarget& target, const std::function<void(Engine&)>& fill)
 {
+    if (IsServerAddress(target.database)) {
+        PostgresEngine engine(target.database, Unhurried{});
+        return Change(engine, target, fill);
+    }
     if (!IsThere(target.database)) {
         return CreateAndChangeDatabase(target.database, [&](Engine& engine) { Change(engine, target, fill); });
     }
@@ -176,7 +209,7 @@ void Import(const ImportTarget& target, const std::function<void(Engine&)>& fill
 
 void TryImport(const ImportTarget& target, const std::function<void(Engine&)>& fill)
 {
-    if (IsThere(target.database)) {
+    if (IsServerAddress(target.database) || IsThere(target.database)) {
         RefuseUnlessEmpty(target.database);
     }
     WithPassingDatabase([&](Engine& engine) { Change(engine, target, fill); });

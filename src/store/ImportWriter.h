@@ -80,7 +80,7 @@ private:
 
 struct ImportTarget
 {
-    std::string database; // in the platform's own form; a missing one is made
+    std::string database; // in the platform's own form; a missing file is made, a server's must have its tables
     std::string file;     // where the rows come from, for the trail
     Author author;
     std::function<void(SqliteEngine&)> keepCopy; // called before a database of an earlier version is brought up to date

@@ -5,6 +5,7 @@
 #include "store/Backups.h"
 #include "store/engine/EngineSource.h"
 #include "store/FileSteps.h"
+#include "store/postgres/ServerAddress.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -120,6 +121,9 @@ Present KeepPresent(const RestoreOrder& order, const CopyProgress& progress)
 
 std::string Restore(const RestoreOrder& order, const CopyProgress& progress)
 {
+    if (IsServerAddress(order.database)) {
+        throw Failure(0, "PTK", kNoRestoreOnServer);
+    }
     std::error_code ignored;
     RestoreOrder target = order;
     if (fs::is_symlink(order.database, ignored)) {

@@ -2,16 +2,15 @@
 
 #include "store/engine/RecordSet.h"
 #include "store/engine/Statement.h"
+#include "store/EveryRow.h"
+#include "store/QueryParameters.h"
 
 #include <fmt/format.h>
 #include <fmt/ranges.h>
-#include <set>
 
 namespace ptk {
 
 namespace {
-
-constexpr std::int32_t kPortion = 10'000; // rows
 
 void ReadCompany(RowReader& reader)
 {
@@ -34,19 +33,12 @@ void ReadOptions(RowReader& reader)
     reader.ReadOptions(row);
 }
 
-// What cannot be used in the rows of a statement, without full stops.
-std::vector<std::string> FindIn(Statement& statement, const TableColumns& columns, void (*read)(RowReader& reader))
+// What cannot be used goes behind `found`, without full stops.
+void FindIn(RecordSet& rows, const TableColumns& columns, void (*read)(RowReader& reader), std::vector<std::string>& found)
 {
-    std::vector<std::string> found;
-    std::int32_t count = kPortion;
-    while (count == kPortion) {
-        const auto rows = statement.ReadRows(kPortion);
-        count = rows->RecordCount();
-        for (RowReader reader(*rows, columns, found); !rows->EndOfFile(); rows->MoveNext()) {
-            read(reader);
-        }
+    for (RowReader reader(rows, columns, found); !rows.EndOfFile(); rows.MoveNext()) {
+        read(reader);
     }
-    return found;
 }
 
 } // namespace
@@ -54,33 +46,16 @@ std::vector<std::string> FindIn(Statement& statement, const TableColumns& column
 void RowChecker::CheckTable(const TableColumns& columns, ReadRow read)
 {
     try {
-        const auto statement = m_engine.Prepare(fmt::format("SELECT {} FROM {}", fmt::join(columns.names, ", "), columns.table));
-        for (const std::string& find : FindIn(*statement, columns, read)) {
+        std::vector<std::string> found;
+        ForEachPortionOf(m_engine, fmt::format("SELECT {} FROM {}", fmt::join(columns.names, ", "), columns.table),
+                         [&](RecordSet& rows) { FindIn(rows, columns, read, found); });
+        for (const std::string& find : found) {
             m_problems.push_back(find + '.');
         }
     } catch (const Failure& failure) {
+        m_engine.GiveUp(); // a server answers nothing more in this transaction
         m_problems.push_back(fmt::format("The table {} cannot be read: {}.", columns.table, failure.Description()));
     }
-}
-
-void RowChecker::CheckCompanies()
-{
-    CheckTable(CompanyTable(), ReadCompany);
-}
-
-void RowChecker::CheckEmployees()
-{
-    CheckTable(EmployeeTable(), ReadEmployee);
-}
-
-void RowChecker::CheckTimeRecords()
-{
-    CheckTable(TimeRecordTable(), ReadTimeRecord);
-}
-
-void RowChecker::CheckOptions()
-{
-    CheckTable(OptionsTable(), ReadOptions);
 }
 
 // Most finds are the table's own, which have been told by then; a query of another tool may have values of its own.
@@ -89,7 +64,9 @@ void RowChecker::TryListing(const char* query, const TableColumns& columns, Read
     try {
         const auto statement = m_engine.PrepareStored(query);
         const std::set<std::string> told(m_problems.begin(), m_problems.end());
-        for (const std::string& find : FindIn(*statement, columns, read)) {
+        std::vector<std::string> found;
+        FindIn(*statement->ReadRows(), columns, read, found);
+        for (const std::string& find : found) {
             if (!told.contains(find + '.')) {
                 m_problems.push_back(find + '.');
             }
@@ -99,14 +76,29 @@ void RowChecker::TryListing(const char* query, const TableColumns& columns, Read
     }
 }
 
-void RowChecker::TryCompanyListing()
+void RowChecker::CheckRows(const std::set<std::string>& incomplete)
 {
+    struct Table
+    {
+        TableColumns columns;
+        ReadRow read;
+    };
+    for (const Table& table : {Table{OptionsTable(), ReadOptions}, Table{CompanyTable(), ReadCompany}, Table{EmployeeTable(), ReadEmployee},
+                               Table{TimeRecordTable(), ReadTimeRecord}}) {
+        if (!incomplete.contains(table.columns.table)) {
+            CheckTable(table.columns, table.read);
+        }
+    }
     TryListing("GetAllCompanies", CompanyTable(), ReadCompany);
+    TryListing("GetAllEmployees", EmployeeTable(), ReadEmployee);
 }
 
-void RowChecker::TryEmployeeListing()
+void RowChecker::TryActions()
 {
-    TryListing("GetAllEmployees", EmployeeTable(), ReadEmployee);
+    TryAction("AddNewCompany", AddNewCompanyParameters({}));
+    TryAction("AddNewEmployee", AddNewEmployeeParameters({}));
+    TryAction("UpdateCompany", UpdateCompanyParameters({}));
+    TryAction("UpdateEmployee", UpdateEmployeeParameters({}));
 }
 
 void RowChecker::TryAction(const char* query, std::span<const Parameter> parameters)
@@ -122,6 +114,7 @@ void RowChecker::TryAction(const char* query, std::span<const Parameter> paramet
 
 void RowChecker::Unusable(const char* query, const Failure& failure)
 {
+    m_engine.GiveUp(); // as above
     std::string why = failure.Description();
     if (why.ends_with('.')) {
         why.pop_back();

@@ -5,6 +5,7 @@
 #include "store/engine/Engine.h"
 #include "store/RowReader.h"
 
+#include <set>
 #include <span>
 #include <string>
 #include <vector>
@@ -17,22 +18,17 @@ class RowChecker
 public:
     RowChecker(Engine& engine, std::vector<std::string>& problems) : m_engine(engine), m_problems(problems) {}
 
-    void CheckCompanies();
-    void CheckEmployees();
-    void CheckTimeRecords();
-    void CheckOptions();
+    // Of all tables but those that lack a column, and whether the stored queries of the lists run and answer the columns that are read.
+    void CheckRows(const std::set<std::string>& incomplete);
 
-    // Of the stored queries: whether they run, know the parameters that they are given, and answer the columns that are read.
-    void TryCompanyListing();
-    void TryEmployeeListing();
-
-    // Without running it.
-    void TryAction(const char* query, std::span<const Parameter> parameters);
+    // Of the stored queries that store: whether they could run and know the parameters that they are given.
+    void TryActions();
 
 private:
     using ReadRow = void (*)(RowReader& reader);
 
     void CheckTable(const TableColumns& columns, ReadRow read);
+    void TryAction(const char* query, std::span<const Parameter> parameters);
     void TryListing(const char* query, const TableColumns& columns, ReadRow read);
     void Unusable(const char* query, const Failure& failure);
 

@@ -10,12 +10,20 @@
 
 namespace ptk {
 
-BackupMenu::BackupMenu(QAction& backUp, QAction& restore, PageHost& host, QObject* parent) : QObject(parent), m_host(host)
+BackupMenu::BackupMenu(QAction& backUp, QAction& restore, PageHost& host, QObject* parent) : QObject(parent), m_restore(restore), m_host(host)
 {
     backUp.setIcon(ThemeIcon("backup"));
     restore.setIcon(ThemeIcon("restore"));
     connect(&backUp, &QAction::triggered, this, &BackupMenu::BackUpNow);
     connect(&restore, &QAction::triggered, this, &BackupMenu::Restore);
+}
+
+void BackupMenu::Offer()
+{
+    const auto refusal = QString::fromStdString(Required(m_host.Controller())->RestoreRefusal());
+    m_restore.setEnabled(refusal.isEmpty());
+    m_restore.setToolTip(refusal);
+    m_restore.setStatusTip(refusal);
 }
 
 void BackupMenu::BackUpWhenDue()

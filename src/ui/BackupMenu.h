@@ -17,6 +17,9 @@ public:
     // All outlive it.
     BackupMenu(QAction& backUp, QAction& restore, PageHost& host, QObject* parent);
 
+    // Offers what can be done with the controller's database; the rest says why not. REQUIRES: there is a controller.
+    void Offer();
+
     // The day's first backup, where there is none yet.
     void BackUpWhenDue();
 
@@ -30,6 +33,7 @@ private:
     void BackUpNow();
     void Restore();
 
+    QAction& m_restore;
     PageHost& m_host;
 };
 

@@ -209,6 +209,7 @@ void FController::Controller(std::shared_ptr<CController> value)
         m_errorNumber = windowerror::NoController;
     } else {
         ShowAll();
+        m_backups->Offer();
         m_timeCardPage->EnablePrint();
         m_reportsPage->EnableGenerate();
         QTimer::singleShot(kBackupDelay, this, &FController::BackUpWhenDue);

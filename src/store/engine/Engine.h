@@ -16,6 +16,8 @@
 namespace ptk {
 
 class RecordSet;
+class RowSink;
+struct StoredTable;
 
 // Failures carry the file engine's primary result codes, also those of a server (5: somebody else has it, 14: it cannot be opened, 19: a
 // refused value), and the engine's name as source; those of the statement text's dates 13 and "PTK". After a failure of a statement nothing
@@ -122,6 +124,9 @@ public:
     [[nodiscard]] virtual std::int64_t LastKey() = 0;
 
     virtual void Commit() = 0;
+
+    // For the rows of one table in a new database that is being made, and Untold. No other member may be called before its Finish.
+    virtual std::unique_ptr<RowSink> Fill(const StoredTable& table) = 0;
 
 protected:
     [[nodiscard]] const Author& Signature() const { return m_author; }

@@ -64,6 +64,7 @@ public:
 
     // 0 for what is no number.
     [[nodiscard]] virtual std::int64_t Int64At(int column) const = 0;
+    [[nodiscard]] virtual double RealAt(int column) const = 0;
 
     // Numbers as the engine writes them; valid until the next row.
     [[nodiscard]] virtual std::string_view TextAt(int column) const = 0;

@@ -1,5 +1,6 @@
 #include "store/postgres/PostgresEngine.h"
 
+#include "store/postgres/PostgresSink.h"
 #include "store/postgres/PostgresStatement.h"
 #include "store/postgres/ServerFailure.h"
 #include "store/postgres/ServerLine.h"
@@ -56,6 +57,11 @@ std::int64_t NumberIn(const ServerResult& result, int column = 0)
 
 PostgresEngine::PostgresEngine(const std::string& address, WhenHeld whenHeld)
     : m_address(address), m_patience(whenHeld == WhenHeld::Wait ? kPatience : kShortPatience)
+{
+    Connect();
+}
+
+PostgresEngine::PostgresEngine(const std::string& address, Unhurried /*tag*/) : m_address(address)
 {
     Connect();
 }
@@ -352,6 +358,14 @@ void PostgresEngine::Commit()
         static_cast<void>(m_line->Send({{"COMMIT", {}, true, false}}));
     }
     m_transaction = Transaction::Read;
+}
+
+std::unique_ptr<RowSink> PostgresEngine::Fill(const StoredTable& table)
+{
+    if (!m_begun) {
+        static_cast<void>(SendFirst(Opening()));
+    }
+    return std::make_unique<PostgresSink>(*m_line, table);
 }
 
 } // namespace ptk

@@ -21,6 +21,11 @@ struct NewStructure
 {
 };
 
+// Tells that the work takes its time: nothing of it is given up for taking long.
+struct Unhurried
+{
+};
+
 // Failures carry the source "PostgreSQL". The hold is a transaction that only reads, and begins with the first question: what is asked in
 // it is of one moment, and nobody waits for it. A write is a transaction of its own; it waits for those who write the same rows, never for
 // others. Nothing waits for more than five seconds.
@@ -32,6 +37,8 @@ class PostgresEngine final : public Engine
 public:
     // Raises 14 (the server cannot be reached or does not let in) or 26 (no database of this program, or of a newer structure).
     explicit PostgresEngine(const std::string& address, WhenHeld whenHeld = WhenHeld::Wait);
+
+    PostgresEngine(const std::string& address, Unhurried);
 
     // Of any database, whatever is in it; waits as long as it takes.
     PostgresEngine(const std::string& address, NewStructure);
@@ -56,6 +63,7 @@ public:
     void RunScript(const char* sql) override;
     [[nodiscard]] std::int64_t LastKey() override;
     void Commit() override;
+    std::unique_ptr<RowSink> Fill(const StoredTable& table) override;
 
     // One statement within the hold or the write.
     [[nodiscard]] ServerResult Ask(const ServerCommand& command);

@@ -210,6 +210,11 @@ std::int64_t PostgresStatement::Int64At(int column) const
     return KindAt(column) == CellKind::Number ? IntegerOf(text) : 0;
 }
 
+double PostgresStatement::RealAt(int column) const
+{
+    return KindAt(column) == CellKind::Number ? RealOf(TextAt(column)) : 0;
+}
+
 std::string_view PostgresStatement::TextAt(int column) const
 {
     const std::string_view text = m_rows->Text(m_row, column);

@@ -26,6 +26,7 @@ public:
     void ForEachRow(const std::function<void()>& take) override;
     [[nodiscard]] CellKind KindAt(int column) const override;
     [[nodiscard]] std::int64_t Int64At(int column) const override;
+    [[nodiscard]] double RealAt(int column) const override;
     [[nodiscard]] std::string_view TextAt(int column) const override;
     [[nodiscard]] std::optional<DateTime> StoredDateAt(int column) const override;
 

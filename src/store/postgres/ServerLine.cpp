@@ -180,6 +180,11 @@ void ServerLine::Wait(short events)
 void ServerLine::SendOff()
 {
     Require(Library().pipelineSync(m_connection.get()));
+    Flush();
+}
+
+void ServerLine::Flush()
+{
     int left = Library().flush(m_connection.get());
     while (left > 0) {
         Wait(POLLIN | POLLOUT);
@@ -258,11 +263,24 @@ std::string ServerLine::NameOf(const std::string& sql)
 
 namespace {
 
+std::string FieldOf(const ServerResult& result, int field)
+{
+    const char* const text = Library().resultErrorField(result.Get(), field);
+    return text == nullptr ? "" : text;
+}
+
+// Of a copy, whose rows are many, the table, line and column: "COPY _change, line 3, column before: ...".
+std::string PlaceIn(const ServerResult& result)
+{
+    const std::string context = FieldOf(result, PG_DIAG_CONTEXT);
+    const std::size_t place = context.find("COPY ");
+    return place == std::string::npos ? "" : " (" + context.substr(place, context.find('\n', place) - place) + ')';
+}
+
 ServerFailure FailureOf(const ServerResult& result)
 {
     const char* const state = Library().resultErrorField(result.Get(), PG_DIAG_SQLSTATE);
-    const char* const message = Library().resultErrorField(result.Get(), PG_DIAG_MESSAGE_PRIMARY);
-    const std::string words = message == nullptr ? "" : message;
+    const std::string words = FieldOf(result, PG_DIAG_MESSAGE_PRIMARY) + PlaceIn(result);
     return state == nullptr ? ServerFailure::OfLostConnection(words) : ServerFailure::OfState(state, words);
 }
 
@@ -336,12 +354,22 @@ void ServerLine::RunScript(const char* sql)
     Require(Library().exitPipelineMode(m_connection.get()));
     Require(Library().sendQuery(m_connection.get(), sql));
     ++m_roundTrips;
+    RaiseAfterScript(HearAll());
+}
+
+std::optional<ServerFailure> ServerLine::HearAll()
+{
     std::optional<ServerFailure> failure;
     for (ServerResult result = Next(); result.Get() != nullptr; result = Next()) {
         if (Library().resultStatus(result.Get()) == PGRES_FATAL_ERROR) {
             failure = FailureOf(result);
         }
     }
+    return failure;
+}
+
+void ServerLine::RaiseAfterScript(const std::optional<ServerFailure>& failure)
+{
     if (failure && failure->IsLost()) {
         m_lost = true;
     } else {
@@ -350,6 +378,38 @@ void ServerLine::RunScript(const char* sql)
     if (failure) {
         throw *failure;
     }
+}
+
+void ServerLine::BeginCopy(const std::string& sql)
+{
+    Begin();
+    HearUnheard();
+    Require(Library().exitPipelineMode(m_connection.get()));
+    Require(Library().sendQuery(m_connection.get(), sql.c_str()));
+    Flush();
+    ServerResult result = Next();
+    if (Library().resultStatus(result.Get()) != PGRES_COPY_IN) {
+        const ServerFailure failure = FailureOf(result);
+        static_cast<void>(HearAll());
+        RaiseAfterScript(failure);
+    }
+}
+
+// All of it leaves before the next portion comes: what waits is in memory.
+void ServerLine::PutCopy(std::string_view lines)
+{
+    Begin();
+    Require(Library().putCopyData(m_connection.get(), lines.data(), static_cast<int>(lines.size())) == 1 ? 1 : 0);
+    Flush();
+}
+
+void ServerLine::EndCopy()
+{
+    Begin();
+    Require(Library().putCopyEnd(m_connection.get(), nullptr) == 1 ? 1 : 0);
+    Flush();
+    ++m_roundTrips;
+    RaiseAfterScript(HearAll());
 }
 
 bool ServerLine::IsAlive()

@@ -1,6 +1,7 @@
 // The line to a server: one connection, and what goes over it and back in time.
 #pragma once
 
+#include "store/postgres/ServerFailure.h"
 #include "store/postgres/ServerResult.h"
 
 #include <chrono>
@@ -8,6 +9,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace ptk {
@@ -46,6 +48,12 @@ public:
     // Several commands in one text, in one round trip.
     void RunScript(const char* sql);
 
+    // A COPY ... FROM STDIN, its lines in portions, and its end, which raises what the server refused. Nothing else is sent in between;
+    // a copy that was not ended makes an end of the line.
+    void BeginCopy(const std::string& sql);
+    void PutCopy(std::string_view lines);
+    void EndCopy();
+
     // False where it was lost: also noticed while nothing was asked. Does not wait.
     [[nodiscard]] bool IsAlive();
 
@@ -78,6 +86,9 @@ private:
     void PostPrepared(const ServerCommand& command);
     [[nodiscard]] std::string NameOf(const std::string& sql);
     void SendOff();
+    void Flush();
+    [[nodiscard]] std::optional<ServerFailure> HearAll();
+    void RaiseAfterScript(const std::optional<ServerFailure>& failure);
     void Wait(short events);
     [[nodiscard]] ServerResult Next();
     [[nodiscard]] std::vector<ServerResult> Hear();

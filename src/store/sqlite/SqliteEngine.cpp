@@ -4,6 +4,7 @@
 #include "store/sqlite/Connection.h"
 #include "store/sqlite/EditTrail.h"
 #include "store/sqlite/EngineFailure.h"
+#include "store/sqlite/SqliteSink.h"
 #include "store/sqlite/SqliteStatement.h"
 
 #include <sqlite3.h>
@@ -206,6 +207,11 @@ std::int64_t SqliteEngine::LastKey()
 void SqliteEngine::Commit()
 {
     Open().Commit();
+}
+
+std::unique_ptr<RowSink> SqliteEngine::Fill(const StoredTable& table)
+{
+    return std::make_unique<SqliteSink>(Open().Handle(), table);
 }
 
 std::shared_ptr<RecordSet> SqliteEngine::Patiently(const char* pragma)

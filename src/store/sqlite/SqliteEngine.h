@@ -61,6 +61,7 @@ public:
     void RunScript(const char* sql) override;
     [[nodiscard]] std::int64_t LastKey() override;
     void Commit() override;
+    std::unique_ptr<RowSink> Fill(const StoredTable& table) override;
 
     // Into the empty file `path`, as of one moment, without making it safe on the disk. Nobody else gets at the file meanwhile; what was
     // not committed is dropped. Raises 11 for a damaged file, 9 when `progress` ended it.

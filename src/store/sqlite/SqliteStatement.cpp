@@ -237,6 +237,11 @@ std::int64_t SqliteStatement::Int64At(int column) const
     return sqlite3_column_int64(m_statement.get(), column);
 }
 
+double SqliteStatement::RealAt(int column) const
+{
+    return KindAt(column) == CellKind::Number ? sqlite3_column_double(m_statement.get(), column) : 0;
+}
+
 std::optional<DateTime> SqliteStatement::StoredDateAt(int column) const
 {
     sqlite3_value* value = sqlite3_column_value(m_statement.get(), column);

@@ -1,0 +1,63 @@
+#include "console/Arguments.h"
+#include "console/Commands.h"
+#include "console/Console.h"
+#include "console/Session.h"
+#include "platform/ProgramFolder.h"
+#include "shell/CDatabaseLocator.h"
+#include "store/DatabaseCopier.h"
+#include "store/postgres/ServerAddress.h"
+
+#include <fmt/format.h>
+
+#include <filesystem>
+
+namespace ptk {
+
+namespace {
+
+std::string Whole(const std::string& database)
+{
+    return IsServerAddress(database) ? database : std::filesystem::absolute(database).string();
+}
+
+std::string SourceOf(const CopyDatabaseArguments& arguments, const Console& console)
+{
+    return arguments.from ? Whole(*arguments.from) : NativePath(LocateDatabase(console.programFolder)->DatabasePath()).string();
+}
+
+CopyAccount Copy(const std::string& from, const std::string& to)
+{
+    try {
+        return CopyDatabase(from, to);
+    } catch (const Failure& failure) {
+        throw Failure(failure.Number(), failure.Source(), fmt::format("{} (from {} to {})", failure.Description(), from, to));
+    }
+}
+
+std::string Line(const CopiedTable& table)
+{
+    const std::string before = table.before ? fmt::format("{} rows", *table.before) : "not in the source";
+    return fmt::format("{}: {}, {} copied\n", table.name, before, table.before ? table.after : 0);
+}
+
+} // namespace
+
+int CopyDatabaseCommand(const CopyDatabaseArguments& arguments, Console& console)
+{
+    const std::string from = SourceOf(arguments, console);
+    const std::string to = Whole(arguments.to);
+    const CopyAccount account = Copy(from, to);
+    console.out << "from: " << TerminalText(from) << "\nto: " << TerminalText(to) << '\n';
+    for (const CopiedTable& table : account.tables) {
+        console.out << Line(table);
+    }
+    for (const std::string& part : account.leftBehind) {
+        console.out << "left behind: " << TerminalText(part) << '\n';
+    }
+    if (!account.leftToDo.empty()) {
+        console.err << "ptk-console: " << account.leftToDo << '\n';
+    }
+    return account.leftBehind.empty() ? status::Done : status::ProblemsFound;
+}
+
+} // namespace ptk

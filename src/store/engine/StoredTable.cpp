@@ -1,0 +1,71 @@
+#include "store/engine/StoredTable.h"
+
+namespace ptk {
+
+namespace {
+
+using enum ColumnKind;
+
+constexpr StoredColumn kCompany[] = {
+    {"CompanyID", Integer}, {"Name", Text},  {"Address1", Text}, {"Address2", Text},     {"City", Text}, {"State", Text},
+    {"ZipCode", Text},      {"Phone", Text}, {"Fax", Text},      {"FederalTaxID", Text}, {"URL", Text},
+};
+
+constexpr StoredColumn kEmployee[] = {
+    {"EmployeeID", Integer},
+    {"SSNumber", Text},
+    {"FirstName", Text},
+    {"LastName", Text},
+    {"Address", Text},
+    {"Address2", Text},
+    {"City", Text},
+    {"State", Text},
+    {"ZipCode", Text},
+    {"Phone", Text},
+    {"EmployeeNumber", Integer},
+    {"DateOfBirth", Date},
+    {"HireDate", Date},
+    {"ReleaseDate", Date},
+    {"PayRate", Single},
+    {"OvertimePayRate", Single},
+    {"Active", Flag},
+    {"CompanyID", Integer},
+    {"AutoDeduct", Flag},
+    {"AutoDeductLunchLength", Integer},
+    {"AutoDeductBreakLength", Integer},
+    {"Password", Text},
+};
+
+constexpr StoredColumn kTimeRecord[] = {
+    {"TimeRecordID", Integer}, {"EmployeeID", Integer}, {"ShiftDate", Date}, {"StartTime", Date}, {"EndTime", Date},
+};
+
+constexpr StoredColumn kSystem[] = {
+    {"program", Text}, {"version", Text}, {"period_length", Integer}, {"auto_shift_start_time", Date}, {"auto_shift_end_time", Date},
+};
+
+constexpr StoredColumn kCheckLimits[] = {
+    {"long_shift_hours", Integer},
+    {"first_weekday", Integer},
+    {"show_notices", Flag},
+};
+
+constexpr StoredColumn kChange[] = {
+    {"ChangeID", Long},  {"ChangedAt", Text}, {"ChangedBy", Text}, {"Program", Text}, {"Step", Long},
+    {"TableName", Text}, {"RowID", Long},  {"Action", Text},    {"Before", Json},  {"After", Json},
+    {"EmployeeBefore", Integer}, {"EmployeeAfter", Integer},
+};
+
+constexpr StoredTable kTables[] = {
+    {"Company", kCompany, true}, {"Employee", kEmployee, true},          {"TimeRecord", kTimeRecord, true},
+    {"_System", kSystem, false}, {"_CheckLimits", kCheckLimits, false}, {"_Change", kChange, true},
+};
+
+} // namespace
+
+std::span<const StoredTable> StoredTables()
+{
+    return kTables;
+}
+
+} // namespace ptk
