@@ -134,14 +134,26 @@ Failure Refusal(const StoredTable& table, const Statement& row, const Unfit& unf
                         Shown(row, unfit.column), unfit.why)};
 }
 
-std::string SelectText(const StoredTable& table)
+std::string SelectText(const StoredTable& table, const std::string& condition = "TRUE")
 {
     std::string names;
     for (const StoredColumn& column : table.columns) {
         names += fmt::format("{}{}", names.empty() ? "" : ", ", column.name);
     }
-    return fmt::format("SELECT {} FROM {}{}", names, table.name,
+    return fmt::format("SELECT {} FROM {} WHERE {}{}", names, table.name, condition,
                        table.hasKey ? fmt::format(" ORDER BY {}", table.columns.front().name) : std::string());
+}
+
+// What another tool wrote into a file's trail may be anything; a server's copy would be refused only at its end.
+void RefuseNoJson(Engine& file, const StoredTable& table)
+{
+    for (std::size_t i = 0; i < table.columns.size(); ++i) {
+        if (table.columns[i].kind != ColumnKind::Json) {
+            continue;
+        }
+        const auto row = file.Prepare(SelectText(table, fmt::format("typeof({0}) = 'text' AND NOT json_valid({0})", table.columns[i].name)));
+        row->ForEachRow([&] { throw Refusal(table, *row, Unfit{static_cast<int>(i), "no JSON"}); });
+    }
 }
 
 class Copy
@@ -243,6 +255,9 @@ CopyAccount CopyDatabase(const std::string& from, const std::string& to, const R
     CopyAccount account = CountSource(source);
     if (source.isFile) {
         account.leftBehind = ForeignParts(*source.engine);
+        if (account.tables.back().before) {
+            RefuseNoJson(*source.engine, StoredTables().back()); // the trail
+        }
     }
     account.leftToDo = CreateFilledDatabase(to, [&](Engine& target) { Copy(*source.engine, account, progress).Into(target); });
     return account;
