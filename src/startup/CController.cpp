@@ -200,7 +200,11 @@ bool CController::OpenDatabase()
         m_database->StoredBy(m_author);
         m_locator = std::make_shared<CDatabaseLocator>(m_around.programFolder);
         m_locator->ConfigFile(m_configFile);
-        return m_locator->GetDatabasePath() && m_database->OpenPTKDatabase(m_locator);
+        const bool opened = m_locator->GetDatabasePath() && m_database->OpenPTKDatabase(m_locator);
+        if (!opened && IsServerAddress(m_locator->DatabasePath())) { // of which the box, made for files, says too little
+            LogFailure(kOperationFailed, m_database->LastFailure().Number(), m_database->LastFailure().Description());
+        }
+        return opened;
     });
 }
 

@@ -94,7 +94,8 @@ void ServerLine::Connect(const std::string& address)
     if (Library().status(connection) != CONNECTION_OK) {
         passwords::Forget(address);
         std::string why = Library().errorMessage(connection);
-        std::replace(why.begin(), why.end(), '\n', ' ');
+        std::replace_if(
+            why.begin(), why.end(), [](char c) { return c == '\n' || c == '\t'; }, ' ');
         why.erase(why.find_last_not_of(' ') + 1);
         throw ServerFailure(engine::CannotOpen, "the server cannot be reached or does not let in: " + why);
     }
