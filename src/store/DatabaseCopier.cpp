@@ -21,7 +21,7 @@ namespace ptk {
 
 namespace {
 
-constexpr std::int32_t kInterrupted = 9; // the engines' number
+constexpr std::int32_t kInterrupted = 9;  // the engines' number
 constexpr std::int64_t kPortion = 10'000; // rows between two tellings
 constexpr std::size_t kLongestShown = 60; // bytes of a value
 
@@ -151,7 +151,8 @@ void RefuseNoJson(Engine& file, const StoredTable& table)
         if (table.columns[i].kind != ColumnKind::Json) {
             continue;
         }
-        const auto row = file.Prepare(SelectText(table, fmt::format("typeof({0}) = 'text' AND NOT json_valid({0})", table.columns[i].name)));
+        const auto row =
+            file.Prepare(SelectText(table, fmt::format("typeof({0}) = 'text' AND NOT json_valid({0})", table.columns[i].name)));
         row->ForEachRow([&] { throw Refusal(table, *row, Unfit{static_cast<int>(i), "no JSON"}); });
     }
 }

@@ -169,8 +169,8 @@ TEST_F(CopyTest, AValueThatAServerCannotHoldEndsIt)
 TEST_F(CopyTest, AValueThatAFileCannotHoldEndsIt)
 {
     const NewServerDatabase server;
-    for (const auto& [column, value] : {std::pair("PayRate", "'NaN'"), {"HireDate", "'infinity'"}, {"HireDate", "'10000-01-01'"},
-                                        {"HireDate", "'0044-03-15 BC'"}}) {
+    for (const auto& [column, value] :
+         {std::pair("PayRate", "'NaN'"), {"HireDate", "'infinity'"}, {"HireDate", "'10000-01-01'"}, {"HireDate", "'0044-03-15 BC'"}}) {
         server.Run(fmt::format("UPDATE Employee SET PayRate = 0, HireDate = NULL; UPDATE Employee SET {} = {}", column, value));
         EXPECT_THAT(Copied(server.Address(), Path("new.mdb")), HasSubstr(fmt::format("Employee 39: {} is ", column)));
         EXPECT_FALSE(IsThere(Path("new.mdb")));
@@ -185,6 +185,8 @@ TEST_F(CopyTest, OnlyAnEmptyTargetIsTaken)
     const ServerDatabase empty;
     EXPECT_THAT(Copied(empty.Address(), Path("new.mdb")), HasSubstr("no tables of this program"));
     EXPECT_FALSE(IsThere(Path("new.mdb")));
+    EXPECT_THAT(Copied(file, "postgresql:misspelt"), HasSubstr("cannot be read"));
+    EXPECT_FALSE(IsThere("postgresql:misspelt"));
     EXPECT_THAT(Copied(taken.Address(), Path("no such folder/new.mdb")), HasSubstr("Path not found"));
 }
 
@@ -228,7 +230,8 @@ TEST_F(CopyTest, AnImportIsOneStepAndNumbersGoOnBehindIt)
               "given up");
     EXPECT_EQ(Answer(server.Address(), "SELECT COUNT(*) FROM Company"), "0");
     Import(target, fill);
-    EXPECT_EQ(Answer(server.Address(), "SELECT string_agg(ChangedBy || Action || After, ',') FROM _Change"), R"(Annimport{"file" : "old.mdb"})");
+    EXPECT_EQ(Answer(server.Address(), "SELECT string_agg(ChangedBy || Action || After, ',') FROM _Change"),
+              R"(Annimport{"file" : "old.mdb"})");
     server.Run("INSERT INTO Company (Name) VALUES ('Next')");
     EXPECT_EQ(Answer(server.Address(), "SELECT MAX(CompanyID) FROM Company"), "71");
     EXPECT_THAT(Refusal([&] { Import(target, fill); }), HasSubstr("already holds"));
@@ -258,8 +261,10 @@ TEST_F(CopyTest, TheCheckNamesWhatIsWrongWithAServersDatabase)
                   "The table _CheckLimits holds a value of no use: the check takes its own instead."},
              Case{"INSERT INTO _System SELECT * FROM _System", "The table _System has 2 rows, not 1."},
              Case{"DELETE FROM _StoredQuery WHERE name = 'UpdateCompany'", "The stored query UpdateCompany cannot be used: "},
-             Case{"UPDATE _StoredQuery SET sql = 'SELECT 1' WHERE name = 'GetAllEmployees'", "The stored query GetAllEmployees cannot be used: "},
-             Case{"INSERT INTO TimeRecord VALUES (5, 39, NULL, 'infinity', '2003-03-05 08:00:00')", "TimeRecord 5: StartTime is \"infinity\" ("},
+             Case{"UPDATE _StoredQuery SET sql = 'SELECT 1' WHERE name = 'GetAllEmployees'",
+                  "The stored query GetAllEmployees cannot be used: "},
+             Case{"INSERT INTO TimeRecord VALUES (5, 39, NULL, 'infinity', '2003-03-05 08:00:00')",
+                  "TimeRecord 5: StartTime is \"infinity\" ("},
              Case{"UPDATE Employee SET HireDate = '12003-03-05'", "Employee 39: HireDate is \"12003-03-05 00:00:00\" ("},
          }) {
         SCOPED_TRACE(c.change);
