@@ -2,6 +2,7 @@
 
 #include "platform/Failure.h"
 #include "platform/FileDraft.h"
+#include "platform/Text.h"
 #include "store/DatabaseCreator.h"
 #include "store/engine/Engine.h"
 #include "store/engine/RecordSet.h"
@@ -78,8 +79,7 @@ CopyAccount CountSource(const Source& source)
 
 bool SameName(std::string_view a, std::string_view b)
 {
-    const auto small = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(), [&](char x, char y) { return small(x) == small(y); });
+    return LowerCase(a) == LowerCase(b);
 }
 
 void NameForeignColumns(Engine& file, const StoredTable& table, std::vector<std::string>& names)
@@ -236,6 +236,9 @@ CopyAccount CopyFile(const std::string& from, const std::string& to)
         const CopyAccount found = CountSource(copy);
         for (std::size_t i = 0; i < account.tables.size(); ++i) {
             account.tables[i].after = found.tables[i].before.value_or(0);
+            if (found.tables[i].before != account.tables[i].before) {
+                throw Failure(0, "PTK", kUnequal);
+            }
         }
     }
     draft.PlaceNew();

@@ -218,7 +218,9 @@ TEST_F(CopyTest, AnImportIsOneStepAndNumbersGoOnBehindIt)
         EXPECT_TRUE(writer.Add(ImportTableId::Company, company));
     };
     const NewServerDatabase server;
-    const ImportTarget target{server.Address(), "old.mdb", {"Ann", "ptk-console"}, {}};
+    const std::string login = fmt::format("ben_{}", ::getpid());
+    server.Run(fmt::format("CREATE ROLE {} LOGIN IN ROLE ptk_office", login));
+    const ImportTarget target{server.Address(login), "old.mdb", {"Ann", "ptk-console"}, {}};
     TryImport(target, fill);
     EXPECT_EQ(Answer(server.Address(), "SELECT COUNT(*) FROM Company"), "0");
     EXPECT_EQ(Refusal([&] {
@@ -235,6 +237,7 @@ TEST_F(CopyTest, AnImportIsOneStepAndNumbersGoOnBehindIt)
     server.Run("INSERT INTO Company (Name) VALUES ('Next')");
     EXPECT_EQ(Answer(server.Address(), "SELECT MAX(CompanyID) FROM Company"), "71");
     EXPECT_THAT(Refusal([&] { Import(target, fill); }), HasSubstr("already holds"));
+    server.Run(fmt::format("DROP ROLE {}", login));
     const ServerDatabase none;
     EXPECT_THAT(Refusal([&] { Import({none.Address(), "old.mdb", {}, {}}, fill); }), HasSubstr("no tables of this program"));
 }
