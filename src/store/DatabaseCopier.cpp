@@ -3,6 +3,7 @@
 #include "platform/Failure.h"
 #include "platform/FileDraft.h"
 #include "platform/Text.h"
+#include "store/Backups.h"
 #include "store/DatabaseCreator.h"
 #include "store/engine/Engine.h"
 #include "store/engine/RecordSet.h"
@@ -233,6 +234,7 @@ CopyAccount CopyFile(const std::string& from, const std::string& to)
     static_cast<SqliteEngine&>(*source.engine).CopyTo(draft.Path());
     {
         const Source copy(draft.Path());
+        RefuseDamage(static_cast<SqliteEngine&>(*copy.engine));
         const CopyAccount found = CountSource(copy);
         for (std::size_t i = 0; i < account.tables.size(); ++i) {
             account.tables[i].after = found.tables[i].before.value_or(0);
