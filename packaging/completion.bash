@@ -1,6 +1,6 @@
 # bash completion for ptk-console and ptk-admin
 _ptk_console() {
-    local commands="create-database time-card overview report history backup backups restore import check"
+    local commands="create-database time-card overview report history backup backups restore import copy-database check"
     local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} command= i
     for ((i = 1; i < COMP_CWORD; i++)); do
         case ${COMP_WORDS[i]} in
@@ -11,7 +11,7 @@ _ptk_console() {
     done
     case $before in
         --program-folder) mapfile -t COMPREPLY < <(compgen -d -- "$word"); return ;;
-        --to) [[ $command == backup ]] && mapfile -t COMPREPLY < <(compgen -f -- "$word"); return ;;
+        --from | --to) [[ $command == copy-database || ($before == --to && $command == backup) ]] && mapfile -t COMPREPLY < <(compgen -f -- "$word"); return ;;
         --format)
             local formats="text csv json"
             [[ $command == report ]] && formats+=" pdf"
@@ -20,7 +20,7 @@ _ptk_console() {
             ;;
         -o | --output) mapfile -t COMPREPLY < <(compgen -f -- "$word"); return ;;
         --code-page) mapfile -t COMPREPLY < <(compgen -W "437 850 852 1250 1251 1252 1253 1254 1257" -- "$word"); return ;;
-        --employee | --from | --today) return ;;
+        --employee | --today) return ;;
     esac
     local words
     case $command in
@@ -30,6 +30,7 @@ _ptk_console() {
         overview | history) words="--employee --from --to --format --help" ;;
         report) words="timecard review ytd employees phonebook --employee --from --to --format --output --help" ;;
         backup) words="--to --help" ;;
+        copy-database) words="--to --from --help" ;;
         restore) mapfile -t COMPREPLY < <(compgen -f -- "$word"); return ;;
         import)
             if [[ $word == -* ]]; then words="--dry-run --accept-damaged --code-page --help"; else mapfile -t COMPREPLY < <(compgen -f -- "$word"); return; fi ;;

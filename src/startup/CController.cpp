@@ -335,7 +335,7 @@ std::string CController::Restore()
 
 std::string CController::RestoreRefusal() const
 {
-    return IsServerAddress(Order().database) ? kNoRestoreOnServer : "";
+    return m_locator != nullptr && IsServerAddress(m_locator->DatabasePath()) ? kNoRestoreOnServer : "";
 }
 
 bool CController::ReadAgain()

@@ -29,15 +29,6 @@ constexpr const char* kTables = "SELECT COUNT(*) FROM sqlite_master WHERE type =
                                 "('Company', 'Employee', 'TimeRecord', '_System', '_StoredQuery')";
 constexpr std::int32_t kTableCount = 5;
 
-// The quick check is enough: a copy of pages cannot have spoiled which row is in which index.
-void RefuseDamage(SqliteEngine& engine)
-{
-    const auto found = engine.CheckQuickly();
-    if (found->EndOfFile() || found->TextAt(0) != "ok") {
-        throw EngineFailure(kCorrupt);
-    }
-}
-
 void RefuseForeignTables(SqliteEngine& engine)
 {
     if (engine.Select(kTables)->Int32At(0) != kTableCount) {
@@ -90,6 +81,14 @@ void BackUpServer(const std::string& address, const std::string& target, const C
 }
 
 } // namespace
+
+void RefuseDamage(SqliteEngine& engine)
+{
+    const auto found = engine.CheckQuickly();
+    if (found->EndOfFile() || found->TextAt(0) != "ok") {
+        throw EngineFailure(kCorrupt);
+    }
+}
 
 std::string BackupFolder(const std::string& programFolder)
 {

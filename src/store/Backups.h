@@ -35,6 +35,9 @@ void PruneBackups(const std::string& folder, const std::string& newest, const st
 // made, since another disk may only not be there.
 void CopyBackup(const std::string& backup, const std::string& folder);
 
+// Raises 11 for a damaged file. The quick check is enough: a copy of pages cannot have spoiled which row is in which index.
+void RefuseDamage(SqliteEngine& engine);
+
 struct BackupContent
 {
     std::int64_t employees = 0;

@@ -2,6 +2,8 @@
 
 #include "platform/Failure.h"
 #include "platform/FileDraft.h"
+#include "platform/Text.h"
+#include "store/Backups.h"
 #include "store/DatabaseCreator.h"
 #include "store/engine/Engine.h"
 #include "store/engine/RecordSet.h"
@@ -21,7 +23,7 @@ namespace ptk {
 
 namespace {
 
-constexpr std::int32_t kInterrupted = 9; // the engines' number
+constexpr std::int32_t kInterrupted = 9;  // the engines' number
 constexpr std::int64_t kPortion = 10'000; // rows between two tellings
 constexpr std::size_t kLongestShown = 60; // bytes of a value
 
@@ -78,8 +80,7 @@ CopyAccount CountSource(const Source& source)
 
 bool SameName(std::string_view a, std::string_view b)
 {
-    const auto small = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(), [&](char x, char y) { return small(x) == small(y); });
+    return LowerCase(a) == LowerCase(b);
 }
 
 void NameForeignColumns(Engine& file, const StoredTable& table, std::vector<std::string>& names)
@@ -134,14 +135,27 @@ Failure Refusal(const StoredTable& table, const Statement& row, const Unfit& unf
                         Shown(row, unfit.column), unfit.why)};
 }
 
-std::string SelectText(const StoredTable& table)
+std::string SelectText(const StoredTable& table, const std::string& condition = "TRUE")
 {
     std::string names;
     for (const StoredColumn& column : table.columns) {
         names += fmt::format("{}{}", names.empty() ? "" : ", ", column.name);
     }
-    return fmt::format("SELECT {} FROM {}{}", names, table.name,
+    return fmt::format("SELECT {} FROM {} WHERE {}{}", names, table.name, condition,
                        table.hasKey ? fmt::format(" ORDER BY {}", table.columns.front().name) : std::string());
+}
+
+// What another tool wrote into a file's trail may be anything; a server's copy would be refused only at its end.
+void RefuseNoJson(Engine& file, const StoredTable& table)
+{
+    for (std::size_t i = 0; i < table.columns.size(); ++i) {
+        if (table.columns[i].kind != ColumnKind::Json) {
+            continue;
+        }
+        const auto row =
+            file.Prepare(SelectText(table, fmt::format("typeof({0}) = 'text' AND NOT json_valid({0})", table.columns[i].name)));
+        row->ForEachRow([&] { throw Refusal(table, *row, Unfit{static_cast<int>(i), "no JSON"}); });
+    }
 }
 
 class Copy
@@ -220,9 +234,13 @@ CopyAccount CopyFile(const std::string& from, const std::string& to)
     static_cast<SqliteEngine&>(*source.engine).CopyTo(draft.Path());
     {
         const Source copy(draft.Path());
+        RefuseDamage(static_cast<SqliteEngine&>(*copy.engine));
         const CopyAccount found = CountSource(copy);
         for (std::size_t i = 0; i < account.tables.size(); ++i) {
             account.tables[i].after = found.tables[i].before.value_or(0);
+            if (found.tables[i].before != account.tables[i].before) {
+                throw Failure(0, "PTK", kUnequal);
+            }
         }
     }
     draft.PlaceNew();
@@ -243,6 +261,9 @@ CopyAccount CopyDatabase(const std::string& from, const std::string& to, const R
     CopyAccount account = CountSource(source);
     if (source.isFile) {
         account.leftBehind = ForeignParts(*source.engine);
+        if (account.tables.back().before) {
+            RefuseNoJson(*source.engine, StoredTables().back()); // the trail
+        }
     }
     account.leftToDo = CreateFilledDatabase(to, [&](Engine& target) { Copy(*source.engine, account, progress).Into(target); });
     return account;

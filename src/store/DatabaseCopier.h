@@ -28,9 +28,9 @@ using RowProgress = std::function<bool(std::int64_t done, std::int64_t all)>;
 
 // From a file's path in the platform's own form, or a server's address, into another. The target is a file that is not there, or a server's
 // database that has none of the program's tables: 75 where it is otherwise. The source is read as of one moment, in portions; its keys and
-// its trail are kept, and the numbers that it has given are not given again. A file goes into a file as it is, page by page; otherwise the
-// stored queries are the target's own, and a value that does not keep its meaning there raises a failure that names it. There is all of the
-// copy or nothing. Raises what opening either of them raises.
+// its trail are kept, and the numbers that it has given are not given again. A file goes into a file as it is, page by page, and is checked
+// there; otherwise the stored queries are the target's own, and a value that does not keep its meaning there raises a failure that names
+// it. There is all of the copy or nothing. Raises what opening either of them raises.
 [[nodiscard]] CopyAccount CopyDatabase(const std::string& from, const std::string& to, const RowProgress& progress = {});
 
 } // namespace ptk

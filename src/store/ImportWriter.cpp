@@ -3,6 +3,7 @@
 #include "platform/Failure.h"
 #include "store/DatabaseCreator.h"
 #include "store/engine/RecordSet.h"
+#include "store/EveryRow.h"
 #include "store/FileSteps.h"
 #include "store/postgres/PostgresEngine.h"
 #include "store/postgres/ServerAddress.h"
@@ -59,10 +60,10 @@ void RefuseUnlessEmpty(Engine& engine)
     }
 }
 
-// Nobody adds a row between the look and the writing.
+// Nobody adds a row between the last look and the writing.
 void LockTables(Engine& engine)
 {
-    for (std::size_t i = 0; i < kImportTableCount && *engine.Words().lockTable != '\0'; ++i) {
+    for (std::size_t i = 0; i < kImportTableCount; ++i) {
         engine.Prepare(Said(engine.Words().lockTable, ImportTableOf(static_cast<ImportTableId>(i)).name))->Run();
     }
 }
@@ -80,29 +81,34 @@ void SkipNumbers(Engine& engine)
     }
 }
 
+void FillServer(Engine& server, const std::function<void(Engine&)>& fill)
+{
+    LockTables(server);
+    RefuseUnlessEmpty(server);
+    fill(server);
+    SkipNumbers(server);
+}
+
 void Change(Engine& engine, const ImportTarget& target, const std::function<void(Engine&)>& fill)
 {
     engine.SignAs(target.author);
     engine.Write([&] {
-        LockTables(engine);
         RefuseUnlessEmpty(engine);
         engine.Untold([&] { fill(engine); });
-        SkipNumbers(engine);
         engine.AddWholeEntry("import", target.file);
     });
 }
 
 void ReadHours(Engine& engine, ImportFigures& figures)
 {
-    const auto records = engine.Prepare(kRecords);
-    records->ForEachRow([&] {
-        const auto start = records->StoredDateAt(1);
-        const auto end = records->StoredDateAt(2);
+    ForEachRowOf(engine, kRecords, [&](const Statement& record) {
+        const auto start = record.StoredDateAt(1);
+        const auto end = record.StoredDateAt(2);
         if (!start || !end) {
             throw Failure(0, "PTK", "a time record does not read back as it was written");
         }
-        const bool isNone = records->KindAt(0) == CellKind::Null;
-        figures.Count(isNone ? std::nullopt : std::optional(NarrowToInt32(records->Int64At(0))), *start, *end);
+        const bool isNone = record.KindAt(0) == CellKind::Null;
+        figures.Count(isNone ? std::nullopt : std::optional(NarrowToInt32(record.Int64At(0))), *start, *end);
     });
 }
 
@@ -197,7 +203,7 @@ void Import(const ImportTarget& target, const std::function<void(Engine&)>& fill
 {
     if (IsServerAddress(target.database)) {
         PostgresEngine engine(target.database, Unhurried{});
-        return Change(engine, target, fill);
+        return Change(engine, target, [&](Engine& server) { FillServer(server, fill); });
     }
     if (!IsThere(target.database)) {
         return CreateAndChangeDatabase(target.database, [&](Engine& engine) { Change(engine, target, fill); });

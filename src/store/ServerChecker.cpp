@@ -16,10 +16,10 @@ namespace ptk {
 namespace {
 
 // Of a table: its columns as the server has them, texts with their order.
-constexpr const char* kColumns =
-    "SELECT attname::text, format_type(atttypid, atttypmod) || CASE WHEN atttypid = 'text'::regtype AND attcollation <> 'pg_catalog.\"C\"'::"
-    "regcollation THEN ' in another order than \"C\"' ELSE '' END FROM pg_attribute "
-    "WHERE attrelid = to_regclass('{}') AND attnum > 0 AND NOT attisdropped";
+constexpr const char* kColumns = "SELECT attname::text, format_type(atttypid, atttypmod) || CASE WHEN atttypid = 'text'::regtype AND "
+                                 "attcollation <> 'pg_catalog.\"C\"'::"
+                                 "regcollation THEN ' in another order than \"C\"' ELSE '' END FROM pg_attribute "
+                                 "WHERE attrelid = to_regclass('{}') AND attnum > 0 AND NOT attisdropped";
 
 // Inserts, deletions and updates are the bits 4, 8 and 16 of what a trigger answers to; one that is switched off does so to nothing.
 constexpr const char* kUnwatched =

@@ -10,7 +10,8 @@
 
 namespace ptk {
 
-BackupMenu::BackupMenu(QAction& backUp, QAction& restore, PageHost& host, QObject* parent) : QObject(parent), m_restore(restore), m_host(host)
+BackupMenu::BackupMenu(QAction& backUp, QAction& restore, PageHost& host, QObject* parent)
+    : QObject(parent), m_restore(restore), m_host(host)
 {
     backUp.setIcon(ThemeIcon("backup"));
     restore.setIcon(ThemeIcon("restore"));

@@ -37,6 +37,21 @@ TEST_F(DatabaseCommandsTest, CreatesAnEmptyDatabaseThatItsOwnerAloneReads)
     EXPECT_EQ(check.out, "database: " + Database().string() + "\nCompany: 0\nEmployee: 1\nTimeRecord: 0\n");
 }
 
+TEST_F(DatabaseCommandsTest, CopiesIntoANewDatabaseAlone)
+{
+    EXPECT_EQ(Run({"create-database"}).status, 0);
+    const std::string copy = System("copy.mdb").string();
+    const Answer copied = Run({"copy-database", "--to", copy});
+    EXPECT_EQ(copied.status, 0) << copied.err;
+    EXPECT_EQ(copied.out, "from: " + Database().string() + "\nto: " + copy +
+                              "\nCompany: 0 rows, 0 copied\nEmployee: 1 rows, 1 copied\nTimeRecord: 0 rows, 0 copied\n"
+                              "_System: 1 rows, 1 copied\n_CheckLimits: 1 rows, 1 copied\n_Change: 0 rows, 0 copied\n");
+    const Answer again = Run({"copy-database", "--from", copy, "--to", Database().string()});
+    EXPECT_EQ(again.status, 1);
+    EXPECT_TRUE(again.err.starts_with("ptk-console: 75: ")) << again.err;
+    EXPECT_EQ(Run({"backup", "--to", "postgresql://books.example/ptk"}).status, 1);
+}
+
 TEST_F(DatabaseCommandsTest, NeverTouchesWhatIsThere)
 {
     for (const std::vector<std::string>& words : {std::vector<std::string>{"create-database"}, {"create-database", "--sample"}}) {

@@ -2,6 +2,7 @@
 #include "StartupFixture.h"
 
 #include "office/BackupRun.h"
+#include "startup/Safekeeping.h"
 #include "store/CSystemOptions.h"
 #include "store/TrailReader.h"
 
@@ -147,6 +148,14 @@ TEST_F(SafekeepingTest, ASpoiledDatabaseCanBeRestoredAtTheStart)
     program.Start();
     EXPECT_EQ(windows.login, nullptr) << "nothing was chosen";
     EXPECT_EQ(Controller().ControllerWindow(), nullptr);
+}
+
+TEST_F(SafekeepingTest, NothingTakesThePlaceOfAServersDatabase)
+{
+    Start();
+    EXPECT_EQ(Controller().RestoreRefusal(), "");
+    EXPECT_EQ(Controller().BackUpWhenDue(), "");
+    EXPECT_FALSE(Safekeeping::CanReplace({"postgresql://nowhere.invalid/ptk", folder.Path(), "", DateTime()}));
 }
 
 TEST_F(SafekeepingTest, ASecondStartSaysSoAndTouchesNothing)

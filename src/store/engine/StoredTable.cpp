@@ -51,13 +51,22 @@ constexpr StoredColumn kCheckLimits[] = {
 };
 
 constexpr StoredColumn kChange[] = {
-    {"ChangeID", Long},  {"ChangedAt", Text}, {"ChangedBy", Text}, {"Program", Text}, {"Step", Long},
-    {"TableName", Text}, {"RowID", Long},  {"Action", Text},    {"Before", Json},  {"After", Json},
-    {"EmployeeBefore", Integer}, {"EmployeeAfter", Integer},
+    {"ChangeID", Long},
+    {"ChangedAt", Text},
+    {"ChangedBy", Text},
+    {"Program", Text},
+    {"Step", Long},
+    {"TableName", Text},
+    {"RowID", Long},
+    {"Action", Text},
+    {"Before", Json},
+    {"After", Json},
+    {"EmployeeBefore", Integer},
+    {"EmployeeAfter", Integer},
 };
 
 constexpr StoredTable kTables[] = {
-    {"Company", kCompany, true}, {"Employee", kEmployee, true},          {"TimeRecord", kTimeRecord, true},
+    {"Company", kCompany, true}, {"Employee", kEmployee, true},         {"TimeRecord", kTimeRecord, true},
     {"_System", kSystem, false}, {"_CheckLimits", kCheckLimits, false}, {"_Change", kChange, true},
 };
 

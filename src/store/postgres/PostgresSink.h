@@ -9,7 +9,8 @@ namespace ptk {
 
 class ServerLine;
 
-// For the owner of the table alone, whose triggers do not run. What the server refuses, later than the rows were added, it raises with the place of the value.
+// For the owner of the table alone, whose triggers do not run. What the server refuses, later than the rows were added, it raises with the
+// place of the value.
 class PostgresSink final : public RowSink
 {
 public:

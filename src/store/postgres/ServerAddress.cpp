@@ -23,7 +23,7 @@ std::map<std::string, std::string>& ToldPasswords()
 
 bool IsServerAddress(std::string_view name)
 {
-    return name.starts_with("postgresql://") || name.starts_with("postgres://");
+    return name.starts_with("postgresql:") || name.starts_with("postgres:"); // misspelt behind that, it is refused rather than made a file
 }
 
 void AskForPasswordsWith(AskPassword ask)
