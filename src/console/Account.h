@@ -1,7 +1,7 @@
 // Who runs the program on a terminal.
 #pragma once
 
-#include "store/sqlite/EditTrail.h"
+#include "store/engine/Author.h"
 
 namespace ptk {
 

@@ -3,7 +3,7 @@
 
 #include "platform/DateTime.h"
 #include "store/Backups.h"
-#include "store/sqlite/EditTrail.h"
+#include "store/engine/Author.h"
 
 #include <cstdint>
 #include <memory>

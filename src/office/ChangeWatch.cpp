@@ -76,16 +76,20 @@ void ChangeWatch::Start()
 
 void ChangeWatch::TakeNew()
 {
-    const auto first = m_database->TakeNews();
-    if (!first) {
+    if (const auto first = m_database->TakeNews()) {
+        // Where many write at once, an entry of a small number may come to be seen after one of a greater.
+        const std::int64_t before = *first == 0 ? *m_newest : std::min(*m_newest, *first - 1);
+        m_unreadAfter = std::min(m_unreadAfter.value_or(before), before);
+    }
+    if (!m_unreadAfter) {
         return;
     }
-    // Where many write at once, an entry of a small number may come to be seen after one of a greater.
     TrailQuery query;
-    query.newerThan = *first == 0 ? *m_newest : std::min(*m_newest, *first - 1);
+    query.newerThan = *m_unreadAfter;
     for (const TrailEntry& entry : ReadTrail(m_database, query)) {
         Take(entry);
     }
+    m_unreadAfter.reset();
 }
 
 void ChangeWatch::Take(const TrailEntry& entry)

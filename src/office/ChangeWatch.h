@@ -57,6 +57,7 @@ private:
     std::shared_ptr<CJetDB> m_database; // an access of its own, which waits for nobody
     const UndoStack& m_own;
     std::optional<std::int64_t> m_newest;              // entry that was looked at; nothing until the trail could be read
+    std::optional<std::int64_t> m_unreadAfter;         // the entry behind which there is something to look at
     std::chrono::steady_clock::time_point m_notBefore; // is it asked again: it could not be reached
     std::set<std::pair<Shown, std::int64_t>> m_changed;
 };

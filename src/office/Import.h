@@ -3,7 +3,7 @@
 
 #include "office/ImportAccount.h"
 #include "platform/DateTime.h"
-#include "store/sqlite/EditTrail.h"
+#include "store/engine/Author.h"
 
 #include <cstdint>
 #include <functional>

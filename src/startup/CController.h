@@ -2,7 +2,7 @@
 #pragma once
 
 #include "office/Import.h"
-#include "store/sqlite/EditTrail.h"
+#include "store/engine/Author.h"
 
 #include <cstdint>
 #include <functional>

@@ -235,6 +235,8 @@ TEST_P(ContractTest, OptionsAndLimitsAreKept)
     options.PeriodLength(7);
     EXPECT_TRUE(options.Update()) << database->LastFailure().Description();
     EXPECT_EQ(Rows(1, "SELECT period_length FROM _System"), "7|");
+    options.PeriodLength(10);
+    EXPECT_TRUE(options.Update()) << "one's own change is known";
     EXPECT_EQ(LoadCheckLimits(database), CheckLimits());
     EXPECT_TRUE(SaveCheckLimits(database, {12, 1, false}, CheckLimits())) << database->LastFailure().Description();
     EXPECT_EQ(LoadCheckLimits(database), (CheckLimits{12, 1, false}));

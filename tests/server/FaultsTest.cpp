@@ -2,6 +2,7 @@
 #include "platform/Text.h"
 #include "store/CJetDB.h"
 #include "store/engine/RecordSet.h"
+#include "store/postgres/ServerAddress.h"
 #include "support/CuttingProxy.h"
 #include "support/Failures.h"
 #include "support/NewServerDatabase.h"
@@ -81,6 +82,35 @@ TEST(ServerFaults, RightsAreSaidToBeMissing)
         }
         server.Run(fmt::format("DROP ROLE {}", login));
     }
+}
+
+TEST(ServerFaults, APasswordIsAskedForUntilItIsRight)
+{
+    const NewServerDatabase server;
+    server.Run("DROP ROLE IF EXISTS ptk_locked; CREATE ROLE ptk_locked LOGIN PASSWORD 'right'; GRANT ptk_reader TO ptk_locked");
+    const std::string address = server.Address("ptk_locked");
+    EXPECT_FALSE(Open(address)->OpenDB()) << "nobody to ask";
+    struct Case
+    {
+        std::optional<std::string> answer;
+        bool opens;
+        std::string asked;
+    };
+    for (const Case& c : {Case{std::nullopt, false, address}, Case{"wrong", false, address}, Case{"right", true, address},
+                          Case{"wrong", true, "nobody: it is remembered"}}) {
+        std::string asked = "nobody: it is remembered";
+        AskForPasswordsWith([&](const std::string& of) {
+            asked = of;
+            return c.answer;
+        });
+        const auto database = Open(address);
+        EXPECT_EQ(database->OpenDB(), c.opens) << database->LastFailure().Description();
+        EXPECT_EQ(database->LastFailure().Number(), c.opens ? 0 : 14);
+        EXPECT_EQ(asked, c.asked);
+        EXPECT_TRUE(Open(server.Address())->OpenDB()) << "which needs none";
+        EXPECT_EQ(asked, c.asked);
+    }
+    AskForPasswordsWith({});
 }
 
 TEST(ServerFaults, DatabasesOfOthersAreRefused)

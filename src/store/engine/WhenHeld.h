@@ -1,12 +1,12 @@
-// What is to be done about a file that somebody else has.
+// What is to be done about a database that somebody else has.
 #pragma once
 
 namespace ptk {
 
 enum class WhenHeld
 {
-    Wait,  // up to a second
-    Refuse // at once
+    Wait,  // up to a second, for a server up to five
+    Refuse // at once, of a server after a second
 };
 
 } // namespace ptk

@@ -37,7 +37,7 @@ constexpr Meaning kMeanings[] = {
     {"58030", engine::Lost, "the server's disk failed while reading or writing the database"},
 };
 
-// One line, without the mark of its kind.
+// The first line; the library ends its own words with a line end.
 std::string OneLine(std::string_view message)
 {
     std::string line(message.substr(0, message.find('\n')));

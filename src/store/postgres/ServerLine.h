@@ -32,8 +32,7 @@ class ServerLine
 {
 public:
     // Raises 14 when the server cannot be reached or does not let in, and for an address with a password in it: what stands in the
-    // configuration is read by too many.
-    // Without a patience it waits as long as it takes.
+    // configuration is read by too many. Without a patience it waits as long as it takes.
     ServerLine(const std::string& address, std::optional<std::chrono::milliseconds> patience);
     ~ServerLine();
     ServerLine(const ServerLine&) = delete;
