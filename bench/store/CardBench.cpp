@@ -1,81 +1,22 @@
 // Time cards, the employee list and saving: the program's own classes beside the raw engine, on the same files.
-#include "model/CEmployee.h"
 #include "model/CEmployeeList.h"
-#include "model/CTimeCard.h"
 #include "model/CTimeRecord.h"
-#include "model/CTimeRecordFactory.h"
-#include "store/BenchData.h"
-#include "store/CJetDB.h"
+#include "store/ProgramCards.h"
 #include "store/RawStore.h"
-
-#include <benchmark/benchmark.h>
-#include <stdexcept>
 
 namespace bench {
 
 namespace {
-
-using ptk::CEmployee;
-using ptk::CJetDB;
-using ptk::CTimeCard;
-using ptk::CTimeRecordFactory;
-using ptk::DateTime;
 
 constexpr Size kSmall{"10k", 10, 10'000};
 constexpr Size kMedium{"1m", 1'000, 1'000'000};
 constexpr Size kLarge{"10m", 1'000, 10'000'000};
 constexpr Size kStaff{"staff", 10'000, 10'000};
 
-struct Period
-{
-    DateTime from;
-    DateTime to; // the midnight after the last day
-};
-
-Period Newest()
-{
-    return {kLastDay.AddDays(1 - kPeriodDays), kLastDay.AddDays(1)};
-}
 Period Oldest(const Size& size)
 {
     return {FirstDay(size), FirstDay(size).AddDays(kPeriodDays)};
 }
-
-class Program
-{
-public:
-    explicit Program(const std::string& path)
-    {
-        m_database->DatabaseName(path);
-        m_factory->PTKDatabase(m_database);
-    }
-
-    static std::shared_ptr<CEmployee> Employee(std::int32_t id)
-    {
-        ptk::EmployeeRow row;
-        row.EmployeeID = id;
-        row.LastName = "Bench";
-        row.PayRate = 10;
-        row.OvertimePayRate = 15;
-        return std::make_shared<CEmployee>(row);
-    }
-
-    float Card(const std::shared_ptr<CEmployee>& employee, const Period& period) const
-    {
-        CTimeCard card(m_factory);
-        card.PTKDatabase(m_database);
-        if (!card.GenerateTimecard(employee, period.from, period.to)) {
-            throw std::runtime_error("no card");
-        }
-        return card.RegularHoursWorked();
-    }
-
-    const std::shared_ptr<CJetDB>& Database() const { return m_database; }
-
-private:
-    std::shared_ptr<CJetDB> m_database = std::make_shared<CJetDB>(".");
-    std::shared_ptr<CTimeRecordFactory> m_factory = std::make_shared<CTimeRecordFactory>();
-};
 
 void RawCards(benchmark::State& state, const Size& size, const Period& period)
 {
@@ -150,8 +91,6 @@ void RawSaves(benchmark::State& state)
 void ProgramSaves(benchmark::State& state)
 {
     const Program program(ScratchCopy(kSmall));
-    CTimeRecordFactory factory;
-    factory.PTKDatabase(program.Database());
     std::int32_t id = 0;
     for (auto unused : state) {
         ++id;
@@ -160,16 +99,10 @@ void ProgramSaves(benchmark::State& state)
         record->StartTime(kLastDay.AddDays(-1));
         record->EndTime(kLastDay);
         record->TimeRecordID(id % kSmall.records + 1);
-        if (!factory.Save(record) || factory.ErrorNumber() != 0) {
+        if (!program.Factory().Save(record) || program.Factory().ErrorNumber() != 0) {
             throw std::runtime_error("not saved");
         }
     }
-}
-
-void Pair(const std::string& name, const std::function<void(benchmark::State&)>& raw, const std::function<void(benchmark::State&)>& program)
-{
-    benchmark::RegisterBenchmark((name + "/raw").c_str(), raw);
-    benchmark::RegisterBenchmark((name + "/program").c_str(), program);
 }
 
 void PairOfCards(const std::string& name, const Size& size, const Period& period)

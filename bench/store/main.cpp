@@ -1,4 +1,5 @@
-// ptk_bench --data DIR [--large] [Google Benchmark's own options]
+// ptk_bench --data DIR [--server SOCKET-FOLDER] [--large] [Google Benchmark's own options]
+#include "server/ServerData.h"
 #include "store/BenchData.h"
 
 #include <benchmark/benchmark.h>
@@ -10,6 +11,7 @@ void RegisterStoreBenchmarks(bool large);
 void RegisterReportBenchmarks();
 void RegisterCheckBenchmarks();
 void RegisterTrailBenchmarks();
+void RegisterServerBenchmarks(bool large);
 } // namespace bench
 
 int main(int argc, char** argv)
@@ -22,6 +24,8 @@ int main(int argc, char** argv)
             large = true;
         } else if (argument == "--data" && i + 1 < argc) {
             bench::DataFolder(argv[++i]);
+        } else if (argument == "--server" && i + 1 < argc) {
+            bench::ServerFolder(argv[++i]);
         } else {
             rest.push_back(argv[i]);
         }
@@ -32,6 +36,9 @@ int main(int argc, char** argv)
     bench::RegisterReportBenchmarks();
     bench::RegisterCheckBenchmarks();
     bench::RegisterTrailBenchmarks();
+    if (!bench::ServerFolder().empty()) {
+        bench::RegisterServerBenchmarks(large);
+    }
     benchmark::RunSpecifiedBenchmarks();
     return 0;
 }

@@ -219,14 +219,30 @@ Failure FileDraft::AlreadyThere(const std::string& target)
     return {failure::PathFileAccess, "PTK", "There is already a file " + target + "."};
 }
 
+namespace {
+
+// A link stays one. Some lead to no file at all, such as what a program writes to a pipe.
+std::string BehindLinks(const std::string& path)
+{
+    std::error_code error;
+    if (!std::filesystem::is_symlink(path, error)) {
+        return path;
+    }
+    const auto target = std::filesystem::weakly_canonical(path, error);
+    if (error) {
+        throw Failure(failure::PathFileAccess, "PTK", "The path leads to no file: " + path);
+    }
+    return target.string();
+}
+
+} // namespace
+
 bool PutFile(const std::string& path, std::string_view bytes)
 {
     if (Holds(path, bytes)) {
         return false;
     }
-    std::error_code ignored;
-    const bool isLink = std::filesystem::is_symlink(path, ignored);
-    FileDraft draft(isLink ? std::filesystem::weakly_canonical(path).string() : path);
+    FileDraft draft(BehindLinks(path));
     draft.File().Write(bytes);
     draft.Replace();
     return true;
