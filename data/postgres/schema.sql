@@ -57,7 +57,7 @@ CREATE TABLE TimeRecord (
 );
 
 -- Answers the fetch of an employee's pay period, in its order, without touching the table once it was vacuumed.
-CREATE INDEX TimeRecordPeriod ON TimeRecord (EmployeeID, StartTime, EndTime) INCLUDE (TimeRecordID);
+CREATE INDEX TimeRecordPeriod ON TimeRecord (EmployeeID, StartTime, EndTime, TimeRecordID);
 
 -- The few records that a search by start alone would miss when a card is checked: all but those with an end at most a day later.
 CREATE INDEX TimeRecordUnusual ON TimeRecord (EmployeeID, StartTime, EndTime) WHERE

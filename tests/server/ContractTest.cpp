@@ -171,6 +171,15 @@ TEST_P(ContractTest, TheProgramsStatementsDoWhatTheySay)
               "3|40|\"9999-12-31 23:59:59\"|1|41|\"2003-03-05 18:00:00\"|");
 }
 
+TEST_P(ContractTest, OfEqualRecordsTheFirstComesFirst)
+{
+    for (int i = 0; i < 3; ++i) {
+        AddRecord("3/5/2003 8:00 AM", "3/5/2003 5:00 PM");
+    }
+    ASSERT_TRUE(Do("UPDATE TimeRecord SET EmployeeID = 41 WHERE TimeRecordID < 3") && Do("UPDATE TimeRecord SET EmployeeID = 40"));
+    EXPECT_EQ(Rows(1, CTimeRecSQLConverter().BuildFetchSQL(40, DateTime({2003, 3, 1}, {}), DateTime({2003, 3, 6}, {}))), "1|2|3|");
+}
+
 TEST_P(ContractTest, FailuresHaveTheSameNumbers)
 {
     struct Case

@@ -9,6 +9,10 @@ namespace ptk {
 
 namespace {
 
+// Of records that this order of the fetch leaves equal a file answers the one that was stored first, and so shall a server.
+constexpr std::string_view kFetchOrder = "ORDER BY TimeRecord.StartTime, TimeRecord.EndTime;";
+constexpr const char* kThenByKey = ", TimeRecord.TimeRecordID";
+
 bool IsColon(const std::vector<Token>& tokens, std::size_t at)
 {
     return at < tokens.size() && tokens[at].kind == TokenKind::Sign && tokens[at].text == ":";
@@ -63,6 +67,9 @@ ServerText TranslateForServer(std::string_view statement)
         } else {
             text.sql += tokens[i].text;
         }
+    }
+    if (text.sql.ends_with(kFetchOrder)) {
+        text.sql.insert(text.sql.size() - 1, kThenByKey);
     }
     return text;
 }
