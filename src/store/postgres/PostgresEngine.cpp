@@ -183,11 +183,14 @@ ServerResult PostgresEngine::Ask(const ServerCommand& command)
     return std::move(results.back());
 }
 
-// Over a new line where the old one turns out to be lost: nothing of this transaction was committed.
+// Over a new line where the old one turns out to be lost: nothing of this transaction was committed. Whether it is lost is not asked
+// before, as Reopen just did.
 std::vector<ServerResult> PostgresEngine::SendFirst(const std::vector<ServerCommand>& commands)
 {
     try {
-        RequireLine();
+        if (m_line == nullptr) {
+            Connect();
+        }
         m_begun = true;
         return m_line->Send(commands);
     } catch (const ServerFailure& failure) {
