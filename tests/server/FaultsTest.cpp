@@ -126,44 +126,61 @@ TEST(ServerFaults, ALineThatIsCutLosesAndDoublesNothing)
     EXPECT_EQ(Asked(*database, "SELECT COUNT(*) FROM TimeRecord"), std::to_string(stored)) << "reading goes on over a new line";
 }
 
+// A server of the test's own, which takes the place of the others' while this lives, and ends with it.
+class OwnServer
+{
+public:
+    OwnServer()
+    {
+        Do("start");
+        ::setenv("PTK_TEST_SERVER", (m_folder.Path() + "/own/socket").c_str(), 1);
+    }
+    ~OwnServer()
+    {
+        Do("stop");
+        ::setenv("PTK_TEST_SERVER", m_before.c_str(), 1);
+    }
+    OwnServer(const OwnServer&) = delete;
+    OwnServer& operator=(const OwnServer&) = delete;
+
+    void Do(const char* step) const
+    {
+        EXPECT_EQ(std::system(fmt::format("{}/tests/support/server_cluster {} {}/own", SourceFolder(), step, m_folder.Path()).c_str()), 0)
+            << step;
+    }
+
+private:
+    const TemporaryFolder m_folder;
+    const std::string m_before = TestServer();
+};
+
 // At random moments of 200 saves the server dies and comes back.
 TEST(ServerFaults, AServerThatIsKilledLosesNothing)
 {
-    const TemporaryFolder folder;
-    const std::string script = SourceFolder() + "/tests/support/server_cluster";
-    const auto cluster = [&](const char* step) {
-        ASSERT_EQ(std::system(fmt::format("{} {} {}/own", script, step, folder.Path()).c_str()), 0) << step;
-    };
-    cluster("start");
-    const std::string before = TestServer();
-    ::setenv("PTK_TEST_SERVER", (folder.Path() + "/own/socket").c_str(), 1);
-    {
-        const NewServerDatabase server;
-        const auto database = Open(server.Address());
-        std::jthread killer([&](const std::stop_token& stop) {
-            std::mt19937 random(7);
-            while (!stop.stop_requested()) {
-                std::this_thread::sleep_for(std::chrono::milliseconds(random() % 300));
-                cluster("kill");
-                cluster("restart");
-            }
-        });
-        int stored = 0;
-        int failed = 0;
-        for (int i = 0; i < 200; ++i) {
-            const bool done = database->ExecuteAction(kAdd);
-            stored += done ? 1 : 0;
-            failed += done ? 0 : 1;
-            std::this_thread::sleep_for(std::chrono::milliseconds(done ? 5 : 50));
+    const OwnServer own;
+    const NewServerDatabase server;
+    const auto database = Open(server.Address());
+    std::jthread killer([&](const std::stop_token& stop) {
+        std::mt19937 random(7);
+        while (!stop.stop_requested()) {
+            std::this_thread::sleep_for(std::chrono::milliseconds(random() % 300));
+            own.Do("kill");
+            own.Do("restart");
         }
-        killer.request_stop();
-        killer.join();
-        EXPECT_GT(stored, 50);
-        EXPECT_EQ(RecordsAndEntries(*database), fmt::format("\"{0} {0}\"", stored));
-        RecordProperty("failed", failed);
+    });
+    int stored = 0;
+    int failed = 0;
+    for (int i = 0; i < 200; ++i) {
+        const bool done = database->ExecuteAction(kAdd);
+        stored += done ? 1 : 0;
+        failed += done ? 0 : 1;
+        std::this_thread::sleep_for(std::chrono::milliseconds(done ? 5 : 50));
     }
-    ::setenv("PTK_TEST_SERVER", before.c_str(), 1);
-    cluster("stop");
+    killer.request_stop();
+    killer.join();
+    EXPECT_GT(stored, 50);
+    EXPECT_EQ(RecordsAndEntries(*database), fmt::format("\"{0} {0}\"", stored));
+    RecordProperty("failed", failed);
 }
 
 } // namespace
