@@ -36,6 +36,13 @@ constexpr int kStepColumn = 5;
 constexpr int kNumberColumn = 6;
 constexpr const char* kNewest = "SELECT COALESCE(NULLIF(current_setting('ptk.last', true), '')::bigint, 0)";
 
+// Asked in this order: what does not run any more is seen by the next question, or never.
+constexpr const char* kIsRunning = "SELECT EXISTS (SELECT 1 FROM pg_locks WHERE locktype = 'transactionid' AND mode = 'ExclusiveLock' AND "
+                                   "transactionid = $1::xid8::xid)";
+constexpr const char* kIsStored = "SELECT EXISTS (SELECT 1 FROM _Change WHERE ChangeID >= $1::bigint AND Step = $1::bigint AND "
+                                  "xmin = $2::xid8::xid AND ChangedBy IS NOT DISTINCT FROM NULLIF($3, '') AND "
+                                  "Program IS NOT DISTINCT FROM NULLIF($4, ''))";
+
 // As the server reads a time zone: "<+0530>-05:30", east of Greenwich counting down.
 std::string LocalTimeZone()
 {
@@ -183,11 +190,14 @@ ServerResult PostgresEngine::Ask(const ServerCommand& command)
     return std::move(results.back());
 }
 
-// Over a new line where the old one turns out to be lost: nothing of this transaction was committed.
+// Over a new line where the old one turns out to be lost: nothing of this transaction was committed. Whether it is lost is not asked
+// before, as Reopen just did.
 std::vector<ServerResult> PostgresEngine::SendFirst(const std::vector<ServerCommand>& commands)
 {
     try {
-        RequireLine();
+        if (m_line == nullptr) {
+            Connect();
+        }
         m_begun = true;
         return m_line->Send(commands);
     } catch (const ServerFailure& failure) {
@@ -247,33 +257,38 @@ void PostgresEngine::CommitWrite()
     m_transaction = Transaction::Read;
 }
 
-// The answer to a commit was lost. The server still knows what became of it, also after it was started anew.
+// The answer to a commit was lost. What became of it stands in the trail, also after the server was started anew.
 void PostgresEngine::Settle(const ServerFailure& lost)
 {
     const auto until = std::chrono::steady_clock::now() + kPatience;
     do {
-        const std::string fate = FateOfWrite();
-        if (fate == "committed") {
+        switch (FateOfWrite()) {
+        case Fate::Stored:
             return;
-        }
-        if (fate == "aborted") {
+        case Fate::Dropped:
             throw lost;
+        case Fate::Unknown:
+            std::this_thread::sleep_for(kBetweenTries);
         }
-        std::this_thread::sleep_for(kBetweenTries);
     } while (std::chrono::steady_clock::now() < until);
     throw ServerFailure(engine::Lost, "the connection to the server was lost while a change was stored, and whether it was stored is not "
                                       "known: look before you enter it again");
 }
 
-// Empty where the server cannot be asked.
-std::string PostgresEngine::FateOfWrite()
+// The server's own word on the transaction's number is not asked for: one that crashed gives numbers of what it forgot to others.
+PostgresEngine::Fate PostgresEngine::FateOfWrite()
 {
     try {
         Connect();
-        const auto results = m_line->Send({{"SELECT COALESCE(pg_xact_status($1::xid8), '')", {m_number}, false, false}});
-        return std::string(results.front().Text(0, 0));
+        const auto results =
+            m_line->Send({{kIsRunning, {m_number}, false, false},
+                          {kIsStored, {std::to_string(StepNumber()), m_number, Signature().name, Signature().program}, false, false}});
+        if (results.at(0).Text(0, 0) == "t") {
+            return Fate::Unknown;
+        }
+        return results.at(1).Text(0, 0) == "t" ? Fate::Stored : Fate::Dropped;
     } catch (const ServerFailure&) {
-        return {};
+        return Fate::Unknown;
     }
 }
 

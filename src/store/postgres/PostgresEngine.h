@@ -82,6 +82,13 @@ private:
         Many   // of no step
     };
 
+    enum class Fate
+    {
+        Stored,
+        Dropped,
+        Unknown // it still runs, or the server cannot be asked
+    };
+
     void Connect();
     void RequireLine();
     void RequireOpen() const;
@@ -92,7 +99,7 @@ private:
     void WriteOnce(const std::function<void()>& steps);
     void CommitWrite();
     void Settle(const ServerFailure& lost);
-    [[nodiscard]] std::string FateOfWrite();
+    [[nodiscard]] Fate FateOfWrite();
     void Release() noexcept;
 
     std::string m_address;
@@ -103,7 +110,7 @@ private:
     bool m_listens = false;
     bool m_begun = false; // a transaction that the server knows of
     Transaction m_transaction = Transaction::Read;
-    std::string m_number; // of the write's transaction, by which the server knows what became of it
+    std::string m_number; // of the write's transaction
     std::int64_t m_formerRoundTrips = 0;
     std::map<std::string, std::string, std::less<>> m_storedTexts; // as they were when first asked for
 };

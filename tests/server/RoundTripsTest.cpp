@@ -1,0 +1,102 @@
+// How often the program waits for a server: over a slow line that is what people feel.
+#include "model/CEmployee.h"
+#include "model/CEmployeeList.h"
+#include "model/CTimeRecord.h"
+#include "model/CTimeRecordFactory.h"
+#include "model/CTimeRecordList.h"
+#include "model/PunchReader.h"
+#include "office/UndoStack.h"
+#include "platform/Text.h"
+#include "store/CJetDB.h"
+#include "store/postgres/PostgresEngine.h"
+#include "support/NewServerDatabase.h"
+
+#include <gtest/gtest.h>
+
+namespace ptk {
+
+namespace {
+
+class RoundTripsTest : public testing::Test
+{
+protected:
+    RoundTripsTest()
+    {
+        database->DatabaseName(server.Address());
+        factory.PTKDatabase(database);
+        server.Run("INSERT INTO Employee (LastName, Active, AutoDeduct, PayRate) SELECT 'Lee', true, false, 10 FROM generate_series(1, 3)");
+        server.Run("INSERT INTO TimeRecord (EmployeeID, StartTime, EndTime) SELECT 40, '2003-03-05 08:00:00', '2003-03-05 17:00:00' "
+                   "FROM generate_series(1, 9)");
+    }
+
+    // So far, over all connections. Asks nothing itself.
+    std::int64_t All() const
+    {
+        std::int64_t count = 0;
+        EXPECT_TRUE(database->ExecuteSteps([&](Engine& engine) { count = dynamic_cast<PostgresEngine&>(engine).RoundTrips(); }));
+        return count;
+    }
+
+    std::int64_t Of(const std::function<bool()>& work) const
+    {
+        const std::int64_t before = All();
+        EXPECT_TRUE(work()) << database->LastFailure().Description();
+        return All() - before;
+    }
+
+    [[nodiscard]] bool Card() { return factory.BuildList(40, ToDateTime("3/1/2003"), ToDateTime("4/1/2003")); }
+    [[nodiscard]] bool Saved(std::int16_t how)
+    {
+        const auto record = factory.TimeRecordList()->Item(1);
+        record->ObjectState(how);
+        record->EndTime(ToDateTime("3/5/2003 6:00 PM"));
+        return factory.Save(record) && factory.ErrorNumber() == 0;
+    }
+
+    const NewServerDatabase server;
+    const std::shared_ptr<CJetDB> database = std::make_shared<CJetDB>("/nowhere");
+    CTimeRecordFactory factory;
+    CEmployeeList people;
+};
+
+TEST_F(RoundTripsTest, CardsAndRecords)
+{
+    ASSERT_TRUE(Card());
+    EXPECT_EQ(All(), 2) << "a new connection asks for the structure's number";
+    EXPECT_EQ(Of([&] { return Card(); }), 1) << "the transaction begins with its first question, and its end is not waited for";
+    EXPECT_EQ(Of([&] { return Saved(state::Changed); }), 3) << "the row is locked and compared, changed, committed";
+    EXPECT_EQ(Of([&] { return Saved(state::Deleted); }), 3) << "likewise";
+    EXPECT_EQ(Of([&] { return Saved(state::New); }), 2) << "there is no row to compare";
+    EXPECT_EQ(Of([&] { return Card() && factory.SaveList(); }), 1) << "what is as it was read is not stored";
+}
+
+TEST_F(RoundTripsTest, PeopleAndUndo)
+{
+    UndoStack undo(database);
+    const auto load = [&] { return people.Destroy() && people.Create() && people.LoadList(database); };
+    const auto save = [&] {
+        people.GetEmployeeByID(41)->Phone(people.GetEmployeeByID(41)->Phone() + "1");
+        return people.SaveList();
+    };
+    ASSERT_TRUE(load() && save() && undo.Remember()); // which asks for the texts of the stored queries
+    EXPECT_EQ(Of(load), 1);
+    EXPECT_EQ(Of(save), 3) << "the row is locked and compared, changed, committed";
+    EXPECT_EQ(Of([&] { return save() && undo.Remember(); }), 3 + 4) << "the entry, its two sides, whose row it is";
+    EXPECT_EQ(Of([&] { return undo.Undo(); }), 5)
+        << "the trail and the row are looked at, the row changed, its entry asked for, all committed";
+}
+
+TEST_F(RoundTripsTest, Overview)
+{
+    const auto read = [&] {
+        const CJetDB::Hold hold(database);
+        PunchReader reader(*database, {ToDateTime("3/3/2003"), ToDateTime("3/16/2003")}, 0);
+        return reader.Read(40).size() == 9 && reader.Read(41).empty() && reader.Read(42).empty();
+    };
+    ASSERT_TRUE(read());
+    EXPECT_EQ(Of(read), 6) << "each employee's usual and unusual records";
+}
+
+} // namespace
+
+} // namespace ptk
