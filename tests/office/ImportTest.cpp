@@ -209,6 +209,16 @@ TEST_F(ImportTest, TakesADamagedFileOnlyWhenThatIsAccepted)
     }
 }
 
+TEST_F(ImportTest, TellsATableThatCannotBeRead)
+{
+    Write({});
+    std::string bytes = ReadBytes(m_order.file);
+    bytes[bytes.rfind("\2\1VC")] = '\0'; // where the columns of the last table stand
+    WriteBytes(m_order.file, bytes);
+    const std::vector<std::string> signs{"the table Vendors cannot be read", "warnings while reading: 1"};
+    EXPECT_EQ(ImportOldDatabase(m_order).account.signs, signs);
+}
+
 // One letter of each alphabet.
 TEST_F(ImportTest, ReadsNamesInTheCodePageThatIsSaid)
 {
