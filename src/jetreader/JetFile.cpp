@@ -19,6 +19,8 @@ constexpr char kJet[] = "\0\1\0\0Standard Jet DB";
 constexpr char kNewer[] = "\0\1\0\0Standard ACE DB";
 constexpr unsigned char kJet3 = 0;
 constexpr unsigned char kJet4 = 1;
+constexpr int kWestern = 1252;
+constexpr int kVietnamese = 1258;
 
 std::size_t SizeOf(int descriptor)
 {
@@ -32,6 +34,13 @@ std::size_t SizeOf(int descriptor)
         throw Refused(Refusal::TooLarge);
     }
     return static_cast<std::size_t>(file.st_size);
+}
+
+// The library knows another code page than the header's only from the environment, which nobody but this program sets. In the Vietnamese
+// one it would cut the names of all tables: it never fetches a last letter that still waits for an accent.
+void ReadNamesIn(int codePage)
+{
+    setenv("MDB_JET3_CHARSET", NameOfCodePage(codePage == kVietnamese ? kWestern : codePage), 1);
 }
 
 } // namespace
@@ -72,15 +81,16 @@ void JetFile::RefuseUnlessJet() const
     }
 }
 
-// The library knows another code page than the header's only from the environment, which nobody but this program sets.
 void JetFile::OpenHandle()
 {
     if (m_codePage != 0 && !m_jet4) {
-        setenv("MDB_JET3_CHARSET", NameOfCodePage(m_codePage), 1);
+        ReadNamesIn(m_codePage);
     }
-    m_handle = mdb_open_buffer(m_bytes, m_size, MDB_NOFLAGS);
-    if (m_handle == nullptr) {
-        throw Refused(Refusal::Unreadable);
+    Open();
+    if (!m_jet4 && m_codePage == 0 && m_handle->f->code_page == kVietnamese) {
+        ReadNamesIn(kVietnamese);
+        mdb_close(m_handle);
+        Open();
     }
     if (m_jet4) {
         m_codePage = TextDecoder::kUtf16;
@@ -88,6 +98,14 @@ void JetFile::OpenHandle()
         m_codePage = m_handle->f->code_page;
     }
     m_texts = std::make_unique<TextDecoder>(m_codePage);
+}
+
+void JetFile::Open()
+{
+    m_handle = mdb_open_buffer(m_bytes, m_size, MDB_NOFLAGS);
+    if (m_handle == nullptr) {
+        throw Refused(Refusal::Unreadable);
+    }
 }
 
 } // namespace jet

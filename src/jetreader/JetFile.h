@@ -33,6 +33,7 @@ private:
     [[nodiscard]] std::size_t PageSize() const { return m_jet4 ? 4096 : 2048; }
     void RefuseUnlessJet() const;
     void OpenHandle();
+    void Open();
 
     void* m_bytes = nullptr;
     std::size_t m_size = 0;

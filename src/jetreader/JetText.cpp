@@ -155,6 +155,7 @@ DecodedText TextDecoder::FromCodePage(std::span<const unsigned char> bytes) cons
             text.exact = false;
         }
     }
+    iconv(m_converter, nullptr, nullptr, &out, &room); // a letter that an accent behind it would have changed
     text.utf8.assign(buffer.data(), out);
     if (text.utf8.find('\0') != std::string::npos) {
         std::replace(text.utf8.begin(), text.utf8.end(), '\0', '?');

@@ -93,7 +93,9 @@ TEST(CardCheckTest, SaysWhatIsWrongWithSingleShifts)
              Case{"more than a day has", {{"3/2/2026", "3/2/2026 13:00"}, {"3/2/2026 13:00", "3/3/2026 0:01"}}, "long-day 1,2: 1441"},
              Case{"just a day", {{"3/2/2026", "3/2/2026 13:00"}, {"3/2/2026 13:00", "3/3/2026"}}, ""},
          }) {
-        EXPECT_EQ(Summary(Check(Worker(), Rows(c.shifts))), c.findings) << c.name;
+        const CardCheck check = Check(Worker(), Rows(c.shifts));
+        EXPECT_EQ(Summary(check), c.findings) << c.name;
+        EXPECT_EQ(check.clockedIn, Summary(check).starts_with("clocked-in")) << c.name;
     }
 }
 

@@ -188,6 +188,7 @@ TEST_F(TimeCardTest, RendersTheWholeCard)
     employee->PayRate(99);
     EXPECT_EQ(card.RegularPay(), 99) << "a rate, read live";
     EXPECT_NE(card.GetTimeRecordByKey(At(4, 8), At(4, 12)), nullptr);
+    EXPECT_EQ(card.ErrorNumber(), 0);
     EXPECT_EQ(card.GetTimeRecordByKey(At(4, 8), At(4, 13)), nullptr);
     EXPECT_EQ(card.ErrorNumber(), 607);
 }

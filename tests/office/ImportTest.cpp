@@ -1,6 +1,7 @@
 #include "office/Import.h"
 
 #include "office/ImportValues.h"
+#include "office/OldFile.h"
 #include "platform/Failure.h"
 #include "store/DatabaseCreator.h"
 #include "store/RawDatabase.h"
@@ -15,6 +16,7 @@
 #include <filesystem>
 #include <random>
 #include <sys/stat.h>
+#include <tuple>
 
 namespace ptk {
 
@@ -205,6 +207,45 @@ TEST_F(ImportTest, TakesADamagedFileOnlyWhenThatIsAccepted)
             << c.sign;
         fs::remove(m_order.database);
     }
+}
+
+TEST_F(ImportTest, TellsATableThatCannotBeRead)
+{
+    Write({});
+    std::string bytes = ReadBytes(m_order.file);
+    bytes[bytes.rfind("\2\1VC")] = '\0'; // where the columns of the last table stand
+    WriteBytes(m_order.file, bytes);
+    const std::vector<std::string> signs{"the table Vendors cannot be read", "warnings while reading: 1"};
+    EXPECT_EQ(ImportOldDatabase(m_order).account.signs, signs);
+}
+
+// One letter of each alphabet.
+TEST_F(ImportTest, ReadsNamesInTheCodePageThatIsSaid)
+{
+    const std::tuple<int, const char*, const char*> pages[] = {
+        {437, "\x81", "ü"},      {850, "\xB7", "À"},  {852, "\x85", "ů"},      {855, "\x81", "Ђ"},      {857, "\x98", "İ"},
+        {866, "\x81", "Б"},      {874, "\xA1", "ก"},  {932, "\x82\xA0", "あ"}, {936, "\xC4\xE3", "你"}, {949, "\xB0\xA1", "가"},
+        {950, "\xA7\x41", "你"}, {1250, "\xA5", "Ą"}, {1251, "\xC1", "Б"},     {1252, "\xC1", "Á"},     {1253, "\xC1", "Α"},
+        {1254, "\xDD", "İ"},     {1255, "\xE0", "א"}, {1256, "\xC7", "ا"},     {1257, "\xC0", "Ą"},     {1258, "\xD0", "Đ"},
+    };
+    for (const auto& [page, bytes, letter] : pages) {
+        OldRows rows;
+        rows.employees = {Employee(5, bytes)};
+        rows.companies.clear();
+        Write(rows);
+        m_order.codePage = page;
+        EXPECT_TRUE(IsKnownCodePage(page)) << page;
+        EXPECT_EQ(Refusal(), "") << page;
+        EXPECT_EQ(Rows("SELECT LastName FROM Employee WHERE EmployeeID = 5"), std::string(letter) + '|') << page;
+        fs::remove(m_order.database);
+    }
+    std::string bytes = ReadBytes(m_order.file);
+    bytes[0x3C] =
+        static_cast<char>(bytes[0x3C] ^ 0x04E4 ^ 0x04EA); // the header, which is ciphered by a key of its own, names 1258 instead of 1252
+    WriteBytes(m_order.file, bytes);
+    m_order.codePage.reset();
+    EXPECT_EQ(Refusal(), "");
+    EXPECT_EQ(Rows("SELECT LastName FROM Employee WHERE EmployeeID = 5"), "Đ|");
 }
 
 TEST_F(ImportTest, RefusesWhatIsNotThereInASentence)

@@ -1,4 +1,5 @@
 // The forms of documents that other programs read, to the byte.
+#include "reports/CellText.h"
 #include "reports/ReportDocument.h"
 #include "reports/ReportForms.h"
 
@@ -30,6 +31,11 @@ ReportDocument Made(const std::string& title, std::vector<ReportRow> rows)
     document.Add("a\r\nb");
     document.table = {kColumns, std::move(rows)};
     return document;
+}
+
+TEST(DataFormsTest, HoursAreToldAsOnAClock)
+{
+    EXPECT_EQ(ClockText(0.0F) + ' ' + ClockText(-0.25F) + ' ' + ClockText(0.992F) + ' ' + ClockText(100.5F), "0:00 -0:15 1:00 100:30");
 }
 
 TEST(DataFormsTest, AreTheSameToTheByte)

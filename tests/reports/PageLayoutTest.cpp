@@ -124,6 +124,7 @@ TEST(PageLayoutTest, PiecesKeepTheirColumns)
                   "0[a\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD"
                   "b]"},
              Case{"12 Oak Street, third door", "0[12 Oak Street, third]/0[door]"},
+             Case{"12 Oak Street, third door   left", "0[12 Oak Street, third]/0[door]7[left]"},
              Case{"Name:\t\tFeatherstone", "0[Name:]/8[Featherstone]"},
              Case{"\t12 Oak Street, Shelbyville", "8[12 Oak]/8[Street,]/8[Shelbyville]"},
              Case{"1234567890123456789012345678901234567890123", "0[12345678901234567890]/0[12345678901234567890]/0[123]"},
