@@ -64,13 +64,8 @@ bool IsTheSameOnAServer(std::string_view statement)
     return true;
 }
 
-} // namespace
-
-ServerText TranslateForServer(std::string_view statement)
+ServerText Rewritten(std::string_view statement)
 {
-    if (IsTheSameOnAServer(statement)) {
-        return {std::string(statement), {}};
-    }
     const std::vector<Token> tokens = SplitTokens(statement);
     ServerText text;
     text.sql.reserve(statement.size());
@@ -83,6 +78,14 @@ ServerText TranslateForServer(std::string_view statement)
             text.sql += tokens[i].text;
         }
     }
+    return text;
+}
+
+} // namespace
+
+ServerText TranslateForServer(std::string_view statement)
+{
+    ServerText text = IsTheSameOnAServer(statement) ? ServerText{std::string(statement), {}} : Rewritten(statement);
     if (text.sql.ends_with(kFetchOrder)) {
         text.sql.insert(text.sql.size() - 1, kThenByKey);
     }
