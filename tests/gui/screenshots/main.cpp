@@ -5,6 +5,7 @@
 #include "store/CJetDB.h"
 #include "support/OldDatabase.h"
 #include "ui/dialogs/FFirstStart.h"
+#include "ui/dialogs/FServerPassword.h"
 #include "ui/dialogs/FImport.h"
 
 #include <cstdio>
@@ -80,6 +81,13 @@ void TakeFirstStart(const GuiProgram& program, const Photographer& photographer)
     photographer.Take(window, "first-start-refused");
     Find<QRadioButton>(window, "optFolder").click();
     photographer.Take(window, "first-start-folder");
+}
+
+void TakeServerPassword(const Photographer& photographer)
+{
+    FServerPassword window("postgresql://ann@books.example/ptk?sslmode=verify-full");
+    window.show();
+    photographer.TakeSizes(window, "server-password");
 }
 
 void TakeLogin(GuiProgram& program, const Photographer& photographer)
@@ -305,6 +313,7 @@ void TakeAll(const QString& folder, const QString& theme)
     const Photographer photographer(folder, theme);
     GuiProgram program(FillSample);
     TakeFirstStart(program, photographer);
+    TakeServerPassword(photographer);
     TakeLogin(program, photographer);
     FController& main = program.Main();
     TakePages(main, photographer);
