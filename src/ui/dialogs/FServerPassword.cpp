@@ -14,6 +14,7 @@ FServerPassword::FServerPassword(const std::string& address) : m_ui(std::make_un
 {
     m_ui->setupUi(this);
     m_ui->lblServer->setText(QString(kWanted).arg(QString::fromStdString(address)));
+    setMinimumSize(sizeHint()); // of a long address all lines
     connect(m_ui->cmdConnect, &QPushButton::clicked, this, &QDialog::accept);
     connect(m_ui->cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
 }
