@@ -77,10 +77,18 @@ private:
             stored = became == "done";
             return became;
         });
-        if (stored && m_database->LastStep() != 0) {
-            ++m_steps;
+        if (stored && Counted()) {
             Told("remember", [&] { return m_undo.Remember() ? "done" : m_undo.Refusal(); });
         }
+    }
+
+    // Whether a step was stored: what is as it was before makes none.
+    bool Counted()
+    {
+        const bool isNew = m_database->LastStep() != 0 && m_database->LastStep() != m_lastStep;
+        m_lastStep = m_database->LastStep();
+        m_steps += isNew ? 1 : 0;
+        return isNew;
     }
 
     void ReadAndSave(std::uint64_t what)
@@ -145,7 +153,7 @@ private:
         }
         Told("undo", [&] {
             if (m_undo.Undo()) {
-                ++m_steps;
+                Counted();
                 return std::string("done");
             }
             return m_database->Conflict() ? "refused" : m_undo.Refusal();
@@ -159,6 +167,7 @@ private:
     ptk::CTimeRecordFactory m_factory;
     ptk::UndoStack m_undo{m_database};
     std::int64_t m_steps = 0;
+    std::int64_t m_lastStep = 0;
 };
 
 } // namespace

@@ -156,9 +156,9 @@ std::size_t BareServer::Employees()
 void BareServer::Save(std::int32_t record, const std::string& end)
 {
     PostPrepared("write");
-    PostPrepared("sign", {"Ann Lee", "bench", "UTC"});
     Post(fmt::format("SELECT TimeRecordID, EmployeeID, StartTime, EndTime FROM TimeRecord WHERE TimeRecordID = {} FOR UPDATE", record));
     Ask();
+    PostPrepared("sign", {"Ann Lee", "bench", "UTC"});
     Post(fmt::format("UPDATE TimeRecord SET EmployeeID = {}, StartTime = '2026-10-31 08:00:00', EndTime = '{}' WHERE TimeRecordID = {}",
                      kFirstEmployee, end, record));
     Ask();

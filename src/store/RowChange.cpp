@@ -89,7 +89,7 @@ void RequireUntouched(Engine& engine, const RowChange& change, const KnownSteps&
                                                     known.newerThan, change.table, KeyNow(change)));
     for (const auto rows = entries->ReadRows(); !rows->EndOfFile(); rows->MoveNext()) {
         const std::int64_t step = rows->IsNull(0) ? 0 : rows->Int64At(0);
-        if (step != engine.StepNumber() && !known.steps.contains(step)) {
+        if (step == 0 || (step != engine.StepNumber() && !known.steps.contains(step))) {
             Refuse(change);
         }
     }
@@ -138,8 +138,8 @@ std::string UpdateSql(const RowChange& change, const EngineWords& words)
 void RedoOne(Engine& engine, const RowChange& change, const KnownSteps& known)
 {
     const std::string row = fmt::format("{} WHERE {} = {}", change.table, KeyOf(change.table), KeyNow(change));
-    RequireUntouched(engine, change, known);
     if (!change.before) {
+        RequireUntouched(engine, change, known);
         if (Any(engine, row)) {
             Refuse(change);
         }
@@ -148,6 +148,7 @@ void RedoOne(Engine& engine, const RowChange& change, const KnownSteps& known)
     if (!Any(engine, row + Holding(*change.before, engine.Words()) + engine.Words().lockRows)) {
         Refuse(change);
     }
+    RequireUntouched(engine, change, known); // now that nobody else can change it any more
     if (change.after) {
         return engine.Prepare(UpdateSql(change, engine.Words()))->Run();
     }

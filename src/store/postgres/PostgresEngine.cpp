@@ -162,32 +162,52 @@ ServerCommand PostgresEngine::Signing() const
     return {kSign, {Signature().name, Signature().program, wanted, LocalTimeZone()}, true, false};
 }
 
-// What goes before the first statement of a transaction.
-std::vector<ServerCommand> PostgresEngine::Opening() const
+ServerCommand PostgresEngine::Beginning() const
 {
-    std::vector<ServerCommand> commands;
-    commands.push_back({m_transaction == Transaction::Read ? kBeginRead : kBeginWrite, {}, true, false});
-    if (m_transaction == Transaction::Write) {
-        commands.push_back(Signing());
-    }
-    return commands;
+    return {m_transaction == Transaction::Read ? kBeginRead : kBeginWrite, {}, true, false};
+}
+
+// A write is signed as late as it can be, with its first statement that may change something: the rows that it locked to look at are its
+// own by then, so that the entries of a row have their numbers in the order of its changes.
+bool PostgresEngine::IsToBeSigned(const ServerCommand& command) const
+{
+    return m_transaction == Transaction::Write && m_number.empty() && !command.sql.starts_with("SELECT");
+}
+
+void PostgresEngine::TakeSigning(const ServerResult& signing)
+{
+    TookStep(NumberIn(signing, kStepColumn));
+    m_number = signing.Text(0, kNumberColumn);
 }
 
 ServerResult PostgresEngine::Ask(const ServerCommand& command)
 {
     RequireOpen();
-    if (m_begun) {
-        return std::move(m_line->Send({command}).front());
+    const bool isToBeSigned = IsToBeSigned(command);
+    std::vector<ServerCommand> commands;
+    if (!m_begun) {
+        commands.push_back(Beginning());
     }
-    std::vector<ServerCommand> commands = Opening();
+    if (isToBeSigned) {
+        commands.push_back(Signing());
+    }
     commands.push_back(command);
-    std::vector<ServerResult> results = SendFirst(commands);
-    if (m_transaction == Transaction::Write) {
-        const ServerResult& signing = results.at(1);
-        TookStep(NumberIn(signing, kStepColumn));
-        m_number = signing.Text(0, kNumberColumn);
+    std::vector<ServerResult> results = m_begun ? m_line->Send(commands) : SendFirst(commands);
+    if (isToBeSigned) {
+        TakeSigning(results.at(results.size() - 2));
     }
     return std::move(results.back());
+}
+
+// For what does not go through Ask.
+void PostgresEngine::RequireSigned()
+{
+    if (!m_begun) {
+        static_cast<void>(SendFirst({Beginning()}));
+    }
+    if (m_transaction == Transaction::Write && m_number.empty()) {
+        TakeSigning(m_line->Send({Signing()}).front());
+    }
 }
 
 // Over a new line where the old one turns out to be lost: nothing of this transaction was committed. Whether it is lost is not asked
@@ -228,6 +248,7 @@ void PostgresEngine::WriteOnce(const std::function<void()>& steps)
 {
     Begin(Transaction::Write);
     TookStep(0);
+    m_number.clear();
     try {
         steps();
     } catch (...) {
@@ -260,6 +281,9 @@ void PostgresEngine::CommitWrite()
 // The answer to a commit was lost. What became of it stands in the trail, also after the server was started anew.
 void PostgresEngine::Settle(const ServerFailure& lost)
 {
+    if (m_number.empty()) { // nothing was changed
+        throw lost;
+    }
     const auto until = std::chrono::steady_clock::now() + kPatience;
     do {
         switch (FateOfWrite()) {
@@ -326,6 +350,7 @@ void PostgresEngine::Untold(const std::function<void()>& steps)
 
 void PostgresEngine::AddWholeEntry(const char* action, const std::string& file)
 {
+    RequireSigned();
     static_cast<void>(Ask({"SELECT ptk_add_entry($1, $2)", {action, file}, false, false}));
 }
 
@@ -356,9 +381,7 @@ void PostgresEngine::BeginMany()
 
 void PostgresEngine::RunScript(const char* sql)
 {
-    if (!m_begun) {
-        static_cast<void>(SendFirst(Opening()));
-    }
+    RequireSigned();
     m_line->RunScript(sql);
 }
 
@@ -377,9 +400,7 @@ void PostgresEngine::Commit()
 
 std::unique_ptr<RowSink> PostgresEngine::Fill(const StoredTable& table)
 {
-    if (!m_begun) {
-        static_cast<void>(SendFirst(Opening()));
-    }
+    RequireSigned();
     return std::make_unique<PostgresSink>(*m_line, table);
 }
 

@@ -93,7 +93,10 @@ private:
     void RequireLine();
     void RequireOpen() const;
     void Begin(Transaction transaction);
-    [[nodiscard]] std::vector<ServerCommand> Opening() const;
+    [[nodiscard]] ServerCommand Beginning() const;
+    [[nodiscard]] bool IsToBeSigned(const ServerCommand& command) const;
+    void TakeSigning(const ServerResult& signing);
+    void RequireSigned();
     [[nodiscard]] ServerCommand Signing() const;
     [[nodiscard]] std::vector<ServerResult> SendFirst(const std::vector<ServerCommand>& commands);
     void WriteOnce(const std::function<void()>& steps);
@@ -110,7 +113,7 @@ private:
     bool m_listens = false;
     bool m_begun = false; // a transaction that the server knows of
     Transaction m_transaction = Transaction::Read;
-    std::string m_number; // of the write's transaction
+    std::string m_number; // of the write's transaction, once it is signed
     std::int64_t m_formerRoundTrips = 0;
     std::map<std::string, std::string, std::less<>> m_storedTexts; // as they were when first asked for
 };
