@@ -5,8 +5,8 @@
 #include "store/CJetDB.h"
 #include "support/OldDatabase.h"
 #include "ui/dialogs/FFirstStart.h"
-#include "ui/dialogs/FServerPassword.h"
 #include "ui/dialogs/FImport.h"
+#include "ui/dialogs/FServerPassword.h"
 
 #include <cstdio>
 #include <QSettings>
