@@ -87,7 +87,7 @@ private:
             ::poll(both.data(), both.size(), 5);
             if (both[0].revents != 0) {
                 const auto size = ::read(client, buffer.data(), buffer.size());
-                if (size <= 0 || ::write(server, buffer.data(), static_cast<std::size_t>(size)) != size) {
+                if (size <= 0 || ::send(server, buffer.data(), static_cast<std::size_t>(size), MSG_NOSIGNAL) != size) {
                     return;
                 }
             }
@@ -109,7 +109,7 @@ private:
         if (left >= 0) {
             m_left = cut ? -1 : left - static_cast<int>(size);
         }
-        return ::write(client, buffer.data(), static_cast<std::size_t>(size)) == size && !cut;
+        return ::send(client, buffer.data(), static_cast<std::size_t>(size), MSG_NOSIGNAL) == size && !cut;
     }
 
     static constexpr int kNever = -2;
