@@ -97,7 +97,7 @@ std::string BackupFolder(const std::string& programFolder)
 
 std::string BackUp(SqliteEngine& database, const std::string& folder, DateTime now, const CopyProgress& progress)
 {
-    const std::string path = NewBackup(folder, now);
+    std::string path = NewBackup(folder, now);
     FileDraft draft(path);
     FillDraft(database, draft, progress);
     draft.PlaceNew();
@@ -107,7 +107,7 @@ std::string BackUp(SqliteEngine& database, const std::string& folder, DateTime n
 std::string BackUp(const std::string& path, const std::string& folder, DateTime now, const CopyProgress& progress)
 {
     if (IsServerAddress(path)) {
-        const std::string backup = NewBackup(folder, now);
+        std::string backup = NewBackup(folder, now);
         BackUpServer(path, backup, progress);
         return backup;
     }

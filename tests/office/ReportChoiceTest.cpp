@@ -46,14 +46,14 @@ TEST(ReportChoiceTest, LooksEmployeesUpByDisplayName)
     CEmployeeList all;
     EmployeeRow row;
     for (const Case& c : {Case{"Ann", "Lee", true}, Case{"", "Zorn", true}, Case{"Ann", "Lee", true}, Case{"", "Administrator", true},
-                          Case{"Admin", "ISTRATORs", true}, Case{"Al", "Late", false}}) {
+                          Case{"Admin", "ISTRATORs", true}, Case{"Al", "Late", false}, Case{"Bo", "Ray", true}}) {
         row.FirstName = c.firstName;
         row.LastName = c.lastName;
         row.EmployeeActive = c.active;
         row.EmployeeID = all.Count() + 1;
         all.Insert(std::make_shared<CEmployee>(row), all.Count() + 1);
     }
-    EXPECT_EQ(OfferedNames(all), (std::vector<std::string>{"Ann Lee", "Zorn", "Ann Lee", "Admin ISTRATORs"}));
+    EXPECT_EQ(OfferedNames(all), (std::vector<std::string>{"Ann Lee", "Zorn", "Ann Lee", "Admin ISTRATORs", "Bo Ray"}));
 
     const std::vector<std::string> names{"Zorn", "Ann Lee", "ann lee", "Administrator", "Ann Lee", "Admin ISTRATORs", "Al Late"};
     const auto ids = [&](ReportWhom whom) {

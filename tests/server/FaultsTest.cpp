@@ -34,7 +34,7 @@ std::string Asked(CJetDB& database, const std::string& sql)
 {
     EXPECT_TRUE(database.OpenDB()) << database.LastFailure().Description();
     const auto rows = database.ExecuteSelect(sql);
-    const std::string shown = rows == nullptr ? database.LastFailure().Description() : rows->Shown(0);
+    std::string shown = rows == nullptr ? database.LastFailure().Description() : rows->Shown(0);
     database.CloseDB();
     return shown;
 }

@@ -14,7 +14,7 @@ from check_overview import faults
 CHANGES = ["INSERT INTO TimeRecord (EmployeeID, StartTime) VALUES (40, '2003-03-05 08:00:00')", "UPDATE TimeRecord SET EndTime = X'00' WHERE TimeRecordID = 1",
            "UPDATE Employee SET PayRate = 12.300000190734863, LastName = '=1+1', Password = 'secret' WHERE EmployeeID = 40",
            "UPDATE Employee SET PayRate = 9e999, LastName = CAST(X'FF41' AS TEXT) || char(0) WHERE EmployeeID = 40", "DELETE FROM TimeRecord WHERE TimeRecordID = 2",
-           "INSERT INTO _Change (ChangedAt, Action, Before) VALUES ('2003-03-05 08:00:00', 'import', 'no JSON')"]
+           "INSERT INTO _Change (ChangedAt, Action, Before, After) VALUES ('2003-03-05 08:00:00', 'import', 'no JSON', '{\"PayRate\":9e999}')"]
 
 
 def main(console, sources):
