@@ -66,7 +66,7 @@ void ProgramList(benchmark::State& state)
 // The shift's last minute, another one each time.
 ptk::DateTime End(std::int32_t save)
 {
-    return ptk::DateTime::FromSeconds(kLastDay.Seconds() + (16 * 60 + save % 60) * 60);
+    return ptk::DateTime::FromSeconds(kLastDay.Seconds() + std::int64_t{16 * 60 + save % 60} * 60);
 }
 
 void BareSaves(benchmark::State& state)

@@ -10,24 +10,34 @@ namespace {
 
 constexpr const char* kTerminal = "/dev/tty";
 
-// Shows nothing of what is typed while it lives.
+constexpr char kInterrupt = 3; // Ctrl+C
+
+// Shows nothing of what is typed while it lives, and lets no key end the program before the terminal is as it was.
 class NoEcho
 {
 public:
     explicit NoEcho(int terminal) : m_terminal(terminal)
     {
-        ::tcgetattr(m_terminal, &m_before);
-        termios quiet = m_before;
-        quiet.c_lflag &= ~static_cast<tcflag_t>(ECHO);
-        ::tcsetattr(m_terminal, TCSAFLUSH, &quiet);
+        m_known = ::tcgetattr(m_terminal, &m_before) == 0;
+        if (m_known) {
+            termios quiet = m_before;
+            quiet.c_lflag &= ~static_cast<tcflag_t>(ECHO | ISIG);
+            ::tcsetattr(m_terminal, TCSAFLUSH, &quiet);
+        }
     }
-    ~NoEcho() { ::tcsetattr(m_terminal, TCSAFLUSH, &m_before); }
+    ~NoEcho()
+    {
+        if (m_known) {
+            ::tcsetattr(m_terminal, TCSAFLUSH, &m_before);
+        }
+    }
     NoEcho(const NoEcho&) = delete;
     NoEcho& operator=(const NoEcho&) = delete;
 
 private:
     int m_terminal;
     termios m_before{};
+    bool m_known = false;
 };
 
 std::optional<std::string> ReadLine(int terminal)
@@ -38,6 +48,9 @@ std::optional<std::string> ReadLine(int terminal)
     while (::read(terminal, &c, 1) == 1) {
         if (c == '\n') {
             return line;
+        }
+        if (c == kInterrupt) {
+            return std::nullopt;
         }
         line += c;
     }

@@ -66,15 +66,20 @@ void RecordPages::ReadAgain()
     }
 }
 
-// Answers what went wrong. Lists that cannot be read are empty afterwards, so the database is asked first. The time card is read last, with
-// the employee's new row.
+// Lists that cannot be read are empty afterwards, so the database is asked first.
+void RecordPages::RequireDatabase() const
+{
+    const auto database = Required(Required(m_frame.host.Controller())->PTKDatabase());
+    RequireOpen(*database);
+    database->CloseDB();
+}
+
+// Answers what went wrong. The time card is read last, with the employee's new row.
 std::string RecordPages::ReadPages(const MovedStep& step)
 {
     const auto read = [&] {
         const BusyPointer busy(m_frame.host.Desktop());
-        const auto database = Required(Required(m_frame.host.Controller())->PTKDatabase());
-        RequireOpen(*database);
-        database->CloseDB();
+        RequireDatabase();
         std::for_each(m_places.rbegin(), m_places.rend(), [&](const Place& place) {
             place.page.ReadAgain(step.table == place.table ? std::optional(step.row) : std::nullopt);
         });
@@ -129,7 +134,10 @@ void RecordPages::ReadIdleLists()
     for (const Place& place : m_places) {
         const auto list = place.page.IdleList();
         if (list && m_frame.host.SharedRecords().IsAnyChanged(*list) && QApplication::activePopupWidget() == nullptr) {
-            Succeeds([&] { place.page.ReadAgain(std::nullopt); });
+            Succeeds([&] {
+                RequireDatabase();
+                place.page.ReadAgain(std::nullopt);
+            });
         }
     }
 }

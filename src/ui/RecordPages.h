@@ -57,6 +57,7 @@ private:
     void LookSoon();
     void Look();
     void ReadIdleLists();
+    void RequireDatabase() const;
     [[nodiscard]] NoticeLine* Line() const;
 
     Frame m_frame;

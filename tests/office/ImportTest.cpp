@@ -178,7 +178,7 @@ TEST_F(ImportTest, TakesADamagedFileOnlyWhenThatIsAccepted)
         const char* sign;
         const char* left;
     };
-    const auto record = [](Builder::Row row) { return [row](OldRows& rows) { rows.records.push_back(row); }; };
+    const auto record = [](const Builder::Row& row) { return [row](OldRows& rows) { rows.records.push_back(row); }; };
     const Case cases[] = {
         {[](OldRows& rows) { rows.lost = 1; }, "TimeRecord: 1 rows read, but the table counts 2", "1|1"},
         {record(Record(1, 6, 9, 10)), "TimeRecord: doubled keys: 1", "1|1"},

@@ -103,7 +103,7 @@ public:
 
     std::string Choose(const std::string& folder) override
     {
-        const std::string file = m_files.empty() ? std::string() : folder + '/' + m_files.front();
+        std::string file = m_files.empty() ? std::string() : folder + '/' + m_files.front();
         m_files.erase(m_files.begin(), m_files.begin() + (m_files.empty() ? 0 : 1));
         return file;
     }

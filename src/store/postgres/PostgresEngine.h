@@ -28,7 +28,7 @@ struct Unhurried
 
 // Failures carry the source "PostgreSQL". The hold is a transaction that only reads, and begins with the first question: what is asked in
 // it is of one moment, and nobody waits for it. A write is a transaction of its own; it waits for those who write the same rows, never for
-// others. Nothing waits for more than five seconds.
+// others. No answer is waited for longer than five seconds.
 //
 // The connection outlives Close. One that was lost is made anew where nothing can have been done over the old one: before an operation's
 // first answer. A write whose end was not heard is asked for over a new connection.
