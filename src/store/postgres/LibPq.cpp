@@ -66,7 +66,6 @@ LibPq Load()
     Find(library, "PQgetisnull", pq.getisnull);
     Find(library, "PQputCopyData", pq.putCopyData);
     Find(library, "PQputCopyEnd", pq.putCopyEnd);
-    Find(library, "PQgetCopyData", pq.getCopyData);
     return pq;
 }
 

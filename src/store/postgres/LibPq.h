@@ -46,7 +46,6 @@ struct LibPq
     decltype(&PQgetisnull) getisnull;
     decltype(&PQputCopyData) putCopyData;
     decltype(&PQputCopyEnd) putCopyEnd;
-    decltype(&PQgetCopyData) getCopyData;
 };
 
 // Raises Failure 14 where the library is not installed.

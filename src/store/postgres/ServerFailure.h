@@ -17,7 +17,6 @@ inline constexpr std::int32_t ReadOnly = 8;
 inline constexpr std::int32_t Interrupted = 9;
 inline constexpr std::int32_t Lost = 10;
 inline constexpr std::int32_t Damaged = 11;
-inline constexpr std::int32_t NotFound = 12;
 inline constexpr std::int32_t DiskFull = 13;
 inline constexpr std::int32_t CannotOpen = 14;
 inline constexpr std::int32_t Constraint = 19;
