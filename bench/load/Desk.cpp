@@ -73,7 +73,7 @@ private:
     {
         bool stored = false;
         Told(operation, [&] {
-            const std::string became = save();
+            std::string became = save();
             stored = became == "done";
             return became;
         });
@@ -121,8 +121,8 @@ private:
         for (int day = 0; day < 5; ++day) {
             const auto record = std::make_shared<ptk::CTimeRecord>();
             record->EmployeeID(employee);
-            record->StartTime(DateTime::FromSeconds(kFrom.AddDays(day).Seconds() + 8 * 3600));
-            record->EndTime(DateTime::FromSeconds(kFrom.AddDays(day).Seconds() + 17 * 3600));
+            record->StartTime(DateTime::FromSeconds(kFrom.AddDays(day).Seconds() + std::int64_t{8} * 3600));
+            record->EndTime(DateTime::FromSeconds(kFrom.AddDays(day).Seconds() + std::int64_t{17} * 3600));
             m_factory.TimeRecordList()->AddNew(record);
         }
         Remember("auto-fill", [&] {

@@ -7,7 +7,6 @@ namespace ptk {
 namespace {
 
 constexpr int kName = 0;
-constexpr int kProblems = 5;
 
 // Ann Lee (40) and her namesake (41), whose shift has no end; Bo Kim (42), whose shift ends before it starts, twice. Today is 5 March 2003.
 void AddStaff(BulkWriter& writer)

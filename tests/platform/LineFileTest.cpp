@@ -123,7 +123,7 @@ TEST(LineFileTest, KeepsItsFilesForTheirOwner)
         linefile::Close(number);
         return ModeOf(folder.Path() + name);
     };
-    for (const mode_t mask : {0, 0777}) {
+    for (const mode_t mask : {mode_t{0}, mode_t{0777}}) {
         ::umask(mask);
         EXPECT_EQ(open("/written" + std::to_string(mask), linefile::Mode::Write), 0600);
         EXPECT_EQ(open("/appended" + std::to_string(mask), linefile::Mode::Append), 0600);

@@ -6,7 +6,7 @@
 #include "support/CuttingProxy.h"
 #include "support/Failures.h"
 #include "support/NewServerDatabase.h"
-#include "support/Sources.h"
+#include "support/OwnServer.h"
 
 #include <gtest/gtest.h>
 
@@ -158,34 +158,6 @@ TEST(ServerFaults, ALineThatIsCutLosesAndDoublesNothing)
     EXPECT_EQ(Asked(*database, "SELECT COUNT(*) FROM TimeRecord"), std::to_string(stored)) << "reading goes on over a new line";
 }
 
-// A server of the test's own, which takes the place of the others' while this lives, and ends with it.
-class OwnServer
-{
-public:
-    OwnServer()
-    {
-        Do("start");
-        ::setenv("PTK_TEST_SERVER", (m_folder.Path() + "/own/socket").c_str(), 1);
-    }
-    ~OwnServer()
-    {
-        Do("stop");
-        ::setenv("PTK_TEST_SERVER", m_before.c_str(), 1);
-    }
-    OwnServer(const OwnServer&) = delete;
-    OwnServer& operator=(const OwnServer&) = delete;
-
-    void Do(const char* step) const
-    {
-        EXPECT_EQ(std::system(fmt::format("{}/tests/support/server_cluster {} {}/own", SourceFolder(), step, m_folder.Path()).c_str()), 0)
-            << step;
-    }
-
-private:
-    const TemporaryFolder m_folder;
-    const std::string m_before = TestServer();
-};
-
 // At random moments of several people's saves the server dies and comes back. What it forgets then, numbers of transactions included, it
 // gives to the next who comes.
 TEST(ServerFaults, AServerThatIsKilledLosesNothing)
@@ -196,8 +168,8 @@ TEST(ServerFaults, AServerThatIsKilledLosesNothing)
         std::mt19937 random(7);
         while (!stop.stop_requested()) {
             std::this_thread::sleep_for(std::chrono::milliseconds(random() % 300));
-            own.Do("kill");
-            own.Do("restart");
+            EXPECT_TRUE(own.Do("kill"));
+            EXPECT_TRUE(own.Do("restart"));
         }
     });
     std::atomic<int> stored = 0;

@@ -60,6 +60,7 @@ TEST(BackupNamesTest, TheOnesToGoAreThoseThatNoRuleKeeps)
     EXPECT_TRUE(DispensableBackups(others, newest).empty());
 
     std::vector<std::string> hours;
+    hours.reserve(20);
     for (int hour = 0; hour < 20; ++hour) {
         hours.push_back(BackupName(DateTime({2026, 3, 11}, {hour, 0, 0})));
     }
@@ -234,7 +235,7 @@ TEST_F(BackupsTest, ACopyInASecondFolderIsKeptByTheSameRule)
     const std::string second = m_folder.Path() + "/second";
     std::filesystem::create_directory(second);
     for (const std::string& name : Noons(0, 40)) {
-        WriteBytes(second + '/' + name, "old");
+        WriteBytes(std::string(second).append("/").append(name), "old");
     }
     const std::string file = BackUp(Path(), Folder(), ToDateTime("3/11/2026 13:00"));
     CopyBackup(file, second);

@@ -12,13 +12,12 @@
 
 namespace ptk {
 
-// The folder of the socket of the server that CTest starts. Without CTest: tests/support/server_cluster start DIR, and
-// PTK_TEST_SERVER=DIR/socket.
+// The folder of the socket of the server that CTest, or the test program itself, started.
 inline std::string TestServer()
 {
     const char* const folder = std::getenv("PTK_TEST_SERVER");
     if (folder == nullptr) {
-        throw std::runtime_error("no server: run tests/support/server_cluster start DIR and set PTK_TEST_SERVER=DIR/socket");
+        throw std::runtime_error("PTK_TEST_SERVER names no server's socket");
     }
     return folder;
 }

@@ -144,7 +144,7 @@ void TakeRestore(GuiProgram& program, const Photographer& photographer)
     QDir(folder).removeRecursively();
     const auto take = [&](const QString& name) {
         const ModalScript script([&](QDialog& window) {
-            while (Find<QTableWidget>(window, "grdBackups").findItems("checking...", Qt::MatchExactly).size() > 0) {
+            while (!Find<QTableWidget>(window, "grdBackups").findItems("checking...", Qt::MatchExactly).empty()) {
                 QCoreApplication::processEvents();
             }
             photographer.TakeSizes(window, name);

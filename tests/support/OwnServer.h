@@ -1,0 +1,56 @@
+// A server of a test's own, which takes the place of the others' while this lives, and ends with it.
+#pragma once
+
+#include "support/Sources.h"
+#include "support/TemporaryFolder.h"
+
+#include <fmt/format.h>
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <stdexcept>
+#include <string>
+
+namespace ptk {
+
+class OwnServer
+{
+public:
+    OwnServer()
+    {
+        if (!Do("start")) {
+            throw std::runtime_error("no server for the tests");
+        }
+        ::setenv("PTK_TEST_SERVER", (m_folder.Path() + "/own/socket").c_str(), 1);
+    }
+    ~OwnServer()
+    {
+        EXPECT_TRUE(Do("stop"));
+        if (m_before.empty()) {
+            ::unsetenv("PTK_TEST_SERVER");
+        } else {
+            ::setenv("PTK_TEST_SERVER", m_before.c_str(), 1);
+        }
+    }
+    OwnServer(const OwnServer&) = delete;
+    OwnServer& operator=(const OwnServer&) = delete;
+
+    // A step of tests/support/server_cluster; false, with the reason on the terminal, where it fails.
+    [[nodiscard]] bool Do(const char* step) const
+    {
+        const auto command = fmt::format("{}/tests/support/server_cluster {} {}/own", SourceFolder(), step, m_folder.Path());
+        return std::system(command.c_str()) == 0;
+    }
+
+private:
+    static std::string Before()
+    {
+        const char* const folder = std::getenv("PTK_TEST_SERVER");
+        return folder == nullptr ? "" : folder;
+    }
+
+    const TemporaryFolder m_folder;
+    const std::string m_before = Before();
+};
+
+} // namespace ptk
