@@ -1,5 +1,8 @@
 #include "office/SampleBusiness.h"
 
+#include "platform/Text.h"
+
+#include <fmt/format.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -64,6 +67,37 @@ TEST(SampleBusinessTest, HoldsTheUsualIrregularities)
     EXPECT_GT(overtime, 20);
     EXPECT_GT(overMidnight, 50);
     EXPECT_GT(splitDays, 100);
+}
+
+// The guide's figures and pictures are the sample's, everywhere and in every version.
+TEST(SampleBusinessTest, IsTheSameBusinessEverywhere)
+{
+    std::string staff;
+    for (const SampleEmployee& employee : SampleEmployees(kToday)) {
+        const EmployeeRow& row = employee.row;
+        std::int64_t minutes = 0;
+        auto shifts = SampleShifts(employee, 1, kToday);
+        AddIrregularities(employee, shifts, kToday);
+        for (const TimeRecordRow& shift : shifts) {
+            minutes += IsOpen(shift) ? 0 : MinutesBetween(shift.StartTime, shift.EndTime);
+        }
+        staff +=
+            fmt::format("{} of {}, born {}, hired {}: {:.2f} and {:.2f}, off {} + {}; {} shifts, {} minutes\n", row.EmployeeNumber,
+                        row.CompanyID, FormatDateTime(row.DateOfBirth, "mm/dd/yyyy"), FormatDateTime(row.HireDate, "mm/dd/yyyy"),
+                        row.PayRate, row.OvertimePayRate, row.AutoDeductLunchLength, row.AutoDeductBreakLength, shifts.size(), minutes);
+    }
+    EXPECT_EQ(staff, "101 of 1, born 05/17/1992, hired 03/01/2020: 18.50 and 27.75, off 0 + 0; 124 shifts, 65694 minutes\n"
+                     "102 of 1, born 11/02/1975, hired 03/11/2012: 24.00 and 36.00, off 30 + 15; 126 shifts, 68499 minutes\n"
+                     "103 of 1, born 02/28/1984, hired 03/20/2022: 17.25 and 0.00, off 0 + 0; 248 shifts, 63488 minutes\n"
+                     "104 of 1, born 08/09/1987, hired 09/29/2023: 19.80 and 29.70, off 30 + 0; 124 shifts, 61073 minutes\n"
+                     "105 of 1, born 06/30/1997, hired 06/03/2024: 21.40 and 32.10, off 60 + 0; 126 shifts, 67315 minutes\n"
+                     "106 of 1, born 01/21/1965, hired 10/12/2009: 16.00 and 24.00, off 0 + 0; 83 shifts, 43915 minutes\n"
+                     "107 of 1, born 09/14/2003, hired 05/14/2025: 12.30 and 18.45, off 0 + 0; 77 shifts, 18419 minutes\n"
+                     "201 of 2, born 03/03/1990, hired 04/27/2021: 17.90 and 26.85, off 30 + 10; 127 shifts, 66006 minutes\n"
+                     "202 of 2, born 12/24/1999, hired 06/26/2023: 15.75 and 23.63, off 0 + 0; 127 shifts, 65795 minutes\n"
+                     "203 of 2, born 07/07/1979, hired 07/30/2018: 16.40 and 24.60, off 0 + 15; 256 shifts, 64624 minutes\n"
+                     "204 of 2, born 10/12/1995, hired 01/24/2025: 15.00 and 22.50, off 30 + 0; 125 shifts, 67388 minutes\n"
+                     "205 of 2, born 04/19/2006, hired 06/18/2025: 13.50 and 20.25, off 0 + 0; 152 shifts, 66941740 minutes\n");
 }
 
 TEST(SampleBusinessTest, IsTheSameForTheSameDayOnly)

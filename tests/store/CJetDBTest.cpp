@@ -429,6 +429,10 @@ TEST_F(CJetDBTest, AStaleNumberEndsACompanyLoadButNoEmployeeLoad)
     Employees employees;
     EXPECT_TRUE(m_database.LoadEmployeeList(employees));
     EXPECT_EQ(m_database.ErrorNumber(), jetdb::NoDatabase);
+    Run("INSERT INTO Company (Name) VALUES (X'FF00')");
+    CJetDB broken(m_folder.Path());
+    EXPECT_FALSE(broken.LoadCompanyList(companies)) << "a name that is none";
+    EXPECT_EQ(broken.ErrorNumber(), jetdb::ListingFailed);
     Run("DROP TABLE Company");
     EXPECT_FALSE(CJetDB(m_folder.Path()).LoadCompanyList(companies));
 }
