@@ -86,10 +86,11 @@ void PostgresEngine::Connect()
     m_line.reset();
     m_begun = false;
     m_listens = false;
-    m_line = std::make_unique<ServerLine>(m_address, m_patience);
+    auto line = std::make_unique<ServerLine>(m_address, m_patience);
     if (m_checks) {
-        RequireStructure(*m_line);
+        RequireStructure(*line);
     }
+    m_line = std::move(line);
 }
 
 // Outside a transaction: one that is not known to be lost.

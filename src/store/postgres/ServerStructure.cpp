@@ -65,9 +65,6 @@ void RequireStructure(ServerLine& line)
     try {
         BringUpToDate(line);
     } catch (const ServerFailure& failure) {
-        if (!failure.IsLost()) {
-            line.RunScript("ROLLBACK");
-        }
         throw ServerFailure(engine::NoDatabase,
                             "the server's database is of an earlier version and must be brought up to date by its owner: " +
                                 failure.Description());
