@@ -1,11 +1,8 @@
 #include "office/CardFindings.h"
 
-#include "model/CTimeRecord.h"
-#include "office/CardRecords.h"
 #include "office/CheckedTimecard.h"
 #include "office/HoursColumns.h"
 #include "platform/Text.h"
-#include "store/RowConflict.h"
 
 #include <gtest/gtest.h>
 
@@ -108,38 +105,6 @@ TEST(CardFindingsTest, SayOnWhichDaysARecordLiesThatIsNotOnTheCard)
     CheckedTimecard checked = Checked();
     checked.punches.at(0).end.reset();
     EXPECT_EQ(PlaceOf(FindingOf(FindingKind::Unreadable, {5}), checked).text, "It has no day that can be read.");
-}
-
-TEST(CardFindingsTest, MakeARecordToEditOfWhatCanBeRead)
-{
-    Punch punch = PunchOf(12, "3/2/2026 8:00", "", true);
-    punch.end.reset();
-    const auto record = RecordToEdit(punch, 40);
-    ASSERT_NE(record, nullptr);
-    EXPECT_EQ(record->TimeRecordID(), 12);
-    EXPECT_EQ(record->EmployeeID(), 40);
-    EXPECT_EQ(record->StartTime(), ToDateTime("3/2/2026 8:00"));
-    EXPECT_TRUE(record->EndTime().IsZero());
-    EXPECT_EQ(record->ObjectState(), state::Unchanged) << "Cancel stores nothing";
-    punch.id = 2147483648;
-    EXPECT_EQ(RecordToEdit(punch, 40), nullptr);
-}
-
-// What is offered is what is stored now: a record that became another employee's is not, one that is gone becomes a new one.
-TEST(CardRecordsTest, OfferTheStoredRecordAfterAConflict)
-{
-    const auto refused = RecordToEdit(PunchOf(12, "3/2/2026 8:00", "3/2/2026 17:00", true), 40);
-    const auto offered = [&](std::vector<FieldDifference> differences) {
-        return RecordToTryAgain(*refused, {"TimeRecord", 12, std::move(differences)});
-    };
-    const auto later = offered({{"StartTime", "", "03/02/2026 09:00:00 AM"}, {"EndTime", "", "03/02/2026 06:00:00 PM"}});
-    ASSERT_NE(later, nullptr);
-    EXPECT_EQ(later->TimeRecordID(), 12);
-    EXPECT_EQ(later->StartTime(), ToDateTime("3/2/2026 9:00"));
-    EXPECT_EQ(later->EndTime(), ToDateTime("3/2/2026 18:00"));
-    EXPECT_EQ(later->ObjectState(), state::Unchanged);
-    EXPECT_EQ(offered({{"EndTime", "", "03/02/2026 06:00:00 PM"}, {"EmployeeID", "40", "41"}}), nullptr);
-    EXPECT_EQ(offered({})->ObjectState(), state::New);
 }
 
 // Sunday 1 March to Tuesday 10 March 2026, weeks from Monday: the first one began on 23 February.
