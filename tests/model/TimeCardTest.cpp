@@ -187,6 +187,7 @@ TEST_F(TimeCardTest, RendersTheWholeCard)
     EXPECT_EQ(card.ToString(), "\r\n" + summary);
     employee->PayRate(99);
     EXPECT_EQ(card.RegularPay(), 99) << "a rate, read live";
+    EXPECT_EQ(card.OvertimePay(), 15);
     EXPECT_NE(card.GetTimeRecordByKey(At(4, 8), At(4, 12)), nullptr);
     EXPECT_EQ(card.ErrorNumber(), 0);
     EXPECT_EQ(card.GetTimeRecordByKey(At(4, 8), At(4, 13)), nullptr);
