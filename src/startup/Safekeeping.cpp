@@ -4,6 +4,7 @@
 #include "platform/Desktop.h"
 #include "platform/Succeeds.h"
 #include "startup/Windows.h"
+#include "store/engine/EngineNumber.h"
 #include "store/engine/EngineSource.h"
 #include "store/postgres/ServerAddress.h"
 
@@ -27,15 +28,10 @@ constexpr auto kRestoreTitle = "Restore Error";
 constexpr auto kNotRestored = "The database could not be restored and is what it was: ";
 constexpr auto kRestored = "Restored from ";
 
-// The engine's numbers.
-constexpr std::int32_t kDamaged = 11;
-constexpr std::int32_t kMissing = 14;
-constexpr std::int32_t kNoDatabase = 26;
-
 bool IsUseless(const Failure& reason)
 {
     const std::int32_t number = reason.Number();
-    return IsOfDatabase(reason) && (number == kDamaged || number == kMissing || number == kNoDatabase);
+    return IsOfDatabase(reason) && (number == engine::Damaged || number == engine::CannotOpen || number == engine::NoDatabase);
 }
 
 std::string NameOf(const std::string& path)

@@ -3,6 +3,7 @@
 #include "platform/FileDraft.h"
 #include "store/BackupNames.h"
 #include "store/Backups.h"
+#include "store/engine/EngineNumber.h"
 #include "store/engine/EngineSource.h"
 #include "store/FileSteps.h"
 #include "store/postgres/ServerAddress.h"
@@ -20,13 +21,10 @@ namespace fs = std::filesystem;
 
 constexpr const char* kBeside[] = {"-journal", "-wal", "-shm"}; // where the engine keeps what it has not finished
 
-// The engine's numbers for a file that is there and of no use as a database.
-constexpr std::int32_t kCorrupt = 11;
-constexpr std::int32_t kNoDatabase = 26;
-
+// Of a file that is there and of no use as a database.
 bool IsSpoiled(const Failure& failure)
 {
-    return IsOfDatabase(failure) && (failure.Number() == kCorrupt || failure.Number() == kNoDatabase);
+    return IsOfDatabase(failure) && (failure.Number() == engine::Damaged || failure.Number() == engine::NoDatabase);
 }
 
 void AddEntry(SqliteEngine& restored, const RestoreOrder& order)

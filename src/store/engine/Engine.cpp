@@ -2,15 +2,10 @@
 
 #include "platform/Failure.h"
 #include "store/engine/Dialect.h"
+#include "store/engine/EngineNumber.h"
 #include "store/engine/RecordSet.h"
 
 namespace ptk {
-
-namespace {
-
-constexpr std::int32_t kNotFound = 12;
-
-} // namespace
 
 // The queries' texts are part of the database, so that one of other tables can bring queries that fit them.
 std::string Engine::StoredText(std::string_view query)
@@ -19,7 +14,7 @@ std::string Engine::StoredText(std::string_view query)
     search->Bind("name", std::string(query));
     const auto found = search->ReadRows();
     if (found->EndOfFile()) {
-        throw Failure(kNotFound, "PTK", "there is no stored query " + std::string(query));
+        throw Failure(engine::NotFound, "PTK", "there is no stored query " + std::string(query));
     }
     return std::string(found->TextAt(0));
 }

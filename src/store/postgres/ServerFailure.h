@@ -2,28 +2,12 @@
 #pragma once
 
 #include "platform/Failure.h"
+#include "store/engine/EngineNumber.h"
 
 #include <string>
 #include <string_view>
 
 namespace ptk {
-
-// The numbers of the file's engine, which the program's log and boxes have always shown.
-namespace engine {
-inline constexpr std::int32_t Refused = 1; // a statement that means nothing
-inline constexpr std::int32_t Busy = 5;
-inline constexpr std::int32_t NoMemory = 7;
-inline constexpr std::int32_t ReadOnly = 8;
-inline constexpr std::int32_t Interrupted = 9;
-inline constexpr std::int32_t Lost = 10;
-inline constexpr std::int32_t Damaged = 11;
-inline constexpr std::int32_t DiskFull = 13;
-inline constexpr std::int32_t CannotOpen = 14;
-inline constexpr std::int32_t Constraint = 19;
-inline constexpr std::int32_t Misuse = 21;
-inline constexpr std::int32_t Parameter = 25;
-inline constexpr std::int32_t NoDatabase = 26;
-} // namespace engine
 
 // Source "PostgreSQL".
 class ServerFailure : public Failure
