@@ -53,6 +53,20 @@ TEST_F(SafekeepingTest, OneIsMadeAtTheDaysFirstLoginAndAfterChangesOnly)
     EXPECT_TRUE(desktop.boxes.empty());
 }
 
+TEST_F(SafekeepingTest, OneIsDueOnEveryDayAnew)
+{
+    const auto today = DateTime({2003, 3, 5});
+    EXPECT_TRUE(BackupIsDue(folder.Path(), today)) << "no folder yet";
+    fs::create_directory(Folder());
+    for (const auto& [name, due] :
+         {std::pair{"notes.txt", true}, {"ptk_11-2003-03-04-235959.mdb", true}, {"ptk_11-2003-03-05-000000.mdb", false}}) {
+        WriteBytes(Folder() + '/' + name, "");
+        EXPECT_EQ(BackupIsDue(folder.Path(), today), due) << name;
+    }
+    EXPECT_TRUE(BackupIsDue(folder.Path(), today.AddDays(1)));
+    EXPECT_FALSE(BackupIsDue(folder.Path(), today.AddDays(-1))) << "made by a clock that was ahead";
+}
+
 TEST_F(SafekeepingTest, AFailureIsToldAndHoldsNothingUp)
 {
     Start();
