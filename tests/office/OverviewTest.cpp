@@ -73,6 +73,17 @@ protected:
     std::shared_ptr<CTimeRecordFactory> m_factory = std::make_shared<CTimeRecordFactory>();
 };
 
+TEST(OfferedEmployeesTest, AreAllActiveOnesFromTheFirstToTheLast)
+{
+    EmployeeRow gone = Worker("Bo", "Brown");
+    gone.EmployeeActive = false;
+    CEmployeeList list;
+    for (const EmployeeRow& row : {Worker("Ann", "Abel"), gone, Worker("", "administrator"), Worker("Cy", "Young")}) {
+        list.Insert(std::make_shared<CEmployee>(row), list.Count() + 1);
+    }
+    EXPECT_EQ(OfferedEmployees(list), (Employees{list.Item(1), list.Item(4)}));
+}
+
 TEST_F(OverviewTest, ReadsOneRowAnOfferedEmployeeInTheListsOrder)
 {
     Overview overview{kPeriod, kNow, {}, {}};
