@@ -2,6 +2,7 @@
 #include "platform/Text.h"
 #include "store/CJetDB.h"
 #include "store/engine/RecordSet.h"
+#include "store/postgres/PostgresEngine.h"
 #include "store/postgres/ServerAddress.h"
 #include "support/CuttingProxy.h"
 #include "support/Failures.h"
@@ -156,6 +157,27 @@ TEST(ServerFaults, ALineThatIsCutLosesAndDoublesNothing)
     EXPECT_FALSE(proxy.WasCut()) << "the answer to the commit was cut, too: the last answers came whole";
     proxy.CutAfter(5);
     EXPECT_EQ(Asked(*database, "SELECT COUNT(*) FROM TimeRecord"), std::to_string(stored)) << "reading goes on over a new line";
+}
+
+// While the line was away, a newer program brought the database up to date: the new line is refused each time, not only at first.
+TEST(ServerFaults, ALineMadeAnewIsJudgedBeforeItIsUsed)
+{
+    const NewServerDatabase server;
+    CuttingProxy proxy;
+    PostgresEngine opened(fmt::format("{}&host={}", server.Address(), proxy.Folder()));
+    const auto count = [&] { opened.Prepare("SELECT COUNT(*) FROM TimeRecord")->ReadRows(); };
+    count();
+    opened.Close();
+    server.Run("UPDATE _Structure SET version = 3");
+    proxy.CutAfter(0);
+    for (int tried = 0; tried < 2; ++tried) {
+        EXPECT_EQ(FailureOf([&] {
+                      opened.Reopen();
+                      count();
+                  }),
+                  engine::NoDatabase)
+            << tried;
+    }
 }
 
 // At random moments of several people's saves the server dies and comes back. What it forgets then, numbers of transactions included, it
