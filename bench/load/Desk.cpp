@@ -5,7 +5,7 @@
 #include "model/CTimeRecord.h"
 #include "model/CTimeRecordFactory.h"
 #include "model/CTimeRecordList.h"
-#include "office/UndoStack.h"
+#include "office/records/UndoStack.h"
 #include "store/CJetDB.h"
 
 #include <chrono>

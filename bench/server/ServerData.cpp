@@ -1,8 +1,8 @@
 #include "server/ServerData.h"
 
-#include "platform/Text.h"
+#include "platform/text/Text.h"
 #include "server/BareServer.h"
-#include "store/DatabaseCreator.h"
+#include "store/whole/DatabaseCreator.h"
 
 #include <fmt/format.h>
 

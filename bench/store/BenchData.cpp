@@ -1,7 +1,7 @@
 #include "store/BenchData.h"
 
-#include "platform/Text.h"
-#include "store/DatabaseCreator.h"
+#include "platform/text/Text.h"
+#include "store/whole/DatabaseCreator.h"
 
 #include <filesystem>
 #include <fmt/format.h>

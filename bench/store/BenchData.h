@@ -1,7 +1,7 @@
 // Database files to measure on: made once below a folder and kept.
 #pragma once
 
-#include "platform/DateTime.h"
+#include "platform/text/DateTime.h"
 
 #include <cstdint>
 #include <string>

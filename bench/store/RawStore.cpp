@@ -1,6 +1,6 @@
 #include "store/RawStore.h"
 
-#include "platform/Text.h"
+#include "platform/text/Text.h"
 
 #include <cstring>
 #include <fmt/format.h>

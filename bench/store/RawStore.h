@@ -1,7 +1,7 @@
 // The same work as the program's, written directly against the engine's C interface: what every figure is compared with.
 #pragma once
 
-#include "platform/DateTime.h"
+#include "platform/text/DateTime.h"
 
 #include <cstdint>
 #include <string>

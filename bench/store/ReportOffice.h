@@ -4,8 +4,8 @@
 #include "model/CEmployee.h"
 #include "model/CEmployeeList.h"
 #include "model/CTimeRecordFactory.h"
-#include "platform/Clock.h"
-#include "platform/Desktop.h"
+#include "platform/system/Clock.h"
+#include "platform/system/Desktop.h"
 #include "reports/Report.h"
 #include "store/CJetDB.h"
 

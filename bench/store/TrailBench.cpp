@@ -1,8 +1,8 @@
 // The edit trail's history and backups, beside the raw engine on the same files.
-#include "office/History.h"
-#include "office/HistoryReading.h"
-#include "platform/Text.h"
-#include "store/Backups.h"
+#include "office/history/History.h"
+#include "office/history/HistoryReading.h"
+#include "platform/text/Text.h"
+#include "store/backup/Backups.h"
 #include "store/BenchData.h"
 #include "store/CJetDB.h"
 #include "store/RawStore.h"

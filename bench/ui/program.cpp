@@ -5,12 +5,12 @@
 //   save      one employee changed and saved, until every list is filled again
 //   viewer    a report of FOLDER (here a text file) from its first line until its viewer is painted
 #include "Painted.h"
-#include "platform/Clock.h"
+#include "platform/system/Clock.h"
 #include "startup/AdminMain.h"
 #include "startup/CController.h"
-#include "ui/dialogs/ReportViewerWindow.h"
-#include "ui/QtDesktop.h"
-#include "ui/QtWindowFactory.h"
+#include "ui/frame/QtDesktop.h"
+#include "ui/frame/QtWindowFactory.h"
+#include "ui/reports/ReportViewerWindow.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>

@@ -1,16 +1,16 @@
 // ptk-admin: the windows over the start-up.
-#include "platform/Clock.h"
-#include "platform/Process.h"
-#include "platform/ProgramFolder.h"
-#include "platform/Version.h"
+#include "platform/files/ProgramFolder.h"
+#include "platform/system/Clock.h"
+#include "platform/system/Process.h"
+#include "platform/system/Version.h"
 #include "shell/CError.h"
 #include "startup/AdminMain.h"
 #include "store/postgres/ServerAddress.h"
-#include "ui/dialogs/FFirstStart.h"
-#include "ui/dialogs/FServerPassword.h"
-#include "ui/LastWindow.h"
-#include "ui/QtDesktop.h"
-#include "ui/QtWindowFactory.h"
+#include "ui/frame/LastWindow.h"
+#include "ui/frame/QtDesktop.h"
+#include "ui/frame/QtWindowFactory.h"
+#include "ui/login/FServerPassword.h"
+#include "ui/safety/FFirstStart.h"
 
 #include <algorithm>
 #include <cstdio>

@@ -1,8 +1,8 @@
 #include "console/Arguments.h"
 
-#include "office/OldFile.h"
-#include "platform/Text.h"
-#include "platform/Version.h"
+#include "office/import/OldFile.h"
+#include "platform/system/Version.h"
+#include "platform/text/Text.h"
 
 #include <CLI/CLI.hpp>
 

@@ -1,9 +1,9 @@
 // The command line of ptk-console, read and checked.
 #pragma once
 
-#include "platform/DateTime.h"
+#include "platform/text/DateTime.h"
+#include "reports/forms/ReportForms.h"
 #include "reports/ReportCatalog.h"
-#include "reports/ReportForms.h"
 
 #include <optional>
 #include <string>

@@ -3,9 +3,9 @@
 #include "console/Console.h"
 #include "console/ErrorText.h"
 #include "console/Session.h"
-#include "platform/ProgramFolder.h"
+#include "platform/files/ProgramFolder.h"
 #include "shell/CDatabaseLocator.h"
-#include "store/DatabaseChecker.h"
+#include "store/whole/DatabaseChecker.h"
 
 namespace ptk {
 

@@ -1,7 +1,7 @@
 #include "console/ConsoleDesktop.h"
 
 #include "console/Console.h"
-#include "platform/SystemShell.h"
+#include "platform/system/SystemShell.h"
 
 #include <ostream>
 

@@ -1,7 +1,7 @@
 // The desktop of a program without windows: boxes become lines on a stream.
 #pragma once
 
-#include "platform/Desktop.h"
+#include "platform/system/Desktop.h"
 
 #include <iosfwd>
 

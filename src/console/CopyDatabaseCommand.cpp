@@ -2,10 +2,10 @@
 #include "console/Commands.h"
 #include "console/Console.h"
 #include "console/Session.h"
-#include "platform/ProgramFolder.h"
+#include "platform/files/ProgramFolder.h"
 #include "shell/CDatabaseLocator.h"
-#include "store/DatabaseCopier.h"
 #include "store/postgres/ServerAddress.h"
+#include "store/whole/DatabaseCopier.h"
 
 #include <fmt/format.h>
 

@@ -3,12 +3,12 @@
 #include "console/Console.h"
 #include "console/ErrorText.h"
 #include "console/Session.h"
-#include "office/SampleBusiness.h"
-#include "platform/Clock.h"
-#include "platform/ProgramFolder.h"
+#include "office/business/SampleBusiness.h"
+#include "platform/files/ProgramFolder.h"
+#include "platform/system/Clock.h"
 #include "shell/CDatabaseLocator.h"
-#include "store/BulkWriter.h"
-#include "store/DatabaseCreator.h"
+#include "store/whole/BulkWriter.h"
+#include "store/whole/DatabaseCreator.h"
 
 namespace ptk {
 

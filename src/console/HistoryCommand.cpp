@@ -3,9 +3,9 @@
 #include "console/Console.h"
 #include "console/ErrorText.h"
 #include "console/Session.h"
-#include "office/History.h"
+#include "office/history/History.h"
 #include "platform/ErrorNumbers.h"
-#include "platform/ProgramFolder.h"
+#include "platform/files/ProgramFolder.h"
 
 namespace ptk {
 

@@ -4,9 +4,9 @@
 #include "console/Console.h"
 #include "console/ErrorText.h"
 #include "console/Session.h"
-#include "office/Import.h"
-#include "platform/Clock.h"
-#include "platform/ProgramFolder.h"
+#include "office/import/Import.h"
+#include "platform/files/ProgramFolder.h"
+#include "platform/system/Clock.h"
 #include "shell/CDatabaseLocator.h"
 #include "store/engine/EngineSource.h"
 

@@ -5,9 +5,9 @@
 #include "console/Session.h"
 #include "model/CEmployeeList.h"
 #include "model/CTimeCard.h"
-#include "office/Overview.h"
-#include "office/OverviewTexts.h"
-#include "platform/Clock.h"
+#include "office/overview/Overview.h"
+#include "office/overview/OverviewTexts.h"
+#include "platform/system/Clock.h"
 
 namespace ptk {
 

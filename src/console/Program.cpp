@@ -3,8 +3,8 @@
 #include "console/Arguments.h"
 #include "console/Commands.h"
 #include "console/Console.h"
-#include "platform/Clock.h"
-#include "platform/ProgramFolder.h"
+#include "platform/files/ProgramFolder.h"
+#include "platform/system/Clock.h"
 
 namespace ptk {
 

@@ -7,14 +7,14 @@
 #include "console/TerminalViewer.h"
 #include "console/Transcript.h"
 #include "model/CEmployeeList.h"
-#include "office/ReportChoice.h"
-#include "office/ReportRunner.h"
-#include "platform/Clock.h"
-#include "platform/FileDraft.h"
-#include "platform/ProgramFolder.h"
+#include "office/reports/ReportChoice.h"
+#include "office/reports/ReportRunner.h"
+#include "platform/files/FileDraft.h"
+#include "platform/files/ProgramFolder.h"
 #include "platform/Succeeds.h"
+#include "platform/system/Clock.h"
+#include "reports/forms/ReportForms.h"
 #include "reports/Report.h"
-#include "reports/ReportForms.h"
 
 #include <algorithm>
 

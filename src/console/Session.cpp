@@ -3,7 +3,7 @@
 #include "console/ErrorText.h"
 #include "model/CEmployeeList.h"
 #include "model/CTimeRecordFactory.h"
-#include "platform/ProgramFolder.h"
+#include "platform/files/ProgramFolder.h"
 #include "shell/CDatabaseLocator.h"
 #include "shell/CFileAdaptor.h"
 #include "store/CJetDB.h"

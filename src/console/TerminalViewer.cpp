@@ -2,7 +2,7 @@
 
 #include "console/Console.h"
 #include "console/Transcript.h"
-#include "platform/ProgramFolder.h"
+#include "platform/files/ProgramFolder.h"
 #include "reports/Report.h"
 
 namespace ptk {

@@ -1,7 +1,7 @@
 // The console's report viewers: a shown report is printed or kept, and the file that it was written to, if any, is named beside it.
 #pragma once
 
-#include "reports/ReportDocument.h"
+#include "reports/forms/ReportDocument.h"
 #include "reports/ReportViewer.h"
 
 #include <string>

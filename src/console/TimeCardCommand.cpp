@@ -3,11 +3,11 @@
 #include "console/Console.h"
 #include "console/ErrorText.h"
 #include "console/Session.h"
+#include "model/check/FindingText.h"
 #include "model/CTimeCard.h"
-#include "model/FindingText.h"
-#include "office/CheckedTimecard.h"
-#include "office/OverviewTexts.h"
-#include "platform/Clock.h"
+#include "office/card/CheckedTimecard.h"
+#include "office/overview/OverviewTexts.h"
+#include "platform/system/Clock.h"
 
 namespace ptk {
 

@@ -7,8 +7,8 @@ namespace ptk {
 
 namespace {
 
-constexpr StoreCalls<CompanyRow> kCalls{&CJetDB::AddNewCompany, &CJetDB::UpdateCompany, &CJetDB::UpdateCompany, &CJetDB::DeleteCompany,
-                                        company::SaveFailed};
+constexpr StoreCalls<CompanyRow> kCompanyCalls{&CJetDB::AddNewCompany, &CJetDB::UpdateCompany, &CJetDB::UpdateCompany,
+                                               &CJetDB::DeleteCompany, company::SaveFailed};
 
 } // namespace
 
@@ -16,7 +16,7 @@ CCompany::CCompany(CompanyRow row) : RowEntity(std::move(row)) {}
 
 bool CCompany::Save(const std::shared_ptr<CJetDB>& thedatabase)
 {
-    return SaveRow(thedatabase, &CompanyRow::CompanyID, kCalls);
+    return SaveRow(thedatabase, &CompanyRow::CompanyID, kCompanyCalls);
 }
 
 std::string CCompany::ToString()

@@ -3,7 +3,7 @@
 
 #include "model/Entity.h"
 #include "platform/ErrorNumbers.h"
-#include "store/Rows.h"
+#include "store/rows/Rows.h"
 
 #include <cstdint>
 #include <memory>

@@ -1,7 +1,7 @@
 #include "model/CDateRange.h"
 
 #include "platform/Succeeds.h"
-#include "platform/Text.h"
+#include "platform/text/Text.h"
 
 namespace ptk {
 

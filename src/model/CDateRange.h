@@ -1,9 +1,9 @@
 // A range of dates with limits, which can be checked, counted, and written as one line of text.
 #pragma once
 
-#include "platform/DateTime.h"
 #include "platform/ErrorNumbers.h"
-#include "platform/Value.h"
+#include "platform/text/DateTime.h"
+#include "platform/text/Value.h"
 
 #include <cstdint>
 #include <optional>

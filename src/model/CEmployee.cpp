@@ -1,15 +1,15 @@
 #include "model/CEmployee.h"
 
 #include "model/AddressText.h"
-#include "platform/Text.h"
+#include "platform/text/Text.h"
 #include "store/CJetDB.h"
 
 namespace ptk {
 
 namespace {
 
-constexpr StoreCalls<EmployeeRow> kCalls{&CJetDB::AddNewEmployee, &CJetDB::UpdateEmployee, &CJetDB::UpdateEmployee, &CJetDB::DeleteEmployee,
-                                         employee::SaveFailed};
+constexpr StoreCalls<EmployeeRow> kEmployeeCalls{&CJetDB::AddNewEmployee, &CJetDB::UpdateEmployee, &CJetDB::UpdateEmployee,
+                                                 &CJetDB::DeleteEmployee, employee::SaveFailed};
 
 // An unknown date leaves the label alone on its line, without the tab.
 void AppendDate(std::string& text, const char* label, DateTime date)
@@ -48,7 +48,7 @@ CEmployee::CEmployee(EmployeeRow row) : RowEntity(std::move(row)) {}
 
 bool CEmployee::Save(const std::shared_ptr<CJetDB>& thedatabase)
 {
-    return SaveRow(thedatabase, &EmployeeRow::EmployeeID, kCalls);
+    return SaveRow(thedatabase, &EmployeeRow::EmployeeID, kEmployeeCalls);
 }
 
 std::string CEmployee::ToString()

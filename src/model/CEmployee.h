@@ -2,9 +2,9 @@
 #pragma once
 
 #include "model/Entity.h"
-#include "platform/DateTime.h"
 #include "platform/ErrorNumbers.h"
-#include "store/Rows.h"
+#include "platform/text/DateTime.h"
+#include "store/rows/Rows.h"
 
 #include <cstdint>
 #include <memory>

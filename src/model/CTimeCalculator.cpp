@@ -4,7 +4,7 @@
 #include "model/CTimeRecordList.h"
 #include "platform/Failure.h"
 #include "platform/Succeeds.h"
-#include "platform/Value.h"
+#include "platform/text/Value.h"
 
 #include <cmath>
 

@@ -2,7 +2,7 @@
 // hours of a day are regular and the rest is overtime. There is no weekly threshold and no rounding but to single.
 #pragma once
 
-#include "platform/DateTime.h"
+#include "platform/text/DateTime.h"
 
 #include <cstdint>
 #include <span>

@@ -6,8 +6,8 @@
 #include "model/CTimeRecordList.h"
 #include "platform/Failure.h"
 #include "platform/Succeeds.h"
-#include "platform/Text.h"
-#include "platform/Value.h"
+#include "platform/text/Text.h"
+#include "platform/text/Value.h"
 
 namespace ptk {
 

@@ -4,9 +4,9 @@
 #include "model/CardLine.h"
 #include "model/CDateRange.h"
 #include "model/Entity.h"
-#include "platform/DateTime.h"
 #include "platform/ErrorNumbers.h"
 #include "platform/Failure.h"
+#include "platform/text/DateTime.h"
 
 #include <cstdint>
 #include <memory>

@@ -1,6 +1,6 @@
 #include "model/CTimeRecord.h"
 
-#include "platform/Text.h"
+#include "platform/text/Text.h"
 #include "store/CTimeRecSQLConverter.h"
 
 namespace ptk {

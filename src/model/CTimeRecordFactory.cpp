@@ -8,7 +8,7 @@
 #include "store/CJetDB.h"
 #include "store/CTimeRecSQLConverter.h"
 #include "store/engine/RecordSet.h"
-#include "store/RowReader.h"
+#include "store/rows/RowReader.h"
 
 namespace ptk {
 

@@ -1,9 +1,9 @@
 // Loads the time records of one employee and period into the one current list of the program, and writes changed records back.
 #pragma once
 
-#include "platform/DateTime.h"
 #include "platform/ErrorNumbers.h"
 #include "platform/Failure.h"
+#include "platform/text/DateTime.h"
 #include "store/CJetDB.h"
 
 #include <cstdint>

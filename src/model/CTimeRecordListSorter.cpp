@@ -4,7 +4,7 @@
 #include "platform/Failure.h"
 #include "platform/Required.h"
 #include "platform/Succeeds.h"
-#include "platform/Value.h"
+#include "platform/text/Value.h"
 
 #include <tuple>
 

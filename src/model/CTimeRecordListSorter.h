@@ -1,8 +1,8 @@
 // Orders a time record list by time and finds records in it by their times.
 #pragma once
 
-#include "platform/DateTime.h"
 #include "platform/ErrorNumbers.h"
+#include "platform/text/DateTime.h"
 
 #include <cstdint>
 #include <memory>

@@ -1,7 +1,7 @@
 #include "model/CardLine.h"
 
 #include "model/CTimeRecord.h"
-#include "platform/Text.h"
+#include "platform/text/Text.h"
 
 namespace ptk {
 

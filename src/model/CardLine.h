@@ -1,7 +1,7 @@
 // One line of a time card.
 #pragma once
 
-#include "platform/DateTime.h"
+#include "platform/text/DateTime.h"
 
 #include <memory>
 #include <string>

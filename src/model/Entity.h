@@ -2,7 +2,7 @@
 #pragma once
 
 #include "platform/Succeeds.h"
-#include "store/Rows.h"
+#include "store/rows/Rows.h"
 
 #include <cstdint>
 #include <memory>

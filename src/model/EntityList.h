@@ -3,7 +3,7 @@
 
 #include "shell/KeyedList.h"
 #include "store/CJetDB.h"
-#include "store/Rows.h"
+#include "store/rows/Rows.h"
 
 #include <cstdint>
 #include <memory>

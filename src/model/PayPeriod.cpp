@@ -1,7 +1,7 @@
 #include "model/PayPeriod.h"
 
 #include "model/CDateRange.h"
-#include "platform/Value.h"
+#include "platform/text/Value.h"
 
 namespace ptk {
 

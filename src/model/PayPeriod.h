@@ -1,7 +1,7 @@
 // Pay periods: how they are counted, stepped through and offered.
 #pragma once
 
-#include "platform/DateTime.h"
+#include "platform/text/DateTime.h"
 
 #include <cstdint>
 #include <optional>

@@ -1,7 +1,7 @@
 // The module that draws pages as a PDF file, with cairo.
 #include "pages/AnyType.h"
 #include "pages/PlainType.h"
-#include "reports/PageDrawing.h"
+#include "reports/forms/PageDrawing.h"
 
 #include <cairo-pdf.h>
 #include <new>

@@ -7,7 +7,7 @@ namespace ptk {
 
 namespace {
 
-constexpr ReportColumn kColumns[] = {
+constexpr ReportColumn kEmployeeColumns[] = {
     {"Employee Number", CellType::WholeNumber},
     {"First Name", CellType::Text},
     {"Last Name", CellType::Text},
@@ -31,7 +31,7 @@ Value Known(DateTime date)
     return date.IsZero() ? Value() : Value(date);
 }
 
-ReportRow RowOf(const CEmployee& employee)
+ReportRow EmployeeRowOf(const CEmployee& employee)
 {
     return {employee.EmployeeNumber(),
             employee.FirstName(),
@@ -57,7 +57,7 @@ void AddEmployee(ReportDocument& document, CEmployee& employee)
     document.Add(employee.ToString());
     document.AddRule();
     document.Add("");
-    document.table.rows.push_back(RowOf(employee));
+    document.table.rows.push_back(EmployeeRowOf(employee));
 }
 
 } // namespace
@@ -72,7 +72,7 @@ bool CReportEmployee::GenerateReport(const std::shared_ptr<CEmployeeList>& theem
             return false;
         }
         Body().Add("");
-        Body().table.columns = kColumns;
+        Body().table.columns = kEmployeeColumns;
         for (std::int32_t i = 1; i <= theemployeelist->Count(); ++i) {
             if (const auto employee = theemployeelist->Item(i)) {
                 AddEmployee(Body(), *employee);

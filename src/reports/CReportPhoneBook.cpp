@@ -2,13 +2,13 @@
 
 #include "model/CEmployee.h"
 #include "model/CEmployeeList.h"
-#include "platform/Text.h"
+#include "platform/text/Text.h"
 
 namespace ptk {
 
 namespace {
 
-constexpr ReportColumn kColumns[] = {
+constexpr ReportColumn kPhoneColumns[] = {
     {"Last Name", CellType::Text}, {"First Name", CellType::Text}, {"Address", CellType::Text}, {"City", CellType::Text},
     {"State", CellType::Text},     {"ZIP Code", CellType::Text},   {"Phone", CellType::Text},
 };
@@ -41,7 +41,7 @@ std::string Phone(const CEmployee& employee)
     return employee.Phone();
 }
 
-ReportRow RowOf(const CEmployee& employee)
+ReportRow PhoneRow(const CEmployee& employee)
 {
     return {employee.LastName(), employee.FirstName(), employee.Address1(), employee.City(),
             employee.State(),    employee.ZipCode(),   employee.Phone()};
@@ -55,9 +55,9 @@ void AddPair(ReportDocument& document, const CEmployee& left, const CEmployee* r
         document.Add(TwoColumns(text(left), right == nullptr ? "" : text(*right)));
     }
     document.Add("\r\n"); // with its own line end two empty lines
-    document.table.rows.push_back(RowOf(left));
+    document.table.rows.push_back(PhoneRow(left));
     if (right != nullptr) {
-        document.table.rows.push_back(RowOf(*right));
+        document.table.rows.push_back(PhoneRow(*right));
     }
 }
 
@@ -85,7 +85,7 @@ bool CReportPhoneBook::GenerateReport(const std::shared_ptr<CEmployeeList>& phon
         if (!Open("", std::string(Entry().fileName))) {
             return false;
         }
-        Body().table.columns = kColumns;
+        Body().table.columns = kPhoneColumns;
         AddEmployees(Body(), *phonebooklist);
         return Publish();
     });

@@ -15,12 +15,12 @@ const std::string kSignatures = kSignatureRule + "\r\n" +                       
                                 kSignatureRule + "\r\n" +                                          //
                                 "Manager Signature" + std::string(33, ' ') + "Date";
 
-constexpr ReportColumn kColumns[] = {
+constexpr ReportColumn kCardColumns[] = {
     {"Employee Number", CellType::WholeNumber}, {"First Name", CellType::Text},   {"Last Name", CellType::Text},
     {"Start Time", CellType::DateTime},         {"End Time", CellType::DateTime}, {"Hours", CellType::Hours},
 };
 
-ReportRow RowOf(const CEmployee& employee, const CardLine& line, float breakHours)
+ReportRow CardRow(const CEmployee& employee, const CardLine& line, float breakHours)
 {
     return {employee.EmployeeNumber(), employee.FirstName(), employee.LastName(), line.start, line.end.IsZero() ? Value() : Value(line.end),
             line.hours - breakHours};
@@ -75,7 +75,7 @@ bool CReportTimeCard::OpenForm(const CEmployee& employee, const CDateRange& days
         Open(TitleOfEmployee(employee) + TitleOfDays(days.StartDate(), days.EndDate().AddDays(-1)), FileNameOf(Entry(), days, &employee));
     if (opened) {
         Body().Add("");
-        Body().table.columns = kColumns;
+        Body().table.columns = kCardColumns;
     }
     return opened;
 }
@@ -97,7 +97,7 @@ void CReportTimeCard::AddBody()
 {
     AddCard(Body(), *m_timeCard);
     for (const CardLine& line : m_timeCard->Lines()) {
-        Body().table.rows.push_back(RowOf(*m_timeCard->Employee(), line, m_timeCard->BreakAllowance()));
+        Body().table.rows.push_back(CardRow(*m_timeCard->Employee(), line, m_timeCard->BreakAllowance()));
     }
 }
 

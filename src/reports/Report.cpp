@@ -1,7 +1,7 @@
 #include "reports/Report.h"
 
-#include "platform/Clock.h"
-#include "platform/PrivateFile.h"
+#include "platform/files/PrivateFile.h"
+#include "platform/system/Clock.h"
 #include "reports/ReportFile.h"
 #include "reports/ReportPrinter.h"
 #include "reports/TextRenderer.h"

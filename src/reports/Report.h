@@ -3,7 +3,7 @@
 
 #include "platform/ErrorNumbers.h"
 #include "platform/Succeeds.h"
-#include "reports/ReportDocument.h"
+#include "reports/forms/ReportDocument.h"
 #include "reports/ReportViewer.h"
 
 #include <cstdint>

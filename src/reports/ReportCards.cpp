@@ -4,7 +4,7 @@
 #include "model/CEmployee.h"
 #include "model/CTimeCard.h"
 #include "platform/Succeeds.h"
-#include "platform/Text.h"
+#include "platform/text/Text.h"
 #include "reports/Report.h"
 
 #include <fmt/format.h>

@@ -1,7 +1,7 @@
 // What the reports over a stretch of days share: the names made of employee and days, and the time cards of which they are made.
 #pragma once
 
-#include "reports/ReportDocument.h"
+#include "reports/forms/ReportDocument.h"
 
 #include <memory>
 #include <span>

@@ -1,6 +1,6 @@
 #include "reports/ReportFile.h"
 
-#include "platform/ProgramFolder.h"
+#include "platform/files/ProgramFolder.h"
 #include "platform/Succeeds.h"
 
 namespace ptk {

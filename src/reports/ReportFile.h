@@ -1,7 +1,7 @@
 // The text file of a report: written aside, for its owner only; it takes the place of an earlier one of its name at the end or not at all.
 #pragma once
 
-#include "platform/FileDraft.h"
+#include "platform/files/FileDraft.h"
 #include "shell/CFile.h"
 
 #include <optional>

@@ -1,11 +1,11 @@
 #include "reports/ReportPrinter.h"
 
-#include "platform/Desktop.h"
-#include "platform/Notice.h"
-#include "platform/PrivateFile.h"
+#include "platform/files/PrivateFile.h"
 #include "platform/Succeeds.h"
-#include "reports/ReportDocument.h"
-#include "reports/ReportForms.h"
+#include "platform/system/Desktop.h"
+#include "platform/system/Notice.h"
+#include "reports/forms/ReportDocument.h"
+#include "reports/forms/ReportForms.h"
 #include "shell/CDocLauncher.h"
 
 namespace ptk {

@@ -1,7 +1,7 @@
 // The way of a report's pages to the print spooler and to the program that the desktop shows PDF files with.
 #pragma once
 
-#include "platform/DateTime.h"
+#include "platform/text/DateTime.h"
 
 #include <memory>
 #include <string>

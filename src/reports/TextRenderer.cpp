@@ -2,7 +2,7 @@
 
 #include "platform/ErrorNumbers.h"
 #include "platform/Succeeds.h"
-#include "reports/ReportDocument.h"
+#include "reports/forms/ReportDocument.h"
 #include "reports/ReportFile.h"
 #include "reports/ReportViewer.h"
 

@@ -1,8 +1,8 @@
 #include "shell/CDataValidator.h"
 
-#include "platform/Characters.h"
 #include "platform/Succeeds.h"
-#include "platform/Text.h"
+#include "platform/text/Characters.h"
+#include "platform/text/Text.h"
 
 #include <algorithm>
 

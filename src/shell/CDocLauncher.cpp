@@ -1,8 +1,8 @@
 #include "shell/CDocLauncher.h"
 
-#include "platform/Desktop.h"
-#include "platform/ProgramFolder.h"
+#include "platform/files/ProgramFolder.h"
 #include "platform/Succeeds.h"
+#include "platform/system/Desktop.h"
 
 namespace ptk {
 

@@ -1,6 +1,6 @@
 #include "shell/CError.h"
 
-#include "platform/Desktop.h"
+#include "platform/system/Desktop.h"
 #include "shell/Numeric.h"
 
 #include <fmt/format.h>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "platform/Failure.h"
-#include "platform/Value.h"
+#include "platform/text/Value.h"
 
 #include <cstdint>
 #include <string>

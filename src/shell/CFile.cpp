@@ -1,11 +1,11 @@
 #include "shell/CFile.h"
 
-#include "platform/Clock.h"
 #include "platform/Failure.h"
-#include "platform/LineFile.h"
-#include "platform/ProgramFolder.h"
+#include "platform/files/LineFile.h"
+#include "platform/files/ProgramFolder.h"
 #include "platform/Succeeds.h"
-#include "platform/Text.h"
+#include "platform/system/Clock.h"
+#include "platform/text/Text.h"
 #include "shell/Numeric.h"
 
 #include <fmt/format.h>

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "platform/ErrorNumbers.h"
-#include "platform/LineFile.h"
-#include "platform/Value.h"
+#include "platform/files/LineFile.h"
+#include "platform/text/Value.h"
 
 #include <cstdint>
 #include <string>

@@ -1,16 +1,16 @@
 #include "shell/CFileAdaptor.h"
 
-#include "platform/FileDraft.h"
-#include "platform/ProgramFolder.h"
+#include "platform/files/FileDraft.h"
+#include "platform/files/ProgramFolder.h"
 #include "platform/Succeeds.h"
-#include "platform/Value.h"
+#include "platform/text/Value.h"
 #include "shell/CFile.h"
 
 namespace ptk {
 
 namespace {
 
-constexpr std::int32_t kReadMode = 0;
+constexpr std::int32_t kToRead = 0;
 constexpr const char* kLineEnd = "\r\n";
 
 const Failure kNone(0, "", "");
@@ -33,7 +33,7 @@ bool CFileAdaptor::ReadFile(const std::string& thefilename)
         m_fileName = thefilename;
         CFile file;
         m_lastFailure = kNone;
-        if (file.OpenFile(thefilename, kReadMode)) {
+        if (file.OpenFile(thefilename, kToRead)) {
             ReadLines(file);
         } else {
             m_lastFailure = Failure(file.ErrorNumber());

@@ -1,7 +1,7 @@
 #include "shell/Numeric.h"
 
 #include "platform/Succeeds.h"
-#include "platform/Value.h"
+#include "platform/text/Value.h"
 
 #include <variant>
 

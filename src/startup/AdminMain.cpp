@@ -1,7 +1,7 @@
 #include "startup/AdminMain.h"
 
-#include "platform/ProgramFolder.h"
-#include "platform/SoleUse.h"
+#include "platform/files/ProgramFolder.h"
+#include "platform/files/SoleUse.h"
 #include "shell/CEnumHolder.h"
 #include "shell/CFile.h"
 #include "startup/CController.h"

@@ -4,12 +4,12 @@
 #include "model/CEmployeeList.h"
 #include "model/CTimeRecordFactory.h"
 #include "model/CTimeRecordList.h"
-#include "platform/Clock.h"
 #include "platform/Failure.h"
-#include "platform/ProgramFolder.h"
+#include "platform/files/ProgramFolder.h"
 #include "platform/Required.h"
 #include "platform/Succeeds.h"
-#include "platform/VectorRegisters.h"
+#include "platform/system/Clock.h"
+#include "platform/system/VectorRegisters.h"
 #include "shell/CDatabaseLocator.h"
 #include "shell/CError.h"
 #include "shell/CFile.h"
@@ -17,10 +17,10 @@
 #include "startup/Notices.h"
 #include "startup/Safekeeping.h"
 #include "startup/Windows.h"
+#include "store/backup/Restore.h"
 #include "store/CJetDB.h"
 #include "store/CSystemOptions.h"
 #include "store/postgres/ServerAddress.h"
-#include "store/Restore.h"
 
 #include <fmt/format.h>
 

@@ -1,7 +1,7 @@
 // The hub of the running program: owns every shared object, brings the program up and shuts it down.
 #pragma once
 
-#include "office/Import.h"
+#include "office/import/Import.h"
 #include "store/engine/Author.h"
 
 #include <cstdint>

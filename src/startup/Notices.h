@@ -1,7 +1,7 @@
 // What the start-up and the shutdown tell the user, word for word.
 #pragma once
 
-#include "platform/Notice.h"
+#include "platform/system/Notice.h"
 
 namespace ptk {
 

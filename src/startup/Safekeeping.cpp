@@ -1,8 +1,8 @@
 #include "startup/Safekeeping.h"
 
-#include "platform/BusyPointer.h"
-#include "platform/Desktop.h"
 #include "platform/Succeeds.h"
+#include "platform/system/BusyPointer.h"
+#include "platform/system/Desktop.h"
 #include "startup/Windows.h"
 #include "store/engine/EngineNumber.h"
 #include "store/engine/EngineSource.h"

@@ -1,7 +1,7 @@
 // The backups that the program makes by itself and when it is asked to, and the way back to one.
 #pragma once
 
-#include "office/BackupRun.h"
+#include "office/safety/BackupRun.h"
 
 #include <cstdint>
 #include <functional>

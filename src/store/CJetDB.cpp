@@ -1,10 +1,10 @@
 #include "store/CJetDB.h"
 
-#include "platform/Clock.h"
-#include "platform/ProgramFolder.h"
+#include "platform/files/ProgramFolder.h"
 #include "platform/Succeeds.h"
+#include "platform/system/Clock.h"
 #include "shell/CDatabaseLocator.h"
-#include "store/Backups.h"
+#include "store/backup/Backups.h"
 #include "store/postgres/PostgresEngine.h"
 #include "store/postgres/ServerAddress.h"
 #include "store/sqlite/SqliteEngine.h"

@@ -7,7 +7,7 @@
 #include "store/engine/Author.h"
 #include "store/engine/WhenHeld.h"
 #include "store/RowConflict.h"
-#include "store/Rows.h"
+#include "store/rows/Rows.h"
 
 #include <cstdint>
 #include <functional>

@@ -1,13 +1,13 @@
 // Of CJetDB: employees and companies between their tables and the lists above.
 #include "platform/Succeeds.h"
-#include "platform/Text.h"
+#include "platform/text/Text.h"
 #include "store/CJetDB.h"
 #include "store/DisplayNameSQL.h"
 #include "store/engine/Engine.h"
 #include "store/engine/RecordSet.h"
 #include "store/engine/Statement.h"
-#include "store/QueryParameters.h"
-#include "store/RowReader.h"
+#include "store/rows/QueryParameters.h"
+#include "store/rows/RowReader.h"
 
 #include <array>
 #include <fmt/format.h>

@@ -1,9 +1,9 @@
 #include "store/CSystemOptions.h"
 
 #include "platform/Failure.h"
-#include "platform/Text.h"
+#include "platform/text/Text.h"
 #include "store/CJetDB.h"
-#include "store/RowReader.h"
+#include "store/rows/RowReader.h"
 
 #include <fmt/format.h>
 

@@ -1,7 +1,7 @@
 // The program-wide settings in the single row of the table _System.
 #pragma once
 
-#include "store/Rows.h"
+#include "store/rows/Rows.h"
 
 #include <cstdint>
 #include <memory>

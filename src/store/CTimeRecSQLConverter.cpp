@@ -2,7 +2,7 @@
 
 #include "platform/ErrorNumbers.h"
 #include "platform/Succeeds.h"
-#include "platform/Text.h"
+#include "platform/text/Text.h"
 
 #include <fmt/format.h>
 #include <iterator>

@@ -1,7 +1,7 @@
 // Writes the one SQL statement that brings the TimeRecord table in line with a time record, and the query for an employee's period.
 #pragma once
 
-#include "store/Rows.h"
+#include "store/rows/Rows.h"
 
 #include <cstdint>
 #include <string>

@@ -3,7 +3,7 @@
 
 #include "platform/Failure.h"
 #include "store/CheckLimits.h"
-#include "store/Rows.h"
+#include "store/rows/Rows.h"
 
 #include <cstdint>
 #include <optional>

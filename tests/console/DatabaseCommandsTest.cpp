@@ -2,9 +2,9 @@
 
 #include "model/CEmployee.h"
 #include "model/CEmployeeList.h"
-#include "store/BulkWriter.h"
 #include "store/CJetDB.h"
-#include "store/DatabaseCreator.h"
+#include "store/whole/BulkWriter.h"
+#include "store/whole/DatabaseCreator.h"
 
 #include <filesystem>
 

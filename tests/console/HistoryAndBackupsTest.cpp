@@ -1,6 +1,6 @@
 #include "console/ConsoleFixture.h"
 
-#include "store/BackupNames.h"
+#include "store/backup/BackupNames.h"
 #include "store/sqlite/SqliteEngine.h"
 
 #include <unistd.h>

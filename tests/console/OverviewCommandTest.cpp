@@ -1,6 +1,6 @@
 #include "console/ConsoleFixture.h"
 
-#include "platform/Text.h"
+#include "platform/text/Text.h"
 
 #include "store/engine/Statement.h"
 #include "store/sqlite/SqliteEngine.h"

@@ -1,9 +1,9 @@
 #include "console/ConsoleFixture.h"
 
-#include "platform/Text.h"
-#include "store/BulkWriter.h"
+#include "platform/text/Text.h"
 #include "store/CJetDB.h"
-#include "store/DatabaseCreator.h"
+#include "store/whole/BulkWriter.h"
+#include "store/whole/DatabaseCreator.h"
 
 #include <filesystem>
 

@@ -1,5 +1,5 @@
 // Whatever the bytes: a date-time or "not a date"; and the text of a date-time reads back to the same second.
-#include "platform/Text.h"
+#include "platform/text/Text.h"
 
 #include <cstdint>
 #include <cstdlib>

@@ -1,7 +1,7 @@
 // Whatever bytes a statement holds, it is translated or refused as a type mismatch; taken apart it loses nothing; and no text in it
 // changes.
 #include "platform/Failure.h"
-#include "platform/Text.h"
+#include "platform/text/Text.h"
 #include "store/engine/Dialect.h"
 #include "store/engine/Lexer.h"
 #include "store/engine/StoredDate.h"

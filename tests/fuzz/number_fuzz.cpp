@@ -1,6 +1,6 @@
 // Whatever the bytes: a number, "no number" or "does not fit"; and the text of a number reads back to the same number.
 #include "platform/Failure.h"
-#include "platform/Text.h"
+#include "platform/text/Text.h"
 
 #include <cstdint>
 #include <cstdlib>

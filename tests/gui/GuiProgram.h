@@ -1,16 +1,16 @@
 // The whole program with its real windows, on a real database in a temporary folder; only message boxes and the shell are recorded.
 #pragma once
 
-#include "platform/ProgramFolder.h"
+#include "platform/files/ProgramFolder.h"
 #include "startup/AdminMain.h"
 #include "startup/CController.h"
-#include "store/DatabaseCreator.h"
+#include "store/whole/DatabaseCreator.h"
 #include "support/Files.h"
 #include "support/FixedClock.h"
 #include "support/RecordingDesktop.h"
 #include "support/TemporaryFolder.h"
-#include "ui/FController.h"
-#include "ui/QtWindowFactory.h"
+#include "ui/frame/FController.h"
+#include "ui/frame/QtWindowFactory.h"
 
 #include <functional>
 #include <QtWidgets>

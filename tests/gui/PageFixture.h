@@ -2,9 +2,9 @@
 #pragma once
 
 #include "gui/GuiFixture.h"
-#include "store/BulkWriter.h"
 #include "store/CJetDB.h"
 #include "store/engine/RecordSet.h"
+#include "store/whole/BulkWriter.h"
 
 #include <QtWidgets>
 #include <string>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "gui/GuiFixture.h"
-#include "ui/QtDesktop.h"
+#include "ui/frame/QtDesktop.h"
 
 #include <deque>
 #include <QtTest>

@@ -1,7 +1,7 @@
 // Auto fill: one record a day over a range of dates.
 #include "gui/GuiFixture.h"
 #include "model/CTimeRecordList.h"
-#include "ui/dialogs/FAutoFill.h"
+#include "ui/timecards/FAutoFill.h"
 #include "ui/widgets/DateCombo.h"
 #include "ui/widgets/DateTimeBox.h"
 

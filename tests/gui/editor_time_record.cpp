@@ -1,8 +1,8 @@
 // The time record editor: what it shows, what it writes into the record while the user types, and what it hands back.
 #include "gui/RealBoxes.h"
 #include "model/CTimeRecord.h"
-#include "ui/dialogs/FTimeEditor.h"
-#include "ui/dialogs/TimeRecordReceiver.h"
+#include "ui/timecards/FTimeEditor.h"
+#include "ui/timecards/TimeRecordReceiver.h"
 #include "ui/widgets/DateTimeBox.h"
 
 namespace ptk {

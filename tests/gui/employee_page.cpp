@@ -31,7 +31,7 @@ constexpr auto kAnn =
 constexpr auto kAnnAtFirst = "5 111-11 1 Quay 12.5 18.75 2001-02-03 00:00:00 1899-12-30 00:00:00 1 1 30 15";
 
 // Ann Lee (40), a namesake of hers (41) and Bo Kim (42), who is not active.
-void AddStaff(BulkWriter& writer)
+void AddEmployeePageStaff(BulkWriter& writer)
 {
     EmployeeRow ann;
     ann.FirstName = "Ann";
@@ -63,7 +63,7 @@ void AddStaff(BulkWriter& writer)
 class EmployeePageTest : public PageTest
 {
 protected:
-    EmployeePageTest() : PageTest(AddStaff) { ClickTab(Main(), 3); }
+    EmployeePageTest() : PageTest(AddEmployeePageStaff) { ClickTab(Main(), 3); }
 
     QComboBox& Box(const char* name) { return The<QComboBox>(name); }
     QString Keys()

@@ -1,6 +1,6 @@
 // The window before everything else, of somebody who has no program folder yet.
 #include "gui/GuiFixture.h"
-#include "ui/dialogs/FFirstStart.h"
+#include "ui/safety/FFirstStart.h"
 
 namespace ptk {
 

@@ -1,13 +1,13 @@
 // File > Back Up Now and Restore, and the folder for a second copy.
 #include "gui/PageFixture.h"
 
-#include "store/Backups.h"
+#include "store/backup/Backups.h"
 
 namespace ptk {
 
 namespace {
 
-void AddStaff(BulkWriter& writer)
+void AddFrameBackupsStaff(BulkWriter& writer)
 {
     EmployeeRow employee;
     employee.FirstName = "Ann";
@@ -19,7 +19,7 @@ void AddStaff(BulkWriter& writer)
 class BackupsWindowTest : public PageTest
 {
 protected:
-    BackupsWindowTest() : PageTest(AddStaff) {}
+    BackupsWindowTest() : PageTest(AddFrameBackupsStaff) {}
 
     void Trigger(const char* action) { Find<QAction>(Main(), action).trigger(); }
     QString Notice()

@@ -1,15 +1,15 @@
 // Journeys in which message boxes really open and keys answer them.
 #include "gui/RealBoxes.h"
-#include "store/BulkWriter.h"
-#include "ui/dialogs/ReportViewerWindow.h"
-#include "ui/LastWindow.h"
+#include "store/whole/BulkWriter.h"
+#include "ui/frame/LastWindow.h"
+#include "ui/reports/ReportViewerWindow.h"
 
 namespace ptk {
 
 namespace {
 
 // Idle Ames has no records; the others each worked on 3 March 2003.
-void AddStaff(BulkWriter& writer, int workers)
+void AddFrameBoxesStaff(BulkWriter& writer, int workers)
 {
     const auto add = [&writer](const std::string& firstName, const std::string& lastName) {
         EmployeeRow row;
@@ -30,7 +30,7 @@ class RealBoxesTest : public testing::Test
 protected:
     void Start(int workers)
     {
-        program = std::make_unique<GuiProgramOn<ShowingDesktop>>([workers](BulkWriter& writer) { AddStaff(writer, workers); });
+        program = std::make_unique<GuiProgramOn<ShowingDesktop>>([workers](BulkWriter& writer) { AddFrameBoxesStaff(writer, workers); });
         program->LogIn();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&program->Main()));
     }

@@ -1,7 +1,7 @@
 // From the start of the program through the login to the end of the session.
 #include "gui/GuiFixture.h"
-#include "store/BulkWriter.h"
-#include "ui/dialogs/FLogin.h"
+#include "store/whole/BulkWriter.h"
+#include "ui/login/FLogin.h"
 
 namespace ptk {
 
@@ -13,7 +13,7 @@ const ShownBox kInvalid{"Invalid Login Name or Password.", "Invalid Login", Icon
 constexpr auto kAfterHelp = "[PTK]\r\nDatabasePath=<app.path>\\system\\ptk_11.mdb\r\nShowLoginHelp=False\r\n";
 
 // Mia Poe has the password "Clock 9", Tom Ray has none, a second Mia Poe has "other".
-void AddStaff(BulkWriter& writer)
+void AddFrameLoginStaff(BulkWriter& writer)
 {
     struct Person
     {
@@ -47,7 +47,7 @@ protected:
         program.Start();
     }
 
-    GuiProgram program{AddStaff};
+    GuiProgram program{AddFrameLoginStaff};
 };
 
 TEST_F(LoginTest, AFirstLoginIsHelpedOnceAndIsRememberedAtTheEnd)

@@ -14,8 +14,8 @@ namespace {
 using Boxes = std::vector<ShownBox>;
 const ShownBox kNotApplied{"An error occurred while updating the system options in the database.", "Update Options Error",
                            Icon::Exclamation, Buttons::Ok};
-const ShownBox kNotSaved{"An error occurred while saving program options. Please check the program options on next use.",
-                         "Update Options Error", Icon::Exclamation, Buttons::Ok};
+const ShownBox kOptionsNotSaved{"An error occurred while saving program options. Please check the program options on next use.",
+                                "Update Options Error", Icon::Exclamation, Buttons::Ok};
 const ShownBox kNoGuide{"File: ...\\documentation\\PTKAdminUserGuide.doc\r\n"
                         "The path to the User's Guide is invalid or not able to be opened by Windows.",
                         "User's Guide Open Error", Icon::Exclamation, Buttons::Ok};
@@ -214,7 +214,7 @@ TEST_F(MainWindowTest, ClosesInSpiteOfBadOptionsAndTellsOnEachPassThroughThem)
         FController& main = bad.Main();
         Find<QLineEdit>(main, "txtPeriodLength").setText("abc");
         way.leave(main);
-        EXPECT_EQ(bad.desktop.Take(), Boxes(way.boxes, kNotSaved));
+        EXPECT_EQ(bad.desktop.Take(), Boxes(way.boxes, kOptionsNotSaved));
         EXPECT_EQ(bad.ended, 1);
         EXPECT_FALSE(main.isVisible());
     }

@@ -8,7 +8,7 @@ namespace ptk {
 namespace {
 
 // Ann Lee (40) worked on 5 March 2003, which is today, and on the day before.
-void AddStaff(BulkWriter& writer)
+void AddHistoryWindowStaff(BulkWriter& writer)
 {
     EmployeeRow employee;
     employee.FirstName = "Ann";
@@ -23,7 +23,7 @@ void AddStaff(BulkWriter& writer)
 class HistoryWindowTest : public PageTest
 {
 protected:
-    HistoryWindowTest() : PageTest(AddStaff)
+    HistoryWindowTest() : PageTest(AddHistoryWindowStaff)
     {
         Pick(The<QComboBox>("cboTCEmployeeName"), "Ann Lee");
         Elsewhere("UPDATE TimeRecord SET EndTime = '2003-03-05 18:00:00' WHERE TimeRecordID = 1");

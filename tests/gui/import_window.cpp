@@ -1,7 +1,7 @@
 // File > Import Older Database, and the same at the first start.
 #include "gui/PageFixture.h"
 #include "support/OldDatabase.h"
-#include "ui/dialogs/FFirstStart.h"
+#include "ui/safety/FFirstStart.h"
 
 namespace ptk {
 

@@ -9,7 +9,7 @@ namespace {
 constexpr int kName = 0;
 
 // Ann Lee (40) and her namesake (41), whose shift has no end; Bo Kim (42), whose shift ends before it starts, twice. Today is 5 March 2003.
-void AddStaff(BulkWriter& writer)
+void AddPaydayOverviewStaff(BulkWriter& writer)
 {
     EmployeeRow employee;
     employee.PayRate = 10;
@@ -30,7 +30,7 @@ void AddStaff(BulkWriter& writer)
 class OverviewWindowTest : public PageTest
 {
 protected:
-    explicit OverviewWindowTest(const std::function<void(BulkWriter&)>& fill = AddStaff) : PageTest(fill)
+    explicit OverviewWindowTest(const std::function<void(BulkWriter&)>& fill = AddPaydayOverviewStaff) : PageTest(fill)
     {
         Find<QAction>(Main(), "mnuViewOverview").trigger();
     }

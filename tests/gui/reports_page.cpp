@@ -1,6 +1,6 @@
 // The Reports page of the started program: what is offered, what is chosen is what is asked for, and how the outcome is told.
 #include "gui/PageFixture.h"
-#include "ui/dialogs/ReportViewerWindow.h"
+#include "ui/reports/ReportViewerWindow.h"
 #include "ui/widgets/DateCombo.h"
 
 namespace ptk {
@@ -8,7 +8,7 @@ namespace ptk {
 namespace {
 
 // Listed: Ann Lee (40) and Zorn (42), who each worked 8 hours on 3/3/2003, and Bo Kim (41), who has no shifts.
-void AddStaff(BulkWriter& writer)
+void AddReportsPageStaff(BulkWriter& writer)
 {
     const auto add = [&writer](const char* firstName, const char* lastName, std::int32_t number) {
         EmployeeRow row;
@@ -35,7 +35,7 @@ const std::string kFailed = " : An error occurred generating the report: ";
 class ReportsPageTest : public PageTest
 {
 protected:
-    ReportsPageTest() : PageTest(AddStaff) { ClickTab(Main(), 2); }
+    ReportsPageTest() : PageTest(AddReportsPageStaff) { ClickTab(Main(), 2); }
 
     void Choose(const char* report) { The<QComboBox>("cboReports").setCurrentText(report); }
     // By their lines: Bo Kim 0, Ann Lee 1, Zorn 2.

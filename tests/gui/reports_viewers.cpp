@@ -2,7 +2,7 @@
 #include "gui/GuiProgram.h"
 #include "reports/ReportFixture.h"
 #include "support/Hardship.h"
-#include "ui/dialogs/QtViewerFactory.h"
+#include "ui/reports/QtViewerFactory.h"
 
 #include <QtTest>
 #include <QtWidgets>

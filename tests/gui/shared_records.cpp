@@ -11,7 +11,7 @@ constexpr auto kRecords = "SELECT EmployeeID || ' ' || StartTime || ' ' || EndTi
 constexpr auto kAnn = "SELECT IFNULL(Phone, '') || ' ' || PayRate AS x FROM Employee WHERE EmployeeID = 40";
 
 // Ann Lee (40) and Bo & Co (41), each with one shift on 5 March 2003, which is today; and a company.
-void AddStaff(BulkWriter& writer)
+void AddSharedRecordsStaff(BulkWriter& writer)
 {
     EmployeeRow employee;
     employee.EmployeeActive = true;
@@ -33,7 +33,7 @@ void AddStaff(BulkWriter& writer)
 class SharedRecordsTest : public PageTest
 {
 protected:
-    SharedRecordsTest() : PageTest(AddStaff) {}
+    SharedRecordsTest() : PageTest(AddSharedRecordsStaff) {}
 
     void Elsewhere(const std::string& sql)
     {

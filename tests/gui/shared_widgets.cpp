@@ -2,7 +2,7 @@
 #include "gui/GuiFixture.h"
 #include "model/CEmployee.h"
 #include "model/CEmployeeList.h"
-#include "ui/QtDesktop.h"
+#include "ui/frame/QtDesktop.h"
 #include "ui/widgets/ChosenOnly.h"
 #include "ui/widgets/EmployeeModels.h"
 #include "ui/widgets/ThemeIcon.h"

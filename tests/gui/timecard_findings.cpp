@@ -8,7 +8,7 @@ namespace {
 
 // Ann Lee (40): a shift of which the end lies before the start, an empty one, and one over the period's end that overlaps the one before.
 // Bo Kim (41) has two sound ones. Today is 5 March 2003.
-void AddStaff(BulkWriter& writer)
+void AddTimecardFindingsStaff(BulkWriter& writer)
 {
     EmployeeRow employee;
     employee.PayRate = 10;
@@ -30,7 +30,7 @@ void AddStaff(BulkWriter& writer)
 class FindingsTest : public PageTest
 {
 protected:
-    FindingsTest() : PageTest(AddStaff) { Press("cmdPeriodBack"); } // 18 February to 4 March
+    FindingsTest() : PageTest(AddTimecardFindingsStaff) { Press("cmdPeriodBack"); } // 18 February to 4 March
 
     void GenerateFor(const QString& name)
     {

@@ -42,12 +42,12 @@ const ShownBox kEmptyCardNotPrinted =
          "706 : An error occurred while printing the current timecard. Check employee record and time records before continuing.",
          Icon::Information);
 
-constexpr auto kRecords =
+constexpr auto kPaydayRecords =
     "SELECT EmployeeID || ' ' || StartTime || ' ' || EndTime AS x FROM TimeRecord WHERE EmployeeID < 43 ORDER BY EmployeeID, StartTime";
 
 // Ann Lee (40) worked 9 hours on 5 March and 8.5 on 6 March, Bo Kim (41) as on 5 March; Cy Orr (42) is not active. Di Fox (43), of whose
 // days 45 minutes are taken off, worked 9 hours on 5 March and is still at work on 6 March. Today is 5 March 2003.
-void AddStaff(BulkWriter& writer)
+void AddTimecardPaydayStaff(BulkWriter& writer)
 {
     EmployeeRow employee;
     employee.PayRate = 10;
@@ -76,7 +76,7 @@ const std::vector<std::string> kAtFirst{"40 2003-03-05 08:00:00 2003-03-05 17:00
 class TimeCardTest : public PageTest
 {
 protected:
-    TimeCardTest() : PageTest(AddStaff) {}
+    TimeCardTest() : PageTest(AddTimecardPaydayStaff) {}
 
     QComboBox& Employee() { return The<QComboBox>("cboTCEmployeeName"); }
     QTableView& Grid() { return The<QTableView>("grdTimeRecs"); }
@@ -263,8 +263,8 @@ TEST_F(TimeCardTest, ANewAndAnEditedRecordAreStoredAtOnce)
         QTest::mouseClick(Grid().viewport(), Qt::LeftButton, {}, RowPlace(2));
         QTest::mouseDClick(Grid().viewport(), Qt::LeftButton, {}, RowPlace(2));
     }
-    EXPECT_EQ(Stored(kRecords), (std::vector<std::string>{kAtFirst[0], "40 2003-03-05 18:00:00 2003-03-05 19:30:00",
-                                                          "40 2003-03-06 08:00:00 2003-03-06 12:00:00", kAtFirst[2]}));
+    EXPECT_EQ(Stored(kPaydayRecords), (std::vector<std::string>{kAtFirst[0], "40 2003-03-05 18:00:00 2003-03-05 19:30:00",
+                                                                "40 2003-03-06 08:00:00 2003-03-06 12:00:00", kAtFirst[2]}));
     EXPECT_EQ(Totals(), "12.00 10.00 2.50 15.00 157.50");
     Press("cmdTCEdit");
     EXPECT_EQ(Told(), Boxes{kNoneToEdit}) << "the grid was rebuilt";
@@ -276,13 +276,13 @@ TEST_F(TimeCardTest, DeletesByKeyAfterAsking)
     ClickRow(0);
     Press("cmdTCDelete");
     EXPECT_EQ(Told(), Boxes{kDelete});
-    EXPECT_EQ(Stored(kRecords), kAtFirst) << "No was the answer";
+    EXPECT_EQ(Stored(kPaydayRecords), kAtFirst) << "No was the answer";
     program.desktop.answers = {Answer::Yes, Answer::Yes};
     ClickRow(0);
     QTest::keyClick(&Grid(), Qt::Key_Down);
     QTest::keyClick(&Grid(), Qt::Key_Delete);
     EXPECT_EQ(Told(), Boxes{kDelete});
-    EXPECT_EQ(Stored(kRecords), (std::vector{kAtFirst[0], kAtFirst[2]})) << "the shown times have no seconds";
+    EXPECT_EQ(Stored(kPaydayRecords), (std::vector{kAtFirst[0], kAtFirst[2]})) << "the shown times have no seconds";
     EXPECT_EQ(Totals(), "8.00 10.00 1.00 15.00 95.00");
     QTest::keyClick(&Grid(), Qt::Key_Delete);
     EXPECT_EQ(Told(), Boxes{kNoneToDelete}) << "the grid was rebuilt";
@@ -309,7 +309,7 @@ TEST_F(TimeCardTest, TheChosenRowMeansItsOwnRecord)
     ClickRow(1);
     program.desktop.answers = {Answer::Yes};
     Press("cmdTCDelete");
-    EXPECT_EQ(Stored(kRecords), (std::vector{kAtFirst[0], kAtFirst[2]})) << "not the one that was given its times";
+    EXPECT_EQ(Stored(kPaydayRecords), (std::vector{kAtFirst[0], kAtFirst[2]})) << "not the one that was given its times";
     EXPECT_EQ(Line(), "Record of Ann Lee deleted");
 }
 
@@ -324,7 +324,7 @@ TEST_F(TimeCardTest, FillsAPeriodAlsoOfACardWithoutRecords)
     Press("cmdFill");
     EXPECT_EQ(Period(), "03/10/2003 - 03/11/2003");
     EXPECT_EQ(Rows(), (QStringList{"03/10/2003 08:00 AM|03/10/2003 05:00 PM|9.00", "03/11/2003 08:00 AM|03/11/2003 05:00 PM|9.00"}));
-    EXPECT_EQ(Stored(kRecords).size(), 5U);
+    EXPECT_EQ(Stored(kPaydayRecords).size(), 5U);
     EXPECT_EQ(Line(), "2 records filled in for Bo Kim");
     EXPECT_EQ(Told(), Boxes());
 }
@@ -441,7 +441,7 @@ TEST_F(TimeCardTest, ARefusedSaveIsToldAndOfferedAgain)
         Press("cmdFill");
     }
     EXPECT_EQ(Told(), Boxes{kNotFilled});
-    EXPECT_EQ(Stored(kRecords).size(), 3U) << "all days or none";
+    EXPECT_EQ(Stored(kPaydayRecords).size(), 3U) << "all days or none";
     EXPECT_EQ(Rows().size(), 2) << "what the database holds by now";
     ChangeDatabase("DROP TRIGGER rule");
     const ExpectedModal window([](QDialog& dialog) {
@@ -449,7 +449,7 @@ TEST_F(TimeCardTest, ARefusedSaveIsToldAndOfferedAgain)
         Click(dialog, "cmdSave");
     });
     TryAgain();
-    EXPECT_EQ(Stored(kRecords).size(), 5U);
+    EXPECT_EQ(Stored(kPaydayRecords).size(), 5U);
     EXPECT_EQ(Told(), Boxes());
 }
 
@@ -464,7 +464,7 @@ TEST_F(TimeCardTest, AReportOnAnotherEmployeeDoesNotMoveTheChoice)
     ClickRow(0);
     program.desktop.answers = {Answer::Yes};
     Press("cmdTCDelete");
-    EXPECT_EQ(Stored(kRecords), (std::vector{kAtFirst[1], kAtFirst[2]})) << "Ann's shift, not Bo's of the same times";
+    EXPECT_EQ(Stored(kPaydayRecords), (std::vector{kAtFirst[1], kAtFirst[2]})) << "Ann's shift, not Bo's of the same times";
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 // What an owner may go through with the sample business, from the windows alone: changes, taken back one by one; who did them; a spoiled
 // file, and the backup of it.
 #include "gui/PageFixture.h"
-#include "office/SampleBusiness.h"
+#include "office/business/SampleBusiness.h"
 #include "ui/widgets/DateCombo.h"
 #include "ui/widgets/DateTimeBox.h"
 

@@ -5,7 +5,7 @@
 #include "model/CTimeRecordFactory.h"
 #include "model/CTimeRecordList.h"
 #include "platform/ErrorNumbers.h"
-#include "platform/Text.h"
+#include "platform/text/Text.h"
 #include "store/CJetDB.h"
 #include "store/CSystemOptions.h"
 #include "store/engine/RecordSet.h"

@@ -3,8 +3,8 @@
 #include "model/CEmployee.h"
 #include "model/CEmployeeList.h"
 #include "store/CJetDB.h"
-#include "store/DatabaseCreator.h"
 #include "store/engine/RecordSet.h"
+#include "store/whole/DatabaseCreator.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>

@@ -6,8 +6,8 @@
 #include "model/CTimeRecordFactory.h"
 #include "model/CTimeRecordList.h"
 #include "store/CJetDB.h"
-#include "store/DatabaseCreator.h"
 #include "store/engine/RecordSet.h"
+#include "store/whole/DatabaseCreator.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>

@@ -10,7 +10,7 @@ using namespace ptk;
 
 namespace {
 
-DateTime At(int day, int hour, int minute = 0, int second = 0)
+DateTime InMarch(int day, int hour, int minute = 0, int second = 0)
 {
     return DateTime({2003, 3, day}, {hour, minute, second});
 }
@@ -33,18 +33,19 @@ TEST(TimeRecordTest, CountsMinutesAsSingleHours)
         const char* line;
     };
     for (const Case& c :
-         {Case{"a working day", At(5, 8), At(5, 16, 30), 8.5F, "03/05/2003 08:00 AM\t03/05/2003 04:30 PM\t8.50"},
-          Case{"7 hours 50", At(5, 8), At(5, 15, 50), 7.8333335F, "03/05/2003 08:00 AM\t03/05/2003 03:50 PM\t7.83"},
-          Case{"over midnight", At(5, 22), At(6, 6), 8, "03/05/2003 10:00 PM\t03/06/2003 06:00 AM\t8.00"},
-          Case{"one minute's edge", At(5, 8, 0, 30), At(5, 8, 1, 10), 0.016666668F, "03/05/2003 08:00 AM\t03/05/2003 08:01 AM\t0.02"},
-          Case{"backwards reads as 0, shows as it is", At(5, 9), At(5, 8), 0, "03/05/2003 09:00 AM\t03/05/2003 08:00 AM\t-1.00"},
-          Case{"still clocked in", At(5, 9), {}, 0, "03/05/2003 09:00 AM\t12/30/1899 12:00 AM\t0.00"}}) {
+         {Case{"a working day", InMarch(5, 8), InMarch(5, 16, 30), 8.5F, "03/05/2003 08:00 AM\t03/05/2003 04:30 PM\t8.50"},
+          Case{"7 hours 50", InMarch(5, 8), InMarch(5, 15, 50), 7.8333335F, "03/05/2003 08:00 AM\t03/05/2003 03:50 PM\t7.83"},
+          Case{"over midnight", InMarch(5, 22), InMarch(6, 6), 8, "03/05/2003 10:00 PM\t03/06/2003 06:00 AM\t8.00"},
+          Case{"one minute's edge", InMarch(5, 8, 0, 30), InMarch(5, 8, 1, 10), 0.016666668F,
+               "03/05/2003 08:00 AM\t03/05/2003 08:01 AM\t0.02"},
+          Case{"backwards reads as 0, shows as it is", InMarch(5, 9), InMarch(5, 8), 0, "03/05/2003 09:00 AM\t03/05/2003 08:00 AM\t-1.00"},
+          Case{"still clocked in", InMarch(5, 9), {}, 0, "03/05/2003 09:00 AM\t12/30/1899 12:00 AM\t0.00"}}) {
         SCOPED_TRACE(c.name);
         const auto record = Shift(c.start, c.end);
         EXPECT_EQ(record->HoursWorked(), c.hours);
         EXPECT_EQ(record->ToString(0), c.line);
     }
-    const auto record = Shift(At(5, 8), At(5, 16, 30));
+    const auto record = Shift(InMarch(5, 8), InMarch(5, 16, 30));
     EXPECT_EQ(record->ToString(0.5F), "03/05/2003 08:00 AM\t03/05/2003 04:30 PM\t8.00");
     EXPECT_EQ(record->ToStringReport(), "03/05/2003 08:00 AM\t03/05/2003 04:30 PM");
     record->EnforceFormat(false);
@@ -55,9 +56,9 @@ TEST(TimeRecordTest, RecalculatesOnceBothTimesAreKnown)
 {
     CTimeRecord record;
     record.HoursWorked(3);
-    record.StartTime(At(5, 8));
+    record.StartTime(InMarch(5, 8));
     EXPECT_EQ(record.HoursWorked(), 3);
-    record.EndTime(At(5, 9));
+    record.EndTime(InMarch(5, 9));
     EXPECT_EQ(record.HoursWorked(), 1);
     EXPECT_EQ(record.ObjectState(), state::New);
     record.ObjectState(state::Unchanged);
@@ -77,8 +78,8 @@ TEST(TimeRecordTest, RecalculatesOnceBothTimesAreKnown)
 TEST(TimeRecordListTest, ClampsInsertsAndRefusesRemovals)
 {
     CTimeRecordList list;
-    const auto first = Shift(At(1, 8), At(1, 9));
-    const auto second = Shift(At(2, 8), At(2, 9));
+    const auto first = Shift(InMarch(1, 8), InMarch(1, 9));
+    const auto second = Shift(InMarch(2, 8), InMarch(2, 9));
     EXPECT_TRUE(list.Insert(second, 7));
     EXPECT_TRUE(list.Insert(first, -5));
     EXPECT_EQ(list.Item(1), first);
@@ -97,8 +98,8 @@ TEST(TimeRecordListTest, ClampsInsertsAndRefusesRemovals)
 TEST(TimeRecordListTest, AMoveLosesTheRecordAndSaysSo)
 {
     CTimeRecordList list;
-    list.Insert(Shift(At(1, 8), At(1, 9)), 1);
-    const auto second = Shift(At(2, 8), At(2, 9));
+    list.Insert(Shift(InMarch(1, 8), InMarch(1, 9)), 1);
+    const auto second = Shift(InMarch(2, 8), InMarch(2, 9));
     list.Insert(second, 2);
     EXPECT_FALSE(list.Move(9, 1));
     EXPECT_EQ(list.Count(), 2);
@@ -110,21 +111,21 @@ TEST(TimeRecordListTest, AMoveLosesTheRecordAndSaysSo)
 TEST(TimeRecordListSorterTest, KeepsAnOrderedListAndLosesWhatIsOutOfOrder)
 {
     const auto list = std::make_shared<CTimeRecordList>();
-    const auto early = Shift(At(1, 8), At(1, 9));
-    const auto twin = Shift(At(1, 8), At(1, 9));
-    const auto late = Shift(At(2, 8), At(2, 9));
+    const auto early = Shift(InMarch(1, 8), InMarch(1, 9));
+    const auto twin = Shift(InMarch(1, 8), InMarch(1, 9));
+    const auto late = Shift(InMarch(2, 8), InMarch(2, 9));
     for (const auto& record : {early, twin, late}) {
         list->Insert(record, 99);
     }
     CTimeRecordListSorter sorter(list);
     EXPECT_TRUE(sorter.Sort(1));
     EXPECT_EQ(list->Count(), 3);
-    EXPECT_EQ(sorter.GetTimeRecordByKey(At(1, 8), At(1, 9)), early) << "the lower position";
-    EXPECT_EQ(sorter.GetIndexByKey(At(9, 0), At(2, 8), At(2, 9)), 3) << "the shift date is not used";
-    EXPECT_EQ(sorter.GetTimeRecordByKey(At(1, 8), At(1, 10)), nullptr);
+    EXPECT_EQ(sorter.GetTimeRecordByKey(InMarch(1, 8), InMarch(1, 9)), early) << "the lower position";
+    EXPECT_EQ(sorter.GetIndexByKey(InMarch(9, 0), InMarch(2, 8), InMarch(2, 9)), 3) << "the shift date is not used";
+    EXPECT_EQ(sorter.GetTimeRecordByKey(InMarch(1, 8), InMarch(1, 10)), nullptr);
     EXPECT_EQ(sorter.ErrorNumber(), 0);
     EXPECT_EQ(sorter.Find(twin), 2);
-    list->Insert(Shift(At(1, 7), At(1, 8)), 99);
+    list->Insert(Shift(InMarch(1, 7), InMarch(1, 8)), 99);
     EXPECT_TRUE(sorter.Sort(1));
     EXPECT_EQ(list->Count(), 3) << "the earliest record stood last and was lost on its way to the front";
     for (int i = list->Count(); i < 32767; ++i) {
@@ -146,10 +147,10 @@ TEST(TimeRecordListSorterTest, KeepsAnOrderedListAndLosesWhatIsOutOfOrder)
 TEST(TimeRecordListSorterTest, TellsOpenRecordsApartByTheirStart)
 {
     const auto list = std::make_shared<CTimeRecordList>();
-    const auto open = Shift(At(7, 8), {});
-    list->Insert(Shift(At(6, 8), {}), 1);
+    const auto open = Shift(InMarch(7, 8), {});
+    list->Insert(Shift(InMarch(6, 8), {}), 1);
     list->Insert(open, 2);
-    EXPECT_EQ(CTimeRecordListSorter(list).GetTimeRecordByKey(At(7, 8), {}), open);
+    EXPECT_EQ(CTimeRecordListSorter(list).GetTimeRecordByKey(InMarch(7, 8), {}), open);
 }
 
 TEST(DateRangeTest, AcceptsWithANumberWhatIsReversedOrOutOfLimits)
@@ -199,13 +200,13 @@ TEST(DateRangeTest, TellsWhatLiesInside)
 TEST(DateRangeTest, TravelsAsText)
 {
     CDateRange range;
-    range.SetRange(At(5, 8), At(11, 0));
+    range.SetRange(InMarch(5, 8), InMarch(11, 0));
     EXPECT_FALSE(range.ValidRange());
     EXPECT_EQ(range.ToString(), "03/05/2003+03/11/2003");
     CDateRange copy;
     EXPECT_TRUE(copy.SetRangeString(range.ToString()));
-    EXPECT_EQ(copy.StartDate(), At(5, 0));
-    EXPECT_EQ(copy.EndDate(), At(11, 0));
+    EXPECT_EQ(copy.StartDate(), InMarch(5, 0));
+    EXPECT_EQ(copy.EndDate(), InMarch(11, 0));
     EXPECT_TRUE(copy.ValidRange());
     for (const auto& [text, code] : std::vector<std::pair<const char*, int>>{{"3/5/2003", 0}, {"x+3/5/2003", 801}, {"3/5/2003+", 801}}) {
         EXPECT_TRUE(copy.SetRangeString(text)) << text;

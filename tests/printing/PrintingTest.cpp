@@ -1,5 +1,5 @@
 // Reports really printed: through the system's own print command, a scheduler started for the test, and a printer that makes PDF files.
-#include "platform/SystemShell.h"
+#include "platform/system/SystemShell.h"
 #include "reports/ReportFixture.h"
 
 #include <pwd.h>

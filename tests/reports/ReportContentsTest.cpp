@@ -2,7 +2,7 @@
 #include "reports/ReportFixture.h"
 
 #include "model/CTimeCard.h"
-#include "platform/Text.h"
+#include "platform/text/Text.h"
 #include "reports/CReportTimeCard.h"
 
 #include <array>

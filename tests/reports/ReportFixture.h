@@ -7,7 +7,7 @@
 #include "reports/Report.h"
 #include "store/CJetDB.h"
 #include "store/CTimeRecSQLConverter.h"
-#include "store/DatabaseCreator.h"
+#include "store/whole/DatabaseCreator.h"
 #include "support/Files.h"
 #include "support/FixedClock.h"
 #include "support/RecordingDesktop.h"

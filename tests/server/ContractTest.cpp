@@ -1,6 +1,6 @@
 // What a caller of the database sees, the same whether a file or a server keeps it.
-#include "office/UndoStack.h"
-#include "platform/Text.h"
+#include "office/records/UndoStack.h"
+#include "platform/text/Text.h"
 #include "store/CheckLimits.h"
 #include "store/CJetDB.h"
 #include "store/CSystemOptions.h"
@@ -8,7 +8,7 @@
 #include "store/engine/RecordSet.h"
 #include "store/engine/Statement.h"
 #include "store/PunchSQL.h"
-#include "store/TrailReader.h"
+#include "store/trail/TrailReader.h"
 #include "support/NewServerDatabase.h"
 #include "support/TemporaryFolder.h"
 

@@ -1,5 +1,5 @@
 // A server that goes away, is in somebody's hands, or says no: one message and no record lost or doubled.
-#include "platform/Text.h"
+#include "platform/text/Text.h"
 #include "store/CJetDB.h"
 #include "store/engine/RecordSet.h"
 #include "store/postgres/PostgresEngine.h"

@@ -1,10 +1,10 @@
 // Backups at login and exit, restoring, and the second start.
 #include "StartupFixture.h"
 
-#include "office/BackupRun.h"
+#include "office/safety/BackupRun.h"
 #include "startup/Safekeeping.h"
 #include "store/CSystemOptions.h"
-#include "store/TrailReader.h"
+#include "store/trail/TrailReader.h"
 
 #include <cstdlib>
 #include <filesystem>

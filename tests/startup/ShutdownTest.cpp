@@ -4,7 +4,7 @@
 #include "model/CTimeRecordFactory.h"
 #include "model/CTimeRecordList.h"
 #include "store/CSystemOptions.h"
-#include "store/TrailReader.h"
+#include "store/trail/TrailReader.h"
 
 #include <cstdlib>
 

@@ -13,7 +13,7 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-const std::string kUnusable = "Database Open Error: The database cannot be opened because it is missing or corrupt.";
+const std::string kUnusableDatabase = "Database Open Error: The database cannot be opened because it is missing or corrupt.";
 const std::string kOptionsUnread = "System Configuration Error: An error occurred while loading system options. Check these options before "
                                    "continuing program usage.";
 const std::string kListsUnbuilt = "List Construction Error: An error occurred while loading the data lists. The program may not function "
@@ -71,7 +71,7 @@ TEST_F(StartTest, ADatabaseThatCannotBeOpenedStopsBeforeTheLogin)
         c.spoil();
         program.Start();
         holder.CloseDB();
-        EXPECT_EQ(Boxes(), Texts{kUnusable});
+        EXPECT_EQ(Boxes(), Texts{kUnusableDatabase});
         EXPECT_EQ(desktop.boxes.front().icon, Icon::Exclamation);
         EXPECT_EQ(windows.login, nullptr);
         EXPECT_EQ(Controller().ControllerWindow(), nullptr);
@@ -87,7 +87,7 @@ TEST_F(StartTest, AConfigurationThatIsNoFileIsLoggedAndNotWaitedFor)
     std::filesystem::remove(NativePath(configPath));
     ::mkfifo(NativePath(configPath).c_str(), 0600);
     program.Start();
-    EXPECT_EQ(Boxes(), Texts{kUnusable});
+    EXPECT_EQ(Boxes(), Texts{kUnusableDatabase});
     EXPECT_EQ(Log(), kLogBegin + "Error: 75 : Path/File access error: " + NativePath(configPath).string() + "\r\n");
 }
 

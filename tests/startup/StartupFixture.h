@@ -2,14 +2,14 @@
 #pragma once
 
 #include "platform/Failure.h"
-#include "platform/Text.h"
+#include "platform/text/Text.h"
 #include "shell/CFileAdaptor.h"
 #include "startup/AdminMain.h"
 #include "startup/CController.h"
 #include "startup/Windows.h"
 #include "store/CJetDB.h"
 #include "store/CSystemOptions.h"
-#include "store/DatabaseCreator.h"
+#include "store/whole/DatabaseCreator.h"
 #include "support/Files.h"
 #include "support/FixedClock.h"
 #include "support/RecordingDesktop.h"

@@ -1,9 +1,9 @@
 #include "store/CheckLimits.h"
 #include "store/CJetDB.h"
-#include "store/DatabaseChecker.h"
 #include "store/PunchSQL.h"
 #include "store/sqlite/SqliteWords.h"
 #include "store/StoreFixture.h"
+#include "store/whole/DatabaseChecker.h"
 
 #include <fmt/format.h>
 

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "platform/Failure.h"
-#include "store/DatabaseCreator.h"
 #include "store/RawDatabase.h"
+#include "store/whole/DatabaseCreator.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>

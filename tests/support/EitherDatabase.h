@@ -1,9 +1,9 @@
 // The database that a test is about: a file, or, in the test program that runs beside a server, one on that server.
 #pragma once
 
-#include "store/DatabaseCreator.h"
 #include "store/postgres/PostgresEngine.h"
 #include "store/sqlite/SqliteEngine.h"
+#include "store/whole/DatabaseCreator.h"
 #include "support/ServerDatabase.h"
 #include "support/TemporaryFolder.h"
 

@@ -1,7 +1,7 @@
 // Whole files as bytes; paths may keep the configuration's backslashes.
 #pragma once
 
-#include "platform/ProgramFolder.h"
+#include "platform/files/ProgramFolder.h"
 
 #include <fstream>
 #include <iterator>

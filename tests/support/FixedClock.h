@@ -1,7 +1,7 @@
 // A clock that a test sets.
 #pragma once
 
-#include "platform/Clock.h"
+#include "platform/system/Clock.h"
 
 namespace ptk {
 

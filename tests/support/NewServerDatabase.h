@@ -1,7 +1,7 @@
 // A database on the tests' server with the program's tables.
 #pragma once
 
-#include "store/DatabaseCreator.h"
+#include "store/whole/DatabaseCreator.h"
 #include "support/ServerDatabase.h"
 
 namespace ptk {

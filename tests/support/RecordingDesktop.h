@@ -1,8 +1,8 @@
 // A desktop that shows nothing: it keeps what would have been shown and answers as the test scripted.
 #pragma once
 
-#include "platform/Desktop.h"
 #include "platform/Failure.h"
+#include "platform/system/Desktop.h"
 
 #include <deque>
 #include <string>

@@ -15,6 +15,23 @@ ALLOWED["pages"] = {"reports", "pages"}
 ALLOWED["app"] = {*CORE, "startup", "ui", "app"}
 
 QT_LAYERS = {"ui", "app"}
+# Within a layer, its folders by subject, floor by floor: each may include those of the floors before its own ("" is the layer's own folder). Nothing runs
+# in circles so, and two rooms of one floor do not know each other.
+FLOORS = {
+    "platform": [[""], ["text", "files"], ["system"]],
+    "shell": [[""]],
+    "store": [["engine"], ["sqlite", "postgres", "rows"], ["whole"], ["backup"], [""], ["trail", "import"]],
+    "model": [[""], ["check"]],
+    "reports": [["forms"], [""]],
+    "office": [["card", "import", "reports"], ["history", "safety"], ["overview"], ["records", "business"]],
+    "jetreader": [[""]],
+    "startup": [[""]],
+    "console": [[""], ["main"]],
+    "ui": [["widgets"], ["page"], ["login", "reports"], ["timecards", "people", "overview", "history", "safety"], ["frame"]],
+    "pages": [[""]],
+    "app": [[""]],
+}
+
 SQLITE_FOLDER = "store/sqlite/"
 POSTGRES_FOLDER = "store/postgres/"
 
@@ -26,8 +43,13 @@ GENERATED_HEADER = re.compile(r"^(ui_\w+\.h|\w+\.moc)$")
 
 
 def layer_of(path):
-    """The layer of a path below SRC: its first folder, but the start-up is a layer of its own above the reports."""
-    return "startup" if path.startswith("startup/") else path.split("/")[0]
+    """The layer of a path below SRC: its first folder."""
+    return path.split("/")[0]
+
+
+def room_of(path):
+    """The folder by subject of a path below SRC, "" where it lies in the layer's own folder."""
+    return "/".join(path.split("/")[1:-1])
 
 
 def fault(path, quote, header):
@@ -45,6 +67,18 @@ def fault(path, quote, header):
         return "own headers are named from src/ on"
     if layer_of(header) not in ALLOWED[layer]:
         return f"{layer} must not know {layer_of(header)}"
+    if layer_of(header) == layer:
+        return fault_within(layer, room_of(path), room_of(header))
+    return None
+
+
+def fault_within(layer, room, other):
+    """Why one room of a layer may not include from another one, or None."""
+    floors = {name: number for number, floor in enumerate(FLOORS[layer]) for name in floor}
+    if room not in floors or other not in floors:
+        return f"{layer} has no room {room if room not in floors else other}"
+    if room != other and floors[other] >= floors[room]:
+        return f"{layer}/{room} must not know {layer}/{other}"
     return None
 
 
@@ -55,9 +89,18 @@ def faults(path, text):
             yield f'{path}: includes "{header}": {reason}'
 
 
+def doubled(files):
+    """Headers of one name: an #include should lead to one place in a reader's mind, too."""
+    seen = {}
+    for f in files:
+        if f.suffix == ".h" and seen.setdefault(f.name, f) is not f:
+            yield f"{f}: {seen[f.name]} has the same name"
+
+
 def main(src):
     files = sorted(f for f in pathlib.Path(src).rglob("*") if f.suffix in {".h", ".cpp"})
     found = [line for f in files for line in faults(f.relative_to(src).as_posix(), f.read_text(encoding="utf-8"))]
+    found += doubled(files)
     print("\n".join(found) or f"{len(files)} files keep to their layers")
     return 1 if found or not files else 0
 

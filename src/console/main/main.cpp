@@ -1,7 +1,7 @@
 #include "console/Program.h"
 #include "console/TerminalPassword.h"
-#include "platform/Clock.h"
-#include "platform/Process.h"
+#include "platform/system/Clock.h"
+#include "platform/system/Process.h"
 #include "store/postgres/ServerAddress.h"
 
 #include <iostream>

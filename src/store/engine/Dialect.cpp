@@ -1,7 +1,7 @@
 #include "store/engine/Dialect.h"
 
 #include "platform/Failure.h"
-#include "platform/Text.h"
+#include "platform/text/Text.h"
 #include "store/engine/Lexer.h"
 #include "store/engine/StoredDate.h"
 

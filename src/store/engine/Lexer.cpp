@@ -1,6 +1,6 @@
 #include "store/engine/Lexer.h"
 
-#include "platform/Characters.h"
+#include "platform/text/Characters.h"
 
 #include <algorithm>
 

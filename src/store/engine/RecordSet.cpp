@@ -1,8 +1,8 @@
 #include "store/engine/RecordSet.h"
 
-#include "platform/Characters.h"
 #include "platform/Failure.h"
-#include "platform/Text.h"
+#include "platform/text/Characters.h"
+#include "platform/text/Text.h"
 #include "store/engine/StoredDate.h"
 
 #include <algorithm>

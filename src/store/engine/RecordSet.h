@@ -1,8 +1,8 @@
 // The result of a select: a snapshot of all its rows in memory, so that the count is true at once and the file need not stay open.
 #pragma once
 
-#include "platform/DateTime.h"
-#include "platform/Value.h"
+#include "platform/text/DateTime.h"
+#include "platform/text/Value.h"
 
 #include <cstdint>
 #include <memory>

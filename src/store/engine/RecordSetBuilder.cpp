@@ -1,7 +1,7 @@
 #include "store/engine/RecordSetBuilder.h"
 
 #include "platform/Failure.h"
-#include "platform/Text.h"
+#include "platform/text/Text.h"
 #include "store/engine/StoredDate.h"
 
 #include <bit>

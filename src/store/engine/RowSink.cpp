@@ -1,6 +1,6 @@
 #include "store/engine/RowSink.h"
 
-#include "platform/Utf8.h"
+#include "platform/text/Utf8.h"
 #include "store/engine/Statement.h"
 
 #include <cmath>

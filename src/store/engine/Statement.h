@@ -1,7 +1,7 @@
 // One prepared statement of an open database.
 #pragma once
 
-#include "platform/Value.h"
+#include "platform/text/Value.h"
 
 #include <cstdint>
 #include <functional>

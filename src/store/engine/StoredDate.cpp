@@ -1,6 +1,6 @@
 #include "store/engine/StoredDate.h"
 
-#include "platform/Characters.h"
+#include "platform/text/Characters.h"
 
 #include <array>
 #include <chrono>

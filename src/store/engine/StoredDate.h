@@ -1,7 +1,7 @@
 // The text form of date-times in the database file: YYYY-MM-DD HH:MM:SS, so that text order is time order and any tool can read it.
 #pragma once
 
-#include "platform/DateTime.h"
+#include "platform/text/DateTime.h"
 
 #include <optional>
 #include <string>

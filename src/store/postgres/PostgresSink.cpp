@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::size_t kPortion = 1 << 16; // bytes
 
-std::string CopyText(const StoredTable& table)
+std::string CopyStatement(const StoredTable& table)
 {
     std::string names;
     for (const StoredColumn& column : table.columns) {
@@ -23,7 +23,7 @@ std::string CopyText(const StoredTable& table)
 }
 
 // As the server's text form of a copy has it.
-struct Writer
+struct CopyField
 {
     std::string& lines;
 
@@ -60,7 +60,7 @@ struct Writer
 PostgresSink::PostgresSink(ServerLine& line, const StoredTable& table) : m_line(line), m_table(table)
 {
     m_line.RunScript(fmt::format("ALTER TABLE {} DISABLE TRIGGER USER", table.name).c_str()); // asking them took half of the time
-    m_line.BeginCopy(CopyText(table));
+    m_line.BeginCopy(CopyStatement(table));
 }
 
 void PostgresSink::Add(const Statement& from)
@@ -70,7 +70,7 @@ void PostgresSink::Add(const Statement& from)
         if (place > 0) {
             m_lines += '\t';
         }
-        std::visit(Writer{m_lines}, FitInto(column, from, place++));
+        std::visit(CopyField{m_lines}, FitInto(column, from, place++));
     }
     m_lines += '\n';
     if (m_lines.size() >= kPortion) {

@@ -1,6 +1,6 @@
 #include "store/postgres/PostgresStatement.h"
 
-#include "platform/Text.h"
+#include "platform/text/Text.h"
 #include "store/engine/RecordSetBuilder.h"
 #include "store/engine/StoredDate.h"
 #include "store/postgres/PostgresEngine.h"
@@ -72,7 +72,7 @@ bool IsTrue(std::string_view text)
 }
 
 // One kind of value each, as the server reads it.
-struct Writer
+struct ParameterText
 {
     ServerValue operator()(std::monostate) const { return std::nullopt; }
     ServerValue operator()(bool value) const { return value ? "1" : "0"; }
@@ -129,7 +129,7 @@ void PostgresStatement::Bind(const std::string& name, const Value& value)
         throw ServerFailure(engine::Parameter, "there is no parameter " + name);
     }
     const auto index = static_cast<std::size_t>(found - m_text.parameters.begin());
-    m_values[index] = std::visit(Writer{}, value.Get());
+    m_values[index] = std::visit(ParameterText{}, value.Get());
     m_assigned[index] = true;
 }
 

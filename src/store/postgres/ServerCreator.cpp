@@ -2,8 +2,8 @@
 
 #include "platform/Failure.h"
 #include "store/engine/RecordSet.h"
+#include "store/engine/Schema.h"
 #include "store/postgres/PostgresEngine.h"
-#include "store/Schema.h"
 
 namespace ptk {
 

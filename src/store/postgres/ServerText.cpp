@@ -1,7 +1,7 @@
 #include "store/postgres/ServerText.h"
 
-#include "platform/Characters.h"
-#include "platform/Text.h"
+#include "platform/text/Characters.h"
+#include "platform/text/Text.h"
 #include "store/engine/Lexer.h"
 
 #include <algorithm>

@@ -1,10 +1,10 @@
 #include "store/sqlite/EditTrail.h"
 
-#include "platform/DataText.h"
 #include "platform/Failure.h"
+#include "platform/text/DataText.h"
 #include "store/engine/Engine.h"
 #include "store/engine/RecordSet.h"
-#include "store/Schema.h"
+#include "store/engine/Schema.h"
 
 #include <fmt/format.h>
 

@@ -226,9 +226,12 @@ std::shared_ptr<RecordSet> SqliteEngine::CheckIntegrity()
     return Patiently("PRAGMA integrity_check");
 }
 
-std::shared_ptr<RecordSet> SqliteEngine::CheckQuickly()
+void SqliteEngine::RefuseDamage()
 {
-    return Patiently("PRAGMA quick_check(1)");
+    const auto found = Patiently("PRAGMA quick_check(1)");
+    if (found->EndOfFile() || found->TextAt(0) != "ok") {
+        throw EngineFailure(SQLITE_CORRUPT);
+    }
 }
 
 } // namespace ptk

@@ -25,7 +25,7 @@ std::string InsertText(const StoredTable& table)
     return fmt::format("INSERT INTO {} ({}) VALUES ({})", table.name, names, values);
 }
 
-struct Binder
+struct ColumnBinder
 {
     sqlite3_stmt* statement;
     int index; // from 1
@@ -66,7 +66,7 @@ void SqliteSink::Add(const Statement& from)
     int place = 0;
     for (const StoredColumn& column : m_table.columns) {
         const FitValue value = FitInto(column, from, place);
-        RaiseUnlessDone(m_database, std::visit(Binder{m_insert.get(), ++place}, value));
+        RaiseUnlessDone(m_database, std::visit(ColumnBinder{m_insert.get(), ++place}, value));
     }
     const int code = sqlite3_step(m_insert.get());
     if (code != SQLITE_DONE) {

@@ -1,6 +1,6 @@
 #include "store/sqlite/SqliteStatement.h"
 
-#include "platform/Text.h"
+#include "platform/text/Text.h"
 #include "store/engine/RecordSetBuilder.h"
 #include "store/engine/StoredDate.h"
 #include "store/sqlite/EngineFailure.h"
@@ -47,7 +47,7 @@ sqlite3_stmt* PrepareOnly(sqlite3* database, std::string_view sql)
 }
 
 // Binds one kind of value each.
-struct Binder
+struct ParameterBinder
 {
     sqlite3_stmt* statement;
     int index;
@@ -143,7 +143,7 @@ void SqliteStatement::Bind(const std::string& name, const Value& value)
     if (index == 0) {
         throw EngineFailure(SQLITE_RANGE, "there is no parameter " + name);
     }
-    RaiseUnlessDone(m_database, std::visit(Binder{m_statement.get(), index}, value.Get()));
+    RaiseUnlessDone(m_database, std::visit(ParameterBinder{m_statement.get(), index}, value.Get()));
     m_assigned[static_cast<std::size_t>(index) - 1] = true;
 }
 

@@ -1,8 +1,8 @@
 #include "ui/widgets/DateCombo.h"
 
-#include "platform/Clock.h"
-#include "platform/Text.h"
-#include "platform/TypedTime.h"
+#include "platform/system/Clock.h"
+#include "platform/text/Text.h"
+#include "platform/text/TypedTime.h"
 
 #include <algorithm>
 #include <QCalendarWidget>

@@ -1,7 +1,7 @@
 // A box for a date: free text with a calendar to pick from.
 #pragma once
 
-#include "platform/DateTime.h"
+#include "platform/text/DateTime.h"
 
 #include <optional>
 #include <QComboBox>

@@ -1,7 +1,7 @@
 #include "ui/widgets/DateTimeBox.h"
 
-#include "platform/Clock.h"
-#include "platform/Text.h"
+#include "platform/system/Clock.h"
+#include "platform/text/Text.h"
 
 #include <QApplication>
 #include <QFocusEvent>
@@ -13,6 +13,11 @@ namespace {
 constexpr auto kDateFormat = "mm/dd/yyyy";
 
 } // namespace
+
+QString TimeText(DateTime moment)
+{
+    return QString::fromStdString(GeneralText(DateTime(DateTime().Date(), moment.Time())));
+}
 
 DateTimeBox::DateTimeBox(QWidget* parent) : QLineEdit(parent)
 {

@@ -1,7 +1,7 @@
 // A box for a time of day, or for a date: free text that is put right on leaving.
 #pragma once
 
-#include "platform/TypedTime.h"
+#include "platform/text/TypedTime.h"
 
 #include <optional>
 #include <QLineEdit>
@@ -10,6 +10,9 @@
 namespace ptk {
 
 class Clock;
+
+// The time of a moment as general text, as time boxes are filled with it.
+[[nodiscard]] QString TimeText(DateTime moment);
 
 // In time mode, the first one, 830, 0830, 8.30, 8:30, 830a, 5p and 17 become a time in the display format; in date mode dates are taken as
 // a DateCombo takes them. What is neither stays as it was typed. Empty is allowed.

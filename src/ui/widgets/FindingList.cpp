@@ -1,6 +1,6 @@
 #include "ui/widgets/FindingList.h"
 
-#include "office/CardFindings.h"
+#include "office/card/CardFindings.h"
 #include "ui/widgets/ThemeIcon.h"
 
 #include <QKeyEvent>

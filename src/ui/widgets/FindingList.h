@@ -1,7 +1,7 @@
 // A list of the sentences of findings.
 #pragma once
 
-#include "model/Finding.h"
+#include "model/check/Finding.h"
 
 #include <QAbstractListModel>
 #include <QListView>

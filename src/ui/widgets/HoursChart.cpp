@@ -12,7 +12,7 @@ namespace ptk {
 
 namespace {
 
-constexpr auto kName = "Hours per day";
+constexpr auto kChartName = "Hours per day";
 constexpr auto kLegendText = "Bars: regular hours filled, overtime hatched, a line at 8 hours; work weeks with all their days";
 constexpr std::array<const char*, 3> kLegend{"Regular", "Overtime", "8 hours"};
 
@@ -196,7 +196,7 @@ HoursChart::HoursChart(QWidget* parent) : QListView(parent)
     auto* columns = new ColumnsModel(this);
     setModel(columns);
     setItemDelegate(new ColumnPainter(*columns, *this));
-    setAccessibleName(kName);
+    setAccessibleName(kChartName);
     setAccessibleDescription(kLegendText);
     setFlow(QListView::LeftToRight);
     setWrapping(false);

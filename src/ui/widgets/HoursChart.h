@@ -1,7 +1,7 @@
 // Hours per day as bars with a line at 8 hours, and what the work weeks come to.
 #pragma once
 
-#include "office/HoursColumns.h"
+#include "office/card/HoursColumns.h"
 
 #include <QListView>
 #include <vector>

@@ -1,8 +1,8 @@
 // Three windows on one server: a payday on which everybody sees what the others store, and nobody loses anything.
 #include "gui/GuiFixture.h"
-#include "store/BulkWriter.h"
 #include "store/CJetDB.h"
 #include "store/engine/RecordSet.h"
+#include "store/whole/BulkWriter.h"
 #include "support/ServerDatabase.h"
 #include "ui/widgets/NoticeLine.h"
 

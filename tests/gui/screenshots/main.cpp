@@ -1,12 +1,12 @@
 // Pictures of every window for a person to look at: ui_screenshots OUTDIR. Each at its smallest, first and a large size, light and dark.
 #include "gui/GuiProgram.h"
-#include "office/SampleBusiness.h"
-#include "store/BulkWriter.h"
+#include "office/business/SampleBusiness.h"
 #include "store/CJetDB.h"
+#include "store/whole/BulkWriter.h"
 #include "support/OldDatabase.h"
-#include "ui/dialogs/FFirstStart.h"
-#include "ui/dialogs/FImport.h"
-#include "ui/dialogs/FServerPassword.h"
+#include "ui/login/FServerPassword.h"
+#include "ui/safety/FFirstStart.h"
+#include "ui/safety/FImport.h"
 
 #include <cstdio>
 #include <QSettings>

@@ -1,0 +1,170 @@
+#include "model/check/FindingText.h"
+
+#include "model/check/CardCheck.h"
+#include "platform/text/Text.h"
+
+#include <algorithm>
+#include <fmt/format.h>
+
+namespace ptk {
+
+namespace {
+
+constexpr std::size_t kMostShown = 40; // bytes of a value that cannot be read
+
+std::string Moment(DateTime value)
+{
+    return FormatDateTime(value, "mm/dd/yyyy hh:mm AM/PM");
+}
+
+std::string Day(DateTime value)
+{
+    return FormatDateTime(value, "mm/dd/yyyy");
+}
+
+std::string Span(const Punch& punch)
+{
+    return fmt::format("from {} to {}", Moment(*punch.start), Moment(*punch.end));
+}
+
+bool ContinuesCharacter(char byte)
+{
+    return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
+}
+
+bool IsControl(char byte)
+{
+    return static_cast<unsigned char>(byte) < 0x20 || byte == 0x7F;
+}
+
+std::string What(const char* name, const std::string& shown)
+{
+    return shown.empty() ? fmt::format("no {}", name) : fmt::format("the {} {}", name, shown);
+}
+
+} // namespace
+
+std::string HoursAndMinutes(std::int64_t minutes)
+{
+    const std::int64_t size = minutes < 0 ? -minutes : minutes;
+    const std::string rest = std::to_string(size % 60);
+    return (minutes < 0 ? "-" : "") + std::to_string(size / 60) + (rest.size() == 1 ? ":0" : ":") + rest;
+}
+
+// A foreign value may be long: its beginning tells enough.
+std::string QuotedValue(std::string_view text)
+{
+    std::size_t length = std::min(text.size(), kMostShown);
+    while (length > 0 && length < text.size() && ContinuesCharacter(text[length])) {
+        --length;
+    }
+    std::string shown(text.substr(0, length));
+    std::replace_if(shown.begin(), shown.end(), IsControl, '?');
+    return '"' + shown + (length < text.size() ? "...\"" : "\"");
+}
+
+// The time that can be read says where to look for the record.
+std::string UnreadableText(const Punch& punch)
+{
+    if (!IsSet(punch.start) && !punch.end) {
+        return fmt::format("Record {} cannot be read: it has {} and {}.", punch.id, What("start", punch.startText),
+                           What("end", punch.endText));
+    }
+    if (!punch.end) {
+        return fmt::format("Record {}, which begins on {}, cannot be read: it has {}.", punch.id, Moment(*punch.start),
+                           What("end", punch.endText));
+    }
+    const std::string where = IsSet(punch.end) ? fmt::format(", which ends on {},", Moment(*punch.end)) : "";
+    return fmt::format("Record {}{} cannot be read: it has {}.", punch.id, where, What("start", punch.startText));
+}
+
+std::string ShiftText(FindingKind kind, const Punch& punch, std::int32_t longShiftHours)
+{
+    const std::string start = Moment(*punch.start);
+    switch (kind) {
+    case FindingKind::Open:
+        return fmt::format("The shift that began on {} has no end and counts nothing.", start);
+    case FindingKind::ClockedIn:
+        return fmt::format("Still clocked in since {}; the running shift counts nothing yet.", start);
+    case FindingKind::OpenLater:
+        return fmt::format("The shift that began on {} has no end and belongs to a later period.", start);
+    case FindingKind::Backward:
+        return fmt::format("The shift that began on {} ends before that, on {}, and counts nothing.", start, Moment(*punch.end));
+    case FindingKind::Empty:
+        return fmt::format("The shift of {} ends in the minute in which it starts and counts nothing.", start);
+    case FindingKind::Long:
+        return fmt::format("The shift {} is {} hours long, more than {}.", Span(punch), HoursAndMinutes(punch.Minutes()), longShiftHours);
+    case FindingKind::Future:
+        return fmt::format("The shift of {} starts in the future.", start);
+    case FindingKind::CrossesEnd:
+        return fmt::format("The shift {} ({} hours) goes on after the period: neither this card nor the next has it.", Span(punch),
+                           HoursAndMinutes(punch.Minutes()));
+    case FindingKind::CrossesStart:
+        return fmt::format("The shift {} ({} hours) began before the period: neither this card nor the one before has it.", Span(punch),
+                           HoursAndMinutes(punch.Minutes()));
+    default:
+        return {};
+    }
+}
+
+std::string NotEmployedText(const Punch& punch, DateTime hired, DateTime released)
+{
+    if (!hired.IsZero() && DaysBetween(*punch.start, hired) > 0) {
+        return fmt::format("The shift of {} starts before the hire date {}.", Moment(*punch.start), Day(hired));
+    }
+    return fmt::format("The shift of {} starts after the release date {}.", Moment(*punch.start), Day(released));
+}
+
+std::string FindingSummary(const CardCheck& check)
+{
+    std::string summary;
+    const auto add = [&summary](std::int32_t count, const char* what) {
+        if (count > 0) {
+            summary += fmt::format("{}{} {}{}", summary.empty() ? "" : ", ", count, what, count == 1 ? "" : "s");
+        }
+    };
+    add(check.problems, NameOf(Severity::Problem).data());
+    add(check.notices, NameOf(Severity::Notice).data());
+    return summary.empty() ? "No problems or notices" : summary;
+}
+
+std::string OverlapText(const Finding& group)
+{
+    return fmt::format("{} shifts between {} and {} overlap: {} hours lie in more than one of them.", group.records.size(),
+                       Moment(*group.from), Moment(*group.to), HoursAndMinutes(group.minutes));
+}
+
+std::string SameStartText(const Finding& group)
+{
+    return fmt::format("{} records start at {}, and not each of them has an end after it.", group.records.size(), Moment(*group.from));
+}
+
+std::string DeductionText(const WorkDay& day, std::int64_t deducted)
+{
+    return fmt::format("On {} the automatic deduction takes {} hours off {} hours worked.", Day(day.day), HoursAndMinutes(deducted),
+                       HoursAndMinutes(day.minutes));
+}
+
+std::string LongDayText(const WorkDay& day)
+{
+    return fmt::format("The shifts of {} come to {} hours, more than a day has.", Day(day.day), HoursAndMinutes(day.minutes));
+}
+
+std::string NoRateText(std::int64_t regularWithout, std::int64_t overtimeWithout)
+{
+    if (overtimeWithout == 0) {
+        return fmt::format("{} regular hours have no pay rate.", HoursAndMinutes(regularWithout));
+    }
+    if (regularWithout == 0) {
+        return fmt::format("{} overtime hours have no overtime rate.", HoursAndMinutes(overtimeWithout));
+    }
+    return fmt::format("{} regular and {} overtime hours have no rate.", HoursAndMinutes(regularWithout), HoursAndMinutes(overtimeWithout));
+}
+
+std::string WeekText(const WorkWeek& week)
+{
+    return fmt::format("The week from {} has {} hours, {} above 40; the daily rule pays {} of them as overtime.", Day(week.from),
+                       HoursAndMinutes(week.minutes), HoursAndMinutes(week.Above40()), HoursAndMinutes(week.paidAsOvertime));
+}
+
+} // namespace ptk

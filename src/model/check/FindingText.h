@@ -1,0 +1,43 @@
+// The sentences of the findings: the program's only wording for these matters, in windows, on the console and in data files.
+#pragma once
+
+#include "model/check/Finding.h"
+#include "model/check/Punch.h"
+#include "model/check/WorkWeeks.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace ptk {
+
+struct CardCheck;
+
+// "7:05", "-0:30".
+[[nodiscard]] std::string HoursAndMinutes(std::int64_t minutes);
+
+// Of a single shift, readable, and of a kind that needs no more than the shift and the limit.
+[[nodiscard]] std::string ShiftText(FindingKind kind, const Punch& punch, std::int32_t longShiftHours);
+
+// zero: that date is not set.
+[[nodiscard]] std::string NotEmployedText(const Punch& punch, DateTime hired, DateTime released);
+
+[[nodiscard]] std::string UnreadableText(const Punch& punch);
+
+// How a text that stands where a time belongs is shown: in quotes, cut where it is long, control characters as question marks.
+[[nodiscard]] std::string QuotedValue(std::string_view text);
+
+// "2 problems, 1 notice"; "No problems or notices" where nothing was found.
+[[nodiscard]] std::string FindingSummary(const CardCheck& check);
+
+[[nodiscard]] std::string OverlapText(const Finding& group);
+[[nodiscard]] std::string SameStartText(const Finding& group);
+[[nodiscard]] std::string DeductionText(const WorkDay& day, std::int64_t deducted);
+[[nodiscard]] std::string LongDayText(const WorkDay& day);
+
+// Minutes; 0: that rate is not missing.
+[[nodiscard]] std::string NoRateText(std::int64_t regularWithout, std::int64_t overtimeWithout);
+
+[[nodiscard]] std::string WeekText(const WorkWeek& week);
+
+} // namespace ptk

@@ -1,0 +1,118 @@
+#include "model/check/PunchReader.h"
+
+#include "model/check/FindingText.h"
+#include "model/check/WorkWeeks.h"
+#include "platform/Failure.h"
+#include "store/CJetDB.h"
+#include "store/engine/Statement.h"
+#include "store/engine/StoredDate.h"
+#include "store/PunchSQL.h"
+
+#include <algorithm>
+#include <tuple>
+
+namespace ptk {
+
+namespace {
+
+// The columns of both queries.
+constexpr int kId = 0;
+constexpr int kStart = 1;
+constexpr int kEnd = 2;
+
+constexpr std::size_t kUsualCount = 32; // the shifts of three weeks
+
+std::string ShownValue(const Statement& row, int column)
+{
+    switch (row.KindAt(column)) {
+    case CellKind::Null:
+        return "";
+    case CellKind::Text:
+        return QuotedValue(row.TextAt(column));
+    case CellKind::Number:
+        return std::string(row.TextAt(column));
+    case CellKind::Bytes:
+        break;
+    }
+    return "a value of bytes";
+}
+
+// By start and end; a row that both queries answered once.
+void Order(Punches& punches)
+{
+    const auto key = [](const Punch& punch) { return std::tie(punch.start, punch.end, punch.id); };
+    const auto notBehind = [&](const Punch& left, const Punch& right) { return key(left) >= key(right); };
+    if (std::adjacent_find(punches.begin(), punches.end(), notBehind) == punches.end()) {
+        return;
+    }
+    std::sort(punches.begin(), punches.end(), [&](const Punch& left, const Punch& right) { return key(left) < key(right); });
+    const auto same = [](const Punch& left, const Punch& right) { return left.id == right.id; };
+    punches.erase(std::unique(punches.begin(), punches.end(), same), punches.end());
+}
+
+// The last second of a day.
+DateTime LastSecond(DateTime day)
+{
+    return DateTime::FromSeconds(day.Seconds() + DateTime::kSecondsPerDay - 1);
+}
+
+// Shifts of up to a day reach into the first week from the day before it.
+DateTime DayBefore(DateTime day)
+{
+    static const DateTime firstDay(CalendarDate{100, 1, 1});
+    return day > firstDay ? day.AddDays(-1) : day;
+}
+
+} // namespace
+
+PunchReader::PunchReader(CJetDB& database, const PayPeriod& period, std::int32_t firstWeekday)
+    : m_from(period.from), m_end(EndOfDay(period.to))
+{
+    RequireOpen(database);
+    m_unusual = RequireSelect(database, punchsql::Unusual(database.Words()));
+    m_starting = RequireSelect(database, punchsql::kStarting);
+    m_starting->Bind("first", DayBefore(WeekStart(period.from, firstWeekday)));
+    // A shift without length at the card's last moment is on the card, though it begins behind the period and perhaps its weeks.
+    m_starting->Bind("last", std::max(LastSecond(WeekLast(period.to, firstWeekday)), m_end));
+}
+
+PunchReader::~PunchReader() = default;
+
+// Of a row that cannot be read: the card's fetch compares the values as they stand.
+bool PunchReader::IsFetched(const Statement& row) const
+{
+    const CellKind start = row.KindAt(kStart);
+    const CellKind end = row.KindAt(kEnd);
+    const bool startsInTime = start == CellKind::Bytes || (start == CellKind::Text && row.TextAt(kStart) >= StoredText(m_from));
+    return startsInTime && (end == CellKind::Number || (end == CellKind::Text && row.TextAt(kEnd) <= StoredText(m_end)));
+}
+
+Punch PunchReader::ReadPunch(const Statement& row) const
+{
+    Punch punch;
+    punch.id = row.Int64At(kId);
+    punch.start = row.StoredDateAt(kStart);
+    punch.end = row.StoredDateAt(kEnd);
+    punch.fetched = punch.start && punch.end ? *punch.start >= m_from && *punch.end <= m_end : IsFetched(row);
+    if (!punch.start) {
+        punch.startText = ShownValue(row, kStart);
+    }
+    if (!punch.end) {
+        punch.endText = ShownValue(row, kEnd);
+    }
+    return punch;
+}
+
+Punches PunchReader::Read(std::int32_t employeeID)
+{
+    Punches punches;
+    punches.reserve(kUsualCount);
+    for (Statement* statement : {m_unusual.get(), m_starting.get()}) {
+        statement->Bind("employee", employeeID);
+        statement->ForEachRow([&] { punches.push_back(ReadPunch(*statement)); });
+    }
+    Order(punches);
+    return punches;
+}
+
+} // namespace ptk

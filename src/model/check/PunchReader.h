@@ -1,0 +1,39 @@
+// Reads the time records that the check of a card looks at, as they stand in the file.
+#pragma once
+
+#include "model/check/Punch.h"
+#include "model/PayPeriod.h"
+
+#include <cstdint>
+#include <memory>
+
+namespace ptk {
+
+class CJetDB;
+class Statement;
+
+// For the cards of one period, one employee after the other. What it costs does not grow with the history before and after.
+class PunchReader
+{
+public:
+    // firstWeekday: of the work weeks, 0 Sunday to 6 Saturday. Raises what opening or reading the file raises.
+    // REQUIRES: a CJetDB::Hold on the database outlives the reader, so that card and check are of the same moment.
+    PunchReader(CJetDB& database, const PayPeriod& period, std::int32_t firstWeekday);
+    ~PunchReader();
+    PunchReader(const PunchReader&) = delete;
+    PunchReader& operator=(const PunchReader&) = delete;
+
+    // All that CheckCard needs, by start, end and number.
+    Punches Read(std::int32_t employeeID);
+
+private:
+    [[nodiscard]] bool IsFetched(const Statement& row) const;
+    [[nodiscard]] Punch ReadPunch(const Statement& row) const;
+
+    DateTime m_from; // the bounds of the card's fetch, both included
+    DateTime m_end;
+    std::unique_ptr<Statement> m_starting;
+    std::unique_ptr<Statement> m_unusual;
+};
+
+} // namespace ptk

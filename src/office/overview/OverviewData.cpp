@@ -1,0 +1,126 @@
+// The overview as CSV and JSON. Figures are the texts that a time card shows, so that no reader rounds them again.
+#include "office/overview/Overview.h"
+#include "office/overview/OverviewTexts.h"
+#include "platform/text/DataText.h"
+#include "platform/text/Text.h"
+
+#include <fmt/format.h>
+#include <fmt/ranges.h>
+#include <iterator>
+
+namespace ptk {
+
+namespace {
+
+constexpr auto kCsvHeading = "Number,ID,Name,Regular,Overtime,Gross,Longest week,Clocked in,Problems,Notices,Kind,Severity,Records,Minutes,"
+                             "From,To,Text\r\n";
+
+std::string Day(DateTime day)
+{
+    return FormatDateTime(day, "yyyy-mm-dd");
+}
+
+std::string Moment(DateTime moment)
+{
+    return FormatDateTime(moment, "yyyy-mm-dd") + 'T' + FormatDateTime(moment, "hh:nn:ss");
+}
+
+std::string Moment(const std::optional<DateTime>& moment)
+{
+    return moment ? Moment(*moment) : "";
+}
+
+std::string JsonMoment(const std::optional<DateTime>& moment)
+{
+    return moment ? '"' + Moment(*moment) + '"' : "null";
+}
+
+std::string JsonFigures(const std::optional<CardFigures>& figures)
+{
+    if (!figures) {
+        return R"("regular":null,"overtime":null,"gross":null)";
+    }
+    return fmt::format(R"("regular":"{}","overtime":"{}","gross":"{}")", figures->regular, figures->overtime, figures->gross);
+}
+
+std::string Json(const Finding& finding)
+{
+    return fmt::format(R"({{"kind":"{}","severity":"{}","records":[{}],"minutes":{},"from":{},"to":{},"text":{}}})", NameOf(finding.kind),
+                       NameOf(SeverityOf(finding.kind)), fmt::join(finding.records, ","), finding.minutes, JsonMoment(finding.from),
+                       JsonMoment(finding.to), JsonText(finding.text));
+}
+
+std::string Json(const WorkWeek& week)
+{
+    return fmt::format(R"({{"from":"{}","hours":"{}","above40":"{}","paidAsOvertime":"{}"}})", Day(week.from), HoursText(week.minutes),
+                       HoursText(week.Above40()), HoursText(week.paidAsOvertime));
+}
+
+template <typename Items>
+std::string JsonList(const Items& items)
+{
+    std::string list;
+    for (const auto& item : items) {
+        list += (list.empty() ? "" : ",") + Json(item);
+    }
+    return '[' + list + ']';
+}
+
+std::string Json(const OverviewRow& row)
+{
+    const CEmployee& employee = *row.employee;
+    return fmt::format(R"({{"number":{},"id":{},"name":{},{},"longestWeek":"{}","clockedIn":{},"problems":{},"notices":{},)"
+                       R"("findings":{},"weeks":{}}})",
+                       employee.EmployeeNumber(), employee.EmployeeID(), JsonText(employee.DisplayName()), JsonFigures(row.figures),
+                       row.LongestWeek(), row.check.clockedIn, row.check.problems, row.check.notices, JsonList(row.check.findings),
+                       JsonList(row.check.weeks));
+}
+
+// Number, ID and name begin every line of an employee.
+std::string CsvEmployee(const CEmployee& employee)
+{
+    return fmt::format("{},{},{}", employee.EmployeeNumber(), employee.EmployeeID(), CsvText(employee.DisplayName()));
+}
+
+std::string Csv(const OverviewRow& row)
+{
+    const CardFigures figures = row.figures.value_or(CardFigures());
+    return fmt::format("{},{},{},{},{},{},{},{},,,,,,,\r\n", CsvEmployee(*row.employee), figures.regular, figures.overtime, figures.gross,
+                       row.LongestWeek(), row.check.clockedIn, row.check.problems, row.check.notices);
+}
+
+std::string Csv(const CEmployee& employee, const Finding& finding)
+{
+    return fmt::format("{},,,,,,,,{},{},{},{},{},{},{}\r\n", CsvEmployee(employee), NameOf(finding.kind), NameOf(SeverityOf(finding.kind)),
+                       fmt::join(finding.records, " "), finding.minutes, Moment(finding.from), Moment(finding.to), CsvText(finding.text));
+}
+
+} // namespace
+
+std::string OverviewCsv(const Overview& overview)
+{
+    std::string text = kCsvHeading;
+    for (const OverviewRow& row : overview.rows) {
+        text += Csv(row);
+        for (const Finding& finding : row.check.findings) {
+            text += Csv(*row.employee, finding);
+        }
+    }
+    return text;
+}
+
+// One line an employee.
+std::string OverviewJson(const Overview& overview)
+{
+    std::string text = fmt::format(R"({{"from":"{}","to":"{}","made":"{}","employees":[)", Day(overview.period.from),
+                                   Day(overview.period.to), Moment(overview.made));
+    for (const OverviewRow& row : overview.rows) {
+        text += (&row == overview.rows.data() ? "\r\n" : ",\r\n") + Json(row);
+    }
+    const OverviewTotals totals = TotalsOf(overview.rows);
+    fmt::format_to(std::back_inserter(text), "\r\n],\"totals\":{{{},\"clockedIn\":{},\"problems\":{},\"notices\":{}}}}}\r\n",
+                   JsonFigures(totals.figures), totals.clockedIn, totals.problems, totals.notices);
+    return text;
+}
+
+} // namespace ptk

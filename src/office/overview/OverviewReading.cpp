@@ -1,0 +1,26 @@
+#include "office/overview/OverviewReading.h"
+
+#include "store/CJetDB.h"
+
+#include <utility>
+
+namespace ptk {
+
+OverviewReading::OverviewReading(std::shared_ptr<CJetDB> database, Employees employees, const PayPeriod& period, DateTime now)
+    : m_database(std::move(database)), m_employees(std::move(employees)), m_overview{period, now, {}, {}}
+{
+}
+
+void OverviewReading::ReadOn(const std::function<bool()>& goOn)
+{
+    const CJetDB::Hold hold(m_database);
+    if (!m_hasLimits) {
+        m_overview.limits = LoadCheckLimits(m_database);
+        m_hasLimits = true;
+        m_overview.rows.reserve(m_employees.size());
+    }
+    const std::span<const std::shared_ptr<CEmployee>> left = std::span(m_employees).subspan(m_overview.rows.size());
+    ReadOverview(m_overview, m_database, left, [&](const OverviewRow&) { return goOn(); });
+}
+
+} // namespace ptk

@@ -1,0 +1,142 @@
+#include "office/overview/OverviewTable.h"
+
+#include "office/card/CardTexts.h"
+#include "platform/text/DataText.h"
+#include "platform/text/Text.h"
+
+#include <algorithm>
+#include <fmt/format.h>
+#include <tuple>
+
+namespace ptk {
+
+namespace {
+
+constexpr auto kNotReadable = "not readable";
+constexpr auto kClockedIn = "yes";
+constexpr auto kMoment = "mm/dd/yyyy hh:mm AM/PM";
+
+// A name is one line here, whatever stands in the database.
+std::string OneLine(std::string text)
+{
+    std::replace_if(
+        text.begin(), text.end(), [](char c) { return c == '\r' || c == '\n' || c == '\t'; }, ' ');
+    return text;
+}
+
+std::optional<double> Figure(const OverviewRow& row, std::string CardFigures::*figure)
+{
+    return row.figures ? std::optional(ToDouble((*row.figures).*figure)) : std::nullopt;
+}
+
+bool HasProblems(const OverviewRow& row)
+{
+    return row.check.problems > 0;
+}
+
+std::int64_t ProblemCount(const std::vector<OverviewRow>& rows)
+{
+    return std::count_if(rows.begin(), rows.end(), HasProblems);
+}
+
+} // namespace
+
+OverviewCells OverviewHeading()
+{
+    return {"Name", "Regular", "Overtime", "Gross Pay", "Longest Week", "Problems", "Notices", "Clocked In"};
+}
+
+OverviewCells CellsOf(const OverviewRow& row)
+{
+    const CardFigures figures = row.figures.value_or(CardFigures{"", "", kNotReadable});
+    return {OneLine(row.employee->DisplayName()),
+            figures.regular,
+            figures.overtime,
+            figures.gross,
+            row.LongestWeek(),
+            std::to_string(row.check.problems),
+            std::to_string(row.check.notices),
+            row.check.clockedIn ? kClockedIn : ""};
+}
+
+OverviewCells TotalCells(const std::vector<OverviewRow>& rows, bool onlyProblems)
+{
+    const OverviewTotals totals = TotalsOf(rows, onlyProblems);
+    const std::string shown = onlyProblems ? fmt::format("{} of ", ProblemCount(rows)) : std::string();
+    return {fmt::format("Total ({}{})", shown, rows.size()),
+            totals.figures.regular,
+            totals.figures.overtime,
+            totals.figures.gross,
+            "",
+            std::to_string(totals.problems),
+            std::to_string(totals.notices),
+            std::to_string(totals.clockedIn)};
+}
+
+bool StandsBefore(const std::vector<OverviewRow>& rows, std::size_t left, std::size_t right, OverviewColumn column)
+{
+    const OverviewRow& one = rows.at(left);
+    const OverviewRow& other = rows.at(right);
+    switch (column) {
+    case OverviewColumn::Name:
+        break;
+    case OverviewColumn::Regular:
+        return Figure(one, &CardFigures::regular) < Figure(other, &CardFigures::regular);
+    case OverviewColumn::Overtime:
+        return Figure(one, &CardFigures::overtime) < Figure(other, &CardFigures::overtime);
+    case OverviewColumn::Gross:
+        return Figure(one, &CardFigures::gross) < Figure(other, &CardFigures::gross);
+    case OverviewColumn::LongestWeek:
+        return one.check.LongestWeek() < other.check.LongestWeek();
+    case OverviewColumn::Problems:
+        return std::tie(one.check.problems, one.check.notices) < std::tie(other.check.problems, other.check.notices);
+    case OverviewColumn::Notices:
+        return one.check.notices < other.check.notices;
+    case OverviewColumn::ClockedIn:
+        return one.check.clockedIn < other.check.clockedIn;
+    }
+    return left < right;
+}
+
+std::string TabSeparated(const std::vector<OverviewCells>& lines)
+{
+    std::string text;
+    for (const OverviewCells& cells : lines) {
+        text += NoFormula(cells.front()); // the figures are plain numbers
+        for (std::size_t i = 1; i < cells.size(); ++i) {
+            text += '\t' + cells.at(i);
+        }
+        text += '\n';
+    }
+    return text;
+}
+
+std::string OverviewNews(const Overview& overview, std::size_t offered)
+{
+    const std::size_t read = overview.rows.size();
+    const std::int64_t problems = ProblemCount(overview.rows);
+    const std::string made = FormatDateTime(overview.made, kMoment);
+    const char* have = problems == 1 ? "has" : "have";
+    if (offered == 0) {
+        return fmt::format("Read {}: there are no employees to show.", made);
+    }
+    if (read < offered) {
+        return fmt::format("Stopped after {} of {} employees, read {}: {} of them {} problems.", read, offered, made, problems, have);
+    }
+    return fmt::format("Read {}: {} of {} {} problems.", made, problems, CountText(static_cast<std::int64_t>(read), "employee"), have);
+}
+
+std::string ReadingText(std::size_t read, std::size_t offered)
+{
+    return fmt::format("Reading: {} of {} employees", read, offered);
+}
+
+PayPeriod OverviewPeriod(const std::optional<PayPeriod>& timecards, DateTime today, std::int16_t periodLength)
+{
+    if (timecards && timecards->from <= timecards->to && timecards->from != today) {
+        return *timecards;
+    }
+    return DefaultPayPeriod(today, periodLength);
+}
+
+} // namespace ptk

@@ -1,0 +1,54 @@
+// The payday overview as a table: what its cells say, how its rows are ordered, and how they are copied.
+#pragma once
+
+#include "office/overview/Overview.h"
+
+#include <array>
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace ptk {
+
+enum class OverviewColumn
+{
+    Name,
+    Regular,
+    Overtime,
+    Gross,
+    LongestWeek,
+    Problems,
+    Notices,
+    ClockedIn
+};
+
+inline constexpr std::size_t kOverviewColumns = 8;
+using OverviewCells = std::array<std::string, kOverviewColumns>; // by OverviewColumn
+
+[[nodiscard]] OverviewCells OverviewHeading();
+
+// Without figures "not readable" stands in place of the gross pay.
+[[nodiscard]] OverviewCells CellsOf(const OverviewRow& row);
+
+// Of the rows that are shown, all or those with problems alone, and how many they are: "Total (3 of 11)".
+[[nodiscard]] OverviewCells TotalCells(const std::vector<OverviewRow>& rows, bool onlyProblems);
+
+// Whether the row at `left` stands before the one at `right` in ascending order; by name in the order of all lists of employees, by
+// problems also by notices. What cannot be read is less than any figure.
+[[nodiscard]] bool StandsBefore(const std::vector<OverviewRow>& rows, std::size_t left, std::size_t right, OverviewColumn column);
+
+// Each line ends in LF; no cell holds a tab or a line end, and none is a formula to a spreadsheet.
+[[nodiscard]] std::string TabSeparated(const std::vector<OverviewCells>& lines);
+
+// "Read 03/05/2003 08:05 AM: 3 of 12 employees have problems." Where the reading was ended before, of how many were read.
+[[nodiscard]] std::string OverviewNews(const Overview& overview, std::size_t offered);
+
+// "Reading: 120 of 1000 employees".
+[[nodiscard]] std::string ReadingText(std::size_t read, std::size_t offered);
+
+// The period that the overview opens with: the one of the Timecards page, where it holds one, unless that only begins today, as it does
+// when the program starts; then the running pay period. Raises Failure 6 when that leaves the calendar.
+[[nodiscard]] PayPeriod OverviewPeriod(const std::optional<PayPeriod>& timecards, DateTime today, std::int16_t periodLength);
+
+} // namespace ptk

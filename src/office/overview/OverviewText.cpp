@@ -1,0 +1,167 @@
+#include "office/overview/OverviewTable.h"
+#include "office/overview/OverviewTexts.h"
+#include "platform/text/Text.h"
+#include "reports/forms/ReportDocument.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+
+namespace ptk {
+
+namespace {
+
+// What the table says, once.
+constexpr auto kTitle = "Payday overview";
+constexpr auto kNobody = "There are no employees to show.";
+constexpr auto kTotal = "Total";
+constexpr auto kLineEnd = "\r\n";
+
+using Cells = OverviewCells;
+const Cells kHeading{"Name", "Regular", "Overtime", "Gross", "Longest week", "Problems", "Notices", "Clocked in"};
+
+std::string ShortDay(DateTime day)
+{
+    return FormatDateTime(day, "mm/dd/yyyy");
+}
+
+Cells CellsOf(const OverviewTotals& totals)
+{
+    return {kTotal, totals.figures.regular,          totals.figures.overtime,        totals.figures.gross,
+            "",     std::to_string(totals.problems), std::to_string(totals.notices), std::to_string(totals.clockedIn)};
+}
+
+// As wide as their widest cell; names to the left, figures to the right.
+class Table
+{
+public:
+    void Fit(const Cells& cells)
+    {
+        for (std::size_t i = 0; i < kOverviewColumns; ++i) {
+            m_widths[i] = std::max(m_widths[i], CharacterCount(cells[i]));
+        }
+    }
+
+    std::string Line(const Cells& cells) const
+    {
+        std::string line = cells[0] + Blanks(cells, 0);
+        for (std::size_t i = 1; i < kOverviewColumns; ++i) {
+            line += "  " + Blanks(cells, i) + cells[i];
+        }
+        line.erase(line.find_last_not_of(' ') + 1);
+        return line;
+    }
+
+private:
+    std::string Blanks(const Cells& cells, std::size_t column) const
+    {
+        return std::string(m_widths[column] - CharacterCount(cells[column]), ' ');
+    }
+
+    std::array<std::size_t, kOverviewColumns> m_widths{};
+};
+
+// The table, a text a line.
+struct Lines
+{
+    std::string heading;
+    std::vector<std::string> rows; // an employee each
+    std::string totals;
+};
+
+Lines LinesOf(const Overview& overview)
+{
+    const Cells totals = CellsOf(TotalsOf(overview.rows));
+    std::vector<Cells> cells;
+    cells.reserve(overview.rows.size());
+    Table table;
+    table.Fit(kHeading);
+    table.Fit(totals);
+    for (const OverviewRow& row : overview.rows) {
+        table.Fit(cells.emplace_back(CellsOf(row)));
+    }
+    Lines lines{table.Line(kHeading), {}, table.Line(totals)};
+    for (const Cells& row : cells) {
+        lines.rows.push_back(table.Line(row));
+    }
+    return lines;
+}
+
+std::vector<std::string> Sentences(const CardCheck& check, bool showNotices)
+{
+    std::vector<std::string> sentences;
+    for (const Finding& finding : check.findings) {
+        const Severity severity = SeverityOf(finding.kind);
+        if (severity == Severity::Problem || showNotices) {
+            sentences.push_back(fmt::format("    {}: {}", NameOf(severity), finding.text));
+        }
+    }
+    return sentences;
+}
+
+std::string PeriodText(const Overview& overview)
+{
+    return fmt::format("{} {} - {}", kTitle, ShortDay(overview.period.from), ShortDay(overview.period.to));
+}
+
+} // namespace
+
+std::string FindingLines(const CardCheck& check, bool showNotices)
+{
+    std::string lines;
+    for (const std::string& sentence : Sentences(check, showNotices)) {
+        lines += sentence + kLineEnd;
+    }
+    return lines;
+}
+
+std::string OverviewText(const Overview& overview)
+{
+    std::string text = fmt::format("{}, made {}\r\n\r\n", PeriodText(overview), FormatDateTime(overview.made, "mm/dd/yyyy hh:mm AM/PM"));
+    if (overview.rows.empty()) {
+        return text + kNobody + kLineEnd;
+    }
+    const Lines lines = LinesOf(overview);
+    text += lines.heading + kLineEnd;
+    for (std::size_t i = 0; i < lines.rows.size(); ++i) {
+        text += lines.rows[i] + kLineEnd + FindingLines(overview.rows[i].check, overview.limits.showNotices);
+    }
+    return text + kLineEnd + lines.totals + kLineEnd;
+}
+
+ReportDocument OverviewDocument(const Overview& overview)
+{
+    const Lines lines = LinesOf(overview);
+    ReportDocument document{.title = PeriodText(overview), .heading = lines.heading, .columns = CharacterCount(lines.heading)};
+    const auto begin = [&](const std::string& line) {
+        document.BeginGroup();
+        document.groups.back().underHeading = !document.lines.empty();
+        document.Add(line);
+    };
+    begin(lines.heading);
+    for (std::size_t i = 0; i < lines.rows.size(); ++i) {
+        begin(lines.rows[i]);
+        for (const std::string& sentence : Sentences(overview.rows[i].check, overview.limits.showNotices)) {
+            document.Add(sentence);
+        }
+    }
+    begin("");
+    document.Add(lines.totals);
+    return document;
+}
+
+std::string OverviewFile(ReportForm form, const Overview& overview)
+{
+    if (form == ReportForm::Pdf) {
+        const ReportDocument document = OverviewDocument(overview);
+        return FileOf(form, {&document, 1}, overview.made);
+    }
+    return form == ReportForm::Csv ? std::string(kByteOrderMark) + OverviewCsv(overview) : OverviewText(overview);
+}
+
+std::string OverviewFileName(const PayPeriod& period)
+{
+    return "PTK overview " + FormatDateTime(period.from, "yyyy-mm-dd");
+}
+
+} // namespace ptk

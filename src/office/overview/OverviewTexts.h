@@ -1,0 +1,36 @@
+// The payday overview as text for people and as data for other programs; docs/overview-format.md describes the latter.
+#pragma once
+
+#include "reports/forms/ReportForms.h"
+
+#include <string>
+
+namespace ptk {
+
+struct CardCheck;
+struct Overview;
+struct PayPeriod;
+struct ReportDocument;
+
+// Lines end in CR LF. A table, under each employee the sentences, below it the sums
+[[nodiscard]] std::string OverviewText(const Overview& overview);
+
+// The same for pages: an employee is kept together with the sentences.
+[[nodiscard]] ReportDocument OverviewDocument(const Overview& overview);
+
+// One line an employee and one a finding.
+[[nodiscard]] std::string OverviewCsv(const Overview& overview);
+
+// One object.
+[[nodiscard]] std::string OverviewJson(const Overview& overview);
+
+// The bytes of a file of it: CSV with a byte order mark, text, or pages. Raises what PdfOf raises.
+[[nodiscard]] std::string OverviewFile(ReportForm form, const Overview& overview);
+
+// "PTK overview 2003-03-01", the period's first day, without an ending.
+[[nodiscard]] std::string OverviewFileName(const PayPeriod& period);
+
+// One line a finding, "    problem: ..."; without the notices where they are not to be shown.
+[[nodiscard]] std::string FindingLines(const CardCheck& check, bool showNotices);
+
+} // namespace ptk

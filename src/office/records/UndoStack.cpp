@@ -1,0 +1,209 @@
+#include "office/records/UndoStack.h"
+
+#include "office/history/HistoryText.h"
+#include "platform/Succeeds.h"
+#include "platform/text/Text.h"
+#include "store/CJetDB.h"
+#include "store/DisplayNameSQL.h"
+#include "store/engine/Engine.h"
+#include "store/engine/Statement.h"
+
+#include <algorithm>
+#include <fmt/format.h>
+
+namespace ptk {
+
+namespace {
+
+constexpr auto kUndo = "Undo";
+constexpr auto kRedo = "Redo";
+
+bool IsUndoable(const TrailEntry& entry)
+{
+    const bool table = entry.table == "TimeRecord" || entry.table == "Employee" || entry.table == "Company";
+    return table && entry.row && (entry.before || entry.after);
+}
+
+TrailValue* PasswordIn(std::optional<TrailRow>& row)
+{
+    const auto isPassword = [](const TrailValue& value) { return value.column == "Password" && value.kind == TrailValue::Kind::Text; };
+    if (!row) {
+        return nullptr;
+    }
+    const auto found = std::find_if(row->begin(), row->end(), isPassword);
+    return found == row->end() ? nullptr : &*found;
+}
+
+const char* VerbOf(const TrailEntry& entry)
+{
+    if (!entry.before) {
+        return "New ";
+    }
+    return entry.after ? "Change " : "Delete ";
+}
+
+bool AreNewRecords(const std::vector<TrailEntry>& entries)
+{
+    return std::all_of(entries.begin(), entries.end(),
+                       [](const TrailEntry& entry) { return entry.table == "TimeRecord" && !entry.before; });
+}
+
+const char* NameSql(const std::string& table)
+{
+    if (table == "TimeRecord") {
+        return "StartTime";
+    }
+    return table == "Company" ? "Name" : kDisplayNameSql;
+}
+
+std::string Titled(const char* word, const std::string& text)
+{
+    return text.empty() ? word : std::string(word) + ' ' + text;
+}
+
+} // namespace
+
+UndoStack::UndoStack(std::shared_ptr<CJetDB> database) : m_database(std::move(database)) {}
+
+std::string UndoStack::UndoText() const
+{
+    return Titled(kUndo, m_done.empty() ? std::string() : m_done.back().told.text);
+}
+
+std::string UndoStack::RedoText() const
+{
+    return Titled(kRedo, m_undone.empty() ? std::string() : m_undone.back().told.text);
+}
+
+bool UndoStack::Remember()
+{
+    m_refusal.clear();
+    const std::int64_t step = m_database->LastStep();
+    if (step == 0 || m_ours.contains(step)) {
+        return true;
+    }
+    TrailQuery query;
+    query.step = step;
+    query.newerThan = step - 1; // a step has the number of its first entry
+    return Succeeds([&] { Take(ReadTrail(m_database, query)); },
+                    [&](const Failure& failure) { m_refusal = "What was stored cannot be undone: " + failure.Description() + "."; });
+}
+
+void UndoStack::Take(const std::vector<TrailEntry>& entries)
+{
+    if (entries.empty()) {
+        return;
+    }
+    m_ours.insert(m_database->LastStep());
+    if (std::all_of(entries.begin(), entries.end(), IsUndoable)) {
+        m_done.push_back(StepOf(entries));
+        m_undone.clear();
+    }
+}
+
+// The trail has the newest entry first.
+UndoStack::Step UndoStack::StepOf(const std::vector<TrailEntry>& entries) const
+{
+    Step step;
+    const TrailEntry& first = entries.back();
+    step.told = {TextOf(entries), first.table, *first.row, first.employee};
+    step.lastEntry = entries.front().id;
+    std::for_each(entries.rbegin(), entries.rend(), [&](const TrailEntry& entry) {
+        RowChange& change = step.changes.emplace_back(RowChange{entry.table, *entry.row, entry.before, entry.after});
+        step.complete = PutPasswords(entry, change) && step.complete;
+    });
+    return step;
+}
+
+// False where a password changed that nobody here knows.
+bool UndoStack::PutPasswords(const TrailEntry& entry, RowChange& change) const
+{
+    TrailValue* before = PasswordIn(change.before);
+    TrailValue* after = PasswordIn(change.after);
+    if (before == nullptr && after == nullptr) {
+        return true;
+    }
+    const auto& known = m_database->Passwords();
+    const auto found = std::find_if(known.begin(), known.end(), [&](const PasswordChange& password) {
+        return password.step == entry.step.value_or(0) && (password.employeeID == 0 || password.employeeID == entry.row);
+    });
+    if (found == known.end()) {
+        return false;
+    }
+    if (before != nullptr) {
+        before->text = found->before;
+    }
+    if (after != nullptr) {
+        after->text = found->after;
+    }
+    return true;
+}
+
+std::string UndoStack::TextOf(const std::vector<TrailEntry>& entries) const
+{
+    if (entries.size() == 1) {
+        return VerbOf(entries.front()) + NameOf(entries.front());
+    }
+    return AreNewRecords(entries) ? fmt::format("Auto Fill of {} records", entries.size()) : fmt::format("{} changes", entries.size());
+}
+
+// An entry tells only what changed; the rest stands in the row.
+std::string UndoStack::NameOf(const TrailEntry& entry) const
+{
+    if (!entry.after && entry.table == "TimeRecord") {
+        return RecordMoment(entry);
+    }
+    const CJetDB::Hold hold(m_database);
+    RequireOpen(*m_database);
+    const auto search = RequireSelect(*m_database, fmt::format("SELECT COALESCE(CAST({} AS TEXT), '') FROM {} WHERE {}ID = {}",
+                                                               NameSql(entry.table), entry.table, entry.table, *entry.row));
+    std::string text;
+    search->ForEachRow([&] { text = search->TextAt(0); });
+    if (text.empty()) {
+        return fmt::format("{} {}", entry.table, *entry.row);
+    }
+    const auto moment = entry.table == "TimeRecord" ? ParseDateTime(text) : std::nullopt;
+    return moment ? FormatDateTime(*moment, "mm/dd/yyyy hh:mm AM/PM") : text;
+}
+
+bool UndoStack::Undo()
+{
+    return Move(m_done, m_undone, "undone");
+}
+
+bool UndoStack::Redo()
+{
+    return Move(m_undone, m_done, "done again");
+}
+
+// A step on either stack is done by the inverse of its changes, which is then the step on the other.
+bool UndoStack::Move(std::vector<Step>& from, std::vector<Step>& to, const char* word)
+{
+    m_refusal.clear();
+    if (from.empty()) {
+        return false;
+    }
+    Step step = from.back();
+    if (!step.complete) {
+        m_refusal = fmt::format("\"{}\" was not {}: the former password is not known.", step.told.text, word);
+        return false;
+    }
+    step.changes = Inverse(step.changes);
+    const bool done = m_database->ExecuteSteps([&](Engine& engine) {
+        ptk::Redo(engine, step.changes, {step.lastEntry, m_ours});
+        step.lastEntry = engine.NewestEntry();
+    });
+    if (!done) {
+        m_refusal = m_database->Conflict()
+                        ? fmt::format("\"{}\" was not {}: somebody else changed or uses what it is about.", step.told.text, word)
+                        : fmt::format("\"{}\" was not {}: {}.", step.told.text, word, m_database->LastFailure().Description());
+        return false;
+    }
+    m_ours.insert(m_database->LastStep());
+    m_moved = step.told;
+    from.pop_back();
+    to.push_back(std::move(step));
+    return true;
+}
+
+} // namespace ptk

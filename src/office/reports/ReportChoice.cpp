@@ -1,0 +1,80 @@
+#include "office/reports/ReportChoice.h"
+
+#include "model/CEmployee.h"
+#include "model/CEmployeeList.h"
+#include "platform/text/Text.h"
+
+#include <unordered_map>
+
+namespace ptk {
+
+std::optional<PayPeriod> OfferedDays(ReportDates dates, DateTime today, std::int16_t periodLength)
+{
+    switch (dates) {
+    case ReportDates::PayPeriod:
+        return DefaultPayPeriod(today, periodLength);
+    case ReportDates::YearToDate:
+        return YearToDate(today);
+    case ReportDates::None:
+        break;
+    }
+    return std::nullopt;
+}
+
+PayPeriod ChosenDays(ReportDates dates, DateTime today, std::int16_t periodLength, std::optional<DateTime> from, std::optional<DateTime> to)
+{
+    PayPeriod days = OfferedDays(dates, today, periodLength).value();
+    if (from) {
+        days = {*from, dates == ReportDates::YearToDate ? days.to : PayPeriodFrom(*from, periodLength).to};
+    }
+    return {days.from, to.value_or(days.to)};
+}
+
+namespace {
+
+std::unordered_map<std::string, std::shared_ptr<CEmployee>> ByDisplayName(CEmployeeList& employees)
+{
+    std::unordered_map<std::string, std::shared_ptr<CEmployee>> byName;
+    byName.reserve(static_cast<std::size_t>(employees.Count()));
+    for (std::int32_t i = 1; i <= employees.Count(); ++i) {
+        if (const auto employee = employees.Item(i)) {
+            byName.try_emplace(employee->DisplayName(), employee); // of namesakes the first is found
+        }
+    }
+    return byName;
+}
+
+bool IsAdministrator(const CEmployee& employee)
+{
+    return LowerCase(employee.FirstName() + employee.LastName()).find("administrator") != std::string::npos;
+}
+
+} // namespace
+
+std::vector<std::string> OfferedNames(CEmployeeList& employees)
+{
+    std::vector<std::string> names;
+    for (std::int32_t i = 1; i <= employees.Count(); ++i) {
+        const auto employee = employees.Item(i);
+        if (employee != nullptr && employee->OfferedOnTimeCards()) {
+            names.push_back(employee->DisplayName());
+        }
+    }
+    return names;
+}
+
+std::shared_ptr<CEmployeeList> EmployeesFor(ReportWhom whom, CEmployeeList& employees, const std::vector<std::string>& names)
+{
+    const auto byName = ByDisplayName(employees);
+    auto taken = std::make_shared<CEmployeeList>();
+    for (const std::string& name : names) {
+        const auto found = byName.find(name);
+        const auto employee = found == byName.end() ? nullptr : found->second;
+        if (whom != ReportWhom::Everyone || (employee != nullptr && !IsAdministrator(*employee))) {
+            taken->Insert(employee, taken->Count() + 1);
+        }
+    }
+    return taken;
+}
+
+} // namespace ptk

@@ -1,0 +1,97 @@
+#include "office/reports/ReportRun.h"
+
+#include "reports/Report.h"
+
+#include <algorithm>
+#include <fmt/format.h>
+#include <fmt/ranges.h>
+
+namespace ptk {
+
+namespace {
+
+std::string Reports(std::int32_t count)
+{
+    return fmt::format("{} report{}", count, count == 1 ? "" : "s");
+}
+
+char UpperCase(char letter)
+{
+    return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter;
+}
+
+std::string OutOf(std::int32_t done, std::int32_t wanted)
+{
+    return done == wanted ? Reports(done) : fmt::format("{} of {}", done, Reports(wanted));
+}
+
+} // namespace
+
+void NoteFailure(ReportRun& run, const std::string& reason)
+{
+    ++run.failed;
+    if (!reason.empty() && std::find(run.reasons.begin(), run.reasons.end(), reason) == run.reasons.end()) {
+        run.reasons.push_back(reason);
+    }
+}
+
+std::string DescribeRun(const ReportRun& run)
+{
+    if (run.wanted == 0) {
+        return "Nobody is selected";
+    }
+    const std::string cancelled = run.done < run.wanted ? "Cancelled: " : "";
+    const std::string whole = OutOf(run.done - run.failed, run.wanted);
+    if (run.failed == 0) {
+        return cancelled + whole + " written";
+    }
+    const std::string reasons = (run.reasons.empty() ? "" : ": ") + fmt::format("{}", fmt::join(run.reasons, "; "));
+    return fmt::format("{}{} complete, {} failed{}", cancelled, whole, run.failed, reasons);
+}
+
+std::string DescribeReport(std::int32_t errorNumber, const std::string& missing, const ReportRun& people)
+{
+    const std::string gaps = (missing.empty() ? "" : ", ") + missing;
+    switch (errorNumber) {
+    case 0:
+        return people.wanted == 0 ? "Nobody is selected: the report written is empty" : "1 report written";
+    case report::Cancelled:
+        return fmt::format("Cancelled after {} of {} employees{}", people.done, people.wanted, gaps);
+    case report::NotClosed:
+    case report::LineNotWritten:
+    case report::LineNotShown:
+    case report::NoRecords:
+    case report::NotGenerated:
+        return fmt::format("The report is not complete: error {}{}", errorNumber, gaps);
+    default:
+        return fmt::format("The report was not written: error {}", errorNumber);
+    }
+}
+
+std::string DescribeGaps(std::int32_t errorNumber, const std::string& missing)
+{
+    if (errorNumber == 0) {
+        return "";
+    }
+    std::string text = fmt::format("This report is not complete: error {}.", errorNumber);
+    if (!missing.empty()) {
+        text += " " + missing + ".";
+        text.at(text.size() - missing.size() - 1) = UpperCase(missing.front());
+    }
+    return text;
+}
+
+std::string DescribeSelection(std::int32_t selected, std::int32_t all)
+{
+    return fmt::format("{} of {} selected", selected, all);
+}
+
+std::string DescribePrinting(std::int32_t printed, std::int32_t open)
+{
+    if (open == 0) {
+        return "No report is open";
+    }
+    return OutOf(printed, open) + " printed" + (printed < open ? ", the next one was refused" : "");
+}
+
+} // namespace ptk

@@ -1,0 +1,33 @@
+// Saving what a window shows where its user wants it: under which name, in which form, and what came of it.
+#pragma once
+
+#include "reports/forms/ReportForms.h"
+
+#include <functional>
+#include <span>
+#include <string>
+
+namespace ptk {
+
+// The forms in which windows offer to save, the most usual first.
+[[nodiscard]] std::span<const ReportForm> SavedForms();
+
+// The line of a file dialog: "PDF document (*.pdf)".
+[[nodiscard]] std::string FilterOf(ReportForm form);
+
+// By the ending of the name, in any letter case; `chosen` where it says nothing.
+[[nodiscard]] ReportForm FormOfName(const std::string& path, ReportForm chosen);
+
+// Makes the bytes of a form; may raise.
+using MakeFile = std::function<std::string(ReportForm form)>;
+
+struct SaveOutcome
+{
+    bool saved = false;
+    std::string said; // in one sentence: where it is, or why it is not
+};
+
+// Writes the file whole or not at all, over one that is there; a new one is for its owner only. Raises nothing.
+[[nodiscard]] SaveOutcome SaveAs(const std::string& path, ReportForm form, const MakeFile& make);
+
+} // namespace ptk

@@ -1,0 +1,250 @@
+#include "platform/files/FileDraft.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <fcntl.h>
+#include <filesystem>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+
+namespace ptk {
+
+namespace {
+
+using std::filesystem::path;
+
+constexpr std::string_view kRandom = "XXXXXX"; // becomes random characters
+constexpr std::string_view kEnding = ".draft";
+constexpr mode_t kModeBits = S_IRWXU | S_IRWXG | S_IRWXO;
+
+path FolderOf(const path& target)
+{
+    return target.has_parent_path() ? target.parent_path() : path(".");
+}
+
+// Hidden, so that nobody takes a draft for a report.
+std::string DraftStart(const path& target)
+{
+    return "." + target.filename().string() + ".";
+}
+
+// Opened before anything is made in it: what cannot be flushed there shall not appear there.
+SystemFile OpenFolder(const path& folder)
+{
+    SystemFile file(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (file.Descriptor() < 0) {
+        throw errno == ENOENT || errno == ENOTDIR ? Failure(failure::PathNotFound) : Failure::FromErrno(errno);
+    }
+    return file;
+}
+
+void FlushFolder(SystemFile& folder)
+{
+    // EINVAL: this file system has no flush for folders.
+    if (::fsync(folder.Descriptor()) != 0 && errno != EINVAL) {
+        throw Failure::FromErrno(errno);
+    }
+}
+
+// A file that may not be written is not replaced either, although its folder would allow it.
+void RequireReplaceable(const std::string& target)
+{
+    struct stat status
+    {
+    };
+    if (::stat(target.c_str(), &status) == 0 && !S_ISREG(status.st_mode)) {
+        throw Failure(failure::PathFileAccess);
+    }
+    const bool isFile = ::lstat(target.c_str(), &status) == 0 && S_ISREG(status.st_mode);
+    if (isFile && ::faccessat(AT_FDCWD, target.c_str(), W_OK, AT_EACCESS) != 0) {
+        throw Failure::FromErrno(errno);
+    }
+}
+
+// A lock on the first byte, which no database engine locks, lasts as long as the process that works on the draft. False when another holds
+// it. Where the file system knows no such locks, nobody ever holds one.
+bool Lock(const SystemFile& file)
+{
+    struct flock first
+    {
+    };
+    first.l_type = F_WRLCK;
+    first.l_whence = SEEK_SET;
+    first.l_len = 1;
+    return ::fcntl(file.Descriptor(), F_OFD_SETLK, &first) == 0;
+}
+
+// A draft that is no more, or that nobody holds.
+bool IsAbandoned(const path& draft)
+{
+    const SystemFile file(::open(draft.c_str(), O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+    if (file.Descriptor() < 0) {
+        return errno == ENOENT;
+    }
+    struct stat status
+    {
+    };
+    return ::fstat(file.Descriptor(), &status) == 0 && S_ISREG(status.st_mode) && Lock(file);
+}
+
+// Further endings stand for what an engine keeps beside a draft, such as its journal.
+void RemoveAbandoned(const path& target)
+{
+    const std::string start = DraftStart(target);
+    const std::size_t length = start.size() + kRandom.size() + kEnding.size();
+    std::error_code error;
+    for (std::filesystem::directory_iterator at(FolderOf(target), error), end; !error && at != end; at.increment(error)) {
+        const std::string name = at->path().filename().string();
+        const bool isDraft = name.starts_with(start) && name.size() >= length && name.substr(0, length).ends_with(kEnding);
+        if (isDraft && IsAbandoned(FolderOf(target) / name.substr(0, length))) {
+            ::unlink(at->path().c_str());
+        }
+    }
+}
+
+bool Holds(const std::string& path, std::string_view bytes)
+{
+    try {
+        SystemFile file = OpenRegularFile(path, O_RDONLY);
+        std::string content(bytes.size() + 1, '\0'); // one more, to meet the end
+        std::size_t size = 0;
+        while (const std::size_t count = file.Read(content.data() + size, content.size() - size)) {
+            size += count;
+        }
+        return std::string_view(content).substr(0, size) == bytes;
+    } catch (const Failure&) {
+        return false; // what cannot be read is to be written, and that tells why it cannot
+    }
+}
+
+} // namespace
+
+FileDraft::FileDraft(std::string target) : m_target(std::move(target)), m_folder(OpenFolder(FolderOf(m_target)))
+{
+    RequireReplaceable(m_target);
+    RemoveAbandoned(m_target);
+    do {
+        Create();
+    } while (!Hold());
+}
+
+FileDraft::~FileDraft()
+{
+    if (!m_placed) {
+        ::unlink(m_path.c_str());
+    }
+}
+
+void FileDraft::Create()
+{
+    m_path = (FolderOf(m_target) / DraftStart(m_target).append(kRandom).append(kEnding)).string();
+    m_file = SystemFile(::mkostemps(m_path.data(), static_cast<int>(kEnding.size()), O_CLOEXEC));
+    if (m_file.Descriptor() < 0) {
+        throw Failure::FromErrno(errno);
+    }
+    static_cast<void>(::fchmod(m_file.Descriptor(), kOwnerOnly)); // an odd umask can only have taken rights of the owner
+}
+
+// False when another program took the new draft for an abandoned one, between its making and its lock.
+bool FileDraft::Hold()
+{
+    struct stat status
+    {
+    };
+    if (!Lock(m_file) && (errno == EAGAIN || errno == EACCES)) {
+        return false;
+    }
+    return ::fstat(m_file.Descriptor(), &status) != 0 || status.st_nlink > 0;
+}
+
+void FileDraft::Replace()
+{
+    m_file.Flush();
+    HandDownMode();
+    if (::rename(m_path.c_str(), m_target.c_str()) != 0) {
+        throw Failure::FromErrno(errno);
+    }
+    m_placed = true;
+    FlushFolder(m_folder);
+}
+
+// Whoever owns the folder may read what is in it; anybody else could have laid the file there to read what replaces it.
+void FileDraft::HandDownMode()
+{
+    struct stat old
+    {
+    };
+    struct stat folder
+    {
+    };
+    if (::lstat(m_target.c_str(), &old) != 0 || !S_ISREG(old.st_mode) || old.st_nlink != 1 ||
+        ::fstat(m_folder.Descriptor(), &folder) != 0) {
+        return;
+    }
+    const bool isOurs = old.st_uid == ::geteuid() || old.st_uid == folder.st_uid;
+    if (isOurs && ::fchown(m_file.Descriptor(), old.st_uid, old.st_gid) == 0) {
+        static_cast<void>(::fchmod(m_file.Descriptor(), old.st_mode & kModeBits));
+    }
+}
+
+void FileDraft::PlaceNew()
+{
+    m_file.Flush();
+    if (!RenameToFree()) {
+        throw errno == EEXIST ? AlreadyThere(m_target) : Failure::FromErrno(errno);
+    }
+    m_placed = true;
+    try {
+        FlushFolder(m_folder);
+    } catch (const Failure&) {
+        ::unlink(m_target.c_str());
+        throw;
+    }
+}
+
+// Network file systems know only the way by a second name.
+bool FileDraft::RenameToFree() const
+{
+    if (::renameat2(AT_FDCWD, m_path.c_str(), AT_FDCWD, m_target.c_str(), RENAME_NOREPLACE) == 0) {
+        return true;
+    }
+    return errno == EINVAL && ::link(m_path.c_str(), m_target.c_str()) == 0 && ::unlink(m_path.c_str()) == 0;
+}
+
+Failure FileDraft::AlreadyThere(const std::string& target)
+{
+    return {failure::PathFileAccess, "PTK", "There is already a file " + target + "."};
+}
+
+namespace {
+
+// A link stays one. Some lead to no file at all, such as what a program writes to a pipe.
+std::string BehindLinks(const std::string& path)
+{
+    std::error_code error;
+    if (!std::filesystem::is_symlink(path, error)) {
+        return path;
+    }
+    const auto target = std::filesystem::weakly_canonical(path, error);
+    if (error) {
+        throw Failure(failure::PathFileAccess, "PTK", "The path leads to no file: " + path);
+    }
+    return target.string();
+}
+
+} // namespace
+
+bool PutFile(const std::string& path, std::string_view bytes)
+{
+    if (Holds(path, bytes)) {
+        return false;
+    }
+    FileDraft draft(BehindLinks(path));
+    draft.File().Write(bytes);
+    draft.Replace();
+    return true;
+}
+
+} // namespace ptk

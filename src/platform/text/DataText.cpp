@@ -1,0 +1,82 @@
+#include "platform/text/DataText.h"
+
+#include "platform/text/Utf8.h"
+
+#include <algorithm>
+#include <fmt/format.h>
+#include <iterator>
+#include <optional>
+
+namespace ptk {
+
+namespace {
+
+constexpr std::string_view kReplacementText = "\xEF\xBF\xBD"; // U+FFFD
+
+bool IsPlain(char c)
+{
+    return c >= ' ' && c < '\x7F' && c != '"' && c != '\\';
+}
+
+// Character by character, plain ones as many at once as stand together; each byte that is no UTF-8 comes as U+FFFD.
+template <typename Take>
+void ForEachCharacter(std::string_view text, Take take)
+{
+    while (!text.empty()) {
+        const auto plain = static_cast<std::size_t>(std::find_if_not(text.begin(), text.end(), IsPlain) - text.begin());
+        const std::size_t length = plain > 0 ? plain : Utf8Length(text);
+        take(length == 0 ? kReplacementText : text.substr(0, length));
+        text.remove_prefix(length == 0 ? 1 : length);
+    }
+}
+
+// C0, delete and C1, which a terminal might obey.
+std::optional<unsigned> ControlCode(std::string_view character)
+{
+    const unsigned first = ByteAt(character, 0);
+    if (character.size() == 1 && (first < 0x20 || first == 0x7F)) {
+        return first;
+    }
+    if (character.size() == 2 && first == 0xC2 && ByteAt(character, 1) < 0xA0) {
+        return ByteAt(character, 1);
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+std::string JsonText(std::string_view text)
+{
+    std::string json = "\"";
+    json.reserve(text.size() + 2);
+    ForEachCharacter(text, [&](std::string_view character) {
+        if (const auto code = ControlCode(character)) {
+            fmt::format_to(std::back_inserter(json), "\\u{:04x}", *code);
+            return;
+        }
+        if (character == "\"" || character == "\\") {
+            json += '\\';
+        }
+        json += character;
+    });
+    return json + '"';
+}
+
+std::string NoFormula(std::string_view text)
+{
+    return std::string(text.find_first_of("=+-@\t") == 0 ? "'" : "").append(text);
+}
+
+std::string CsvText(std::string_view text)
+{
+    std::string field;
+    ForEachCharacter(NoFormula(text), [&](std::string_view character) {
+        if (character == "\"") {
+            field += '"';
+        }
+        field += character;
+    });
+    return field.find_first_of("\",\r\n") == std::string::npos ? field : '"' + field + '"';
+}
+
+} // namespace ptk

@@ -1,0 +1,86 @@
+// A wall-clock moment of whole seconds, without a time zone.
+#pragma once
+
+#include <compare>
+#include <cstdint>
+#include <functional>
+
+namespace ptk {
+
+struct CalendarDate
+{
+    int year = 1899;
+    int month = 12; // 1 to 12
+    int day = 30;   // 1 to 31
+};
+
+struct TimeOfDay
+{
+    int hour = 0; // 0 to 23
+    int minute = 0;
+    int second = 0;
+};
+
+// Counted in seconds from 30 December 1899 00:00:00, the zero date-time, which means "not set" wherever a date may be missing.
+// Range: 1 January 100 00:00:00 to 31 December 9999 23:59:59; a result outside it raises Failure 6 (overflow).
+class DateTime
+{
+public:
+    static constexpr std::int64_t kSecondsPerMinute = 60;
+    static constexpr std::int64_t kSecondsPerDay = 86400;
+
+    constexpr DateTime() = default;
+
+    // Raises Failure 5 when there is no such day or time.
+    DateTime(CalendarDate date, TimeOfDay time = {});
+    [[nodiscard]] static DateTime FromSeconds(std::int64_t secondsSinceZero);
+
+    [[nodiscard]] constexpr std::int64_t Seconds() const { return m_seconds; }
+    [[nodiscard]] constexpr bool IsZero() const { return m_seconds == 0; }
+
+    [[nodiscard]] CalendarDate Date() const;
+    [[nodiscard]] TimeOfDay Time() const;
+
+    // Since the zero date-time, negative before it.
+    [[nodiscard]] constexpr std::int64_t DayNumber() const { return Whole(m_seconds, kSecondsPerDay); }
+
+    // Likewise, the seconds cut off.
+    [[nodiscard]] constexpr std::int64_t MinuteNumber() const { return Whole(m_seconds, kSecondsPerMinute); }
+
+    // 0 Sunday to 6 Saturday.
+    [[nodiscard]] int Weekday() const;
+
+    [[nodiscard]] DateTime AddDays(std::int64_t days) const;
+    [[nodiscard]] DateTime AddMinutes(std::int64_t minutes) const;
+
+    constexpr auto operator<=>(const DateTime&) const = default; // NOLINT(modernize-use-nullptr): not a pointer
+
+private:
+    [[nodiscard]] DateTime Later(std::int64_t count, std::int64_t unit) const; // `unit` in seconds
+
+    // Rounded down.
+    [[nodiscard]] static constexpr std::int64_t Whole(std::int64_t seconds, std::int64_t unit)
+    {
+        return seconds / unit - (seconds % unit < 0 ? 1 : 0);
+    }
+
+    std::int64_t m_seconds = 0;
+};
+
+// Calendar differences: the day or minute boundaries crossed from `from` to `to`, negative when `to` is earlier. Smaller units are ignored.
+[[nodiscard]] constexpr std::int64_t DaysBetween(DateTime from, DateTime to)
+{
+    return to.DayNumber() - from.DayNumber();
+}
+[[nodiscard]] constexpr std::int64_t MinutesBetween(DateTime from, DateTime to)
+{
+    return to.MinuteNumber() - from.MinuteNumber();
+}
+
+} // namespace ptk
+
+template <>
+struct std::hash<ptk::DateTime>
+{
+    std::size_t operator()(const ptk::DateTime& value) const noexcept { return std::hash<std::int64_t>{}(value.Seconds()); }
+};

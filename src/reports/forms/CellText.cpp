@@ -1,0 +1,53 @@
+#include "reports/forms/CellText.h"
+
+#include "platform/text/Text.h"
+
+#include <cmath>
+#include <cstdlib>
+#include <fmt/format.h>
+
+namespace ptk {
+
+namespace {
+
+constexpr auto kDay = "yyyy-mm-dd";
+
+} // namespace
+
+std::string MomentText(DateTime moment)
+{
+    return FormatDateTime(moment, kDay) + 'T' + FormatDateTime(moment, "hh:nn:ss");
+}
+
+std::string CellText(CellType type, const Value& cell)
+{
+    if (cell.IsNull()) {
+        return "";
+    }
+    switch (type) {
+    case CellType::Hours:
+    case CellType::Money:
+        return TwoDecimals(cell.ToSingle());
+    case CellType::Date:
+        return FormatDateTime(cell.ToDateTime(), kDay);
+    case CellType::DateTime:
+        return MomentText(cell.ToDateTime());
+    case CellType::Boolean:
+        return cell.ToBoolean() ? "true" : "false";
+    case CellType::Text:
+    case CellType::WholeNumber:
+        break;
+    }
+    return cell.ToText();
+}
+
+std::string ClockText(const Value& hours)
+{
+    if (hours.IsNull()) {
+        return "";
+    }
+    const long long minutes = std::llround(static_cast<double>(hours.ToSingle()) * 60);
+    return fmt::format("{}{}:{:02}", minutes < 0 ? "-" : "", std::llabs(minutes) / 60, std::llabs(minutes) % 60);
+}
+
+} // namespace ptk

@@ -1,0 +1,20 @@
+// The values of a report's table as the data formats write them.
+#pragma once
+
+#include "platform/text/DateTime.h"
+#include "reports/forms/ReportDocument.h"
+
+#include <string>
+
+namespace ptk {
+
+// YYYY-MM-DDTHH:MM:SS.
+[[nodiscard]] std::string MomentText(DateTime moment);
+
+// Days as YYYY-MM-DD, hours and money with the two decimals that the report itself shows, true or false; texts as they are. Empty for null.
+[[nodiscard]] std::string CellText(CellType type, const Value& cell);
+
+// Hours as hours and minutes, to the nearest minute: "8:30", "-0:15". Empty for null.
+[[nodiscard]] std::string ClockText(const Value& hours);
+
+} // namespace ptk

@@ -1,0 +1,61 @@
+// A report on paper: which line stands on which page, and where. Nothing is drawn here.
+#pragma once
+
+#include "platform/system/SystemPaper.h"
+#include "platform/text/DateTime.h"
+#include "reports/forms/TextPieces.h"
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace ptk {
+
+struct ReportDocument;
+
+// Lengths in points, 72 to an inch: 12 characters an inch keep a line of 72 and what its tabs add to it whole on either paper, 6 lines an
+// inch make them easy to read.
+struct Paper
+{
+    double width;
+    double height;
+    double margin = 54; // on all sides
+    double lineHeight = 12;
+    double characterWidth = 6;
+
+    // Within the margins.
+    [[nodiscard]] std::size_t Columns() const { return static_cast<std::size_t>((width - 2 * margin) / characterWidth); }
+    [[nodiscard]] std::size_t Rows() const { return static_cast<std::size_t>((height - 2 * margin) / lineHeight); }
+};
+
+[[nodiscard]] Paper PaperOf(PaperSize size);
+
+// The same in a type small enough for so many columns, but no smaller than two thirds.
+[[nodiscard]] Paper PaperFor(std::size_t columns, PaperSize size);
+
+// The document's title on one line, one blank between its words.
+[[nodiscard]] std::string HeadOf(const ReportDocument& document);
+
+enum class LineStyle
+{
+    Plain,
+    Bold,
+    Rule // a line across the paper instead of text
+};
+
+struct PlacedLine
+{
+    std::size_t row = 0; // from 0, within the margins
+    LineStyle style = LineStyle::Plain;
+    std::vector<TextPiece> pieces{}; // none of a rule
+};
+
+// From top to bottom, without the empty lines.
+using Page = std::vector<PlacedLine>;
+
+// At least one page. Each has the document's title and a rule at its head, the day of printing and "Page x of y" at its foot; the title and
+// the rule with which the document itself begins are these. A group stands whole on one page where a page can hold it, one at the foot with
+// the group before it. A page that begins below a heading repeats it; empty lines begin no page. REQUIRES: paper of at least 20 rows.
+[[nodiscard]] std::vector<Page> LayOut(const ReportDocument& document, const Paper& paper, DateTime printed);
+
+} // namespace ptk

@@ -1,0 +1,63 @@
+// Backups of the database: made by the engine itself, checked whole, and only then given their name.
+#pragma once
+
+#include "platform/text/DateTime.h"
+#include "store/sqlite/SqliteEngine.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace ptk {
+
+// All paths are in the platform's own form. Where nothing else is said, failures are those of FileDraft and of the engine.
+
+// "<program folder>/backups".
+[[nodiscard]] std::string BackupFolder(const std::string& programFolder);
+
+// Makes the folder (for its owner only) where it is missing, and in it a backup named by `now`, or by the next second that is free. The
+// backup is as of one moment, sound, for its owner only, and safe on the disk when its path is answered. On failure there is nothing new.
+// Raises 11 when the database is damaged.
+std::string BackUp(SqliteEngine& database, const std::string& folder, DateTime now, const CopyProgress& progress = {});
+
+// The same as one operation on the closed database `path`, which raises what opening it raises: 5 when a file is held. Of a server, whose
+// address that is, a backup is a file, too; `progress` is told of rows then.
+std::string BackUp(const std::string& path, const std::string& folder, DateTime now, const CopyProgress& progress = {});
+
+// A backup of that database under a name of one's own. Raises 75 when there is something of that name, 76 without its folder.
+void BackUpTo(const std::string& path, const std::string& target, const CopyProgress& progress = {});
+
+// Removes what need not be kept now that the backup of this name was made; never that one, nor `spared`. See DispensableBackups.
+void PruneBackups(const std::string& folder, const std::string& newest, const std::string& spared = "");
+
+// Puts a finished backup into a second folder, whole or not at all, and prunes there. Raises 76 where that folder is missing: it is not
+// made, since another disk may only not be there.
+void CopyBackup(const std::string& backup, const std::string& folder);
+
+struct BackupContent
+{
+    std::int64_t employees = 0;
+    std::int64_t records = 0;
+    std::optional<DateTime> newestShift; // its start
+};
+
+// Raises the failure that makes the file unusable: missing (14), no database of this program (26), damaged (11), in use (5). Others may
+// read it meanwhile; it stays as it is.
+[[nodiscard]] BackupContent ExamineBackup(const std::string& path);
+
+struct BackupEntry
+{
+    std::string name;
+    std::int64_t size = 0;                // bytes
+    std::optional<BackupContent> content; // nothing for one that is of no use
+    std::string fault;                    // why
+};
+
+// By their names, newest first; empty without the folder.
+[[nodiscard]] std::vector<std::string> BackupsIn(const std::string& folder);
+
+// The backup of that name in the folder, checked whole.
+[[nodiscard]] BackupEntry CheckedBackup(const std::string& folder, const std::string& name);
+
+} // namespace ptk

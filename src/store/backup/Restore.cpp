@@ -1,0 +1,137 @@
+#include "store/backup/Restore.h"
+
+#include "platform/files/FileDraft.h"
+#include "platform/files/FileSteps.h"
+#include "store/backup/BackupNames.h"
+#include "store/backup/Backups.h"
+#include "store/engine/EngineNumber.h"
+#include "store/engine/EngineSource.h"
+#include "store/postgres/ServerAddress.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <memory>
+#include <system_error>
+
+namespace ptk {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* kBeside[] = {"-journal", "-wal", "-shm"}; // where the engine keeps what it has not finished
+
+// Of a file that is there and of no use as a database.
+bool IsSpoiled(const Failure& failure)
+{
+    return IsOfDatabase(failure) && (failure.Number() == engine::Damaged || failure.Number() == engine::NoDatabase);
+}
+
+void AddEntry(SqliteEngine& restored, const RestoreOrder& order)
+{
+    if (!restored.HasTrail()) {
+        return;
+    }
+    restored.SignAs(order.author);
+    restored.Write([&] { restored.AddWholeEntry("restore", order.file); });
+}
+
+void FillDraft(const FileDraft& draft, const RestoreOrder& order, const CopyProgress& progress)
+{
+    {
+        SqliteEngine(order.file, ReadOnly{}).CopyTo(draft.Path(), progress);
+    }
+    static_cast<void>(ExamineBackup(draft.Path()));
+    SqliteEngine restored(draft.Path());
+    AddEntry(restored, order);
+}
+
+std::string FreePath(const RestoreOrder& order, const std::string& ending)
+{
+    DateTime moment = order.now;
+    std::string path;
+    do {
+        path = order.backups + '/' + fs::path(BackupName(moment)).stem().string() + ending;
+        moment = DateTime::FromSeconds(moment.Seconds() + 1);
+    } while (IsThere(path));
+    return path;
+}
+
+void KeepBytes(const std::string& from, const std::string& to)
+{
+    FileDraft draft(to);
+    CopyBytes(from, draft);
+    draft.PlaceNew();
+}
+
+// What the engine left beside a database that it cannot finish any more must not be taken for the restored one's.
+void MoveLeftovers(const RestoreOrder& order, const std::string& kept)
+{
+    for (const char* ending : kBeside) {
+        if (IsThere(order.database + ending)) {
+            KeepBytes(order.database + ending, kept + ending);
+            fs::remove(order.database + ending);
+        }
+    }
+}
+
+std::string KeepSpoiled(const RestoreOrder& order)
+{
+    MakeOwnFolder(order.backups);
+    const std::string kept = FreePath(order, "-damaged.mdb");
+    if (IsThere(order.database)) {
+        KeepBytes(order.database, kept);
+    }
+    MoveLeftovers(order, kept);
+    return IsThere(order.database) ? kept : std::string();
+}
+
+bool HasLeftovers(const RestoreOrder& order)
+{
+    return std::any_of(std::begin(kBeside), std::end(kBeside), [&](const char* ending) { return IsThere(order.database + ending); });
+}
+
+// The present database, held while it is replaced, and what was kept of it.
+struct Present
+{
+    std::unique_ptr<SqliteEngine> held;
+    std::string kept;
+};
+
+Present KeepPresent(const RestoreOrder& order, const CopyProgress& progress)
+{
+    if (!IsThere(order.database)) {
+        return {nullptr, HasLeftovers(order) ? KeepSpoiled(order) : std::string()};
+    }
+    try {
+        Present present{std::make_unique<SqliteEngine>(order.database), {}};
+        present.kept = BackUp(*present.held, order.backups, order.now, progress);
+        return present;
+    } catch (const Failure& failure) {
+        if (!IsSpoiled(failure)) {
+            throw;
+        }
+    }
+    return {nullptr, KeepSpoiled(order)};
+}
+
+} // namespace
+
+std::string Restore(const RestoreOrder& order, const CopyProgress& progress)
+{
+    if (IsServerAddress(order.database)) {
+        throw Failure(0, "PTK", kNoRestoreOnServer);
+    }
+    std::error_code ignored;
+    RestoreOrder target = order;
+    if (fs::is_symlink(order.database, ignored)) {
+        target.database = fs::weakly_canonical(order.database).string(); // the link stays one
+    }
+    FileDraft draft(target.database);
+    FillDraft(draft, target, progress);
+    const Present present = KeepPresent(target, progress);
+    draft.Replace();
+    return present.kept;
+}
+
+} // namespace ptk

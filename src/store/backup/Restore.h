@@ -1,0 +1,34 @@
+// Putting a backup in the place of the database.
+#pragma once
+
+#include "platform/text/DateTime.h"
+#include "store/engine/Author.h"
+#include "store/sqlite/SqliteEngine.h"
+
+#include <string>
+
+namespace ptk {
+
+struct RestoreOrder
+{
+    std::string file;     // the backup, in the platform's own form, as all of these
+    std::string database; // what it takes the place of; may be missing
+    std::string backups;  // where the present database is kept
+    DateTime now;
+    Author author;
+};
+
+inline constexpr const char* kNoRestoreOnServer =
+    "A database on a server is not replaced by a backup: make an empty database there, copy the backup into it with ptk-console "
+    "copy-database --from, and enter its address as DatabasePath";
+
+// Refused for a server's address as the database, with what to do instead: others may be at work there.
+//
+// The file is checked first; it stays as it is. The present database is backed up; where it is spoiled, its bytes, with a journal or a log
+// beside it, are moved to `backups` under the name of a backup with "-damaged" in it. The restored one has one entry more in its trail,
+// where it has a trail. Answers the path of what was kept of the present database; empty where there was none. Raises what examining the
+// file raises, 5 when the database is held, and 9 when `progress` ended it; nothing has changed then, except that there may be a backup
+// more.
+[[nodiscard]] std::string Restore(const RestoreOrder& order, const CopyProgress& progress = {});
+
+} // namespace ptk

@@ -1,0 +1,100 @@
+// The rows of an import on their way into a database that holds nothing yet.
+#pragma once
+
+#include "store/import/ImportTables.h"
+#include "store/sqlite/EditTrail.h"
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+
+namespace ptk {
+
+class Engine;
+class SqliteEngine;
+class Statement;
+
+// What an import can be told by, of what was to be written and of what was. Minutes are those of the wall clock between start and end, both
+// without their seconds, of records with an end not before their start.
+struct ImportFigures
+{
+    struct Hours
+    {
+        std::int64_t records = 0;
+        std::int64_t minutes = 0;
+
+        bool operator==(const Hours&) const = default;
+    };
+
+    std::array<std::int64_t, kImportTableCount> rows{};
+    std::int64_t orphans = 0; // records of no employee
+    std::int64_t open = 0;
+    std::int64_t backward = 0;
+    std::map<std::optional<std::int32_t>, Hours> hours; // by employee
+
+    // A record of this employee.
+    void Count(std::optional<std::int32_t> employee, DateTime start, DateTime end);
+
+    bool operator==(const ImportFigures&) const = default;
+};
+
+// Writes rows with the keys that they have. REQUIRES: within Engine::Write, on a database that is empty as below.
+class ImportWriter
+{
+public:
+    explicit ImportWriter(Engine& engine);
+    ~ImportWriter();
+    ImportWriter(const ImportWriter&) = delete;
+    ImportWriter& operator=(const ImportWriter&) = delete;
+
+    // The values in the order of the table's columns. False, and nothing written, where a row of this key, or the only row, was written
+    // before; the shipped ones give way.
+    [[nodiscard]] bool Add(ImportTableId table, std::span<const Value> values);
+
+    // That no row has replaced so far.
+    [[nodiscard]] std::int64_t ShippedRows(ImportTableId table) const { return m_shipped[static_cast<std::size_t>(table)]; }
+
+private:
+    struct Statements
+    {
+        std::unique_ptr<Statement> find; // nullptr for a table of one row
+        std::unique_ptr<Statement> add;
+    };
+
+    [[nodiscard]] bool IsTaken(ImportTableId table, const Value& key);
+    void ClearShipped(ImportTableId table);
+
+    Engine& m_engine;
+    std::array<Statements, kImportTableCount> m_statements;
+    std::array<std::int64_t, kImportTableCount> m_shipped{};
+    bool m_hasOptions = false;
+};
+
+// What the database holds, read back row by row. The shipped rows that gave way to none count, too.
+[[nodiscard]] ImportFigures ReadFigures(Engine& engine);
+
+struct ImportTarget
+{
+    std::string database; // in the platform's own form; a missing file is made, a server's must have its tables
+    std::string file;     // where the rows come from, for the trail
+    Author author;
+    std::function<void(SqliteEngine&)> keepCopy; // called before a database of an earlier version is brought up to date
+};
+
+// Raises a failure without a number where there is a database that holds companies, time records or more employees than the administrator,
+// and what opening it raises. Does not change it.
+void RefuseUnlessEmpty(const std::string& database);
+
+// Runs `fill` on the target in one transaction, told in the trail as one entry: all of it or, when it raises, nothing. `fill` may have to
+// run a second time, when the first was undone. Raises what RefuseUnlessEmpty raises, and what making a database raises.
+void Import(const ImportTarget& target, const std::function<void(Engine&)>& fill);
+
+// The same without any target: what would be written is gone afterwards. Looks at the target as RefuseUnlessEmpty does.
+void TryImport(const ImportTarget& target, const std::function<void(Engine&)>& fill);
+
+} // namespace ptk

@@ -1,0 +1,264 @@
+#include "store/rows/RowReader.h"
+
+#include "platform/Failure.h"
+#include "store/engine/RecordSet.h"
+
+#include <fmt/format.h>
+
+namespace ptk {
+
+namespace {
+
+constexpr const char* kEmployeeColumns[] = {"EmployeeID",
+                                            "SSNumber",
+                                            "FirstName",
+                                            "LastName",
+                                            "Address",
+                                            "Address2",
+                                            "City",
+                                            "State",
+                                            "ZipCode",
+                                            "Phone",
+                                            "EmployeeNumber",
+                                            "DateOfBirth",
+                                            "HireDate",
+                                            "ReleaseDate",
+                                            "PayRate",
+                                            "OvertimePayRate",
+                                            "Active",
+                                            "CompanyID",
+                                            "AutoDeduct",
+                                            "AutoDeductLunchLength",
+                                            "AutoDeductBreakLength",
+                                            "Password"};
+
+constexpr const char* kCompanyColumns[] = {"CompanyID", "Name",    "Address1", "Address2", "City",
+                                           "State",     "ZipCode", "Phone",    "Fax",      "FederalTaxID"};
+
+constexpr const char* kTimeRecordColumns[] = {"TimeRecordID", "EmployeeID", "StartTime", "EndTime"};
+
+constexpr const char* kOptionsColumns[] = {"program", "version", "period_length", "auto_shift_start_time", "auto_shift_end_time"};
+
+void ReadAt(const RecordSet& rows, std::size_t column, std::int32_t& field)
+{
+    field = rows.Int32At(column);
+}
+
+void ReadAt(const RecordSet& rows, std::size_t column, std::int16_t& field)
+{
+    field = rows.Int16At(column);
+}
+
+void ReadAt(const RecordSet& rows, std::size_t column, float& field)
+{
+    field = rows.SingleAt(column);
+}
+
+} // namespace
+
+TableColumns EmployeeTable()
+{
+    return {"Employee", kEmployeeColumns};
+}
+
+TableColumns CompanyTable()
+{
+    return {"Company", kCompanyColumns};
+}
+
+TableColumns TimeRecordTable()
+{
+    return {"TimeRecord", kTimeRecordColumns};
+}
+
+TableColumns OptionsTable()
+{
+    return {"_System", kOptionsColumns};
+}
+
+RowReader::RowReader(const RecordSet& rows, const TableColumns& columns) : m_rows(rows), m_table(columns)
+{
+    m_columns.reserve(columns.names.size());
+    for (const char* column : columns.names) {
+        m_columns.push_back(rows.Column(column));
+    }
+}
+
+RowReader::RowReader(const RecordSet& rows, const TableColumns& columns, std::vector<std::string>& found) : RowReader(rows, columns)
+{
+    m_found = &found;
+}
+
+// "Employee 40: AutoDeductLunchLength is 70000 (Overflow)". The options are one row without a key.
+std::string RowReader::Place(std::size_t column, const std::string& why) const
+{
+    const bool keyed = m_table.names.data() != kOptionsColumns;
+    return fmt::format("{}{}: {} is {} ({})", m_table.table, keyed ? ' ' + m_rows.Shown(m_columns.front()) : "", m_table.names[column],
+                       m_rows.Shown(m_columns[column]), why);
+}
+
+// Of what the program reads without noticing anything; only the check of a file does.
+void RowReader::Doubt(const char* why) const
+{
+    if (m_found != nullptr) {
+        throw Failure(failure::TypeMismatch, "PTK", why);
+    }
+}
+
+// Reads the next column; a failure gets the words that lead to the value.
+template <typename Read>
+void RowReader::Take(const Read& read)
+{
+    const std::size_t column = m_next++;
+    try {
+        read(m_columns[column]);
+    } catch (const Failure& failure) {
+        if (m_rows.EndOfFile()) {
+            throw;
+        }
+        const std::string text = Place(column, failure.Description());
+        if (m_found == nullptr) {
+            throw Failure(failure.Number(), failure.Source(), text);
+        }
+        m_found->push_back(text);
+    }
+}
+
+// Keys, rates and lengths below one mean that nothing was ever entered.
+template <typename Number>
+void RowReader::Positive(Number& field, const char* doubt)
+{
+    Take([&](std::size_t column) {
+        Number value{};
+        if (!m_rows.IsNull(column)) {
+            ReadAt(m_rows, column, value);
+        }
+        if (value > 0) {
+            field = value;
+        } else if (doubt != nullptr) {
+            Doubt(doubt);
+        }
+    });
+}
+
+void RowReader::Key(std::int32_t& field)
+{
+    Positive(field, "not a key that the program can use");
+}
+
+void RowReader::Text(std::string& field)
+{
+    Take([&](std::size_t column) {
+        if (!m_rows.IsNull(column)) {
+            field = m_rows.TextAt(column);
+        }
+    });
+}
+
+void RowReader::ReadMoment(std::size_t column, DateTime& field) const
+{
+    field = m_rows.DateTimeAt(column);
+    if (m_found != nullptr && !m_rows.HasStoredDate(column)) {
+        Doubt("not stored as YYYY-MM-DD HH:MM:SS");
+    }
+}
+
+void RowReader::Date(DateTime& field, const char* doubtWhenNull)
+{
+    Take([&](std::size_t column) {
+        if (!m_rows.IsNull(column)) {
+            ReadMoment(column, field);
+        } else if (doubtWhenNull != nullptr) {
+            Doubt(doubtWhenNull);
+        }
+    });
+}
+
+// A missing one reads as not set, but the search for a period's records passes it over.
+void RowReader::ShiftTime(DateTime& field)
+{
+    Date(field, "a time that is not set is stored as 1899-12-30 00:00:00");
+}
+
+void RowReader::Flag(bool& field)
+{
+    Take([&](std::size_t column) { field = m_rows.BooleanAt(column); });
+}
+
+// In the order of kEmployeeColumns.
+EmployeeRow RowReader::ReadEmployee()
+{
+    EmployeeRow row;
+    Start();
+    Key(row.EmployeeID);
+    Text(row.SSN);
+    Text(row.FirstName);
+    Text(row.LastName);
+    Text(row.Address1);
+    Text(row.Address2);
+    Text(row.City);
+    Text(row.State);
+    Text(row.ZipCode);
+    Text(row.Phone);
+    Take([&](std::size_t column) {
+        if (!m_rows.IsNull(column)) {
+            row.EmployeeNumber = m_rows.Int32At(column);
+        }
+    });
+    Date(row.DateOfBirth);
+    Date(row.HireDate);
+    Date(row.ReleaseDate);
+    Positive(row.PayRate);
+    Positive(row.OvertimePayRate);
+    Flag(row.EmployeeActive);
+    Positive(row.CompanyID);
+    Flag(row.AutoDeduct);
+    Positive(row.AutoDeductLunchLength);
+    Positive(row.AutoDeductBreakLength);
+    Text(row.Password);
+    return row;
+}
+
+// In the order of kCompanyColumns.
+CompanyRow RowReader::ReadCompany()
+{
+    CompanyRow row;
+    Start();
+    Key(row.CompanyID);
+    Text(row.CompanyName);
+    Text(row.Address1);
+    Text(row.Address2);
+    Text(row.City);
+    Text(row.State);
+    Text(row.ZipCode);
+    Text(row.Phone);
+    Text(row.Fax);
+    Text(row.FederalTaxID);
+    return row;
+}
+
+// In the order of kTimeRecordColumns.
+TimeRecordRow RowReader::ReadTimeRecord()
+{
+    TimeRecordRow row;
+    Start();
+    Key(row.TimeRecordID);
+    Positive(row.EmployeeID);
+    ShiftTime(row.StartTime);
+    ShiftTime(row.EndTime);
+    row.ObjectState = state::Unchanged;
+    return row;
+}
+
+// In the order of kOptionsColumns.
+void RowReader::ReadOptions(OptionsRow& row)
+{
+    Start();
+    Take([&](std::size_t column) { row.ProgramName = m_rows.Field(column).ToText(); });
+    Take([&](std::size_t column) { row.ProgramVersion = m_rows.Field(column).ToText(); });
+    Take([&](std::size_t column) { row.PeriodLength = m_rows.Int16At(column); });
+    Take([&](std::size_t column) { ReadMoment(column, row.AutoShiftStartTime); });
+    Take([&](std::size_t column) { ReadMoment(column, row.AutoShiftEndTime); });
+}
+
+} // namespace ptk

@@ -1,0 +1,74 @@
+// Takes the rows of the program's tables into plain rows, each column by its rule.
+#pragma once
+
+#include "store/rows/Rows.h"
+
+#include <cstddef>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace ptk {
+
+class RecordSet;
+
+// The columns that the program reads of a table, in the order in which it reads them.
+struct TableColumns
+{
+    const char* table;
+    std::span<const char* const> names; // the first is the key, by which a row is told to people
+};
+
+[[nodiscard]] TableColumns EmployeeTable();
+
+// The web address deliberately is not among them: it is written but never read back.
+[[nodiscard]] TableColumns CompanyTable();
+
+[[nodiscard]] TableColumns TimeRecordTable();
+[[nodiscard]] TableColumns OptionsTable();
+
+// Reads the current row of a record set column by column. A field whose column is null, or not greater than zero where only that has a
+// meaning, keeps its default. What cannot be read raises 94 (null), 13 (no such meaning) or 6 (does not fit), in words that name the row,
+// the column and the value: "Employee 40: AutoDeductLunchLength is 70000 (Overflow)".
+class RowReader
+{
+public:
+    // Raises Failure 9 for a missing column.
+    RowReader(const RecordSet& rows, const TableColumns& columns);
+
+    // For the check of a file: what cannot be read is put behind `found` instead of being raised, and so is what can be read but never
+    // serves: dates in any other form than the stored one, which searches pass over, missing times of a shift, keys below 1.
+    RowReader(const RecordSet& rows, const TableColumns& columns, std::vector<std::string>& found);
+
+    EmployeeRow ReadEmployee();
+    CompanyRow ReadCompany();
+
+    // Unchanged.
+    TimeRecordRow ReadTimeRecord();
+
+    // Nothing may be null; what was read before a failure stays in the row.
+    void ReadOptions(OptionsRow& row);
+
+private:
+    void Start() { m_next = 0; }
+    template <typename Read>
+    void Take(const Read& read);
+    template <typename Number>
+    void Positive(Number& field, const char* doubt = nullptr);
+    void Key(std::int32_t& field);
+    void Text(std::string& field);
+    void Date(DateTime& field, const char* doubtWhenNull = nullptr);
+    void ShiftTime(DateTime& field);
+    void ReadMoment(std::size_t column, DateTime& field) const;
+    void Flag(bool& field);
+    void Doubt(const char* why) const;
+    [[nodiscard]] std::string Place(std::size_t column, const std::string& why) const;
+
+    const RecordSet& m_rows;
+    TableColumns m_table;
+    std::vector<std::size_t> m_columns; // the record set's ordinals of the table's columns
+    std::size_t m_next = 0;
+    std::vector<std::string>* m_found = nullptr;
+};
+
+} // namespace ptk

@@ -1,0 +1,98 @@
+// The edit trail as the program reads it.
+#pragma once
+
+#include "platform/text/DateTime.h"
+
+#include <cstdint>
+#include <functional>
+#include <limits>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace ptk {
+
+class CJetDB;
+
+// What a column held. Of text the text itself, of a number its digits, of bytes two hexadecimal digits each.
+struct TrailValue
+{
+    enum class Kind : std::uint8_t
+    {
+        Null,
+        Number,
+        Text,
+        Bytes
+    };
+
+    std::string column;
+    Kind kind = Kind::Null;
+    std::string text;
+};
+
+using TrailRow = std::vector<TrailValue>; // in the table's order
+
+// nullptr where the row does not tell that column.
+[[nodiscard]] const TrailValue* ValueOf(const TrailRow& row, std::string_view column);
+
+struct TrailEntry
+{
+    std::int64_t id = 0;
+    std::string at; // YYYY-MM-DD HH:MM:SS
+    std::string by; // empty for another tool, as the next two
+    std::string program;
+    std::optional<std::int64_t> step;
+    std::string table; // empty where no table is meant
+    std::optional<std::int64_t> row;
+    std::string action; // insert, update, delete, import, restore
+    std::optional<TrailRow> before;
+    std::optional<TrailRow> after;
+    std::optional<std::int64_t> employee; // whose row it is or was, or whose record
+};
+
+enum class TrailKind : std::uint8_t
+{
+    TimeRecords,
+    Employees,
+    Companies,
+    Options, // those of the check, too
+    Whole    // restores and imports
+};
+
+// Days, both included.
+struct TrailDays
+{
+    DateTime first;
+    DateTime last;
+};
+
+struct TrailQuery
+{
+    std::optional<std::int64_t> employee; // whose row it is, or whose record it was before or after
+    std::optional<DateTime> from;         // days of the change, both included
+    std::optional<DateTime> to;
+    std::optional<std::int64_t> step;
+    std::int64_t newerThan = 0; // numbers of entries
+    std::optional<std::int64_t> olderThan;
+    std::optional<std::string> person; // who changed it; empty: another tool
+    std::optional<TrailKind> kind;
+    std::string action;                               // empty: any
+    std::optional<std::vector<std::int64_t>> records; // time records alone, by their keys
+
+    // Of the employee, all about their own row and about every record that starts or ends in these days, or ever did. REQUIRES: employee.
+    std::optional<TrailDays> recordsIn;
+
+    std::int32_t most = std::numeric_limits<std::int32_t>::max();
+};
+
+// Newest first; `take` must not use the database. Nothing in a file without a trail. Raises the failure of a database that cannot be opened
+// or read. REQUIRES: database is not nullptr.
+void ReadTrail(const std::shared_ptr<CJetDB>& database, const TrailQuery& query, const std::function<void(const TrailEntry&)>& take);
+[[nodiscard]] std::vector<TrailEntry> ReadTrail(const std::shared_ptr<CJetDB>& database, const TrailQuery& query);
+
+// Everybody whom an entry names, in the order of their names. Raises the same.
+[[nodiscard]] std::vector<std::string> ReadTrailPersons(const std::shared_ptr<CJetDB>& database);
+
+} // namespace ptk

@@ -1,0 +1,145 @@
+#include "store/trail/TrailSQL.h"
+
+#include "platform/text/Text.h"
+#include "store/engine/EngineWords.h"
+#include "store/engine/Statement.h"
+#include "store/trail/TrailReader.h"
+
+#include <fmt/format.h>
+#include <fmt/ranges.h>
+
+namespace ptk {
+
+namespace {
+
+std::string Columns(const EngineWords& words)
+{
+    return fmt::format("ChangeID, ChangedAt, ChangedBy, Program, Step, TableName, RowID, Action, {}, {}, "
+                       "COALESCE(EmployeeAfter, EmployeeBefore)",
+                       Said(words.json, "Before"), Said(words.json, "After"));
+}
+
+// An employee's entries in two halves: each finds an entry once, by its own index and in the order of the numbers.
+constexpr const char* kAfterOf = "EmployeeAfter = CAST(:employee AS INTEGER)";
+constexpr const char* kBeforeOf = "EmployeeBefore = CAST(:employee AS INTEGER) AND EmployeeBefore IS DISTINCT FROM EmployeeAfter";
+
+// The conditions of the partial indexes stand here to the letter.
+const char* ConditionOf(TrailKind kind)
+{
+    switch (kind) {
+    case TrailKind::TimeRecords:
+        return "TableName = 'TimeRecord'";
+    case TrailKind::Employees:
+        return "TableName IS DISTINCT FROM 'TimeRecord' AND TableName = 'Employee'";
+    case TrailKind::Companies:
+        return "TableName IS DISTINCT FROM 'TimeRecord' AND TableName = 'Company'";
+    case TrailKind::Options:
+        return "TableName IS DISTINCT FROM 'TimeRecord' AND TableName IN ('_System', '_CheckLimits')";
+    default:
+        return "TableName IS DISTINCT FROM 'TimeRecord' AND TableName IS NULL";
+    }
+}
+
+std::string NumberList(const std::vector<std::int64_t>& numbers)
+{
+    return numbers.empty() ? "NULL" : fmt::format("{}", fmt::join(numbers, ","));
+}
+
+std::string Conditions(const TrailQuery& query)
+{
+    std::string sql = "ChangeID > :newer";
+    sql += query.olderThan ? " AND ChangeID < :older" : "";
+    sql += query.from ? " AND ChangedAt >= :from" : "";
+    sql += query.to ? " AND ChangedAt < :behind" : "";
+    sql += query.step ? " AND Step = :step" : "";
+    if (query.person) {
+        sql += query.person->empty() ? " AND COALESCE(ChangedBy, '') = ''" : " AND ChangedBy = :person";
+    }
+    sql += query.kind ? std::string(" AND ") + ConditionOf(*query.kind) : "";
+    sql += query.action.empty() ? "" : " AND Action = :action";
+    sql += query.records ? fmt::format(" AND TableName = 'TimeRecord' AND RowID IN ({})", NumberList(*query.records)) : "";
+    sql += query.recordsIn ? " AND (TableName = 'Employee' OR TableName = 'TimeRecord' AND RowID IN (SELECT Record FROM InDays))" : "";
+    return sql;
+}
+
+// An entry tells only the columns that changed: one moment in the days is enough to know the record by.
+std::string TellsMomentInDays(const EngineWords& words)
+{
+    std::string sql;
+    for (const char* side : {"Before", "After"}) {
+        for (const char* column : {"StartTime", "EndTime"}) {
+            sql += fmt::format("{}{} BETWEEN :first AND :last", sql.empty() ? "" : " OR ", Said(words.jsonField, side, column));
+        }
+    }
+    return '(' + sql + ')';
+}
+
+// The keys of the employee's records that lie in the days now, and of those that did.
+std::string RecordsInDays(const EngineWords& words)
+{
+    const std::string did = "UNION SELECT RowID FROM _Change WHERE TableName = 'TimeRecord' AND " + TellsMomentInDays(words) + " AND ";
+    return fmt::format("WITH InDays (Record) AS MATERIALIZED (SELECT TimeRecordID FROM TimeRecord WHERE EmployeeID = "
+                       "CAST(:employee AS INTEGER) AND ({} OR {}) {}{} {}{}) ",
+                       Said(words.inDays, "StartTime"), Said(words.inDays, "EndTime"), did, kAfterOf, did, kBeforeOf);
+}
+
+std::string Day(DateTime date)
+{
+    return FormatDateTime(date, "yyyy-mm-dd");
+}
+
+// "~" lies behind every time of that day.
+std::string Behind(DateTime date)
+{
+    return Day(date) + "~";
+}
+
+void BindDays(Statement& statement, const TrailQuery& query)
+{
+    if (query.from) {
+        statement.Bind("from", Day(*query.from));
+    }
+    if (query.to) {
+        statement.Bind("behind", Behind(*query.to));
+    }
+    if (query.recordsIn) {
+        statement.Bind("first", Day(query.recordsIn->first));
+        statement.Bind("last", Behind(query.recordsIn->last));
+    }
+}
+
+void BindNumber(Statement& statement, const char* name, const std::optional<std::int64_t>& number)
+{
+    if (number) {
+        statement.Bind(name, std::to_string(*number));
+    }
+}
+
+} // namespace
+
+std::string TrailSql(const TrailQuery& query, const EngineWords& words)
+{
+    const std::string select = fmt::format("SELECT {} FROM _Change WHERE {}", Columns(words), Conditions(query));
+    const std::string end = fmt::format(" ORDER BY 1 DESC LIMIT {}", query.most);
+    if (!query.employee) {
+        return select + end;
+    }
+    return (query.recordsIn ? RecordsInDays(words) : "") + select + " AND " + kAfterOf + " UNION ALL " + select + " AND " + kBeforeOf + end;
+}
+
+void BindTrail(Statement& statement, const TrailQuery& query)
+{
+    BindNumber(statement, "newer", query.newerThan);
+    BindNumber(statement, "older", query.olderThan);
+    BindNumber(statement, "employee", query.employee);
+    BindNumber(statement, "step", query.step);
+    BindDays(statement, query);
+    if (query.person && !query.person->empty()) {
+        statement.Bind("person", *query.person);
+    }
+    if (!query.action.empty()) {
+        statement.Bind("action", query.action);
+    }
+}
+
+} // namespace ptk

@@ -1,0 +1,119 @@
+#include "ui/frame/EditMenu.h"
+
+#include "office/records/EmployeeTexts.h"
+#include "platform/Required.h"
+#include "platform/Succeeds.h"
+#include "platform/system/BusyPointer.h"
+#include "startup/CController.h"
+#include "ui/page/PageHost.h"
+#include "ui/page/SharedRecords.h"
+#include "ui/widgets/ThemeIcon.h"
+
+#include <QAction>
+#include <QMenu>
+
+namespace ptk {
+
+namespace {
+
+constexpr auto kUndoTitle = "Undo Error";
+constexpr auto kRedoTitle = "Redo Error";
+constexpr auto kUndone = "Undone: ";
+constexpr auto kRedone = "Done again: ";
+constexpr auto kNothingToUndo = "Nothing has been stored since login that could be undone";
+constexpr auto kNothingToRedo = "Nothing has been undone that could be done again";
+constexpr auto kUndo = "Undo";
+constexpr auto kRedo = "Redo";
+constexpr auto kBusy = "Not now: the program is busy";
+
+constexpr qsizetype kMostCharacters = 60; // of a line: names have any length
+
+QString Caption(const std::string& text)
+{
+    QString caption = QString::fromStdString(text);
+    if (caption.size() > kMostCharacters) {
+        caption = caption.left(kMostCharacters) + QChar(0x2026);
+    }
+    return "&" + caption.replace("&", "&&");
+}
+
+void ShowLine(QAction& line, bool possible, const std::string& text, const char* whyNot)
+{
+    line.setText(Caption(text));
+    line.setEnabled(possible);
+    line.setToolTip(possible ? QString::fromStdString(text) : QString(whyNot));
+}
+
+} // namespace
+
+EditMenu::EditMenu(QMenu& menu, const Lines& lines, PageHost& host, std::function<bool()> isBusy)
+    : QObject(&menu), m_lines(lines), m_host(host), m_isBusy(std::move(isBusy))
+{
+    menu.setToolTipsVisible(true);
+    m_lines.undo.setIcon(ThemeIcon("undo"));
+    m_lines.redo.setIcon(ThemeIcon("redo"));
+    connect(&m_lines.undo, &QAction::triggered, this, &EditMenu::Undo);
+    connect(&m_lines.redo, &QAction::triggered, this, &EditMenu::Redo);
+    connect(&m_host.SharedRecords(), &SharedRecords::UndoChanged, this, &EditMenu::Show);
+    Show();
+}
+
+void EditMenu::Show()
+{
+    const UndoStack* stack = m_host.SharedRecords().Undo();
+    const bool canUndo = stack != nullptr && stack->CanUndo();
+    const bool canRedo = stack != nullptr && stack->CanRedo();
+    ShowLine(m_lines.undo, canUndo, canUndo ? stack->UndoText() : kUndo, kNothingToUndo);
+    ShowLine(m_lines.redo, canRedo, canRedo ? stack->RedoText() : kRedo, kNothingToRedo);
+}
+
+void EditMenu::Undo()
+{
+    Succeeds([this] { Move(true); }, [this](const Failure& failure) { Refuse(failure.Description(), kUndoTitle); });
+}
+
+void EditMenu::Redo()
+{
+    Succeeds([this] { Move(false); }, [this](const Failure& failure) { Refuse(failure.Description(), kRedoTitle); });
+}
+
+void EditMenu::Move(bool undo)
+{
+    SharedRecords& records = m_host.SharedRecords();
+    if (records.Undo() == nullptr) {
+        return;
+    }
+    if (m_isBusy()) {
+        return (void)emit Said(kBusy);
+    }
+    const bool moved = [&] {
+        const BusyPointer busy(m_host.Desktop());
+        return undo ? records.UndoLast() : records.RedoLast();
+    }();
+    if (!moved) {
+        return Refuse(records.Undo()->Refusal(), undo ? kUndoTitle : kRedoTitle);
+    }
+    const MovedStep step = records.Undo()->Moved();
+    emit Moved(step, QString::fromStdString(DoneText(undo ? kUndone : kRedone, step)));
+}
+
+// Nothing to undo is no refusal.
+void EditMenu::Refuse(const std::string& reason, const char* title)
+{
+    if (!reason.empty()) {
+        m_host.Log(reason);
+        m_host.Desktop().Show(reason, title, Icon::Exclamation);
+    }
+}
+
+// A record is told by its time; whose it is has to be said.
+std::string EditMenu::DoneText(const char* word, const MovedStep& step) const
+{
+    std::string name;
+    if (step.table == "TimeRecord" && step.employee) {
+        name = DisplayNameOf(*Required(Required(m_host.Controller())->EmployeeList()), *step.employee);
+    }
+    return word + step.text + (name.empty() ? name : " (" + name + ")");
+}
+
+} // namespace ptk

@@ -1,0 +1,51 @@
+// The Edit menu: undoing and redoing what was stored since login.
+#pragma once
+
+#include "office/records/UndoStack.h"
+
+#include <functional>
+#include <QObject>
+
+class QAction;
+class QMenu;
+
+namespace ptk {
+
+class PageHost;
+
+// Its lines say what they would do. A box with the focus keeps their keys for its own text, as such boxes do by themselves.
+class EditMenu final : public QObject
+{
+    Q_OBJECT
+
+public:
+    struct Lines
+    {
+        QAction& undo;
+        QAction& redo;
+    };
+
+    // All outlive it. `isBusy` tells that nothing can be undone just now.
+    EditMenu(QMenu& menu, const Lines& lines, PageHost& host, std::function<bool()> isBusy);
+
+signals:
+    // And "Undone: Delete 03/05/2003 08:00 AM (Ann Lee)".
+    void Moved(const ptk::MovedStep& step, const QString& done);
+
+    // Why nothing was done.
+    void Said(const QString& text);
+
+private:
+    void Show();
+    void Undo();
+    void Redo();
+    void Move(bool undo);
+    void Refuse(const std::string& reason, const char* title);
+    [[nodiscard]] std::string DoneText(const char* word, const MovedStep& step) const;
+
+    Lines m_lines;
+    PageHost& m_host;
+    std::function<bool()> m_isBusy;
+};
+
+} // namespace ptk

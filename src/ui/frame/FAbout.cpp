@@ -1,0 +1,23 @@
+#include "ui/frame/FAbout.h"
+
+#include "ui/widgets/ThemeIcon.h"
+#include "ui_FAbout.h"
+
+namespace ptk {
+
+namespace {
+
+constexpr int kPictureSize = 64;
+
+} // namespace
+
+FAbout::FAbout(QWidget* parent) : QDialog(parent), m_ui(std::make_unique<Ui::FAbout>())
+{
+    m_ui->setupUi(this);
+    m_ui->Picture1->setPixmap(ThemeIcon("ptk-admin").pixmap(kPictureSize, kPictureSize));
+    connect(m_ui->cmdOK, &QPushButton::clicked, this, &FAbout::accept);
+}
+
+FAbout::~FAbout() = default;
+
+} // namespace ptk

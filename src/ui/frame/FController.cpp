@@ -1,0 +1,455 @@
+#include "ui/frame/FController.h"
+
+#include "model/CCompanyList.h"
+#include "model/CEmployeeList.h"
+#include "platform/Succeeds.h"
+#include "startup/CController.h"
+#include "startup/Notices.h"
+#include "ui/frame/EditMenu.h"
+#include "ui/frame/HelpMenu.h"
+#include "ui/frame/OptionsPage.h"
+#include "ui/frame/PageFrame.h"
+#include "ui/frame/PageTabs.h"
+#include "ui/history/HistoryWindow.h"
+#include "ui/overview/OverviewWindow.h"
+#include "ui/page/RecordPages.h"
+#include "ui/people/CompanyPage.h"
+#include "ui/people/EmployeePage.h"
+#include "ui/reports/ReportsPage.h"
+#include "ui/reports/WindowMenu.h"
+#include "ui/safety/BackupMenu.h"
+#include "ui/safety/ImportMenu.h"
+#include "ui/timecards/TimeCardPage.h"
+#include "ui/widgets/ElidedLabel.h"
+#include "ui/widgets/NoticeLine.h"
+#include "ui/widgets/ThemeIcon.h"
+#include "ui/widgets/WindowPlace.h"
+#include "ui_FController.h"
+
+#include <array>
+#include <QCloseEvent>
+#include <QPushButton>
+#include <QThread>
+#include <QTimer>
+
+namespace ptk {
+
+namespace {
+
+// Half of 1024 x 700: what a screen of that size has to give at 200 %.
+constexpr QSize kSmallestSize(512, 350);
+
+struct Tab
+{
+    const char* caption;
+    const char* pageCaption;
+    const char* statusText;
+    const char* icon;
+};
+
+constexpr std::array<Tab, 5> kTabs{{
+    {"Timecards", " Generate Time Card ", "Timecards", "timecards"},
+    {"Reports", " Generate Report ", "Reports", "reports"},
+    {"Employees", "  Employee Information  ", "Employee Information", "employees"},
+    {"Company", "  Company Information   ", "Company Information", "company"},
+    {"Options", " General Program Options ", "System Options", "options"},
+}};
+constexpr int kTimeCardTab = 1;
+
+constexpr auto kProgramPanel = "PTK - Administrator";
+constexpr int kPanelMargin = 6;
+constexpr auto kFirstStatus = "<object name : ID>";
+
+constexpr auto kMakingReports = "Not now: reports are being made";
+
+constexpr int kBackupDelay = 300; // milliseconds: nobody waits for the day's first backup to see the window
+
+constexpr auto kPlaceName = "main";
+constexpr QSize kFirstSize(960, 660);
+
+const Tab& TabAt(int index)
+{
+    return kTabs.at(static_cast<std::size_t>(index - 1));
+}
+
+} // namespace
+
+FController::FController(std::string programFolder, ptk::Desktop& desktop, const ptk::Clock& clock)
+    : m_ui(std::make_unique<Ui::FController>()), m_programFolder(std::move(programFolder)), m_desktop(desktop), m_clock(clock),
+      m_employeeModels(std::make_unique<ptk::EmployeeModels>()), m_reports(std::make_unique<OpenReports>(*this, m_programFolder)),
+      m_sharedRecords(std::make_unique<ptk::SharedRecords>())
+{
+    m_ui->setupUi(this);
+    setMinimumSize(kSmallestSize); // the pages scroll below their own size
+    BuildPages();
+    BuildStatusBar();
+    ConnectMenus();
+    ConnectEditMenu();
+    ConnectBackups();
+    ConnectViewMenu();
+    ConnectWindowMenu();
+    ConnectTabs();
+    RestorePlace(*this, kPlaceName, kFirstSize);
+}
+
+// The pages go first: they still show the models.
+FController::~FController()
+{
+    delete takeCentralWidget();
+}
+
+void FController::BuildPages()
+{
+    AddPage(1, m_timeCardPage = new TimeCardPage(*this));
+    AddPage(2, m_reportsPage = new ReportsPage(*this));
+    AddPage(3, m_employeePage = new EmployeePage(*this));
+    AddPage(4, m_companyPage = new CompanyPage(*this));
+    AddPage(5, m_optionsPage = new OptionsPage(*this));
+}
+
+void FController::AddPage(int index, QWidget* page)
+{
+    const Tab& tab = TabAt(index);
+    auto* frame = new PageFrame(tab.pageCaption, page);
+    frame->setObjectName(QString("FrameArray(%1)").arg(index));
+    m_ui->pages->addWidget(frame);
+    m_ui->TabStrip->addTab(ThemeIcon(tab.icon), tab.caption);
+}
+
+void FController::BuildStatusBar()
+{
+    auto* program = new QLabel(kProgramPanel);
+    program->setObjectName("StatusBarPanel1");
+    m_statusText = new ElidedLabel(kFirstStatus);
+    m_statusText->setObjectName("StatusBarPanel2");
+    for (QLabel* panel : {program, m_statusText}) {
+        panel->setContentsMargins(kPanelMargin, 0, kPanelMargin, 0);
+        m_ui->StatusBar->addWidget(panel, panel == m_statusText ? 1 : 0);
+    }
+}
+
+void FController::ConnectMenus()
+{
+    m_ui->mnuFileExit->setIcon(ThemeIcon("exit"));
+    connect(m_ui->mnuFileExit, &QAction::triggered, this, &FController::Exit);
+    auto* help = new HelpMenu(*this, {*m_ui->mnuHelpAbout, *m_ui->mnuHelpContents, *m_ui->mnuHelpShortcuts}, *this, m_programFolder);
+    connect(help, &HelpMenu::Said, this, &FController::Say);
+}
+
+void FController::ConnectEditMenu()
+{
+    const auto isBusy = [this] { return IsBusyInDialog(); };
+    const std::array<RecordPages::Place, 3> places{
+        {{0, "TimeRecord", *m_timeCardPage}, {2, "Employee", *m_employeePage}, {3, "Company", *m_companyPage}}};
+    auto* pages = new RecordPages(*this, {*m_ui->TabStrip, *m_ui->pages, *this, isBusy}, places);
+    auto* menu = new EditMenu(*m_ui->mnuEdit, {*m_ui->mnuEditUndo, *m_ui->mnuEditRedo}, *this, isBusy);
+    connect(menu, &EditMenu::Moved, pages, &RecordPages::ShowMoved);
+    connect(menu, &EditMenu::Said, this, &FController::Say);
+}
+
+void FController::ConnectBackups()
+{
+    m_backups = new BackupMenu(*m_ui->mnuFileBackUp, *m_ui->mnuFileRestore, *this, this);
+    connect(m_backups, &BackupMenu::Done, this, &FController::Say);
+    connect(m_backups, &BackupMenu::Restored, this, &FController::ShowRestored);
+    auto* import = new ImportMenu(*m_ui->mnuFileImport, *this, *this);
+    connect(import, &ImportMenu::Imported, this, &FController::ShowRestored);
+    connect(import, &ImportMenu::Said, this, &FController::Say);
+}
+
+void FController::ConnectViewMenu()
+{
+    m_ui->mnuViewOverview->setIcon(ThemeIcon("overview"));
+    m_ui->mnuViewHistory->setIcon(ThemeIcon("history"));
+    m_ui->mnuViewHours->setChecked(m_timeCardPage->HoursShown());
+    connect(m_ui->mnuViewOverview, &QAction::triggered, this, &FController::ShowOverview);
+    connect(m_ui->mnuViewHistory, &QAction::triggered, this, [this] { ShowHistory({}); });
+    connect(m_ui->mnuViewCardHistory, &QAction::triggered, m_timeCardPage, &TimeCardPage::AskForHistory);
+    connect(m_timeCardPage, &TimeCardPage::HistoryWanted, this, [this](const HistoryScope& scope) { ShowHistory(scope); });
+    connect(m_ui->mnuViewHours, &QAction::toggled, m_timeCardPage, &TimeCardPage::ShowHours);
+    connect(m_optionsPage, &OptionsPage::LimitsStored, m_timeCardPage, &TimeCardPage::CheckAgain);
+}
+
+void FController::ConnectWindowMenu()
+{
+    QtViewerFactory& viewers = m_reports->Viewers();
+    auto* windows = new WindowMenu(*m_ui->mnuWindow, viewers);
+    connect(windows, &WindowMenu::Done, this, &FController::Say);
+    connect(m_ui->mnuWindowPrintAll, &QAction::triggered, windows, &WindowMenu::PrintAll);
+    connect(m_ui->mnuWindowCloseAll, &QAction::triggered, windows, [&viewers] { viewers.CloseAll(); });
+}
+
+// A click counts also when it does not move the selection: the first one on the first tab does.
+void FController::ConnectTabs()
+{
+    QTabBar* strip = m_ui->TabStrip;
+    const auto change = [this](int tab) {
+        if (tab >= 0) {
+            ChangeTab(tab + 1);
+        }
+    };
+    connect(strip, &QTabBar::tabBarClicked, this, change);
+    connect(strip, &QTabBar::currentChanged, this, change);
+    m_tabs = new PageTabs(*strip);
+}
+
+void FController::resizeEvent(QResizeEvent* event)
+{
+    QMainWindow::resizeEvent(event);
+    const QMargins margins = m_ui->layout->contentsMargins();
+    m_tabs->FitInto(m_ui->content->width() - margins.left() - margins.right());
+}
+
+void FController::Controller(std::shared_ptr<CController> value)
+{
+    m_controller = std::move(value);
+    m_sharedRecords->Use(m_controller == nullptr ? nullptr : m_controller->PTKDatabase());
+    Load();
+    if (m_controller == nullptr) {
+        m_errorNumber = windowerror::NoController;
+    } else {
+        ShowAll();
+        m_backups->Offer();
+        m_timeCardPage->EnablePrint();
+        m_reportsPage->EnableGenerate();
+        QTimer::singleShot(kBackupDelay, this, &FController::BackUpWhenDue);
+    }
+    show();
+}
+
+void FController::BackUpWhenDue()
+{
+    if (IsBusyInDialog()) {
+        return QTimer::singleShot(kBackupDelay, this, &FController::BackUpWhenDue);
+    }
+    m_backups->BackUpWhenDue();
+}
+
+void FController::ShowAll()
+{
+    InitializeTabPages();
+    if (FillTabLists()) {
+        ShowFirstRecords();
+    } else {
+        m_errorNumber = windowerror::FillListsFailed;
+    }
+}
+
+// The reports that are open stay: they say of which day they are.
+void FController::ShowRestored(const QString& outcome)
+{
+    m_timeCardPage->GiveUpCard();
+    m_overview.reset();
+    m_sharedRecords->Use(m_controller->PTKDatabase());
+    m_history.reset();
+    ShowAll();
+    if (!m_optionsPage->DisplaySystemOptions(m_controller->SystemOptions())) {
+        Tell(m_desktop, notice::OptionsUnread);
+    }
+    m_optionsPage->ForgetLimits();
+    Say(outcome);
+}
+
+void FController::Load()
+{
+    if (std::exchange(m_loaded, true)) {
+        return;
+    }
+    ShowTabPage(kTimeCardTab);
+    m_timeCardPage->GiveUpCard();
+    m_reports->Clear(false);
+    m_timeCardPage->InitializePayPeriod();
+}
+
+bool FController::InitializeTabPages()
+{
+    const bool company = m_companyPage->ClearCompanyFields();
+    const bool employee = m_employeePage->ClearEmployeeFields();
+    const bool timeCard = m_timeCardPage->ClearTimeCardDisplay();
+    if (!company || !employee || !timeCard) {
+        m_errorNumber = windowerror::ClearFieldsFailed;
+    }
+    return true;
+}
+
+bool FController::FillTabLists()
+{
+    return Succeeds([this] {
+        const bool companies = m_companyPage->FillCompanyLists();
+        const bool employees = m_employeePage->FillEmployeeLists();
+        const bool reports = m_reportsPage->FillReportList();
+        if (!companies || !employees || !reports) {
+            m_errorNumber = windowerror::FillListsFailed;
+        }
+    });
+}
+
+void FController::ShowFirstRecords()
+{
+    m_companyPage->ShowCompany(m_controller->CompanyList()->Item(1));
+    if (!m_employeePage->ShowEmployee(m_controller->EmployeeList()->Item(1))) {
+        m_timeCardPage->SelectFirstEmployee();
+    }
+    m_reportsPage->SelectFirstReport();
+}
+
+bool FController::DisplaySystemOptions(std::shared_ptr<CSystemOptions> options)
+{
+    return m_optionsPage->DisplaySystemOptions(options);
+}
+
+bool FController::ReturnTimeRecord(const std::shared_ptr<CTimeRecord>& thetimerecord)
+{
+    return m_timeCardPage->ReturnTimeRecord(thetimerecord);
+}
+
+bool FController::SetStatusText(const std::string& name, const std::string& identifier)
+{
+    m_statusText->setText(QString::fromStdString(name + " : " + identifier));
+    return true;
+}
+
+PeriodTexts FController::TimeCardPeriod() const
+{
+    return m_timeCardPage->Period();
+}
+
+void FController::Say(const QString& text)
+{
+    if (auto* line = m_ui->pages->currentWidget()->findChild<NoticeLine*>()) {
+        line->Say(text);
+    }
+}
+
+void FController::Log(const std::string& line)
+{
+    if (m_controller != nullptr) {
+        m_controller->Log(line);
+    }
+}
+
+void FController::ChangeTab(int index)
+{
+    if (index == m_lastTab) {
+        return;
+    }
+    if (ShowTabPage(index)) {
+        m_statusText->setText(TabAt(index).statusText);
+    } else {
+        m_errorNumber = windowerror::ShowPageFailed;
+    }
+    m_lastTab = static_cast<std::int16_t>(index);
+}
+
+bool FController::ShowTabPage(int index)
+{
+    m_ui->pages->setCurrentIndex(index - 1);
+    return m_ui->pages->currentIndex() == index - 1;
+}
+
+void FController::ShowOverview()
+{
+    if (m_overview == nullptr) {
+        m_overview = std::make_unique<OverviewWindow>(*this);
+        connect(m_overview.get(), &OverviewWindow::CardWanted, this, &FController::ShowTimeCard);
+    }
+    m_overview->Open(m_timeCardPage->ChosenPeriod());
+}
+
+// Not while reports are made: they and the page share the one list of records.
+void FController::ShowTimeCard(std::int32_t employeeID, const PayPeriod& period)
+{
+    if (IsBusyInDialog()) {
+        return m_overview->Say(kMakingReports);
+    }
+    m_ui->TabStrip->setCurrentIndex(kTimeCardTab - 1);
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    raise();
+    activateWindow();
+    m_timeCardPage->ShowCard(employeeID, period);
+}
+
+void FController::ShowHistory(const std::optional<HistoryScope>& scope)
+{
+    if (m_history == nullptr) {
+        m_history = std::make_unique<HistoryWindow>(*this);
+    }
+    m_history->Open(scope);
+}
+
+// Unloading the window, in the middle of this, runs the whole close path once more; all of it is harmless when repeated.
+void FController::Exit()
+{
+    CloseDown(true);
+}
+
+void FController::Unload()
+{
+    if (m_closing) {
+        hide();
+    } else {
+        close();
+    }
+}
+
+void FController::CloseDown(bool keepReview)
+{
+    if (!m_optionsPage->SaveSystemOptions()) {
+        Tell(m_desktop, notice::OptionsUnsaved);
+    }
+    m_sharedRecords->Use(nullptr);
+    m_timeCardPage->GiveUpCard();
+    m_overview.reset();
+    m_history.reset();
+    m_reports->Clear(keepReview);
+    const auto controller = m_controller;
+    if (controller == nullptr) {
+        return;
+    }
+    controller->UnloadControllerWindow();
+    controller->Cleanup();
+}
+
+bool FController::IsBusyInDialog() const
+{
+    return m_reportsPage->IsGenerating() || QApplication::activeModalWidget() != nullptr || QThread::currentThread()->loopLevel() > 1;
+}
+
+// A window that is told to close while one of its editors is open, by the end of the desktop's session for instance, closes the editor
+// first and itself when the editor's caller has returned.
+void FController::closeEvent(QCloseEvent* event)
+{
+    if (IsBusyInDialog()) {
+        event->ignore();
+        if (QWidget* editor = QApplication::activeModalWidget()) {
+            editor->close();
+        }
+        QMetaObject::invokeMethod(this, "close", Qt::QueuedConnection);
+        return;
+    }
+    event->accept();
+    if (std::exchange(m_closing, true)) {
+        return;
+    }
+    StorePlace(*this, kPlaceName);
+    CloseDown(false);
+}
+
+// Enter anywhere on a page presses the button that is meant most there, as in a dialog.
+void FController::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
+        return QMainWindow::keyPressEvent(event);
+    }
+    auto* focused = qobject_cast<QPushButton*>(focusWidget());
+    if (focused != nullptr) {
+        return focused->click();
+    }
+    for (auto* button : m_ui->pages->currentWidget()->findChildren<QPushButton*>()) {
+        if (button->isDefault() && button->isEnabled()) {
+            return button->click();
+        }
+    }
+}
+
+} // namespace ptk

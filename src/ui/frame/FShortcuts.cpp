@@ -1,0 +1,109 @@
+#include "ui/frame/FShortcuts.h"
+
+#include "ui_FShortcuts.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QMenuBar>
+
+namespace ptk {
+
+namespace {
+
+constexpr QSize kShortcutsSize(560, 460);
+constexpr QSize kShortcutsSmallest(360, 240);
+constexpr int kRowSpace = 8;     // pixels around the text of a row
+constexpr int kColumnSpace = 24; // pixels beside the text of a cell
+
+struct Shortcut
+{
+    const char* where;
+    const char* keys;
+    const char* what;
+};
+
+constexpr Shortcut kShortcuts[] = {
+    {"Pages", "Ctrl+Tab, Ctrl+PgDown", "Next page"},
+    {"Pages", "Ctrl+Shift+Tab, Ctrl+PgUp", "Previous page"},
+    {"Pages", "Enter", "The button that is meant most"},
+    {"Timecards", "Enter", "Edit the chosen record"},
+    {"Timecards", "Delete", "Delete the chosen record"},
+    {"Timecards", "Alt+L", "What the check found"},
+    {"Reports", "Alt+Left, Alt+Right", "Previous and next period"},
+    {"Reports", "Ctrl+A, Ctrl+Shift+A", "Choose all employees, none"},
+    {"Date boxes", "+, -", "One day on, one day back"},
+    {"Lists", "Alt+Down", "Open the list"},
+    {"Overview", "Alt+Left, Alt+Right", "Previous and next period"},
+    {"Overview", "Enter", "The card of the chosen employee"},
+    {"Overview, History", "F5", "Read again"},
+    {"Overview, History", "Ctrl+C", "Copy the chosen rows, or all"},
+    {"Overview, History", "Ctrl+S", "Save in a file"},
+    {"Report windows", "Ctrl+S", "Save as a PDF document, a table or text"},
+    {"Report windows", "Ctrl+O", "Show as it will be printed"},
+    {"Report windows", "Ctrl+P", "Print"},
+    {"Report windows", "Ctrl+F, F3, Shift+F3", "Find, again, backwards"},
+    {"Report windows", "Ctrl++, Ctrl+-, Ctrl+0", "Larger, smaller, as at first"},
+    {"Windows", "Escape", "Close"},
+};
+
+QString WithoutMnemonic(QString text)
+{
+    return text.remove('&').remove("...");
+}
+
+} // namespace
+
+FShortcuts::FShortcuts(QWidget& window) : QDialog(&window), m_ui(std::make_unique<Ui::FShortcuts>())
+{
+    m_ui->setupUi(this);
+    setMinimumSize(kShortcutsSmallest);
+    resize(kShortcutsSize);
+    QTableWidget* table = m_ui->grdShortcuts;
+    table->setColumnCount(3);
+    table->setHorizontalHeaderLabels({"Where", "Keys", "What"});
+    table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeading | Qt::AlignVCenter);
+    table->horizontalHeader()->setStretchLastSection(true);
+    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + kRowSpace);
+    table->verticalHeader()->hide();
+    AddMenus(window);
+    AddOthers();
+    for (const int column : {0, 1}) {
+        table->resizeColumnToContents(column);
+        table->setColumnWidth(column, table->columnWidth(column) + kColumnSpace);
+    }
+    connect(m_ui->cmdClose, &QPushButton::clicked, this, &QDialog::accept);
+}
+
+FShortcuts::~FShortcuts() = default;
+
+void FShortcuts::AddMenus(const QWidget& window)
+{
+    for (const QMenuBar* bar : window.findChildren<QMenuBar*>()) {
+        for (const QAction* menu : bar->actions()) {
+            for (const QAction* line : menu->menu()->actions()) {
+                if (!line->shortcut().isEmpty()) {
+                    Add(WithoutMnemonic(menu->text()), line->shortcut().toString(QKeySequence::NativeText), WithoutMnemonic(line->text()));
+                }
+            }
+        }
+    }
+}
+
+void FShortcuts::AddOthers()
+{
+    for (const Shortcut& shortcut : kShortcuts) {
+        Add(shortcut.where, shortcut.keys, shortcut.what);
+    }
+}
+
+void FShortcuts::Add(const QString& where, const QString& keys, const QString& what)
+{
+    const int row = m_ui->grdShortcuts->rowCount();
+    m_ui->grdShortcuts->insertRow(row);
+    int column = 0;
+    for (const QString& text : {where, keys, what}) {
+        m_ui->grdShortcuts->setItem(row, column++, new QTableWidgetItem(text));
+    }
+}
+
+} // namespace ptk

@@ -1,0 +1,137 @@
+#include "ui/frame/QtDesktop.h"
+
+#include "platform/system/SystemShell.h"
+
+#include <QApplication>
+#include <QMessageBox>
+
+#include <optional>
+
+namespace ptk {
+
+namespace {
+
+QMessageBox::Icon ToQt(Icon icon)
+{
+    switch (icon) {
+    case Icon::Critical:
+        return QMessageBox::Critical;
+    case Icon::Question:
+        return QMessageBox::Question;
+    case Icon::Exclamation:
+        return QMessageBox::Warning;
+    case Icon::Information:
+        return QMessageBox::Information;
+    case Icon::None:
+        break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+QMessageBox::StandardButtons ToQt(Buttons buttons)
+{
+    switch (buttons) {
+    case Buttons::OkCancel:
+        return QMessageBox::Ok | QMessageBox::Cancel;
+    case Buttons::YesNo:
+        return QMessageBox::Yes | QMessageBox::No;
+    case Buttons::Ok:
+        break;
+    }
+    return QMessageBox::Ok;
+}
+
+Answer ToAnswer(int button)
+{
+    switch (button) {
+    case QMessageBox::Yes:
+        return Answer::Yes;
+    case QMessageBox::No:
+        return Answer::No;
+    case QMessageBox::Cancel:
+        return Answer::Cancel;
+    default:
+        return Answer::Ok;
+    }
+}
+
+// A box that is in front of everything that could cover it.
+QWidget* Owner()
+{
+    QWidget* modal = QApplication::activeModalWidget();
+    return modal != nullptr ? modal : QApplication::activeWindow();
+}
+
+// The wait pointer would say that the box cannot be answered.
+class PlainPointer
+{
+public:
+    PlainPointer()
+    {
+        if (const QCursor* shape = QApplication::overrideCursor()) {
+            m_lifted = *shape;
+            QApplication::restoreOverrideCursor();
+        }
+    }
+    ~PlainPointer()
+    {
+        if (m_lifted) {
+            QApplication::setOverrideCursor(*m_lifted);
+        }
+    }
+    PlainPointer(const PlainPointer&) = delete;
+    PlainPointer& operator=(const PlainPointer&) = delete;
+
+private:
+    std::optional<QCursor> m_lifted;
+};
+
+} // namespace
+
+Answer QtDesktop::MessageBox(const std::string& text, const std::string& title, Icon icon, Buttons buttons)
+{
+    const PlainPointer pointer;
+    QMessageBox box(ToQt(icon), QString::fromStdString(title), QString(), ToQt(buttons), Owner());
+    box.setTextFormat(Qt::PlainText);
+    box.setText(QString::fromStdString(text));
+    if (buttons == Buttons::YesNo) {
+        box.setDefaultButton(QMessageBox::No); // whoever presses Enter without reading loses nothing
+        box.setEscapeButton(QMessageBox::No);
+    }
+    return ToAnswer(box.exec());
+}
+
+void QtDesktop::SetPointer(Pointer pointer)
+{
+    const bool busy = pointer == Pointer::Busy;
+    if (busy == m_busy) {
+        return;
+    }
+    m_busy = busy;
+    if (busy) {
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    } else {
+        QApplication::restoreOverrideCursor();
+    }
+}
+
+std::int32_t QtDesktop::Shell(const DesktopWindow&, ShellVerb verb, const std::string& path)
+{
+    return Run(verb, path, "");
+}
+
+std::int32_t QtDesktop::Print(const DesktopWindow&, const std::string& path, const std::string& title)
+{
+    return Run(ShellVerb::Print, path, title);
+}
+
+std::int32_t QtDesktop::Run(ShellVerb verb, const std::string& path, const std::string& title)
+{
+    const bool busy = m_busy;
+    SetPointer(Pointer::Busy);
+    const std::int32_t code = RunSystemShell(verb, path, title, m_refusal);
+    SetPointer(busy ? Pointer::Busy : Pointer::Default);
+    return code;
+}
+
+} // namespace ptk

@@ -1,0 +1,77 @@
+// The history of changes: who changed what, when, from what to what.
+#pragma once
+
+#include "office/history/HistoryScope.h"
+#include "office/history/HistoryTable.h"
+#include "store/trail/TrailReader.h"
+
+#include <memory>
+#include <optional>
+#include <QTimer>
+#include <QWidget>
+#include <string>
+
+namespace Ui {
+class HistoryWindow;
+}
+
+namespace ptk {
+
+class EmployeeNames;
+class HistoryFile;
+class HistoryModel;
+class PageHost;
+
+// Reads the newest changes and more as one scrolls down, never all. Saves all of them while nothing else is to be done, so that the window,
+// and every other one, can be used meanwhile.
+class HistoryWindow final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    // The host outlives it.
+    explicit HistoryWindow(PageHost& host);
+
+    ~HistoryWindow() override;
+
+    // Brings it to the front. Where it was not open it shows everything; with a scope always just that.
+    void Open(const std::optional<HistoryScope>& scope);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+    // The table's room.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void LayOut();
+    void PrepareTable();
+    void Connect();
+    void ConnectKeys();
+
+    void Say(const QString& text);
+    void Complain(const std::string& line);
+    void StartOver();
+    void Refresh();
+    void Begin();
+    void ShowNews();
+    void FitColumns();
+    [[nodiscard]] int NamesWidth(HistoryColumn column) const;
+    void ShowEntry();
+    void Copy();
+
+    void SaveAs();
+    void SaveOn();
+    void StopSaving();
+    void ShowSaving();
+
+    PageHost& m_host;
+    std::unique_ptr<Ui::HistoryWindow> m_ui;
+    HistoryModel* m_rows; // belongs to the window
+    TrailQuery m_query;   // whose rows are shown
+    std::shared_ptr<const EmployeeNames> m_names;
+    std::unique_ptr<HistoryFile> m_file; // while it is being saved
+    QTimer m_saving;
+};
+
+} // namespace ptk

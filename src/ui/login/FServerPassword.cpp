@@ -1,0 +1,33 @@
+#include "ui/login/FServerPassword.h"
+
+#include "ui_FServerPassword.h"
+
+namespace ptk {
+
+namespace {
+
+constexpr auto kWanted = "The server of the database wants a password:\n%1";
+
+} // namespace
+
+FServerPassword::FServerPassword(const std::string& address) : m_ui(std::make_unique<Ui::FServerPassword>())
+{
+    m_ui->setupUi(this);
+    m_ui->lblServer->setText(QString(kWanted).arg(QString::fromStdString(address)));
+    setMinimumSize(sizeHint()); // of a long address all lines
+    connect(m_ui->cmdConnect, &QPushButton::clicked, this, &QDialog::accept);
+    connect(m_ui->cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+FServerPassword::~FServerPassword() = default;
+
+std::optional<std::string> FServerPassword::Ask(const std::string& address)
+{
+    FServerPassword window(address);
+    if (window.exec() != QDialog::Accepted) {
+        return std::nullopt;
+    }
+    return window.m_ui->txtServerPassword->text().toStdString();
+}
+
+} // namespace ptk

@@ -1,0 +1,82 @@
+// The rows of the payday overview.
+#pragma once
+
+#include "office/overview/OverviewTable.h"
+
+#include <memory>
+#include <QAbstractTableModel>
+#include <QSortFilterProxyModel>
+
+namespace ptk {
+
+class OverviewReading;
+
+// In the order of reading. Shows what has been read of a reading that goes on meanwhile.
+class OverviewModel final : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    using QAbstractTableModel::QAbstractTableModel;
+
+    // Takes in what has been read since; another reading than before takes the place of its rows.
+    void Show(const std::shared_ptr<const OverviewReading>& reading);
+
+    // REQUIRES: a reading was shown, here and in the next two.
+    [[nodiscard]] const OverviewReading& Shown() const { return *m_reading; }
+
+    [[nodiscard]] const std::vector<OverviewRow>& Rows() const;
+    [[nodiscard]] const OverviewRow& Row(int row) const { return Rows().at(static_cast<std::size_t>(row)); }
+    [[nodiscard]] bool HasReading() const { return m_reading != nullptr; }
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+private:
+    std::shared_ptr<const OverviewReading> m_reading;
+    int m_shown = 0;
+};
+
+// The same sorted by a column, and without those who have no problems where that is wanted.
+class SortedOverview final : public QSortFilterProxyModel
+{
+    Q_OBJECT
+
+public:
+    explicit SortedOverview(OverviewModel& rows);
+
+    void ShowOnlyProblems(bool only);
+    [[nodiscard]] bool OnlyProblems() const { return m_onlyProblems; }
+
+protected:
+    bool lessThan(const QModelIndex& left, const QModelIndex& right) const override;
+    bool filterAcceptsRow(int row, const QModelIndex& parent) const override;
+
+private:
+    OverviewModel& m_rows;
+    bool m_onlyProblems = false;
+};
+
+// The sums below.
+class OverviewTotalsModel final : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    using QAbstractTableModel::QAbstractTableModel;
+
+    void Show(const OverviewCells& cells);
+    [[nodiscard]] const OverviewCells& Cells() const { return m_cells; }
+
+    int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : 1; }
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+private:
+    OverviewCells m_cells;
+};
+
+} // namespace ptk

@@ -1,0 +1,430 @@
+#include "ui/overview/OverviewWindow.h"
+
+#include "model/check/FindingText.h"
+#include "office/card/CardFindings.h"
+#include "office/overview/OverviewReading.h"
+#include "office/overview/OverviewTable.h"
+#include "office/overview/OverviewTexts.h"
+#include "office/reports/SaveReport.h"
+#include "platform/Failure.h"
+#include "platform/Required.h"
+#include "platform/Succeeds.h"
+#include "platform/system/Clock.h"
+#include "startup/CController.h"
+#include "store/CSystemOptions.h"
+#include "ui/overview/OverviewModel.h"
+#include "ui/page/PageHost.h"
+#include "ui/widgets/ButtonRow.h"
+#include "ui/widgets/FoldingRow.h"
+#include "ui/widgets/SaveDialog.h"
+#include "ui/widgets/ThemeIcon.h"
+#include "ui/widgets/WindowPlace.h"
+#include "ui_OverviewWindow.h"
+
+#include <QClipboard>
+#include <QCloseEvent>
+#include <QElapsedTimer>
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QScrollBar>
+#include <QShortcut>
+
+#include <algorithm>
+
+namespace ptk {
+
+namespace {
+
+constexpr auto kNoPeriod = "Choose two dates, the second not before the first";
+constexpr auto kNotMoved = "There is no such period";
+constexpr auto kNotRead = "The overview could not be read: ";
+constexpr auto kFindingsOf = "%1: %2";
+constexpr auto kCopied = "Copied: %1 and a heading";
+constexpr auto kLines = "%1 lines";
+constexpr auto kOneLine = "1 line";
+
+constexpr auto kPlaceName = "overview";
+constexpr QSize kFirstSize(900, 640);
+constexpr QSize kSmallestSize(512, 350); // as the main window's
+constexpr qint64 kReadingTime = 30;      // milliseconds without a glance at keys and mouse
+constexpr int kFindingLines = 3;
+constexpr int kRowSpace = 8;     // pixels around the text of a row
+constexpr int kColumnSpace = 24; // pixels around a heading: margins and the sorting arrow
+constexpr int kCellSpace = 12;
+constexpr int kNameCharacters = 18;
+
+} // namespace
+
+OverviewWindow::OverviewWindow(PageHost& host)
+    : m_host(host), m_ui(std::make_unique<Ui::OverviewWindow>()), m_rows(new OverviewModel(this)), m_sorted(new SortedOverview(*m_rows)),
+      m_totals(new OverviewTotalsModel(this))
+{
+    m_ui->setupUi(this);
+    setMinimumSize(kSmallestSize);
+    setWindowIcon(ThemeIcon("overview"));
+    LayOut();
+    PrepareTable();
+    ConnectPeriod();
+    ConnectTable();
+    ConnectKeys();
+    m_next.setSingleShot(true);
+    connect(&m_next, &QTimer::timeout, this, &OverviewWindow::ReadOn);
+    ShowProgress();
+    RestorePlace(*this, kPlaceName, kFirstSize);
+}
+
+OverviewWindow::~OverviewWindow() = default;
+
+// What stands side by side folds on a narrow window.
+void OverviewWindow::LayOut()
+{
+    auto* top = new FoldingRow;
+    top->addWidget(m_ui->fraPeriod);
+    top->addWidget(m_ui->fraRows, 1);
+    m_ui->layout->insertLayout(0, top);
+    auto* buttons = new ButtonRow;
+    m_ui->layout->addLayout(buttons);
+    const std::unique_ptr<QLayout> before(m_ui->buttons);
+    buttons->TakeFrom(*before);
+    m_ui->lstOverviewFindings->KeepRoom(kFindingLines);
+}
+
+void OverviewWindow::PrepareTable()
+{
+    m_ui->grdOverview->setModel(m_sorted);
+    m_ui->grdTotals->setModel(m_totals);
+    for (QTableView* table : {m_ui->grdOverview, m_ui->grdTotals}) {
+        table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+        table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + kRowSpace);
+        table->verticalHeader()->hide();
+        table->horizontalHeader()->setHighlightSections(false);
+    }
+    m_ui->grdTotals->horizontalHeader()->hide();
+    m_ui->grdTotals->setFixedHeight(m_ui->grdTotals->verticalHeader()->defaultSectionSize() + 2 * m_ui->grdTotals->frameWidth());
+    m_ui->grdOverview->viewport()->installEventFilter(this);
+    m_ui->grdOverview->sortByColumn(static_cast<int>(OverviewColumn::Problems), Qt::DescendingOrder);
+}
+
+void OverviewWindow::ConnectPeriod()
+{
+    m_ui->dttbOverviewFrom->SetClock(m_host.Clock());
+    m_ui->dttbOverviewTo->SetClock(m_host.Clock());
+    connect(m_ui->dttbOverviewFrom, &DateCombo::Changed, this, [this] {
+        Succeeds([this] {
+            if (const auto from = m_ui->dttbOverviewFrom->Date()) {
+                m_ui->dttbOverviewTo->SetDate(PayPeriodFrom(*from, PeriodLength()).to);
+            }
+        });
+    });
+    for (DateCombo* box : {m_ui->dttbOverviewFrom, m_ui->dttbOverviewTo}) {
+        connect(box->lineEdit(), &QLineEdit::returnPressed, this, &OverviewWindow::Refresh);
+    }
+    connect(m_ui->cmdOverviewBack, &QPushButton::clicked, this, [this] { StepPeriod(-1); });
+    connect(m_ui->cmdOverviewNext, &QPushButton::clicked, this, [this] { StepPeriod(1); });
+    connect(m_ui->cmdRefresh, &QPushButton::clicked, this, &OverviewWindow::Refresh);
+    connect(m_ui->cmdStop, &QPushButton::clicked, this, &OverviewWindow::Stop);
+}
+
+void OverviewWindow::ConnectTable()
+{
+    QTableView* table = m_ui->grdOverview;
+    connect(m_ui->chkOnlyProblems, &QCheckBox::toggled, this, [this](bool only) {
+        m_sorted->ShowOnlyProblems(only);
+        ShowTotals();
+        ShowFindings();
+    });
+    connect(table->selectionModel(), &QItemSelectionModel::selectionChanged, this, &OverviewWindow::ShowFindings);
+    connect(m_sorted, &QAbstractItemModel::layoutChanged, this, &OverviewWindow::ShowFindings);
+    connect(table, &QTableView::doubleClicked, this, &OverviewWindow::OpenCard);
+    connect(table->horizontalHeader(), &QHeaderView::sectionResized, this,
+            [this](int column, int, int width) { m_ui->grdTotals->setColumnWidth(column, width); });
+    connect(table->horizontalScrollBar(), &QScrollBar::valueChanged, m_ui->grdTotals->horizontalScrollBar(), &QScrollBar::setValue);
+    connect(m_ui->lstOverviewFindings, &FindingList::Entered, this, &OverviewWindow::OpenCard);
+    connect(m_ui->cmdSaveAs, &QPushButton::clicked, this, &OverviewWindow::SaveAs);
+    connect(m_ui->cmdOpenCard, &QPushButton::clicked, this, &OverviewWindow::OpenCard);
+    connect(m_ui->cmdClose, &QPushButton::clicked, this, &QWidget::close);
+}
+
+void OverviewWindow::ConnectKeys()
+{
+    const auto onKey = [this](QWidget* where, const QKeySequence& key, Qt::ShortcutContext context, auto action) {
+        connect(new QShortcut(key, where, nullptr, nullptr, context), &QShortcut::activated, this, action);
+    };
+    onKey(this, Qt::Key_F5, Qt::WindowShortcut, [this] { Refresh(); });
+    onKey(this, QKeySequence::Copy, Qt::WindowShortcut, [this] { Copy(); });
+    onKey(this, QKeySequence::Save, Qt::WindowShortcut, [this] { SaveAs(); });
+    onKey(this, Qt::ALT | Qt::Key_Left, Qt::WindowShortcut, [this] { StepPeriod(-1); });
+    onKey(this, Qt::ALT | Qt::Key_Right, Qt::WindowShortcut, [this] { StepPeriod(1); });
+    onKey(this, Qt::Key_Escape, Qt::WindowShortcut, [this] {
+        if (m_next.isActive()) {
+            Stop();
+        } else {
+            close();
+        }
+    });
+    for (const Qt::Key enter : {Qt::Key_Return, Qt::Key_Enter}) {
+        onKey(m_ui->grdOverview, enter, Qt::WidgetShortcut, [this] { OpenCard(); });
+    }
+}
+
+void OverviewWindow::Open(const std::optional<PayPeriod>& timecards)
+{
+    const bool wasOpen = isVisible();
+    show();
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    raise();
+    activateWindow();
+    if (wasOpen) {
+        return;
+    }
+    m_ui->grdOverview->setFocus();
+    if (Succeeds([&] { ShowPeriod(OverviewPeriod(timecards, m_host.Clock().Today(), PeriodLength())); })) {
+        Refresh();
+    }
+}
+
+void OverviewWindow::Say(const QString& text)
+{
+    m_ui->notice->Say(text);
+}
+
+void OverviewWindow::StepPeriod(std::int16_t direction)
+{
+    const auto step = [&] {
+        const auto from = m_ui->dttbOverviewFrom->Date();
+        const auto next = from ? StepPayPeriod(*from, PeriodLength(), direction) : std::nullopt;
+        if (!next) {
+            return false;
+        }
+        ShowPeriod(*next);
+        return true;
+    };
+    if (Succeeds(step)) {
+        Refresh();
+    } else {
+        Say(kNotMoved);
+    }
+}
+
+void OverviewWindow::ShowPeriod(const PayPeriod& period)
+{
+    m_ui->dttbOverviewFrom->SetDate(period.from);
+    m_ui->dttbOverviewTo->SetDate(period.to);
+}
+
+std::optional<PayPeriod> OverviewWindow::Period() const
+{
+    const auto from = m_ui->dttbOverviewFrom->Date();
+    const auto to = m_ui->dttbOverviewTo->Date();
+    return from && to && *from <= *to ? std::optional(PayPeriod{*from, *to}) : std::nullopt;
+}
+
+std::int16_t OverviewWindow::PeriodLength() const
+{
+    return Required(Required(m_host.Controller())->SystemOptions())->PeriodLength();
+}
+
+// A failure of the first step leaves what was read before in its place.
+void OverviewWindow::Refresh()
+{
+    Say(QString());
+    m_next.stop();
+    Succeeds([this] { Begin(); }, [this](const Failure& reason) { Complain(reason.Description()); });
+}
+
+void OverviewWindow::Begin()
+{
+    const auto period = Period();
+    if (!period) {
+        return Say(kNoPeriod);
+    }
+    const auto controller = Required(m_host.Controller());
+    m_reading = std::make_shared<OverviewReading>(Required(controller->PTKDatabase()),
+                                                  OfferedEmployees(*Required(controller->EmployeeList())), *period, m_host.Clock().Now());
+    m_next.start(0);
+    ShowProgress();
+}
+
+// Never within itself: nothing that it does lets other events happen.
+void OverviewWindow::ReadOn()
+{
+    const OverviewRow* shown = ShownRow();
+    const auto chosen = shown != nullptr && m_ui->grdOverview->selectionModel()->hasSelection()
+                            ? std::optional(shown->employee->EmployeeID())
+                            : std::nullopt;
+    QElapsedTimer time;
+    time.start();
+    const auto read = [&] { m_reading->ReadOn([&] { return time.elapsed() < kReadingTime; }); };
+    if (!Succeeds(read, [this](const Failure& reason) { Complain(reason.Description()); })) {
+        return Stop();
+    }
+    m_rows->Show(m_reading);
+    KeepChoice(chosen);
+    ShowTotals();
+    ShowFindings();
+    if (m_reading->IsDone()) {
+        return Stop();
+    }
+    m_next.start(0);
+    ShowProgress();
+}
+
+void OverviewWindow::Stop()
+{
+    m_next.stop();
+    ShowProgress();
+}
+
+void OverviewWindow::Complain(const std::string& reason)
+{
+    const std::string line = kNotRead + reason;
+    Say(QString::fromStdString(line));
+    m_host.Log(line);
+}
+
+void OverviewWindow::ShowProgress()
+{
+    const bool reading = m_next.isActive();
+    for (QWidget* control : {static_cast<QWidget*>(m_ui->barOverview), static_cast<QWidget*>(m_ui->cmdStop)}) {
+        control->setVisible(reading);
+    }
+    if (reading) {
+        const std::size_t read = m_reading->Result().rows.size();
+        m_ui->barOverview->setRange(0, static_cast<int>(m_reading->Offered()));
+        m_ui->barOverview->setValue(static_cast<int>(read));
+        m_ui->lblOverview->setText(QString::fromStdString(ReadingText(read, m_reading->Offered())));
+    } else {
+        ShowRead();
+    }
+}
+
+// Of the rows that are shown, which are an earlier reading's where the last one failed at once.
+void OverviewWindow::ShowRead()
+{
+    if (!m_rows->HasReading()) {
+        return m_ui->lblOverview->setText(QString());
+    }
+    m_ui->lblOverview->setText(QString::fromStdString(OverviewNews(m_rows->Shown().Result(), m_rows->Shown().Offered())));
+}
+
+const OverviewRow* OverviewWindow::ShownRow() const
+{
+    const auto chosen = m_ui->grdOverview->selectionModel()->selectedRows();
+    const QModelIndex index = chosen.isEmpty() ? m_sorted->index(0, 0) : chosen.first();
+    return index.isValid() ? &m_rows->Row(m_sorted->mapToSource(index).row()) : nullptr;
+}
+
+// Of the reading before: it is chosen again as soon as it is there.
+void OverviewWindow::KeepChoice(const std::optional<std::int32_t>& employeeID)
+{
+    if (employeeID) {
+        m_kept = employeeID;
+    }
+    if (!m_kept || m_ui->grdOverview->selectionModel()->hasSelection()) {
+        return;
+    }
+    for (int row = 0; row < m_sorted->rowCount(); ++row) {
+        if (m_rows->Row(m_sorted->mapToSource(m_sorted->index(row, 0)).row()).employee->EmployeeID() == *m_kept) {
+            return m_ui->grdOverview->selectRow(row);
+        }
+    }
+}
+
+void OverviewWindow::ShowFindings()
+{
+    const OverviewRow* row = ShownRow();
+    if (row == m_told && row != nullptr) {
+        return; // nobody reading them is disturbed by what is read meanwhile
+    }
+    m_told = row;
+    m_ui->cmdOpenCard->setEnabled(row != nullptr);
+    if (row == nullptr) {
+        m_ui->lblOverviewFindings->setText(QString());
+        return m_ui->lstOverviewFindings->Show({});
+    }
+    const QString summary = QString::fromStdString(FindingSummary(row->check));
+    m_ui->lblOverviewFindings->setText(QString(kFindingsOf).arg(QString::fromStdString(row->employee->DisplayName()), summary));
+    m_ui->lstOverviewFindings->Show(ShownFindings(row->check, m_rows->Shown().Result().limits.showNotices));
+}
+
+void OverviewWindow::ShowTotals()
+{
+    if (m_rows->HasReading()) {
+        m_totals->Show(TotalCells(m_rows->Rows(), m_sorted->OnlyProblems()));
+        FitColumns();
+    }
+}
+
+// The names take what the figures leave. Headings and sums have to fit; no figure is wider than its sum, or hardly.
+void OverviewWindow::FitColumns()
+{
+    QTableView* table = m_ui->grdOverview;
+    QFont bold = table->font();
+    bold.setBold(true);
+    int figures = 0;
+    for (int column = 1; column < m_sorted->columnCount(); ++column) {
+        const QString heading = m_sorted->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+        const int sum = QFontMetrics(bold).horizontalAdvance(m_totals->index(0, column).data().toString());
+        const int width = std::max(table->fontMetrics().horizontalAdvance(heading) + kColumnSpace, sum + kCellSpace);
+        table->setColumnWidth(column, width);
+        figures += width;
+    }
+    const int least = kNameCharacters * table->fontMetrics().averageCharWidth();
+    table->setColumnWidth(0, std::max(table->viewport()->width() - figures, least));
+}
+
+bool OverviewWindow::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Resize) {
+        FitColumns();
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+// The chosen rows in the order in which they stand, or all.
+void OverviewWindow::Copy()
+{
+    const QItemSelectionModel& selection = *m_ui->grdOverview->selectionModel();
+    std::vector<OverviewCells> lines{OverviewHeading()};
+    for (int row = 0; row < m_sorted->rowCount(); ++row) {
+        if (!selection.hasSelection() || selection.isRowSelected(row)) {
+            lines.push_back(CellsOf(m_rows->Row(m_sorted->mapToSource(m_sorted->index(row, 0)).row())));
+        }
+    }
+    QGuiApplication::clipboard()->setText(QString::fromStdString(TabSeparated(lines)));
+    const auto count = lines.size() - 1;
+    Say(QString(kCopied).arg(count == 1 ? QString(kOneLine) : QString(kLines).arg(count)));
+}
+
+// All that was read, sorted as it was read.
+void OverviewWindow::SaveAs()
+{
+    if (!m_rows->HasReading()) {
+        return;
+    }
+    const auto reading = m_reading; // the dialog lets the window go on
+    const auto name = QString::fromStdString(OverviewFileName(reading->Result().period));
+    const auto target = AskWhereToSave(*this, name, SavedForms());
+    if (!target) {
+        return;
+    }
+    const auto make = [&](ReportForm form) { return OverviewFile(form, reading->Result()); };
+    Say(QString::fromStdString(ptk::SaveAs(target->path, target->form, make).said));
+}
+
+void OverviewWindow::OpenCard()
+{
+    if (const OverviewRow* row = ShownRow()) {
+        emit CardWanted(row->employee->EmployeeID(), m_rows->Shown().Result().period);
+    }
+}
+
+void OverviewWindow::closeEvent(QCloseEvent* event)
+{
+    Stop();
+    StorePlace(*this, kPlaceName);
+    event->accept();
+}
+
+} // namespace ptk

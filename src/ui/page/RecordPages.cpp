@@ -1,0 +1,150 @@
+#include "ui/page/RecordPages.h"
+
+#include "platform/Required.h"
+#include "platform/Succeeds.h"
+#include "platform/system/BusyPointer.h"
+#include "startup/CController.h"
+#include "store/CJetDB.h"
+#include "ui/page/PageHost.h"
+#include "ui/page/RecordPage.h"
+#include "ui/page/SharedRecords.h"
+#include "ui/widgets/NoticeLine.h"
+
+#include <algorithm>
+#include <chrono>
+#include <QApplication>
+#include <QEvent>
+#include <QStackedWidget>
+#include <QTabBar>
+#include <QTimer>
+
+namespace ptk {
+
+namespace {
+
+constexpr std::chrono::seconds kBetweenLooks(2);
+
+constexpr auto kLoaded = "What is stored now was loaded";
+constexpr auto kNotLoaded = "what is stored now could not be loaded: ";
+
+} // namespace
+
+RecordPages::RecordPages(QWidget& window, Frame frame, const std::array<Place, 3>& places)
+    : QObject(&window), m_frame(std::move(frame)), m_places(places)
+{
+    window.installEventFilter(this);
+    connect(&m_frame.pages, &QStackedWidget::currentChanged, this, &RecordPages::LookSoon);
+    connect(&m_frame.host.SharedRecords(), &SharedRecords::ReadAgainWanted, this, &RecordPages::ReadAgain);
+    auto* const timer = new QTimer(this);
+    connect(timer, &QTimer::timeout, this, [this] {
+        if (m_frame.host.SharedRecords().IsTold()) {
+            Look();
+        }
+    });
+    timer->start(kBetweenLooks);
+    connect(&m_frame.host.SharedRecords(), &SharedRecords::NotRemembered, this, &RecordPages::TellNotRemembered, Qt::QueuedConnection);
+}
+
+void RecordPages::ShowMoved(const MovedStep& step, const QString& done)
+{
+    for (const Place& place : m_places) {
+        if (step.table == place.table) {
+            m_frame.strip.setCurrentIndex(place.tab);
+        }
+    }
+    const std::string trouble = ReadPages(step);
+    Line()->SayBefore(trouble.empty() ? done : done + "; " + QString::fromStdString(trouble));
+}
+
+void RecordPages::ReadAgain()
+{
+    const std::string trouble = ReadPages({});
+    if (!trouble.empty()) {
+        Line()->SayBefore(QString::fromStdString(trouble));
+    } else {
+        Line()->Remark(kLoaded);
+    }
+}
+
+// Lists that cannot be read are empty afterwards, so the database is asked first.
+void RecordPages::RequireDatabase() const
+{
+    const auto database = Required(Required(m_frame.host.Controller())->PTKDatabase());
+    RequireOpen(*database);
+    database->CloseDB();
+}
+
+// Answers what went wrong. The time card is read last, with the employee's new row.
+std::string RecordPages::ReadPages(const MovedStep& step)
+{
+    const auto read = [&] {
+        const BusyPointer busy(m_frame.host.Desktop());
+        RequireDatabase();
+        std::for_each(m_places.rbegin(), m_places.rend(), [&](const Place& place) {
+            place.page.ReadAgain(step.table == place.table ? std::optional(step.row) : std::nullopt);
+        });
+    };
+    std::string trouble;
+    Succeeds(read, [&](const Failure& failure) {
+        trouble = kNotLoaded + failure.Description();
+        m_frame.host.Log(trouble);
+    });
+    return trouble;
+}
+
+void RecordPages::TellNotRemembered(const QString& reason)
+{
+    m_frame.host.Log(reason.toStdString());
+    Line()->SayBefore(reason);
+}
+
+bool RecordPages::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::WindowActivate) {
+        LookSoon();
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+// Not before the window is there to be seen.
+void RecordPages::LookSoon()
+{
+    QMetaObject::invokeMethod(this, &RecordPages::Look, Qt::QueuedConnection);
+}
+
+void RecordPages::Look()
+{
+    if (m_frame.isBusy()) {
+        return;
+    }
+    m_frame.host.SharedRecords().Look();
+    if (m_frame.host.SharedRecords().IsTold()) {
+        ReadIdleLists();
+    }
+    for (const Place& place : m_places) {
+        if (place.tab == m_frame.pages.currentIndex()) {
+            Succeeds([&] { place.page.TellChanges(); });
+        }
+    }
+}
+
+// Not while something is chosen from a list that drops down.
+void RecordPages::ReadIdleLists()
+{
+    for (const Place& place : m_places) {
+        const auto list = place.page.IdleList();
+        if (list && m_frame.host.SharedRecords().IsAnyChanged(*list) && QApplication::activePopupWidget() == nullptr) {
+            Succeeds([&] {
+                RequireDatabase();
+                place.page.ReadAgain(std::nullopt);
+            });
+        }
+    }
+}
+
+NoticeLine* RecordPages::Line() const
+{
+    return m_frame.pages.currentWidget()->findChild<NoticeLine*>();
+}
+
+} // namespace ptk

@@ -1,0 +1,65 @@
+// What the main window knows of changes to stored records: its own, which can be undone, and those of others.
+#pragma once
+
+#include "office/records/ChangeWatch.h"
+#include "office/records/UndoStack.h"
+
+#include <cstdint>
+#include <memory>
+#include <QObject>
+#include <string>
+
+namespace ptk {
+
+class CJetDB;
+class NoticeLine;
+
+// No member raises.
+class SharedRecords final : public QObject
+{
+    Q_OBJECT
+
+public:
+    // Begins anew; nullptr ends it.
+    void Use(const std::shared_ptr<CJetDB>& database);
+
+    // To be called right after every save, of whatever kind, before anything is read again.
+    void Remember();
+
+    // nullptr without a database.
+    [[nodiscard]] const UndoStack* Undo() const { return m_undo.get(); }
+
+    // Of the undo stack; false without a database, too. Whoever asks has all pages read again.
+    bool UndoLast() { return Move(&UndoStack::Undo); }
+    bool RedoLast() { return Move(&UndoStack::Redo); }
+
+    // See ChangeWatch.
+    void Look();
+    void AboutToRead(Shown what);
+    void AboutToRead(Shown what, std::int64_t row);
+    [[nodiscard]] bool IsTold() const { return m_watch != nullptr && m_watch->IsTold(); }
+    [[nodiscard]] bool IsAnyChanged(Shown what) const { return m_watch != nullptr && m_watch->IsAnyChanged(what); }
+    [[nodiscard]] bool IsChanged(Shown what, std::int64_t row) const;
+
+    // Says in a page's line that `whose` was changed by somebody else, with a button that has all pages read again; nothing while the line
+    // offers something else.
+    void OfferLoad(NoticeLine& line, const std::string& whose);
+
+signals:
+    // Or what can be redone.
+    void UndoChanged();
+
+    // What was stored last, which was stored all the same.
+    void NotRemembered(const QString& reason);
+
+    // All pages are to show what is stored now.
+    void ReadAgainWanted();
+
+private:
+    bool Move(bool (UndoStack::*move)());
+
+    std::unique_ptr<UndoStack> m_undo;
+    std::unique_ptr<ChangeWatch> m_watch;
+};
+
+} // namespace ptk

@@ -1,0 +1,61 @@
+#include "ui/reports/QtViewerFactory.h"
+
+namespace ptk {
+
+namespace {
+
+// Windows are let go of in their own event handlers, so they are deleted when those have returned.
+std::shared_ptr<ReportViewerWindow> NewWindow(ReportKind kind)
+{
+    const std::string_view name = EntryOf(kind).viewer;
+    return {new ReportViewerWindow(QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()))),
+            [](ReportViewerWindow* window) { window->deleteLater(); }};
+}
+
+} // namespace
+
+QtViewerFactory::QtViewerFactory(std::function<void(const std::string&)> log) : m_log(std::move(log)) {}
+
+std::shared_ptr<ReportViewer> QtViewerFactory::CreateViewer(ReportKind kind)
+{
+    std::erase_if(m_open, [](const auto& viewer) { return viewer.expired(); });
+    auto window = NewWindow(kind);
+    QObject::connect(window.get(), &ReportViewerWindow::Failed, window.get(),
+                     [log = m_log](const QString& line) { log(line.toStdString()); });
+    m_open.push_back(window);
+    return window;
+}
+
+std::vector<std::shared_ptr<ReportViewerWindow>> QtViewerFactory::Shown() const
+{
+    return Those([](const ReportViewerWindow& window) { return window.isVisible(); });
+}
+
+void QtViewerFactory::ClosePrinted()
+{
+    for (const auto& window : Those([](const ReportViewerWindow& each) { return each.Printed(); })) {
+        window->LetGo();
+    }
+}
+
+void QtViewerFactory::CloseAll()
+{
+    for (const auto& window : Those([](const ReportViewerWindow&) { return true; })) {
+        window->LetGo();
+    }
+}
+
+template <typename Condition>
+std::vector<std::shared_ptr<ReportViewerWindow>> QtViewerFactory::Those(Condition condition) const
+{
+    std::vector<std::shared_ptr<ReportViewerWindow>> those;
+    for (const auto& open : m_open) {
+        auto window = open.lock();
+        if (window != nullptr && condition(*window)) {
+            those.push_back(std::move(window));
+        }
+    }
+    return those;
+}
+
+} // namespace ptk

@@ -1,0 +1,189 @@
+#include "ui/timecards/CardDisplay.h"
+
+#include "model/CEmployee.h"
+#include "model/CTimeCard.h"
+#include "office/card/CardTexts.h"
+#include "office/card/CheckedTimecard.h"
+#include "platform/Required.h"
+#include "platform/text/Text.h"
+#include "ui/timecards/TimeRecordGridModel.h"
+#include "ui_CardDisplay.h"
+
+#include <QHeaderView>
+#include <QShortcut>
+
+namespace ptk {
+
+namespace {
+
+constexpr int kRowSpace = 8; // pixels around the text of a row
+
+QString Figure(float value)
+{
+    return QString::fromStdString(TwoDecimals(value));
+}
+
+} // namespace
+
+CardDisplay::CardDisplay(QWidget* parent)
+    : QWidget(parent), m_ui(std::make_unique<Ui::CardDisplay>()), m_records(new TimeRecordGridModel(this))
+{
+    m_ui->setupUi(this);
+    m_ui->txtTCPeriodPay->SetImportant();
+    setFocusProxy(m_ui->grdTimeRecs);
+    PrepareGrid();
+    ConnectFindings();
+}
+
+CardDisplay::~CardDisplay() = default;
+
+void CardDisplay::PrepareGrid()
+{
+    TimeRecordGrid* grid = m_ui->grdTimeRecs;
+    grid->setModel(m_records);
+    grid->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    grid->horizontalHeader()->setHighlightSections(false);
+    grid->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    grid->verticalHeader()->setDefaultSectionSize(grid->fontMetrics().height() + kRowSpace);
+    grid->verticalHeader()->hide();
+    const auto choose = [this, grid] {
+        if (grid->selectionModel()->hasSelection()) {
+            emit RowChosen();
+        }
+    };
+    connect(grid, &QTableView::clicked, this, choose);
+    connect(grid->selectionModel(), &QItemSelectionModel::selectionChanged, this, choose);
+    connect(grid, &TimeRecordGrid::EditAsked, this, &CardDisplay::EditAsked);
+    grid->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(grid, &QWidget::customContextMenuRequested, this,
+            [this, grid](const QPoint& place) { emit MenuAsked(grid->viewport()->mapToGlobal(place)); });
+    auto* deleteKey = new QShortcut(QKeySequence::Delete, grid, nullptr, nullptr, Qt::WidgetShortcut);
+    connect(deleteKey, &QShortcut::activated, this, &CardDisplay::DeleteAsked);
+}
+
+void CardDisplay::ConnectFindings()
+{
+    connect(m_ui->findings, &CheckPanel::RowWanted, this, &CardDisplay::ChooseRowOf);
+    connect(m_ui->findings, &CheckPanel::RowEntered, this, [this](qint64 timeRecordID) {
+        ChooseRowOf(timeRecordID);
+        m_ui->grdTimeRecs->setFocus();
+    });
+    connect(m_ui->findings, &CheckPanel::Elsewhere, this, &CardDisplay::Elsewhere);
+    connect(m_ui->findings, &CheckPanel::ElsewhereEntered, this, &CardDisplay::ElsewhereEntered);
+}
+
+// Also where it is chosen already: the choice may have been forgotten elsewhere in the meantime.
+void CardDisplay::ChooseRowOf(qint64 timeRecordID)
+{
+    const int row = m_records->RowOf(timeRecordID);
+    if (row >= 0) {
+        m_ui->grdTimeRecs->setCurrentIndex(m_records->index(row, recordcolumn::Start));
+        emit RowChosen();
+    }
+}
+
+bool CardDisplay::SetupTimeRecordGrid()
+{
+    m_records->Clear();
+    m_ui->findings->Show(nullptr);
+    return true;
+}
+
+bool CardDisplay::DisplayTimeCard(const CTimeCard& card)
+{
+    const auto employee = Required(card.Employee());
+    Required(card.TimeRecordList());
+    const bool filled = FillTimeRecordGrid(card.Lines());
+    m_ui->txtTCHours->setText(Figure(card.RegularHoursWorked()));
+    m_ui->txtTCPayRate->setText(Figure(employee->PayRate()));
+    m_ui->txtTCOvertimeHours->setText(Figure(card.OvertimeHoursWorked()));
+    m_ui->txtTCOvertimePayRate->setText(Figure(employee->OvertimePayRate()));
+    m_ui->txtTCPeriodPay->setText(Figure(card.TotalPay()));
+    m_ui->lblTCBreakTime->setText(QString::fromStdString(BreakTimeText(card)));
+    return filled;
+}
+
+bool CardDisplay::FillTimeRecordGrid(std::vector<CardLine> lines)
+{
+    m_records->SetLines(std::move(lines));
+    return true;
+}
+
+std::array<FigureBox*, 5> CardDisplay::Figures() const
+{
+    return {m_ui->txtTCHours, m_ui->txtTCPayRate, m_ui->txtTCOvertimeHours, m_ui->txtTCOvertimePayRate, m_ui->txtTCPeriodPay};
+}
+
+void CardDisplay::ClearFigures()
+{
+    for (auto* box : Figures()) {
+        box->clear();
+    }
+    m_ui->lblTCBreakTime->clear();
+}
+
+void CardDisplay::ShowCheck(const std::shared_ptr<const CheckedTimecard>& checked)
+{
+    m_records->SetMarks(checked->check ? MarksOf(*checked->check, checked->limits.showNotices) : RowMarks());
+    m_ui->findings->Show(checked);
+}
+
+void CardDisplay::ShowEdits(RecordEdits edits)
+{
+    m_records->SetEdits(std::move(edits));
+}
+
+void CardDisplay::OpenFindings()
+{
+    m_ui->findings->OpenList();
+}
+
+void CardDisplay::ShowHours(bool shown)
+{
+    m_ui->findings->ShowHours(shown);
+}
+
+bool CardDisplay::HoursShown() const
+{
+    return m_ui->findings->HoursShown();
+}
+
+bool CardDisplay::ShowsCard() const
+{
+    return m_records->rowCount() > 0;
+}
+
+bool CardDisplay::ShowsFindings() const
+{
+    return m_ui->findings->IsShown();
+}
+
+void CardDisplay::SetStrange(bool strange)
+{
+    m_records->SetFaded(strange);
+    m_ui->findings->SetStrange(strange);
+    m_ui->lblTCBreakTime->setEnabled(!strange);
+    for (auto* box : Figures()) {
+        box->SetFaded(strange);
+    }
+}
+
+void CardDisplay::SetHint(const QString& text)
+{
+    m_ui->grdTimeRecs->SetHint(text);
+}
+
+// The shown texts have no seconds, an editor may have changed the record since, and another record may have its times: a row means its own
+// record, always.
+std::shared_ptr<CTimeRecord> CardDisplay::ChosenRecord() const
+{
+    const auto rows = m_ui->grdTimeRecs->selectionModel()->selectedRows();
+    return rows.isEmpty() ? nullptr : m_records->Record(rows.first().row());
+}
+
+void CardDisplay::ForgetChoice()
+{
+    m_ui->grdTimeRecs->clearSelection();
+}
+
+} // namespace ptk

@@ -1,0 +1,70 @@
+#include "ui/timecards/CardStoring.h"
+
+#include "model/CEmployeeList.h"
+#include "model/CTimeCard.h"
+#include "model/CTimeRecord.h"
+#include "model/CTimeRecordFactory.h"
+#include "office/card/CardTexts.h"
+#include "office/history/ColumnWords.h"
+#include "office/records/ConflictNotice.h"
+#include "office/records/EmployeeTexts.h"
+#include "platform/Required.h"
+#include "platform/Succeeds.h"
+#include "platform/system/BusyPointer.h"
+#include "platform/system/Notice.h"
+#include "startup/CController.h"
+#include "ui/page/PageHost.h"
+#include "ui/page/SharedRecords.h"
+#include "ui/timecards/CurrentCard.h"
+#include "ui/widgets/NoticeLine.h"
+
+namespace ptk {
+
+bool CardStoring::Store(const Change& change)
+{
+    m_line.Clear();
+    if (!Succeeds([&] { return StoreQuietly(change); })) {
+        const std::string refused = TellRefusal(change);
+        Succeeds([this] { return m_card.ReadAgain(); });
+        m_card.Complain(refused);
+        return false;
+    }
+    m_host.SharedRecords().Remember();
+    m_card.RegenerateAfterSave();
+    const QString trouble = m_line.Text();
+    m_line.Say(QString::fromStdString(change.done) + (trouble.isEmpty() ? trouble : "; " + trouble));
+    return true;
+}
+
+bool CardStoring::StoreQuietly(const Change& change)
+{
+    m_conflict.reset();
+    const BusyPointer busy(m_host.Desktop());
+    const auto factory = Required(Required(m_host.Controller())->TimeRecordFactory());
+    const bool stored = change.step(*Required(m_card.Card()), *factory);
+    m_conflict = stored ? std::nullopt : factory->Conflict();
+    return stored;
+}
+
+// Answers the same for the page's line.
+std::string CardStoring::TellRefusal(const Change& change)
+{
+    if (m_conflict && Succeeds([&] { TellConflict(change); })) {
+        return std::string(change.refused) + ": " + ConflictRemark(*m_conflict);
+    }
+    const auto card = m_card.Card();
+    std::string refused = card == nullptr ? change.refused : RefusedText(change.refused, *card);
+    Tell(m_host.Desktop(), change.failed);
+    return refused;
+}
+
+void CardStoring::TellConflict(const Change& change)
+{
+    const auto employees = Required(Required(m_host.Controller())->EmployeeList());
+    const auto read = Required(change.record)->AsRead();
+    const std::string name = MomentText(read ? read->StartTime : DateTime(), ColumnShape::Moment) + " of " + m_card.Employee();
+    const std::string text = ConflictText(*m_conflict, name, [&](std::int64_t id) { return DisplayNameOf(*employees, id); });
+    AskToLoad(m_host.Desktop(), change.failed.title, *m_conflict, text);
+}
+
+} // namespace ptk

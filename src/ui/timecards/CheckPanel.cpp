@@ -1,0 +1,180 @@
+#include "ui/timecards/CheckPanel.h"
+
+#include "model/check/FindingText.h"
+#include "office/card/CardFindings.h"
+#include "office/card/CheckedTimecard.h"
+#include "ui/widgets/FindingList.h"
+#include "ui/widgets/FoldingRow.h"
+#include "ui/widgets/HintLabel.h"
+#include "ui/widgets/HoursChart.h"
+#include "ui/widgets/ThemeIcon.h"
+
+#include <QLabel>
+#include <QSettings>
+#include <QToolButton>
+
+namespace ptk {
+
+namespace {
+
+constexpr auto kLineDescription = "Shows or hides the sentences of the check";
+constexpr auto kOpenTip = "Show what was found (Alt+L)";
+constexpr auto kCloseTip = "Hide what was found (Alt+L)";
+constexpr auto kLineKeys = "Alt+L";
+constexpr auto kHoursCaption = "Hours per day:";
+constexpr auto kHoursHint = "The hours of a generated card stand here. F9 shows everybody's pay and problems.";
+
+constexpr auto kHoursKey = "timecards/hours";
+constexpr int kListLines = 5;
+constexpr int kLeastWidth = 320; // pixels of the list and of the hours
+constexpr int kSpace = 6;
+
+QIcon IconOf(const CardCheck& check)
+{
+    if (check.problems > 0) {
+        return ThemeIcon(SeverityIconName(Severity::Problem));
+    }
+    return ThemeIcon(check.notices > 0 ? SeverityIconName(Severity::Notice) : "fine");
+}
+
+} // namespace
+
+CheckPanel::CheckPanel(QWidget* parent)
+    : QWidget(parent), m_line(new QToolButton(this)), m_detail(new HintLabel(this)), m_list(new FindingList(this)),
+      m_legend(new QWidget(this)), m_chart(new HoursChart(this))
+{
+    m_line->setObjectName("cmdFindings");
+    m_line->setAccessibleDescription(kLineDescription);
+    m_line->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    m_detail->setObjectName("lblFindings");
+    m_list->setObjectName("lstFindings");
+    m_list->KeepRoom(kListLines);
+    m_chart->setObjectName("lstHours");
+    m_chart->SetHint(kHoursHint);
+    const bool hours = QSettings().value(kHoursKey, true).toBool();
+    m_legend->setVisible(hours);
+    m_chart->setVisible(hours);
+    LayOut();
+    connect(m_line, &QToolButton::clicked, this, [this] {
+        m_open = m_line->isChecked();
+        ShowParts();
+    });
+    connect(m_list, &FindingList::Chosen, this, &CheckPanel::Choose);
+    connect(m_list, &FindingList::Entered, this, &CheckPanel::Enter);
+    Show(nullptr);
+}
+
+// Line and legend, list and hours stand side by side where there is room.
+void CheckPanel::LayOut()
+{
+    auto* line = new QHBoxLayout;
+    line->addWidget(m_line);
+    line->addWidget(m_detail, 1);
+    auto* legend = new QHBoxLayout(m_legend);
+    legend->setContentsMargins(0, 0, 0, 0);
+    legend->addWidget(new QLabel(kHoursCaption));
+    legend->addWidget(new HoursLegend);
+    auto* top = new FoldingRow;
+    top->addLayout(line, 1);
+    top->addWidget(m_legend);
+    for (QWidget* part : {static_cast<QWidget*>(m_list), static_cast<QWidget*>(m_chart)}) {
+        part->setMinimumWidth(kLeastWidth);
+    }
+    auto* parts = new FoldingRow;
+    parts->addWidget(m_list, 1);
+    parts->addWidget(m_chart, 1);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(kSpace);
+    column->addLayout(top);
+    column->addLayout(parts);
+    QSizePolicy keepsPlace = m_line->sizePolicy();
+    keepsPlace.setRetainSizeWhenHidden(true);
+    m_line->setSizePolicy(keepsPlace);
+}
+
+void CheckPanel::Show(std::shared_ptr<const CheckedTimecard> checked)
+{
+    m_checked = std::move(checked);
+    const bool has = m_checked != nullptr && m_checked->check;
+    m_list->Show(has ? ShownFindings(*m_checked->check, m_checked->limits.showNotices) : std::vector<Finding>());
+    ShowLine();
+    ShowColumns();
+    ShowParts();
+}
+
+void CheckPanel::ShowLine()
+{
+    const bool has = m_checked != nullptr && m_checked->check;
+    m_line->setVisible(has);
+    m_detail->Say(m_checked == nullptr ? QString() : QString::fromStdString(FindingDetailText(*m_checked)));
+    if (has) {
+        m_line->setText(QString::fromStdString(FindingLineText(*m_checked)));
+        m_line->setShortcut(QKeySequence(kLineKeys)); // which every text takes away
+        m_line->setIcon(IconOf(*m_checked->check));
+    }
+}
+
+void CheckPanel::ShowColumns()
+{
+    const bool has = m_checked != nullptr && m_checked->check && HoursShown();
+    m_chart->Show(has ? HoursColumns(*m_checked->check, m_checked->period, m_checked->limits.firstWeekday) : std::vector<HoursColumn>());
+}
+
+// A line behind which there is nothing can be read, but not pressed.
+void CheckPanel::ShowParts()
+{
+    const bool opens = m_list->model()->rowCount() > 0;
+    m_line->setCheckable(opens);
+    m_line->setAutoRaise(!opens);
+    m_line->setChecked(opens && m_open);
+    m_line->setFocusPolicy(opens ? Qt::StrongFocus : Qt::NoFocus);
+    m_line->setToolTip(!opens ? "" : m_open ? kCloseTip : kOpenTip);
+    m_list->setVisible(opens && m_open);
+}
+
+void CheckPanel::SetStrange(bool strange)
+{
+    m_chart->setEnabled(!strange);
+}
+
+bool CheckPanel::HoursShown() const
+{
+    return !m_chart->isHidden();
+}
+
+void CheckPanel::OpenList()
+{
+    m_open = true;
+    ShowParts();
+}
+
+void CheckPanel::ShowHours(bool shown)
+{
+    m_legend->setVisible(shown);
+    m_chart->setVisible(shown);
+    QSettings().setValue(kHoursKey, shown);
+    ShowColumns();
+}
+
+// Both for a group of which a part is elsewhere.
+void CheckPanel::Choose(const Finding& finding)
+{
+    const FindingPlace place = PlaceOf(finding, *m_checked);
+    if (!place.onCard.empty()) {
+        emit RowWanted(place.onCard.front());
+    }
+    emit Elsewhere(place);
+}
+
+void CheckPanel::Enter(const Finding& finding)
+{
+    const FindingPlace place = PlaceOf(finding, *m_checked);
+    if (!place.onCard.empty()) {
+        emit RowEntered(place.onCard.front());
+    } else if (!place.elsewhere.empty()) {
+        emit ElsewhereEntered(*place.elsewhere.front());
+    }
+}
+
+} // namespace ptk

@@ -1,0 +1,283 @@
+#include "ui/timecards/CurrentCard.h"
+
+#include "model/CEmployee.h"
+#include "model/CEmployeeList.h"
+#include "model/CTimeCard.h"
+#include "office/card/CardTexts.h"
+#include "office/card/CheckedTimecard.h"
+#include "office/card/TimeCardNotices.h"
+#include "platform/Required.h"
+#include "platform/Succeeds.h"
+#include "platform/system/BusyPointer.h"
+#include "platform/system/Clock.h"
+#include "startup/CController.h"
+#include "store/CJetDB.h"
+#include "ui/page/PageHost.h"
+#include "ui/page/SharedRecords.h"
+#include "ui/timecards/CardChoice.h"
+#include "ui/timecards/CardDisplay.h"
+#include "ui/widgets/HintLabel.h"
+#include "ui/widgets/NoticeLine.h"
+
+namespace ptk {
+
+using namespace timecardnotice;
+
+namespace {
+
+constexpr auto kWasChanged = " was changed";
+constexpr auto kRecordsChanged = "'s records were changed";
+constexpr auto kNoEdits = "Who changed the records of the card could not be read: ";
+
+} // namespace
+
+CurrentCard::CurrentCard(PageHost& host, const Place& place, QObject* parent)
+    : QObject(parent), m_host(host), m_choice(place.choice), m_mark(place.mark), m_display(place.display), m_line(place.line)
+{
+    connect(&m_choice, &CardChoice::Changed, this, &CurrentCard::Mark);
+    connect(&m_display, &CardDisplay::RowChosen, this, [this] { m_host.EventSource(eventsource::TimeRecordGrid); });
+}
+
+void CurrentCard::Mark()
+{
+    const CardName chosen = m_choice.Chosen();
+    const bool shown = m_display.ShowsCard();
+    const std::string strange = m_card == nullptr ? std::string() : StrangeCardText(NameOf(*m_card), shown, chosen);
+    m_mark.Say(QString::fromStdString(strange));
+    m_display.SetStrange(shown && !strange.empty());
+    m_display.SetHint(QString::fromStdString(NextStepText(chosen)));
+}
+
+// After a run-time failure nothing is shown: the rows would be those of a card that is no longer the current one.
+bool CurrentCard::RefreshTimeCard()
+{
+    m_line.Clear();
+    const auto refresh = [this] {
+        if (m_choice.EmployeeText().empty()) {
+            Tell(m_host.Desktop(), kNoEmployeeChosen);
+        } else if (Regenerate()) {
+            m_line.Say(QString::fromStdString(GeneratedText(*m_card)));
+        }
+    };
+    if (Succeeds(refresh)) {
+        return true;
+    }
+    ClearTimeCardDisplay();
+    return false;
+}
+
+std::shared_ptr<CEmployee> CurrentCard::EmployeeToShow() const
+{
+    const auto list = Required(Required(m_host.Controller())->EmployeeList());
+    const bool meant = m_meant && m_meant == m_choice.EmployeeID();
+    return meant ? list->GetEmployeeByID(*m_meant) : list->GetEmployeeByName(m_choice.EmployeeText());
+}
+
+bool CurrentCard::GenerateTimeCard()
+{
+    m_card = nullptr;
+    m_checked = nullptr;
+    const auto controller = Required(m_host.Controller());
+    const auto employee = EmployeeToShow();
+    const auto card = std::make_shared<CTimeCard>(Required(controller->TimeRecordFactory()));
+    m_card = card;
+    card->PTKDatabase(controller->PTKDatabase());
+    const bool generated = Load(*card, employee, m_choice.Period());
+    if (!generated) {
+        ReportCardError(card->ErrorNumber());
+        Complain(UnreadText(*card));
+    }
+    return generated;
+}
+
+// The pointer is the usual one again before anything is told.
+bool CurrentCard::Load(CTimeCard& card, const std::shared_ptr<CEmployee>& employee, const PayPeriod& period)
+{
+    const BusyPointer busy(m_host.Desktop());
+    const auto database = Required(m_host.Controller())->PTKDatabase();
+    if (employee != nullptr) {
+        m_host.SharedRecords().AboutToRead(Shown::CardRecords, employee->EmployeeID());
+    }
+    const CJetDB::Hold hold(database);
+    m_checked = std::make_shared<CheckedTimecard>(GenerateChecked(card, database, employee, period, m_host.Clock().Now()));
+    m_edits.clear();
+    if (m_checked->generated) {
+        ReadEdits(card);
+    }
+    return m_checked->generated;
+}
+
+// Without them the card is shown all the same.
+void CurrentCard::ReadEdits(const CTimeCard& card)
+{
+    Succeeds([&] { m_edits = ReadRecordEdits(Required(m_host.Controller())->PTKDatabase(), card); },
+             [this](const Failure& reason) { m_host.Log(kNoEdits + reason.Description()); });
+}
+
+void CurrentCard::ReportCardError(std::int32_t errorNumber)
+{
+    for (const auto& error : kCardErrors) {
+        if (error.number == errorNumber) {
+            return Tell(m_host.Desktop(), error.notice);
+        }
+    }
+}
+
+bool CurrentCard::Regenerate()
+{
+    const bool generated = GenerateTimeCard();
+    if (generated) {
+        ShowTimeCard();
+    } else {
+        ClearTimeCardDisplay();
+        ShowFindings();
+    }
+    return generated;
+}
+
+// What was to be saved is saved; that the card cannot be shown again is another matter.
+void CurrentCard::RegenerateAfterSave()
+{
+    if (!Succeeds([this] { Regenerate(); })) {
+        ClearTimeCardDisplay();
+        Tell(m_host.Desktop(), kNotGenerated);
+    }
+}
+
+bool CurrentCard::ReadAgain()
+{
+    static_cast<void>(Required(m_card));
+    return m_display.ShowsCard() || m_display.ShowsFindings() ? LoadAgain() : true;
+}
+
+// Of its own employee and period, whatever the boxes say by now.
+bool CurrentCard::LoadAgain()
+{
+    const auto card = Required(m_card);
+    if (Load(*card, card->Employee(), {card->StartDate(), card->EndDate().AddDays(-1)})) {
+        ShowTimeCard();
+        return true;
+    }
+    const bool noneLeft = UnreadText(*card).empty();
+    if (noneLeft) {
+        ClearTimeCardDisplay();
+    }
+    if (!m_display.ShowsCard()) {
+        ShowFindings();
+    }
+    return noneLeft;
+}
+
+void CurrentCard::CheckAgain()
+{
+    Succeeds([this] { return ReadAgain(); });
+}
+
+void CurrentCard::RenewFor(std::int32_t savedEmployee)
+{
+    if (m_card != nullptr && m_card->Employee() != nullptr && m_card->Employee()->EmployeeID() == savedEmployee) {
+        Renew();
+    }
+}
+
+// Also a card that had no records left.
+bool CurrentCard::IsWanted() const
+{
+    return m_display.ShowsCard() || m_display.ShowsFindings() || NameOf(*m_card) == m_choice.Chosen();
+}
+
+void CurrentCard::Renew()
+{
+    const auto card = m_card;
+    if (card == nullptr || card->Employee() == nullptr) {
+        return;
+    }
+    const auto renew = [&] {
+        const std::int32_t id = card->Employee()->EmployeeID();
+        const auto list = Required(Required(m_host.Controller())->EmployeeList());
+        m_host.SharedRecords().AboutToRead(Shown::CardEmployee, id);
+        const bool wanted = IsWanted();
+        card->Employee(Required(list->GetEmployeeByID(id)));
+        return !wanted || LoadAgain();
+    };
+    if (Succeeds(renew)) {
+        Mark();
+    } else {
+        ClearTimeCardDisplay();
+    }
+}
+
+void CurrentCard::TellChanges()
+{
+    if (m_card == nullptr || m_card->Employee() == nullptr || !m_display.ShowsCard()) {
+        return;
+    }
+    SharedRecords& records = m_host.SharedRecords();
+    const std::int32_t id = m_card->Employee()->EmployeeID();
+    if (records.IsChanged(Shown::CardEmployee, id)) {
+        records.OfferLoad(m_line, Employee() + kWasChanged);
+    } else if (records.IsChanged(Shown::CardRecords, id)) {
+        records.OfferLoad(m_line, Employee() + kRecordsChanged);
+    }
+}
+
+bool CurrentCard::ShowTimeCard()
+{
+    SetupTimeRecordGrid();
+    m_display.DisplayTimeCard(*Required(m_card));
+    m_display.ShowEdits(m_edits);
+    ShowFindings();
+    Mark();
+    return false;
+}
+
+// Also of a card that could not be made: what keeps it from that, and what crosses its ends.
+void CurrentCard::ShowFindings()
+{
+    const bool tells = m_checked != nullptr && m_checked->check && !m_checked->check->findings.empty();
+    if (m_display.ShowsCard() || tells) {
+        m_display.ShowCheck(m_checked);
+    }
+}
+
+bool CurrentCard::SetupTimeRecordGrid()
+{
+    m_display.SetupTimeRecordGrid();
+    ForgetChosenRecord();
+    emit Rebuilt();
+    return true;
+}
+
+bool CurrentCard::ClearTimeCardDisplay()
+{
+    m_display.ClearFigures();
+    SetupTimeRecordGrid();
+    Mark();
+    return true;
+}
+
+void CurrentCard::ForgetChosenRecord()
+{
+    m_display.ForgetChoice();
+    m_host.EventSource(eventsource::None);
+}
+
+std::shared_ptr<CTimeRecord> CurrentCard::ChosenRecord() const
+{
+    return m_host.EventSource() == eventsource::TimeRecordGrid ? m_display.ChosenRecord() : nullptr;
+}
+
+void CurrentCard::Complain(const std::string& line)
+{
+    if (!line.empty()) {
+        m_line.Say(QString::fromStdString(line));
+        m_host.Log(line);
+    }
+}
+
+std::string CurrentCard::Employee() const
+{
+    return m_card == nullptr ? std::string() : NameOf(*m_card).employee;
+}
+
+} // namespace ptk

@@ -1,0 +1,86 @@
+// Makes one time record for every day of a date range, all with the same times of day.
+#pragma once
+
+#include "office/card/FillPlan.h"
+#include "platform/text/DateTime.h"
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <QDialog>
+#include <string>
+
+namespace Ui {
+class FAutoFill;
+}
+
+namespace ptk {
+
+class Clock;
+class CTimeRecordList;
+class Desktop;
+
+// Adds the records to the list it was given and stores nothing.
+class FAutoFill final : public QDialog
+{
+    Q_OBJECT
+
+public:
+    FAutoFill(ptk::Desktop& desktop, const Clock& clock, QWidget* parent = nullptr);
+    ~FAutoFill() override;
+
+    void StartDate(DateTime value);
+
+    // Raises Failure 13 when the box holds no date.
+    [[nodiscard]] DateTime StartDate() const;
+
+    void EndDate(DateTime value);
+    [[nodiscard]] DateTime EndDate() const;
+
+    // Only the times of day matter.
+    void AutoShiftStartTime(DateTime value) { m_autoShiftStart = value; }
+
+    void AutoShiftEndTime(DateTime value) { m_autoShiftEnd = value; }
+    void EmployeeID(std::int16_t value) { m_employeeID = value; }
+
+    // Days added to the first day for the last one.
+    void PeriodLength(std::int16_t value) { m_periodLength = value; }
+
+    // Whether Save made the records.
+    [[nodiscard]] bool OKClick() const { return m_okClick; }
+
+    void TimeRecordList(std::shared_ptr<CTimeRecordList> value) { m_list = std::move(value); }
+    [[nodiscard]] std::shared_ptr<CTimeRecordList> TimeRecordList() const { return m_list; }
+
+    // One record for each day from the first to the last, weekends and days with records included; a range of one day is refused,
+    // deliberately. False when none were made: with a message for a wrong range, without one for times that cannot be read.
+    bool LoadTimeRecordList();
+
+    // A line that says whose the records will be, and one that follows the dates and times with what Save will do. takenDays: those that
+    // already have records of that employee, none when that is not known.
+    void Announce(const std::string& owner, std::optional<DayNumbers> takenDays);
+    [[nodiscard]] FillTexts Texts() const;
+
+    // Puts its times back into their boxes.
+    void Times(const FillTexts& value);
+
+private:
+    bool MayFill(const FillPlan& plan);
+    void AddRecord(const Shift& shift);
+    bool SetPeriodEndDate();
+    void AutoShift();
+    void Save();
+    void Forecast();
+
+    std::unique_ptr<Ui::FAutoFill> m_ui;
+    ptk::Desktop& m_desktop;
+    std::shared_ptr<CTimeRecordList> m_list;
+    std::optional<DayNumbers> m_takenDays;
+    DateTime m_autoShiftStart;
+    DateTime m_autoShiftEnd;
+    std::int16_t m_employeeID = 0;
+    std::int16_t m_periodLength = 0;
+    bool m_okClick = false;
+};
+
+} // namespace ptk

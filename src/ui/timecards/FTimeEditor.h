@@ -1,0 +1,87 @@
+// The editor of one time record.
+#pragma once
+
+#include "office/card/NewRecord.h"
+#include "platform/text/DateTime.h"
+
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <QDialog>
+#include <string>
+
+namespace Ui {
+class FTimeEditor;
+}
+
+namespace ptk {
+
+class Clock;
+class CTimeRecord;
+class DateTimeBox;
+class Desktop;
+class TimeRecordReceiver;
+
+// Writes into the very record it was given, already while the user types; Cancel does not undo that, deliberately. Only Save hands it back.
+class FTimeEditor final : public QDialog
+{
+    Q_OBJECT
+
+public:
+    FTimeEditor(ptk::Desktop& desktop, const Clock& clock, QWidget* parent = nullptr);
+    ~FTimeEditor() override;
+
+    // Not owned.
+    void ParentWindow(TimeRecordReceiver* value) { m_parentWindow = value; }
+
+    [[nodiscard]] TimeRecordReceiver* ParentWindow() const { return m_parentWindow; }
+
+    // Shows it; nullptr: empty boxes, and a new record as soon as they are read.
+    void TimeRecord(std::shared_ptr<CTimeRecord> value);
+
+    [[nodiscard]] std::shared_ptr<CTimeRecord> TimeRecord() const { return m_timeRecord; }
+
+    // Only the times of day matter; deliberately always false.
+    bool SetAutoShiftTimes(DateTime thestarttime, DateTime theendtime);
+
+    // A line that says whose the record will be.
+    void Owner(const std::string& text);
+
+    // Warns, in a line, of a new record that the card of that period would not show.
+    void WarnAsNew(std::optional<PayPeriod> shown);
+
+    // What stands in the boxes.
+    [[nodiscard]] RecordTexts Texts() const;
+
+    // Puts it back there, unreadable texts included.
+    void Texts(const RecordTexts& value);
+
+private:
+    [[nodiscard]] std::array<DateTimeBox*, 4> Boxes() const;
+    void ClearControls();
+    void ShowTimeRecord();
+    bool ReadTimeRecord();
+    void ReadTimes();
+    [[nodiscard]] bool HasBothTimes() const;
+    void FollowTyping();
+    void UpdateTotal();
+    void ShowTotal();
+    void Warn();
+    void AutoShift();
+    void Save();
+
+    std::unique_ptr<Ui::FTimeEditor> m_ui;
+    ptk::Desktop& m_desktop;
+    const Clock& m_clock;
+    TimeRecordReceiver* m_parentWindow = nullptr;
+    std::shared_ptr<CTimeRecord> m_timeRecord;
+    DateTime m_autoShiftStart;
+    DateTime m_autoShiftEnd;
+    std::optional<PayPeriod> m_shownPeriod;
+    bool m_isNew = false;
+    bool m_modified = false;            // typed into since it was shown; nothing depends on it
+    std::int32_t m_saveErrorNumber = 0; // 608 when the record was rejected; nothing depends on it
+};
+
+} // namespace ptk

@@ -1,0 +1,25 @@
+// Asks where to save, and in which form.
+#pragma once
+
+#include "reports/forms/ReportForms.h"
+
+#include <optional>
+#include <QString>
+#include <span>
+#include <string>
+
+class QWidget;
+
+namespace ptk {
+
+struct SaveTarget
+{
+    std::string path;
+    ReportForm form;
+};
+
+// Opens in the folder where something was saved last, with this name, which takes the ending of the form that is chosen. Asks before an
+// existing file is replaced. Nothing when the user cancels. `forms`: those offered, the first of them chosen. REQUIRES: one form at least.
+[[nodiscard]] std::optional<SaveTarget> AskWhereToSave(QWidget& parent, const QString& name, std::span<const ReportForm> forms);
+
+} // namespace ptk

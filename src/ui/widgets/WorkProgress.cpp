@@ -1,0 +1,72 @@
+#include "ui/widgets/WorkProgress.h"
+
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace ptk {
+
+namespace {
+
+constexpr qint64 kShownAfter = 500; // milliseconds
+constexpr int kLeastWidth = 320;    // pixels
+
+// The wait pointer would say that Cancel cannot be pressed.
+void LightenPointer()
+{
+    if (QApplication::overrideCursor() != nullptr) {
+        QApplication::changeOverrideCursor(Qt::BusyCursor);
+    }
+}
+
+} // namespace
+
+WorkProgress::WorkProgress(QWidget* window, const ProgressWords& words) : QDialog(window), m_bar(new QProgressBar(this))
+{
+    setObjectName("dlgProgress");
+    setWindowTitle(QString::fromStdString(words.title));
+    setWindowModality(window == nullptr ? Qt::ApplicationModal : Qt::WindowModal);
+    setMinimumWidth(kLeastWidth);
+    auto* text = new QLabel(QString::fromStdString(words.text), this);
+    text->setObjectName("lblProgress");
+    m_bar->setObjectName("barProgress");
+    m_bar->setAccessibleName(windowTitle());
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
+    buttons->button(QDialogButtonBox::Cancel)->setObjectName("cmdCancel");
+    connect(buttons, &QDialogButtonBox::rejected, this, &WorkProgress::reject);
+    auto* column = new QVBoxLayout(this);
+    column->addWidget(text);
+    column->addWidget(m_bar);
+    column->addWidget(buttons);
+    Restart();
+}
+
+void WorkProgress::Restart()
+{
+    m_sinceStart.start();
+}
+
+bool WorkProgress::GoOn(std::int32_t done, std::int32_t all)
+{
+    if (!isVisible() && !m_cancelled && m_sinceStart.elapsed() >= kShownAfter) {
+        show();
+        LightenPointer();
+    }
+    if (isVisible()) {
+        m_bar->setRange(0, all);
+        m_bar->setValue(done);
+        QApplication::processEvents();
+    }
+    return !m_cancelled;
+}
+
+void WorkProgress::reject()
+{
+    m_cancelled = true;
+    QDialog::reject();
+}
+
+} // namespace ptk

@@ -1,0 +1,84 @@
+#include "office/card/CardTexts.h"
+#include "office/card/NewRecord.h"
+
+#include <gtest/gtest.h>
+
+namespace ptk {
+
+namespace {
+
+TEST(CardTextsTest, NamesACardThatIsNotTheChosenOne)
+{
+    const CardName ann{"Ann Lee", "02/18/2003 - 03/04/2003"};
+    struct Case
+    {
+        CardName card;
+        bool shown;
+        CardName chosen;
+        const char* text;
+    };
+    for (const Case& c : {
+             Case{ann, true, ann, ""},
+             {{}, false, ann, ""},
+             {ann,
+              true,
+              {"Omar Haddad", ann.period},
+              "This is Ann Lee's card, 02/18/2003 - 03/04/2003. Press Generate Timecard for Omar Haddad."},
+             {ann,
+              true,
+              {"Ann Lee", "03/05/2003 - 03/19/2003"},
+              "This is Ann Lee's card, 02/18/2003 - 03/04/2003. Press Generate Timecard for Ann Lee."},
+             {ann,
+              true,
+              {"", ann.period},
+              "This is Ann Lee's card, 02/18/2003 - 03/04/2003. Choose an employee and press Generate Timecard."},
+             {ann,
+              false,
+              {"Omar Haddad", ann.period},
+              "New Record still goes to Ann Lee's card, 02/18/2003 - 03/04/2003. Press Generate Timecard for Omar Haddad."},
+         }) {
+        EXPECT_EQ(StrangeCardText(c.card, c.shown, c.chosen), c.text);
+    }
+    EXPECT_EQ(RecordOwnerText("Ann Lee", "Ann Lee"), "For Ann Lee");
+    EXPECT_EQ(RecordOwnerText("Ann Lee", "Omar Haddad"), "For Ann Lee, whose card was generated last, not for Omar Haddad");
+    EXPECT_EQ(RecordOwnerText("Ann Lee", ""), "For Ann Lee, whose card was generated last");
+    EXPECT_EQ(RecordOwnerText("", "Ann Lee"), "This card is nobody's: a record cannot be saved in it.");
+    EXPECT_EQ(WeekdayName(DateTime({2003, 3, 5}, {23, 0, 0})), "Wednesday");
+    EXPECT_EQ(WeekdayName(DateTime({1899, 12, 29})), "Friday");
+}
+
+TEST(NewRecordTest, WarnsOfAnotherPeriodAndOfNoHours)
+{
+    const PayPeriod period{DateTime({2003, 3, 5}), DateTime({2003, 3, 19})};
+    const std::string outside = "This record lies outside the period 03/05/2003 - 03/19/2003.";
+    const std::string midnights = "This record runs from midnight to midnight. ";
+    const std::string backward = "This record ends before it starts and counts 0 hours. ";
+    struct Case
+    {
+        std::array<const char*, 4> texts;
+        std::string warning;
+    };
+    const auto warning = [](const std::array<const char*, 4>& texts, const std::optional<PayPeriod>& shown) {
+        const DateTime today({2003, 3, 7});
+        return NewRecordWarning({TypedDate(texts[0], today), TypedTime(texts[1]), TypedDate(texts[2], today), TypedTime(texts[3])}, shown);
+    };
+    for (const Case& c : {
+             Case{{"03/05/2003", "08:00:00 AM", "03/05/2003", "05:00:00 PM"}, ""},
+             {{"03/19/2003", "08:00:00 PM", "03/20/2003", ""}, ""}, // up to the midnight after the last day
+             {{"03/19/2003", "08:00:00 PM", "03/20/2003", "12:01:00 AM"}, outside},
+             {{"03/04/2003", "11:59:00 PM", "03/05/2003", "08:00:00 AM"}, outside},
+             {{"03/05/2003", "", "03/05/2003", ""}, midnights},
+             {{"03/05/2003", "12:00:00 AM", "03/06/2003", "12:00:00 AM"}, midnights},
+             {{"03/20/2003", "", "03/20/2003", ""}, midnights + outside},
+             {{"03/05/2003", "10:00:00 PM", "03/05/2003", "06:00:00 AM"}, backward},
+             {{"03/05/2003", "8:00", "03/05/2003", "late"}, ""},
+             {{"", "", "03/05/2003", ""}, ""},
+         }) {
+        EXPECT_EQ(warning(c.texts, period), c.warning) << c.texts[0] << c.texts[1] << c.texts[3];
+    }
+    EXPECT_EQ(warning({"03/04/2003", "8:00", "03/04/2003", "9:00"}, std::nullopt), "");
+}
+
+} // namespace
+
+} // namespace ptk

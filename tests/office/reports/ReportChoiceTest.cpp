@@ -1,0 +1,74 @@
+#include "office/reports/ReportChoice.h"
+
+#include "model/CEmployee.h"
+#include "model/CEmployeeList.h"
+
+#include <gtest/gtest.h>
+
+namespace ptk {
+
+namespace {
+
+TEST(ReportChoiceTest, TakesTheDaysThatWereChosenAndOffersTheOthers)
+{
+    struct Case
+    {
+        const char* name;
+        ReportDates dates;
+        std::optional<DateTime> from;
+        std::optional<DateTime> to;
+        PayPeriod days;
+    };
+    const DateTime today({2003, 3, 20}, {9, 30, 0});
+    const auto march = [](int day) { return DateTime({2003, 3, day}); };
+    for (const Case& c : {Case{"a period as offered", ReportDates::PayPeriod, {}, {}, {march(15), march(22)}},
+                          Case{"the end goes with the start", ReportDates::PayPeriod, march(2), {}, {march(2), march(9)}},
+                          Case{"both chosen", ReportDates::PayPeriod, march(2), march(3), {march(2), march(3)}},
+                          Case{"the end alone", ReportDates::PayPeriod, {}, march(31), {march(15), march(31)}},
+                          Case{"the year as offered", ReportDates::YearToDate, {}, {}, {DateTime({2003, 1, 1}), march(20)}},
+                          Case{"the year ends today", ReportDates::YearToDate, march(2), {}, {march(2), march(20)}},
+                          Case{"the year ends sooner", ReportDates::YearToDate, march(2), march(3), {march(2), march(3)}}}) {
+        const PayPeriod days = ChosenDays(c.dates, today, 7, c.from, c.to);
+        EXPECT_EQ(days.from, c.days.from) << c.name;
+        EXPECT_EQ(days.to, c.days.to) << c.name;
+    }
+    EXPECT_FALSE(OfferedDays(ReportDates::None, today, 7).has_value());
+}
+
+TEST(ReportChoiceTest, LooksEmployeesUpByDisplayName)
+{
+    struct Case
+    {
+        const char* firstName;
+        const char* lastName;
+        bool active;
+    };
+    CEmployeeList all;
+    EmployeeRow row;
+    for (const Case& c : {Case{"Ann", "Lee", true}, Case{"", "Zorn", true}, Case{"Ann", "Lee", true}, Case{"", "Administrator", true},
+                          Case{"Admin", "ISTRATORs", true}, Case{"Al", "Late", false}, Case{"Bo", "Ray", true}}) {
+        row.FirstName = c.firstName;
+        row.LastName = c.lastName;
+        row.EmployeeActive = c.active;
+        row.EmployeeID = all.Count() + 1;
+        all.Insert(std::make_shared<CEmployee>(row), all.Count() + 1);
+    }
+    EXPECT_EQ(OfferedNames(all), (std::vector<std::string>{"Ann Lee", "Zorn", "Ann Lee", "Admin ISTRATORs", "Bo Ray"}));
+
+    const std::vector<std::string> names{"Zorn", "Ann Lee", "ann lee", "Administrator", "Ann Lee", "Admin ISTRATORs", "Al Late"};
+    const auto ids = [&](ReportWhom whom) {
+        const auto list = EmployeesFor(whom, all, names);
+        std::vector<std::int32_t> taken;
+        for (std::int32_t i = 1; i <= list->Count(); ++i) {
+            taken.push_back(list->Item(i) == nullptr ? 0 : list->Item(i)->EmployeeID());
+        }
+        return taken;
+    };
+    EXPECT_EQ(ids(ReportWhom::Each), (std::vector<std::int32_t>{2, 1, 0, 4, 1, 5, 6}));
+    EXPECT_EQ(ids(ReportWhom::Together), ids(ReportWhom::Each));
+    EXPECT_EQ(ids(ReportWhom::Everyone), (std::vector<std::int32_t>{2, 1, 1, 6}));
+}
+
+} // namespace
+
+} // namespace ptk
