@@ -98,6 +98,18 @@ TEST_F(ReportCommandTest, AFailedReportIsToldAndTheOthersStillCome)
     EXPECT_EQ(unknown.out, "");
 }
 
+TEST_F(ReportCommandTest, WhoseFileWasReplacedIsTold)
+{
+    CJetDB database(m_folder.Path());
+    ASSERT_TRUE(database.ExecuteAction("UPDATE Employee SET EmployeeNumber = 101 WHERE LastName = 'Tanaka'"));
+    const std::vector<std::string> words{"report", "timecard", "--employee", "Ann Lee", "--employee", "Yuki Tanaka"};
+    const std::string file = "101_0315_0329_2026_time_card.txt";
+    const std::string told = "ptk-console: the report of Yuki Tanaka took the place of that of Ann Lee, who has the same number\n";
+    const Answer answer = Run(words);
+    EXPECT_EQ(answer.status, 3);
+    EXPECT_EQ(answer.err, Written({file, file}) + told);
+}
+
 TEST_F(ReportCommandTest, OneFileTakesAllReportsOfARun)
 {
     const std::string file = Folder().string() + "/all";

@@ -261,6 +261,7 @@ TEST_F(TimeCardTest, MoreRecordsThanItsNumbersHoldPayNothing)
                                         "WHERE i < 32767) SELECT i FROM n)"));
     EXPECT_FALSE(card.GenerateTimecard(employee, At(3, 0), At(4, 0)));
     EXPECT_EQ(card.TimeRecordList()->Count(), 32768);
+    EXPECT_EQ(card.LastFailure().Description(), "the period has 32768 time records, more than the 32767 that a time card can take");
     EXPECT_EQ(card.RegularHoursWorked(), 0);
     ASSERT_TRUE(database->ExecuteAction("DELETE FROM TimeRecord WHERE TimeRecordID = 2"));
     EXPECT_TRUE(card.GenerateTimecard(employee, At(3, 0), At(4, 0)));

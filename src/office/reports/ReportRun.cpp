@@ -35,6 +35,11 @@ void NoteFailure(ReportRun& run, const std::string& reason)
     }
 }
 
+std::string DescribeReplacement(const std::string& name, const std::string& replaced)
+{
+    return fmt::format("the report of {} took the place of that of {}, who has the same number", name, replaced);
+}
+
 std::string DescribeRun(const ReportRun& run)
 {
     if (run.wanted == 0) {
@@ -42,11 +47,12 @@ std::string DescribeRun(const ReportRun& run)
     }
     const std::string cancelled = run.done < run.wanted ? "Cancelled: " : "";
     const std::string whole = OutOf(run.done - run.failed, run.wanted);
+    const std::string replaced = (run.replaced.empty() ? "" : "; ") + fmt::format("{}", fmt::join(run.replaced, "; "));
     if (run.failed == 0) {
-        return cancelled + whole + " written";
+        return cancelled + whole + " written" + replaced;
     }
     const std::string reasons = (run.reasons.empty() ? "" : ": ") + fmt::format("{}", fmt::join(run.reasons, "; "));
-    return fmt::format("{}{} complete, {} failed{}", cancelled, whole, run.failed, reasons);
+    return fmt::format("{}{} complete, {} failed{}{}", cancelled, whole, run.failed, reasons, replaced);
 }
 
 std::string DescribeReport(std::int32_t errorNumber, const std::string& missing, const ReportRun& people)
