@@ -1,4 +1,4 @@
-// What the engines' SQL says differently; all other texts are the same for both.
+// What the SQL of a file's engine and of a server's says differently; all other texts of the program are the same for both.
 #pragma once
 
 #include <fmt/format.h>

@@ -54,7 +54,7 @@ public:
     // null.
     [[nodiscard]] std::string Shown(std::size_t column) const;
 
-    // In the stored form YYYY-MM-DD HH:MM:SS, the only one that searches find.
+    // Whether it is a date-time, as text of the stored form YYYY-MM-DD HH:MM:SS alone: searches compare texts and pass over others.
     [[nodiscard]] bool HasStoredDate(std::size_t column) const;
 
     // How the engine hands the rows over; defined beside the engine.

@@ -29,7 +29,7 @@ public:
     EditMenu(QMenu& menu, const Lines& lines, PageHost& host, std::function<bool()> isBusy);
 
 signals:
-    // And "Undone: Delete 03/05/2003 08:00 AM (Ann Lee)".
+    // A step was undone or done again; `done` says which: "Undone: Delete 03/05/2003 08:00 AM (Ann Lee)".
     void Moved(const ptk::MovedStep& step, const QString& done);
 
     // Why nothing was done.
