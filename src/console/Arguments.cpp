@@ -2,7 +2,7 @@
 
 #include "office/import/OldFile.h"
 #include "platform/system/Version.h"
-#include "platform/text/Text.h"
+#include "platform/text/TypedTime.h"
 
 #include <CLI/CLI.hpp>
 
@@ -13,18 +13,6 @@
 namespace ptk {
 
 namespace {
-
-// A day, not a time: what has a time of day in it is no date here.
-std::optional<DateTime> ReadDay(const std::string& text)
-{
-    return text.find(':') == std::string::npos ? ParseDateTime(text) : std::nullopt;
-}
-
-void TakesDay(CLI::Option* option)
-{
-    option->type_name("DATE")->check(
-        CLI::Validator([](std::string& text) { return ReadDay(text) ? std::string() : "not a date: " + text; }, ""));
-}
 
 void TakesFormat(CLI::App* command, std::string& format)
 {
@@ -71,7 +59,7 @@ struct Words
 class Grammar
 {
 public:
-    Grammar();
+    explicit Grammar(DateTime today);
     std::variant<Arguments, UsageAnswer> Read(std::vector<std::string> words);
 
 private:
@@ -83,12 +71,17 @@ private:
     void DescribeBackups();
     void DescribeImport();
     void DescribeCopy();
+    void TakesDay(CLI::Option* option) const;
     void CheckReport() const;
     std::variant<Arguments, UsageAnswer> Answer(const CLI::ParseError& error) const;
     Arguments Result() const;
     Command ReportResult() const;
     Command FileResult() const;
 
+    // As the date boxes of the windows read it: "3/5" is of this year.
+    std::optional<DateTime> Day(const std::string& text) const { return ReadTypedDate(text, m_today); }
+
+    DateTime m_today;
     Words m_words;
     CLI::App m_app{"PTK - Administrator for terminals and scheduled jobs: time cards and reports from the program folder's database",
                    "ptk-console"};
@@ -104,17 +97,20 @@ private:
     CLI::App* m_copy = nullptr;
 };
 
-Grammar::Grammar()
+Grammar::Grammar(DateTime today) : m_today(today)
 {
     m_app.set_help_flag("-h,--help", "Show this help");
     m_app.set_version_flag("--version", std::string("ptk-console ") + Version(), "Show the version");
     m_app
-        .add_option("--program-folder", m_words.programFolder,
-                    "The folder with system/ and reports/; else PTK_PROGRAM_FOLDER, else the folder of ptk-console")
+        .add_option(
+            "--program-folder", m_words.programFolder,
+            "The folder with system/ and reports/; else PTK_PROGRAM_FOLDER, else the folder of ptk-console where it is one, else the one "
+            "chosen at the first start, else ptk-admin in the folder for your data")
         ->type_name("DIR");
     m_app.require_subcommand(1);
     m_app.fallthrough();
-    m_app.footer("Exit status: 0 done, 1 the operation failed, 2 wrong usage, 3 done and problems found. Dates are month/day/year.");
+    m_app.footer("Exit status: 0 done, 1 the operation failed, 2 wrong usage, 3 done and problems found. A date is "
+                 "month/day, of this year, or month/day/year; 2026-03-05 is one, too.");
     DescribeCreateDatabase();
     DescribeTimeCard();
     DescribeReport();
@@ -157,7 +153,10 @@ void Grammar::DescribeReport()
     m_report->add_option("--format", m_words.format, "How: text, csv, json or pdf")
         ->type_name("FORMAT")
         ->check(CLI::IsMember(ReportForms()));
-    m_report->add_option("-o,--output", m_words.output, "Into this file instead of printing it; all reports into one")->type_name("FILE");
+    m_report
+        ->add_option("-o,--output", m_words.output,
+                     "Into this file instead of printing it; all reports into one, and each into the reports folder as well")
+        ->type_name("FILE");
 }
 
 void Grammar::DescribeOverview()
@@ -215,6 +214,12 @@ void Grammar::DescribeCopy()
         ->type_name("DATABASE");
 }
 
+void Grammar::TakesDay(CLI::Option* option) const
+{
+    option->type_name("DATE")->check(
+        CLI::Validator([this](std::string& text) { return Day(text) ? std::string() : "not a date: " + text; }, ""));
+}
+
 // What each report has no use for is refused rather than silently left aside.
 void Grammar::CheckReport() const
 {
@@ -257,22 +262,22 @@ std::variant<Arguments, UsageAnswer> Grammar::Answer(const CLI::ParseError& erro
 Arguments Grammar::Result() const
 {
     if (m_createDatabase->parsed()) {
-        return {m_words.programFolder, CreateDatabaseArguments{m_words.sample, ReadDay(m_words.today)}};
+        return {m_words.programFolder, CreateDatabaseArguments{m_words.sample, Day(m_words.today)}};
     }
     if (m_timeCard->parsed()) {
         return {m_words.programFolder,
-                TimeCardArguments{m_words.employee, ReadDay(m_words.from).value(), ReadDay(m_words.to).value(), m_words.check}};
+                TimeCardArguments{m_words.employee, Day(m_words.from).value(), Day(m_words.to).value(), m_words.check}};
     }
     if (m_report->parsed()) {
         return {m_words.programFolder, ReportResult()};
     }
     if (m_overview->parsed()) {
-        return {m_words.programFolder, OverviewArguments{m_words.employees, ReadDay(m_words.from), ReadDay(m_words.to), m_words.format}};
+        return {m_words.programFolder, OverviewArguments{m_words.employees, Day(m_words.from), Day(m_words.to), m_words.format}};
     }
     if (m_history->parsed()) {
         const bool named = m_history->count("--employee") > 0;
-        return {m_words.programFolder, HistoryArguments{named ? std::optional(m_words.employee) : std::nullopt, ReadDay(m_words.from),
-                                                        ReadDay(m_words.to), m_words.format}};
+        return {m_words.programFolder, HistoryArguments{named ? std::optional(m_words.employee) : std::nullopt, Day(m_words.from),
+                                                        Day(m_words.to), m_words.format}};
     }
     return {m_words.programFolder, FileResult()};
 }
@@ -281,8 +286,8 @@ Command Grammar::ReportResult() const
 {
     return ReportArguments{*FindConsoleReport(m_words.report),
                            m_words.employees,
-                           ReadDay(m_words.from),
-                           ReadDay(m_words.to),
+                           Day(m_words.from),
+                           Day(m_words.to),
                            ReportForms().at(m_words.format),
                            m_report->count("--output") > 0 ? std::optional(m_words.output) : std::nullopt};
 }
@@ -310,9 +315,9 @@ Command Grammar::FileResult() const
 
 } // namespace
 
-std::variant<Arguments, UsageAnswer> ReadArguments(const std::vector<std::string>& words)
+std::variant<Arguments, UsageAnswer> ReadArguments(const std::vector<std::string>& words, DateTime today)
 {
-    return Grammar().Read(words);
+    return Grammar(today).Read(words);
 }
 
 } // namespace ptk

@@ -38,7 +38,7 @@ struct ReportArguments
 
 struct OverviewArguments
 {
-    std::vector<std::string> employees; // as above; none: all that are offered
+    std::vector<std::string> employees; // display names in the order given; none: all that are offered
     std::optional<DateTime> from;
     std::optional<DateTime> to;
     std::string format; // one of text, csv, json
@@ -100,7 +100,7 @@ struct UsageAnswer
     std::string text; // without a line end at its end
 };
 
-// `words`: the command line without the program's name.
-[[nodiscard]] std::variant<Arguments, UsageAnswer> ReadArguments(const std::vector<std::string>& words);
+// `words`: the command line without the program's name. `today` tells the year of a date without one.
+[[nodiscard]] std::variant<Arguments, UsageAnswer> ReadArguments(const std::vector<std::string>& words, DateTime today);
 
 } // namespace ptk

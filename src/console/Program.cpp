@@ -39,7 +39,7 @@ int ShowUsage(const UsageAnswer& answer, std::ostream& out, std::ostream& err)
 
 int Run(const std::vector<std::string>& words, const Clock& clock, std::ostream& out, std::ostream& err, bool terminal)
 {
-    const auto read = ReadArguments(words);
+    const auto read = ReadArguments(words, clock.Today());
     if (const auto* answer = std::get_if<UsageAnswer>(&read)) {
         return ShowUsage(*answer, out, err);
     }
