@@ -78,7 +78,8 @@ TEST_F(SafekeepingTest, AFailureIsToldAndHoldsNothingUp)
     windows.main->Exit();
     EXPECT_EQ(Boxes(), Texts{"Backup Error: " + problem + "."});
     EXPECT_EQ(ends, std::vector{EXIT_SUCCESS});
-    EXPECT_EQ(Log(), kLogBegin + problem + "\r\n" + problem + "\r\n" + problem + "\r\n" + kLogEnd);
+    const std::string line = "Error: 76 : " + problem + "\r\n";
+    EXPECT_EQ(Log(), kLogBegin + line + line + line + kLogEnd);
 }
 
 TEST_F(SafekeepingTest, TheUserMayEndOneAndIsNotToldOfThat)

@@ -321,10 +321,10 @@ void FController::Say(const QString& text)
     }
 }
 
-void FController::Log(const std::string& line)
+void FController::Log(std::int32_t number, const std::string& text)
 {
     if (m_controller != nullptr) {
-        m_controller->Log(line);
+        m_controller->Log(number, text);
     }
 }
 

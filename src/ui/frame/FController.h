@@ -67,7 +67,8 @@ public:
     const DesktopWindow& AsDesktopWindow() const override { return *this; }
     bool SetStatusText(const std::string& name, const std::string& identifier) override;
     void ErrorNumber(std::int32_t value) override { m_errorNumber = value; }
-    void Log(const std::string& line) override;
+    using PageHost::Log;
+    void Log(std::int32_t number, const std::string& text) override;
     std::int32_t EventSource() const override { return m_eventSource; }
     void EventSource(std::int32_t value) override { m_eventSource = value; }
     PeriodTexts TimeCardPeriod() const override;

@@ -87,7 +87,7 @@ std::string RecordPages::ReadPages(const MovedStep& step)
     std::string trouble;
     Succeeds(read, [&](const Failure& failure) {
         trouble = kNotLoaded + failure.Description();
-        m_frame.host.Log(trouble);
+        m_frame.host.Log(failure.Number(), trouble);
     });
     return trouble;
 }

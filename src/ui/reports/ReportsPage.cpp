@@ -273,7 +273,7 @@ private:
 void ReportsPage::Client::Made(Report& report, bool complete, const std::string& outcome)
 {
     if (report.ErrorNumber() != 0) {
-        m_page.m_host.Log(report.ReportName() + ": " + outcome);
+        m_page.m_host.Log(report.ErrorNumber(), report.ReportName() + ": " + outcome);
     }
     if (!complete && m_entry.tellsFailures) {
         ShowFailure(report);

@@ -111,7 +111,7 @@ bool CurrentCard::Load(CTimeCard& card, const std::shared_ptr<CEmployee>& employ
 void CurrentCard::ReadEdits(const CTimeCard& card)
 {
     Succeeds([&] { m_edits = ReadRecordEdits(Required(m_host.Controller())->PTKDatabase(), card); },
-             [this](const Failure& reason) { m_host.Log(kNoEdits + reason.Description()); });
+             [this](const Failure& reason) { m_host.Log(reason.Number(), kNoEdits + reason.Description()); });
 }
 
 void CurrentCard::ReportCardError(std::int32_t errorNumber)
@@ -271,7 +271,7 @@ void CurrentCard::Complain(const std::string& line)
 {
     if (!line.empty()) {
         m_line.Say(QString::fromStdString(line));
-        m_host.Log(line);
+        m_host.Log(m_card == nullptr ? 0 : m_card->LastFailure().Number(), line);
     }
 }
 
