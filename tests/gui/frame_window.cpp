@@ -131,20 +131,28 @@ TEST_F(MainWindowTest, ListsTheKeysOfItsMenusAndOfTheRest)
 
 TEST_F(MainWindowTest, OpensTheGuideAndTellsOnlyWhenItIsMissing)
 {
-    program.desktop.shellCodes = {ShellSuccess + 1, ShellFileNotFound, ShellNoProgram};
+    program.desktop.shellCodes = {ShellSuccess + 1, ShellFileNotFound, ShellNoProgram, ShellSuccess + 1, ShellNoProgram, ShellNoProgram};
+    program.desktop.refusal = "no program is set up for this kind of document";
     auto& guide = Find<QAction>(Main(), "mnuHelpContents");
     guide.trigger();
     EXPECT_EQ(program.desktop.Take(), Boxes());
     guide.trigger();
     EXPECT_EQ(program.desktop.Take(), Boxes{kNoGuide});
     auto& line = *Find(Main(), "FrameArray(1)").findChild<QLabel*>("lblNotice");
-    EXPECT_EQ(line.text(), "");
+    guide.trigger();
+    EXPECT_EQ(line.text(), "") << "its page opened";
     guide.trigger();
     EXPECT_EQ(program.desktop.Take(), Boxes());
-    EXPECT_EQ(line.text(), "The user's guide could not be opened: no program for it took it.");
-    EXPECT_THAT(ReadBytes(program.logPath), testing::HasSubstr(line.text().toStdString()));
-    const ShellRequest request{ShellVerb::Open, program.folder.Path() + "/documentation/PTKAdminUserGuide.doc"};
-    EXPECT_EQ(program.desktop.requests, (std::vector<ShellRequest>(3, request)));
+    EXPECT_EQ(line.text(), "The user's guide could not be opened: no program is set up for this kind of document");
+    const std::string document = program.folder.Path() + "/documentation/PTKAdminUserGuide.doc";
+    const std::string page = program.folder.Path() + "/documentation/PTKAdminUserGuide.html";
+    EXPECT_THAT(ReadBytes(program.logPath), testing::EndsWith("Error: 902 : The user's guide is missing: " + document +
+                                                              "\r\nError: 0 : " + line.text().toStdString() + "\r\n"));
+    std::vector<std::string> asked;
+    for (const ShellRequest& request : program.desktop.requests) {
+        asked.push_back(request.path);
+    }
+    EXPECT_EQ(asked, (std::vector{document, document, document, page, document, page}));
 }
 
 TEST_F(MainWindowTest, AppliesOptionsThatTheNextStartFinds)

@@ -142,10 +142,13 @@ TEST_F(FindingsTest, TheLimitsAreAppliedCancelledAndFollowedAtOnce)
     Press("cmdCancelOptions");
     EXPECT_EQ(hours.text(), "16");
     Type(hours, "many");
+    Type(The<QLineEdit>("txtPeriodLength"), "3");
     Press("cmdApplyOptions");
     EXPECT_EQ(Told().size(), 1U);
+    EXPECT_EQ(Stored("SELECT period_length AS x FROM _System"), std::vector<std::string>{"14"}) << "nothing else is stored either";
     EXPECT_EQ(Notice(5), "The longest usual shift is a whole number of hours from 1 to 999");
     Type(hours, "3");
+    Type(The<QLineEdit>("txtPeriodLength"), "14");
     The<QCheckBox>("chkShowNotices").click();
     Press("cmdApplyOptions");
     EXPECT_EQ(Told(), Boxes());

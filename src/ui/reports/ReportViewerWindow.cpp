@@ -80,9 +80,12 @@ ReportViewerWindow::~ReportViewerWindow() = default;
 void ReportViewerWindow::LayOutButtons()
 {
     auto* row = new ButtonRow;
-    m_ui->layout->addLayout(row);
-    const std::unique_ptr<QLayout> before(m_ui->buttons);
-    row->TakeFrom(*before);
+    row->setContentsMargins(0, 0, 0, 0);
+    {
+        const std::unique_ptr<QLayout> before(m_ui->buttons);
+        row->TakeFrom(*before);
+    }
+    m_ui->pnlButtons->setLayout(row);
 }
 
 void ReportViewerWindow::ConnectControls()
