@@ -32,8 +32,11 @@ struct EngineWords
     // Digits, whatever the type of the column that they are for.
     const char* number;
 
-    // Answers a row where the table _CheckLimits is there, which files of earlier versions lack; empty where it always is.
-    const char* findLimits;
+    // Answers a row where the table {0} is there, which files of earlier versions lack; empty where it always is.
+    const char* findTable;
+
+    // Of a row of _Payday: whether its days are days, in their order.
+    const char* closedDays;
 
     // Behind a SELECT within a write: nobody else changes these rows before its end.
     const char* lockRows;

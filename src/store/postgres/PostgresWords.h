@@ -20,7 +20,10 @@ inline constexpr EngineWords kPostgresWords{
                   "JOIN json_each_text(CAST(:json AS json)) WITH ORDINALITY AS said (key, value, place) ON said.place = one.place "
                   "ORDER BY one.place",
     .number = "'{0}'",
-    .findLimits = "",
+    .findTable = "",
+    .closedDays =
+        "(FromDay BETWEEN DATE '0100-01-01' AND ToDay AND ToDay < DATE '10000-01-01' AND date_trunc('day', FromDay) = FromDay AND "
+        "date_trunc('day', ToDay) = ToDay)",
     .lockRows = " FOR UPDATE",
     .lockTable = "LOCK TABLE {0} IN SHARE MODE",
     .openCursor = "DECLARE ptk_rows NO SCROLL CURSOR FOR {0}",

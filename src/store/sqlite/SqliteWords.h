@@ -18,7 +18,9 @@ inline constexpr EngineWords kSqliteWords{
     .jsonFields = "SELECT key, type, CASE type WHEN 'real' THEN printf('%!.17g', atom) WHEN 'object' THEN "
                   "json_extract(value, '$.blob') ELSE atom END FROM json_each(:json)",
     .number = "{0}",
-    .findLimits = "SELECT name FROM sqlite_master WHERE type = 'table' AND name = '_CheckLimits' COLLATE NOCASE",
+    .findTable = "SELECT name FROM sqlite_master WHERE type = 'table' AND name = '{0}' COLLATE NOCASE",
+    .closedDays = "(FromDay BETWEEN '0100-' AND ToDay AND ToDay < ':' AND datetime(FromDay, '+0 days', 'start of day') = FromDay AND "
+                  "datetime(ToDay, '+0 days', 'start of day') = ToDay)",
     .lockRows = "",
     .lockTable = "",
     .openCursor = "",
