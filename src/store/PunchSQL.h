@@ -17,4 +17,22 @@ inline constexpr auto kStarting = "SELECT TimeRecordID, StartTime, EndTime FROM 
     return fmt::format("SELECT TimeRecordID, StartTime, EndTime FROM TimeRecord WHERE EmployeeID = :employee AND {}", words.unusualPunch);
 }
 
+// The ends of the ten newest shifts before a moment, those of at least a minute that began within two hours of the minute `minute` of the
+// day, also over midnight. Answered by the index TimeRecordPeriod, from the moment backwards.
+[[nodiscard]] inline std::string EarlierEnds(const EngineWords& words)
+{
+    return fmt::format("SELECT EndTime FROM TimeRecord WHERE EmployeeID = :employee AND StartTime < :start AND {0} AND {1} < {2} AND "
+                       "({3} - :minute + 2160) % 1440 BETWEEN 600 AND 840 ORDER BY StartTime DESC, EndTime DESC LIMIT 10",
+                       words.readablePunch, Said(words.wholeMinute, "StartTime"), Said(words.wholeMinute, "EndTime"),
+                       Said(words.minuteOfDay, "StartTime"));
+}
+
+// Whose records are on the card of the days from `first` to the midnight `end`, save those that start after it.
+[[nodiscard]] inline std::string WithShiftsIn(const EngineWords& words)
+{
+    return fmt::format("SELECT EmployeeID FROM Employee WHERE EXISTS (SELECT 1 FROM TimeRecord WHERE TimeRecord.EmployeeID = "
+                       "Employee.EmployeeID AND StartTime >= :first AND StartTime < :end AND EndTime <= :end AND {})",
+                       words.readablePunch);
+}
+
 } // namespace ptk::punchsql

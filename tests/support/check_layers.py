@@ -21,7 +21,7 @@ FLOORS = {
     "platform": [[""], ["text", "files"], ["system"]],
     "shell": [[""]],
     "store": [["engine"], ["sqlite", "postgres", "rows"], ["whole"], ["backup"], [""], ["trail", "import"]],
-    "model": [[""], ["payday"], ["check"]],
+    "model": [[""], ["payday"], ["check"], ["remedy"]],
     "reports": [["forms"], [""]],
     "office": [["card", "import", "reports"], ["history", "safety"], ["overview"], ["records", "business"]],
     "jetreader": [[""]],

@@ -56,6 +56,12 @@ DateTime LastSecond(DateTime day)
     return DateTime::FromSeconds(day.Seconds() + DateTime::kSecondsPerDay - 1);
 }
 
+// What ends on the card may be made to end a day later, if nothing else begins before that.
+DateTime NextMidnight(DateTime midnight)
+{
+    return EndOfDay(DateTime(midnight.Date()));
+}
+
 // Shifts of up to a day reach into the first week from the day before it.
 DateTime DayBefore(DateTime day)
 {
@@ -72,8 +78,7 @@ PunchReader::PunchReader(CJetDB& database, const PayPeriod& period, std::int32_t
     m_unusual = RequireSelect(database, punchsql::Unusual(database.Words()));
     m_starting = RequireSelect(database, punchsql::kStarting);
     m_starting->Bind("first", DayBefore(WeekStart(period.from, firstWeekday)));
-    // A shift without length at the card's last moment is on the card, though it begins behind the period and perhaps its weeks.
-    m_starting->Bind("last", std::max(LastSecond(WeekLast(period.to, firstWeekday)), m_end));
+    m_starting->Bind("last", std::max(LastSecond(WeekLast(period.to, firstWeekday)), NextMidnight(m_end)));
 }
 
 PunchReader::~PunchReader() = default;

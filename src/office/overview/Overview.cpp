@@ -2,40 +2,10 @@
 
 #include "model/CEmployeeList.h"
 #include "model/check/PunchReader.h"
-#include "model/CTimeCalculator.h"
-#include "model/CTimeRecord.h"
-#include "office/overview/DecimalSum.h"
-#include "platform/text/Text.h"
+#include "platform/text/DecimalSum.h"
 #include "store/CJetDB.h"
 
 namespace ptk {
-
-namespace {
-
-// The shifts of the card in its order.
-std::vector<WorkedShift> ShiftsOf(const Punches& punches)
-{
-    std::vector<WorkedShift> shifts;
-    shifts.reserve(punches.size());
-    for (const Punch& punch : punches) {
-        if (punch.fetched) {
-            shifts.push_back({*punch.start, HoursOf(punch.Minutes())});
-        }
-    }
-    return shifts;
-}
-
-std::optional<CardFigures> FiguresOf(const CEmployee& employee, const Punches& punches)
-{
-    CTimeCalculator calculator;
-    if (!calculator.CalculateTimes(employee, ShiftsOf(punches))) {
-        return std::nullopt;
-    }
-    const float pay = calculator.CalculatePay(employee.PayRate(), employee.OvertimePayRate());
-    return CardFigures{TwoDecimals(calculator.RegularHours()), TwoDecimals(calculator.OvertimeHours()), TwoDecimals(pay)};
-}
-
-} // namespace
 
 std::string OverviewRow::LongestWeek() const
 {
@@ -65,9 +35,7 @@ bool ReadOverview(Overview& overview, const std::shared_ptr<CJetDB>& database, s
         OverviewRow& row = overview.rows.emplace_back();
         row.employee = employee;
         row.check = CheckCard({*employee, overview.period.from, overview.period.to}, punches, overview.made, overview.limits);
-        if (row.check.figuresReadable) {
-            row.figures = FiguresOf(*employee, punches);
-        }
+        row.figures = row.check.figures;
         if (taken && !taken(row)) {
             return false;
         }

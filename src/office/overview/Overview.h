@@ -3,6 +3,7 @@
 
 #include "model/CEmployee.h"
 #include "model/check/CardCheck.h"
+#include "model/check/CardFigures.h"
 #include "model/PayPeriod.h"
 
 #include <cstdint>
@@ -17,14 +18,6 @@ namespace ptk {
 
 class CEmployeeList;
 class CJetDB;
-
-// To the letter as the employee's time card shows them.
-struct CardFigures
-{
-    std::string regular;  // hours
-    std::string overtime; // hours
-    std::string gross;    // money
-};
 
 struct OverviewRow
 {
