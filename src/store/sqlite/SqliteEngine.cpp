@@ -157,7 +157,13 @@ void SqliteEngine::RunSigned(const std::function<void()>& steps)
     const std::int64_t step = WantedStep() != 0 ? WantedStep() : next;
     OpenStep(*this, Signature(), step);
     TookStep(step);
+    const int before = sqlite3_total_changes(m_connection->Handle());
     RunWithin(m_connection->Handle(), steps);
+    if (sqlite3_total_changes(m_connection->Handle()) == before) { // no byte of the file is to change
+        m_connection->Release();
+        TookStep(0);
+        return m_connection->PrepareWrite();
+    }
     CloseStep(*this);
     TookStep(NextStep(*this) == next ? 0 : step); // a number without entries is given to the next step
 }
