@@ -37,7 +37,8 @@ ServerRoles CreateServerDatabase(const std::string& address, const std::function
     PostgresEngine engine(address, NewStructure{});
     engine.BeginMany();
     RefuseUnfit(engine);
-    for (const char* sql : {kServerSchemaSql, kServerStoredQueriesSql, kServerTrailFunctionsSql, kServerTrailSql, kServerRolesSql}) {
+    for (const char* sql :
+         {kServerSchemaSql, kServerStoredQueriesSql, kServerTrailFunctionsSql, kServerTrailSql, kServerStructure3Sql, kServerRolesSql}) {
         engine.RunScript(sql);
     }
     if (fill) {
