@@ -181,8 +181,14 @@ TEST_F(TrailTest, AFileOfTheFirstStructureIsReadAsItIsAndBroughtUpToDateWithTheF
     EXPECT_EQ(Rows("SELECT ChangeID, ChangedBy, Step, After, Reason FROM _Change; SELECT version FROM _Structure; SELECT * FROM _Session"),
               "1|NULL|NULL|{}|NULL|2|Ann Lee|2|{\"EndTime\":\"2003-03-05 18:00:00\"}|she forgot|2|NULL|NULL|NULL|NULL|");
     EXPECT_EQ(ReadTrail(m_database, TrailQuery()).front().reason, "she forgot");
+    {
+        const CJetDB::Reason none(m_database, "");
+        EXPECT_TRUE(m_database->ExecuteAction("UPDATE TimeRecord SET EndTime = #3/5/2003 7:00 PM#"));
+    }
+    Run("UPDATE _Session SET reason = 'for a test'; UPDATE TimeRecord SET EndTime = NULL; UPDATE _Session SET reason = NULL");
+    EXPECT_EQ(ReadTrailReasons(m_database, 5), (std::vector<std::string>{"for a test", "she forgot"}));
     Run("INSERT INTO _Payday (EmployeeID, FromDay) VALUES (40, 'soon'); DELETE FROM _Payday");
-    EXPECT_EQ(Rows("SELECT TableName, RowID, Action, EmployeeBefore, EmployeeAfter FROM _Change WHERE ChangeID > 2"),
+    EXPECT_EQ(Rows("SELECT TableName, RowID, Action, EmployeeBefore, EmployeeAfter FROM _Change WHERE ChangeID > 4"),
               "_Payday|1|insert|NULL|40|_Payday|1|delete|40|NULL|");
     EXPECT_TRUE(CheckDatabase(Path()).problems.empty());
     EXPECT_EQ(BackupsIn(BackupFolder(m_folder.Path())).size(), 1U);
