@@ -3,6 +3,7 @@
 #include "platform/Failure.h"
 #include "store/CJetDB.h"
 #include "store/engine/EngineWords.h"
+#include "store/engine/RecordSet.h"
 #include "store/engine/Statement.h"
 
 #include <fmt/format.h>
