@@ -81,6 +81,7 @@ private:
     void DescribeTimeCard();
     void DescribeReport();
     void DescribeOverview();
+    void DescribePayday();
     void DescribeHistory();
     void DescribeBackups();
     void DescribeImport();
@@ -89,6 +90,7 @@ private:
     std::variant<Arguments, UsageAnswer> Answer(const CLI::ParseError& error) const;
     Arguments Result() const;
     Command ReportResult() const;
+    Command PaydayResult() const;
     Command FileResult() const;
 
     Words m_words;
@@ -98,6 +100,9 @@ private:
     CLI::App* m_timeCard = nullptr;
     CLI::App* m_report = nullptr;
     CLI::App* m_overview = nullptr;
+    CLI::App* m_payday = nullptr;
+    CLI::App* m_close = nullptr;
+    CLI::App* m_reopen = nullptr;
     CLI::App* m_history = nullptr;
     CLI::App* m_backup = nullptr;
     CLI::App* m_restore = nullptr;
@@ -121,6 +126,7 @@ Grammar::Grammar()
     DescribeTimeCard();
     DescribeReport();
     DescribeOverview();
+    DescribePayday();
     DescribeHistory();
     DescribeBackups();
     DescribeImport();
@@ -175,6 +181,29 @@ void Grammar::DescribeOverview()
                                     "First day; else the day after what was closed last, or as the Reports page offers"));
     TakesDay(m_overview->add_option("--to", m_words.to, "Last day, inclusive; else by the length of a pay period"));
     TakesFormat(m_overview, m_words.format);
+}
+
+void Grammar::DescribePayday()
+{
+    m_payday = m_app.add_subcommand("payday", "Keep what is paid for a period, take that back, or print what became of it");
+    m_payday->require_subcommand(1);
+    m_close =
+        m_payday->add_subcommand("close", "Keep for each person what is paid for the period; without names, of all who have no problem");
+    m_reopen = m_payday->add_subcommand("reopen", "Take the newest closing of the period back; without names, of all who have one");
+    CLI::App* account = m_payday->add_subcommand("account", "Print what was paid, what the cards say now, and what was changed since");
+    for (CLI::App* task : {m_close, m_reopen, account}) {
+        TakesDay(task->add_option("--from", m_words.from, "First day")->required());
+        TakesDay(task->add_option("--to", m_words.to, "Last day, inclusive")->required());
+    }
+    for (CLI::App* task : {m_close, m_reopen}) {
+        task->add_option("--employee", m_words.employees, "An employee's name, may be repeated")
+            ->type_name("NAME")
+            ->allow_extra_args(false);
+    }
+    account->add_option("--format", m_words.format, "How: text, csv, json or pdf")
+        ->type_name("FORMAT")
+        ->check(CLI::IsMember(ReportForms()));
+    account->add_option("-o,--output", m_words.output, "Into this file instead of printing it")->type_name("FILE");
 }
 
 void Grammar::DescribeHistory()
@@ -276,6 +305,9 @@ Arguments Grammar::Result() const
         return {m_words.programFolder, OverviewArguments{m_words.employees, ReadDay(m_words.from), ReadDay(m_words.to), m_words.format,
                                                          m_words.all, m_words.remedies}};
     }
+    if (m_payday->parsed()) {
+        return {m_words.programFolder, PaydayResult()};
+    }
     if (m_history->parsed()) {
         const bool named = m_history->count("--employee") > 0;
         return {m_words.programFolder, HistoryArguments{named ? std::optional(m_words.employee) : std::nullopt, ReadDay(m_words.from),
@@ -292,6 +324,21 @@ Command Grammar::ReportResult() const
                            ReadDay(m_words.to),
                            ReportForms().at(m_words.format),
                            m_report->count("--output") > 0 ? std::optional(m_words.output) : std::nullopt};
+}
+
+Command Grammar::PaydayResult() const
+{
+    const PaydayTask others = m_reopen->parsed() ? PaydayTask::Reopen : PaydayTask::Account;
+    PaydayArguments arguments{m_close->parsed() ? PaydayTask::Close : others,
+                              ReadDay(m_words.from).value(),
+                              ReadDay(m_words.to).value(),
+                              m_words.employees,
+                              ReportForms().at(m_words.format),
+                              {}};
+    if (arguments.task == PaydayTask::Account && m_payday->get_subcommand("account")->count("--output") > 0) {
+        arguments.output = m_words.output;
+    }
+    return arguments;
 }
 
 Command Grammar::FileResult() const

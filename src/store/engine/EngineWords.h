@@ -41,6 +41,9 @@ struct EngineWords
     // Answers a row where the table {0} is there, which files of earlier versions lack; empty where it always is.
     const char* findTable;
 
+    // Answers a row where the trail has reasons, which it lacks in files of earlier versions; empty where it always has.
+    const char* findReasons;
+
     // Of a row of _Payday: whether its days are days, in their order.
     const char* closedDays;
 

@@ -24,6 +24,7 @@ inline constexpr EngineWords kPostgresWords{
                   "ORDER BY one.place",
     .number = "'{0}'",
     .findTable = "",
+    .findReasons = "",
     .closedDays =
         "(FromDay BETWEEN DATE '0100-01-01' AND ToDay AND ToDay < DATE '10000-01-01' AND date_trunc('day', FromDay) = FromDay AND "
         "date_trunc('day', ToDay) = ToDay)",

@@ -23,6 +23,7 @@ inline constexpr EngineWords kSqliteWords{
                   "json_extract(value, '$.blob') ELSE atom END FROM json_each(:json)",
     .number = "{0}",
     .findTable = "SELECT name FROM sqlite_master WHERE type = 'table' AND name = '{0}' COLLATE NOCASE",
+    .findReasons = "SELECT name FROM pragma_table_info('_Change') WHERE name = 'Reason' COLLATE NOCASE",
     .closedDays = "(FromDay BETWEEN '0100-' AND ToDay AND ToDay < ':' AND datetime(FromDay, '+0 days', 'start of day') = FromDay AND "
                   "datetime(ToDay, '+0 days', 'start of day') = ToDay)",
     .lockRows = "",

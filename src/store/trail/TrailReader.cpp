@@ -2,6 +2,7 @@
 
 #include "store/CJetDB.h"
 #include "store/engine/EngineWords.h"
+#include "store/engine/RecordSet.h"
 #include "store/engine/Statement.h"
 #include "store/trail/TrailSQL.h"
 
@@ -58,6 +59,12 @@ private:
     std::unique_ptr<Statement> m_fields;
 };
 
+bool HasReasons(CJetDB& database)
+{
+    const std::string find = database.Words().findReasons;
+    return find.empty() || RequireSelect(database, find)->ReadRows()->RecordCount() != 0;
+}
+
 TrailEntry EntryOf(const Statement& row, RowParser& parser)
 {
     TrailEntry entry;
@@ -73,6 +80,7 @@ TrailEntry EntryOf(const Statement& row, RowParser& parser)
     entry.before = parser.Parse(row, kBefore);
     entry.after = parser.Parse(row, kAfter);
     entry.employee = NumberOf(row, kEmployee);
+    entry.reason = TextOf(row, kReason);
     return entry;
 }
 
@@ -92,7 +100,7 @@ void ReadTrail(const std::shared_ptr<CJetDB>& database, const TrailQuery& query,
         return;
     }
     RowParser parser(*database);
-    const auto entries = RequireSelect(*database, TrailSql(query, database->Words()));
+    const auto entries = RequireSelect(*database, TrailSql(query, database->Words(), HasReasons(*database)));
     BindTrail(*entries, query);
     entries->ForEachRow([&] { take(EntryOf(*entries, parser)); });
 }

@@ -50,6 +50,7 @@ struct TrailEntry
     std::optional<TrailRow> before;
     std::optional<TrailRow> after;
     std::optional<std::int64_t> employee; // whose row it is or was, or whose record
+    std::string reason;                   // empty without one
 };
 
 enum class TrailKind : std::uint8_t
@@ -58,7 +59,8 @@ enum class TrailKind : std::uint8_t
     Employees,
     Companies,
     Options, // those of the check, too
-    Whole    // restores and imports
+    Paydays,
+    Whole // restores and imports
 };
 
 // Days, both included.

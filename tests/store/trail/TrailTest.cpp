@@ -251,7 +251,7 @@ TEST_F(TrailReaderTest, FindsWhatIsAskedForByItsIndex)
         TrailQuery query;
         c.set(query);
         EXPECT_EQ(Found(query), c.entries) << c.name;
-        const std::string plan = Rows("EXPLAIN QUERY PLAN " + TrailSql(query, kSqliteWords));
+        const std::string plan = Rows("EXPLAIN QUERY PLAN " + TrailSql(query, kSqliteWords, true));
         const std::string search = *c.index == '\0' ? "_Change USING INTEGER PRIMARY KEY" : std::string("USING INDEX ") + c.index;
         EXPECT_NE(plan.find(search), std::string::npos) << c.name << ": " << plan;
         EXPECT_EQ(plan.find("SCAN _Change"), std::string::npos) << c.name << ": " << plan;
