@@ -53,6 +53,8 @@ struct Words
     std::string programFolder;
     bool sample = false;
     bool check = false;
+    bool all = false;
+    bool remedies = false;
     std::string format = "text";
     std::string today;
     std::string employee;
@@ -169,10 +171,14 @@ void Grammar::DescribeReport()
 void Grammar::DescribeOverview()
 {
     m_overview = m_app.add_subcommand("overview", "Print whom one can pay for a period, whom not yet, and why");
-    m_overview->add_option("--employee", m_words.employees, "An employee's name, may be repeated; else all that are offered time cards")
-        ->type_name("NAME")
-        ->allow_extra_args(false);
-    TakesDay(m_overview->add_option("--from", m_words.from, "First day; else as the Reports page offers"));
+    CLI::Option* employee =
+        m_overview->add_option("--employee", m_words.employees, "An employee's name, may be repeated; else all that are offered time cards")
+            ->type_name("NAME")
+            ->allow_extra_args(false);
+    m_overview->add_flag("--all", m_words.all, "Everybody else who has records in the period, too")->excludes(employee);
+    m_overview->add_flag("--remedies", m_words.remedies, "What can be done about each finding, and the hours after it");
+    TakesDay(m_overview->add_option("--from", m_words.from,
+                                    "First day; else the day after what was closed last, or as the Reports page offers"));
     TakesDay(m_overview->add_option("--to", m_words.to, "Last day, inclusive; else by the length of a pay period"));
     TakesFormat(m_overview, m_words.format);
 }
@@ -296,7 +302,8 @@ Arguments Grammar::Result() const
         return {m_words.programFolder, ReportResult()};
     }
     if (m_overview->parsed()) {
-        return {m_words.programFolder, OverviewArguments{m_words.employees, ReadDay(m_words.from), ReadDay(m_words.to), m_words.format}};
+        return {m_words.programFolder, OverviewArguments{m_words.employees, ReadDay(m_words.from), ReadDay(m_words.to), m_words.format,
+                                                         m_words.all, m_words.remedies}};
     }
     if (m_payday->parsed()) {
         return {m_words.programFolder, PaydayResult()};

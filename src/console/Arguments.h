@@ -42,6 +42,8 @@ struct OverviewArguments
     std::optional<DateTime> from;
     std::optional<DateTime> to;
     std::string format; // one of text, csv, json
+    bool all = false;   // those who are not offered and have records in the period, too
+    bool remedies = false;
 };
 
 enum class PaydayTask

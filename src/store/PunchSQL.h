@@ -35,4 +35,24 @@ inline constexpr auto kStarting = "SELECT TimeRecordID, StartTime, EndTime FROM 
                        words.readablePunch);
 }
 
+// The EmployeeIDs, known or not, that have records which start between two moments, both included, or are among those that such a search
+// passes over; a null where there are records that name nobody. From one number to the next by the index TimeRecordPeriod.
+[[nodiscard]] inline std::string EmployeesWithRecords(const EngineWords& words)
+{
+    return fmt::format("WITH RECURSIVE Named (Number) AS (SELECT MIN(EmployeeID) FROM TimeRecord UNION ALL SELECT (SELECT MIN(EmployeeID) "
+                       "FROM TimeRecord WHERE EmployeeID > Number) FROM Named WHERE Number IS NOT NULL) "
+                       "SELECT Number FROM Named WHERE EXISTS (SELECT 1 FROM TimeRecord WHERE EmployeeID = Number AND StartTime BETWEEN "
+                       ":first AND :last) OR EXISTS (SELECT 1 FROM TimeRecord WHERE EmployeeID = Number AND {0}) "
+                       "UNION ALL SELECT NULL WHERE EXISTS (SELECT 1 FROM TimeRecord WHERE EmployeeID IS NULL)",
+                       words.unusualPunch);
+}
+
+// Both of whom `whose` says, a condition. A row may come twice.
+[[nodiscard]] inline std::string Of(const std::string& whose, const EngineWords& words)
+{
+    return fmt::format("SELECT TimeRecordID, StartTime, EndTime FROM TimeRecord WHERE {0} AND StartTime BETWEEN :first AND :last UNION ALL "
+                       "SELECT TimeRecordID, StartTime, EndTime FROM TimeRecord WHERE {0} AND {1}",
+                       whose, words.unusualPunch);
+}
+
 } // namespace ptk::punchsql

@@ -9,6 +9,7 @@
 #include "store/PunchSQL.h"
 
 #include <algorithm>
+#include <fmt/format.h>
 #include <tuple>
 
 namespace ptk {
@@ -72,13 +73,14 @@ DateTime DayBefore(DateTime day)
 } // namespace
 
 PunchReader::PunchReader(CJetDB& database, const PayPeriod& period, std::int32_t firstWeekday)
-    : m_from(period.from), m_end(EndOfDay(period.to))
+    : m_from(period.from), m_end(EndOfDay(period.to)), m_first(DayBefore(WeekStart(period.from, firstWeekday))),
+      m_last(std::max(LastSecond(WeekLast(period.to, firstWeekday)), NextMidnight(m_end)))
 {
     RequireOpen(database);
     m_unusual = RequireSelect(database, punchsql::Unusual(database.Words()));
     m_starting = RequireSelect(database, punchsql::kStarting);
-    m_starting->Bind("first", DayBefore(WeekStart(period.from, firstWeekday)));
-    m_starting->Bind("last", std::max(LastSecond(WeekLast(period.to, firstWeekday)), NextMidnight(m_end)));
+    m_starting->Bind("first", m_first);
+    m_starting->Bind("last", m_last);
 }
 
 PunchReader::~PunchReader() = default;
@@ -116,6 +118,18 @@ Punches PunchReader::Read(std::int32_t employeeID)
         statement->Bind("employee", employeeID);
         statement->ForEachRow([&] { punches.push_back(ReadPunch(*statement)); });
     }
+    Order(punches);
+    return punches;
+}
+
+Punches PunchReader::ReadOfNobody(CJetDB& database, const std::optional<std::int64_t>& employeeID) const
+{
+    const std::string whose = employeeID ? fmt::format("EmployeeID = {}", *employeeID) : "EmployeeID IS NULL";
+    const auto rows = RequireSelect(database, punchsql::Of(whose, database.Words()));
+    rows->Bind("first", m_first);
+    rows->Bind("last", m_last);
+    Punches punches;
+    rows->ForEachRow([&] { punches.push_back(ReadPunch(*rows)); });
     Order(punches);
     return punches;
 }

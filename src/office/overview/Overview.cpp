@@ -1,11 +1,30 @@
 #include "office/overview/Overview.h"
 
 #include "model/CEmployeeList.h"
-#include "model/check/PunchReader.h"
+#include "office/overview/OverviewRows.h"
 #include "platform/text/DecimalSum.h"
 #include "store/CJetDB.h"
 
 namespace ptk {
+
+CheckTerms TermsOf(const Overview& overview)
+{
+    return {overview.period, overview.made, overview.limits};
+}
+
+OverviewRow RowOf(const Overview& overview, CardChecker& checker, const std::shared_ptr<CEmployee>& employee)
+{
+    OverviewRow row;
+    row.employee = employee;
+    row.check = checker.Check(*employee);
+    row.figures = row.check.figures;
+    row.paid = checker.Paid(employee->EmployeeID());
+    row.records = checker.RecordsOfPeriod();
+    if (overview.withRemedies) {
+        row.remedies = checker.Remedies(*employee, row.check, overview.autoShiftEnd);
+    }
+    return row;
+}
 
 std::string OverviewRow::LongestWeek() const
 {
@@ -28,15 +47,11 @@ bool ReadOverview(Overview& overview, const std::shared_ptr<CJetDB>& database, s
                   const RowTaken& taken)
 {
     const CJetDB::Hold hold(database);
-    PunchReader reader(*database, overview.period, overview.limits.firstWeekday);
+    CardChecker checker(database, TermsOf(overview));
     overview.rows.reserve(overview.rows.size() + employees.size());
     for (const auto& employee : employees) {
-        const Punches punches = reader.Read(employee->EmployeeID());
-        OverviewRow& row = overview.rows.emplace_back();
-        row.employee = employee;
-        row.check = CheckCard({*employee, overview.period.from, overview.period.to}, punches, overview.made, overview.limits);
-        row.figures = row.check.figures;
-        if (taken && !taken(row)) {
+        overview.rows.push_back(RowOf(overview, checker, employee));
+        if (taken && !taken(overview.rows.back())) {
             return false;
         }
     }
@@ -56,6 +71,8 @@ OverviewTotals TotalsOf(std::span<const OverviewRow> rows, bool onlyProblems)
         totals.clockedIn += row.check.clockedIn ? 1 : 0;
         totals.problems += row.check.problems;
         totals.notices += row.check.notices;
+        totals.paid += row.paid ? 1 : 0;
+        totals.changed += row.check.changed ? 1 : 0;
         if (row.figures) {
             regular.Add(row.figures->regular);
             overtime.Add(row.figures->overtime);
