@@ -34,11 +34,11 @@ TrailValue PresentValue(const Statement& row, int column)
 {
     const std::string name = kColumns[column - 1];
     switch (row.KindAt(column)) {
-    case CellTrailValue::Kind::Null:
+    case CellKind::Null:
         return {name, TrailValue::Kind::Null, {}};
-    case CellTrailValue::Kind::Number:
+    case CellKind::Number:
         return {name, TrailValue::Kind::Number, std::string(row.TextAt(column))};
-    case CellTrailValue::Kind::Text:
+    case CellKind::Text:
         return {name, TrailValue::Kind::Text, std::string(row.TextAt(column))};
     default:
         return {name, TrailValue::Kind::Bytes, {}};
