@@ -83,6 +83,9 @@ TEST_F(StructureTest, TellsEveryChangeOfAnotherToolAsTheFileDoes)
                   R"({"period_length":7,"auto_shift_end_time":"1899-12-30 16:30:00"}|NULL|NULL|)"},
              Case{"DELETE FROM _CheckLimits",
                   R"(_CheckLimits|1|delete|{"long_shift_hours":16,"first_weekday":0,"show_notices":1}|NULL|NULL|NULL|)"},
+             Case{"INSERT INTO _Payday (EmployeeID, FromDay) VALUES (40, '2003-03-05')",
+                  R"(_Payday|1|insert|NULL|{"PaydayID":1,"EmployeeID":40,"FromDay":"2003-03-05 00:00:00","ToDay":null,"PaidAt":null,)"
+                  R"("PaidBy":null,"Regular":null,"Overtime":null,"Gross":null,"Entry":null}|NULL|40|)"},
              Case{"ALTER TABLE Company ADD COLUMN Logo bytea, DROP COLUMN Address2; UPDATE Company SET Logo = '\\x00'", ""},
              Case{"SET ptk.step = 'x'; SET ptk.next = '99999999999999999999'; UPDATE Company SET Fax = '5'",
                   R"(Company|1|update|{"Fax":null}|{"Fax":"5"}|NULL|NULL|)"},
@@ -118,6 +121,8 @@ TEST_F(StructureTest, KeepsAStepTogether)
 constexpr const char* kBackToTwo = R"(
     DROP FUNCTION ptk_next, ptk_said;
     DROP INDEX TimeRecordUnusual;
+    DROP TABLE _Payday;
+    ALTER TABLE _Change DROP COLUMN Reason;
     GRANT CREATE ON SCHEMA public TO PUBLIC;
     UPDATE _Structure SET version = 2)";
 
@@ -128,8 +133,8 @@ constexpr const char* kDescription = R"(
         SELECT pg_get_indexdef(indexrelid) FROM pg_index JOIN pg_class ON oid = indexrelid WHERE relnamespace = 'public'::regnamespace UNION ALL
         SELECT conrelid::regclass || conname || pg_get_constraintdef(oid) FROM pg_constraint UNION ALL
         SELECT pg_get_triggerdef(oid) FROM pg_trigger UNION ALL
-        SELECT attrelid::regclass || ' ' || attname || format_type(atttypid, atttypmod) || attnum FROM pg_attribute JOIN pg_class ON pg_class.oid =
-            attrelid WHERE relnamespace = 'public'::regnamespace UNION ALL
+        SELECT attrelid::regclass || ' ' || attname || format_type(atttypid, atttypmod) || rank() OVER (PARTITION BY attrelid ORDER BY attnum)
+            FROM pg_attribute JOIN pg_class ON pg_class.oid = attrelid WHERE NOT attisdropped AND relnamespace = 'public'::regnamespace UNION ALL
         SELECT relname || array_to_string(relacl, ' ') FROM pg_class WHERE relnamespace = 'public'::regnamespace UNION ALL
         SELECT array_to_string(nspacl, ' ') FROM pg_namespace WHERE nspname = 'public' UNION ALL
         SELECT 'structure ' || version FROM _Structure) AS lines (line))";
