@@ -41,6 +41,8 @@ struct Words
     std::string programFolder;
     bool sample = false;
     bool check = false;
+    bool all = false;
+    bool remedies = false;
     std::string format = "text";
     std::string today;
     std::string employee;
@@ -67,6 +69,7 @@ private:
     void DescribeTimeCard();
     void DescribeReport();
     void DescribeOverview();
+    void DescribePayday();
     void DescribeHistory();
     void DescribeBackups();
     void DescribeImport();
@@ -76,6 +79,7 @@ private:
     std::variant<Arguments, UsageAnswer> Answer(const CLI::ParseError& error) const;
     Arguments Result() const;
     Command ReportResult() const;
+    Command PaydayResult() const;
     Command FileResult() const;
 
     // As the date boxes of the windows read it: "3/5" is of this year.
@@ -89,6 +93,9 @@ private:
     CLI::App* m_timeCard = nullptr;
     CLI::App* m_report = nullptr;
     CLI::App* m_overview = nullptr;
+    CLI::App* m_payday = nullptr;
+    CLI::App* m_close = nullptr;
+    CLI::App* m_reopen = nullptr;
     CLI::App* m_history = nullptr;
     CLI::App* m_backup = nullptr;
     CLI::App* m_restore = nullptr;
@@ -115,6 +122,7 @@ Grammar::Grammar(DateTime today) : m_today(today)
     DescribeTimeCard();
     DescribeReport();
     DescribeOverview();
+    DescribePayday();
     DescribeHistory();
     DescribeBackups();
     DescribeImport();
@@ -162,12 +170,39 @@ void Grammar::DescribeReport()
 void Grammar::DescribeOverview()
 {
     m_overview = m_app.add_subcommand("overview", "Print whom one can pay for a period, whom not yet, and why");
-    m_overview->add_option("--employee", m_words.employees, "An employee's name, may be repeated; else all that are offered time cards")
-        ->type_name("NAME")
-        ->allow_extra_args(false);
-    TakesDay(m_overview->add_option("--from", m_words.from, "First day; else as the Reports page offers"));
+    CLI::Option* employee =
+        m_overview->add_option("--employee", m_words.employees, "An employee's name, may be repeated; else all that are offered time cards")
+            ->type_name("NAME")
+            ->allow_extra_args(false);
+    m_overview->add_flag("--all", m_words.all, "Everybody else who has records in the period, too")->excludes(employee);
+    m_overview->add_flag("--remedies", m_words.remedies, "What can be done about each finding, and the hours after it");
+    TakesDay(m_overview->add_option("--from", m_words.from,
+                                    "First day; else the day after what was closed last, or as the Reports page offers"));
     TakesDay(m_overview->add_option("--to", m_words.to, "Last day, inclusive; else by the length of a pay period"));
     TakesFormat(m_overview, m_words.format);
+}
+
+void Grammar::DescribePayday()
+{
+    m_payday = m_app.add_subcommand("payday", "Keep what is paid for a period, take that back, or print what became of it");
+    m_payday->require_subcommand(1);
+    m_close =
+        m_payday->add_subcommand("close", "Keep for each person what is paid for the period; without names, of all who have no problem");
+    m_reopen = m_payday->add_subcommand("reopen", "Take the newest closing of the period back; without names, of all who have one");
+    CLI::App* account = m_payday->add_subcommand("account", "Print what was paid, what the cards say now, and what was changed since");
+    for (CLI::App* task : {m_close, m_reopen, account}) {
+        TakesDay(task->add_option("--from", m_words.from, "First day")->required());
+        TakesDay(task->add_option("--to", m_words.to, "Last day, inclusive")->required());
+    }
+    for (CLI::App* task : {m_close, m_reopen}) {
+        task->add_option("--employee", m_words.employees, "An employee's name, may be repeated")
+            ->type_name("NAME")
+            ->allow_extra_args(false);
+    }
+    account->add_option("--format", m_words.format, "How: text, csv, json or pdf")
+        ->type_name("FORMAT")
+        ->check(CLI::IsMember(ReportForms()));
+    account->add_option("-o,--output", m_words.output, "Into this file instead of printing it")->type_name("FILE");
 }
 
 void Grammar::DescribeHistory()
@@ -272,7 +307,11 @@ Arguments Grammar::Result() const
         return {m_words.programFolder, ReportResult()};
     }
     if (m_overview->parsed()) {
-        return {m_words.programFolder, OverviewArguments{m_words.employees, Day(m_words.from), Day(m_words.to), m_words.format}};
+        return {m_words.programFolder, OverviewArguments{m_words.employees, Day(m_words.from), Day(m_words.to), m_words.format,
+                                                         m_words.all, m_words.remedies}};
+    }
+    if (m_payday->parsed()) {
+        return {m_words.programFolder, PaydayResult()};
     }
     if (m_history->parsed()) {
         const bool named = m_history->count("--employee") > 0;
@@ -290,6 +329,21 @@ Command Grammar::ReportResult() const
                            Day(m_words.to),
                            ReportForms().at(m_words.format),
                            m_report->count("--output") > 0 ? std::optional(m_words.output) : std::nullopt};
+}
+
+Command Grammar::PaydayResult() const
+{
+    const PaydayTask others = m_reopen->parsed() ? PaydayTask::Reopen : PaydayTask::Account;
+    PaydayArguments arguments{m_close->parsed() ? PaydayTask::Close : others,
+                              Day(m_words.from).value(),
+                              Day(m_words.to).value(),
+                              m_words.employees,
+                              ReportForms().at(m_words.format),
+                              {}};
+    if (arguments.task == PaydayTask::Account && m_payday->get_subcommand("account")->count("--output") > 0) {
+        arguments.output = m_words.output;
+    }
+    return arguments;
 }
 
 Command Grammar::FileResult() const

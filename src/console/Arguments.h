@@ -42,6 +42,25 @@ struct OverviewArguments
     std::optional<DateTime> from;
     std::optional<DateTime> to;
     std::string format; // one of text, csv, json
+    bool all = false;   // those who are not offered and have records in the period, too
+    bool remedies = false;
+};
+
+enum class PaydayTask
+{
+    Close,
+    Reopen,
+    Account
+};
+
+struct PaydayArguments
+{
+    PaydayTask task;
+    DateTime from;
+    DateTime to;                        // inclusive
+    std::vector<std::string> employees; // as above; none: all that the task is for. Not of an account
+    ReportForm form = ReportForm::Text; // of an account, as the next
+    std::optional<std::string> output;  // a file; none: the standard output
 };
 
 struct HistoryArguments
@@ -84,8 +103,9 @@ struct CheckArguments
 {
 };
 
-using Command = std::variant<CreateDatabaseArguments, TimeCardArguments, ReportArguments, OverviewArguments, HistoryArguments,
-                             BackupArguments, RestoreArguments, BackupsArguments, ImportArguments, CopyDatabaseArguments, CheckArguments>;
+using Command =
+    std::variant<CreateDatabaseArguments, TimeCardArguments, ReportArguments, OverviewArguments, PaydayArguments, HistoryArguments,
+                 BackupArguments, RestoreArguments, BackupsArguments, ImportArguments, CopyDatabaseArguments, CheckArguments>;
 
 struct Arguments
 {

@@ -5,13 +5,19 @@
 #include "console/Session.h"
 #include "model/CEmployeeList.h"
 #include "model/CTimeCard.h"
+#include "model/payday/ClosingReader.h"
 #include "office/overview/Overview.h"
 #include "office/overview/OverviewTexts.h"
 #include "platform/system/Clock.h"
 
+#include <algorithm>
+
 namespace ptk {
 
 namespace {
+
+constexpr auto kBackward = "--from is after --to";
+constexpr auto kNoRemedies = "--remedies needs another format than csv";
 
 Employees Chosen(CEmployeeList& all, const std::vector<std::string>& names)
 {
@@ -36,25 +42,61 @@ std::string Rendered(const Overview& overview, const std::string& format)
     return format == "csv" ? OverviewCsv(overview) : OverviewText(overview);
 }
 
+// Where nothing was closed, where the offered period begins does not depend on its length.
+PayPeriod ChosenPeriod(const OverviewArguments& arguments, Session& session, DateTime today)
+{
+    if (arguments.from) {
+        return {*arguments.from, arguments.to ? *arguments.to : PayPeriodFrom(*arguments.from, session.PeriodLength()).to};
+    }
+    const auto next = PeriodToClose(session.Database());
+    const PayPeriod offered = next ? *next : DefaultPayPeriod(today, arguments.to ? std::int16_t{0} : session.PeriodLength());
+    return {offered.from, arguments.to ? *arguments.to : offered.to};
+}
+
+bool HasProblems(const Overview& overview)
+{
+    return TotalsOf(overview.rows).problems > 0 ||
+           std::any_of(overview.leftOut.begin(), overview.leftOut.end(), [](const LeftOut& out) { return out.IsOwed(); });
+}
+
+void Read(Overview& overview, const OverviewArguments& arguments, Session& session)
+{
+    session.LoadEmployees();
+    const Employees chosen = Chosen(*session.Employees(), arguments.employees);
+    ReadOverview(overview, session.Database(), chosen);
+    if (arguments.employees.empty()) {
+        ReadLeftOut(overview, session.Database(), *session.Employees(), chosen);
+    }
+    if (arguments.all) {
+        TakeInLeftOut(overview, *session.Employees());
+    }
+}
+
 } // namespace
 
 int OverviewCommand(const OverviewArguments& arguments, Console& console)
 {
-    const DateTime made = console.clock.Now();
-    // Where the offered period begins does not depend on its length.
-    const DateTime from = arguments.from ? *arguments.from : DefaultPayPeriod(DateTime(made.Date()), 0).from;
-    if (arguments.to && *arguments.to < from) {
-        return RefuseUsage(console.err, "--from is after --to");
+    if (arguments.remedies && arguments.format == "csv") {
+        return RefuseUsage(console.err, kNoRemedies);
+    }
+    if (arguments.from && arguments.to && *arguments.to < *arguments.from) {
+        return RefuseUsage(console.err, kBackward);
     }
     Session session(console.programFolder);
-    session.LoadEmployees();
     Overview overview;
-    overview.period = {from, arguments.to ? *arguments.to : PayPeriodFrom(from, session.PeriodLength()).to};
-    overview.made = made;
+    overview.made = console.clock.Now();
+    overview.period = ChosenPeriod(arguments, session, DateTime(overview.made.Date()));
+    if (overview.period.to < overview.period.from) {
+        return RefuseUsage(console.err, kBackward);
+    }
     overview.limits = LoadCheckLimits(session.Database());
-    ReadOverview(overview, session.Database(), Chosen(*session.Employees(), arguments.employees));
+    overview.withRemedies = arguments.remedies;
+    if (overview.withRemedies) {
+        overview.autoShiftEnd = session.AutoShiftEndOfDay();
+    }
+    Read(overview, arguments, session);
     console.out << TerminalText(Rendered(overview, arguments.format));
-    return TotalsOf(overview.rows).problems > 0 ? status::ProblemsFound : status::Done;
+    return HasProblems(overview) ? status::ProblemsFound : status::Done;
 }
 
 } // namespace ptk

@@ -19,6 +19,7 @@ struct Dispatch
     int operator()(const TimeCardArguments& arguments) const { return TimeCardCommand(arguments, console); }
     int operator()(const ReportArguments& arguments) const { return ReportCommand(arguments, console); }
     int operator()(const OverviewArguments& arguments) const { return OverviewCommand(arguments, console); }
+    int operator()(const PaydayArguments& arguments) const { return PaydayCommand(arguments, console); }
     int operator()(const HistoryArguments& arguments) const { return HistoryCommand(arguments, console); }
     int operator()(const BackupArguments& arguments) const { return BackupCommand(arguments, console); }
     int operator()(const RestoreArguments& arguments) const { return RestoreCommand(arguments, console); }

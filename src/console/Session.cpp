@@ -3,11 +3,11 @@
 #include "console/ErrorText.h"
 #include "model/CEmployeeList.h"
 #include "model/CTimeRecordFactory.h"
+#include "model/remedy/Remedy.h"
 #include "platform/files/ProgramFolder.h"
 #include "shell/CDatabaseLocator.h"
 #include "shell/CFileAdaptor.h"
 #include "store/CJetDB.h"
-#include "store/CSystemOptions.h"
 
 namespace ptk {
 
@@ -65,14 +65,25 @@ void Session::Open()
     }
 }
 
-std::int16_t Session::PeriodLength()
+CSystemOptions Session::LoadOptions()
 {
     Open();
     CSystemOptions options;
     options.PTKDatabase(m_database);
     RequireLoaded(options.Load());
     m_database->CloseDB();
-    return options.PeriodLength();
+    return options;
+}
+
+std::int16_t Session::PeriodLength()
+{
+    return LoadOptions().PeriodLength();
+}
+
+std::optional<std::int64_t> Session::AutoShiftEndOfDay()
+{
+    const CSystemOptions options = LoadOptions();
+    return AutoShiftEnd(options.AutoShiftStartTime(), options.AutoShiftEndTime());
 }
 
 } // namespace ptk

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "store/CJetDB.h"
+#include "store/CSystemOptions.h"
 
 #include <cstdint>
 #include <memory>
@@ -42,11 +43,15 @@ public:
     // Days, as the options say at this moment.
     std::int16_t PeriodLength();
 
+    // The second of the day at which the auto shift of the options ends; none where it is not set. See AutoShiftEnd.
+    std::optional<std::int64_t> AutoShiftEndOfDay();
+
     // Before anything is written that somebody may be slow to read.
     void GiveUpDatabase() { m_hold.reset(); }
 
 private:
     void Open();
+    [[nodiscard]] CSystemOptions LoadOptions();
     void RequireLoaded(bool loaded) const;
 
     std::shared_ptr<CJetDB> m_database;

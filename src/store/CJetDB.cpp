@@ -9,6 +9,8 @@
 #include "store/postgres/ServerAddress.h"
 #include "store/sqlite/SqliteEngine.h"
 
+#include <utility>
+
 namespace ptk {
 
 CJetDB::CJetDB(std::string programFolder)
@@ -48,6 +50,20 @@ CJetDB::Step::~Step()
 {
     if (m_database != nullptr && --m_database->m_steps == 0) {
         m_database->m_stepNumber = 0;
+    }
+}
+
+CJetDB::Reason::Reason(std::shared_ptr<CJetDB> database, std::string reason) : m_database(std::move(database))
+{
+    if (m_database != nullptr) {
+        m_former = std::exchange(m_database->m_reason, std::move(reason));
+    }
+}
+
+CJetDB::Reason::~Reason()
+{
+    if (m_database != nullptr) {
+        m_database->m_reason = std::move(m_former);
     }
 }
 

@@ -81,6 +81,22 @@ public:
         std::shared_ptr<CJetDB> m_database;
     };
 
+    // While one lives, all that is stored stands in the edit trail with this reason; an empty one is none. The innermost holds.
+    class Reason
+    {
+    public:
+        // nullptr: of nothing.
+        Reason(std::shared_ptr<CJetDB> database, std::string reason);
+
+        ~Reason();
+        Reason(const Reason&) = delete;
+        Reason& operator=(const Reason&) = delete;
+
+    private:
+        std::shared_ptr<CJetDB> m_database;
+        std::string m_former;
+    };
+
     explicit CJetDB(std::string programFolder);
     ~CJetDB();
     CJetDB(const CJetDB&) = delete;
@@ -239,6 +255,7 @@ private:
     std::int32_t m_errorNumber = 0;
     Failure m_lastFailure{0, "", ""};
     std::optional<RowConflict> m_conflict;
+    std::string m_reason;
     std::int32_t m_steps = 0;      // of those that live
     std::int64_t m_stepNumber = 0; // theirs, once something was stored
     std::int32_t m_holds = 0;

@@ -88,7 +88,9 @@ bool CJetDB::Change(std::int32_t errorNumber, const std::function<void()>& steps
 
 void CJetDB::Write(const std::function<void()>& steps)
 {
-    m_database->SignAs(m_memory->author);
+    Author author = m_memory->author;
+    author.reason = m_reason;
+    m_database->SignAs(std::move(author));
     m_database->StepNumber(m_stepNumber);
     try {
         m_database->Write(steps);

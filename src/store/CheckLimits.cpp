@@ -13,6 +13,7 @@ namespace ptk {
 
 namespace {
 
+constexpr const char* kTable = "_CheckLimits";
 constexpr const char* kSelect = "SELECT * FROM _CheckLimits LIMIT 1";
 constexpr const char* kCreate =
     "CREATE TABLE IF NOT EXISTS _CheckLimits (long_shift_hours INTEGER, first_weekday INTEGER, show_notices BOOLEAN)";
@@ -54,7 +55,7 @@ CheckLimits LimitsOf(const RecordSet& row)
 template <typename Prepare>
 CheckLimits StoredLimits(const EngineWords& words, const char* lock, Prepare prepare)
 {
-    if (*words.findLimits != '\0' && prepare(words.findLimits)->ReadRows()->EndOfFile()) {
+    if (const std::string find = Said(words.findTable, kTable); !find.empty() && prepare(find)->ReadRows()->EndOfFile()) {
         return {};
     }
     const auto row = prepare(std::string(kSelect) + lock)->ReadRows();
@@ -63,7 +64,7 @@ CheckLimits StoredLimits(const EngineWords& words, const char* lock, Prepare pre
 
 void Update(Engine& engine, const CheckLimits& limits)
 {
-    if (*engine.Words().findLimits != '\0') {
+    if (*engine.Words().findTable != '\0') {
         engine.Run(kCreate);
         engine.Run(kAddRow);
     }

@@ -17,4 +17,42 @@ inline constexpr auto kStarting = "SELECT TimeRecordID, StartTime, EndTime FROM 
     return fmt::format("SELECT TimeRecordID, StartTime, EndTime FROM TimeRecord WHERE EmployeeID = :employee AND {}", words.unusualPunch);
 }
 
+// The ends of the ten newest shifts before a moment, those of at least a minute that began within two hours of the minute `minute` of the
+// day, also over midnight. Answered by the index TimeRecordPeriod, from the moment backwards.
+[[nodiscard]] inline std::string EarlierEnds(const EngineWords& words)
+{
+    return fmt::format("SELECT EndTime FROM TimeRecord WHERE EmployeeID = :employee AND StartTime < :start AND {0} AND {1} < {2} AND "
+                       "({3} - :minute + 2160) % 1440 BETWEEN 600 AND 840 ORDER BY StartTime DESC, EndTime DESC LIMIT 10",
+                       words.readablePunch, Said(words.wholeMinute, "StartTime"), Said(words.wholeMinute, "EndTime"),
+                       Said(words.minuteOfDay, "StartTime"));
+}
+
+// Whose records are on the card of the days from `first` to the midnight `end`, save those that start after it.
+[[nodiscard]] inline std::string WithShiftsIn(const EngineWords& words)
+{
+    return fmt::format("SELECT EmployeeID FROM Employee WHERE EXISTS (SELECT 1 FROM TimeRecord WHERE TimeRecord.EmployeeID = "
+                       "Employee.EmployeeID AND StartTime >= :first AND StartTime < :end AND EndTime <= :end AND {})",
+                       words.readablePunch);
+}
+
+// The EmployeeIDs, known or not, that have records which start between two moments, both included, or are among those that such a search
+// passes over; a null where there are records that name nobody. From one number to the next by the index TimeRecordPeriod.
+[[nodiscard]] inline std::string EmployeesWithRecords(const EngineWords& words)
+{
+    return fmt::format("WITH RECURSIVE Named (Number) AS (SELECT MIN(EmployeeID) FROM TimeRecord UNION ALL SELECT (SELECT MIN(EmployeeID) "
+                       "FROM TimeRecord WHERE EmployeeID > Number) FROM Named WHERE Number IS NOT NULL) "
+                       "SELECT Number FROM Named WHERE EXISTS (SELECT 1 FROM TimeRecord WHERE EmployeeID = Number AND StartTime BETWEEN "
+                       ":first AND :last) OR EXISTS (SELECT 1 FROM TimeRecord WHERE EmployeeID = Number AND {0}) "
+                       "UNION ALL SELECT NULL WHERE EXISTS (SELECT 1 FROM TimeRecord WHERE EmployeeID IS NULL)",
+                       words.unusualPunch);
+}
+
+// Both of whom `whose` says, a condition. A row may come twice.
+[[nodiscard]] inline std::string Of(const std::string& whose, const EngineWords& words)
+{
+    return fmt::format("SELECT TimeRecordID, StartTime, EndTime FROM TimeRecord WHERE {0} AND StartTime BETWEEN :first AND :last UNION ALL "
+                       "SELECT TimeRecordID, StartTime, EndTime FROM TimeRecord WHERE {0} AND {1}",
+                       whose, words.unusualPunch);
+}
+
 } // namespace ptk::punchsql

@@ -1,5 +1,6 @@
 # Puts the SQL of data/ into the library ptk_store: PTK_SQL_<name> for each file.
-set(sql_files schema stored_queries trail postgres/schema postgres/stored_queries postgres/trail_functions postgres/trail postgres/roles)
+set(sql_files schema stored_queries trail trail_entry payday postgres/schema postgres/stored_queries postgres/trail_functions postgres/trail
+  postgres/structure_3 postgres/roles)
 foreach(name ${sql_files})
   set(file ${CMAKE_SOURCE_DIR}/data/${name}.sql)
   set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${file})

@@ -1,5 +1,6 @@
 // What a server's database holds by itself, whichever tool writes there: the trail to the letter, its rates, and who may do what.
 #include "platform/Failure.h"
+#include "store/postgres/PostgresEngine.h"
 #include "support/NewServerDatabase.h"
 
 #include <gmock/gmock.h>
@@ -68,9 +69,9 @@ TEST_F(StructureTest, TellsEveryChangeOfAnotherToolAsTheFileDoes)
                   "false",
                   R"(Employee|39|update|{"PayRate":0,"OvertimePayRate":0,"Active":1,"Password":"changed"}|)"
                   R"({"PayRate":16777215,"OvertimePayRate":0.1,"Active":0,"Password":"changed"}|39|39|)"},
-             Case{"UPDATE Employee SET Password = NULL, PayRate = '-inf', HireDate = NULL, Active = NULL",
+             Case{"UPDATE Employee SET Password = NULL, PayRate = -0.5, HireDate = NULL, Active = NULL",
                   R"(Employee|39|update|{"HireDate":"1899-12-30 00:00:00","PayRate":16777215,"Active":0,"Password":"changed"}|)"
-                  R"({"HireDate":null,"PayRate":"-Infinity","Active":null,"Password":null}|39|39|)"},
+                  R"({"HireDate":null,"PayRate":-0.5,"Active":null,"Password":null}|39|39|)"},
              Case{R"(UPDATE Employee SET City = 'true', State = E'Тула "a"\\\n\x01', ZipCode = '2003-03-05T08:00:00')",
                   R"(Employee|39|update|{"City":"","State":"","ZipCode":""}|)"
                   R"({"City":"true","State":"Тула \"a\"\\\n\u0001","ZipCode":"2003-03-05T08:00:00"}|39|39|)"},
@@ -82,6 +83,9 @@ TEST_F(StructureTest, TellsEveryChangeOfAnotherToolAsTheFileDoes)
                   R"({"period_length":7,"auto_shift_end_time":"1899-12-30 16:30:00"}|NULL|NULL|)"},
              Case{"DELETE FROM _CheckLimits",
                   R"(_CheckLimits|1|delete|{"long_shift_hours":16,"first_weekday":0,"show_notices":1}|NULL|NULL|NULL|)"},
+             Case{"INSERT INTO _Payday (EmployeeID, FromDay) VALUES (40, '2003-03-05')",
+                  R"(_Payday|1|insert|NULL|{"PaydayID":1,"EmployeeID":40,"FromDay":"2003-03-05 00:00:00","ToDay":null,"PaidAt":null,)"
+                  R"("PaidBy":null,"Regular":null,"Overtime":null,"Gross":null,"Entry":null}|NULL|40|)"},
              Case{"ALTER TABLE Company ADD COLUMN Logo bytea, DROP COLUMN Address2; UPDATE Company SET Logo = '\\x00'", ""},
              Case{"SET ptk.step = 'x'; SET ptk.next = '99999999999999999999'; UPDATE Company SET Fax = '5'",
                   R"(Company|1|update|{"Fax":null}|{"Fax":"5"}|NULL|NULL|)"},
@@ -109,8 +113,60 @@ TEST_F(StructureTest, KeepsAStepTogether)
     m_line.RunScript("BEGIN; SET LOCAL ptk.untold = '1'; DELETE FROM Company; SELECT ptk_add_entry('import', 'x'); COMMIT");
     m_line.RunScript(two.c_str());
     EXPECT_EQ(Entries("ChangeID, ChangedBy, Program, Step, Action"),
-              "1|Ann Lee|ptk-admin|1|insert|2|Ann Lee|ptk-admin|1|insert|3|Ann Lee|ptk-admin|3|delete|5|NULL|NULL|NULL|import|"
-              "6|NULL|NULL|NULL|insert|7|NULL|NULL|NULL|insert|");
+              "1|Ann Lee|ptk-admin|1|insert|2|Ann Lee|ptk-admin|1|insert|5|Ann Lee|ptk-admin|3|delete|6|NULL|NULL|NULL|import|"
+              "7|NULL|NULL|NULL|insert|8|NULL|NULL|NULL|insert|");
+}
+
+// Structure 2, as far as 3 differs from it and any value is taken.
+constexpr const char* kBackToTwo = R"(
+    DROP FUNCTION ptk_next, ptk_said;
+    DROP INDEX TimeRecordUnusual;
+    DROP TABLE _Payday;
+    ALTER TABLE _Change DROP COLUMN Reason;
+    GRANT CREATE ON SCHEMA public TO PUBLIC;
+    UPDATE _Structure SET version = 2)";
+
+// All that is in the schema of the tables, in words.
+constexpr const char* kDescription = R"(
+    SELECT string_agg(line, E'\n' ORDER BY line COLLATE "C") FROM (
+        SELECT pg_get_functiondef(oid) || array_to_string(proacl, ' ') FROM pg_proc WHERE pronamespace = 'public'::regnamespace UNION ALL
+        SELECT pg_get_indexdef(indexrelid) FROM pg_index JOIN pg_class ON oid = indexrelid WHERE relnamespace = 'public'::regnamespace UNION ALL
+        SELECT conrelid::regclass || conname || pg_get_constraintdef(oid) FROM pg_constraint UNION ALL
+        SELECT pg_get_triggerdef(oid) FROM pg_trigger UNION ALL
+        SELECT attrelid::regclass || ' ' || attname || format_type(atttypid, atttypmod) || rank() OVER (PARTITION BY attrelid ORDER BY attnum)
+            FROM pg_attribute JOIN pg_class ON pg_class.oid = attrelid WHERE NOT attisdropped AND relnamespace = 'public'::regnamespace UNION ALL
+        SELECT relname || array_to_string(relacl, ' ') FROM pg_class WHERE relnamespace = 'public'::regnamespace UNION ALL
+        SELECT array_to_string(nspacl, ' ') FROM pg_namespace WHERE nspname = 'public' UNION ALL
+        SELECT 'structure ' || version FROM _Structure) AS lines (line))";
+
+TEST_F(StructureTest, AnOlderOneBecomesWhatANewOneIs)
+{
+    const std::string made = Rows(kDescription);
+    m_database.TakeAnyValue();
+    m_line.RunScript("UPDATE Employee SET PayRate = 'NaN', HireDate = 'infinity'; DELETE FROM _Change");
+    m_line.RunScript(kBackToTwo);
+    EXPECT_NE(Rows(kDescription), made);
+    const PostgresEngine owner(m_database.Address());
+    EXPECT_EQ(Rows(kDescription), made);
+    EXPECT_EQ(Rows("SELECT PayRate, HireDate FROM Employee"), "NaN|infinity|") << "which stays until somebody corrects it";
+    EXPECT_THAT(Refusal(m_line, "UPDATE Employee SET City = 'x'"), HasSubstr("is a finite number"));
+    m_line.RunScript("UPDATE Employee SET PayRate = 1, HireDate = NULL");
+}
+
+TEST_F(StructureTest, ANumberThatIsNoneIsNoStructure)
+{
+    m_line.RunScript("ALTER TABLE _Structure ALTER COLUMN version TYPE text, ALTER COLUMN version DROP NOT NULL");
+    for (const char* none : {"UPDATE _Structure SET version = 'three'", "UPDATE _Structure SET version = NULL",
+                             "UPDATE _Structure SET version = '3 '", "UPDATE _Structure SET version = '0'", "DELETE FROM _Structure"}) {
+        m_line.RunScript(none);
+        try {
+            const PostgresEngine refused(m_database.Address());
+            ADD_FAILURE() << none;
+        } catch (const Failure& failure) {
+            EXPECT_EQ(failure.Number(), engine::NoDatabase) << none;
+            EXPECT_THAT(failure.Description(), HasSubstr("_Structure")) << none;
+        }
+    }
 }
 
 TEST_F(StructureTest, KeepsRatesToTheLastBit)

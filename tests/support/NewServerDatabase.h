@@ -10,6 +10,14 @@ class NewServerDatabase : public ServerDatabase
 {
 public:
     NewServerDatabase() { CreateDatabase(Address()); }
+
+    // As those of structure 2, whose columns took every value of their types.
+    void TakeAnyValue() const
+    {
+        Run("DO $$ DECLARE c record; BEGIN "
+            "FOR c IN SELECT conrelid::regclass AS tab, conname FROM pg_constraint WHERE contype = 'c' AND conrelid <> 0 LOOP "
+            "EXECUTE format('ALTER TABLE %s DROP CONSTRAINT %I', c.tab, c.conname); END LOOP; END $$");
+    }
 };
 
 } // namespace ptk

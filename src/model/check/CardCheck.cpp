@@ -2,7 +2,11 @@
 
 #include "model/CEmployee.h"
 #include "model/check/FindingText.h"
+#include "model/check/PaydayFindings.h"
+#include "model/check/PunchFinding.h"
 #include "model/check/PunchGroups.h"
+#include "model/check/PunchPlace.h"
+#include "model/payday/Closing.h"
 
 #include <algorithm>
 #include <tuple>
@@ -13,6 +17,7 @@ namespace {
 
 constexpr std::int64_t kMinutesPerHour = 60;
 constexpr std::int64_t kSecondsPerHour = 3600;
+
 // Days of the calendar by their numbers, both included.
 struct DaySpan
 {
@@ -22,20 +27,13 @@ struct DaySpan
     bool Holds(DateTime moment) const { return first <= moment.DayNumber() && moment.DayNumber() <= last; }
 };
 
-// Whether a shift goes on over the midnight with which a day begins, the one after the calendar's last day included.
-bool Crosses(const Punch& punch, std::int64_t dayNumber)
-{
-    const std::int64_t midnight = dayNumber * DateTime::kSecondsPerDay;
-    return !punch.IsOpen() && punch.start->Seconds() < midnight && punch.end->Seconds() > midnight;
-}
-
 class Checker
 {
 public:
-    Checker(const CheckedCard& card, const Punches& punches, DateTime now, const CheckLimits& limits)
+    Checker(const CheckedCard& card, const Punches& punches, DateTime now, const CheckLimits& limits, const CardFacts& facts)
         : m_card(card), m_period{card.from.DayNumber(), card.to.DayNumber()}, m_weeks{WeekStart(card.from, limits.firstWeekday).DayNumber(),
                                                                                       WeekLast(card.to, limits.firstWeekday).DayNumber()},
-          m_now(now), m_limits(limits)
+          m_now(now), m_limits(limits), m_facts(facts)
     {
         m_all.reserve(punches.size());
         for (const Punch& punch : punches) {
@@ -53,20 +51,31 @@ public:
     CardCheck Run()
     {
         CheckCrossings();
-        if (m_onCard.empty() && m_found.findings.empty()) {
-            return {};
+        if (m_readable) {
+            m_found.figures = FiguresOf(m_card.employee, m_onCard);
         }
+        if (!m_onCard.empty() || !m_found.findings.empty()) {
+            CheckRecords();
+        }
+        CheckPayday();
+        std::sort(m_found.findings.begin(), m_found.findings.end());
+        return std::move(m_found);
+    }
+
+private:
+    void CheckRecords()
+    {
         for (const Punch* punch : m_onCard) {
             CheckShift(*punch);
         }
         CheckGroups();
         CheckDays();
         CheckWeeks();
-        std::sort(m_found.findings.begin(), m_found.findings.end());
-        return std::move(m_found);
+        if (m_facts.clock != nullptr) {
+            AddAll(ClockChangeFindings(m_onCard, *m_facts.clock));
+        }
     }
 
-private:
     // Of all readable ones, in their order.
     template <typename Predicate>
     std::vector<const Punch*> Where(Predicate matches) const
@@ -81,21 +90,9 @@ private:
     {
         if (punch.IsReadable()) {
             m_all.push_back(&punch);
-        } else if (IsToldHere(punch)) {
+        } else if (IsToldIn({m_card.from, m_card.to}, punch)) {
             CheckUnreadable(punch);
         }
-    }
-
-    // Where its start lies, else its end, else everywhere; and wherever it keeps a card from being made.
-    bool IsToldHere(const Punch& punch) const
-    {
-        if (punch.fetched) {
-            return true;
-        }
-        if (IsSet(punch.start)) {
-            return m_period.Holds(*punch.start);
-        }
-        return !IsSet(punch.end) || m_period.Holds(*punch.end);
     }
 
     void CheckUnreadable(const Punch& punch)
@@ -105,7 +102,7 @@ private:
         finding.to = IsSet(punch.end) ? punch.end : std::nullopt;
         Add(std::move(finding));
         if (punch.fetched) {
-            m_found.figuresReadable = false;
+            m_readable = false;
         }
     }
 
@@ -247,16 +244,27 @@ private:
         }
     }
 
-    static Finding FindingOf(FindingKind kind, std::span<const Punch* const> punches, std::int64_t minutes, std::string text)
+    void CheckPayday()
     {
-        Finding finding{kind, {}, minutes, punches.front()->start, {}, std::move(text)};
-        for (const Punch* punch : punches) {
-            finding.records.push_back(punch->id);
-            if (!punch->IsOpen() && (!finding.to || *punch->end > *finding.to)) {
-                finding.to = punch->end;
+        if (m_facts.closings != nullptr) {
+            const PayPeriod period{m_card.from, m_card.to};
+            if (const Closing* paid = m_facts.closings->Newest(); paid != nullptr) {
+                m_found.changed = DifferenceOf(*paid, m_found.figures);
+                AddAll(PaidChangedFindings(*paid, m_found.figures, m_found.changed));
             }
+            AddAll(TwiceFindings(period, *m_facts.closings, m_onCard));
+            AddAll(BetweenFindings(period, *m_facts.closings, m_all));
         }
-        return finding;
+        if (m_onCard.empty() && m_facts.workedBefore && m_facts.workedBefore()) {
+            Add({FindingKind::NoShift, {}, 0, {}, {}, NoShiftText()});
+        }
+    }
+
+    void AddAll(std::vector<Finding> findings)
+    {
+        for (Finding& finding : findings) {
+            Add(std::move(finding));
+        }
     }
 
     void AddShift(FindingKind kind, const Punch& punch)
@@ -282,8 +290,10 @@ private:
     DaySpan m_weeks; // the work weeks that the period touches
     DateTime m_now;
     const CheckLimits& m_limits;
+    const CardFacts& m_facts;
     std::vector<const Punch*> m_all; // readable, by start, end and number
     std::vector<const Punch*> m_onCard;
+    bool m_readable = true; // all that the card's fetch takes
     CardCheck m_found;
 };
 
@@ -296,9 +306,9 @@ std::int64_t CardCheck::LongestWeek() const
     return longest == weeks.end() ? 0 : longest->minutes;
 }
 
-CardCheck CheckCard(const CheckedCard& card, const Punches& punches, DateTime now, const CheckLimits& limits)
+CardCheck CheckCard(const CheckedCard& card, const Punches& punches, DateTime now, const CheckLimits& limits, const CardFacts& facts)
 {
-    return Checker(card, punches, now, limits).Run();
+    return Checker(card, punches, now, limits, facts).Run();
 }
 
 } // namespace ptk

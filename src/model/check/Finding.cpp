@@ -14,24 +14,15 @@ struct Kind
 };
 
 // In the order of FindingKind.
-constexpr std::array<Kind, 17> kKinds{{
-    {"unreadable", Severity::Problem},
-    {"open", Severity::Problem},
-    {"clocked-in", Severity::Notice},
-    {"open-later", Severity::Notice},
-    {"backward", Severity::Problem},
-    {"empty", Severity::Notice},
-    {"long", Severity::Problem},
-    {"future", Severity::Problem},
-    {"overlap", Severity::Problem},
-    {"same-start", Severity::Problem},
-    {"crosses-end", Severity::Problem},
-    {"crosses-start", Severity::Problem},
-    {"deduction", Severity::Problem},
-    {"no-rate", Severity::Problem},
-    {"not-employed", Severity::Notice},
-    {"long-day", Severity::Problem},
-    {"week", Severity::Notice},
+constexpr std::array<Kind, 22> kKinds{{
+    {"unreadable", Severity::Problem}, {"open", Severity::Problem},        {"clocked-in", Severity::Notice},
+    {"open-later", Severity::Notice},  {"backward", Severity::Problem},    {"empty", Severity::Notice},
+    {"long", Severity::Problem},       {"future", Severity::Problem},      {"overlap", Severity::Problem},
+    {"same-start", Severity::Problem}, {"crosses-end", Severity::Problem}, {"crosses-start", Severity::Problem},
+    {"deduction", Severity::Problem},  {"no-rate", Severity::Problem},     {"not-employed", Severity::Notice},
+    {"long-day", Severity::Problem},   {"week", Severity::Notice},         {"paid-changed", Severity::Problem},
+    {"twice", Severity::Problem},      {"between", Severity::Problem},     {"clock-change", Severity::Notice},
+    {"no-shift", Severity::Notice},
 }};
 
 const Kind& At(FindingKind kind)

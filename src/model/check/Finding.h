@@ -30,7 +30,12 @@ enum class FindingKind
     NoRate,
     NotEmployed,
     LongDay,
-    Week
+    Week,
+    PaidChanged,
+    Twice,
+    Between,
+    ClockChange,
+    NoShift
 };
 
 enum class Severity
@@ -50,8 +55,8 @@ enum class Severity
 struct Finding
 {
     FindingKind kind = FindingKind::Unreadable;
-    std::vector<std::int64_t> records; // keys, by start, end and number; none for what concerns a whole week or period
-    std::int64_t minutes = 0;          // what it is about, whole minutes
+    std::vector<std::int64_t> records; // keys, by start, end and number; none for what concerns a whole week or period, save what was paid
+    std::int64_t minutes = 0;          // what it is about, whole minutes; below 0 where less is owed than was paid
     std::optional<DateTime> from;      // the earliest start and the latest end, where there is one
     std::optional<DateTime> to;
     std::string text; // one plain sentence

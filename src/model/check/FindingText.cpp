@@ -1,6 +1,7 @@
 #include "model/check/FindingText.h"
 
 #include "model/check/CardCheck.h"
+#include "model/payday/Closing.h"
 #include "platform/text/Text.h"
 
 #include <algorithm>
@@ -165,6 +166,42 @@ std::string WeekText(const WorkWeek& week)
 {
     return fmt::format("The week from {} has {} hours, {} above 40; the daily rule pays {} of them as overtime.", Day(week.from),
                        HoursAndMinutes(week.minutes), HoursAndMinutes(week.Above40()), HoursAndMinutes(week.paidAsOvertime));
+}
+
+std::string PaidChangedText(const Closing& paid, const std::optional<CardFigures>& now, const std::optional<std::string>& owed)
+{
+    if (!now) {
+        return "This period was paid, and its card cannot be computed any more.";
+    }
+    if (!owed) {
+        return "This period was paid, but the figures that were paid cannot be read.";
+    }
+    const std::string hours = CardFigures{paid.regular, paid.overtime, paid.gross}.Hours();
+    const std::string what = owed->starts_with('-') ? owed->substr(1) + " paid too much" : *owed + " owed";
+    return fmt::format("Paid {} hours, now {}: {}.", hours, now->Hours(), what);
+}
+
+std::string TwiceText(const WorkDay& day)
+{
+    return fmt::format("On {} are {} hours that lie in another closed period, too.", Day(day.day), HoursAndMinutes(day.minutes));
+}
+
+std::string BetweenText(const Finding& shifts)
+{
+    return fmt::format("{} with {} hours from {} on lie{} between the last closed period and this one: no card has them.",
+                       shifts.records.size() == 1 ? "1 shift" : std::to_string(shifts.records.size()) + " shifts",
+                       HoursAndMinutes(shifts.minutes), Moment(*shifts.from), shifts.records.size() == 1 ? "s" : "");
+}
+
+std::string ClockChangeText(const Punch& punch, std::int64_t lasted)
+{
+    return fmt::format("The shift {} counts {} hours and lasted {}: the clock was changed in it.", Span(punch),
+                       HoursAndMinutes(punch.Minutes()), HoursAndMinutes(lasted));
+}
+
+std::string NoShiftText()
+{
+    return "No shift in this period; there was one in the period before.";
 }
 
 } // namespace ptk

@@ -6,12 +6,15 @@
 #include "model/check/WorkWeeks.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
 namespace ptk {
 
 struct CardCheck;
+struct CardFigures;
+struct Closing;
 
 // "7:05", "-0:30".
 [[nodiscard]] std::string HoursAndMinutes(std::int64_t minutes);
@@ -39,5 +42,17 @@ struct CardCheck;
 [[nodiscard]] std::string NoRateText(std::int64_t regularWithout, std::int64_t overtimeWithout);
 
 [[nodiscard]] std::string WeekText(const WorkWeek& week);
+
+// "Paid 88.00 hours, now 88.50: +9.25 owed."; owed: none where it cannot be told.
+[[nodiscard]] std::string PaidChangedText(const Closing& paid, const std::optional<CardFigures>& now,
+                                          const std::optional<std::string>& owed);
+
+[[nodiscard]] std::string TwiceText(const WorkDay& day);
+[[nodiscard]] std::string BetweenText(const Finding& shifts);
+
+// lasted: minutes, by a clock that nobody changed.
+[[nodiscard]] std::string ClockChangeText(const Punch& punch, std::int64_t lasted);
+
+[[nodiscard]] std::string NoShiftText();
 
 } // namespace ptk

@@ -9,6 +9,7 @@
 #include "store/PunchSQL.h"
 
 #include <algorithm>
+#include <fmt/format.h>
 #include <tuple>
 
 namespace ptk {
@@ -56,6 +57,12 @@ DateTime LastSecond(DateTime day)
     return DateTime::FromSeconds(day.Seconds() + DateTime::kSecondsPerDay - 1);
 }
 
+// What ends on the card may be made to end a day later, if nothing else begins before that.
+DateTime NextMidnight(DateTime midnight)
+{
+    return EndOfDay(DateTime(midnight.Date()));
+}
+
 // Shifts of up to a day reach into the first week from the day before it.
 DateTime DayBefore(DateTime day)
 {
@@ -66,14 +73,14 @@ DateTime DayBefore(DateTime day)
 } // namespace
 
 PunchReader::PunchReader(CJetDB& database, const PayPeriod& period, std::int32_t firstWeekday)
-    : m_from(period.from), m_end(EndOfDay(period.to))
+    : m_from(period.from), m_end(EndOfDay(period.to)), m_first(DayBefore(WeekStart(period.from, firstWeekday))),
+      m_last(std::max(LastSecond(WeekLast(period.to, firstWeekday)), NextMidnight(m_end)))
 {
     RequireOpen(database);
     m_unusual = RequireSelect(database, punchsql::Unusual(database.Words()));
     m_starting = RequireSelect(database, punchsql::kStarting);
-    m_starting->Bind("first", DayBefore(WeekStart(period.from, firstWeekday)));
-    // A shift without length at the card's last moment is on the card, though it begins behind the period and perhaps its weeks.
-    m_starting->Bind("last", std::max(LastSecond(WeekLast(period.to, firstWeekday)), m_end));
+    m_starting->Bind("first", m_first);
+    m_starting->Bind("last", m_last);
 }
 
 PunchReader::~PunchReader() = default;
@@ -111,6 +118,18 @@ Punches PunchReader::Read(std::int32_t employeeID)
         statement->Bind("employee", employeeID);
         statement->ForEachRow([&] { punches.push_back(ReadPunch(*statement)); });
     }
+    Order(punches);
+    return punches;
+}
+
+Punches PunchReader::ReadOfNobody(CJetDB& database, const std::optional<std::int64_t>& employeeID) const
+{
+    const std::string whose = employeeID ? fmt::format("EmployeeID = {}", *employeeID) : "EmployeeID IS NULL";
+    const auto rows = RequireSelect(database, punchsql::Of(whose, database.Words()));
+    rows->Bind("first", m_first);
+    rows->Bind("last", m_last);
+    Punches punches;
+    rows->ForEachRow([&] { punches.push_back(ReadPunch(*rows)); });
     Order(punches);
     return punches;
 }

@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 
 namespace ptk {
 
@@ -26,12 +27,17 @@ public:
     // All that CheckCard needs, by start, end and number.
     Punches Read(std::int32_t employeeID);
 
+    // The same of records that name no employee there is: by the number that they have, or of those without one.
+    Punches ReadOfNobody(CJetDB& database, const std::optional<std::int64_t>& employeeID) const;
+
 private:
     [[nodiscard]] bool IsFetched(const Statement& row) const;
     [[nodiscard]] Punch ReadPunch(const Statement& row) const;
 
     DateTime m_from; // the bounds of the card's fetch, both included
     DateTime m_end;
+    DateTime m_first; // of the starts that are looked for, both included
+    DateTime m_last;
     std::unique_ptr<Statement> m_starting;
     std::unique_ptr<Statement> m_unusual;
 };

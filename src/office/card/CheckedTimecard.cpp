@@ -1,15 +1,16 @@
 #include "office/card/CheckedTimecard.h"
 
 #include "model/CEmployee.h"
-#include "model/check/PunchReader.h"
 #include "model/CTimeCard.h"
+#include "office/card/CardChecker.h"
 #include "platform/Succeeds.h"
 #include "store/CJetDB.h"
 
 namespace ptk {
 
 CheckedTimecard GenerateChecked(CTimeCard& card, const std::shared_ptr<CJetDB>& database, const std::shared_ptr<CEmployee>& employee,
-                                const PayPeriod& period, DateTime now, const std::optional<CheckLimits>& limits)
+                                const PayPeriod& period, DateTime now, const std::optional<CheckLimits>& limits,
+                                std::optional<std::int64_t> autoShiftEnd)
 {
     const DateTime end = period.to.AddDays(1);
     const CJetDB::Hold hold(database);
@@ -21,8 +22,11 @@ CheckedTimecard GenerateChecked(CTimeCard& card, const std::shared_ptr<CJetDB>& 
     }
     const auto check = [&] {
         result.limits = limits ? *limits : LoadCheckLimits(database);
-        result.punches = PunchReader(*database, period, result.limits.firstWeekday).Read(employee->EmployeeID());
-        result.check = CheckCard({*employee, period.from, period.to}, result.punches, now, result.limits);
+        CardChecker checker(database, {period, now, result.limits}, employee->EmployeeID());
+        result.check = checker.Check(*employee);
+        result.punches = checker.Rows();
+        result.paid = checker.Paid(employee->EmployeeID());
+        result.remedies = checker.Remedies(*employee, *result.check, autoShiftEnd);
     };
     Succeeds(check, [&](const Failure& reason) { result.failure = reason; });
     return result;

@@ -9,7 +9,7 @@ namespace ptk {
 
 namespace {
 
-constexpr auto kCsvHeading = "Change,When,Who,Program,Step,Table,Row,Action,Before,After,Text\r\n";
+constexpr auto kCsvHeading = "Change,When,Who,Program,Step,Table,Row,Action,Before,After,Text,Reason\r\n";
 
 // "2003-03-05 17:00:00" as "2003-03-05T17:00:00".
 std::string Moment(std::string at)
@@ -64,22 +64,23 @@ std::string NumberOr(const std::optional<std::int64_t>& number, const char* none
 std::string JsonLine(const TrailEntry& entry, const std::string& text)
 {
     return fmt::format(
-        R"({{"id":{},"at":{},"by":{},"program":{},"step":{},"table":{},"row":{},"action":{},"before":{},"after":{},"text":{}}})", entry.id,
-        JsonText(Moment(entry.at)), JsonOrNull(entry.by), JsonOrNull(entry.program), NumberOr(entry.step, "null"), JsonOrNull(entry.table),
-        NumberOr(entry.row, "null"), JsonText(entry.action), Json(entry.before), Json(entry.after), JsonText(text));
+        R"({{"id":{},"at":{},"by":{},"program":{},"step":{},"table":{},"row":{},"action":{},"before":{},"after":{},"text":{},"reason":{}}})",
+        entry.id, JsonText(Moment(entry.at)), JsonOrNull(entry.by), JsonOrNull(entry.program), NumberOr(entry.step, "null"),
+        JsonOrNull(entry.table), NumberOr(entry.row, "null"), JsonText(entry.action), Json(entry.before), Json(entry.after), JsonText(text),
+        JsonOrNull(entry.reason));
 }
 
 std::string CsvLine(const TrailEntry& entry, const std::string& text)
 {
     const auto row = [](const std::optional<TrailRow>& side) { return side ? CsvText(Json(side)) : std::string(); };
-    return fmt::format("{},{},{},{},{},{},{},{},{},{},{}\r\n", entry.id, CsvText(Moment(entry.at)), CsvText(entry.by),
+    return fmt::format("{},{},{},{},{},{},{},{},{},{},{},{}\r\n", entry.id, CsvText(Moment(entry.at)), CsvText(entry.by),
                        CsvText(entry.program), NumberOr(entry.step, ""), CsvText(entry.table), NumberOr(entry.row, ""),
-                       CsvText(entry.action), row(entry.before), row(entry.after), CsvText(text));
+                       CsvText(entry.action), row(entry.before), row(entry.after), CsvText(text), CsvText(entry.reason));
 }
 
 std::string TextLine(const TrailEntry& entry, const std::string& text)
 {
-    return fmt::format("{}  {}  {}\r\n", EntryMoment(entry), EntryPerson(entry), text);
+    return fmt::format("{}  {}  {}{}\r\n", EntryMoment(entry), EntryPerson(entry), text, EntryReason(entry));
 }
 
 } // namespace

@@ -28,7 +28,7 @@ HistoryCells HistoryHeading()
 
 HistoryCells CellsOf(const TrailEntry& entry, const NameOfEmployee& nameOf)
 {
-    return {EntryMoment(entry), Who(entry), EntryEmployee(entry, nameOf), EntryDeed(entry, nameOf)};
+    return {EntryMoment(entry), Who(entry), EntryEmployee(entry, nameOf), EntryDeed(entry, nameOf) + EntryReason(entry)};
 }
 
 std::string InOneText(const HistoryCells& cells)

@@ -15,7 +15,7 @@ enum class HistoryColumn
     When,
     Who, // and through which program, where it was another than the administrator's
     Employee,
-    What
+    What // and why, where that is said
 };
 
 inline constexpr std::size_t kHistoryColumns = 4;

@@ -89,9 +89,20 @@ std::string EmployeeName(const TrailEntry& entry, const NameOfEmployee& nameOf)
     return name.empty() ? fmt::format("Employee {}", *entry.employee) : name;
 }
 
+// Of no row: the database as a whole.
+bool IsWhole(const TrailEntry& entry)
+{
+    return entry.action == "restore" || entry.action == "import";
+}
+
+bool IsOfEmployee(const TrailEntry& entry)
+{
+    return !IsWhole(entry) && (entry.table == "TimeRecord" || entry.table == "Employee" || entry.table == "_Payday");
+}
+
 std::string Subject(const TrailEntry& entry, const NameOfEmployee& nameOf)
 {
-    if (entry.table == "TimeRecord" || entry.table == "Employee") {
+    if (IsOfEmployee(entry)) {
         return EmployeeName(entry, nameOf);
     }
     if (entry.table == "_System") {
@@ -112,15 +123,12 @@ std::string WholeRow(const TrailEntry& entry, const std::optional<TrailRow>& row
     return entry.table == "Company" ? TextIn(row, "Name", nameOf) + " " : "";
 }
 
-// Of no row: the database as a whole.
-bool IsWhole(const TrailEntry& entry)
+// "payday 03/01/2003 - 03/15/2003 of 80.00 + 0.50 hours, 88.00".
+std::string PaydayText(const std::optional<TrailRow>& row, const NameOfEmployee& nameOf)
 {
-    return entry.action == "restore" || entry.action == "import";
-}
-
-bool IsOfEmployee(const TrailEntry& entry)
-{
-    return !IsWhole(entry) && (entry.table == "TimeRecord" || entry.table == "Employee");
+    const auto figure = [&](const char* column) { return row ? PlainTextIn(*row, column) : std::string(); };
+    return fmt::format("payday {} - {} of {} + {} hours, {}", TextIn(row, "FromDay", nameOf), TextIn(row, "ToDay", nameOf),
+                       figure("Regular"), figure("Overtime"), figure("Gross"));
 }
 
 std::string Deed(const TrailEntry& entry, const NameOfEmployee& nameOf)
@@ -134,7 +142,11 @@ std::string Deed(const TrailEntry& entry, const NameOfEmployee& nameOf)
     if (entry.before && entry.after) {
         return ChangesText(entry, nameOf);
     }
-    return WholeRow(entry, entry.after ? entry.after : entry.before, nameOf) + (entry.after ? "added" : "deleted");
+    const auto& row = entry.after ? entry.after : entry.before;
+    if (entry.table == "_Payday") {
+        return PaydayText(row, nameOf) + (entry.after ? " closed" : " reopened");
+    }
+    return WholeRow(entry, row, nameOf) + (entry.after ? "added" : "deleted");
 }
 
 std::string OneLine(std::string text)
@@ -163,6 +175,11 @@ std::string EntryDeed(const TrailEntry& entry, const NameOfEmployee& nameOf)
     }
     const bool wholeEmployee = entry.table == "Employee" && !(entry.before && entry.after);
     return (wholeEmployee ? "employee " : "") + OneLine(Deed(entry, nameOf));
+}
+
+std::string EntryReason(const TrailEntry& entry)
+{
+    return entry.reason.empty() ? "" : " (" + OneLine(entry.reason) + ")";
 }
 
 std::string EntryPerson(const TrailEntry& entry)

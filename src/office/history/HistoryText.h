@@ -20,6 +20,9 @@ using NameOfEmployee = std::function<std::string(std::int64_t employeeID)>;
 [[nodiscard]] std::string EntryEmployee(const TrailEntry& entry, const NameOfEmployee& nameOf);
 [[nodiscard]] std::string EntryDeed(const TrailEntry& entry, const NameOfEmployee& nameOf);
 
+// Why, " (she forgot to clock out)", to stand behind what was done; empty where nothing is said.
+[[nodiscard]] std::string EntryReason(const TrailEntry& entry);
+
 // Who did it: "Bob Ray", "another program".
 [[nodiscard]] std::string EntryPerson(const TrailEntry& entry);
 

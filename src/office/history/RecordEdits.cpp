@@ -36,7 +36,8 @@ bool IsClockingOut(const TrailEntry& entry)
 std::string EditText(const char* deed, const TrailEntry& entry)
 {
     const auto moment = ParseDateTime(entry.at);
-    return fmt::format("{} by {} on {}", deed, EntryPerson(entry), moment ? FormatDateTime(*moment, "mm/dd/yyyy hh:mm AM/PM") : entry.at);
+    return fmt::format("{} by {} on {}{}", deed, EntryPerson(entry), moment ? FormatDateTime(*moment, "mm/dd/yyyy hh:mm AM/PM") : entry.at,
+                       EntryReason(entry));
 }
 
 } // namespace

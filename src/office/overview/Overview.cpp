@@ -1,41 +1,30 @@
 #include "office/overview/Overview.h"
 
 #include "model/CEmployeeList.h"
-#include "model/check/PunchReader.h"
-#include "model/CTimeCalculator.h"
-#include "model/CTimeRecord.h"
-#include "office/overview/DecimalSum.h"
-#include "platform/text/Text.h"
+#include "office/overview/OverviewRows.h"
+#include "platform/text/DecimalSum.h"
 #include "store/CJetDB.h"
 
 namespace ptk {
 
-namespace {
-
-// The shifts of the card in its order.
-std::vector<WorkedShift> ShiftsOf(const Punches& punches)
+CheckTerms TermsOf(const Overview& overview)
 {
-    std::vector<WorkedShift> shifts;
-    shifts.reserve(punches.size());
-    for (const Punch& punch : punches) {
-        if (punch.fetched) {
-            shifts.push_back({*punch.start, HoursOf(punch.Minutes())});
-        }
-    }
-    return shifts;
+    return {overview.period, overview.made, overview.limits};
 }
 
-std::optional<CardFigures> FiguresOf(const CEmployee& employee, const Punches& punches)
+OverviewRow RowOf(const Overview& overview, CardChecker& checker, const std::shared_ptr<CEmployee>& employee)
 {
-    CTimeCalculator calculator;
-    if (!calculator.CalculateTimes(employee, ShiftsOf(punches))) {
-        return std::nullopt;
+    OverviewRow row;
+    row.employee = employee;
+    row.check = checker.Check(*employee);
+    row.figures = row.check.figures;
+    row.paid = checker.Paid(employee->EmployeeID());
+    row.records = checker.RecordsOfPeriod();
+    if (overview.withRemedies) {
+        row.remedies = checker.Remedies(*employee, row.check, overview.autoShiftEnd);
     }
-    const float pay = calculator.CalculatePay(employee.PayRate(), employee.OvertimePayRate());
-    return CardFigures{TwoDecimals(calculator.RegularHours()), TwoDecimals(calculator.OvertimeHours()), TwoDecimals(pay)};
+    return row;
 }
-
-} // namespace
 
 std::string OverviewRow::LongestWeek() const
 {
@@ -58,17 +47,11 @@ bool ReadOverview(Overview& overview, const std::shared_ptr<CJetDB>& database, s
                   const RowTaken& taken)
 {
     const CJetDB::Hold hold(database);
-    PunchReader reader(*database, overview.period, overview.limits.firstWeekday);
+    CardChecker checker(database, TermsOf(overview));
     overview.rows.reserve(overview.rows.size() + employees.size());
     for (const auto& employee : employees) {
-        const Punches punches = reader.Read(employee->EmployeeID());
-        OverviewRow& row = overview.rows.emplace_back();
-        row.employee = employee;
-        row.check = CheckCard({*employee, overview.period.from, overview.period.to}, punches, overview.made, overview.limits);
-        if (row.check.figuresReadable) {
-            row.figures = FiguresOf(*employee, punches);
-        }
-        if (taken && !taken(row)) {
+        overview.rows.push_back(RowOf(overview, checker, employee));
+        if (taken && !taken(overview.rows.back())) {
             return false;
         }
     }
@@ -88,6 +71,8 @@ OverviewTotals TotalsOf(std::span<const OverviewRow> rows, bool onlyProblems)
         totals.clockedIn += row.check.clockedIn ? 1 : 0;
         totals.problems += row.check.problems;
         totals.notices += row.check.notices;
+        totals.paid += row.paid ? 1 : 0;
+        totals.changed += row.check.changed ? 1 : 0;
         if (row.figures) {
             regular.Add(row.figures->regular);
             overtime.Add(row.figures->overtime);

@@ -3,7 +3,10 @@
 
 #include "model/CEmployee.h"
 #include "model/check/CardCheck.h"
+#include "model/check/CardFigures.h"
+#include "model/payday/Closing.h"
 #include "model/PayPeriod.h"
+#include "model/remedy/Remedy.h"
 
 #include <cstdint>
 #include <functional>
@@ -11,6 +14,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace ptk {
@@ -18,22 +22,38 @@ namespace ptk {
 class CEmployeeList;
 class CJetDB;
 
-// To the letter as the employee's time card shows them.
-struct CardFigures
-{
-    std::string regular;  // hours
-    std::string overtime; // hours
-    std::string gross;    // money
-};
-
 struct OverviewRow
 {
     std::shared_ptr<const CEmployee> employee;
     std::optional<CardFigures> figures; // none where the card cannot be computed: a row of it cannot be read, or there are more than 32,767
     CardCheck check;
+    std::optional<Closing> paid;               // what was paid for exactly this period
+    std::int32_t records = 0;                  // that have to do with the period
+    std::vector<std::vector<Remedy>> remedies; // by finding of the check, where they are asked for
 
     // Hours; "0.00" without a week.
     [[nodiscard]] std::string LongestWeek() const;
+};
+
+// Why somebody with records in the period is in no list.
+enum class LeftOutReason
+{
+    Inactive,
+    Administrator,
+    Unknown // records of an EmployeeID that no employee has
+};
+
+// "inactive", "administrator", "unknown".
+[[nodiscard]] std::string_view NameOf(LeftOutReason reason);
+
+struct LeftOut
+{
+    LeftOutReason reason = LeftOutReason::Unknown;
+    std::optional<std::int64_t> id; // none of records that name nobody at all
+    OverviewRow row;                // of an unknown one without an employee, figures and findings
+
+    // Not paid, or not as the card is now.
+    [[nodiscard]] bool IsOwed() const;
 };
 
 struct Overview
@@ -42,6 +62,9 @@ struct Overview
     DateTime made; // what the checks took for now
     CheckLimits limits;
     std::vector<OverviewRow> rows;
+    std::vector<LeftOut> leftOut;               // in the order of the list, unknown ones behind it
+    bool withRemedies = false;                  // to be computed as the rows are read
+    std::optional<std::int64_t> autoShiftEnd{}; // for the remedies, see ShiftEnds
 };
 
 struct OverviewTotals
@@ -50,6 +73,8 @@ struct OverviewTotals
     std::int32_t clockedIn = 0;
     std::int32_t problems = 0;
     std::int32_t notices = 0;
+    std::int32_t paid = 0;    // employees
+    std::int32_t changed = 0; // employees
 };
 
 using Employees = std::vector<std::shared_ptr<CEmployee>>;
@@ -65,6 +90,12 @@ using RowTaken = std::function<bool(const OverviewRow& row)>;
 // overview's period, moment and limits are set.
 bool ReadOverview(Overview& overview, const std::shared_ptr<CJetDB>& database, std::span<const std::shared_ptr<CEmployee>> employees,
                   const RowTaken& taken = {});
+
+// Reads, of one moment, who has records in the period and is none of `listed`, of all employees in their order. Raises the same.
+void ReadLeftOut(Overview& overview, const std::shared_ptr<CJetDB>& database, CEmployeeList& all, const Employees& listed);
+
+// Puts those who were left out, save the unknown, among the rows in the order of the list.
+void TakeInLeftOut(Overview& overview, CEmployeeList& all);
 
 // Of those with problems alone.
 [[nodiscard]] OverviewTotals TotalsOf(std::span<const OverviewRow> rows, bool onlyProblems = false);

@@ -43,11 +43,18 @@ std::string JsonFigures(const std::optional<CardFigures>& figures)
     return fmt::format(R"("regular":"{}","overtime":"{}","gross":"{}")", figures->regular, figures->overtime, figures->gross);
 }
 
-std::string Json(const Finding& finding)
+std::string JsonTextOrNull(const std::optional<std::string>& text)
 {
-    return fmt::format(R"({{"kind":"{}","severity":"{}","records":[{}],"minutes":{},"from":{},"to":{},"text":{}}})", NameOf(finding.kind),
-                       NameOf(SeverityOf(finding.kind)), fmt::join(finding.records, ","), finding.minutes, JsonMoment(finding.from),
-                       JsonMoment(finding.to), JsonText(finding.text));
+    return text ? JsonText(*text) : "null";
+}
+
+std::string Json(const RecordChange& change)
+{
+    if (change.deletes) {
+        return fmt::format(R"({{"record":{},"delete":true}})", change.record.value_or(0));
+    }
+    const std::string record = change.record ? fmt::format(R"("record":{},)", *change.record) : std::string();
+    return fmt::format(R"({{{}"start":"{}","end":"{}"}})", record, Moment(change.start), Moment(change.end));
 }
 
 std::string Json(const WorkWeek& week)
@@ -55,6 +62,9 @@ std::string Json(const WorkWeek& week)
     return fmt::format(R"({{"from":"{}","hours":"{}","above40":"{}","paidAsOvertime":"{}"}})", Day(week.from), HoursText(week.minutes),
                        HoursText(week.Above40()), HoursText(week.paidAsOvertime));
 }
+
+std::string Json(const Remedy& remedy);
+std::string Json(const LeftOut& out);
 
 template <typename Items>
 std::string JsonList(const Items& items)
@@ -66,14 +76,69 @@ std::string JsonList(const Items& items)
     return '[' + list + ']';
 }
 
-std::string Json(const OverviewRow& row)
+std::string Json(const Remedy& remedy)
+{
+    return fmt::format(R"({{"text":{},"hours":{},"changes":{}}})", JsonText(remedy.text), JsonTextOrNull(remedy.hours),
+                       JsonList(remedy.changes));
+}
+
+// remedies: those of this finding, nullptr where nobody asked for them.
+std::string Json(const Finding& finding, const std::vector<Remedy>* remedies)
+{
+    return fmt::format(R"({{"kind":"{}","severity":"{}","records":[{}],"minutes":{},"from":{},"to":{},"text":{}{}}})", NameOf(finding.kind),
+                       NameOf(SeverityOf(finding.kind)), fmt::join(finding.records, ","), finding.minutes, JsonMoment(finding.from),
+                       JsonMoment(finding.to), JsonText(finding.text), remedies == nullptr ? "" : R"(,"remedies":)" + JsonList(*remedies));
+}
+
+std::string JsonFindings(const OverviewRow& row, bool withRemedies)
+{
+    std::string list;
+    for (std::size_t i = 0; i < row.check.findings.size(); ++i) {
+        list += (i == 0 ? "" : ",") + Json(row.check.findings[i], withRemedies ? &row.remedies.at(i) : nullptr);
+    }
+    return '[' + list + ']';
+}
+
+std::string JsonPaid(const std::optional<Closing>& paid)
+{
+    if (!paid) {
+        return "null";
+    }
+    return fmt::format(R"({{"at":{},"by":{},"regular":{},"overtime":{},"gross":{}}})", JsonMoment(paid->paidAt), JsonText(paid->paidBy),
+                       JsonText(paid->regular), JsonText(paid->overtime), JsonText(paid->gross));
+}
+
+std::string JsonChanged(const std::optional<PaidDifference>& changed)
+{
+    if (!changed) {
+        return "null";
+    }
+    return fmt::format(R"({{"regular":{},"overtime":{},"gross":{}}})", JsonTextOrNull(changed->regular), JsonTextOrNull(changed->overtime),
+                       JsonTextOrNull(changed->gross));
+}
+
+std::string JsonPayday(const OverviewRow& row)
+{
+    return fmt::format(R"("paid":{},"changed":{})", JsonPaid(row.paid), JsonChanged(row.check.changed));
+}
+
+std::string Json(const LeftOut& out)
+{
+    const CEmployee* employee = out.row.employee.get();
+    return fmt::format(R"({{"number":{},"id":{},"name":{},"reason":"{}","records":{},{},{}}})",
+                       employee == nullptr ? "null" : std::to_string(employee->EmployeeNumber()), out.id ? std::to_string(*out.id) : "null",
+                       employee == nullptr ? "null" : JsonText(employee->DisplayName()), NameOf(out.reason), out.row.records,
+                       JsonFigures(out.row.figures), JsonPayday(out.row));
+}
+
+std::string Json(const OverviewRow& row, bool withRemedies)
 {
     const CEmployee& employee = *row.employee;
     return fmt::format(R"({{"number":{},"id":{},"name":{},{},"longestWeek":"{}","clockedIn":{},"problems":{},"notices":{},)"
-                       R"("findings":{},"weeks":{}}})",
+                       R"("findings":{},"weeks":{},{}}})",
                        employee.EmployeeNumber(), employee.EmployeeID(), JsonText(employee.DisplayName()), JsonFigures(row.figures),
-                       row.LongestWeek(), row.check.clockedIn, row.check.problems, row.check.notices, JsonList(row.check.findings),
-                       JsonList(row.check.weeks));
+                       row.LongestWeek(), row.check.clockedIn, row.check.problems, row.check.notices, JsonFindings(row, withRemedies),
+                       JsonList(row.check.weeks), JsonPayday(row));
 }
 
 // Number, ID and name begin every line of an employee.
@@ -115,11 +180,11 @@ std::string OverviewJson(const Overview& overview)
     std::string text = fmt::format(R"({{"from":"{}","to":"{}","made":"{}","employees":[)", Day(overview.period.from),
                                    Day(overview.period.to), Moment(overview.made));
     for (const OverviewRow& row : overview.rows) {
-        text += (&row == overview.rows.data() ? "\r\n" : ",\r\n") + Json(row);
+        text += (&row == overview.rows.data() ? "\r\n" : ",\r\n") + Json(row, overview.withRemedies);
     }
     const OverviewTotals totals = TotalsOf(overview.rows);
-    fmt::format_to(std::back_inserter(text), "\r\n],\"totals\":{{{},\"clockedIn\":{},\"problems\":{},\"notices\":{}}}}}\r\n",
-                   JsonFigures(totals.figures), totals.clockedIn, totals.problems, totals.notices);
+    fmt::format_to(std::back_inserter(text), "\r\n],\"leftOut\":{},\"totals\":{{{},\"clockedIn\":{},\"problems\":{},\"notices\":{}}}}}\r\n",
+                   JsonList(overview.leftOut), JsonFigures(totals.figures), totals.clockedIn, totals.problems, totals.notices);
     return text;
 }
 

@@ -7,8 +7,10 @@
 namespace ptk {
 
 OverviewReading::OverviewReading(std::shared_ptr<CJetDB> database, Employees employees, const PayPeriod& period, DateTime now)
-    : m_database(std::move(database)), m_employees(std::move(employees)), m_overview{period, now, {}, {}}
+    : m_database(std::move(database)), m_employees(std::move(employees))
 {
+    m_overview.period = period;
+    m_overview.made = now;
 }
 
 void OverviewReading::ReadOn(const std::function<bool()>& goOn)

@@ -13,7 +13,8 @@ namespace ptk {
 namespace {
 
 constexpr auto kNotReadable = "not readable";
-constexpr auto kClockedIn = "yes";
+constexpr auto kYes = "yes";
+constexpr auto kPaidDay = "mm/dd/yyyy";
 constexpr auto kMoment = "mm/dd/yyyy hh:mm AM/PM";
 
 // A name is one line here, whatever stands in the database.
@@ -27,6 +28,30 @@ std::string OneLine(std::string text)
 std::optional<double> Figure(const OverviewRow& row, std::string CardFigures::*figure)
 {
     return row.figures ? std::optional(ToDouble((*row.figures).*figure)) : std::nullopt;
+}
+
+// None where nothing was paid, the zero date-time where nobody can say when.
+std::optional<DateTime> PaidAt(const OverviewRow& row)
+{
+    return row.paid ? std::optional(row.paid->paidAt.value_or(DateTime())) : std::nullopt;
+}
+
+std::string PaidText(const OverviewRow& row)
+{
+    if (!row.paid) {
+        return "";
+    }
+    return row.paid->paidAt ? FormatDateTime(*row.paid->paidAt, kPaidDay) : kYes;
+}
+
+std::string ChangedText(const OverviewRow& row)
+{
+    return row.check.changed ? row.check.changed->gross.value_or(kNotReadable) : "";
+}
+
+std::optional<double> Owed(const OverviewRow& row)
+{
+    return row.check.changed ? std::optional(ToDouble(row.check.changed->gross.value_or("0"))) : std::nullopt;
 }
 
 bool HasProblems(const OverviewRow& row)
@@ -43,7 +68,7 @@ std::int64_t ProblemCount(const std::vector<OverviewRow>& rows)
 
 OverviewCells OverviewHeading()
 {
-    return {"Name", "Regular", "Overtime", "Gross Pay", "Longest Week", "Problems", "Notices", "Clocked In"};
+    return {"Name", "Regular", "Overtime", "Gross Pay", "Longest Week", "Problems", "Notices", "Clocked In", "Paid", "Changed"};
 }
 
 OverviewCells CellsOf(const OverviewRow& row)
@@ -56,7 +81,9 @@ OverviewCells CellsOf(const OverviewRow& row)
             row.LongestWeek(),
             std::to_string(row.check.problems),
             std::to_string(row.check.notices),
-            row.check.clockedIn ? kClockedIn : ""};
+            row.check.clockedIn ? kYes : "",
+            PaidText(row),
+            ChangedText(row)};
 }
 
 OverviewCells TotalCells(const std::vector<OverviewRow>& rows, bool onlyProblems)
@@ -70,7 +97,9 @@ OverviewCells TotalCells(const std::vector<OverviewRow>& rows, bool onlyProblems
             "",
             std::to_string(totals.problems),
             std::to_string(totals.notices),
-            std::to_string(totals.clockedIn)};
+            std::to_string(totals.clockedIn),
+            std::to_string(totals.paid),
+            std::to_string(totals.changed)};
 }
 
 bool StandsBefore(const std::vector<OverviewRow>& rows, std::size_t left, std::size_t right, OverviewColumn column)
@@ -94,6 +123,10 @@ bool StandsBefore(const std::vector<OverviewRow>& rows, std::size_t left, std::s
         return one.check.notices < other.check.notices;
     case OverviewColumn::ClockedIn:
         return one.check.clockedIn < other.check.clockedIn;
+    case OverviewColumn::Paid:
+        return PaidAt(one) < PaidAt(other);
+    case OverviewColumn::Changed:
+        return Owed(one) < Owed(other);
     }
     return left < right;
 }

@@ -20,15 +20,17 @@ enum class OverviewColumn
     LongestWeek,
     Problems,
     Notices,
-    ClockedIn
+    ClockedIn,
+    Paid,
+    Changed
 };
 
-inline constexpr std::size_t kOverviewColumns = 8;
+inline constexpr std::size_t kOverviewColumns = 10;
 using OverviewCells = std::array<std::string, kOverviewColumns>; // by OverviewColumn
 
 [[nodiscard]] OverviewCells OverviewHeading();
 
-// Without figures "not readable" stands in place of the gross pay.
+// Without figures "not readable" stands in place of the gross pay. Paid is the day, changed the pay that is owed, or paid too much.
 [[nodiscard]] OverviewCells CellsOf(const OverviewRow& row);
 
 // Of the rows that are shown, all or those with problems alone, and how many they are: "Total (3 of 11)".

@@ -1,3 +1,4 @@
+#include "office/card/CardTexts.h"
 #include "office/overview/OverviewTable.h"
 #include "office/overview/OverviewTexts.h"
 #include "platform/text/Text.h"
@@ -15,12 +16,13 @@ namespace {
 constexpr auto kTitle = "Payday overview";
 constexpr auto kNobody = "There are no employees to show.";
 constexpr auto kTotal = "Total";
+constexpr auto kLeftOut = "Not in the list, with records in this period:";
 constexpr auto kLineEnd = "\r\n";
 
 using Cells = OverviewCells;
 
 // Shorter than the window's, for the lines of a terminal and of a page.
-const Cells kHeading{"Name", "Regular", "Overtime", "Gross", "Longest week", "Problems", "Notices", "Clocked in"};
+const Cells kHeading{"Name", "Regular", "Overtime", "Gross", "Longest week", "Problems", "Notices", "Clocked in", "Paid", "Changed"};
 
 std::string ShortDay(DateTime day)
 {
@@ -29,8 +31,16 @@ std::string ShortDay(DateTime day)
 
 Cells CellsOf(const OverviewTotals& totals)
 {
-    return {kTotal, totals.figures.regular,          totals.figures.overtime,        totals.figures.gross,
-            "",     std::to_string(totals.problems), std::to_string(totals.notices), std::to_string(totals.clockedIn)};
+    return {kTotal,
+            totals.figures.regular,
+            totals.figures.overtime,
+            totals.figures.gross,
+            "",
+            std::to_string(totals.problems),
+            std::to_string(totals.notices),
+            std::to_string(totals.clockedIn),
+            std::to_string(totals.paid),
+            std::to_string(totals.changed)};
 }
 
 // As wide as their widest cell; names to the left, figures to the right.
@@ -89,16 +99,65 @@ Lines LinesOf(const Overview& overview)
     return lines;
 }
 
-std::vector<std::string> Sentences(const CardCheck& check, bool showNotices)
+using Remedies = std::vector<std::vector<Remedy>>; // by finding; none where nobody asked for them
+
+std::vector<std::string> Sentences(const CardCheck& check, bool showNotices, const Remedies& remedies = {})
 {
     std::vector<std::string> sentences;
-    for (const Finding& finding : check.findings) {
-        const Severity severity = SeverityOf(finding.kind);
-        if (severity == Severity::Problem || showNotices) {
-            sentences.push_back(fmt::format("    {}: {}", NameOf(severity), finding.text));
+    for (std::size_t i = 0; i < check.findings.size(); ++i) {
+        const Severity severity = SeverityOf(check.findings[i].kind);
+        if (severity != Severity::Problem && !showNotices) {
+            continue;
+        }
+        sentences.push_back(fmt::format("    {}: {}", NameOf(severity), check.findings[i].text));
+        for (std::size_t j = 0; i < remedies.size() && j < remedies[i].size(); ++j) {
+            sentences.push_back("        " + remedies[i][j].text);
         }
     }
     return sentences;
+}
+
+std::string NameOf(const LeftOut& out)
+{
+    if (out.row.employee != nullptr) {
+        return out.row.employee->DisplayName();
+    }
+    return out.id ? fmt::format("EmployeeID {}", *out.id) : "No EmployeeID";
+}
+
+// "    Peter Lindqvist (inactive): 3 records, 24.00 regular and 0.00 overtime hours, 480.00; not paid"
+std::string LineOf(const LeftOut& out)
+{
+    std::string line = fmt::format("    {} ({}): {}", NameOf(out), NameOf(out.reason), CountText(out.row.records, "record"));
+    if (out.row.figures) {
+        const CardFigures& figures = *out.row.figures;
+        line += fmt::format(", {} regular and {} overtime hours, {}", figures.regular, figures.overtime, figures.gross);
+    }
+    if (!out.row.paid) {
+        return line + "; not paid";
+    }
+    return line + (out.row.check.changed ? "; changed since it was paid" : "; paid");
+}
+
+std::vector<std::string> LeftOutLines(const Overview& overview)
+{
+    std::vector<std::string> lines;
+    if (!overview.leftOut.empty()) {
+        lines = {"", kLeftOut};
+    }
+    for (const LeftOut& out : overview.leftOut) {
+        lines.push_back(LineOf(out));
+    }
+    return lines;
+}
+
+std::string LeftOutText(const Overview& overview)
+{
+    std::string text;
+    for (const std::string& line : LeftOutLines(overview)) {
+        text += line + kLineEnd;
+    }
+    return text;
 }
 
 std::string PeriodText(const Overview& overview)
@@ -121,14 +180,18 @@ std::string OverviewText(const Overview& overview)
 {
     std::string text = fmt::format("{}, made {}\r\n\r\n", PeriodText(overview), FormatDateTime(overview.made, "mm/dd/yyyy hh:mm AM/PM"));
     if (overview.rows.empty()) {
-        return text + kNobody + kLineEnd;
+        return text + kNobody + kLineEnd + LeftOutText(overview);
     }
     const Lines lines = LinesOf(overview);
     text += lines.heading + kLineEnd;
     for (std::size_t i = 0; i < lines.rows.size(); ++i) {
-        text += lines.rows[i] + kLineEnd + FindingLines(overview.rows[i].check, overview.limits.showNotices);
+        text += lines.rows[i] + kLineEnd;
+        for (const std::string& sentence : Sentences(overview.rows[i].check, overview.limits.showNotices, overview.rows[i].remedies)) {
+            text += sentence + kLineEnd;
+        }
     }
-    return text + kLineEnd + lines.totals + kLineEnd;
+    text += kLineEnd + lines.totals + kLineEnd;
+    return text + LeftOutText(overview);
 }
 
 ReportDocument OverviewDocument(const Overview& overview)
@@ -149,6 +212,9 @@ ReportDocument OverviewDocument(const Overview& overview)
     }
     begin("");
     document.Add(lines.totals);
+    for (const std::string& line : LeftOutLines(overview)) {
+        document.Add(line);
+    }
     return document;
 }
 

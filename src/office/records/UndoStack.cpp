@@ -17,10 +17,12 @@ namespace {
 
 constexpr auto kUndo = "Undo";
 constexpr auto kRedo = "Redo";
+constexpr auto kClosePayday = "Close Payday";
+constexpr auto kReopenPayday = "Reopen Payday";
 
 bool IsUndoable(const TrailEntry& entry)
 {
-    const bool table = entry.table == "TimeRecord" || entry.table == "Employee" || entry.table == "Company";
+    const bool table = entry.table == "TimeRecord" || entry.table == "Employee" || entry.table == "Company" || entry.table == "_Payday";
     return table && entry.row && (entry.before || entry.after);
 }
 
@@ -46,6 +48,19 @@ bool AreNewRecords(const std::vector<TrailEntry>& entries)
 {
     return std::all_of(entries.begin(), entries.end(),
                        [](const TrailEntry& entry) { return entry.table == "TimeRecord" && !entry.before; });
+}
+
+// " 03/01/2003 - 03/15/2003"
+std::string PaydayDays(const TrailEntry& entry)
+{
+    std::string days;
+    for (const char* column : {"FromDay", "ToDay"}) {
+        const auto& row = entry.after ? entry.after : entry.before;
+        const TrailValue* value = ValueOf(*row, column);
+        const auto day = value == nullptr ? std::nullopt : ParseDateTime(value->text);
+        days += day ? (days.empty() ? " " : " - ") + FormatDateTime(*day, "mm/dd/yyyy") : "";
+    }
+    return days;
 }
 
 const char* NameSql(const std::string& table)
@@ -141,6 +156,9 @@ bool UndoStack::PutPasswords(const TrailEntry& entry, RowChange& change) const
 
 std::string UndoStack::TextOf(const std::vector<TrailEntry>& entries) const
 {
+    if (entries.front().table == "_Payday") {
+        return (entries.front().after ? kClosePayday : kReopenPayday) + PaydayDays(entries.front());
+    }
     if (entries.size() == 1) {
         return VerbOf(entries.front()) + NameOf(entries.front());
     }

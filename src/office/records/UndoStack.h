@@ -18,13 +18,13 @@ class CJetDB;
 struct MovedStep
 {
     std::string text;                     // "Delete 03/05/2003 08:00 AM"
-    std::string table;                    // of its first row: TimeRecord, Employee or Company
+    std::string table;                    // of its first row: TimeRecord, Employee, Company or _Payday
     std::int64_t row = 0;                 // that row
     std::optional<std::int64_t> employee; // whose row or record it is
 };
 
-// Of time records, employees and companies: one step is what one action stored, an auto fill as a whole. It reads what was done from the
-// edit trail, which an undo and a redo write on; passwords, which are not there, it remembers. No member raises.
+// Of time records, employees, companies and paydays: one step is what one action stored, an auto fill as a whole. It reads what was done
+// from the edit trail, which an undo and a redo write on; passwords, which are not there, it remembers. No member raises.
 //
 // After every save, of whatever kind, Remember is to be called, before anything else is stored. After Undo and Redo the lists and cards are
 // to be read again.

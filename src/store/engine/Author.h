@@ -1,4 +1,4 @@
-// Who writes, as the edit trail tells it.
+// Who writes and why, as the edit trail tells it.
 #pragma once
 
 #include <string>
@@ -10,6 +10,7 @@ struct Author
 {
     std::string name;    // of the person, or the account
     std::string program; // "ptk-admin" or "ptk-console"
+    std::string reason{}; // what the person says to it
 };
 
 } // namespace ptk

@@ -19,6 +19,12 @@ struct EngineWords
     // Of a time record: whether a search by its start would pass it over when a card is checked, as the index TimeRecordUnusual has it.
     const char* unusualPunch;
 
+    // Of a time record: whether both its times are moments, the end perhaps not set; and of one of these columns {0} the moment with its
+    // seconds cut off, to be compared, and the minute of its day.
+    const char* readablePunch;
+    const char* wholeMinute;
+    const char* minuteOfDay;
+
     // Whether a column of date-times lies in the days :first to :last, of the forms YYYY-MM-DD and YYYY-MM-DD~.
     const char* inDays;
 
@@ -32,8 +38,14 @@ struct EngineWords
     // Digits, whatever the type of the column that they are for.
     const char* number;
 
-    // Answers a row where the table _CheckLimits is there, which files of earlier versions lack; empty where it always is.
-    const char* findLimits;
+    // Answers a row where the table {0} is there, which files of earlier versions lack; empty where it always is.
+    const char* findTable;
+
+    // Answers a row where the trail has reasons, which it lacks in files of earlier versions; empty where it always has.
+    const char* findReasons;
+
+    // Of a row of _Payday: whether its days are days, in their order.
+    const char* closedDays;
 
     // Behind a SELECT within a write: nobody else changes these rows before its end.
     const char* lockRows;

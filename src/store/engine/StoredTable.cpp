@@ -63,11 +63,17 @@ constexpr StoredColumn kChange[] = {
     {"After", Json},
     {"EmployeeBefore", Integer},
     {"EmployeeAfter", Integer},
+    {"Reason", Text, true},
+};
+
+constexpr StoredColumn kPayday[] = {
+    {"PaydayID", Integer}, {"EmployeeID", Integer}, {"FromDay", Date},  {"ToDay", Date}, {"PaidAt", Date},
+    {"PaidBy", Text},      {"Regular", Text},       {"Overtime", Text}, {"Gross", Text}, {"Entry", Long},
 };
 
 constexpr StoredTable kTables[] = {
-    {"Company", kCompany, true}, {"Employee", kEmployee, true},         {"TimeRecord", kTimeRecord, true},
-    {"_System", kSystem, false}, {"_CheckLimits", kCheckLimits, false}, {"_Change", kChange, true},
+    {"Company", kCompany, true},           {"Employee", kEmployee, true}, {"TimeRecord", kTimeRecord, true}, {"_System", kSystem, false},
+    {"_CheckLimits", kCheckLimits, false}, {"_Payday", kPayday, true},    {"_Change", kChange, true},
 };
 
 } // namespace

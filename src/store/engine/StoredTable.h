@@ -21,6 +21,7 @@ struct StoredColumn
 {
     const char* name;
     ColumnKind kind;
+    bool mayLack = false; // a file of an earlier version, which has the table
 };
 
 struct StoredTable

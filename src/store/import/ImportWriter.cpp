@@ -18,10 +18,12 @@ namespace {
 
 constexpr std::int32_t kAdministrator = 39;
 
-constexpr const char* kNotEmpty = "the database already holds companies, employees or time records; an older database can only be brought "
-                                  "along into one that is still empty";
+constexpr const char* kNotEmpty =
+    "the database already holds companies, employees, time records or paydays; an older database can only be brought "
+    "along into one that is still empty";
 constexpr const char* kCountOthers = "SELECT (SELECT COUNT(*) FROM Company) + (SELECT COUNT(*) FROM TimeRecord) + "
                                      "(SELECT COUNT(*) FROM Employee WHERE EmployeeID <> 39)";
+constexpr const char* kCountClosings = "SELECT COUNT(*) FROM _Payday";
 constexpr const char* kWhereShipped = " WHERE EmployeeID = 39";
 constexpr const char* kRecords = "SELECT EmployeeID, StartTime, EndTime FROM TimeRecord";
 constexpr const char* kOrphans =
@@ -53,9 +55,16 @@ std::int64_t CountRows(Engine& engine, const ImportTable& table)
     return NumberFrom(engine, fmt::format("SELECT COUNT(*) FROM {}", table.name));
 }
 
+// Without closings in a file of an earlier version.
+bool HasClosings(Engine& engine)
+{
+    const std::string find = Said(engine.Words().findTable, "_Payday");
+    return (find.empty() || !engine.Prepare(find)->ReadRows()->EndOfFile()) && NumberFrom(engine, kCountClosings) != 0;
+}
+
 void RefuseUnlessEmpty(Engine& engine)
 {
-    if (NumberFrom(engine, kCountOthers) != 0) {
+    if (NumberFrom(engine, kCountOthers) != 0 || HasClosings(engine)) {
         throw Failure(0, "PTK", kNotEmpty);
     }
 }

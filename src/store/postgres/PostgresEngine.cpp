@@ -28,12 +28,13 @@ constexpr const char* kBeginWrite = "BEGIN ISOLATION LEVEL READ COMMITTED"; // w
 
 // The first entry of a step has the step's own number; the day and hour of the entries are those where the person sits.
 constexpr const char* kSign =
-    "SELECT set_config('ptk.user', $1, true), set_config('ptk.program', $2, true), set_config('ptk.step', step::text, true), "
+    "SELECT set_config('ptk.user', $1, true), set_config('ptk.program', $2, true), set_config('ptk.reason', $5, true), "
+    "set_config('ptk.step', step::text, true), "
     "set_config('ptk.next', CASE WHEN $3 = '' THEN step::text ELSE '' END, true), set_config('TimeZone', $4, true), "
     "step, pg_current_xact_id()::text "
     "FROM (SELECT COALESCE(NULLIF($3, '')::bigint, nextval('_change_changeid_seq')) AS step) AS numbered";
-constexpr int kStepColumn = 5;
-constexpr int kNumberColumn = 6;
+constexpr int kStepColumn = 6;
+constexpr int kNumberColumn = 7;
 constexpr const char* kNewest = "SELECT COALESCE(NULLIF(current_setting('ptk.last', true), '')::bigint, 0)";
 
 // Asked in this order: what does not run any more is seen by the next question, or never.
@@ -160,7 +161,7 @@ void PostgresEngine::Begin(Transaction transaction)
 ServerCommand PostgresEngine::Signing() const
 {
     const std::string wanted = WantedStep() == 0 ? "" : std::to_string(WantedStep());
-    return {kSign, {Signature().name, Signature().program, wanted, LocalTimeZone()}, true, false};
+    return {kSign, {Signature().name, Signature().program, wanted, LocalTimeZone(), Signature().reason}, true, false};
 }
 
 ServerCommand PostgresEngine::Beginning() const

@@ -11,6 +11,9 @@ inline constexpr EngineWords kPostgresWords{
     .caselessLastName = "lower(COALESCE(LastName, ''))",
     .unusualPunch = "CASE WHEN StartTime IS NOT NULL THEN StartTime = TIMESTAMP '1899-12-30 00:00:00' "
                     "OR EndTime NOT BETWEEN StartTime AND StartTime + interval '1 day' ELSE true END",
+    .readablePunch = "(StartTime <> TIMESTAMP '1899-12-30 00:00:00' AND EndTime IS NOT NULL)",
+    .wholeMinute = "date_trunc('minute', {0})",
+    .minuteOfDay = "CAST(extract(hour FROM {0}) * 60 + extract(minute FROM {0}) AS integer)",
     .inDays = "({0} >= CAST(left(:first, 10) AS date) AND {0} < CAST(left(:last, 10) AS date) + 1)",
     .json = "{0}",
     .jsonField = "({0} ->> '{1}')",
@@ -20,7 +23,11 @@ inline constexpr EngineWords kPostgresWords{
                   "JOIN json_each_text(CAST(:json AS json)) WITH ORDINALITY AS said (key, value, place) ON said.place = one.place "
                   "ORDER BY one.place",
     .number = "'{0}'",
-    .findLimits = "",
+    .findTable = "",
+    .findReasons = "",
+    .closedDays =
+        "(FromDay BETWEEN DATE '0100-01-01' AND ToDay AND ToDay < DATE '10000-01-01' AND date_trunc('day', FromDay) = FromDay AND "
+        "date_trunc('day', ToDay) = ToDay)",
     .lockRows = " FOR UPDATE",
     .lockTable = "LOCK TABLE {0} IN SHARE MODE",
     .openCursor = "DECLARE ptk_rows NO SCROLL CURSOR FOR {0}",

@@ -10,8 +10,9 @@ namespace ptk {
 namespace {
 
 constexpr const char* kEncoding = "SELECT current_setting('server_encoding')";
-constexpr const char* kTables = "SELECT COUNT(*) FROM pg_class WHERE relnamespace = CAST(current_schema() AS regnamespace) AND relname IN ("
-                                "'company', 'employee', 'timerecord', '_system', '_checklimits', '_storedquery', '_change', '_structure')";
+constexpr const char* kTables =
+    "SELECT COUNT(*) FROM pg_class WHERE relnamespace = CAST(current_schema() AS regnamespace) AND relname IN ("
+    "'company', 'employee', 'timerecord', '_system', '_checklimits', '_storedquery', '_change', '_structure', '_payday')";
 constexpr const char* kRoles = "SELECT COUNT(*) FROM pg_roles WHERE rolname IN ('ptk_office', 'ptk_reader')";
 constexpr std::int32_t kRoleCount = 2;
 
@@ -37,7 +38,8 @@ ServerRoles CreateServerDatabase(const std::string& address, const std::function
     PostgresEngine engine(address, NewStructure{});
     engine.BeginMany();
     RefuseUnfit(engine);
-    for (const char* sql : {kServerSchemaSql, kServerStoredQueriesSql, kServerTrailFunctionsSql, kServerTrailSql, kServerRolesSql}) {
+    for (const char* sql :
+         {kServerSchemaSql, kServerStoredQueriesSql, kServerTrailFunctionsSql, kServerTrailSql, kServerStructure3Sql, kServerRolesSql}) {
         engine.RunScript(sql);
     }
     if (fill) {

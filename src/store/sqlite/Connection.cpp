@@ -1,6 +1,7 @@
 #include "store/sqlite/Connection.h"
 
 #include "store/engine/RecordSet.h"
+#include "store/sqlite/EditTrail.h"
 #include "store/sqlite/EngineFailure.h"
 #include "store/sqlite/FileHeader.h"
 #include "store/sqlite/SqliteStatement.h"
@@ -17,6 +18,7 @@ namespace ptk {
 
 namespace {
 
+constexpr const char* kNewer = "the database file was made by a newer version of the program";
 constexpr std::chrono::seconds kPatience(1);
 constexpr std::chrono::milliseconds kBetweenTries(5);
 
@@ -139,7 +141,7 @@ void Connection::RefuseOtherPrograms(std::int32_t applicationId, std::int32_t fo
         throw EngineFailure(SQLITE_NOTADB);
     }
     if (formatNumber > kFormatNumber) {
-        throw EngineFailure(SQLITE_NOTADB, "the database file was made by a newer version of the program");
+        throw EngineFailure(SQLITE_NOTADB, kNewer);
     }
 }
 
@@ -147,7 +149,7 @@ void Connection::RefuseOtherPrograms(std::int32_t applicationId, std::int32_t fo
 void Connection::RefuseForeignFile()
 {
     if (m_inOrder) {
-        return;
+        return RefuseNewerStructure();
     }
     const FileHeader header = ReadFileHeader(Handle());
     if (!header.complete) {
@@ -159,10 +161,38 @@ void Connection::RefuseForeignFile()
     RefuseOtherPrograms(header.applicationId, header.formatNumber);
     if (header.writeAheadLog) {
         RefuseOtherProgramsLog();
-        if (m_access == Access::Write) {
-            LeaveWriteAheadLog();
-        }
     }
+    RefuseNewerStructure();
+    if (header.writeAheadLog && m_access == Access::Write) {
+        LeaveWriteAheadLog();
+    }
+}
+
+// The first has no such table. What else cannot be read here is told by whoever reads more.
+std::int64_t Connection::Structure()
+{
+    std::int64_t version = 1;
+    try {
+        SqliteStatement newest(Handle(), "SELECT MAX(version) FROM _Structure", &m_prepared);
+        newest.ForEachRow([&] { version = newest.Int64At(0); });
+    } catch (const Failure&) {
+        return 1;
+    }
+    return version;
+}
+
+void Connection::RefuseNewerStructure()
+{
+    if (Structure() > kFileStructure) {
+        LeaveLogAlone();
+        throw EngineFailure(SQLITE_NOTADB, kNewer);
+    }
+}
+
+// A log beside a file that is refused must still be there afterwards.
+void Connection::LeaveLogAlone()
+{
+    sqlite3_db_config(Handle(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
 }
 
 // What marks a file as another program's may be in its log only, and must still be there afterwards.
@@ -172,7 +202,7 @@ void Connection::RefuseOtherProgramsLog()
     try {
         RefuseOtherPrograms(number("PRAGMA application_id"), number("PRAGMA user_version"));
     } catch (const Failure&) {
-        sqlite3_db_config(Handle(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
+        LeaveLogAlone();
         throw;
     }
 }

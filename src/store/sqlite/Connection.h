@@ -42,7 +42,7 @@ public:
     // also raises the same. False when it is to be opened anew.
     bool Resume();
 
-    // Raises 26 for an empty file, 11 for one cut short; to be called before anything else.
+    // Raises 26 for an empty file and one of a newer structure, 11 for one cut short; to be called before anything else.
     void RefuseForeignFile();
 
     [[nodiscard]] sqlite3* Handle() const { return m_database.getHandle(); }
@@ -99,6 +99,9 @@ private:
     [[nodiscard]] std::optional<FileState> ReadState() const;
     void RefuseOtherPrograms(std::int32_t applicationId, std::int32_t formatNumber) const;
     void RefuseOtherProgramsLog();
+    [[nodiscard]] std::int64_t Structure();
+    void RefuseNewerStructure();
+    void LeaveLogAlone();
     void LeaveWriteAheadLog();
     [[nodiscard]] bool IsHeld() const;
     bool Wait();

@@ -13,9 +13,11 @@ namespace ptk {
 namespace {
 
 constexpr const char* kFindTrail = "SELECT COUNT(*) FROM sqlite_master WHERE type = 'table' AND name IN ('_Session', '_Change')"; // 2
+constexpr const char* kFindStructure = "SELECT COUNT(*) FROM sqlite_master WHERE type = 'table' AND name = '_Structure'";
+constexpr const char* kStructure = "SELECT COALESCE(MAX(version), 0) FROM _Structure";
 constexpr const char* kNext = "SELECT IFNULL((SELECT seq FROM sqlite_sequence WHERE name = '_Change'), 0) + 1";
-constexpr const char* kClear = "DELETE FROM _Session; INSERT INTO _Session VALUES (NULL, NULL, NULL)";
-constexpr const char* kTables[] = {"TimeRecord", "Employee", "Company", "_System", "_CheckLimits"};
+constexpr const char* kClear = "DELETE FROM _Session; INSERT INTO _Session DEFAULT VALUES";
+constexpr const char* kTables[] = {"TimeRecord", "Employee", "Company", "_System", "_CheckLimits", "_Payday"};
 constexpr const char* kLimits =
     "CREATE TABLE IF NOT EXISTS _CheckLimits (long_shift_hours INTEGER, first_weekday INTEGER, show_notices BOOLEAN);"
     "INSERT INTO _CheckLimits SELECT 16, 0, 1 WHERE NOT EXISTS (SELECT 1 FROM _CheckLimits);";
@@ -49,7 +51,21 @@ void DropUnusableTriggers(Engine& engine, const char* table)
     }
 }
 
+void AddColumn(Engine& engine, const char* table, const char* column)
+{
+    const std::string find = fmt::format("SELECT 1 FROM pragma_table_info('{}') WHERE name = '{}' COLLATE NOCASE", table, column);
+    if (engine.Prepare(find)->ReadRows()->EndOfFile()) {
+        engine.RunScript(fmt::format("ALTER TABLE {} ADD COLUMN {} TEXT", table, column).c_str());
+    }
+}
+
 } // namespace
+
+bool IsUpToDate(Engine& engine)
+{
+    return HasTrail(engine) && engine.Prepare(kFindStructure)->ReadRows()->Int32At(0) == 1 &&
+           engine.Prepare(kStructure)->ReadRows()->Int64At(0) >= kFileStructure;
+}
 
 bool HasTrail(Engine& engine)
 {
@@ -61,12 +77,18 @@ std::int64_t NextStep(Engine& engine)
     return engine.Prepare(kNext)->ReadRows()->Int64At(0);
 }
 
+// A file that stays of an earlier version has no place for a reason.
 void OpenStep(Engine& engine, const Author& author, std::int64_t step)
 {
     engine.RunScript("DELETE FROM _Session");
-    const auto set = engine.Prepare(fmt::format("INSERT INTO _Session VALUES (:user, :program, {})", step));
+    const bool hasReason = !author.reason.empty();
+    const auto set = engine.Prepare(fmt::format("INSERT INTO _Session (user, program, step{}) VALUES (:user, :program, {}{})",
+                                                hasReason ? ", reason" : "", step, hasReason ? ", :reason" : ""));
     set->Bind("user", TextOrNull(author.name));
     set->Bind("program", TextOrNull(author.program));
+    if (hasReason) {
+        set->Bind("reason", author.reason);
+    }
     set->Run();
 }
 
@@ -84,10 +106,17 @@ void AddEntry(Engine& engine, const char* action, const std::string& file)
     entry->Run();
 }
 
-void InstallTrail(Engine& engine)
+void BringUpToDate(Engine& engine)
 {
     engine.RunScript(kLimits);
-    engine.RunScript(kTrailSql);
+    if (HasTrail(engine)) {
+        AddColumn(engine, "_Session", "reason");
+        AddColumn(engine, "_Change", "Reason");
+    } else {
+        engine.RunScript(kTrailSql);
+    }
+    engine.RunScript(kTrailEntrySql);
+    engine.RunScript(kPaydaySql);
     for (const char* table : kTables) {
         DropUnusableTriggers(engine, table);
     }

@@ -126,20 +126,29 @@ void SqliteEngine::Write(const std::function<void()>& steps)
 
 void SqliteEngine::RunSteps(const std::function<void()>& steps)
 {
-    if (HasTrail()) {
-        return RunSigned(steps);
+    if (m_keepCopy && !IsUpToDate(*this)) {
+        return RunUpdating(steps);
     }
+    return HasTrail() ? RunSigned(steps) : RunWithin(m_connection->Handle(), steps);
+}
+
+// The first time shows whether the steps change anything; they may ask for what only an up-to-date file has.
+void SqliteEngine::RunUpdating(const std::function<void()>& steps)
+{
     Connection& connection = *m_connection;
+    BringUpToDate(*this);
     const int before = sqlite3_total_changes(connection.Handle());
     RunWithin(connection.Handle(), steps);
-    if (!m_keepCopy || sqlite3_total_changes(connection.Handle()) == before) {
-        return;
-    }
+    const bool changes = sqlite3_total_changes(connection.Handle()) != before;
     connection.Release();
-    m_keepCopy();
+    if (changes) {
+        m_keepCopy();
+    }
     connection.PrepareWrite();
-    InstallTrail(*this);
-    RunSigned(steps);
+    if (changes) {
+        BringUpToDate(*this);
+        RunSigned(steps);
+    }
 }
 
 void SqliteEngine::RunSigned(const std::function<void()>& steps)
@@ -148,7 +157,13 @@ void SqliteEngine::RunSigned(const std::function<void()>& steps)
     const std::int64_t step = WantedStep() != 0 ? WantedStep() : next;
     OpenStep(*this, Signature(), step);
     TookStep(step);
+    const int before = sqlite3_total_changes(m_connection->Handle());
     RunWithin(m_connection->Handle(), steps);
+    if (sqlite3_total_changes(m_connection->Handle()) == before) { // no byte of the file is to change
+        m_connection->Release();
+        TookStep(0);
+        return m_connection->PrepareWrite();
+    }
     CloseStep(*this);
     TookStep(NextStep(*this) == next ? 0 : step); // a number without entries is given to the next step
 }

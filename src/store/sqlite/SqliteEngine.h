@@ -43,8 +43,8 @@ public:
     void Hold() override;
     void GiveUp() noexcept override;
 
-    // In a file of an earlier version, which has no trail, steps that change any row are undone, `keepCopy` is called, with nobody else at
-    // the file meanwhile, and they are done again together with the making of the trail; without `keepCopy` such a file stays as it is.
+    // In a file of an earlier version, steps that change any row are undone, `keepCopy` is called, with nobody else at the file meanwhile,
+    // and they are done again together with bringing it up to date; without `keepCopy` such a file stays as it is.
     void Write(const std::function<void()>& steps) override;
     void KeepCopy(std::function<void()> keepCopy) { m_keepCopy = std::move(keepCopy); }
 
@@ -78,6 +78,7 @@ private:
     Connection& Open() const;
     std::shared_ptr<RecordSet> Patiently(const char* pragma);
     void RunSteps(const std::function<void()>& steps);
+    void RunUpdating(const std::function<void()>& steps);
     void RunSigned(const std::function<void()>& steps);
 
     std::unique_ptr<Connection> m_connection;

@@ -14,7 +14,7 @@ namespace {
 
 std::string KeyOf(const std::string& table)
 {
-    return table + "ID";
+    return (table.starts_with('_') ? table.substr(1) : table) + "ID";
 }
 
 std::string TextLiteral(const std::string& text)

@@ -17,7 +17,7 @@ class Engine;
 // they are.
 struct RowChange
 {
-    std::string table; // TimeRecord, Employee or Company
+    std::string table; // TimeRecord, Employee, Company or _Payday
     std::int64_t row = 0;
     std::optional<TrailRow> before;
     std::optional<TrailRow> after;

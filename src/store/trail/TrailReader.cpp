@@ -2,6 +2,7 @@
 
 #include "store/CJetDB.h"
 #include "store/engine/EngineWords.h"
+#include "store/engine/RecordSet.h"
 #include "store/engine/Statement.h"
 #include "store/trail/TrailSQL.h"
 
@@ -15,6 +16,10 @@ namespace {
 constexpr const char* kPersons = "WITH RECURSIVE Person (name) AS (SELECT MIN(ChangedBy) FROM _Change WHERE ChangedBy > '' UNION ALL "
                                  "SELECT (SELECT MIN(ChangedBy) FROM _Change WHERE ChangedBy > name) FROM Person WHERE name IS NOT NULL) "
                                  "SELECT CAST(name AS TEXT) FROM Person WHERE name IS NOT NULL";
+
+constexpr const char* kReasons =
+    "SELECT CAST(Reason AS TEXT) FROM (SELECT Reason, ChangeID FROM _Change ORDER BY ChangeID DESC LIMIT 5000) AS "
+    "Newest WHERE Reason <> '' GROUP BY Reason ORDER BY MAX(ChangeID) DESC LIMIT ";
 
 std::string TextOf(const Statement& row, int column)
 {
@@ -58,6 +63,12 @@ private:
     std::unique_ptr<Statement> m_fields;
 };
 
+bool HasReasons(CJetDB& database)
+{
+    const std::string find = database.Words().findReasons;
+    return find.empty() || RequireSelect(database, find)->ReadRows()->RecordCount() != 0;
+}
+
 TrailEntry EntryOf(const Statement& row, RowParser& parser)
 {
     TrailEntry entry;
@@ -73,6 +84,7 @@ TrailEntry EntryOf(const Statement& row, RowParser& parser)
     entry.before = parser.Parse(row, kBefore);
     entry.after = parser.Parse(row, kAfter);
     entry.employee = NumberOf(row, kEmployee);
+    entry.reason = TextOf(row, kReason);
     return entry;
 }
 
@@ -92,7 +104,7 @@ void ReadTrail(const std::shared_ptr<CJetDB>& database, const TrailQuery& query,
         return;
     }
     RowParser parser(*database);
-    const auto entries = RequireSelect(*database, TrailSql(query, database->Words()));
+    const auto entries = RequireSelect(*database, TrailSql(query, database->Words(), HasReasons(*database)));
     BindTrail(*entries, query);
     entries->ForEachRow([&] { take(EntryOf(*entries, parser)); });
 }
@@ -114,6 +126,18 @@ std::vector<std::string> ReadTrailPersons(const std::shared_ptr<CJetDB>& databas
         names->ForEachRow([&] { persons.emplace_back(names->TextAt(0)); });
     }
     return persons;
+}
+
+std::vector<std::string> ReadTrailReasons(const std::shared_ptr<CJetDB>& database, std::int32_t most)
+{
+    const CJetDB::Hold hold(database);
+    RequireOpen(*database);
+    std::vector<std::string> reasons;
+    if (database->HasTrail() && HasReasons(*database)) {
+        const auto rows = RequireSelect(*database, kReasons + std::to_string(most));
+        rows->ForEachRow([&] { reasons.emplace_back(rows->TextAt(0)); });
+    }
+    return reasons;
 }
 
 } // namespace ptk

@@ -50,6 +50,7 @@ struct TrailEntry
     std::optional<TrailRow> before;
     std::optional<TrailRow> after;
     std::optional<std::int64_t> employee; // whose row it is or was, or whose record
+    std::string reason;                   // empty without one
 };
 
 enum class TrailKind : std::uint8_t
@@ -58,7 +59,8 @@ enum class TrailKind : std::uint8_t
     Employees,
     Companies,
     Options, // those of the check, too
-    Whole    // restores and imports
+    Paydays,
+    Whole // restores and imports
 };
 
 // Days, both included.
@@ -94,5 +96,9 @@ void ReadTrail(const std::shared_ptr<CJetDB>& database, const TrailQuery& query,
 
 // Everybody whom an entry names, in the order of their names. Raises the same.
 [[nodiscard]] std::vector<std::string> ReadTrailPersons(const std::shared_ptr<CJetDB>& database);
+
+// The reasons of the newest changes, each once, the last one first; of some thousand changes, so that it costs the same in a long trail.
+// Raises the same.
+[[nodiscard]] std::vector<std::string> ReadTrailReasons(const std::shared_ptr<CJetDB>& database, std::int32_t most);
 
 } // namespace ptk

@@ -12,11 +12,11 @@ namespace ptk {
 
 namespace {
 
-std::string Columns(const EngineWords& words)
+std::string Columns(const EngineWords& words, bool hasReasons)
 {
     return fmt::format("ChangeID, ChangedAt, ChangedBy, Program, Step, TableName, RowID, Action, {}, {}, "
-                       "COALESCE(EmployeeAfter, EmployeeBefore)",
-                       Said(words.json, "Before"), Said(words.json, "After"));
+                       "COALESCE(EmployeeAfter, EmployeeBefore), {}",
+                       Said(words.json, "Before"), Said(words.json, "After"), hasReasons ? "Reason" : "NULL");
 }
 
 // An employee's entries in two halves: each finds an entry once, by its own index and in the order of the numbers.
@@ -35,6 +35,8 @@ const char* ConditionOf(TrailKind kind)
         return "TableName IS DISTINCT FROM 'TimeRecord' AND TableName = 'Company'";
     case TrailKind::Options:
         return "TableName IS DISTINCT FROM 'TimeRecord' AND TableName IN ('_System', '_CheckLimits')";
+    case TrailKind::Paydays:
+        return "TableName IS DISTINCT FROM 'TimeRecord' AND TableName = '_Payday'";
     default:
         return "TableName IS DISTINCT FROM 'TimeRecord' AND TableName IS NULL";
     }
@@ -117,9 +119,9 @@ void BindNumber(Statement& statement, const char* name, const std::optional<std:
 
 } // namespace
 
-std::string TrailSql(const TrailQuery& query, const EngineWords& words)
+std::string TrailSql(const TrailQuery& query, const EngineWords& words, bool hasReasons)
 {
-    const std::string select = fmt::format("SELECT {} FROM _Change WHERE {}", Columns(words), Conditions(query));
+    const std::string select = fmt::format("SELECT {} FROM _Change WHERE {}", Columns(words, hasReasons), Conditions(query));
     const std::string end = fmt::format(" ORDER BY 1 DESC LIMIT {}", query.most);
     if (!query.employee) {
         return select + end;

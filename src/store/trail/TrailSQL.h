@@ -24,14 +24,16 @@ enum Column
     kAction,
     kBefore,
     kAfter,
-    kEmployee
+    kEmployee,
+    kReason
 };
 
 } // namespace trailsql
 
 // The statement that answers such a query, newest first. What it reads to the first entries does not grow with the trail where the query
 // names an employee, a person, records, or a kind other than time records; else it reads from the newest entry on.
-[[nodiscard]] std::string TrailSql(const TrailQuery& query, const EngineWords& words);
+// hasReasons: whether the trail has that column; else none is told.
+[[nodiscard]] std::string TrailSql(const TrailQuery& query, const EngineWords& words, bool hasReasons);
 
 // All that it asks for.
 void BindTrail(Statement& statement, const TrailQuery& query);

@@ -55,9 +55,19 @@ constexpr ExpectedColumns kTrailColumns[] = {
     {"_Change", "TEXT", "ChangedAt ChangedBy Program TableName Action Before After"},
 };
 
+// What came with the number of the structure, which files of earlier versions lack as well.
+constexpr ExpectedColumns kStructureColumns[] = {
+    {"_Structure", "INTEGER", "version"},
+    {"_Session", "TEXT", "reason"},
+    {"_Change", "TEXT", "Reason"},
+    {"_Payday", "INTEGER", "PaydayID EmployeeID Entry"},
+    {"_Payday", "DATETIME", "FromDay ToDay PaidAt"},
+    {"_Payday", "TEXT", "PaidBy Regular Overtime Gross"},
+};
+
 constexpr const char* kFileUnwatched =
     "SELECT m.name FROM sqlite_master m WHERE m.type = 'table' AND m.name IN "
-    "('TimeRecord', 'Employee', 'Company', '_System', '_CheckLimits') AND (SELECT COUNT(*) FROM "
+    "('TimeRecord', 'Employee', 'Company', '_System', '_CheckLimits', '_Payday') AND (SELECT COUNT(*) FROM "
     "sqlite_master t WHERE t.type = 'trigger' AND t.tbl_name = m.name AND t.sql LIKE '%INTO _Edit%') < 3";
 
 constexpr const char* kFileUselessLimits =
@@ -81,6 +91,7 @@ public:
         CountRows();
         CheckLimitsTable();
         CheckTrail();
+        CheckStructure();
         m_rows.TryActions();
         m_rows.CheckRows(m_incomplete);
         return std::move(m_check);
@@ -145,6 +156,22 @@ private:
         }
         for (const auto rows = m_engine.Select(kFileUnwatched); !rows->EndOfFile(); rows->MoveNext()) {
             Report("The edit trail misses changes of the table {}.", rows->TextAt(0));
+        }
+    }
+
+    void CheckStructure()
+    {
+        if (!HasTable("_Structure")) {
+            return;
+        }
+        for (const ExpectedColumns& columns : kStructureColumns) {
+            CheckColumns(columns);
+        }
+        if (!m_incomplete.contains("_Structure") && Count("_Structure") != 1) {
+            Report("The table _Structure has {} rows, not 1.", Count("_Structure"));
+        }
+        if (!m_incomplete.contains("_Payday")) {
+            m_rows.CheckClosings();
         }
     }
 

@@ -30,7 +30,7 @@ constexpr const char* kUnequal = "the copy does not hold as many rows as the dat
 constexpr const char* kEnded = "the copy was ended";
 
 constexpr const char* kTables = "SELECT name FROM sqlite_master WHERE type = 'table' AND name NOT LIKE 'sqlite^_%' ESCAPE '^' AND name "
-                                "COLLATE NOCASE NOT IN ('_Session', '_StoredQuery')";
+                                "COLLATE NOCASE NOT IN ('_Session', '_StoredQuery', '_Structure')";
 
 struct Source
 {
@@ -134,25 +134,33 @@ Failure Refusal(const StoredTable& table, const Statement& row, const Unfit& unf
                         Shown(row, unfit.column), unfit.why)};
 }
 
-std::string SelectText(const StoredTable& table, const std::string& condition = "TRUE")
+bool HasColumn(Engine& file, const StoredTable& table, const char* column)
+{
+    return NumberFrom(
+               file, fmt::format("SELECT COUNT(*) FROM pragma_table_info('{}') WHERE name = '{}' COLLATE NOCASE", table.name, column)) != 0;
+}
+
+// A file's column that is not there yet is null in every row.
+std::string SelectText(const Source& source, const StoredTable& table, const std::string& condition = "TRUE")
 {
     std::string names;
     for (const StoredColumn& column : table.columns) {
-        names += fmt::format("{}{}", names.empty() ? "" : ", ", column.name);
+        const bool lacks = source.isFile && column.mayLack && !HasColumn(*source.engine, table, column.name);
+        names += fmt::format("{}{}", names.empty() ? "" : ", ", lacks ? "NULL" : column.name);
     }
     return fmt::format("SELECT {} FROM {} WHERE {}{}", names, table.name, condition,
                        table.hasKey ? fmt::format(" ORDER BY {}", table.columns.front().name) : std::string());
 }
 
 // What another tool wrote into a file's trail may be anything; a server's copy would be refused only at its end.
-void RefuseNoJson(Engine& file, const StoredTable& table)
+void RefuseNoJson(const Source& file, const StoredTable& table)
 {
     for (std::size_t i = 0; i < table.columns.size(); ++i) {
         if (table.columns[i].kind != ColumnKind::Json) {
             continue;
         }
-        const auto row =
-            file.Prepare(SelectText(table, fmt::format("typeof({0}) = 'text' AND NOT json_valid({0})", table.columns[i].name)));
+        const auto row = file.engine->Prepare(
+            SelectText(file, table, fmt::format("typeof({0}) = 'text' AND NOT json_valid({0})", table.columns[i].name)));
         row->ForEachRow([&] { throw Refusal(table, *row, Unfit{static_cast<int>(i), "no JSON"}); });
     }
 }
@@ -160,7 +168,8 @@ void RefuseNoJson(Engine& file, const StoredTable& table)
 class Copy
 {
 public:
-    Copy(Engine& source, CopyAccount& account, const RowProgress& progress) : m_source(source), m_account(account), m_progress(progress)
+    Copy(const Source& source, CopyAccount& account, const RowProgress& progress)
+        : m_source(source), m_account(account), m_progress(progress)
     {
         for (const CopiedTable& table : account.tables) {
             m_all += table.before.value_or(0);
@@ -187,7 +196,7 @@ private:
     {
         target.Prepare(fmt::format("DELETE FROM {}", table.name))->Run(); // the rows of a new database
         const auto sink = target.Fill(table);
-        ForEachRowOf(m_source, SelectText(table), [&](const Statement& row) {
+        ForEachRowOf(*m_source.engine, SelectText(m_source, table), [&](const Statement& row) {
             try {
                 sink->Add(row);
             } catch (const Unfit& unfit) {
@@ -204,8 +213,8 @@ private:
     void SkipNumbers(Engine& target, const StoredTable& table)
     {
         const char* const key = table.columns.front().name;
-        const std::int64_t given = NumberFrom(m_source, Said(m_source.Words().lastNumber, table.name, key));
-        const std::int64_t greatest = NumberFrom(m_source, fmt::format("SELECT COALESCE(MAX({}), 0) FROM {}", key, table.name));
+        const std::int64_t given = NumberFrom(*m_source.engine, Said(m_source.engine->Words().lastNumber, table.name, key));
+        const std::int64_t greatest = NumberFrom(*m_source.engine, fmt::format("SELECT COALESCE(MAX({}), 0) FROM {}", key, table.name));
         target.RunScript(Said(target.Words().skipNumbers, table.name, key, std::max(given, greatest)).c_str());
     }
 
@@ -216,7 +225,7 @@ private:
         }
     }
 
-    Engine& m_source;
+    const Source& m_source;
     CopyAccount& m_account;
     const RowProgress& m_progress;
     std::int64_t m_done = 0;
@@ -261,10 +270,10 @@ CopyAccount CopyDatabase(const std::string& from, const std::string& to, const R
     if (source.isFile) {
         account.leftBehind = ForeignParts(*source.engine);
         if (account.tables.back().before) {
-            RefuseNoJson(*source.engine, StoredTables().back()); // the trail
+            RefuseNoJson(source, StoredTables().back()); // the trail
         }
     }
-    account.leftToDo = CreateFilledDatabase(to, [&](Engine& target) { Copy(*source.engine, account, progress).Into(target); });
+    account.leftToDo = CreateFilledDatabase(to, [&](Engine& target) { Copy(source, account, progress).Into(target); });
     return account;
 }
 

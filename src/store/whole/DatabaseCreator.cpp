@@ -50,7 +50,7 @@ void Fill(Engine& engine, const std::function<void(Engine&)>& fill)
     engine.BeginMany();
     engine.RunScript(kSchemaSql);
     engine.RunScript(kStoredQueriesSql);
-    InstallTrail(engine);
+    BringUpToDate(engine);
     if (fill) {
         engine.Untold([&] { fill(engine); }); // what a new database starts with is no change
     }

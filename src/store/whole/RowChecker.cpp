@@ -93,6 +93,15 @@ void RowChecker::CheckRows(const std::set<std::string>& incomplete)
     TryListing("GetAllEmployees", EmployeeTable(), ReadEmployee);
 }
 
+void RowChecker::CheckClosings()
+{
+    ForEachRowOf(m_engine, fmt::format("SELECT PaydayID FROM _Payday WHERE {} IS NOT TRUE ORDER BY PaydayID", m_engine.Words().closedDays),
+                 [&](const Statement& row) {
+                     m_problems.push_back(
+                         fmt::format("The days of _Payday {} cannot be read or run backward: it counts for nothing.", row.TextAt(0)));
+                 });
+}
+
 void RowChecker::TryActions()
 {
     TryAction("AddNewCompany", AddNewCompanyParameters({}));

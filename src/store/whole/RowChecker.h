@@ -21,6 +21,9 @@ public:
     // Of all tables but those that lack a column, and whether the stored queries of the lists run and answer the columns that are read.
     void CheckRows(const std::set<std::string>& incomplete);
 
+    // Of _Payday: whether the days of each row are days.
+    void CheckClosings();
+
     // Of the stored queries that store: whether they could run and know the parameters that they are given.
     void TryActions();
 

@@ -23,13 +23,14 @@ constexpr const char* kColumns = "SELECT attname::text, format_type(atttypid, at
 
 // Inserts, deletions and updates are the bits 4, 8 and 16 of what a trigger answers to; one that is switched off does so to nothing.
 constexpr const char* kUnwatched =
-    "SELECT name FROM (VALUES ('Company'), ('Employee'), ('TimeRecord'), ('_System'), ('_CheckLimits')) AS tables (name) WHERE "
+    "SELECT name FROM (VALUES ('Company'), ('Employee'), ('TimeRecord'), ('_System'), ('_CheckLimits'), ('_Payday')) AS tables (name) "
+    "WHERE "
     "to_regclass(name) IS NOT NULL AND COALESCE((SELECT bit_or(tgtype::integer) FROM pg_trigger JOIN pg_proc ON pg_proc.oid = tgfoid "
     "WHERE tgrelid = to_regclass(name) AND proname = 'ptk_tell' AND tgenabled IN ('O', 'A')), 0) & 28 <> 28";
 
-constexpr const char* kMissingIndexes =
-    "SELECT name FROM (VALUES ('EmployeeOrder'), ('TimeRecordPeriod'), ('TimeRecordUnusual')) AS indexes (name) "
-    "WHERE NOT EXISTS (SELECT 1 FROM pg_index WHERE indexrelid = to_regclass(name) AND indisvalid)";
+constexpr const char* kMissingIndexes = "SELECT name FROM (VALUES ('EmployeeOrder'), ('TimeRecordPeriod'), ('TimeRecordUnusual'), "
+                                        "('_PaydayEmployee'), ('_PaydayLast')) AS indexes (name) "
+                                        "WHERE NOT EXISTS (SELECT 1 FROM pg_index WHERE indexrelid = to_regclass(name) AND indisvalid)";
 
 constexpr const char* kUselessLimits =
     "SELECT COUNT(*) FROM _CheckLimits WHERE (long_shift_hours >= 0 AND first_weekday BETWEEN 0 AND 6 AND show_notices IS NOT NULL) IS NOT "
@@ -72,6 +73,9 @@ public:
         CheckNames(kMissingIndexes, "There is no usable index {}: lists and time cards take long.");
         CountRows();
         CheckLimits();
+        if (!m_incomplete.contains("_Payday")) {
+            m_rows.CheckClosings();
+        }
         m_rows.TryActions();
         m_rows.CheckRows(m_incomplete);
         return std::move(m_check);

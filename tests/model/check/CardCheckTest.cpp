@@ -142,11 +142,11 @@ TEST(CardCheckTest, NamesRowsThatCannotBeReadWhereTheyBelong)
         EXPECT_EQ(Summary(Check(Worker(), Rows(c.shifts))), c.findings) << c.name;
     }
     Punches taken = Rows({{"4/2/2026 8:00", ""}, {"3/2/2026 8:00", "3/2/2026 8:00"}});
-    EXPECT_TRUE(Check(Worker(), taken).figuresReadable);
+    EXPECT_EQ(Check(Worker(), taken).figures, (CardFigures{"0.00", "0.00", "0.00"}));
     taken[0].fetched = true;
     const CardCheck check = Check(Worker(), taken);
     EXPECT_EQ(Summary(check), "empty 2: 0; unreadable 1: 0");
-    EXPECT_FALSE(check.figuresReadable);
+    EXPECT_FALSE(check.figures);
     EXPECT_EQ(check.findings[1].text, "Record 1, which begins on 04/02/2026 08:00 AM, cannot be read: it has the end later.");
 }
 

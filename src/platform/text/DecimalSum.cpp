@@ -1,4 +1,4 @@
-#include "office/overview/DecimalSum.h"
+#include "platform/text/DecimalSum.h"
 
 #include "platform/text/Characters.h"
 

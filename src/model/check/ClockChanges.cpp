@@ -1,0 +1,32 @@
+#include "model/check/ClockChanges.h"
+
+#include <utility>
+
+namespace ptk {
+
+ClockChanges::ClockChanges(OffsetAt offsetAt) : m_offsetAt(std::move(offsetAt)) {}
+
+std::int64_t ClockChanges::AtMidnight(std::int64_t dayNumber)
+{
+    const auto known = m_midnights.find(dayNumber);
+    if (known != m_midnights.end()) {
+        return known->second;
+    }
+    return m_midnights[dayNumber] = m_offsetAt(DateTime::FromSeconds(dayNumber * DateTime::kSecondsPerDay));
+}
+
+// No zone changes its clocks twice on one day.
+std::int64_t ClockChanges::At(DateTime moment)
+{
+    static const std::int64_t lastDay = DateTime(CalendarDate{9999, 12, 31}).DayNumber();
+    const std::int64_t day = moment.DayNumber();
+    const std::int64_t offset = AtMidnight(day);
+    return day == lastDay || AtMidnight(day + 1) == offset ? offset : m_offsetAt(moment);
+}
+
+std::int64_t ClockChanges::Between(DateTime earlier, DateTime later)
+{
+    return At(later) - At(earlier);
+}
+
+} // namespace ptk

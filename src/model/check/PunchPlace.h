@@ -1,0 +1,44 @@
+// Where a punch lies, as seen from one pay period.
+#pragma once
+
+#include "model/check/Punch.h"
+#include "model/PayPeriod.h"
+
+#include <cstdint>
+
+namespace ptk {
+
+// Whether a shift goes on over the midnight with which a day begins, the one after the calendar's last day included. REQUIRES: readable.
+[[nodiscard]] inline bool Crosses(const Punch& punch, std::int64_t dayNumber)
+{
+    const std::int64_t midnight = dayNumber * DateTime::kSecondsPerDay;
+    return !punch.IsOpen() && punch.start->Seconds() < midnight && punch.end->Seconds() > midnight;
+}
+
+[[nodiscard]] inline bool StartsIn(const PayPeriod& period, DateTime moment)
+{
+    return period.from.DayNumber() <= moment.DayNumber() && moment.DayNumber() <= period.to.DayNumber();
+}
+
+// One that cannot be read: where its start lies, else its end, else everywhere; and wherever it keeps a card from being made.
+[[nodiscard]] inline bool IsToldIn(const PayPeriod& period, const Punch& punch)
+{
+    if (punch.fetched) {
+        return true;
+    }
+    if (IsSet(punch.start)) {
+        return StartsIn(period, *punch.start);
+    }
+    return !IsSet(punch.end) || StartsIn(period, *punch.end);
+}
+
+// Whether it has to do with the period at all: it is on its card, crosses one of its ends, or cannot be read and is told there.
+[[nodiscard]] inline bool LiesIn(const PayPeriod& period, const Punch& punch)
+{
+    if (!punch.IsReadable()) {
+        return IsToldIn(period, punch);
+    }
+    return punch.fetched || Crosses(punch, period.from.DayNumber()) || Crosses(punch, period.to.DayNumber() + 1);
+}
+
+} // namespace ptk

@@ -1,0 +1,24 @@
+// Reads what was closed, as it stands in the table _Payday. A row whose days cannot be read, are no whole days or run backward takes part
+// in nothing; files of earlier versions have no such table, and nothing closed.
+#pragma once
+
+#include "model/payday/Closing.h"
+
+#include <memory>
+
+namespace ptk {
+
+class CJetDB;
+
+// All of these raise the failure of a database that cannot be opened or read. REQUIRES: database is not nullptr.
+
+// What an overview or a card of this period needs to know, by one question, of everybody or of one employee. What it costs does not grow
+// with the closings of earlier periods.
+[[nodiscard]] Closings ReadClosings(const std::shared_ptr<CJetDB>& database, const PayPeriod& period,
+                                    std::optional<std::int64_t> employee = std::nullopt);
+
+// The period that follows what was closed last, of whomever: it begins on the day after the greatest last day and has as many days. Nothing
+// where nothing is closed, or where it would leave the calendar.
+[[nodiscard]] std::optional<PayPeriod> PeriodToClose(const std::shared_ptr<CJetDB>& database);
+
+} // namespace ptk

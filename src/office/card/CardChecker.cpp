@@ -1,0 +1,118 @@
+#include "office/card/CardChecker.h"
+
+#include "model/CEmployee.h"
+#include "model/check/PunchPlace.h"
+#include "model/payday/ClosingReader.h"
+#include "platform/system/LocalOffset.h"
+#include "store/CJetDB.h"
+#include "store/engine/Statement.h"
+#include "store/PunchSQL.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace ptk {
+
+namespace {
+
+// Days that lie in no period, perhaps none: those between the last closed one and this.
+std::optional<PayPeriod> GapBefore(const PayPeriod& period, const ClosingsOfEmployee& closings)
+{
+    if (!closings.lastDayBefore || DaysBetween(*closings.lastDayBefore, period.from) < 2) {
+        return std::nullopt;
+    }
+    return PayPeriod{closings.lastDayBefore->AddDays(1), period.from.AddDays(-1)};
+}
+
+// The first day of the period of as many days before; the calendar's first day where that lies before it.
+DateTime FirstDayBefore(const PayPeriod& period)
+{
+    static const DateTime firstOfAll(CalendarDate{100, 1, 1});
+    const std::int64_t days = std::min(DaysBetween(period.from, period.to) + 1, DaysBetween(firstOfAll, period.from));
+    return period.from.AddDays(-days);
+}
+
+} // namespace
+
+CardChecker::CardChecker(std::shared_ptr<CJetDB> database, const CheckTerms& terms, std::optional<std::int32_t> onlyEmployee)
+    : m_database(std::move(database)), m_terms(terms), m_reader(*m_database, terms.period, terms.limits.firstWeekday),
+      m_closings(ReadClosings(m_database, terms.period, onlyEmployee)), m_clock(LocalOffset), m_usualEnds(m_database)
+{
+}
+
+const ClosingsOfEmployee* CardChecker::ClosingsOf(std::int32_t employeeID) const
+{
+    const auto found = m_closings.find(employeeID);
+    return found == m_closings.end() ? nullptr : &found->second;
+}
+
+CardCheck CardChecker::Check(const CEmployee& employee)
+{
+    const std::int32_t id = employee.EmployeeID();
+    CardFacts facts{ClosingsOf(id), &m_clock, [&] { return WorkedBefore(id); }};
+    m_rows = m_reader.Read(id);
+    if (facts.closings != nullptr) {
+        ReadGap(id, *facts.closings);
+    }
+    return CheckCard({employee, m_terms.period.from, m_terms.period.to}, m_rows, m_terms.now, m_terms.limits, facts);
+}
+
+// None of the rows that it adds is on the card: what is, was read before.
+void CardChecker::ReadGap(std::int32_t employeeID, const ClosingsOfEmployee& closings)
+{
+    const auto gap = GapBefore(m_terms.period, closings);
+    if (!gap) {
+        return;
+    }
+    auto& reader = m_gaps[gap->from];
+    if (reader == nullptr) {
+        reader = std::make_unique<PunchReader>(*m_database, *gap, m_terms.limits.firstWeekday);
+    }
+    const std::size_t known = m_rows.size();
+    for (Punch& punch : reader->Read(employeeID)) {
+        const auto end = m_rows.begin() + static_cast<std::ptrdiff_t>(known);
+        if (std::none_of(m_rows.begin(), end, [&](const Punch& row) { return row.id == punch.id; })) {
+            punch.fetched = false;
+            m_rows.push_back(std::move(punch));
+        }
+    }
+}
+
+bool CardChecker::WorkedBefore(std::int32_t employeeID)
+{
+    if (!m_workedBefore) {
+        m_workedBefore.emplace();
+        const auto rows = RequireSelect(*m_database, punchsql::WithShiftsIn(m_database->Words()));
+        rows->Bind("first", FirstDayBefore(m_terms.period));
+        rows->Bind("end", m_terms.period.from);
+        rows->ForEachRow([&] { m_workedBefore->insert(rows->Int64At(0)); });
+    }
+    return m_workedBefore->contains(employeeID);
+}
+
+std::int32_t CardChecker::RecordsOfPeriod() const
+{
+    return static_cast<std::int32_t>(
+        std::count_if(m_rows.begin(), m_rows.end(), [&](const Punch& punch) { return LiesIn(m_terms.period, punch); }));
+}
+
+std::optional<Closing> CardChecker::Paid(std::int32_t employeeID) const
+{
+    const ClosingsOfEmployee* closings = ClosingsOf(employeeID);
+    return closings == nullptr || closings->Newest() == nullptr ? std::nullopt : std::optional(*closings->Newest());
+}
+
+std::vector<std::vector<Remedy>> CardChecker::Remedies(const CEmployee& employee, const CardCheck& check,
+                                                       std::optional<std::int64_t> autoShiftEnd)
+{
+    const CheckedCard card{employee, m_terms.period.from, m_terms.period.to};
+    const ShiftEnds ends{[&](DateTime start) { return m_usualEnds.At(employee.EmployeeID(), start); }, autoShiftEnd};
+    std::vector<std::vector<Remedy>> remedies;
+    remedies.reserve(check.findings.size());
+    for (const Finding& finding : check.findings) {
+        remedies.push_back(RemediesOf(finding, {card, m_rows, check, m_terms.limits}, ends));
+    }
+    return remedies;
+}
+
+} // namespace ptk

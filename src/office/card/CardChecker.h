@@ -1,0 +1,68 @@
+// Checks the cards of one pay period, one employee after the other, with all that a check looks at.
+#pragma once
+
+#include "model/check/CardCheck.h"
+#include "model/check/ClockChanges.h"
+#include "model/check/PunchReader.h"
+#include "model/payday/Closing.h"
+#include "model/PayPeriod.h"
+#include "model/remedy/Remedy.h"
+#include "model/remedy/UsualEnds.h"
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <optional>
+#include <set>
+#include <vector>
+
+namespace ptk {
+
+class CEmployee;
+class CJetDB;
+
+// What a check is made with besides the records.
+struct CheckTerms
+{
+    PayPeriod period;
+    DateTime now;
+    CheckLimits limits;
+};
+
+// Every member raises what reading the database raises.
+class CardChecker
+{
+public:
+    // Reads what was closed: of everybody by one question, or of one employee. REQUIRES: a CJetDB::Hold on the open database outlives it.
+    CardChecker(std::shared_ptr<CJetDB> database, const CheckTerms& terms, std::optional<std::int32_t> onlyEmployee = std::nullopt);
+
+    [[nodiscard]] CardCheck Check(const CEmployee& employee);
+
+    // Of the last Check: the rows that it looked at, and how many of them have to do with the period.
+    [[nodiscard]] const Punches& Rows() const { return m_rows; }
+    [[nodiscard]] std::int32_t RecordsOfPeriod() const;
+
+    // What was paid for exactly this period, where it was.
+    [[nodiscard]] std::optional<Closing> Paid(std::int32_t employeeID) const;
+
+    // Of the findings of the last Check, in their order. autoShiftEnd: see ShiftEnds.
+    [[nodiscard]] std::vector<std::vector<Remedy>> Remedies(const CEmployee& employee, const CardCheck& check,
+                                                            std::optional<std::int64_t> autoShiftEnd);
+
+private:
+    [[nodiscard]] const ClosingsOfEmployee* ClosingsOf(std::int32_t employeeID) const;
+    void ReadGap(std::int32_t employeeID, const ClosingsOfEmployee& closings);
+    [[nodiscard]] bool WorkedBefore(std::int32_t employeeID);
+
+    std::shared_ptr<CJetDB> m_database;
+    CheckTerms m_terms;
+    PunchReader m_reader;
+    Closings m_closings;
+    ClockChanges m_clock;
+    UsualEnds m_usualEnds;
+    std::map<DateTime, std::unique_ptr<PunchReader>> m_gaps; // by their first day
+    std::optional<std::set<std::int64_t>> m_workedBefore;    // EmployeeIDs, read when somebody has no shift
+    Punches m_rows;
+};
+
+} // namespace ptk

@@ -1,0 +1,16 @@
+// How one row of an overview is made.
+#pragma once
+
+#include "office/card/CardChecker.h"
+#include "office/overview/Overview.h"
+
+#include <memory>
+
+namespace ptk {
+
+[[nodiscard]] CheckTerms TermsOf(const Overview& overview);
+
+// Raises what reading the database raises. REQUIRES: not nullptr.
+[[nodiscard]] OverviewRow RowOf(const Overview& overview, CardChecker& checker, const std::shared_ptr<CEmployee>& employee);
+
+} // namespace ptk

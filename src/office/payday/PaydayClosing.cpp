@@ -1,0 +1,189 @@
+#include "office/payday/PaydayClosing.h"
+
+#include "model/CEmployeeList.h"
+#include "model/payday/ClosingReader.h"
+#include "office/overview/Overview.h"
+#include "office/payday/PaydayPersons.h"
+#include "platform/ErrorNumbers.h"
+#include "platform/Failure.h"
+#include "store/CJetDB.h"
+#include "store/engine/Engine.h"
+#include "store/engine/EngineWords.h"
+#include "store/engine/RecordSet.h"
+#include "store/engine/StoredDate.h"
+
+#include <algorithm>
+#include <fmt/format.h>
+#include <fmt/ranges.h>
+#include <span>
+
+namespace ptk {
+
+namespace {
+
+constexpr auto kClosed = "closed {}: {} + {} hours, {}";
+constexpr auto kPaidAlready = "paid already {}";
+constexpr auto kNotClosed = "not closed {}: {} problems";
+constexpr auto kReopened = "reopened {}";
+
+constexpr const char* kTables[] = {"TimeRecord", "Employee", "_Payday"}; // that what is stored depends on
+constexpr const char* kInsert =
+    "INSERT INTO _Payday (EmployeeID, FromDay, ToDay, PaidAt, PaidBy, Regular, Overtime, Gross, Entry) VALUES {}";
+constexpr const char* kNewest = "SELECT COALESCE(MAX(ChangeID), 0) FROM _Change";
+constexpr std::size_t kRowsAtOnce = 200; // of one statement
+
+// A card without figures has a problem in any case.
+std::int32_t ProblemsOf(const OverviewRow& row)
+{
+    return std::max(row.check.problems, row.figures ? 0 : 1);
+}
+
+// Within the transaction that stores: what it reads stays so until its end.
+class PaydayStep
+{
+public:
+    PaydayStep(Engine& engine, const std::shared_ptr<CJetDB>& database, const PaydayOrder& order)
+        : m_engine(engine), m_database(database), m_order(order)
+    {
+        for (const char* table : kTables) {
+            if (const std::string lock = Said(engine.Words().lockTable, table); !lock.empty()) {
+                engine.Prepare(lock)->Run();
+            }
+        }
+        m_employees = PresentEmployees(database);
+    }
+
+    std::vector<PaydayLine> Close()
+    {
+        Overview overview;
+        overview.period = m_order.period;
+        overview.made = m_order.now;
+        overview.limits = LoadCheckLimits(m_database);
+        ReadOverview(overview, m_database, m_order.employees.empty() ? OfferedEmployees(*m_employees) : Chosen());
+        m_newest = m_engine.Prepare(kNewest)->ReadRows()->Int64At(0);
+        std::vector<PaydayLine> lines;
+        for (const OverviewRow& row : overview.rows) {
+            lines.push_back(Close(row));
+        }
+        Insert();
+        return lines;
+    }
+
+    std::vector<PaydayLine> Reopen()
+    {
+        const Closings closings = ReadClosings(m_database, m_order.period);
+        std::vector<PaydayLine> lines;
+        std::vector<std::int64_t> rows;
+        for (const PaydayPerson& person : m_order.employees.empty() ? PersonsWithClosings(*m_employees, closings) : PersonsOf(Chosen())) {
+            const auto closed = closings.find(person.id);
+            if (closed != closings.end() && closed->second.Newest() != nullptr) {
+                rows.push_back(closed->second.Newest()->id);
+                lines.push_back({PaydayDeed::Reopened, NameOf(person), {}, 0});
+            }
+        }
+        if (!rows.empty()) {
+            m_engine.Prepare(fmt::format("DELETE FROM _Payday WHERE PaydayID IN ({})", fmt::join(rows, ",")))->Run();
+        }
+        return lines;
+    }
+
+private:
+    // Each once.
+    Employees Chosen() const
+    {
+        Employees chosen;
+        for (const std::int32_t id : m_order.employees) {
+            const auto employee = m_employees->GetEmployeeByID(id);
+            if (employee == nullptr) {
+                throw Failure(timecard::NoEmployee, "PTK", std::to_string(id));
+            }
+            if (std::find(chosen.begin(), chosen.end(), employee) == chosen.end()) {
+                chosen.push_back(employee);
+            }
+        }
+        return chosen;
+    }
+
+    PaydayLine Close(const OverviewRow& row)
+    {
+        const std::string name = row.employee->DisplayName();
+        if (row.paid && !row.check.changed) {
+            return {PaydayDeed::PaidAlready, name, {}, 0};
+        }
+        if (const std::int32_t problems = ProblemsOf(row); m_order.employees.empty() && problems > 0) {
+            return {PaydayDeed::NotClosed, name, {}, problems};
+        }
+        if (!row.figures) {
+            throw Failure(timecard::NoRecords, "PTK", name);
+        }
+        m_values.push_back(ValuesOf(row));
+        return {PaydayDeed::Closed, name, *row.figures, 0};
+    }
+
+    // The figures are digits; who pays is the statement's parameter.
+    std::string ValuesOf(const OverviewRow& row) const
+    {
+        const PayPeriod& period = m_order.period;
+        return fmt::format("({}, '{}', '{}', '{}', :by, '{}', '{}', '{}', {})", row.employee->EmployeeID(), StoredText(period.from),
+                           StoredText(period.to), StoredText(m_order.now), row.figures->regular, row.figures->overtime, row.figures->gross,
+                           m_newest);
+    }
+
+    void Insert()
+    {
+        const std::string& by = m_database->StoredBy().name;
+        for (std::size_t at = 0; at < m_values.size(); at += kRowsAtOnce) {
+            const std::span<const std::string> left = std::span(m_values).subspan(at);
+            const auto insert = m_engine.Prepare(fmt::format(kInsert, fmt::join(left.first(std::min(kRowsAtOnce, left.size())), ", ")));
+            insert->Bind("by", by.empty() ? Value() : Value(by));
+            insert->Run();
+        }
+    }
+
+    Engine& m_engine;
+    const std::shared_ptr<CJetDB>& m_database;
+    const PaydayOrder& m_order;
+    std::shared_ptr<CEmployeeList> m_employees;
+    std::int64_t m_newest = 0;         // entry of the trail before this step
+    std::vector<std::string> m_values; // of the rows to be stored
+};
+
+// May run more than once, the last time with effect.
+std::vector<PaydayLine> Store(const std::shared_ptr<CJetDB>& database, const PaydayOrder& order,
+                              std::vector<PaydayLine> (PaydayStep::*deed)())
+{
+    std::vector<PaydayLine> lines;
+    const CJetDB::Hold hold(database);
+    if (!database->ExecuteSteps([&](Engine& engine) { lines = (PaydayStep(engine, database, order).*deed)(); })) {
+        throw Failure(database->LastFailure());
+    }
+    return lines;
+}
+
+} // namespace
+
+std::string TextOf(const PaydayLine& line)
+{
+    switch (line.deed) {
+    case PaydayDeed::Closed:
+        return fmt::format(kClosed, line.name, line.figures.regular, line.figures.overtime, line.figures.gross);
+    case PaydayDeed::PaidAlready:
+        return fmt::format(kPaidAlready, line.name);
+    case PaydayDeed::NotClosed:
+        return fmt::format(kNotClosed, line.name, line.problems);
+    default:
+        return fmt::format(kReopened, line.name);
+    }
+}
+
+std::vector<PaydayLine> ClosePayday(const std::shared_ptr<CJetDB>& database, const PaydayOrder& order)
+{
+    return Store(database, order, &PaydayStep::Close);
+}
+
+std::vector<PaydayLine> ReopenPayday(const std::shared_ptr<CJetDB>& database, const PaydayOrder& order)
+{
+    return Store(database, order, &PaydayStep::Reopen);
+}
+
+} // namespace ptk

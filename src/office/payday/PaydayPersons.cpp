@@ -1,0 +1,62 @@
+#include "office/payday/PaydayPersons.h"
+
+#include "model/CEmployeeList.h"
+#include "platform/Failure.h"
+#include "store/CJetDB.h"
+
+#include <fmt/format.h>
+
+#include <set>
+
+namespace ptk {
+
+std::string NameOf(const PaydayPerson& person)
+{
+    return person.employee == nullptr ? fmt::format("Employee {}", person.id) : person.employee->DisplayName();
+}
+
+std::shared_ptr<CEmployeeList> PresentEmployees(const std::shared_ptr<CJetDB>& database)
+{
+    auto employees = std::make_shared<CEmployeeList>();
+    if (!employees->LoadList(database)) {
+        throw Failure(database->LastFailure());
+    }
+    return employees;
+}
+
+std::vector<PaydayPerson> PersonsWithClosings(CEmployeeList& employees, const Closings& closings, bool offered)
+{
+    const auto isPaid = [&](std::int64_t id) {
+        const auto found = closings.find(id);
+        return found != closings.end() && found->second.Newest() != nullptr;
+    };
+    std::vector<PaydayPerson> persons;
+    std::set<std::int64_t> known;
+    for (std::int32_t i = 1; i <= employees.Count(); ++i) {
+        const auto employee = employees.Item(i);
+        if (employee == nullptr) {
+            continue;
+        }
+        known.insert(employee->EmployeeID());
+        if (isPaid(employee->EmployeeID()) || (offered && employee->OfferedOnTimeCards())) {
+            persons.push_back({employee->EmployeeID(), employee});
+        }
+    }
+    for (const auto& [id, closed] : closings) {
+        if (!known.contains(id) && isPaid(id)) {
+            persons.push_back({id, nullptr});
+        }
+    }
+    return persons;
+}
+
+std::vector<PaydayPerson> PersonsOf(const std::vector<std::shared_ptr<CEmployee>>& employees)
+{
+    std::vector<PaydayPerson> persons;
+    for (const auto& employee : employees) {
+        persons.push_back({employee->EmployeeID(), employee});
+    }
+    return persons;
+}
+
+} // namespace ptk
