@@ -32,17 +32,17 @@ bool IsOfPay(const TrailEntry& entry)
 
 TrailValue PresentValue(const Statement& row, int column)
 {
-    using Kind = TrailValue::Kind;
+    using StoredKind = TrailValue::Kind;
     const std::string name = kColumns[column - 1];
     switch (row.KindAt(column)) {
     case CellKind::Null:
-        return {name, Kind::Null, {}};
+        return {name, StoredKind::Null, {}};
     case CellKind::Number:
-        return {name, Kind::Number, std::string(row.TextAt(column))};
+        return {name, StoredKind::Number, std::string(row.TextAt(column))};
     case CellKind::Text:
-        return {name, Kind::Text, std::string(row.TextAt(column))};
+        return {name, StoredKind::Text, std::string(row.TextAt(column))};
     default:
-        return {name, Kind::Bytes, {}};
+        return {name, StoredKind::Bytes, {}};
     }
 }
 
@@ -103,7 +103,7 @@ private:
     // As the card's fetch compares the values, those that cannot be read, too.
     bool IsFetched(const TrailRow& row, const Punch& punch) const
     {
-        using Kind = TrailValue::Kind;
+        using StoredKind = TrailValue::Kind;
         const DateTime end = EndOfDay(m_period.to);
         if (punch.start && punch.end) {
             return *punch.start >= m_period.from && *punch.end <= end;
@@ -111,8 +111,8 @@ private:
         const TrailValue* from = ValueOf(row, "StartTime");
         const TrailValue* to = ValueOf(row, "EndTime");
         return from != nullptr && to != nullptr &&
-               (from->kind == Kind::Bytes || (from->kind == Kind::Text && from->text >= StoredText(m_period.from))) &&
-               (to->kind == Kind::Number || (to->kind == Kind::Text && to->text <= StoredText(end)));
+               (from->kind == StoredKind::Bytes || (from->kind == StoredKind::Text && from->text >= StoredText(m_period.from))) &&
+               (to->kind == StoredKind::Number || (to->kind == StoredKind::Text && to->text <= StoredText(end)));
     }
 
     std::string m_employee;
