@@ -1,6 +1,6 @@
 # bash completion for ptk-console and ptk-admin
 _ptk_console() {
-    local commands="create-database time-card overview report history backup backups restore import copy-database check"
+    local commands="create-database time-card overview payday report history backup backups restore import copy-database check"
     local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} command= i
     for ((i = 1; i < COMP_CWORD; i++)); do
         case ${COMP_WORDS[i]} in
@@ -14,7 +14,7 @@ _ptk_console() {
         --from | --to) [[ $command == copy-database || ($before == --to && $command == backup) ]] && mapfile -t COMPREPLY < <(compgen -f -- "$word"); return ;;
         --format)
             local formats="text csv json"
-            [[ $command == report ]] && formats+=" pdf"
+            [[ $command == report || $command == payday ]] && formats+=" pdf"
             mapfile -t COMPREPLY < <(compgen -W "$formats" -- "$word")
             return
             ;;
@@ -29,6 +29,7 @@ _ptk_console() {
         time-card) words="--employee --from --to --check --help" ;;
         overview) words="--employee --all --remedies --from --to --format --help" ;;
         history) words="--employee --from --to --format --help" ;;
+        payday) words="close reopen account --employee --from --to --format --output --help" ;;
         report) words="timecard review ytd employees phonebook --employee --from --to --format --output --help" ;;
         backup) words="--to --help" ;;
         copy-database) words="--to --from --help" ;;

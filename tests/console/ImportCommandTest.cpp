@@ -43,7 +43,8 @@ TEST_F(ImportCommandTest, EndsWithTheStatusThatTellsWhatBecameOfIt)
     EXPECT_NE(Run({"time-card", "--employee", "Jos\u0398 Jos\u0398", "--from", "1/14/2004", "--to", "1/14/2004"}).out.find("5.97"),
               std::string::npos);
     Expect({}, 1,
-           "ptk-console: the database already holds companies, employees or time records; an older database can only be brought along into "
+           "ptk-console: the database already holds companies, employees, time records or paydays; an older database can only be brought "
+           "along into "
            "one that is still empty\n");
     for (const char* page : {"1", "437x", "99999999999", ""}) {
         EXPECT_EQ(Run({"import", Old(), "--code-page", page}).status, 2) << page;

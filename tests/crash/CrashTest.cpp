@@ -10,6 +10,7 @@
 #include "store/RawDatabase.h"
 #include "store/whole/DatabaseChecker.h"
 #include "store/whole/DatabaseCreator.h"
+#include "support/EarlierDatabase.h"
 #include "support/Files.h"
 #include "support/OldDatabase.h"
 #include "support/TemporaryFolder.h"
@@ -131,6 +132,30 @@ TEST_P(CrashTest, ASavedRecordIsThereWholeWithItsTrailOrNotAtAll)
         const std::string old = "2003-03-05 17:00:00|0|0|ok|";
         const std::string saved = "2003-03-05 18:00:00|1|0|ok|";
         EXPECT_TRUE(rows == saved || (!done && rows == old)) << rows;
+    });
+}
+
+// With the backup that the change is made after.
+TEST_P(CrashTest, AFileOfAnEarlierVersionIsTheOldOneOrUpToDateWithTheChange)
+{
+    RawDatabase(m_database).Run(kMakeFirstStructure);
+    m_bytes = ReadBytes(m_database);
+    const auto save = [&] {
+        CJetDB database(m_folder.Path());
+        database.DatabaseName(m_database);
+        database.StoredBy({"Ann Lee", "ptk-admin"});
+        return database.ExecuteAction("UPDATE TimeRecord SET EndTime = #2003-03-05 18:00:00# WHERE TimeRecordID = 1");
+    };
+    AtEveryCall(save, [&](bool done) {
+        const std::string rows =
+            Rows("SELECT EndTime FROM TimeRecord; SELECT COUNT(*) FROM _Change; SELECT COUNT(*) FROM sqlite_master WHERE "
+                 "name IN ('_Payday', '_Structure', '_PaydayDelete'); SELECT COUNT(*) FROM "
+                 "pragma_table_info('_Change'); PRAGMA integrity_check");
+        const bool isOld = rows == "2003-03-05 17:00:00|0|0|12|ok|";
+        EXPECT_TRUE(rows == "2003-03-05 18:00:00|1|3|13|ok|" || (!done && isOld)) << rows;
+        ExpectSoundBackups(isOld ? 0 : 1, 1);
+        EXPECT_TRUE(save());
+        EXPECT_EQ(Rows("SELECT version FROM _Structure"), "2|");
     });
 }
 

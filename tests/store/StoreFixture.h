@@ -4,6 +4,7 @@
 #include "platform/Failure.h"
 #include "store/RawDatabase.h"
 #include "store/whole/DatabaseCreator.h"
+#include "support/EarlierDatabase.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -63,16 +64,7 @@ protected:
     std::string Rows(const std::string& sql) const { return RawDatabase(Path()).Rows(sql); }
 
     // As the version before the edit trail and the check's limits made it.
-    void MakeEarlier() const
-    {
-        for (const char* table : {"TimeRecord", "Employee", "Company"}) {
-            for (const char* action : {"Insert", "Update", "Delete"}) {
-                Run(std::string("DROP TRIGGER _") + table + action);
-            }
-        }
-        Run("DROP TRIGGER _SystemInsert; DROP TRIGGER _SystemUpdate; DROP TRIGGER _SystemDelete; DROP TABLE _CheckLimits; DROP VIEW _Edit; "
-            "DROP TABLE _Session; DROP TABLE _Change");
-    }
+    void MakeEarlier() const { Run(kMakeWithoutTrail); }
 
     TemporaryFolder m_folder;
 };

@@ -14,7 +14,7 @@ from check_overview import faults
 CHANGES = ["INSERT INTO TimeRecord (EmployeeID, StartTime) VALUES (40, '2003-03-05 08:00:00')", "UPDATE TimeRecord SET EndTime = X'00' WHERE TimeRecordID = 1",
            "UPDATE Employee SET PayRate = 12.300000190734863, LastName = '=1+1', Password = 'secret' WHERE EmployeeID = 40",
            "UPDATE Employee SET PayRate = 9e999, LastName = CAST(X'FF41' AS TEXT) || char(0) WHERE EmployeeID = 40", "DELETE FROM TimeRecord WHERE TimeRecordID = 2",
-           "INSERT INTO _Change (ChangedAt, Action, Before, After) VALUES ('2003-03-05 08:00:00', 'import', 'no JSON', '{\"PayRate\":9e999}')"]
+           "INSERT INTO _Change (ChangedAt, Action, Before, After, Reason) VALUES ('2003-03-05 08:00:00', 'import', 'no JSON', '{\"PayRate\":9e999}', 'a \"b\"')"]
 
 
 def main(console, sources):
@@ -48,7 +48,8 @@ def main(console, sources):
         found.append(f"{changes[4]['after']} was stored otherwise")
     for change, line in zip(changes, table, strict=True):
         sides = [json.loads(line[name].removeprefix("'")) if line[name] else None for name in ("Before", "After")]
-        if line["Change"] != str(change["id"]) or line["Text"].removeprefix("'") != change["text"] or sides != [change["before"], change["after"]]:
+        if line["Change"] != str(change["id"]) or line["Text"].removeprefix("'") != change["text"] or sides != [change["before"], change["after"]] or \
+                line["Reason"] != (change["reason"] or ""):
             found.append(f"the CSV line {line} of change {change} differs")
     print("\n".join(found))
     return 1 if found else 0

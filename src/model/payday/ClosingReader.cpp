@@ -6,6 +6,7 @@
 #include "store/engine/RecordSet.h"
 #include "store/engine/Statement.h"
 
+#include <algorithm>
 #include <fmt/format.h>
 
 namespace ptk {
@@ -33,12 +34,10 @@ constexpr const char* kTouching =
 
 // Employee by employee, so that each is one step into the index (EmployeeID, ToDay).
 constexpr const char* kBefore =
-    "SELECT 0, EmployeeID, NULL, LastDay, NULL, NULL, NULL, NULL, NULL, 0 FROM (SELECT EmployeeID, (SELECT ToDay "
-    "FROM _Payday WHERE _Payday.EmployeeID = Employee.EmployeeID AND ToDay < :from AND {} ORDER BY ToDay DESC "
-    "LIMIT 1) AS LastDay FROM Employee WHERE TRUE{}) AS Closed WHERE LastDay IS NOT NULL";
+    "SELECT 0, EmployeeID, NULL, (SELECT ToDay FROM _Payday WHERE _Payday.EmployeeID = Employee.EmployeeID AND "
+    "ToDay < :from AND {} ORDER BY ToDay DESC LIMIT 1), NULL, NULL, NULL, NULL, NULL, 0 FROM Employee WHERE TRUE{}";
 
 constexpr const char* kOfOne = " AND EmployeeID = :employee";
-constexpr const char* kOrder = " ORDER BY 1";
 
 constexpr const char* kLast = "SELECT FromDay, ToDay FROM _Payday WHERE {} ORDER BY ToDay DESC, PaydayID DESC LIMIT 1";
 
@@ -86,7 +85,9 @@ void Take(Closings& closings, const Statement& row, const PayPeriod& period)
         return;
     }
     if (row.Int64At(kId) == 0) {
-        closings[row.Int64At(kEmployee)].lastDayBefore = row.StoredDateAt(kTo);
+        if (const auto lastDay = row.StoredDateAt(kTo)) {
+            closings[row.Int64At(kEmployee)].lastDayBefore = lastDay;
+        }
         return;
     }
     const auto days = DaysOf(row, kFrom, kTo);
@@ -112,14 +113,17 @@ Closings ReadClosings(const std::shared_ptr<CJetDB>& database, const PayPeriod& 
         return closings;
     }
     const char* const ofOne = employee ? kOfOne : "";
-    const auto rows =
-        RequireSelect(*database, Said(kTouching, ofOne) + " UNION ALL " + Said(kBefore, database->Words().closedDays, ofOne) + kOrder);
+    const auto rows = RequireSelect(*database, Said(kTouching, ofOne) + " UNION ALL " + Said(kBefore, database->Words().closedDays, ofOne));
     rows->Bind("from", period.from);
     rows->Bind("to", period.to);
     if (employee) {
         rows->Bind("employee", std::to_string(*employee));
     }
     rows->ForEachRow([&] { Take(closings, *rows, period); });
+    for (auto& [id, closed] : closings) {
+        std::sort(closed.ofPeriod.begin(), closed.ofPeriod.end(),
+                  [](const Closing& left, const Closing& right) { return left.id < right.id; });
+    }
     return closings;
 }
 

@@ -43,8 +43,8 @@ void MendPlan::Add(Card card, const std::vector<std::vector<Remedy>>& remedies)
         m_lines.push_back({m_cards.size(), card.check.findings[i], offered.empty() ? std::nullopt : std::optional(offered.front()), false});
         MendLine& line = m_lines.back();
         line.ticked = line.remedy && !line.remedy->Deletes() && std::none_of(m_lines.begin(), m_lines.end(), [&](const MendLine& earlier) {
-            return earlier.ticked && Shares(*earlier.remedy, *line.remedy);
-        });
+                          return earlier.ticked && Shares(*earlier.remedy, *line.remedy);
+                      });
     }
     m_cards.push_back(std::move(card));
 }

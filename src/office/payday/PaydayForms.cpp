@@ -149,7 +149,8 @@ std::string NowLine(const AccountPerson& person)
 std::string ChangedLine(const PaidDifference& changed)
 {
     const bool told = changed.regular && changed.overtime && changed.gross;
-    return told ? "changed  " + FiguresText(*changed.regular, *changed.overtime, *changed.gross) : kUntellable;
+    return told ? fmt::format("changed  regular {}, overtime {} hours, {}", *changed.regular, *changed.overtime, *changed.gross)
+                : kUntellable;
 }
 
 // Below the name.

@@ -17,6 +17,10 @@ constexpr const char* kPersons = "WITH RECURSIVE Person (name) AS (SELECT MIN(Ch
                                  "SELECT (SELECT MIN(ChangedBy) FROM _Change WHERE ChangedBy > name) FROM Person WHERE name IS NOT NULL) "
                                  "SELECT CAST(name AS TEXT) FROM Person WHERE name IS NOT NULL";
 
+constexpr const char* kReasons =
+    "SELECT CAST(Reason AS TEXT) FROM (SELECT Reason, ChangeID FROM _Change ORDER BY ChangeID DESC LIMIT 5000) AS "
+    "Newest WHERE Reason <> '' GROUP BY Reason ORDER BY MAX(ChangeID) DESC LIMIT ";
+
 std::string TextOf(const Statement& row, int column)
 {
     return row.KindAt(column) == CellKind::Null ? std::string() : std::string(row.TextAt(column));
@@ -122,6 +126,18 @@ std::vector<std::string> ReadTrailPersons(const std::shared_ptr<CJetDB>& databas
         names->ForEachRow([&] { persons.emplace_back(names->TextAt(0)); });
     }
     return persons;
+}
+
+std::vector<std::string> ReadTrailReasons(const std::shared_ptr<CJetDB>& database, std::int32_t most)
+{
+    const CJetDB::Hold hold(database);
+    RequireOpen(*database);
+    std::vector<std::string> reasons;
+    if (database->HasTrail() && HasReasons(*database)) {
+        const auto rows = RequireSelect(*database, kReasons + std::to_string(most));
+        rows->ForEachRow([&] { reasons.emplace_back(rows->TextAt(0)); });
+    }
+    return reasons;
 }
 
 } // namespace ptk

@@ -97,4 +97,8 @@ void ReadTrail(const std::shared_ptr<CJetDB>& database, const TrailQuery& query,
 // Everybody whom an entry names, in the order of their names. Raises the same.
 [[nodiscard]] std::vector<std::string> ReadTrailPersons(const std::shared_ptr<CJetDB>& database);
 
+// The reasons of the newest changes, each once, the last one first; of some thousand changes, so that it costs the same in a long trail.
+// Raises the same.
+[[nodiscard]] std::vector<std::string> ReadTrailReasons(const std::shared_ptr<CJetDB>& database, std::int32_t most);
+
 } // namespace ptk

@@ -5,6 +5,7 @@
 #include "platform/Failure.h"
 #include "store/RawDatabase.h"
 #include "store/whole/DatabaseCreator.h"
+#include "support/EarlierDatabase.h"
 #include "support/Files.h"
 #include "support/JetFileBuilder.h"
 #include "support/TemporaryFolder.h"
@@ -364,15 +365,7 @@ TEST_F(ImportTest, BringsAnEarlierDatabaseUpToDateAfterABackup)
 {
     Write({});
     CreateDatabase(m_order.database);
-    for (const char* table : {"TimeRecord", "Employee", "Company"}) {
-        for (const char* action : {"Insert", "Update", "Delete"}) {
-            RawDatabase(m_order.database).Run(std::string("DROP TRIGGER _") + table + action);
-        }
-    }
-    RawDatabase(m_order.database)
-        .Run(
-            "DROP TRIGGER _SystemInsert; DROP TRIGGER _SystemUpdate; DROP TRIGGER _SystemDelete; DROP TABLE _CheckLimits; DROP VIEW _Edit; "
-            "DROP TABLE _Session; DROP TABLE _Change");
+    RawDatabase(m_order.database).Run(kMakeWithoutTrail);
     EXPECT_EQ(Refusal(), "");
     EXPECT_EQ(Rows("SELECT COUNT(*), (SELECT Action FROM _Change) FROM _Change"), "1|import|");
     EXPECT_EQ(Rows("SELECT COUNT(*) FROM TimeRecord"), "1|");

@@ -142,6 +142,10 @@ TEST_F(DatabaseFileTest, TheCheckFindsWhatIsWrong)
              Case{"PRAGMA legacy_alter_table = ON; ALTER TABLE Employee DROP COLUMN AutoDeduct", "There is no column Employee.AutoDeduct."},
              Case{"ALTER TABLE _Change RENAME COLUMN Step TO Steps", "There is no column _Change.Step."},
              Case{"DELETE FROM _Session", "The table _Session has 0 rows, not 1."},
+             Case{"DROP TRIGGER _PaydayInsert", "The edit trail misses changes of the table _Payday."},
+             Case{"DELETE FROM _Structure", "The table _Structure has 0 rows, not 1."},
+             Case{"INSERT INTO _Payday (FromDay, ToDay) VALUES ('2003-03-05 00:00:00', '2003-03-04 00:00:00')",
+                  "The days of _Payday 1 cannot be read or run backward: it counts for nothing."},
              Case{"DROP TRIGGER _CompanyDelete", "The edit trail misses changes of the table Company."},
              Case{"DROP TABLE _System; CREATE TABLE _System (program TEXT, version REAL, period_length INTEGER, auto_shift_start_time "
                   "DATETIME, "

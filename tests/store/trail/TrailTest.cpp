@@ -118,7 +118,7 @@ TEST_F(TrailTest, CommandsThatEndTheTransactionLeaveNoName)
 {
     for (const char* statement : {"COMMIT", "ROLLBACK", "SAVEPOINT a", "BEGIN"}) {
         EXPECT_EQ(m_database->ExecuteAction(statement), statement == std::string("SAVEPOINT a")) << statement;
-        EXPECT_EQ(Rows("SELECT * FROM _Session"), "NULL|NULL|NULL|") << statement;
+        EXPECT_EQ(Rows("SELECT * FROM _Session"), "NULL|NULL|NULL|NULL|") << statement;
     }
 }
 
@@ -160,6 +160,48 @@ TEST_F(TrailTest, AnEarlierFileStaysAsItIsWithoutABackupAndLosesNoTableForAMissi
     EXPECT_TRUE(m_database->AddNewCompany({}));
     EXPECT_TRUE(m_database->ExecuteAction("INSERT INTO TimeRecord (EmployeeID, StartTime, EndTime) SELECT 40, #3/5/2003#, #3/5/2003#"));
     EXPECT_EQ(Entries("TableName"), "Company|") << "the time records go without";
+}
+
+// A file with a trail, but without reasons and closings, is read as it is and brought up to date in the same way.
+TEST_F(TrailTest, AFileOfTheFirstStructureIsReadAsItIsAndBroughtUpToDateWithTheFirstChange)
+{
+    Run("INSERT INTO TimeRecord (EmployeeID, StartTime, EndTime) VALUES (40, '2003-03-05 08:00:00', '2003-03-05 17:00:00')");
+    Run(kMakeFirstStructure);
+    const std::string bytes = ReadBytes(Path());
+    const auto entries = ReadTrail(m_database, TrailQuery());
+    ASSERT_EQ(entries.size(), 1U);
+    EXPECT_EQ(entries[0].action + entries[0].reason, "insert");
+    EXPECT_TRUE(CheckDatabase(Path()).problems.empty());
+    EXPECT_TRUE(m_database->ExecuteAction("UPDATE TimeRecord SET EndTime = EndTime WHERE TimeRecordID = 2"));
+    EXPECT_TRUE(ReadBytes(Path()) == bytes) << "no row has changed";
+
+    const CJetDB::Reason why(m_database, "she forgot");
+    EXPECT_TRUE(m_database->ExecuteAction("UPDATE TimeRecord SET EndTime = #3/5/2003 6:00 PM#"));
+    EXPECT_TRUE(m_database->ExecuteAction("UPDATE TimeRecord SET EndTime = #3/5/2003 6:00 PM#"));
+    EXPECT_EQ(Rows("SELECT ChangeID, ChangedBy, Step, After, Reason FROM _Change; SELECT version FROM _Structure; SELECT * FROM _Session"),
+              "1|NULL|NULL|{}|NULL|2|Ann Lee|2|{\"EndTime\":\"2003-03-05 18:00:00\"}|she forgot|2|NULL|NULL|NULL|NULL|");
+    EXPECT_EQ(ReadTrail(m_database, TrailQuery()).front().reason, "she forgot");
+    {
+        const CJetDB::Reason none(m_database, "");
+        EXPECT_TRUE(m_database->ExecuteAction("UPDATE TimeRecord SET EndTime = #3/5/2003 7:00 PM#"));
+    }
+    Run("UPDATE _Session SET reason = 'for a test'; UPDATE TimeRecord SET EndTime = NULL; UPDATE _Session SET reason = NULL");
+    EXPECT_EQ(ReadTrailReasons(m_database, 5), (std::vector<std::string>{"for a test", "she forgot"}));
+    Run("INSERT INTO _Payday (EmployeeID, FromDay) VALUES (40, 'soon'); DELETE FROM _Payday");
+    EXPECT_EQ(Rows("SELECT TableName, RowID, Action, EmployeeBefore, EmployeeAfter FROM _Change WHERE ChangeID > 4"),
+              "_Payday|1|insert|NULL|40|_Payday|1|delete|40|NULL|");
+    EXPECT_TRUE(CheckDatabase(Path()).problems.empty());
+    EXPECT_EQ(BackupsIn(BackupFolder(m_folder.Path())).size(), 1U);
+}
+
+TEST_F(TrailTest, AFileOfANewerStructureIsRefusedBeforeItIsTouched)
+{
+    Run("UPDATE _Structure SET version = 3; PRAGMA journal_mode = WAL");
+    const std::string bytes = ReadBytes(Path());
+    EXPECT_FALSE(m_database->ExecuteAction("DELETE FROM Employee"));
+    EXPECT_EQ(m_database->LastFailure().Number(), 26);
+    EXPECT_EQ(m_database->LastFailure().Description(), "the database file was made by a newer version of the program");
+    EXPECT_TRUE(ReadBytes(Path()) == bytes);
 }
 
 // What Ann and Bob did to the records 1 to 3 of the employees 40 and 41, and another tool to the options.
