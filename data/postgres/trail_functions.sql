@@ -67,7 +67,7 @@ BEGIN
         CASE WHEN step <= id THEN step END, tab, row_id, act, was, is_now, employee_was, employee_is);
 END
 $$;
-REVOKE EXECUTE ON FUNCTION ptk_schema.ptk_add FROM PUBLIC;
+REVOKE EXECUTE ON FUNCTION ptk_schema.ptk_add(text, text, bigint, json, json, integer, integer) FROM PUBLIC;
 
 -- Names are folded by the 26 letters, whatever the locale of the database. Rates are told with all their digits, however many the writer's session
 -- asks for.
@@ -102,7 +102,7 @@ BEGIN
     RETURN NULL;
 END
 $$;
-REVOKE EXECUTE ON FUNCTION ptk_schema.ptk_tell FROM PUBLIC;
+REVOKE EXECUTE ON FUNCTION ptk_schema.ptk_tell() FROM PUBLIC;
 
 -- One entry of no row, but of the database as a whole: an import, and of which file.
 CREATE OR REPLACE FUNCTION ptk_schema.ptk_add_entry(act text, file text) RETURNS void LANGUAGE sql SECURITY DEFINER
@@ -110,7 +110,7 @@ SET search_path = pg_catalog, pg_temp AS $$
     SELECT ptk_schema.ptk_add(
         NULL::text, act, NULL::bigint, NULL::json, json_build_object('file'::text, file), NULL::integer, NULL::integer)
 $$;
-REVOKE EXECUTE ON FUNCTION ptk_schema.ptk_add_entry FROM PUBLIC;
+REVOKE EXECUTE ON FUNCTION ptk_schema.ptk_add_entry(text, text) FROM PUBLIC;
 
 $functions$, 'ptk_schema', pg_catalog.quote_ident(current_schema()));
 END

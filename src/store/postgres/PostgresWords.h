@@ -13,7 +13,7 @@ inline constexpr EngineWords kPostgresWords{
                     "OR EndTime NOT BETWEEN StartTime AND StartTime + interval '1 day' ELSE true END",
     .inDays = "({0} >= CAST(left(:first, 10) AS date) AND {0} < CAST(left(:last, 10) AS date) + 1)",
     .json = "{0}",
-    .jsonField = "({0} ->> '{1}')",
+    .jsonField = "(({0} ->> CAST('{1}' AS text)) COLLATE \"C\")",
     .jsonFields = "SELECT one.key, CASE json_typeof(one.value) WHEN 'string' THEN 'text' ELSE json_typeof(one.value) END, "
                   "CASE json_typeof(one.value) WHEN 'object' THEN one.value ->> 'blob' ELSE said.value END "
                   "FROM json_each(CAST(:json AS json)) WITH ORDINALITY AS one (key, value, place) "
