@@ -16,7 +16,7 @@ inline constexpr EngineWords kPostgresWords{
     .minuteOfDay = "CAST(extract(hour FROM {0}) * 60 + extract(minute FROM {0}) AS integer)",
     .inDays = "({0} >= CAST(left(:first, 10) AS date) AND {0} < CAST(left(:last, 10) AS date) + 1)",
     .json = "{0}",
-    .jsonField = "({0} ->> '{1}')",
+    .jsonField = "(({0} ->> CAST('{1}' AS text)) COLLATE \"C\")",
     .jsonFields = "SELECT one.key, CASE json_typeof(one.value) WHEN 'string' THEN 'text' ELSE json_typeof(one.value) END, "
                   "CASE json_typeof(one.value) WHEN 'object' THEN one.value ->> 'blob' ELSE said.value END "
                   "FROM json_each(CAST(:json AS json)) WITH ORDINALITY AS one (key, value, place) "
