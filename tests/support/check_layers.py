@@ -23,7 +23,7 @@ FLOORS = {
     "store": [["engine"], ["sqlite", "postgres", "rows"], ["whole"], ["backup"], [""], ["trail", "import"]],
     "model": [[""], ["check"]],
     "reports": [["forms"], [""]],
-    "office": [["card", "import", "reports"], ["history", "safety"], ["overview"], ["records", "business"]],
+    "office": [["card", "import", "reports", "sheet"], ["history", "safety"], ["overview"], ["records", "business"]],
     "jetreader": [[""]],
     "startup": [[""]],
     "console": [[""], ["main"]],
