@@ -17,7 +17,7 @@ namespace ptk {
 
 namespace {
 
-constexpr std::size_t kRecordsAtOnce = 500;
+constexpr std::size_t kRecordsAtOnce = 1000;
 
 constexpr auto kInsert = "INSERT INTO TimeRecord (EmployeeID, StartTime, EndTime) VALUES ";
 constexpr auto kOtherEnd = "{}: a record of this employee with this start and another end is there already";
@@ -55,7 +55,7 @@ PunchAccount Judge(const PunchLines& read, const PrepareStatement& prepare)
 }
 
 // Numbers and moments alone, so that nothing of a foreign text gets into a statement.
-void Store(Engine& engine, std::span<const SheetPunch> punches)
+void Store(Engine& engine, std::span<const SheetPunch> punches, const GoesOn& goesOn)
 {
     while (!punches.empty()) {
         std::string statement = kInsert;
@@ -65,6 +65,7 @@ void Store(Engine& engine, std::span<const SheetPunch> punches)
         }
         engine.RunScript(statement.c_str());
         punches = punches.subspan(std::min(punches.size(), kRecordsAtOnce));
+        AskWhetherToGoOn(goesOn, 0);
     }
 }
 
@@ -82,14 +83,14 @@ bool IsToBeStored(const PunchAccount& account, const PunchOrder& order)
 }
 
 // Looks once more in the same transaction, since another desk may have stored some of it meanwhile.
-PunchAccount JudgeAndStore(CJetDB& database, const PunchLines& read, const PunchOrder& order)
+PunchAccount JudgeAndStore(CJetDB& database, const PunchLines& read, const PunchOrder& order, const GoesOn& goesOn)
 {
     PunchAccount account;
     const bool done = database.ExecuteSteps([&](Engine& engine) {
         LockRecords(engine);
         account = Judge(read, [&](const std::string& sql) { return engine.Prepare(sql); });
         if (IsToBeStored(account, order)) {
-            Store(engine, account.punches);
+            Store(engine, account.punches, goesOn);
             account.isStored = true;
         }
     });
@@ -106,7 +107,7 @@ bool PunchAccount::IsRefused(bool partly) const
     return !refused.empty() && (!partly || static_cast<std::int64_t>(refused.size()) == lines);
 }
 
-PunchAccount ImportPunches(const std::shared_ptr<CJetDB>& database, const PunchOrder& order)
+PunchAccount ImportPunches(const std::shared_ptr<CJetDB>& database, const PunchOrder& order, const GoesOn& goesOn)
 {
     const std::string text = ReadSheet(order.from);
     PunchLines read;
@@ -115,10 +116,10 @@ PunchAccount ImportPunches(const std::shared_ptr<CJetDB>& database, const PunchO
         const CJetDB::Hold hold(database);
         RequireOpen(*database);
         const PrepareStatement prepare = [&](const std::string& sql) { return RequireSelect(*database, sql); };
-        read = ReadPunches(text, order.from.words, SheetPeople(prepare), LoadCheckLimits(database).longShiftHours);
+        read = ReadPunches(text, order.from.words, SheetPeople(prepare), LoadCheckLimits(database).longShiftHours, goesOn);
         account = Judge(read, prepare);
     }
-    return IsToBeStored(account, order) ? JudgeAndStore(*database, read, order) : account;
+    return IsToBeStored(account, order) ? JudgeAndStore(*database, read, order, goesOn) : account;
 }
 
 std::vector<std::string> PunchAccountLines(const PunchAccount& account)

@@ -4,7 +4,6 @@
 
 #include "office/sheet/PunchLines.h"
 
-#include <functional>
 #include <memory>
 
 namespace ptk {
@@ -35,7 +34,7 @@ struct PunchAccount
 // Stores in one step of the edit trail what the order allows, and nothing else. A record that is there already, in the database or earlier
 // in the file, is left alone; one of the same start with another end is refused. Raises, and nothing was changed: what ReadSheet and
 // ReadPunches raise, and the failures of opening, reading and writing the database.
-[[nodiscard]] PunchAccount ImportPunches(const std::shared_ptr<CJetDB>& database, const PunchOrder& order);
+[[nodiscard]] PunchAccount ImportPunches(const std::shared_ptr<CJetDB>& database, const PunchOrder& order, const GoesOn& goesOn = {});
 
 // One line each, without line ends: the sums, then each refused line.
 [[nodiscard]] std::vector<std::string> PunchAccountLines(const PunchAccount& account);

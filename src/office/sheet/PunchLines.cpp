@@ -22,6 +22,9 @@ constexpr std::string_view kMark = "\xEF\xBB\xBF";           // the byte order m
 constexpr std::size_t kLargestFile = std::size_t{256} << 20; // bytes
 constexpr std::size_t kLongestShown = 40;                    // characters of a value in a reason
 
+constexpr std::int64_t kAskedEvery = 1000;
+
+constexpr auto kCancelled = "it was cancelled";
 constexpr auto kTooLarge = "the file is larger than 256 MB";
 constexpr auto kBrokenUtf8 = "the file begins with the mark of UTF-8 and is no UTF-8";
 constexpr auto kNoHeading = "the file has no heading line";
@@ -221,7 +224,15 @@ std::string ReadSheet(const PunchFile& file)
     return FromCodePage(text, file.codePage.value_or(kWesternCodePage));
 }
 
-PunchLines ReadPunches(std::string_view text, const SheetWords& words, const SheetPeople& people, std::int32_t longestHours)
+void AskWhetherToGoOn(const GoesOn& goesOn, std::int64_t done)
+{
+    if (done % kAskedEvery == 0 && goesOn && !goesOn()) {
+        throw Failure(0, "PTK", kCancelled);
+    }
+}
+
+PunchLines ReadPunches(std::string_view text, const SheetWords& words, const SheetPeople& people, std::int32_t longestHours,
+                       const GoesOn& goesOn)
 {
     CsvReader reader(text, SeparatorOf(text));
     CsvRecord record;
@@ -232,6 +243,7 @@ PunchLines ReadPunches(std::string_view text, const SheetWords& words, const She
     PunchTable table(SheetColumns(record.cells, words), people, read);
     while (NextLine(reader, record)) {
         table.Take(record);
+        AskWhetherToGoOn(goesOn, read.lines);
     }
     table.Finish(longestHours);
     return read;

@@ -5,6 +5,7 @@
 #include "platform/text/DateTime.h"
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -40,6 +41,12 @@ struct PunchLines
     std::string startColumn;          // its heading, or that of the events' times
 };
 
+// Asked every thousand lines or records; false ends the work with a failure without a number.
+using GoesOn = std::function<bool()>;
+
+// Does so. `done`: of which every thousandth is asked.
+void AskWhetherToGoOn(const GoesOn& goesOn, std::int64_t done);
+
 struct PunchFile
 {
     std::string file;            // a path in the platform's own form
@@ -53,6 +60,7 @@ struct PunchFile
 
 // `text` as ReadSheet answers it. `longestHours`: an event that ends a longer shift is refused. Raises a failure without a number, one
 // sentence, for a file that is refused as a whole: its headings, a quotation mark that is never closed.
-[[nodiscard]] PunchLines ReadPunches(std::string_view text, const SheetWords& words, const SheetPeople& people, std::int32_t longestHours);
+[[nodiscard]] PunchLines ReadPunches(std::string_view text, const SheetWords& words, const SheetPeople& people, std::int32_t longestHours,
+                                     const GoesOn& goesOn = {});
 
 } // namespace ptk
