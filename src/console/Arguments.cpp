@@ -1,7 +1,7 @@
 #include "console/Arguments.h"
 
-#include "office/import/OldFile.h"
 #include "platform/system/Version.h"
+#include "platform/text/CodePage.h"
 #include "platform/text/TypedTime.h"
 
 #include <CLI/CLI.hpp>
@@ -17,6 +17,15 @@ namespace {
 void TakesFormat(CLI::App* command, std::string& format)
 {
     command->add_option("--format", format, "How: text, csv or json")->type_name("FORMAT")->check(CLI::IsMember({"text", "csv", "json"}));
+}
+
+void TakesCodePage(CLI::Option* option)
+{
+    const auto known = [](const std::string& text) {
+        const auto number = text.size() < 6 && text.find_first_not_of("0123456789") == std::string::npos ? std::atoi(text.c_str()) : 0;
+        return IsKnownCodePage(number) ? std::string() : "no code page that is known: " + text;
+    };
+    option->type_name("N")->check(CLI::Validator([known](std::string& text) { return known(text); }, ""));
 }
 
 const std::map<std::string, ReportForm>& ReportForms()
@@ -54,6 +63,8 @@ struct Words
     std::string file;
     bool dryRun = false;
     bool acceptDamaged = false;
+    bool partly = false;
+    std::string columns;
     int codePage = 0;
     std::vector<std::string> employees;
 };
@@ -73,6 +84,7 @@ private:
     void DescribeHistory();
     void DescribeBackups();
     void DescribeImport();
+    void DescribeImportPunches();
     void DescribeCopy();
     void TakesDay(CLI::Option* option) const;
     void CheckReport() const;
@@ -101,6 +113,7 @@ private:
     CLI::App* m_restore = nullptr;
     CLI::App* m_backups = nullptr;
     CLI::App* m_import = nullptr;
+    CLI::App* m_importPunches = nullptr;
     CLI::App* m_copy = nullptr;
 };
 
@@ -126,6 +139,7 @@ Grammar::Grammar(DateTime today) : m_today(today)
     DescribeHistory();
     DescribeBackups();
     DescribeImport();
+    DescribeImportPunches();
     DescribeCopy();
     m_app.add_subcommand("check", "Verify the database's integrity and schema and print its row counts");
 }
@@ -230,13 +244,21 @@ void Grammar::DescribeImport()
     m_import->add_option("file", m_words.file, "The older database; it is only read")->type_name("FILE")->required();
     m_import->add_flag("--dry-run", m_words.dryRun, "Print the same account, and write nothing");
     m_import->add_flag("--accept-damaged", m_words.acceptDamaged, "Take what can be read of a file that shows signs of damage");
-    const auto known = [](const std::string& text) {
-        const auto number = text.size() < 6 && text.find_first_not_of("0123456789") == std::string::npos ? std::atoi(text.c_str()) : 0;
-        return IsKnownCodePage(number) ? std::string() : "no code page that is known: " + text;
-    };
-    m_import->add_option("--code-page", m_words.codePage, "Of the texts in a Jet 3 file (Access 97), instead of the one that it names")
-        ->type_name("N")
-        ->check(CLI::Validator([known](std::string& text) { return known(text); }, ""));
+    TakesCodePage(m_import->add_option("--code-page", m_words.codePage,
+                                       "Of the texts in a Jet 3 file (Access 97), instead of the one that it names"));
+}
+
+void Grammar::DescribeImportPunches()
+{
+    m_importPunches =
+        m_app.add_subcommand("import-punches", "Store the punches of a CSV file: pairs of start and end, or events of in and out");
+    m_importPunches->add_option("file", m_words.file, "The CSV file; it is only read")->type_name("FILE")->required();
+    m_importPunches->add_flag("--dry-run", m_words.dryRun, "Print the same account, and store nothing");
+    m_importPunches->add_flag("--partly", m_words.partly, "Store what can be stored although lines are refused");
+    TakesCodePage(m_importPunches->add_option("--code-page", m_words.codePage, "Of a file that is no UTF-8; else 1252"));
+    m_importPunches->add_option("--columns", m_words.columns, "What headings and words mean: Badge=Number,1=In,0=Out")
+        ->type_name("FILE=OURS,...")
+        ->check(CLI::Validator([](std::string& text) { return ReadSheetWords(text) ? std::string() : "not FILE=OURS,...: " + text; }, ""));
 }
 
 void Grammar::DescribeCopy()
@@ -360,6 +382,11 @@ Command Grammar::FileResult() const
     if (m_import->parsed()) {
         const bool named = m_import->count("--code-page") > 0;
         return ImportArguments{m_words.file, m_words.dryRun, m_words.acceptDamaged, named ? std::optional(m_words.codePage) : std::nullopt};
+    }
+    if (m_importPunches->parsed()) {
+        const bool named = m_importPunches->count("--code-page") > 0;
+        return ImportPunchesArguments{m_words.file, m_words.dryRun, m_words.partly, named ? std::optional(m_words.codePage) : std::nullopt,
+                                      ReadSheetWords(m_words.columns).value_or(SheetWords())};
     }
     if (m_copy->parsed()) {
         return CopyDatabaseArguments{m_copy->count("--from") > 0 ? std::optional(m_words.from) : std::nullopt, m_words.target};

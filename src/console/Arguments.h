@@ -1,6 +1,7 @@
 // The command line of ptk-console, read and checked.
 #pragma once
 
+#include "office/sheet/SheetColumns.h"
 #include "platform/text/DateTime.h"
 #include "reports/forms/ReportForms.h"
 #include "reports/ReportCatalog.h"
@@ -93,6 +94,15 @@ struct ImportArguments
     std::optional<int> codePage; // one that is known
 };
 
+struct ImportPunchesArguments
+{
+    std::string file;
+    bool dryRun = false;
+    bool partly = false;
+    std::optional<int> codePage; // one that is known
+    SheetWords words;
+};
+
 struct CopyDatabaseArguments
 {
     std::optional<std::string> from; // a file or an address; none: the configured database
@@ -103,9 +113,9 @@ struct CheckArguments
 {
 };
 
-using Command =
-    std::variant<CreateDatabaseArguments, TimeCardArguments, ReportArguments, OverviewArguments, PaydayArguments, HistoryArguments,
-                 BackupArguments, RestoreArguments, BackupsArguments, ImportArguments, CopyDatabaseArguments, CheckArguments>;
+using Command = std::variant<CreateDatabaseArguments, TimeCardArguments, ReportArguments, OverviewArguments, PaydayArguments,
+                             HistoryArguments, BackupArguments, RestoreArguments, BackupsArguments, ImportArguments, ImportPunchesArguments,
+                             CopyDatabaseArguments, CheckArguments>;
 
 struct Arguments
 {

@@ -25,6 +25,7 @@ struct Dispatch
     int operator()(const RestoreArguments& arguments) const { return RestoreCommand(arguments, console); }
     int operator()(const BackupsArguments& arguments) const { return BackupsCommand(arguments, console); }
     int operator()(const ImportArguments& arguments) const { return ImportCommand(arguments, console); }
+    int operator()(const ImportPunchesArguments& arguments) const { return ImportPunchesCommand(arguments, console); }
     int operator()(const CopyDatabaseArguments& arguments) const { return CopyDatabaseCommand(arguments, console); }
     int operator()(const CheckArguments& arguments) const { return CheckCommand(arguments, console); }
 };

@@ -33,8 +33,6 @@ constexpr Reason kReasons[] = {
     {6, "the file is cut short: not even its list of tables is there"},
 };
 
-constexpr int kCodePages[] = {437, 850, 852, 855, 857, 866, 874, 932, 936, 949, 950, 1250, 1251, 1252, 1253, 1254, 1255, 1256, 1257, 1258};
-
 // Looking at a file leaves its time of last access alone where it is one's own; nobody else can choose.
 SystemFile OpenWithoutTrace(const std::string& path)
 {
@@ -312,11 +310,6 @@ void OldFile::ReadRows(std::span<const OldRowsOrder> orders, OldRowSink& sink)
     RowLines lines(orders, sink);
     Run(arguments, [&](Fields fields) { lines.Take(fields); });
     lines.RefuseUnlessComplete();
-}
-
-bool IsKnownCodePage(int codePage)
-{
-    return std::find(std::begin(kCodePages), std::end(kCodePages), codePage) != std::end(kCodePages);
 }
 
 } // namespace ptk

@@ -19,6 +19,7 @@
 #include "ui/reports/WindowMenu.h"
 #include "ui/safety/BackupMenu.h"
 #include "ui/safety/ImportMenu.h"
+#include "ui/sheet/PunchesMenu.h"
 #include "ui/timecards/TimeCardPage.h"
 #include "ui/widgets/ElidedLabel.h"
 #include "ui/widgets/NoticeLine.h"
@@ -155,6 +156,8 @@ void FController::ConnectBackups()
     auto* import = new ImportMenu(*m_ui->mnuFileImport, *this, *this);
     connect(import, &ImportMenu::Imported, this, &FController::ShowRestored);
     connect(import, &ImportMenu::Said, this, &FController::Say);
+    auto* punches = new PunchesMenu(*m_ui->mnuFilePunches, *this, *this);
+    connect(punches, &PunchesMenu::Said, this, &FController::Say);
 }
 
 void FController::ConnectViewMenu()
