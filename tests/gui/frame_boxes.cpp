@@ -11,10 +11,12 @@ namespace {
 // Idle Ames has no records; the others each worked on 3 March 2003.
 void AddFrameBoxesStaff(BulkWriter& writer, int workers)
 {
-    const auto add = [&writer](const std::string& firstName, const std::string& lastName) {
+    std::int32_t number = 0;
+    const auto add = [&writer, &number](const std::string& firstName, const std::string& lastName) {
         EmployeeRow row;
         row.FirstName = firstName;
         row.LastName = lastName;
+        row.EmployeeNumber = ++number;
         row.EmployeeActive = true;
         return writer.AddEmployee(row);
     };

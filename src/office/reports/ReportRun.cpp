@@ -10,6 +10,8 @@ namespace ptk {
 
 namespace {
 
+constexpr std::size_t kMostReplaced = 3; // in one line
+
 std::string Reports(std::int32_t count)
 {
     return fmt::format("{} report{}", count, count == 1 ? "" : "s");
@@ -23,6 +25,16 @@ char UpperCase(char letter)
 std::string OutOf(std::int32_t done, std::int32_t wanted)
 {
     return done == wanted ? Reports(done) : fmt::format("{} of {}", done, Reports(wanted));
+}
+
+// A business that gives no numbers has one file for everybody: the line tells a few of them.
+std::string ReplacedText(const std::vector<std::string>& replaced)
+{
+    std::string text;
+    for (std::size_t i = 0; i < std::min(replaced.size(), kMostReplaced); ++i) {
+        text += "; " + replaced[i];
+    }
+    return replaced.size() > kMostReplaced ? text + fmt::format("; and {} more", replaced.size() - kMostReplaced) : text;
 }
 
 } // namespace
@@ -47,7 +59,7 @@ std::string DescribeRun(const ReportRun& run)
     }
     const std::string cancelled = run.done < run.wanted ? "Cancelled: " : "";
     const std::string whole = OutOf(run.done - run.failed, run.wanted);
-    const std::string replaced = (run.replaced.empty() ? "" : "; ") + fmt::format("{}", fmt::join(run.replaced, "; "));
+    const std::string replaced = ReplacedText(run.replaced);
     if (run.failed == 0) {
         return cancelled + whole + " written" + replaced;
     }
