@@ -329,8 +329,8 @@ Arguments Grammar::Result() const
         return {m_words.programFolder, ReportResult()};
     }
     if (m_overview->parsed()) {
-        return {m_words.programFolder, OverviewArguments{m_words.employees, Day(m_words.from), Day(m_words.to), m_words.format,
-                                                         m_words.all, m_words.remedies}};
+        return {m_words.programFolder,
+                OverviewArguments{m_words.employees, Day(m_words.from), Day(m_words.to), m_words.format, m_words.all, m_words.remedies}};
     }
     if (m_payday->parsed()) {
         return {m_words.programFolder, PaydayResult()};
