@@ -26,7 +26,7 @@ install(TARGETS ptk_pages LIBRARY DESTINATION lib/ptk-admin COMPONENT admin)
 install(FILES ${man_page} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT admin)
 install(FILES packaging/completion.bash DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME ptk-admin COMPONENT admin)
 install(FILES packaging/ptk-admin.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications COMPONENT admin)
-install(FILES packaging/ptk-admin.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo RENAME com.quillmarsh.ptk_admin.metainfo.xml COMPONENT admin)
+install(FILES packaging/ptk-admin.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo RENAME com.example.ptk_admin.metainfo.xml COMPONENT admin)
 install(FILES ${CMAKE_BINARY_DIR}/documentation/PTKAdminUserGuide.doc ${CMAKE_BINARY_DIR}/documentation/PTKAdminUserGuide.html
         DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/ptk-admin COMPONENT admin) # where a program folder gets them from
 
