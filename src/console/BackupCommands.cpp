@@ -107,7 +107,7 @@ int BackupsCommand(const BackupsArguments&, Console& console)
 {
     int result = status::Done;
     const std::string folder = BackupFolder(console.programFolder);
-    for (const std::string& name : BackupsIn(folder)) {
+    for (const std::string& name : Naming(folder, folder, [&] { return BackupsIn(folder); })) {
         const BackupEntry entry = CheckedBackup(folder, name);
         console.out << TerminalText(Line(entry));
         if (!entry.content) {
