@@ -82,12 +82,9 @@ int BackupCommand(const BackupArguments& arguments, Console& console)
     if (IsServerAddress(*arguments.to)) {
         throw Failure(0, "PTK", kBackupIsFile);
     }
-    std::string target = std::filesystem::absolute(*arguments.to).string();
-    const auto write = [&] {
-        BackUpTo(order.database, target);
-        return target;
-    };
-    console.out << "backup: " << TerminalText(Naming(order.database, target, write)) << '\n';
+    const std::string target = std::filesystem::absolute(*arguments.to).string();
+    Naming(order.database, target, [&] { BackUpTo(order.database, target); });
+    console.out << "backup: " << TerminalText(target) << '\n';
     return status::Done;
 }
 

@@ -136,9 +136,10 @@ TEST_F(SafekeepingTest, RestoringReadsEverythingAgain)
     windows.restored = {"none.mdb", kOfNow};
     const auto before = Controller().EmployeeList();
     EXPECT_EQ(Controller().Restore(), "Restored from " + kOfNow);
-    EXPECT_EQ(Boxes(),
-              Texts{"Restore Error: The database could not be restored and is what it was: the database file is missing or cannot be "
-                    "opened."});
+    EXPECT_EQ(
+        Boxes(),
+        Texts{"Restore Error: The database could not be restored and is what it was: the database file is missing or cannot be opened: " +
+              Folder() + "/none.mdb."});
     EXPECT_EQ(Controller().SystemOptions()->PeriodLength(), 14);
     EXPECT_EQ(StoredPeriodLength(), 14);
     EXPECT_EQ(Backups(), kNext + " " + kOfNow) << "the former one is kept";
