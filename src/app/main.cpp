@@ -6,6 +6,7 @@
 #include "shell/CError.h"
 #include "startup/AdminMain.h"
 #include "store/postgres/ServerAddress.h"
+#include "ui/frame/EndFromOutside.h"
 #include "ui/frame/LastWindow.h"
 #include "ui/frame/QtDesktop.h"
 #include "ui/frame/QtWindowFactory.h"
@@ -117,6 +118,7 @@ int Run(const QApplication& application, ptk::Desktop& desktop)
     const ptk::SystemClock clock;
     // Between the login and the main window there is no window, and the program must not take that for its end.
     QApplication::setQuitOnLastWindowClosed(false);
+    const ptk::EndFromOutside end;
     const std::string folder = FolderToWorkIn(ptk::FindProgramFolder(ProgramFolderOption(application)), clock);
     if (folder.empty()) {
         return EXIT_FAILURE;

@@ -373,6 +373,11 @@ std::string CController::SecondBackupFolder() const
     return ptk::SecondBackupFolder(*Required(m_configFile));
 }
 
+std::string CController::SecondFolderRefusal(const std::string& folder) const
+{
+    return ptk::SecondFolderRefusal(folder, m_around.programFolder);
+}
+
 bool CController::SecondBackupFolder(const std::string& folder)
 {
     if (folder == SecondBackupFolder()) {

@@ -112,6 +112,9 @@ public:
     // The folder for a second copy of each backup; empty for none.
     [[nodiscard]] std::string SecondBackupFolder() const;
 
+    // See office/BackupRun.h.
+    [[nodiscard]] std::string SecondFolderRefusal(const std::string& folder) const;
+
     // Into the configuration file; false, with a line in the log, when that could not be written. REQUIRES: the file can hold it, see
     // office/BackupRun.
     [[nodiscard]] bool SecondBackupFolder(const std::string& folder);

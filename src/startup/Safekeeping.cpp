@@ -149,7 +149,8 @@ bool Safekeeping::PutBack(const BackupOrder& order, const std::string& file, con
 
 bool Safekeeping::CanReplace(const BackupOrder& order)
 {
-    if (order.database.empty() || IsServerAddress(order.database) || BackupsIn(BackupFolder(order.programFolder)).empty()) {
+    const auto hasBackups = [&] { return !BackupsIn(BackupFolder(order.programFolder)).empty(); };
+    if (order.database.empty() || IsServerAddress(order.database) || !Succeeds(hasBackups)) {
         return false;
     }
     bool replaceable = false;

@@ -2,6 +2,9 @@
 #include "gui/PageFixture.h"
 
 #include "store/backup/Backups.h"
+#include "ui/frame/EndFromOutside.h"
+
+#include <csignal>
 
 namespace ptk {
 
@@ -67,6 +70,18 @@ TEST_F(BackupsWindowTest, RestoresTheChosenOneAndShowsWhatIsInIt)
     EXPECT_EQ(Notice(), "Restored from ptk_11-2003-03-05-080509.mdb");
     EXPECT_EQ(Names(), "Ann Lee") << "as it was";
     EXPECT_EQ(Stored("SELECT LastName AS x FROM Employee WHERE FirstName = 'Ann'"), std::vector<std::string>{"Lee"});
+    EXPECT_EQ(Told(), Boxes());
+}
+
+TEST_F(BackupsWindowTest, ASignalOfTheSystemEndsTheProgramAsExitDoesWithoutAQuestion)
+{
+    const EndFromOutside end;
+    std::filesystem::remove_all(BackupFolder(program.folder.Path()));
+    QTimer::singleShot(0, [] { std::raise(SIGTERM); });
+    Trigger("mnuFileRestore"); // a dialog that waits for the user
+    EXPECT_TRUE(QTest::qWaitFor([&] { return program.ended == 1; }));
+    EXPECT_EQ(BackupsIn(BackupFolder(program.folder.Path())).size(), 1U);
+    EXPECT_NE(ReadBytes(program.logPath).find("session end"), std::string::npos);
     EXPECT_EQ(Told(), Boxes());
 }
 

@@ -3,7 +3,6 @@
 #include "office/card/CardTexts.h"
 #include "office/records/ConflictNotice.h"
 #include "office/records/LeftBehind.h"
-#include "office/safety/BackupRun.h"
 #include "platform/Failure.h"
 #include "platform/Required.h"
 #include "platform/Succeeds.h"
@@ -302,7 +301,7 @@ void OptionsPage::Complain(const char* what, const Failure& reason)
 std::string OptionsPage::Refusal() const
 {
     const std::string limits = m_limits ? LimitRefusal(Limits()) : std::string();
-    return limits.empty() ? SecondFolderRefusal(BackupFolder()) : limits;
+    return limits.empty() ? Required(m_host.Controller())->SecondFolderRefusal(BackupFolder()) : limits;
 }
 
 void OptionsPage::Cancel()

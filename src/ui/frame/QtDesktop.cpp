@@ -1,6 +1,7 @@
 #include "ui/frame/QtDesktop.h"
 
 #include "platform/system/SystemShell.h"
+#include "ui/widgets/ProgramEnd.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -55,6 +56,20 @@ Answer ToAnswer(int button)
     }
 }
 
+// Whatever changes nothing.
+Answer Unasked(Buttons buttons)
+{
+    switch (buttons) {
+    case Buttons::OkCancel:
+        return Answer::Cancel;
+    case Buttons::YesNo:
+        return Answer::No;
+    case Buttons::Ok:
+        break;
+    }
+    return Answer::Ok;
+}
+
 // A box that is in front of everything that could cover it.
 QWidget* Owner()
 {
@@ -90,6 +105,9 @@ private:
 
 Answer QtDesktop::MessageBox(const std::string& text, const std::string& title, Icon icon, Buttons buttons)
 {
+    if (IsEnding()) {
+        return Unasked(buttons);
+    }
     const PlainPointer pointer;
     QMessageBox box(ToQt(icon), QString::fromStdString(title), QString(), ToQt(buttons), Owner());
     box.setTextFormat(Qt::PlainText);
