@@ -303,6 +303,50 @@ TEST_F(EmployeePageTest, OnlyAChoiceLoadsAnotherEmployee)
     EXPECT_EQ(Stored("SELECT PayRate AS x FROM Employee WHERE EmployeeID = 42"), std::vector<std::string>{"12.5"}) << "found, not saved";
 }
 
+TEST_F(EmployeePageTest, LeavingAsksOnceWhatBecomesOfTypedChanges)
+{
+    struct Way
+    {
+        const char* number;
+        Answer answer;
+        Boxes told;
+        bool leaves;
+        const char* ann;
+    };
+    const ShownBox question{"Changes to Ann Lee were not saved.\n\nSave before leaving?", "Exit", Icon::Question,
+                            Buttons::SaveDiscardCancel};
+    const ShownBox noNumber{"You cannot save an employee without assigning an employee number.", "Employee Save Error", Icon::Exclamation,
+                            Buttons::Ok};
+    const std::string stored = kAnnAtFirst;
+    for (const Way& way : {Way{"9", Answer::Cancel, {question}, false, "5"},
+                           {"", Answer::Yes, {question, noNumber}, false, "5"},
+                           {"9", Answer::Yes, {question}, true, "9"}}) {
+        Pick(Box("cboEmployeeSSN"), "111-11");
+        TypeInto(Box("cboEmployeeNumber"), way.number);
+        ClickTab(Main(), 1);
+        program.desktop.answers = {way.answer};
+        Find<QAction>(Main(), "mnuFileExit").trigger();
+        EXPECT_EQ(Told(), way.told);
+        EXPECT_EQ(program.ended, way.leaves ? 1 : 0);
+        EXPECT_EQ(Stored(kAnn).front(), way.ann + stored.substr(1));
+        if (!way.leaves) {
+            EXPECT_EQ(Find(Main(), "FrameArray(3)").isVisible(), way.answer == Answer::Yes) << "what was refused is brought up";
+            EXPECT_EQ(Box("cboEmployeeNumber").currentText(), way.number);
+        }
+    }
+}
+
+TEST_F(EmployeePageTest, DiscardedChangesAreGone)
+{
+    Pick(Box("cboEmployeeSSN"), "111-11");
+    TypeInto(Box("cboEmployeeNumber"), "9");
+    program.desktop.answers = {Answer::No};
+    Main().close();
+    EXPECT_EQ(Told().size(), 1U);
+    EXPECT_EQ(program.ended, 1);
+    EXPECT_EQ(Stored(kAnn), std::vector<std::string>{kAnnAtFirst});
+}
+
 } // namespace
 
 } // namespace ptk

@@ -4,9 +4,16 @@
 #include "model/CEmployeeList.h"
 #include "platform/text/Text.h"
 
+#include <fmt/format.h>
 #include <unordered_map>
 
 namespace ptk {
+
+namespace {
+
+constexpr std::size_t kManyWindows = 50;
+
+} // namespace
 
 std::optional<PayPeriod> OfferedDays(ReportDates dates, DateTime today, std::int16_t periodLength)
 {
@@ -75,6 +82,14 @@ std::shared_ptr<CEmployeeList> EmployeesFor(ReportWhom whom, CEmployeeList& empl
         }
     }
     return taken;
+}
+
+std::optional<std::string> ManyWindowsQuestion(ReportWhom whom, std::size_t employees)
+{
+    if (whom != ReportWhom::Each || employees < kManyWindows) {
+        return std::nullopt;
+    }
+    return fmt::format("This opens {} windows, one for each report. Go on?", employees);
 }
 
 } // namespace ptk

@@ -4,6 +4,7 @@
 #include "model/PayPeriod.h"
 #include "reports/ReportCatalog.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -29,5 +30,9 @@ class CEmployeeList;
 // Whom of these a report takes, in the names' order. A name that nobody has leaves an empty entry, which the reports answer with their
 // codes; a report of everyone leaves it out, and with it the administrators.
 [[nodiscard]] std::shared_ptr<CEmployeeList> EmployeesFor(ReportWhom whom, CEmployeeList& employees, const std::vector<std::string>& names);
+
+// What to ask before as many reports are made for which a window each opens: fifty are more than anybody reads one by one. Nothing for
+// fewer, and for one report of all.
+[[nodiscard]] std::optional<std::string> ManyWindowsQuestion(ReportWhom whom, std::size_t employees);
 
 } // namespace ptk

@@ -13,7 +13,7 @@ namespace ptk {
 
 class PageHost;
 
-// Its lines say what they would do. A box with the focus keeps their keys for its own text, as such boxes do by themselves.
+// Its lines say what they would do, and to whom. A box with the focus keeps their keys while it has something to undo or redo in its text.
 class EditMenu final : public QObject
 {
     Q_OBJECT
@@ -41,7 +41,7 @@ private:
     void Redo();
     void Move(bool undo);
     void Refuse(const std::string& reason, const char* title);
-    [[nodiscard]] std::string DoneText(const char* word, const MovedStep& step) const;
+    [[nodiscard]] std::string Whose(const MovedStep& step) const;
 
     Lines m_lines;
     PageHost& m_host;

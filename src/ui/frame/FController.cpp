@@ -142,9 +142,9 @@ void FController::ConnectEditMenu()
     const auto isBusy = [this] { return IsBusyInDialog(); };
     const std::array<RecordPages::Place, 3> places{
         {{0, "TimeRecord", *m_timeCardPage}, {2, "Employee", *m_employeePage}, {3, "Company", *m_companyPage}}};
-    auto* pages = new RecordPages(*this, {*m_ui->TabStrip, *m_ui->pages, *this, isBusy}, places);
+    m_recordPages = new RecordPages(*this, {*m_ui->TabStrip, *m_ui->pages, *this, isBusy}, places);
     auto* menu = new EditMenu(*m_ui->mnuEdit, {*m_ui->mnuEditUndo, *m_ui->mnuEditRedo}, *this, isBusy);
-    connect(menu, &EditMenu::Moved, pages, &RecordPages::ShowMoved);
+    connect(menu, &EditMenu::Moved, m_recordPages, &RecordPages::ShowMoved);
     connect(menu, &EditMenu::Said, this, &FController::Say);
 }
 
@@ -383,11 +383,14 @@ void FController::ShowHistory(const std::optional<HistoryScope>& scope)
 // Unloading the window, in the middle of this, runs the whole close path once more; all of it is harmless when repeated.
 void FController::Exit()
 {
-    CloseDown(true);
+    if (m_recordPages->MayLeave()) {
+        CloseDown(true);
+    }
 }
 
 void FController::Unload()
 {
+    m_recordPages->LeaveUnasked();
     if (m_closing) {
         hide();
     } else {
@@ -430,7 +433,9 @@ void FController::closeEvent(QCloseEvent* event)
         QMetaObject::invokeMethod(this, "close", Qt::QueuedConnection);
         return;
     }
-    event->accept();
+    if (!m_recordPages->MayLeave()) {
+        return event->ignore();
+    }
     if (std::exchange(m_closing, true)) {
         return;
     }

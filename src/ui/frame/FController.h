@@ -29,6 +29,7 @@ class HistoryWindow;
 class OptionsPage;
 class OverviewWindow;
 class PageTabs;
+class RecordPages;
 class ReportsPage;
 class TimeCardPage;
 struct HistoryScope;
@@ -129,6 +130,7 @@ private:
     bool m_loaded = false;
     bool m_closing = false;
 
+    RecordPages* m_recordPages = nullptr; // belongs to the window
     BackupMenu* m_backups = nullptr;
     PageTabs* m_tabs = nullptr;
     TimeCardPage* m_timeCardPage = nullptr; // the pages belong to the window's widgets

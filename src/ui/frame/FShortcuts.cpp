@@ -29,6 +29,7 @@ constexpr Shortcut kShortcuts[] = {
     {"Timecards", "Enter", "Edit the chosen record"},
     {"Timecards", "Delete", "Delete the chosen record"},
     {"Timecards", "Alt+L", "What the check found"},
+    {"Sentences of the check", "Enter, Delete", "Edit, delete the record"},
     {"Reports", "Alt+Left, Alt+Right", "Previous and next period"},
     {"Reports", "Ctrl+A, Ctrl+Shift+A", "Choose all employees, none"},
     {"Date boxes", "+, -", "One day on, one day back"},

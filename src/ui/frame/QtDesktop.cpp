@@ -34,6 +34,8 @@ QMessageBox::StandardButtons ToQt(Buttons buttons)
     switch (buttons) {
     case Buttons::OkCancel:
         return QMessageBox::Ok | QMessageBox::Cancel;
+    case Buttons::SaveDiscardCancel:
+        return QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel;
     case Buttons::YesNo:
         return QMessageBox::Yes | QMessageBox::No;
     case Buttons::Ok:
@@ -46,8 +48,10 @@ Answer ToAnswer(int button)
 {
     switch (button) {
     case QMessageBox::Yes:
+    case QMessageBox::Save:
         return Answer::Yes;
     case QMessageBox::No:
+    case QMessageBox::Discard:
         return Answer::No;
     case QMessageBox::Cancel:
         return Answer::Cancel;

@@ -310,6 +310,12 @@ std::optional<Shown> EmployeePage::IdleList() const
     return m_texts.Left(ReadTexts()) ? std::nullopt : std::optional(Shown::Employee);
 }
 
+std::string EmployeePage::Unsaved() const
+{
+    const auto left = m_texts.Left(ReadTexts());
+    return left ? NoticeOf(*left) : std::string();
+}
+
 void EmployeePage::TellChanges()
 {
     const auto employee = Of(m_ui->cboEmployeeID->currentText().toStdString());
@@ -323,15 +329,15 @@ void EmployeePage::WarnOfSharedNumbers()
     Succeeds([this] { m_ui->notice->Remark(QString::fromStdString(SharedNumbersNotice(*List(), ReadTexts()))); });
 }
 
-void EmployeePage::Save()
+bool EmployeePage::Save()
 {
     m_ui->notice->Remark({});
     const EmployeeTexts texts = ReadTexts();
     if (!IsAccepted(texts)) {
-        return;
+        return false;
     }
-    Succeeds([&] { SaveTexts(texts); },
-             [this](const Failure&) { m_host.Desktop().Show(kEmployeeNotRead, listedit::kSaveTitle, Icon::Exclamation); });
+    return Succeeds([&] { return SaveTexts(texts); },
+                    [this](const Failure&) { m_host.Desktop().Show(kEmployeeNotRead, listedit::kSaveTitle, Icon::Exclamation); });
 }
 
 bool EmployeePage::IsAccepted(const EmployeeTexts& texts)
@@ -362,27 +368,29 @@ bool EmployeePage::IsAccepted(const EmployeeTexts& texts)
     return false;
 }
 
-void EmployeePage::SaveTexts(const EmployeeTexts& texts)
+bool EmployeePage::SaveTexts(const EmployeeTexts& texts)
 {
     const auto list = List();
     const auto edited = CopyToEdit<CEmployee>(*list, texts.id, [](const CEmployee& employee) { return employee.EmployeeID(); });
     if (!edited) {
-        return (void)m_host.Desktop().Show(kEmployeeNotFound, listedit::kNotFoundTitle, Icon::Exclamation);
+        m_host.Desktop().Show(kEmployeeNotFound, listedit::kNotFoundTitle, Icon::Exclamation);
+        return false;
     }
     ReadEmployeeTexts(texts, *edited->entity);
     const std::string shared = SharedNumbersNotice(*list, texts);
     const ListSave saved = SaveOrTell(m_host.Desktop(), *list, *edited, kEmployeeNotSaved);
     if (saved == ListSave::Conflict) {
-        return AskForPresent(RowConflict(*list->Conflict()), texts.id);
+        AskForPresent(RowConflict(*list->Conflict()), texts.id);
     }
     if (saved != ListSave::Saved) {
-        return;
+        return false;
     }
     m_host.SharedRecords().Remember();
     const bool read = Reload();
     m_ui->notice->Say(
         QString::fromStdString(texts.name + (read ? kEmployeeSaved : kEmployeeSavedUnread) + (shared.empty() ? "" : ". ") + shared));
     emit m_host.EmployeeModels().Saved(edited->entity->EmployeeID());
+    return true;
 }
 
 void EmployeePage::AskForPresent(const RowConflict& conflict, const std::string& id)

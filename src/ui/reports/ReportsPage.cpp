@@ -39,6 +39,8 @@ constexpr auto kStatusName = "Reports : ";
 constexpr auto kProgressTitle = "Generate Report";
 constexpr auto kProgressText = "Generating for {} employees...";
 
+constexpr auto kNothingMade = "No report was made";
+
 constexpr auto kNoDatesTip = "This report needs no dates.";
 constexpr auto kYearTip = "Year-to-date totals start on 1 January.";
 constexpr auto kEveryoneTip = "The phone book lists everyone.";
@@ -302,8 +304,18 @@ void ReportsPage::Run(const ReportEntry& entry)
                             Names(entry.whom),
                             ChosenDate(*m_ui->cboFromDate),
                             ChosenDate(*m_ui->cboToDate)};
+    if (!MayOpenWindows(order)) {
+        return Say(kNothingMade);
+    }
+    const QtViewerFactory::OpensBehind behind(m_host.Reports().Viewers());
     Client client(*this, order);
     RunReports(order, client);
+}
+
+bool ReportsPage::MayOpenWindows(const ReportOrder& order)
+{
+    const auto question = ManyWindowsQuestion(order.report.whom, order.names.size());
+    return !question || m_host.Desktop().MessageBox(*question, kProgressTitle, Icon::Question, Buttons::YesNo) == Answer::Yes;
 }
 
 std::vector<std::string> ReportsPage::Names(ReportWhom whom) const

@@ -16,6 +16,7 @@ class ReportsPage;
 namespace ptk {
 
 class PageHost;
+struct ReportOrder;
 
 class ReportsPage final : public QWidget
 {
@@ -55,6 +56,9 @@ private:
 
     void Generate();
     void Run(const ReportEntry& entry);
+
+    // Asks where they are many.
+    bool MayOpenWindows(const ReportOrder& order);
 
     // In the list box's order.
     [[nodiscard]] std::vector<std::string> Names(ReportWhom whom) const;

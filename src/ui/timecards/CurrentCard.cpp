@@ -262,6 +262,21 @@ void CurrentCard::ForgetChosenRecord()
     m_host.EventSource(eventsource::None);
 }
 
+std::int32_t CurrentCard::LongShiftHours() const
+{
+    return (m_checked == nullptr ? CheckLimits() : m_checked->limits).longShiftHours;
+}
+
+void CurrentCard::TakeKeyboard(std::int64_t record, int place)
+{
+    m_display.TakeKeyboard(record, place);
+}
+
+int CurrentCard::KeyboardPlace() const
+{
+    return m_display.KeyboardPlace();
+}
+
 std::shared_ptr<CTimeRecord> CurrentCard::ChosenRecord() const
 {
     return m_host.EventSource() == eventsource::TimeRecordGrid ? m_display.ChosenRecord() : nullptr;

@@ -78,6 +78,16 @@ public:
 
     void ForgetChosenRecord();
 
+    // By the limits that the card was checked with.
+    [[nodiscard]] std::int32_t LongShiftHours() const;
+
+    // Puts the keyboard into the table, on the row of that record, or, where it is not there, on the one at that place; none is chosen by
+    // it.
+    void TakeKeyboard(std::int64_t record, int place);
+
+    // From 0, of the row that has the keyboard in the table; -1 for none.
+    [[nodiscard]] int KeyboardPlace() const;
+
     // Into the page's line and the session log; nothing for an empty text.
     void Complain(const std::string& line);
 

@@ -69,6 +69,14 @@ TEST(ReportChoiceTest, LooksEmployeesUpByDisplayName)
     EXPECT_EQ(ids(ReportWhom::Everyone), (std::vector<std::int32_t>{2, 1, 1, 6}));
 }
 
+TEST(ReportChoiceTest, AsksBeforeFiftyWindows)
+{
+    EXPECT_FALSE(ManyWindowsQuestion(ReportWhom::Each, 49));
+    EXPECT_EQ(ManyWindowsQuestion(ReportWhom::Each, 50), "This opens 50 windows, one for each report. Go on?");
+    EXPECT_FALSE(ManyWindowsQuestion(ReportWhom::Together, 1500));
+    EXPECT_FALSE(ManyWindowsQuestion(ReportWhom::Everyone, 1500));
+}
+
 } // namespace
 
 } // namespace ptk
