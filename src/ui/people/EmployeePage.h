@@ -82,6 +82,8 @@ private:
     void Save();
     bool IsAccepted(const EmployeeTexts& texts);
     void SaveTexts(const EmployeeTexts& texts);
+    [[nodiscard]] std::string SavedID(const EmployeeTexts& texts) const;
+    void ShowAgain(const std::string& id);
     void AskForPresent(const RowConflict& conflict, const std::string& id);
 
     // Whether the employees could be read again.

@@ -89,6 +89,8 @@ signals:
     void ElsewhereEntered(const ptk::Punch& punch);
 
 private:
+    void LayOutFigures();
+    void ShowBreakTime(const QString& text);
     void PrepareGrid();
     void ConnectFindings();
     bool FillTimeRecordGrid(std::vector<CardLine> lines);
