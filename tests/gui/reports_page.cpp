@@ -125,7 +125,7 @@ TEST_F(ReportsPageTest, MarksThoseWhoseCardsHaveProblems)
         QString marked;
         for (int row = 0; row < 3; ++row) {
             const QModelIndex index = list.model()->index(row, 0);
-            marked += index.data(Qt::DecorationRole).isNull() ? '-' : '!';
+            marked += index.data(Qt::ToolTipRole).isNull() ? '-' : '!';
         }
         return marked;
     };

@@ -44,6 +44,13 @@ QString MarkOf(const CardCheck& check)
 
 } // namespace
 
+MarkedEmployees::MarkedEmployees(int size, QObject* parent) : QIdentityProxyModel(parent)
+{
+    QPixmap blank(size, size);
+    blank.fill(Qt::transparent);
+    m_blank = QIcon(blank);
+}
+
 void MarkedEmployees::Mark(Marks marks)
 {
     m_marks = std::move(marks);
@@ -58,17 +65,20 @@ QVariant MarkedEmployees::data(const QModelIndex& index, int role) const
         return QIdentityProxyModel::data(index, role);
     }
     const auto mark = m_marks.find(QIdentityProxyModel::data(index, kEmployeeIDRole).toInt());
-    if (mark == m_marks.end()) {
-        return {};
+    const bool marked = mark != m_marks.end();
+    if (role == Qt::DecorationRole) {
+        return marked ? ThemeIcon(SeverityIconName(Severity::Problem)) : m_blank; // the names stand below each other
     }
-    return role == Qt::DecorationRole ? QVariant(ThemeIcon(SeverityIconName(Severity::Problem))) : QVariant(mark->second);
+    return marked ? QVariant(mark->second) : QVariant();
 }
 
 ReportPeople::ReportPeople(PageHost& host, QListView& list, std::function<bool()> isBusy)
-    : QObject(&list), m_host(host), m_list(list), m_isBusy(std::move(isBusy)), m_employees(new MarkedEmployees(this))
+    : QObject(&list), m_host(host), m_list(list), m_isBusy(std::move(isBusy)),
+      m_employees(new MarkedEmployees(list.fontMetrics().height(), this))
 {
     m_employees->setSourceModel(host.EmployeeModels().Offered());
     ShowEmployees(list, m_employees);
+    list.setIconSize(QSize(1, 1) * list.fontMetrics().height()); // no higher than the names
     list.installEventFilter(this);
     m_next.setSingleShot(true);
     connect(&m_next, &QTimer::timeout, this, &ReportPeople::CheckOn);

@@ -7,6 +7,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <QIcon>
 #include <QIdentityProxyModel>
 #include <QTimer>
 #include <string>
@@ -27,7 +28,8 @@ class MarkedEmployees final : public QIdentityProxyModel
 public:
     using Marks = std::unordered_map<std::int32_t, QString>; // by EmployeeID
 
-    using QIdentityProxyModel::QIdentityProxyModel;
+    // size: pixels of the icon.
+    MarkedEmployees(int size, QObject* parent);
 
     void Mark(Marks marks);
     [[nodiscard]] bool IsMarked(std::int32_t employeeID) const { return m_marks.contains(employeeID); }
@@ -36,10 +38,11 @@ public:
 
 private:
     Marks m_marks;
+    QIcon m_blank;
 };
 
-// Checks the cards of the days that the page shows, a few at a time while the list can be seen and nothing else is to be done, so that neither
-// the list nor anything else waits for it; again where records have been changed. Who could not be checked has no mark.
+// Checks the cards of the days that the page shows, a few at a time while the list can be seen and nothing else is to be done, so that
+// neither the list nor anything else waits for it; again where records have been changed. Who could not be checked has no mark.
 class ReportPeople final : public QObject
 {
     Q_OBJECT
