@@ -10,6 +10,7 @@
 #include "ui/frame/LastWindow.h"
 #include "ui/frame/QtDesktop.h"
 #include "ui/frame/QtWindowFactory.h"
+#include "ui/frame/SecondStart.h"
 #include "ui/login/FServerPassword.h"
 #include "ui/safety/FFirstStart.h"
 
@@ -122,6 +123,10 @@ int Run(const QApplication& application, ptk::Desktop& desktop)
     const std::string folder = FolderToWorkIn(ptk::FindProgramFolder(ProgramFolderOption(application)), clock);
     if (folder.empty()) {
         return EXIT_FAILURE;
+    }
+    const ptk::SecondStart start(folder);
+    if (start.IsSecond()) {
+        return EXIT_SUCCESS;
     }
     ptk::AskForPasswordsWith(ptk::FServerPassword::Ask);
     ptk::QtWindowFactory windows(folder, desktop, clock);

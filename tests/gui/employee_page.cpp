@@ -165,6 +165,8 @@ TEST_F(EmployeePageTest, SavesANewEmployeeAndOffersItEverywhere)
     EXPECT_EQ(Stored("SELECT FirstName || '/' || LastName || ' ' || HireDate || ' ' || PayRate AS x FROM Employee WHERE EmployeeID = 43"),
               std::vector<std::string>{"Mary/Ann Orr 2003-03-01 00:00:00 9.5"});
     EXPECT_EQ(Keys(), "|||");
+    Click(Find(Main(), "FrameArray(3)"), "cmdNotice");
+    EXPECT_EQ(Keys(), "43|Mary Ann Orr|444-44|5") << "shown again";
     EXPECT_GE(Box("cboTCEmployeeName").findText("Mary Ann Orr"), 0);
     EXPECT_GE(Box("cboEmployeeID").findText("43"), 0);
     EXPECT_EQ(Box("cboTCEmployeeName").findText("Bo Kim"), -1);

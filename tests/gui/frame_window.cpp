@@ -4,6 +4,7 @@
 #include "store/CSystemOptions.h"
 #include "ui/widgets/DateTimeBox.h"
 #include "ui/widgets/NoticeLine.h"
+#include "ui/widgets/WindowPlace.h"
 
 #include <gmock/gmock.h>
 
@@ -274,8 +275,8 @@ TEST_F(MainWindowTest, ActionsStayInSightAtTheSmallestSize)
     for (int tab = 1; tab <= 5; ++tab) {
         ClickTab(Main(), tab);
         QCoreApplication::processEvents();
-        const auto actions =
-            Find(Main(), QString("FrameArray(%1)").arg(tab)).findChildren<QPushButton*>(QString(), Qt::FindDirectChildrenOnly);
+        const auto actions = Find(Find(Main(), QString("FrameArray(%1)").arg(tab)), "inside")
+                                 .findChildren<QPushButton*>(QString(), Qt::FindDirectChildrenOnly);
         EXPECT_GE(actions.size(), tab == 2 ? 1 : 2) << tab;
         for (const QPushButton* action : actions) {
             EXPECT_EQ(action->visibleRegion().boundingRect(), action->rect()) << action->objectName().toStdString();
@@ -284,9 +285,45 @@ TEST_F(MainWindowTest, ActionsStayInSightAtTheSmallestSize)
     }
 }
 
+TEST_F(MainWindowTest, TheGrossPayIsInSightAtTheSmallestSizeAndTwelveRowsOnASmallScreen)
+{
+    const auto& gross = Find<QLineEdit>(Main(), "txtTCPeriodPay");
+    Main().resize(1, 1);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(gross.visibleRegion().boundingRect(), gross.rect());
+    Main().resize(1008, 652); // what 1024 x 700 leaves beside a window manager's frame
+    QCoreApplication::processEvents();
+    const auto& grid = Find<QTableView>(Main(), "grdTimeRecs");
+    EXPECT_GE(grid.viewport()->height(), 12 * grid.verticalHeader()->defaultSectionSize());
+}
+
+TEST_F(MainWindowTest, FormsHaveTheirButtonsBelowTheirFields)
+{
+    Main().resize(1920, 1000);
+    ClickTab(Main(), 3);
+    QCoreApplication::processEvents();
+    const auto place = [&](const char* name) {
+        const QWidget& control = Find(Main(), name);
+        return QRect(control.mapTo(&Main(), QPoint()), control.size());
+    };
+    EXPECT_LT(place("cmdEmployeeSave").top() - place("Frame3").bottom(), 60);
+    EXPECT_LT(place("cmdEmployeeCancel").right() - place("txtEmployeeAddr1").right(), 20);
+    EXPECT_GT(place("txtEmployeeAddr1").right(), 900);
+}
+
+TEST_F(MainWindowTest, ARememberedPlaceFitsTheScreen)
+{
+    QWidget large;
+    large.setGeometry(700, 500, 3000, 2000);
+    StorePlace(large, "main");
+    GuiProgram next;
+    next.LogIn();
+    EXPECT_TRUE(next.Main().screen()->availableGeometry().contains(next.Main().frameGeometry()));
+}
+
 TEST_F(MainWindowTest, RemembersItsSize)
 {
-    Main().resize(1000, 690);
+    Main().resize(700, 600);
     const QSize size = Main().size();
     Main().close();
     GuiProgram next;

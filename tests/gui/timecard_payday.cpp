@@ -156,6 +156,27 @@ TEST_F(TimeCardTest, StepsToAPeriodAndShowsItsCard)
     EXPECT_EQ(Totals(), "    ");
 }
 
+TEST_F(TimeCardTest, ThePeriodIsSteppedByKeysAndOfferedAgain)
+{
+    GenerateFor("Ann Lee");
+    EXPECT_FALSE(Find(Main(), "cmdLastPeriod").toolTip().startsWith("03/05/2003")) << "nobody chose the one that begins today";
+    QTest::keyClick(&Employee(), Qt::Key_Left, Qt::AltModifier);
+    QTRY_COMPARE(Period(), "02/18/2003 - 03/04/2003");
+    QTest::keyClick(&Employee(), Qt::Key_Right, Qt::AltModifier);
+    QTRY_COMPARE(Period(), "03/05/2003 - 03/19/2003");
+    TypeInto(The<DateCombo>("dttbTCFrom"), "03/03/2003");
+    TypeInto(The<DateCombo>("dttbTCTo"), "03/07/2003");
+    GenerateFor("Ann Lee");
+    Press("cmdPeriodNext");
+    program.Controller()->UnloadControllerWindow();
+    GuiProgram next(AddTimecardPaydayStaff);
+    next.LogIn();
+    EXPECT_EQ(Find<DateCombo>(next.Main(), "dttbTCFrom").Text(), "03/05/2003") << "as it always begins";
+    Click(next.Main(), "cmdLastPeriod");
+    EXPECT_EQ(Find<DateCombo>(next.Main(), "dttbTCFrom").Text(), "03/03/2003");
+    EXPECT_EQ(Find<DateCombo>(next.Main(), "dttbTCTo").Text(), "03/07/2003");
+}
+
 TEST_F(TimeCardTest, ACardThatIsNotTheChosenOneSaysSo)
 {
     EXPECT_TRUE(Employee().lineEdit()->hasFocus()) << "the work begins here";

@@ -38,6 +38,9 @@ public:
     // Whether looking costs next to nothing, since the database tells of changes by itself.
     [[nodiscard]] bool IsTold() const;
 
+    // The newest entry of the trail as far as it looked, one's own included; nothing until the trail could be read.
+    [[nodiscard]] std::optional<std::int64_t> Newest() const { return m_newest; }
+
     // As far as it looked: of anything or anybody.
     [[nodiscard]] bool IsAnyChanged(Shown what) const;
 

@@ -19,6 +19,10 @@ class CEmployeeList;
 // looked at for pay periods only. Raises Failure 6 when the last one leaves the calendar.
 [[nodiscard]] std::optional<PayPeriod> OfferedDays(ReportDates dates, DateTime today, std::int16_t periodLength);
 
+// Where the days that are offered for a pay period and those that were offered before them leave out or double a day: which, in one
+// sentence; empty where each day is in just one of both. Raises as OfferedDays.
+[[nodiscard]] std::string OfferedDaysNotice(DateTime today, std::int16_t periodLength);
+
 // The offered days with those in their place that were chosen. A first day that was chosen takes the last one with it, unless that was
 // chosen too; the year to date ends today. REQUIRES: a report with dates.
 [[nodiscard]] PayPeriod ChosenDays(ReportDates dates, DateTime today, std::int16_t periodLength, std::optional<DateTime> from,

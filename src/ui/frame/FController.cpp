@@ -166,7 +166,9 @@ void FController::ConnectViewMenu()
     m_ui->mnuViewHistory->setIcon(ThemeIcon("history"));
     m_ui->mnuViewHours->setChecked(m_timeCardPage->HoursShown());
     connect(m_ui->mnuViewOverview, &QAction::triggered, this, &FController::ShowOverview);
-    connect(m_ui->mnuViewHistory, &QAction::triggered, this, [this] { ShowHistory({}); });
+    connect(m_ui->mnuViewNextProblems, &QAction::triggered, this, [this] { ShowNextCard(1); });
+    connect(m_ui->mnuViewPreviousProblems, &QAction::triggered, this, [this] { ShowNextCard(-1); });
+    connect(m_ui->mnuViewHistory, &QAction::triggered, this, &FController::ShowHistoryFromMenu);
     connect(m_ui->mnuViewCardHistory, &QAction::triggered, m_timeCardPage, &TimeCardPage::AskForHistory);
     connect(m_timeCardPage, &TimeCardPage::HistoryWanted, this, [this](const HistoryScope& scope) { ShowHistory(scope); });
     connect(m_ui->mnuViewHours, &QAction::toggled, m_timeCardPage, &TimeCardPage::ShowHours);
@@ -250,7 +252,20 @@ void FController::ShowRestored(const QString& outcome)
         Tell(m_desktop, notice::OptionsUnread);
     }
     m_optionsPage->ForgetLimits();
+    ForgetLines();
     Say(outcome);
+}
+
+// What lines and status bar said was of records that are not shown any more.
+void FController::ForgetLines()
+{
+    for (auto* line : m_ui->pages->findChildren<NoticeLine*>()) {
+        line->Clear();
+    }
+    m_statusText->setText(TabAt(m_ui->pages->currentIndex() + 1).statusText);
+    if (m_timeCardPage->isVisible() && m_timeCardPage->ChosenEmployee()) {
+        m_timeCardPage->ShowChoice();
+    }
 }
 
 void FController::Load()
@@ -350,13 +365,28 @@ bool FController::ShowTabPage(int index)
     return m_ui->pages->currentIndex() == index - 1;
 }
 
-void FController::ShowOverview()
+void FController::MakeOverview()
 {
     if (m_overview == nullptr) {
         m_overview = std::make_unique<OverviewWindow>(*this);
         connect(m_overview.get(), &OverviewWindow::CardWanted, this, &FController::ShowTimeCard);
     }
+}
+
+void FController::ShowOverview()
+{
+    MakeOverview();
     m_overview->Open(m_timeCardPage->ChosenPeriod());
+}
+
+// From the card that is shown on, as the overview was read last, whether it is open or not.
+void FController::ShowNextCard(int direction)
+{
+    MakeOverview();
+    const QString refusal = m_overview->OpenNextCard(m_timeCardPage->ChosenEmployee(), direction);
+    if (!refusal.isEmpty()) {
+        Say(refusal);
+    }
 }
 
 // Not while reports are made: they and the page share the one list of records.
@@ -370,6 +400,12 @@ void FController::ShowTimeCard(std::int32_t employeeID, const PayPeriod& period)
     raise();
     activateWindow();
     m_timeCardPage->ShowCard(employeeID, period);
+}
+
+// Of the person who is chosen where the overview is in front.
+void FController::ShowHistoryFromMenu()
+{
+    ShowHistory(m_overview != nullptr && m_overview->isActiveWindow() ? m_overview->ShownHistory() : std::nullopt);
 }
 
 void FController::ShowHistory(const std::optional<HistoryScope>& scope)

@@ -100,6 +100,7 @@ private:
     void ShowAll();
     void BackUpWhenDue();
     void ShowRestored(const QString& outcome);
+    void ForgetLines();
 
     void ChangeTab(int index);
     bool ShowTabPage(int index);
@@ -107,8 +108,11 @@ private:
     // In the shown page's line.
     void Say(const QString& text);
 
+    void MakeOverview();
     void ShowOverview();
+    void ShowNextCard(int direction);
     void ShowTimeCard(std::int32_t employeeID, const PayPeriod& period);
+    void ShowHistoryFromMenu();
     void ShowHistory(const std::optional<HistoryScope>& scope);
 
     void Exit();

@@ -17,6 +17,7 @@
 #include "ui/page/PageHost.h"
 #include "ui/page/SharedRecords.h"
 #include "ui/widgets/ChosenOnly.h"
+#include "ui/widgets/FieldWidth.h"
 #include "ui_OptionsPage.h"
 
 #include <algorithm>
@@ -50,6 +51,7 @@ const DateTime kSunday(CalendarDate{1899, 12, 31});
 OptionsPage::OptionsPage(PageHost& host, QWidget* parent) : QWidget(parent), m_host(host), m_ui(std::make_unique<Ui::OptionsPage>())
 {
     m_ui->setupUi(this);
+    LimitWidth(*this, fieldwidth::Page);
     for (int day = 0; day < kDaysPerWeek; ++day) {
         m_ui->cboFirstWeekday->addItem(QString::fromStdString(WeekdayName(kSunday.AddDays(day))));
     }

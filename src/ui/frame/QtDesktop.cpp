@@ -2,8 +2,10 @@
 
 #include "platform/system/SystemShell.h"
 #include "ui/widgets/ProgramEnd.h"
+#include "ui/widgets/WindowPlace.h"
 
 #include <QApplication>
+#include <QGridLayout>
 #include <QMessageBox>
 
 #include <optional>
@@ -81,6 +83,15 @@ QWidget* Owner()
     return modal != nullptr ? modal : QApplication::activeWindow();
 }
 
+// A box is as wide as its text wants it, whatever its title needs.
+void MakeRoomForTitle(QMessageBox& box)
+{
+    if (auto* grid = qobject_cast<QGridLayout*>(box.layout())) {
+        auto* room = new QSpacerItem(WidthFor(box.windowTitle()), 0, QSizePolicy::Minimum, QSizePolicy::Fixed);
+        grid->addItem(room, grid->rowCount(), 0, 1, grid->columnCount());
+    }
+}
+
 // The wait pointer would say that the box cannot be answered.
 class PlainPointer
 {
@@ -116,6 +127,7 @@ Answer QtDesktop::MessageBox(const std::string& text, const std::string& title, 
     QMessageBox box(ToQt(icon), QString::fromStdString(title), QString(), ToQt(buttons), Owner());
     box.setTextFormat(Qt::PlainText);
     box.setText(QString::fromStdString(text));
+    MakeRoomForTitle(box);
     if (buttons == Buttons::YesNo) {
         box.setDefaultButton(QMessageBox::No); // whoever presses Enter without reading loses nothing
         box.setEscapeButton(QMessageBox::No);

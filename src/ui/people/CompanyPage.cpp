@@ -76,7 +76,7 @@ void CompanyPage::ConnectButtons()
 
 void CompanyPage::FitFields()
 {
-    LimitWidth(*m_ui->fieldArea, fieldwidth::Page);
+    LimitWidth(*this, fieldwidth::Page);
     LimitWidth(*m_ui->txtCompanyState, fieldwidth::State);
     LimitWidth(*m_ui->txtCompanyZip, fieldwidth::Zip);
     for (auto* box : {m_ui->txtCompanyPhone, m_ui->txtCompanyFax, m_ui->txtFederalTaxID}) {

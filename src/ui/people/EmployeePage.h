@@ -86,6 +86,8 @@ private:
     bool SaveTexts(const EmployeeTexts& texts);
 
     bool IsAccepted(const EmployeeTexts& texts);
+    [[nodiscard]] std::string SavedID(const EmployeeTexts& texts) const;
+    void ShowAgain(const std::string& id);
     void AskForPresent(const RowConflict& conflict, const std::string& id);
 
     // Whether the employees could be read again.

@@ -76,7 +76,7 @@ void FRestore::PrepareTable()
         table->horizontalHeaderItem(column)->setTextAlignment(AlignmentOf(column));
     }
     const auto widthOf = [&](const QString& text) { return table->fontMetrics().horizontalAdvance(text) + kColumnSpace; };
-    table->setColumnWidth(Made, widthOf("Wed 00/00/0000 00:00 AM"));
+    table->setColumnWidth(Made, widthOf("Wed 00/00/0000 00:00:00 AM"));
     for (int column = Size; column < Checked; ++column) {
         table->setColumnWidth(column, std::max(widthOf(kHeadings.at(column)), widthOf("00/00/0000")));
     }

@@ -8,6 +8,7 @@
 #include "platform/Required.h"
 #include "platform/text/Text.h"
 #include "ui/timecards/TimeRecordGridModel.h"
+#include "ui/widgets/FoldingRow.h"
 #include "ui_CardDisplay.h"
 
 #include <algorithm>
@@ -18,7 +19,7 @@ namespace ptk {
 
 namespace {
 
-constexpr int kRowSpace = 8; // pixels around the text of a row
+constexpr int kRowSpace = 3; // pixels around the text of a row: twelve are to fit on a screen of 1024 x 700
 
 QString Figure(float value)
 {
@@ -32,12 +33,31 @@ CardDisplay::CardDisplay(QWidget* parent)
 {
     m_ui->setupUi(this);
     m_ui->txtTCPeriodPay->SetImportant();
+    LayOutFigures();
     setFocusProxy(m_ui->grdTimeRecs);
     PrepareGrid();
     ConnectFindings();
 }
 
 CardDisplay::~CardDisplay() = default;
+
+// The frame keeps them in sight. The break time stands before them, or above them on a narrow window.
+void CardDisplay::LayOutFigures()
+{
+    auto* standing = new FoldingRow;
+    standing->setObjectName("figures");
+    m_ui->layoutDisplay->removeItem(m_ui->layoutFigures);
+    m_ui->layoutFigures->setParent(nullptr);
+    standing->addWidget(m_ui->lblTCBreakTime, 1);
+    standing->addLayout(m_ui->layoutFigures);
+    m_ui->layoutDisplay->addLayout(standing);
+}
+
+void CardDisplay::ShowBreakTime(const QString& text)
+{
+    m_ui->lblTCBreakTime->setText(text);
+    m_ui->lblTCBreakTime->setVisible(!text.isEmpty());
+}
 
 void CardDisplay::PrepareGrid()
 {
@@ -138,7 +158,7 @@ bool CardDisplay::DisplayTimeCard(const CTimeCard& card)
     m_ui->txtTCOvertimeHours->setText(Figure(card.OvertimeHoursWorked()));
     m_ui->txtTCOvertimePayRate->setText(Figure(employee->OvertimePayRate()));
     m_ui->txtTCPeriodPay->setText(Figure(card.TotalPay()));
-    m_ui->lblTCBreakTime->setText(QString::fromStdString(BreakTimeText(card)));
+    ShowBreakTime(QString::fromStdString(BreakTimeText(card)));
     return filled;
 }
 
@@ -158,7 +178,7 @@ void CardDisplay::ClearFigures()
     for (auto* box : Figures()) {
         box->clear();
     }
-    m_ui->lblTCBreakTime->clear();
+    ShowBreakTime({});
 }
 
 void CardDisplay::ShowCheck(const std::shared_ptr<const CheckedTimecard>& checked)

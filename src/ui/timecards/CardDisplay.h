@@ -97,6 +97,8 @@ signals:
     void DeleteElsewhereAsked(const ptk::Punch& punch);
 
 private:
+    void LayOutFigures();
+    void ShowBreakTime(const QString& text);
     void PrepareGrid();
     void ConnectFindings();
     void Choose();

@@ -25,7 +25,7 @@ constexpr auto kHoursCaption = "Hours per day:";
 constexpr auto kHoursHint = "The hours of a generated card stand here. F9 shows everybody's pay and problems.";
 
 constexpr auto kHoursKey = "timecards/hours";
-constexpr int kListLines = 5;
+constexpr int kListLines = 4;
 constexpr int kLeastWidth = 320; // pixels of the list and of the hours
 constexpr int kSpace = 6;
 

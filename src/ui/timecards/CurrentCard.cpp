@@ -27,6 +27,7 @@ namespace {
 
 constexpr auto kWasChanged = " was changed";
 constexpr auto kRecordsChanged = "'s records were changed";
+constexpr auto kHasProblems = "'s card has problems: F9";
 constexpr auto kNoEdits = "Who changed the records of the card could not be read: ";
 
 } // namespace
@@ -43,6 +44,7 @@ void CurrentCard::Mark()
     const CardName chosen = m_choice.Chosen();
     const bool shown = m_display.ShowsCard();
     const std::string strange = m_card == nullptr ? std::string() : StrangeCardText(NameOf(*m_card), shown, chosen);
+    m_mark.setVisible(!strange.empty()); // else its room is the rows'
     m_mark.Say(QString::fromStdString(strange));
     m_display.SetStrange(shown && !strange.empty());
     m_display.SetHint(QString::fromStdString(NextStepText(chosen)));
@@ -218,6 +220,13 @@ void CurrentCard::TellChanges()
         records.OfferLoad(m_line, Employee() + kWasChanged);
     } else if (records.IsChanged(Shown::CardRecords, id)) {
         records.OfferLoad(m_line, Employee() + kRecordsChanged);
+    }
+}
+
+void CurrentCard::TellProblems()
+{
+    if (m_checked != nullptr && m_checked->check && m_checked->check->problems > 0) {
+        m_line.SayBefore(QString::fromStdString(Employee() + kHasProblems));
     }
 }
 

@@ -61,6 +61,9 @@ public:
     // Says in the line, with a button to load it, that somebody else changed the employee or the records shown.
     void TellChanges();
 
+    // In the line, before what it says: that the card, which somebody is about to be paid by, has problems. Nothing where it has none.
+    void TellProblems();
+
     // With the limits that the options hold now.
     void CheckAgain();
 

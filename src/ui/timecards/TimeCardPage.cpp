@@ -164,10 +164,15 @@ void TimeCardPage::TurnToChosenEmployee()
     if (m_choice->EmployeeText().empty()) {
         return;
     }
-    m_employeeName = m_choice->EmployeeText();
-    ShowStatus();
+    ShowChoice();
     m_card->ClearTimeCardDisplay();
     m_ui->notice->Clear();
+}
+
+void TimeCardPage::ShowChoice()
+{
+    m_employeeName = m_choice->EmployeeText();
+    ShowStatus();
 }
 
 void TimeCardPage::ShowStatus()
@@ -190,6 +195,11 @@ std::optional<PayPeriod> TimeCardPage::ChosenPeriod() const
     std::optional<PayPeriod> period;
     Succeeds([&] { period = m_choice->Period(); });
     return period;
+}
+
+std::optional<std::int32_t> TimeCardPage::ChosenEmployee() const
+{
+    return m_choice->EmployeeID();
 }
 
 void TimeCardPage::ShowCard(std::int32_t employeeID, const PayPeriod& period)
@@ -234,6 +244,7 @@ bool TimeCardPage::HoursShown() const
 
 void TimeCardPage::Generate()
 {
+    Succeeds([this] { m_choice->KeepAsLastUsed(); }); // of what is no period the generation says so
     if (!m_card->RefreshTimeCard()) {
         Tell(m_host.Desktop(), kNotGenerated);
     }
@@ -445,6 +456,8 @@ void TimeCardPage::Print()
     };
     if (!Succeeds(print)) {
         m_ui->notice->Say(kNotPrinted);
+    } else {
+        m_card->TellProblems();
     }
 }
 

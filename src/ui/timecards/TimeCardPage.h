@@ -59,6 +59,12 @@ public:
     // Nothing while a box holds no date.
     [[nodiscard]] std::optional<PayPeriod> ChosenPeriod() const;
 
+    // In the list; nothing for a typed text.
+    [[nodiscard]] std::optional<std::int32_t> ChosenEmployee() const;
+
+    // Whom and which days the boxes name, in the status bar.
+    void ShowChoice();
+
     // Chooses and generates it, with the list of what was found.
     void ShowCard(std::int32_t employeeID, const PayPeriod& period);
 
