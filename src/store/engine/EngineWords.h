@@ -16,6 +16,9 @@ struct EngineWords
     const char* caselessFirstName;
     const char* caselessLastName;
 
+    // Behind the order of a card's fetch: of records that it leaves equal, the one stored first. Empty where they come so anyway.
+    const char* thenByKey;
+
     // Of a time record: whether a search by its start would pass it over when a card is checked, as the index TimeRecordUnusual has it.
     const char* unusualPunch;
 
