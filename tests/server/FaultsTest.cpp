@@ -87,6 +87,23 @@ TEST(ServerFaults, RightsAreSaidToBeMissing)
     }
 }
 
+// As one that another follows, or that its administrator has set so.
+TEST(ServerFaults, WhatAServerDoesNotTakeIsToldInWords)
+{
+    const NewServerDatabase server;
+    const auto database = Open(server.Address());
+    EXPECT_FALSE(database->ExecuteAction(
+        "UPDATE Employee SET LastName = (SELECT string_agg(md5(CAST(n AS text)), '') FROM generate_series(1, 400) AS n)"));
+    EXPECT_EQ(database->LastFailure().Number(), engine::Constraint);
+    EXPECT_EQ(database->LastFailure().Description().find("a text is longer than an index of the server takes"), 0U);
+    server.Run("DO $$ BEGIN EXECUTE format('ALTER DATABASE %I SET default_transaction_read_only = on', current_database()); END $$");
+    const auto reading = Open(server.Address());
+    EXPECT_EQ(Asked(*reading, "SELECT COUNT(*) FROM Employee"), "1");
+    EXPECT_FALSE(reading->ExecuteAction(kAdd));
+    EXPECT_EQ(reading->LastFailure().Number(), engine::ReadOnly);
+    EXPECT_EQ(reading->LastFailure().Description(), "the server takes no changes");
+}
+
 TEST(ServerFaults, APasswordIsAskedForUntilItIsRight)
 {
     const NewServerDatabase server;

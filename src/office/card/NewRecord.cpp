@@ -2,7 +2,6 @@
 
 #include "model/check/FindingText.h"
 #include "model/check/Punch.h"
-#include "office/history/ColumnWords.h"
 #include "platform/Succeeds.h"
 #include "platform/text/Text.h"
 
@@ -14,6 +13,7 @@ namespace {
 
 constexpr int kMinutesOfHour = 60;
 constexpr auto kShortDate = "mm/dd/yyyy";
+constexpr auto kShortMoment = "mm/dd/yyyy hh:mm AM/PM";
 
 bool IsMidnight(DateTime moment)
 {
@@ -50,7 +50,7 @@ std::optional<DateTime> ReadMoment(const RecordTexts& texts, DateTime (RecordTex
 
 std::string StoredText(DateTime moment, const char* none)
 {
-    return moment.IsZero() ? none : MomentText(moment, ColumnShape::Moment);
+    return moment.IsZero() ? none : FormatDateTime(moment, kShortMoment);
 }
 
 // An end is taken only behind a start that was read.

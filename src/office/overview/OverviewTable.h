@@ -42,7 +42,8 @@ using OverviewCells = std::array<std::string, kOverviewColumns>; // by OverviewC
 // problems also by notices. What cannot be read is less than any figure.
 [[nodiscard]] bool StandsBefore(const std::vector<OverviewRow>& rows, std::size_t left, std::size_t right, OverviewColumn column);
 
-// Of the places in `shown`, which holds positions of rows in the order of a table, the next one with problems behind (direction 1) or before
+// Of the places in `shown`, which holds positions of rows in the order of a table, the next one with problems behind (direction 1) or
+// before
 // (-1) the employee's; from the first or the last where nobody is named or he is not shown. Nothing beyond the ends.
 [[nodiscard]] std::optional<std::size_t> StepToProblems(const std::vector<OverviewRow>& rows, std::span<const std::size_t> shown,
                                                         std::optional<std::int32_t> employeeID, int direction);

@@ -16,11 +16,14 @@ struct EngineWords
     const char* caselessFirstName;
     const char* caselessLastName;
 
+    // Behind the order of a card's fetch: of records that it leaves equal, the one stored first. Empty where they come so anyway.
+    const char* thenByKey;
+
     // Of a time record: whether a search by its start would pass it over when a card is checked, as the index TimeRecordUnusual has it.
     const char* unusualPunch;
 
-    // Of a time record: whether both its times are moments, the end perhaps not set, never what an index is searched by; and of one of these columns {0} the moment with its
-    // seconds cut off, to be compared, and the minute of its day.
+    // Of a time record: whether both its times are moments, the end perhaps not set, never what an index is searched by; and of one of
+    // these columns {0} the moment with its seconds cut off, to be compared, and the minute of its day.
     const char* readablePunch;
     const char* wholeMinute;
     const char* minuteOfDay;

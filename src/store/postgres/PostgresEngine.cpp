@@ -41,8 +41,8 @@ constexpr const char* kNewest = "SELECT COALESCE(NULLIF(current_setting('ptk.las
 constexpr const char* kIsRunning = "SELECT EXISTS (SELECT 1 FROM pg_locks WHERE locktype = 'transactionid' AND mode = 'ExclusiveLock' AND "
                                    "transactionid = $1::xid8::xid)";
 constexpr const char* kIsStored = "SELECT EXISTS (SELECT 1 FROM _Change WHERE ChangeID >= $1::bigint AND Step = $1::bigint AND "
-                                  "xmin = $2::xid8::xid AND ChangedBy IS NOT DISTINCT FROM NULLIF($3, '') AND "
-                                  "Program IS NOT DISTINCT FROM NULLIF($4, ''))";
+                                  "xmin = $2::xid8::xid AND ChangedBy IS NOT DISTINCT FROM NULLIF(left($3::text, 500), '') AND "
+                                  "Program IS NOT DISTINCT FROM NULLIF(left($4::text, 500), ''))"; // no more of either is kept
 
 // As the server reads a time zone: "<+0530>-05:30", east of Greenwich counting down.
 std::string LocalTimeZone()
@@ -169,11 +169,11 @@ ServerCommand PostgresEngine::Beginning() const
     return {m_transaction == Transaction::Read ? kBeginRead : kBeginWrite, {}, true, false};
 }
 
-// A write is signed as late as it can be, with its first statement that may change something: the rows that it locked to look at are its
+// A write is signed as late as it can be, with its first statement that is to change something: the rows that it locked to look at are its
 // own by then, so that the entries of a row have their numbers in the order of its changes.
-bool PostgresEngine::IsToBeSigned(const ServerCommand& command) const
+bool PostgresEngine::IsToBeSigned(Intent intent) const
 {
-    return m_transaction == Transaction::Write && m_number.empty() && !command.sql.starts_with("SELECT");
+    return m_transaction == Transaction::Write && m_number.empty() && intent == Intent::Change;
 }
 
 void PostgresEngine::TakeSigning(const ServerResult& signing)
@@ -182,10 +182,10 @@ void PostgresEngine::TakeSigning(const ServerResult& signing)
     m_number = signing.Text(0, kNumberColumn);
 }
 
-ServerResult PostgresEngine::Ask(const ServerCommand& command)
+ServerResult PostgresEngine::Ask(const ServerCommand& command, Intent intent)
 {
     RequireOpen();
-    const bool isToBeSigned = IsToBeSigned(command);
+    const bool isToBeSigned = IsToBeSigned(intent);
     std::vector<ServerCommand> commands;
     if (!m_begun) {
         commands.push_back(Beginning());

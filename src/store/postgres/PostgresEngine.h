@@ -26,6 +26,13 @@ struct Unhurried
 {
 };
 
+// What a statement is asked for.
+enum class Intent
+{
+    Read,
+    Change
+};
+
 // Failures carry the source "PostgreSQL". The hold is a transaction that only reads, and begins with the first question: what is asked in
 // it is of one moment, and nobody waits for it. A write is a transaction of its own; it waits for those who write the same rows, never for
 // others. No answer is waited for longer than five seconds.
@@ -66,7 +73,10 @@ public:
     std::unique_ptr<RowSink> Fill(const StoredTable& table) override;
 
     // One statement within the hold or the write.
-    [[nodiscard]] ServerResult Ask(const ServerCommand& command);
+    [[nodiscard]] ServerResult Ask(const ServerCommand& command, Intent intent = Intent::Read);
+
+    // Within the steps of Write, or since BeginMany.
+    [[nodiscard]] bool IsWriting() const { return m_transaction != Transaction::Read; }
 
     // How often an answer was waited for, over all connections.
     [[nodiscard]] std::int64_t RoundTrips() const;
@@ -94,7 +104,7 @@ private:
     void RequireOpen() const;
     void Begin(Transaction transaction);
     [[nodiscard]] ServerCommand Beginning() const;
-    [[nodiscard]] bool IsToBeSigned(const ServerCommand& command) const;
+    [[nodiscard]] bool IsToBeSigned(Intent intent) const;
     void TakeSigning(const ServerResult& signing);
     void RequireSigned();
     [[nodiscard]] ServerCommand Signing() const;

@@ -9,6 +9,7 @@ inline constexpr EngineWords kPostgresWords{
     .caseless = "lower({0} COLLATE \"C\")",
     .caselessFirstName = "lower(COALESCE(FirstName, ''))",
     .caselessLastName = "lower(COALESCE(LastName, ''))",
+    .thenByKey = ", TimeRecord.TimeRecordID",
     .unusualPunch = "CASE WHEN StartTime IS NOT NULL THEN StartTime = TIMESTAMP '1899-12-30 00:00:00' "
                     "OR EndTime NOT BETWEEN StartTime AND StartTime + interval '1 day' ELSE true END",
     .readablePunch = "(StartTime <> TIMESTAMP '1899-12-30 00:00:00' AND EndTime IS NOT NULL)",

@@ -13,11 +13,11 @@ constexpr const char* kPlace = "WITH place AS (SELECT relnamespace AS schema, re
                                "extended AS (SELECT classid, objid FROM pg_depend WHERE deptype = 'e') ";
 
 constexpr const char* kFunctions =
-    "SELECT CAST(proname AS text) || '(' || pg_get_function_identity_arguments(oid) || ')' FROM pg_proc JOIN place ON pronamespace = "
-    "schema "
-    "WHERE NOT (proowner = owner AND "
-    "proname IN ('ptk_number', 'ptk_said', 'ptk_told', 'ptk_next', 'ptk_add', 'ptk_tell', 'ptk_add_entry')) "
-    "AND NOT EXISTS (SELECT 1 FROM extended WHERE classid = CAST(CAST('pg_catalog.pg_proc' AS regclass) AS oid) AND objid = pg_proc.oid)";
+    "SELECT called FROM (SELECT *, oid AS id, CAST(proname AS text) || '(' || oidvectortypes(proargtypes) || ')' AS called FROM pg_proc) "
+    "AS made JOIN place ON pronamespace = schema "
+    "WHERE NOT (proowner = owner AND called IN ('ptk_number(text)', 'ptk_said(text)', 'ptk_told(jsonb, text)', 'ptk_next()', 'ptk_tell()', "
+    "'ptk_add(text, text, bigint, json, json, integer, integer)', 'ptk_add_entry(text, text)')) "
+    "AND NOT EXISTS (SELECT 1 FROM extended WHERE classid = CAST(CAST('pg_catalog.pg_proc' AS regclass) AS oid) AND objid = id)";
 
 constexpr const char* kOperators =
     "SELECT CAST(oprname AS text) || '(' || CASE WHEN oprleft = CAST(0 AS oid) THEN '' ELSE format_type(oprleft, CAST(NULL AS integer)) "

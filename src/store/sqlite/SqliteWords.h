@@ -9,6 +9,7 @@ inline constexpr EngineWords kSqliteWords{
     .caseless = "{0} COLLATE NOCASE",
     .caselessFirstName = "IFNULL(FirstName, '') COLLATE NOCASE",
     .caselessLastName = "IFNULL(LastName, '') COLLATE NOCASE",
+    .thenByKey = "",
     .unusualPunch = "CASE WHEN StartTime BETWEEN '0100-' AND ':' THEN "
                     "datetime(StartTime, '+0 days') IS NOT NULLIF(StartTime, '1899-12-30 00:00:00') "
                     "OR EndTime NOT BETWEEN StartTime AND datetime(StartTime, '+1 day') ELSE 1 END",

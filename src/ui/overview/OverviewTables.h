@@ -43,8 +43,8 @@ public:
     // The chosen one, else the first; nullptr without rows. Good until another reading is shown.
     [[nodiscard]] const OverviewRow* ShownRow() const;
 
-    // Chooses the next one with problems (direction 1) or the one before (-1) in the order of the table. From the chosen row where nobody is
-    // named; from the first or the last where he has no row. nullptr beyond the ends.
+    // Chooses the next one with problems (direction 1) or the one before (-1) in the order of the table. From the chosen row where nobody
+    // is named; from the first or the last where he has no row. nullptr beyond the ends.
     const OverviewRow* StepToProblems(std::optional<std::int32_t> employeeID, int direction);
 
     // A heading and the chosen rows in the order in which they stand, or all.

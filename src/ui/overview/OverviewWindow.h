@@ -34,12 +34,12 @@ public:
 
     ~OverviewWindow() override;
 
-    // Brings it to the front. Where it was not open, it takes over the period, see OverviewPeriod, and reads; where it was, it reads what has
-    // been changed since.
+    // Brings it to the front. Where it was not open, it takes over the period, see OverviewPeriod, and reads; where it was, it reads what
+    // has been changed since.
     void Open(const std::optional<PayPeriod>& timecards);
 
-    // Has the card of the next one with problems (direction 1) or the one before (-1) opened, counted from this employee in the order of the
-    // table. Answers what there is to say of it: who has none left, or that nothing was read.
+    // Has the card of the next one with problems (direction 1) or the one before (-1) opened, counted from this employee in the order of
+    // the table. Answers what there is to say of it: who has none left, or that nothing was read.
     QString OpenNextCard(std::optional<std::int32_t> employeeID, int direction);
 
     // Of the shown row; nothing without one.
