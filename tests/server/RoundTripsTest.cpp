@@ -123,7 +123,7 @@ TEST_F(RoundTripsTest, Overview)
         overview.ReadOn([] { return false; });
         return overview.IsDone() && overview.Result().rows.size() == 3;
     };
-    EXPECT_EQ(Of(all), 2) << "the limits, and everybody's records";
+    EXPECT_EQ(Of(all), 4) << "the limits, what was closed, everybody's records, and who worked before";
 }
 
 } // namespace
