@@ -13,6 +13,7 @@
 #include "ui/frame/SecondStart.h"
 #include "ui/login/FServerPassword.h"
 #include "ui/safety/FFirstStart.h"
+#include "ui/widgets/PaintMeanwhile.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -34,6 +35,9 @@ public:
 
     bool notify(QObject* receiver, QEvent* event) override
     {
+        if (ptk::PostponesClose(*receiver, *event)) {
+            return true;
+        }
         try {
             return QApplication::notify(receiver, event);
         } catch (...) {
@@ -129,6 +133,7 @@ int Run(const QApplication& application, ptk::Desktop& desktop)
         return EXIT_SUCCESS;
     }
     ptk::AskForPasswordsWith(ptk::FServerPassword::Ask);
+    ptk::PaintWhileWaiting();
     ptk::QtWindowFactory windows(folder, desktop, clock);
     ptk::AdminMain admin(folder, desktop, clock, windows, [](int status) { std::_Exit(status); });
 

@@ -110,6 +110,7 @@ Safekeeping::Attempt Safekeeping::Make(const BackupOrder& order)
         attempt.outcome = MakeBackup(order, [&](std::int32_t done, std::int32_t all) { return goesOn = window->GoOn(done, all); });
     };
     Succeeds(make, [&](const Failure& reason) {
+        goesOn = goesOn && window->GoOn(0, 0); // it may have been ended while a server was waited for
         if (goesOn) {
             attempt.problem = kNotBackedUp + Located(reason, order);
             m_log(reason.Number(), attempt.problem);

@@ -28,15 +28,14 @@ struct EngineWords
     const char* wholeMinute;
     const char* minuteOfDay;
 
+    // Whether a column {0} is one of the numbers :employees, "{1,2}": to ask for many people at once. Empty where a question costs nothing.
+    const char* amongEmployees;
+
     // Whether a column of date-times lies in the days :first to :last, of the forms YYYY-MM-DD and YYYY-MM-DD~.
     const char* inDays;
 
-    // A column of JSON, nothing where it holds none, and the text of its field {1}.
-    const char* json;
+    // Of a column {0} of JSON the text of its field {1}; nothing where it holds no JSON.
     const char* jsonField;
-
-    // Of the JSON object :json the name, the kind (null, text, object, array or another) and the text of each field, in their order.
-    const char* jsonFields;
 
     // Digits, whatever the type of the column that they are for.
     const char* number;

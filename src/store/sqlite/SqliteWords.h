@@ -17,11 +17,9 @@ inline constexpr EngineWords kSqliteWords{
                      "datetime(StartTime, '+0 days') = StartTime AND datetime(EndTime, '+0 days') = EndTime)",
     .wholeMinute = "substr({0}, 1, 16)",
     .minuteOfDay = "(substr({0}, 12, 2) * 60 + substr({0}, 15, 2))",
+    .amongEmployees = "",
     .inDays = "{0} BETWEEN :first AND :last",
-    .json = "CASE WHEN json_valid({0}) THEN {0} END",
     .jsonField = "CASE WHEN json_valid({0}) THEN json_extract({0}, '$.{1}') END",
-    .jsonFields = "SELECT key, type, CASE type WHEN 'real' THEN printf('%!.17g', atom) WHEN 'object' THEN "
-                  "json_extract(value, '$.blob') ELSE atom END FROM json_each(:json)",
     .number = "{0}",
     .findTable = "SELECT name FROM sqlite_master WHERE type = 'table' AND name = '{0}' COLLATE NOCASE",
     .findReasons = "SELECT name FROM pragma_table_info('_Change') WHERE name = 'Reason' COLLATE NOCASE",

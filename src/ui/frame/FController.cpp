@@ -5,6 +5,7 @@
 #include "platform/Succeeds.h"
 #include "startup/CController.h"
 #include "startup/Notices.h"
+#include "store/engine/Waiting.h"
 #include "ui/frame/EditMenu.h"
 #include "ui/frame/HelpMenu.h"
 #include "ui/frame/OptionsPage.h"
@@ -454,7 +455,8 @@ void FController::CloseDown(bool keepReview)
 
 bool FController::IsBusyInDialog() const
 {
-    return m_reportsPage->IsGenerating() || QApplication::activeModalWidget() != nullptr || QThread::currentThread()->loopLevel() > 1;
+    return m_reportsPage->IsGenerating() || waiting::IsTurn() || QApplication::activeModalWidget() != nullptr ||
+           QThread::currentThread()->loopLevel() > 1;
 }
 
 // A window that is told to close while one of its editors is open, by the end of the desktop's session for instance, closes the editor

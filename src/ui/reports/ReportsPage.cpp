@@ -322,7 +322,7 @@ void ReportsPage::Client::Made(Report& report, bool complete, const std::string&
     if (report.ErrorNumber() != 0) {
         m_page.m_host.Log(report.ErrorNumber(), report.ReportName() + ": " + outcome);
     }
-    if (!complete && m_entry.tellsFailures) {
+    if (!complete && m_entry.tellsFailures && !m_progress->IsCancelled()) {
         ShowFailure(report);
     }
 }
