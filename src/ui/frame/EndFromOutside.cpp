@@ -5,10 +5,12 @@
 
 #include <array>
 #include <atomic>
+#include <cerrno>
 #include <csignal>
 #include <fcntl.h>
 #include <QApplication>
 #include <QSocketNotifier>
+#include <QWidget>
 #include <unistd.h>
 
 namespace ptk {
