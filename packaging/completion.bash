@@ -27,7 +27,8 @@ _ptk_console() {
         "") words="$commands --program-folder --help --version" ;;
         create-database) words="--sample --today --help" ;;
         time-card) words="--employee --from --to --check --help" ;;
-        overview | history) words="--employee --from --to --format --help" ;;
+        overview) words="--employee --all --remedies --from --to --format --help" ;;
+        history) words="--employee --from --to --format --help" ;;
         payday) words="close reopen account --employee --from --to --format --output --help" ;;
         report) words="timecard review ytd employees phonebook --employee --from --to --format --output --help" ;;
         backup) words="--to --help" ;;

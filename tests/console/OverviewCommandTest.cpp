@@ -43,13 +43,13 @@ protected:
 TEST_F(OverviewCommandTest, TheSampleShowsEveryKindOfFindingWhateverTheDay)
 {
     MakeSample();
-    EXPECT_EQ(Kinds("3/6/2026", "3/20/2026").size(), 17U);
+    EXPECT_EQ(Kinds("3/6/2026", "3/20/2026").size(), 18U);
     for (const char* day : {"1/1/2025", "2/28/2025", "3/17/2025", "7/6/2025", "8/8/2025", "11/23/2025"}) {
         std::filesystem::remove(Database());
         ASSERT_EQ(Run({"create-database", "--sample", "--today", day}).status, 0) << day;
         const DateTime today = ToDateTime(day);
         m_clock.now = DateTime::FromSeconds(today.Seconds() + 34200);
-        EXPECT_EQ(Kinds(ShortDateText(today.AddDays(-14)).c_str(), day).size(), 17U) << day;
+        EXPECT_EQ(Kinds(ShortDateText(today.AddDays(-14)).c_str(), day).size(), 18U) << day;
     }
 }
 
@@ -115,6 +115,64 @@ TEST_F(OverviewCommandTest, PutsTheFindingsUnderACardAlsoWhereThereIsNone)
     checked[2] = "Daniel Reyes";
     checked[4] = "3/1/2026";
     EXPECT_EQ(Run(checked).status, 3);
+}
+
+// Nobody of them is in the list: an inactive one, the administrator, records of nobody.
+TEST_F(OverviewCommandTest, NamesWhoIsLeftOutAndTakesThemIn)
+{
+    ASSERT_EQ(Run({"create-database"}).status, 0);
+    Change(
+        "INSERT INTO Employee (EmployeeNumber, FirstName, LastName, Active, PayRate) VALUES (7, 'Peter', 'Lind', 0, 10), (8, 'Ann', 'Lee', "
+        "1, 10), (9, 'Bo', 'Zorn', 0, 10)");
+    Change("INSERT INTO TimeRecord (EmployeeID, StartTime, EndTime) VALUES (40, '2026-03-16 08:00:00', '2026-03-16 16:00:00'), "
+           "(39, '2026-03-14 22:00:00', '2026-03-15 01:00:00'), (41, '2026-03-16 08:00:00', '2026-03-16 16:00:00'), "
+           "(42, '2026-03-01 08:00:00', '2026-03-01 16:00:00'), (77, '2026-03-16 08:00:00', 'soon'), "
+           "(NULL, '2026-03-16 08:00:00', '2026-03-16 16:00:00'), (NULL, '2026-02-16 08:00:00', '2026-02-16 16:00:00')");
+    const Answer json = Run({"overview", "--format", "json"});
+    EXPECT_EQ(json.status, 3) << "they are owed";
+    EXPECT_NE(
+        json.out.find(R"("leftOut":[{"number":0,"id":39,"name":" administrator","reason":"administrator","records":1,"regular":"0.00",)"
+                      R"("overtime":"0.00","gross":"0.00","paid":null,"changed":null},{"number":7,"id":40,"name":"Peter Lind",)"
+                      R"("reason":"inactive","records":1,"regular":"8.00","overtime":"0.00","gross":"80.00","paid":null,"changed":null},)"
+                      R"({"number":null,"id":77,"name":null,"reason":"unknown","records":1,"regular":null,"overtime":null,"gross":null,)"
+                      R"("paid":null,"changed":null},{"number":null,"id":null,"name":null,"reason":"unknown","records":1,)"),
+        std::string::npos)
+        << json.out;
+    EXPECT_NE(json.out.find(R"("totals":{"regular":"8.00")"), std::string::npos) << json.out;
+    EXPECT_NE(Run({"overview"})
+                  .out.find("\n\nNot in the list, with records in this period:\n     administrator (administrator): 1 record, 0.00 "
+                            "regular and 0.00 overtime hours, 0.00; not paid\n"),
+              std::string::npos);
+    const Answer all = Run({"overview", "--all", "--format", "json"});
+    EXPECT_NE(all.out.find(R"("leftOut":[{"number":null,"id":77,)"), std::string::npos) << all.out;
+    EXPECT_NE(all.out.find(R"("totals":{"regular":"16.00")"), std::string::npos) << all.out;
+    EXPECT_LT(all.out.find("administrator"), all.out.find("Ann Lee"));
+    EXPECT_LT(all.out.find("Ann Lee"), all.out.find("Peter Lind")) << "in the list's order";
+    EXPECT_EQ(Run({"overview", "--employee", "Ann Lee"}).status, 0) << "nobody else was asked about";
+    EXPECT_EQ(Run({"overview", "--employee", "Ann Lee", "--all"}).status, 2);
+    EXPECT_EQ(Run({"overview", "--remedies", "--format", "csv"}).status, 2);
+}
+
+// The ten newest of eleven shifts that began about then count: five ends at 16:00 are newer than the others at 17:00, one at noon is
+// another kind.
+TEST_F(OverviewCommandTest, OffersRemediesByTheUsualEnd)
+{
+    ASSERT_EQ(Run({"create-database"}).status, 0);
+    Change("UPDATE _System SET auto_shift_start_time = '1899-12-30 00:00:00'");
+    Change("INSERT INTO Employee (FirstName, LastName, Active, PayRate) VALUES ('Ann', 'Lee', 1, 10)");
+    Change("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 11) INSERT INTO TimeRecord (EmployeeID, StartTime, "
+           "EndTime) SELECT 40, '2026-03-' || printf('%02d', i) || ' 09:59:59', '2026-03-' || printf('%02d', i) || CASE WHEN i > 5 THEN "
+           "' 16:00:07' ELSE ' 17:00:00' END FROM n");
+    Change("INSERT INTO TimeRecord (EmployeeID, StartTime, EndTime) VALUES (40, '2026-03-12 10:01:00', '2026-03-12 12:00:00'), (40, "
+           "'2026-03-13 08:00:00', '2026-03-13 08:00:59'), (40, '2026-03-16 07:59:00', '1899-12-30 00:00:00')");
+    const Answer json = Run({"overview", "--remedies", "--format", "json"});
+    EXPECT_NE(json.out.find(R"("remedies":[{"text":"End at 04:00:07 PM: the card has 8.02 hours","hours":"8.02","changes":[{"record":14,)"
+                            R"("start":"2026-03-16T07:59:00","end":"2026-03-16T16:00:07"}]},{"text":"Delete the record: the card has 0.00 )"
+                            R"(hours","hours":"0.00","changes":[{"record":14,"delete":true}]}])"),
+              std::string::npos)
+        << json.out;
+    EXPECT_NE(Run({"overview", "--remedies"}).out.find("\n        End at 04:00:07 PM: the card has 8.02 hours\n        Delete "),
+              std::string::npos);
 }
 
 // A row of no use, a great many of them, and names that would draw on a terminal.

@@ -98,6 +98,12 @@ TEST_F(CheckLimitsTest, UnusualRecordsAreFoundByAnIndexThatTakesEverything)
     EXPECT_NE(plan(punchsql::kStarting).find("USING COVERING INDEX TimeRecordPeriod (EmployeeID=? AND StartTime>? AND StartTime<?)"),
               std::string::npos)
         << plan(punchsql::kStarting);
+    const std::string earlier = plan(punchsql::EarlierEnds(kSqliteWords));
+    EXPECT_NE(earlier.find("USING COVERING INDEX TimeRecordPeriod (EmployeeID=? AND StartTime<?)"), std::string::npos) << earlier;
+    EXPECT_EQ(earlier.find("TEMP B-TREE"), std::string::npos) << "from the newest backwards";
+    EXPECT_NE(plan(punchsql::WithShiftsIn(kSqliteWords)).find("TimeRecordPeriod (EmployeeID=? AND StartTime>? AND StartTime<?)"),
+              std::string::npos);
+    EXPECT_EQ(plan(punchsql::EmployeesWithRecords(kSqliteWords)).find("SCAN TimeRecord"), std::string::npos);
     for (const char* value : {"NULL", "'now'", "'NOW'", "X'6E6F77'", "''", "0", "-1e300", "'2026-02-30 08:00:00'", "'2026-03-02 24:00:00'",
                               "'0050-01-01 08:00:00'", "'9999-12-31 23:59:59'", "'1899-12-30 00:00:00'", "zeroblob(100000)"}) {
         Run(fmt::format("INSERT INTO TimeRecord (EmployeeID, StartTime, EndTime) VALUES (1, {0}, {0}), (1, '2026-03-02 08:00:00', {0}), "

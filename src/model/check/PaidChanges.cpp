@@ -32,16 +32,17 @@ bool IsOfPay(const TrailEntry& entry)
 
 TrailValue PresentValue(const Statement& row, int column)
 {
+    using StoredKind = TrailValue::Kind;
     const std::string name = kColumns[column - 1];
     switch (row.KindAt(column)) {
     case CellKind::Null:
-        return {name, TrailValue::Kind::Null, {}};
+        return {name, StoredKind::Null, {}};
     case CellKind::Number:
-        return {name, TrailValue::Kind::Number, std::string(row.TextAt(column))};
+        return {name, StoredKind::Number, std::string(row.TextAt(column))};
     case CellKind::Text:
-        return {name, TrailValue::Kind::Text, std::string(row.TextAt(column))};
+        return {name, StoredKind::Text, std::string(row.TextAt(column))};
     default:
-        return {name, TrailValue::Kind::Bytes, {}};
+        return {name, StoredKind::Bytes, {}};
     }
 }
 
@@ -102,6 +103,7 @@ private:
     // As the card's fetch compares the values, those that cannot be read, too.
     bool IsFetched(const TrailRow& row, const Punch& punch) const
     {
+        using StoredKind = TrailValue::Kind;
         const DateTime end = EndOfDay(m_period.to);
         if (punch.start && punch.end) {
             return *punch.start >= m_period.from && *punch.end <= end;
@@ -109,9 +111,8 @@ private:
         const TrailValue* from = ValueOf(row, "StartTime");
         const TrailValue* to = ValueOf(row, "EndTime");
         return from != nullptr && to != nullptr &&
-               (from->kind == TrailValue::Kind::Bytes ||
-                (from->kind == TrailValue::Kind::Text && from->text >= StoredText(m_period.from))) &&
-               (to->kind == TrailValue::Kind::Number || (to->kind == TrailValue::Kind::Text && to->text <= StoredText(end)));
+               (from->kind == StoredKind::Bytes || (from->kind == StoredKind::Text && from->text >= StoredText(m_period.from))) &&
+               (to->kind == StoredKind::Number || (to->kind == StoredKind::Text && to->text <= StoredText(end)));
     }
 
     std::string m_employee;

@@ -1,6 +1,7 @@
 #include "office/card/CardChecker.h"
 
 #include "model/CEmployee.h"
+#include "model/check/PaidChanges.h"
 #include "model/check/PunchPlace.h"
 #include "model/payday/ClosingReader.h"
 #include "platform/system/LocalOffset.h"
@@ -54,7 +55,20 @@ CardCheck CardChecker::Check(const CEmployee& employee)
     if (facts.closings != nullptr) {
         ReadGap(id, *facts.closings);
     }
-    return CheckCard({employee, m_terms.period.from, m_terms.period.to}, m_rows, m_terms.now, m_terms.limits, facts);
+    CardCheck check = CheckCard({employee, m_terms.period.from, m_terms.period.to}, m_rows, m_terms.now, m_terms.limits, facts);
+    if (check.changed) {
+        NameChanged(check, *facts.closings->Newest());
+    }
+    return check;
+}
+
+void CardChecker::NameChanged(CardCheck& check, const Closing& paid) const
+{
+    const auto changed = std::find_if(check.findings.begin(), check.findings.end(),
+                                      [](const Finding& finding) { return finding.kind == FindingKind::PaidChanged; });
+    if (changed != check.findings.end()) {
+        changed->records = RecordsOf(ReadPaidChanges(m_database, paid.employee, paid.period, paid.entry));
+    }
 }
 
 // None of the rows that it adds is on the card: what is, was read before.

@@ -52,6 +52,7 @@ public:
 private:
     [[nodiscard]] const ClosingsOfEmployee* ClosingsOf(std::int32_t employeeID) const;
     void ReadGap(std::int32_t employeeID, const ClosingsOfEmployee& closings);
+    void NameChanged(CardCheck& check, const Closing& paid) const;
     [[nodiscard]] bool WorkedBefore(std::int32_t employeeID);
 
     std::shared_ptr<CJetDB> m_database;

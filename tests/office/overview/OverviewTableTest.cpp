@@ -63,6 +63,7 @@ TEST(OverviewTableTest, SortsByWhatACellMeans)
     EXPECT_EQ(Sorted(OverviewColumn::Problems), "BDAC") << "of the same number of problems, the one with fewer notices";
     EXPECT_EQ(Sorted(OverviewColumn::Notices), "CDAB");
     EXPECT_EQ(Sorted(OverviewColumn::ClockedIn), "BCDA");
+    EXPECT_EQ(Sorted(OverviewColumn::Changed), "ABCD");
     const std::vector<OverviewRow> rows = Rows();
     EXPECT_FALSE(StandsBefore(rows, 0, 0, OverviewColumn::Name));
     EXPECT_TRUE(StandsBefore(rows, 0, 1, OverviewColumn::Name));
@@ -74,21 +75,25 @@ TEST(OverviewTableTest, SortsByWhatACellMeans)
 TEST(OverviewTableTest, SumsAndCopiesWhatIsShown)
 {
     std::vector<OverviewRow> rows = Rows();
-    EXPECT_EQ(TabSeparated({TotalCells(rows, false), TotalCells(rows, true)}), "Total (4)\t88.50\t11.00\t1090.50\t\t5\t5\t1\n"
-                                                                               "Total (3 of 4)\t89.00\t1.00\t1090.50\t\t5\t2\t1\n");
+    EXPECT_EQ(TabSeparated({TotalCells(rows, false), TotalCells(rows, true)}), "Total (4)\t88.50\t11.00\t1090.50\t\t5\t5\t1\t0\t0\n"
+                                                                               "Total (3 of 4)\t89.00\t1.00\t1090.50\t\t5\t2\t1\t0\t0\n");
     rows = {Row({"=A\tB\n", CardFigures{"-0.50", "0.00", "0.00"}, 0, 0, 0, true}), Row({"C", std::nullopt, 1})};
+    rows[0].paid.emplace().paidAt = ToDateTime("3/14/2026 17:30");
+    rows[0].check.changed = PaidDifference{"+0.00", "+0.00", "-9.25"};
     EXPECT_EQ(TabSeparated({OverviewHeading(), CellsOf(rows.at(0)), CellsOf(rows.at(1))}),
-              "Name\tRegular\tOvertime\tGross Pay\tLongest Week\tProblems\tNotices\tClocked In\n"
-              "'=A B \t-0.50\t0.00\t0.00\t0.00\t0\t0\tyes\n"
-              "C\t\t\tnot readable\t0.00\t1\t0\t\n");
+              "Name\tRegular\tOvertime\tGross Pay\tLongest Week\tProblems\tNotices\tClocked In\tPaid\tChanged\n"
+              "'=A B \t-0.50\t0.00\t0.00\t0.00\t0\t0\tyes\t03/14/2026\t-9.25\n"
+              "C\t\t\tnot readable\t0.00\t1\t0\t\t\t\n");
 }
 
 TEST(OverviewTableTest, SaysWhenItWasReadAndHowMuch)
 {
-    Overview overview{{}, ToDateTime("3/15/2026 8:05"), {}, Rows()};
+    Overview overview;
+    overview.made = ToDateTime("3/15/2026 8:05");
+    EXPECT_EQ(OverviewNews(overview, 0), "Read 03/15/2026 08:05 AM: there are no employees to show.");
+    overview.rows = Rows();
     EXPECT_EQ(OverviewNews(overview, 4), "Read 03/15/2026 08:05 AM: 3 of 4 employees have problems.");
     EXPECT_EQ(OverviewNews(overview, 9), "Stopped after 4 of 9 employees, read 03/15/2026 08:05 AM: 3 of them have problems.");
-    EXPECT_EQ(OverviewNews({{}, overview.made, {}, {}}, 0), "Read 03/15/2026 08:05 AM: there are no employees to show.");
     overview.rows.erase(overview.rows.begin() + 1, overview.rows.end());
     EXPECT_EQ(OverviewNews(overview, 1), "Read 03/15/2026 08:05 AM: 1 of 1 employee has problems.");
 }

@@ -39,6 +39,14 @@ EmployeeRow Worker(const char* first, const char* last, std::int16_t lunch = 0)
     return row;
 }
 
+Overview Empty()
+{
+    Overview overview;
+    overview.period = kPeriod;
+    overview.made = kNow;
+    return overview;
+}
+
 class OverviewTest : public testing::Test
 {
 protected:
@@ -86,7 +94,7 @@ TEST(OfferedEmployeesTest, AreAllActiveOnesFromTheFirstToTheLast)
 
 TEST_F(OverviewTest, ReadsOneRowAnOfferedEmployeeInTheListsOrder)
 {
-    Overview overview{kPeriod, kNow, {}, {}};
+    Overview overview = Empty();
     std::string seen;
     EXPECT_TRUE(ReadOverview(overview, m_database, OfferedEmployees(*m_employees), [&](const OverviewRow& row) {
         seen += std::to_string(row.employee->EmployeeID()) + ": ";
@@ -105,7 +113,7 @@ TEST_F(OverviewTest, ReadsOneRowAnOfferedEmployeeInTheListsOrder)
 
 TEST_F(OverviewTest, StopsWhenItIsToldToAndLetsTheFileGo)
 {
-    Overview overview{kPeriod, kNow, {}, {}};
+    Overview overview = Empty();
     const auto afterOne = [&](const OverviewRow&) { return overview.rows.size() < 2; };
     EXPECT_FALSE(ReadOverview(overview, m_database, OfferedEmployees(*m_employees), afterOne));
     EXPECT_EQ(overview.rows.size(), 2U);
@@ -192,9 +200,11 @@ Overview SmallOverview()
     check.problems = 2;
     check.notices = 1;
     check.clockedIn = true;
-    Overview overview{kPeriod, kNow, {}, {}};
+    Overview overview = Empty();
     overview.rows.push_back(Row("=Lee\n\x1B", CardFigures{"-0.50", "0.00", "12.00"}));
+    check.changed.emplace();
     overview.rows.push_back(Row("Zo\xC3\xAB", std::nullopt, check));
+    overview.rows.back().paid = Closing{1, 40, kPeriod, ToDateTime("3/14/2026 17:30"), "Ann \"A\" Lee", "1.00", "0.00", "10.00", 0};
     return overview;
 }
 
@@ -205,7 +215,8 @@ TEST(OverviewTextsTest, CarryTheSameInEveryForm)
         OverviewJson(overview),
         "{\"from\":\"2026-03-01\",\"to\":\"2026-03-14\",\"made\":\"2026-03-15T12:00:00\",\"employees\":[\r\n"
         "{\"number\":0,\"id\":-1,\"name\":\"=Lee\\u000a\\u001b\",\"regular\":\"-0.50\",\"overtime\":\"0.00\",\"gross\":\"12.00\","
-        "\"longestWeek\":\"0.00\",\"clockedIn\":false,\"problems\":0,\"notices\":0,\"findings\":[],\"weeks\":[]},\r\n"
+        "\"longestWeek\":\"0.00\",\"clockedIn\":false,\"problems\":0,\"notices\":0,\"findings\":[],\"weeks\":[],\"paid\":null,"
+        "\"changed\":null},\r\n"
         "{\"number\":0,\"id\":-1,\"name\":\"Zo\xC3\xAB\",\"regular\":null,\"overtime\":null,\"gross\":null,\"longestWeek\":\"41.02\","
         "\"clockedIn\":true,\"problems\":2,\"notices\":1,\"findings\":["
         "{\"kind\":\"overlap\",\"severity\":\"problem\",\"records\":[7,9],\"minutes\":30,\"from\":\"2026-03-02T08:00:00\","
@@ -214,8 +225,11 @@ TEST(OverviewTextsTest, CarryTheSameInEveryForm)
         "\"},"
         "{\"kind\":\"week\",\"severity\":\"notice\",\"records\":[],\"minutes\":61,\"from\":\"2026-03-01T00:00:00\","
         "\"to\":\"2026-03-08T00:00:00\",\"text\":\"A week.\"}],"
-        "\"weeks\":[{\"from\":\"2026-03-01\",\"hours\":\"41.02\",\"above40\":\"1.02\",\"paidAsOvertime\":\"0.00\"}]}\r\n"
-        "],\"totals\":{\"regular\":\"-0.50\",\"overtime\":\"0.00\",\"gross\":\"12.00\",\"clockedIn\":1,\"problems\":2,\"notices\":1}}\r\n");
+        "\"weeks\":[{\"from\":\"2026-03-01\",\"hours\":\"41.02\",\"above40\":\"1.02\",\"paidAsOvertime\":\"0.00\"}],\"paid\":{\"at\":"
+        "\"2026-03-14T17:30:00\",\"by\":\"Ann \\\"A\\\" Lee\",\"regular\":\"1.00\",\"overtime\":\"0.00\",\"gross\":\"10.00\"},"
+        "\"changed\":{\"regular\":null,\"overtime\":null,\"gross\":null}}\r\n"
+        "],\"leftOut\":[],\"totals\":{\"regular\":\"-0.50\",\"overtime\":\"0.00\",\"gross\":\"12.00\",\"clockedIn\":1,\"problems\":2,"
+        "\"notices\":1}}\r\n");
     EXPECT_EQ(
         OverviewCsv(overview),
         "Number,ID,Name,Regular,Overtime,Gross,Longest week,Clocked in,Problems,Notices,Kind,Severity,Records,Minutes,From,To,Text\r\n"
@@ -225,13 +239,14 @@ TEST(OverviewTextsTest, CarryTheSameInEveryForm)
         "0,-1,Zo\xC3\xAB,,,,,,,,unreadable,problem,8,0,,,Unreadable.\r\n"
         "0,-1,Zo\xC3\xAB,,,,,,,,week,notice,,61,2026-03-01T00:00:00,2026-03-08T00:00:00,A week.\r\n");
     overview.rows.erase(overview.rows.begin());
-    const std::string text = "Payday overview 03/01/2026 - 03/14/2026, made 03/15/2026 12:00 PM\r\n\r\n"
-                             "Name   Regular  Overtime         Gross  Longest week  Problems  Notices  Clocked in\r\n"
-                             "Zo\xC3\xAB                       not readable         41.02         2        1         yes\r\n"
-                             "    problem: Two, \"at once\".\r\n"
-                             "    problem: Unreadable.\r\n"
-                             "    notice: A week.\r\n\r\n"
-                             "Total     0.00      0.00          0.00                       2        1           1\r\n";
+    const std::string text =
+        "Payday overview 03/01/2026 - 03/14/2026, made 03/15/2026 12:00 PM\r\n\r\n"
+        "Name   Regular  Overtime         Gross  Longest week  Problems  Notices  Clocked in        Paid       Changed\r\n"
+        "Zo\xC3\xAB                       not readable         41.02         2        1         yes  03/14/2026  not readable\r\n"
+        "    problem: Two, \"at once\".\r\n"
+        "    problem: Unreadable.\r\n"
+        "    notice: A week.\r\n\r\n"
+        "Total     0.00      0.00          0.00                       2        1           1           1             1\r\n";
     EXPECT_EQ(OverviewText(overview), text);
     overview.limits.showNotices = false;
     std::string withoutNotices = text;
