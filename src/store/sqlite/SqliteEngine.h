@@ -5,6 +5,8 @@
 #include "store/engine/WhenHeld.h"
 #include "store/sqlite/SqliteWords.h"
 
+#include <utility>
+
 namespace ptk {
 
 class Connection;
@@ -78,6 +80,10 @@ private:
     Connection& Open() const;
     std::shared_ptr<RecordSet> Patiently(const char* pragma);
     void RunSteps(const std::function<void()>& steps);
+    // Another one after any change of rows or tables.
+    using ContentMark = std::pair<int, std::int32_t>;
+    [[nodiscard]] ContentMark Mark();
+
     void RunUpdating(const std::function<void()>& steps);
     void RunSigned(const std::function<void()>& steps);
 
