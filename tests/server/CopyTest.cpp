@@ -114,7 +114,7 @@ TEST_F(CopyTest, ComesBackFromAServerAsItWas)
     server.Run("INSERT INTO TimeRecord (EmployeeID) VALUES (50); INSERT INTO Company (Name) VALUES ('Next')");
     EXPECT_EQ(Answer(server.Address(), "SELECT MAX(TimeRecordID) FROM TimeRecord"), "4712") << "behind what was ever given";
     EXPECT_EQ(Answer(server.Address(), "SELECT MAX(CompanyID) FROM Company"), "8");
-    EXPECT_EQ(Answer(server.Address(), "SELECT COUNT(*) FROM _Change"), std::to_string(*account.tables[5].before + 2)) << "told again";
+    EXPECT_EQ(Answer(server.Address(), "SELECT COUNT(*) FROM _Change"), std::to_string(*account.tables.back().before + 2)) << "told again";
 }
 
 TEST_F(CopyTest, AFileGoesIntoAFileAsItIs)

@@ -36,11 +36,11 @@ std::string EndFirstText(const Punch& first, DateTime end)
 
 std::string SplitText(const std::vector<DateTime>& midnights)
 {
-    std::string text = "Split at midnight, where ";
+    std::string days;
     for (const DateTime midnight : midnights) {
-        text += FormatDateTime(midnight, kDay) + (midnight == midnights.back() ? " begins" : " and ");
+        days += (days.empty() ? "" : " and ") + FormatDateTime(midnight, kDay);
     }
-    return text;
+    return fmt::format("Split at midnight, where {} begin{}", days, midnights.size() == 1 ? "s" : "");
 }
 
 std::string DeleteText()

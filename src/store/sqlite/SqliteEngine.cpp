@@ -142,9 +142,9 @@ void SqliteEngine::RunUpdating(const std::function<void()>& steps)
 {
     Connection& connection = *m_connection;
     BringUpToDate(*this);
-    const int before = sqlite3_total_changes(connection.Handle());
+    const ContentMark before = Mark();
     RunWithin(connection.Handle(), steps);
-    const bool changes = sqlite3_total_changes(connection.Handle()) != before;
+    const bool changes = Mark() != before;
     connection.Release();
     if (changes) {
         m_keepCopy();
@@ -156,15 +156,20 @@ void SqliteEngine::RunUpdating(const std::function<void()>& steps)
     }
 }
 
+SqliteEngine::ContentMark SqliteEngine::Mark()
+{
+    return {sqlite3_total_changes(m_connection->Handle()), Select("PRAGMA schema_version")->Int32At(0)};
+}
+
 void SqliteEngine::RunSigned(const std::function<void()>& steps)
 {
     const std::int64_t next = NextStep(*this);
     const std::int64_t step = WantedStep() != 0 ? WantedStep() : next;
     OpenStep(*this, Signature(), step);
     TookStep(step);
-    const int before = sqlite3_total_changes(m_connection->Handle());
+    const ContentMark before = Mark();
     RunWithin(m_connection->Handle(), steps);
-    if (sqlite3_total_changes(m_connection->Handle()) == before) { // no byte of the file is to change
+    if (Mark() == before) { // no byte of the file is to change
         m_connection->Release();
         TookStep(0);
         return m_connection->PrepareWrite();

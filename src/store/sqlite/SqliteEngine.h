@@ -6,6 +6,8 @@
 #include "store/engine/WhenHeld.h"
 #include "store/sqlite/SqliteWords.h"
 
+#include <utility>
+
 namespace ptk {
 
 class Connection;
@@ -84,6 +86,10 @@ public:
 private:
     Connection& Open() const;
     void RunSteps(const std::function<void()>& steps);
+    // Another one after any change of rows or tables.
+    using ContentMark = std::pair<int, std::int32_t>;
+    [[nodiscard]] ContentMark Mark();
+
     void RunUpdating(const std::function<void()>& steps);
     void RunSigned(const std::function<void()>& steps);
 

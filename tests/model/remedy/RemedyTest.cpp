@@ -140,7 +140,7 @@ TEST(RemedyTest, IsOfferedForEachFindingThatHasOne)
                   {{"2/28/2026 23:00", "3/15/2026 1:00"}},
                   "",
                   "",
-                  "Split at midnight, where 03/01/2026 and 03/15/2026 begins: the card has 335.50 hours\n"},
+                  "Split at midnight, where 03/01/2026 and 03/15/2026 begin: the card has 335.50 hours\n"},
              Case{"covered by the first",
                   "overlap",
                   {{"3/2/2026 8:00", "3/2/2026 16:00"}, {"3/2/2026 9:00", "3/2/2026 16:00:30"}},
