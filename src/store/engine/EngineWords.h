@@ -19,7 +19,7 @@ struct EngineWords
     // Of a time record: whether a search by its start would pass it over when a card is checked, as the index TimeRecordUnusual has it.
     const char* unusualPunch;
 
-    // Of a time record: whether both its times are moments, the end perhaps not set, never what an index is searched by; and of one of these columns {0} the moment with its
+    // Of a time record: whether both its times are moments, the end perhaps not set; and of one of these columns {0} the moment with its
     // seconds cut off, to be compared, and the minute of its day.
     const char* readablePunch;
     const char* wholeMinute;
