@@ -132,7 +132,7 @@ TEST_F(OverviewCommandTest, NamesWhoIsLeftOutAndTakesThemIn)
     const Answer json = Run({"overview", "--format", "json"});
     EXPECT_EQ(json.status, 3) << "they are owed";
     EXPECT_NE(
-        json.out.find(R"("leftOut":[{"number":0,"id":39,"name":" administrator","reason":"administrator","records":1,"regular":"0.00",)"
+        json.out.find(R"("leftOut":[{"number":0,"id":39,"name":"administrator","reason":"administrator","records":1,"regular":"0.00",)"
                       R"("overtime":"0.00","gross":"0.00","paid":null,"changed":null},{"number":7,"id":40,"name":"Peter Lind",)"
                       R"("reason":"inactive","records":1,"regular":"8.00","overtime":"0.00","gross":"80.00","paid":null,"changed":null},)"
                       R"({"number":null,"id":77,"name":null,"reason":"unknown","records":1,"regular":null,"overtime":null,"gross":null,)"
@@ -141,7 +141,7 @@ TEST_F(OverviewCommandTest, NamesWhoIsLeftOutAndTakesThemIn)
         << json.out;
     EXPECT_NE(json.out.find(R"("totals":{"regular":"8.00")"), std::string::npos) << json.out;
     EXPECT_NE(Run({"overview"})
-                  .out.find("\n\nNot in the list, with records in this period:\n     administrator (administrator): 1 record, 0.00 "
+                  .out.find("\n\nNot in the list, with records in this period:\n    administrator (administrator): 1 record, 0.00 "
                             "regular and 0.00 overtime hours, 0.00; not paid\n"),
               std::string::npos);
     const Answer all = Run({"overview", "--all", "--format", "json"});
