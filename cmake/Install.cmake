@@ -26,8 +26,9 @@ install(TARGETS ptk_pages LIBRARY DESTINATION lib/ptk-admin COMPONENT admin)
 install(FILES ${man_page} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT admin)
 install(FILES packaging/completion.bash DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME ptk-admin COMPONENT admin)
 install(FILES packaging/ptk-admin.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications COMPONENT admin)
-install(FILES packaging/ptk-admin.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo COMPONENT admin)
-install(FILES ${CMAKE_BINARY_DIR}/documentation/PTKAdminUserGuide.doc DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/ptk-admin COMPONENT admin) # where a new program folder gets it from
+install(FILES packaging/ptk-admin.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo RENAME com.example.ptk_admin.metainfo.xml COMPONENT admin)
+install(FILES ${CMAKE_BINARY_DIR}/documentation/PTKAdminUserGuide.doc ${CMAKE_BINARY_DIR}/documentation/PTKAdminUserGuide.html
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/ptk-admin COMPONENT admin) # where a program folder gets them from
 
 set(icons ${CMAKE_INSTALL_DATADIR}/icons/hicolor)
 install(FILES data/icons/ptk-admin.svg DESTINATION ${icons}/scalable/apps COMPONENT admin)

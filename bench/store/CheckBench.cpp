@@ -1,9 +1,10 @@
-// The check of a card beside the card alone, and the payday overview beside the raw engine fetching the same cards.
+// The check of a card beside the card alone, and the payday overview and its closing beside the raw engine fetching the same cards.
 #include "model/CEmployee.h"
 #include "model/CTimeCard.h"
 #include "model/CTimeRecordFactory.h"
 #include "office/card/CheckedTimecard.h"
 #include "office/overview/Overview.h"
+#include "office/payday/PaydayClosing.h"
 #include "store/BenchData.h"
 #include "store/CJetDB.h"
 #include "store/RawStore.h"
@@ -101,6 +102,24 @@ void ProgramOverview(benchmark::State& state, const ptk::PayPeriod& period)
     }
 }
 
+// Until all of them are safe on the disk, as one step of the trail. Reopened again in between, which is not counted.
+void ClosedPayday(benchmark::State& state, const ptk::PayPeriod& period)
+{
+    const Office office;
+    ptk::PaydayOrder order{period, {}, kLastDay.AddDays(1)};
+    for (std::int32_t i = 0; i < kEmployees; ++i) {
+        order.employees.push_back(kFirstEmployee + i);
+    }
+    for (auto unused : state) {
+        if (ClosePayday(office.database, order).front().deed != ptk::PaydayDeed::Closed) {
+            throw std::runtime_error("not closed");
+        }
+        state.PauseTiming();
+        static_cast<void>(ReopenPayday(office.database, order));
+        state.ResumeTiming();
+    }
+}
+
 using Work = void (*)(benchmark::State& state, const ptk::PayPeriod& period);
 
 void Pair(const std::string& name, const ptk::PayPeriod& period, Work raw, Work program)
@@ -117,6 +136,7 @@ void RegisterCheckBenchmarks()
     Pair("card with its check, oldest period", Oldest(), CardAlone, CheckedCard);
     Pair("overview of 1,000 employees, newest period", Newest(), RawOverview, ProgramOverview);
     Pair("overview of 1,000 employees, oldest period", Oldest(), RawOverview, ProgramOverview);
+    Pair("payday of 1,000 employees closed", Newest(), RawOverview, ClosedPayday);
 }
 
 } // namespace bench

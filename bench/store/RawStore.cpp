@@ -152,6 +152,7 @@ void RawBackup(const std::string& path, const std::string& copy)
     sqlite3_backup* backup = sqlite3_backup_init(to, "main", from.Get(), "main");
     from.Require(sqlite3_backup_step(backup, -1) == SQLITE_DONE ? SQLITE_OK : SQLITE_ERROR);
     from.Require(sqlite3_backup_finish(backup)); // the engine flushes the copy when it commits it
+    from.Require(sqlite3_exec(to, "PRAGMA integrity_check(1)", nullptr, nullptr, nullptr));
     sqlite3_close(to);
 }
 

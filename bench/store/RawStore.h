@@ -29,7 +29,7 @@ std::vector<RawEmployee> RawEmployees(const std::string& path);
 // Opens with the exclusive hold, moves one record's end, commits to the disk, closes.
 void RawSave(const std::string& path, std::int32_t record, const std::string& end);
 
-// Copies the file by the engine's own backup, and flushes the copy.
+// Copies the file by the engine's own backup, flushes the copy and has the engine check it whole: less is no backup to rely on.
 void RawBackup(const std::string& path, const std::string& copy);
 
 // Opens with the exclusive hold and reads all columns of an employee's entries in the edit trail, newest first. Returns their bytes.

@@ -26,6 +26,6 @@ BEGIN
         TO ptk_office; -- for rows with their numbers
     GRANT SELECT ON SEQUENCE company_companyid_seq, employee_employeeid_seq, timerecord_timerecordid_seq, _payday_paydayid_seq, _change_changeid_seq
         TO ptk_office, ptk_reader; -- a copy's numbers go on behind them
-    GRANT EXECUTE ON FUNCTION ptk_add_entry TO ptk_office;
+    GRANT EXECUTE ON FUNCTION ptk_add_entry(text, text) TO ptk_office;
 END
 $$;

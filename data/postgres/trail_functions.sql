@@ -70,7 +70,7 @@ BEGIN
         ptk_schema.ptk_said('ptk.reason'));
 END
 $$;
-REVOKE EXECUTE ON FUNCTION ptk_schema.ptk_add FROM PUBLIC;
+REVOKE EXECUTE ON FUNCTION ptk_schema.ptk_add(text, text, bigint, json, json, integer, integer) FROM PUBLIC;
 
 -- Names are folded by the 26 letters, whatever the locale of the database. Rates are told with all their digits, however many the writer's session
 -- asks for.
@@ -105,7 +105,7 @@ BEGIN
     RETURN NULL;
 END
 $$;
-REVOKE EXECUTE ON FUNCTION ptk_schema.ptk_tell FROM PUBLIC;
+REVOKE EXECUTE ON FUNCTION ptk_schema.ptk_tell() FROM PUBLIC;
 
 -- One entry of no row, but of the database as a whole: an import, and of which file.
 CREATE OR REPLACE FUNCTION ptk_schema.ptk_add_entry(act text, file text) RETURNS void LANGUAGE sql SECURITY DEFINER
@@ -113,7 +113,7 @@ SET search_path = pg_catalog, pg_temp AS $$
     SELECT ptk_schema.ptk_add(
         NULL::text, act, NULL::bigint, NULL::json, json_build_object('file'::text, file), NULL::integer, NULL::integer)
 $$;
-REVOKE EXECUTE ON FUNCTION ptk_schema.ptk_add_entry FROM PUBLIC;
+REVOKE EXECUTE ON FUNCTION ptk_schema.ptk_add_entry(text, text) FROM PUBLIC;
 
 $functions$, 'ptk_schema', pg_catalog.quote_ident(current_schema()));
 END

@@ -6,11 +6,14 @@
 #include "shell/CError.h"
 #include "startup/AdminMain.h"
 #include "store/postgres/ServerAddress.h"
+#include "ui/frame/EndFromOutside.h"
 #include "ui/frame/LastWindow.h"
 #include "ui/frame/QtDesktop.h"
 #include "ui/frame/QtWindowFactory.h"
+#include "ui/frame/SecondStart.h"
 #include "ui/login/FServerPassword.h"
 #include "ui/safety/FFirstStart.h"
+#include "ui/widgets/PaintMeanwhile.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -32,6 +35,9 @@ public:
 
     bool notify(QObject* receiver, QEvent* event) override
     {
+        if (ptk::PostponesClose(*receiver, *event)) {
+            return true;
+        }
         try {
             return QApplication::notify(receiver, event);
         } catch (...) {
@@ -117,11 +123,17 @@ int Run(const QApplication& application, ptk::Desktop& desktop)
     const ptk::SystemClock clock;
     // Between the login and the main window there is no window, and the program must not take that for its end.
     QApplication::setQuitOnLastWindowClosed(false);
+    const ptk::EndFromOutside end;
     const std::string folder = FolderToWorkIn(ptk::FindProgramFolder(ProgramFolderOption(application)), clock);
     if (folder.empty()) {
         return EXIT_FAILURE;
     }
+    const ptk::SecondStart start(folder);
+    if (start.IsSecond()) {
+        return EXIT_SUCCESS;
+    }
     ptk::AskForPasswordsWith(ptk::FServerPassword::Ask);
+    ptk::PaintWhileWaiting();
     ptk::QtWindowFactory windows(folder, desktop, clock);
     ptk::AdminMain admin(folder, desktop, clock, windows, [](int status) { std::_Exit(status); });
 

@@ -1,8 +1,8 @@
 #include "console/Arguments.h"
 
-#include "office/import/OldFile.h"
 #include "platform/system/Version.h"
-#include "platform/text/Text.h"
+#include "platform/text/CodePage.h"
+#include "platform/text/TypedTime.h"
 
 #include <CLI/CLI.hpp>
 
@@ -14,21 +14,18 @@ namespace ptk {
 
 namespace {
 
-// A day, not a time: what has a time of day in it is no date here.
-std::optional<DateTime> ReadDay(const std::string& text)
-{
-    return text.find(':') == std::string::npos ? ParseDateTime(text) : std::nullopt;
-}
-
-void TakesDay(CLI::Option* option)
-{
-    option->type_name("DATE")->check(
-        CLI::Validator([](std::string& text) { return ReadDay(text) ? std::string() : "not a date: " + text; }, ""));
-}
-
 void TakesFormat(CLI::App* command, std::string& format)
 {
     command->add_option("--format", format, "How: text, csv or json")->type_name("FORMAT")->check(CLI::IsMember({"text", "csv", "json"}));
+}
+
+void TakesCodePage(CLI::Option* option)
+{
+    const auto known = [](const std::string& text) {
+        const auto number = text.size() < 6 && text.find_first_not_of("0123456789") == std::string::npos ? std::atoi(text.c_str()) : 0;
+        return IsKnownCodePage(number) ? std::string() : "no code page that is known: " + text;
+    };
+    option->type_name("N")->check(CLI::Validator([known](std::string& text) { return known(text); }, ""));
 }
 
 const std::map<std::string, ReportForm>& ReportForms()
@@ -66,6 +63,8 @@ struct Words
     std::string file;
     bool dryRun = false;
     bool acceptDamaged = false;
+    bool partly = false;
+    std::string columns;
     int codePage = 0;
     std::vector<std::string> employees;
 };
@@ -73,7 +72,7 @@ struct Words
 class Grammar
 {
 public:
-    Grammar();
+    explicit Grammar(DateTime today);
     std::variant<Arguments, UsageAnswer> Read(std::vector<std::string> words);
 
 private:
@@ -85,7 +84,9 @@ private:
     void DescribeHistory();
     void DescribeBackups();
     void DescribeImport();
+    void DescribeImportPunches();
     void DescribeCopy();
+    void TakesDay(CLI::Option* option) const;
     void CheckReport() const;
     std::variant<Arguments, UsageAnswer> Answer(const CLI::ParseError& error) const;
     Arguments Result() const;
@@ -93,6 +94,10 @@ private:
     Command PaydayResult() const;
     Command FileResult() const;
 
+    // As the date boxes of the windows read it: "3/5" is of this year.
+    std::optional<DateTime> Day(const std::string& text) const { return ReadTypedDate(text, m_today); }
+
+    DateTime m_today;
     Words m_words;
     CLI::App m_app{"PTK - Administrator for terminals and scheduled jobs: time cards and reports from the program folder's database",
                    "ptk-console"};
@@ -108,20 +113,24 @@ private:
     CLI::App* m_restore = nullptr;
     CLI::App* m_backups = nullptr;
     CLI::App* m_import = nullptr;
+    CLI::App* m_importPunches = nullptr;
     CLI::App* m_copy = nullptr;
 };
 
-Grammar::Grammar()
+Grammar::Grammar(DateTime today) : m_today(today)
 {
     m_app.set_help_flag("-h,--help", "Show this help");
     m_app.set_version_flag("--version", std::string("ptk-console ") + Version(), "Show the version");
     m_app
-        .add_option("--program-folder", m_words.programFolder,
-                    "The folder with system/ and reports/; else PTK_PROGRAM_FOLDER, else the folder of ptk-console")
+        .add_option(
+            "--program-folder", m_words.programFolder,
+            "The folder with system/ and reports/; else PTK_PROGRAM_FOLDER, else the folder of ptk-console where it is one, else the one "
+            "chosen at the first start, else ptk-admin in the folder for your data")
         ->type_name("DIR");
     m_app.require_subcommand(1);
     m_app.fallthrough();
-    m_app.footer("Exit status: 0 done, 1 the operation failed, 2 wrong usage, 3 done and problems found. Dates are month/day/year.");
+    m_app.footer("Exit status: 0 done, 1 the operation failed, 2 wrong usage, 3 done and problems found. A date is "
+                 "month/day, of this year, or month/day/year; 2026-03-05 is one, too.");
     DescribeCreateDatabase();
     DescribeTimeCard();
     DescribeReport();
@@ -130,6 +139,7 @@ Grammar::Grammar()
     DescribeHistory();
     DescribeBackups();
     DescribeImport();
+    DescribeImportPunches();
     DescribeCopy();
     m_app.add_subcommand("check", "Verify the database's integrity and schema and print its row counts");
 }
@@ -165,7 +175,10 @@ void Grammar::DescribeReport()
     m_report->add_option("--format", m_words.format, "How: text, csv, json or pdf")
         ->type_name("FORMAT")
         ->check(CLI::IsMember(ReportForms()));
-    m_report->add_option("-o,--output", m_words.output, "Into this file instead of printing it; all reports into one")->type_name("FILE");
+    m_report
+        ->add_option("-o,--output", m_words.output,
+                     "Into this file instead of printing it; all reports into one, and each into the reports folder as well")
+        ->type_name("FILE");
 }
 
 void Grammar::DescribeOverview()
@@ -231,13 +244,21 @@ void Grammar::DescribeImport()
     m_import->add_option("file", m_words.file, "The older database; it is only read")->type_name("FILE")->required();
     m_import->add_flag("--dry-run", m_words.dryRun, "Print the same account, and write nothing");
     m_import->add_flag("--accept-damaged", m_words.acceptDamaged, "Take what can be read of a file that shows signs of damage");
-    const auto known = [](const std::string& text) {
-        const auto number = text.size() < 6 && text.find_first_not_of("0123456789") == std::string::npos ? std::atoi(text.c_str()) : 0;
-        return IsKnownCodePage(number) ? std::string() : "no code page that is known: " + text;
-    };
-    m_import->add_option("--code-page", m_words.codePage, "Of the texts in a Jet 3 file (Access 97), instead of the one that it names")
-        ->type_name("N")
-        ->check(CLI::Validator([known](std::string& text) { return known(text); }, ""));
+    TakesCodePage(m_import->add_option("--code-page", m_words.codePage,
+                                       "Of the texts in a Jet 3 file (Access 97), instead of the one that it names"));
+}
+
+void Grammar::DescribeImportPunches()
+{
+    m_importPunches =
+        m_app.add_subcommand("import-punches", "Store the punches of a CSV file: pairs of start and end, or events of in and out");
+    m_importPunches->add_option("file", m_words.file, "The CSV file; it is only read")->type_name("FILE")->required();
+    m_importPunches->add_flag("--dry-run", m_words.dryRun, "Print the same account, and store nothing");
+    m_importPunches->add_flag("--partly", m_words.partly, "Store what can be stored although lines are refused");
+    TakesCodePage(m_importPunches->add_option("--code-page", m_words.codePage, "Of a file that is no UTF-8; else 1252"));
+    m_importPunches->add_option("--columns", m_words.columns, "What headings and words mean: Badge=Number,1=In,0=Out")
+        ->type_name("FILE=OURS,...")
+        ->check(CLI::Validator([](std::string& text) { return ReadSheetWords(text) ? std::string() : "not FILE=OURS,...: " + text; }, ""));
 }
 
 void Grammar::DescribeCopy()
@@ -248,6 +269,12 @@ void Grammar::DescribeCopy()
         ->required();
     m_copy->add_option("--from", m_words.from, "This file or address instead of the database that the configuration names")
         ->type_name("DATABASE");
+}
+
+void Grammar::TakesDay(CLI::Option* option) const
+{
+    option->type_name("DATE")->check(
+        CLI::Validator([this](std::string& text) { return Day(text) ? std::string() : "not a date: " + text; }, ""));
 }
 
 // What each report has no use for is refused rather than silently left aside.
@@ -292,26 +319,26 @@ std::variant<Arguments, UsageAnswer> Grammar::Answer(const CLI::ParseError& erro
 Arguments Grammar::Result() const
 {
     if (m_createDatabase->parsed()) {
-        return {m_words.programFolder, CreateDatabaseArguments{m_words.sample, ReadDay(m_words.today)}};
+        return {m_words.programFolder, CreateDatabaseArguments{m_words.sample, Day(m_words.today)}};
     }
     if (m_timeCard->parsed()) {
         return {m_words.programFolder,
-                TimeCardArguments{m_words.employee, ReadDay(m_words.from).value(), ReadDay(m_words.to).value(), m_words.check}};
+                TimeCardArguments{m_words.employee, Day(m_words.from).value(), Day(m_words.to).value(), m_words.check}};
     }
     if (m_report->parsed()) {
         return {m_words.programFolder, ReportResult()};
     }
     if (m_overview->parsed()) {
-        return {m_words.programFolder, OverviewArguments{m_words.employees, ReadDay(m_words.from), ReadDay(m_words.to), m_words.format,
-                                                         m_words.all, m_words.remedies}};
+        return {m_words.programFolder,
+                OverviewArguments{m_words.employees, Day(m_words.from), Day(m_words.to), m_words.format, m_words.all, m_words.remedies}};
     }
     if (m_payday->parsed()) {
         return {m_words.programFolder, PaydayResult()};
     }
     if (m_history->parsed()) {
         const bool named = m_history->count("--employee") > 0;
-        return {m_words.programFolder, HistoryArguments{named ? std::optional(m_words.employee) : std::nullopt, ReadDay(m_words.from),
-                                                        ReadDay(m_words.to), m_words.format}};
+        return {m_words.programFolder, HistoryArguments{named ? std::optional(m_words.employee) : std::nullopt, Day(m_words.from),
+                                                        Day(m_words.to), m_words.format}};
     }
     return {m_words.programFolder, FileResult()};
 }
@@ -320,8 +347,8 @@ Command Grammar::ReportResult() const
 {
     return ReportArguments{*FindConsoleReport(m_words.report),
                            m_words.employees,
-                           ReadDay(m_words.from),
-                           ReadDay(m_words.to),
+                           Day(m_words.from),
+                           Day(m_words.to),
                            ReportForms().at(m_words.format),
                            m_report->count("--output") > 0 ? std::optional(m_words.output) : std::nullopt};
 }
@@ -330,8 +357,8 @@ Command Grammar::PaydayResult() const
 {
     const PaydayTask others = m_reopen->parsed() ? PaydayTask::Reopen : PaydayTask::Account;
     PaydayArguments arguments{m_close->parsed() ? PaydayTask::Close : others,
-                              ReadDay(m_words.from).value(),
-                              ReadDay(m_words.to).value(),
+                              Day(m_words.from).value(),
+                              Day(m_words.to).value(),
                               m_words.employees,
                               ReportForms().at(m_words.format),
                               {}};
@@ -356,6 +383,11 @@ Command Grammar::FileResult() const
         const bool named = m_import->count("--code-page") > 0;
         return ImportArguments{m_words.file, m_words.dryRun, m_words.acceptDamaged, named ? std::optional(m_words.codePage) : std::nullopt};
     }
+    if (m_importPunches->parsed()) {
+        const bool named = m_importPunches->count("--code-page") > 0;
+        return ImportPunchesArguments{m_words.file, m_words.dryRun, m_words.partly, named ? std::optional(m_words.codePage) : std::nullopt,
+                                      ReadSheetWords(m_words.columns).value_or(SheetWords())};
+    }
     if (m_copy->parsed()) {
         return CopyDatabaseArguments{m_copy->count("--from") > 0 ? std::optional(m_words.from) : std::nullopt, m_words.target};
     }
@@ -364,9 +396,9 @@ Command Grammar::FileResult() const
 
 } // namespace
 
-std::variant<Arguments, UsageAnswer> ReadArguments(const std::vector<std::string>& words)
+std::variant<Arguments, UsageAnswer> ReadArguments(const std::vector<std::string>& words, DateTime today)
 {
-    return Grammar().Read(words);
+    return Grammar(today).Read(words);
 }
 
 } // namespace ptk

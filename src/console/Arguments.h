@@ -1,6 +1,7 @@
 // The command line of ptk-console, read and checked.
 #pragma once
 
+#include "office/sheet/SheetColumns.h"
 #include "platform/text/DateTime.h"
 #include "reports/forms/ReportForms.h"
 #include "reports/ReportCatalog.h"
@@ -38,7 +39,7 @@ struct ReportArguments
 
 struct OverviewArguments
 {
-    std::vector<std::string> employees; // as above; none: all that are offered
+    std::vector<std::string> employees; // display names in the order given; none: all that are offered
     std::optional<DateTime> from;
     std::optional<DateTime> to;
     std::string format; // one of text, csv, json
@@ -93,6 +94,15 @@ struct ImportArguments
     std::optional<int> codePage; // one that is known
 };
 
+struct ImportPunchesArguments
+{
+    std::string file;
+    bool dryRun = false;
+    bool partly = false;
+    std::optional<int> codePage; // one that is known
+    SheetWords words;
+};
+
 struct CopyDatabaseArguments
 {
     std::optional<std::string> from; // a file or an address; none: the configured database
@@ -103,9 +113,9 @@ struct CheckArguments
 {
 };
 
-using Command =
-    std::variant<CreateDatabaseArguments, TimeCardArguments, ReportArguments, OverviewArguments, PaydayArguments, HistoryArguments,
-                 BackupArguments, RestoreArguments, BackupsArguments, ImportArguments, CopyDatabaseArguments, CheckArguments>;
+using Command = std::variant<CreateDatabaseArguments, TimeCardArguments, ReportArguments, OverviewArguments, PaydayArguments,
+                             HistoryArguments, BackupArguments, RestoreArguments, BackupsArguments, ImportArguments, ImportPunchesArguments,
+                             CopyDatabaseArguments, CheckArguments>;
 
 struct Arguments
 {
@@ -120,7 +130,7 @@ struct UsageAnswer
     std::string text; // without a line end at its end
 };
 
-// `words`: the command line without the program's name.
-[[nodiscard]] std::variant<Arguments, UsageAnswer> ReadArguments(const std::vector<std::string>& words);
+// `words`: the command line without the program's name. `today` tells the year of a date without one.
+[[nodiscard]] std::variant<Arguments, UsageAnswer> ReadArguments(const std::vector<std::string>& words, DateTime today);
 
 } // namespace ptk

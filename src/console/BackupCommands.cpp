@@ -82,12 +82,9 @@ int BackupCommand(const BackupArguments& arguments, Console& console)
     if (IsServerAddress(*arguments.to)) {
         throw Failure(0, "PTK", kBackupIsFile);
     }
-    std::string target = std::filesystem::absolute(*arguments.to).string();
-    const auto write = [&] {
-        BackUpTo(order.database, target);
-        return target;
-    };
-    console.out << "backup: " << TerminalText(Naming(order.database, target, write)) << '\n';
+    const std::string target = std::filesystem::absolute(*arguments.to).string();
+    Naming(order.database, target, [&] { BackUpTo(order.database, target); });
+    console.out << "backup: " << TerminalText(target) << '\n';
     return status::Done;
 }
 
@@ -107,7 +104,7 @@ int BackupsCommand(const BackupsArguments&, Console& console)
 {
     int result = status::Done;
     const std::string folder = BackupFolder(console.programFolder);
-    for (const std::string& name : BackupsIn(folder)) {
+    for (const std::string& name : Naming(folder, folder, [&] { return BackupsIn(folder); })) {
         const BackupEntry entry = CheckedBackup(folder, name);
         console.out << TerminalText(Line(entry));
         if (!entry.content) {

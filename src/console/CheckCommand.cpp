@@ -5,6 +5,7 @@
 #include "console/Session.h"
 #include "platform/files/ProgramFolder.h"
 #include "shell/CDatabaseLocator.h"
+#include "store/postgres/ServerAddress.h"
 #include "store/whole/DatabaseChecker.h"
 
 namespace ptk {
@@ -26,7 +27,7 @@ int CheckCommand(const CheckArguments&, Console& console)
 {
     const std::string path = NativePath(LocateDatabase(console.programFolder)->DatabasePath()).string();
     const DatabaseCheck check = Check(path);
-    console.out << "database: " << TerminalText(path) << '\n'
+    console.out << "database: " << TerminalText(SaidDatabase(path)) << '\n'
                 << "Company: " << check.companies << '\n'
                 << "Employee: " << check.employees << '\n'
                 << "TimeRecord: " << check.timeRecords << '\n';

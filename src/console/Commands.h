@@ -11,6 +11,7 @@ struct CopyDatabaseArguments;
 struct CreateDatabaseArguments;
 struct HistoryArguments;
 struct ImportArguments;
+struct ImportPunchesArguments;
 struct OverviewArguments;
 struct PaydayArguments;
 struct ReportArguments;
@@ -27,6 +28,7 @@ struct TimeCardArguments;
 [[nodiscard]] int RestoreCommand(const RestoreArguments& arguments, Console& console);
 [[nodiscard]] int BackupsCommand(const BackupsArguments& arguments, Console& console);
 [[nodiscard]] int ImportCommand(const ImportArguments& arguments, Console& console);
+[[nodiscard]] int ImportPunchesCommand(const ImportPunchesArguments& arguments, Console& console);
 [[nodiscard]] int CopyDatabaseCommand(const CopyDatabaseArguments& arguments, Console& console);
 [[nodiscard]] int CheckCommand(const CheckArguments& arguments, Console& console);
 

@@ -30,7 +30,8 @@ CopyAccount Copy(const std::string& from, const std::string& to)
     try {
         return CopyDatabase(from, to);
     } catch (const Failure& failure) {
-        throw Failure(failure.Number(), failure.Source(), fmt::format("{} (from {} to {})", failure.Description(), from, to));
+        throw Failure(failure.Number(), failure.Source(),
+                      fmt::format("{} (from {} to {})", failure.Description(), SaidDatabase(from), SaidDatabase(to)));
     }
 }
 
@@ -47,7 +48,7 @@ int CopyDatabaseCommand(const CopyDatabaseArguments& arguments, Console& console
     const std::string from = SourceOf(arguments, console);
     const std::string to = Whole(arguments.to);
     const CopyAccount account = Copy(from, to);
-    console.out << "from: " << TerminalText(from) << "\nto: " << TerminalText(to) << '\n';
+    console.out << "from: " << TerminalText(SaidDatabase(from)) << "\nto: " << TerminalText(SaidDatabase(to)) << '\n';
     for (const CopiedTable& table : account.tables) {
         console.out << Line(table);
     }

@@ -7,6 +7,7 @@
 #include "platform/files/ProgramFolder.h"
 #include "platform/system/Clock.h"
 #include "shell/CDatabaseLocator.h"
+#include "store/postgres/ServerAddress.h"
 #include "store/whole/BulkWriter.h"
 #include "store/whole/DatabaseCreator.h"
 
@@ -32,7 +33,7 @@ int CreateDatabaseCommand(const CreateDatabaseArguments& arguments, Console& con
     const DateTime today = arguments.today.value_or(console.clock.Today());
     const auto sample = [today](BulkWriter& writer) { AddSampleBusiness(writer, today); };
     const std::string left = arguments.sample ? Create(path, sample) : Create(path, nullptr);
-    console.out << "created: " << TerminalText(path) << '\n';
+    console.out << "created: " << TerminalText(SaidDatabase(path)) << '\n';
     if (!left.empty()) {
         console.err << "ptk-console: " << left << '\n';
     }

@@ -1,6 +1,7 @@
 #include "console/ErrorText.h"
 
 #include "platform/ErrorNumbers.h"
+#include "store/postgres/ServerAddress.h"
 
 namespace ptk {
 
@@ -19,7 +20,7 @@ Failure ProgramFailure(std::int32_t number, const std::string& subject, const st
 Failure FileFailure(const Failure& reason, const std::string& path)
 {
     const bool named = reason.Description().find(path) != std::string::npos;
-    return {reason.Number(), reason.Source(), named ? reason.Description() : reason.Description() + ": " + path};
+    return {reason.Number(), reason.Source(), named ? reason.Description() : reason.Description() + ": " + SaidDatabase(path)};
 }
 
 } // namespace ptk

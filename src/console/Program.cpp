@@ -25,6 +25,7 @@ struct Dispatch
     int operator()(const RestoreArguments& arguments) const { return RestoreCommand(arguments, console); }
     int operator()(const BackupsArguments& arguments) const { return BackupsCommand(arguments, console); }
     int operator()(const ImportArguments& arguments) const { return ImportCommand(arguments, console); }
+    int operator()(const ImportPunchesArguments& arguments) const { return ImportPunchesCommand(arguments, console); }
     int operator()(const CopyDatabaseArguments& arguments) const { return CopyDatabaseCommand(arguments, console); }
     int operator()(const CheckArguments& arguments) const { return CheckCommand(arguments, console); }
 };
@@ -40,7 +41,7 @@ int ShowUsage(const UsageAnswer& answer, std::ostream& out, std::ostream& err)
 
 int Run(const std::vector<std::string>& words, const Clock& clock, std::ostream& out, std::ostream& err, bool terminal)
 {
-    const auto read = ReadArguments(words);
+    const auto read = ReadArguments(words, clock.Today());
     if (const auto* answer = std::get_if<UsageAnswer>(&read)) {
         return ShowUsage(*answer, out, err);
     }

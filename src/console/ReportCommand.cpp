@@ -39,6 +39,7 @@ private:
     bool GoOn(std::int32_t /*done*/) override { return true; }
     void Say(const std::string& /*outcome*/) override {} // the files are named and the failures told one by one
     void Made(Report& report, bool complete, const std::string& outcome) override;
+    void Replaced(const std::string& sentence) override;
     void Deliver();
     void Print(std::string text);
     void Store(const std::string& path, const std::string& bytes);
@@ -97,6 +98,13 @@ void ReportWriter::Made(Report& report, bool complete, const std::string& /*outc
     report.UnloadReportWindow(); // report and viewer hold each other until then
 }
 
+// One of the two is lost in the reports folder, though both are printed.
+void ReportWriter::Replaced(const std::string& sentence)
+{
+    m_transcript.Complain(Failure(0, "PTK", sentence));
+    m_status = m_status == status::Done ? status::ProblemsFound : m_status;
+}
+
 int ReportWriter::Write()
 {
     RunReports(Order(), *this);
@@ -113,7 +121,7 @@ void ReportWriter::Deliver()
 {
     const std::vector<ReportDocument>& reports = m_viewers.Kept();
     const bool keeps = m_arguments.form != ReportForm::Text || m_arguments.output;
-    if (!keeps || (reports.empty() && m_status != status::Done)) {
+    if (!keeps || (reports.empty() && m_status == status::Failed)) {
         return;
     }
     if (reports.empty() && m_arguments.form == ReportForm::Pdf) {

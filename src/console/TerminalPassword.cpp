@@ -1,5 +1,7 @@
 #include "console/TerminalPassword.h"
 
+#include "store/postgres/ServerAddress.h"
+
 #include <fcntl.h>
 #include <termios.h>
 #include <unistd.h>
@@ -65,7 +67,7 @@ std::optional<std::string> AskAtTerminal(const std::string& address)
     if (terminal < 0) {
         return std::nullopt;
     }
-    const std::string question = "Password for " + address + ": ";
+    const std::string question = "Password for " + SaidServer(address) + ": ";
     std::optional<std::string> answer;
     if (::write(terminal, question.data(), question.size()) == static_cast<ssize_t>(question.size())) {
         answer = ReadLine(terminal);

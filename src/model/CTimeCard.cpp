@@ -9,7 +9,25 @@
 #include "platform/text/Text.h"
 #include "platform/text/Value.h"
 
+#include <fmt/format.h>
+#include <limits>
+
 namespace ptk {
+
+namespace {
+
+constexpr std::int32_t kMostRecords = std::numeric_limits<std::int16_t>::max(); // a card counts its records in 16 bits
+
+Failure WhyNotCalculated(std::int32_t records)
+{
+    const std::string reason =
+        records > kMostRecords
+            ? fmt::format("the period has {} time records, more than the {} that a time card can take", records, kMostRecords)
+            : "the hours or the pay are beyond every number";
+    return {failure::Overflow, "PTK", reason};
+}
+
+} // namespace
 
 CTimeCard::CTimeCard(std::shared_ptr<CTimeRecordFactory> factory) : m_factory(std::move(factory)) {}
 
@@ -90,7 +108,7 @@ bool CTimeCard::Calculate()
     CTimeCalculator calculator;
     if (!calculator.CalculateTimes(*m_employee, *TimeRecordList())) {
         m_regularHours = m_overtimeHours = 0;
-        return Fail(calculator.ErrorNumber());
+        return Fail(calculator.ErrorNumber(), WhyNotCalculated(TimeRecordList()->Count()));
     }
     m_regularHours = calculator.RegularHours();
     m_overtimeHours = calculator.OvertimeHours();

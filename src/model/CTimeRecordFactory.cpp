@@ -7,6 +7,7 @@
 #include "platform/Succeeds.h"
 #include "store/CJetDB.h"
 #include "store/CTimeRecSQLConverter.h"
+#include "store/engine/EngineWords.h"
 #include "store/engine/RecordSet.h"
 #include "store/rows/RowReader.h"
 
@@ -72,7 +73,8 @@ bool CTimeRecordFactory::Load(std::int32_t theemployeeid, DateTime thestarttime,
         m_lastFailure = m_database->LastFailure();
         return true;
     }
-    const auto rows = m_database->ExecuteSelect(CTimeRecSQLConverter().BuildFetchSQL(theemployeeid, thestarttime, theendtime));
+    const auto rows = m_database->ExecuteSelect(
+        CTimeRecSQLConverter().BuildFetchSQL(theemployeeid, thestarttime, theendtime, m_database->Words().thenByKey));
     if (rows != nullptr) {
         InsertRows(*rows);
     } else {

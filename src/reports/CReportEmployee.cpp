@@ -22,8 +22,8 @@ constexpr ReportColumn kEmployeeColumns[] = {
     {"Active", CellType::Boolean},
     {"Hire Date", CellType::Date},
     {"Release Date", CellType::Date},
-    {"Regular Pay Rate", CellType::Money},
-    {"Overtime Pay Rate", CellType::Money},
+    {"Regular Pay Rate", CellType::Rate},
+    {"Overtime Pay Rate", CellType::Rate},
 };
 
 Value Known(DateTime date)

@@ -33,6 +33,7 @@ namespace {
 
 constexpr const char* kConstructionFailed = "Program Construction Error";
 constexpr const char* kOperationFailed = "Error";
+constexpr const char* kNoDatabaseNamed = "the configuration names no database: ";
 constexpr const char* kImportNotReadAgain = "not everything that was imported could be read: see the log";
 constexpr const char* kNotReadAgain = ", but not everything in it could be read: see the log";
 
@@ -53,7 +54,8 @@ bool Reload(std::shared_ptr<List>& list, const std::shared_ptr<CJetDB>& database
 
 CController::CController(Surroundings surroundings)
     : m_around(std::move(surroundings)),
-      m_safekeeping(std::make_unique<Safekeeping>(m_around.desktop, m_around.windows, [this](const std::string& line) { Log(line); }))
+      m_safekeeping(std::make_unique<Safekeeping>(m_around.desktop, m_around.windows,
+                                                  [this](std::int32_t number, const std::string& text) { Log(number, text); }))
 {
 }
 
@@ -62,7 +64,7 @@ CController::~CController() = default;
 template <typename Operation>
 bool CController::Logged(Operation operation)
 {
-    return Succeeds(operation, [this](const Failure& reason) { LogFailure(kOperationFailed, reason.Number(), reason.Description()); });
+    return Succeeds(operation, [this](const Failure& reason) { Log(reason.Number(), reason.Description()); });
 }
 
 void CController::Start()
@@ -200,12 +202,20 @@ bool CController::OpenDatabase()
         m_database->StoredBy(m_author);
         m_locator = std::make_shared<CDatabaseLocator>(m_around.programFolder);
         m_locator->ConfigFile(m_configFile);
-        const bool opened = m_locator->GetDatabasePath() && m_database->OpenPTKDatabase(m_locator);
-        if (!opened && IsServerAddress(m_locator->DatabasePath())) { // of which the box, made for files, says too little
-            LogFailure(kOperationFailed, m_database->LastFailure().Number(), m_database->LastFailure().Description());
-        }
-        return opened;
+        return (m_locator->GetDatabasePath() && m_database->OpenPTKDatabase(m_locator)) || LogUnopened();
     });
+}
+
+bool CController::LogUnopened()
+{
+    const std::string& name = m_locator->DatabasePath();
+    const Failure& reason = m_database->LastFailure();
+    if (!name.empty()) {
+        Log(reason.Number(), reason.Description() + (IsServerAddress(name) ? "" : ": " + NativePath(name).string()));
+    } else if (m_configFile->LastFailure().Number() == 0) { // a file that could not be read has its own line
+        Log(jetdb::NoDatabase, kNoDatabaseNamed + NativePath(ConfigPath()).string());
+    }
+    return false;
 }
 
 bool CController::LoadSystemOptions()
@@ -214,18 +224,15 @@ bool CController::LoadSystemOptions()
         m_systemOptions = std::make_shared<CSystemOptions>();
         m_systemOptions->ConfigFile(m_configFile);
         m_systemOptions->PTKDatabase(m_database);
-        return m_systemOptions->Load();
+        return m_systemOptions->Load() || LogRefused("The options could not be read");
     });
 }
 
 bool CController::StoreSystemOptions()
 {
     return Logged([this] {
-        if (!m_systemOptions) {
-            return false;
-        }
-        m_systemOptions->PTKDatabase(m_database);
-        return m_systemOptions->Update();
+        Required(m_systemOptions)->PTKDatabase(m_database);
+        return m_systemOptions->Update() || LogRefused("The options could not be stored");
     });
 }
 
@@ -245,10 +252,7 @@ bool CController::ReadConfigFile()
             m_configFile = std::make_shared<CFileAdaptor>(m_around.programFolder);
         }
         m_configFile->ReadFile(ConfigPath());
-        const std::int32_t number = m_configFile->LastFailure().Number();
-        if (number != failure::FileNotFound && number != failure::PathNotFound) { // of a missing file the database's box tells
-            LogConfigFailure();
-        }
+        LogConfigFailure();
         return true;
     });
 }
@@ -266,27 +270,25 @@ void CController::LogConfigFailure()
 {
     const Failure& failure = m_configFile->LastFailure();
     if (failure.Number() != 0) {
-        LogFailure(kOperationFailed, failure.Number(), failure.Description() + ": " + NativePath(ConfigPath()).string());
+        Log(failure.Number(), failure.Description() + ": " + NativePath(ConfigPath()).string());
     }
 }
 
 bool CController::GetCompanyList()
 {
-    return Logged([this] { return Reload(m_companyList, m_database) || LogUnloaded("companies"); });
+    return Logged([this] { return Reload(m_companyList, m_database) || LogRefused("The list of companies could not be loaded"); });
 }
 
 bool CController::GetEmployeeList()
 {
     ClearUpperVectors(); // the longest work of the start, right behind the windows' own
-    return Logged([this] { return Reload(m_employeeList, m_database) || LogUnloaded("employees"); });
+    return Logged([this] { return Reload(m_employeeList, m_database) || LogRefused("The list of employees could not be loaded"); });
 }
 
-// The database's last failure is that of the list just tried.
-bool CController::LogUnloaded(const char* list)
+bool CController::LogRefused(const std::string& what)
 {
     const CJetDB& database = *Required(m_database);
-    LogFailure(kOperationFailed, database.ErrorNumber(),
-               fmt::format("The list of {} could not be loaded: {}", list, database.LastFailure().Description()));
+    Log(database.ErrorNumber(), what + ": " + database.LastFailure().Description());
     return false;
 }
 
@@ -371,6 +373,11 @@ std::string CController::SecondBackupFolder() const
     return ptk::SecondBackupFolder(*Required(m_configFile));
 }
 
+std::string CController::SecondFolderRefusal(const std::string& folder) const
+{
+    return ptk::SecondFolderRefusal(folder, m_around.programFolder);
+}
+
 bool CController::SecondBackupFolder(const std::string& folder)
 {
     if (folder == SecondBackupFolder()) {
@@ -385,14 +392,14 @@ void CController::TellDatabaseUnopened()
     Tell(m_around.desktop, m_database->ErrorNumber() == jetdb::NoDatabase ? notice::DatabaseHeld : notice::DatabaseUnusable);
 }
 
-void CController::Log(const std::string& line)
+void CController::Log(std::int32_t number, const std::string& text)
 {
-    m_around.errorLog->WriteLine(line);
+    LogFailure(kOperationFailed, number, text);
 }
 
 void CController::LogFailure(const char* kind, std::int32_t number, const std::string& description)
 {
-    Log(fmt::format("{}: {} : {}", kind, number, description));
+    m_around.errorLog->WriteLine(fmt::format("{}: {} : {}", kind, number, description));
 }
 
 std::string CController::ConfigPath() const

@@ -112,12 +112,15 @@ public:
     // The folder for a second copy of each backup; empty for none.
     [[nodiscard]] std::string SecondBackupFolder() const;
 
+    // See office/BackupRun.h.
+    [[nodiscard]] std::string SecondFolderRefusal(const std::string& folder) const;
+
     // Into the configuration file; false, with a line in the log, when that could not be written. REQUIRES: the file can hold it, see
     // office/BackupRun.
     [[nodiscard]] bool SecondBackupFolder(const std::string& folder);
 
-    // One line for the session log, of something that went wrong outside the controller.
-    void Log(const std::string& line);
+    // One line for the session log, of something that went wrong outside the controller: "Error: NUMBER : TEXT", 0 where it has no number.
+    void Log(std::int32_t number, const std::string& text);
 
 private:
     void BringUp();
@@ -143,8 +146,11 @@ private:
     void LogFailure(const char* kind, std::int32_t number, const std::string& description);
     void LogConfigFailure();
 
-    // Always false.
-    bool LogUnloaded(const char* list);
+    // Why the database's last operation was refused; always false.
+    bool LogRefused(const std::string& what);
+
+    // Why it could not be opened; always false.
+    bool LogUnopened();
 
     // The operation's answer, or false and a line in the log when it raised a failure.
     template <typename Operation>

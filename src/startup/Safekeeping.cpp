@@ -52,7 +52,7 @@ std::string SecondProblem(const BackupOutcome& outcome)
 
 } // namespace
 
-Safekeeping::Safekeeping(Desktop& desktop, WindowFactory& windows, std::function<void(const std::string& line)> log)
+Safekeeping::Safekeeping(Desktop& desktop, WindowFactory& windows, std::function<void(std::int32_t number, const std::string& text)> log)
     : m_desktop(desktop), m_windows(windows), m_log(std::move(log))
 {
 }
@@ -109,11 +109,15 @@ Safekeeping::Attempt Safekeeping::Make(const BackupOrder& order)
         const BusyPointer busy(m_desktop);
         attempt.outcome = MakeBackup(order, [&](std::int32_t done, std::int32_t all) { return goesOn = window->GoOn(done, all); });
     };
-    Succeeds(make, [&](const Failure& reason) { attempt.problem = goesOn ? kNotBackedUp + Located(reason, order) : std::string(); });
-    for (const std::string& line : {attempt.problem, attempt.outcome.secondProblem}) {
-        if (!line.empty()) {
-            m_log(line);
+    Succeeds(make, [&](const Failure& reason) {
+        goesOn = goesOn && window->GoOn(0, 0); // it may have been ended while a server was waited for
+        if (goesOn) {
+            attempt.problem = kNotBackedUp + Located(reason, order);
+            m_log(reason.Number(), attempt.problem);
         }
+    });
+    if (!attempt.outcome.secondProblem.empty()) {
+        m_log(0, attempt.outcome.secondProblem);
     }
     return attempt;
 }
@@ -125,11 +129,7 @@ std::string Safekeeping::Restore(const BackupOrder& order, const Author& author)
     while (!file.empty() && !PutBack(order, file, author)) {
         file = window->Choose(BackupFolder(order.programFolder));
     }
-    if (file.empty()) {
-        return {};
-    }
-    m_log(kRestored + file);
-    return kRestored + NameOf(file);
+    return file.empty() ? std::string() : kRestored + NameOf(file);
 }
 
 bool Safekeeping::PutBack(const BackupOrder& order, const std::string& file, const Author& author)
@@ -140,19 +140,18 @@ bool Safekeeping::PutBack(const BackupOrder& order, const std::string& file, con
         const BusyPointer busy(m_desktop);
         RestoreBackup(order, file, author, [&](std::int32_t done, std::int32_t all) { return goesOn = window->GoOn(done, all); });
     };
-    std::string problem;
-    const bool done =
-        Succeeds(putBack, [&](const Failure& reason) { problem = goesOn ? kNotRestored + reason.Description() : std::string(); });
-    if (!problem.empty()) {
-        m_log(problem);
-        Tell(kRestoreTitle, problem);
-    }
-    return done;
+    return Succeeds(putBack, [&](const Failure& reason) {
+        if (goesOn) {
+            m_log(reason.Number(), kNotRestored + reason.Description());
+            Tell(kRestoreTitle, kNotRestored + reason.Description());
+        }
+    });
 }
 
 bool Safekeeping::CanReplace(const BackupOrder& order)
 {
-    if (order.database.empty() || IsServerAddress(order.database) || BackupsIn(BackupFolder(order.programFolder)).empty()) {
+    const auto hasBackups = [&] { return !BackupsIn(BackupFolder(order.programFolder)).empty(); };
+    if (order.database.empty() || IsServerAddress(order.database) || !Succeeds(hasBackups)) {
         return false;
     }
     bool replaceable = false;

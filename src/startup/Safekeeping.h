@@ -21,7 +21,7 @@ class Safekeeping
 {
 public:
     // The two outlive it.
-    Safekeeping(Desktop& desktop, WindowFactory& windows, std::function<void(const std::string& line)> log);
+    Safekeeping(Desktop& desktop, WindowFactory& windows, std::function<void(std::int32_t number, const std::string& text)> log);
 
     // Changes count from here on.
     void Begin(const std::shared_ptr<CJetDB>& database);
@@ -57,7 +57,7 @@ private:
 
     Desktop& m_desktop;
     WindowFactory& m_windows;
-    std::function<void(const std::string& line)> m_log;
+    std::function<void(std::int32_t number, const std::string& text)> m_log;
     std::optional<std::int64_t> m_newest; // change when the session began; nothing where it could not be read
 };
 

@@ -41,7 +41,7 @@ struct PasswordChange
     std::string after;
 };
 
-// Not thread-safe. Closed at creation; the destructor closes an open file. No member raises.
+// Not thread-safe. Closed at creation; the destructor closes an open file. No member but TakeNews and HasTrail raises.
 // ErrorNumber is never reset: it keeps the last code until another is set, and LoadCompanyList even refuses on a stale one.
 //
 // An open file is held exclusively, except after an operation that failed: its file stays open, but others get at it until the next

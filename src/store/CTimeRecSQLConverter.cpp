@@ -82,6 +82,11 @@ void CTimeRecSQLConverter::Build(Builder builder, const TimeRecordRow& record, s
 
 std::string CTimeRecSQLConverter::BuildFetchSQL(std::int32_t theemployeeid, DateTime thestarttime, DateTime theendtime)
 {
+    return BuildFetchSQL(theemployeeid, thestarttime, theendtime, "");
+}
+
+std::string CTimeRecSQLConverter::BuildFetchSQL(std::int32_t theemployeeid, DateTime thestarttime, DateTime theendtime, const char* then)
+{
     std::string sql;
     SucceedsOr(sqlerror::FetchFailed, m_errorNumber, [&] {
         sql = "SELECT TimeRecord.TimeRecordID, TimeRecord.EmployeeID, TimeRecord.StartTime, TimeRecord.EndTime "
@@ -89,7 +94,7 @@ std::string CTimeRecSQLConverter::BuildFetchSQL(std::int32_t theemployeeid, Date
         Append(sql, "Where ((TimeRecord.EmployeeID = {}) ", theemployeeid);
         Append(sql, "And ((TimeRecord.StartTime >= #{}#) ", GeneralText(thestarttime));
         Append(sql, "And (TimeRecord.EndTime <= #{}#))) ", GeneralText(theendtime));
-        sql += "ORDER BY TimeRecord.StartTime, TimeRecord.EndTime;";
+        Append(sql, "ORDER BY TimeRecord.StartTime, TimeRecord.EndTime{};", then);
     });
     return sql;
 }

@@ -27,6 +27,9 @@ public:
     // too.
     std::string BuildFetchSQL(std::int32_t theemployeeid, DateTime thestarttime, DateTime theendtime);
 
+    // The same with `then` behind its order: see EngineWords::thenByKey.
+    std::string BuildFetchSQL(std::int32_t theemployeeid, DateTime thestarttime, DateTime theendtime, const char* then);
+
 private:
     using Builder = void (*)(std::string& sql, const TimeRecordRow& record);
     void Build(Builder builder, const TimeRecordRow& record, std::int32_t errorNumber);

@@ -5,6 +5,15 @@
 
 namespace ptk::punchsql {
 
+// By all queries, in this order; the last by OfMany alone.
+enum Column
+{
+    kId,
+    kStart,
+    kEnd,
+    kEmployee
+};
+
 // What starts between two moments, both included. Answered by the index TimeRecordPeriod alone.
 inline constexpr auto kStarting = "SELECT TimeRecordID, StartTime, EndTime FROM TimeRecord "
                                   "WHERE EmployeeID = :employee AND StartTime BETWEEN :first AND :last";
@@ -53,6 +62,14 @@ inline constexpr auto kStarting = "SELECT TimeRecordID, StartTime, EndTime FROM 
     return fmt::format("SELECT TimeRecordID, StartTime, EndTime FROM TimeRecord WHERE {0} AND StartTime BETWEEN :first AND :last UNION ALL "
                        "SELECT TimeRecordID, StartTime, EndTime FROM TimeRecord WHERE {0} AND {1}",
                        whose, words.unusualPunch);
+}
+
+// Both of the employees `employees`, in one question. REQUIRES: the words have amongEmployees.
+[[nodiscard]] inline std::string OfMany(const EngineWords& words)
+{
+    const std::string select =
+        "SELECT TimeRecordID, StartTime, EndTime, EmployeeID FROM TimeRecord WHERE " + Said(words.amongEmployees, "EmployeeID");
+    return fmt::format("{0} AND StartTime BETWEEN :first AND :last UNION ALL {0} AND {1}", select, words.unusualPunch);
 }
 
 } // namespace ptk::punchsql

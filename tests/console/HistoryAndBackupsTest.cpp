@@ -77,7 +77,11 @@ TEST_F(HistoryAndBackupsTest, BacksUpListsAndRestores)
     EXPECT_EQ(Run({"backups"}).status, 3);
     const Answer refused = Run({"restore", Backup(name)});
     EXPECT_EQ(refused.status, 1);
-    EXPECT_EQ(refused.err, "ptk-console: 26: the file is not a database of this program\n");
+    EXPECT_EQ(refused.err, "ptk-console: 26: the file is not a database of this program: " + Backup(name) + "\n");
+    std::filesystem::remove_all(Folder() / "backups");
+    WriteBytes((Folder() / "backups").string(), "no folder");
+    EXPECT_EQ(Run({"backups"}).status, 1);
+    EXPECT_NE(Run({"backups"}).err.find((Folder() / "backups").string()), std::string::npos);
     EXPECT_EQ(Run({"restore"}).status, 2);
 }
 

@@ -70,8 +70,8 @@ TEST_F(ReportCommandTest, WritesEachReportForTheTabsEmployeesAndDates)
 
 TEST_F(ReportCommandTest, TakesTheDatesGivenAndMovesTheEndWithTheStart)
 {
-    EXPECT_EQ(Run({"report", "review", "--employee", "Ann Lee", "--from", "3/1/2026"}).err, Written({"salary_review_0301_0315_2026.txt"}));
-    EXPECT_EQ(Run({"report", "ytd", "--employee", "Ann Lee", "--from", "2/1/2026", "--to", "3/1/2026"}).err,
+    EXPECT_EQ(Run({"report", "review", "--employee", "Ann Lee", "--from", "3/1"}).err, Written({"salary_review_0301_0315_2026.txt"}));
+    EXPECT_EQ(Run({"report", "ytd", "--employee", "Ann Lee", "--from", "2-1", "--to", "2026-03-01"}).err,
               Written({"101_0201_0301_2026_ytd_totals.txt"}));
 }
 
@@ -96,6 +96,18 @@ TEST_F(ReportCommandTest, AFailedReportIsToldAndTheOthersStillCome)
     EXPECT_EQ(unknown.status, 1);
     EXPECT_EQ(unknown.err, "ptk-console: 602: no employee has this name: Nobody\n");
     EXPECT_EQ(unknown.out, "");
+}
+
+TEST_F(ReportCommandTest, WhoseFileWasReplacedIsTold)
+{
+    CJetDB database(m_folder.Path());
+    ASSERT_TRUE(database.ExecuteAction("UPDATE Employee SET EmployeeNumber = 101 WHERE LastName = 'Tanaka'"));
+    const std::vector<std::string> words{"report", "timecard", "--employee", "Ann Lee", "--employee", "Yuki Tanaka"};
+    const std::string file = "101_0315_0329_2026_time_card.txt";
+    const std::string told = "ptk-console: the report of Yuki Tanaka took the place of that of Ann Lee, who has the same number\n";
+    const Answer answer = Run(words);
+    EXPECT_EQ(answer.status, 3);
+    EXPECT_EQ(answer.err, Written({file, file}) + told);
 }
 
 TEST_F(ReportCommandTest, OneFileTakesAllReportsOfARun)

@@ -83,6 +83,20 @@ TEST_F(TimeEditorTest, ShowsARecord)
     EXPECT_EQ(Texts(), "||||");
 }
 
+TEST_F(TimeEditorTest, OpensWithItsFirstTextChosenAndWarnsOfALongShift)
+{
+    editor.hide();
+    Show({{2003, 2, 20}, {8, 0, 0}}, {});
+    editor.WarnAbove(16);
+    editor.show();
+    QTest::keyClicks(editor.focusWidget(), "2/21");
+    EXPECT_EQ(Box("dttbStartDate").Text(), "02/21/2003") << "in the place of what stood there";
+    Type(Box("dttbEndTime"), "420p");
+    EXPECT_EQ(Find<QLabel>(editor, "lblWarning").text(), "This shift has 296:20 hours, more than the longest usual one of 16. ");
+    Type(Box("dttbEndDate"), "2/21");
+    EXPECT_EQ(Find<QLabel>(editor, "lblWarning").text(), "");
+}
+
 TEST_F(TimeEditorTest, TypingChangesTheRecordAtOnceAndCancelKeepsThat)
 {
     const auto record = Show({{2003, 2, 3}, {8, 0, 0}}, {{2003, 2, 3}, {16, 0, 0}});

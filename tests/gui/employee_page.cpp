@@ -165,6 +165,8 @@ TEST_F(EmployeePageTest, SavesANewEmployeeAndOffersItEverywhere)
     EXPECT_EQ(Stored("SELECT FirstName || '/' || LastName || ' ' || HireDate || ' ' || PayRate AS x FROM Employee WHERE EmployeeID = 43"),
               std::vector<std::string>{"Mary/Ann Orr 2003-03-01 00:00:00 9.5"});
     EXPECT_EQ(Keys(), "|||");
+    Click(Find(Main(), "FrameArray(3)"), "cmdNotice");
+    EXPECT_EQ(Keys(), "43|Mary Ann Orr|444-44|5") << "shown again";
     EXPECT_GE(Box("cboTCEmployeeName").findText("Mary Ann Orr"), 0);
     EXPECT_GE(Box("cboEmployeeID").findText("43"), 0);
     EXPECT_EQ(Box("cboTCEmployeeName").findText("Bo Kim"), -1);
@@ -301,6 +303,50 @@ TEST_F(EmployeePageTest, OnlyAChoiceLoadsAnotherEmployee)
     Key(Box("cboEmployeeName"), Qt::Key_Return);
     EXPECT_EQ(Keys(), "42|Bo Kim|333-33|7") << "found by Enter, in any letter case";
     EXPECT_EQ(Stored("SELECT PayRate AS x FROM Employee WHERE EmployeeID = 42"), std::vector<std::string>{"12.5"}) << "found, not saved";
+}
+
+TEST_F(EmployeePageTest, LeavingAsksOnceWhatBecomesOfTypedChanges)
+{
+    struct Way
+    {
+        const char* number;
+        Answer answer;
+        Boxes told;
+        bool leaves;
+        const char* ann;
+    };
+    const ShownBox question{"Changes to Ann Lee were not saved.\n\nSave before leaving?", "Exit", Icon::Question,
+                            Buttons::SaveDiscardCancel};
+    const ShownBox noNumber{"You cannot save an employee without assigning an employee number.", "Employee Save Error", Icon::Exclamation,
+                            Buttons::Ok};
+    const std::string stored = kAnnAtFirst;
+    for (const Way& way : {Way{"9", Answer::Cancel, {question}, false, "5"},
+                           {"", Answer::Yes, {question, noNumber}, false, "5"},
+                           {"9", Answer::Yes, {question}, true, "9"}}) {
+        Pick(Box("cboEmployeeSSN"), "111-11");
+        TypeInto(Box("cboEmployeeNumber"), way.number);
+        ClickTab(Main(), 1);
+        program.desktop.answers = {way.answer};
+        Find<QAction>(Main(), "mnuFileExit").trigger();
+        EXPECT_EQ(Told(), way.told);
+        EXPECT_EQ(program.ended, way.leaves ? 1 : 0);
+        EXPECT_EQ(Stored(kAnn).front(), way.ann + stored.substr(1));
+        if (!way.leaves) {
+            EXPECT_EQ(Find(Main(), "FrameArray(3)").isVisible(), way.answer == Answer::Yes) << "what was refused is brought up";
+            EXPECT_EQ(Box("cboEmployeeNumber").currentText(), way.number);
+        }
+    }
+}
+
+TEST_F(EmployeePageTest, DiscardedChangesAreGone)
+{
+    Pick(Box("cboEmployeeSSN"), "111-11");
+    TypeInto(Box("cboEmployeeNumber"), "9");
+    program.desktop.answers = {Answer::No};
+    Main().close();
+    EXPECT_EQ(Told().size(), 1U);
+    EXPECT_EQ(program.ended, 1);
+    EXPECT_EQ(Stored(kAnn), std::vector<std::string>{kAnnAtFirst});
 }
 
 } // namespace

@@ -2,6 +2,10 @@
 #include "gui/PageFixture.h"
 
 #include "store/backup/Backups.h"
+#include "ui/frame/EndFromOutside.h"
+#include "ui/widgets/NoticeLine.h"
+
+#include <csignal>
 
 namespace ptk {
 
@@ -47,16 +51,18 @@ TEST_F(BackupsWindowTest, RestoresTheChosenOneAndShowsWhatIsInIt)
     const std::string newest = program.folder.Path() + "/backups/ptk_11-2003-03-06-170000.mdb";
     WriteBytes(newest, ReadBytes(newest).substr(0, 20000));
 
+    Pick(The<QComboBox>("cboTCEmployeeName"), "Ann Lee");
+    Find<NoticeLine>(Find(Main(), "FrameArray(2)"), "notice").Say("3 reports complete");
     const ExpectedModal choice([](QDialog& window) {
         auto& table = Find<QTableWidget>(window, "grdBackups");
         auto& restore = Find<QPushButton>(window, "cmdRestore");
         EXPECT_FALSE(restore.isEnabled());
         WaitUntilChecked(table);
         ASSERT_EQ(table.rowCount(), 2);
-        EXPECT_EQ(table.item(0, 0)->text() + "|" + table.item(0, 5)->text(), "Thu 03/06/2003 05:00 PM|the database file is damaged");
+        EXPECT_EQ(table.item(0, 0)->text() + "|" + table.item(0, 5)->text(), "Thu 03/06/2003 05:00:00 PM|the database file is damaged");
         EXPECT_EQ(table.item(1, 0)->text() + "|" + table.item(1, 2)->text() + "|" + table.item(1, 3)->text() + "|" +
                       table.item(1, 5)->text(),
-                  "Wed 03/05/2003 08:05 AM|2|0|sound");
+                  "Wed 03/05/2003 08:05:09 AM|2|0|sound");
         EXPECT_TRUE(restore.isEnabled()) << "the newest sound one is chosen";
         table.selectRow(0);
         EXPECT_FALSE(restore.isEnabled());
@@ -66,7 +72,21 @@ TEST_F(BackupsWindowTest, RestoresTheChosenOneAndShowsWhatIsInIt)
     Trigger("mnuFileRestore");
     EXPECT_EQ(Notice(), "Restored from ptk_11-2003-03-05-080509.mdb");
     EXPECT_EQ(Names(), "Ann Lee") << "as it was";
+    EXPECT_EQ(StatusText(Main()), "Timecards : Ann Lee : 03/05/2003 - 03/19/2003") << "who is shown now";
+    EXPECT_EQ(Find<NoticeLine>(Find(Main(), "FrameArray(2)"), "notice").Text(), "") << "of another database";
     EXPECT_EQ(Stored("SELECT LastName AS x FROM Employee WHERE FirstName = 'Ann'"), std::vector<std::string>{"Lee"});
+    EXPECT_EQ(Told(), Boxes());
+}
+
+TEST_F(BackupsWindowTest, ASignalOfTheSystemEndsTheProgramAsExitDoesWithoutAQuestion)
+{
+    const EndFromOutside end;
+    std::filesystem::remove_all(BackupFolder(program.folder.Path()));
+    QTimer::singleShot(0, [] { std::raise(SIGTERM); });
+    Trigger("mnuFileRestore"); // a dialog that waits for the user
+    EXPECT_TRUE(QTest::qWaitFor([&] { return program.ended == 1; }));
+    EXPECT_EQ(BackupsIn(BackupFolder(program.folder.Path())).size(), 1U);
+    EXPECT_NE(ReadBytes(program.logPath).find("session end"), std::string::npos);
     EXPECT_EQ(Told(), Boxes());
 }
 

@@ -11,10 +11,12 @@ namespace {
 // Idle Ames has no records; the others each worked on 3 March 2003.
 void AddFrameBoxesStaff(BulkWriter& writer, int workers)
 {
-    const auto add = [&writer](const std::string& firstName, const std::string& lastName) {
+    std::int32_t number = 0;
+    const auto add = [&writer, &number](const std::string& firstName, const std::string& lastName) {
         EmployeeRow row;
         row.FirstName = firstName;
         row.LastName = lastName;
+        row.EmployeeNumber = ++number;
         row.EmployeeActive = true;
         return writer.AddEmployee(row);
     };
@@ -42,13 +44,17 @@ protected:
         Click(Main(), "cmdSelectAll");
     }
 
-    static int Viewers()
+    static std::vector<const ReportViewerWindow*> Windows()
     {
-        const auto windows = QApplication::topLevelWidgets();
-        return static_cast<int>(std::count_if(windows.begin(), windows.end(), [](const QWidget* window) {
-            return window->isVisible() && qobject_cast<const ReportViewerWindow*>(window) != nullptr;
-        }));
+        std::vector<const ReportViewerWindow*> shown;
+        for (const QWidget* window : QApplication::topLevelWidgets()) {
+            if (const auto* viewer = qobject_cast<const ReportViewerWindow*>(window); viewer != nullptr && viewer->isVisible()) {
+                shown.push_back(viewer);
+            }
+        }
+        return shown;
     }
+    static int Viewers() { return static_cast<int>(Windows().size()); }
 
     std::unique_ptr<GuiProgramOn<ShowingDesktop>> program;
 };
@@ -65,22 +71,39 @@ TEST_F(RealBoxesTest, AFailureAmongReportsCanBeReadAndStopsNoOther)
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
-TEST_F(RealBoxesTest, ACancelledRunTellsHowFarItCame)
+TEST_F(RealBoxesTest, ManyReportsAreMadeOnRequestBehindTheProgressAndCanBeCancelled)
 {
-    Start(400);
+    Start(1500);
     SelectEveryone();
-    const KeyPresses keys({{"QMessageBox", Qt::Key_Return}, {"ptk::WorkProgress", Qt::Key_Escape}});
+    {
+        const KeyPresses hurried({{"QMessageBox", Qt::Key_Return}});
+        Click(Main(), "cmdGenerate");
+        EXPECT_EQ(program->desktop.Take().at(0).text, "This opens 1501 windows, one for each report. Go on?");
+        EXPECT_EQ(Line(), "No report was made");
+        EXPECT_EQ(Viewers(), 0);
+    }
+    const auto allBehind = [] {
+        for (const ReportViewerWindow* viewer : Windows()) {
+            EXPECT_TRUE(viewer->testAttribute(Qt::WA_ShowWithoutActivating) &&
+                        viewer->windowHandle()->flags() & Qt::WindowStaysOnBottomHint);
+        }
+    };
+    const KeyPresses keys(
+        {{"QMessageBox", Qt::Key_Y}, {"QMessageBox", Qt::Key_Return}, {"ptk::WorkProgress", Qt::Key_Escape, 0, allBehind}});
     Click(Main(), "cmdGenerate");
-    EXPECT_LT(Viewers(), 401);
-    EXPECT_EQ(Line(), QString("Cancelled: %1 of 401 reports complete, 1 failed").arg(Viewers() - 1));
+    EXPECT_EQ(QApplication::activeWindow(), Windows().back());
+    EXPECT_FALSE(Windows().front()->windowHandle()->flags() & Qt::WindowStaysOnBottomHint) << "they have risen";
+    EXPECT_LT(Viewers(), 1501);
+    EXPECT_EQ(Line(), QString("Cancelled: %1 of 1501 reports complete, 1 failed").arg(Viewers() - 1));
 }
 
 TEST_F(RealBoxesTest, ClosingInTheMiddleOfARunEndsTheRunFirst)
 {
-    Start(400);
+    Start(1500);
     SelectEveryone();
     QPointer<FController> main = &Main();
-    const KeyPresses keys({{"QMessageBox", Qt::Key_Return}, {"ptk::WorkProgress", Qt::Key_Escape, 0, [&] { main->close(); }}});
+    const KeyPresses keys(
+        {{"QMessageBox", Qt::Key_Y}, {"QMessageBox", Qt::Key_Return}, {"ptk::WorkProgress", Qt::Key_Escape, 0, [&] { main->close(); }}});
     Click(*main, "cmdGenerate");
     EXPECT_TRUE(main->isVisible());
     EXPECT_TRUE(Line().startsWith("Cancelled: "));

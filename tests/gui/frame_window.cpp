@@ -4,6 +4,7 @@
 #include "store/CSystemOptions.h"
 #include "ui/widgets/DateTimeBox.h"
 #include "ui/widgets/NoticeLine.h"
+#include "ui/widgets/WindowPlace.h"
 
 #include <gmock/gmock.h>
 
@@ -131,20 +132,28 @@ TEST_F(MainWindowTest, ListsTheKeysOfItsMenusAndOfTheRest)
 
 TEST_F(MainWindowTest, OpensTheGuideAndTellsOnlyWhenItIsMissing)
 {
-    program.desktop.shellCodes = {ShellSuccess + 1, ShellFileNotFound, ShellNoProgram};
+    program.desktop.shellCodes = {ShellSuccess + 1, ShellFileNotFound, ShellNoProgram, ShellSuccess + 1, ShellNoProgram, ShellNoProgram};
+    program.desktop.refusal = "no program is set up for this kind of document";
     auto& guide = Find<QAction>(Main(), "mnuHelpContents");
     guide.trigger();
     EXPECT_EQ(program.desktop.Take(), Boxes());
     guide.trigger();
     EXPECT_EQ(program.desktop.Take(), Boxes{kNoGuide});
     auto& line = *Find(Main(), "FrameArray(1)").findChild<QLabel*>("lblNotice");
-    EXPECT_EQ(line.text(), "");
+    guide.trigger();
+    EXPECT_EQ(line.text(), "") << "its page opened";
     guide.trigger();
     EXPECT_EQ(program.desktop.Take(), Boxes());
-    EXPECT_EQ(line.text(), "The user's guide could not be opened: no program for it took it.");
-    EXPECT_THAT(ReadBytes(program.logPath), testing::HasSubstr(line.text().toStdString()));
-    const ShellRequest request{ShellVerb::Open, program.folder.Path() + "/documentation/PTKAdminUserGuide.doc"};
-    EXPECT_EQ(program.desktop.requests, (std::vector<ShellRequest>(3, request)));
+    EXPECT_EQ(line.text(), "The user's guide could not be opened: no program is set up for this kind of document");
+    const std::string document = program.folder.Path() + "/documentation/PTKAdminUserGuide.doc";
+    const std::string page = program.folder.Path() + "/documentation/PTKAdminUserGuide.html";
+    EXPECT_THAT(ReadBytes(program.logPath), testing::EndsWith("Error: 902 : The user's guide is missing: " + document +
+                                                              "\r\nError: 0 : " + line.text().toStdString() + "\r\n"));
+    std::vector<std::string> asked;
+    for (const ShellRequest& request : program.desktop.requests) {
+        asked.push_back(request.path);
+    }
+    EXPECT_EQ(asked, (std::vector{document, document, document, page, document, page}));
 }
 
 TEST_F(MainWindowTest, AppliesOptionsThatTheNextStartFinds)
@@ -266,8 +275,8 @@ TEST_F(MainWindowTest, ActionsStayInSightAtTheSmallestSize)
     for (int tab = 1; tab <= 5; ++tab) {
         ClickTab(Main(), tab);
         QCoreApplication::processEvents();
-        const auto actions =
-            Find(Main(), QString("FrameArray(%1)").arg(tab)).findChildren<QPushButton*>(QString(), Qt::FindDirectChildrenOnly);
+        const auto actions = Find(Find(Main(), QString("FrameArray(%1)").arg(tab)), "inside")
+                                 .findChildren<QPushButton*>(QString(), Qt::FindDirectChildrenOnly);
         EXPECT_GE(actions.size(), tab == 2 ? 1 : 2) << tab;
         for (const QPushButton* action : actions) {
             EXPECT_EQ(action->visibleRegion().boundingRect(), action->rect()) << action->objectName().toStdString();
@@ -276,9 +285,45 @@ TEST_F(MainWindowTest, ActionsStayInSightAtTheSmallestSize)
     }
 }
 
+TEST_F(MainWindowTest, TheGrossPayIsInSightAtTheSmallestSizeAndTwelveRowsOnASmallScreen)
+{
+    const auto& gross = Find<QLineEdit>(Main(), "txtTCPeriodPay");
+    Main().resize(1, 1);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(gross.visibleRegion().boundingRect(), gross.rect());
+    Main().resize(1008, 652); // what 1024 x 700 leaves beside a window manager's frame
+    QCoreApplication::processEvents();
+    const auto& grid = Find<QTableView>(Main(), "grdTimeRecs");
+    EXPECT_GE(grid.viewport()->height(), 12 * grid.verticalHeader()->defaultSectionSize());
+}
+
+TEST_F(MainWindowTest, FormsHaveTheirButtonsBelowTheirFields)
+{
+    Main().resize(1920, 1000);
+    ClickTab(Main(), 3);
+    QCoreApplication::processEvents();
+    const auto place = [&](const char* name) {
+        const QWidget& control = Find(Main(), name);
+        return QRect(control.mapTo(&Main(), QPoint()), control.size());
+    };
+    EXPECT_LT(place("cmdEmployeeSave").top() - place("Frame3").bottom(), 60);
+    EXPECT_LT(place("cmdEmployeeCancel").right() - place("txtEmployeeAddr1").right(), 20);
+    EXPECT_GT(place("txtEmployeeAddr1").right(), 900);
+}
+
+TEST_F(MainWindowTest, ARememberedPlaceFitsTheScreen)
+{
+    QWidget large;
+    large.setGeometry(700, 500, 3000, 2000);
+    StorePlace(large, "main");
+    GuiProgram next;
+    next.LogIn();
+    EXPECT_TRUE(next.Main().screen()->availableGeometry().contains(next.Main().frameGeometry()));
+}
+
 TEST_F(MainWindowTest, RemembersItsSize)
 {
-    Main().resize(1000, 690);
+    Main().resize(700, 600);
     const QSize size = Main().size();
     Main().close();
     GuiProgram next;

@@ -65,6 +65,18 @@ protected:
         QApplication::setActiveWindow(&Window());
         QTest::keyClick(&Window(), Qt::Key_F5);
     }
+    void Elsewhere(const std::string& sql)
+    {
+        CJetDB database(program.folder.Path());
+        database.DatabaseName(NativePath(program.databasePath).string());
+        EXPECT_TRUE(database.ExecuteAction(sql)) << database.LastFailure().Description();
+    }
+    void Activate()
+    {
+        QApplication::setActiveWindow(&Main());
+        QApplication::setActiveWindow(&Window());
+        QCoreApplication::processEvents();
+    }
     static QString Totals() { return Find<QTableView>(Window(), "grdTotals").model()->index(0, kName).data().toString(); }
     static void ClickHeading(int column)
     {
@@ -129,6 +141,68 @@ TEST_F(OverviewWindowTest, OpensTheCardOfTheVeryEmployeeAndReadsAgain)
     EXPECT_EQ(Label("lblNotice"), "The overview could not be read: the database is in use by another program");
     EXPECT_EQ(Table().model()->rowCount(), 3) << "as it was read before";
     EXPECT_EQ(Told(), Boxes());
+}
+
+TEST_F(OverviewWindowTest, IsReadAnewByF9AfterAChangeAndSaysThatThereWasOne)
+{
+    WaitUntilRead();
+    Table().selectRow(1);
+    Table().setFocus();
+    QTest::keyClick(&Table(), Qt::Key_Return);
+    The<QTableView>("grdTimeRecs").selectRow(1);
+    program.desktop.answers = {Answer::Yes};
+    Press("cmdTCDelete");
+    EXPECT_EQ(Label("lblNotice"), "Changed since it was read");
+    EXPECT_EQ(Label("lblOverviewFindings"), "Ann Lee: 1 problem") << "as it was read";
+    Find<QAction>(Main(), "mnuViewOverview").trigger();
+    WaitUntilRead();
+    EXPECT_EQ(Label("lblNotice"), "");
+    EXPECT_EQ(Label("lblOverviewFindings"), "Ann Lee: No problems or notices") << "the chosen one stays chosen";
+    const auto before = Label("lblOverview");
+    program.clock.now = DateTime({2003, 3, 5}, {9, 0, 0});
+    Find<QAction>(Main(), "mnuViewOverview").trigger();
+    EXPECT_FALSE(IsReading()) << "nothing was changed";
+    Elsewhere("DELETE FROM TimeRecord WHERE EmployeeID = 42");
+    Activate();
+    EXPECT_EQ(Label("lblNotice"), "Changed since it was read") << "by somebody else";
+    EXPECT_EQ(Label("lblOverview"), before);
+    Click(Window(), "cmdNotice");
+    WaitUntilRead();
+    EXPECT_EQ(Label("lblOverview"), "Read 03/05/2003 09:00 AM: 0 of 3 employees have problems.");
+}
+
+TEST_F(OverviewWindowTest, WalksThroughThoseWithProblemsFromTheMainWindow)
+{
+    WaitUntilRead();
+    const auto walk = [&](Qt::KeyboardModifiers modifiers) {
+        QApplication::setActiveWindow(&Main());
+        QTest::keyClick(&Main(), Qt::Key_F3, modifiers);
+        return The<QComboBox>("cboTCEmployeeName").currentText() + ' ' + Text("txtTCPeriodPay");
+    };
+    Window().close();
+    EXPECT_EQ(walk({}), "Bo Kim 0.00");
+    EXPECT_EQ(walk({}), "Ann Lee 10.00") << "the second of that name";
+    EXPECT_EQ(walk({}), "Ann Lee 10.00");
+    EXPECT_EQ(Find<QLabel>(Find(Main(), "FrameArray(1)"), "lblNotice").text(), "Nobody behind has problems in the payday overview");
+    EXPECT_EQ(walk(Qt::ShiftModifier), "Bo Kim 0.00");
+    EXPECT_EQ(The<DateCombo>("dttbTCFrom").Text(), "03/01/2003");
+    EXPECT_EQ(Told(), Boxes());
+}
+
+TEST_F(OverviewWindowTest, OpensTheHistoryOfTheChosenOne)
+{
+    WaitUntilRead();
+    Elsewhere("UPDATE Employee SET Phone = '1' WHERE EmployeeID IN (40, 41)");
+    Table().selectRow(1);
+    QApplication::setActiveWindow(&Window());
+    Find<QAction>(Main(), "mnuViewHistory").trigger();
+    const auto windows = QApplication::topLevelWidgets();
+    const auto named = std::find_if(windows.begin(), windows.end(), [](const QWidget* w) { return w->objectName() == "HistoryWindow"; });
+    ASSERT_NE(named, windows.end());
+    const QWidget& history = **named;
+    EXPECT_EQ(Find<QComboBox>(history, "cboHistoryEmployee").currentData().toInt(), 41);
+    EXPECT_EQ(Find<QTableView>(history, "grdHistory").model()->rowCount(), 1);
+    EXPECT_FALSE(Find<QCheckBox>(history, "chkHistoryScope").isChecked()) << "her whole history";
 }
 
 constexpr int kMany = 12000;

@@ -16,6 +16,8 @@ void AddReportsPageStaff(BulkWriter& writer)
         row.LastName = lastName;
         row.EmployeeNumber = number;
         row.EmployeeActive = true;
+        row.PayRate = 10;
+        row.OvertimePayRate = 15;
         return writer.AddEmployee(row);
     };
     const std::int32_t ann = add("Ann", "Lee", 5);
@@ -101,6 +103,50 @@ TEST_F(ReportsPageTest, TheDatesFollowTyping)
     TypeInto(The<DateCombo>("cboToDate"), "02/28/2003");
     EXPECT_EQ(Dates(), "02/20/2003 - 02/28/2003");
     EXPECT_EQ(StatusText(Main()), "Reports : Timecard : 02/20/2003 - 02/28/2003");
+}
+
+TEST_F(ReportsPageTest, SaysWhenAnOfferedDayIsInTwoPeriods)
+{
+    const auto said = [this] { return The<QLabel>("lblOffered").text().toStdString(); };
+    EXPECT_EQ(said(), "03/01/2003 is in the period before, too: 02/15/2003 - 03/01/2003.");
+    Press("cmdReportPeriodNext");
+    EXPECT_EQ(said(), "");
+    Choose("Phone Book");
+    Choose("Timecard");
+    EXPECT_NE(said(), "");
+    TypeInto(The<DateCombo>("cboToDate"), "03/14/2003");
+    EXPECT_EQ(said(), "") << "days of one's own";
+}
+
+TEST_F(ReportsPageTest, MarksThoseWhoseCardsHaveProblems)
+{
+    auto& list = The<QListView>("lstEmployees");
+    const auto marks = [&] {
+        QString marked;
+        for (int row = 0; row < 3; ++row) {
+            const QModelIndex index = list.model()->index(row, 0);
+            marked += index.data(Qt::ToolTipRole).isNull() ? '-' : '!';
+        }
+        return marked;
+    };
+    QTest::qWait(600);
+    EXPECT_EQ(marks(), "---");
+    CJetDB database(program.folder.Path());
+    database.DatabaseName(NativePath(program.databasePath).string());
+    ASSERT_TRUE(database.ExecuteAction(
+        "INSERT INTO TimeRecord (EmployeeID, StartTime, EndTime) SELECT 42, #3/4/2003 9:00 AM#, #3/4/2003 8:00 AM#"));
+    ClickTab(Main(), 1);
+    QEvent activated(QEvent::WindowActivate);
+    QCoreApplication::sendEvent(&Main(), &activated);
+    ClickTab(Main(), 2);
+    QTRY_COMPARE(marks(), "--!");
+    EXPECT_TRUE(list.model()->index(2, 0).data(Qt::ToolTipRole).toString().startsWith("1 problem\nProblem: The shift that began on"));
+    EXPECT_TRUE(list.model()->index(2, 0).data(Qt::AccessibleDescriptionRole).toString().startsWith("1 problem"));
+    Select({1, 2});
+    Press("cmdGenerate");
+    EXPECT_EQ(Line(), "2 reports written. 1 of 2 has problems: F9");
+    Press("cmdReportPeriodNext");
+    EXPECT_EQ(marks(), "---");
 }
 
 TEST_F(ReportsPageTest, StepsByWholePeriodsAndTakesTheTimecardsDates)

@@ -83,6 +83,7 @@ TEST_F(ReportViewersTest, ShowsTheReportFromItsTop)
     EXPECT_EQ(text.verticalScrollBar()->value(), 0);
     EXPECT_EQ(text.textCursor().position(), 0);
     EXPECT_EQ(viewer.findChild<QLabel*>("lblNotice")->text(), "");
+    EXPECT_TRUE(viewer.findChild<QPushButton*>("cmdPrint")->isVisibleTo(viewer.findChild<QWidget*>("pnlButtons")));
     QTest::keyClicks(&text, "x");
     text.selectAll();
     QTest::keyClick(&text, Qt::Key_C, Qt::ControlModifier);

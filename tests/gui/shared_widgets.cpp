@@ -3,8 +3,11 @@
 #include "model/CEmployee.h"
 #include "model/CEmployeeList.h"
 #include "ui/frame/QtDesktop.h"
+#include "ui/frame/SecondStart.h"
+#include "ui/widgets/AiryStyle.h"
 #include "ui/widgets/ChosenOnly.h"
 #include "ui/widgets/EmployeeModels.h"
+#include "ui/widgets/NoticeLine.h"
 #include "ui/widgets/ThemeIcon.h"
 
 namespace ptk {
@@ -41,6 +44,59 @@ TEST(QtDesktopTest, ShowsPlainBoxesAndAnswersWithTheButtonPressed)
         });
         EXPECT_EQ(QtDesktop().MessageBox(text, "Title", c.icon, c.buttons), c.answer);
     }
+}
+
+TEST(QtDesktopTest, ABoxIsAsWideAsItsTitle)
+{
+    const ExpectedModal user([&](QDialog& box) {
+        EXPECT_GT(box.width(), QFontMetrics(box.font()).horizontalAdvance(box.windowTitle()) + 100);
+        box.close();
+    });
+    static_cast<void>(QtDesktop().MessageBox("No.", "A Title That Is Much Longer Than What the Box Has to Say", Icon::None, Buttons::Ok));
+}
+
+// As the eye takes brightness, 0 to 1.
+double Luminance(const QColor& color)
+{
+    const auto linear = [](double part) { return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4); };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+TEST(AiryStyleTest, HintsCanBeReadLightAndDark)
+{
+    AiryStyle style;
+    for (const QColor& window : {QColor(0xef, 0xef, 0xef), QColor(0x2b, 0x2d, 0x30)}) {
+        QPalette palette(window);
+        style.polish(palette);
+        for (const auto behind : {QPalette::Base, QPalette::Window}) {
+            const double one = Luminance(palette.color(QPalette::PlaceholderText));
+            const double other = Luminance(palette.color(behind));
+            EXPECT_GE((std::max(one, other) + 0.05) / (std::min(one, other) + 0.05), 4.5) << window.name().toStdString();
+        }
+    }
+}
+
+TEST(NoticeLineTest, KeepsTheEndOfAFileNameAndGivesWayWhereItMerelySuggests)
+{
+    NoticeLine line;
+    line.SayFile("Saved as /a/very/long/path/overview.pdf.");
+    line.Suggest("Saved", "Show Again", [] {});
+    EXPECT_FALSE(line.IsOffering());
+    line.Remark("Something else");
+    EXPECT_EQ(line.Text(), "Something else");
+    EXPECT_TRUE(Find<QToolButton>(line, "cmdNotice").isHidden());
+}
+
+TEST(SecondStartTest, TellsTheFirstOfTheSameFolderAlone)
+{
+    const TemporaryFolder folder;
+    const SecondStart first(folder.Path());
+    EXPECT_FALSE(first.IsSecond());
+    QMainWindow window;
+    window.showMinimized();
+    EXPECT_FALSE(SecondStart(folder.Path() + "/..").IsSecond());
+    EXPECT_TRUE(SecondStart(folder.Path() + "/.").IsSecond()) << "by another name";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !window.isMinimized(); }));
 }
 
 TEST(QtDesktopTest, TurnsThePointerBusyOnceAndBack)

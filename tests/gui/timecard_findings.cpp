@@ -48,6 +48,17 @@ protected:
         QTest::mouseClick(List().viewport(), Qt::LeftButton, {}, List().visualRect(List().model()->index(row, 0)).center());
     }
     int ChosenRow() { return Grid().selectionModel()->hasSelection() ? Grid().currentIndex().row() : -1; }
+    // The rows that are tinted for one sentence.
+    std::vector<int> Marked()
+    {
+        std::vector<int> rows;
+        for (int row = 0; row < Grid().model()->rowCount(); ++row) {
+            if (Grid().model()->index(row, 0).data(Qt::BackgroundRole).isValid()) {
+                rows.push_back(row);
+            }
+        }
+        return rows;
+    }
     static void End(QDialog& editor, const char* date, const char* time)
     {
         Type(Find<DateTimeBox>(editor, "dttbEndDate"), date);
@@ -86,13 +97,47 @@ TEST_F(FindingsTest, AreCountedListedAndFoundInTheGridOrElsewhere)
     }
     EXPECT_EQ(Line().text(), "2 problems, 1 notice") << "it is on the card by now, and still overlaps";
     EXPECT_EQ(Grid().model()->rowCount(), 4);
-    program.desktop.answers = {Answer::Yes};
     Choose(2);
-    Press("cmdTCDelete");
+    EXPECT_EQ(ChosenRow(), 2);
+    EXPECT_EQ(Marked(), (std::vector<int>{2, 3})) << "both of the overlap";
+    QTest::keyClick(&Grid(), Qt::Key_Down);
+    EXPECT_EQ(Marked(), (std::vector<int>{2, 3}));
+    QTest::keyClick(&Grid(), Qt::Key_Home, Qt::ControlModifier);
+    EXPECT_EQ(Marked(), std::vector<int>()) << "another row was chosen";
+    Choose(2);
+    program.desktop.answers = {Answer::Yes};
+    QTest::keyClick(&List(), Qt::Key_Delete);
+    EXPECT_EQ(Told().at(0).title, "Delete Time Record?");
     EXPECT_EQ(Line().text(), "1 problem, 1 notice");
     EXPECT_TRUE(List().isVisible());
     Press("cmdPeriodBack");
     EXPECT_FALSE(Line().isVisible() || List().isVisible());
+}
+
+TEST_F(FindingsTest, EnterOnASentenceEditsAndOneWithoutRecordsLeavesNothingChosen)
+{
+    CJetDB database(program.folder.Path());
+    database.DatabaseName(NativePath(program.databasePath).string());
+    ASSERT_TRUE(database.ExecuteAction("UPDATE Employee SET PayRate = 0 WHERE EmployeeID = 40"));
+    emit Main().SharedRecords().ReadAgainWanted();
+    GenerateFor("Ann Lee");
+    Line().click();
+    {
+        const ExpectedModal editor([](QDialog& window) {
+            EXPECT_EQ(Find<DateTimeBox>(window, "dttbStartTime").text(), "05:00:00 PM");
+            Click(window, "cmdCancel");
+        });
+        Choose(0);
+        QTest::keyClick(&List(), Qt::Key_Return);
+    }
+    EXPECT_EQ(ChosenRow(), 0);
+    const auto sentences = List().model()->match(List().model()->index(0, 0), Qt::DisplayRole, "have no pay rate", 1, Qt::MatchContains);
+    ASSERT_EQ(sentences.size(), 1);
+    Choose(sentences.front().row());
+    EXPECT_EQ(ChosenRow(), -1) << "it names no record that could be deleted";
+    QTest::keyClick(&List(), Qt::Key_Delete);
+    QTest::keyClick(&List(), Qt::Key_Return);
+    EXPECT_EQ(Told(), Boxes());
 }
 
 TEST_F(FindingsTest, HoursAreToldInWordsAndTheirPictureIsRemembered)
@@ -142,10 +187,13 @@ TEST_F(FindingsTest, TheLimitsAreAppliedCancelledAndFollowedAtOnce)
     Press("cmdCancelOptions");
     EXPECT_EQ(hours.text(), "16");
     Type(hours, "many");
+    Type(The<QLineEdit>("txtPeriodLength"), "3");
     Press("cmdApplyOptions");
     EXPECT_EQ(Told().size(), 1U);
+    EXPECT_EQ(Stored("SELECT period_length AS x FROM _System"), std::vector<std::string>{"14"}) << "nothing else is stored either";
     EXPECT_EQ(Notice(5), "The longest usual shift is a whole number of hours from 1 to 999");
     Type(hours, "3");
+    Type(The<QLineEdit>("txtPeriodLength"), "14");
     The<QCheckBox>("chkShowNotices").click();
     Press("cmdApplyOptions");
     EXPECT_EQ(Told(), Boxes());

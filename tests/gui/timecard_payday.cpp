@@ -156,6 +156,27 @@ TEST_F(TimeCardTest, StepsToAPeriodAndShowsItsCard)
     EXPECT_EQ(Totals(), "    ");
 }
 
+TEST_F(TimeCardTest, ThePeriodIsSteppedByKeysAndOfferedAgain)
+{
+    GenerateFor("Ann Lee");
+    EXPECT_FALSE(Find(Main(), "cmdLastPeriod").toolTip().startsWith("03/05/2003")) << "nobody chose the one that begins today";
+    QTest::keyClick(&Employee(), Qt::Key_Left, Qt::AltModifier);
+    QTRY_COMPARE(Period(), "02/18/2003 - 03/04/2003");
+    QTest::keyClick(&Employee(), Qt::Key_Right, Qt::AltModifier);
+    QTRY_COMPARE(Period(), "03/05/2003 - 03/19/2003");
+    TypeInto(The<DateCombo>("dttbTCFrom"), "03/03/2003");
+    TypeInto(The<DateCombo>("dttbTCTo"), "03/07/2003");
+    GenerateFor("Ann Lee");
+    Press("cmdPeriodNext");
+    program.Controller()->UnloadControllerWindow();
+    GuiProgram next(AddTimecardPaydayStaff);
+    next.LogIn();
+    EXPECT_EQ(Find<DateCombo>(next.Main(), "dttbTCFrom").Text(), "03/05/2003") << "as it always begins";
+    Click(next.Main(), "cmdLastPeriod");
+    EXPECT_EQ(Find<DateCombo>(next.Main(), "dttbTCFrom").Text(), "03/03/2003");
+    EXPECT_EQ(Find<DateCombo>(next.Main(), "dttbTCTo").Text(), "03/07/2003");
+}
+
 TEST_F(TimeCardTest, ACardThatIsNotTheChosenOneSaysSo)
 {
     EXPECT_TRUE(Employee().lineEdit()->hasFocus()) << "the work begins here";
@@ -266,8 +287,20 @@ TEST_F(TimeCardTest, ANewAndAnEditedRecordAreStoredAtOnce)
     EXPECT_EQ(Stored(kPaydayRecords), (std::vector<std::string>{kAtFirst[0], "40 2003-03-05 18:00:00 2003-03-05 19:30:00",
                                                                 "40 2003-03-06 08:00:00 2003-03-06 12:00:00", kAtFirst[2]}));
     EXPECT_EQ(Totals(), "12.00 10.00 2.50 15.00 157.50");
+    EXPECT_TRUE(Grid().hasFocus());
+    EXPECT_EQ(Grid().currentIndex().row(), 2) << "on the record that was saved";
     Press("cmdTCEdit");
     EXPECT_EQ(Told(), Boxes{kNoneToEdit}) << "the grid was rebuilt";
+}
+
+TEST_F(TimeCardTest, WhatCouldNotBeReadIsNotSaidToBeSaved)
+{
+    GenerateFor("Ann Lee");
+    ClickRow(0);
+    const ExpectedModal editor([](QDialog& window) { Enter(window, "9", "late"); });
+    Press("cmdTCEdit");
+    EXPECT_EQ(Line(), "Record saved for Ann Lee as 03/05/2003 09:00 AM - 03/05/2003 05:00 PM: the end could not be read");
+    EXPECT_EQ(Rows().front(), "03/05/2003 09:00 AM|03/05/2003 05:00 PM|8.00");
 }
 
 TEST_F(TimeCardTest, DeletesByKeyAfterAsking)
@@ -286,7 +319,8 @@ TEST_F(TimeCardTest, DeletesByKeyAfterAsking)
     EXPECT_EQ(Totals(), "8.00 10.00 1.00 15.00 95.00");
     QTest::keyClick(&Grid(), Qt::Key_Delete);
     EXPECT_EQ(Told(), Boxes{kNoneToDelete}) << "the grid was rebuilt";
-    ClickRow(0);
+    EXPECT_TRUE(Grid().hasFocus());
+    QTest::keyClick(&Grid(), Qt::Key_Space);
     Press("cmdTCDelete");
     EXPECT_EQ(Told(), (Boxes{kDelete, kNoRecords}));
     EXPECT_EQ(Totals(), "    ");
@@ -326,6 +360,7 @@ TEST_F(TimeCardTest, FillsAPeriodAlsoOfACardWithoutRecords)
     EXPECT_EQ(Rows(), (QStringList{"03/10/2003 08:00 AM|03/10/2003 05:00 PM|9.00", "03/11/2003 08:00 AM|03/11/2003 05:00 PM|9.00"}));
     EXPECT_EQ(Stored(kPaydayRecords).size(), 5U);
     EXPECT_EQ(Line(), "2 records filled in for Bo Kim");
+    EXPECT_TRUE(Grid().hasFocus());
     EXPECT_EQ(Told(), Boxes());
 }
 

@@ -10,6 +10,7 @@
 #include "store/whole/DatabaseCreator.h"
 #include "support/TemporaryFolder.h"
 
+#include <fmt/format.h>
 #include <gtest/gtest.h>
 #include <limits>
 #include <vector>
@@ -261,6 +262,7 @@ TEST_F(TimeCardTest, MoreRecordsThanItsNumbersHoldPayNothing)
                                         "WHERE i < 32767) SELECT i FROM n)"));
     EXPECT_FALSE(card.GenerateTimecard(employee, At(3, 0), At(4, 0)));
     EXPECT_EQ(card.TimeRecordList()->Count(), 32768);
+    EXPECT_EQ(card.LastFailure().Description(), "the period has 32768 time records, more than the 32767 that a time card can take");
     EXPECT_EQ(card.RegularHoursWorked(), 0);
     ASSERT_TRUE(database->ExecuteAction("DELETE FROM TimeRecord WHERE TimeRecordID = 2"));
     EXPECT_TRUE(card.GenerateTimecard(employee, At(3, 0), At(4, 0)));
@@ -412,6 +414,13 @@ TEST_F(TimeCardTest, TellsWhyThereIsNoneFromAnEmptyPeriod)
     EXPECT_FALSE(card.GenerateTimecard(employee, At(3, 0), At(4, 0)));
     EXPECT_EQ(card.ErrorNumber(), 605);
     EXPECT_EQ(card.LastFailure().Description(), "TimeRecord 1: StartTime is \"2003-03-03 8 am\" (Type mismatch)");
+    for (const char* moment : {"2003-3-3 08:00:00", "2003-03-03 08:00"}) { // dates of another tool, which would be sorted as texts
+        ASSERT_TRUE(database->ExecuteAction(fmt::format("UPDATE TimeRecord SET StartTime = '{}' WHERE TimeRecordID = 1", moment)));
+        EXPECT_FALSE(card.GenerateTimecard(employee, At(3, 0), At(4, 0)));
+        EXPECT_EQ(card.ErrorNumber(), 605);
+        EXPECT_EQ(card.LastFailure().Description(),
+                  fmt::format("TimeRecord 1: StartTime is \"{}\" (not stored as YYYY-MM-DD HH:MM:SS)", moment));
+    }
     ASSERT_TRUE(database->ExecuteAction("DROP TABLE TimeRecord"));
     EXPECT_FALSE(card.GenerateTimecard(employee, At(3, 0), At(4, 0)));
     EXPECT_EQ(card.LastFailure().Description(), "no such table: TimeRecord");

@@ -15,7 +15,7 @@ const std::string kRule = std::string(72, '-') + "\r\n";
 // By the order of CellType.
 bool IsOf(CellType type, const Value& cell)
 {
-    constexpr std::array kAlternatives{7, 3, 4, 4, 6, 6, 1};
+    constexpr std::array kAlternatives{7, 3, 4, 4, 4, 6, 6, 1};
     return cell.IsNull() || static_cast<int>(cell.Get().index()) == kAlternatives.at(static_cast<std::size_t>(type));
 }
 

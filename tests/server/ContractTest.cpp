@@ -1,4 +1,7 @@
 // What a caller of the database sees, the same whether a file or a server keeps it.
+#include "model/CTimeRecord.h"
+#include "model/CTimeRecordFactory.h"
+#include "model/CTimeRecordList.h"
 #include "office/records/UndoStack.h"
 #include "platform/text/Text.h"
 #include "store/CheckLimits.h"
@@ -177,7 +180,12 @@ TEST_P(ContractTest, OfEqualRecordsTheFirstComesFirst)
         AddRecord("3/5/2003 8:00 AM", "3/5/2003 5:00 PM");
     }
     ASSERT_TRUE(Do("UPDATE TimeRecord SET EmployeeID = 41 WHERE TimeRecordID < 3") && Do("UPDATE TimeRecord SET EmployeeID = 40"));
-    EXPECT_EQ(Rows(1, CTimeRecSQLConverter().BuildFetchSQL(40, DateTime({2003, 3, 1}, {}), DateTime({2003, 3, 6}, {}))), "1|2|3|");
+    CTimeRecordFactory factory;
+    factory.PTKDatabase(database);
+    ASSERT_TRUE(factory.BuildList(40, DateTime({2003, 3, 1}, {}), DateTime({2003, 3, 6}, {})));
+    for (std::int32_t i = 1; i <= 3; ++i) {
+        EXPECT_EQ(factory.TimeRecordList()->RecordAt(i).TimeRecordID(), i);
+    }
 }
 
 TEST_P(ContractTest, FailuresHaveTheSameNumbers)
@@ -190,6 +198,7 @@ TEST_P(ContractTest, FailuresHaveTheSameNumbers)
     };
     for (const Case& c : {
              Case{"", jetdb::NoSql, jetdb::NoSql},
+             Case{" ; -- nothing\n", jetdb::StatementFailed, 1},
              Case{"DELETE FROM Nowhere", jetdb::StatementFailed, 1},
              Case{"INSERT INTO Company (CompanyID, Name) VALUES (7, 'a'), (7, 'b')", jetdb::StatementFailed, 19},
              Case{"SELECT 1", jetdb::StatementFailed, 1},
@@ -203,6 +212,7 @@ TEST_P(ContractTest, FailuresHaveTheSameNumbers)
     }
     EXPECT_EQ(Rows(1, "SELECT COUNT(*) FROM Company"), "0|") << "nothing of a failed statement is left";
     EXPECT_EQ(Rows(1, "DELETE FROM Employee"), "failed 1");
+    EXPECT_EQ(Rows(1, "/* nothing */"), "failed 1");
     EXPECT_EQ(Rows(1, "SELECT Nothing FROM Employee"), "failed 1");
     EXPECT_EQ(Rows(1, "SELECT COUNT(*) FROM Employee"), "1|") << "the database goes on";
     EXPECT_EQ(Another()->ExecuteSelect("SELECT 1"), nullptr) << "closed";

@@ -145,6 +145,7 @@ TEST_F(CopyTest, AValueThatAServerCannotHoldEndsIt)
     };
     for (const Case& c : {
              Case{"UPDATE Employee SET PayRate = x'0102'", "Employee 39: PayRate is bytes (no number)"},
+             Case{"UPDATE Employee SET PayRate = 9e999", "Employee 39: PayRate is Inf (no finite number)"},
              Case{"UPDATE Employee SET PayRate = 1e39", "Employee 39: PayRate is 1.0e+39 (out of range)"},
              Case{"UPDATE Employee SET EmployeeNumber = 2147483648", "Employee 39: EmployeeNumber is 2147483648 (out of range)"},
              Case{"UPDATE Employee SET CompanyID = 1.5", "Employee 39: CompanyID is 1.5 (no whole number)"},
@@ -269,6 +270,7 @@ TEST_F(CopyTest, TheCheckNamesWhatIsWrongWithAServersDatabase)
                   "The stored query GetAllEmployees cannot be used: "},
              Case{"INSERT INTO TimeRecord VALUES (5, 39, NULL, 'infinity', '2003-03-05 08:00:00')",
                   "TimeRecord 5: StartTime is \"infinity\" ("},
+             Case{"UPDATE Employee SET PayRate = 'NaN'", "Employee 39: PayRate is NaN (no finite number)."},
              Case{"UPDATE Employee SET HireDate = '12003-03-05'", "Employee 39: HireDate is \"12003-03-05 00:00:00\" ("},
          }) {
         SCOPED_TRACE(c.change);

@@ -5,10 +5,14 @@
 #include "model/CTimeRecord.h"
 #include "model/CTimeRecordFactory.h"
 #include "model/CTimeRecordList.h"
+#include "office/history/EmployeeNames.h"
+#include "office/history/HistoryReading.h"
+#include "office/overview/OverviewReading.h"
 #include "office/records/UndoStack.h"
 #include "platform/text/Text.h"
 #include "store/CJetDB.h"
 #include "store/postgres/PostgresEngine.h"
+#include "store/trail/TrailReader.h"
 #include "support/NewServerDatabase.h"
 
 #include <gtest/gtest.h>
@@ -81,9 +85,26 @@ TEST_F(RoundTripsTest, PeopleAndUndo)
     ASSERT_TRUE(load() && save() && undo.Remember()); // which asks for the texts of the stored queries
     EXPECT_EQ(Of(load), 1);
     EXPECT_EQ(Of(save), 3) << "the row is locked and compared, changed, committed";
-    EXPECT_EQ(Of([&] { return save() && undo.Remember(); }), 3 + 4) << "the entry, its two sides, whose row it is";
+    EXPECT_EQ(Of([&] { return save() && undo.Remember(); }), 3 + 2) << "the entry, whose row it is";
     EXPECT_EQ(Of([&] { return undo.Undo(); }), 5)
         << "the trail and the row are looked at, the row changed, its entry asked for, all committed";
+}
+
+TEST_F(RoundTripsTest, History)
+{
+    server.Run("INSERT INTO TimeRecord (EmployeeID, StartTime, EndTime) SELECT 40, '2003-03-06 08:00:00', '2003-03-06 17:00:00' "
+               "FROM generate_series(1, 300)");
+    UndoStack undo(database);
+    std::vector<std::string> fill(14, "INSERT INTO TimeRecord (EmployeeID, StartTime, EndTime) SELECT 41, #3/6/2003#, #3/6/2003#");
+    EXPECT_EQ(Of([&] { return database->ExecuteActions(fill) && undo.Remember(); }), 14 + 1 + 1) << "each, the commit, all their entries";
+    EXPECT_EQ(undo.UndoText(), "Undo Auto Fill of 14 records");
+    HistoryReading history(database, {}, std::make_shared<EmployeeNames>(database));
+    const auto page = [&] {
+        history.ReadOn();
+        return history.Rows().size() == 250;
+    };
+    EXPECT_EQ(Of(page), 1);
+    EXPECT_EQ(Of([&] { return ReadTrailNotes(database, 0, 100).size() == 100; }), 1) << "what a watch asks";
 }
 
 TEST_F(RoundTripsTest, Overview)
@@ -94,7 +115,15 @@ TEST_F(RoundTripsTest, Overview)
         return reader.Read(40).size() == 9 && reader.Read(41).empty() && reader.Read(42).empty();
     };
     ASSERT_TRUE(read());
-    EXPECT_EQ(Of(read), 6) << "each employee's usual and unusual records";
+    EXPECT_EQ(Of(read), 3) << "each employee's usual and unusual records together";
+    ASSERT_TRUE(people.Create() && people.LoadList(database));
+    OverviewReading overview(database, OfferedEmployees(people), {ToDateTime("3/3/2003"), ToDateTime("3/16/2003")},
+                             ToDateTime("3/17/2003"));
+    const auto all = [&] {
+        overview.ReadOn([] { return false; });
+        return overview.IsDone() && overview.Result().rows.size() == 3;
+    };
+    EXPECT_EQ(Of(all), 4) << "the limits, what was closed, everybody's records, and who worked before";
 }
 
 } // namespace

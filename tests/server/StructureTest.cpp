@@ -1,6 +1,8 @@
 // What a server's database holds by itself, whichever tool writes there: the trail to the letter, its rates, and who may do what.
 #include "platform/Failure.h"
 #include "store/postgres/PostgresEngine.h"
+#include "store/postgres/ServerCreator.h"
+#include "store/whole/DatabaseChecker.h"
 #include "support/NewServerDatabase.h"
 
 #include <gmock/gmock.h>
@@ -83,6 +85,9 @@ TEST_F(StructureTest, TellsEveryChangeOfAnotherToolAsTheFileDoes)
                   R"({"period_length":7,"auto_shift_end_time":"1899-12-30 16:30:00"}|NULL|NULL|)"},
              Case{"DELETE FROM _CheckLimits",
                   R"(_CheckLimits|1|delete|{"long_shift_hours":16,"first_weekday":0,"show_notices":1}|NULL|NULL|NULL|)"},
+             Case{"INSERT INTO _Payday (EmployeeID, FromDay) VALUES (40, '2003-03-05')",
+                  R"(_Payday|1|insert|NULL|{"PaydayID":1,"EmployeeID":40,"FromDay":"2003-03-05 00:00:00","ToDay":null,"PaidAt":null,)"
+                  R"("PaidBy":null,"Regular":null,"Overtime":null,"Gross":null,"Entry":null}|NULL|40|)"},
              Case{"ALTER TABLE Company ADD COLUMN Logo bytea, DROP COLUMN Address2; UPDATE Company SET Logo = '\\x00'", ""},
              Case{"SET ptk.step = 'x'; SET ptk.next = '99999999999999999999'; UPDATE Company SET Fax = '5'",
                   R"(Company|1|update|{"Fax":null}|{"Fax":"5"}|NULL|NULL|)"},
@@ -118,6 +123,8 @@ TEST_F(StructureTest, KeepsAStepTogether)
 constexpr const char* kBackToTwo = R"(
     DROP FUNCTION ptk_next, ptk_said;
     DROP INDEX TimeRecordUnusual;
+    DROP TABLE _Payday;
+    ALTER TABLE _Change DROP COLUMN Reason;
     GRANT CREATE ON SCHEMA public TO PUBLIC;
     UPDATE _Structure SET version = 2)";
 
@@ -128,8 +135,8 @@ constexpr const char* kDescription = R"(
         SELECT pg_get_indexdef(indexrelid) FROM pg_index JOIN pg_class ON oid = indexrelid WHERE relnamespace = 'public'::regnamespace UNION ALL
         SELECT conrelid::regclass || conname || pg_get_constraintdef(oid) FROM pg_constraint UNION ALL
         SELECT pg_get_triggerdef(oid) FROM pg_trigger UNION ALL
-        SELECT attrelid::regclass || ' ' || attname || format_type(atttypid, atttypmod) || attnum FROM pg_attribute JOIN pg_class ON pg_class.oid =
-            attrelid WHERE relnamespace = 'public'::regnamespace UNION ALL
+        SELECT attrelid::regclass || ' ' || attname || format_type(atttypid, atttypmod) || rank() OVER (PARTITION BY attrelid ORDER BY attnum)
+            FROM pg_attribute JOIN pg_class ON pg_class.oid = attrelid WHERE NOT attisdropped AND relnamespace = 'public'::regnamespace UNION ALL
         SELECT relname || array_to_string(relacl, ' ') FROM pg_class WHERE relnamespace = 'public'::regnamespace UNION ALL
         SELECT array_to_string(nspacl, ' ') FROM pg_namespace WHERE nspname = 'public' UNION ALL
         SELECT 'structure ' || version FROM _Structure) AS lines (line))";
@@ -144,7 +151,7 @@ TEST_F(StructureTest, AnOlderOneBecomesWhatANewOneIs)
     const PostgresEngine owner(m_database.Address());
     EXPECT_EQ(Rows(kDescription), made);
     EXPECT_EQ(Rows("SELECT PayRate, HireDate FROM Employee"), "NaN|infinity|") << "which stays until somebody corrects it";
-    EXPECT_THAT(Refusal(m_line, "UPDATE Employee SET City = 'x'"), HasSubstr("is a finite number"));
+    EXPECT_THAT(Refusal(m_line, "UPDATE Employee SET City = 'x'"), HasSubstr("violates check constraint"));
     m_line.RunScript("UPDATE Employee SET PayRate = 1, HireDate = NULL");
 }
 
@@ -198,14 +205,72 @@ TEST_F(StructureTest, LetsTheRolesDoTheirsAndNoMore)
     }
 }
 
-// A login may always make tables of its own that last as long as its line, under whatever names.
-TEST_F(StructureTest, EntriesGoToTheTrailAndNoOtherTableOfThatName)
+// The ways in for a stranger who may make objects beside the tables, and for a login of the office, which may always make temporary ones.
+TEST_F(StructureTest, NothingOfAStrangersIsRunWithTheOwnersRight)
 {
-    m_line.RunScript("CREATE TEMP TABLE _Change (LIKE public._Change); CREATE SCHEMA postgres; CREATE TABLE postgres._Change (LIKE "
-                     "public._Change); UPDATE Employee SET City = 'x'");
-    EXPECT_EQ(Rows("SELECT (SELECT COUNT(*) FROM pg_temp._Change), (SELECT COUNT(*) FROM postgres._Change), (SELECT COUNT(*) FROM "
-                   "public._Change)"),
-              "0|0|1|");
+    m_line.RunScript("DO $$ BEGIN CREATE ROLE ptk_ann LOGIN IN ROLE ptk_office; EXCEPTION WHEN duplicate_object THEN NULL; END $$;"
+                     "DO $$ BEGIN CREATE ROLE ptk_eve LOGIN; EXCEPTION WHEN duplicate_object THEN NULL; END $$;"
+                     "GRANT CREATE, USAGE ON SCHEMA public TO PUBLIC; CREATE TABLE Caught (who text); GRANT ALL ON Caught TO PUBLIC");
+    ServerLine eve(m_database.Address("ptk_eve"), std::nullopt);
+    for (const char* way : {"FUNCTION concat_ws(text, text, text) RETURNS text", "FUNCTION json_build_object(text, text) RETURNS json",
+                            "FUNCTION set_config(text, text, text) RETURNS text", "FUNCTION nextval(text) RETURNS bigint",
+                            "FUNCTION ptk_add(text, text, integer, text, json, integer, integer) RETURNS void",
+                            "FUNCTION trap(text, text) RETURNS text", "FUNCTION trap(json, text) RETURNS text"}) {
+        const auto trap =
+            fmt::format("CREATE {} LANGUAGE plpgsql AS $$ BEGIN INSERT INTO public.Caught VALUES (current_user); RETURN NULL; END $$", way);
+        eve.RunScript(std::string(way).ends_with("void") ? std::string(trap).replace(trap.find("RETURN NULL"), 11, "RETURN").c_str()
+                                                         : trap.c_str());
+    }
+    eve.RunScript(
+        "CREATE OPERATOR || (LEFTARG = text, RIGHTARG = text, FUNCTION = trap); CREATE OPERATOR ->> (LEFTARG = json, RIGHTARG = text, "
+        "FUNCTION = trap); CREATE DOMAIN jsonb AS text; CREATE TABLE pg_class (oid oid)");
+    ServerLine ann(m_database.Address("ptk_ann"), std::nullopt);
+    ann.RunScript(
+        "CREATE TEMP TABLE _Change (LIKE public._Change); CREATE TEMP SEQUENCE _change_changeid_seq; CREATE DOMAIN pg_temp.json AS text; "
+        "CREATE FUNCTION pg_temp.ptk_number(text) RETURNS bigint LANGUAGE sql AS 'SELECT 4711::bigint'; SET search_path = pg_temp, public");
+    ann.RunScript("UPDATE Employee SET City = 'x'; INSERT INTO Company (Name) VALUES ('a'); SELECT public.ptk_add_entry('import', 'f')");
+    EXPECT_EQ(Rows(ann, "SELECT COUNT(*) FROM Caught"), "0|");
+    EXPECT_EQ(Rows(ann, "SELECT COUNT(*) FROM pg_temp._Change"), "0|");
+    EXPECT_EQ(Rows("SELECT string_agg(ChangeID || Action, ' ' ORDER BY ChangeID) FROM _Change"), "1update 2insert 3import|");
+    const DatabaseCheck check = CheckDatabase(m_database.Address());
+    EXPECT_EQ(Rows("SELECT COUNT(*) FROM Caught"), "0|") << "nor by the check";
+    EXPECT_THAT(check.problems,
+                testing::IsSupersetOf(
+                    {"The function concat_ws(text, text, text) beside the tables is not the program's, and may be taken for one of the "
+                     "server's own.",
+                     "The operator ||(text, text) beside the tables is not the program's, and may be taken for one of the server's own.",
+                     "PUBLIC may make objects beside the tables, which only their owner should."}));
+    EXPECT_THAT(check.problems, testing::SizeIs(7 + 2 + 1));
+}
+
+TEST_F(StructureTest, TablesAreNotMadeBesideThingsOfStrangers)
+{
+    m_line.RunScript(
+        "DROP SCHEMA public CASCADE; CREATE SCHEMA public; CREATE FUNCTION ptk_tell(integer) RETURNS integer LANGUAGE sql AS 'SELECT 1'");
+    const auto refusal = [&] {
+        try {
+            CreateServerDatabase(m_database.Address(), [&](PostgresEngine&) { CreateDatabase(m_database.Address()); });
+        } catch (const Failure& failure) {
+            return failure.Description();
+        }
+        return std::string();
+    };
+    EXPECT_THAT(refusal(), HasSubstr("ptk_tell(integer)"));
+    m_line.RunScript("DROP FUNCTION ptk_tell");
+    EXPECT_THAT(refusal(), HasSubstr("Somebody else is making")) << "while it is being made";
+    EXPECT_EQ(Rows("SELECT COUNT(*) FROM pg_class WHERE relname = 'company'"), "0|");
+}
+
+// What a login of the office may say of itself: nothing that gets in the way of others, or fails its own write.
+TEST_F(StructureTest, SettingsThatLieGetNowhere)
+{
+    m_line.RunScript(
+        "SET ptk.next = '3'; SET ptk.step = '999999999999'; SELECT set_config('ptk.user', string_agg(md5(n::text), 'Ж'), false) FROM "
+        "generate_series(1, 400) AS n; UPDATE Employee SET City = '1'; SET ptk.next = '999999999'; UPDATE Employee SET City = '2'; "
+        "SELECT set_config('ptk.next', currval('_change_changeid_seq')::text, false); UPDATE Employee SET City = '3'");
+    ServerLine other(m_database.Address(), std::nullopt);
+    other.RunScript("UPDATE Employee SET City = '4'");
+    EXPECT_EQ(Entries("ChangeID, Step, length(ChangedBy)"), "1|NULL|500|2|NULL|500|3|NULL|500|4|NULL|NULL|");
 }
 
 } // namespace

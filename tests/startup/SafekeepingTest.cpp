@@ -64,7 +64,7 @@ TEST_F(SafekeepingTest, OneIsDueOnEveryDayAnew)
         EXPECT_EQ(BackupIsDue(folder.Path(), today), due) << name;
     }
     EXPECT_TRUE(BackupIsDue(folder.Path(), today.AddDays(1)));
-    EXPECT_FALSE(BackupIsDue(folder.Path(), today.AddDays(-1))) << "made by a clock that was ahead";
+    EXPECT_TRUE(BackupIsDue(folder.Path(), today.AddDays(-2))) << "those there were named by a clock that was ahead";
 }
 
 TEST_F(SafekeepingTest, AFailureIsToldAndHoldsNothingUp)
@@ -78,7 +78,8 @@ TEST_F(SafekeepingTest, AFailureIsToldAndHoldsNothingUp)
     windows.main->Exit();
     EXPECT_EQ(Boxes(), Texts{"Backup Error: " + problem + "."});
     EXPECT_EQ(ends, std::vector{EXIT_SUCCESS});
-    EXPECT_EQ(Log(), kLogBegin + problem + "\r\n" + problem + "\r\n" + problem + "\r\n" + kLogEnd);
+    const std::string line = "Error: 76 : " + problem + "\r\n";
+    EXPECT_EQ(Log(), kLogBegin + line + line + line + kLogEnd);
 }
 
 TEST_F(SafekeepingTest, TheUserMayEndOneAndIsNotToldOfThat)
@@ -118,6 +119,12 @@ TEST_F(SafekeepingTest, AMissingSecondFolderIsToldOnceUntilItIsThereAgain)
     EXPECT_EQ(Boxes(), Texts{"Backup Error: " + missing + "."}) << "news again";
 
     Start();
+    EXPECT_EQ(Controller().SecondFolderRefusal(second), "");
+    EXPECT_EQ(Controller().SecondFolderRefusal(folder.Path() + "/system/../backups"),
+              "The second folder must be another than the one of the backups themselves.");
+    EXPECT_TRUE(Controller().SecondBackupFolder(Folder())); // as somebody may have written it there
+    EXPECT_EQ(Controller().BackUpNow(),
+              "The database was backed up, but there is no second copy in " + Folder() + ": it is the folder of the backups themselves");
     EXPECT_TRUE(Controller().SecondBackupFolder("") && ReadBytes(configPath).find("Backup") == std::string::npos);
 }
 
@@ -129,9 +136,10 @@ TEST_F(SafekeepingTest, RestoringReadsEverythingAgain)
     windows.restored = {"none.mdb", kOfNow};
     const auto before = Controller().EmployeeList();
     EXPECT_EQ(Controller().Restore(), "Restored from " + kOfNow);
-    EXPECT_EQ(Boxes(),
-              Texts{"Restore Error: The database could not be restored and is what it was: the database file is missing or cannot be "
-                    "opened."});
+    EXPECT_EQ(
+        Boxes(),
+        Texts{"Restore Error: The database could not be restored and is what it was: the database file is missing or cannot be opened: " +
+              Folder() + "/none.mdb."});
     EXPECT_EQ(Controller().SystemOptions()->PeriodLength(), 14);
     EXPECT_EQ(StoredPeriodLength(), 14);
     EXPECT_EQ(Backups(), kNext + " " + kOfNow) << "the former one is kept";

@@ -57,7 +57,7 @@ TEST_F(ShutdownTest, AHeldDatabaseSavesNothingAndTheNextAttemptDoes)
     EXPECT_EQ(Boxes(), Texts{kUnusable});
     EXPECT_EQ(desktop.boxes.front().icon, Icon::Exclamation);
     EXPECT_TRUE(ends.empty());
-    EXPECT_EQ(Log(), kLogBegin);
+    EXPECT_EQ(Log(), kLogBegin + "Error: 5 : the database is in use by another program: " + NativePath(databasePath).string() + "\r\n");
     EXPECT_TRUE(ReadBytes(configPath).ends_with("ShowLoginHelp=True\r\n"));
 
     holder.CloseDB();
@@ -76,7 +76,7 @@ TEST_F(ShutdownTest, OptionsThatCannotBeSavedAreToldAndTheRestIsSaved)
               Texts{"Update Options Error: An error occurred while saving program options. Please check the program options on next use."});
     EXPECT_EQ(desktop.boxes.front().icon, Icon::Exclamation);
     EXPECT_TRUE(ReadBytes(configPath).ends_with("ShowLoginHelp=False\r\n"));
-    EXPECT_EQ(Log(), kLogBegin + kLogEnd);
+    EXPECT_EQ(Log(), kLogBegin + "Error: 407 : The options could not be stored: no such table: _System\r\n" + kLogEnd);
     EXPECT_EQ(ends, std::vector{EXIT_SUCCESS});
 }
 

@@ -61,12 +61,19 @@ TEST_F(StartTest, ADatabaseThatCannotBeOpenedStopsBeforeTheLogin)
     {
         const char* name;
         std::function<void()> spoil;
+        std::string logged;
     };
+    const std::string database = NativePath(databasePath).string();
+    const std::string configuration = NativePath(configPath).string();
     const auto remove = [](const std::string& path) { std::filesystem::remove(NativePath(path)); };
     for (const Case& c :
-         {Case{"held by another", [&] { ASSERT_TRUE(holder.OpenDB(databasePath)); }},
-          Case{"corrupt", [&] { WriteBytes(databasePath, std::string(4096, 'x')); }}, Case{"missing", [&] { remove(databasePath); }},
-          Case{"no such key", [&] { WriteBytes(configPath, "[PTK]\r\n"); }}, Case{"no configuration", [&] { remove(configPath); }}}) {
+         {Case{"held by another", [&] { ASSERT_TRUE(holder.OpenDB(databasePath)); },
+               "5 : the database is in use by another program: " + database},
+          Case{"corrupt", [&] { WriteBytes(databasePath, std::string(4096, 'x')); },
+               "26 : the file is not a database of this program: " + database},
+          Case{"missing", [&] { remove(databasePath); }, "14 : the database file is missing or cannot be opened: " + database},
+          Case{"no such key", [&] { WriteBytes(configPath, "[PTK]\r\n"); }, "403 : the configuration names no database: " + configuration},
+          Case{"no configuration", [&] { remove(configPath); }, "53 : File not found: " + configuration}}) {
         SCOPED_TRACE(c.name);
         c.spoil();
         program.Start();
@@ -75,7 +82,7 @@ TEST_F(StartTest, ADatabaseThatCannotBeOpenedStopsBeforeTheLogin)
         EXPECT_EQ(desktop.boxes.front().icon, Icon::Exclamation);
         EXPECT_EQ(windows.login, nullptr);
         EXPECT_EQ(Controller().ControllerWindow(), nullptr);
-        EXPECT_EQ(Log(), kLogBegin);
+        EXPECT_EQ(Log(), kLogBegin + "Error: " + c.logged + "\r\n");
         EXPECT_TRUE(ends.empty());
         desktop.boxes.clear();
     }

@@ -11,6 +11,7 @@
 
 #include <array>
 #include <atomic>
+#include <chrono>
 #include <cstring>
 #include <thread>
 
@@ -34,6 +35,9 @@ public:
     // The line that is open then is cut when the server has answered so many bytes more; later ones hold.
     void CutAfter(int bytes) { m_left = bytes; }
     [[nodiscard]] bool WasCut() const { return m_left < 0; }
+
+    // From then on nothing passes any more, over any line, and no line ends.
+    void Stall() { m_stalled = true; }
 
 private:
     static constexpr const char* kSocket = "/.s.PGSQL.5432";
@@ -83,6 +87,10 @@ private:
     {
         std::array<char, 4096> buffer{};
         while (!m_stopped) {
+            if (m_stalled) {
+                std::this_thread::sleep_for(std::chrono::milliseconds(5));
+                continue;
+            }
             std::array<pollfd, 2> both{{{client, POLLIN, 0}, {server, POLLIN, 0}}};
             ::poll(both.data(), both.size(), 5);
             if (both[0].revents != 0) {
@@ -117,6 +125,7 @@ private:
     TemporaryFolder m_folder;
     std::atomic<int> m_left = kNever;
     std::atomic<bool> m_stopped = false;
+    std::atomic<bool> m_stalled = false;
     int m_listener;
     std::thread m_thread;
 };

@@ -3,6 +3,8 @@
 
 #include "platform/Failure.h"
 
+#include <string>
+
 namespace ptk {
 
 // The number of the failure that the action raises; 0 when it raises none.
@@ -14,6 +16,17 @@ std::int32_t FailureOf(const auto& action)
         return failure.Number();
     }
     return 0;
+}
+
+// What the failure that the action raises says; empty when it raises none.
+std::string FailureTextOf(const auto& action)
+{
+    try {
+        action();
+    } catch (const Failure& failure) {
+        return failure.Description();
+    }
+    return "";
 }
 
 } // namespace ptk

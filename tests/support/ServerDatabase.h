@@ -30,7 +30,10 @@ public:
     {
         static int made = 0;
         m_name = fmt::format("ptk_{}_{}", ::getpid(), ++made);
-        Owner("postgres").RunScript(fmt::format("CREATE DATABASE {} TEMPLATE template0 ENCODING 'UTF8'", m_name).c_str());
+        Owner("postgres").RunScript(fmt::format("CREATE DATABASE {} TEMPLATE template0 ENCODING 'UTF8' {}", m_name, Locale()).c_str());
+        if (IsStrange()) {
+            Run("GRANT CREATE ON SCHEMA public TO PUBLIC");
+        }
     }
     ~ServerDatabase() { Owner("postgres").RunScript(fmt::format("DROP DATABASE {} WITH (FORCE)", m_name).c_str()); }
     ServerDatabase(const ServerDatabase&) = delete;
@@ -42,6 +45,11 @@ public:
     void Run(const std::string& sql) const { Owner(m_name).RunScript(sql.c_str()); }
 
 private:
+    // With PTK_TEST_STRANGE_SERVER databases are as an office may have them elsewhere: of a locale in which a small I is none of the 26
+    // letters, and with everybody allowed to make objects in them, as up to PostgreSQL 14.
+    static bool IsStrange() { return std::getenv("PTK_TEST_STRANGE_SERVER") != nullptr; }
+    static const char* Locale() { return IsStrange() ? "LOCALE_PROVIDER icu ICU_LOCALE 'tr-TR'" : ""; }
+
     static std::string AddressOf(const std::string& name, const std::string& user)
     {
         return fmt::format("postgresql:///{}?host={}&user={}", name, TestServer(), user);

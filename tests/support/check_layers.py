@@ -23,11 +23,11 @@ FLOORS = {
     "store": [["engine"], ["sqlite", "postgres", "rows"], ["whole"], ["backup"], [""], ["trail", "import"]],
     "model": [[""], ["payday"], ["check"], ["remedy"]],
     "reports": [["forms"], [""]],
-    "office": [["card", "import", "reports"], ["history", "safety"], ["overview"], ["payday", "records", "business"]],
+    "office": [["card", "import", "reports", "sheet"], ["history", "safety"], ["overview"], ["payday", "records", "business"]],
     "jetreader": [[""]],
     "startup": [[""]],
     "console": [[""], ["main"]],
-    "ui": [["widgets"], ["page"], ["login", "reports"], ["timecards", "people", "overview", "history", "safety"], ["frame"]],
+    "ui": [["widgets"], ["page"], ["login", "reports"], ["timecards", "people", "overview", "history", "safety", "sheet"], ["frame"]],
     "pages": [[""]],
     "app": [[""]],
 }

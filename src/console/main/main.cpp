@@ -1,5 +1,6 @@
 #include "console/Program.h"
 #include "console/TerminalPassword.h"
+#include "platform/files/DraftsAtEnd.h"
 #include "platform/system/Clock.h"
 #include "platform/system/Process.h"
 #include "store/postgres/ServerAddress.h"
@@ -10,6 +11,7 @@
 int main(int argc, char* argv[])
 {
     ptk::SettleProcess();
+    ptk::RemoveMortalFilesOnSignals();
     std::ios::sync_with_stdio(false);
     ptk::AskForPasswordsWith(ptk::AskAtTerminal);
     return ptk::RunConsole({argv + (argc > 0 ? 1 : 0), argv + argc}, ptk::SystemClock(), std::cout, std::cerr,

@@ -8,18 +8,20 @@
 #include "store/engine/StoredDate.h"
 #include "store/PunchSQL.h"
 
-#include <algorithm>
 #include <fmt/format.h>
+#include <fmt/ranges.h>
+
+#include <algorithm>
 #include <tuple>
+#include <utility>
 
 namespace ptk {
 
 namespace {
 
-// The columns of both queries.
-constexpr int kId = 0;
-constexpr int kStart = 1;
-constexpr int kEnd = 2;
+using punchsql::kEnd;
+using punchsql::kId;
+using punchsql::kStart;
 
 constexpr std::size_t kUsualCount = 32; // the shifts of three weeks
 
@@ -72,15 +74,27 @@ DateTime DayBefore(DateTime day)
 
 } // namespace
 
+// A shift without length at the card's last moment is on the card, though it begins behind the period and perhaps its weeks.
 PunchReader::PunchReader(CJetDB& database, const PayPeriod& period, std::int32_t firstWeekday)
     : m_from(period.from), m_end(EndOfDay(period.to)), m_first(DayBefore(WeekStart(period.from, firstWeekday))),
       m_last(std::max(LastSecond(WeekLast(period.to, firstWeekday)), NextMidnight(m_end)))
 {
     RequireOpen(database);
-    m_unusual = RequireSelect(database, punchsql::Unusual(database.Words()));
-    m_starting = RequireSelect(database, punchsql::kStarting);
-    m_starting->Bind("first", m_first);
-    m_starting->Bind("last", m_last);
+    const EngineWords& words = database.Words();
+    if (*words.amongEmployees != '\0') {
+        m_ofMany = Prepare(database, punchsql::OfMany(words));
+        return;
+    }
+    m_unusual = RequireSelect(database, punchsql::Unusual(words));
+    m_starting = Prepare(database, punchsql::kStarting);
+}
+
+std::unique_ptr<Statement> PunchReader::Prepare(CJetDB& database, const std::string& sql) const
+{
+    auto statement = RequireSelect(database, sql);
+    statement->Bind("first", m_first);
+    statement->Bind("last", m_last);
+    return statement;
 }
 
 PunchReader::~PunchReader() = default;
@@ -110,8 +124,42 @@ Punch PunchReader::ReadPunch(const Statement& row) const
     return punch;
 }
 
+void PunchReader::ReadAhead(std::span<const std::int32_t> employeeIDs)
+{
+    m_ahead.clear();
+    if (ReadsAhead()) {
+        Fetch(employeeIDs);
+    }
+}
+
+void PunchReader::Fetch(std::span<const std::int32_t> employeeIDs)
+{
+    for (const std::int32_t id : employeeIDs) {
+        m_ahead[id].clear();
+    }
+    m_ofMany->Bind("employees", fmt::format("{{{}}}", fmt::join(employeeIDs, ",")));
+    m_ofMany->ForEachRow([&] {
+        const auto employee = static_cast<std::int32_t>(m_ofMany->Int64At(punchsql::kEmployee));
+        m_ahead[employee].push_back(ReadPunch(*m_ofMany));
+    });
+}
+
+Punches PunchReader::TakeAhead(std::int32_t employeeID)
+{
+    if (!m_ahead.contains(employeeID)) {
+        Fetch({&employeeID, 1});
+    }
+    Punches punches = std::move(m_ahead[employeeID]);
+    m_ahead.erase(employeeID);
+    Order(punches);
+    return punches;
+}
+
 Punches PunchReader::Read(std::int32_t employeeID)
 {
+    if (ReadsAhead()) {
+        return TakeAhead(employeeID);
+    }
     Punches punches;
     punches.reserve(kUsualCount);
     for (Statement* statement : {m_unusual.get(), m_starting.get()}) {

@@ -4,9 +4,13 @@
 #include "model/check/Punch.h"
 #include "model/PayPeriod.h"
 
+#include <cstddef>
 #include <cstdint>
+#include <map>
 #include <memory>
 #include <optional>
+#include <span>
+#include <string>
 
 namespace ptk {
 
@@ -24,6 +28,14 @@ public:
     PunchReader(const PunchReader&) = delete;
     PunchReader& operator=(const PunchReader&) = delete;
 
+    // People whom one question is about, where a question costs time.
+    static constexpr std::size_t kAtOnce = 250;
+
+    // Whether it does, as on a server: then the rows of those who are to be read next are asked for together. In a file nothing is read
+    // ahead.
+    [[nodiscard]] bool ReadsAhead() const { return m_ofMany != nullptr; }
+    void ReadAhead(std::span<const std::int32_t> employeeIDs);
+
     // All that CheckCard needs, by start, end and number.
     Punches Read(std::int32_t employeeID);
 
@@ -33,13 +45,18 @@ public:
 private:
     [[nodiscard]] bool IsFetched(const Statement& row) const;
     [[nodiscard]] Punch ReadPunch(const Statement& row) const;
+    [[nodiscard]] std::unique_ptr<Statement> Prepare(CJetDB& database, const std::string& sql) const;
+    [[nodiscard]] Punches TakeAhead(std::int32_t employeeID);
+    void Fetch(std::span<const std::int32_t> employeeIDs);
 
     DateTime m_from; // the bounds of the card's fetch, both included
     DateTime m_end;
     DateTime m_first; // of the starts that are looked for, both included
     DateTime m_last;
+    std::unique_ptr<Statement> m_ofMany; // or the other two
     std::unique_ptr<Statement> m_starting;
     std::unique_ptr<Statement> m_unusual;
+    std::map<std::int32_t, Punches> m_ahead; // by employees
 };
 
 } // namespace ptk

@@ -1,5 +1,6 @@
 #include "office/business/NewBusiness.h"
 
+#include "office/business/Guide.h"
 #include "office/business/SampleBusiness.h"
 #include "platform/Failure.h"
 #include "platform/files/FileDraft.h"
@@ -23,8 +24,6 @@ namespace fs = std::filesystem;
 
 constexpr const char* kConfiguration = "[PTK]\r\nDatabasePath=<app.path>\\system\\ptk_11.mdb\r\nShowLoginHelp={}\r\n";
 constexpr const char* kDatabase = "/system/ptk_11.mdb";
-constexpr const char* kGuide = "/documentation/PTKAdminUserGuide.doc";
-constexpr const char* kInstalledGuide = "doc/ptk-admin/PTKAdminUserGuide.doc";
 
 constexpr std::int32_t kFirstNumber = 1; // of employees
 
@@ -66,13 +65,6 @@ private:
     std::string m_path;
 };
 
-// Where no package is installed there is no guide to bring along.
-void CopyGuide(const std::string& folder)
-{
-    std::error_code ignored;
-    fs::copy_file(InstalledFile(kInstalledGuide), folder + kGuide, ignored);
-}
-
 void Furnish(const FolderDraft& draft, bool loginHelp)
 {
     for (const char* part : {"/system", "/reports", "/documentation"}) {
@@ -87,7 +79,7 @@ void Begin(const std::string& folder, bool loginHelp, const std::function<void(B
     const FolderDraft draft(folder);
     Furnish(draft, loginHelp);
     CreateDatabase(draft.Path() + kDatabase, fill);
-    CopyGuide(draft.Path());
+    RenewGuide(draft.Path(), InstalledFile(kInstalledGuide));
     draft.Place();
 }
 
@@ -107,7 +99,7 @@ std::string BusinessRefusal(const NewBusiness& business)
     return business.password == business.repeated ? std::string() : "The two passwords are not the same.";
 }
 
-void BeginBusiness(const std::string& folder, const NewBusiness& business, DateTime today)
+void BeginBusiness(const std::string& folder, const NewBusiness& business)
 {
     Begin(folder, false, [&](BulkWriter& writer) {
         CompanyRow company;
@@ -118,7 +110,6 @@ void BeginBusiness(const std::string& folder, const NewBusiness& business, DateT
         owner.LastName = business.lastName;
         owner.Password = business.password;
         owner.EmployeeNumber = kFirstNumber;
-        owner.HireDate = today;
         owner.EmployeeActive = true;
         writer.AddEmployee(owner);
         writer.CloseShippedAccount();
@@ -138,7 +129,7 @@ ImportOutcome BeginWithOldDatabase(const std::string& folder, ImportOrder order,
     order.programFolder = draft.Path();
     ImportOutcome outcome = ImportOldDatabase(order, progress);
     if (!order.trial && outcome.refusal.empty()) {
-        CopyGuide(draft.Path());
+        RenewGuide(draft.Path(), InstalledFile(kInstalledGuide));
         draft.Place();
         outcome.accountFile.replace(0, draft.Path().size(), folder);
     }

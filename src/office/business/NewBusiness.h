@@ -27,8 +27,9 @@ struct NewBusiness
 // All make `folder` and its parents, with the configuration and a database, for its owner only, whole or not at all. They raise 75 when
 // there is something of that name, and what making folders, files and databases raises.
 
-// The company and the person, who is its first employee and may log in; the shipped account may not. REQUIRES: no refusal.
-void BeginBusiness(const std::string& folder, const NewBusiness& business, DateTime today);
+// The company and the person, who is its first employee and may log in; the shipped account may not. When they were hired nobody said, and
+// shifts of before the business began here are nothing odd. REQUIRES: no refusal.
+void BeginBusiness(const std::string& folder, const NewBusiness& business);
 
 // The sample business up to today. The shipped account may log in, and the login's help says how.
 void BeginSample(const std::string& folder, DateTime today);

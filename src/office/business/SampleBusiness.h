@@ -1,4 +1,5 @@
-// A small business to try the program on: made-up companies, people and half a year of their shifts.
+// A small business to try the program on: made-up companies and people (SampleStaff.cpp), half a year of their shifts (SampleShifts.cpp),
+// and what goes wrong in them (SampleIrregularities.cpp).
 #pragma once
 
 #include "store/rows/Rows.h"

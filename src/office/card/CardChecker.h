@@ -14,6 +14,7 @@
 #include <memory>
 #include <optional>
 #include <set>
+#include <span>
 #include <vector>
 
 namespace ptk {
@@ -35,6 +36,9 @@ class CardChecker
 public:
     // Reads what was closed: of everybody by one question, or of one employee. REQUIRES: a CJetDB::Hold on the open database outlives it.
     CardChecker(std::shared_ptr<CJetDB> database, const CheckTerms& terms, std::optional<std::int32_t> onlyEmployee = std::nullopt);
+
+    // Of those who are to be checked next: see PunchReader.
+    void ReadAhead(std::span<const std::int32_t> employeeIDs) { m_reader.ReadAhead(employeeIDs); }
 
     [[nodiscard]] CardCheck Check(const CEmployee& employee);
 

@@ -1,5 +1,7 @@
 #include "office/card/NewRecord.h"
 
+#include "model/check/FindingText.h"
+#include "model/check/Punch.h"
 #include "platform/Succeeds.h"
 #include "platform/text/Text.h"
 
@@ -9,7 +11,9 @@ namespace ptk {
 
 namespace {
 
+constexpr int kMinutesOfHour = 60;
 constexpr auto kShortDate = "mm/dd/yyyy";
+constexpr auto kShortMoment = "mm/dd/yyyy hh:mm AM/PM";
 
 bool IsMidnight(DateTime moment)
 {
@@ -37,6 +41,30 @@ std::string PeriodWarning(const PayPeriod& period)
                        FormatDateTime(period.to, kShortDate));
 }
 
+std::optional<DateTime> ReadMoment(const RecordTexts& texts, DateTime (RecordTexts::*moment)() const)
+{
+    std::optional<DateTime> read;
+    Succeeds([&] { read = (texts.*moment)(); });
+    return read;
+}
+
+std::string StoredText(DateTime moment, const char* none)
+{
+    return moment.IsZero() ? none : FormatDateTime(moment, kShortMoment);
+}
+
+// An end is taken only behind a start that was read.
+const char* UnreadPart(bool startRead, const std::optional<DateTime>& end, DateTime storedEnd)
+{
+    if (startRead) {
+        return "the end could not be read";
+    }
+    if (!end) {
+        return "start and end could not be read";
+    }
+    return *end == storedEnd ? "the start could not be read" : "the start could not be read, and the end was not taken";
+}
+
 } // namespace
 
 DateTime RecordTexts::Start() const
@@ -59,6 +87,30 @@ std::string NewRecordWarning(const RecordTexts& texts, const std::optional<PayPe
         warning = TimesWarning(start, end) + (inside ? std::string() : PeriodWarning(*period));
     });
     return warning;
+}
+
+std::string LongShiftWarning(const RecordTexts& texts, std::int32_t longShiftHours)
+{
+    Punch shift;
+    shift.start = ReadMoment(texts, &RecordTexts::Start);
+    shift.end = ReadMoment(texts, &RecordTexts::End);
+    if (!shift.IsReadable() || shift.Minutes() <= std::int64_t{longShiftHours} * kMinutesOfHour) {
+        return {};
+    }
+    return fmt::format("This shift has {} hours, more than the longest usual one of {}. ", HoursAndMinutes(shift.Minutes()),
+                       longShiftHours);
+}
+
+std::string SavedRecordText(const std::string& owner, const RecordTexts& texts, DateTime storedStart, DateTime storedEnd)
+{
+    const std::string saved = "Record saved for " + owner;
+    const auto start = ReadMoment(texts, &RecordTexts::Start);
+    const auto end = ReadMoment(texts, &RecordTexts::End);
+    if (start && end) {
+        return saved;
+    }
+    return fmt::format("{} as {} - {}: {}", saved, StoredText(storedStart, "no start"), StoredText(storedEnd, "no end"),
+                       UnreadPart(start.has_value(), end, storedEnd));
 }
 
 } // namespace ptk

@@ -14,13 +14,13 @@ namespace ptk {
 class CJetDB;
 
 // The entries of the query, newest first, in one of the forms that docs/history-format.md describes; as text one line an entry, nothing
-// without one. Lines end in CR LF. Raises what reading the trail raises. REQUIRES: not Pdf, here and below.
+// without one. Lines end in CR LF. Raises what reading the trail raises. REQUIRES: not Pdf.
 [[nodiscard]] std::string HistoryIn(ReportForm form, const std::shared_ptr<CJetDB>& database, const TrailQuery& query);
 
-// With which the form begins; empty for text. REQUIRES: not Json, as below.
+// The line with which a file in this form begins, its end included; empty for text. REQUIRES: neither Pdf nor Json.
 [[nodiscard]] std::string HistoryHeading(ReportForm form);
 
-// With its end.
+// One entry in this form, the end of the line included. REQUIRES: neither Pdf nor Json.
 [[nodiscard]] std::string HistoryLine(ReportForm form, const TrailEntry& entry, const NameOfEmployee& nameOf);
 
 } // namespace ptk

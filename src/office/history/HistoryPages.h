@@ -15,7 +15,7 @@ struct ReportDocument;
 class HistoryPages
 {
 public:
-    // Changes; 70 are a page or more.
+    // Of changes. A page holds at most 70, so these are 140 pages and more.
     static constexpr std::size_t kMost = 10'000;
 
     // Below those before. Raises 6 beyond kMost, saying what to do instead.

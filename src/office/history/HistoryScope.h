@@ -17,6 +17,7 @@ struct HistoryScope
     PayPeriod period;
     std::optional<std::int64_t> record; // nothing: every record that lies in the period or ever did, and the employee's own row
     DateTime start;                     // of the record
+    bool narrows = true;                // false: the employee's whole history is asked for, and this offered beside it
 };
 
 // "Only the record of 03/05/2003 08:00 AM", "Only what counts for 03/01/2003 - 03/15/2003".

@@ -7,6 +7,7 @@
 #include <charconv>
 #include <fcntl.h>
 #include <iterator>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace ptk {
@@ -17,6 +18,8 @@ constexpr const char* kReader = "ptk-jet-reader";
 constexpr std::size_t kLongestLine = std::size_t{64} << 20; // bytes
 
 constexpr const char* kUnreadable = "the file is too damaged to be read";
+constexpr const char* kCut = "the file is cut short: it ends within a page, and what is missing is needed";
+constexpr const char* kNotRun = "the program ptk-jet-reader, which reads older files, could not be run";
 constexpr const char* kGarbled = "the reader of older files gave something that it never should";
 constexpr const char* kNoReader = "the program ptk-jet-reader, which reads older files, is missing; it comes with the package ptk-console";
 
@@ -31,9 +34,13 @@ constexpr Reason kReasons[] = {
     {4, "the file is of a newer format than Jet 4; save it as an Access 2000 database first"},
     {5, "the file is larger than 400 MB"},
     {6, "the file is cut short: not even its list of tables is there"},
+    {126, kNotRun},
+    {127, kNotRun}, // no such program, or one of its libraries is missing
 };
 
-constexpr int kCodePages[] = {437, 850, 852, 855, 857, 866, 874, 932, 936, 949, 950, 1250, 1251, 1252, 1253, 1254, 1255, 1256, 1257, 1258};
+constexpr off_t kVersionAt = 20;  // in the file: 0 for the pages of Jet 3
+constexpr off_t kJet3Page = 2048; // bytes
+constexpr off_t kJet4Page = 4096;
 
 // Looking at a file leaves its time of last access alone where it is one's own; nobody else can choose.
 SystemFile OpenWithoutTrace(const std::string& path)
@@ -189,11 +196,27 @@ private:
     bool m_ended = false;
 };
 
-Failure Refusal(int status)
+// A sound file is whole pages, but for a few bytes that other programs may have left behind them.
+bool EndsWithinPage(const SystemFile& file)
+{
+    struct stat status
+    {
+    };
+    char version = 0;
+    if (::fstat(file.Descriptor(), &status) != 0 || ::pread(file.Descriptor(), &version, 1, kVersionAt) != 1) {
+        return false;
+    }
+    return status.st_size % (version == 0 ? kJet3Page : kJet4Page) != 0;
+}
+
+Failure Refusal(int status, const SystemFile& file)
 {
     const auto* found =
         std::find_if(std::begin(kReasons), std::end(kReasons), [&](const Reason& reason) { return reason.status == status; });
-    return {0, "PTK", found == std::end(kReasons) ? kUnreadable : found->text};
+    if (found != std::end(kReasons)) {
+        return {0, "PTK", found->text};
+    }
+    return {0, "PTK", EndsWithinPage(file) ? kCut : kUnreadable};
 }
 
 void AddLine(OldCatalog& catalog, Fields fields)
@@ -294,7 +317,7 @@ void OldFile::Run(std::vector<std::string> arguments, const std::function<void(F
     const ChildEnd end = reader.Wait();
     m_complaints += reader.ErrorLines();
     if (!end.clean || !lines.Complete()) {
-        throw Refusal(end.status);
+        throw Refusal(end.status, m_file);
     }
 }
 
@@ -312,11 +335,6 @@ void OldFile::ReadRows(std::span<const OldRowsOrder> orders, OldRowSink& sink)
     RowLines lines(orders, sink);
     Run(arguments, [&](Fields fields) { lines.Take(fields); });
     lines.RefuseUnlessComplete();
-}
-
-bool IsKnownCodePage(int codePage)
-{
-    return std::find(std::begin(kCodePages), std::end(kCodePages), codePage) != std::end(kCodePages);
 }
 
 } // namespace ptk

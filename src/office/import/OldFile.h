@@ -113,7 +113,4 @@ private:
     std::int64_t m_complaints = 0;
 };
 
-// What ptk-jet-reader takes as --code-page.
-[[nodiscard]] bool IsKnownCodePage(int codePage);
-
 } // namespace ptk

@@ -1,15 +1,28 @@
 #include "office/overview/Overview.h"
 
 #include "model/CEmployeeList.h"
+#include "model/check/PunchReader.h"
 #include "office/overview/OverviewRows.h"
 #include "platform/text/DecimalSum.h"
 #include "store/CJetDB.h"
+
+#include <algorithm>
 
 namespace ptk {
 
 CheckTerms TermsOf(const Overview& overview)
 {
     return {overview.period, overview.made, overview.limits};
+}
+
+std::vector<std::int32_t> NumbersOf(std::span<const std::shared_ptr<CEmployee>> employees)
+{
+    std::vector<std::int32_t> numbers;
+    numbers.reserve(employees.size());
+    for (const auto& employee : employees) {
+        numbers.push_back(employee->EmployeeID());
+    }
+    return numbers;
 }
 
 OverviewRow RowOf(const Overview& overview, CardChecker& checker, const std::shared_ptr<CEmployee>& employee)
@@ -49,8 +62,11 @@ bool ReadOverview(Overview& overview, const std::shared_ptr<CJetDB>& database, s
     const CJetDB::Hold hold(database);
     CardChecker checker(database, TermsOf(overview));
     overview.rows.reserve(overview.rows.size() + employees.size());
-    for (const auto& employee : employees) {
-        overview.rows.push_back(RowOf(overview, checker, employee));
+    for (std::size_t i = 0; i < employees.size(); ++i) {
+        if (i % PunchReader::kAtOnce == 0) {
+            checker.ReadAhead(NumbersOf(employees.subspan(i, std::min(PunchReader::kAtOnce, employees.size() - i))));
+        }
+        overview.rows.push_back(RowOf(overview, checker, employees[i]));
         if (taken && !taken(overview.rows.back())) {
             return false;
         }

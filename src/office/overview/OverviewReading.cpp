@@ -1,6 +1,8 @@
 #include "office/overview/OverviewReading.h"
 
+#include "model/check/PunchReader.h"
 #include "store/CJetDB.h"
+#include "store/engine/EngineWords.h"
 
 #include <utility>
 
@@ -22,7 +24,15 @@ void OverviewReading::ReadOn(const std::function<bool()>& goOn)
         m_overview.rows.reserve(m_employees.size());
     }
     const std::span<const std::shared_ptr<CEmployee>> left = std::span(m_employees).subspan(m_overview.rows.size());
-    ReadOverview(m_overview, m_database, left, [&](const OverviewRow&) { return goOn(); });
+    const std::size_t before = m_overview.rows.size();
+    ReadOverview(m_overview, m_database, left, [&](const OverviewRow&) { return !EndsPortion(m_overview.rows.size() - before) || goOn(); });
+}
+
+// What was asked for together is of use together.
+bool OverviewReading::EndsPortion(std::size_t read) const
+{
+    const bool inPortions = *m_database->Words().amongEmployees != '\0';
+    return !inPortions || read % PunchReader::kAtOnce == 0;
 }
 
 } // namespace ptk

@@ -17,8 +17,9 @@ public:
     // now: what the checks take for it. REQUIRES: the database and the employees are not nullptr.
     OverviewReading(std::shared_ptr<CJetDB> database, Employees employees, const PayPeriod& period, DateTime now);
 
-    // Reads one employee after the other until `goOn` answers false, at least one. The first call reads the limits of the check, too.
-    // Raises the failure of a database that cannot be opened or read; the rows that were read before stay.
+    // Reads one employee after the other until `goOn` answers false, at least one; of a server portions of people, each by one question.
+    // The first call reads the limits of the check, too. Raises the failure of a database that cannot be opened or read; the rows that were
+    // read before stay.
     void ReadOn(const std::function<bool()>& goOn);
 
     [[nodiscard]] bool IsDone() const { return m_overview.rows.size() == m_employees.size(); }
@@ -29,6 +30,8 @@ public:
     [[nodiscard]] std::size_t Offered() const { return m_employees.size(); }
 
 private:
+    [[nodiscard]] bool EndsPortion(std::size_t read) const;
+
     std::shared_ptr<CJetDB> m_database;
     Employees m_employees;
     Overview m_overview;

@@ -131,6 +131,26 @@ bool StandsBefore(const std::vector<OverviewRow>& rows, std::size_t left, std::s
     return left < right;
 }
 
+std::optional<std::size_t> StepToProblems(const std::vector<OverviewRow>& rows, std::span<const std::size_t> shown,
+                                          std::optional<std::int32_t> employeeID, int direction)
+{
+    const auto here = std::find_if(shown.begin(), shown.end(),
+                                   [&](std::size_t row) { return employeeID && rows.at(row).employee->EmployeeID() == *employeeID; });
+    const std::ptrdiff_t outside = direction > 0 ? -1 : std::ssize(shown);
+    std::ptrdiff_t place = here == shown.end() ? outside : here - shown.begin();
+    for (place += direction; place >= 0 && place < std::ssize(shown); place += direction) {
+        if (HasProblems(rows.at(shown[static_cast<std::size_t>(place)]))) {
+            return static_cast<std::size_t>(place);
+        }
+    }
+    return std::nullopt;
+}
+
+std::string ProblemShareText(std::int64_t problems, std::int64_t chosen)
+{
+    return problems == 0 ? std::string() : fmt::format("{} of {} {} problems: F9", problems, chosen, problems == 1 ? "has" : "have");
+}
+
 std::string TabSeparated(const std::vector<OverviewCells>& lines)
 {
     std::string text;

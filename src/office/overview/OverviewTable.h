@@ -5,7 +5,9 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -39,6 +41,15 @@ using OverviewCells = std::array<std::string, kOverviewColumns>; // by OverviewC
 // Whether the row at `left` stands before the one at `right` in ascending order; by name in the order of all lists of employees, by
 // problems also by notices. What cannot be read is less than any figure.
 [[nodiscard]] bool StandsBefore(const std::vector<OverviewRow>& rows, std::size_t left, std::size_t right, OverviewColumn column);
+
+// Of the places in `shown`, which holds positions of rows in the order of a table, the next one with problems behind (direction 1) or
+// before
+// (-1) the employee's; from the first or the last where nobody is named or he is not shown. Nothing beyond the ends.
+[[nodiscard]] std::optional<std::size_t> StepToProblems(const std::vector<OverviewRow>& rows, std::span<const std::size_t> shown,
+                                                        std::optional<std::int32_t> employeeID, int direction);
+
+// "17 of 40 have problems: F9", said of those who were chosen for something; empty where nobody has any.
+[[nodiscard]] std::string ProblemShareText(std::int64_t problems, std::int64_t chosen);
 
 // Each line ends in LF; no cell holds a tab or a line end, and none is a formula to a spreadsheet.
 [[nodiscard]] std::string TabSeparated(const std::vector<OverviewCells>& lines);

@@ -20,6 +20,8 @@ constexpr auto kLeftOut = "Not in the list, with records in this period:";
 constexpr auto kLineEnd = "\r\n";
 
 using Cells = OverviewCells;
+
+// Shorter than the window's, for the lines of a terminal and of a page.
 const Cells kHeading{"Name", "Regular", "Overtime", "Gross", "Longest week", "Problems", "Notices", "Clocked in", "Paid", "Changed"};
 
 std::string ShortDay(DateTime day)
@@ -218,11 +220,18 @@ ReportDocument OverviewDocument(const Overview& overview)
 
 std::string OverviewFile(ReportForm form, const Overview& overview)
 {
-    if (form == ReportForm::Pdf) {
-        const ReportDocument document = OverviewDocument(overview);
-        return FileOf(form, {&document, 1}, overview.made);
+    switch (form) {
+    case ReportForm::Text:
+        return OverviewText(overview);
+    case ReportForm::Csv:
+        return std::string(kByteOrderMark) + OverviewCsv(overview);
+    case ReportForm::Json:
+        return OverviewJson(overview);
+    case ReportForm::Pdf:
+        break;
     }
-    return form == ReportForm::Csv ? std::string(kByteOrderMark) + OverviewCsv(overview) : OverviewText(overview);
+    const ReportDocument document = OverviewDocument(overview);
+    return FileOf(form, {&document, 1}, overview.made);
 }
 
 std::string OverviewFileName(const PayPeriod& period)

@@ -1,4 +1,4 @@
-// The payday overview as text for people and as data for other programs; docs/overview-format.md describes the latter.
+// The payday overview as text for people (OverviewText.cpp) and as data for other programs (OverviewData.cpp; docs/overview-format.md).
 #pragma once
 
 #include "reports/forms/ReportForms.h"
@@ -12,7 +12,7 @@ struct Overview;
 struct PayPeriod;
 struct ReportDocument;
 
-// Lines end in CR LF. A table, under each employee the sentences, below it the sums
+// A table: under each employee the sentences on their card, at its end the sums. Lines end in CR LF.
 [[nodiscard]] std::string OverviewText(const Overview& overview);
 
 // The same for pages: an employee is kept together with the sentences.
@@ -24,7 +24,7 @@ struct ReportDocument;
 // One object.
 [[nodiscard]] std::string OverviewJson(const Overview& overview);
 
-// The bytes of a file of it: CSV with a byte order mark, text, or pages. Raises what PdfOf raises.
+// The bytes of a file of it: CSV with a byte order mark, JSON, text, or pages. Raises what PdfOf raises.
 [[nodiscard]] std::string OverviewFile(ReportForm form, const Overview& overview);
 
 // "PTK overview 2003-03-01", the period's first day, without an ending.

@@ -1,7 +1,6 @@
 #include "office/payday/PaydayClosing.h"
 
 #include "model/CEmployeeList.h"
-#include "model/check/PaidDifference.h"
 #include "model/payday/ClosingReader.h"
 #include "office/overview/Overview.h"
 #include "office/payday/PaydayPersons.h"
@@ -34,11 +33,9 @@ constexpr const char* kNewest = "SELECT COALESCE(MAX(ChangeID), 0) FROM _Change"
 constexpr std::size_t kRowsAtOnce = 200; // of one statement
 
 // A card without figures has a problem in any case.
-std::int32_t ProblemsOf(const OverviewRow& row, bool changed)
+std::int32_t ProblemsOf(const OverviewRow& row)
 {
-    const auto tells = [](const Finding& finding) { return finding.kind == FindingKind::PaidChanged; };
-    const bool isTold = std::any_of(row.check.findings.begin(), row.check.findings.end(), tells);
-    return std::max(row.check.problems + (changed && !isTold ? 1 : 0), row.figures ? 0 : 1);
+    return std::max(row.check.problems, row.figures ? 0 : 1);
 }
 
 // Within the transaction that stores: what it reads stays so until its end.
@@ -54,7 +51,6 @@ public:
             }
         }
         m_employees = PresentEmployees(database);
-        m_closings = ReadClosings(database, order.period);
     }
 
     std::vector<PaydayLine> Close()
@@ -75,11 +71,13 @@ public:
 
     std::vector<PaydayLine> Reopen()
     {
+        const Closings closings = ReadClosings(m_database, m_order.period);
         std::vector<PaydayLine> lines;
         std::vector<std::int64_t> rows;
-        for (const PaydayPerson& person : m_order.employees.empty() ? PersonsWithClosings(*m_employees, m_closings) : PersonsOf(Chosen())) {
-            if (const Closing* paid = Paid(person.id)) {
-                rows.push_back(paid->id);
+        for (const PaydayPerson& person : m_order.employees.empty() ? PersonsWithClosings(*m_employees, closings) : PersonsOf(Chosen())) {
+            const auto closed = closings.find(person.id);
+            if (closed != closings.end() && closed->second.Newest() != nullptr) {
+                rows.push_back(closed->second.Newest()->id);
                 lines.push_back({PaydayDeed::Reopened, NameOf(person), {}, 0});
             }
         }
@@ -106,21 +104,13 @@ private:
         return chosen;
     }
 
-    const Closing* Paid(std::int64_t employee) const
-    {
-        const auto found = m_closings.find(employee);
-        return found == m_closings.end() ? nullptr : found->second.Newest();
-    }
-
     PaydayLine Close(const OverviewRow& row)
     {
         const std::string name = row.employee->DisplayName();
-        const Closing* paid = Paid(row.employee->EmployeeID());
-        const bool changed = paid != nullptr && DifferenceOf(*paid, row.figures);
-        if (paid != nullptr && !changed) {
+        if (row.paid && !row.check.changed) {
             return {PaydayDeed::PaidAlready, name, {}, 0};
         }
-        if (const std::int32_t problems = ProblemsOf(row, changed); m_order.employees.empty() && problems > 0) {
+        if (const std::int32_t problems = ProblemsOf(row); m_order.employees.empty() && problems > 0) {
             return {PaydayDeed::NotClosed, name, {}, problems};
         }
         if (!row.figures) {
@@ -154,7 +144,6 @@ private:
     const std::shared_ptr<CJetDB>& m_database;
     const PaydayOrder& m_order;
     std::shared_ptr<CEmployeeList> m_employees;
-    Closings m_closings;
     std::int64_t m_newest = 0;         // entry of the trail before this step
     std::vector<std::string> m_values; // of the rows to be stored
 };

@@ -3,6 +3,7 @@
 #include "office/records/UndoStack.h"
 #include "platform/Succeeds.h"
 #include "store/CJetDB.h"
+#include "store/engine/Waiting.h"
 
 #include <algorithm>
 
@@ -12,21 +13,11 @@ namespace {
 
 constexpr std::chrono::seconds kBetweenTries(10); // of a server that does not answer: each try takes a second of the window's time
 
-// Whose record it was before or is after.
-std::set<std::int64_t> EmployeesOf(const TrailEntry& entry)
-{
-    std::set<std::int64_t> employees;
-    if (entry.employee) {
-        employees.insert(*entry.employee);
-    }
-    for (const auto& row : {entry.before, entry.after}) {
-        const TrailValue* employee = row ? ValueOf(*row, "EmployeeID") : nullptr;
-        if (employee != nullptr && employee->kind == TrailValue::Kind::Number) {
-            employees.insert(std::strtoll(employee->text.c_str(), nullptr, 10));
-        }
-    }
-    return employees;
-}
+// Where many write at once, an entry of a small number may come to be seen after one of a greater: so far back it is looked for. Nobody
+// makes the watch read more by telling of an older one.
+constexpr std::int64_t kMargin = 500; // entries
+
+constexpr std::int32_t kMost = 2'000; // entries at a time, read in some milliseconds
 
 } // namespace
 
@@ -51,7 +42,7 @@ void ChangeWatch::Look()
 
 bool ChangeWatch::IsWorthTrying() const
 {
-    return std::chrono::steady_clock::now() >= m_notBefore;
+    return !waiting::IsTurn() && std::chrono::steady_clock::now() >= m_notBefore;
 }
 
 bool ChangeWatch::IsTold() const
@@ -61,58 +52,78 @@ bool ChangeWatch::IsTold() const
 
 bool ChangeWatch::IsAnyChanged(Shown what) const
 {
-    return std::any_of(m_changed.begin(), m_changed.end(), [&](const auto& changed) { return changed.first == what; });
+    return m_everything.contains(what) ||
+           std::any_of(m_changed.begin(), m_changed.end(), [&](const auto& changed) { return changed.first == what; });
+}
+
+bool ChangeWatch::IsChanged(Shown what, std::int64_t row) const
+{
+    return m_changed.contains({what, row}) || (m_everything.contains(what) && !m_readSince.contains({what, row}));
 }
 
 // Listens before it looks, so that nothing falls between.
 void ChangeWatch::Start()
 {
     static_cast<void>(m_database->TakeNews());
-    TrailQuery query;
-    query.most = 1;
-    const auto newest = ReadTrail(m_database, query);
-    m_newest = newest.empty() ? 0 : newest.front().id;
+    std::int64_t newest = 0;
+    for (const TrailNote& note : ReadTrailNotes(m_database, 0, IsTold() ? kMargin : 1)) {
+        m_seen.insert(note.id);
+        newest = std::max(newest, note.id);
+    }
+    m_newest = newest;
 }
 
+// A file has one writer at a time, and its entries are in the order of their numbers.
 void ChangeWatch::TakeNew()
 {
-    if (const auto first = m_database->TakeNews()) {
-        // Where many write at once, an entry of a small number may come to be seen after one of a greater.
-        const std::int64_t before = *first == 0 ? *m_newest : std::min(*m_newest, *first - 1);
-        m_unreadAfter = std::min(m_unreadAfter.value_or(before), before);
-    }
-    if (!m_unreadAfter) {
+    const auto first = m_database->TakeNews();
+    if (!first && !m_unread) {
         return;
     }
-    TrailQuery query;
-    query.newerThan = *m_unreadAfter;
-    for (const TrailEntry& entry : ReadTrail(m_database, query)) {
-        Take(entry);
+    m_unread = true;
+    const std::int64_t known = IsTold() ? *m_newest - kMargin : *m_newest;
+    const auto notes = ReadTrailNotes(m_database, known, kMost);
+    m_unread = false;
+    if (notes.size() == kMost) {
+        TakeEverything();
     }
-    m_unreadAfter.reset();
+    for (const TrailNote& note : notes) {
+        Take(note);
+    }
+    m_seen.erase(m_seen.begin(), m_seen.upper_bound(*m_newest - kMargin));
 }
 
-void ChangeWatch::Take(const TrailEntry& entry)
+// So much was changed that it is not looked through.
+void ChangeWatch::TakeEverything()
 {
-    m_newest = std::max(*m_newest, entry.id);
-    if (entry.step && m_own.IsOwn(*entry.step)) {
+    m_everything = {Shown::Employee, Shown::Company, Shown::CardEmployee, Shown::CardRecords};
+    m_readSince.clear();
+}
+
+void ChangeWatch::Take(const TrailNote& note)
+{
+    m_newest = std::max(*m_newest, note.id);
+    if (!m_seen.insert(note.id).second || (note.step && m_own.IsOwn(*note.step))) {
         return;
     }
-    if (entry.table == "TimeRecord") {
-        for (const std::int64_t employee : EmployeesOf(entry)) {
-            m_changed.emplace(Shown::CardRecords, employee);
+    if (note.table == "TimeRecord") {
+        for (const auto& employee : {note.employeeBefore, note.employeeAfter}) {
+            if (employee) {
+                m_changed.emplace(Shown::CardRecords, *employee);
+            }
         }
-    } else if (entry.table == "Employee" && entry.row) {
-        m_changed.emplace(Shown::Employee, *entry.row);
-        m_changed.emplace(Shown::CardEmployee, *entry.row);
-    } else if (entry.table == "Company" && entry.row) {
-        m_changed.emplace(Shown::Company, *entry.row);
+    } else if (note.table == "Employee" && note.row) {
+        m_changed.emplace(Shown::Employee, *note.row);
+        m_changed.emplace(Shown::CardEmployee, *note.row);
+    } else if (note.table == "Company" && note.row) {
+        m_changed.emplace(Shown::Company, *note.row);
     }
 }
 
 void ChangeWatch::AboutToRead(Shown what)
 {
     Look();
+    m_everything.erase(what);
     std::erase_if(m_changed, [&](const auto& changed) { return changed.first == what; });
 }
 
@@ -120,6 +131,9 @@ void ChangeWatch::AboutToRead(Shown what, std::int64_t row)
 {
     Look();
     m_changed.erase({what, row});
+    if (m_everything.contains(what)) {
+        m_readSince.insert({what, row});
+    }
 }
 
 } // namespace ptk

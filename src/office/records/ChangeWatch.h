@@ -24,7 +24,8 @@ enum class Shown
     CardRecords   // the records on that employee's card
 };
 
-// Own changes do not count: those that the undo stack knows. No member raises.
+// Own changes do not count: those that the undo stack knows. Where thousands of rows changed between two looks, everything may have. What a
+// look costs does not grow with the trail: one question, answered by two thousand short rows at most. No member raises.
 class ChangeWatch
 {
 public:
@@ -38,11 +39,14 @@ public:
     // Whether looking costs next to nothing, since the database tells of changes by itself.
     [[nodiscard]] bool IsTold() const;
 
+    // The newest entry of the trail as far as it looked, one's own included; nothing until the trail could be read.
+    [[nodiscard]] std::optional<std::int64_t> Newest() const { return m_newest; }
+
     // As far as it looked: of anything or anybody.
     [[nodiscard]] bool IsAnyChanged(Shown what) const;
 
     // As far as it looked. `row` is the employee's or the company's number.
-    [[nodiscard]] bool IsChanged(Shown what, std::int64_t row) const { return m_changed.contains({what, row}); }
+    [[nodiscard]] bool IsChanged(Shown what, std::int64_t row) const;
 
     // It is about to be read again: looks, and forgets what there was.
     void AboutToRead(Shown what);
@@ -51,15 +55,19 @@ public:
 private:
     void Start();
     void TakeNew();
-    void Take(const TrailEntry& entry);
+    void Take(const TrailNote& note);
+    void TakeEverything();
     [[nodiscard]] bool IsWorthTrying() const;
 
     std::shared_ptr<CJetDB> m_database; // an access of its own, which waits for nobody
     const UndoStack& m_own;
     std::optional<std::int64_t> m_newest;              // entry that was looked at; nothing until the trail could be read
-    std::optional<std::int64_t> m_unreadAfter;         // the entry behind which there is something to look at
+    std::set<std::int64_t> m_seen;                     // the entries that were looked at, as far back as others may still come
+    bool m_unread = false;                             // it was told of news that could not be read yet
     std::chrono::steady_clock::time_point m_notBefore; // is it asked again: it could not be reached
     std::set<std::pair<Shown, std::int64_t>> m_changed;
+    std::set<Shown> m_everything;                         // of this kind may have changed
+    std::set<std::pair<Shown, std::int64_t>> m_readSince; // those of such kinds that did not any more
 };
 
 } // namespace ptk

@@ -5,6 +5,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace ptk {
 
@@ -84,5 +85,8 @@ template <typename Texts>
     }
     return (left.typed.name.empty() ? "The new record" : left.typed.name) + " was not saved";
 }
+
+// What is asked before the program ends with these changes not saved, each told as NoticeOf does. REQUIRES: at least one.
+[[nodiscard]] std::string LeavingQuestion(const std::vector<std::string>& unsaved);
 
 } // namespace ptk

@@ -46,6 +46,10 @@ public:
 
     [[nodiscard]] std::string RedoText() const;
 
+    // What these two would do; nullptr when there is nothing.
+    [[nodiscard]] const MovedStep* NextUndo() const { return m_done.empty() ? nullptr : &m_done.back().told; }
+    [[nodiscard]] const MovedStep* NextRedo() const { return m_undone.empty() ? nullptr : &m_undone.back().told; }
+
     // False, with a Refusal, when somebody else changed one of the rows meanwhile or the database failed: nothing is changed then, and the
     // step stays the next to be undone. False without one when there is nothing to undo.
     bool Undo();

@@ -4,9 +4,30 @@
 #include "model/CEmployeeList.h"
 #include "platform/text/Text.h"
 
+#include <algorithm>
+#include <fmt/format.h>
 #include <unordered_map>
 
 namespace ptk {
+
+namespace {
+
+constexpr std::size_t kManyWindows = 50;
+constexpr auto kDoubled = "{} {} in the period before, too: {}.";
+constexpr auto kLeftOut = "{} {} in no period: the one before is {}.";
+
+std::string DaysText(const PayPeriod& days)
+{
+    const auto text = [](DateTime day) { return FormatDateTime(day, "mm/dd/yyyy"); };
+    return days.from == days.to ? text(days.from) : text(days.from) + " - " + text(days.to);
+}
+
+std::string DaysNotice(const char* sentence, const PayPeriod& days, const PayPeriod& before)
+{
+    return fmt::format(fmt::runtime(sentence), DaysText(days), days.from == days.to ? "is" : "are", DaysText(before));
+}
+
+} // namespace
 
 std::optional<PayPeriod> OfferedDays(ReportDates dates, DateTime today, std::int16_t periodLength)
 {
@@ -19,6 +40,17 @@ std::optional<PayPeriod> OfferedDays(ReportDates dates, DateTime today, std::int
         break;
     }
     return std::nullopt;
+}
+
+std::string OfferedDaysNotice(DateTime today, std::int16_t periodLength)
+{
+    const PayPeriod offered = DefaultPayPeriod(today, periodLength);
+    const PayPeriod before = DefaultPayPeriod(offered.from.AddDays(-1), periodLength);
+    if (before.to >= offered.from) {
+        return DaysNotice(kDoubled, {offered.from, std::min(before.to, offered.to)}, before);
+    }
+    const PayPeriod between{before.to.AddDays(1), offered.from.AddDays(-1)};
+    return between.from <= between.to ? DaysNotice(kLeftOut, between, before) : std::string();
 }
 
 PayPeriod ChosenDays(ReportDates dates, DateTime today, std::int16_t periodLength, std::optional<DateTime> from, std::optional<DateTime> to)
@@ -75,6 +107,14 @@ std::shared_ptr<CEmployeeList> EmployeesFor(ReportWhom whom, CEmployeeList& empl
         }
     }
     return taken;
+}
+
+std::optional<std::string> ManyWindowsQuestion(ReportWhom whom, std::size_t employees)
+{
+    if (whom != ReportWhom::Each || employees < kManyWindows) {
+        return std::nullopt;
+    }
+    return fmt::format("This opens {} windows, one for each report. Go on?", employees);
 }
 
 } // namespace ptk

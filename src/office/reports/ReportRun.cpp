@@ -10,6 +10,8 @@ namespace ptk {
 
 namespace {
 
+constexpr std::size_t kMostReplaced = 3; // in one line
+
 std::string Reports(std::int32_t count)
 {
     return fmt::format("{} report{}", count, count == 1 ? "" : "s");
@@ -25,6 +27,16 @@ std::string OutOf(std::int32_t done, std::int32_t wanted)
     return done == wanted ? Reports(done) : fmt::format("{} of {}", done, Reports(wanted));
 }
 
+// A business that gives no numbers has one file for everybody: the line tells a few of them.
+std::string ReplacedText(const std::vector<std::string>& replaced)
+{
+    std::string text;
+    for (std::size_t i = 0; i < std::min(replaced.size(), kMostReplaced); ++i) {
+        text += "; " + replaced[i];
+    }
+    return replaced.size() > kMostReplaced ? text + fmt::format("; and {} more", replaced.size() - kMostReplaced) : text;
+}
+
 } // namespace
 
 void NoteFailure(ReportRun& run, const std::string& reason)
@@ -35,6 +47,11 @@ void NoteFailure(ReportRun& run, const std::string& reason)
     }
 }
 
+std::string DescribeReplacement(const std::string& name, const std::string& replaced)
+{
+    return fmt::format("the report of {} took the place of that of {}, who has the same number", name, replaced);
+}
+
 std::string DescribeRun(const ReportRun& run)
 {
     if (run.wanted == 0) {
@@ -42,11 +59,12 @@ std::string DescribeRun(const ReportRun& run)
     }
     const std::string cancelled = run.done < run.wanted ? "Cancelled: " : "";
     const std::string whole = OutOf(run.done - run.failed, run.wanted);
+    const std::string replaced = ReplacedText(run.replaced);
     if (run.failed == 0) {
-        return cancelled + whole + " written";
+        return cancelled + whole + " written" + replaced;
     }
     const std::string reasons = (run.reasons.empty() ? "" : ": ") + fmt::format("{}", fmt::join(run.reasons, "; "));
-    return fmt::format("{}{} complete, {} failed{}", cancelled, whole, run.failed, reasons);
+    return fmt::format("{}{} complete, {} failed{}{}", cancelled, whole, run.failed, reasons, replaced);
 }
 
 std::string DescribeReport(std::int32_t errorNumber, const std::string& missing, const ReportRun& people)

@@ -14,10 +14,17 @@ struct ReportRun
     std::int32_t done = 0;              // tried, whole or not; fewer than wanted when the user stopped it
     std::int32_t failed = 0;            // of those done
     std::vector<std::string> reasons{}; // of those failures that have one in words, each once
+
+    // Sentences without a full stop, one for each report whose file took the place of another one of this run.
+    std::vector<std::string> replaced{};
 };
 
 // Empty where there is none in words.
 void NoteFailure(ReportRun& run, const std::string& reason);
+
+// Two employees with one number have one file between them: "the report of Bob Lee took the place of that of Ann Lee, who has the same
+// number".
+[[nodiscard]] std::string DescribeReplacement(const std::string& name, const std::string& replaced);
 
 // Of reports that are made one for each employee.
 [[nodiscard]] std::string DescribeRun(const ReportRun& run);

@@ -1,24 +1,59 @@
 #include "office/reports/ReportRunner.h"
 
+#include "model/CEmployee.h"
 #include "model/CEmployeeList.h"
 #include "office/reports/ReportChoice.h"
 #include "office/reports/ReportRun.h"
 #include "reports/Report.h"
 
+#include <map>
+#include <utility>
+
 namespace ptk {
 
 namespace {
 
+// Whose report the files of one run hold.
+class FileOwners
+{
+public:
+    // Answers who had it, by display name; "" when nobody else did.
+    std::string Take(const Report& report, const CEmployee& employee)
+    {
+        const auto owner = m_owners.try_emplace(report.ReportPath(), employee).first;
+        const Owner before = std::exchange(owner->second, Owner(employee));
+        return before.id == owner->second.id ? "" : before.name;
+    }
+
+private:
+    struct Owner
+    {
+        explicit Owner(const CEmployee& employee) : id(employee.EmployeeID()), name(employee.DisplayName()) {}
+
+        std::int32_t id;
+        std::string name;
+    };
+
+    std::map<std::string, Owner> m_owners; // by the file's path
+};
+
 void RunEach(const ReportOrder& order, CEmployeeList& employees, ReportClient& client)
 {
     ReportRun run{employees.Count()};
+    FileOwners owners;
     while (run.done < run.wanted && client.GoOn(run.done)) {
+        const auto employee = employees.Item(++run.done);
         const auto report = client.NewReport(order.report);
-        const bool complete = report->Generate({order.database, employees.Item(++run.done), nullptr, order.from, order.to});
+        const bool complete = report->Generate({order.database, employee, nullptr, order.from, order.to});
         if (report->ErrorNumber() != 0) {
             NoteFailure(run, report->Missing());
         }
+        const std::string before = employee != nullptr && report->FileWritten() ? owners.Take(*report, *employee) : "";
         client.Made(*report, complete, DescribeReport(report->ErrorNumber(), report->Missing(), run));
+        if (!before.empty()) {
+            run.replaced.push_back(DescribeReplacement(employee->DisplayName(), before));
+            client.Replaced(run.replaced.back());
+        }
     }
     client.Say(DescribeRun(run));
 }

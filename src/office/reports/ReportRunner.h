@@ -40,6 +40,9 @@ public:
 
     // With what this one came to.
     virtual void Made(Report& report, bool complete, const std::string& outcome) = 0;
+
+    // That its file took the place of another one of this run, right after Made; what the run came to tells it, too.
+    virtual void Replaced(const std::string& /*sentence*/) {}
 };
 
 // For each employee a report of their own, or one for all, as its entry says. Of one report it is said what the run came to before its

@@ -25,7 +25,7 @@ std::string SizeText(std::int64_t size)
 std::string MadeText(const std::string& name)
 {
     const auto made = BackupMoment(name);
-    return made ? WeekdayName(*made).substr(0, kShortName) + FormatDateTime(*made, " mm/dd/yyyy hh:mm AM/PM") : name;
+    return made ? WeekdayName(*made).substr(0, kShortName) + FormatDateTime(*made, " mm/dd/yyyy hh:mm:ss AM/PM") : name;
 }
 
 } // namespace

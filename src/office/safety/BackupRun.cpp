@@ -23,6 +23,7 @@ constexpr const char* kKey = "BackupFolder";
 constexpr const char* kSection = "[PTK]";
 constexpr const char* kTold = ".second-copy-missing"; // holds the folder that people were told of
 constexpr const char* kNotWhole = "The second folder must be named whole, from its first \"/\" on.";
+constexpr const char* kNotSecond = "The second folder must be another than the one of the backups themselves.";
 constexpr const char* kNotKept = "A folder with a comma, a quotation mark or a line break in its name cannot be remembered.";
 
 // The 1-based position of the line, or 0.
@@ -37,6 +38,14 @@ std::int16_t FindLineWhere(CFileAdaptor& configuration, Matches matches)
     return 0;
 }
 
+bool IsBackupFolder(const std::string& folder, const std::string& programFolder)
+{
+    std::error_code ignored; // of folders that are not there yet the names say it
+    const fs::path first = BackupFolder(programFolder);
+    const fs::path second = NativePath(folder);
+    return fs::equivalent(first, second, ignored) || fs::weakly_canonical(first, ignored) == fs::weakly_canonical(second, ignored);
+}
+
 // False where it was told before: once for a disk that was taken away, not each day that it is.
 bool IsNews(const std::string& folder, const std::string& second)
 {
@@ -46,12 +55,17 @@ bool IsNews(const std::string& folder, const std::string& second)
     return news;
 }
 
-void CopyToSecond(const std::string& folder, const std::string& second, BackupOutcome& outcome)
+void CopyToSecond(const BackupOrder& order, BackupOutcome& outcome)
 {
+    const std::string folder = BackupFolder(order.programFolder);
+    const std::string second = NativePath(order.secondFolder).string();
     const auto tell = [&](const Failure& reason) {
         outcome.secondProblem = "there is no second copy in " + second + ": " + reason.Description();
         outcome.secondIsNews = IsNews(folder, second);
     };
+    if (IsBackupFolder(order.secondFolder, order.programFolder)) {
+        return tell(Failure(0, "PTK", "it is the folder of the backups themselves"));
+    }
     if (Succeeds([&] { CopyBackup(outcome.path, second); }, tell)) {
         std::error_code ignored; // then the next problem is not told
         fs::remove(folder + '/' + kTold, ignored);
@@ -79,7 +93,7 @@ void SecondBackupFolder(CFileAdaptor& configuration, const std::string& folder)
     configuration.InsertLine(std::string(kKey) + '=' + folder, place);
 }
 
-std::string SecondFolderRefusal(const std::string& folder)
+std::string SecondFolderRefusal(const std::string& folder, const std::string& programFolder)
 {
     if (folder.empty()) {
         return {};
@@ -87,7 +101,10 @@ std::string SecondFolderRefusal(const std::string& folder)
     if (folder.find_first_of(",\"\r\n") != std::string::npos) {
         return kNotKept;
     }
-    return fs::path(folder).is_absolute() ? std::string() : kNotWhole;
+    if (!fs::path(folder).is_absolute()) {
+        return kNotWhole;
+    }
+    return IsBackupFolder(folder, programFolder) ? kNotSecond : std::string();
 }
 
 BackupOutcome MakeBackup(const BackupOrder& order, const CopyProgress& progress)
@@ -96,7 +113,7 @@ BackupOutcome MakeBackup(const BackupOrder& order, const CopyProgress& progress)
     BackupOutcome outcome{BackUp(order.database, folder, order.now, progress), {}};
     PruneBackups(folder, fs::path(outcome.path).filename().string());
     if (!order.secondFolder.empty()) {
-        CopyToSecond(folder, NativePath(order.secondFolder).string(), outcome);
+        CopyToSecond(order, outcome);
     }
     return outcome;
 }
@@ -106,7 +123,7 @@ bool BackupIsDue(const std::string& programFolder, DateTime today)
     std::error_code error;
     for (fs::directory_iterator at(BackupFolder(programFolder), error), end; !error && at != end; at.increment(error)) {
         const auto made = BackupMoment(at->path().filename().string());
-        if (made && DaysBetween(today, *made) >= 0) {
+        if (made && DaysBetween(today, *made) == 0) {
             return false;
         }
     }

@@ -36,12 +36,13 @@ struct BackupOutcome
 void SecondBackupFolder(CFileAdaptor& configuration, const std::string& folder);
 
 // Why the configuration cannot hold this folder, one sentence; empty where it can. Empty is no folder, and fine.
-[[nodiscard]] std::string SecondFolderRefusal(const std::string& folder);
+// The folder of the backups themselves is none.
+[[nodiscard]] std::string SecondFolderRefusal(const std::string& folder, const std::string& programFolder);
 
 // Raises what store/Backups.h says; a second copy that fails is no failure.
 [[nodiscard]] BackupOutcome MakeBackup(const BackupOrder& order, const CopyProgress& progress = {});
 
-// Whether there is no backup of this day or a later one yet, by the names.
+// Whether there is no backup of this day yet, by the names. Those of later days were named by a clock that went wrong.
 [[nodiscard]] bool BackupIsDue(const std::string& programFolder, DateTime today);
 
 // The number of the newest change in the database's trail; 0 without one. Raises what reading the trail raises.

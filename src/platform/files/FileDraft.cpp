@@ -17,6 +17,8 @@ using std::filesystem::path;
 
 constexpr std::string_view kRandom = "XXXXXX"; // becomes random characters
 constexpr std::string_view kEnding = ".draft";
+constexpr int kMostTries = 16; // two programs take each other's drafts for abandoned once or twice; a folder without locks would always
+constexpr auto kNotYetSafe = "The file is done, but may not survive a power cut: ";
 constexpr mode_t kModeBits = S_IRWXU | S_IRWXG | S_IRWXO;
 
 path FolderOf(const path& target)
@@ -40,11 +42,13 @@ SystemFile OpenFolder(const path& folder)
     return file;
 }
 
+// After the last step.
 void FlushFolder(SystemFile& folder)
 {
     // EINVAL: this file system has no flush for folders.
     if (::fsync(folder.Descriptor()) != 0 && errno != EINVAL) {
-        throw Failure::FromErrno(errno);
+        const Failure reason = Failure::FromErrno(errno);
+        throw Failure(reason.Number(), reason.Source(), kNotYetSafe + reason.Description(), reason.LastSystemError());
     }
 }
 
@@ -89,19 +93,19 @@ bool IsAbandoned(const path& draft)
     return ::fstat(file.Descriptor(), &status) == 0 && S_ISREG(status.st_mode) && Lock(file);
 }
 
-// Further endings stand for what an engine keeps beside a draft, such as its journal.
-void RemoveAbandoned(const path& target)
+// The draft that a file is, or lies beside: further endings stand for what an engine keeps there, such as its journal. Empty for others.
+std::string_view DraftOf(std::string_view name)
 {
-    const std::string start = DraftStart(target);
-    const std::size_t length = start.size() + kRandom.size() + kEnding.size();
-    std::error_code error;
-    for (std::filesystem::directory_iterator at(FolderOf(target), error), end; !error && at != end; at.increment(error)) {
-        const std::string name = at->path().filename().string();
-        const bool isDraft = name.starts_with(start) && name.size() >= length && name.substr(0, length).ends_with(kEnding);
-        if (isDraft && IsAbandoned(FolderOf(target) / name.substr(0, length))) {
-            ::unlink(at->path().c_str());
-        }
-    }
+    const std::size_t ending = name.rfind(kEnding);
+    const std::size_t random = ending - kRandom.size();
+    const bool isDraft = ending != std::string_view::npos && ending > kRandom.size() + 2 && name.front() == '.' && name[random - 1] == '.';
+    return isDraft ? name.substr(0, ending + kEnding.size()) : std::string_view();
+}
+
+// Of a draft's name.
+std::string_view TargetOf(std::string_view draft)
+{
+    return draft.substr(1, draft.size() - 2 - kRandom.size() - kEnding.size());
 }
 
 bool Holds(const std::string& path, std::string_view bytes)
@@ -121,13 +125,36 @@ bool Holds(const std::string& path, std::string_view bytes)
 
 } // namespace
 
+void RemoveAbandonedDrafts(const std::string& folder, const IsOurDraft& isOurs)
+{
+    std::error_code error;
+    for (std::filesystem::directory_iterator at(folder, error), end; !error && at != end; at.increment(error)) {
+        const std::string name = at->path().filename().string();
+        const std::string_view draft = DraftOf(name);
+        if (draft.empty()) {
+            continue;
+        }
+        const path whole = path(folder) / draft;
+        if (isOurs(std::string(TargetOf(draft)), whole.string()) && IsAbandoned(whole)) {
+            ::unlink(at->path().c_str());
+        }
+    }
+}
+
 FileDraft::FileDraft(std::string target) : m_target(std::move(target)), m_folder(OpenFolder(FolderOf(m_target)))
 {
     RequireReplaceable(m_target);
-    RemoveAbandoned(m_target);
-    do {
+    const std::string name = path(m_target).filename().string();
+    RemoveAbandonedDrafts(FolderOf(m_target).string(), [&](const std::string& of, const std::string& /*draft*/) { return of == name; });
+    Create();
+    for (int tries = 1; !Hold(); ++tries) {
+        ::unlink(m_path.c_str());
+        if (tries == kMostTries) {
+            throw Failure(failure::PermissionDenied);
+        }
         Create();
-    } while (!Hold());
+    }
+    m_mortal.emplace(m_path);
 }
 
 FileDraft::~FileDraft()
@@ -191,17 +218,24 @@ void FileDraft::HandDownMode()
 
 void FileDraft::PlaceNew()
 {
+    if (!PlaceAs(m_target)) {
+        throw AlreadyThere(m_target);
+    }
+}
+
+bool FileDraft::PlaceAs(const std::string& target)
+{
+    m_target = target;
     m_file.Flush();
     if (!RenameToFree()) {
-        throw errno == EEXIST ? AlreadyThere(m_target) : Failure::FromErrno(errno);
+        if (errno == EEXIST) {
+            return false;
+        }
+        throw Failure::FromErrno(errno);
     }
     m_placed = true;
-    try {
-        FlushFolder(m_folder);
-    } catch (const Failure&) {
-        ::unlink(m_target.c_str());
-        throw;
-    }
+    FlushFolder(m_folder);
+    return true;
 }
 
 // Network file systems know only the way by a second name.

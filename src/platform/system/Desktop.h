@@ -18,6 +18,7 @@ enum class Buttons : std::int16_t
 {
     Ok = 0,
     OkCancel = 1,
+    SaveDiscardCancel = 3, // answered by Yes, No and Cancel
     YesNo = 4
 };
 enum class Answer : std::int16_t

@@ -2,6 +2,7 @@
 
 #include <csignal>
 #include <fcntl.h>
+#include <fstream>
 #include <unistd.h>
 
 namespace ptk {
@@ -15,6 +16,14 @@ void SettleProcess()
             static_cast<void>(::open("/dev/null", O_RDONLY)); // an output stream still fails on its first write, as a closed one does
         }
     }
+}
+
+std::size_t MemoryInUse()
+{
+    std::size_t all = 0;
+    std::size_t present = 0;
+    std::ifstream("/proc/self/statm") >> all >> present;
+    return present * static_cast<std::size_t>(::sysconf(_SC_PAGESIZE));
 }
 
 } // namespace ptk

@@ -28,6 +28,8 @@ std::string CellText(CellType type, const Value& cell)
     case CellType::Hours:
     case CellType::Money:
         return TwoDecimals(cell.ToSingle());
+    case CellType::Rate:
+        return SingleText(cell.ToSingle());
     case CellType::Date:
         return FormatDateTime(cell.ToDateTime(), kDay);
     case CellType::DateTime:

@@ -11,7 +11,7 @@ namespace ptk {
 // YYYY-MM-DDTHH:MM:SS.
 [[nodiscard]] std::string MomentText(DateTime moment);
 
-// Days as YYYY-MM-DD, hours and money with the two decimals that the report itself shows, true or false; texts as they are. Empty for null.
+// Days as YYYY-MM-DD, hours and money with two decimals, rates with all they have, true or false; texts as they are. Empty for null.
 [[nodiscard]] std::string CellText(CellType type, const Value& cell);
 
 // Hours as hours and minutes, to the nearest minute: "8:30", "-0:15". Empty for null.

@@ -17,7 +17,8 @@ enum class CellType
     Text,        // text
     WholeNumber, // 32-bit integers
     Hours,       // singles, decimal hours
-    Money,       // singles
+    Money,       // singles, in cents
+    Rate,        // singles, dollars per hour with as many decimals as they have
     Date,        // date-times at midnight
     DateTime,    // date-times
     Boolean,     // booleans

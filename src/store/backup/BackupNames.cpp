@@ -18,6 +18,7 @@ constexpr std::int64_t kWeeks = 8;
 constexpr std::int64_t kMonths = 24;
 constexpr std::int64_t kDaysOfWeek = 7;
 constexpr std::int64_t kMonthsOfYear = 12;
+constexpr std::int64_t kLongestGap = 40 * DateTime::kSecondsPerDay; // seconds
 
 bool FitsPattern(std::string_view name)
 {
@@ -65,6 +66,14 @@ std::vector<Dated> UpTo(std::span<const std::string> names, DateTime newest)
     return dated;
 }
 
+// Whether the newest lies so far ahead of those of the days before it that its clock may have been wrong. One wrong day makes several.
+bool IsFarAhead(std::span<const Dated> dated, DateTime newest)
+{
+    const auto before =
+        std::find_if(dated.begin(), dated.end(), [&](const Dated& backup) { return backup.made.DayNumber() < newest.DayNumber(); });
+    return before != dated.end() && newest.Seconds() - before->made.Seconds() > kLongestGap;
+}
+
 } // namespace
 
 std::string BackupName(DateTime made)
@@ -92,7 +101,11 @@ std::vector<std::string> DispensableBackups(std::span<const std::string> names, 
     std::set<std::int64_t> months;
     std::vector<std::string> dispensable;
     std::size_t place = 0;
-    for (const Dated& backup : UpTo(names, newest)) {
+    const std::vector<Dated> dated = UpTo(names, newest);
+    if (IsFarAhead(dated, newest)) {
+        return {};
+    }
+    for (const Dated& backup : dated) {
         const std::int64_t day = DaysBetween(backup.made, newest);
         const std::int64_t week = WeekOf(newest) - WeekOf(backup.made);
         const std::int64_t month = MonthOf(newest) - MonthOf(backup.made);

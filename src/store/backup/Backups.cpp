@@ -3,18 +3,18 @@
 #include "platform/files/FileDraft.h"
 #include "platform/files/FileSteps.h"
 #include "platform/files/ProgramFolder.h"
+#include "platform/files/SystemFile.h"
 #include "platform/Succeeds.h"
 #include "platform/text/Text.h"
 #include "store/backup/BackupNames.h"
-#include "store/engine/RecordSet.h"
 #include "store/postgres/ServerAddress.h"
-#include "store/sqlite/EngineFailure.h"
+#include "store/sqlite/FileHeader.h"
 #include "store/whole/DatabaseCopier.h"
 
 #include <algorithm>
+#include <fcntl.h>
 #include <filesystem>
 #include <functional>
-#include <future>
 #include <system_error>
 
 namespace ptk {
@@ -23,50 +23,61 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::int32_t kNoDatabase = 26;
-constexpr const char* kTables = "SELECT COUNT(*) FROM sqlite_master WHERE type = 'table' AND name COLLATE NOCASE IN "
-                                "('Company', 'Employee', 'TimeRecord', '_System', '_StoredQuery')";
-constexpr std::int32_t kTableCount = 5;
+constexpr std::string_view kDamagedEnding = "-damaged.mdb"; // of what a restore could only keep the bytes of
 
-void RefuseForeignTables(SqliteEngine& engine)
+// Nothing yet, or the first bytes of a database of this program. The engine may write them last.
+bool BeginsAsOurs(const std::string& path)
 {
-    if (engine.Select(kTables)->Int32At(0) != kTableCount) {
-        throw EngineFailure(kNoDatabase);
+    constexpr std::string_view kSignature("SQLite format 3\0", 16);
+    constexpr std::size_t kIdAt = 68;
+    std::string start(kIdAt + sizeof(std::int32_t), '\0');
+    OpenRegularFile(path, O_RDONLY | O_NOFOLLOW).Read(start.data(), start.size());
+    std::int32_t id = 0;
+    for (const char byte : start.substr(kIdAt)) {
+        id = id * 256 + static_cast<unsigned char>(byte);
     }
+    return start.find_first_not_of('\0') == std::string::npos || (start.starts_with(kSignature) && id == kApplicationId);
 }
 
-// The copy goes to the disk while it is checked. Nobody cuts it short meanwhile, so it need not be read into buffers.
-void FillDraft(SqliteEngine& database, FileDraft& draft, const CopyProgress& progress)
+// What killed backups left, whatever name they were to get.
+void ClearFolder(const std::string& folder)
 {
-    database.CopyTo(draft.Path(), progress);
-    auto flushed = std::async(std::launch::async, [&] { draft.File().Flush(); });
-    SqliteEngine copy(draft.Path(), ReadOnly{});
-    copy.RunScript("PRAGMA mmap_size = 2147418112"); // the engine's most
-    copy.RefuseDamage();
-    flushed.get();
+    RemoveAbandonedDrafts(folder, [](const std::string& target, const std::string& draft) {
+        bool ours = BackupMoment(target) || target.ends_with(kDamagedEnding);
+        return ours || Succeeds([&] { return BeginsAsOurs(draft); });
+    });
 }
 
+// None where there is no such folder. Raises 70 and the like of one that cannot be read.
 std::vector<std::string> NamesIn(const std::string& folder)
 {
     std::vector<std::string> names;
     std::error_code error;
-    for (fs::directory_iterator at(folder, error), end; !error && at != end; at.increment(error)) {
+    fs::directory_iterator at(folder, error);
+    for (const fs::directory_iterator end; !error && at != end; at.increment(error)) {
         names.push_back(at->path().filename().string());
+    }
+    if (error && error != std::errc::no_such_file_or_directory) {
+        throw Failure::FromErrno(error.value());
     }
     return names;
 }
 
-// Makes the folder. The first free name from that moment on.
-std::string NewBackup(const std::string& folder, DateTime now)
+// The first free name from that moment on.
+std::string NextFreePath(const std::string& folder, DateTime& named)
 {
-    MakeOwnFolder(folder);
-    DateTime named = now;
     std::string path = folder + '/' + BackupName(named);
     while (IsThere(path)) {
         named = DateTime::FromSeconds(named.Seconds() + 1);
         path = folder + '/' + BackupName(named);
     }
     return path;
+}
+
+void PrepareFolder(const std::string& folder)
+{
+    MakeOwnFolder(folder);
+    ClearFolder(folder);
 }
 
 // Into a file of the program's own form, which is read anywhere without a server.
@@ -79,6 +90,22 @@ void BackUpServer(const std::string& address, const std::string& target, const C
     static_cast<void>(CopyDatabase(address, target, rows));
 }
 
+std::string BackUpServerInto(const std::string& address, const std::string& folder, DateTime now, const CopyProgress& progress)
+{
+    PrepareFolder(folder);
+    for (;;) {
+        std::string backup = NextFreePath(folder, now);
+        try {
+            BackUpServer(address, backup, progress);
+            return backup;
+        } catch (const Failure& failure) {
+            if (failure.Number() != failure::PathFileAccess || !IsThere(backup)) { // else somebody made one of that name meanwhile
+                throw;
+            }
+        }
+    }
+}
+
 } // namespace
 
 std::string BackupFolder(const std::string& programFolder)
@@ -88,19 +115,20 @@ std::string BackupFolder(const std::string& programFolder)
 
 std::string BackUp(SqliteEngine& database, const std::string& folder, DateTime now, const CopyProgress& progress)
 {
-    std::string path = NewBackup(folder, now);
+    PrepareFolder(folder);
+    std::string path = NextFreePath(folder, now);
     FileDraft draft(path);
-    FillDraft(database, draft, progress);
-    draft.PlaceNew();
+    FillChecked(database, draft, progress);
+    while (!draft.PlaceAs(path)) { // somebody else has made one meanwhile
+        path = NextFreePath(folder, now);
+    }
     return path;
 }
 
 std::string BackUp(const std::string& path, const std::string& folder, DateTime now, const CopyProgress& progress)
 {
     if (IsServerAddress(path)) {
-        std::string backup = NewBackup(folder, now);
-        BackUpServer(path, backup, progress);
-        return backup;
+        return BackUpServerInto(path, folder, now, progress);
     }
     SqliteEngine database(path);
     return BackUp(database, folder, now, progress);
@@ -111,23 +139,25 @@ void BackUpTo(const std::string& path, const std::string& target, const CopyProg
     if (IsThere(target)) {
         throw FileDraft::AlreadyThere(target);
     }
+    ClearFolder(fs::path(target).parent_path().string());
     if (IsServerAddress(path)) {
         return BackUpServer(path, target, progress);
     }
     SqliteEngine database(path);
     FileDraft draft(target);
-    FillDraft(database, draft, progress);
+    FillChecked(database, draft, progress);
     draft.PlaceNew();
 }
 
 void PruneBackups(const std::string& folder, const std::string& newest, const std::string& spared)
 {
     const auto made = BackupMoment(newest);
-    if (!made) {
+    std::vector<std::string> names;
+    if (!made || !Succeeds([&] { names = NamesIn(folder); })) { // the next pruning comes by it again
         return;
     }
-    for (const std::string& name : DispensableBackups(NamesIn(folder), *made)) {
-        std::error_code ignored; // the next pruning comes by it again
+    for (const std::string& name : DispensableBackups(names, *made)) {
+        std::error_code ignored; // as above
         const fs::path path = fs::path(folder) / name;
         if (name != newest && (spared.empty() || !fs::equivalent(path, spared, ignored))) {
             fs::remove(path, ignored);
@@ -138,25 +168,11 @@ void PruneBackups(const std::string& folder, const std::string& newest, const st
 void CopyBackup(const std::string& backup, const std::string& folder)
 {
     const std::string name = fs::path(backup).filename().string();
+    ClearFolder(folder);
     FileDraft draft((fs::path(folder) / name).string());
     CopyBytes(backup, draft);
     draft.Replace();
     PruneBackups(folder, name);
-}
-
-BackupContent ExamineBackup(const std::string& path)
-{
-    SqliteEngine engine(path, ReadOnly{});
-    engine.RefuseDamage();
-    RefuseForeignTables(engine);
-    BackupContent content;
-    content.employees = engine.Select("SELECT COUNT(*) FROM Employee")->Int64At(0);
-    content.records = engine.Select("SELECT COUNT(*) FROM TimeRecord")->Int64At(0);
-    const auto newest = engine.Select("SELECT MAX(StartTime) FROM TimeRecord");
-    if (!newest->IsNull(0) && newest->HasStoredDate(0)) {
-        content.newestShift = newest->DateTimeAt(0);
-    }
-    return content;
 }
 
 std::vector<std::string> BackupsIn(const std::string& folder)
@@ -167,7 +183,7 @@ std::vector<std::string> BackupsIn(const std::string& folder)
     return names;
 }
 
-BackupEntry CheckedBackup(const std::string& folder, const std::string& name)
+BackupEntry CheckedBackup(const std::string& folder, const std::string& name, const CopyProgress& progress)
 {
     const std::string path = folder + '/' + name;
     BackupEntry entry{name, 0, {}, {}};
@@ -175,7 +191,7 @@ BackupEntry CheckedBackup(const std::string& folder, const std::string& name)
     if (const auto size = fs::file_size(path, ignored); !ignored) {
         entry.size = static_cast<std::int64_t>(size);
     }
-    Succeeds([&] { entry.content = ExamineBackup(path); }, [&](const Failure& reason) { entry.fault = reason.Description(); });
+    Succeeds([&] { entry.content = ExamineBackup(path, progress); }, [&](const Failure& reason) { entry.fault = reason.Description(); });
     return entry;
 }
 

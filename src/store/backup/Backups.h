@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/text/DateTime.h"
+#include "store/backup/CheckedCopy.h"
 #include "store/sqlite/SqliteEngine.h"
 
 #include <cstdint>
@@ -11,7 +12,8 @@
 
 namespace ptk {
 
-// All paths are in the platform's own form. Where nothing else is said, failures are those of FileDraft and of the engine.
+// All paths are in the platform's own form. Where nothing else is said, failures are those of FileDraft and of the engine. Whatever makes a
+// backup first removes what killed backups left in its folder.
 
 // "<program folder>/backups".
 [[nodiscard]] std::string BackupFolder(const std::string& programFolder);
@@ -35,17 +37,6 @@ void PruneBackups(const std::string& folder, const std::string& newest, const st
 // made, since another disk may only not be there.
 void CopyBackup(const std::string& backup, const std::string& folder);
 
-struct BackupContent
-{
-    std::int64_t employees = 0;
-    std::int64_t records = 0;
-    std::optional<DateTime> newestShift; // its start
-};
-
-// Raises the failure that makes the file unusable: missing (14), no database of this program (26), damaged (11), in use (5). Others may
-// read it meanwhile; it stays as it is.
-[[nodiscard]] BackupContent ExamineBackup(const std::string& path);
-
 struct BackupEntry
 {
     std::string name;
@@ -54,10 +45,10 @@ struct BackupEntry
     std::string fault;                    // why
 };
 
-// By their names, newest first; empty without the folder.
+// By their names, newest first; empty without the folder. Raises 70 and the like of one that cannot be read.
 [[nodiscard]] std::vector<std::string> BackupsIn(const std::string& folder);
 
-// The backup of that name in the folder, checked whole.
-[[nodiscard]] BackupEntry CheckedBackup(const std::string& folder, const std::string& name);
+// The backup of that name in the folder, checked whole; without content also where `progress` ended it.
+[[nodiscard]] BackupEntry CheckedBackup(const std::string& folder, const std::string& name, const CopyProgress& progress = {});
 
 } // namespace ptk

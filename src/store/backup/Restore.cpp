@@ -1,5 +1,6 @@
 #include "store/backup/Restore.h"
 
+#include "platform/files/FailureOfFile.h"
 #include "platform/files/FileDraft.h"
 #include "platform/files/FileSteps.h"
 #include "store/backup/BackupNames.h"
@@ -27,6 +28,19 @@ bool IsSpoiled(const Failure& failure)
     return IsOfDatabase(failure) && (failure.Number() == engine::Damaged || failure.Number() == engine::NoDatabase);
 }
 
+// What the steps raise, with the file that it is about: failures of the engine are the database's, all others of the file that is written.
+template <typename Steps>
+void AboutDatabase(const std::string& database, const std::string& written, const Steps& steps)
+{
+    try {
+        steps();
+    } catch (const FailureOfFile&) {
+        throw;
+    } catch (const Failure& failure) {
+        throw FailureOfFile(failure, IsOfDatabase(failure) ? database : written);
+    }
+}
+
 void AddEntry(SqliteEngine& restored, const RestoreOrder& order)
 {
     if (!restored.HasTrail()) {
@@ -36,12 +50,13 @@ void AddEntry(SqliteEngine& restored, const RestoreOrder& order)
     restored.Write([&] { restored.AddWholeEntry("restore", order.file); });
 }
 
+// What fails as a database is the backup; as a file, the draft beside the database that it is to replace.
 void FillDraft(const FileDraft& draft, const RestoreOrder& order, const CopyProgress& progress)
 {
-    {
-        SqliteEngine(order.file, ReadOnly{}).CopyTo(draft.Path(), progress);
-    }
-    static_cast<void>(ExamineBackup(draft.Path()));
+    AboutDatabase(order.file, order.database, [&] {
+        SqliteEngine(order.file, ReadOnly{}).CopyTo(draft.Path(), PartOf(progress, 0, 2));
+        static_cast<void>(ExamineBackup(draft.Path(), PartOf(progress, 1, 2)));
+    });
     SqliteEngine restored(draft.Path());
     AddEntry(restored, order);
 }
@@ -127,10 +142,13 @@ std::string Restore(const RestoreOrder& order, const CopyProgress& progress)
     if (fs::is_symlink(order.database, ignored)) {
         target.database = fs::weakly_canonical(order.database).string(); // the link stays one
     }
-    FileDraft draft(target.database);
-    FillDraft(draft, target, progress);
-    const Present present = KeepPresent(target, progress);
-    draft.Replace();
+    Present present;
+    AboutDatabase(target.database, target.database, [&] {
+        FileDraft draft(target.database);
+        FillDraft(draft, target, PartOf(progress, 0, 2));
+        AboutDatabase(target.database, target.backups, [&] { present = KeepPresent(target, PartOf(progress, 1, 2)); });
+        draft.Replace();
+    });
     return present.kept;
 }
 

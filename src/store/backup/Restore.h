@@ -27,8 +27,8 @@ inline constexpr const char* kNoRestoreOnServer =
 // The file is checked first; it stays as it is. The present database is backed up; where it is spoiled, its bytes, with a journal or a log
 // beside it, are moved to `backups` under the name of a backup with "-damaged" in it. The restored one has one entry more in its trail,
 // where it has a trail. Answers the path of what was kept of the present database; empty where there was none. Raises what examining the
-// file raises, 5 when the database is held, and 9 when `progress` ended it; nothing has changed then, except that there may be a backup
-// more.
+// file raises, 5 when the database is held, 9 when `progress` ended it, and 61, 57, 70 of files, each with the path of the file that it is
+// about at its end; nothing has changed then, except that there may be a backup more.
 [[nodiscard]] std::string Restore(const RestoreOrder& order, const CopyProgress& progress = {});
 
 } // namespace ptk

@@ -8,8 +8,8 @@ namespace ptk {
 // An empty text is told as nothing, as another tool's writes are.
 struct Author
 {
-    std::string name;    // of the person, or the account
-    std::string program; // "ptk-admin" or "ptk-console"
+    std::string name;     // of the person, or the account
+    std::string program;  // "ptk-admin" or "ptk-console"
     std::string reason{}; // what the person says to it
 };
 

@@ -55,7 +55,7 @@ public:
     // As a step of Write.
     void Run(std::string_view statement);
 
-    // Likewise.
+    // A query inside the database, as a step of Write.
     void RunStored(std::string_view query, std::span<const Parameter> parameters);
 
     // On disk when it returns.

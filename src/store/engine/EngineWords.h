@@ -1,4 +1,4 @@
-// What the engines' SQL says differently; all other texts are the same for both.
+// What the SQL of a file's engine and of a server's says differently; all other texts of the program are the same for both.
 #pragma once
 
 #include <fmt/format.h>
@@ -16,24 +16,26 @@ struct EngineWords
     const char* caselessFirstName;
     const char* caselessLastName;
 
+    // Behind the order of a card's fetch: of records that it leaves equal, the one stored first. Empty where they come so anyway.
+    const char* thenByKey;
+
     // Of a time record: whether a search by its start would pass it over when a card is checked, as the index TimeRecordUnusual has it.
     const char* unusualPunch;
 
-    // Of a time record: whether both its times are moments, the end perhaps not set; and of one of these columns {0} the moment with its
-    // seconds cut off, to be compared, and the minute of its day.
+    // Of a time record: whether both its times are moments, the end perhaps not set, never what an index is searched by; and of one of
+    // these columns {0} the moment with its seconds cut off, to be compared, and the minute of its day.
     const char* readablePunch;
     const char* wholeMinute;
     const char* minuteOfDay;
 
+    // Whether a column {0} is one of the numbers :employees, "{1,2}": to ask for many people at once. Empty where a question costs nothing.
+    const char* amongEmployees;
+
     // Whether a column of date-times lies in the days :first to :last, of the forms YYYY-MM-DD and YYYY-MM-DD~.
     const char* inDays;
 
-    // A column of JSON, nothing where it holds none, and the text of its field {1}.
-    const char* json;
+    // Of a column {0} of JSON the text of its field {1}; nothing where it holds no JSON.
     const char* jsonField;
-
-    // Of the JSON object :json the name, the kind (null, text, object, array or another) and the text of each field, in their order.
-    const char* jsonFields;
 
     // Digits, whatever the type of the column that they are for.
     const char* number;

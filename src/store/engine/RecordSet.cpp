@@ -14,6 +14,7 @@ namespace ptk {
 namespace {
 
 constexpr std::size_t kLongestShown = 60; // bytes
+constexpr const char* kNotStored = "not stored as YYYY-MM-DD HH:MM:SS";
 
 std::string InQuotes(std::string_view text)
 {
@@ -150,7 +151,14 @@ bool RecordSet::BooleanAt(std::size_t column) const
 DateTime RecordSet::DateTimeAt(std::size_t column) const
 {
     const Cell& cell = At(column);
-    return cell.kind == Kind::DateTime ? DateTime::FromSeconds(cell.content) : Stored(cell).ToDateTime();
+    if (cell.kind == Kind::DateTime) {
+        return DateTime::FromSeconds(cell.content);
+    }
+    if (const auto moment = cell.kind == Kind::Text ? FromStoredText(TextOf(cell)) : std::nullopt) {
+        return *moment;
+    }
+    static_cast<void>(Stored(cell).ToDateTime()); // tells what is no date at all
+    throw Failure(failure::TypeMismatch, "PTK", kNotStored);
 }
 
 std::string_view RecordSet::TextAt(std::size_t column) const

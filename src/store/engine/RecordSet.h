@@ -44,7 +44,8 @@ public:
     [[nodiscard]] float SingleAt(std::size_t column) const;
     [[nodiscard]] bool BooleanAt(std::size_t column) const;
 
-    // No allocation for the stored form YYYY-MM-DD HH:MM:SS.
+    // Of the stored form YYYY-MM-DD HH:MM:SS of a real moment alone: any other text would sort and be searched as what it is not. No
+    // allocation.
     [[nodiscard]] DateTime DateTimeAt(std::size_t column) const;
 
     // Of text cells only (13); valid as long as the record set.
@@ -54,7 +55,7 @@ public:
     // null.
     [[nodiscard]] std::string Shown(std::size_t column) const;
 
-    // In the stored form YYYY-MM-DD HH:MM:SS, the only one that searches find.
+    // Whether it is a date-time, as text of the stored form YYYY-MM-DD HH:MM:SS alone: searches compare texts and pass over others.
     [[nodiscard]] bool HasStoredDate(std::size_t column) const;
 
     // How the engine hands the rows over; defined beside the engine.

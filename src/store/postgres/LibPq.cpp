@@ -38,6 +38,7 @@ LibPq Load()
     Find(library, "PQstatus", pq.status);
     Find(library, "PQsocket", pq.socket);
     Find(library, "PQserverVersion", pq.serverVersion);
+    Find(library, "PQparameterStatus", pq.parameterStatus);
     Find(library, "PQerrorMessage", pq.errorMessage);
     Find(library, "PQsetNoticeProcessor", pq.setNoticeProcessor);
     Find(library, "PQsetnonblocking", pq.setnonblocking);

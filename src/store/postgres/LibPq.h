@@ -18,6 +18,7 @@ struct LibPq
     decltype(&PQstatus) status;
     decltype(&PQsocket) socket;
     decltype(&PQserverVersion) serverVersion;
+    decltype(&PQparameterStatus) parameterStatus;
     decltype(&PQerrorMessage) errorMessage;
     decltype(&PQsetNoticeProcessor) setNoticeProcessor;
     decltype(&PQsetnonblocking) setnonblocking;

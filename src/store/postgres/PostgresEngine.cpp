@@ -1,5 +1,6 @@
 #include "store/postgres/PostgresEngine.h"
 
+#include "store/engine/Waiting.h"
 #include "store/postgres/PostgresSink.h"
 #include "store/postgres/PostgresStatement.h"
 #include "store/postgres/ServerFailure.h"
@@ -19,9 +20,8 @@ namespace ptk {
 namespace {
 
 constexpr std::chrono::seconds kPatience(5);
-constexpr std::chrono::seconds kShortPatience(1);      // of those who can as well ask later
-constexpr std::chrono::milliseconds kBetweenTries(50); // of asking what became of a write
-constexpr int kMostTries = 5;                          // of a write that stood in another's way
+constexpr std::chrono::seconds kShortPatience(1); // of those who can as well ask later
+constexpr int kMostTries = 5;                     // of a write that stood in another's way
 
 constexpr const char* kBeginRead = "BEGIN ISOLATION LEVEL REPEATABLE READ READ ONLY";
 constexpr const char* kBeginWrite = "BEGIN ISOLATION LEVEL READ COMMITTED"; // what a lock was waited for is seen as it is then
@@ -31,18 +31,19 @@ constexpr const char* kSign =
     "SELECT set_config('ptk.user', $1, true), set_config('ptk.program', $2, true), set_config('ptk.reason', $5, true), "
     "set_config('ptk.step', step::text, true), "
     "set_config('ptk.next', CASE WHEN $3 = '' THEN step::text ELSE '' END, true), set_config('TimeZone', $4, true), "
-    "step, pg_current_xact_id()::text "
+    "step, pg_current_xact_id()::text, current_setting('ptk.line', true) "
     "FROM (SELECT COALESCE(NULLIF($3, '')::bigint, nextval('_change_changeid_seq')) AS step) AS numbered";
 constexpr int kStepColumn = 6;
 constexpr int kNumberColumn = 7;
+constexpr int kLineColumn = 8;
 constexpr const char* kNewest = "SELECT COALESCE(NULLIF(current_setting('ptk.last', true), '')::bigint, 0)";
 
 // Asked in this order: what does not run any more is seen by the next question, or never.
 constexpr const char* kIsRunning = "SELECT EXISTS (SELECT 1 FROM pg_locks WHERE locktype = 'transactionid' AND mode = 'ExclusiveLock' AND "
                                    "transactionid = $1::xid8::xid)";
 constexpr const char* kIsStored = "SELECT EXISTS (SELECT 1 FROM _Change WHERE ChangeID >= $1::bigint AND Step = $1::bigint AND "
-                                  "xmin = $2::xid8::xid AND ChangedBy IS NOT DISTINCT FROM NULLIF($3, '') AND "
-                                  "Program IS NOT DISTINCT FROM NULLIF($4, ''))";
+                                  "xmin = $2::xid8::xid AND ChangedBy IS NOT DISTINCT FROM NULLIF(left($3::text, 500), '') AND "
+                                  "Program IS NOT DISTINCT FROM NULLIF(left($4::text, 500), ''))"; // no more of either is kept
 
 // As the server reads a time zone: "<+0530>-05:30", east of Greenwich counting down.
 std::string LocalTimeZone()
@@ -64,30 +65,32 @@ std::int64_t NumberIn(const ServerResult& result, int column = 0)
 } // namespace
 
 PostgresEngine::PostgresEngine(const std::string& address, WhenHeld whenHeld)
-    : m_address(address), m_patience(whenHeld == WhenHeld::Wait ? kPatience : kShortPatience)
+    : m_address(address), m_patience(whenHeld == WhenHeld::Wait ? LinePatience(kPatience) : LinePatience(kShortPatience))
 {
     Connect();
 }
 
-PostgresEngine::PostgresEngine(const std::string& address, Unhurried /*tag*/) : m_address(address)
+PostgresEngine::PostgresEngine(const std::string& address, Unhurried unhurried)
+    : m_address(address), m_patience(std::nullopt, unhurried.silence)
 {
     Connect();
 }
 
-PostgresEngine::PostgresEngine(const std::string& address, NewStructure /*tag*/) : m_address(address), m_checks(false)
+PostgresEngine::PostgresEngine(const std::string& address, NewStructure /*tag*/)
+    : m_address(address), m_patience(std::nullopt), m_checks(false)
 {
     Connect();
 }
 
 PostgresEngine::~PostgresEngine() = default;
 
-void PostgresEngine::Connect()
+void PostgresEngine::Connect(Moment until)
 {
     m_formerRoundTrips = RoundTrips();
     m_line.reset();
     m_begun = false;
     m_listens = false;
-    auto line = std::make_unique<ServerLine>(m_address, m_patience);
+    auto line = std::make_unique<ServerLine>(m_address, m_patience, until);
     if (m_checks) {
         RequireStructure(*line);
     }
@@ -114,14 +117,21 @@ void PostgresEngine::RequireOpen() const
     }
 }
 
+// Who comes back while a question is being waited for finds it as it is.
 void PostgresEngine::Close()
 {
+    if (waiting::IsTurn()) {
+        return;
+    }
     Release();
     m_open = false;
 }
 
 bool PostgresEngine::Reopen()
 {
+    if (waiting::IsTurn()) {
+        throw ServerFailure(engine::Busy, "the database is being waited for already");
+    }
     RequireLine();
     m_open = true;
     m_transaction = Transaction::Read;
@@ -141,6 +151,9 @@ void PostgresEngine::GiveUp() noexcept
 // Nobody waits for the answer: what could go wrong has then ended the transaction as well.
 void PostgresEngine::Release() noexcept
 {
+    if (waiting::IsTurn()) {
+        return;
+    }
     if (std::exchange(m_begun, false)) {
         try {
             m_line->SendUnheard("ROLLBACK");
@@ -169,23 +182,28 @@ ServerCommand PostgresEngine::Beginning() const
     return {m_transaction == Transaction::Read ? kBeginRead : kBeginWrite, {}, true, false};
 }
 
-// A write is signed as late as it can be, with its first statement that may change something: the rows that it locked to look at are its
+// A write is signed as late as it can be, with its first statement that is to change something: the rows that it locked to look at are its
 // own by then, so that the entries of a row have their numbers in the order of its changes.
-bool PostgresEngine::IsToBeSigned(const ServerCommand& command) const
+bool PostgresEngine::IsToBeSigned(Intent intent) const
 {
-    return m_transaction == Transaction::Write && m_number.empty() && !command.sql.starts_with("SELECT");
+    return m_transaction == Transaction::Write && m_number.empty() && intent == Intent::Change;
 }
 
 void PostgresEngine::TakeSigning(const ServerResult& signing)
 {
+    if (signing.Text(0, kLineColumn) != m_line->Token()) {
+        throw ServerFailure(engine::CannotOpen,
+                            "something between the program and the server hands each change to another session; nothing "
+                            "was stored. Connect to the server itself");
+    }
     TookStep(NumberIn(signing, kStepColumn));
     m_number = signing.Text(0, kNumberColumn);
 }
 
-ServerResult PostgresEngine::Ask(const ServerCommand& command)
+ServerResult PostgresEngine::Ask(const ServerCommand& command, Intent intent)
 {
     RequireOpen();
-    const bool isToBeSigned = IsToBeSigned(command);
+    const bool isToBeSigned = IsToBeSigned(intent);
     std::vector<ServerCommand> commands;
     if (!m_begun) {
         commands.push_back(Beginning());
@@ -216,20 +234,22 @@ void PostgresEngine::RequireSigned()
 // before, as Reopen just did.
 std::vector<ServerResult> PostgresEngine::SendFirst(const std::vector<ServerCommand>& commands)
 {
+    const auto patient = std::chrono::steady_clock::now() + m_patience.whole.value_or(m_patience.silence);
+    const Moment until = m_patience.whole ? Moment(patient) : std::nullopt;
     try {
         if (m_line == nullptr) {
-            Connect();
+            Connect(until);
         }
         m_begun = true;
-        return m_line->Send(commands);
+        return m_line->Send(commands, until);
     } catch (const ServerFailure& failure) {
-        if (!failure.IsLost()) {
+        if (!failure.IsLost() || std::chrono::steady_clock::now() >= patient) {
             throw;
         }
     }
-    Connect();
+    Connect(until);
     m_begun = true;
-    return m_line->Send(commands);
+    return m_line->Send(commands, until);
 }
 
 void PostgresEngine::Write(const std::function<void()>& steps)
@@ -267,7 +287,7 @@ void PostgresEngine::CommitWrite()
         return Release();
     }
     try {
-        const auto results = m_line->Send({{kNewest, {}, true, false}, {"COMMIT", {}, true, false}});
+        const auto results = m_line->Finish({{kNewest, {}, true, false}, {"COMMIT", {}, true, false}});
         TookStep(NumberIn(results.front()) == 0 ? 0 : StepNumber());
     } catch (const ServerFailure& failure) {
         if (!failure.IsLost()) {
@@ -288,13 +308,14 @@ void PostgresEngine::Settle(const ServerFailure& lost)
     }
     const auto until = std::chrono::steady_clock::now() + kPatience;
     do {
-        switch (FateOfWrite()) {
+        switch (FateOfWrite(until)) {
         case Fate::Stored:
             return;
         case Fate::Dropped:
             throw lost;
         case Fate::Unknown:
-            std::this_thread::sleep_for(kBetweenTries);
+            std::this_thread::sleep_for(waiting::kSlice);
+            static_cast<void>(waiting::Turn()); // not to be given up: something was stored, or not
         }
     } while (std::chrono::steady_clock::now() < until);
     throw ServerFailure(engine::Lost, "the connection to the server was lost while a change was stored, and whether it was stored is not "
@@ -302,13 +323,14 @@ void PostgresEngine::Settle(const ServerFailure& lost)
 }
 
 // The server's own word on the transaction's number is not asked for: one that crashed gives numbers of what it forgot to others.
-PostgresEngine::Fate PostgresEngine::FateOfWrite()
+PostgresEngine::Fate PostgresEngine::FateOfWrite(Moment until)
 {
     try {
-        Connect();
+        Connect(until);
         const auto results =
             m_line->Send({{kIsRunning, {m_number}, false, false},
-                          {kIsStored, {std::to_string(StepNumber()), m_number, Signature().name, Signature().program}, false, false}});
+                          {kIsStored, {std::to_string(StepNumber()), m_number, Signature().name, Signature().program}, false, false}},
+                         until);
         if (results.at(0).Text(0, 0) == "t") {
             return Fate::Unknown;
         }
@@ -395,7 +417,7 @@ std::int64_t PostgresEngine::LastKey()
 void PostgresEngine::Commit()
 {
     if (std::exchange(m_begun, false)) {
-        static_cast<void>(m_line->Send({{"COMMIT", {}, true, false}}));
+        static_cast<void>(m_line->Finish({{"COMMIT", {}, true, false}}));
     }
     m_transaction = Transaction::Read;
 }

@@ -4,6 +4,7 @@
 #include "store/engine/Engine.h"
 #include "store/engine/WhenHeld.h"
 #include "store/postgres/PostgresWords.h"
+#include "store/postgres/ServerConnection.h"
 
 #include <chrono>
 #include <map>
@@ -21,14 +22,23 @@ struct NewStructure
 {
 };
 
-// Tells that the work takes its time: nothing of it is given up for taking long.
+// Tells that the work takes its time: nothing of it is given up for taking long, only for a server that says nothing at all.
 struct Unhurried
 {
+    std::chrono::milliseconds silence = std::chrono::seconds(60);
+};
+
+// What a statement is asked for.
+enum class Intent
+{
+    Read,
+    Change
 };
 
 // Failures carry the source "PostgreSQL". The hold is a transaction that only reads, and begins with the first question: what is asked in
 // it is of one moment, and nobody waits for it. A write is a transaction of its own; it waits for those who write the same rows, never for
-// others. No answer is waited for longer than five seconds.
+// others. No answer is waited for longer than five seconds, a second try over a new line included; what is done meanwhile is
+// WhileWaiting's.
 //
 // The connection outlives Close. One that was lost is made anew where nothing can have been done over the old one: before an operation's
 // first answer. A write whose end was not heard is asked for over a new connection.
@@ -38,9 +48,9 @@ public:
     // Raises 14 (the server cannot be reached or does not let in) or 26 (no database of this program, or of a newer structure).
     explicit PostgresEngine(const std::string& address, WhenHeld whenHeld = WhenHeld::Wait);
 
-    PostgresEngine(const std::string& address, Unhurried);
+    PostgresEngine(const std::string& address, Unhurried unhurried);
 
-    // Of any database, whatever is in it; waits as long as it takes.
+    // Of any database, whatever is in it; as unhurried.
     PostgresEngine(const std::string& address, NewStructure);
     ~PostgresEngine() override;
 
@@ -66,7 +76,10 @@ public:
     std::unique_ptr<RowSink> Fill(const StoredTable& table) override;
 
     // One statement within the hold or the write.
-    [[nodiscard]] ServerResult Ask(const ServerCommand& command);
+    [[nodiscard]] ServerResult Ask(const ServerCommand& command, Intent intent = Intent::Read);
+
+    // Within the steps of Write, or since BeginMany.
+    [[nodiscard]] bool IsWriting() const { return m_transaction != Transaction::Read; }
 
     // How often an answer was waited for, over all connections.
     [[nodiscard]] std::int64_t RoundTrips() const;
@@ -89,12 +102,14 @@ private:
         Unknown // it still runs, or the server cannot be asked
     };
 
-    void Connect();
+    using Moment = std::optional<std::chrono::steady_clock::time_point>;
+
+    void Connect(Moment until = std::nullopt);
     void RequireLine();
     void RequireOpen() const;
     void Begin(Transaction transaction);
     [[nodiscard]] ServerCommand Beginning() const;
-    [[nodiscard]] bool IsToBeSigned(const ServerCommand& command) const;
+    [[nodiscard]] bool IsToBeSigned(Intent intent) const;
     void TakeSigning(const ServerResult& signing);
     void RequireSigned();
     [[nodiscard]] ServerCommand Signing() const;
@@ -102,11 +117,11 @@ private:
     void WriteOnce(const std::function<void()>& steps);
     void CommitWrite();
     void Settle(const ServerFailure& lost);
-    [[nodiscard]] Fate FateOfWrite();
+    [[nodiscard]] Fate FateOfWrite(Moment until);
     void Release() noexcept;
 
     std::string m_address;
-    std::optional<std::chrono::milliseconds> m_patience;
+    LinePatience m_patience;
     std::unique_ptr<ServerLine> m_line;
     bool m_checks = true; // the structure of what it connects to
     bool m_open = true;

@@ -26,12 +26,19 @@ std::string CopyStatement(const StoredTable& table)
 struct CopyField
 {
     std::string& lines;
+    int place;
 
     void operator()(std::monostate) const { lines += "\\N"; }
     void operator()(std::int64_t value) const { fmt::format_to(std::back_inserter(lines), "{}", value); }
 
-    // The shortest digits of the single that the number is read as, "inf" and "nan" included.
-    void operator()(double value) const { fmt::format_to(std::back_inserter(lines), "{}", static_cast<float>(value)); }
+    // The shortest digits of the single that the number is read as.
+    void operator()(double value) const
+    {
+        if (!std::isfinite(value)) {
+            throw Unfit{place, "no finite number"};
+        }
+        fmt::format_to(std::back_inserter(lines), "{}", static_cast<float>(value));
+    }
     void operator()(std::string_view value) const
     {
         for (const char c : value) {
@@ -70,7 +77,8 @@ void PostgresSink::Add(const Statement& from)
         if (place > 0) {
             m_lines += '\t';
         }
-        std::visit(CopyField{m_lines}, FitInto(column, from, place++));
+        std::visit(CopyField{m_lines, place}, FitInto(column, from, place));
+        ++place;
     }
     m_lines += '\n';
     if (m_lines.size() >= kPortion) {

@@ -120,6 +120,9 @@ PostgresStatement::PostgresStatement(PostgresEngine& engine, std::string_view sq
     : m_engine(engine), m_text(TranslateForServer(sql)), m_values(m_text.parameters.size()), m_assigned(m_text.parameters.size()),
       m_keep(keep)
 {
+    if (!HoldsStatement(sql)) {
+        throw ServerFailure(engine::Refused, "there is no statement to run");
+    }
 }
 
 void PostgresStatement::Bind(const std::string& name, const Value& value)
@@ -150,26 +153,33 @@ void PostgresStatement::RefuseUnlessAction()
 }
 
 // What is run again is worth preparing.
-ServerResult PostgresStatement::Ask()
+ServerResult PostgresStatement::Ask(Intent intent)
 {
     RefuseMissingParameters();
-    ServerResult result = m_engine.Ask({m_text.sql, m_values, m_keep, false});
+    ServerResult result = m_engine.Ask({m_text.sql, m_values, m_keep, false}, intent);
     m_keep = true;
     return result;
 }
 
+// A transaction that only reads lets nothing else be done.
 ServerResult PostgresStatement::AskForRows()
 {
-    ServerResult result = Ask();
-    if (!result.HasRows()) {
-        throw ServerFailure(engine::Refused, "the statement answers no rows or changes the database");
+    try {
+        ServerResult result = Ask(Intent::Read);
+        if (result.HasRows()) {
+            return result;
+        }
+    } catch (const ServerFailure& failure) {
+        if (!failure.TakesNoChanges() || m_engine.IsWriting()) {
+            throw;
+        }
     }
-    return result;
+    throw ServerFailure(engine::Refused, "the statement answers no rows or changes the database");
 }
 
 void PostgresStatement::Run()
 {
-    if (Ask().HasRows()) {
+    if (Ask(Intent::Change).HasRows()) {
         throw ServerFailure(engine::Refused, "the statement only answers rows");
     }
 }

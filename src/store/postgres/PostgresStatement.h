@@ -10,6 +10,7 @@
 namespace ptk {
 
 class PostgresEngine;
+enum class Intent;
 
 // Failures carry the source "PostgreSQL". All rows of an answer are there at once, so that other statements can be run between them.
 class PostgresStatement final : public Statement
@@ -32,7 +33,7 @@ public:
 
 private:
     void RefuseMissingParameters() const;
-    [[nodiscard]] ServerResult Ask();
+    [[nodiscard]] ServerResult Ask(Intent intent);
     [[nodiscard]] ServerResult AskForRows();
 
     PostgresEngine& m_engine;

@@ -9,19 +9,15 @@ inline constexpr EngineWords kPostgresWords{
     .caseless = "lower({0} COLLATE \"C\")",
     .caselessFirstName = "lower(COALESCE(FirstName, ''))",
     .caselessLastName = "lower(COALESCE(LastName, ''))",
+    .thenByKey = ", TimeRecord.TimeRecordID",
     .unusualPunch = "CASE WHEN StartTime IS NOT NULL THEN StartTime = TIMESTAMP '1899-12-30 00:00:00' "
                     "OR EndTime NOT BETWEEN StartTime AND StartTime + interval '1 day' ELSE true END",
     .readablePunch = "(StartTime <> TIMESTAMP '1899-12-30 00:00:00' AND EndTime IS NOT NULL)",
     .wholeMinute = "date_trunc('minute', {0})",
     .minuteOfDay = "CAST(extract(hour FROM {0}) * 60 + extract(minute FROM {0}) AS integer)",
+    .amongEmployees = "{0} = ANY(CAST(:employees AS _int4))",
     .inDays = "({0} >= CAST(left(:first, 10) AS date) AND {0} < CAST(left(:last, 10) AS date) + 1)",
-    .json = "{0}",
-    .jsonField = "({0} ->> '{1}')",
-    .jsonFields = "SELECT one.key, CASE json_typeof(one.value) WHEN 'string' THEN 'text' ELSE json_typeof(one.value) END, "
-                  "CASE json_typeof(one.value) WHEN 'object' THEN one.value ->> 'blob' ELSE said.value END "
-                  "FROM json_each(CAST(:json AS json)) WITH ORDINALITY AS one (key, value, place) "
-                  "JOIN json_each_text(CAST(:json AS json)) WITH ORDINALITY AS said (key, value, place) ON said.place = one.place "
-                  "ORDER BY one.place",
+    .jsonField = "(({0} ->> CAST('{1}' AS text)) COLLATE \"C\")",
     .number = "'{0}'",
     .findTable = "",
     .findReasons = "",

@@ -1,5 +1,10 @@
 #include "store/postgres/ServerAddress.h"
 
+#include "platform/Succeeds.h"
+#include "store/postgres/ServerOptions.h"
+
+#include <fmt/format.h>
+
 #include <map>
 #include <utility>
 
@@ -24,6 +29,26 @@ std::map<std::string, std::string>& ToldPasswords()
 bool IsServerAddress(std::string_view name)
 {
     return name.starts_with("postgresql:") || name.starts_with("postgres:"); // misspelt behind that, it is refused rather than made a file
+}
+
+// Behind a password that was not written as it must be, its rest stands where host and database belong.
+std::string SaidServer(const std::string& address)
+{
+    std::string said = "a server";
+    Succeeds([&] {
+        const ServerOptions options(address);
+        const std::string host = options.Of("host").empty() ? options.Of("hostaddr") : options.Of("host");
+        const std::string database = options.Of("dbname");
+        if ((host + database).find('@') == std::string::npos) {
+            said = fmt::format("{} on {}", database.empty() ? "the database" : database, host.empty() ? "this computer" : host);
+        }
+    });
+    return said;
+}
+
+std::string SaidDatabase(const std::string& name)
+{
+    return IsServerAddress(name) ? SaidServer(name) : name;
 }
 
 void AskForPasswordsWith(AskPassword ask)

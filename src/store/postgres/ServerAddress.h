@@ -11,6 +11,12 @@ namespace ptk {
 // Whether the name of a database is such an address rather than a file's.
 [[nodiscard]] bool IsServerAddress(std::string_view name);
 
+// Such an address as it is shown to people and written into logs, "ptk on books.example": nothing of it but host and database.
+[[nodiscard]] std::string SaidServer(const std::string& address);
+
+// Such an address so, any other name as it is.
+[[nodiscard]] std::string SaidDatabase(const std::string& name);
+
 // Asked for the password of an address when the server wants one and neither the environment nor the user's password file has it; nothing
 // when the person would rather not say. Called at most once for an address that then lets in: the program remembers it while it runs, and
 // writes it nowhere.

@@ -4,6 +4,9 @@
 #include "store/engine/RecordSet.h"
 #include "store/engine/Schema.h"
 #include "store/postgres/PostgresEngine.h"
+#include "store/postgres/ServerStrangers.h"
+
+#include <algorithm>
 
 namespace ptk {
 
@@ -11,23 +14,42 @@ namespace {
 
 constexpr const char* kEncoding = "SELECT current_setting('server_encoding')";
 constexpr const char* kTables =
-    "SELECT COUNT(*) FROM pg_class WHERE relnamespace = CAST(current_schema() AS regnamespace) AND relname IN ("
-    "'company', 'employee', 'timerecord', '_system', '_checklimits', '_storedquery', '_change', '_structure', '_payday')";
+    "SELECT COUNT(*) FROM pg_class JOIN pg_namespace ON pg_namespace.oid = relnamespace AND nspname = current_schema() WHERE relname IN "
+    "('company', 'employee', 'timerecord', '_system', '_checklimits', '_storedquery', '_change', '_structure', '_payday')";
+constexpr const char* kAlone = "SELECT pg_try_advisory_xact_lock(CAST(8074110 AS bigint))"; // a number that makers of tables agreed upon
 constexpr const char* kRoles = "SELECT COUNT(*) FROM pg_roles WHERE rolname IN ('ptk_office', 'ptk_reader')";
 constexpr std::int32_t kRoleCount = 2;
 
-void Refuse(const char* why)
+void Refuse(const std::string& why)
 {
     throw Failure(failure::PathFileAccess, "PTK", why);
 }
 
 void RefuseUnfit(PostgresEngine& engine)
 {
+    if (!engine.Select(kAlone)->BooleanAt(0)) {
+        Refuse("Somebody else is making the program's tables in this database.");
+    }
     if (engine.Select(kEncoding)->TextAt(0) != "UTF8") {
         Refuse("The server's database must be in the encoding UTF8, for names of any script.");
     }
     if (engine.Select(kTables)->Int32At(0) != 0) {
         Refuse("The server's database already holds tables of these names.");
+    }
+}
+
+// Whoever made these, or could make more, could have others run them.
+void RefuseStrangers(PostgresEngine& engine)
+{
+    const ServerStrangers strangers = FindStrangers(engine);
+    for (const auto& names : {strangers.functions, strangers.operators}) {
+        if (!names.empty()) {
+            Refuse("The schema for the tables holds functions or operators that are not the program's: " + names.front());
+        }
+    }
+    if (std::find(strangers.makers.begin(), strangers.makers.end(), "PUBLIC") != strangers.makers.end()) {
+        Refuse("Everybody may make objects in the schema for the tables. Its owner must revoke that right first: "
+               "REVOKE CREATE ON SCHEMA public FROM PUBLIC");
     }
 }
 
@@ -42,6 +64,7 @@ ServerRoles CreateServerDatabase(const std::string& address, const std::function
          {kServerSchemaSql, kServerStoredQueriesSql, kServerTrailFunctionsSql, kServerTrailSql, kServerStructure3Sql, kServerRolesSql}) {
         engine.RunScript(sql);
     }
+    RefuseStrangers(engine);
     if (fill) {
         engine.Untold([&] { fill(engine); }); // what a new database starts with is no change
     }

@@ -15,8 +15,9 @@ enum class ServerRoles
     Missing // whoever makes the database may not make roles
 };
 
-// All tables, queries, triggers and rights, and what `fill` adds, in one transaction, or nothing. The database must be there, in UTF8 and
-// without any table of these names. Raises 14 where it cannot be reached, and 75 where it is not so.
+// All tables, queries, triggers and rights, and what `fill` adds, in one transaction, or nothing. The database must be there, in UTF8,
+// without any table of these names and any function or operator of others, and nobody else may be making the same; afterwards only its
+// owner may make anything in the schema. Raises 14 where it cannot be reached, and 75 where it is not so.
 ServerRoles CreateServerDatabase(const std::string& address, const std::function<void(PostgresEngine&)>& fill);
 
 } // namespace ptk

@@ -8,11 +8,13 @@ namespace ptk {
 
 namespace {
 
+constexpr std::string_view kTakesNoChanges = "25006"; // also where only the transaction takes none
+
 struct Meaning
 {
     std::string_view state; // of one fault, or the two characters of a class
     std::int32_t number;
-    const char* words; // nullptr: the server's own
+    const char* words; // nullptr: the server's own, which also follow those that end in a blank
 };
 
 // The first that fits.
@@ -27,7 +29,8 @@ constexpr Meaning kMeanings[] = {
     {"53200", engine::NoMemory, "the server is out of memory"},
     {"53", engine::CannotOpen, "the server takes no more connections"},
     {"42501", engine::ReadOnly, nullptr},
-    {"25006", engine::Refused, "the statement answers no rows or changes the database"},
+    {kTakesNoChanges, engine::ReadOnly, "the server takes no changes"},
+    {"54000", engine::Constraint, "a text is longer than an index of the server takes: "},
     {"28", engine::CannotOpen, nullptr},
     {"3D", engine::CannotOpen, nullptr},
     {"23", engine::Constraint, nullptr},
@@ -60,10 +63,15 @@ ServerFailure ServerFailure::OfState(std::string_view state, std::string_view me
             break;
         }
     }
-    ServerFailure failure(meaning.number, meaning.words != nullptr ? meaning.words : OneLine(message));
+    std::string words = meaning.words == nullptr ? "" : meaning.words;
+    if (words.empty() || words.back() == ' ') {
+        words += OneLine(message);
+    }
+    ServerFailure failure(meaning.number, std::move(words));
     failure.m_lost = state.starts_with("57P") || state.starts_with("08") || state == "25P03";
     failure.m_again = state == "40001" || state == "40P01";
     failure.m_missingTable = state == "42P01";
+    failure.m_takesNoChanges = state == kTakesNoChanges;
     return failure;
 }
 

@@ -29,10 +29,14 @@ public:
     // The table that was asked for is not there.
     [[nodiscard]] bool IsMissingTable() const { return m_missingTable; }
 
+    // The server or this transaction is for reading only.
+    [[nodiscard]] bool TakesNoChanges() const { return m_takesNoChanges; }
+
 private:
     bool m_lost = false;
     bool m_again = false;
     bool m_missingTable = false;
+    bool m_takesNoChanges = false;
 };
 
 } // namespace ptk

@@ -1,10 +1,10 @@
-// The line to a server: one connection, and what goes over it and back in time.
+// The line to a server: what goes over a connection and back.
 #pragma once
 
+#include "store/postgres/ServerConnection.h"
 #include "store/postgres/ServerFailure.h"
 #include "store/postgres/ServerResult.h"
 
-#include <chrono>
 #include <cstdint>
 #include <map>
 #include <optional>
@@ -26,20 +26,24 @@ struct ServerCommand
     bool describe = false; // not run: the result has its columns and no rows
 };
 
-// Everything that waits does so for no longer than its patience and raises 5, 9 or 10 then; a line that was waited for in vain is lost.
-// After a failure that the server told the line goes on.
+// Everything that waits does so in slices (WhileWaiting), for no longer than its patience, and raises 5, 9 or 10 then; a line that was
+// waited for in vain is lost. So is one that answers what was not asked for, or more than memory should hold (7). After a failure that the
+// server told the line goes on.
 class ServerLine
 {
 public:
-    // Raises 14 when the server cannot be reached or does not let in, and for an address with a password in it: what stands in the
-    // configuration is read by too many. Without a patience it waits as long as it takes.
-    ServerLine(const std::string& address, std::optional<std::chrono::milliseconds> patience);
-    ~ServerLine();
-    ServerLine(const ServerLine&) = delete;
-    ServerLine& operator=(const ServerLine&) = delete;
+    using Clock = ServerConnection::Clock;
 
-    // All in one round trip, one after the other up to the first that fails, whose failure is raised. Answers one result each.
-    std::vector<ServerResult> Send(const std::vector<ServerCommand>& commands);
+    // Raises 14 when the server cannot be reached or does not let in within five seconds, or its patience where that is less, and what
+    // ServerOptions raises of the address. `until` is a moment before which all of it is to be done.
+    ServerLine(const std::string& address, LinePatience patience, std::optional<Clock::time_point> until = std::nullopt);
+
+    // All in one round trip, one after the other up to the first that fails, whose failure is raised. Answers one result each. The first
+    // one also shows whether this is a session of its own with the settings that were asked for; raises 14 where it is not.
+    std::vector<ServerResult> Send(const std::vector<ServerCommand>& commands, std::optional<Clock::time_point> until = std::nullopt);
+
+    // The same for what ends a transaction: that wait is not given up, since what was given up would be done all the same.
+    std::vector<ServerResult> Finish(const std::vector<ServerCommand>& commands);
 
     // The same without waiting for the answer, which nobody needs.
     void SendUnheard(const char* sql);
@@ -54,21 +58,18 @@ public:
     void EndCopy();
 
     // False where it was lost: also noticed while nothing was asked. Does not wait.
-    [[nodiscard]] bool IsAlive();
+    [[nodiscard]] bool IsAlive() { return m_connection.IsAlive(); }
 
     // What LISTEN promised, in the order of the commits that told it; each once. Does not wait for more.
     [[nodiscard]] std::vector<std::string> TakeNotices();
+
+    // What the setting ptk.line of this session holds, and of no other.
+    [[nodiscard]] const std::string& Token() const { return m_connection.Token(); }
 
     // How often an answer was waited for.
     [[nodiscard]] std::int64_t RoundTrips() const { return m_roundTrips; }
 
 private:
-    using Clock = std::chrono::steady_clock;
-    struct Ending
-    {
-        void operator()(PGconn* connection) const { Library().finish(connection); }
-    };
-
     // An answer that is to come.
     struct Awaited
     {
@@ -76,34 +77,26 @@ private:
         bool wanted = true;
     };
 
-    void Connect(const std::string& address);
-    void Try(const std::string& address, const std::optional<std::string>& password);
-    void AwaitConnection();
-    void Begin();
+    [[nodiscard]] std::vector<ServerResult> Ask(const std::vector<ServerCommand>& commands);
+    void RequireOwnSession(const ServerResult& told);
+    void Verify();
     void Post(const ServerCommand& command);
     void PostText(const ServerCommand& command);
     void PostPrepared(const ServerCommand& command);
     [[nodiscard]] std::string NameOf(const std::string& sql);
     void SendOff();
-    void Flush();
     [[nodiscard]] std::optional<ServerFailure> HearAll();
     void RaiseAfterScript(const std::optional<ServerFailure>& failure);
-    void Wait(short events);
-    [[nodiscard]] ServerResult Next();
     [[nodiscard]] std::vector<ServerResult> Hear();
     void HearUnheard();
-    void Require(int done);
-    [[noreturn]] void Lose(const std::string& message);
 
-    std::unique_ptr<PGconn, Ending> m_connection;
+    ServerConnection m_connection;
     std::map<std::string, std::string, std::less<>> m_prepared; // names by statements
     std::vector<Awaited> m_awaited;                             // what was sent and not answered yet
-    std::optional<std::chrono::milliseconds> m_patience;
-    Clock::time_point m_until;
     std::int64_t m_roundTrips = 0;
     std::int32_t m_names = 0; // given so far
+    bool m_verified = false;  // the session is its own
     bool m_unheard = false;   // nobody waits for what is awaited
-    bool m_lost = false;
 };
 
 } // namespace ptk

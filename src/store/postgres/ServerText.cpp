@@ -10,10 +10,6 @@ namespace ptk {
 
 namespace {
 
-// Of records that this order of the fetch leaves equal a file answers the one that was stored first, and so shall a server.
-constexpr std::string_view kFetchOrder = "ORDER BY TimeRecord.StartTime, TimeRecord.EndTime;";
-constexpr const char* kThenByKey = ", TimeRecord.TimeRecordID";
-
 bool IsColon(const std::vector<Token>& tokens, std::size_t at)
 {
     return at < tokens.size() && tokens[at].kind == TokenKind::Sign && tokens[at].text == ":";
@@ -85,11 +81,14 @@ ServerText Rewritten(std::string_view statement)
 
 ServerText TranslateForServer(std::string_view statement)
 {
-    ServerText text = IsTheSameOnAServer(statement) ? ServerText{std::string(statement), {}} : Rewritten(statement);
-    if (text.sql.ends_with(kFetchOrder)) {
-        text.sql.insert(text.sql.size() - 1, kThenByKey);
-    }
-    return text;
+    return IsTheSameOnAServer(statement) ? ServerText{std::string(statement), {}} : Rewritten(statement);
+}
+
+bool HoldsStatement(std::string_view text)
+{
+    const std::vector<Token> tokens = SplitTokens(text);
+    return std::any_of(tokens.begin(), tokens.end(),
+                       [](const Token& token) { return token.kind != TokenKind::Blank && token.text != ";"; });
 }
 
 } // namespace ptk

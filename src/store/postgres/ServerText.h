@@ -18,4 +18,7 @@ struct ServerText
 // writes those without: its tables are the file's, whatever the case of their letters.
 [[nodiscard]] ServerText TranslateForServer(std::string_view statement);
 
+// False for one of blanks, comments and semicolons alone, which a server runs as if it had done something.
+[[nodiscard]] bool HoldsStatement(std::string_view text);
+
 } // namespace ptk

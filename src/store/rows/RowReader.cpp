@@ -155,19 +155,11 @@ void RowReader::Text(std::string& field)
     });
 }
 
-void RowReader::ReadMoment(std::size_t column, DateTime& field) const
-{
-    field = m_rows.DateTimeAt(column);
-    if (m_found != nullptr && !m_rows.HasStoredDate(column)) {
-        Doubt("not stored as YYYY-MM-DD HH:MM:SS");
-    }
-}
-
 void RowReader::Date(DateTime& field, const char* doubtWhenNull)
 {
     Take([&](std::size_t column) {
         if (!m_rows.IsNull(column)) {
-            ReadMoment(column, field);
+            field = m_rows.DateTimeAt(column);
         } else if (doubtWhenNull != nullptr) {
             Doubt(doubtWhenNull);
         }
@@ -257,8 +249,8 @@ void RowReader::ReadOptions(OptionsRow& row)
     Take([&](std::size_t column) { row.ProgramName = m_rows.Field(column).ToText(); });
     Take([&](std::size_t column) { row.ProgramVersion = m_rows.Field(column).ToText(); });
     Take([&](std::size_t column) { row.PeriodLength = m_rows.Int16At(column); });
-    Take([&](std::size_t column) { ReadMoment(column, row.AutoShiftStartTime); });
-    Take([&](std::size_t column) { ReadMoment(column, row.AutoShiftEndTime); });
+    Take([&](std::size_t column) { row.AutoShiftStartTime = m_rows.DateTimeAt(column); });
+    Take([&](std::size_t column) { row.AutoShiftEndTime = m_rows.DateTimeAt(column); });
 }
 
 } // namespace ptk

@@ -59,7 +59,6 @@ private:
     void Text(std::string& field);
     void Date(DateTime& field, const char* doubtWhenNull = nullptr);
     void ShiftTime(DateTime& field);
-    void ReadMoment(std::size_t column, DateTime& field) const;
     void Flag(bool& field);
     void Doubt(const char* why) const;
     [[nodiscard]] std::string Place(std::size_t column, const std::string& why) const;

@@ -22,6 +22,9 @@ constexpr const char* kNewer = "the database file was made by a newer version of
 constexpr std::chrono::seconds kPatience(1);
 constexpr std::chrono::milliseconds kBetweenTries(5);
 
+constexpr auto kReplaced = "the database file was replaced meanwhile, by a restore for instance; the next try opens the new one";
+constexpr auto kNotYetSafe = "the change is done, but may not survive a power cut";
+
 // A relative path could be one of the engine's special names.
 std::string PlainPath(const std::string& path)
 {
@@ -63,6 +66,15 @@ SQLite::Database OpenFile(const std::string& path, Connection::Access access)
     }
 }
 
+// A view in a file may ask for texts of any length: some of them take a step of the engine each and yet minutes.
+void BoundTexts(sqlite3* database)
+{
+    constexpr int kLongestText = 64 << 20; // bytes
+    constexpr int kLongestPattern = 1000;  // bytes
+    sqlite3_limit(database, SQLITE_LIMIT_LENGTH, kLongestText);
+    sqlite3_limit(database, SQLITE_LIMIT_LIKE_PATTERN_LENGTH, kLongestPattern);
+}
+
 } // namespace
 
 Connection::Connection(const std::string& path, Access access, WhenHeld whenHeld)
@@ -74,6 +86,7 @@ Connection::Connection(const std::string& path, Access access, WhenHeld whenHeld
     if (access == Access::Write && sqlite3_db_readonly(Handle(), "main") != 0) {
         throw EngineFailure(SQLITE_READONLY);
     }
+    BoundTexts(Handle());
     Inspect();
     sqlite3_busy_handler(
         Handle(), [](void* connection, int /*tries*/) { return static_cast<Connection*>(connection)->Wait() ? 1 : 0; }, this);
@@ -113,6 +126,9 @@ std::optional<Connection::FileState> Connection::ReadState() const
 bool Connection::Park()
 {
     Release();
+    if (IsReplaced()) {
+        return false;
+    }
     m_parked = m_access == Access::Write ? ReadState() : std::nullopt;
     if (m_parked && !m_parked->content) {
         sqlite3_db_release_memory(Handle());
@@ -237,7 +253,18 @@ void Connection::Hold()
             m_patientUntil += kPatience;
         }
         Run("BEGIN EXCLUSIVE");
+        if (IsReplaced()) {
+            Release();
+            throw EngineFailure(SQLITE_BUSY, kReplaced);
+        }
     }
+}
+
+// What is stored in a file whose name another has by now would be gone with it.
+bool Connection::IsReplaced() const
+{
+    int moved = 0;
+    return sqlite3_file_control(Handle(), "main", SQLITE_FCNTL_HAS_MOVED, &moved) == SQLITE_OK && moved != 0;
 }
 
 // Whether to try once more for a file in use.
@@ -268,7 +295,11 @@ void Connection::Commit()
     try {
         Run("COMMIT");
     } catch (const Failure&) {
+        const bool done = sqlite3_extended_errcode(Handle()) == SQLITE_IOERR_DIR_FSYNC; // which comes after the journal is gone
         Release();
+        if (done) {
+            throw EngineFailure(SQLITE_IOERR, kNotYetSafe);
+        }
         throw;
     }
 }
@@ -276,6 +307,17 @@ void Connection::Commit()
 namespace {
 
 constexpr int kPortion = 512; // pages, after which one may be told
+
+// What writing the copy failed with is no failure of the database.
+void RaiseOfTarget(int code)
+{
+    if (code == SQLITE_FULL) {
+        throw Failure(failure::DiskFull);
+    }
+    if (code == SQLITE_IOERR_WRITE || code == SQLITE_IOERR_TRUNCATE || code == SQLITE_IOERR_FSYNC) {
+        throw Failure(failure::DeviceIoError);
+    }
+}
 
 void Copy(sqlite3* from, sqlite3* to, const std::function<bool(std::int32_t, std::int32_t)>& progress)
 {
@@ -296,6 +338,7 @@ void Copy(sqlite3* from, sqlite3* to, const std::function<bool(std::int32_t, std
         throw EngineFailure(code, std::string("the copy was given up"));
     }
     if (code != SQLITE_DONE) {
+        RaiseOfTarget(code);
         throw EngineFailure(code);
     }
 }

@@ -35,7 +35,7 @@ public:
 
     // Gives the hold up and keeps the file open, so that the next Resume need not read its tables' definitions again, which takes most of
     // the time of a short operation. Of a file so fresh, after a write for instance, that its time would not tell another change, only the
-    // definitions are kept, which have a number of their own. False when it should rather be closed.
+    // definitions are kept, which have a number of their own. False when it should rather be closed, a replaced file always.
     bool Park();
 
     // Whether the path still leads to the file as it was parked, by the same process; it is then held again, as by the constructor, which
@@ -51,13 +51,14 @@ public:
     // Statements without parameters.
     void Run(const char* sql);
 
-    // Nothing when held.
+    // Nothing when held. Raises 5 also where another file has taken the place of this one since it was opened.
     void Hold();
 
     // Holds; before anything is changed.
     void PrepareWrite();
 
-    // On disk when it returns, and not held; on failure nothing of the transaction is left.
+    // On disk when it returns, and not held; on failure nothing of the transaction is left, unless the failure says that all is done and
+    // only the folder could not be made safe.
     void Commit();
 
     // See Engine::CopyTo.
@@ -104,6 +105,7 @@ private:
     void LeaveLogAlone();
     void LeaveWriteAheadLog();
     [[nodiscard]] bool IsHeld() const;
+    [[nodiscard]] bool IsReplaced() const;
     bool Wait();
 
     std::string m_path;

@@ -7,12 +7,15 @@
 #include "store/sqlite/SqliteSink.h"
 #include "store/sqlite/SqliteStatement.h"
 
+#include <algorithm>
 #include <sqlite3.h>
 #include <utility>
 
 namespace ptk {
 
 namespace {
+
+constexpr std::int32_t kPagesOfMillion = 600; // that a full check sees in so many steps, where the pages are full of time records
 
 // While it lives, nothing is committed: a statement that would end the transaction is refused, and what belongs to it goes.
 class OneTransaction
@@ -100,7 +103,9 @@ Connection& SqliteEngine::Open() const
 
 std::unique_ptr<Statement> SqliteEngine::Prepare(std::string_view sql)
 {
-    return std::make_unique<SqliteStatement>(Open().Handle(), sql);
+    auto statement = std::make_unique<SqliteStatement>(Open().Handle(), sql);
+    statement->EndBy(m_end);
+    return statement;
 }
 
 std::unique_ptr<Statement> SqliteEngine::PrepareToKeep(std::string_view sql)
@@ -229,21 +234,23 @@ std::unique_ptr<RowSink> SqliteEngine::Fill(const StoredTable& table)
     return std::make_unique<SqliteSink>(Open().Handle(), table);
 }
 
-std::shared_ptr<RecordSet> SqliteEngine::Patiently(const char* pragma)
-{
-    SqliteStatement statement(Open().Handle(), pragma);
-    statement.AllowSteps(SqliteStatement::kAnySteps);
-    return statement.ReadRows();
-}
-
 std::shared_ptr<RecordSet> SqliteEngine::CheckIntegrity()
 {
-    return Patiently("PRAGMA integrity_check");
+    SqliteStatement check(Open().Handle(), "PRAGMA integrity_check");
+    check.Watch([this] { return CoarseNow() < m_end; });
+    return check.ReadRows();
 }
 
-void SqliteEngine::RefuseDamage()
+void SqliteEngine::RefuseDamage(const CopyProgress& progress)
 {
-    const auto found = Patiently("PRAGMA quick_check(1)");
+    SqliteStatement check(Open().Handle(), "PRAGMA integrity_check(1)");
+    const std::int32_t pages = Select("PRAGMA page_count")->Int32At(0);
+    std::int32_t checked = 0;
+    check.Watch([&] {
+        checked = std::min(checked + kPagesOfMillion, pages);
+        return !progress || progress(checked, pages);
+    });
+    const auto found = check.ReadRows();
     if (found->EndOfFile() || found->TextAt(0) != "ok") {
         throw EngineFailure(SQLITE_CORRUPT);
     }

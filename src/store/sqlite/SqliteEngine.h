@@ -1,6 +1,7 @@
 // An open database file, held exclusively while something is done with it.
 #pragma once
 
+#include "platform/system/CoarseTime.h"
 #include "store/engine/Engine.h"
 #include "store/engine/WhenHeld.h"
 #include "store/sqlite/SqliteWords.h"
@@ -64,19 +65,24 @@ public:
     std::unique_ptr<RowSink> Fill(const StoredTable& table) override;
 
     // Into the empty file `path`, as of one moment, without making it safe on the disk. Nobody else gets at the file meanwhile; what was
-    // not committed is dropped. Raises 11 for a damaged file, 9 when `progress` ended it.
+    // not committed is dropped. Raises 11 for a damaged file, 9 when `progress` ended it, and 61 or 57, which are no failures of the
+    // database, when the copy cannot be written.
     void CopyTo(const std::string& path, const CopyProgress& progress = {});
 
-    // One text a row, "ok" alone for a sound file; without a bound on its steps.
+    // For all that is prepared from here on together: what runs at that time, or later for longer than a
+    // moment, is stopped with 9.
+    void EndBy(CoarseTime end) { m_end = end; }
+
+    // One text a row, "ok" alone for a sound file; bounded by EndBy only.
     std::shared_ptr<RecordSet> CheckIntegrity();
 
-    // Raises 11 for a damaged file. The quick check, a twentieth of the time: all pages and rows, but not whether each row is in each
-    // index, which a copy of pages cannot have spoiled.
-    void RefuseDamage();
+    // Raises 11 for a damaged file, by the full check: also whether each row is in each index, and nothing else. A card is read from an
+    // index, so that a backup which is told sound without it could pay by rows that are not there. A million records take two seconds.
+    // Without a bound; `progress` is told of pages, by estimate, must not raise, and ends it with 9.
+    void RefuseDamage(const CopyProgress& progress = {});
 
 private:
     Connection& Open() const;
-    std::shared_ptr<RecordSet> Patiently(const char* pragma);
     void RunSteps(const std::function<void()>& steps);
     void RunUpdating(const std::function<void()>& steps);
     void RunSigned(const std::function<void()>& steps);
@@ -84,6 +90,7 @@ private:
     std::unique_ptr<Connection> m_connection;
     std::unique_ptr<Connection> m_parked; // closed, and ready to be opened again
     std::function<void()> m_keepCopy;
+    CoarseTime m_end = CoarseTime::max();
 };
 
 } // namespace ptk

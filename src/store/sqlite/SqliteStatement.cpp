@@ -6,6 +6,7 @@
 #include "store/sqlite/EngineFailure.h"
 #include "store/sqlite/StatementCache.h"
 
+#include <algorithm>
 #include <fmt/format.h>
 #include <sqlite3.h>
 
@@ -100,24 +101,48 @@ void AddColumns(RecordSet::Builder& rows, sqlite3_stmt* statement)
 
 } // namespace
 
-// While it lives, the statement is stopped beyond so many steps.
+namespace {
+
+// Few enough that even steps which make the longest texts that the engine allows come to a look within seconds.
+constexpr int kStepsOfLook = 100;
+constexpr std::int64_t kLooksOfMillion = 1'000'000 / kStepsOfLook;
+
+} // namespace
+
+// While it lives, the statement is stopped beyond so many steps or so much time, or when its watcher says so.
 class SqliteStatement::Limit
 {
 public:
-    explicit Limit(SqliteStatement& statement) : m_statement(statement)
+    explicit Limit(SqliteStatement& statement)
+        : m_statement(statement), m_end(std::min(CoarseNow() + SqliteStatement::kMostTime, statement.m_end))
     {
-        constexpr int kMillion = 1'000'000;
         sqlite3_progress_handler(
-            statement.m_database, kMillion, [](void* limit) { return static_cast<Limit*>(limit)->Exceeded() ? 1 : 0; }, this);
+            statement.m_database, kStepsOfLook, [](void* limit) { return static_cast<Limit*>(limit)->GoesOn() ? 0 : 1; }, this);
     }
     ~Limit() { sqlite3_progress_handler(m_statement.m_database, 0, nullptr, nullptr); }
     Limit(const Limit&) = delete;
     Limit& operator=(const Limit&) = delete;
 
+    // What is done with a row takes none of the statement's time.
+    void LeaveOut(const std::function<void()>& take)
+    {
+        const CoarseTime before = CoarseNow();
+        take();
+        m_end = std::min(m_end + (CoarseNow() - before), m_statement.m_end);
+    }
+
 private:
-    bool Exceeded() { return ++m_statement.m_steps > m_statement.m_mostSteps; }
+    bool GoesOn()
+    {
+        const bool isMillion = ++m_statement.m_looks % kLooksOfMillion == 0;
+        if (m_statement.m_goesOn) {
+            return !isMillion || m_statement.m_goesOn();
+        }
+        return m_statement.m_looks <= m_statement.m_mostSteps * kLooksOfMillion && CoarseNow() < m_end;
+    }
 
     SqliteStatement& m_statement;
+    CoarseTime m_end;
 };
 
 void SqliteStatement::Ending::operator()(sqlite3_stmt* statement) const
@@ -171,7 +196,7 @@ bool SqliteStatement::Step()
 void SqliteStatement::Rewind()
 {
     sqlite3_reset(m_statement.get()); // answers the failure of the last step, which was raised there
-    m_steps = 0;
+    m_looks = 0;
 }
 
 void SqliteStatement::RefuseUnlessAction()
@@ -201,10 +226,10 @@ void SqliteStatement::RefuseUnlessRows() const
 void SqliteStatement::ForEachRow(const std::function<void()>& take)
 {
     RefuseUnlessRows();
-    const Limit limit(*this);
+    Limit limit(*this);
     try {
         while (Step()) {
-            take();
+            limit.LeaveOut(take);
         }
     } catch (...) {
         Rewind();

@@ -9,6 +9,7 @@ inline constexpr EngineWords kSqliteWords{
     .caseless = "{0} COLLATE NOCASE",
     .caselessFirstName = "IFNULL(FirstName, '') COLLATE NOCASE",
     .caselessLastName = "IFNULL(LastName, '') COLLATE NOCASE",
+    .thenByKey = "",
     .unusualPunch = "CASE WHEN StartTime BETWEEN '0100-' AND ':' THEN "
                     "datetime(StartTime, '+0 days') IS NOT NULLIF(StartTime, '1899-12-30 00:00:00') "
                     "OR EndTime NOT BETWEEN StartTime AND datetime(StartTime, '+1 day') ELSE 1 END",
@@ -17,11 +18,9 @@ inline constexpr EngineWords kSqliteWords{
                      "datetime(StartTime, '+0 days') = StartTime AND datetime(EndTime, '+0 days') = EndTime)",
     .wholeMinute = "substr({0}, 1, 16)",
     .minuteOfDay = "(substr({0}, 12, 2) * 60 + substr({0}, 15, 2))",
+    .amongEmployees = "",
     .inDays = "{0} BETWEEN :first AND :last",
-    .json = "CASE WHEN json_valid({0}) THEN {0} END",
     .jsonField = "CASE WHEN json_valid({0}) THEN json_extract({0}, '$.{1}') END",
-    .jsonFields = "SELECT key, type, CASE type WHEN 'real' THEN printf('%!.17g', atom) WHEN 'object' THEN "
-                  "json_extract(value, '$.blob') ELSE atom END FROM json_each(:json)",
     .number = "{0}",
     .findTable = "SELECT name FROM sqlite_master WHERE type = 'table' AND name = '{0}' COLLATE NOCASE",
     .findReasons = "SELECT name FROM pragma_table_info('_Change') WHERE name = 'Reason' COLLATE NOCASE",

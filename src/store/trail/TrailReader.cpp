@@ -4,7 +4,10 @@
 #include "store/engine/EngineWords.h"
 #include "store/engine/RecordSet.h"
 #include "store/engine/Statement.h"
+#include "store/trail/TrailJson.h"
 #include "store/trail/TrailSQL.h"
+
+#include <fmt/format.h>
 
 #include <algorithm>
 
@@ -21,6 +24,12 @@ constexpr const char* kReasons =
     "SELECT CAST(Reason AS TEXT) FROM (SELECT Reason, ChangeID FROM _Change ORDER BY ChangeID DESC LIMIT 5000) AS "
     "Newest WHERE Reason <> '' GROUP BY Reason ORDER BY MAX(ChangeID) DESC LIMIT ";
 
+constexpr const char* kNotes =
+    "SELECT ChangeID, Step, TableName, RowID, EmployeeBefore, EmployeeAfter FROM _Change WHERE ChangeID > :newer "
+    "ORDER BY ChangeID DESC LIMIT ";
+
+constexpr std::int32_t kPortion = 10'000; // entries, some megabytes
+
 std::string TextOf(const Statement& row, int column)
 {
     return row.KindAt(column) == CellKind::Null ? std::string() : std::string(row.TextAt(column));
@@ -31,37 +40,10 @@ std::optional<std::int64_t> NumberOf(const Statement& row, int column)
     return row.KindAt(column) == CellKind::Number ? std::optional(row.Int64At(column)) : std::nullopt;
 }
 
-// Takes the JSON of an entry apart.
-class RowParser
+std::optional<TrailRow> RowOf(const Statement& row, int column)
 {
-public:
-    explicit RowParser(CJetDB& database) : m_fields(RequireSelect(database, database.Words().jsonFields)) {}
-
-    std::optional<TrailRow> Parse(const Statement& entry, int column)
-    {
-        if (entry.KindAt(column) == CellKind::Null) {
-            return std::nullopt;
-        }
-        m_fields->Bind("json", std::string(entry.TextAt(column)));
-        TrailRow row;
-        m_fields->ForEachRow([&] { row.push_back({std::string(m_fields->TextAt(0)), KindOf(m_fields->TextAt(1)), TextOf(*m_fields, 2)}); });
-        return row;
-    }
-
-private:
-    static TrailValue::Kind KindOf(std::string_view type)
-    {
-        if (type == "null") {
-            return TrailValue::Kind::Null;
-        }
-        if (type == "text") {
-            return TrailValue::Kind::Text;
-        }
-        return type == "object" || type == "array" ? TrailValue::Kind::Bytes : TrailValue::Kind::Number;
-    }
-
-    std::unique_ptr<Statement> m_fields;
-};
+    return row.KindAt(column) == CellKind::Text ? ParseTrailRow(row.TextAt(column)) : std::nullopt;
+}
 
 bool HasReasons(CJetDB& database)
 {
@@ -69,7 +51,7 @@ bool HasReasons(CJetDB& database)
     return find.empty() || RequireSelect(database, find)->ReadRows()->RecordCount() != 0;
 }
 
-TrailEntry EntryOf(const Statement& row, RowParser& parser)
+TrailEntry EntryOf(const Statement& row)
 {
     TrailEntry entry;
     using namespace trailsql;
@@ -81,11 +63,37 @@ TrailEntry EntryOf(const Statement& row, RowParser& parser)
     entry.table = TextOf(row, kTable);
     entry.row = NumberOf(row, kRow);
     entry.action = TextOf(row, kAction);
-    entry.before = parser.Parse(row, kBefore);
-    entry.after = parser.Parse(row, kAfter);
+    entry.before = RowOf(row, kBefore);
+    entry.after = RowOf(row, kAfter);
     entry.employee = NumberOf(row, kEmployee);
     entry.reason = TextOf(row, kReason);
     return entry;
+}
+
+TrailNote NoteOf(const Statement& row)
+{
+    return {row.Int64At(0), NumberOf(row, 1), TextOf(row, 2), NumberOf(row, 3), NumberOf(row, 4), NumberOf(row, 5)};
+}
+
+// Of a server all rows of an answer are in memory at once.
+std::int32_t MostAtOnce(const CJetDB& database)
+{
+    return *database.Words().openCursor == '\0' ? Statement::kAllRows : kPortion;
+}
+
+// Answers how many there were, and leaves the query at what is older than the last of them.
+std::int32_t ReadPortion(CJetDB& database, TrailQuery& query, const std::function<void(const TrailEntry&)>& take)
+{
+    const auto entries = RequireSelect(database, TrailSql(query, database.Words(), HasReasons(database)));
+    BindTrail(*entries, query);
+    std::int32_t count = 0;
+    entries->ForEachRow([&] {
+        const TrailEntry entry = EntryOf(*entries);
+        query.olderThan = entry.id;
+        ++count;
+        take(entry);
+    });
+    return count;
 }
 
 } // namespace
@@ -103,10 +111,14 @@ void ReadTrail(const std::shared_ptr<CJetDB>& database, const TrailQuery& query,
     if (!database->HasTrail()) {
         return;
     }
-    RowParser parser(*database);
-    const auto entries = RequireSelect(*database, TrailSql(query, database->Words(), HasReasons(*database)));
-    BindTrail(*entries, query);
-    entries->ForEachRow([&] { take(EntryOf(*entries, parser)); });
+    TrailQuery portion = query;
+    std::int32_t left = query.most;
+    std::int32_t read = 0;
+    do {
+        portion.most = std::min(left, MostAtOnce(*database));
+        read = ReadPortion(*database, portion, take);
+        left -= read;
+    } while (read == portion.most && left > 0);
 }
 
 std::vector<TrailEntry> ReadTrail(const std::shared_ptr<CJetDB>& database, const TrailQuery& query)
@@ -114,6 +126,19 @@ std::vector<TrailEntry> ReadTrail(const std::shared_ptr<CJetDB>& database, const
     std::vector<TrailEntry> entries;
     ReadTrail(database, query, [&](const TrailEntry& entry) { entries.push_back(entry); });
     return entries;
+}
+
+std::vector<TrailNote> ReadTrailNotes(const std::shared_ptr<CJetDB>& database, std::int64_t newerThan, std::int32_t most)
+{
+    const CJetDB::Hold hold(database);
+    RequireOpen(*database);
+    std::vector<TrailNote> notes;
+    if (database->HasTrail()) {
+        const auto rows = RequireSelect(*database, fmt::format("{}{}", kNotes, most));
+        rows->Bind("newer", std::to_string(newerThan));
+        rows->ForEachRow([&] { notes.push_back(NoteOf(*rows)); });
+    }
+    return notes;
 }
 
 std::vector<std::string> ReadTrailPersons(const std::shared_ptr<CJetDB>& database)

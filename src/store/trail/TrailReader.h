@@ -89,10 +89,25 @@ struct TrailQuery
     std::int32_t most = std::numeric_limits<std::int32_t>::max();
 };
 
-// Newest first; `take` must not use the database. Nothing in a file without a trail. Raises the failure of a database that cannot be opened
-// or read. REQUIRES: database is not nullptr.
+// Newest first, in one question up to ten thousand entries; `take` must not use the database. Nothing in a file without a trail. Raises the
+// failure of a database that cannot be opened or read. REQUIRES: database is not nullptr.
 void ReadTrail(const std::shared_ptr<CJetDB>& database, const TrailQuery& query, const std::function<void(const TrailEntry&)>& take);
 [[nodiscard]] std::vector<TrailEntry> ReadTrail(const std::shared_ptr<CJetDB>& database, const TrailQuery& query);
+
+// What an entry is about, without what it tells.
+struct TrailNote
+{
+    std::int64_t id = 0;
+    std::optional<std::int64_t> step;
+    std::string table;
+    std::optional<std::int64_t> row;
+    std::optional<std::int64_t> employeeBefore; // whose row it was, or whose record
+    std::optional<std::int64_t> employeeAfter;
+};
+
+// Of the entries behind a number, newest first, no more than so many: one question, for those who ask again and again. Nothing in a file
+// without a trail. Raises the failure of a database that cannot be opened or read.
+[[nodiscard]] std::vector<TrailNote> ReadTrailNotes(const std::shared_ptr<CJetDB>& database, std::int64_t newerThan, std::int32_t most);
 
 // Everybody whom an entry names, in the order of their names. Raises the same.
 [[nodiscard]] std::vector<std::string> ReadTrailPersons(const std::shared_ptr<CJetDB>& database);

@@ -12,12 +12,8 @@ namespace ptk {
 
 namespace {
 
-std::string Columns(const EngineWords& words, bool hasReasons)
-{
-    return fmt::format("ChangeID, ChangedAt, ChangedBy, Program, Step, TableName, RowID, Action, {}, {}, "
-                       "COALESCE(EmployeeAfter, EmployeeBefore), {}",
-                       Said(words.json, "Before"), Said(words.json, "After"), hasReasons ? "Reason" : "NULL");
-}
+constexpr const char* kColumns = "ChangeID, ChangedAt, ChangedBy, Program, Step, TableName, RowID, Action, Before, After, "
+                                 "COALESCE(EmployeeAfter, EmployeeBefore), ";
 
 // An employee's entries in two halves: each finds an entry once, by its own index and in the order of the numbers.
 constexpr const char* kAfterOf = "EmployeeAfter = CAST(:employee AS INTEGER)";
@@ -121,7 +117,8 @@ void BindNumber(Statement& statement, const char* name, const std::optional<std:
 
 std::string TrailSql(const TrailQuery& query, const EngineWords& words, bool hasReasons)
 {
-    const std::string select = fmt::format("SELECT {} FROM _Change WHERE {}", Columns(words, hasReasons), Conditions(query));
+    const std::string select =
+        fmt::format("SELECT {}{} FROM _Change WHERE {}", kColumns, hasReasons ? "Reason" : "NULL", Conditions(query));
     const std::string end = fmt::format(" ORDER BY 1 DESC LIMIT {}", query.most);
     if (!query.employee) {
         return select + end;

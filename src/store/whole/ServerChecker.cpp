@@ -4,6 +4,7 @@
 #include "store/engine/RecordSet.h"
 #include "store/engine/StoredTable.h"
 #include "store/postgres/PostgresEngine.h"
+#include "store/postgres/ServerStrangers.h"
 #include "store/whole/RowChecker.h"
 
 #include <fmt/format.h>
@@ -15,22 +16,30 @@ namespace ptk {
 
 namespace {
 
-// Of a table: its columns as the server has them, texts with their order.
-constexpr const char* kColumns = "SELECT attname::text, format_type(atttypid, atttypmod) || CASE WHEN atttypid = 'text'::regtype AND "
-                                 "attcollation <> 'pg_catalog.\"C\"'::"
-                                 "regcollation THEN ' in another order than \"C\"' ELSE '' END FROM pg_attribute "
-                                 "WHERE attrelid = to_regclass('{}') AND attnum > 0 AND NOT attisdropped";
+// Of a table: its columns as the server has them, texts with their order. Types are given where an operator of a stranger, which fits them
+// better, could be meant.
+constexpr const char* kColumns = "SELECT attname::text, format_type(atttypid, atttypmod) || CASE WHEN atttypid = 'text'::regtype::oid AND "
+                                 "attcollation <> 'pg_catalog.\"C\"'::regcollation::oid "
+                                 "THEN ' in another order than \"C\"' ELSE '' END FROM pg_attribute "
+                                 "WHERE attrelid = to_regclass('{}'::text)::oid AND attnum > 0 AND NOT attisdropped";
 
 // Inserts, deletions and updates are the bits 4, 8 and 16 of what a trigger answers to; one that is switched off does so to nothing.
 constexpr const char* kUnwatched =
     "SELECT name FROM (VALUES ('Company'), ('Employee'), ('TimeRecord'), ('_System'), ('_CheckLimits'), ('_Payday')) AS tables (name) "
     "WHERE "
     "to_regclass(name) IS NOT NULL AND COALESCE((SELECT bit_or(tgtype::integer) FROM pg_trigger JOIN pg_proc ON pg_proc.oid = tgfoid "
-    "WHERE tgrelid = to_regclass(name) AND proname = 'ptk_tell' AND tgenabled IN ('O', 'A')), 0) & 28 <> 28";
+    "WHERE tgrelid = to_regclass(name)::oid AND proname = 'ptk_tell' AND tgenabled IN ('O', 'A')), 0) & 28 <> 28";
 
-constexpr const char* kMissingIndexes = "SELECT name FROM (VALUES ('EmployeeOrder'), ('TimeRecordPeriod'), ('TimeRecordUnusual'), "
-                                        "('_PaydayEmployee'), ('_PaydayLast')) AS indexes (name) "
-                                        "WHERE NOT EXISTS (SELECT 1 FROM pg_index WHERE indexrelid = to_regclass(name) AND indisvalid)";
+constexpr const char* kMissingIndexes =
+    "SELECT name FROM (VALUES ('EmployeeOrder'), ('TimeRecordPeriod'), ('TimeRecordUnusual'), ('_PaydayEmployee'), ('_PaydayLast')) AS "
+    "indexes (name) "
+    "WHERE NOT EXISTS (SELECT 1 FROM pg_index WHERE indexrelid = to_regclass(name)::oid AND indisvalid)";
+
+// Read without complaint, but of no use to the pay, and to no file.
+constexpr const char* kUselessRates =
+    "SELECT 'Employee ' || EmployeeID::text || ': ' || name || ' is ' || rate FROM Employee CROSS JOIN LATERAL "
+    "(VALUES ('PayRate', PayRate::text), ('OvertimePayRate', OvertimePayRate::text)) AS rates (name, rate) "
+    "WHERE rate IN ('NaN', 'Infinity', '-Infinity') ORDER BY EmployeeID, name DESC";
 
 constexpr const char* kUselessLimits =
     "SELECT COUNT(*) FROM _CheckLimits WHERE (long_shift_hours >= 0 AND first_weekday BETWEEN 0 AND 6 AND show_notices IS NOT NULL) IS NOT "
@@ -71,11 +80,13 @@ public:
         }
         CheckNames(kUnwatched, "The edit trail misses changes of the table {}.");
         CheckNames(kMissingIndexes, "There is no usable index {}: lists and time cards take long.");
+        NameStrangers();
         CountRows();
         CheckLimits();
         if (!m_incomplete.contains("_Payday")) {
             m_rows.CheckClosings();
         }
+        CheckRates();
         m_rows.TryActions();
         m_rows.CheckRows(m_incomplete);
         return std::move(m_check);
@@ -147,6 +158,27 @@ private:
     {
         if (!m_incomplete.contains("_CheckLimits") && Ask(kUselessLimits)->Int32At(0) != 0) {
             Report("The table _CheckLimits holds a value of no use: the check takes its own instead.");
+        }
+    }
+
+    void CheckRates()
+    {
+        if (!m_incomplete.contains("Employee")) {
+            CheckNames(kUselessRates, "{} (no finite number).");
+        }
+    }
+
+    void NameStrangers()
+    {
+        const ServerStrangers strangers = FindStrangers(m_engine);
+        for (const std::string& function : strangers.functions) {
+            Report("The function {} beside the tables is not the program's, and may be taken for one of the server's own.", function);
+        }
+        for (const std::string& each : strangers.operators) {
+            Report("The operator {} beside the tables is not the program's, and may be taken for one of the server's own.", each);
+        }
+        for (const std::string& role : strangers.makers) {
+            Report("{} may make objects beside the tables, which only their owner should.", role);
         }
     }
 

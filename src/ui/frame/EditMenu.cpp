@@ -7,6 +7,7 @@
 #include "startup/CController.h"
 #include "ui/page/PageHost.h"
 #include "ui/page/SharedRecords.h"
+#include "ui/widgets/SpentUndoKeys.h"
 #include "ui/widgets/ThemeIcon.h"
 
 #include <QAction>
@@ -54,6 +55,7 @@ EditMenu::EditMenu(QMenu& menu, const Lines& lines, PageHost& host, std::functio
     m_lines.redo.setIcon(ThemeIcon("redo"));
     connect(&m_lines.undo, &QAction::triggered, this, &EditMenu::Undo);
     connect(&m_lines.redo, &QAction::triggered, this, &EditMenu::Redo);
+    new SpentUndoKeys(this);
     connect(&m_host.SharedRecords(), &SharedRecords::UndoChanged, this, &EditMenu::Show);
     Show();
 }
@@ -61,10 +63,10 @@ EditMenu::EditMenu(QMenu& menu, const Lines& lines, PageHost& host, std::functio
 void EditMenu::Show()
 {
     const UndoStack* stack = m_host.SharedRecords().Undo();
-    const bool canUndo = stack != nullptr && stack->CanUndo();
-    const bool canRedo = stack != nullptr && stack->CanRedo();
-    ShowLine(m_lines.undo, canUndo, canUndo ? stack->UndoText() : kUndo, kNothingToUndo);
-    ShowLine(m_lines.redo, canRedo, canRedo ? stack->RedoText() : kRedo, kNothingToRedo);
+    const MovedStep* undo = stack == nullptr ? nullptr : stack->NextUndo();
+    const MovedStep* redo = stack == nullptr ? nullptr : stack->NextRedo();
+    ShowLine(m_lines.undo, undo != nullptr, undo != nullptr ? stack->UndoText() + Whose(*undo) : kUndo, kNothingToUndo);
+    ShowLine(m_lines.redo, redo != nullptr, redo != nullptr ? stack->RedoText() + Whose(*redo) : kRedo, kNothingToRedo);
 }
 
 void EditMenu::Undo()
@@ -94,7 +96,7 @@ void EditMenu::Move(bool undo)
         return Refuse(records.Undo()->Refusal(), undo ? kUndoTitle : kRedoTitle);
     }
     const MovedStep step = records.Undo()->Moved();
-    emit Moved(step, QString::fromStdString(DoneText(undo ? kUndone : kRedone, step)));
+    emit Moved(step, QString::fromStdString((undo ? kUndone : kRedone) + step.text + Whose(step)));
 }
 
 // Nothing to undo is no refusal.
@@ -107,13 +109,13 @@ void EditMenu::Refuse(const std::string& reason, const char* title)
 }
 
 // A record is told by its time; whose it is has to be said.
-std::string EditMenu::DoneText(const char* word, const MovedStep& step) const
+std::string EditMenu::Whose(const MovedStep& step) const
 {
     std::string name;
     if (step.table == "TimeRecord" && step.employee) {
-        name = DisplayNameOf(*Required(Required(m_host.Controller())->EmployeeList()), *step.employee);
+        Succeeds([&] { name = DisplayNameOf(*Required(Required(m_host.Controller())->EmployeeList()), *step.employee); });
     }
-    return word + step.text + (name.empty() ? name : " (" + name + ")");
+    return name.empty() ? name : " (" + name + ")";
 }
 
 } // namespace ptk

@@ -13,7 +13,7 @@ namespace ptk {
 
 class PageHost;
 
-// Its lines say what they would do. A box with the focus keeps their keys for its own text, as such boxes do by themselves.
+// Its lines say what they would do, and to whom. A box with the focus keeps their keys while it has something to undo or redo in its text.
 class EditMenu final : public QObject
 {
     Q_OBJECT
@@ -29,7 +29,7 @@ public:
     EditMenu(QMenu& menu, const Lines& lines, PageHost& host, std::function<bool()> isBusy);
 
 signals:
-    // And "Undone: Delete 03/05/2003 08:00 AM (Ann Lee)".
+    // A step was undone or done again; `done` says which: "Undone: Delete 03/05/2003 08:00 AM (Ann Lee)".
     void Moved(const ptk::MovedStep& step, const QString& done);
 
     // Why nothing was done.
@@ -41,7 +41,7 @@ private:
     void Redo();
     void Move(bool undo);
     void Refuse(const std::string& reason, const char* title);
-    [[nodiscard]] std::string DoneText(const char* word, const MovedStep& step) const;
+    [[nodiscard]] std::string Whose(const MovedStep& step) const;
 
     Lines m_lines;
     PageHost& m_host;

@@ -1,6 +1,7 @@
 #include "ui/frame/FAbout.h"
 
 #include "ui/widgets/ThemeIcon.h"
+#include "ui/widgets/WindowPlace.h"
 #include "ui_FAbout.h"
 
 namespace ptk {
@@ -14,6 +15,7 @@ constexpr int kPictureSize = 64;
 FAbout::FAbout(QWidget* parent) : QDialog(parent), m_ui(std::make_unique<Ui::FAbout>())
 {
     m_ui->setupUi(this);
+    setMinimumWidth(WidthFor(windowTitle()));
     m_ui->Picture1->setPixmap(ThemeIcon("ptk-admin").pixmap(kPictureSize, kPictureSize));
     connect(m_ui->cmdOK, &QPushButton::clicked, this, &FAbout::accept);
 }

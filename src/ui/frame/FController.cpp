@@ -5,6 +5,7 @@
 #include "platform/Succeeds.h"
 #include "startup/CController.h"
 #include "startup/Notices.h"
+#include "store/engine/Waiting.h"
 #include "ui/frame/EditMenu.h"
 #include "ui/frame/HelpMenu.h"
 #include "ui/frame/OptionsPage.h"
@@ -19,6 +20,7 @@
 #include "ui/reports/WindowMenu.h"
 #include "ui/safety/BackupMenu.h"
 #include "ui/safety/ImportMenu.h"
+#include "ui/sheet/PunchesMenu.h"
 #include "ui/timecards/TimeCardPage.h"
 #include "ui/widgets/ElidedLabel.h"
 #include "ui/widgets/NoticeLine.h"
@@ -141,9 +143,9 @@ void FController::ConnectEditMenu()
     const auto isBusy = [this] { return IsBusyInDialog(); };
     const std::array<RecordPages::Place, 3> places{
         {{0, "TimeRecord", *m_timeCardPage}, {2, "Employee", *m_employeePage}, {3, "Company", *m_companyPage}}};
-    auto* pages = new RecordPages(*this, {*m_ui->TabStrip, *m_ui->pages, *this, isBusy}, places);
+    m_recordPages = new RecordPages(*this, {*m_ui->TabStrip, *m_ui->pages, *this, isBusy}, places);
     auto* menu = new EditMenu(*m_ui->mnuEdit, {*m_ui->mnuEditUndo, *m_ui->mnuEditRedo}, *this, isBusy);
-    connect(menu, &EditMenu::Moved, pages, &RecordPages::ShowMoved);
+    connect(menu, &EditMenu::Moved, m_recordPages, &RecordPages::ShowMoved);
     connect(menu, &EditMenu::Said, this, &FController::Say);
 }
 
@@ -155,6 +157,8 @@ void FController::ConnectBackups()
     auto* import = new ImportMenu(*m_ui->mnuFileImport, *this, *this);
     connect(import, &ImportMenu::Imported, this, &FController::ShowRestored);
     connect(import, &ImportMenu::Said, this, &FController::Say);
+    auto* punches = new PunchesMenu(*m_ui->mnuFilePunches, *this, *this);
+    connect(punches, &PunchesMenu::Said, this, &FController::Say);
 }
 
 void FController::ConnectViewMenu()
@@ -163,7 +167,9 @@ void FController::ConnectViewMenu()
     m_ui->mnuViewHistory->setIcon(ThemeIcon("history"));
     m_ui->mnuViewHours->setChecked(m_timeCardPage->HoursShown());
     connect(m_ui->mnuViewOverview, &QAction::triggered, this, &FController::ShowOverview);
-    connect(m_ui->mnuViewHistory, &QAction::triggered, this, [this] { ShowHistory({}); });
+    connect(m_ui->mnuViewNextProblems, &QAction::triggered, this, [this] { ShowNextCard(1); });
+    connect(m_ui->mnuViewPreviousProblems, &QAction::triggered, this, [this] { ShowNextCard(-1); });
+    connect(m_ui->mnuViewHistory, &QAction::triggered, this, &FController::ShowHistoryFromMenu);
     connect(m_ui->mnuViewCardHistory, &QAction::triggered, m_timeCardPage, &TimeCardPage::AskForHistory);
     connect(m_timeCardPage, &TimeCardPage::HistoryWanted, this, [this](const HistoryScope& scope) { ShowHistory(scope); });
     connect(m_ui->mnuViewHours, &QAction::toggled, m_timeCardPage, &TimeCardPage::ShowHours);
@@ -247,7 +253,20 @@ void FController::ShowRestored(const QString& outcome)
         Tell(m_desktop, notice::OptionsUnread);
     }
     m_optionsPage->ForgetLimits();
+    ForgetLines();
     Say(outcome);
+}
+
+// What lines and status bar said was of records that are not shown any more.
+void FController::ForgetLines()
+{
+    for (auto* line : m_ui->pages->findChildren<NoticeLine*>()) {
+        line->Clear();
+    }
+    m_statusText->setText(TabAt(m_ui->pages->currentIndex() + 1).statusText);
+    if (m_timeCardPage->isVisible() && m_timeCardPage->ChosenEmployee()) {
+        m_timeCardPage->ShowChoice();
+    }
 }
 
 void FController::Load()
@@ -321,10 +340,10 @@ void FController::Say(const QString& text)
     }
 }
 
-void FController::Log(const std::string& line)
+void FController::Log(std::int32_t number, const std::string& text)
 {
     if (m_controller != nullptr) {
-        m_controller->Log(line);
+        m_controller->Log(number, text);
     }
 }
 
@@ -347,13 +366,28 @@ bool FController::ShowTabPage(int index)
     return m_ui->pages->currentIndex() == index - 1;
 }
 
-void FController::ShowOverview()
+void FController::MakeOverview()
 {
     if (m_overview == nullptr) {
         m_overview = std::make_unique<OverviewWindow>(*this);
         connect(m_overview.get(), &OverviewWindow::CardWanted, this, &FController::ShowTimeCard);
     }
+}
+
+void FController::ShowOverview()
+{
+    MakeOverview();
     m_overview->Open(m_timeCardPage->ChosenPeriod());
+}
+
+// From the card that is shown on, as the overview was read last, whether it is open or not.
+void FController::ShowNextCard(int direction)
+{
+    MakeOverview();
+    const QString refusal = m_overview->OpenNextCard(m_timeCardPage->ChosenEmployee(), direction);
+    if (!refusal.isEmpty()) {
+        Say(refusal);
+    }
 }
 
 // Not while reports are made: they and the page share the one list of records.
@@ -369,6 +403,12 @@ void FController::ShowTimeCard(std::int32_t employeeID, const PayPeriod& period)
     m_timeCardPage->ShowCard(employeeID, period);
 }
 
+// Of the person who is chosen where the overview is in front.
+void FController::ShowHistoryFromMenu()
+{
+    ShowHistory(m_overview != nullptr && m_overview->isActiveWindow() ? m_overview->ShownHistory() : std::nullopt);
+}
+
 void FController::ShowHistory(const std::optional<HistoryScope>& scope)
 {
     if (m_history == nullptr) {
@@ -380,11 +420,14 @@ void FController::ShowHistory(const std::optional<HistoryScope>& scope)
 // Unloading the window, in the middle of this, runs the whole close path once more; all of it is harmless when repeated.
 void FController::Exit()
 {
-    CloseDown(true);
+    if (m_recordPages->MayLeave()) {
+        CloseDown(true);
+    }
 }
 
 void FController::Unload()
 {
+    m_recordPages->LeaveUnasked();
     if (m_closing) {
         hide();
     } else {
@@ -412,7 +455,8 @@ void FController::CloseDown(bool keepReview)
 
 bool FController::IsBusyInDialog() const
 {
-    return m_reportsPage->IsGenerating() || QApplication::activeModalWidget() != nullptr || QThread::currentThread()->loopLevel() > 1;
+    return m_reportsPage->IsGenerating() || waiting::IsTurn() || QApplication::activeModalWidget() != nullptr ||
+           QThread::currentThread()->loopLevel() > 1;
 }
 
 // A window that is told to close while one of its editors is open, by the end of the desktop's session for instance, closes the editor
@@ -427,7 +471,9 @@ void FController::closeEvent(QCloseEvent* event)
         QMetaObject::invokeMethod(this, "close", Qt::QueuedConnection);
         return;
     }
-    event->accept();
+    if (!m_recordPages->MayLeave()) {
+        return event->ignore();
+    }
     if (std::exchange(m_closing, true)) {
         return;
     }

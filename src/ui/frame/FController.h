@@ -29,6 +29,7 @@ class HistoryWindow;
 class OptionsPage;
 class OverviewWindow;
 class PageTabs;
+class RecordPages;
 class ReportsPage;
 class TimeCardPage;
 struct HistoryScope;
@@ -67,7 +68,8 @@ public:
     const DesktopWindow& AsDesktopWindow() const override { return *this; }
     bool SetStatusText(const std::string& name, const std::string& identifier) override;
     void ErrorNumber(std::int32_t value) override { m_errorNumber = value; }
-    void Log(const std::string& line) override;
+    using PageHost::Log;
+    void Log(std::int32_t number, const std::string& text) override;
     std::int32_t EventSource() const override { return m_eventSource; }
     void EventSource(std::int32_t value) override { m_eventSource = value; }
     PeriodTexts TimeCardPeriod() const override;
@@ -98,6 +100,7 @@ private:
     void ShowAll();
     void BackUpWhenDue();
     void ShowRestored(const QString& outcome);
+    void ForgetLines();
 
     void ChangeTab(int index);
     bool ShowTabPage(int index);
@@ -105,8 +108,11 @@ private:
     // In the shown page's line.
     void Say(const QString& text);
 
+    void MakeOverview();
     void ShowOverview();
+    void ShowNextCard(int direction);
     void ShowTimeCard(std::int32_t employeeID, const PayPeriod& period);
+    void ShowHistoryFromMenu();
     void ShowHistory(const std::optional<HistoryScope>& scope);
 
     void Exit();
@@ -128,6 +134,7 @@ private:
     bool m_loaded = false;
     bool m_closing = false;
 
+    RecordPages* m_recordPages = nullptr; // belongs to the window
     BackupMenu* m_backups = nullptr;
     PageTabs* m_tabs = nullptr;
     TimeCardPage* m_timeCardPage = nullptr; // the pages belong to the window's widgets

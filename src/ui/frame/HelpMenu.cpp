@@ -1,5 +1,8 @@
 #include "ui/frame/HelpMenu.h"
 
+#include "office/business/Guide.h"
+#include "platform/files/ProgramFolder.h"
+#include "platform/Succeeds.h"
 #include "platform/system/Desktop.h"
 #include "shell/CDocLauncher.h"
 #include "ui/frame/FAbout.h"
@@ -13,11 +16,12 @@ namespace ptk {
 
 namespace {
 
-constexpr auto kGuidePath = "\\documentation\\PTKAdminUserGuide.doc";
 constexpr auto kGuideText = "File: ...\\documentation\\PTKAdminUserGuide.doc\r\n"
                             "The path to the User's Guide is invalid or not able to be opened by Windows.";
 
-constexpr auto kGuideNotOpened = "The user's guide could not be opened: no program for it took it.";
+constexpr auto kGuideNotOpened = "The user's guide could not be opened";
+constexpr auto kGuideMissing = "The user's guide is missing: ";
+constexpr auto kGuideNotRenewed = "The user's guide could not be renewed: ";
 
 } // namespace
 
@@ -43,16 +47,28 @@ void HelpMenu::Shortcuts()
 
 void HelpMenu::UsersGuide()
 {
+    Succeeds([this] { RenewGuide(m_programFolder, InstalledFile(kInstalledGuide)); },
+             [this](const Failure& reason) { m_host.Log(reason.Number(), kGuideNotRenewed + reason.Description()); });
     CDocLauncher launcher(m_host.Desktop());
-    if (launcher.DisplayDocument(&m_host.AsDesktopWindow(), m_programFolder + kGuidePath)) {
+    const auto opens = [&](const char* form) { return launcher.DisplayDocument(&m_host.AsDesktopWindow(), m_programFolder + form); };
+    if (opens(kGuideDocument)) {
         return;
     }
-    m_host.Log(kGuideNotOpened);
     if (launcher.ErrorNumber() == docerror::DocumentNotFound) {
+        m_host.Log(launcher.ErrorNumber(), kGuideMissing + NativePath(m_programFolder + kGuideDocument).string());
         m_host.Desktop().Show(kGuideText, kNotOpenedTitle, Icon::Exclamation);
-    } else {
-        emit Said(kGuideNotOpened);
+        return;
     }
+    const std::string refusal = m_host.Desktop().Refusal();
+    if (!opens(kGuidePage)) {
+        TellNotOpened(kGuideNotOpened + (refusal.empty() ? refusal : ": " + refusal));
+    }
+}
+
+void HelpMenu::TellNotOpened(const std::string& line)
+{
+    m_host.Log(line);
+    emit Said(QString::fromStdString(line));
 }
 
 } // namespace ptk

@@ -31,7 +31,11 @@ signals:
 
 private:
     void About();
+
+    // Its page where nothing takes the document.
     void UsersGuide();
+
+    void TellNotOpened(const std::string& line);
     void Shortcuts();
 
     QWidget& m_window;

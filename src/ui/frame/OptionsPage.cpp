@@ -3,7 +3,6 @@
 #include "office/card/CardTexts.h"
 #include "office/records/ConflictNotice.h"
 #include "office/records/LeftBehind.h"
-#include "office/safety/BackupRun.h"
 #include "platform/Failure.h"
 #include "platform/Required.h"
 #include "platform/Succeeds.h"
@@ -18,6 +17,7 @@
 #include "ui/page/PageHost.h"
 #include "ui/page/SharedRecords.h"
 #include "ui/widgets/ChosenOnly.h"
+#include "ui/widgets/FieldWidth.h"
 #include "ui_OptionsPage.h"
 
 #include <algorithm>
@@ -34,6 +34,7 @@ constexpr auto kRestoreText = "An error occurred while restoring system options 
 constexpr auto kApplied = "Options applied";
 constexpr auto kRestored = "Options restored";
 
+constexpr auto kOptionsUnstored = "The options could not be stored: ";
 constexpr auto kOptionsUnread = "The options could not be read: ";
 constexpr auto kLeft = "What was typed was not applied";
 constexpr auto kLimitsUnread = "The limits of the check could not be read: ";
@@ -50,6 +51,7 @@ const DateTime kSunday(CalendarDate{1899, 12, 31});
 OptionsPage::OptionsPage(PageHost& host, QWidget* parent) : QWidget(parent), m_host(host), m_ui(std::make_unique<Ui::OptionsPage>())
 {
     m_ui->setupUi(this);
+    LimitWidth(*this, fieldwidth::Page);
     for (int day = 0; day < kDaysPerWeek; ++day) {
         m_ui->cboFirstWeekday->addItem(QString::fromStdString(WeekdayName(kSunday.AddDays(day))));
     }
@@ -129,7 +131,7 @@ void OptionsPage::LoadLimits()
         const BusyPointer busy(m_host.Desktop());
         m_limits = LoadCheckLimits(controller->PTKDatabase());
     };
-    Succeeds(load, [this](const Failure& reason) { Complain(kLimitsUnread + reason.Description()); });
+    Succeeds(load, [this](const Failure& reason) { Complain(kLimitsUnread, reason); });
     ShowStoredLimits();
 }
 
@@ -178,24 +180,37 @@ bool OptionsPage::SaveOptions()
     return StoreOptions(*options, Texts());
 }
 
-// Both in one step of the edit trail. The hold also makes the database forget an earlier conflict.
 bool OptionsPage::SaveSystemOptions()
 {
     m_conflict.reset();
-    return Succeeds([this] {
-        const auto controller = m_host.Controller();
-        const auto database = controller == nullptr ? nullptr : controller->PTKDatabase();
-        const CJetDB::Hold hold(database);
-        const CJetDB::Step step(database);
-        const bool saved = SaveOptions() && StoreLimits();
-        if (saved) {
-            m_shown = Texts();
-        } else if (database != nullptr) {
-            m_conflict = database->Conflict();
-        }
-        m_host.SharedRecords().Remember();
-        return saved && StoreBackupFolder();
-    });
+    return Succeeds([this] { return Refusal().empty() && SaveToDatabase() && StoreBackupFolder(); },
+                    [this](const Failure& reason) { m_host.Log(reason.Number(), kOptionsUnstored + reason.Description()); });
+}
+
+// Both in one step of the edit trail. The hold also makes the database forget an earlier conflict.
+bool OptionsPage::SaveToDatabase()
+{
+    const auto database = Required(m_host.Controller())->PTKDatabase();
+    const CJetDB::Hold hold(database);
+    const CJetDB::Step step(database);
+    const bool saved = SaveOptions() && StoreLimits();
+    if (saved) {
+        m_shown = Texts();
+    } else {
+        TakeRefusal(*Required(database));
+    }
+    m_host.SharedRecords().Remember();
+    return saved;
+}
+
+// Of a text that is none the database knows nothing.
+void OptionsPage::TakeRefusal(const CJetDB& database)
+{
+    m_conflict = database.Conflict();
+    const Failure& reason = database.LastFailure();
+    if (reason.Number() != 0) {
+        m_host.Log(reason.Number(), kOptionsUnstored + reason.Description());
+    }
 }
 
 void OptionsPage::ForgetLimits()
@@ -208,8 +223,7 @@ void OptionsPage::ForgetLimits()
 
 bool OptionsPage::StoreBackupFolder()
 {
-    const std::string folder = BackupFolder();
-    return SecondFolderRefusal(folder).empty() && Required(m_host.Controller())->SecondBackupFolder(folder);
+    return Required(m_host.Controller())->SecondBackupFolder(BackupFolder());
 }
 
 std::string OptionsPage::BackupFolder() const
@@ -256,7 +270,7 @@ void OptionsPage::Apply()
 void OptionsPage::AskForPresent()
 {
     if (AskToLoad(m_host.Desktop(), notice::OptionsUnsaved.title, *m_conflict, ConflictText(*m_conflict, {}))) {
-        Succeeds([this] { LoadPresent(); }, [this](const Failure& reason) { Complain(kOptionsUnread + reason.Description()); });
+        Succeeds([this] { LoadPresent(); }, [this](const Failure& reason) { Complain(kOptionsUnread, reason); });
     }
 }
 
@@ -279,17 +293,17 @@ void OptionsPage::LoadPresent()
     });
 }
 
-void OptionsPage::Complain(const std::string& line)
+void OptionsPage::Complain(const char* what, const Failure& reason)
 {
-    m_ui->notice->Say(QString::fromStdString(line));
-    m_host.Log(line);
+    m_ui->notice->Say(QString::fromStdString(what + reason.Description()));
+    m_host.Log(reason.Number(), what + reason.Description());
 }
 
 // What of the typed texts stands in the way; empty when that is something else.
 std::string OptionsPage::Refusal() const
 {
     const std::string limits = m_limits ? LimitRefusal(Limits()) : std::string();
-    return limits.empty() ? SecondFolderRefusal(BackupFolder()) : limits;
+    return limits.empty() ? Required(m_host.Controller())->SecondFolderRefusal(BackupFolder()) : limits;
 }
 
 void OptionsPage::Cancel()

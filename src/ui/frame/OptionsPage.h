@@ -15,7 +15,9 @@ class OptionsPage;
 
 namespace ptk {
 
+class CJetDB;
 class CSystemOptions;
+class Failure;
 class PageHost;
 
 // The limits are read when the page is first seen, and written only where they were changed: a database of an earlier version has no table
@@ -31,7 +33,7 @@ public:
     // False for nullptr.
     bool DisplaySystemOptions(const std::shared_ptr<CSystemOptions>& options);
 
-    // Without a message; false also for any failure.
+    // Without a message; false also for any failure, and, with nothing stored, for limits or a folder that are none.
     bool SaveSystemOptions();
 
     // Shows the controller's options again.
@@ -57,6 +59,8 @@ private:
     [[nodiscard]] LimitTexts Limits() const;
     void ShowLimitTexts(const LimitTexts& texts);
     bool SaveOptions();
+    bool SaveToDatabase();
+    void TakeRefusal(const CJetDB& database);
 
     [[nodiscard]] bool StoreBackupFolder();
     [[nodiscard]] std::string BackupFolder() const;
@@ -67,7 +71,7 @@ private:
     void Apply();
     void AskForPresent();
     void LoadPresent();
-    void Complain(const std::string& line);
+    void Complain(const char* what, const Failure& reason);
     void Cancel();
 
     PageHost& m_host;

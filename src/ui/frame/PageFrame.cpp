@@ -11,30 +11,85 @@ namespace ptk {
 
 namespace {
 
+constexpr auto kStanding = "figures"; // what is to be seen however small the window is
 constexpr auto kButtons = "buttons";
-constexpr int kSpace = 12; // pixels, as between the parts of a page
+constexpr int kSpace = 8; // pixels
 
-QScrollArea* NewScroll(QWidget* page)
+// It has no use for more height than it needs.
+bool IsForm(const QWidget& page)
 {
-    auto* scroll = new QScrollArea;
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setWidgetResizable(true);
-    scroll->setFocusPolicy(Qt::NoFocus);
-    scroll->setWidget(page);
-    for (QWidget* inside : {scroll->viewport(), page}) {
-        inside->setAutoFillBackground(false); // the frame's own background shows through
-    }
-    return scroll;
+    return page.sizePolicy().verticalPolicy() == QSizePolicy::Maximum;
 }
+
+// As high as the page wants to be, and less where there is less.
+class PageScroll final : public QScrollArea
+{
+public:
+    explicit PageScroll(QWidget* page)
+    {
+        setFrameShape(QFrame::NoFrame);
+        setWidgetResizable(true);
+        setFocusPolicy(Qt::NoFocus);
+        setWidget(page);
+        for (QWidget* inside : {viewport(), page}) {
+            inside->setAutoFillBackground(false); // the frame's own background shows through
+        }
+        setSizePolicy(QSizePolicy::Expanding, IsForm(*page) ? QSizePolicy::Maximum : QSizePolicy::Expanding);
+    }
+
+    QSize sizeHint() const override
+    {
+        const QSize size = widget()->sizeHint();
+        return {size.width(), widget()->hasHeightForWidth() && width() > 0 ? widget()->heightForWidth(width()) : size.height()};
+    }
+
+protected:
+    void resizeEvent(QResizeEvent* event) override
+    {
+        QScrollArea::resizeEvent(event);
+        if (widget()->hasHeightForWidth() && event->size().width() != event->oldSize().width()) {
+            updateGeometry();
+        }
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::LayoutRequest) {
+            updateGeometry();
+        }
+        return QScrollArea::eventFilter(watched, event);
+    }
+};
 
 } // namespace
 
+// A page is no wider than it says. A form has its buttons below its fields.
 PageFrame::PageFrame(const QString& caption, QWidget* page) : QGroupBox(caption)
 {
-    auto* column = new QVBoxLayout(this);
+    auto* row = new QHBoxLayout(this);
+    auto* inside = new QWidget;
+    inside->setObjectName("inside");
+    inside->setMaximumWidth(page->maximumWidth());
+    row->addWidget(inside, 1);
+    row->addStretch();
+    auto* column = new QVBoxLayout(inside);
+    column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(kSpace);
-    column->addWidget(NewScroll(page));
+    column->addWidget(new PageScroll(page));
+    AddStanding(*column, *page);
     AddButtons(*column, *page);
+    if (IsForm(*page)) {
+        column->addStretch();
+    }
+}
+
+void PageFrame::AddStanding(QVBoxLayout& column, QWidget& page)
+{
+    if (auto* standing = page.findChild<QLayout*>(kStanding)) {
+        qobject_cast<QLayout*>(standing->parent())->removeItem(standing);
+        standing->setParent(nullptr);
+        column.addLayout(standing);
+    }
 }
 
 // After the page is inside the frame: in one window, the buttons keep their places in the order of Tab.

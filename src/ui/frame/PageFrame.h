@@ -7,8 +7,8 @@ class QVBoxLayout;
 
 namespace ptk {
 
-// The page scrolls where the frame is too small for it, so that nothing is ever cut off. Its layout named "buttons" stays in sight, below
-// what scrolls, and its widgets are then the frame's children.
+// The page scrolls where the frame is too small for it, so that nothing is ever cut off. Its layouts named "figures" and
+// "buttons" stay in sight, below what scrolls, and their widgets are then the frame's children.
 class PageFrame final : public QGroupBox
 {
     Q_OBJECT
@@ -18,6 +18,7 @@ public:
     PageFrame(const QString& caption, QWidget* page);
 
 private:
+    static void AddStanding(QVBoxLayout& column, QWidget& page);
     static void AddButtons(QVBoxLayout& column, QWidget& page);
 };
 

@@ -1,8 +1,11 @@
 #include "ui/frame/QtDesktop.h"
 
 #include "platform/system/SystemShell.h"
+#include "ui/widgets/ProgramEnd.h"
+#include "ui/widgets/WindowPlace.h"
 
 #include <QApplication>
+#include <QGridLayout>
 #include <QMessageBox>
 
 #include <optional>
@@ -33,6 +36,8 @@ QMessageBox::StandardButtons ToQt(Buttons buttons)
     switch (buttons) {
     case Buttons::OkCancel:
         return QMessageBox::Ok | QMessageBox::Cancel;
+    case Buttons::SaveDiscardCancel:
+        return QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel;
     case Buttons::YesNo:
         return QMessageBox::Yes | QMessageBox::No;
     case Buttons::Ok:
@@ -45,8 +50,10 @@ Answer ToAnswer(int button)
 {
     switch (button) {
     case QMessageBox::Yes:
+    case QMessageBox::Save:
         return Answer::Yes;
     case QMessageBox::No:
+    case QMessageBox::Discard:
         return Answer::No;
     case QMessageBox::Cancel:
         return Answer::Cancel;
@@ -55,11 +62,34 @@ Answer ToAnswer(int button)
     }
 }
 
+// Whatever changes nothing.
+Answer Unasked(Buttons buttons)
+{
+    switch (buttons) {
+    case Buttons::OkCancel:
+        return Answer::Cancel;
+    case Buttons::YesNo:
+        return Answer::No;
+    case Buttons::Ok:
+        break;
+    }
+    return Answer::Ok;
+}
+
 // A box that is in front of everything that could cover it.
 QWidget* Owner()
 {
     QWidget* modal = QApplication::activeModalWidget();
     return modal != nullptr ? modal : QApplication::activeWindow();
+}
+
+// A box is as wide as its text wants it, whatever its title needs.
+void MakeRoomForTitle(QMessageBox& box)
+{
+    if (auto* grid = qobject_cast<QGridLayout*>(box.layout())) {
+        auto* room = new QSpacerItem(WidthFor(box.windowTitle()), 0, QSizePolicy::Minimum, QSizePolicy::Fixed);
+        grid->addItem(room, grid->rowCount(), 0, 1, grid->columnCount());
+    }
 }
 
 // The wait pointer would say that the box cannot be answered.
@@ -90,10 +120,14 @@ private:
 
 Answer QtDesktop::MessageBox(const std::string& text, const std::string& title, Icon icon, Buttons buttons)
 {
+    if (IsEnding()) {
+        return Unasked(buttons);
+    }
     const PlainPointer pointer;
     QMessageBox box(ToQt(icon), QString::fromStdString(title), QString(), ToQt(buttons), Owner());
     box.setTextFormat(Qt::PlainText);
     box.setText(QString::fromStdString(text));
+    MakeRoomForTitle(box);
     if (buttons == Buttons::YesNo) {
         box.setDefaultButton(QMessageBox::No); // whoever presses Enter without reading loses nothing
         box.setEscapeButton(QMessageBox::No);

@@ -191,7 +191,7 @@ void HistoryFilter::DropScope()
 void HistoryFilter::ShowScope()
 {
     m_ui->chkHistoryScope->setVisible(m_scope.has_value());
-    m_ui->chkHistoryScope->setChecked(m_scope.has_value());
+    m_ui->chkHistoryScope->setChecked(m_scope && m_scope->narrows);
     m_ui->chkHistoryScope->setText(m_scope ? '&' + Text(ScopeText(*m_scope)) : QString());
 }
 

@@ -303,7 +303,7 @@ void HistoryWindow::StopSaving()
     m_saving.stop();
     if (m_file != nullptr) {
         m_file.reset();
-        Complain(kCancelled);
+        Say(kCancelled);
     }
     ShowSaving();
 }

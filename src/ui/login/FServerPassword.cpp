@@ -1,5 +1,6 @@
 #include "ui/login/FServerPassword.h"
 
+#include "store/postgres/ServerAddress.h"
 #include "ui_FServerPassword.h"
 
 namespace ptk {
@@ -13,7 +14,7 @@ constexpr auto kWanted = "The server of the database wants a password:\n%1";
 FServerPassword::FServerPassword(const std::string& address) : m_ui(std::make_unique<Ui::FServerPassword>())
 {
     m_ui->setupUi(this);
-    m_ui->lblServer->setText(QString(kWanted).arg(QString::fromStdString(address)));
+    m_ui->lblServer->setText(QString(kWanted).arg(QString::fromStdString(SaidServer(address))));
     setMinimumSize(sizeHint()); // of a long address all lines
     connect(m_ui->cmdConnect, &QPushButton::clicked, this, &QDialog::accept);
     connect(m_ui->cmdCancel, &QPushButton::clicked, this, &QDialog::reject);

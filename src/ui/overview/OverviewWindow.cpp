@@ -2,6 +2,7 @@
 
 #include "model/check/FindingText.h"
 #include "office/card/CardFindings.h"
+#include "office/history/HistoryScope.h"
 #include "office/overview/OverviewReading.h"
 #include "office/overview/OverviewTable.h"
 #include "office/overview/OverviewTexts.h"
@@ -12,7 +13,8 @@
 #include "platform/system/Clock.h"
 #include "startup/CController.h"
 #include "store/CSystemOptions.h"
-#include "ui/overview/OverviewModel.h"
+#include "ui/overview/OverviewTables.h"
+#include "ui/page/ChangeNews.h"
 #include "ui/page/PageHost.h"
 #include "ui/widgets/ButtonRow.h"
 #include "ui/widgets/FoldingRow.h"
@@ -25,12 +27,8 @@
 #include <QCloseEvent>
 #include <QElapsedTimer>
 #include <QGuiApplication>
-#include <QHeaderView>
 #include <QLineEdit>
-#include <QScrollBar>
 #include <QShortcut>
-
-#include <algorithm>
 
 namespace ptk {
 
@@ -43,28 +41,27 @@ constexpr auto kFindingsOf = "%1: %2";
 constexpr auto kCopied = "Copied: %1 and a heading";
 constexpr auto kLines = "%1 lines";
 constexpr auto kOneLine = "1 line";
+constexpr auto kChangedSince = "Changed since it was read";
+constexpr auto kReadAgain = "Refresh";
+constexpr auto kNotYetRead = "Read the payday overview first (F9)";
+constexpr auto kNobodyBehind = "Nobody behind has problems in the payday overview";
+constexpr auto kNobodyBefore = "Nobody before has problems in the payday overview";
 
 constexpr auto kPlaceName = "overview";
 constexpr QSize kFirstSize(900, 640);
 constexpr QSize kSmallestSize(512, 350); // as the main window's
 constexpr qint64 kReadingTime = 30;      // milliseconds without a glance at keys and mouse
 constexpr int kFindingLines = 3;
-constexpr int kRowSpace = 8;     // pixels around the text of a row
-constexpr int kColumnSpace = 24; // pixels around a heading: margins and the sorting arrow
-constexpr int kCellSpace = 12;
-constexpr int kNameCharacters = 18;
 
 } // namespace
 
-OverviewWindow::OverviewWindow(PageHost& host)
-    : m_host(host), m_ui(std::make_unique<Ui::OverviewWindow>()), m_rows(new OverviewModel(this)), m_sorted(new SortedOverview(*m_rows)),
-      m_totals(new OverviewTotalsModel(this))
+OverviewWindow::OverviewWindow(PageHost& host) : m_host(host), m_ui(std::make_unique<Ui::OverviewWindow>())
 {
     m_ui->setupUi(this);
+    m_tables = new OverviewTables({*m_ui->grdOverview, *m_ui->grdTotals}, this);
     setMinimumSize(kSmallestSize);
     setWindowIcon(ThemeIcon("overview"));
     LayOut();
-    PrepareTable();
     ConnectPeriod();
     ConnectTable();
     ConnectKeys();
@@ -90,22 +87,6 @@ void OverviewWindow::LayOut()
     m_ui->lstOverviewFindings->KeepRoom(kFindingLines);
 }
 
-void OverviewWindow::PrepareTable()
-{
-    m_ui->grdOverview->setModel(m_sorted);
-    m_ui->grdTotals->setModel(m_totals);
-    for (QTableView* table : {m_ui->grdOverview, m_ui->grdTotals}) {
-        table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-        table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + kRowSpace);
-        table->verticalHeader()->hide();
-        table->horizontalHeader()->setHighlightSections(false);
-    }
-    m_ui->grdTotals->horizontalHeader()->hide();
-    m_ui->grdTotals->setFixedHeight(m_ui->grdTotals->verticalHeader()->defaultSectionSize() + 2 * m_ui->grdTotals->frameWidth());
-    m_ui->grdOverview->viewport()->installEventFilter(this);
-    m_ui->grdOverview->sortByColumn(static_cast<int>(OverviewColumn::Problems), Qt::DescendingOrder);
-}
-
 void OverviewWindow::ConnectPeriod()
 {
     m_ui->dttbOverviewFrom->SetClock(m_host.Clock());
@@ -128,18 +109,10 @@ void OverviewWindow::ConnectPeriod()
 
 void OverviewWindow::ConnectTable()
 {
-    QTableView* table = m_ui->grdOverview;
-    connect(m_ui->chkOnlyProblems, &QCheckBox::toggled, this, [this](bool only) {
-        m_sorted->ShowOnlyProblems(only);
-        ShowTotals();
-        ShowFindings();
-    });
-    connect(table->selectionModel(), &QItemSelectionModel::selectionChanged, this, &OverviewWindow::ShowFindings);
-    connect(m_sorted, &QAbstractItemModel::layoutChanged, this, &OverviewWindow::ShowFindings);
-    connect(table, &QTableView::doubleClicked, this, &OverviewWindow::OpenCard);
-    connect(table->horizontalHeader(), &QHeaderView::sectionResized, this,
-            [this](int column, int, int width) { m_ui->grdTotals->setColumnWidth(column, width); });
-    connect(table->horizontalScrollBar(), &QScrollBar::valueChanged, m_ui->grdTotals->horizontalScrollBar(), &QScrollBar::setValue);
+    connect(m_ui->chkOnlyProblems, &QCheckBox::toggled, m_tables, &OverviewTables::ShowOnlyProblems);
+    connect(m_tables, &OverviewTables::ShownRowChanged, this, &OverviewWindow::ShowFindings);
+    connect(m_ui->grdOverview, &QTableView::doubleClicked, this, &OverviewWindow::OpenCard);
+    AfterEachLook(m_host, *this, [this] { TellChanges(); });
     connect(m_ui->lstOverviewFindings, &FindingList::Entered, this, &OverviewWindow::OpenCard);
     connect(m_ui->cmdSaveAs, &QPushButton::clicked, this, &OverviewWindow::SaveAs);
     connect(m_ui->cmdOpenCard, &QPushButton::clicked, this, &OverviewWindow::OpenCard);
@@ -156,6 +129,8 @@ void OverviewWindow::ConnectKeys()
     onKey(this, QKeySequence::Save, Qt::WindowShortcut, [this] { SaveAs(); });
     onKey(this, Qt::ALT | Qt::Key_Left, Qt::WindowShortcut, [this] { StepPeriod(-1); });
     onKey(this, Qt::ALT | Qt::Key_Right, Qt::WindowShortcut, [this] { StepPeriod(1); });
+    onKey(this, Qt::Key_F3, Qt::WindowShortcut, [this] { Walk(1); });
+    onKey(this, Qt::SHIFT | Qt::Key_F3, Qt::WindowShortcut, [this] { Walk(-1); });
     onKey(this, Qt::Key_Escape, Qt::WindowShortcut, [this] {
         if (m_next.isActive()) {
             Stop();
@@ -176,7 +151,8 @@ void OverviewWindow::Open(const std::optional<PayPeriod>& timecards)
     raise();
     activateWindow();
     if (wasOpen) {
-        return;
+        LookForChanges(m_host);
+        return IsOutdated() ? Refresh() : void();
     }
     m_ui->grdOverview->setFocus();
     if (Succeeds([&] { ShowPeriod(OverviewPeriod(timecards, m_host.Clock().Today(), PeriodLength())); })) {
@@ -228,8 +204,9 @@ std::int16_t OverviewWindow::PeriodLength() const
 // A failure of the first step leaves what was read before in its place.
 void OverviewWindow::Refresh()
 {
-    Say(QString());
     m_next.stop();
+    LookForChanges(m_host);
+    Say(QString());
     Succeeds([this] { Begin(); }, [this](const Failure& reason) { Complain(reason.Description()); });
 }
 
@@ -240,6 +217,7 @@ void OverviewWindow::Begin()
         return Say(kNoPeriod);
     }
     const auto controller = Required(m_host.Controller());
+    m_asOf = NewestChange(m_host);
     m_reading = std::make_shared<OverviewReading>(Required(controller->PTKDatabase()),
                                                   OfferedEmployees(*Required(controller->EmployeeList())), *period, m_host.Clock().Now());
     m_next.start(0);
@@ -249,20 +227,13 @@ void OverviewWindow::Begin()
 // Never within itself: nothing that it does lets other events happen.
 void OverviewWindow::ReadOn()
 {
-    const OverviewRow* shown = ShownRow();
-    const auto chosen = shown != nullptr && m_ui->grdOverview->selectionModel()->hasSelection()
-                            ? std::optional(shown->employee->EmployeeID())
-                            : std::nullopt;
     QElapsedTimer time;
     time.start();
     const auto read = [&] { m_reading->ReadOn([&] { return time.elapsed() < kReadingTime; }); };
     if (!Succeeds(read, [this](const Failure& reason) { Complain(reason.Description()); })) {
         return Stop();
     }
-    m_rows->Show(m_reading);
-    KeepChoice(chosen);
-    ShowTotals();
-    ShowFindings();
+    m_tables->Show(m_reading);
     if (m_reading->IsDone()) {
         return Stop();
     }
@@ -302,38 +273,27 @@ void OverviewWindow::ShowProgress()
 // Of the rows that are shown, which are an earlier reading's where the last one failed at once.
 void OverviewWindow::ShowRead()
 {
-    if (!m_rows->HasReading()) {
-        return m_ui->lblOverview->setText(QString());
-    }
-    m_ui->lblOverview->setText(QString::fromStdString(OverviewNews(m_rows->Shown().Result(), m_rows->Shown().Offered())));
+    const OverviewReading* shown = m_tables->Shown();
+    const std::string news = shown == nullptr ? std::string() : OverviewNews(shown->Result(), shown->Offered());
+    m_ui->lblOverview->setText(QString::fromStdString(news));
 }
 
-const OverviewRow* OverviewWindow::ShownRow() const
+// Also while it is being read: who was read before the change may be another by now.
+bool OverviewWindow::IsOutdated() const
 {
-    const auto chosen = m_ui->grdOverview->selectionModel()->selectedRows();
-    const QModelIndex index = chosen.isEmpty() ? m_sorted->index(0, 0) : chosen.first();
-    return index.isValid() ? &m_rows->Row(m_sorted->mapToSource(index).row()) : nullptr;
+    return m_tables->Shown() != nullptr && NewestChange(m_host) != m_asOf;
 }
 
-// Of the reading before: it is chosen again as soon as it is there.
-void OverviewWindow::KeepChoice(const std::optional<std::int32_t>& employeeID)
+void OverviewWindow::TellChanges()
 {
-    if (employeeID) {
-        m_kept = employeeID;
-    }
-    if (!m_kept || m_ui->grdOverview->selectionModel()->hasSelection()) {
-        return;
-    }
-    for (int row = 0; row < m_sorted->rowCount(); ++row) {
-        if (m_rows->Row(m_sorted->mapToSource(m_sorted->index(row, 0)).row()).employee->EmployeeID() == *m_kept) {
-            return m_ui->grdOverview->selectRow(row);
-        }
+    if (IsOutdated() && !m_ui->notice->IsOffering()) {
+        m_ui->notice->Offer(kChangedSince, kReadAgain, [this] { Refresh(); });
     }
 }
 
 void OverviewWindow::ShowFindings()
 {
-    const OverviewRow* row = ShownRow();
+    const OverviewRow* row = m_tables->ShownRow();
     if (row == m_told && row != nullptr) {
         return; // nobody reading them is disturbed by what is read meanwhile
     }
@@ -345,53 +305,39 @@ void OverviewWindow::ShowFindings()
     }
     const QString summary = QString::fromStdString(FindingSummary(row->check));
     m_ui->lblOverviewFindings->setText(QString(kFindingsOf).arg(QString::fromStdString(row->employee->DisplayName()), summary));
-    m_ui->lstOverviewFindings->Show(ShownFindings(row->check, m_rows->Shown().Result().limits.showNotices));
+    m_ui->lstOverviewFindings->Show(ShownFindings(row->check, m_tables->Shown()->Result().limits.showNotices));
 }
 
-void OverviewWindow::ShowTotals()
+void OverviewWindow::Walk(int direction)
 {
-    if (m_rows->HasReading()) {
-        m_totals->Show(TotalCells(m_rows->Rows(), m_sorted->OnlyProblems()));
-        FitColumns();
+    if (m_tables->StepToProblems({}, direction) == nullptr) {
+        Say(direction > 0 ? kNobodyBehind : kNobodyBefore);
     }
 }
 
-// The names take what the figures leave. Headings and sums have to fit; no figure is wider than its sum, or hardly.
-void OverviewWindow::FitColumns()
+QString OverviewWindow::OpenNextCard(std::optional<std::int32_t> employeeID, int direction)
 {
-    QTableView* table = m_ui->grdOverview;
-    QFont bold = table->font();
-    bold.setBold(true);
-    int figures = 0;
-    for (int column = 1; column < m_sorted->columnCount(); ++column) {
-        const QString heading = m_sorted->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
-        const int sum = QFontMetrics(bold).horizontalAdvance(m_totals->index(0, column).data().toString());
-        const int width = std::max(table->fontMetrics().horizontalAdvance(heading) + kColumnSpace, sum + kCellSpace);
-        table->setColumnWidth(column, width);
-        figures += width;
+    if (m_tables->Shown() == nullptr) {
+        return kNotYetRead;
     }
-    const int least = kNameCharacters * table->fontMetrics().averageCharWidth();
-    table->setColumnWidth(0, std::max(table->viewport()->width() - figures, least));
+    const OverviewRow* next = m_tables->StepToProblems(employeeID, direction);
+    if (next == nullptr) {
+        return direction > 0 ? kNobodyBehind : kNobodyBefore;
+    }
+    OpenCard();
+    return {};
 }
 
-bool OverviewWindow::eventFilter(QObject* watched, QEvent* event)
+std::optional<HistoryScope> OverviewWindow::ShownHistory() const
 {
-    if (event->type() == QEvent::Resize) {
-        FitColumns();
-    }
-    return QWidget::eventFilter(watched, event);
+    const OverviewRow* row = m_tables->ShownRow();
+    return row == nullptr ? std::nullopt
+                          : std::optional(HistoryScope{row->employee->EmployeeID(), m_tables->Shown()->Result().period, {}, {}, false});
 }
 
-// The chosen rows in the order in which they stand, or all.
 void OverviewWindow::Copy()
 {
-    const QItemSelectionModel& selection = *m_ui->grdOverview->selectionModel();
-    std::vector<OverviewCells> lines{OverviewHeading()};
-    for (int row = 0; row < m_sorted->rowCount(); ++row) {
-        if (!selection.hasSelection() || selection.isRowSelected(row)) {
-            lines.push_back(CellsOf(m_rows->Row(m_sorted->mapToSource(m_sorted->index(row, 0)).row())));
-        }
-    }
+    const auto lines = m_tables->ChosenCells();
     QGuiApplication::clipboard()->setText(QString::fromStdString(TabSeparated(lines)));
     const auto count = lines.size() - 1;
     Say(QString(kCopied).arg(count == 1 ? QString(kOneLine) : QString(kLines).arg(count)));
@@ -400,7 +346,7 @@ void OverviewWindow::Copy()
 // All that was read, sorted as it was read.
 void OverviewWindow::SaveAs()
 {
-    if (!m_rows->HasReading()) {
+    if (m_tables->Shown() == nullptr) {
         return;
     }
     const auto reading = m_reading; // the dialog lets the window go on
@@ -410,14 +356,26 @@ void OverviewWindow::SaveAs()
         return;
     }
     const auto make = [&](ReportForm form) { return OverviewFile(form, reading->Result()); };
-    Say(QString::fromStdString(ptk::SaveAs(target->path, target->form, make).said));
+    const SaveOutcome outcome = ptk::SaveAs(target->path, target->form, make);
+    const auto said = QString::fromStdString(outcome.said);
+    outcome.saved ? m_ui->notice->SayFile(said) : Say(said);
 }
 
 void OverviewWindow::OpenCard()
 {
-    if (const OverviewRow* row = ShownRow()) {
-        emit CardWanted(row->employee->EmployeeID(), m_rows->Shown().Result().period);
+    if (const OverviewRow* row = m_tables->ShownRow()) {
+        emit CardWanted(row->employee->EmployeeID(), m_tables->Shown()->Result().period);
     }
+}
+
+// As it comes to the front.
+void OverviewWindow::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
+        QMetaObject::invokeMethod(
+            this, [this] { LookForChanges(m_host); }, Qt::QueuedConnection);
+    }
+    QWidget::changeEvent(event);
 }
 
 void OverviewWindow::closeEvent(QCloseEvent* event)

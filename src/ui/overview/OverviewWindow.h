@@ -10,19 +10,16 @@
 #include <QTimer>
 #include <QWidget>
 
-class QTableView;
-
 namespace Ui {
 class OverviewWindow;
 }
 
 namespace ptk {
 
-class OverviewModel;
 class OverviewReading;
-class OverviewTotalsModel;
+class OverviewTables;
 class PageHost;
-class SortedOverview;
+struct HistoryScope;
 struct OverviewRow;
 
 // Reads a few employees whenever there is nothing else to do, so that the window, and every other one, can be used meanwhile. A reading is
@@ -37,8 +34,16 @@ public:
 
     ~OverviewWindow() override;
 
-    // Brings it to the front. Where it was not open, it takes over the period, see OverviewPeriod, and reads.
+    // Brings it to the front. Where it was not open, it takes over the period, see OverviewPeriod, and reads; where it was, it reads what
+    // has been changed since.
     void Open(const std::optional<PayPeriod>& timecards);
+
+    // Has the card of the next one with problems (direction 1) or the one before (-1) opened, counted from this employee in the order of
+    // the table. Answers what there is to say of it: who has none left, or that nothing was read.
+    QString OpenNextCard(std::optional<std::int32_t> employeeID, int direction);
+
+    // Of the shown row; nothing without one.
+    [[nodiscard]] std::optional<HistoryScope> ShownHistory() const;
 
     // In its line.
     void Say(const QString& text);
@@ -48,17 +53,14 @@ signals:
     void CardWanted(std::int32_t employeeID, const ptk::PayPeriod& period);
 
 protected:
+    void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
-
-    // The table's room.
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void LayOut();
     void ConnectPeriod();
     void ConnectTable();
     void ConnectKeys();
-    void PrepareTable();
 
     void StepPeriod(std::int16_t direction);
     void ShowPeriod(const PayPeriod& period);
@@ -77,25 +79,20 @@ private:
     void ShowProgress();
     void ShowRead();
 
-    // The chosen one, else the first; nullptr without rows.
-    [[nodiscard]] const OverviewRow* ShownRow() const;
-
-    void KeepChoice(const std::optional<std::int32_t>& employeeID);
+    [[nodiscard]] bool IsOutdated() const;
+    void TellChanges();
     void ShowFindings();
-    void ShowTotals();
-    void FitColumns();
+    void Walk(int direction);
     void Copy();
     void SaveAs();
     void OpenCard();
 
     PageHost& m_host;
     std::unique_ptr<Ui::OverviewWindow> m_ui;
-    OverviewModel* m_rows; // these three belong to the window
-    SortedOverview* m_sorted;
-    OverviewTotalsModel* m_totals;
+    OverviewTables* m_tables;                   // belongs to the window
     std::shared_ptr<OverviewReading> m_reading; // that goes on, or the last one; nullptr before the first
     const OverviewRow* m_told = nullptr;        // whose findings are shown; part of the reading that is shown
-    std::optional<std::int32_t> m_kept;         // the employee who was chosen in the reading before
+    std::optional<std::int64_t> m_asOf;         // the newest entry of the trail when it began
     QTimer m_next;
 };
 

@@ -52,8 +52,11 @@ public:
 
     virtual void ErrorNumber(std::int32_t value) = 0;
 
-    // Into the session log; nothing without a controller.
-    virtual void Log(const std::string& line) = 0;
+    // A failure, with its number, into the session log; nothing without a controller.
+    virtual void Log(std::int32_t number, const std::string& text) = 0;
+
+    // A failure of which only the words are known.
+    void Log(const std::string& text) { Log(0, text); }
 
     [[nodiscard]] virtual std::int32_t EventSource() const = 0;
     virtual void EventSource(std::int32_t value) = 0;

@@ -1,8 +1,10 @@
 #include "ui/page/RecordPages.h"
 
+#include "office/records/LeftBehind.h"
 #include "platform/Required.h"
 #include "platform/Succeeds.h"
 #include "platform/system/BusyPointer.h"
+#include "platform/system/Desktop.h"
 #include "startup/CController.h"
 #include "store/CJetDB.h"
 #include "ui/page/PageHost.h"
@@ -25,6 +27,7 @@ namespace {
 constexpr std::chrono::seconds kBetweenLooks(2);
 
 constexpr auto kLoaded = "What is stored now was loaded";
+constexpr auto kLeaveTitle = "Exit";
 constexpr auto kNotLoaded = "what is stored now could not be loaded: ";
 
 } // namespace
@@ -87,9 +90,42 @@ std::string RecordPages::ReadPages(const MovedStep& step)
     std::string trouble;
     Succeeds(read, [&](const Failure& failure) {
         trouble = kNotLoaded + failure.Description();
-        m_frame.host.Log(trouble);
+        m_frame.host.Log(failure.Number(), trouble);
     });
     return trouble;
+}
+
+bool RecordPages::MayLeave()
+{
+    m_mayLeave = m_mayLeave || qApp->isSavingSession() || SettleTyped();
+    return m_mayLeave;
+}
+
+bool RecordPages::SettleTyped()
+{
+    std::vector<std::string> unsaved;
+    for (const Place& place : m_places) {
+        if (std::string typed = place.page.Unsaved(); !typed.empty()) {
+            unsaved.push_back(std::move(typed));
+        }
+    }
+    if (unsaved.empty() || m_frame.host.Controller() == nullptr) {
+        return true;
+    }
+    const Answer answer =
+        m_frame.host.Desktop().MessageBox(LeavingQuestion(unsaved), kLeaveTitle, Icon::Question, Buttons::SaveDiscardCancel);
+    return answer == Answer::No || (answer == Answer::Yes && SaveTyped());
+}
+
+bool RecordPages::SaveTyped()
+{
+    return std::all_of(m_places.begin(), m_places.end(), [this](const Place& place) {
+        if (place.page.Unsaved().empty()) {
+            return true;
+        }
+        m_frame.strip.setCurrentIndex(place.tab);
+        return place.page.SaveTyped();
+    });
 }
 
 void RecordPages::TellNotRemembered(const QString& reason)

@@ -47,6 +47,13 @@ public:
     // All of them; where the database cannot be opened nothing is, and the shown page says so.
     void ReadAgain();
 
+    // Whether the program may end: asks what is to become of what was typed and not saved, where there is any, and does that. A page that
+    // refuses to save is brought up. True from then on once it is; nobody is asked at the end of the desktop's session.
+    bool MayLeave();
+
+    // It may from now on.
+    void LeaveUnasked() { m_mayLeave = true; }
+
     // In the shown page's line and the session log: what was stored cannot be undone.
     void TellNotRemembered(const QString& reason);
 
@@ -54,6 +61,8 @@ public:
 
 private:
     std::string ReadPages(const MovedStep& step);
+    bool SettleTyped();
+    bool SaveTyped();
     void LookSoon();
     void Look();
     void ReadIdleLists();
@@ -62,6 +71,7 @@ private:
 
     Frame m_frame;
     std::array<Place, 3> m_places;
+    bool m_mayLeave = false;
 };
 
 } // namespace ptk

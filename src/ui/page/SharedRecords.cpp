@@ -45,13 +45,20 @@ void SharedRecords::Look()
 {
     if (m_watch != nullptr) {
         m_watch->Look();
+        emit Looked();
     }
+}
+
+std::optional<std::int64_t> SharedRecords::Newest() const
+{
+    return m_watch == nullptr ? std::nullopt : m_watch->Newest();
 }
 
 void SharedRecords::AboutToRead(Shown what)
 {
     if (m_watch != nullptr) {
         m_watch->AboutToRead(what);
+        emit Looked();
     }
 }
 
@@ -59,6 +66,7 @@ void SharedRecords::AboutToRead(Shown what, std::int64_t row)
 {
     if (m_watch != nullptr) {
         m_watch->AboutToRead(what, row);
+        emit Looked();
     }
 }
 

@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <QObject>
 #include <string>
 
@@ -35,6 +36,7 @@ public:
 
     // See ChangeWatch.
     void Look();
+    [[nodiscard]] std::optional<std::int64_t> Newest() const;
     void AboutToRead(Shown what);
     void AboutToRead(Shown what, std::int64_t row);
     [[nodiscard]] bool IsTold() const { return m_watch != nullptr && m_watch->IsTold(); }
@@ -51,6 +53,9 @@ signals:
 
     // What was stored last, which was stored all the same.
     void NotRemembered(const QString& reason);
+
+    // For changes, of one's own or others'.
+    void Looked();
 
     // All pages are to show what is stored now.
     void ReadAgainWanted();

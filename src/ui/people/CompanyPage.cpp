@@ -76,7 +76,7 @@ void CompanyPage::ConnectButtons()
 
 void CompanyPage::FitFields()
 {
-    LimitWidth(*m_ui->fieldArea, fieldwidth::Page);
+    LimitWidth(*this, fieldwidth::Page);
     LimitWidth(*m_ui->txtCompanyState, fieldwidth::State);
     LimitWidth(*m_ui->txtCompanyZip, fieldwidth::Zip);
     for (auto* box : {m_ui->txtCompanyPhone, m_ui->txtCompanyFax, m_ui->txtFederalTaxID}) {
@@ -245,6 +245,12 @@ std::optional<Shown> CompanyPage::IdleList() const
     return m_texts.Left(ReadTexts()) ? std::nullopt : std::optional(Shown::Company);
 }
 
+std::string CompanyPage::Unsaved() const
+{
+    const auto left = m_texts.Left(ReadTexts());
+    return left ? NoticeOf(*left) : std::string();
+}
+
 void CompanyPage::TellChanges()
 {
     const auto company = Of(m_ui->cboCompanyID->currentText().toStdString());
@@ -253,34 +259,38 @@ void CompanyPage::TellChanges()
     }
 }
 
-void CompanyPage::Save()
+bool CompanyPage::Save()
 {
     m_ui->notice->Remark({});
     const CompanyTexts texts = ReadTexts();
     if (texts.name.empty()) {
-        return (void)m_host.Desktop().Show(kNoName, kSaveTitle, Icon::Exclamation);
+        m_host.Desktop().Show(kNoName, kSaveTitle, Icon::Exclamation);
+        return false;
     }
-    Succeeds([&] { SaveTexts(texts); },
-             [this](const Failure&) { m_host.Desktop().Show(kNotRead, listedit::kSaveTitle, Icon::Exclamation); });
+    return Succeeds([&] { return SaveTexts(texts); },
+                    [this](const Failure&) { m_host.Desktop().Show(kNotRead, listedit::kSaveTitle, Icon::Exclamation); });
 }
 
-void CompanyPage::SaveTexts(const CompanyTexts& texts)
+bool CompanyPage::SaveTexts(const CompanyTexts& texts)
 {
     const auto list = List();
     const auto edited = CopyToEdit<CCompany>(*list, texts.id, [](const CCompany& company) { return company.CompanyID(); });
     if (!edited) {
-        return (void)m_host.Desktop().Show(kNotFound, listedit::kNotFoundTitle, Icon::Exclamation);
+        m_host.Desktop().Show(kNotFound, listedit::kNotFoundTitle, Icon::Exclamation);
+        return false;
     }
     ReadCompanyTexts(texts, *edited->entity);
     const ListSave saved = SaveOrTell(m_host.Desktop(), *list, *edited, kNotSaved);
     if (saved == ListSave::Conflict) {
-        return AskForPresent(RowConflict(*list->Conflict()), texts.id);
+        AskForPresent(RowConflict(*list->Conflict()), texts.id);
     }
-    if (saved == ListSave::Saved) {
-        m_host.SharedRecords().Remember();
-        const bool read = Reload();
-        m_ui->notice->Say(QString::fromStdString(texts.name + (read ? kSaved : kSavedUnread)));
+    if (saved != ListSave::Saved) {
+        return false;
     }
+    m_host.SharedRecords().Remember();
+    const bool read = Reload();
+    m_ui->notice->Say(QString::fromStdString(texts.name + (read ? kSaved : kSavedUnread)));
+    return true;
 }
 
 void CompanyPage::AskForPresent(const RowConflict& conflict, const std::string& id)

@@ -40,6 +40,8 @@ public:
 
     void ReadAgain(std::optional<std::int64_t> row) override;
     [[nodiscard]] std::optional<Shown> IdleList() const override;
+    [[nodiscard]] std::string Unsaved() const override;
+    bool SaveTyped() override { return Save(); }
     void TellChanges() override;
 
     // False for nullptr.
@@ -73,8 +75,9 @@ private:
     void PutBack(const LeftBehind<CompanyTexts>& left);
     [[nodiscard]] std::shared_ptr<CCompany> Of(const std::string& id) const;
 
-    void Save();
-    void SaveTexts(const CompanyTexts& texts);
+    // These two: whether it is stored.
+    bool Save();
+    bool SaveTexts(const CompanyTexts& texts);
     void AskForPresent(const RowConflict& conflict, const std::string& id);
 
     // Whether the companies could be read again.

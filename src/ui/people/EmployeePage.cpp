@@ -22,6 +22,8 @@
 #include "ui/widgets/ThemeIcon.h"
 #include "ui_EmployeePage.h"
 
+#include <algorithm>
+
 namespace ptk {
 
 namespace {
@@ -33,6 +35,7 @@ constexpr auto kNoSSN = "You cannot save an employee without a social security n
 constexpr auto kWrongType =
     "An error occurred while validating the employee information entered. Verify that all data entered is of the appropriate type.";
 constexpr auto kAdministrator = "The Administrator may not be modified or deleted.";
+constexpr auto kShowAgain = "Show Again";
 constexpr auto kEmployeeNotFound = "This employee could not be found in the list. Save Aborted.";
 constexpr auto kEmployeeNotRead = "An error occurred while loading the employee object.";
 constexpr auto kEmployeeNotSaved = "An error occurred while saving the employee list.";
@@ -101,7 +104,7 @@ void EmployeePage::ConnectButtons()
 
 void EmployeePage::FitFields()
 {
-    LimitWidth(*m_ui->fieldArea, fieldwidth::Page);
+    LimitWidth(*this, fieldwidth::Page);
     LimitWidth(*m_ui->txtEmployeeState, fieldwidth::State);
     LimitWidth(*m_ui->txtEmployeeZip, fieldwidth::Zip);
     LimitWidth(*m_ui->txtEmployeePhone, fieldwidth::Phone);
@@ -310,6 +313,12 @@ std::optional<Shown> EmployeePage::IdleList() const
     return m_texts.Left(ReadTexts()) ? std::nullopt : std::optional(Shown::Employee);
 }
 
+std::string EmployeePage::Unsaved() const
+{
+    const auto left = m_texts.Left(ReadTexts());
+    return left ? NoticeOf(*left) : std::string();
+}
+
 void EmployeePage::TellChanges()
 {
     const auto employee = Of(m_ui->cboEmployeeID->currentText().toStdString());
@@ -323,15 +332,15 @@ void EmployeePage::WarnOfSharedNumbers()
     Succeeds([this] { m_ui->notice->Remark(QString::fromStdString(SharedNumbersNotice(*List(), ReadTexts()))); });
 }
 
-void EmployeePage::Save()
+bool EmployeePage::Save()
 {
     m_ui->notice->Remark({});
     const EmployeeTexts texts = ReadTexts();
     if (!IsAccepted(texts)) {
-        return;
+        return false;
     }
-    Succeeds([&] { SaveTexts(texts); },
-             [this](const Failure&) { m_host.Desktop().Show(kEmployeeNotRead, listedit::kSaveTitle, Icon::Exclamation); });
+    return Succeeds([&] { return SaveTexts(texts); },
+                    [this](const Failure&) { m_host.Desktop().Show(kEmployeeNotRead, listedit::kSaveTitle, Icon::Exclamation); });
 }
 
 bool EmployeePage::IsAccepted(const EmployeeTexts& texts)
@@ -362,27 +371,48 @@ bool EmployeePage::IsAccepted(const EmployeeTexts& texts)
     return false;
 }
 
-void EmployeePage::SaveTexts(const EmployeeTexts& texts)
+bool EmployeePage::SaveTexts(const EmployeeTexts& texts)
 {
     const auto list = List();
     const auto edited = CopyToEdit<CEmployee>(*list, texts.id, [](const CEmployee& employee) { return employee.EmployeeID(); });
     if (!edited) {
-        return (void)m_host.Desktop().Show(kEmployeeNotFound, listedit::kNotFoundTitle, Icon::Exclamation);
+        m_host.Desktop().Show(kEmployeeNotFound, listedit::kNotFoundTitle, Icon::Exclamation);
+        return false;
     }
     ReadEmployeeTexts(texts, *edited->entity);
     const std::string shared = SharedNumbersNotice(*list, texts);
     const ListSave saved = SaveOrTell(m_host.Desktop(), *list, *edited, kEmployeeNotSaved);
     if (saved == ListSave::Conflict) {
-        return AskForPresent(RowConflict(*list->Conflict()), texts.id);
+        AskForPresent(RowConflict(*list->Conflict()), texts.id);
     }
     if (saved != ListSave::Saved) {
-        return;
+        return false;
     }
     m_host.SharedRecords().Remember();
     const bool read = Reload();
-    m_ui->notice->Say(
-        QString::fromStdString(texts.name + (read ? kEmployeeSaved : kEmployeeSavedUnread) + (shared.empty() ? "" : ". ") + shared));
+    const std::string said = texts.name + (read ? kEmployeeSaved : kEmployeeSavedUnread) + (shared.empty() ? "" : ". ") + shared;
+    m_ui->notice->Suggest(QString::fromStdString(said), kShowAgain, [this, id = SavedID(texts)] { ShowAgain(id); });
     emit m_host.EmployeeModels().Saved(edited->entity->EmployeeID());
+    return true;
+}
+
+// The page is deliberately empty after a save; the one who was saved is a press away. A new one is the newest of that name.
+std::string EmployeePage::SavedID(const EmployeeTexts& texts) const
+{
+    std::int32_t newest = 0;
+    for (std::int32_t i = 1; texts.id.empty() && i <= List()->Count(); ++i) {
+        const auto employee = List()->Item(i);
+        newest = employee->DisplayName() == texts.name ? std::max(newest, employee->EmployeeID()) : newest;
+    }
+    return texts.id.empty() ? std::to_string(newest) : texts.id;
+}
+
+void EmployeePage::ShowAgain(const std::string& id)
+{
+    LeaveBehind(m_texts.Left(ReadTexts()));
+    if (const auto employee = Of(id); ShowEmployee(employee)) {
+        ShowStatus(*employee);
+    }
 }
 
 void EmployeePage::AskForPresent(const RowConflict& conflict, const std::string& id)

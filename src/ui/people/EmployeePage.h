@@ -42,6 +42,8 @@ public:
 
     void ReadAgain(std::optional<std::int64_t> row) override;
     [[nodiscard]] std::optional<Shown> IdleList() const override;
+    [[nodiscard]] std::string Unsaved() const override;
+    bool SaveTyped() override { return Save(); }
     void TellChanges() override;
 
     // False for nullptr.
@@ -79,9 +81,13 @@ private:
     void PutBack(const LeftBehind<EmployeeTexts>& left);
     [[nodiscard]] std::shared_ptr<CEmployee> Of(const std::string& id) const;
 
-    void Save();
+    // These two: whether it is stored.
+    bool Save();
+    bool SaveTexts(const EmployeeTexts& texts);
+
     bool IsAccepted(const EmployeeTexts& texts);
-    void SaveTexts(const EmployeeTexts& texts);
+    [[nodiscard]] std::string SavedID(const EmployeeTexts& texts) const;
+    void ShowAgain(const std::string& id);
     void AskForPresent(const RowConflict& conflict, const std::string& id);
 
     // Whether the employees could be read again.

@@ -23,6 +23,10 @@ std::shared_ptr<ReportViewer> QtViewerFactory::CreateViewer(ReportKind kind)
     QObject::connect(window.get(), &ReportViewerWindow::Failed, window.get(),
                      [log = m_log](const QString& line) { log(line.toStdString()); });
     m_open.push_back(window);
+    if (m_behind != nullptr) {
+        window->OpenBehind();
+        m_behind->m_opened.push_back(window);
+    }
     return window;
 }
 
@@ -42,6 +46,26 @@ void QtViewerFactory::CloseAll()
 {
     for (const auto& window : Those([](const ReportViewerWindow&) { return true; })) {
         window->LetGo();
+    }
+}
+
+QtViewerFactory::OpensBehind::OpensBehind(QtViewerFactory& viewers) : m_viewers(viewers)
+{
+    m_viewers.m_behind = this;
+}
+
+QtViewerFactory::OpensBehind::~OpensBehind()
+{
+    m_viewers.m_behind = nullptr;
+    std::shared_ptr<ReportViewerWindow> last;
+    for (const auto& opened : m_opened) {
+        if (const auto window = opened.lock(); window != nullptr && window->isVisible()) {
+            window->Rise();
+            last = window;
+        }
+    }
+    if (last != nullptr) {
+        last->BringUp();
     }
 }
 

@@ -27,12 +27,30 @@ public:
 
     void CloseAll();
 
+    // While it lives, windows open behind all others and leave the keyboard where it is; when it goes they rise, and the last one takes it.
+    // One at a time.
+    class OpensBehind
+    {
+    public:
+        explicit OpensBehind(QtViewerFactory& viewers);
+        ~OpensBehind();
+        OpensBehind(const OpensBehind&) = delete;
+        OpensBehind& operator=(const OpensBehind&) = delete;
+
+    private:
+        friend QtViewerFactory;
+
+        QtViewerFactory& m_viewers;
+        std::vector<std::weak_ptr<ReportViewerWindow>> m_opened;
+    };
+
 private:
     template <typename Condition>
     [[nodiscard]] std::vector<std::shared_ptr<ReportViewerWindow>> Those(Condition condition) const;
 
     std::function<void(const std::string&)> m_log;
     std::vector<std::weak_ptr<ReportViewerWindow>> m_open;
+    OpensBehind* m_behind = nullptr;
 };
 
 } // namespace ptk

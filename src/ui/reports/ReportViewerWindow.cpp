@@ -19,6 +19,7 @@
 #include <QShortcut>
 #include <QTextDocument>
 #include <QWheelEvent>
+#include <QWindow>
 
 #include <algorithm>
 
@@ -80,9 +81,12 @@ ReportViewerWindow::~ReportViewerWindow() = default;
 void ReportViewerWindow::LayOutButtons()
 {
     auto* row = new ButtonRow;
-    m_ui->layout->addLayout(row);
-    const std::unique_ptr<QLayout> before(m_ui->buttons);
-    row->TakeFrom(*before);
+    row->setContentsMargins(0, 0, 0, 0);
+    {
+        const std::unique_ptr<QLayout> before(m_ui->buttons);
+        row->TakeFrom(*before);
+    }
+    m_ui->pnlButtons->setLayout(row);
 }
 
 void ReportViewerWindow::ConnectControls()
@@ -151,7 +155,24 @@ void ReportViewerWindow::Show()
     ShowNotice();
     Place();
     show();
-    BringUp();
+    if (!testAttribute(Qt::WA_ShowWithoutActivating)) {
+        BringUp();
+    }
+}
+
+void ReportViewerWindow::OpenBehind()
+{
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    setWindowFlag(Qt::WindowStaysOnBottomHint); // raising another window after each would take that from what else is on the screen
+}
+
+// The flag is taken from the window itself: from the widget it would hide the window first.
+void ReportViewerWindow::Rise()
+{
+    setAttribute(Qt::WA_ShowWithoutActivating, false);
+    overrideWindowFlags(windowFlags() & ~Qt::WindowStaysOnBottomHint);
+    windowHandle()->setFlag(Qt::WindowStaysOnBottomHint, false);
+    raise();
 }
 
 void ReportViewerWindow::BringUp()

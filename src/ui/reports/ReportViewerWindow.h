@@ -31,9 +31,16 @@ public:
     // Always true.
     bool WriteLine(const std::string& buffer) override;
 
+    // To the front, or behind everything where it is opened so.
     void Show() override;
     void Hide() override;
     void Unload() override;
+
+    // To be called before it is shown: it opens below all other windows, without the keyboard, and stays there until it is to rise.
+    void OpenBehind();
+
+    // In front of the others, still without the keyboard.
+    void Rise();
 
     // To the front.
     void BringUp();

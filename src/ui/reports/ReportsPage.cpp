@@ -16,8 +16,9 @@
 #include "store/CSystemOptions.h"
 #include "ui/page/PageHost.h"
 #include "ui/reports/OpenReports.h"
+#include "ui/reports/ReportPeople.h"
 #include "ui/widgets/ChosenOnly.h"
-#include "ui/widgets/EmployeeModels.h"
+#include "ui/widgets/FieldWidth.h"
 #include "ui/widgets/WorkProgress.h"
 #include "ui_ReportsPage.h"
 
@@ -39,6 +40,8 @@ constexpr auto kStatusName = "Reports : ";
 constexpr auto kProgressTitle = "Generate Report";
 constexpr auto kProgressText = "Generating for {} employees...";
 
+constexpr auto kNothingMade = "No report was made";
+
 constexpr auto kNoDatesTip = "This report needs no dates.";
 constexpr auto kYearTip = "Year-to-date totals start on 1 January.";
 constexpr auto kEveryoneTip = "The phone book lists everyone.";
@@ -46,7 +49,7 @@ constexpr auto kBackTip = "Previous period (Alt+Left)";
 constexpr auto kNextTip = "Next period (Alt+Right)";
 constexpr auto kSameTip = "Take the dates that the Timecards page shows";
 
-constexpr int kNameCharacters = 48; // the list is no wider than names need
+constexpr int kNameCharacters = 72; // the list is no wider than names need
 
 // What the user sees is what the report is asked for; a text that is no date is the report's to refuse.
 Value ChosenDate(const DateCombo& box)
@@ -82,7 +85,8 @@ void SetUsable(QWidget& control, bool usable, const char* reason, const char* us
 ReportsPage::ReportsPage(PageHost& host, QWidget* parent) : QWidget(parent), m_host(host), m_ui(std::make_unique<Ui::ReportsPage>())
 {
     m_ui->setupUi(this);
-    ShowEmployees(*m_ui->lstEmployees, host.EmployeeModels().Offered());
+    LimitWidth(*this, fieldwidth::Page);
+    m_people = new ReportPeople(host, *m_ui->lstEmployees, [this] { return m_generating; });
     m_ui->lstEmployees->setMaximumWidth(kNameCharacters * fontMetrics().averageCharWidth());
     m_ui->cboFromDate->SetClock(host.Clock());
     m_ui->cboToDate->SetClock(host.Clock());
@@ -108,7 +112,7 @@ void ReportsPage::ConnectControls()
 void ReportsPage::ConnectPeriod()
 {
     connect(m_ui->cboFromDate, &DateCombo::Changed, this, &ReportsPage::ChangeFromDate);
-    connect(m_ui->cboToDate, &DateCombo::Changed, this, &ReportsPage::ShowStatus);
+    connect(m_ui->cboToDate, &DateCombo::Changed, this, &ReportsPage::ShowPeriod);
     connect(m_ui->cmdReportPeriodBack, &QPushButton::pressed, this, [this] { StepPeriod(-1); });
     connect(m_ui->cmdReportPeriodNext, &QPushButton::pressed, this, [this] { StepPeriod(1); });
     connect(m_ui->cmdSamePeriod, &QPushButton::pressed, this, &ReportsPage::TakeTimeCardPeriod);
@@ -124,6 +128,7 @@ void ReportsPage::ConnectEmployees()
     connect(selectNone, &QShortcut::activated, list, &QListView::clearSelection);
     connect(list->selectionModel(), &QItemSelectionModel::selectionChanged, this, &ReportsPage::ShowSelected);
     connect(list->model(), &QAbstractItemModel::modelReset, this, &ReportsPage::ShowSelected);
+    connect(m_people, &ReportPeople::Checked, this, &ReportsPage::TellProblems);
 }
 
 bool ReportsPage::FillReportList()
@@ -156,7 +161,7 @@ void ReportsPage::SelectReport()
     }
     OfferDates(entry->dates);
     OfferEmployees(entry->whom != ReportWhom::Everyone);
-    ShowStatus();
+    ShowPeriod();
 }
 
 void ReportsPage::OfferDates(ReportDates dates)
@@ -199,7 +204,7 @@ void ReportsPage::ChangeFromDate()
     if (const auto from = m_ui->cboFromDate->Date()) {
         m_ui->cboToDate->SetDate(PayPeriodFrom(*from, PeriodLength()).to);
     }
-    ShowStatus();
+    ShowPeriod();
 }
 
 void ReportsPage::StepPeriod(std::int16_t direction)
@@ -216,7 +221,7 @@ void ReportsPage::StepPeriod(std::int16_t direction)
     if (!Succeeds(step)) {
         Say(timecardnotice::kNotMoved.text);
     }
-    ShowStatus();
+    ShowPeriod();
 }
 
 void ReportsPage::TakeTimeCardPeriod()
@@ -224,7 +229,38 @@ void ReportsPage::TakeTimeCardPeriod()
     const PeriodTexts period = m_host.TimeCardPeriod();
     m_ui->cboFromDate->SetText(QString::fromStdString(period.from));
     m_ui->cboToDate->SetText(QString::fromStdString(period.to));
+    ShowPeriod();
+}
+
+std::optional<PayPeriod> ReportsPage::Days() const
+{
+    const auto from = m_ui->cboFromDate->Date();
+    const auto to = m_ui->cboToDate->Date();
+    return from && to && *from <= *to ? std::optional(PayPeriod{*from, *to}) : std::nullopt;
+}
+
+void ReportsPage::ShowPeriod()
+{
     ShowStatus();
+    const ReportEntry* entry = FindReport(m_reportName);
+    if (entry != nullptr) {
+        m_people->Check(entry->dates == ReportDates::None || entry->whom == ReportWhom::Everyone ? std::nullopt : Days());
+        Succeeds([&] { ShowOfferedNotice(*entry); });
+    }
+}
+
+// Days of one's own choice need no explanation.
+void ReportsPage::ShowOfferedNotice(const ReportEntry& entry)
+{
+    std::string notice;
+    if (entry.dates == ReportDates::PayPeriod) {
+        const DateTime today = m_host.Clock().Today();
+        const auto offered = OfferedDays(entry.dates, today, PeriodLength());
+        if (offered && m_ui->cboFromDate->Date() == offered->from && m_ui->cboToDate->Date() == offered->to) {
+            notice = OfferedDaysNotice(today, PeriodLength());
+        }
+    }
+    m_ui->lblOffered->Say(QString::fromStdString(notice));
 }
 
 void ReportsPage::ShowStatus()
@@ -243,6 +279,17 @@ void ReportsPage::Generate()
     }
     const QScopedValueRollback generating(m_generating, true);
     Succeeds([&] { Run(*entry); }, [&](const Failure& reason) { ShowFailure(reason.Number(), name); });
+    m_outcome = m_ui->notice->Text();
+    TellProblems();
+}
+
+// Also when they have been checked only after the run.
+void ReportsPage::TellProblems()
+{
+    const QString problems = QString::fromStdString(m_people->ProblemsOfChosen());
+    if (!m_outcome.isEmpty() && m_ui->notice->Text() == m_outcome && !problems.isEmpty()) {
+        m_ui->notice->Say(m_outcome + ". " + problems);
+    }
 }
 
 // Shows what becomes of a run.
@@ -273,9 +320,9 @@ private:
 void ReportsPage::Client::Made(Report& report, bool complete, const std::string& outcome)
 {
     if (report.ErrorNumber() != 0) {
-        m_page.m_host.Log(report.ReportName() + ": " + outcome);
+        m_page.m_host.Log(report.ErrorNumber(), report.ReportName() + ": " + outcome);
     }
-    if (!complete && m_entry.tellsFailures) {
+    if (!complete && m_entry.tellsFailures && !m_progress->IsCancelled()) {
         ShowFailure(report);
     }
 }
@@ -302,8 +349,18 @@ void ReportsPage::Run(const ReportEntry& entry)
                             Names(entry.whom),
                             ChosenDate(*m_ui->cboFromDate),
                             ChosenDate(*m_ui->cboToDate)};
+    if (!MayOpenWindows(order)) {
+        return Say(kNothingMade);
+    }
+    const QtViewerFactory::OpensBehind behind(m_host.Reports().Viewers());
     Client client(*this, order);
     RunReports(order, client);
+}
+
+bool ReportsPage::MayOpenWindows(const ReportOrder& order)
+{
+    const auto question = ManyWindowsQuestion(order.report.whom, order.names.size());
+    return !question || m_host.Desktop().MessageBox(*question, kProgressTitle, Icon::Question, Buttons::YesNo) == Answer::Yes;
 }
 
 std::vector<std::string> ReportsPage::Names(ReportWhom whom) const

@@ -1,10 +1,13 @@
 // The Reports page: which report, for whom, for which days.
 #pragma once
 
+#include "model/PayPeriod.h"
 #include "reports/ReportCatalog.h"
 
 #include <cstdint>
 #include <memory>
+#include <optional>
+#include <QString>
 #include <QWidget>
 #include <string>
 #include <vector>
@@ -16,6 +19,8 @@ class ReportsPage;
 namespace ptk {
 
 class PageHost;
+struct ReportOrder;
+class ReportPeople;
 
 class ReportsPage final : public QWidget
 {
@@ -50,14 +55,24 @@ private:
     void StepPeriod(std::int16_t direction);
 
     void TakeTimeCardPeriod();
+    void ShowPeriod();
     void ShowStatus();
+    void ShowOfferedNotice(const ReportEntry& entry);
     void ShowSelected();
 
     void Generate();
     void Run(const ReportEntry& entry);
 
+    // Asks where they are many.
+    bool MayOpenWindows(const ReportOrder& order);
+    // Beside the outcome of the last run, while the line still tells it.
+    void TellProblems();
+
     // In the list box's order.
     [[nodiscard]] std::vector<std::string> Names(ReportWhom whom) const;
+
+    // Nothing while the boxes do not hold any.
+    [[nodiscard]] std::optional<PayPeriod> Days() const;
 
     [[nodiscard]] std::int16_t PeriodLength() const;
     void ShowFailure(std::int32_t errorNumber, const std::string& reportName);
@@ -65,6 +80,8 @@ private:
 
     PageHost& m_host;
     std::unique_ptr<Ui::ReportsPage> m_ui;
+    ReportPeople* m_people;   // belongs to the page's list
+    QString m_outcome;        // of the last run
     std::string m_reportName; // of the selected report, for the status bar
     bool m_generating = false;
 };

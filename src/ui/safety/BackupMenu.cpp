@@ -35,7 +35,7 @@ void BackupMenu::BackUpWhenDue()
             emit Done(told);
         }
     };
-    Succeeds(backUp, [this](const Failure& reason) { m_host.Log(reason.Description()); });
+    Succeeds(backUp, [this](const Failure& reason) { m_host.Log(reason.Number(), reason.Description()); });
 }
 
 void BackupMenu::BackUpNow()

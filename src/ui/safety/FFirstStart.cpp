@@ -92,7 +92,7 @@ std::string FFirstStart::BeginNew()
                                m_ui->txtRepeated->text().toStdString()};
     std::string refusal = BusinessRefusal(business);
     if (refusal.empty()) {
-        BeginBusiness(m_folder, business, m_clock.Today());
+        BeginBusiness(m_folder, business);
     }
     return refusal;
 }

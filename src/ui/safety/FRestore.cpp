@@ -1,10 +1,12 @@
 #include "ui/safety/FRestore.h"
 
 #include "office/safety/BackupCells.h"
+#include "platform/Succeeds.h"
 #include "ui_FRestore.h"
 
 #include <algorithm>
 #include <filesystem>
+#include <QApplication>
 #include <QFileDialog>
 
 namespace ptk {
@@ -14,6 +16,7 @@ namespace {
 constexpr auto kQuestion = "Choose the backup that the database is to be again. The present database is kept as one more backup; what was "
                            "typed and not saved is given up.";
 constexpr auto kNone = "There is no backup in the program's folder. A second copy in another place can be chosen as another file.";
+constexpr auto kUnreadable = "The backups could not be listed: ";
 constexpr auto kChooseSound = "Choose a backup that was checked and found sound.";
 constexpr auto kChecking = "checking...";
 constexpr auto kSound = "sound";
@@ -73,7 +76,7 @@ void FRestore::PrepareTable()
         table->horizontalHeaderItem(column)->setTextAlignment(AlignmentOf(column));
     }
     const auto widthOf = [&](const QString& text) { return table->fontMetrics().horizontalAdvance(text) + kColumnSpace; };
-    table->setColumnWidth(Made, widthOf("Wed 00/00/0000 00:00 AM"));
+    table->setColumnWidth(Made, widthOf("Wed 00/00/0000 00:00:00 AM"));
     for (int column = Size; column < Checked; ++column) {
         table->setColumnWidth(column, std::max(widthOf(kHeadings.at(column)), widthOf("00/00/0000")));
     }
@@ -94,9 +97,8 @@ std::string FRestore::Choose(const std::string& folder)
 
 void FRestore::Fill()
 {
-    m_names = BackupsIn(m_folder);
+    m_ui->lblRestore->setText(ReadNames());
     m_states.assign(m_names.size(), State::Unchecked);
-    m_ui->lblRestore->setText(m_names.empty() ? kNone : kQuestion);
     m_ui->grdBackups->clearSelection();
     m_ui->grdBackups->setRowCount(static_cast<int>(m_names.size()));
     for (int row = 0; row < m_ui->grdBackups->rowCount(); ++row) {
@@ -109,6 +111,19 @@ void FRestore::Fill()
     EnableRestore();
 }
 
+// Answers what is to be said above the list.
+QString FRestore::ReadNames()
+{
+    m_names.clear();
+    QString told;
+    const auto tell = [&](const Failure& reason) { told = kUnreadable + QString::fromStdString(reason.Description() + ": " + m_folder); };
+    Succeeds([&] { m_names = BackupsIn(m_folder); }, tell);
+    if (!told.isEmpty()) {
+        return told;
+    }
+    return m_names.empty() ? kNone : kQuestion;
+}
+
 void FRestore::CheckNext()
 {
     const auto next = std::find(m_states.begin(), m_states.end(), State::Unchecked);
@@ -116,7 +131,16 @@ void FRestore::CheckNext()
         return m_next.stop();
     }
     const auto position = next - m_states.begin();
-    const BackupEntry entry = CheckedBackup(m_folder, m_names.at(static_cast<std::size_t>(position)));
+    m_next.stop(); // or the events meanwhile would begin the next
+    const auto goOn = [this](std::int32_t /*done*/, std::int32_t /*all*/) {
+        QApplication::processEvents();
+        return isVisible();
+    };
+    const BackupEntry entry = CheckedBackup(m_folder, m_names.at(static_cast<std::size_t>(position)), goOn);
+    if (!isVisible()) {
+        return; // the user has chosen or gone, and nothing was found out
+    }
+    m_next.start();
     *next = entry.content ? State::Sound : State::Useless;
     ShowChecked(static_cast<int>(position), entry);
     EnableRestore();

@@ -39,6 +39,7 @@ private:
 
     void PrepareTable();
     void Fill();
+    QString ReadNames();
     void CheckNext();
     void ShowChecked(int row, const BackupEntry& entry);
     void ShowCells(int row, const BackupCells& cells);

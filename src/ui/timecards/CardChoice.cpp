@@ -14,12 +14,17 @@
 #include "ui/widgets/FoldingRow.h"
 #include "ui_CardChoice.h"
 
+#include <QSettings>
+
 namespace ptk {
 
 namespace {
 
 constexpr int kNameCharacters = 14;     // shown on the smallest window
 constexpr int kMostNameCharacters = 32; // on the largest
+constexpr auto kLastFrom = "timecards/from";
+constexpr auto kLastTo = "timecards/to";
+constexpr auto kNoneUsed = "No time card has been generated yet";
 constexpr std::int16_t kBack = -1;
 constexpr std::int16_t kNext = 1;
 
@@ -30,6 +35,13 @@ DateTime ChosenDate(const DateCombo& box)
         throw Failure(failure::TypeMismatch);
     }
     return *date;
+}
+
+// As they were shown.
+QStringList LastUsed()
+{
+    const QSettings settings;
+    return {settings.value(kLastFrom).toString(), settings.value(kLastTo).toString()};
 }
 
 } // namespace
@@ -45,6 +57,7 @@ CardChoice::CardChoice(PageHost& host, QWidget* parent) : QWidget(parent), m_hos
     ChooseByTyping(*box);
     box->setMaximumWidth(box->sizeHint().width() + (kMostNameCharacters - kNameCharacters) * box->fontMetrics().averageCharWidth());
     ConnectBoxes();
+    OfferLastUsed();
 }
 
 CardChoice::~CardChoice() = default;
@@ -73,6 +86,7 @@ void CardChoice::ConnectBoxes()
     connect(m_ui->dttbTCTo, &DateCombo::Changed, this, &CardChoice::PeriodTyped);
     connect(m_ui->cmdPeriodBack, &QPushButton::clicked, this, [this] { StepPeriod(kBack); });
     connect(m_ui->cmdPeriodNext, &QPushButton::clicked, this, [this] { StepPeriod(kNext); });
+    connect(m_ui->cmdLastPeriod, &QToolButton::clicked, this, &CardChoice::TakeLastUsed);
     connect(m_ui->cboTCEmployeeName, &QComboBox::activated, this, &CardChoice::EmployeeChosen);
     connect(m_ui->cmdTCBack, &QPushButton::clicked, this, [this] { StepEmployee(kBack); });
     connect(m_ui->cmdTCNext, &QPushButton::clicked, this, [this] { StepEmployee(kNext); });
@@ -108,6 +122,35 @@ void CardChoice::StepPeriod(std::int16_t direction)
     if (!Succeeds([&] { return MovePayPeriod(direction); })) {
         Tell(m_host.Desktop(), timecardnotice::kNotMoved);
     }
+    emit Stepped();
+}
+
+void CardChoice::KeepAsLastUsed()
+{
+    const auto shown = PeriodTexts();
+    static_cast<void>(Period());
+    if (ChosenDate(*m_ui->dttbTCFrom) == m_host.Clock().Today()) {
+        return;
+    }
+    QSettings settings;
+    settings.setValue(kLastFrom, QString::fromStdString(shown.from));
+    settings.setValue(kLastTo, QString::fromStdString(shown.to));
+    OfferLastUsed();
+}
+
+void CardChoice::OfferLastUsed()
+{
+    const QStringList last = LastUsed();
+    const bool any = !last.contains(QString());
+    m_ui->cmdLastPeriod->setEnabled(any);
+    m_ui->cmdLastPeriod->setToolTip(any ? last.join(" - ") : kNoneUsed);
+}
+
+void CardChoice::TakeLastUsed()
+{
+    const QStringList last = LastUsed();
+    m_ui->dttbTCFrom->SetText(last.first());
+    m_ui->dttbTCTo->SetText(last.last());
     emit Stepped();
 }
 

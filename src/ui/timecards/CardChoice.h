@@ -35,6 +35,10 @@ public:
 
     void Period(PayPeriod value);
 
+    // The period is offered as the last one used, also after the next start of the program; not one that only begins today, as it does
+    // where nobody has chosen any. Raises Failure 13 when a box holds no date.
+    void KeepAsLastUsed();
+
     // As the boxes show it.
     [[nodiscard]] ptk::PeriodTexts PeriodTexts() const;
 
@@ -80,6 +84,8 @@ private:
     bool MovePayPeriod(std::int16_t direction);
 
     void StepPeriod(std::int16_t direction);
+    void OfferLastUsed();
+    void TakeLastUsed();
     void StepEmployee(int direction);
 
     // Raises Failure 91 before the window has its controller.

@@ -2,13 +2,16 @@
 
 #include "model/CEmployee.h"
 #include "model/CTimeCard.h"
+#include "model/CTimeRecord.h"
 #include "office/card/CardTexts.h"
 #include "office/card/CheckedTimecard.h"
 #include "platform/Required.h"
 #include "platform/text/Text.h"
 #include "ui/timecards/TimeRecordGridModel.h"
+#include "ui/widgets/FoldingRow.h"
 #include "ui_CardDisplay.h"
 
+#include <algorithm>
 #include <QHeaderView>
 #include <QShortcut>
 
@@ -16,7 +19,7 @@ namespace ptk {
 
 namespace {
 
-constexpr int kRowSpace = 8; // pixels around the text of a row
+constexpr int kRowSpace = 3; // pixels around the text of a row: twelve are to fit on a screen of 1024 x 700
 
 QString Figure(float value)
 {
@@ -30,12 +33,31 @@ CardDisplay::CardDisplay(QWidget* parent)
 {
     m_ui->setupUi(this);
     m_ui->txtTCPeriodPay->SetImportant();
+    LayOutFigures();
     setFocusProxy(m_ui->grdTimeRecs);
     PrepareGrid();
     ConnectFindings();
 }
 
 CardDisplay::~CardDisplay() = default;
+
+// The frame keeps them in sight. The break time stands before them, or above them on a narrow window.
+void CardDisplay::LayOutFigures()
+{
+    auto* standing = new FoldingRow;
+    standing->setObjectName("figures");
+    m_ui->layoutDisplay->removeItem(m_ui->layoutFigures);
+    m_ui->layoutFigures->setParent(nullptr);
+    standing->addWidget(m_ui->lblTCBreakTime, 1);
+    standing->addLayout(m_ui->layoutFigures);
+    m_ui->layoutDisplay->addLayout(standing);
+}
+
+void CardDisplay::ShowBreakTime(const QString& text)
+{
+    m_ui->lblTCBreakTime->setText(text);
+    m_ui->lblTCBreakTime->setVisible(!text.isEmpty());
+}
 
 void CardDisplay::PrepareGrid()
 {
@@ -46,13 +68,8 @@ void CardDisplay::PrepareGrid()
     grid->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     grid->verticalHeader()->setDefaultSectionSize(grid->fontMetrics().height() + kRowSpace);
     grid->verticalHeader()->hide();
-    const auto choose = [this, grid] {
-        if (grid->selectionModel()->hasSelection()) {
-            emit RowChosen();
-        }
-    };
-    connect(grid, &QTableView::clicked, this, choose);
-    connect(grid->selectionModel(), &QItemSelectionModel::selectionChanged, this, choose);
+    connect(grid, &QTableView::clicked, this, &CardDisplay::Choose);
+    connect(grid->selectionModel(), &QItemSelectionModel::selectionChanged, this, &CardDisplay::Choose);
     connect(grid, &TimeRecordGrid::EditAsked, this, &CardDisplay::EditAsked);
     grid->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(grid, &QWidget::customContextMenuRequested, this,
@@ -63,13 +80,26 @@ void CardDisplay::PrepareGrid()
 
 void CardDisplay::ConnectFindings()
 {
-    connect(m_ui->findings, &CheckPanel::RowWanted, this, &CardDisplay::ChooseRowOf);
-    connect(m_ui->findings, &CheckPanel::RowEntered, this, [this](qint64 timeRecordID) {
-        ChooseRowOf(timeRecordID);
-        m_ui->grdTimeRecs->setFocus();
-    });
-    connect(m_ui->findings, &CheckPanel::Elsewhere, this, &CardDisplay::Elsewhere);
-    connect(m_ui->findings, &CheckPanel::ElsewhereEntered, this, &CardDisplay::ElsewhereEntered);
+    const CheckPanel* findings = m_ui->findings;
+    connect(findings, &CheckPanel::RowsWanted, this, &CardDisplay::ChooseRowsOf);
+    connect(findings, &CheckPanel::EditAsked, this, &CardDisplay::EditAsked);
+    connect(findings, &CheckPanel::DeleteAsked, this, &CardDisplay::DeleteAsked);
+    connect(findings, &CheckPanel::Elsewhere, this, &CardDisplay::Elsewhere);
+    connect(findings, &CheckPanel::EditElsewhereAsked, this, &CardDisplay::EditElsewhereAsked);
+    connect(findings, &CheckPanel::DeleteElsewhereAsked, this, &CardDisplay::DeleteElsewhereAsked);
+}
+
+// The rows of a sentence stay marked while one of them is the chosen one.
+void CardDisplay::Choose()
+{
+    const auto record = ChosenRecord();
+    if (record == nullptr) {
+        return;
+    }
+    if (!m_records->IsInGroup(record->TimeRecordID())) {
+        m_records->SetGroup({});
+    }
+    emit RowChosen();
 }
 
 // Also where it is chosen already: the choice may have been forgotten elsewhere in the meantime.
@@ -80,6 +110,35 @@ void CardDisplay::ChooseRowOf(qint64 timeRecordID)
         m_ui->grdTimeRecs->setCurrentIndex(m_records->index(row, recordcolumn::Start));
         emit RowChosen();
     }
+}
+
+// From the last to the first: where they do not all fit, the first is seen.
+void CardDisplay::ChooseRowsOf(const std::vector<std::int64_t>& timeRecordIDs)
+{
+    ForgetChoice();
+    m_records->SetGroup(timeRecordIDs);
+    std::for_each(timeRecordIDs.rbegin(), timeRecordIDs.rend(),
+                  [this](std::int64_t id) { m_ui->grdTimeRecs->scrollTo(m_records->index(m_records->RowOf(id), recordcolumn::Start)); });
+    if (!timeRecordIDs.empty()) {
+        ChooseRowOf(timeRecordIDs.front());
+    }
+}
+
+void CardDisplay::TakeKeyboard(std::int64_t record, int place)
+{
+    TimeRecordGrid* grid = m_ui->grdTimeRecs;
+    grid->setFocus();
+    const int row = m_records->RowOf(record);
+    const QModelIndex current =
+        m_records->index(row >= 0 ? row : std::min(place, m_records->rowCount() - 1), recordcolumn::Start); // none for a negative one
+    if (current.isValid()) {
+        grid->selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
+    }
+}
+
+int CardDisplay::KeyboardPlace() const
+{
+    return m_ui->grdTimeRecs->currentIndex().row();
 }
 
 bool CardDisplay::SetupTimeRecordGrid()
@@ -99,7 +158,7 @@ bool CardDisplay::DisplayTimeCard(const CTimeCard& card)
     m_ui->txtTCOvertimeHours->setText(Figure(card.OvertimeHoursWorked()));
     m_ui->txtTCOvertimePayRate->setText(Figure(employee->OvertimePayRate()));
     m_ui->txtTCPeriodPay->setText(Figure(card.TotalPay()));
-    m_ui->lblTCBreakTime->setText(QString::fromStdString(BreakTimeText(card)));
+    ShowBreakTime(QString::fromStdString(BreakTimeText(card)));
     return filled;
 }
 
@@ -119,7 +178,7 @@ void CardDisplay::ClearFigures()
     for (auto* box : Figures()) {
         box->clear();
     }
-    m_ui->lblTCBreakTime->clear();
+    ShowBreakTime({});
 }
 
 void CardDisplay::ShowCheck(const std::shared_ptr<const CheckedTimecard>& checked)
@@ -184,6 +243,7 @@ std::shared_ptr<CTimeRecord> CardDisplay::ChosenRecord() const
 void CardDisplay::ForgetChoice()
 {
     m_ui->grdTimeRecs->clearSelection();
+    m_records->SetGroup({});
 }
 
 } // namespace ptk

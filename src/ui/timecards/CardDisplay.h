@@ -72,6 +72,13 @@ public:
     // Nothing when it is not on the card.
     void ChooseRowOf(qint64 timeRecordID);
 
+    // Marks them all, brings them into sight as far as there is room, and chooses the first; none is chosen any more when there are none.
+    void ChooseRowsOf(const std::vector<std::int64_t>& timeRecordIDs);
+
+    // See CurrentCard.
+    void TakeKeyboard(std::int64_t record, int place);
+    [[nodiscard]] int KeyboardPlace() const;
+
 signals:
     // By mouse or keys, also when it was chosen before.
     void RowChosen();
@@ -85,12 +92,16 @@ signals:
     // Of a finding that was chosen: its records that are not on the card.
     void Elsewhere(const ptk::FindingPlace& place);
 
-    // Such a record is to be edited.
-    void ElsewhereEntered(const ptk::Punch& punch);
+    // Such a record is to be edited, or deleted.
+    void EditElsewhereAsked(const ptk::Punch& punch);
+    void DeleteElsewhereAsked(const ptk::Punch& punch);
 
 private:
+    void LayOutFigures();
+    void ShowBreakTime(const QString& text);
     void PrepareGrid();
     void ConnectFindings();
+    void Choose();
     bool FillTimeRecordGrid(std::vector<CardLine> lines);
     [[nodiscard]] std::array<FigureBox*, 5> Figures() const;
 

@@ -23,6 +23,7 @@ namespace ptk {
 bool CardStoring::Store(const Change& change)
 {
     m_line.Clear();
+    const int place = m_card.KeyboardPlace();
     if (!Succeeds([&] { return StoreQuietly(change); })) {
         const std::string refused = TellRefusal(change);
         Succeeds([this] { return m_card.ReadAgain(); });
@@ -31,6 +32,7 @@ bool CardStoring::Store(const Change& change)
     }
     m_host.SharedRecords().Remember();
     m_card.RegenerateAfterSave();
+    m_card.TakeKeyboard(change.record == nullptr ? 0 : change.record->TimeRecordID(), place);
     const QString trouble = m_line.Text();
     m_line.Say(QString::fromStdString(change.done) + (trouble.isEmpty() ? trouble : "; " + trouble));
     return true;

@@ -25,7 +25,7 @@ constexpr auto kHoursCaption = "Hours per day:";
 constexpr auto kHoursHint = "The hours of a generated card stand here. F9 shows everybody's pay and problems.";
 
 constexpr auto kHoursKey = "timecards/hours";
-constexpr int kListLines = 5;
+constexpr int kListLines = 4;
 constexpr int kLeastWidth = 320; // pixels of the list and of the hours
 constexpr int kSpace = 6;
 
@@ -60,7 +60,8 @@ CheckPanel::CheckPanel(QWidget* parent)
         ShowParts();
     });
     connect(m_list, &FindingList::Chosen, this, &CheckPanel::Choose);
-    connect(m_list, &FindingList::Entered, this, &CheckPanel::Enter);
+    connect(m_list, &FindingList::Entered, this, &CheckPanel::Edit);
+    connect(m_list, &FindingList::DeleteAsked, this, &CheckPanel::Delete);
     Show(nullptr);
 }
 
@@ -161,19 +162,29 @@ void CheckPanel::ShowHours(bool shown)
 void CheckPanel::Choose(const Finding& finding)
 {
     const FindingPlace place = PlaceOf(finding, *m_checked);
-    if (!place.onCard.empty()) {
-        emit RowWanted(place.onCard.front());
-    }
+    emit RowsWanted(place.onCard);
     emit Elsewhere(place);
 }
 
-void CheckPanel::Enter(const Finding& finding)
+void CheckPanel::Edit(const Finding& finding)
 {
     const FindingPlace place = PlaceOf(finding, *m_checked);
     if (!place.onCard.empty()) {
-        emit RowEntered(place.onCard.front());
+        emit RowsWanted(place.onCard);
+        emit EditAsked();
     } else if (!place.elsewhere.empty()) {
-        emit ElsewhereEntered(*place.elsewhere.front());
+        emit EditElsewhereAsked(*place.elsewhere.front());
+    }
+}
+
+void CheckPanel::Delete(const Finding& finding)
+{
+    const FindingPlace place = PlaceOf(finding, *m_checked);
+    if (!place.onCard.empty()) {
+        emit RowsWanted(place.onCard);
+        emit DeleteAsked();
+    } else if (!place.elsewhere.empty()) {
+        emit DeleteElsewhereAsked(*place.elsewhere.front());
     }
 }
 

@@ -3,8 +3,10 @@
 
 #include "model/check/Finding.h"
 
+#include <cstdint>
 #include <memory>
 #include <QWidget>
+#include <vector>
 
 class QToolButton;
 
@@ -41,13 +43,17 @@ public:
     [[nodiscard]] bool HoursShown() const;
 
 signals:
-    // A finding was chosen: the first row of the card that it concerns, and a record that is not on the card.
-    void RowWanted(qint64 timeRecordID);
+    // A finding was chosen: it concerns these rows of the card, or none, and maybe records that are not on the card.
+    void RowsWanted(const std::vector<std::int64_t>& timeRecordIDs);
     void Elsewhere(const ptk::FindingPlace& place);
 
-    // Enter, or a double click, on one: to go there.
-    void RowEntered(qint64 timeRecordID);
-    void ElsewhereEntered(const ptk::Punch& punch);
+    // Enter, or a double click, on one that names records: the chosen row, or this record that is not on the card, is to be edited.
+    void EditAsked();
+    void EditElsewhereAsked(const ptk::Punch& punch);
+
+    // The same for Delete.
+    void DeleteAsked();
+    void DeleteElsewhereAsked(const ptk::Punch& punch);
 
 private:
     void LayOut();
@@ -55,7 +61,8 @@ private:
     void ShowColumns();
     void ShowParts();
     void Choose(const Finding& finding);
-    void Enter(const Finding& finding);
+    void Edit(const Finding& finding);
+    void Delete(const Finding& finding);
 
     QToolButton* m_line; // all of these belong to the widget
     HintLabel* m_detail;

@@ -27,6 +27,7 @@ namespace {
 
 constexpr auto kWasChanged = " was changed";
 constexpr auto kRecordsChanged = "'s records were changed";
+constexpr auto kHasProblems = "'s card has problems: F9";
 constexpr auto kNoEdits = "Who changed the records of the card could not be read: ";
 
 } // namespace
@@ -43,6 +44,7 @@ void CurrentCard::Mark()
     const CardName chosen = m_choice.Chosen();
     const bool shown = m_display.ShowsCard();
     const std::string strange = m_card == nullptr ? std::string() : StrangeCardText(NameOf(*m_card), shown, chosen);
+    m_mark.setVisible(!strange.empty()); // else its room is the rows'
     m_mark.Say(QString::fromStdString(strange));
     m_display.SetStrange(shown && !strange.empty());
     m_display.SetHint(QString::fromStdString(NextStepText(chosen)));
@@ -111,7 +113,7 @@ bool CurrentCard::Load(CTimeCard& card, const std::shared_ptr<CEmployee>& employ
 void CurrentCard::ReadEdits(const CTimeCard& card)
 {
     Succeeds([&] { m_edits = ReadRecordEdits(Required(m_host.Controller())->PTKDatabase(), card); },
-             [this](const Failure& reason) { m_host.Log(kNoEdits + reason.Description()); });
+             [this](const Failure& reason) { m_host.Log(reason.Number(), kNoEdits + reason.Description()); });
 }
 
 void CurrentCard::ReportCardError(std::int32_t errorNumber)
@@ -221,6 +223,13 @@ void CurrentCard::TellChanges()
     }
 }
 
+void CurrentCard::TellProblems()
+{
+    if (m_checked != nullptr && m_checked->check && m_checked->check->problems > 0) {
+        m_line.SayBefore(QString::fromStdString(Employee() + kHasProblems));
+    }
+}
+
 bool CurrentCard::ShowTimeCard()
 {
     SetupTimeRecordGrid();
@@ -262,6 +271,21 @@ void CurrentCard::ForgetChosenRecord()
     m_host.EventSource(eventsource::None);
 }
 
+std::int32_t CurrentCard::LongShiftHours() const
+{
+    return (m_checked == nullptr ? CheckLimits() : m_checked->limits).longShiftHours;
+}
+
+void CurrentCard::TakeKeyboard(std::int64_t record, int place)
+{
+    m_display.TakeKeyboard(record, place);
+}
+
+int CurrentCard::KeyboardPlace() const
+{
+    return m_display.KeyboardPlace();
+}
+
 std::shared_ptr<CTimeRecord> CurrentCard::ChosenRecord() const
 {
     return m_host.EventSource() == eventsource::TimeRecordGrid ? m_display.ChosenRecord() : nullptr;
@@ -271,7 +295,7 @@ void CurrentCard::Complain(const std::string& line)
 {
     if (!line.empty()) {
         m_line.Say(QString::fromStdString(line));
-        m_host.Log(line);
+        m_host.Log(m_card == nullptr ? 0 : m_card->LastFailure().Number(), line);
     }
 }
 

@@ -61,6 +61,9 @@ public:
     // Says in the line, with a button to load it, that somebody else changed the employee or the records shown.
     void TellChanges();
 
+    // In the line, before what it says: that the card, which somebody is about to be paid by, has problems. Nothing where it has none.
+    void TellProblems();
+
     // With the limits that the options hold now.
     void CheckAgain();
 
@@ -77,6 +80,16 @@ public:
     [[nodiscard]] std::shared_ptr<CTimeRecord> ChosenRecord() const;
 
     void ForgetChosenRecord();
+
+    // By the limits that the card was checked with.
+    [[nodiscard]] std::int32_t LongShiftHours() const;
+
+    // Puts the keyboard into the table, on the row of that record, or, where it is not there, on the one at that place; none is chosen by
+    // it.
+    void TakeKeyboard(std::int64_t record, int place);
+
+    // From 0, of the row that has the keyboard in the table; -1 for none.
+    [[nodiscard]] int KeyboardPlace() const;
 
     // Into the page's line and the session log; nothing for an empty text.
     void Complain(const std::string& line);

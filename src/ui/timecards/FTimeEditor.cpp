@@ -89,9 +89,25 @@ void FTimeEditor::WarnAsNew(std::optional<PayPeriod> shown)
     Warn();
 }
 
+void FTimeEditor::WarnAbove(std::int32_t hours)
+{
+    m_longShiftHours = hours;
+    Warn();
+}
+
 void FTimeEditor::Warn()
 {
-    m_ui->lblWarning->Say(m_isNew ? QString::fromStdString(NewRecordWarning(Texts(), m_shownPeriod)) : QString());
+    const RecordTexts texts = Texts();
+    const std::string tooLong = m_longShiftHours ? LongShiftWarning(texts, *m_longShiftHours) : std::string();
+    m_ui->lblWarning->Say(QString::fromStdString(tooLong + (m_isNew ? NewRecordWarning(texts, m_shownPeriod) : std::string())));
+}
+
+// As Tab would have come to the first box: what is typed takes the place of what stands there.
+void FTimeEditor::showEvent(QShowEvent* event)
+{
+    QDialog::showEvent(event);
+    m_ui->dttbStartDate->setFocus();
+    m_ui->dttbStartDate->selectAll();
 }
 
 RecordTexts FTimeEditor::Texts() const
@@ -106,6 +122,11 @@ void FTimeEditor::Texts(const RecordTexts& value)
         Boxes().at(i)->SetText(QString::fromStdString(moments.at(i)->text));
     }
     FollowTyping();
+}
+
+std::string FTimeEditor::SavedText(const std::string& owner) const
+{
+    return SavedRecordText(owner, Texts(), m_timeRecord->StartTime(), m_timeRecord->EndTime());
 }
 
 void FTimeEditor::ClearControls()

@@ -51,11 +51,20 @@ public:
     // Warns, in a line, of a new record that the card of that period would not show.
     void WarnAsNew(std::optional<PayPeriod> shown);
 
+    // Warns, in that line, of a shift that has more hours.
+    void WarnAbove(std::int32_t hours);
+
     // What stands in the boxes.
     [[nodiscard]] RecordTexts Texts() const;
 
     // Puts it back there, unreadable texts included.
     void Texts(const RecordTexts& value);
+
+    // What is said when the record was stored as the owner's: what could not be read of the boxes is not in it. REQUIRES: a record.
+    [[nodiscard]] std::string SavedText(const std::string& owner) const;
+
+protected:
+    void showEvent(QShowEvent* event) override;
 
 private:
     [[nodiscard]] std::array<DateTimeBox*, 4> Boxes() const;
@@ -79,6 +88,7 @@ private:
     DateTime m_autoShiftStart;
     DateTime m_autoShiftEnd;
     std::optional<PayPeriod> m_shownPeriod;
+    std::optional<std::int32_t> m_longShiftHours;
     bool m_isNew = false;
     bool m_modified = false;            // typed into since it was shown; nothing depends on it
     std::int32_t m_saveErrorNumber = 0; // 608 when the record was rejected; nothing depends on it

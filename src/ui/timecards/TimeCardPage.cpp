@@ -26,6 +26,8 @@
 #include "ui/widgets/EmployeeModels.h"
 #include "ui_TimeCardPage.h"
 
+#include <QScopedValueRollback>
+
 namespace ptk {
 
 namespace {
@@ -41,6 +43,7 @@ constexpr auto kRecordNotDeleted = "Record not deleted";
 constexpr auto kRecordsNotFilled = "Records not filled in";
 constexpr auto kNothingFilled = "No records were filled in";
 constexpr auto kNoEditor = "The record cannot be edited now";
+constexpr auto kNotToDelete = "The record cannot be deleted now";
 constexpr auto kNoAutoFill = "Auto Fill needs an employee of the list and two dates";
 constexpr auto kOpenElsewhere = "Open Record";
 constexpr auto kNoHistory = "Choose an employee and two dates to see what was changed";
@@ -87,7 +90,8 @@ void TimeCardPage::ConnectActions()
     connect(m_ui->cmdTCDelete, &QPushButton::clicked, this, &TimeCardPage::DeleteRecord);
     connect(m_ui->display, &CardDisplay::DeleteAsked, this, &TimeCardPage::DeleteRecord);
     connect(m_ui->display, &CardDisplay::Elsewhere, this, &TimeCardPage::OfferElsewhere);
-    connect(m_ui->display, &CardDisplay::ElsewhereEntered, this, &TimeCardPage::EditElsewhere);
+    connect(m_ui->display, &CardDisplay::EditElsewhereAsked, this, &TimeCardPage::EditElsewhere);
+    connect(m_ui->display, &CardDisplay::DeleteElsewhereAsked, this, &TimeCardPage::DeleteElsewhere);
     connect(m_ui->cmdFill, &QPushButton::clicked, this, [this] { AutoFill({}); });
     connect(m_ui->cmdTCPrint, &QPushButton::clicked, this, &TimeCardPage::Print);
 }
@@ -160,10 +164,15 @@ void TimeCardPage::TurnToChosenEmployee()
     if (m_choice->EmployeeText().empty()) {
         return;
     }
-    m_employeeName = m_choice->EmployeeText();
-    ShowStatus();
+    ShowChoice();
     m_card->ClearTimeCardDisplay();
     m_ui->notice->Clear();
+}
+
+void TimeCardPage::ShowChoice()
+{
+    m_employeeName = m_choice->EmployeeText();
+    ShowStatus();
 }
 
 void TimeCardPage::ShowStatus()
@@ -186,6 +195,11 @@ std::optional<PayPeriod> TimeCardPage::ChosenPeriod() const
     std::optional<PayPeriod> period;
     Succeeds([&] { period = m_choice->Period(); });
     return period;
+}
+
+std::optional<std::int32_t> TimeCardPage::ChosenEmployee() const
+{
+    return m_choice->EmployeeID();
 }
 
 void TimeCardPage::ShowCard(std::int32_t employeeID, const PayPeriod& period)
@@ -230,6 +244,7 @@ bool TimeCardPage::HoursShown() const
 
 void TimeCardPage::Generate()
 {
+    Succeeds([this] { m_choice->KeepAsLastUsed(); }); // of what is no period the generation says so
     if (!m_card->RefreshTimeCard()) {
         Tell(m_host.Desktop(), kNotGenerated);
     }
@@ -263,15 +278,29 @@ void TimeCardPage::OfferElsewhere(const FindingPlace& place)
     m_ui->notice->Offer(Line(place.text), kOpenElsewhere, [this, punch = *place.elsewhere.front()] { EditElsewhere(punch); });
 }
 
-void TimeCardPage::EditElsewhere(const Punch& punch)
+std::shared_ptr<CTimeRecord> TimeCardPage::RecordElsewhere(const Punch& punch, const char* refused)
 {
     const auto card = m_card->Card();
     const auto employee = card == nullptr ? nullptr : card->Employee();
-    const auto record = employee == nullptr ? nullptr : RecordToEdit(punch, employee->EmployeeID());
+    auto record = employee == nullptr ? nullptr : RecordToEdit(punch, employee->EmployeeID());
     if (record == nullptr) {
-        return m_ui->notice->Say(kNoEditor);
+        m_ui->notice->Say(refused);
     }
-    OpenEditor({record, false, {}});
+    return record;
+}
+
+void TimeCardPage::EditElsewhere(const Punch& punch)
+{
+    if (const auto record = RecordElsewhere(punch, kNoEditor)) {
+        OpenEditor({record, false, {}});
+    }
+}
+
+void TimeCardPage::DeleteElsewhere(const Punch& punch)
+{
+    if (const auto record = RecordElsewhere(punch, kNotToDelete)) {
+        Delete(record);
+    }
 }
 
 // A record that could not be stored is again what it was, so that nobody stores it unasked later on; what was typed is offered again.
@@ -279,6 +308,7 @@ void TimeCardPage::OpenEditor(const Editing& editing)
 {
     const auto edit = [&] {
         FTimeEditor editor(m_host.Desktop(), m_host.Clock(), this);
+        const QScopedValueRollback<const FTimeEditor*> open(m_editor, &editor);
         const CTimeRecord before = *editing.record;
         Prepare(editor, editing);
         m_editingNew = editing.isNew;
@@ -318,6 +348,7 @@ void TimeCardPage::Prepare(FTimeEditor& editor, const Editing& editing)
     if (editing.typed) {
         editor.Texts(*editing.typed);
     }
+    editor.WarnAbove(m_card->LongShiftHours());
     if (editing.isNew) {
         editor.WarnAsNew(ChosenPeriod());
     }
@@ -326,7 +357,8 @@ void TimeCardPage::Prepare(FTimeEditor& editor, const Editing& editing)
 bool TimeCardPage::ReturnTimeRecord(const std::shared_ptr<CTimeRecord>& thetimerecord)
 {
     const auto store = [&](CTimeCard& card, CTimeRecordFactory& factory) { return StoreRecord(card, factory, thetimerecord); };
-    m_refused = !m_storing->Store({store, kNotStored, kRecordNotSaved, "Record saved for " + m_card->Employee(), thetimerecord});
+    const std::string saved = m_editor == nullptr ? "Record saved for " + m_card->Employee() : m_editor->SavedText(m_card->Employee());
+    m_refused = !m_storing->Store({store, kNotStored, kRecordNotSaved, saved, thetimerecord});
     return true;
 }
 
@@ -339,6 +371,11 @@ void TimeCardPage::DeleteRecord()
     if (record == nullptr) {
         return Tell(m_host.Desktop(), kNoneToDelete);
     }
+    Delete(record);
+}
+
+void TimeCardPage::Delete(const std::shared_ptr<CTimeRecord>& record)
+{
     if (m_host.Desktop().MessageBox(kDeleteQuestion.text, kDeleteQuestion.title, kDeleteQuestion.icon, Buttons::YesNo) != Answer::Yes) {
         return;
     }
@@ -419,6 +456,8 @@ void TimeCardPage::Print()
     };
     if (!Succeeds(print)) {
         m_ui->notice->Say(kNotPrinted);
+    } else {
+        m_card->TellProblems();
     }
 }
 

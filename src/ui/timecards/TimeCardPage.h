@@ -59,6 +59,12 @@ public:
     // Nothing while a box holds no date.
     [[nodiscard]] std::optional<PayPeriod> ChosenPeriod() const;
 
+    // In the list; nothing for a typed text.
+    [[nodiscard]] std::optional<std::int32_t> ChosenEmployee() const;
+
+    // Whom and which days the boxes name, in the status bar.
+    void ShowChoice();
+
     // Chooses and generates it, with the list of what was found.
     void ShowCard(std::int32_t employeeID, const PayPeriod& period);
 
@@ -106,11 +112,17 @@ private:
     void NewRecord();
     void EditRecord();
     void DeleteRecord();
+    void Delete(const std::shared_ptr<CTimeRecord>& record);
     void AutoFill(const std::optional<FillTexts>& typed);
     void Print();
 
     void OfferElsewhere(const FindingPlace& place);
     void EditElsewhere(const Punch& punch);
+    void DeleteElsewhere(const Punch& punch);
+
+    // nullptr, said in the line with that text, where it cannot be had.
+    [[nodiscard]] std::shared_ptr<CTimeRecord> RecordElsewhere(const Punch& punch, const char* refused);
+
     void OpenEditor(const Editing& editing);
     void Prepare(FTimeEditor& editor, const Editing& editing);
     void HandOver(FAutoFill& window);
@@ -127,9 +139,10 @@ private:
     CurrentCard* m_card = nullptr;
     std::unique_ptr<CardStoring> m_storing;
     HistoryActions* m_history = nullptr;
-    std::string m_employeeName; // as of the last change of employee
-    bool m_editingNew = false;  // whether the editor was last opened for a new record; nothing depends on it
-    bool m_refused = false;     // whether the record that the editor returned could not be stored
+    const FTimeEditor* m_editor = nullptr; // the one that is open
+    std::string m_employeeName;            // as of the last change of employee
+    bool m_editingNew = false;             // whether the editor was last opened for a new record; nothing depends on it
+    bool m_refused = false;                // whether the record that the editor returned could not be stored
     bool m_seen = false;
 };
 

@@ -14,6 +14,20 @@ QSize TimeRecordGrid::sizeHint() const
     return {QTableView::sizeHint().width(), minimumHeight()};
 }
 
+void TimeRecordGrid::initViewItemOption(QStyleOptionViewItem* option) const
+{
+    HintTable::initViewItemOption(option);
+    option->state |= QStyle::State_Active;
+}
+
+void TimeRecordGrid::resizeEvent(QResizeEvent* event)
+{
+    HintTable::resizeEvent(event);
+    if (selectionModel()->hasSelection()) {
+        scrollTo(currentIndex());
+    }
+}
+
 void TimeRecordGrid::keyPressEvent(QKeyEvent* event)
 {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;

@@ -5,7 +5,8 @@
 
 namespace ptk {
 
-// Enter on a chosen row asks for it to be edited, as a double click does; without a chosen row Enter is left to the window.
+// The chosen row stays in sight when there is less room, and looks the same when the keyboard is elsewhere. Enter on a chosen row asks for
+// it to be edited, as a double click does; without a chosen row Enter is left to the window.
 class TimeRecordGrid final : public HintTable
 {
     Q_OBJECT
@@ -20,6 +21,8 @@ signals:
     void EditAsked();
 
 protected:
+    void initViewItemOption(QStyleOptionViewItem* option) const override;
+    void resizeEvent(QResizeEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 };
 

@@ -17,6 +17,15 @@ namespace {
 constexpr std::array<const char*, recordcolumn::Count> kHeadings{"Start", "End", "Total"};
 constexpr auto kStillClockedIn = "still clocked in";
 
+constexpr float kTint = 0.25F; // of the colour of a chosen row
+
+QBrush GroupTint()
+{
+    QColor colour = QGuiApplication::palette().color(QPalette::Highlight);
+    colour.setAlphaF(kTint);
+    return colour;
+}
+
 bool IsStillOpen(const CardLine& line, int column)
 {
     return column == recordcolumn::End && line.end.IsZero();
@@ -37,6 +46,7 @@ void TimeRecordGridModel::Clear()
     m_lines.clear();
     m_marks.clear();
     m_edits.clear();
+    m_group.clear();
     endResetModel();
 }
 
@@ -50,6 +60,12 @@ void TimeRecordGridModel::SetEdits(RecordEdits edits)
 {
     m_edits = std::move(edits);
     ChangeAll({Qt::ToolTipRole, Qt::AccessibleDescriptionRole});
+}
+
+void TimeRecordGridModel::SetGroup(const std::vector<std::int64_t>& timeRecordIDs)
+{
+    m_group = {timeRecordIDs.begin(), timeRecordIDs.end()};
+    ChangeAll({Qt::BackgroundRole});
 }
 
 void TimeRecordGridModel::ChangeAll(const QList<int>& roles)
@@ -152,6 +168,8 @@ QVariant TimeRecordGridModel::data(const QModelIndex& index, int role) const
         return MarkedNote(line, index.column());
     case Qt::DecorationRole:
         return Icon(line, index.column());
+    case Qt::BackgroundRole:
+        return IsInGroup(line.record->TimeRecordID()) ? QVariant(GroupTint()) : QVariant();
     case Qt::ForegroundRole:
         return m_faded ? QVariant(QGuiApplication::palette().brush(QPalette::PlaceholderText)) : QVariant();
     case Qt::TextAlignmentRole:

@@ -7,6 +7,7 @@
 
 #include <memory>
 #include <QAbstractTableModel>
+#include <set>
 #include <vector>
 
 namespace ptk {
@@ -36,6 +37,10 @@ public:
 
     void SetEdits(RecordEdits edits);
 
+    // Their rows are tinted, as those that one sentence is about.
+    void SetGroup(const std::vector<std::int64_t>& timeRecordIDs);
+    [[nodiscard]] bool IsInGroup(std::int64_t timeRecordID) const { return m_group.contains(timeRecordID); }
+
     // Greys all rows.
     void SetFaded(bool faded);
 
@@ -64,6 +69,7 @@ private:
     std::vector<CardLine> m_lines;
     RowMarks m_marks;
     RecordEdits m_edits;
+    std::set<std::int64_t> m_group;
     bool m_faded = false;
 };
 

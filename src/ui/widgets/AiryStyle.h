@@ -13,6 +13,10 @@ public:
     // Over the application's present style.
     AiryStyle();
 
+    // Hints are to be read, too.
+    void polish(QPalette& palette) override;
+    using QProxyStyle::polish;
+
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size, const QWidget* widget) const override;
 };
 

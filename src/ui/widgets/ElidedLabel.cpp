@@ -10,6 +10,12 @@ ElidedLabel::ElidedLabel(const QString& text, QWidget* parent) : QLabel(parent)
     setText(text);
 }
 
+void ElidedLabel::Cut(Qt::TextElideMode where)
+{
+    m_cut = where;
+    update();
+}
+
 QSize ElidedLabel::minimumSizeHint() const
 {
     return {0, QLabel::minimumSizeHint().height()};
@@ -17,7 +23,7 @@ QSize ElidedLabel::minimumSizeHint() const
 
 void ElidedLabel::paintEvent(QPaintEvent*)
 {
-    const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width());
+    const QString shown = fontMetrics().elidedText(text(), m_cut, contentsRect().width());
     setToolTip(shown == text() ? QString() : text());
     QPainter painter(this);
     painter.setPen(palette().color(foregroundRole()));

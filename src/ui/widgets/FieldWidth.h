@@ -12,7 +12,7 @@ inline constexpr int Zip = 11;
 inline constexpr int Phone = 18;
 inline constexpr int Money = 9;
 inline constexpr int Minutes = 6;
-inline constexpr int Page = 90; // all the fields of a page, with their labels
+inline constexpr int Page = 120; // all the fields of a page, with their labels
 } // namespace fieldwidth
 
 // Leaves room for that many digits and for the frame around them.

@@ -105,6 +105,13 @@ void FindingList::Enter()
     }
 }
 
+void FindingList::AskToDelete()
+{
+    if (const Finding* finding = Current()) {
+        emit DeleteAsked(Finding(*finding)); // what follows may fill the list anew
+    }
+}
+
 // By Tab: the first sentence is chosen, and read.
 void FindingList::focusInEvent(QFocusEvent* event)
 {
@@ -119,6 +126,9 @@ void FindingList::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         return Enter();
+    }
+    if (event->key() == Qt::Key_Delete) {
+        return AskToDelete();
     }
     QListView::keyPressEvent(event);
 }

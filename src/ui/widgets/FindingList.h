@@ -50,6 +50,9 @@ signals:
     // By Enter or a double click.
     void Entered(const Finding& finding);
 
+    // By the key.
+    void DeleteAsked(const Finding& finding);
+
 protected:
     void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -57,6 +60,7 @@ protected:
 private:
     void Choose();
     void Enter();
+    void AskToDelete();
 
     // nullptr when none is chosen.
     [[nodiscard]] const Finding* Current() const;

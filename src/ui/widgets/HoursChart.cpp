@@ -19,7 +19,7 @@ constexpr std::array<const char*, 3> kLegend{"Regular", "Overtime", "8 hours"};
 constexpr std::int64_t kLineMinutes = 480;
 constexpr std::int64_t kLeastTop = 600; // minutes up to which the scale reaches at least
 constexpr auto kWideWeek = "100.00";
-constexpr int kBarsHeight = 48; // pixels
+constexpr int kBarsHeight = 40; // pixels
 constexpr int kBarSpace = 4;    // beside a bar
 constexpr int kTextSpace = 2;
 constexpr int kLeastColumn = 26;

@@ -29,6 +29,12 @@ void NoticeLine::Say(const QString& text)
     Show(text);
 }
 
+void NoticeLine::SayFile(const QString& text)
+{
+    Say(text);
+    m_text->Cut(Qt::ElideMiddle);
+}
+
 void NoticeLine::Remark(const QString& text)
 {
     if (!IsOffering()) {
@@ -44,8 +50,15 @@ void NoticeLine::SayBefore(const QString& text)
     Show(Text().isEmpty() ? text : text + ". " + Text());
 }
 
+void NoticeLine::Suggest(const QString& text, const QString& caption, std::function<void()> action)
+{
+    Offer(text, caption, std::move(action));
+    m_suggests = true;
+}
+
 void NoticeLine::Offer(const QString& text, const QString& caption, std::function<void()> action)
 {
+    m_suggests = false;
     m_action = std::move(action);
     m_button->setText(caption);
     m_button->show();
@@ -64,6 +77,7 @@ QString NoticeLine::Text() const
 
 void NoticeLine::Show(const QString& text)
 {
+    m_text->Cut(Qt::ElideRight);
     m_text->setText(text);
     if (!text.isEmpty()) {
         QAccessibleEvent alert(m_text, QAccessible::Alert);

@@ -21,16 +21,22 @@ public:
 
     void Say(const QString& text);
 
+    // The same of a text that ends in the name of a file: what does not fit is left out in its middle.
+    void SayFile(const QString& text);
+
     // Says it, unless something is being offered.
     void Remark(const QString& text);
 
     // Says it, with a button beside it that runs `action` once; the line is empty again by the time it runs.
     void Offer(const QString& text, const QString& caption, std::function<void()> action);
 
+    // The same of what is merely handy: it gives way to all that the page says next.
+    void Suggest(const QString& text, const QString& caption, std::function<void()> action);
+
     // Says it before the words of what is being offered, which stays; as Say where nothing is.
     void SayBefore(const QString& text);
 
-    [[nodiscard]] bool IsOffering() const { return m_action != nullptr; }
+    [[nodiscard]] bool IsOffering() const { return m_action != nullptr && !m_suggests; }
 
     void Clear();
     [[nodiscard]] QString Text() const;
@@ -42,6 +48,7 @@ private:
     ElidedLabel* m_text;   // lblNotice; both belong to the widget
     QToolButton* m_button; // cmdNotice, hidden unless something is offered
     std::function<void()> m_action;
+    bool m_suggests = false; // the action
 };
 
 } // namespace ptk

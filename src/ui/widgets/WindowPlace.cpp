@@ -1,14 +1,19 @@
 #include "ui/widgets/WindowPlace.h"
 
+#include <QApplication>
 #include <QScreen>
 #include <QSettings>
 #include <QWidget>
+
+#include <algorithm>
 
 namespace ptk {
 
 namespace {
 
-constexpr QSize kFrame(16, 48); // pixels that window managers take for borders and title, generously
+constexpr int kTitleButtons = 120; // pixels beside a title: the window's icon and its buttons
+constexpr double kTitleFont = 1.2; // of the application's, which a title's need not be
+constexpr QSize kFrame(16, 48);    // pixels that window managers take for borders and title, generously
 
 QString Key(const QString& name)
 {
@@ -23,10 +28,22 @@ QRect RoomFor(const QWidget& window)
     return {screen.topLeft(), screen.size() - kFrame};
 }
 
+int WidthFor(const QString& title)
+{
+    QFont font = QApplication::font();
+    font.setBold(true);
+    return static_cast<int>(QFontMetrics(font).horizontalAdvance(title) * kTitleFont) + kTitleButtons;
+}
+
+// What was kept on a larger screen, or on the same one at a smaller scale, would have its buttons out of sight.
 void RestorePlace(QWidget& window, const QString& name, QSize first)
 {
-    if (!window.restoreGeometry(QSettings().value(Key(name)).toByteArray())) {
-        window.resize(first.boundedTo(RoomFor(window).size()));
+    const bool kept = window.restoreGeometry(QSettings().value(Key(name)).toByteArray());
+    const QRect room = RoomFor(window);
+    window.resize((kept ? window.size() : first).boundedTo(room.size()));
+    if (kept) {
+        window.move(std::clamp(window.x(), room.left(), room.right() + 1 - window.width()),
+                    std::clamp(window.y(), room.top(), room.bottom() + 1 - window.height()));
     }
 }
 

@@ -11,6 +11,9 @@ namespace ptk {
 // What the window's screen has to give, less what the window manager takes for borders and a title.
 [[nodiscard]] QRect RoomFor(const QWidget& window);
 
+// How wide a window has to be at least for the whole title to stand in its frame.
+[[nodiscard]] int WidthFor(const QString& title);
+
 // Gives the window the size it last had under that name, `first` before that; never larger than its screen nor off any screen.
 void RestorePlace(QWidget& window, const QString& name, QSize first);
 void StorePlace(const QWidget& window, const QString& name);

@@ -1,5 +1,7 @@
 #include "ui/widgets/WorkProgress.h"
 
+#include "ui/widgets/PaintMeanwhile.h"
+
 #include <QApplication>
 #include <QDialogButtonBox>
 #include <QLabel>
@@ -24,7 +26,8 @@ void LightenPointer()
 
 } // namespace
 
-WorkProgress::WorkProgress(QWidget* window, const ProgressWords& words) : QDialog(window), m_bar(new QProgressBar(this))
+WorkProgress::WorkProgress(QWidget* window, const ProgressWords& words)
+    : QDialog(window), m_bar(new QProgressBar(this)), m_waiting([this] { return GoOnWaiting(); })
 {
     setObjectName("dlgProgress");
     setWindowTitle(QString::fromStdString(words.title));
@@ -49,12 +52,29 @@ void WorkProgress::Restart()
     m_sinceStart.start();
 }
 
-bool WorkProgress::GoOn(std::int32_t done, std::int32_t all)
+void WorkProgress::ShowWhenLong()
 {
     if (!isVisible() && !m_cancelled && m_sinceStart.elapsed() >= kShownAfter) {
         show();
         LightenPointer();
     }
+}
+
+// In the midst of a question: only Cancel may be pressed, which is all that there is to press.
+bool WorkProgress::GoOnWaiting()
+{
+    ShowWhenLong();
+    if (isVisible()) {
+        QApplication::processEvents(QEventLoop::ExcludeSocketNotifiers | QEventLoop::X11ExcludeTimers);
+    } else {
+        PaintMeanwhile();
+    }
+    return !m_cancelled;
+}
+
+bool WorkProgress::GoOn(std::int32_t done, std::int32_t all)
+{
+    ShowWhenLong();
     if (isVisible()) {
         m_bar->setRange(0, all);
         m_bar->setValue(done);

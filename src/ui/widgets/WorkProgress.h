@@ -2,6 +2,7 @@
 #pragma once
 
 #include "startup/Windows.h"
+#include "store/engine/Waiting.h"
 
 #include <cstdint>
 #include <QDialog>
@@ -11,8 +12,8 @@ class QProgressBar;
 
 namespace ptk {
 
-// Opens, and lets other events happen, only inside GoOn, never by a timer of its own: a box that tells of an employee's failure is then
-// never covered by it.
+// Opens, and lets other events happen, only inside GoOn and while the database is waited for, never by a timer of its own: a box that tells
+// of an employee's failure is then never covered by it.
 class WorkProgress final : public QDialog, public ProgressWindow
 {
     Q_OBJECT
@@ -23,6 +24,9 @@ public:
 
     bool GoOn(std::int32_t done, std::int32_t all) override;
 
+    // By the user.
+    [[nodiscard]] bool IsCancelled() const { return m_cancelled; }
+
     // After a box: what the user took to read it does not count.
     void Restart();
 
@@ -30,9 +34,13 @@ public:
     void reject() override;
 
 private:
+    void ShowWhenLong();
+    bool GoOnWaiting();
+
     QProgressBar* m_bar; // belongs to the dialog
     QElapsedTimer m_sinceStart;
     bool m_cancelled = false;
+    WaitingAs m_waiting; // for a database: Cancel ends that, too
 };
 
 } // namespace ptk

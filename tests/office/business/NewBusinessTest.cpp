@@ -1,5 +1,6 @@
 // The first start: what a new program folder holds, and that nothing is left of one that could not be made.
 #include "office/business/NewBusiness.h"
+#include "office/business/Guide.h"
 #include "platform/Failure.h"
 #include "store/RawDatabase.h"
 #include "store/whole/DatabaseChecker.h"
@@ -31,12 +32,12 @@ protected:
 
 TEST_F(NewBusinessTest, HoldsTheCompanyAndItsFirstEmployeeAndNoOpenShippedAccount)
 {
-    BeginBusiness(m_target, kBusiness, kToday);
+    BeginBusiness(m_target, kBusiness);
     EXPECT_EQ(ReadBytes(File("/system/ptk_11.cfg")), "[PTK]\r\nDatabasePath=<app.path>\\system\\ptk_11.mdb\r\nShowLoginHelp=False\r\n");
     EXPECT_EQ(Rows("SELECT Name FROM Company"), "Acme & Sons|");
     EXPECT_EQ(
         Rows("SELECT EmployeeNumber, FirstName, LastName, Password, Active, HireDate, CompanyID FROM Employee WHERE EmployeeID <> 39"),
-        "1|Ann|Lee|secret|1|2026-03-20 00:00:00|1|");
+        "1|Ann|Lee|secret|1|1899-12-30 00:00:00|1|");
     EXPECT_EQ(Rows("SELECT LastName, Password FROM Employee WHERE EmployeeID = 39; SELECT COUNT(*) FROM _Change"), "administrator||0|");
     EXPECT_TRUE(CheckDatabase(File("/system/ptk_11.mdb")).problems.empty());
     for (const char* part : {"", "/system", "/reports", "/documentation"}) {
@@ -56,7 +57,7 @@ TEST_F(NewBusinessTest, TheSampleCanBeEnteredByTheShippedAccount)
 TEST_F(NewBusinessTest, NothingIsLeftOfOneThatCannotBeMade)
 {
     std::filesystem::create_directories(m_target);
-    EXPECT_EQ(FailureOf([&] { BeginBusiness(m_target, kBusiness, kToday); }), failure::PathFileAccess) << "there is one";
+    EXPECT_EQ(FailureOf([&] { BeginBusiness(m_target, kBusiness); }), failure::PathFileAccess) << "there is one";
     EXPECT_TRUE(std::filesystem::is_empty(m_target));
     EXPECT_EQ(FolderRefusal(m_target), "The folder " + m_target + " has no configuration (system/ptk_11.cfg).");
     std::filesystem::remove(m_target);
@@ -66,9 +67,36 @@ TEST_F(NewBusinessTest, NothingIsLeftOfOneThatCannotBeMade)
     }
     EXPECT_TRUE(std::filesystem::is_empty(m_folder.Path() + "/share/deep"));
     EXPECT_EQ(FolderRefusal(m_target), "There is no folder " + m_target + ".");
-    BeginBusiness(m_target, kBusiness, kToday);
+    BeginBusiness(m_target, kBusiness);
     const OrdinaryUser nobody(m_folder.Path());
     EXPECT_NE(FolderRefusal(m_target), "") << "another's";
+}
+
+TEST(GuideTest, IsRenewedUntilSomebodyChangesIt)
+{
+    const TemporaryFolder folder;
+    const std::string installed = folder.Path() + "/installed";
+    const std::string document = folder.Path() + kGuideDocument;
+    const std::string page = folder.Path() + kGuidePage;
+    std::filesystem::create_directories(installed);
+    const auto ship = [&](const std::string& version) {
+        WriteBytes(installed + "/PTKAdminUserGuide.doc", "document " + version);
+        WriteBytes(installed + "/PTKAdminUserGuide.html", "page " + version);
+        RenewGuide(folder.Path(), installed);
+    };
+    WriteBytes(document, "of an older version, or the owner's");
+    RenewGuide(folder.Path(), installed);
+    EXPECT_EQ(ReadBytes(page), "") << "no package";
+    ship("1");
+    ship("2");
+    EXPECT_EQ(ReadBytes(document), "of an older version, or the owner's");
+    EXPECT_EQ(ReadBytes(page), "page 2");
+    WriteBytes(page, "page 2, with our telephone number");
+    WriteBytes(document, "document 2");
+    ship("2");
+    ship("3");
+    EXPECT_EQ(ReadBytes(page), "page 2, with our telephone number");
+    EXPECT_EQ(ReadBytes(document), "document 3");
 }
 
 TEST_F(NewBusinessTest, SaysWhatIsMissing)

@@ -47,6 +47,62 @@ TEST(CardTextsTest, NamesACardThatIsNotTheChosenOne)
     EXPECT_EQ(WeekdayName(DateTime({1899, 12, 29})), "Friday");
 }
 
+RecordTexts Typed(const std::array<const char*, 4>& texts)
+{
+    const DateTime today({2003, 3, 7});
+    return {TypedDate(texts[0], today), TypedTime(texts[1]), TypedDate(texts[2], today), TypedTime(texts[3])};
+}
+
+TEST(NewRecordTest, WarnsOfMoreThanALongShift)
+{
+    struct Case
+    {
+        std::array<const char*, 4> texts;
+        const char* warning;
+    };
+    for (const Case& c : {
+             Case{{"03/05/2003", "8:00", "03/06/2003", "0:00:59"}, ""}, // 16 hours: seconds do not count
+             {{"03/05/2003", "8:00", "03/06/2003", "0:01"}, "This shift has 16:01 hours, more than the longest usual one of 16. "},
+             {{"11/12/2003", "8a", "11/25/2003", "420p"}, "This shift has 320:20 hours, more than the longest usual one of 16. "},
+             {{"03/05/2003", "8:00", "03/04/2003", "8:00"}, ""},
+             {{"03/05/2003", "8:00", "03/09/2003", "late"}, ""},
+         }) {
+        EXPECT_EQ(LongShiftWarning(Typed(c.texts), 16), c.warning) << c.texts[3];
+    }
+}
+
+TEST(NewRecordTest, SaysWhatWasStoredWhereATextCouldNotBeRead)
+{
+    struct Case
+    {
+        std::array<const char*, 4> texts;
+        DateTime start;
+        DateTime end;
+        const char* said;
+    };
+    const DateTime eight({2003, 3, 5}, {8, 0, 0});
+    const DateTime five({2003, 3, 5}, {17, 0, 0});
+    for (const Case& c : {
+             Case{{"3/5", "8a", "3/5", "5p"}, eight, five, "Record saved for Ann Lee"},
+             {{"3/5", "8a", "3/5", "late"},
+              eight,
+              five,
+              "Record saved for Ann Lee as 03/05/2003 08:00 AM - 03/05/2003 05:00 PM: the end could not be read"},
+             {{"13/45", "8a", "3/5", "5p"},
+              eight,
+              five,
+              "Record saved for Ann Lee as 03/05/2003 08:00 AM - 03/05/2003 05:00 PM: the start could not be read"},
+             {{"13/45", "8a", "3/5", "6p"},
+              eight,
+              five,
+              "Record saved for Ann Lee as 03/05/2003 08:00 AM - 03/05/2003 05:00 PM: the start could not be read, and the end was not "
+              "taken"},
+             {{"13/45", "8a", "3/5", "late"}, {}, {}, "Record saved for Ann Lee as no start - no end: start and end could not be read"},
+         }) {
+        EXPECT_EQ(SavedRecordText("Ann Lee", Typed(c.texts), c.start, c.end), c.said);
+    }
+}
+
 TEST(NewRecordTest, WarnsOfAnotherPeriodAndOfNoHours)
 {
     const PayPeriod period{DateTime({2003, 3, 5}), DateTime({2003, 3, 19})};
@@ -59,8 +115,7 @@ TEST(NewRecordTest, WarnsOfAnotherPeriodAndOfNoHours)
         std::string warning;
     };
     const auto warning = [](const std::array<const char*, 4>& texts, const std::optional<PayPeriod>& shown) {
-        const DateTime today({2003, 3, 7});
-        return NewRecordWarning({TypedDate(texts[0], today), TypedTime(texts[1]), TypedDate(texts[2], today), TypedTime(texts[3])}, shown);
+        return NewRecordWarning(Typed(texts), shown);
     };
     for (const Case& c : {
              Case{{"03/05/2003", "08:00:00 AM", "03/05/2003", "05:00:00 PM"}, ""},

@@ -3,6 +3,7 @@
 #include "office/import/ImportValues.h"
 #include "office/import/OldFile.h"
 #include "platform/Failure.h"
+#include "platform/text/CodePage.h"
 #include "store/RawDatabase.h"
 #include "store/whole/DatabaseCreator.h"
 #include "support/EarlierDatabase.h"

@@ -53,6 +53,37 @@ std::string Sorted(OverviewColumn column)
     return names;
 }
 
+// In the order of a table that shows D, B, C and A, of whom B has no problems; by EmployeeID 4, 2, 3, 1.
+TEST(OverviewTableTest, WalksFromOneWithProblemsToTheNext)
+{
+    struct Case
+    {
+        const char* name;
+        std::optional<std::int32_t> from;
+        int direction;
+        std::optional<std::size_t> place;
+    };
+    std::vector<OverviewRow> rows = Rows();
+    for (std::size_t row = 0; row < rows.size(); ++row) {
+        EmployeeRow employee;
+        employee.EmployeeID = static_cast<std::int32_t>(row) + 1;
+        rows.at(row).employee = std::make_shared<CEmployee>(employee);
+    }
+    const std::vector<std::size_t> shown{3, 1, 2, 0};
+    for (const Case& c : {Case{"over one without", 4, 1, 2},
+                          {"and back", 3, -1, 0},
+                          {"from one without", 2, 1, 2},
+                          {"beyond the end", 1, 1, {}},
+                          {"beyond the beginning", 4, -1, {}},
+                          {"from nobody", {}, 1, 0},
+                          {"back from one who is not shown", 99, -1, 3}}) {
+        EXPECT_EQ(StepToProblems(rows, shown, c.from, c.direction), c.place) << c.name;
+    }
+    EXPECT_EQ(StepToProblems(rows, std::vector<std::size_t>{}, 1, 1), std::nullopt);
+    EXPECT_EQ(ProblemShareText(17, 40) + "|" + ProblemShareText(1, 1) + "|" + ProblemShareText(0, 3),
+              "17 of 40 have problems: F9|1 of 1 has problems: F9|");
+}
+
 TEST(OverviewTableTest, SortsByWhatACellMeans)
 {
     EXPECT_EQ(Sorted(OverviewColumn::Name), "ABCD");

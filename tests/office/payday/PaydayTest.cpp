@@ -129,7 +129,11 @@ TEST_F(PaydayTest, IsUndoneAndRedoneAsOneStep)
     const auto state = [&] { return Paid() + Rows("SELECT CAST(EndTime AS TEXT) FROM TimeRecord ORDER BY TimeRecordID"); };
     UndoStack undo(m_database);
     const std::string before = state();
-    Close({40, 41, 42});
+    {
+        const CJetDB::Reason why(m_database, "paid early");
+        Close({40, 41, 42});
+    }
+    EXPECT_EQ(Rows("SELECT DISTINCT Reason FROM _Change WHERE TableName = '_Payday'"), "paid early;");
     const std::string closed = state();
     ASSERT_TRUE(undo.Remember()) << undo.Refusal();
     EXPECT_EQ(undo.UndoText(), "Undo Close Payday 03/01/2026 - 03/14/2026");

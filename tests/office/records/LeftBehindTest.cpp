@@ -70,6 +70,12 @@ TEST(TypedTextsTest, WhatIsBroughtBackLeavesOthersChangesAlone)
     EXPECT_EQ(removed.typed, Company("", "Oak", "Harbor"));
 }
 
+TEST(LeavingQuestionTest, NamesWhatIsNotSaved)
+{
+    EXPECT_EQ(LeavingQuestion({"Changes to Ann Lee were not saved", "Acorn was not saved"}),
+              "Changes to Ann Lee were not saved.\nAcorn was not saved.\n\nSave before leaving?");
+}
+
 } // namespace
 
 } // namespace ptk

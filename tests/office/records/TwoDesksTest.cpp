@@ -249,6 +249,32 @@ TEST_F(TwoDesksTest, OnlyOthersChangesAreToldAndOnlyOnce)
     }
 }
 
+// Somebody's import: what it changed is not looked through.
+TEST_F(TwoDesksTest, WhereThousandsOfRowsChangedEverythingMayHave)
+{
+    Desk own = NewDesk();
+    ChangeWatch watch(own.database, own.undo);
+    Elsewhere("INSERT INTO TimeRecord (EmployeeID) WITH RECURSIVE n (i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 2500) "
+              "SELECT 77 FROM n");
+    for (int i = 0; i < 100 && !watch.IsAnyChanged(Shown::Company); ++i) { // a server tells a moment later
+        watch.Look();
+        std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    }
+    EXPECT_TRUE(watch.IsChanged(Shown::CardRecords, 77) && watch.IsChanged(Shown::CardRecords, 41) && watch.IsChanged(Shown::Company, 1));
+    watch.AboutToRead(Shown::CardRecords, 41);
+    EXPECT_FALSE(watch.IsChanged(Shown::CardRecords, 41));
+    EXPECT_TRUE(watch.IsChanged(Shown::CardRecords, 42));
+    watch.AboutToRead(Shown::Company);
+    EXPECT_FALSE(watch.IsChanged(Shown::Company, 1) || watch.IsAnyChanged(Shown::Company));
+    Elsewhere("UPDATE TimeRecord SET EmployeeID = 41 WHERE TimeRecordID = 2");
+    for (int i = 0; i < 100 && !watch.IsChanged(Shown::CardRecords, 41); ++i) {
+        watch.Look();
+        std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    }
+    EXPECT_TRUE(watch.IsChanged(Shown::CardRecords, 41)) << "what comes behind is looked at again";
+    EXPECT_FALSE(watch.IsChanged(Shown::Company, 1));
+}
+
 } // namespace
 
 } // namespace ptk

@@ -35,6 +35,28 @@ TEST(ReportChoiceTest, TakesTheDaysThatWereChosenAndOffersTheOthers)
     EXPECT_FALSE(OfferedDays(ReportDates::None, today, 7).has_value());
 }
 
+// Fifteen days from the 1st and from the 15th; a period of sixteen in the last case, of ten in the one before.
+TEST(ReportChoiceTest, SaysWhichDaysTheOfferedPeriodsLeaveOutOrDouble)
+{
+    struct Case
+    {
+        DateTime today;
+        std::int16_t length;
+        const char* notice;
+    };
+    for (const Case& c :
+         {Case{DateTime({2026, 3, 20}), 14, "03/15/2026 is in the period before, too: 03/01/2026 - 03/15/2026."},
+          {DateTime({2026, 4, 2}), 14, "03/30/2026 - 03/31/2026 are in no period: the one before is 03/15/2026 - 03/29/2026."},
+          {DateTime({2026, 3, 15}), 14, "03/01/2026 is in the period before, too: 02/15/2026 - 03/01/2026."},
+          {DateTime({2024, 3, 1}), 14, ""},
+          {DateTime({2026, 5, 1}), 14, "04/30/2026 is in no period: the one before is 04/15/2026 - 04/29/2026."},
+          {DateTime({2026, 3, 16}), 13, ""},
+          {DateTime({2026, 3, 16}), 9, "03/11/2026 - 03/14/2026 are in no period: the one before is 03/01/2026 - 03/10/2026."},
+          {DateTime({2026, 3, 16}), 15, "03/15/2026 - 03/16/2026 are in the period before, too: 03/01/2026 - 03/16/2026."}}) {
+        EXPECT_EQ(OfferedDaysNotice(c.today, c.length), c.notice) << c.length;
+    }
+}
+
 TEST(ReportChoiceTest, LooksEmployeesUpByDisplayName)
 {
     struct Case
@@ -67,6 +89,14 @@ TEST(ReportChoiceTest, LooksEmployeesUpByDisplayName)
     EXPECT_EQ(ids(ReportWhom::Each), (std::vector<std::int32_t>{2, 1, 0, 4, 1, 5, 6}));
     EXPECT_EQ(ids(ReportWhom::Together), ids(ReportWhom::Each));
     EXPECT_EQ(ids(ReportWhom::Everyone), (std::vector<std::int32_t>{2, 1, 1, 6}));
+}
+
+TEST(ReportChoiceTest, AsksBeforeFiftyWindows)
+{
+    EXPECT_FALSE(ManyWindowsQuestion(ReportWhom::Each, 49));
+    EXPECT_EQ(ManyWindowsQuestion(ReportWhom::Each, 50), "This opens 50 windows, one for each report. Go on?");
+    EXPECT_FALSE(ManyWindowsQuestion(ReportWhom::Together, 1500));
+    EXPECT_FALSE(ManyWindowsQuestion(ReportWhom::Everyone, 1500));
 }
 
 } // namespace

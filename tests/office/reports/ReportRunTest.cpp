@@ -23,6 +23,7 @@ TEST(ReportRunTest, TellsHowManyOfHowMany)
                           {{2, 0, 0}, "Cancelled: 0 of 2 reports written"}}) {
         EXPECT_EQ(DescribeRun(c.run), c.told);
     }
+    EXPECT_EQ(DescribeRun({5, 5, 1, {}, {"a", "b", "c", "d", "e"}}), "4 of 5 reports complete, 1 failed; a; b; c; and 2 more");
     EXPECT_EQ(DescribePrinting(0, 0), "No report is open");
     EXPECT_EQ(DescribePrinting(1, 1), "1 report printed");
     EXPECT_EQ(DescribePrinting(2, 11), "2 of 11 reports printed, the next one was refused");

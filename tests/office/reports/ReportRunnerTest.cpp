@@ -37,6 +37,8 @@ private:
         m_told += (complete ? "" : "!") + report.ReportName() + ": " + outcome + "\n";
     }
 
+    void Replaced(const std::string& sentence) override { m_told += "(" + sentence + ")\n"; }
+
     std::string m_told;
     std::int32_t m_most = 0;
 };
@@ -59,6 +61,18 @@ TEST_F(ReportRunnerTest, MakesOneForEach)
     to = "next week";
     EXPECT_EQ(Run(ReportKind::YTDTotals, {"Zorn"}),
               "!Employee Year-To-Date Totals : : The report was not written: error 603\n[0 of 1 report complete, 1 failed]\n");
+}
+
+// Who is chosen twice replaces nobody's.
+TEST_F(ReportRunnerTest, TellsWhoseFileWasReplaced)
+{
+    zorn->EmployeeNumber(ann->EmployeeNumber());
+    EXPECT_EQ(Run(ReportKind::TimeCard, {"Ann Lee", "Ann Lee", "Zorn"}),
+              "Employee Time Card : Ann Lee : 1/1/2003 - 1/15/2003: 1 report written\n"
+              "Employee Time Card : Ann Lee : 1/1/2003 - 1/15/2003: 1 report written\n"
+              "Employee Time Card :  Zorn : 1/1/2003 - 1/15/2003: 1 report written\n"
+              "(the report of Zorn took the place of that of Ann Lee, who has the same number)\n"
+              "[3 reports written; the report of Zorn took the place of that of Ann Lee, who has the same number]\n");
 }
 
 TEST_F(ReportRunnerTest, MakesOneForAllAndSaysItFirst)

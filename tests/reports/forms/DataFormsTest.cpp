@@ -33,8 +33,10 @@ ReportDocument Made(const std::string& title, std::vector<ReportRow> rows)
     return document;
 }
 
-TEST(DataFormsTest, HoursAreToldAsOnAClock)
+TEST(DataFormsTest, HoursAreToldAsOnAClockAndRatesWhole)
 {
+    EXPECT_EQ(CellText(CellType::Rate, 7.8333335F) + ' ' + CellText(CellType::Rate, 12.5F) + ' ' + CellText(CellType::Rate, 8.0F),
+              "7.8333335 12.5 8");
     EXPECT_EQ(ClockText(0.0F) + ' ' + ClockText(-0.25F) + ' ' + ClockText(0.992F) + ' ' + ClockText(100.5F), "0:00 -0:15 1:00 100:30");
 }
 

@@ -1,5 +1,6 @@
 // Backups: their names, which are kept, how they are made and put back.
 #include "store/backup/Backups.h"
+#include "platform/files/DraftsAtEnd.h"
 #include "platform/text/Text.h"
 #include "store/backup/BackupNames.h"
 #include "store/backup/Restore.h"
@@ -54,7 +55,8 @@ TEST(BackupNamesTest, TheOnesToGoAreThoseThatNoRuleKeeps)
     // Ten newest and 14 days: to 26 February. Weeks from Sunday: the newest of each is its Saturday, 21 February back to that of the week
     // of 18 January, which is 24 January. Months: the newest of each is its last day.
     EXPECT_EQ(kept(Noons(0, 120)), "3/11 3/10 3/9 3/8 3/7 3/6 3/5 3/4 3/3 3/2 3/1 2/28 2/27 2/26 2/21 2/14 2/7 1/31 1/24 12/31 11/30");
-    EXPECT_EQ(kept(Noons(60, 75)), "1/10 1/9 1/8 1/7 1/6 1/5 1/4 1/3 1/2 1/1 12/31") << "the ten newest, however old";
+    // 9 to 7 February, that week's and the one before's newest, are among the ten.
+    EXPECT_EQ(kept(Noons(30, 45)), "2/9 2/8 2/7 2/6 2/5 2/4 2/3 2/2 2/1 1/31") << "the ten newest, however old";
     EXPECT_EQ(kept(Noons(-3, -1)), "3/14 3/13 3/12") << "dated later";
     const std::vector<std::string> others{"notes.txt", "ptk_11-2000-01-01-000000-damaged.mdb"};
     EXPECT_TRUE(DispensableBackups(others, newest).empty());
@@ -73,6 +75,20 @@ TEST(BackupNamesTest, TheOnesToGoAreThoseThatNoRuleKeeps)
     std::vector<std::string> old = Noons(0, 9);
     old.insert(old.end(), {"ptk_11-2024-04-01-000000.mdb", "ptk_11-2024-03-31-000000.mdb"});
     EXPECT_EQ(DispensableBackups(old, newest), std::vector<std::string>{"ptk_11-2024-03-31-000000.mdb"});
+}
+
+TEST(BackupNamesTest, NothingGoesByAClockThatRanAhead)
+{
+    const std::vector<std::string> names = Noons(0, 700);
+    const auto goneBy = [&](const char* newest) {
+        std::vector<std::string> all = names;
+        all.insert(all.begin(), {BackupName(ToDateTime("3/11/2031 8:00")), BackupName(ToDateTime(newest))});
+        return DispensableBackups(all, ToDateTime(newest)).size();
+    };
+    EXPECT_EQ(goneBy("3/11/2031 8:00"), 0U);
+    EXPECT_EQ(goneBy("3/11/2031 17:00"), 0U) << "the second of that day";
+    EXPECT_NE(goneBy("4/20/2026 12:00"), 0U) << "40 days";
+    EXPECT_EQ(goneBy("4/20/2026 12:00:01"), 0U);
 }
 
 class BackupsTest : public StoreTest
@@ -130,7 +146,7 @@ TEST_F(BackupsTest, AreWholeForTheirOwnerAndNamedByTheNextFreeSecond)
 
 TEST_F(BackupsTest, PruningSparesTheFileThatIsBeingRestored)
 {
-    const auto backup = [](int second) { return BackupName(DateTime::FromSeconds(ToDateTime("1/1/2000").Seconds() + second)); };
+    const auto backup = [](int second) { return BackupName(DateTime::FromSeconds(ToDateTime("2/1/2003").Seconds() + second)); };
     std::filesystem::create_directory(Folder());
     const std::string newest = BackupName(m_now);
     WriteBytes(Backup(newest), "");
@@ -160,11 +176,45 @@ TEST_F(BackupsTest, LeaveNothingBehindWhereTheyFail)
     EXPECT_EQ(FailureOf([&] { BackUp(Path(), Folder(), m_now, [](std::int32_t, std::int32_t) { return false; }); }), 9) << "given up";
     EXPECT_TRUE(WIFSIGNALED(InAnotherProcess(
         [&] { BackUp(Path(), Folder(), m_now, [](std::int32_t, std::int32_t) { return kill(getpid(), SIGKILL) != 0; }); })));
+    EXPECT_TRUE(WIFSIGNALED(InAnotherProcess([&] {
+        RemoveMortalFilesOnSignals();
+        BackUp(Path(), Folder(), m_now, [](std::int32_t, std::int32_t) { return raise(SIGTERM) != 0; });
+    })));
+    EXPECT_EQ(Names(), "") << "nor what is ended by a signal";
     std::string bytes = ReadBytes(Path());
     bytes.replace(bytes.size() / 2, 4096, std::string(4096, 'x'));
     WriteBytes(Path(), bytes);
     EXPECT_EQ(FailureOf([&] { BackUp(Path(), Folder(), m_now); }), 11);
     EXPECT_EQ(Names(), "") << "not what the killed one left either";
+}
+
+TEST_F(BackupsTest, AreRefusedWhereAnIndexDisagreesWithItsTable)
+{
+    Run("INSERT INTO TimeRecord (EmployeeID, StartTime, EndTime) VALUES (40, '2003-03-05 08:00:00', '2003-03-05 16:00:00')");
+    const std::string file = BackUp(Path(), Folder(), m_now);
+    const auto spoil = [](const std::string& path) { // the first of two times: whichever of table and index lies in front
+        std::string bytes = ReadBytes(path);
+        bytes.replace(bytes.find("2003-03-05 16:00:00"), 19, "2003-03-05 12:00:00");
+        WriteBytes(path, bytes);
+    };
+    spoil(file);
+    EXPECT_EQ(CheckedBackup(Folder(), kFirst).fault, "the database file is damaged");
+    EXPECT_EQ(FailureOf([&] { RestoreFrom(file); }), 11);
+    EXPECT_EQ(Rows("SELECT EndTime FROM TimeRecord"), "2003-03-05 16:00:00|");
+    spoil(Path());
+    EXPECT_EQ(FailureOf([&] { BackUp(Path(), Folder(), m_now); }), 11);
+}
+
+TEST_F(BackupsTest, ClearWhatKilledOnesLeftAndNothingElse)
+{
+    const auto draft = [&](const std::string& target) { return Folder() + "/." + target + ".a1b2c3.draft"; };
+    BackUp(Path(), Folder(), m_now);
+    WriteBytes(draft("ptk_11-2001-01-01-120000.mdb"), "anything");
+    WriteBytes(draft("ptk_11-2001-01-01-120000.mdb") + "-journal", "of it");
+    WriteBytes(draft("elsewhere.mdb"), ReadBytes(Path()).substr(0, 5000));
+    WriteBytes(draft("thesis.txt"), "somebody's");
+    BackUp(Path(), Folder(), m_now);
+    EXPECT_EQ(Names(), std::string(".thesis.txt.a1b2c3.draft ") + kFirst + " " + kSecond);
 }
 
 TEST_F(BackupsTest, NobodyGetsAtTheDatabaseMeanwhile)

@@ -147,6 +147,11 @@ TEST_F(DatabaseFileTest, TheCheckFindsWhatIsWrong)
              Case{"INSERT INTO _Payday (FromDay, ToDay) VALUES ('2003-03-05 00:00:00', '2003-03-04 00:00:00')",
                   "The days of _Payday 1 cannot be read or run backward: it counts for nothing."},
              Case{"DROP TRIGGER _CompanyDelete", "The edit trail misses changes of the table Company."},
+             Case{"DROP TRIGGER _EditWritten", "The edit trail tells nothing: there is no trigger _EditWritten."},
+             Case{"DROP TRIGGER _EditWritten; CREATE TRIGGER _EditWritten INSTEAD OF INSERT ON _Edit BEGIN SELECT 1; END",
+                  "The trigger _EditWritten of the edit trail is not the program's own."},
+             Case{"CREATE TRIGGER less AFTER INSERT ON TimeRecord BEGIN DELETE FROM _Change; END",
+                  "The trigger less on TimeRecord is not the program's: it may change what is stored there."},
              Case{"DROP TABLE _System; CREATE TABLE _System (program TEXT, version REAL, period_length INTEGER, auto_shift_start_time "
                   "DATETIME, "
                   "auto_shift_end_time DATETIME); INSERT INTO _System VALUES ('', 1, 14, '', '')",

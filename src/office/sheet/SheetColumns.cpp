@@ -1,0 +1,234 @@
+#include "office/sheet/SheetColumns.h"
+
+#include "platform/Failure.h"
+#include "platform/text/Characters.h"
+#include "platform/text/Text.h"
+
+#include <algorithm>
+#include <fmt/format.h>
+#include <iterator>
+
+namespace ptk {
+
+namespace {
+
+struct ColumnName
+{
+    std::string_view name; // without blanks, in lower case
+    SheetColumn column;
+};
+constexpr ColumnName kNames[] = {
+    {"employee", SheetColumn::Employee},
+    {"number", SheetColumn::Number},
+    {"employeenumber", SheetColumn::Number},
+    {"id", SheetColumn::Id},
+    {"name", SheetColumn::Name},
+    {"ssn", SheetColumn::Ssn},
+    {"start", SheetColumn::Start},
+    {"starttime", SheetColumn::Start},
+    {"end", SheetColumn::End},
+    {"endtime", SheetColumn::End},
+    {"time", SheetColumn::Time},
+    {"direction", SheetColumn::Direction},
+    {"date", SheetColumn::Date},
+};
+
+struct DirectionName
+{
+    std::string_view name;
+    Direction direction;
+};
+constexpr DirectionName kDirections[] = {{"in", Direction::In}, {"i", Direction::In}, {"out", Direction::Out}, {"o", Direction::Out}};
+
+constexpr SheetColumn kPeople[] = {SheetColumn::Number, SheetColumn::Id, SheetColumn::Name, SheetColumn::Ssn};
+
+constexpr auto kTwice = "the heading {} stands twice";
+constexpr auto kTwoColumns = "the columns {} and {} mean the same";
+constexpr auto kNotThere = "the file has no column {}";
+constexpr auto kNoPerson = "no column says whose punches these are: Employee, Number, ID, Name or SSN";
+constexpr auto kTwoPersons = "the columns {} and {} both say whose punches these are";
+constexpr auto kBothKinds = "the columns are those of pairs (Start, End) and of events (Time, Direction) at once";
+constexpr auto kNoPairs = "pairs need both columns, Start and End";
+constexpr auto kNoEvents = "events need both columns, Time and Direction";
+constexpr auto kNoMoments = "no columns say when somebody came and went: Start and End, or Time and Direction";
+
+[[noreturn]] void Refuse(std::string text)
+{
+    throw Failure(0, "PTK", std::move(text));
+}
+
+std::string Normalized(std::string_view text)
+{
+    std::string normalized = LowerCase(text);
+    std::erase_if(normalized, [](char c) { return c == ' ' || c == '\t'; });
+    return normalized;
+}
+
+const ColumnName* FindColumn(std::string_view normalized)
+{
+    const auto* found = std::find_if(std::begin(kNames), std::end(kNames), [&](const ColumnName& name) { return name.name == normalized; });
+    return found == std::end(kNames) ? nullptr : found;
+}
+
+// Takes one FILE=OURS; false for what is none.
+bool TakeWord(std::string_view text, SheetWords& words)
+{
+    const std::size_t equals = text.rfind('=');
+    const std::string file = Normalized(text.substr(0, equals));
+    if (equals == std::string_view::npos || file.empty()) {
+        return false;
+    }
+    const std::string ours = Normalized(text.substr(equals + 1));
+    if (ours == "in" || ours == "out") {
+        words.directions.emplace_back(file, ours == "in" ? Direction::In : Direction::Out);
+        return true;
+    }
+    const ColumnName* const column = FindColumn(ours);
+    if (column != nullptr) {
+        words.columns.emplace_back(file, column->column);
+    }
+    return column != nullptr;
+}
+
+} // namespace
+
+std::optional<SheetWords> ReadSheetWords(std::string_view text)
+{
+    SheetWords words;
+    for (;;) {
+        const std::size_t comma = text.find(',');
+        if (!TakeWord(text.substr(0, comma), words)) {
+            return std::nullopt;
+        }
+        if (comma == std::string_view::npos) {
+            return words;
+        }
+        text.remove_prefix(comma + 1);
+    }
+}
+
+SheetColumns::SheetColumns(std::span<const std::string> headings, SheetWords words)
+    : m_headings(headings.begin(), headings.end()), m_words(std::move(words))
+{
+    RefuseDoubled();
+    PlaceTold();
+    PlaceByName();
+    ChoosePerson();
+    RequireMoments();
+}
+
+void SheetColumns::RefuseDoubled() const
+{
+    std::vector<std::string> seen;
+    for (const std::string& heading : m_headings) {
+        std::string normalized = Normalized(heading);
+        if (normalized.empty()) {
+            continue;
+        }
+        if (std::find(seen.begin(), seen.end(), normalized) != seen.end()) {
+            Refuse(fmt::format(kTwice, Trimmed(heading)));
+        }
+        seen.push_back(std::move(normalized));
+    }
+}
+
+void SheetColumns::PlaceTold()
+{
+    for (const auto& [heading, column] : m_words.columns) {
+        const auto found =
+            std::find_if(m_headings.begin(), m_headings.end(), [&](const std::string& own) { return Normalized(own) == heading; });
+        if (found == m_headings.end()) {
+            Refuse(fmt::format(kNotThere, heading));
+        }
+        Place(column, static_cast<std::size_t>(found - m_headings.begin()));
+    }
+}
+
+// What was told of a heading, or of what stands for one of ours, goes before the names.
+void SheetColumns::PlaceByName()
+{
+    std::vector<bool> told(kSheetColumnCount);
+    for (std::size_t i = 0; i < kSheetColumnCount; ++i) {
+        told[i] = m_places[i].has_value();
+    }
+    for (std::size_t place = 0; place < m_headings.size(); ++place) {
+        const std::string normalized = Normalized(m_headings[place]);
+        const bool isTold =
+            std::any_of(m_words.columns.begin(), m_words.columns.end(), [&](const auto& word) { return word.first == normalized; });
+        const ColumnName* const name = isTold ? nullptr : FindColumn(normalized);
+        if (name != nullptr && !told[Index(name->column)]) {
+            Place(name->column, place);
+        }
+    }
+}
+
+void SheetColumns::Place(SheetColumn column, std::size_t place)
+{
+    if (Has(column)) {
+        Refuse(fmt::format(kTwoColumns, Heading(column), m_headings[place]));
+    }
+    m_places[Index(column)] = place;
+}
+
+void SheetColumns::ChoosePerson()
+{
+    if (Has(SheetColumn::Employee)) {
+        return;
+    }
+    std::vector<SheetColumn> found;
+    std::copy_if(std::begin(kPeople), std::end(kPeople), std::back_inserter(found), [&](SheetColumn column) { return Has(column); });
+    if (found.empty()) {
+        Refuse(kNoPerson);
+    }
+    if (found.size() > 1) {
+        Refuse(fmt::format(kTwoPersons, Heading(found[0]), Heading(found[1])));
+    }
+    m_person = found.front();
+}
+
+void SheetColumns::RequireMoments() const
+{
+    const bool start = Has(SheetColumn::Start);
+    const bool end = Has(SheetColumn::End);
+    const bool time = Has(SheetColumn::Time);
+    const bool direction = Has(SheetColumn::Direction);
+    if ((start || end) && (time || direction)) {
+        Refuse(kBothKinds);
+    }
+    if (start != end) {
+        Refuse(kNoPairs);
+    }
+    if (time != direction) {
+        Refuse(kNoEvents);
+    }
+    if (!start && !time) {
+        Refuse(kNoMoments);
+    }
+}
+
+std::string_view SheetColumns::Cell(std::span<const std::string> cells, SheetColumn column) const
+{
+    const std::size_t place = *m_places[Index(column)];
+    return place < cells.size() ? Trimmed(cells[place]) : std::string_view();
+}
+
+std::string SheetColumns::NameOf(std::size_t place) const
+{
+    const std::string_view heading = place <= m_headings.size() ? Trimmed(m_headings[place - 1]) : std::string_view();
+    return heading.empty() ? fmt::format("column {}", place) : std::string(heading);
+}
+
+std::optional<Direction> SheetColumns::ReadDirection(std::string_view word) const
+{
+    const std::string normalized = Normalized(word);
+    for (const auto& [own, direction] : m_words.directions) {
+        if (own == normalized) {
+            return direction;
+        }
+    }
+    const auto* found =
+        std::find_if(std::begin(kDirections), std::end(kDirections), [&](const DirectionName& name) { return name.name == normalized; });
+    return found == std::end(kDirections) ? std::nullopt : std::optional(found->direction);
+}
+
+} // namespace ptk

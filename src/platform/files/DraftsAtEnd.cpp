@@ -1,0 +1,81 @@
+#include "platform/files/DraftsAtEnd.h"
+
+#include <array>
+#include <atomic>
+#include <csignal>
+#include <cstring>
+#include <unistd.h>
+
+namespace ptk {
+
+namespace {
+
+constexpr std::size_t kMost = 16;
+constexpr std::size_t kLongestPath = 4096; // bytes
+constexpr const char* kBeside[] = {"", "-journal", "-wal", "-shm"};
+
+// Of texts that the files' owners keep: a handler may neither allocate nor wait for a lock.
+std::array<std::atomic<const char*>, kMost> mortalFiles;
+
+void RemoveWithBeside(const char* path)
+{
+    std::array<char, kLongestPath + 16> name{};
+    const std::size_t length = std::strlen(path);
+    if (length > kLongestPath) {
+        return;
+    }
+    std::memcpy(name.data(), path, length);
+    for (const char* ending : kBeside) {
+        std::memcpy(name.data() + length, ending, std::strlen(ending) + 1);
+        ::unlink(name.data());
+    }
+}
+
+// The signal comes again, now as the end that its sender meant, once this returns.
+void EndWithoutThem(int signal)
+{
+    RemoveMortalFiles();
+    std::signal(signal, SIG_DFL);
+    std::raise(signal);
+}
+
+} // namespace
+
+MortalFile::MortalFile(const std::string& path) : m_place(0)
+{
+    const char* none = nullptr;
+    while (m_place < kMost && !mortalFiles[m_place].compare_exchange_strong(none, path.c_str())) {
+        none = nullptr;
+        ++m_place;
+    }
+}
+
+MortalFile::~MortalFile()
+{
+    if (m_place < kMost) {
+        mortalFiles[m_place] = nullptr;
+    }
+}
+
+void RemoveMortalFiles() noexcept
+{
+    for (const auto& path : mortalFiles) {
+        if (const char* present = path) {
+            RemoveWithBeside(present);
+        }
+    }
+}
+
+void RemoveMortalFilesOnSignals()
+{
+    for (const int signal : {SIGTERM, SIGHUP, SIGINT}) {
+        struct sigaction present
+        {
+        };
+        if (::sigaction(signal, nullptr, &present) == 0 && present.sa_handler == SIG_DFL) { // nohup and the like stay as they are
+            std::signal(signal, EndWithoutThem);
+        }
+    }
+}
+
+} // namespace ptk

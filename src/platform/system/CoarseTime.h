@@ -1,0 +1,19 @@
+// A clock for limits: good to some milliseconds, and so cheap that it may be asked at every turn.
+#pragma once
+
+#include <chrono>
+#include <ctime>
+
+namespace ptk {
+
+using CoarseTime = std::chrono::steady_clock::time_point;
+
+// Never ahead of the steady clock, and behind it by less than 10 milliseconds.
+[[nodiscard]] inline CoarseTime CoarseNow()
+{
+    timespec now{};
+    ::clock_gettime(CLOCK_MONOTONIC_COARSE, &now);
+    return CoarseTime(std::chrono::seconds(now.tv_sec) + std::chrono::nanoseconds(now.tv_nsec));
+}
+
+} // namespace ptk

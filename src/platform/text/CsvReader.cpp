@@ -1,0 +1,171 @@
+#include "platform/text/CsvReader.h"
+
+#include "platform/Failure.h"
+
+#include <algorithm>
+#include <array>
+#include <fmt/format.h>
+
+namespace ptk {
+
+namespace {
+
+constexpr char kQuote = '"';
+constexpr std::size_t kLongestLine = std::size_t{1} << 20; // bytes
+constexpr std::array kSeparators{',', ';', '\t'};
+
+constexpr auto kOpenQuote = "line {}: a quotation mark is opened and never closed";
+constexpr auto kNul = "line {}: the file holds a NUL byte; it is no text file that can be read";
+constexpr auto kTooLong = "line {}: the line is longer than 1 MiB";
+
+bool IsLineEnd(char c)
+{
+    return c == '\r' || c == '\n';
+}
+
+// CR LF is one end.
+std::size_t LineEndLength(std::string_view text)
+{
+    return text.starts_with("\r\n") ? 2 : 1;
+}
+
+} // namespace
+
+bool CsvRecord::IsBlank() const
+{
+    return std::all_of(cells.begin(), cells.end(),
+                       [](const std::string& cell) { return cell.find_first_not_of(" ,;\t") == std::string::npos; });
+}
+
+bool CsvReader::Next(CsvRecord& record)
+{
+    if (m_left.empty()) {
+        return false;
+    }
+    record = {m_line, {}, 0};
+    for (;;) {
+        const bool quoted = BeginsQuoted();
+        record.cells.push_back(quoted ? TakeQuotedCell(m_line) : TakePlainCell());
+        if (quoted && TakeStray() && record.strayCell == 0) {
+            record.strayCell = record.cells.size();
+        }
+        if (m_left.empty() || m_left.front() != m_separator) {
+            break;
+        }
+        m_left.remove_prefix(1);
+    }
+    TakeLineEnd();
+    return true;
+}
+
+bool CsvReader::AtCellEnd() const
+{
+    return m_left.empty() || m_left.front() == m_separator || IsLineEnd(m_left.front());
+}
+
+// Past the blanks before the quotation mark, where there is one.
+bool CsvReader::BeginsQuoted()
+{
+    std::size_t at = 0;
+    while (at < m_left.size() && m_left[at] == ' ') {
+        ++at;
+    }
+    const bool quoted = at < m_left.size() && m_left[at] == kQuote;
+    m_left.remove_prefix(quoted ? at + 1 : 0);
+    return quoted;
+}
+
+std::string CsvReader::TakePlainCell()
+{
+    std::size_t length = 0;
+    while (length < m_left.size() && m_left[length] != m_separator && !IsLineEnd(m_left[length])) {
+        ++length;
+    }
+    std::string cell(m_left.substr(0, length));
+    m_left.remove_prefix(length);
+    return cell;
+}
+
+std::string CsvReader::TakeQuotedCell(std::int64_t line)
+{
+    std::string cell;
+    while (!m_left.empty()) {
+        if (IsLineEnd(m_left.front())) {
+            cell += TakeLineEnd();
+            continue;
+        }
+        const char c = m_left.front();
+        m_left.remove_prefix(1);
+        if (c != kQuote) {
+            cell += c;
+        } else if (m_left.starts_with(kQuote)) {
+            cell += kQuote;
+            m_left.remove_prefix(1);
+        } else {
+            return cell;
+        }
+    }
+    throw Failure(0, "PTK", fmt::format(kOpenQuote, line));
+}
+
+// What stands between a closing quotation mark and the end of the cell; whether it is more than blanks.
+bool CsvReader::TakeStray()
+{
+    bool stray = false;
+    while (!AtCellEnd()) {
+        stray = stray || m_left.front() != ' ';
+        m_left.remove_prefix(1);
+    }
+    return stray;
+}
+
+std::string_view CsvReader::TakeLineEnd()
+{
+    if (m_left.empty()) {
+        return {};
+    }
+    const std::string_view end = m_left.substr(0, LineEndLength(m_left));
+    m_left.remove_prefix(end.size());
+    ++m_line;
+    return end;
+}
+
+char SeparatorOf(std::string_view text)
+{
+    std::array<std::size_t, kSeparators.size()> counts{};
+    bool quoted = false;
+    bool blank = true;
+    for (const char c : text) {
+        if (IsLineEnd(c) && !quoted) {
+            if (!blank) {
+                break;
+            }
+            counts = {};
+        } else if (c == kQuote) {
+            quoted = !quoted;
+            blank = false;
+        } else if (const auto* at = std::find(kSeparators.begin(), kSeparators.end(), c); at != kSeparators.end() && !quoted) {
+            ++counts[static_cast<std::size_t>(at - kSeparators.begin())];
+        } else {
+            blank = blank && c == ' ';
+        }
+    }
+    return kSeparators[static_cast<std::size_t>(std::max_element(counts.begin(), counts.end()) - counts.begin())];
+}
+
+void RefuseStrangeLines(std::string_view text)
+{
+    for (std::int64_t line = 1; !text.empty(); ++line) {
+        const std::string_view own = text.substr(0, text.find_first_of("\r\n"));
+        if (own.find('\0') != std::string_view::npos) {
+            throw Failure(0, "PTK", fmt::format(kNul, line));
+        }
+        if (own.size() > kLongestLine) {
+            throw Failure(0, "PTK", fmt::format(kTooLong, line));
+        }
+        text.remove_prefix(own.size());
+        text.remove_prefix(text.empty() ? 0 : LineEndLength(text));
+    }
+}
+
+} // namespace ptk

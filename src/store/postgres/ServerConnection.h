@@ -1,0 +1,90 @@
+// The connection to a server: made, waited for and lost in time.
+#pragma once
+
+#include "store/postgres/ServerResult.h"
+
+#include <chrono>
+#include <cstddef>
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace ptk {
+
+class ServerOptions;
+
+// How long an answer is waited for: to its end no longer than the first; without that as long as something comes, and no longer than the
+// silence.
+struct LinePatience
+{
+    using Milliseconds = std::chrono::milliseconds;
+
+    LinePatience(std::optional<Milliseconds> wholeAnswer) : whole(wholeAnswer) {}
+    LinePatience(std::nullopt_t /*none*/, Milliseconds longestSilence = std::chrono::seconds(60)) : silence(longestSilence) {}
+
+    std::optional<Milliseconds> whole;
+    Milliseconds silence{0};
+};
+
+// Waits in slices (WhileWaiting) and no longer than its patience. What goes wrong with the connection itself raises 7, 9, 10 or 14 and
+// drops it: nothing of what was on its way is of use then.
+class ServerConnection
+{
+public:
+    using Clock = std::chrono::steady_clock;
+
+    // See ServerLine.
+    ServerConnection(const std::string& address, LinePatience patience, std::optional<Clock::time_point> until);
+    ~ServerConnection();
+    ServerConnection(const ServerConnection&) = delete;
+    ServerConnection& operator=(const ServerConnection&) = delete;
+
+    // nullptr once it is dropped, which the library's functions take for a connection that is lost.
+    [[nodiscard]] PGconn* Get() const { return m_handle.get(); }
+    [[nodiscard]] const std::string& Token() const { return m_token; }
+
+    // Of a question: from here on its patience counts, or the time until then.
+    void Begin(std::optional<Clock::time_point> until = std::nullopt, bool mayBeGivenUp = true);
+
+    // Until all that was sent has left.
+    void Flush();
+
+    // The next result, holding nothing at the end of the answers to one statement.
+    [[nodiscard]] ServerResult Next();
+
+    // What a function of the library answered: 0 is a connection that is lost.
+    void Require(int done);
+
+    void RequireExpected(bool isExpected);
+    void Drop() noexcept;
+    [[nodiscard]] bool IsAlive();
+
+private:
+    struct Ending
+    {
+        void operator()(PGconn* connection) const { Library().finish(connection); }
+    };
+
+    void Connect(const std::string& address, const ServerOptions& options);
+    void Try(const std::string& address, const ServerOptions& options, const std::optional<std::string>& password);
+    void AwaitConnection();
+    [[nodiscard]] Clock::time_point LatestConnection() const;
+    void WaitUntil(Clock::time_point until);
+    void Wait(short events);
+    void TakeTurn();
+    void TakeInput();
+    void RequireRoom();
+    [[noreturn]] void Lose(const std::string& message);
+
+    std::unique_ptr<PGconn, Ending> m_handle;
+    LinePatience m_patience;
+    std::string m_token;
+    Clock::time_point m_until;
+    Clock::time_point m_nextTurn;
+    bool m_silenceCounts = false; // each sign of life puts the end off
+    bool m_mayBeGivenUp = true;
+    std::size_t m_inputs = 0; // taken for this answer
+    std::size_t m_memory = 0; // in use when it turned out to be a long one
+};
+
+} // namespace ptk

@@ -1,0 +1,23 @@
+// Whether anything was stored since, by whomever: for windows that show much at once and are read anew as a whole.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+
+class QObject;
+
+namespace ptk {
+
+class PageHost;
+
+// Does not wait for the database. What could not be asked now is asked the next time.
+void LookForChanges(const PageHost& host);
+
+// The newest entry of the edit trail as far as anybody looked; nothing until the trail could be read.
+[[nodiscard]] std::optional<std::int64_t> NewestChange(const PageHost& host);
+
+// Has it called after each look, as long as `context` is there.
+void AfterEachLook(const PageHost& host, QObject& context, const std::function<void()>& looked);
+
+} // namespace ptk

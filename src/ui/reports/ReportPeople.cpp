@@ -1,0 +1,191 @@
+#include "ui/reports/ReportPeople.h"
+
+#include "model/check/FindingText.h"
+#include "office/card/CardFindings.h"
+#include "office/overview/OverviewReading.h"
+#include "office/overview/OverviewTable.h"
+#include "platform/Required.h"
+#include "platform/Succeeds.h"
+#include "platform/system/Clock.h"
+#include "startup/CController.h"
+#include "store/CJetDB.h"
+#include "ui/page/ChangeNews.h"
+#include "ui/page/PageHost.h"
+#include "ui/widgets/EmployeeModels.h"
+#include "ui/widgets/FindingList.h"
+#include "ui/widgets/ThemeIcon.h"
+
+#include <QElapsedTimer>
+#include <QEvent>
+#include <QListView>
+
+#include <algorithm>
+#include <utility>
+
+namespace ptk {
+
+namespace {
+
+constexpr auto kNotChecked = "The employees' time cards could not be checked for problems: ";
+
+constexpr int kSettled = 300;        // milliseconds after the days were changed last
+constexpr qint64 kCheckingTime = 30; // milliseconds without a glance at keys and mouse
+constexpr int kTryAgain = 5000;      // milliseconds, where somebody else has the database
+
+// The problems alone, a line each.
+QString MarkOf(const CardCheck& check)
+{
+    QString words = QString::fromStdString(FindingSummary(check));
+    for (const Finding& finding : ShownFindings(check, false)) {
+        words += '\n' + QString::fromStdString(SpokenText(finding));
+    }
+    return words;
+}
+
+} // namespace
+
+MarkedEmployees::MarkedEmployees(int size, QObject* parent) : QIdentityProxyModel(parent)
+{
+    QPixmap blank(size, size);
+    blank.fill(Qt::transparent);
+    m_blank = QIcon(blank);
+}
+
+void MarkedEmployees::Mark(Marks marks)
+{
+    m_marks = std::move(marks);
+    if (rowCount() > 0) {
+        emit dataChanged(index(0, 0), index(rowCount() - 1, 0));
+    }
+}
+
+QVariant MarkedEmployees::data(const QModelIndex& index, int role) const
+{
+    if (role != Qt::DecorationRole && role != Qt::ToolTipRole && role != Qt::AccessibleDescriptionRole) {
+        return QIdentityProxyModel::data(index, role);
+    }
+    const auto mark = m_marks.find(QIdentityProxyModel::data(index, kEmployeeIDRole).toInt());
+    const bool marked = mark != m_marks.end();
+    if (role == Qt::DecorationRole) {
+        return marked ? ThemeIcon(SeverityIconName(Severity::Problem)) : m_blank; // the names stand below each other
+    }
+    return marked ? QVariant(mark->second) : QVariant();
+}
+
+ReportPeople::ReportPeople(PageHost& host, QListView& list, std::function<bool()> isBusy)
+    : QObject(&list), m_host(host), m_list(list), m_isBusy(std::move(isBusy)),
+      m_employees(new MarkedEmployees(list.fontMetrics().height(), this))
+{
+    m_employees->setSourceModel(host.EmployeeModels().Offered());
+    ShowEmployees(list, m_employees);
+    list.setIconSize(QSize(1, 1) * list.fontMetrics().height()); // no higher than the names
+    list.installEventFilter(this);
+    m_next.setSingleShot(true);
+    connect(&m_next, &QTimer::timeout, this, &ReportPeople::CheckOn);
+    connect(m_employees, &QAbstractItemModel::modelReset, this, &ReportPeople::CheckSoon);
+    AfterEachLook(host, *this, [this] { LookAgain(); });
+}
+
+ReportPeople::~ReportPeople() = default;
+
+void ReportPeople::Check(const std::optional<PayPeriod>& days)
+{
+    const bool same = days && m_days ? days->from == m_days->from && days->to == m_days->to : days.has_value() == m_days.has_value();
+    if (!same) {
+        m_days = days;
+        CheckSoon();
+    }
+}
+
+// The marks of before say nothing of other days.
+void ReportPeople::CheckSoon()
+{
+    m_reading = nullptr;
+    m_next.stop();
+    m_employees->Mark({});
+    if (m_days && m_list.isVisible()) {
+        m_next.start(kSettled);
+    }
+}
+
+bool ReportPeople::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Show && m_days) {
+        m_next.start(m_reading == nullptr ? kSettled : 0);
+    } else if (event->type() == QEvent::Hide) {
+        m_next.stop();
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+// What was marked stays so until it is read anew.
+void ReportPeople::LookAgain()
+{
+    if (m_reading != nullptr && NewestChange(m_host) != m_asOf) {
+        m_reading = nullptr;
+        if (m_list.isVisible()) {
+            m_next.start(kSettled);
+        }
+    }
+}
+
+void ReportPeople::CheckOn()
+{
+    if (m_isBusy()) {
+        return m_next.start(kSettled);
+    }
+    const auto check = [this] { m_reading == nullptr ? Begin() : ReadOn(); };
+    if (Succeeds(check, [this](const Failure& reason) { m_host.Log(kNotChecked + reason.Description()); })) {
+        return;
+    }
+    m_reading = nullptr;
+    m_next.start(kTryAgain);
+}
+
+// By an access of its own, which waits for nobody.
+void ReportPeople::Begin()
+{
+    const auto controller = m_host.Controller();
+    if (controller == nullptr || controller->PTKDatabase() == nullptr || controller->EmployeeList() == nullptr || !m_days) {
+        return; // nobody has logged in yet
+    }
+    const auto database = controller->PTKDatabase()->Afresh();
+    database->DoNotWait();
+    m_asOf = NewestChange(m_host);
+    m_reading = std::make_unique<OverviewReading>(database, OfferedEmployees(*controller->EmployeeList()), *m_days, m_host.Clock().Now());
+    m_next.start(0);
+}
+
+void ReportPeople::ReadOn()
+{
+    if (!m_reading->IsDone()) {
+        QElapsedTimer time;
+        time.start();
+        m_reading->ReadOn([&] { return time.elapsed() < kCheckingTime; });
+        m_next.start(0);
+        return;
+    }
+    ShowMarks();
+    emit Checked();
+}
+
+void ReportPeople::ShowMarks()
+{
+    MarkedEmployees::Marks marks;
+    for (const OverviewRow& row : m_reading->Result().rows) {
+        if (row.check.problems > 0) {
+            marks.emplace(row.employee->EmployeeID(), MarkOf(row.check));
+        }
+    }
+    m_employees->Mark(std::move(marks));
+}
+
+std::string ReportPeople::ProblemsOfChosen() const
+{
+    const QModelIndexList chosen = m_list.selectionModel()->selectedRows();
+    const auto marked = std::count_if(chosen.begin(), chosen.end(),
+                                      [&](const QModelIndex& row) { return m_employees->IsMarked(row.data(kEmployeeIDRole).toInt()); });
+    return ProblemShareText(marked, chosen.size());
+}
+
+} // namespace ptk

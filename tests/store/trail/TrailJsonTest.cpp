@@ -1,0 +1,64 @@
+// What stands in the edit trail as JSON, whoever wrote it.
+#include "store/trail/TrailJson.h"
+
+#include <gtest/gtest.h>
+
+namespace ptk {
+
+namespace {
+
+std::string Told(std::string_view json)
+{
+    const auto row = ParseTrailRow(json);
+    std::string text;
+    for (const TrailValue& value : row.value_or(TrailRow())) {
+        text += value.column + "NnTB"[static_cast<std::size_t>(value.kind)] + value.text + ' ';
+    }
+    return row ? text : "none";
+}
+
+// N: null, n: a number, T: text, B: bytes.
+TEST(TrailJson, EveryKindOfValueAndNothingElse)
+{
+    struct Case
+    {
+        const char* json;
+        const char* told;
+    };
+    for (const Case& c : {
+             Case{R"({"EmployeeID":40,"PayRate":12.300000190734863,"ShiftDate":null,"LastName":"Lee"})",
+                  "EmployeeIDn40 PayRaten12.300000190734863 ShiftDateN LastNameTLee "},
+             Case{R"( { "a" : -0.5e-3 , "b" : true , "c":false,"d":[1,{"x":[]}],"e":{} } )", "an-0.5e-3 bn1 cn0 dB eB "},
+             Case{R"({"a":{"blob":"00FF"},"b":{"blob":7,"x":{"blob":"01"}}})", "aB00FF bB "},
+             Case{R"({"a":"O'Neil \"\u03a9\" \\ \/ \b\f\n\r\t"})", "aTO'Neil \"\xCE\xA9\" \\ / \b\f\n\r\t "},
+             Case{R"({"\u674E":"\ud83d\ude00 \ud83d \udE00x"})", "\xE6\x9D\x8ET\xF0\x9F\x98\x80 \xEF\xBF\xBD \xEF\xBF\xBDx "},
+             Case{"{}", ""},
+             Case{"", "none"},
+             Case{"no JSON", "none"},
+             Case{"[1]", "none"},
+             Case{"\"a\"", "none"},
+             Case{R"({"a":1)", "none"},
+             Case{R"({"a":1}})", "none"},
+             Case{R"({"a":1,})", "none"},
+             Case{R"({"a" 1})", "none"},
+             Case{R"({a:1})", "none"},
+             Case{R"({"a":"x})", "none"},
+             Case{R"({"a":"\)", "none"},
+             Case{R"({"a":"\x"})", "none"},
+             Case{R"({"a":"\u12G4"})", "none"},
+             Case{R"({"a":01})", "none"},
+             Case{R"({"a":1.})", "none"},
+             Case{R"({"a":-})", "none"},
+             Case{R"({"a":1e})", "none"},
+             Case{R"({"a":nul})", "none"},
+         }) {
+        EXPECT_EQ(Told(c.json), c.told) << c.json;
+    }
+    std::string deep = R"({"a":)" + std::string(100'000, '[');
+    EXPECT_EQ(Told(deep), "none") << "as deep as somebody likes";
+    EXPECT_EQ(ParseTrailRow(R"({"a":"x\u0000y"})")->front().text, std::string("x\0y", 3));
+}
+
+} // namespace
+
+} // namespace ptk
