@@ -77,10 +77,8 @@ TEST_F(OverviewCommandTest, OffersThePeriodOfTheReportsPageAndEndsWithTheProblem
 
 TEST_F(OverviewCommandTest, RefusesWhatItCannotShow)
 {
-    for (const std::vector<std::string>& words : {std::vector<std::string>{"--from", "3/2/2026", "--to", "3/1/2026"},
-                                                  {"--to", "3/14/2026"},
-                                                  {"--format", "xml"},
-                                                  {"--from", "soon"}}) {
+    for (const std::vector<std::string>& words :
+         {std::vector<std::string>{"--from", "3/2/2026", "--to", "3/1/2026"}, {"--format", "xml"}, {"--from", "soon"}}) {
         std::vector<std::string> all{"overview"};
         all.insert(all.end(), words.begin(), words.end());
         const Answer answer = Run(all);
@@ -89,6 +87,7 @@ TEST_F(OverviewCommandTest, RefusesWhatItCannotShow)
     }
     EXPECT_TRUE(Run({"overview"}).err.starts_with("ptk-console: 14: "));
     MakeSample();
+    EXPECT_EQ(Run({"overview", "--to", "3/14/2026"}).status, 2) << "before the period that is offered";
     const Answer unknown = Run({"overview", "--employee", "Ann Lee", "--employee", "Nobody"});
     EXPECT_EQ(unknown.status, 1);
     EXPECT_EQ(unknown.err, "ptk-console: 602: no employee has this name: Nobody\n");
@@ -108,7 +107,9 @@ TEST_F(OverviewCommandTest, PutsTheFindingsUnderACardAlsoWhereThereIsNone)
     Change("UPDATE TimeRecord SET EndTime = 'so\x1Bon' WHERE EndTime = '1899-12-30 00:00:00'");
     const Answer unreadable = Run(checked);
     EXPECT_EQ(unreadable.status, 1);
-    EXPECT_TRUE(unreadable.out.starts_with("1 problem\n    problem: Record ")) << unreadable.out;
+    EXPECT_TRUE(unreadable.out.starts_with("1 problem, 1 notice\n    notice: No shift in this period; there was one in the period "
+                                           "before.\n    problem: Record "))
+        << unreadable.out;
     EXPECT_TRUE(unreadable.out.ends_with("cannot be read: it has the end \"so?on\".\n")) << unreadable.out;
     EXPECT_TRUE(unreadable.err.starts_with("ptk-console: 605: ")) << unreadable.err;
 
@@ -121,9 +122,9 @@ TEST_F(OverviewCommandTest, PutsTheFindingsUnderACardAlsoWhereThereIsNone)
 TEST_F(OverviewCommandTest, NamesWhoIsLeftOutAndTakesThemIn)
 {
     ASSERT_EQ(Run({"create-database"}).status, 0);
-    Change(
-        "INSERT INTO Employee (EmployeeNumber, FirstName, LastName, Active, PayRate) VALUES (7, 'Peter', 'Lind', 0, 10), (8, 'Ann', 'Lee', "
-        "1, 10), (9, 'Bo', 'Zorn', 0, 10)");
+    Change("INSERT INTO Employee (EmployeeNumber, FirstName, LastName, Active, AutoDeduct, PayRate) VALUES (7, 'Peter', 'Lind', 0, 0, 10), "
+           "(8, 'Ann', 'Lee', "
+           "1, 0, 10), (9, 'Bo', 'Zorn', 0, 0, 10)");
     Change("INSERT INTO TimeRecord (EmployeeID, StartTime, EndTime) VALUES (40, '2026-03-16 08:00:00', '2026-03-16 16:00:00'), "
            "(39, '2026-03-14 22:00:00', '2026-03-15 01:00:00'), (41, '2026-03-16 08:00:00', '2026-03-16 16:00:00'), "
            "(42, '2026-03-01 08:00:00', '2026-03-01 16:00:00'), (77, '2026-03-16 08:00:00', 'soon'), "
@@ -131,7 +132,7 @@ TEST_F(OverviewCommandTest, NamesWhoIsLeftOutAndTakesThemIn)
     const Answer json = Run({"overview", "--format", "json"});
     EXPECT_EQ(json.status, 3) << "they are owed";
     EXPECT_NE(
-        json.out.find(R"("leftOut":[{"number":0,"id":39,"name":" administrator","reason":"administrator","records":1,"regular":"0.00",)"
+        json.out.find(R"("leftOut":[{"number":0,"id":39,"name":"administrator","reason":"administrator","records":1,"regular":"0.00",)"
                       R"("overtime":"0.00","gross":"0.00","paid":null,"changed":null},{"number":7,"id":40,"name":"Peter Lind",)"
                       R"("reason":"inactive","records":1,"regular":"8.00","overtime":"0.00","gross":"80.00","paid":null,"changed":null},)"
                       R"({"number":null,"id":77,"name":null,"reason":"unknown","records":1,"regular":null,"overtime":null,"gross":null,)"
@@ -140,7 +141,7 @@ TEST_F(OverviewCommandTest, NamesWhoIsLeftOutAndTakesThemIn)
         << json.out;
     EXPECT_NE(json.out.find(R"("totals":{"regular":"8.00")"), std::string::npos) << json.out;
     EXPECT_NE(Run({"overview"})
-                  .out.find("\n\nNot in the list, with records in this period:\n     administrator (administrator): 1 record, 0.00 "
+                  .out.find("\n\nNot in the list, with records in this period:\n    administrator (administrator): 1 record, 0.00 "
                             "regular and 0.00 overtime hours, 0.00; not paid\n"),
               std::string::npos);
     const Answer all = Run({"overview", "--all", "--format", "json"});
@@ -159,7 +160,7 @@ TEST_F(OverviewCommandTest, OffersRemediesByTheUsualEnd)
 {
     ASSERT_EQ(Run({"create-database"}).status, 0);
     Change("UPDATE _System SET auto_shift_start_time = '1899-12-30 00:00:00'");
-    Change("INSERT INTO Employee (FirstName, LastName, Active, PayRate) VALUES ('Ann', 'Lee', 1, 10)");
+    Change("INSERT INTO Employee (FirstName, LastName, Active, AutoDeduct, PayRate) VALUES ('Ann', 'Lee', 1, 0, 10)");
     Change("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 11) INSERT INTO TimeRecord (EmployeeID, StartTime, "
            "EndTime) SELECT 40, '2026-03-' || printf('%02d', i) || ' 09:59:59', '2026-03-' || printf('%02d', i) || CASE WHEN i > 5 THEN "
            "' 16:00:07' ELSE ' 17:00:00' END FROM n");

@@ -56,7 +56,7 @@ def main(console, sources):
             return ran.stdout
 
         run("create-database", "--sample", status=0)
-        overview = json.loads(run("overview", "--from", "1/1/1950", "--to", "12/31/2099", "--format", "json"))
+        overview = json.loads(run("overview", "--from", "1/1/1950", "--to", "12/31/2099", "--remedies", "--format", "json"))
         table = list(csv.DictReader(io.StringIO(run("overview", "--from", "1/1/1950", "--to", "12/31/2099", "--format", "csv"))))
     found = faults(overview, schema, schema)
     assert faults({**overview, "made": "today"}, schema, schema) == ["$.made is 'today'"], "the check itself finds nothing"

@@ -13,6 +13,7 @@ inline constexpr EngineWords kSqliteWords{
     .unusualPunch = "CASE WHEN StartTime BETWEEN '0100-' AND ':' THEN "
                     "datetime(StartTime, '+0 days') IS NOT NULLIF(StartTime, '1899-12-30 00:00:00') "
                     "OR EndTime NOT BETWEEN StartTime AND datetime(StartTime, '+1 day') ELSE 1 END",
+    // No index is searched by it: it must not come before the days that are asked for.
     .readablePunch = "(+StartTime >= '0100-' AND +EndTime >= '0100-' AND +StartTime <> '1899-12-30 00:00:00' AND "
                      "datetime(StartTime, '+0 days') = StartTime AND datetime(EndTime, '+0 days') = EndTime)",
     .wholeMinute = "substr({0}, 1, 16)",

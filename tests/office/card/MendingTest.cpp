@@ -35,7 +35,7 @@ protected:
     void Run(const char* sql) const
     {
         const bool server = m_either.IsOnServer();
-        m_either.Open()->Prepare(fmt::format(fmt::runtime(sql), server ? "true" : "1", server ? "false" : "0"))->Run();
+        m_either.Open()->Execute(fmt::format(fmt::runtime(sql), server ? "true" : "1", server ? "false" : "0"));
     }
     void Add(std::int32_t employee, const std::string& start, const std::string& end) const
     {
