@@ -197,7 +197,8 @@ TEST_F(OverviewWindowTest, OpensTheHistoryOfTheChosenOne)
     QApplication::setActiveWindow(&Window());
     Find<QAction>(Main(), "mnuViewHistory").trigger();
     const auto windows = QApplication::topLevelWidgets();
-    const auto named = std::find_if(windows.begin(), windows.end(), [](const QWidget* w) { return w->objectName() == "HistoryWindow"; });
+    const auto named =
+        std::find_if(windows.begin(), windows.end(), [](const QWidget* w) { return w->isVisible() && w->objectName() == "HistoryWindow"; });
     ASSERT_NE(named, windows.end());
     const QWidget& history = **named;
     EXPECT_EQ(Find<QComboBox>(history, "cboHistoryEmployee").currentData().toInt(), 41);

@@ -2,6 +2,7 @@
 
 #include "model/CCompanyList.h"
 #include "model/CEmployeeList.h"
+#include "office/history/HistoryScope.h"
 #include "platform/Succeeds.h"
 #include "startup/CController.h"
 #include "startup/Notices.h"
@@ -11,8 +12,7 @@
 #include "ui/frame/OptionsPage.h"
 #include "ui/frame/PageFrame.h"
 #include "ui/frame/PageTabs.h"
-#include "ui/history/HistoryWindow.h"
-#include "ui/overview/OverviewWindow.h"
+#include "ui/frame/ViewMenu.h"
 #include "ui/page/RecordPages.h"
 #include "ui/people/CompanyPage.h"
 #include "ui/people/EmployeePage.h"
@@ -163,15 +163,13 @@ void FController::ConnectBackups()
 
 void FController::ConnectViewMenu()
 {
-    m_ui->mnuViewOverview->setIcon(ThemeIcon("overview"));
-    m_ui->mnuViewHistory->setIcon(ThemeIcon("history"));
+    const ViewMenu::Lines lines{*m_ui->mnuViewOverview, *m_ui->mnuViewNextProblems, *m_ui->mnuViewPreviousProblems, *m_ui->mnuViewHistory};
+    m_view = std::make_unique<ViewMenu>(*this, lines, *m_timeCardPage);
+    connect(m_view.get(), &ViewMenu::CardWanted, this, &FController::ShowTimeCard);
+    connect(m_view.get(), &ViewMenu::Said, this, &FController::Say);
     m_ui->mnuViewHours->setChecked(m_timeCardPage->HoursShown());
-    connect(m_ui->mnuViewOverview, &QAction::triggered, this, &FController::ShowOverview);
-    connect(m_ui->mnuViewNextProblems, &QAction::triggered, this, [this] { ShowNextCard(1); });
-    connect(m_ui->mnuViewPreviousProblems, &QAction::triggered, this, [this] { ShowNextCard(-1); });
-    connect(m_ui->mnuViewHistory, &QAction::triggered, this, &FController::ShowHistoryFromMenu);
     connect(m_ui->mnuViewCardHistory, &QAction::triggered, m_timeCardPage, &TimeCardPage::AskForHistory);
-    connect(m_timeCardPage, &TimeCardPage::HistoryWanted, this, [this](const HistoryScope& scope) { ShowHistory(scope); });
+    connect(m_timeCardPage, &TimeCardPage::HistoryWanted, m_view.get(), &ViewMenu::ShowHistory);
     connect(m_ui->mnuViewHours, &QAction::toggled, m_timeCardPage, &TimeCardPage::ShowHours);
     connect(m_optionsPage, &OptionsPage::LimitsStored, m_timeCardPage, &TimeCardPage::CheckAgain);
 }
@@ -245,9 +243,9 @@ void FController::ShowAll()
 void FController::ShowRestored(const QString& outcome)
 {
     m_timeCardPage->GiveUpCard();
-    m_overview.reset();
+    m_view->CloseOverview();
     m_sharedRecords->Use(m_controller->PTKDatabase());
-    m_history.reset();
+    m_view->CloseHistory();
     ShowAll();
     if (!m_optionsPage->DisplaySystemOptions(m_controller->SystemOptions())) {
         Tell(m_desktop, notice::OptionsUnread);
@@ -366,55 +364,17 @@ bool FController::ShowTabPage(int index)
     return m_ui->pages->currentIndex() == index - 1;
 }
 
-void FController::MakeOverview()
-{
-    if (m_overview == nullptr) {
-        m_overview = std::make_unique<OverviewWindow>(*this);
-        connect(m_overview.get(), &OverviewWindow::CardWanted, this, &FController::ShowTimeCard);
-    }
-}
-
-void FController::ShowOverview()
-{
-    MakeOverview();
-    m_overview->Open(m_timeCardPage->ChosenPeriod());
-}
-
-// From the card that is shown on, as the overview was read last, whether it is open or not.
-void FController::ShowNextCard(int direction)
-{
-    MakeOverview();
-    const QString refusal = m_overview->OpenNextCard(m_timeCardPage->ChosenEmployee(), direction);
-    if (!refusal.isEmpty()) {
-        Say(refusal);
-    }
-}
-
 // Not while reports are made: they and the page share the one list of records.
 void FController::ShowTimeCard(std::int32_t employeeID, const PayPeriod& period)
 {
     if (IsBusyInDialog()) {
-        return m_overview->Say(kMakingReports);
+        return m_view->SayInOverview(kMakingReports);
     }
     m_ui->TabStrip->setCurrentIndex(kTimeCardTab - 1);
     setWindowState(windowState() & ~Qt::WindowMinimized);
     raise();
     activateWindow();
     m_timeCardPage->ShowCard(employeeID, period);
-}
-
-// Of the person who is chosen where the overview is in front.
-void FController::ShowHistoryFromMenu()
-{
-    ShowHistory(m_overview != nullptr && m_overview->isActiveWindow() ? m_overview->ShownHistory() : std::nullopt);
-}
-
-void FController::ShowHistory(const std::optional<HistoryScope>& scope)
-{
-    if (m_history == nullptr) {
-        m_history = std::make_unique<HistoryWindow>(*this);
-    }
-    m_history->Open(scope);
 }
 
 // Unloading the window, in the middle of this, runs the whole close path once more; all of it is harmless when repeated.
@@ -442,8 +402,8 @@ void FController::CloseDown(bool keepReview)
     }
     m_sharedRecords->Use(nullptr);
     m_timeCardPage->GiveUpCard();
-    m_overview.reset();
-    m_history.reset();
+    m_view->CloseOverview();
+    m_view->CloseHistory();
     m_reports->Clear(keepReview);
     const auto controller = m_controller;
     if (controller == nullptr) {

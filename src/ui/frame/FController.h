@@ -25,14 +25,12 @@ class BackupMenu;
 class CompanyPage;
 class CTimeRecord;
 class EmployeePage;
-class HistoryWindow;
 class OptionsPage;
-class OverviewWindow;
 class PageTabs;
 class RecordPages;
 class ReportsPage;
 class TimeCardPage;
-struct HistoryScope;
+class ViewMenu;
 struct PayPeriod;
 
 // Must not be destroyed from within its own closing steps, in which the controller lets go of it: delete it later.
@@ -108,12 +106,7 @@ private:
     // In the shown page's line.
     void Say(const QString& text);
 
-    void MakeOverview();
-    void ShowOverview();
-    void ShowNextCard(int direction);
     void ShowTimeCard(std::int32_t employeeID, const PayPeriod& period);
-    void ShowHistoryFromMenu();
-    void ShowHistory(const std::optional<HistoryScope>& scope);
 
     void Exit();
     void CloseDown(bool keepReview);
@@ -142,8 +135,7 @@ private:
     EmployeePage* m_employeePage = nullptr;
     CompanyPage* m_companyPage = nullptr;
     OptionsPage* m_optionsPage = nullptr;
-    std::unique_ptr<OverviewWindow> m_overview; // these two: nullptr until they are asked for
-    std::unique_ptr<HistoryWindow> m_history;
+    std::unique_ptr<ViewMenu> m_view;
     QLabel* m_statusText = nullptr;
 };
 
