@@ -88,10 +88,14 @@ TEST_F(RealBoxesTest, ManyReportsAreMadeOnRequestBehindTheProgressAndCanBeCancel
                         viewer->windowHandle()->flags() & Qt::WindowStaysOnBottomHint);
         }
     };
-    const KeyPresses keys(
-        {{"QMessageBox", Qt::Key_Y}, {"QMessageBox", Qt::Key_Return}, {"ptk::WorkProgress", Qt::Key_Escape, 0, allBehind}});
+    const KeyPresses keys({{"QMessageBox", Qt::Key_Tab},
+                           {"QMessageBox", Qt::Key_Return},
+                           {"QMessageBox", Qt::Key_Return},
+                           {"ptk::WorkProgress", Qt::Key_Escape, 0, allBehind}});
     Click(Main(), "cmdGenerate");
-    EXPECT_EQ(QApplication::activeWindow(), Windows().back());
+    ASSERT_GT(Viewers(), 1);
+    EXPECT_TRUE(QTest::qWaitFor([] { return qobject_cast<ReportViewerWindow*>(QApplication::activeWindow()) != nullptr; }))
+        << "one has come up";
     EXPECT_FALSE(Windows().front()->windowHandle()->flags() & Qt::WindowStaysOnBottomHint) << "they have risen";
     EXPECT_LT(Viewers(), 1501);
     EXPECT_EQ(Line(), QString("Cancelled: %1 of 1501 reports complete, 1 failed").arg(Viewers() - 1));
@@ -102,8 +106,10 @@ TEST_F(RealBoxesTest, ClosingInTheMiddleOfARunEndsTheRunFirst)
     Start(1500);
     SelectEveryone();
     QPointer<FController> main = &Main();
-    const KeyPresses keys(
-        {{"QMessageBox", Qt::Key_Y}, {"QMessageBox", Qt::Key_Return}, {"ptk::WorkProgress", Qt::Key_Escape, 0, [&] { main->close(); }}});
+    const KeyPresses keys({{"QMessageBox", Qt::Key_Tab},
+                           {"QMessageBox", Qt::Key_Return},
+                           {"QMessageBox", Qt::Key_Return},
+                           {"ptk::WorkProgress", Qt::Key_Escape, 0, [&] { main->close(); }}});
     Click(*main, "cmdGenerate");
     EXPECT_TRUE(main->isVisible());
     EXPECT_TRUE(Line().startsWith("Cancelled: "));

@@ -142,7 +142,7 @@ TEST_F(SharedRecordsTest, ABoxKeepsTheKeysWhileItHasSomethingToUndo)
         Undo(*box);
         EXPECT_EQ(editor.text(), before);
         Redo(*box);
-        EXPECT_TRUE(editor.text().endsWith("77"));
+        EXPECT_TRUE(editor.text().contains("77"));
         EXPECT_EQ(Stored(fax).front(), "5") << "its own text was meant";
         Undo(*box);
     }

@@ -287,7 +287,7 @@ TEST_F(TimeCardTest, ANewAndAnEditedRecordAreStoredAtOnce)
     EXPECT_EQ(Stored(kPaydayRecords), (std::vector<std::string>{kAtFirst[0], "40 2003-03-05 18:00:00 2003-03-05 19:30:00",
                                                                 "40 2003-03-06 08:00:00 2003-03-06 12:00:00", kAtFirst[2]}));
     EXPECT_EQ(Totals(), "12.00 10.00 2.50 15.00 157.50");
-    EXPECT_TRUE(Grid().hasFocus());
+    EXPECT_EQ(Main().focusWidget(), &Grid());
     EXPECT_EQ(Grid().currentIndex().row(), 2) << "on the record that was saved";
     Press("cmdTCEdit");
     EXPECT_EQ(Told(), Boxes{kNoneToEdit}) << "the grid was rebuilt";
@@ -299,7 +299,7 @@ TEST_F(TimeCardTest, WhatCouldNotBeReadIsNotSaidToBeSaved)
     ClickRow(0);
     const ExpectedModal editor([](QDialog& window) { Enter(window, "9", "late"); });
     Press("cmdTCEdit");
-    EXPECT_EQ(Line(), "Record saved for Ann Lee as 03/05/2003 09:00 AM - 03/05/2003 05:00 PM: the end could not be read");
+    EXPECT_EQ(Line(), "Record saved, but the end could not be read: Ann Lee, 03/05/2003 09:00 AM - 03/05/2003 05:00 PM");
     EXPECT_EQ(Rows().front(), "03/05/2003 09:00 AM|03/05/2003 05:00 PM|8.00");
 }
 
@@ -319,7 +319,7 @@ TEST_F(TimeCardTest, DeletesByKeyAfterAsking)
     EXPECT_EQ(Totals(), "8.00 10.00 1.00 15.00 95.00");
     QTest::keyClick(&Grid(), Qt::Key_Delete);
     EXPECT_EQ(Told(), Boxes{kNoneToDelete}) << "the grid was rebuilt";
-    EXPECT_TRUE(Grid().hasFocus());
+    EXPECT_EQ(Main().focusWidget(), &Grid());
     QTest::keyClick(&Grid(), Qt::Key_Space);
     Press("cmdTCDelete");
     EXPECT_EQ(Told(), (Boxes{kDelete, kNoRecords}));
@@ -360,7 +360,7 @@ TEST_F(TimeCardTest, FillsAPeriodAlsoOfACardWithoutRecords)
     EXPECT_EQ(Rows(), (QStringList{"03/10/2003 08:00 AM|03/10/2003 05:00 PM|9.00", "03/11/2003 08:00 AM|03/11/2003 05:00 PM|9.00"}));
     EXPECT_EQ(Stored(kPaydayRecords).size(), 5U);
     EXPECT_EQ(Line(), "2 records filled in for Bo Kim");
-    EXPECT_TRUE(Grid().hasFocus());
+    EXPECT_EQ(Main().focusWidget(), &Grid());
     EXPECT_EQ(Told(), Boxes());
 }
 

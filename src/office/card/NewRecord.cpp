@@ -103,14 +103,13 @@ std::string LongShiftWarning(const RecordTexts& texts, std::int32_t longShiftHou
 
 std::string SavedRecordText(const std::string& owner, const RecordTexts& texts, DateTime storedStart, DateTime storedEnd)
 {
-    const std::string saved = "Record saved for " + owner;
     const auto start = ReadMoment(texts, &RecordTexts::Start);
     const auto end = ReadMoment(texts, &RecordTexts::End);
     if (start && end) {
-        return saved;
+        return "Record saved for " + owner;
     }
-    return fmt::format("{} as {} - {}: {}", saved, StoredText(storedStart, "no start"), StoredText(storedEnd, "no end"),
-                       UnreadPart(start.has_value(), end, storedEnd));
+    return fmt::format("Record saved, but {}: {}, {} - {}", UnreadPart(start.has_value(), end, storedEnd), owner,
+                       StoredText(storedStart, "no start"), StoredText(storedEnd, "no end"));
 }
 
 } // namespace ptk

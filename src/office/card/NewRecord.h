@@ -32,7 +32,7 @@ struct RecordTexts
 // minutes count, as in the check of a card.
 [[nodiscard]] std::string LongShiftWarning(const RecordTexts& texts, std::int32_t longShiftHours);
 
-// "Record saved for Ann Lee"; where one of the texts could not be read also what is stored, and which.
+// "Record saved for Ann Lee"; where one of the texts could not be read, first of all which, and then what is stored.
 [[nodiscard]] std::string SavedRecordText(const std::string& owner, const RecordTexts& texts, DateTime storedStart, DateTime storedEnd);
 
 } // namespace ptk

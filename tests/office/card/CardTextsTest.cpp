@@ -87,17 +87,17 @@ TEST(NewRecordTest, SaysWhatWasStoredWhereATextCouldNotBeRead)
              {{"3/5", "8a", "3/5", "late"},
               eight,
               five,
-              "Record saved for Ann Lee as 03/05/2003 08:00 AM - 03/05/2003 05:00 PM: the end could not be read"},
+              "Record saved, but the end could not be read: Ann Lee, 03/05/2003 08:00 AM - 03/05/2003 05:00 PM"},
              {{"13/45", "8a", "3/5", "5p"},
               eight,
               five,
-              "Record saved for Ann Lee as 03/05/2003 08:00 AM - 03/05/2003 05:00 PM: the start could not be read"},
+              "Record saved, but the start could not be read: Ann Lee, 03/05/2003 08:00 AM - 03/05/2003 05:00 PM"},
              {{"13/45", "8a", "3/5", "6p"},
               eight,
               five,
-              "Record saved for Ann Lee as 03/05/2003 08:00 AM - 03/05/2003 05:00 PM: the start could not be read, and the end was not "
-              "taken"},
-             {{"13/45", "8a", "3/5", "late"}, {}, {}, "Record saved for Ann Lee as no start - no end: start and end could not be read"},
+              "Record saved, but the start could not be read, and the end was not taken: Ann Lee, 03/05/2003 08:00 AM - 03/05/2003 05:00 "
+              "PM"},
+             {{"13/45", "8a", "3/5", "late"}, {}, {}, "Record saved, but start and end could not be read: Ann Lee, no start - no end"},
          }) {
         EXPECT_EQ(SavedRecordText("Ann Lee", Typed(c.texts), c.start, c.end), c.said);
     }
