@@ -81,6 +81,7 @@ TEST_F(BackupsWindowTest, RestoresTheChosenOneAndShowsWhatIsInIt)
 TEST_F(BackupsWindowTest, ASignalOfTheSystemEndsTheProgramAsExitDoesWithoutAQuestion)
 {
     const EndFromOutside end;
+    TypeInto(The<QComboBox>("cboEmployeeSSN"), "not saved");
     std::filesystem::remove_all(BackupFolder(program.folder.Path()));
     QTimer::singleShot(0, [] { std::raise(SIGTERM); });
     Trigger("mnuFileRestore"); // a dialog that waits for the user

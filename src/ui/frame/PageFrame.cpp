@@ -2,6 +2,7 @@
 
 #include "ui/widgets/ButtonRow.h"
 
+#include <QResizeEvent>
 #include <QScrollArea>
 #include <QVBoxLayout>
 

@@ -67,6 +67,7 @@ Answer Unasked(Buttons buttons)
 {
     switch (buttons) {
     case Buttons::OkCancel:
+    case Buttons::SaveDiscardCancel:
         return Answer::Cancel;
     case Buttons::YesNo:
         return Answer::No;

@@ -11,6 +11,7 @@
 #include "ui/page/RecordPage.h"
 #include "ui/page/SharedRecords.h"
 #include "ui/widgets/NoticeLine.h"
+#include "ui/widgets/ProgramEnd.h"
 
 #include <algorithm>
 #include <chrono>
@@ -97,7 +98,7 @@ std::string RecordPages::ReadPages(const MovedStep& step)
 
 bool RecordPages::MayLeave()
 {
-    m_mayLeave = m_mayLeave || qApp->isSavingSession() || SettleTyped();
+    m_mayLeave = m_mayLeave || IsEnding() || qApp->isSavingSession() || SettleTyped();
     return m_mayLeave;
 }
 

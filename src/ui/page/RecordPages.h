@@ -48,7 +48,7 @@ public:
     void ReadAgain();
 
     // Whether the program may end: asks what is to become of what was typed and not saved, where there is any, and does that. A page that
-    // refuses to save is brought up. True from then on once it is; nobody is asked at the end of the desktop's session.
+    // refuses to save is brought up. True from then on once it is; nobody is asked where the end comes from outside.
     bool MayLeave();
 
     // It may from now on.

@@ -4,18 +4,18 @@ namespace ptk {
 
 namespace {
 
-bool ending = false;
+bool isEnding = false;
 
 } // namespace
 
 bool IsEnding()
 {
-    return ending;
+    return isEnding;
 }
 
 void IsEnding(bool value)
 {
-    ending = value;
+    isEnding = value;
 }
 
 } // namespace ptk
