@@ -176,7 +176,7 @@ std::string PaidChangedText(const Closing& paid, const std::optional<CardFigures
     if (!owed) {
         return "This period was paid, but the figures that were paid cannot be read.";
     }
-    const std::string hours = CardFigures{paid.regular, paid.overtime, paid.gross}.Hours();
+    const std::string hours = CardFigures{TwoDecimals(ToSingle(paid.regular)), TwoDecimals(ToSingle(paid.overtime)), {}}.Hours();
     const std::string what = owed->starts_with('-') ? owed->substr(1) + " paid too much" : *owed + " owed";
     return fmt::format("Paid {} hours, now {}: {}.", hours, now->Hours(), what);
 }

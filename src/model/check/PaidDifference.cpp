@@ -11,13 +11,14 @@ namespace ptk {
 namespace {
 
 constexpr auto kNoDifference = "+0.00";
+constexpr std::size_t kLongestFigure = 42; // characters of a figure that is added digit by digit; longer ones are of another tool
 constexpr double kMinutesAnHour = 60.0;
 
 bool HasTwoDecimals(const std::string& figure)
 {
     const std::string digits = figure.starts_with('-') ? figure.substr(1) : figure;
-    return digits.size() > 3 && digits.find_first_not_of("0123456789") == digits.size() - 3 && digits[digits.size() - 3] == '.' &&
-           digits.find_last_not_of("0123456789") == digits.size() - 3;
+    return digits.size() > 3 && digits.size() < kLongestFigure && digits.find_first_not_of("0123456789") == digits.size() - 3 &&
+           digits[digits.size() - 3] == '.' && digits.find_last_not_of("0123456789") == digits.size() - 3;
 }
 
 // As the program wrote it, or as another tool may have written a number.

@@ -32,6 +32,7 @@ Found WithRecords(CJetDB& database, const PayPeriod& period)
     Found found;
     rows->ForEachRow([&] { found.push_back(rows->KindAt(0) == CellKind::Number ? std::optional(rows->Int64At(0)) : std::nullopt); });
     std::sort(found.begin(), found.end(), Before);
+    found.erase(std::unique(found.begin(), found.end()), found.end()); // numbers that are none are nobody's, like no number
     return found;
 }
 

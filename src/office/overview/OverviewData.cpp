@@ -104,8 +104,9 @@ std::string JsonPaid(const std::optional<Closing>& paid)
     if (!paid) {
         return "null";
     }
-    return fmt::format(R"({{"at":{},"by":{},"regular":{},"overtime":{},"gross":{}}})", JsonMoment(paid->paidAt), JsonText(paid->paidBy),
-                       JsonText(paid->regular), JsonText(paid->overtime), JsonText(paid->gross));
+    return fmt::format(R"({{"at":{},"by":{},"regular":{},"overtime":{},"gross":{}}})", JsonMoment(paid->paidAt),
+                       JsonTextOrNull(paid->paidBy), JsonTextOrNull(paid->regular), JsonTextOrNull(paid->overtime),
+                       JsonTextOrNull(paid->gross));
 }
 
 std::string JsonChanged(const std::optional<PaidDifference>& changed)

@@ -36,19 +36,15 @@ std::string IsoMoment(const std::optional<DateTime>& moment)
     return moment ? IsoDay(*moment) + 'T' + FormatDateTime(*moment, "hh:nn:ss") : "";
 }
 
-std::string TextOrNull(const std::string& text)
-{
-    return text.empty() ? "null" : JsonText(text);
-}
-
 std::string ThreeJson(const std::string& regular, const std::string& overtime, const std::string& gross)
 {
-    return fmt::format(R"("regular":{},"overtime":{},"gross":{})", TextOrNull(regular), TextOrNull(overtime), TextOrNull(gross));
+    return fmt::format(R"("regular":{},"overtime":{},"gross":{})", JsonTextOrNull(regular), JsonTextOrNull(overtime),
+                       JsonTextOrNull(gross));
 }
 
 std::string ClosingJson(const Closing& closing)
 {
-    return fmt::format(R"({{"at":{},"by":{},{}}})", TextOrNull(IsoMoment(closing.paidAt)), TextOrNull(closing.paidBy),
+    return fmt::format(R"({{"at":{},"by":{},{}}})", JsonTextOrNull(IsoMoment(closing.paidAt)), JsonTextOrNull(closing.paidBy),
                        ThreeJson(closing.regular, closing.overtime, closing.gross));
 }
 

@@ -62,9 +62,14 @@ std::string JsonText(std::string_view text)
     return json + '"';
 }
 
+std::string JsonTextOrNull(std::string_view text)
+{
+    return text.empty() ? "null" : JsonText(text);
+}
+
 std::string NoFormula(std::string_view text)
 {
-    return std::string(text.find_first_of("=+-@\t") == 0 ? "'" : "").append(text);
+    return std::string(text.find_first_of("=+-@\t\r") == 0 ? "'" : "").append(text);
 }
 
 std::string CsvText(std::string_view text)

@@ -128,7 +128,7 @@ TEST_F(TrailTest, AnEarlierFileGetsItWithTheFirstChange)
     MakeEarlier();
     Run("INSERT INTO TimeRecord (EmployeeID, StartTime, EndTime) VALUES (40, '2003-03-05 08:00:00', '2003-03-05 17:00:00')");
     const auto hasTrail = [&] { return Rows("SELECT COUNT(*) FROM sqlite_master WHERE name IN ('_Session', '_Change', '_CheckLimits')"); };
-    EXPECT_TRUE(CheckDatabase(Path()).problems.empty());
+    EXPECT_EQ(CheckDatabase(Path()).problems, std::vector<std::string>());
     EXPECT_TRUE(m_database->ExecuteAction("UPDATE TimeRecord SET EndTime = StartTime WHERE TimeRecordID = 2"));
     EXPECT_FALSE(m_database->ExecuteAction("UPDATE TimeRecord SET Nothing = 1"));
     EXPECT_EQ(hasTrail() + std::to_string(BackupsIn(BackupFolder(m_folder.Path())).size()), "0|0") << "no row has changed";
@@ -138,7 +138,7 @@ TEST_F(TrailTest, AnEarlierFileGetsItWithTheFirstChange)
     EXPECT_EQ(Entries("ChangedBy, Step, RowID, Action"), "Ann Lee|1|1|delete|");
     EXPECT_EQ(Rows("PRAGMA user_version; PRAGMA integrity_check; SELECT COUNT(*) FROM TimeRecord; SELECT * FROM _CheckLimits"),
               "1|ok|0|16|0|1|");
-    EXPECT_TRUE(CheckDatabase(Path()).problems.empty());
+    EXPECT_EQ(CheckDatabase(Path()).problems, std::vector<std::string>());
     const std::string folder = BackupFolder(m_folder.Path());
     const auto backups = BackupsIn(folder);
     ASSERT_EQ(backups.size(), 1U);
@@ -171,7 +171,7 @@ TEST_F(TrailTest, AFileOfTheFirstStructureIsReadAsItIsAndBroughtUpToDateWithTheF
     const auto entries = ReadTrail(m_database, TrailQuery());
     ASSERT_EQ(entries.size(), 1U);
     EXPECT_EQ(entries[0].action + entries[0].reason, "insert");
-    EXPECT_TRUE(CheckDatabase(Path()).problems.empty());
+    EXPECT_EQ(CheckDatabase(Path()).problems, std::vector<std::string>());
     EXPECT_TRUE(m_database->ExecuteAction("UPDATE TimeRecord SET EndTime = EndTime WHERE TimeRecordID = 2"));
     EXPECT_TRUE(ReadBytes(Path()) == bytes) << "no row has changed";
 
@@ -192,7 +192,7 @@ TEST_F(TrailTest, AFileOfTheFirstStructureIsReadAsItIsAndBroughtUpToDateWithTheF
     Run("INSERT INTO _Payday (EmployeeID, FromDay) VALUES (40, 'soon'); DELETE FROM _Payday");
     EXPECT_EQ(Rows("SELECT TableName, RowID, Action, EmployeeBefore, EmployeeAfter FROM _Change WHERE ChangeID > 4"),
               "_Payday|1|insert|NULL|40|_Payday|1|delete|40|NULL|");
-    EXPECT_TRUE(CheckDatabase(Path()).problems.empty());
+    EXPECT_EQ(CheckDatabase(Path()).problems, std::vector<std::string>());
     EXPECT_EQ(BackupsIn(BackupFolder(m_folder.Path())).size(), 1U);
 }
 
