@@ -47,7 +47,4 @@ struct PaydayAccount
 // In the forms that docs/payday-format.md describes, with CR LF; CSV without a byte order mark. Raises what making pages raises.
 [[nodiscard]] std::string AccountIn(ReportForm form, const PaydayAccount& account);
 
-// As a file of its own, without an ending: "PTK payday 2003-03-01".
-[[nodiscard]] std::string AccountFileName(const PayPeriod& period);
-
 } // namespace ptk

@@ -227,9 +227,4 @@ std::string AccountIn(ReportForm form, const PaydayAccount& account)
     }
 }
 
-std::string AccountFileName(const PayPeriod& period)
-{
-    return "PTK payday " + IsoDay(period.from);
-}
-
 } // namespace ptk

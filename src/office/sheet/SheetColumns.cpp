@@ -110,6 +110,9 @@ std::optional<SheetWords> ReadSheetWords(std::string_view text)
 SheetColumns::SheetColumns(std::span<const std::string> headings, SheetWords words)
     : m_headings(headings.begin(), headings.end()), m_words(std::move(words))
 {
+    for (std::string& heading : m_headings) {
+        heading = std::string(Trimmed(heading));
+    }
     RefuseDoubled();
     PlaceTold();
     PlaceByName();

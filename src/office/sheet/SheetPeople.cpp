@@ -14,7 +14,7 @@ constexpr std::int32_t kTwoPeople = 0; // no employee has this ID
 
 std::string TextAt(const Statement& row, int column)
 {
-    return row.KindAt(column) == CellKind::Text ? std::string(Trimmed(row.TextAt(column))) : std::string();
+    return row.KindAt(column) == CellKind::Text ? std::string(row.TextAt(column)) : std::string();
 }
 
 std::string DisplayName(const std::string& first, const std::string& last)
@@ -44,8 +44,8 @@ SheetPeople::SheetPeople(const PrepareStatement& prepare)
         if (rows->KindAt(1) == CellKind::Number) {
             Add(m_numbers, std::to_string(rows->Int64At(1)), employee);
         }
-        Add(m_names, DisplayName(TextAt(*rows, 2), TextAt(*rows, 3)), employee);
-        Add(m_securityNumbers, TextAt(*rows, 4), employee);
+        Add(m_names, std::string(Trimmed(DisplayName(TextAt(*rows, 2), TextAt(*rows, 3)))), employee);
+        Add(m_securityNumbers, std::string(Trimmed(TextAt(*rows, 4))), employee);
     });
 }
 

@@ -33,8 +33,8 @@ std::size_t LineEndLength(std::string_view text)
 
 bool CsvRecord::IsBlank() const
 {
-    return std::all_of(cells.begin(), cells.end(),
-                       [](const std::string& cell) { return cell.find_first_not_of(" ,;\t") == std::string::npos; });
+    return strayCell == 0 && std::all_of(cells.begin(), cells.end(),
+                                         [](const std::string& cell) { return cell.find_first_not_of(" ,;\t") == std::string::npos; });
 }
 
 bool CsvReader::Next(CsvRecord& record)

@@ -15,7 +15,7 @@ struct CsvRecord
     std::vector<std::string> cells; // without the quotation marks and the blanks around them
     std::size_t strayCell = 0;      // counted from 1: more text stands behind its closing quotation mark; 0 where there is none
 
-    // No cell holds anything but blanks and separators.
+    // No cell holds anything but blanks and separators, and nothing stands behind a closing quotation mark.
     [[nodiscard]] bool IsBlank() const;
 };
 

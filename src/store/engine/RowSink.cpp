@@ -1,6 +1,6 @@
 #include "store/engine/RowSink.h"
 
-#include "platform/text/Utf8.h"
+#include "platform/text/CodePage.h"
 #include "store/engine/Statement.h"
 
 #include <cmath>
@@ -17,18 +17,6 @@ constexpr const char* kNoText = "no text";
 constexpr const char* kZeroByte = "a text with a zero byte";
 constexpr const char* kNoUtf8 = "a text that is not in UTF-8";
 constexpr const char* kNoDate = "no date and time of the years 100 to 9999 as it is stored";
-
-bool IsUtf8(std::string_view text)
-{
-    while (!text.empty()) {
-        const std::size_t length = Utf8Length(text);
-        if (length == 0) {
-            return false;
-        }
-        text.remove_prefix(length);
-    }
-    return true;
-}
 
 std::int64_t Whole(const Statement& from, int place, std::int64_t least, std::int64_t most)
 {

@@ -24,6 +24,7 @@ constexpr auto kStored = "%1 punches stored; Edit > Undo takes them back";
 
 constexpr auto kNameFirst = "Choose the file first.";
 constexpr auto kReadFirst = "Choose the file and read it first.";
+constexpr auto kNoneToStore = "Nothing of the file is left to be stored.";
 constexpr auto kTickFirst = "Tick that the other lines are to be stored, or mend the file.";
 constexpr auto kWordsWrong = "Nothing was stored: what the headings mean is told as File=Ours, for example Badge=Number,1=In,0=Out.";
 constexpr auto kClose = "&Close";
@@ -156,7 +157,8 @@ void FImportPunches::EnableImport()
 {
     const bool storable = !m_read.punches.empty() && !m_read.IsRefused(m_ui->chkPartly->isChecked());
     m_ui->cmdImport->setEnabled(storable);
-    m_ui->cmdImport->setToolTip(storable ? QString() : (m_read.punches.empty() ? kReadFirst : kTickFirst));
+    m_ui->cmdImport->setToolTip(storable ? QString()
+                                         : (m_read.lines == 0 ? kReadFirst : (m_read.punches.empty() ? kNoneToStore : kTickFirst)));
 }
 
 } // namespace ptk
