@@ -96,13 +96,6 @@ public:
         }
     }
 
-    // On leave for more than two weeks.
-    void StaysAway()
-    {
-        const DateTime since = m_today.AddDays(-16);
-        std::erase_if(m_shifts, [&](const TimeRecordRow& shift) { return shift.StartTime >= since; });
-    }
-
 private:
     void Add(DateTime start, DateTime end)
     {
@@ -150,8 +143,8 @@ void AddIrregularities(const SampleEmployee& employee, std::vector<TimeRecordRow
         void (Muddle::*happens)();
     };
     static constexpr Habit kHabits[] = {
-        {102, &Muddle::WorksOnSaturday}, {104, &Muddle::StaysOverNight},    {105, &Muddle::ComesShortly}, {107, &Muddle::ComesOnceMore},
-        {201, &Muddle::StaysAway},       {202, &Muddle::ForgetsToClockOut}, {203, &Muddle::TypesWrongly}, {205, &Muddle::LosesTimes},
+        {102, &Muddle::WorksOnSaturday},   {104, &Muddle::StaysOverNight}, {105, &Muddle::ComesShortly}, {107, &Muddle::ComesOnceMore},
+        {202, &Muddle::ForgetsToClockOut}, {203, &Muddle::TypesWrongly},   {205, &Muddle::LosesTimes},
     };
     Muddle muddle(shifts, today);
     for (const Habit& habit : kHabits) {

@@ -14,8 +14,8 @@ namespace ptk {
 // null for an empty text.
 [[nodiscard]] std::string JsonTextOrNull(std::string_view text);
 
-// What a spreadsheet would take for a formula (it begins with = + - @, a tab or a carriage return) gets an apostrophe before it; numbers are not to be passed
-// through here.
+// What a spreadsheet would take for a formula (it begins with = + - @, a tab or a carriage return) gets an apostrophe before it; numbers
+// are not to be passed through here.
 [[nodiscard]] std::string NoFormula(std::string_view text);
 
 // The same as a field of an RFC 4180 file, in quotes where it needs them.
