@@ -93,7 +93,7 @@ TEST(SampleBusinessTest, IsTheSameBusinessEverywhere)
                      "105 of 1, born 06/30/1997, hired 06/03/2024: 21.40 and 32.10, off 60 + 0; 126 shifts, 67315 minutes\n"
                      "106 of 1, born 01/21/1965, hired 10/12/2009: 16.00 and 24.00, off 0 + 0; 83 shifts, 43915 minutes\n"
                      "107 of 1, born 09/14/2003, hired 05/14/2025: 12.30 and 18.45, off 0 + 0; 77 shifts, 18419 minutes\n"
-                     "201 of 2, born 03/03/1990, hired 04/27/2021: 17.90 and 26.85, off 30 + 10; 115 shifts, 59795 minutes\n"
+                     "201 of 2, born 03/03/1990, hired 04/27/2021: 17.90 and 26.85, off 30 + 10; 127 shifts, 66006 minutes\n"
                      "202 of 2, born 12/24/1999, hired 06/26/2023: 15.75 and 23.63, off 0 + 0; 127 shifts, 65795 minutes\n"
                      "203 of 2, born 07/07/1979, hired 07/30/2018: 16.40 and 24.60, off 0 + 15; 256 shifts, 64624 minutes\n"
                      "204 of 2, born 10/12/1995, hired 01/24/2025: 15.00 and 22.50, off 30 + 0; 125 shifts, 67388 minutes\n"
