@@ -135,7 +135,7 @@ TEST_F(HistoryWindowTest, ChoosesCopiesAndSaves)
     const std::string path = program.folder.Path() + "/saved.csv";
     saveTo(QString::fromStdString(path));
     EXPECT_EQ(Line(), "Saved: 1 change in saved.csv");
-    EXPECT_TRUE(ReadBytes(path).ends_with("Ann Lee: end 03/05/2003 05:00 PM became 03/05/2003 06:00 PM\r\n"));
+    EXPECT_TRUE(ReadBytes(path).ends_with("Ann Lee: end 03/05/2003 05:00 PM became 03/05/2003 06:00 PM,\r\n"));
     const auto holder = HoldDatabase();
     saveTo(QString::fromStdString(program.folder.Path() + "/other.csv"));
     EXPECT_EQ(Line(), "Not saved: the database is in use by another program");

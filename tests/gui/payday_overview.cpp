@@ -104,8 +104,9 @@ TEST_F(OverviewWindowTest, SaysWhomNotToPayYetAndWhy)
     Table().selectRow(1);
     EXPECT_EQ(Label("lblOverviewFindings"), "Ann Lee: 1 problem");
     QTest::keyClick(&Window(), Qt::Key_C, Qt::ControlModifier);
-    EXPECT_EQ(QApplication::clipboard()->text(), "Name\tRegular\tOvertime\tGross Pay\tLongest Week\tProblems\tNotices\tClocked In\n"
-                                                 "Ann Lee\t1.00\t0.00\t10.00\t1.00\t1\t0\t\n");
+    EXPECT_EQ(QApplication::clipboard()->text(),
+              "Name\tRegular\tOvertime\tGross Pay\tLongest Week\tProblems\tNotices\tClocked In\tPaid\tChanged\n"
+              "Ann Lee\t1.00\t0.00\t10.00\t1.00\t1\t0\t\t\t\n");
 }
 
 TEST_F(OverviewWindowTest, OpensTheCardOfTheVeryEmployeeAndReadsAgain)
