@@ -40,7 +40,8 @@ public:
     // overflow.
     bool CalculateTimes(const CEmployee& theemployee, const CTimeRecordList& thetimerecordlist);
 
-    // The same, by start.
+    // REQUIRES: the shifts, known by start and hours alone, are in order of start times. False, with the figures as far as they were
+    // summed, for more than 32,767 shifts or an overflow.
     bool CalculateTimes(const CEmployee& theemployee, std::span<const WorkedShift> theshifts);
 
     // Rates in money per hour. The total pay; 0 on an overflow. Negative regular hours pay nothing at all, not even overtime, deliberately.

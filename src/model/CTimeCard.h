@@ -57,7 +57,7 @@ public:
 
     [[nodiscard]] float OvertimeHoursWorked() const { return m_overtimeHours; }
 
-    // Likewise the overtime rate.
+    // Deliberately the employee's overtime pay rate of now, not an amount; 0 without an employee.
     [[nodiscard]] float OvertimePay() const;
 
     [[nodiscard]] float TotalPay() const { return m_totalPay; }

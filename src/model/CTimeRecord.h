@@ -64,7 +64,7 @@ public:
     // One line without a line end: start, tab, end, tab, hours less `breakHours` with two decimals. With 806 what could be built.
     std::string ToString(float breakHours);
 
-    // The same without the hours.
+    // One line without a line end: start, tab, end. With 806 what could be built.
     std::string ToStringReport();
 
     // What the database had when the record was read or last stored there; nothing for one that never was. It holds a save to that row.

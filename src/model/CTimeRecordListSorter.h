@@ -23,7 +23,7 @@ public:
     void TimeRecordList(std::shared_ptr<CTimeRecordList> value);
     [[nodiscard]] std::shared_ptr<CTimeRecordList> TimeRecordList() const { return m_list; }
 
-    // The same object.
+    // The position of this very object in the list, whatever its values.
     std::int32_t Find(const std::shared_ptr<CTimeRecord>& thisobject);
 
     std::shared_ptr<CTimeRecord> GetTimeRecordByKey(DateTime thestarttime, DateTime theendtime);

@@ -21,7 +21,7 @@ struct PunchGroup
 // counted once.
 [[nodiscard]] std::vector<PunchGroup> OverlappingPunches(std::span<const Punch* const> punches);
 
-// The same start to the second, at least one of them without a length: open, backward or empty. Minutes of all together.
+// Punches with one start to the second, at least one of them without a length: open, backward or empty. Minutes of all together.
 [[nodiscard]] std::vector<PunchGroup> SameStartPunches(std::span<const Punch* const> punches);
 
 } // namespace ptk
