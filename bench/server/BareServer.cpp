@@ -137,6 +137,27 @@ double BareServer::Card(std::int32_t employee, const std::string& from, const st
     return SumHours(Ask().get());
 }
 
+double BareServer::Cards(std::int32_t first, std::int32_t count, const std::string& from, const std::string& to)
+{
+    Post(fmt::format("SELECT TimeRecordID, EmployeeID, StartTime, EndTime FROM TimeRecord WHERE EmployeeID = ANY (ARRAY (SELECT "
+                     "generate_series({}, {}))) AND StartTime >= '{}' AND EndTime <= '{}' ORDER BY EmployeeID, StartTime, EndTime",
+                     first, first + count - 1, from, to));
+    return SumHours(Ask().get());
+}
+
+std::size_t BareServer::History(std::int32_t employee)
+{
+    Post(fmt::format("SELECT * FROM _Change WHERE EmployeeAfter = {} ORDER BY ChangeID DESC", employee));
+    const Result rows = Ask();
+    std::size_t bytes = 0;
+    for (int row = 0; row < PQntuples(rows.get()); ++row) {
+        for (int column = 0; column < PQnfields(rows.get()); ++column) {
+            bytes += static_cast<std::size_t>(PQgetlength(rows.get(), row, column));
+        }
+    }
+    return bytes;
+}
+
 std::size_t BareServer::Employees()
 {
     Post(kEmployees);

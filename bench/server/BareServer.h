@@ -24,6 +24,12 @@ public:
     // Within a read: fetches the period, reads its texts, sums the hours per day. Returns the hours.
     double Card(std::int32_t employee, const std::string& from, const std::string& to);
 
+    // The same of so many employees in one question.
+    double Cards(std::int32_t first, std::int32_t count, const std::string& from, const std::string& to);
+
+    // All columns of an employee's entries in the edit trail, newest first. Returns their bytes.
+    std::size_t History(std::int32_t employee);
+
     // Reads every column of every employee in the program's order. Returns their bytes.
     std::size_t Employees();
 

@@ -1,8 +1,10 @@
-// Time cards, the employee list, saving and the review on a server: the program's own classes beside the bare client library, over the same
-// socket.
+// Time cards, the overview, the employee list, saving, the review and the history on a server: the program's own classes beside the bare
+// client library, over the same socket.
 #include "model/CEmployeeList.h"
 #include "model/CTimeRecord.h"
 #include "model/CTimeRecordList.h"
+#include "office/history/History.h"
+#include "office/overview/Overview.h"
 #include "server/BareServer.h"
 #include "server/ServerData.h"
 #include "store/ProgramCards.h"
@@ -17,6 +19,7 @@ constexpr Size kSmall{"10k", 10, 10'000};
 constexpr Size kMedium{"1m", 1'000, 1'000'000};
 constexpr Size kLarge{"10m", 1'000, 10'000'000};
 constexpr Size kStaff{"staff", 10'000, 10'000};
+constexpr Size kChanges{"changes", 10, 10'000, true};
 constexpr std::int32_t kEmployee = kFirstEmployee + 3;
 constexpr std::int32_t kLastRecord = kSmall.records - kSmall.employees + 1; // of the first employee
 
@@ -121,6 +124,54 @@ void ProgramReview(benchmark::State& state)
     }
 }
 
+void BareOverview(benchmark::State& state)
+{
+    BareServer server(ServerDatabase(kMedium));
+    const std::string from = StoredText(Newest().from);
+    const std::string to = StoredText(Newest().to);
+    for (auto unused : state) {
+        server.BeginRead();
+        benchmark::DoNotOptimize(server.Cards(kFirstEmployee, kMedium.employees, from, to));
+        server.EndRead();
+    }
+}
+
+void ProgramOverview(benchmark::State& state)
+{
+    const Program program(ServerDatabase(kMedium));
+    ptk::Employees employees;
+    for (std::int32_t i = 0; i < kMedium.employees; ++i) {
+        employees.push_back(Program::Employee(kFirstEmployee + i));
+    }
+    for (auto unused : state) {
+        ptk::Overview overview;
+        overview.period = {Newest().from, kLastDay};
+        overview.made = Newest().to;
+        ReadOverview(overview, program.Database(), employees);
+        benchmark::DoNotOptimize(TotalsOf(overview.rows));
+    }
+}
+
+void BareHistory(benchmark::State& state)
+{
+    BareServer server(ServerDatabase(kChanges));
+    for (auto unused : state) {
+        server.BeginRead();
+        benchmark::DoNotOptimize(server.History(kEmployee));
+        server.EndRead();
+    }
+}
+
+void ProgramHistory(benchmark::State& state)
+{
+    const Program program(ServerDatabase(kChanges));
+    ptk::TrailQuery query;
+    query.employee = kEmployee;
+    for (auto unused : state) {
+        benchmark::DoNotOptimize(HistoryIn(ptk::ReportForm::Text, program.Database(), query));
+    }
+}
+
 } // namespace
 
 void RegisterServerBenchmarks(bool large)
@@ -129,6 +180,8 @@ void RegisterServerBenchmarks(bool large)
     Pair("server, one record saved", BareSaves, ProgramSaves);
     Pair("server, list of 10,000 employees", BareList, ProgramList);
     Pair("server, review of 1,000 employees", BareReview, ProgramReview);
+    Pair("server, overview of 1,000 employees", BareOverview, ProgramOverview);
+    Pair("server, history of one employee, 10 thousand changes", BareHistory, ProgramHistory);
     if (large) {
         Pair(
             "server, card of 10 million records, of 10 thousand", [](benchmark::State& state) { ProgramCards(state, kSmall); },

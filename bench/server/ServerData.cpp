@@ -59,8 +59,11 @@ std::string ServerDatabase(const Size& size)
         BareServer(AddressOf("postgres")).Run("CREATE DATABASE " + name + " TEMPLATE template0 ENCODING 'UTF8'");
         ptk::CreateDatabase(address);
         BareServer server(address);
-        server.Run("SET session_replication_role = replica"); // no trail
+        server.Run("SET session_replication_role = replica"); // no trail of what follows
         server.Run(EmployeesSql(size.employees));
+        if (size.history) {
+            server.Run("SET session_replication_role = origin");
+        }
         server.Run(RecordsSql(size));
         server.Run("VACUUM ANALYZE");
         server.Run("CHECKPOINT");

@@ -12,8 +12,8 @@ void ServerFolder(std::string folder);
 
 std::string ServerFolder();
 
-// The address of a database with those rows, made when it is asked for first. The rows are those of the file of that size; nothing stands
-// in the edit trail.
+// The address of a database with those rows, made when it is asked for first. The rows are those of the file of that size; the
+// edit trail tells of the records alone, and only where the size has a history.
 std::string ServerDatabase(const Size& size);
 
 } // namespace bench

@@ -97,7 +97,10 @@ void ProgramOverview(benchmark::State& state, const ptk::PayPeriod& period)
         employees.push_back(Employee(kFirstEmployee + i));
     }
     for (auto unused : state) {
-        ptk::Overview overview{period, kLastDay.AddDays(1), {}, {}};
+        ptk::Overview overview;
+        overview.period = period;
+        overview.made = kLastDay.AddDays(1);
+        overview.withRemedies = true;
         ReadOverview(overview, office.database, employees);
         benchmark::DoNotOptimize(TotalsOf(overview.rows));
     }

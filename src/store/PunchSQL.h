@@ -1,4 +1,4 @@
-// The time records that the check of a card looks at, of the employee `employee`.
+// The time records that the check of a card looks at.
 #pragma once
 
 #include "store/engine/EngineWords.h"
@@ -14,17 +14,27 @@ enum Column
     kEmployee
 };
 
-// What starts between two moments, both included. Answered by the index TimeRecordPeriod alone.
-inline constexpr auto kStarting = "SELECT TimeRecordID, StartTime, EndTime FROM TimeRecord "
-                                  "WHERE EmployeeID = :employee AND StartTime BETWEEN :first AND :last";
+// What starts between two moments, both included, of whom `whose` says, a condition. Answered by the index TimeRecordPeriod alone.
+[[nodiscard]] inline std::string Starting(std::string_view whose)
+{
+    return fmt::format("SELECT TimeRecordID, StartTime, EndTime FROM TimeRecord WHERE {} AND StartTime BETWEEN :first AND :last", whose);
+}
 
 // What that search passes over, or would have to look for in the whole history: shifts still open, backward or longer than a day, and
 // starts that cannot be read. The index TimeRecordUnusual holds them, few rows; in a database without it the employee's whole history is
 // searched.
-[[nodiscard]] inline std::string Unusual(const EngineWords& words)
+[[nodiscard]] inline std::string Unusual(std::string_view whose, const EngineWords& words)
 {
-    return fmt::format("SELECT TimeRecordID, StartTime, EndTime FROM TimeRecord WHERE EmployeeID = :employee AND {}", words.unusualPunch);
+    return fmt::format("SELECT TimeRecordID, StartTime, EndTime FROM TimeRecord WHERE {} AND {}", whose, words.unusualPunch);
 }
+
+// Both. A row may come twice.
+[[nodiscard]] inline std::string Of(std::string_view whose, const EngineWords& words)
+{
+    return Starting(whose) + " UNION ALL " + Unusual(whose, words);
+}
+
+inline constexpr auto kOne = "EmployeeID = :employee";
 
 // The ends of the ten newest shifts before a moment, those of at least a minute that began within two hours of the minute `minute` of the
 // day, also over midnight. Answered by the index TimeRecordPeriod, from the moment backwards.
@@ -54,14 +64,6 @@ inline constexpr auto kStarting = "SELECT TimeRecordID, StartTime, EndTime FROM 
                        ":first AND :last) OR EXISTS (SELECT 1 FROM TimeRecord WHERE EmployeeID = Number AND {0}) "
                        "UNION ALL SELECT NULL WHERE EXISTS (SELECT 1 FROM TimeRecord WHERE EmployeeID IS NULL)",
                        words.unusualPunch);
-}
-
-// Both of whom `whose` says, a condition. A row may come twice.
-[[nodiscard]] inline std::string Of(const std::string& whose, const EngineWords& words)
-{
-    return fmt::format("SELECT TimeRecordID, StartTime, EndTime FROM TimeRecord WHERE {0} AND StartTime BETWEEN :first AND :last UNION ALL "
-                       "SELECT TimeRecordID, StartTime, EndTime FROM TimeRecord WHERE {0} AND {1}",
-                       whose, words.unusualPunch);
 }
 
 // Both of the employees `employees`, in one question. REQUIRES: the words have amongEmployees.

@@ -273,7 +273,7 @@ TEST_P(ContractTest, UnusualRecordsAreFound)
     ASSERT_TRUE(Do("INSERT INTO TimeRecord (EmployeeID, EndTime) VALUES (40, '2003-03-05 08:00:00')"));
     const CJetDB::Hold hold(database);
     RequireOpen(*database);
-    const auto unusual = RequireSelect(*database, punchsql::Unusual(database->Words()) + " ORDER BY TimeRecordID");
+    const auto unusual = RequireSelect(*database, punchsql::Unusual(punchsql::kOne, database->Words()) + " ORDER BY TimeRecordID");
     unusual->Bind("employee", 40);
     std::string found;
     unusual->ForEachRow([&] { found += std::string(unusual->TextAt(0)) + (unusual->KindAt(1) == CellKind::Null ? "?" : "") + ' '; });

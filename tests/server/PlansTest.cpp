@@ -53,8 +53,8 @@ TEST_F(PlansTest, AnswersOfATimeCardComeFromIndexesAlone)
     const EngineWords& words = kPostgresWords;
     for (const auto& [sql, index] : {std::pair(TranslateStatement(CTimeRecSQLConverter().BuildFetchSQL(41, day, day.AddDays(14))),
                                                "Index Only Scan using timerecordperiod"),
-                                     {punchsql::kStarting, "Index Only Scan using timerecordperiod"},
-                                     {punchsql::Unusual(words), "Index Only Scan using timerecordunusual"}}) {
+                                     {punchsql::Starting(punchsql::kOne), "Index Only Scan using timerecordperiod"},
+                                     {punchsql::Unusual(punchsql::kOne, words), "Index Only Scan using timerecordunusual"}}) {
         EXPECT_THAT(PlanOf(sql), HasSubstr(index)) << sql;
     }
 }

@@ -40,7 +40,7 @@ std::string ShownValue(const Statement& row, int column)
     return "a value of bytes";
 }
 
-// By start and end; a row that both queries answered once.
+// By start and end; a row that came twice once.
 void Order(Punches& punches)
 {
     const auto key = [](const Punch& punch) { return std::tie(punch.start, punch.end, punch.id); };
@@ -83,10 +83,9 @@ PunchReader::PunchReader(CJetDB& database, const PayPeriod& period, std::int32_t
     const EngineWords& words = database.Words();
     if (*words.amongEmployees != '\0') {
         m_ofMany = Prepare(database, punchsql::OfMany(words));
-        return;
+    } else {
+        m_ofOne = Prepare(database, punchsql::Of(punchsql::kOne, words));
     }
-    m_unusual = RequireSelect(database, punchsql::Unusual(words));
-    m_starting = Prepare(database, punchsql::kStarting);
 }
 
 std::unique_ptr<Statement> PunchReader::Prepare(CJetDB& database, const std::string& sql) const
@@ -162,10 +161,8 @@ Punches PunchReader::Read(std::int32_t employeeID)
     }
     Punches punches;
     punches.reserve(kUsualCount);
-    for (Statement* statement : {m_unusual.get(), m_starting.get()}) {
-        statement->Bind("employee", employeeID);
-        statement->ForEachRow([&] { punches.push_back(ReadPunch(*statement)); });
-    }
+    m_ofOne->Bind("employee", employeeID);
+    m_ofOne->ForEachRow([&] { punches.push_back(ReadPunch(*m_ofOne)); });
     Order(punches);
     return punches;
 }

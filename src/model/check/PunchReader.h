@@ -53,9 +53,8 @@ private:
     DateTime m_end;
     DateTime m_first; // of the starts that are looked for, both included
     DateTime m_last;
-    std::unique_ptr<Statement> m_ofMany; // or the other two
-    std::unique_ptr<Statement> m_starting;
-    std::unique_ptr<Statement> m_unusual;
+    std::unique_ptr<Statement> m_ofMany; // or the other
+    std::unique_ptr<Statement> m_ofOne;
     std::map<std::int32_t, Punches> m_ahead; // by employees
 };
 

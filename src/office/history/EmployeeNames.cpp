@@ -27,9 +27,16 @@ EmployeeNames::EmployeeNames(const std::shared_ptr<CJetDB>& database)
     const auto rows = RequireSelect(*database, NamesSql(database->Words()));
     rows->ForEachRow([&] {
         m_order.push_back(rows->Int64At(0));
-        m_present[m_order.back()] = {std::string(rows->TextAt(1)), std::string(rows->TextAt(2))};
+        Name& name = m_known[m_order.back()];
+        name.first = rows->TextAt(1);
+        name.last = rows->TextAt(2);
+        name.Show();
     });
-    m_former = m_present;
+}
+
+void EmployeeNames::Name::Show()
+{
+    display = first.empty() ? last : first + " " + last;
 }
 
 void EmployeeNames::Name::Take(const TrailRow& row)
@@ -38,12 +45,14 @@ void EmployeeNames::Name::Take(const TrailRow& row)
     const TrailValue* newLast = ValueOf(row, "LastName");
     first = newFirst == nullptr ? first : newFirst->text;
     last = newLast == nullptr ? last : newLast->text;
+    Show();
 }
 
-std::string EmployeeNames::Of(std::int64_t employeeID) const
+const std::string& EmployeeNames::Of(std::int64_t employeeID) const
 {
-    const auto found = m_present.find(employeeID);
-    return found == m_present.end() ? std::string() : found->second.Display();
+    static const std::string unknown;
+    const auto found = m_known.find(employeeID);
+    return found == m_known.end() ? unknown : found->second.display;
 }
 
 std::optional<std::int64_t> EmployeeNames::FirstOf(std::string_view displayName) const
@@ -55,7 +64,7 @@ std::optional<std::int64_t> EmployeeNames::FirstOf(std::string_view displayName)
 void EmployeeNames::Learn(const TrailEntry& entry)
 {
     if (entry.table == "Employee" && entry.row && entry.before && !entry.after) {
-        const auto [gone, isNew] = m_present.try_emplace(*entry.row);
+        const auto [gone, isNew] = m_known.try_emplace(*entry.row);
         if (isNew) {
             gone->second.Take(*entry.before);
         }
@@ -74,21 +83,27 @@ std::vector<std::int64_t> EmployeeNames::Gone() const
 {
     const std::set<std::int64_t> present(m_order.begin(), m_order.end());
     std::vector<std::int64_t> gone;
-    for (const auto& [id, name] : m_present) {
+    for (const auto& [id, name] : m_known) {
         if (!present.contains(id)) {
             gone.push_back(id);
         }
     }
+    std::sort(gone.begin(), gone.end());
     return gone;
 }
 
 std::string EmployeeNames::FormerOf(const TrailEntry& entry)
 {
-    Name& name = m_former[entry.row.value_or(0)];
+    const std::int64_t id = entry.row.value_or(0);
+    const auto [place, isNew] = m_former.try_emplace(id);
+    Name& name = place->second;
+    if (isNew && m_known.contains(id)) {
+        name = m_known.at(id);
+    }
     if (entry.before || entry.after) {
         name.Take(entry.before ? *entry.before : *entry.after);
     }
-    return name.Display();
+    return name.display;
 }
 
 std::optional<std::int64_t> FindInHistory(const std::shared_ptr<CJetDB>& database, const std::string& name)

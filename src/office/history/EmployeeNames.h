@@ -4,11 +4,11 @@
 #include "store/trail/TrailReader.h"
 
 #include <cstdint>
-#include <map>
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace ptk {
@@ -24,7 +24,7 @@ public:
     explicit EmployeeNames(const std::shared_ptr<CJetDB>& database);
 
     // The display name; empty for an unknown one.
-    [[nodiscard]] std::string Of(std::int64_t employeeID) const;
+    [[nodiscard]] const std::string& Of(std::int64_t employeeID) const;
 
     // In the order of the employee list.
     [[nodiscard]] const std::vector<std::int64_t>& Present() const { return m_order; }
@@ -48,13 +48,14 @@ private:
     {
         std::string first;
         std::string last;
+        std::string display;
 
-        [[nodiscard]] std::string Display() const { return first.empty() ? last : first + " " + last; }
+        void Show();
         void Take(const TrailRow& row);
     };
 
-    std::map<std::int64_t, Name> m_present; // and gone ones
-    std::map<std::int64_t, Name> m_former;
+    std::unordered_map<std::int64_t, Name> m_known;  // present and gone ones
+    std::unordered_map<std::int64_t, Name> m_former; // of those that FormerOf was asked about
     std::vector<std::int64_t> m_order;
 };
 

@@ -2,6 +2,7 @@
 
 #include "platform/text/Characters.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cstdint>
 #include <string>
@@ -193,12 +194,12 @@ private:
             return false;
         }
         while (true) {
-            const std::size_t plain = m_left.find_first_of("\"\\");
-            if (plain == std::string_view::npos) {
+            const auto* const end = std::find_if(m_left.begin(), m_left.end(), [](char c) { return c == '"' || c == '\\'; });
+            if (end == m_left.end()) {
                 return false;
             }
-            text += m_left.substr(0, plain);
-            m_left.remove_prefix(plain);
+            text.append(m_left.begin(), end);
+            m_left.remove_prefix(static_cast<std::size_t>(end - m_left.begin()));
             if (Take('"')) {
                 return true;
             }
@@ -263,7 +264,9 @@ private:
 
 std::optional<TrailRow> ParseTrailRow(std::string_view json)
 {
+    constexpr std::size_t kColumns = 4; // a time record's
     TrailRow row;
+    row.reserve(kColumns);
     return JsonReader(json).TakeAll(row) ? std::optional(std::move(row)) : std::nullopt;
 }
 
