@@ -14,9 +14,18 @@ namespace ptk {
 
 namespace {
 
-void TakesFormat(CLI::App* command, std::string& format)
+// What a command takes is described only when it stands on the line: that of all of them would take longer than a time card.
+template <typename Describe>
+CLI::App* AddCommand(CLI::App& app, const char* name, const char* about, Describe describe)
 {
-    command->add_option("--format", format, "How: text, csv or json")->type_name("FORMAT")->check(CLI::IsMember({"text", "csv", "json"}));
+    CLI::App* const command = app.add_subcommand(name, about);
+    command->preparse_callback([command, describe](std::size_t) { describe(*command); });
+    return command;
+}
+
+void TakesFormat(CLI::App& command, std::string& format)
+{
+    command.add_option("--format", format, "How: text, csv or json")->type_name("FORMAT")->check(CLI::IsMember({"text", "csv", "json"}));
 }
 
 void TakesCodePage(CLI::Option* option)
@@ -87,6 +96,9 @@ private:
     void DescribeImportPunches();
     void DescribeCopy();
     void TakesDay(CLI::Option* option) const;
+    void TakesPeriod(CLI::App& command);
+    CLI::Option* TakesEmployees(CLI::App& command, const char* about);
+    void TakesReportForm(CLI::App& command);
     void CheckReport() const;
     std::variant<Arguments, UsageAnswer> Answer(const CLI::ParseError& error) const;
     Arguments Result() const;
@@ -146,129 +158,151 @@ Grammar::Grammar(DateTime today) : m_today(today)
 
 void Grammar::DescribeCreateDatabase()
 {
-    m_createDatabase =
-        m_app.add_subcommand("create-database", "Make the database file that the configuration names; an existing one stays");
-    CLI::Option* sample = m_createDatabase->add_flag("--sample", m_words.sample, "Fill in a small business with half a year of shifts");
-    TakesDay(m_createDatabase->add_option("--today", m_words.today, "The last day of the sample's shifts; else today")->needs(sample));
+    constexpr auto about = "Make the database file that the configuration names; an existing one stays";
+    m_createDatabase = AddCommand(m_app, "create-database", about, [this](CLI::App& command) {
+        CLI::Option* sample = command.add_flag("--sample", m_words.sample, "Fill in a small business with half a year of shifts");
+        TakesDay(command.add_option("--today", m_words.today, "The last day of the sample's shifts; else today")->needs(sample));
+    });
 }
 
 void Grammar::DescribeTimeCard()
 {
-    m_timeCard = m_app.add_subcommand("time-card", "Print an employee's time card");
-    m_timeCard->add_option("--employee", m_words.employee, "First and last name, or the last name alone where there is no first one")
-        ->type_name("NAME")
-        ->required();
-    TakesDay(m_timeCard->add_option("--from", m_words.from, "First day")->required());
-    TakesDay(m_timeCard->add_option("--to", m_words.to, "Last day, inclusive")->required());
-    m_timeCard->add_flag("--check", m_words.check, "Say below the card what is wrong with it");
+    m_timeCard = AddCommand(m_app, "time-card", "Print an employee's time card", [this](CLI::App& command) {
+        command.add_option("--employee", m_words.employee, "First and last name, or the last name alone where there is no first one")
+            ->type_name("NAME")
+            ->required();
+        TakesPeriod(command);
+        command.add_flag("--check", m_words.check, "Say below the card what is wrong with it");
+    });
 }
 
 void Grammar::DescribeReport()
 {
-    m_report = m_app.add_subcommand("report", "Write a report to the reports folder and print it");
-    m_report->add_option("report", m_words.report, "Which one")->type_name("KIND")->check(CLI::IsMember(ConsoleNames()))->required();
-    m_report->add_option("--employee", m_words.employees, "An employee's name, may be repeated; else all that the Reports page lists")
-        ->type_name("NAME")
-        ->allow_extra_args(false);
-    TakesDay(m_report->add_option("--from", m_words.from, "First day; else as the Reports page offers"));
-    TakesDay(m_report->add_option("--to", m_words.to, "Last day; else as the Reports page offers"));
-    m_report->add_option("--format", m_words.format, "How: text, csv, json or pdf")
-        ->type_name("FORMAT")
-        ->check(CLI::IsMember(ReportForms()));
-    m_report
-        ->add_option("-o,--output", m_words.output,
-                     "Into this file instead of printing it; all reports into one, and each into the reports folder as well")
-        ->type_name("FILE");
+    m_report = AddCommand(m_app, "report", "Write a report to the reports folder and print it", [this](CLI::App& command) {
+        command.add_option("report", m_words.report, "Which one")->type_name("KIND")->check(CLI::IsMember(ConsoleNames()))->required();
+        TakesEmployees(command, "An employee's name, may be repeated; else all that the Reports page lists");
+        TakesDay(command.add_option("--from", m_words.from, "First day; else as the Reports page offers"));
+        TakesDay(command.add_option("--to", m_words.to, "Last day; else as the Reports page offers"));
+        TakesReportForm(command);
+        command
+            .add_option("-o,--output", m_words.output,
+                        "Into this file instead of printing it; all reports into one, and each into the reports folder as well")
+            ->type_name("FILE");
+    });
 }
 
 void Grammar::DescribeOverview()
 {
-    m_overview = m_app.add_subcommand("overview", "Print whom one can pay for a period, whom not yet, and why");
-    CLI::Option* employee =
-        m_overview->add_option("--employee", m_words.employees, "An employee's name, may be repeated; else all that are offered time cards")
-            ->type_name("NAME")
-            ->allow_extra_args(false);
-    m_overview->add_flag("--all", m_words.all, "Everybody else who has records in the period, too")->excludes(employee);
-    m_overview->add_flag("--remedies", m_words.remedies, "What can be done about each finding, and the hours after it");
-    TakesDay(m_overview->add_option("--from", m_words.from,
+    m_overview = AddCommand(m_app, "overview", "Print whom one can pay for a period, whom not yet, and why", [this](CLI::App& command) {
+        CLI::Option* employee = TakesEmployees(command, "An employee's name, may be repeated; else all that are offered time cards");
+        command.add_flag("--all", m_words.all, "Everybody else who has records in the period, too")->excludes(employee);
+        command.add_flag("--remedies", m_words.remedies, "What can be done about each finding, and the hours after it");
+        TakesDay(command.add_option("--from", m_words.from,
                                     "First day; else the day after what was closed last, or as the Reports page offers"));
-    TakesDay(m_overview->add_option("--to", m_words.to, "Last day, inclusive; else by the length of a pay period"));
-    TakesFormat(m_overview, m_words.format);
+        TakesDay(command.add_option("--to", m_words.to, "Last day, inclusive; else by the length of a pay period"));
+        TakesFormat(command, m_words.format);
+    });
 }
 
 void Grammar::DescribePayday()
 {
-    m_payday = m_app.add_subcommand("payday", "Keep what is paid for a period, take that back, or print what became of it");
-    m_payday->require_subcommand(1);
-    m_close =
-        m_payday->add_subcommand("close", "Keep for each person what is paid for the period; without names, of all who have no problem");
-    m_reopen = m_payday->add_subcommand("reopen", "Take the newest closing of the period back; without names, of all who have one");
-    CLI::App* account = m_payday->add_subcommand("account", "Print what was paid, what the cards say now, and what was changed since");
-    for (CLI::App* task : {m_close, m_reopen, account}) {
-        TakesDay(task->add_option("--from", m_words.from, "First day")->required());
-        TakesDay(task->add_option("--to", m_words.to, "Last day, inclusive")->required());
-    }
-    for (CLI::App* task : {m_close, m_reopen}) {
-        task->add_option("--employee", m_words.employees, "An employee's name, may be repeated")
-            ->type_name("NAME")
-            ->allow_extra_args(false);
-    }
-    account->add_option("--format", m_words.format, "How: text, csv, json or pdf")
-        ->type_name("FORMAT")
-        ->check(CLI::IsMember(ReportForms()));
-    account->add_option("-o,--output", m_words.output, "Into this file instead of printing it")->type_name("FILE");
+    constexpr auto about = "Keep what is paid for a period, take that back, or print what became of it";
+    m_payday = AddCommand(m_app, "payday", about, [this](CLI::App& payday) {
+        payday.require_subcommand(1);
+        const auto takesPeopleOfPeriod = [this](CLI::App& task) {
+            TakesPeriod(task);
+            TakesEmployees(task, "An employee's name, may be repeated");
+        };
+        m_close = AddCommand(payday, "close", "Keep for each person what is paid for the period; without names, of all who have no problem",
+                             takesPeopleOfPeriod);
+        m_reopen = AddCommand(payday, "reopen", "Take the newest closing of the period back; without names, of all who have one",
+                              takesPeopleOfPeriod);
+        AddCommand(payday, "account", "Print what was paid, what the cards say now, and what was changed since", [this](CLI::App& account) {
+            TakesPeriod(account);
+            TakesReportForm(account);
+            account.add_option("-o,--output", m_words.output, "Into this file instead of printing it")->type_name("FILE");
+        });
+    });
 }
 
 void Grammar::DescribeHistory()
 {
-    m_history = m_app.add_subcommand("history", "Print who changed what, when, from what to what; the newest change first");
-    m_history->add_option("--employee", m_words.employee, "Only what was changed of this employee and of the time records")
-        ->type_name("NAME");
-    TakesDay(m_history->add_option("--from", m_words.from, "First day of the changes"));
-    TakesDay(m_history->add_option("--to", m_words.to, "Last day of the changes, inclusive"));
-    TakesFormat(m_history, m_words.format);
+    constexpr auto about = "Print who changed what, when, from what to what; the newest change first";
+    m_history = AddCommand(m_app, "history", about, [this](CLI::App& command) {
+        command.add_option("--employee", m_words.employee, "Only what was changed of this employee and of the time records")
+            ->type_name("NAME");
+        TakesDay(command.add_option("--from", m_words.from, "First day of the changes"));
+        TakesDay(command.add_option("--to", m_words.to, "Last day of the changes, inclusive"));
+        TakesFormat(command, m_words.format);
+    });
 }
 
 void Grammar::DescribeBackups()
 {
-    m_backup = m_app.add_subcommand("backup", "Back the database up into the folder backups, and remove backups that need not be kept");
-    m_backup->add_option("--to", m_words.target, "Into this new file instead, and remove nothing")->type_name("FILE");
-    m_restore = m_app.add_subcommand("restore", "Put a backup in the place of the database, which is backed up first");
-    m_restore->add_option("file", m_words.file, "The backup, or the name of one in the folder backups")->type_name("FILE")->required();
+    constexpr auto about = "Back the database up into the folder backups, and remove backups that need not be kept";
+    m_backup = AddCommand(m_app, "backup", about, [this](CLI::App& command) {
+        command.add_option("--to", m_words.target, "Into this new file instead, and remove nothing")->type_name("FILE");
+    });
+    m_restore =
+        AddCommand(m_app, "restore", "Put a backup in the place of the database, which is backed up first", [this](CLI::App& command) {
+            command.add_option("file", m_words.file, "The backup, or the name of one in the folder backups")->type_name("FILE")->required();
+        });
     m_backups = m_app.add_subcommand("backups", "List the backups, the newest first");
 }
 
 void Grammar::DescribeImport()
 {
-    m_import = m_app.add_subcommand("import", "Bring an older database (.mdb, Jet 3 or 4) along into one that is still empty");
-    m_import->add_option("file", m_words.file, "The older database; it is only read")->type_name("FILE")->required();
-    m_import->add_flag("--dry-run", m_words.dryRun, "Print the same account, and write nothing");
-    m_import->add_flag("--accept-damaged", m_words.acceptDamaged, "Take what can be read of a file that shows signs of damage");
-    TakesCodePage(m_import->add_option("--code-page", m_words.codePage,
-                                       "Of the texts in a Jet 3 file (Access 97), instead of the one that it names"));
+    constexpr auto about = "Bring an older database (.mdb, Jet 3 or 4) along into one that is still empty";
+    m_import = AddCommand(m_app, "import", about, [this](CLI::App& command) {
+        command.add_option("file", m_words.file, "The older database; it is only read")->type_name("FILE")->required();
+        command.add_flag("--dry-run", m_words.dryRun, "Print the same account, and write nothing");
+        command.add_flag("--accept-damaged", m_words.acceptDamaged, "Take what can be read of a file that shows signs of damage");
+        TakesCodePage(command.add_option("--code-page", m_words.codePage,
+                                         "Of the texts in a Jet 3 file (Access 97), instead of the one that it names"));
+    });
 }
 
 void Grammar::DescribeImportPunches()
 {
-    m_importPunches =
-        m_app.add_subcommand("import-punches", "Store the punches of a CSV file: pairs of start and end, or events of in and out");
-    m_importPunches->add_option("file", m_words.file, "The CSV file; it is only read")->type_name("FILE")->required();
-    m_importPunches->add_flag("--dry-run", m_words.dryRun, "Print the same account, and store nothing");
-    m_importPunches->add_flag("--partly", m_words.partly, "Store what can be stored although lines are refused");
-    TakesCodePage(m_importPunches->add_option("--code-page", m_words.codePage, "Of a file that is no UTF-8; else 1252"));
-    m_importPunches->add_option("--columns", m_words.columns, "What headings and words mean: Badge=Number,1=In,0=Out")
-        ->type_name("FILE=OURS,...")
-        ->check(CLI::Validator([](std::string& text) { return ReadSheetWords(text) ? std::string() : "not FILE=OURS,...: " + text; }, ""));
+    constexpr auto about = "Store the punches of a CSV file: pairs of start and end, or events of in and out";
+    m_importPunches = AddCommand(m_app, "import-punches", about, [this](CLI::App& command) {
+        command.add_option("file", m_words.file, "The CSV file; it is only read")->type_name("FILE")->required();
+        command.add_flag("--dry-run", m_words.dryRun, "Print the same account, and store nothing");
+        command.add_flag("--partly", m_words.partly, "Store what can be stored although lines are refused");
+        TakesCodePage(command.add_option("--code-page", m_words.codePage, "Of a file that is no UTF-8; else 1252"));
+        const auto fault = [](std::string& text) { return ReadSheetWords(text) ? std::string() : "not FILE=OURS,...: " + text; };
+        command.add_option("--columns", m_words.columns, "What headings and words mean: Badge=Number,1=In,0=Out")
+            ->type_name("FILE=OURS,...")
+            ->check(CLI::Validator(fault, ""));
+    });
 }
 
 void Grammar::DescribeCopy()
 {
-    m_copy = m_app.add_subcommand("copy-database", "Copy all that is in the database into a new one: a file or a PostgreSQL server's");
-    m_copy->add_option("--to", m_words.target, "A file that is not there yet, or the address of a server's empty database")
-        ->type_name("DATABASE")
-        ->required();
-    m_copy->add_option("--from", m_words.from, "This file or address instead of the database that the configuration names")
-        ->type_name("DATABASE");
+    constexpr auto about = "Copy all that is in the database into a new one: a file or a PostgreSQL server's";
+    m_copy = AddCommand(m_app, "copy-database", about, [this](CLI::App& command) {
+        command.add_option("--to", m_words.target, "A file that is not there yet, or the address of a server's empty database")
+            ->type_name("DATABASE")
+            ->required();
+        command.add_option("--from", m_words.from, "This file or address instead of the database that the configuration names")
+            ->type_name("DATABASE");
+    });
+}
+
+void Grammar::TakesPeriod(CLI::App& command)
+{
+    TakesDay(command.add_option("--from", m_words.from, "First day")->required());
+    TakesDay(command.add_option("--to", m_words.to, "Last day, inclusive")->required());
+}
+
+CLI::Option* Grammar::TakesEmployees(CLI::App& command, const char* about)
+{
+    return command.add_option("--employee", m_words.employees, about)->type_name("NAME")->allow_extra_args(false);
+}
+
+void Grammar::TakesReportForm(CLI::App& command)
+{
+    command.add_option("--format", m_words.format, "How: text, csv, json or pdf")->type_name("FORMAT")->check(CLI::IsMember(ReportForms()));
 }
 
 void Grammar::TakesDay(CLI::Option* option) const
