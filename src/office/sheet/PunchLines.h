@@ -2,10 +2,10 @@
 #pragma once
 
 #include "office/sheet/SheetColumns.h"
+#include "platform/GoesOn.h"
 #include "platform/text/DateTime.h"
 
 #include <cstdint>
-#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -41,10 +41,7 @@ struct PunchLines
     std::string startColumn;          // its heading, or that of the events' times
 };
 
-// Asked every thousand lines or records; false ends the work with a failure without a number.
-using GoesOn = std::function<bool()>;
-
-// Does so. `done`: of which every thousandth is asked.
+// Every thousand lines or records, `done` of them; false ends the work with a failure without a number.
 void AskWhetherToGoOn(const GoesOn& goesOn, std::int64_t done);
 
 struct PunchFile

@@ -94,12 +94,12 @@ std::optional<pid_t> Spawn(std::vector<std::string> arguments, const SystemFile&
     return error == 0 ? std::optional(child) : std::nullopt;
 }
 
-// Whether the child ended without complaint; nothing when it still runs at the end of its time.
-std::optional<bool> EndsWell(pid_t child, std::chrono::milliseconds patience)
+// Whether the child ended without complaint; nothing when it still runs at the end of its time, or when nobody waits for it any more.
+std::optional<bool> EndsWell(pid_t child, std::chrono::milliseconds patience, const GoesOn& goesOn)
 {
     const auto deadline = std::chrono::steady_clock::now() + patience;
     int status = 0;
-    while (std::chrono::steady_clock::now() < deadline) {
+    while (std::chrono::steady_clock::now() < deadline && (!goesOn || goesOn())) {
         const pid_t done = ::waitpid(child, &status, WNOHANG);
         if (done == child) {
             return WIFEXITED(status) && WEXITSTATUS(status) == 0;
@@ -128,14 +128,14 @@ std::string LastLine(const SystemFile& sayings)
     return text.substr(text.rfind('\n') + 1); // from the beginning where there is none
 }
 
-Outcome RunToItsEnd(std::vector<std::string> arguments)
+Outcome RunToItsEnd(std::vector<std::string> arguments, const GoesOn& goesOn)
 {
     const SystemFile sayings(::memfd_create(kPrintProgram, MFD_CLOEXEC));
     const auto child = Spawn(std::move(arguments), sayings);
     if (!child) {
         return {};
     }
-    Outcome outcome{true, EndsWell(*child, kPrintPatience)};
+    Outcome outcome{true, EndsWell(*child, kPrintPatience, goesOn)};
     if (!outcome.endedWell) {
         ::kill(*child, SIGKILL);
         ::waitpid(*child, nullptr, 0);
@@ -145,45 +145,45 @@ Outcome RunToItsEnd(std::vector<std::string> arguments)
 }
 
 // The print program asks for a printer also where there is nobody to know one.
-std::string MeaningOf(const std::string& complaint)
+std::string MeaningOf(const std::string& complaint, const GoesOn& goesOn)
 {
     for (const auto& [words, meaning] : kMeanings) {
         if (complaint.find(words) == std::string::npos) {
             continue;
         }
         const bool asks = meaning == kNoPrinter;
-        return asks && RunToItsEnd(kAskScheduler).lastLine.find(kSchedulerIsNot) != std::string::npos ? kNoScheduler : meaning;
+        return asks && RunToItsEnd(kAskScheduler, goesOn).lastLine.find(kSchedulerIsNot) != std::string::npos ? kNoScheduler : meaning;
     }
     return complaint.empty() ? kNotTaken : complaint;
 }
 
 // Why not; empty when it is printed. A spooler that hangs has not taken the document over.
-std::string Print(const std::string& path, const std::string& title)
+std::string Print(const std::string& path, const std::string& title, const GoesOn& goesOn)
 {
     std::vector<std::string> arguments{kPrintProgram};
     if (!title.empty()) {
         arguments.insert(arguments.end(), {"-t", title});
     }
     arguments.insert(arguments.end(), {"--", path});
-    const Outcome outcome = RunToItsEnd(std::move(arguments));
+    const Outcome outcome = RunToItsEnd(std::move(arguments), goesOn);
     if (!outcome.started) {
         return kNoPrintProgram;
     }
     if (!outcome.endedWell) {
         return kNoAnswer;
     }
-    return *outcome.endedWell ? "" : MeaningOf(outcome.lastLine);
+    return *outcome.endedWell ? "" : MeaningOf(outcome.lastLine, goesOn);
 }
 
-// Likewise. An opener that finds no program for the document complains at once; one that is the program itself stays, and leaves no zombie
-// behind.
-std::string Open(const std::string& path)
+// Why not; empty when it is open. An opener that finds no program for the document complains at once; one that is the program itself
+// stays, and leaves no zombie behind.
+std::string Open(const std::string& path, const GoesOn& goesOn)
 {
     const auto child = Spawn({kOpenProgram, path}, SystemFile());
     if (!child) {
         return kNoOpenProgram;
     }
-    const auto endedWell = EndsWell(*child, kOpenPatience);
+    const auto endedWell = EndsWell(*child, kOpenPatience, goesOn);
     if (!endedWell) {
         std::thread([child] { ::waitpid(*child, nullptr, 0); }).detach();
     }
@@ -192,7 +192,7 @@ std::string Open(const std::string& path)
 
 } // namespace
 
-std::int32_t RunSystemShell(ShellVerb verb, const std::string& path, const std::string& title, std::string& refusal)
+std::int32_t RunSystemShell(ShellVerb verb, const std::string& path, const std::string& title, std::string& refusal, const GoesOn& goesOn)
 {
     std::error_code ignored;
     if (!std::filesystem::exists(path, ignored)) {
@@ -200,7 +200,7 @@ std::int32_t RunSystemShell(ShellVerb verb, const std::string& path, const std::
         return ShellFileNotFound;
     }
     const std::string whole = std::filesystem::absolute(path, ignored).string();
-    refusal = verb == ShellVerb::Print ? Print(whole, title) : Open(whole);
+    refusal = verb == ShellVerb::Print ? Print(whole, title, goesOn) : Open(whole, goesOn);
     return refusal.empty() ? kTakenOver : ShellNoProgram;
 }
 

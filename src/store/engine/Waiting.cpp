@@ -48,4 +48,14 @@ bool waiting::Turn()
     return turn();
 }
 
+bool waiting::Turns::GoOn()
+{
+    if (std::chrono::steady_clock::now() < m_next) {
+        return true;
+    }
+    const bool goesOn = Turn();
+    m_next = std::chrono::steady_clock::now() + kSlice;
+    return goesOn;
+}
+
 } // namespace ptk

@@ -36,6 +36,17 @@ inline constexpr std::chrono::milliseconds kSlice(50);
 // Whether a turn is being done right now.
 [[nodiscard]] bool IsTurn();
 
+// A wait by looking again and again: takes the turns that fall due in it.
+class Turns
+{
+public:
+    // To be asked at each look. False where the wait is to be given up.
+    [[nodiscard]] bool GoOn();
+
+private:
+    std::chrono::steady_clock::time_point m_next = std::chrono::steady_clock::now() + kSlice;
+};
+
 } // namespace waiting
 
 } // namespace ptk

@@ -249,6 +249,7 @@ void Connection::Hold()
 {
     if (!IsHeld()) {
         m_patientUntil = std::chrono::steady_clock::now();
+        m_turns = {};
         if (m_whenHeld == WhenHeld::Wait) {
             m_patientUntil += kPatience;
         }
@@ -271,7 +272,7 @@ bool Connection::IsReplaced() const
 bool Connection::Wait()
 {
     m_inOrder = false;
-    if (std::chrono::steady_clock::now() >= m_patientUntil) {
+    if (std::chrono::steady_clock::now() >= m_patientUntil || !m_turns.GoOn()) {
         return false;
     }
     std::this_thread::sleep_for(kBetweenTries);

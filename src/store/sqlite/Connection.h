@@ -1,6 +1,7 @@
 // The engine's handle on one database file and the exclusive hold on it.
 #pragma once
 
+#include "store/engine/Waiting.h"
 #include "store/engine/WhenHeld.h"
 
 #include <SQLiteCpp/Database.h>
@@ -27,8 +28,8 @@ public:
     };
 
     // Opens for reading and writing, exclusively and without ever creating a file. Raises 14 (missing, no regular file), 5 (held by anyone,
-    // a reader included, for more than a second), 8 (read-only), 26 (no database, another program's, or of a newer format) or 11 (damaged);
-    // another program's file is not touched by that. An empty file passes.
+    // a reader included, for more than a second, or until the wait is given up), 8 (read-only), 26 (no database, another program's, or of a
+    // newer format) or 11 (damaged); another program's file is not touched by that. An empty file passes.
     explicit Connection(const std::string& path, Access access = Access::Write, WhenHeld whenHeld = WhenHeld::Wait);
     Connection(const Connection&) = delete;
     Connection& operator=(const Connection&) = delete;
@@ -115,6 +116,7 @@ private:
     Access m_access;
     WhenHeld m_whenHeld;
     std::chrono::steady_clock::time_point m_patientUntil;
+    waiting::Turns m_turns; // of the wait for who holds the file
     bool m_inOrder = false; // whether what the file is was seen from outside, without a wait
     bool m_durable = false; // whether commits survive a power cut
 };

@@ -1,6 +1,7 @@
 #include "store/sqlite/SqliteEngine.h"
 
 #include "store/engine/RecordSet.h"
+#include "store/engine/Waiting.h"
 #include "store/sqlite/Connection.h"
 #include "store/sqlite/EditTrail.h"
 #include "store/sqlite/EngineFailure.h"
@@ -46,8 +47,9 @@ void RunWithin(sqlite3* database, const std::function<void()>& steps)
 } // namespace
 
 SqliteEngine::SqliteEngine(const std::string& path, WhenHeld whenHeld)
-    : m_connection(std::make_unique<Connection>(path, Connection::Access::Write, whenHeld))
 {
+    RefuseDuringWait();
+    m_connection = std::make_unique<Connection>(path, Connection::Access::Write, whenHeld);
     m_connection->RefuseForeignFile();
 }
 
@@ -61,8 +63,19 @@ SqliteEngine::SqliteEngine(const std::string& path, ReadOnly /*tag*/)
 
 SqliteEngine::~SqliteEngine() = default;
 
+void SqliteEngine::RefuseDuringWait()
+{
+    if (waiting::IsTurn()) {
+        throw EngineFailure(SQLITE_BUSY, "the database is being waited for already");
+    }
+}
+
+// Who comes back while the file is being waited for finds it as it is.
 void SqliteEngine::Close()
 {
+    if (waiting::IsTurn()) {
+        return;
+    }
     if (m_connection != nullptr && m_connection->Park()) {
         m_parked = std::move(m_connection);
     }
@@ -71,6 +84,7 @@ void SqliteEngine::Close()
 
 bool SqliteEngine::Reopen()
 {
+    RefuseDuringWait();
     auto parked = std::exchange(m_parked, nullptr);
     if (parked == nullptr || !parked->Resume()) {
         return false;
@@ -87,13 +101,14 @@ void SqliteEngine::Hold()
 
 void SqliteEngine::GiveUp() noexcept
 {
-    if (m_connection != nullptr) {
+    if (m_connection != nullptr && !waiting::IsTurn()) {
         m_connection->Release();
     }
 }
 
 Connection& SqliteEngine::Open() const
 {
+    RefuseDuringWait();
     if (m_connection == nullptr) {
         throw EngineFailure(SQLITE_MISUSE, "the database is closed");
     }

@@ -85,6 +85,7 @@ public:
 
 private:
     Connection& Open() const;
+    static void RefuseDuringWait();
     void RunSteps(const std::function<void()>& steps);
     // Another one after any change of rows or tables.
     using ContentMark = std::pair<int, std::int32_t>;

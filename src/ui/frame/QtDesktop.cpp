@@ -1,6 +1,7 @@
 #include "ui/frame/QtDesktop.h"
 
 #include "platform/system/SystemShell.h"
+#include "store/engine/Waiting.h"
 #include "ui/widgets/ProgramEnd.h"
 #include "ui/widgets/WindowPlace.h"
 
@@ -164,7 +165,8 @@ std::int32_t QtDesktop::Run(ShellVerb verb, const std::string& path, const std::
 {
     const bool busy = m_busy;
     SetPointer(Pointer::Busy);
-    const std::int32_t code = RunSystemShell(verb, path, title, m_refusal);
+    waiting::Turns turns;
+    const std::int32_t code = RunSystemShell(verb, path, title, m_refusal, [&turns] { return turns.GoOn(); });
     SetPointer(busy ? Pointer::Busy : Pointer::Default);
     return code;
 }

@@ -121,6 +121,12 @@ TEST_F(SystemShellTest, DoesNotWaitForASpoolerThatHangsNorForAnOpenerThatStays)
     EXPECT_GT(RunSystemShell(ShellVerb::Open, document), ShellSuccess);
     Script("lp", "exec sleep 60");
     EXPECT_EQ(RunSystemShell(ShellVerb::Print, document), ShellNoProgram);
+    int asked = 0;
+    std::string refusal;
+    const auto thrice = [&] { return ++asked < 3; };
+    EXPECT_EQ(RunSystemShell(ShellVerb::Print, document, "", refusal, thrice), ShellNoProgram) << "given up";
+    EXPECT_EQ(asked, 3);
+    EXPECT_EQ(refusal, "the print scheduler does not answer");
 }
 
 TEST(ProgramFolderTest, TakesTheOptionTheVariableTheExecutablesTheRememberedThenTheUsersOwn)
