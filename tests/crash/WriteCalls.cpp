@@ -4,8 +4,10 @@
 #include <atomic>
 #include <cerrno>
 #include <csignal>
+#include <cstdarg>
 #include <cstddef>
 #include <dlfcn.h>
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/types.h>
 #include <unistd.h>
@@ -24,7 +26,7 @@ Function Real(Function, const char* name)
 
 bool IsDue()
 {
-    if (callsLeft == 0) {
+    if (callsLeft == 0 || misfortune >= ptk::Misfortune::FolderUnsafe) {
         return false;
     }
     if (callsLeft > 1) {
@@ -52,6 +54,30 @@ bool Happens(bool needsRoom)
     }
     errno = ENOSPC;
     return needsRoom;
+}
+
+// Whether a call of that kind fails.
+bool Fails(ptk::Misfortune kind, int error)
+{
+    if (callsLeft == 0 || misfortune != kind) {
+        return false;
+    }
+    met = true;
+    errno = error;
+    return true;
+}
+
+bool IsFolder(int file)
+{
+    struct stat status
+    {
+    };
+    return fstat(file, &status) == 0 && S_ISDIR(status.st_mode);
+}
+
+bool FolderFails(int file)
+{
+    return IsFolder(file) && Fails(ptk::Misfortune::FolderUnsafe, EIO);
 }
 
 template <typename Write>
@@ -119,12 +145,12 @@ int ftruncate64(int file, off64_t size) noexcept
 
 int fsync(int file)
 {
-    return Happens(true) ? -1 : REAL(fsync)(file);
+    return Happens(true) || FolderFails(file) ? -1 : REAL(fsync)(file);
 }
 
 int fdatasync(int file)
 {
-    return Happens(true) ? -1 : REAL(fdatasync)(file);
+    return Happens(true) || FolderFails(file) ? -1 : REAL(fdatasync)(file);
 }
 
 int rename(const char* from, const char* to) noexcept
@@ -145,5 +171,19 @@ int unlink(const char* path) noexcept
 int mkdir(const char* path, mode_t mode) noexcept
 {
     return Happens(true) ? -1 : REAL(mkdir)(path, mode);
+}
+
+int fcntl(int file, int command, ...)
+{
+    va_list arguments;
+    va_start(arguments, command);
+    void* const argument = va_arg(arguments, void*);
+    va_end(arguments);
+    return command == F_OFD_SETLK && Fails(ptk::Misfortune::NoLocks, EACCES) ? -1 : REAL(fcntl)(file, command, argument);
+}
+
+int execve(const char* program, char* const* arguments, char* const* environment) noexcept
+{
+    return Fails(ptk::Misfortune::NothingRuns, ENOEXEC) ? -1 : REAL(execve)(program, arguments, environment);
 }
 }

@@ -7,7 +7,11 @@ enum class Misfortune
 {
     Killed,     // in front of the call, as by kill -9
     KilledHalf, // with half of its bytes written
-    DiskFull    // from there on: what needs room fails
+    DiskFull,   // from there on: what needs room fails
+    // At all calls of one kind, the others are well:
+    FolderUnsafe, // folders cannot be flushed
+    NoLocks,      // files cannot be locked
+    NothingRuns   // programs cannot be run
 };
 
 // From now on, in this process: at the call of this number, from 1.
