@@ -1,6 +1,7 @@
 #include "reports/forms/PdfRenderer.h"
 
 #include "platform/Failure.h"
+#include "platform/system/Clock.h"
 #include "reports/forms/CellText.h"
 #include "reports/forms/PageDrawing.h"
 #include "reports/forms/PageLayout.h"
@@ -100,8 +101,9 @@ int Take(void* taker, const unsigned char* bytes, unsigned length) noexcept
 
 } // namespace
 
-std::string PdfOf(std::span<const ReportDocument> documents, PaperSize size, DateTime made)
+std::string PdfOf(std::span<const ReportDocument> documents, PaperSize size, DateTime now)
 {
+    const DateTime made = ReproducibleMoment().value_or(now);
     static const PtkDrawPages draw = LoadDrawing();
     const auto widest = std::max_element(documents.begin(), documents.end(), [](const ReportDocument& left, const ReportDocument& right) {
         return left.columns < right.columns;

@@ -129,6 +129,10 @@ TEST_F(PdfRendererTest, IsMadeOfItsDocumentsAndTheMomentAlone)
     EXPECT_NE(letter.find("CreationDate:    Thu Mar 20 09:30:00 2003"), std::string::npos) << letter;
     EXPECT_NE(letter.find("612 x 792 pts (letter)"), std::string::npos) << letter;
     EXPECT_NE(PagesOf(Pdf(*card, PaperSize::A4), folder, "pdfinfo").front().find("(A4)"), std::string::npos);
+    ::setenv("SOURCE_DATE_EPOCH", "1047940200", 1);
+    const std::string reproducible = PagesOf(Pdf(*card), folder, "pdfinfo").front();
+    ::unsetenv("SOURCE_DATE_EPOCH");
+    EXPECT_NE(reproducible.find("CreationDate:    Mon Mar 17 22:30:00 2003"), std::string::npos) << reproducible;
 
     const auto other = New(ReportKind::TimeCard);
     ASSERT_TRUE(other->Generate(Of({zorn})));
