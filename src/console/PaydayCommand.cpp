@@ -61,13 +61,13 @@ int ChangePayday(const PaydayArguments& arguments, Console& console)
 
 void Deliver(const PaydayArguments& arguments, const PaydayAccount& account, Console& console)
 {
-    const std::string bytes = AccountIn(arguments.form, account);
+    const std::string bytes = arguments.output ? AccountFile(arguments.form, account) : AccountIn(arguments.form, account);
     if (!arguments.output) {
         console.out << (arguments.form == ReportForm::Pdf ? bytes : TerminalText(bytes));
         return;
     }
     try {
-        PutFile(*arguments.output, arguments.form == ReportForm::Csv ? std::string(kByteOrderMark) + bytes : bytes);
+        PutFile(*arguments.output, bytes);
     } catch (const Failure& reason) {
         throw FileFailure(reason, *arguments.output);
     }

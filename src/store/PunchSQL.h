@@ -54,6 +54,11 @@ inline constexpr auto kOne = "EmployeeID = :employee";
                        words.readablePunch);
 }
 
+// Which employees have records that start between two moments, both included.
+inline constexpr auto kWithStartsIn =
+    "SELECT EmployeeID FROM Employee WHERE EXISTS (SELECT 1 FROM TimeRecord WHERE TimeRecord.EmployeeID = "
+    "Employee.EmployeeID AND StartTime BETWEEN :first AND :last)";
+
 // The EmployeeIDs, known or not, that have records which start between two moments, both included, or are among those that such a search
 // passes over; a null where there are records that name nobody. From one number to the next by the index TimeRecordPeriod.
 [[nodiscard]] inline std::string EmployeesWithRecords(const EngineWords& words)

@@ -27,7 +27,7 @@ FLOORS = {
     "jetreader": [[""]],
     "startup": [[""]],
     "console": [[""], ["main"]],
-    "ui": [["widgets"], ["page"], ["login", "reports"], ["timecards", "people", "overview", "history", "safety", "sheet"], ["frame"]],
+    "ui": [["widgets"], ["page"], ["login", "reports", "payday", "mend"], ["timecards", "people", "overview", "history", "safety", "sheet"], ["frame"]],
     "pages": [[""]],
     "app": [[""]],
 }

@@ -172,7 +172,7 @@ private:
     void Add(const std::string& what, std::vector<RecordChange> changes)
     {
         const auto hours = HoursWith(m_rows, changes);
-        m_offered.push_back({WithHours(what, hours), hours, std::move(changes)});
+        m_offered.push_back({WithHours(what, hours), hours, std::move(changes), what});
     }
 
     const Finding& m_finding;

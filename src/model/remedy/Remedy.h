@@ -33,6 +33,7 @@ struct Remedy
     std::string text;                 // "End at 04:30 PM: the card has 80.30 hours"
     std::optional<std::string> hours; // regular and overtime of the card together; none where it cannot be computed even then
     std::vector<RecordChange> changes;
+    std::string what; // "End at 04:30 PM": the text without the hours
 
     [[nodiscard]] bool Deletes() const;
 };

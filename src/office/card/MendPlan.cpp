@@ -1,9 +1,11 @@
 #include "office/card/MendPlan.h"
 
 #include "model/CEmployee.h"
+#include "model/remedy/RemedyText.h"
 #include "store/CJetDB.h"
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
 namespace ptk {
@@ -18,6 +20,16 @@ bool Shares(const Remedy& one, const Remedy& other)
     });
 }
 
+// Of those whose cards are read together.
+std::vector<std::int32_t> NextNumbers(const std::vector<std::shared_ptr<CEmployee>>& people, std::size_t first)
+{
+    std::vector<std::int32_t> numbers;
+    for (std::size_t i = first; i < std::min(first + PunchReader::kAtOnce, people.size()); ++i) {
+        numbers.push_back(people[i]->EmployeeID());
+    }
+    return numbers;
+}
+
 } // namespace
 
 MendPlan::MendPlan(const std::shared_ptr<CJetDB>& database, const CheckTerms& terms, std::vector<std::shared_ptr<CEmployee>> people,
@@ -26,7 +38,11 @@ MendPlan::MendPlan(const std::shared_ptr<CJetDB>& database, const CheckTerms& te
 {
     const CJetDB::Hold hold(database);
     CardChecker checker(database, terms);
-    for (std::shared_ptr<CEmployee>& employee : people) {
+    for (std::size_t i = 0; i < people.size(); ++i) {
+        if (i % PunchReader::kAtOnce == 0) {
+            checker.ReadAhead(NextNumbers(people, i));
+        }
+        std::shared_ptr<CEmployee>& employee = people[i];
         const CardCheck check = checker.Check(*employee);
         const auto remedies = checker.Remedies(*employee, check, autoShiftEnd);
         Add({std::move(employee), checker.Rows(), check}, remedies);
@@ -69,9 +85,33 @@ bool MendPlan::HasEnd(std::size_t line) const
     return remedy && remedy->changes.size() == 1 && !remedy->Deletes();
 }
 
-void MendPlan::End(std::size_t line, DateTime end)
+void MendPlan::EndAt(std::size_t line, DateTime timeOfDay)
 {
-    m_lines.at(line).remedy.value().changes.front().end = end;
+    Remedy& remedy = m_lines.at(line).remedy.value();
+    RecordChange& change = remedy.changes.front();
+    const std::int64_t second = timeOfDay.Seconds() - timeOfDay.DayNumber() * DateTime::kSecondsPerDay;
+    const DateTime sameDay = DateTime::FromSeconds(change.start.DayNumber() * DateTime::kSecondsPerDay + second);
+    change.end = sameDay > change.start ? sameDay : sameDay.AddDays(1);
+    Punch shift;
+    shift.start = change.start;
+    remedy.what = EndAtText(shift, change.end);
+    Tick(line, true);
+}
+
+std::size_t MendPlan::Ticked() const
+{
+    return static_cast<std::size_t>(std::count_if(m_lines.begin(), m_lines.end(), [](const MendLine& line) { return line.ticked; }));
+}
+
+std::size_t MendPlan::PeopleTicked() const
+{
+    std::set<std::size_t> cards;
+    for (const MendLine& line : m_lines) {
+        if (line.ticked) {
+            cards.insert(line.card);
+        }
+    }
+    return cards.size();
 }
 
 std::vector<RecordChange> MendPlan::TickedOf(std::size_t card) const

@@ -24,7 +24,8 @@ struct MendLine
 class MendPlan
 {
 public:
-    // Reads the cards of these people, all of one moment, until `goOn` answers false; it is asked after each card. Ticked is what has a
+    // Reads the cards of these people, all of one moment, until `goOn` answers false; it is asked after each card. Of a server many cards
+    // are asked for at once. Ticked is what has a
     // remedy that deletes nothing, of several for one record the first. autoShiftEnd: see ShiftEnds. Raises what reading the database
     // raises. REQUIRES: nothing is nullptr.
     MendPlan(const std::shared_ptr<CJetDB>& database, const CheckTerms& terms, std::vector<std::shared_ptr<CEmployee>> people,
@@ -41,8 +42,16 @@ public:
     // Whether the remedy does no more than end a shift, so that the end can be another one.
     [[nodiscard]] bool HasEnd(std::size_t line) const;
 
-    // The end of the shift instead of the one that was offered. REQUIRES: HasEnd.
-    void End(std::size_t line, DateTime end);
+    // The end of the shift instead of the one that was offered: the first moment of that time of day after its start. Ticks the line.
+    // REQUIRES: HasEnd.
+    void EndAt(std::size_t line, DateTime timeOfDay);
+
+    // REQUIRES: HasEnd.
+    [[nodiscard]] DateTime EndOf(std::size_t line) const { return m_lines.at(line).remedy.value().changes.front().end; }
+
+    // Of all lines, and of how many people.
+    [[nodiscard]] std::size_t Ticked() const;
+    [[nodiscard]] std::size_t PeopleTicked() const;
 
     // The shown hours of the person's card, now and with all that is ticked; none where it cannot be computed.
     [[nodiscard]] std::optional<std::string> HoursBefore(const MendLine& line) const;

@@ -7,6 +7,7 @@
 #include "store/PunchSQL.h"
 
 #include <algorithm>
+#include <iterator>
 #include <map>
 #include <set>
 
@@ -53,11 +54,13 @@ LeftOutReason ReasonFor(const CEmployee& employee)
 }
 
 // Nobody's card: the records are counted, and no more.
-std::int32_t RecordsOf(CJetDB& database, const Overview& overview, const std::optional<std::int64_t>& id)
+LeftOut Unknown(CJetDB& database, const Overview& overview, const std::optional<std::int64_t>& id)
 {
     const Punches punches = PunchReader(database, overview.period, overview.limits.firstWeekday).ReadOfNobody(database, id);
-    return static_cast<std::int32_t>(
+    LeftOut unknown{LeftOutReason::Unknown, id, {}};
+    unknown.row.records = static_cast<std::int32_t>(
         std::count_if(punches.begin(), punches.end(), [&](const Punch& punch) { return LiesIn(overview.period, punch); }));
+    return unknown;
 }
 
 bool HasRecords(const Found& found, std::int64_t id)
@@ -105,26 +108,44 @@ bool LeftOut::IsOwed() const
     return !row.paid || row.check.changed;
 }
 
-void ReadLeftOut(Overview& overview, const std::shared_ptr<CJetDB>& database, CEmployeeList& all, const Employees& listed)
+LeftOutSearch FindLeftOut(const Overview& overview, const std::shared_ptr<CJetDB>& database, CEmployeeList& all, const Employees& listed)
 {
     const CJetDB::Hold hold(database);
     RequireOpen(*database);
     const Found found = WithRecords(*database, overview.period);
     Numbers known;
     std::for_each(listed.begin(), listed.end(), [&](const auto& employee) { known.insert(employee->EmployeeID()); });
-    const Employees others = Others(AllOf(all), found, known);
-    if (!others.empty()) {
-        CardChecker checker(database, TermsOf(overview));
-        for (const auto& employee : others) {
-            Take(overview, {ReasonFor(*employee), employee->EmployeeID(), RowOf(overview, checker, employee)});
+    LeftOutSearch search{Others(AllOf(all), found, known), {}, 0};
+    std::copy_if(found.begin(), found.end(), std::back_inserter(search.unknown),
+                 [&](const auto& id) { return !id || !known.contains(*id); });
+    return search;
+}
+
+void ReadLeftOut(Overview& overview, const std::shared_ptr<CJetDB>& database, LeftOutSearch& search, const std::function<bool()>& goOn)
+{
+    const CJetDB::Hold hold(database);
+    CardChecker checker(database, TermsOf(overview));
+    const std::span<const std::shared_ptr<CEmployee>> known(search.known);
+    const std::size_t first = search.done;
+    for (bool more = !search.IsDone(); more; more = !search.IsDone() && goOn()) {
+        const std::size_t at = search.done++;
+        if (at >= known.size()) {
+            Take(overview, Unknown(*database, overview, search.unknown[at - known.size()]));
+            continue;
         }
+        if ((at - first) % PunchReader::kAtOnce == 0) {
+            checker.ReadAhead(NumbersOf(known.subspan(at, std::min(PunchReader::kAtOnce, known.size() - at))));
+        }
+        Take(overview, {ReasonFor(*known[at]), known[at]->EmployeeID(), RowOf(overview, checker, known[at])});
     }
-    for (const auto& id : found) {
-        if (!id || !known.contains(*id)) {
-            LeftOut unknown{LeftOutReason::Unknown, id, {}};
-            unknown.row.records = RecordsOf(*database, overview, id);
-            Take(overview, std::move(unknown));
-        }
+}
+
+void ReadLeftOut(Overview& overview, const std::shared_ptr<CJetDB>& database, CEmployeeList& all, const Employees& listed)
+{
+    const CJetDB::Hold hold(database);
+    LeftOutSearch search = FindLeftOut(overview, database, all, listed);
+    if (!search.IsDone()) {
+        ReadLeftOut(overview, database, search, [] { return true; });
     }
 }
 

@@ -79,6 +79,16 @@ struct OverviewTotals
 
 using Employees = std::vector<std::shared_ptr<CEmployee>>;
 
+// Who may have been left out and is still to be looked at.
+struct LeftOutSearch
+{
+    Employees known;                                  // in the order of the list
+    std::vector<std::optional<std::int64_t>> unknown; // EmployeeIDs; none for records that name nobody
+    std::size_t done = 0;                             // of the known, then of the unknown
+
+    [[nodiscard]] bool IsDone() const { return done == known.size() + unknown.size(); }
+};
+
 // Those with hours to show, in the list's order; namesakes each.
 [[nodiscard]] Employees OfferedEmployees(CEmployeeList& employees);
 
@@ -91,7 +101,14 @@ using RowTaken = std::function<bool(const OverviewRow& row)>;
 bool ReadOverview(Overview& overview, const std::shared_ptr<CJetDB>& database, std::span<const std::shared_ptr<CEmployee>> employees,
                   const RowTaken& taken = {});
 
-// Reads, of one moment, who has records in the period and is none of `listed`, of all employees in their order. Raises the same.
+// Finds who may have records in the period and is none of `listed`, of all employees in their order. Raises the same, as the next two.
+[[nodiscard]] LeftOutSearch FindLeftOut(const Overview& overview, const std::shared_ptr<CJetDB>& database, CEmployeeList& all,
+                                        const Employees& listed);
+
+// Looks at one after the other until `goOn` answers false, at least at one; who has records in the period is left out.
+void ReadLeftOut(Overview& overview, const std::shared_ptr<CJetDB>& database, LeftOutSearch& search, const std::function<bool()>& goOn);
+
+// Both, of one moment.
 void ReadLeftOut(Overview& overview, const std::shared_ptr<CJetDB>& database, CEmployeeList& all, const Employees& listed);
 
 // Puts those who were left out, save the unknown, among the rows in the order of the list.

@@ -4,11 +4,16 @@
 #include "office/card/CardChecker.h"
 #include "office/overview/Overview.h"
 
+#include <cstdint>
 #include <memory>
+#include <span>
+#include <vector>
 
 namespace ptk {
 
 [[nodiscard]] CheckTerms TermsOf(const Overview& overview);
+
+[[nodiscard]] std::vector<std::int32_t> NumbersOf(std::span<const std::shared_ptr<CEmployee>> employees);
 
 // Raises what reading the database raises. REQUIRES: not nullptr.
 [[nodiscard]] OverviewRow RowOf(const Overview& overview, CardChecker& checker, const std::shared_ptr<CEmployee>& employee);

@@ -15,6 +15,8 @@ namespace {
 constexpr auto kNotReadable = "not readable";
 constexpr auto kYes = "yes";
 constexpr auto kPaidDay = "mm/dd/yyyy";
+constexpr auto kOneLeftOut = "{} with records in these days is in no list: {}";
+constexpr auto kSeveralLeftOut = "{} with records in these days are in no list: {}";
 constexpr auto kMoment = "mm/dd/yyyy hh:mm AM/PM";
 
 // A name is one line here, whatever stands in the database.
@@ -84,6 +86,39 @@ OverviewCells CellsOf(const OverviewRow& row)
             row.check.clockedIn ? kYes : "",
             PaidText(row),
             ChangedText(row)};
+}
+
+std::string LeftOutName(const LeftOut& out)
+{
+    const std::string unknown = out.id ? fmt::format("EmployeeID {}", *out.id) : "No EmployeeID";
+    return fmt::format("{} ({})", out.row.employee != nullptr ? OneLine(out.row.employee->DisplayName()) : unknown, NameOf(out.reason));
+}
+
+OverviewCells CellsOf(const LeftOut& out)
+{
+    OverviewCells cells;
+    if (out.row.employee != nullptr) {
+        cells = CellsOf(out.row);
+    } else {
+        cells.at(static_cast<std::size_t>(OverviewColumn::Gross)) = CountText(out.row.records, "record");
+    }
+    cells.front() = LeftOutName(out);
+    return cells;
+}
+
+std::string LeftOutNews(std::span<const LeftOut> leftOut)
+{
+    std::string names;
+    for (const LeftOut& out : leftOut) {
+        names += (names.empty() ? "" : ", ") + LeftOutName(out);
+    }
+    const char* sentence = leftOut.size() == 1 ? kOneLeftOut : kSeveralLeftOut;
+    return leftOut.empty() ? std::string() : fmt::format(fmt::runtime(sentence), leftOut.size(), names);
+}
+
+bool CanTakeIn(std::span<const LeftOut> leftOut)
+{
+    return std::any_of(leftOut.begin(), leftOut.end(), [](const LeftOut& out) { return out.reason != LeftOutReason::Unknown; });
 }
 
 OverviewCells TotalCells(const std::vector<OverviewRow>& rows, bool onlyProblems)

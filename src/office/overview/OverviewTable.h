@@ -35,6 +35,19 @@ using OverviewCells = std::array<std::string, kOverviewColumns>; // by OverviewC
 // Without figures "not readable" stands in place of the gross pay. Paid is the day, changed the pay that is owed, or paid too much.
 [[nodiscard]] OverviewCells CellsOf(const OverviewRow& row);
 
+// Of somebody left out: "Peter Lindqvist (inactive)"; of an unknown one "EmployeeID 77 (unknown)", of records that name nobody at all
+// "No EmployeeID (unknown)".
+[[nodiscard]] std::string LeftOutName(const LeftOut& out);
+
+// With that name, and of an unknown one the number of records in place of the figures.
+[[nodiscard]] OverviewCells CellsOf(const LeftOut& out);
+
+// "2 with records in these days are in no list: Peter Lindqvist (inactive), EmployeeID 77 (unknown)"; empty where there is nobody.
+[[nodiscard]] std::string LeftOutNews(std::span<const LeftOut> leftOut);
+
+// Whether there is anybody whom TakeInLeftOut would take in.
+[[nodiscard]] bool CanTakeIn(std::span<const LeftOut> leftOut);
+
 // Of the rows that are shown, all or those with problems alone, and how many they are: "Total (3 of 11)".
 [[nodiscard]] OverviewCells TotalCells(const std::vector<OverviewRow>& rows, bool onlyProblems);
 
@@ -60,8 +73,8 @@ using OverviewCells = std::array<std::string, kOverviewColumns>; // by OverviewC
 // "Reading: 120 of 1000 employees".
 [[nodiscard]] std::string ReadingText(std::size_t read, std::size_t offered);
 
-// The period that the overview opens with: the one of the Timecards page, where it holds one, unless that only begins today, as it does
-// when the program starts; then the running pay period. Raises Failure 6 when that leaves the calendar.
+// The period that the overview opens with where nothing was closed yet: the one of the Timecards page, where it holds one, unless that only
+// begins today, as it does when the program starts; then the running pay period. Raises Failure 6 when that leaves the calendar.
 [[nodiscard]] PayPeriod OverviewPeriod(const std::optional<PayPeriod>& timecards, DateTime today, std::int16_t periodLength);
 
 } // namespace ptk

@@ -117,18 +117,10 @@ std::vector<std::string> Sentences(const CardCheck& check, bool showNotices, con
     return sentences;
 }
 
-std::string NameOf(const LeftOut& out)
-{
-    if (out.row.employee != nullptr) {
-        return out.row.employee->DisplayName();
-    }
-    return out.id ? fmt::format("EmployeeID {}", *out.id) : "No EmployeeID";
-}
-
 // "    Peter Lindqvist (inactive): 3 records, 24.00 regular and 0.00 overtime hours, 480.00; not paid"
 std::string LineOf(const LeftOut& out)
 {
-    std::string line = fmt::format("    {} ({}): {}", NameOf(out), NameOf(out.reason), CountText(out.row.records, "record"));
+    std::string line = fmt::format("    {}: {}", LeftOutName(out), CountText(out.row.records, "record"));
     if (out.row.figures) {
         const CardFigures& figures = *out.row.figures;
         line += fmt::format(", {} regular and {} overtime hours, {}", figures.regular, figures.overtime, figures.gross);

@@ -16,7 +16,7 @@ namespace {
 
 // In the order of the persons; those whom nobody knows have none.
 std::vector<std::optional<CardFigures>> PresentFigures(const std::shared_ptr<CJetDB>& database, const PayPeriod& period, DateTime now,
-                                                       const std::vector<PaydayPerson>& persons)
+                                                       const std::vector<PaydayPerson>& persons, const PaydayGoesOn& goesOn)
 {
     Employees employees;
     for (const PaydayPerson& person : persons) {
@@ -28,7 +28,10 @@ std::vector<std::optional<CardFigures>> PresentFigures(const std::shared_ptr<CJe
     overview.period = period;
     overview.made = now;
     overview.limits = LoadCheckLimits(database);
-    ReadOverview(overview, database, employees);
+    ReadOverview(overview, database, employees, [&](const OverviewRow&) {
+        AskWhetherToGoOn(goesOn, overview.rows.size(), 2 * employees.size());
+        return true;
+    });
     std::vector<std::optional<CardFigures>> figures;
     for (const OverviewRow& row : overview.rows) {
         figures.push_back(row.figures);
@@ -53,13 +56,13 @@ bool PaydayAccount::IsAnybodyChanged() const
     return std::any_of(persons.begin(), persons.end(), [](const AccountPerson& person) { return person.changed.has_value(); });
 }
 
-PaydayAccount ReadPaydayAccount(const std::shared_ptr<CJetDB>& database, const PayPeriod& period, DateTime now)
+PaydayAccount ReadPaydayAccount(const std::shared_ptr<CJetDB>& database, const PayPeriod& period, DateTime now, const PaydayGoesOn& goesOn)
 {
     const CJetDB::Hold hold(database);
     const auto employees = PresentEmployees(database);
     const Closings closings = ReadClosings(database, period);
     const auto persons = PersonsWithClosings(*employees, closings, true);
-    const auto figures = PresentFigures(database, period, now, persons);
+    const auto figures = PresentFigures(database, period, now, persons, goesOn);
     EmployeeNames names(database);
     PaydayAccount account{period, now, {}};
     for (std::size_t i = 0; i < persons.size(); ++i) {
@@ -70,6 +73,7 @@ PaydayAccount ReadPaydayAccount(const std::shared_ptr<CJetDB>& database, const P
             person.changed = DifferenceOf(person.paid.back(), person.now);
             person.changes = ChangesSince(database, person.paid.front(), names);
         }
+        AskWhetherToGoOn(goesOn, persons.size() + i, 2 * persons.size());
     }
     return account;
 }

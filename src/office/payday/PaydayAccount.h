@@ -42,9 +42,19 @@ struct PaydayAccount
 };
 
 // All of one moment. Raises the failure of a database that cannot be opened or read. REQUIRES: database is not nullptr.
-[[nodiscard]] PaydayAccount ReadPaydayAccount(const std::shared_ptr<CJetDB>& database, const PayPeriod& period, DateTime now);
+[[nodiscard]] PaydayAccount ReadPaydayAccount(const std::shared_ptr<CJetDB>& database, const PayPeriod& period, DateTime now,
+                                              const PaydayGoesOn& goesOn = {});
+
+// What is told below a person's name: what was paid, oldest first, what the card says now, the difference, and the changes.
+[[nodiscard]] std::vector<std::string> LinesOf(const AccountPerson& person);
 
 // In the forms that docs/payday-format.md describes, with CR LF; CSV without a byte order mark. Raises what making pages raises.
 [[nodiscard]] std::string AccountIn(ReportForm form, const PaydayAccount& account);
+
+// The same as the bytes of a file: CSV with a byte order mark.
+[[nodiscard]] std::string AccountFile(ReportForm form, const PaydayAccount& account);
+
+// "PTK payday 2003-03-01", the period's first day, without an ending.
+[[nodiscard]] std::string AccountFileName(const PayPeriod& period);
 
 } // namespace ptk

@@ -2,8 +2,8 @@
 
 #include "model/CEmployeeList.h"
 #include "model/payday/ClosingReader.h"
+#include "office/card/CardTexts.h"
 #include "office/overview/Overview.h"
-#include "office/payday/PaydayPersons.h"
 #include "platform/ErrorNumbers.h"
 #include "platform/Failure.h"
 #include "store/CJetDB.h"
@@ -16,6 +16,7 @@
 #include <fmt/format.h>
 #include <fmt/ranges.h>
 #include <span>
+#include <utility>
 
 namespace ptk {
 
@@ -25,12 +26,20 @@ constexpr auto kClosed = "closed {}: {} + {} hours, {}";
 constexpr auto kPaidAlready = "paid already {}";
 constexpr auto kNotClosed = "not closed {}: {} problems";
 constexpr auto kReopened = "reopened {}";
+constexpr std::pair<PaydayDeed, const char*> kCounts[] = {{PaydayDeed::Closed, "{} closed"},
+                                                          {PaydayDeed::PaidAlready, "{} paid already"},
+                                                          {PaydayDeed::Reopened, "{} reopened"},
+                                                          {PaydayDeed::NotClosed, "{} not closed: "}};
+
+constexpr auto kNoCard = "the time card of {} cannot be computed";
+constexpr auto kGone = "there is no employee {} any more";
 
 constexpr const char* kTables[] = {"TimeRecord", "Employee", "_Payday"}; // that what is stored depends on
 constexpr const char* kInsert =
     "INSERT INTO _Payday (EmployeeID, FromDay, ToDay, PaidAt, PaidBy, Regular, Overtime, Gross, Entry) VALUES {}";
 constexpr const char* kNewest = "SELECT COALESCE(MAX(ChangeID), 0) FROM _Change";
 constexpr std::size_t kRowsAtOnce = 200; // of one statement
+constexpr std::size_t kMostNames = 20;   // in one line of text
 
 // A card without figures has a problem in any case.
 std::int32_t ProblemsOf(const OverviewRow& row)
@@ -42,8 +51,8 @@ std::int32_t ProblemsOf(const OverviewRow& row)
 class PaydayStep
 {
 public:
-    PaydayStep(Engine& engine, const std::shared_ptr<CJetDB>& database, const PaydayOrder& order)
-        : m_engine(engine), m_database(database), m_order(order)
+    PaydayStep(Engine& engine, const std::shared_ptr<CJetDB>& database, const PaydayOrder& order, const PaydayGoesOn& goesOn)
+        : m_engine(engine), m_database(database), m_order(order), m_goesOn(goesOn)
     {
         for (const char* table : kTables) {
             if (const std::string lock = Said(engine.Words().lockTable, table); !lock.empty()) {
@@ -59,7 +68,11 @@ public:
         overview.period = m_order.period;
         overview.made = m_order.now;
         overview.limits = LoadCheckLimits(m_database);
-        ReadOverview(overview, m_database, m_order.employees.empty() ? OfferedEmployees(*m_employees) : Chosen());
+        const Employees people = m_order.employees.empty() ? Listed() : Chosen();
+        ReadOverview(overview, m_database, people, [&](const OverviewRow&) {
+            AskWhetherToGoOn(m_goesOn, overview.rows.size(), people.size());
+            return true;
+        });
         m_newest = m_engine.Prepare(kNewest)->ReadRows()->Int64At(0);
         std::vector<PaydayLine> lines;
         for (const OverviewRow& row : overview.rows) {
@@ -88,6 +101,21 @@ public:
     }
 
 private:
+    // Also who was taken in.
+    Employees Listed() const
+    {
+        Employees listed;
+        for (std::int32_t i = 1; i <= m_employees->Count(); ++i) {
+            const auto employee = m_employees->Item(i);
+            if (employee != nullptr && (employee->OfferedOnTimeCards() || IsTakenIn(employee->EmployeeID()))) {
+                listed.push_back(employee);
+            }
+        }
+        return listed;
+    }
+
+    bool IsTakenIn(std::int32_t id) const { return std::find(m_order.takenIn.begin(), m_order.takenIn.end(), id) != m_order.takenIn.end(); }
+
     // Each once.
     Employees Chosen() const
     {
@@ -143,6 +171,7 @@ private:
     Engine& m_engine;
     const std::shared_ptr<CJetDB>& m_database;
     const PaydayOrder& m_order;
+    const PaydayGoesOn& m_goesOn;
     std::shared_ptr<CEmployeeList> m_employees;
     std::int64_t m_newest = 0;         // entry of the trail before this step
     std::vector<std::string> m_values; // of the rows to be stored
@@ -150,14 +179,27 @@ private:
 
 // May run more than once, the last time with effect.
 std::vector<PaydayLine> Store(const std::shared_ptr<CJetDB>& database, const PaydayOrder& order,
-                              std::vector<PaydayLine> (PaydayStep::*deed)())
+                              std::vector<PaydayLine> (PaydayStep::*deed)(), const PaydayGoesOn& goesOn = {})
 {
     std::vector<PaydayLine> lines;
     const CJetDB::Hold hold(database);
-    if (!database->ExecuteSteps([&](Engine& engine) { lines = (PaydayStep(engine, database, order).*deed)(); })) {
+    if (!database->ExecuteSteps([&](Engine& engine) { lines = (PaydayStep(engine, database, order, goesOn).*deed)(); })) {
         throw Failure(database->LastFailure());
     }
     return lines;
+}
+
+// "Bo Kim (1 problem), Ann Lee (2 problems) and 17 more"
+std::string NotClosed(const std::vector<PaydayLine>& lines)
+{
+    std::string names;
+    std::size_t count = 0;
+    for (const PaydayLine& line : lines) {
+        if (line.deed == PaydayDeed::NotClosed && ++count <= kMostNames) {
+            names += (names.empty() ? "" : ", ") + fmt::format("{} ({})", line.name, CountText(line.problems, "problem"));
+        }
+    }
+    return count > kMostNames ? names + fmt::format(" and {} more", count - kMostNames) : names;
 }
 
 } // namespace
@@ -176,9 +218,33 @@ std::string TextOf(const PaydayLine& line)
     }
 }
 
-std::vector<PaydayLine> ClosePayday(const std::shared_ptr<CJetDB>& database, const PaydayOrder& order)
+std::string NewsOf(const std::vector<PaydayLine>& lines)
 {
-    return Store(database, order, &PaydayStep::Close);
+    std::string news;
+    for (const auto& [deed, words] : kCounts) {
+        const auto count = std::count_if(lines.begin(), lines.end(), [&](const PaydayLine& line) { return line.deed == deed; });
+        if (count != 0) {
+            news += (news.empty() ? "" : ", ") + fmt::format(fmt::runtime(words), count);
+        }
+    }
+    return news + NotClosed(lines);
+}
+
+std::string PaydayRefusal(const Failure& failure)
+{
+    switch (failure.Number()) {
+    case timecard::NoRecords:
+        return fmt::format(kNoCard, failure.Description());
+    case timecard::NoEmployee:
+        return fmt::format(kGone, failure.Description());
+    default:
+        return failure.Description();
+    }
+}
+
+std::vector<PaydayLine> ClosePayday(const std::shared_ptr<CJetDB>& database, const PaydayOrder& order, const PaydayGoesOn& goesOn)
+{
+    return Store(database, order, &PaydayStep::Close, goesOn);
 }
 
 std::vector<PaydayLine> ReopenPayday(const std::shared_ptr<CJetDB>& database, const PaydayOrder& order)

@@ -149,8 +149,49 @@ std::string ChangedLine(const PaidDifference& changed)
                 : kUntellable;
 }
 
-// Below the name.
-std::vector<std::string> PersonLines(const AccountPerson& person)
+std::string TitleOf(const PaydayAccount& account)
+{
+    const auto day = [](DateTime date) { return FormatDateTime(date, "mm/dd/yyyy"); };
+    return fmt::format("{} {} - {}", kTitle, day(account.period.from), day(account.period.to));
+}
+
+std::string AccountText(const PaydayAccount& account)
+{
+    std::string text = fmt::format("{}, made {}\r\n", TitleOf(account), FormatDateTime(account.made, "mm/dd/yyyy hh:mm AM/PM"));
+    for (const AccountPerson& person : account.persons) {
+        text += kLineEnd + NameOf(person.person) + kLineEnd;
+        for (const std::string& line : LinesOf(person)) {
+            text += "    " + line + kLineEnd;
+        }
+    }
+    return account.persons.empty() ? text + kLineEnd + kNobody + kLineEnd : text;
+}
+
+ReportDocument AccountDocument(const PaydayAccount& account)
+{
+    ReportDocument document{.title = TitleOf(account)};
+    const auto add = [&](std::string line) {
+        document.columns = std::max(document.columns, CharacterCount(line));
+        document.Add(std::move(line));
+    };
+    for (const AccountPerson& person : account.persons) {
+        document.BeginGroup();
+        add(NameOf(person.person));
+        for (const std::string& line : LinesOf(person)) {
+            add("    " + line);
+        }
+        add("");
+    }
+    if (account.persons.empty()) {
+        document.BeginGroup();
+        add(kNobody);
+    }
+    return document;
+}
+
+} // namespace
+
+std::vector<std::string> LinesOf(const AccountPerson& person)
 {
     if (person.paid.empty()) {
         return {kNotPaid, NowLine(person)};
@@ -169,48 +210,6 @@ std::vector<std::string> PersonLines(const AccountPerson& person)
     return lines;
 }
 
-std::string TitleOf(const PaydayAccount& account)
-{
-    const auto day = [](DateTime date) { return FormatDateTime(date, "mm/dd/yyyy"); };
-    return fmt::format("{} {} - {}", kTitle, day(account.period.from), day(account.period.to));
-}
-
-std::string AccountText(const PaydayAccount& account)
-{
-    std::string text = fmt::format("{}, made {}\r\n", TitleOf(account), FormatDateTime(account.made, "mm/dd/yyyy hh:mm AM/PM"));
-    for (const AccountPerson& person : account.persons) {
-        text += kLineEnd + NameOf(person.person) + kLineEnd;
-        for (const std::string& line : PersonLines(person)) {
-            text += "    " + line + kLineEnd;
-        }
-    }
-    return account.persons.empty() ? text + kLineEnd + kNobody + kLineEnd : text;
-}
-
-ReportDocument AccountDocument(const PaydayAccount& account)
-{
-    ReportDocument document{.title = TitleOf(account)};
-    const auto add = [&](std::string line) {
-        document.columns = std::max(document.columns, CharacterCount(line));
-        document.Add(std::move(line));
-    };
-    for (const AccountPerson& person : account.persons) {
-        document.BeginGroup();
-        add(NameOf(person.person));
-        for (const std::string& line : PersonLines(person)) {
-            add("    " + line);
-        }
-        add("");
-    }
-    if (account.persons.empty()) {
-        document.BeginGroup();
-        add(kNobody);
-    }
-    return document;
-}
-
-} // namespace
-
 std::string AccountIn(ReportForm form, const PaydayAccount& account)
 {
     switch (form) {
@@ -225,6 +224,16 @@ std::string AccountIn(ReportForm form, const PaydayAccount& account)
     default:
         return AccountText(account);
     }
+}
+
+std::string AccountFile(ReportForm form, const PaydayAccount& account)
+{
+    return (form == ReportForm::Csv ? std::string(kByteOrderMark) : std::string()) + AccountIn(form, account);
+}
+
+std::string AccountFileName(const PayPeriod& period)
+{
+    return "PTK payday " + IsoDay(period.from);
 }
 
 } // namespace ptk

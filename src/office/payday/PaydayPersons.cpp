@@ -10,6 +10,19 @@
 
 namespace ptk {
 
+namespace {
+
+constexpr auto kEnded = "it was cancelled";
+
+} // namespace
+
+void AskWhetherToGoOn(const PaydayGoesOn& goesOn, std::size_t done, std::size_t all)
+{
+    if (goesOn && !goesOn(done, all)) {
+        throw Failure(0, "PTK", kEnded);
+    }
+}
+
 std::string NameOf(const PaydayPerson& person)
 {
     return person.employee == nullptr ? fmt::format("Employee {}", person.id) : person.employee->DisplayName();

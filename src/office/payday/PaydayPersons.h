@@ -3,7 +3,9 @@
 
 #include "model/payday/Closing.h"
 
+#include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -19,6 +21,12 @@ struct PaydayPerson
     std::int64_t id = 0;
     std::shared_ptr<CEmployee> employee; // nullptr: there is none of that number
 };
+
+// Asked after each person; false ends the work, and what it had begun is given up.
+using PaydayGoesOn = std::function<bool(std::size_t done, std::size_t all)>;
+
+// Raises a failure without a number where the work is to end.
+void AskWhetherToGoOn(const PaydayGoesOn& goesOn, std::size_t done, std::size_t all);
 
 // The display name; "Employee 77" of nobody who is known.
 [[nodiscard]] std::string NameOf(const PaydayPerson& person);

@@ -15,7 +15,7 @@ namespace {
 constexpr auto kSaved = "Saved as {}.";
 constexpr auto kNotSaved = "Not saved: {}.";
 
-constexpr ReportForm kForms[] = {ReportForm::Pdf, ReportForm::Csv, ReportForm::Text};
+constexpr ReportForm kForms[] = {ReportForm::Pdf, ReportForm::Csv, ReportForm::Text, ReportForm::Json};
 
 const char* NameOf(ReportForm form)
 {
@@ -36,6 +36,11 @@ const char* NameOf(ReportForm form)
 
 std::span<const ReportForm> SavedForms()
 {
+    return std::span(kForms).first(std::size(kForms) - 1);
+}
+
+std::span<const ReportForm> AllForms()
+{
     return kForms;
 }
 
@@ -44,11 +49,11 @@ std::string FilterOf(ReportForm form)
     return fmt::format("{} (*{})", NameOf(form), EndingOf(form));
 }
 
-ReportForm FormOfName(const std::string& path, ReportForm chosen)
+ReportForm FormOfName(const std::string& path, ReportForm chosen, std::span<const ReportForm> forms)
 {
     const std::string name = LowerCase(path);
-    const auto* named = std::find_if(std::begin(kForms), std::end(kForms), [&](ReportForm form) { return name.ends_with(EndingOf(form)); });
-    return named == std::end(kForms) ? chosen : *named;
+    const auto named = std::find_if(forms.begin(), forms.end(), [&](ReportForm form) { return name.ends_with(EndingOf(form)); });
+    return named == forms.end() ? chosen : *named;
 }
 
 SaveOutcome SaveAs(const std::string& path, ReportForm form, const MakeFile& make)

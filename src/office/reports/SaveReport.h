@@ -12,11 +12,14 @@ namespace ptk {
 // The forms in which windows offer to save, the most usual first.
 [[nodiscard]] std::span<const ReportForm> SavedForms();
 
+// With data for other programs behind them.
+[[nodiscard]] std::span<const ReportForm> AllForms();
+
 // The line of a file dialog: "PDF document (*.pdf)".
 [[nodiscard]] std::string FilterOf(ReportForm form);
 
-// By the ending of the name, in any letter case; `chosen` where it says nothing.
-[[nodiscard]] ReportForm FormOfName(const std::string& path, ReportForm chosen);
+// By the ending of the name, in any letter case; `chosen` where it is that of none of these forms.
+[[nodiscard]] ReportForm FormOfName(const std::string& path, ReportForm chosen, std::span<const ReportForm> forms);
 
 // Makes the bytes of a form; may raise.
 using MakeFile = std::function<std::string(ReportForm form)>;

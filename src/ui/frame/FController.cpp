@@ -146,6 +146,7 @@ void FController::ConnectEditMenu()
     m_recordPages = new RecordPages(*this, {*m_ui->TabStrip, *m_ui->pages, *this, isBusy}, places);
     auto* menu = new EditMenu(*m_ui->mnuEdit, {*m_ui->mnuEditUndo, *m_ui->mnuEditRedo}, *this, isBusy);
     connect(menu, &EditMenu::Moved, m_recordPages, &RecordPages::ShowMoved);
+    connect(menu, &EditMenu::Moved, this, [this](const MovedStep&, const QString& done) { m_view->ReadOverviewAgain(done); });
     connect(menu, &EditMenu::Said, this, &FController::Say);
 }
 
@@ -166,6 +167,8 @@ void FController::ConnectViewMenu()
     const ViewMenu::Lines lines{*m_ui->mnuViewOverview, *m_ui->mnuViewNextProblems, *m_ui->mnuViewPreviousProblems, *m_ui->mnuViewHistory};
     m_view = std::make_unique<ViewMenu>(*this, lines, *m_timeCardPage);
     connect(m_view.get(), &ViewMenu::CardWanted, this, &FController::ShowTimeCard);
+    connect(m_view.get(), &ViewMenu::UndoWanted, m_ui->mnuEditUndo, &QAction::trigger);
+    connect(m_view.get(), &ViewMenu::RedoWanted, m_ui->mnuEditRedo, &QAction::trigger);
     connect(m_view.get(), &ViewMenu::Said, this, &FController::Say);
     m_ui->mnuViewHours->setChecked(m_timeCardPage->HoursShown());
     connect(m_ui->mnuViewCardHistory, &QAction::triggered, m_timeCardPage, &TimeCardPage::AskForHistory);

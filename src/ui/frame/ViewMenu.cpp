@@ -26,6 +26,8 @@ void ViewMenu::MakeOverview()
     if (m_overview == nullptr) {
         m_overview = std::make_unique<OverviewWindow>(m_host);
         connect(m_overview.get(), &OverviewWindow::CardWanted, this, &ViewMenu::CardWanted);
+        connect(m_overview.get(), &OverviewWindow::UndoWanted, this, &ViewMenu::UndoWanted);
+        connect(m_overview.get(), &OverviewWindow::RedoWanted, this, &ViewMenu::RedoWanted);
     }
 }
 
@@ -45,10 +47,10 @@ void ViewMenu::ShowNextCard(int direction)
     }
 }
 
-// Of the person who is chosen where the overview is in front, else the whole.
+// Of the person who is chosen where the overview, or its account, is in front, else the whole.
 void ViewMenu::ShowHistoryOfChosen()
 {
-    ShowHistory(m_overview != nullptr && m_overview->isActiveWindow() ? m_overview->ShownHistory() : std::nullopt);
+    ShowHistory(m_overview != nullptr ? m_overview->ShownHistory() : std::nullopt);
 }
 
 void ViewMenu::ShowHistory(const std::optional<HistoryScope>& scope)
@@ -63,6 +65,13 @@ void ViewMenu::SayInOverview(const QString& text)
 {
     if (m_overview != nullptr) {
         m_overview->Say(text);
+    }
+}
+
+void ViewMenu::ReadOverviewAgain(const QString& news)
+{
+    if (m_overview != nullptr) {
+        m_overview->ReadAgain(news);
     }
 }
 

@@ -42,6 +42,9 @@ public:
     // In the overview's line; nothing where it was never opened.
     void SayInOverview(const QString& text);
 
+    // Of what was undone, or done again; nothing where it is not open.
+    void ReadOverviewAgain(const QString& news);
+
     // What they show is not to be seen any more.
     void CloseOverview();
     void CloseHistory();
@@ -49,6 +52,10 @@ public:
 signals:
     // See OverviewWindow.
     void CardWanted(std::int32_t employeeID, const ptk::PayPeriod& period);
+
+    // See OverviewWindow.
+    void UndoWanted();
+    void RedoWanted();
 
     // To be told in the main window.
     void Said(const QString& text);

@@ -68,6 +68,14 @@ void OverviewModel::Show(const std::shared_ptr<const OverviewReading>& reading)
     }
 }
 
+void OverviewModel::ShowAnew(const std::shared_ptr<const OverviewReading>& reading)
+{
+    beginResetModel();
+    m_reading = reading;
+    m_shown = static_cast<int>(Rows().size());
+    endResetModel();
+}
+
 const std::vector<OverviewRow>& OverviewModel::Rows() const
 {
     return m_reading->Result().rows;
@@ -128,35 +136,42 @@ bool SortedOverview::filterAcceptsRow(int row, const QModelIndex&) const
     return !m_onlyProblems || m_rows.Row(row).check.problems > 0;
 }
 
-void OverviewTotalsModel::Show(const OverviewCells& cells)
+void OverviewLinesModel::Show(std::vector<OverviewCells> lines)
 {
-    m_cells = cells;
-    emit dataChanged(index(0, 0), index(0, kColumns - 1));
+    if (lines.size() != m_lines.size()) {
+        beginResetModel();
+        m_lines = std::move(lines);
+        endResetModel();
+    } else if (!lines.empty()) {
+        m_lines = std::move(lines);
+        emit dataChanged(index(0, 0), index(rowCount() - 1, kColumns - 1));
+    }
 }
 
-int OverviewTotalsModel::columnCount(const QModelIndex& parent) const
+int OverviewLinesModel::columnCount(const QModelIndex& parent) const
 {
     return parent.isValid() ? 0 : kColumns;
 }
 
-QVariant OverviewTotalsModel::data(const QModelIndex& index, int role) const
+QVariant OverviewLinesModel::data(const QModelIndex& index, int role) const
 {
     switch (role) {
     case Qt::DisplayRole:
-        return CellText(m_cells, index.column());
+    case Qt::ToolTipRole:
+        return CellText(m_lines.at(static_cast<std::size_t>(index.row())), index.column());
     case Qt::TextAlignmentRole:
         return AlignmentOf(index.column());
     case Qt::FontRole: {
-        QFont bold;
-        bold.setBold(true);
-        return bold;
+        QFont font;
+        font.setBold(m_bold);
+        return font;
     }
     default:
         return {};
     }
 }
 
-QVariant OverviewTotalsModel::headerData(int section, Qt::Orientation orientation, int role) const
+QVariant OverviewLinesModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
     return HeadingOf(section, orientation, role);
 }

@@ -6,6 +6,7 @@
 #include <memory>
 #include <QAbstractTableModel>
 #include <QSortFilterProxyModel>
+#include <vector>
 
 namespace ptk {
 
@@ -21,6 +22,9 @@ public:
 
     // Takes in what has been read since; another reading than before takes the place of its rows.
     void Show(const std::shared_ptr<const OverviewReading>& reading);
+
+    // The same where rows were put between those that were shown.
+    void ShowAnew(const std::shared_ptr<const OverviewReading>& reading);
 
     // REQUIRES: a reading was shown, here and in the next two.
     [[nodiscard]] const OverviewReading& Shown() const { return *m_reading; }
@@ -59,24 +63,24 @@ private:
     bool m_onlyProblems = false;
 };
 
-// The sums below.
-class OverviewTotalsModel final : public QAbstractTableModel
+// What stands below the rows: the sums, or who was left out.
+class OverviewLinesModel final : public QAbstractTableModel
 {
     Q_OBJECT
 
 public:
-    using QAbstractTableModel::QAbstractTableModel;
+    OverviewLinesModel(bool bold, QObject* parent) : QAbstractTableModel(parent), m_bold(bold) {}
 
-    void Show(const OverviewCells& cells);
-    [[nodiscard]] const OverviewCells& Cells() const { return m_cells; }
+    void Show(std::vector<OverviewCells> lines);
 
-    int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : 1; }
+    int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : static_cast<int>(m_lines.size()); }
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
-    OverviewCells m_cells;
+    std::vector<OverviewCells> m_lines;
+    bool m_bold;
 };
 
 } // namespace ptk

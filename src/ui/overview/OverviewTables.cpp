@@ -4,8 +4,10 @@
 #include "ui/overview/OverviewModel.h"
 
 #include <algorithm>
+#include <iterator>
 #include <QEvent>
 #include <QHeaderView>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QTableView>
 
@@ -17,12 +19,13 @@ constexpr int kRowSpace = 8;     // pixels around the text of a row
 constexpr int kColumnSpace = 24; // pixels around a heading: margins and the sorting arrow
 constexpr int kCellSpace = 12;
 constexpr int kNameCharacters = 18;
+constexpr int kMostLeftOut = 3; // lines
 
 } // namespace
 
 OverviewTables::OverviewTables(const Place& place, QObject* parent)
-    : QObject(parent), m_table(place.rows), m_sums(place.totals), m_rows(new OverviewModel(this)), m_sorted(new SortedOverview(*m_rows)),
-      m_totals(new OverviewTotalsModel(this))
+    : QObject(parent), m_table(place.rows), m_sums(place.totals), m_others(place.leftOut), m_rows(new OverviewModel(this)),
+      m_sorted(new SortedOverview(*m_rows)), m_totals(new OverviewLinesModel(true, this)), m_leftOut(new OverviewLinesModel(false, this))
 {
     Prepare();
     Connect();
@@ -32,13 +35,15 @@ void OverviewTables::Prepare()
 {
     m_table.setModel(m_sorted);
     m_sums.setModel(m_totals);
-    for (QTableView* table : {&m_table, &m_sums}) {
+    m_others.setModel(m_leftOut);
+    for (QTableView* table : {&m_table, &m_sums, &m_others}) {
         table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
         table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + kRowSpace);
         table->verticalHeader()->hide();
         table->horizontalHeader()->setHighlightSections(false);
     }
     m_sums.horizontalHeader()->hide();
+    m_others.horizontalHeader()->hide();
     m_sums.setFixedHeight(m_sums.verticalHeader()->defaultSectionSize() + 2 * m_sums.frameWidth());
     m_table.viewport()->installEventFilter(this);
     m_table.sortByColumn(static_cast<int>(OverviewColumn::Problems), Qt::DescendingOrder);
@@ -46,20 +51,36 @@ void OverviewTables::Prepare()
 
 void OverviewTables::Connect()
 {
-    connect(m_table.selectionModel(), &QItemSelectionModel::selectionChanged, this, &OverviewTables::ShownRowChanged);
+    connect(m_table.selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+        TakeChoice();
+        emit ShownRowChanged();
+    });
     connect(m_sorted, &QAbstractItemModel::layoutChanged, this, &OverviewTables::ShownRowChanged);
-    connect(m_table.horizontalHeader(), &QHeaderView::sectionResized, this,
-            [this](int column, int, int width) { m_sums.setColumnWidth(column, width); });
-    connect(m_table.horizontalScrollBar(), &QScrollBar::valueChanged, m_sums.horizontalScrollBar(), &QScrollBar::setValue);
+    connect(m_table.horizontalHeader(), &QHeaderView::sectionResized, this, [this](int column, int, int width) {
+        m_sums.setColumnWidth(column, width);
+        m_others.setColumnWidth(column, width);
+    });
+    for (QTableView* below : {&m_sums, &m_others}) {
+        connect(m_table.horizontalScrollBar(), &QScrollBar::valueChanged, below->horizontalScrollBar(), &QScrollBar::setValue);
+    }
 }
 
 void OverviewTables::Show(const std::shared_ptr<const OverviewReading>& reading)
 {
-    const auto chosen = Chosen();
-    m_rows->Show(reading);
-    KeepChoice(chosen);
+    {
+        const QScopedValueRollback showing(m_showing, true);
+        m_rows->Show(reading);
+        ChooseAgain();
+    }
     ShowTotals();
+    ShowLeftOut();
     emit ShownRowChanged();
+}
+
+void OverviewTables::ShowAnew(const std::shared_ptr<const OverviewReading>& reading)
+{
+    m_rows->ShowAnew(reading);
+    Show(reading);
 }
 
 const OverviewReading* OverviewTables::Shown() const
@@ -83,13 +104,28 @@ const OverviewRow* OverviewTables::ShownRow() const
 {
     const auto chosen = m_table.selectionModel()->selectedRows();
     const int line = chosen.isEmpty() ? 0 : chosen.first().row();
-    return line < m_sorted->rowCount() ? &m_rows->Rows().at(RowAt(line)) : nullptr;
+    return line < m_sorted->rowCount() ? &Row(line) : nullptr;
 }
 
-std::optional<std::int32_t> OverviewTables::Chosen() const
+const OverviewRow& OverviewTables::Row(int line) const
 {
-    const OverviewRow* row = m_table.selectionModel()->hasSelection() ? ShownRow() : nullptr;
-    return row != nullptr ? std::optional(row->employee->EmployeeID()) : std::nullopt;
+    return m_rows->Rows().at(RowAt(line));
+}
+
+std::vector<const OverviewRow*> OverviewTables::ChosenRows() const
+{
+    std::vector<const OverviewRow*> rows;
+    for (int line = 0; line < m_sorted->rowCount() && m_table.selectionModel()->hasSelection(); ++line) {
+        if (m_table.selectionModel()->isRowSelected(line)) {
+            rows.push_back(&Row(line));
+        }
+    }
+    return rows;
+}
+
+void OverviewTables::ChooseNone()
+{
+    m_table.clearSelection();
 }
 
 const OverviewRow* OverviewTables::StepToProblems(std::optional<std::int32_t> employeeID, int direction)
@@ -101,7 +137,9 @@ const OverviewRow* OverviewTables::StepToProblems(std::optional<std::int32_t> em
     for (int line = 0; line < m_sorted->rowCount(); ++line) {
         lines.push_back(RowAt(line));
     }
-    const auto found = ptk::StepToProblems(m_rows->Rows(), lines, employeeID ? employeeID : Chosen(), direction);
+    const OverviewRow* chosen = m_table.selectionModel()->hasSelection() ? ShownRow() : nullptr;
+    const auto from = employeeID || chosen == nullptr ? employeeID : std::optional(chosen->employee->EmployeeID());
+    const auto found = ptk::StepToProblems(m_rows->Rows(), lines, from, direction);
     if (!found) {
         return nullptr;
     }
@@ -109,28 +147,62 @@ const OverviewRow* OverviewTables::StepToProblems(std::optional<std::int32_t> em
     return &m_rows->Rows().at(lines.at(*found));
 }
 
-// Of the reading before: it is chosen again as soon as it is there.
-void OverviewTables::KeepChoice(const std::optional<std::int32_t>& employeeID)
+void OverviewTables::TakeChoice()
 {
-    if (employeeID) {
-        m_kept = employeeID;
-    }
-    if (!m_kept || m_table.selectionModel()->hasSelection()) {
+    if (m_showing) {
         return;
     }
-    for (int line = 0; line < m_sorted->rowCount(); ++line) {
-        if (m_rows->Rows().at(RowAt(line)).employee->EmployeeID() == *m_kept) {
-            return m_table.selectRow(line);
+    m_kept.clear();
+    for (const OverviewRow* row : ChosenRows()) {
+        m_kept.insert(row->employee->EmployeeID());
+    }
+}
+
+// Those of the reading before who have come since.
+void OverviewTables::ChooseAgain()
+{
+    QItemSelectionModel& selection = *m_table.selectionModel();
+    auto missing = static_cast<std::ptrdiff_t>(m_kept.size()) - selection.selectedRows().size();
+    QItemSelection found;
+    for (int line = 0; line < m_sorted->rowCount() && missing > 0; ++line) {
+        if (!m_kept.contains(EmployeeAt(line)) || selection.isRowSelected(line)) {
+            continue;
+        }
+        --missing;
+        const QModelIndex index = m_sorted->index(line, 0);
+        if (!found.isEmpty() && found.last().bottom() == line - 1) {
+            found.last() =
+                QItemSelectionRange(found.last().topLeft(), index); // one range for a run of rows: they are compared pair by pair
+        } else {
+            found.append(QItemSelectionRange(index));
         }
     }
+    if (found.isEmpty()) {
+        return;
+    }
+    selection.select(found, QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    selection.setCurrentIndex(found.first().topLeft(), QItemSelectionModel::NoUpdate);
 }
 
 void OverviewTables::ShowTotals()
 {
     if (m_rows->HasReading()) {
-        m_totals->Show(TotalCells(m_rows->Rows(), m_sorted->OnlyProblems()));
+        m_totals->Show({TotalCells(m_rows->Rows(), m_sorted->OnlyProblems())});
         FitColumns();
     }
+}
+
+// As high as a few of them; the others are scrolled to.
+void OverviewTables::ShowLeftOut()
+{
+    std::vector<OverviewCells> lines;
+    if (m_rows->HasReading()) {
+        const auto& leftOut = m_rows->Shown().Result().leftOut;
+        std::transform(leftOut.begin(), leftOut.end(), std::back_inserter(lines), [](const LeftOut& out) { return CellsOf(out); });
+    }
+    const int shown = std::min(static_cast<int>(lines.size()), kMostLeftOut);
+    m_others.setFixedHeight(shown * m_others.verticalHeader()->defaultSectionSize() + 2 * m_others.frameWidth());
+    m_leftOut->Show(std::move(lines));
 }
 
 // The names take what the figures leave. Headings and sums have to fit; no figure is wider than its sum, or hardly.
@@ -164,7 +236,7 @@ std::vector<OverviewCells> OverviewTables::ChosenCells() const
     std::vector<OverviewCells> lines{OverviewHeading()};
     for (int line = 0; line < m_sorted->rowCount(); ++line) {
         if (!selection.hasSelection() || selection.isRowSelected(line)) {
-            lines.push_back(CellsOf(m_rows->Rows().at(RowAt(line))));
+            lines.push_back(CellsOf(Row(line)));
         }
     }
     return lines;

@@ -1,7 +1,9 @@
 #include "ui/overview/OverviewWindow.h"
 
 #include "model/check/FindingText.h"
+#include "model/payday/ClosingReader.h"
 #include "office/card/CardFindings.h"
+#include "office/card/CardTexts.h"
 #include "office/history/HistoryScope.h"
 #include "office/overview/OverviewReading.h"
 #include "office/overview/OverviewTable.h"
@@ -14,8 +16,11 @@
 #include "startup/CController.h"
 #include "store/CSystemOptions.h"
 #include "ui/overview/OverviewTables.h"
+#include "ui/overview/PaydayActions.h"
 #include "ui/page/ChangeNews.h"
 #include "ui/page/PageHost.h"
+#include "ui/payday/AccountWindow.h"
+#include "ui/payday/FPaydayLines.h"
 #include "ui/widgets/ButtonRow.h"
 #include "ui/widgets/FoldingRow.h"
 #include "ui/widgets/SaveDialog.h"
@@ -28,6 +33,7 @@
 #include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QLineEdit>
+#include <QMenu>
 #include <QShortcut>
 
 namespace ptk {
@@ -47,8 +53,23 @@ constexpr auto kNotYetRead = "Read the payday overview first (F9)";
 constexpr auto kNobodyBehind = "Nobody behind has problems in the payday overview";
 constexpr auto kNobodyBefore = "Nobody before has problems in the payday overview";
 
+constexpr auto kClosePayday = "Close Pa&yday (%1)";
+constexpr auto kAll = "all";
+constexpr auto kChosen = "%1 chosen";
+constexpr auto kCloseAllTip = "Keep what everybody without problems is paid for this period; choose people to close theirs alone";
+constexpr auto kCloseTip = "Keep what the chosen ones are paid for this period; Ctrl+Shift+A chooses nobody";
+constexpr auto kMendTip = "All that was found on the cards of %1, with what can be done about it";
+constexpr auto kMoreTip = "For %1: take a closed payday back, add a shift. For the period: the account";
+constexpr auto kEverybody = "everybody";
+constexpr auto kTheChosen = "the chosen ones";
+constexpr auto kBeingRead = "Wait until everybody has been read";
+constexpr auto kNobodyRead = "There is nobody to do that for";
+constexpr auto kDetails = "Details";
+constexpr auto kTakeInTip = "Put them among the rows and into the sums (Alt+K)";
+constexpr auto kNobodyToTakeIn = "Nobody of them is an employee";
+
 constexpr auto kPlaceName = "overview";
-constexpr QSize kFirstSize(900, 640);
+constexpr QSize kFirstSize(960, 660);
 constexpr QSize kSmallestSize(512, 350); // as the main window's
 constexpr qint64 kReadingTime = 30;      // milliseconds without a glance at keys and mouse
 constexpr int kFindingLines = 3;
@@ -58,13 +79,15 @@ constexpr int kFindingLines = 3;
 OverviewWindow::OverviewWindow(PageHost& host) : m_host(host), m_ui(std::make_unique<Ui::OverviewWindow>())
 {
     m_ui->setupUi(this);
-    m_tables = new OverviewTables({*m_ui->grdOverview, *m_ui->grdTotals}, this);
+    m_tables = new OverviewTables({*m_ui->grdOverview, *m_ui->grdTotals, *m_ui->grdLeftOut}, this);
+    m_actions = new PaydayActions(host, *this);
     setMinimumSize(kSmallestSize);
     setWindowIcon(ThemeIcon("overview"));
     LayOut();
     ConnectPeriod();
     ConnectTable();
     ConnectKeys();
+    ConnectPayday();
     m_next.setSingleShot(true);
     connect(&m_next, &QTimer::timeout, this, &OverviewWindow::ReadOn);
     ShowProgress();
@@ -110,7 +133,7 @@ void OverviewWindow::ConnectPeriod()
 void OverviewWindow::ConnectTable()
 {
     connect(m_ui->chkOnlyProblems, &QCheckBox::toggled, m_tables, &OverviewTables::ShowOnlyProblems);
-    connect(m_tables, &OverviewTables::ShownRowChanged, this, &OverviewWindow::ShowFindings);
+    connect(m_tables, &OverviewTables::ShownRowChanged, this, &OverviewWindow::ShowChoice);
     connect(m_ui->grdOverview, &QTableView::doubleClicked, this, &OverviewWindow::OpenCard);
     AfterEachLook(m_host, *this, [this] { TellChanges(); });
     connect(m_ui->lstOverviewFindings, &FindingList::Entered, this, &OverviewWindow::OpenCard);
@@ -131,6 +154,9 @@ void OverviewWindow::ConnectKeys()
     onKey(this, Qt::ALT | Qt::Key_Right, Qt::WindowShortcut, [this] { StepPeriod(1); });
     onKey(this, Qt::Key_F3, Qt::WindowShortcut, [this] { Walk(1); });
     onKey(this, Qt::SHIFT | Qt::Key_F3, Qt::WindowShortcut, [this] { Walk(-1); });
+    onKey(this, Qt::CTRL | Qt::SHIFT | Qt::Key_A, Qt::WindowShortcut, [this] { m_tables->ChooseNone(); });
+    onKey(this, QKeySequence::Undo, Qt::WindowShortcut, [this] { emit UndoWanted(); });
+    onKey(this, QKeySequence::Redo, Qt::WindowShortcut, [this] { emit RedoWanted(); });
     onKey(this, Qt::Key_Escape, Qt::WindowShortcut, [this] {
         if (m_next.isActive()) {
             Stop();
@@ -141,6 +167,25 @@ void OverviewWindow::ConnectKeys()
     for (const Qt::Key enter : {Qt::Key_Return, Qt::Key_Enter}) {
         onKey(m_ui->grdOverview, enter, Qt::WidgetShortcut, [this] { OpenCard(); });
     }
+}
+
+void OverviewWindow::ConnectPayday()
+{
+    auto* more = new QMenu(this);
+    const auto add = [&](const char* name, const char* text, auto action) {
+        QAction* line = more->addAction(text);
+        line->setObjectName(name);
+        connect(line, &QAction::triggered, this, action);
+    };
+    add("mnuReopen", "&Reopen Payday", [this] { m_actions->Reopen(Whom()); });
+    add("mnuAddShift", "&Add a Shift...", [this] { m_actions->AddShift(Whom()); });
+    add("mnuAccount", "A&ccount of the Period...", [this] { ShowAccount(); });
+    m_ui->cmdMore->setMenu(more);
+    connect(m_ui->cmdClosePayday, &QPushButton::clicked, this, [this] { m_actions->Close(Whom()); });
+    connect(m_ui->cmdMend, &QPushButton::clicked, this, [this] { m_actions->MendSeveral(Whom()); });
+    connect(m_ui->cmdTakeIn, &QPushButton::clicked, this, &OverviewWindow::TakeIn);
+    connect(m_actions, &PaydayActions::Stored, this, &OverviewWindow::TellStored);
+    connect(m_actions, &PaydayActions::Said, this, &OverviewWindow::Say);
 }
 
 void OverviewWindow::Open(const std::optional<PayPeriod>& timecards)
@@ -155,9 +200,19 @@ void OverviewWindow::Open(const std::optional<PayPeriod>& timecards)
         return IsOutdated() ? Refresh() : void();
     }
     m_ui->grdOverview->setFocus();
-    if (Succeeds([&] { ShowPeriod(OverviewPeriod(timecards, m_host.Clock().Today(), PeriodLength())); })) {
+    m_takesIn = false;
+    const auto next = NextToClose();
+    if (Succeeds([&] { ShowPeriod(next ? *next : OverviewPeriod(timecards, m_host.Clock().Today(), PeriodLength())); })) {
         Refresh();
     }
+}
+
+// Why it could not be read is told by the reading that follows.
+std::optional<PayPeriod> OverviewWindow::NextToClose() const
+{
+    std::optional<PayPeriod> next;
+    Succeeds([&] { next = PeriodToClose(Required(Required(m_host.Controller())->PTKDatabase())); });
+    return next;
 }
 
 void OverviewWindow::Say(const QString& text)
@@ -218,8 +273,10 @@ void OverviewWindow::Begin()
     }
     const auto controller = Required(m_host.Controller());
     m_asOf = NewestChange(m_host);
-    m_reading = std::make_shared<OverviewReading>(Required(controller->PTKDatabase()),
-                                                  OfferedEmployees(*Required(controller->EmployeeList())), *period, m_host.Clock().Now());
+    const auto all = Required(controller->EmployeeList());
+    m_takesIn = m_takesIn && m_reading != nullptr && m_reading->Result().period.from == period->from;
+    m_reading =
+        std::make_shared<OverviewReading>(Required(controller->PTKDatabase()), OfferedEmployees(*all), *period, m_host.Clock().Now(), all);
     m_next.start(0);
     ShowProgress();
 }
@@ -235,6 +292,7 @@ void OverviewWindow::ReadOn()
     }
     m_tables->Show(m_reading);
     if (m_reading->IsDone()) {
+        m_takesIn ? TakeIn() : void();
         return Stop();
     }
     m_next.start(0);
@@ -268,6 +326,28 @@ void OverviewWindow::ShowProgress()
     } else {
         ShowRead();
     }
+    ShowLeftOut();
+    OfferActions();
+}
+
+// Below the sums, as soon as everybody has been read.
+void OverviewWindow::ShowLeftOut()
+{
+    const OverviewReading* shown = m_tables->Shown();
+    const bool any = shown != nullptr && !shown->Result().leftOut.empty();
+    const bool takes = any && shown == m_reading.get() && shown->IsDone() && CanTakeIn(shown->Result().leftOut);
+    m_ui->fraLeftOut->setVisible(any);
+    m_ui->cmdTakeIn->setEnabled(takes);
+    m_ui->cmdTakeIn->setToolTip(takes ? kTakeInTip : kNobodyToTakeIn);
+}
+
+void OverviewWindow::TakeIn()
+{
+    m_takesIn = true;
+    m_reading->TakeIn();
+    m_told = nullptr;
+    m_tables->ShowAnew(m_reading);
+    ShowProgress();
 }
 
 // Of the rows that are shown, which are an earlier reading's where the last one failed at once.
@@ -289,6 +369,71 @@ void OverviewWindow::TellChanges()
     if (IsOutdated() && !m_ui->notice->IsOffering()) {
         m_ui->notice->Offer(kChangedSince, kReadAgain, [this] { Refresh(); });
     }
+}
+
+void OverviewWindow::ShowChoice()
+{
+    ShowFindings();
+    OfferActions();
+}
+
+// For those who are chosen, or for everybody once all have been read.
+void OverviewWindow::OfferActions()
+{
+    const bool ready = m_reading != nullptr && m_tables->Shown() == m_reading.get() && m_reading->IsDone();
+    const bool anybody = ready && !m_reading->Result().rows.empty();
+    const auto chosen = ready ? static_cast<qsizetype>(m_tables->ChosenRows().size()) : 0;
+    const QString whom = chosen == 0 ? kEverybody : kTheChosen;
+    const char* const whyNot = ready ? kNobodyRead : kBeingRead;
+    m_ui->cmdClosePayday->setText(QString(kClosePayday).arg(chosen == 0 ? QString(kAll) : QString(kChosen).arg(chosen)));
+    m_ui->cmdClosePayday->setToolTip(anybody ? (chosen == 0 ? kCloseAllTip : kCloseTip) : whyNot);
+    m_ui->cmdMend->setToolTip(anybody ? QString(kMendTip).arg(whom) : QString(whyNot));
+    m_ui->cmdMore->setToolTip(ready ? QString(kMoreTip).arg(whom) : QString(whyNot));
+    m_ui->cmdClosePayday->setEnabled(anybody);
+    m_ui->cmdMend->setEnabled(anybody);
+    m_ui->cmdMore->setEnabled(ready);
+}
+
+PaydayWhom OverviewWindow::Whom() const
+{
+    PaydayWhom whom;
+    whom.period = m_reading->Result().period;
+    for (const OverviewRow& row : m_reading->Result().rows) {
+        whom.shown.push_back(row.employee->EmployeeID());
+        if (!row.employee->OfferedOnTimeCards()) {
+            whom.takenIn.push_back(row.employee->EmployeeID());
+        }
+    }
+    for (const OverviewRow* row : m_tables->ChosenRows()) {
+        whom.chosen.push_back(row->employee->EmployeeID());
+        whom.troubled += row->check.problems > (row->check.changed ? 1 : 0) ? 1 : 0;
+    }
+    return whom;
+}
+
+void OverviewWindow::TellStored(const QString& news, const QString& title, const QStringList& lines)
+{
+    Refresh();
+    if (lines.isEmpty()) {
+        return Say(news);
+    }
+    m_ui->notice->Suggest(news, kDetails, [this, title, lines] { FPaydayLines(this, title, lines).exec(); });
+}
+
+void OverviewWindow::ReadAgain(const QString& news)
+{
+    if (isVisible()) {
+        Refresh();
+        Say(news);
+    }
+}
+
+void OverviewWindow::ShowAccount()
+{
+    if (m_account == nullptr) {
+        m_account = std::make_unique<AccountWindow>(m_host);
+    }
+    m_account->Open(m_reading->Result().period);
 }
 
 void OverviewWindow::ShowFindings()
@@ -330,7 +475,10 @@ QString OverviewWindow::OpenNextCard(std::optional<std::int32_t> employeeID, int
 
 std::optional<HistoryScope> OverviewWindow::ShownHistory() const
 {
-    const OverviewRow* row = m_tables->ShownRow();
+    if (m_account != nullptr && m_account->isActiveWindow()) {
+        return m_account->ShownHistory();
+    }
+    const OverviewRow* row = isActiveWindow() ? m_tables->ShownRow() : nullptr;
     return row == nullptr ? std::nullopt
                           : std::optional(HistoryScope{row->employee->EmployeeID(), m_tables->Shown()->Result().period, {}, {}, false});
 }

@@ -16,11 +16,14 @@ class OverviewWindow;
 
 namespace ptk {
 
+class AccountWindow;
 class OverviewReading;
 class OverviewTables;
 class PageHost;
+class PaydayActions;
 struct HistoryScope;
 struct OverviewRow;
+struct PaydayWhom;
 
 // Reads a few employees whenever there is nothing else to do, so that the window, and every other one, can be used meanwhile. A reading is
 // given up as soon as another begins or the window is closed.
@@ -34,16 +37,19 @@ public:
 
     ~OverviewWindow() override;
 
-    // Brings it to the front. Where it was not open, it takes over the period, see OverviewPeriod, and reads; where it was, it reads what
-    // has been changed since.
+    // Brings it to the front. Where it was not open, it begins with the period that is to be closed next, or where nothing was closed yet
+    // with that of the time cards, see OverviewPeriod, and reads; where it was, it reads what has been changed since.
     void Open(const std::optional<PayPeriod>& timecards);
 
     // Has the card of the next one with problems (direction 1) or the one before (-1) opened, counted from this employee in the order of
     // the table. Answers what there is to say of it: who has none left, or that nothing was read.
     QString OpenNextCard(std::optional<std::int32_t> employeeID, int direction);
 
-    // Of the shown row; nothing without one.
+    // Of the shown row, or of the person in the account, whichever window is in front; nothing without one.
     [[nodiscard]] std::optional<HistoryScope> ShownHistory() const;
+
+    // Where it is open: what was stored otherwise, which it reads.
+    void ReadAgain(const QString& news);
 
     // In its line.
     void Say(const QString& text);
@@ -51,6 +57,10 @@ public:
 signals:
     // Of the period that was read.
     void CardWanted(std::int32_t employeeID, const ptk::PayPeriod& period);
+
+    // Of what was stored last.
+    void UndoWanted();
+    void RedoWanted();
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -61,9 +71,11 @@ private:
     void ConnectPeriod();
     void ConnectTable();
     void ConnectKeys();
+    void ConnectPayday();
 
     void StepPeriod(std::int16_t direction);
     void ShowPeriod(const PayPeriod& period);
+    [[nodiscard]] std::optional<PayPeriod> NextToClose() const;
 
     // Nothing while the boxes do not hold one.
     [[nodiscard]] std::optional<PayPeriod> Period() const;
@@ -78,10 +90,17 @@ private:
     void Complain(const std::string& reason);
     void ShowProgress();
     void ShowRead();
+    void ShowLeftOut();
+    void TakeIn();
 
     [[nodiscard]] bool IsOutdated() const;
     void TellChanges();
+    void ShowChoice();
     void ShowFindings();
+    void OfferActions();
+    [[nodiscard]] PaydayWhom Whom() const;
+    void TellStored(const QString& news, const QString& title, const QStringList& lines);
+    void ShowAccount();
     void Walk(int direction);
     void Copy();
     void SaveAs();
@@ -89,10 +108,13 @@ private:
 
     PageHost& m_host;
     std::unique_ptr<Ui::OverviewWindow> m_ui;
-    OverviewTables* m_tables;                   // belongs to the window
+    OverviewTables* m_tables; // these two belong to the window
+    PaydayActions* m_actions;
+    std::unique_ptr<AccountWindow> m_account;   // nullptr until it is asked for
     std::shared_ptr<OverviewReading> m_reading; // that goes on, or the last one; nullptr before the first
     const OverviewRow* m_told = nullptr;        // whose findings are shown; part of the reading that is shown
     std::optional<std::int64_t> m_asOf;         // the newest entry of the trail when it began
+    bool m_takesIn = false;                     // who was left out is put among the rows as soon as everybody is read
     QTimer m_next;
 };
 

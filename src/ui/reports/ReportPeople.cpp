@@ -1,5 +1,6 @@
 #include "ui/reports/ReportPeople.h"
 
+#include "model/CEmployeeList.h"
 #include "model/check/FindingText.h"
 #include "office/card/CardFindings.h"
 #include "office/overview/OverviewReading.h"
@@ -83,18 +84,21 @@ ReportPeople::ReportPeople(PageHost& host, QListView& list, std::function<bool()
     m_next.setSingleShot(true);
     connect(&m_next, &QTimer::timeout, this, &ReportPeople::CheckOn);
     connect(m_employees, &QAbstractItemModel::modelReset, this, &ReportPeople::CheckSoon);
+    connect(host.EmployeeModels().Offered(), &QAbstractItemModel::modelReset, this, &ReportPeople::GiveBack);
     AfterEachLook(host, *this, [this] { LookAgain(); });
 }
 
 ReportPeople::~ReportPeople() = default;
 
-void ReportPeople::Check(const std::optional<PayPeriod>& days)
+bool ReportPeople::Check(const std::optional<PayPeriod>& days)
 {
     const bool same = days && m_days ? days->from == m_days->from && days->to == m_days->to : days.has_value() == m_days.has_value();
     if (!same) {
         m_days = days;
         CheckSoon();
+        GiveBack();
     }
+    return !same;
 }
 
 // The marks of before say nothing of other days.
@@ -152,7 +156,9 @@ void ReportPeople::Begin()
     const auto database = controller->PTKDatabase()->Afresh();
     database->DoNotWait();
     m_asOf = NewestChange(m_host);
-    m_reading = std::make_unique<OverviewReading>(database, OfferedEmployees(*controller->EmployeeList()), *m_days, m_host.Clock().Now());
+    const auto all = controller->EmployeeList();
+    const auto listed = m_takenIn.empty() ? OfferedEmployees(*all) : m_takenIn;
+    m_reading = std::make_unique<OverviewReading>(database, listed, *m_days, m_host.Clock().Now(), all);
     m_next.start(0);
 }
 
@@ -186,6 +192,46 @@ std::string ReportPeople::ProblemsOfChosen() const
     const auto marked = std::count_if(chosen.begin(), chosen.end(),
                                       [&](const QModelIndex& row) { return m_employees->IsMarked(row.data(kEmployeeIDRole).toInt()); });
     return ProblemShareText(marked, chosen.size());
+}
+
+std::string ReportPeople::LeftOut() const
+{
+    return m_reading != nullptr && m_reading->IsDone() ? LeftOutNews(m_reading->Result().leftOut) : std::string();
+}
+
+bool ReportPeople::CanTakeIn() const
+{
+    return m_reading != nullptr && m_reading->IsDone() && ptk::CanTakeIn(m_reading->Result().leftOut);
+}
+
+// In the order of the list.
+void ReportPeople::TakeIn()
+{
+    if (!CanTakeIn()) {
+        return;
+    }
+    m_reading->TakeIn();
+    std::vector<std::int32_t> numbers;
+    for (const OverviewRow& row : m_reading->Result().rows) {
+        numbers.push_back(row.employee->EmployeeID());
+    }
+    const auto all = Required(Required(m_host.Controller())->EmployeeList());
+    m_takenIn.clear();
+    for (const std::int32_t number : numbers) {
+        if (auto employee = all->GetEmployeeByID(number)) {
+            m_takenIn.push_back(std::move(employee));
+        }
+    }
+    m_withTakenIn.SetRows(std::make_shared<EmployeeColumn::Rows>(m_takenIn));
+    m_employees->setSourceModel(&m_withTakenIn);
+}
+
+void ReportPeople::GiveBack()
+{
+    if (!m_takenIn.empty()) {
+        m_takenIn.clear();
+        m_employees->setSourceModel(m_host.EmployeeModels().Offered());
+    }
 }
 
 } // namespace ptk

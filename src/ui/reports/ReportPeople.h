@@ -2,6 +2,7 @@
 #pragma once
 
 #include "model/PayPeriod.h"
+#include "ui/widgets/EmployeeModels.h"
 
 #include <cstdint>
 #include <functional>
@@ -12,6 +13,7 @@
 #include <QTimer>
 #include <string>
 #include <unordered_map>
+#include <vector>
 
 class QListView;
 
@@ -53,11 +55,20 @@ public:
 
     ~ReportPeople() override;
 
-    // Nothing for a report without days: no marks.
-    void Check(const std::optional<PayPeriod>& days);
+    // Nothing for a report without days: no marks. Whether these are other days than before.
+    bool Check(const std::optional<PayPeriod>& days);
 
     // "17 of 40 have problems: F9", of the chosen ones, as far as they have been checked; empty where nobody has any.
     [[nodiscard]] std::string ProblemsOfChosen() const;
+
+    // Who has records in these days and is in no list, in one sentence; empty where there is nobody, and while that is not known.
+    [[nodiscard]] std::string LeftOut() const;
+
+    // Whether there is anybody of them who can be chosen.
+    [[nodiscard]] bool CanTakeIn() const;
+
+    // Puts them into the list, where they stay until other days are checked or the employees are read again.
+    void TakeIn();
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -72,11 +83,14 @@ private:
     void ReadOn();
     void ShowMarks();
     void LookAgain();
+    void GiveBack();
 
     PageHost& m_host;
     QListView& m_list;
     std::function<bool()> m_isBusy;
     MarkedEmployees* m_employees; // belongs to it
+    EmployeeColumn m_withTakenIn{EmployeeText::Name};
+    std::vector<std::shared_ptr<CEmployee>> m_takenIn; // all of the list then; empty while it is the given one
     std::optional<PayPeriod> m_days;
     std::unique_ptr<OverviewReading> m_reading; // nullptr before the days are checked
     std::optional<std::int64_t> m_asOf;         // the newest entry of the trail when it began

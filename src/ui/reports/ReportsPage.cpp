@@ -42,6 +42,8 @@ constexpr auto kProgressText = "Generating for {} employees...";
 
 constexpr auto kNothingMade = "No report was made";
 
+constexpr auto kTakeIn = "Take &In";
+
 constexpr auto kNoDatesTip = "This report needs no dates.";
 constexpr auto kYearTip = "Year-to-date totals start on 1 January.";
 constexpr auto kEveryoneTip = "The phone book lists everyone.";
@@ -244,7 +246,9 @@ void ReportsPage::ShowPeriod()
     ShowStatus();
     const ReportEntry* entry = FindReport(m_reportName);
     if (entry != nullptr) {
-        m_people->Check(entry->dates == ReportDates::None || entry->whom == ReportWhom::Everyone ? std::nullopt : Days());
+        if (m_people->Check(entry->dates == ReportDates::None || entry->whom == ReportWhom::Everyone ? std::nullopt : Days())) {
+            ForgetProblems();
+        }
         Succeeds([&] { ShowOfferedNotice(*entry); });
     }
 }
@@ -280,16 +284,42 @@ void ReportsPage::Generate()
     const QScopedValueRollback generating(m_generating, true);
     Succeeds([&] { Run(*entry); }, [&](const Failure& reason) { ShowFailure(reason.Number(), name); });
     m_outcome = m_ui->notice->Text();
+    m_told = m_outcome;
     TellProblems();
 }
 
 // Also when they have been checked only after the run.
 void ReportsPage::TellProblems()
 {
-    const QString problems = QString::fromStdString(m_people->ProblemsOfChosen());
-    if (!m_outcome.isEmpty() && m_ui->notice->Text() == m_outcome && !problems.isEmpty()) {
-        m_ui->notice->Say(m_outcome + ". " + problems);
+    if (m_ui->notice->Text() != m_told) {
+        return;
     }
+    QStringList parts{m_outcome, m_outcome.isEmpty() ? QString() : QString::fromStdString(m_people->ProblemsOfChosen()),
+                      QString::fromStdString(m_people->LeftOut())};
+    parts.removeAll(QString());
+    const QString told = parts.join(". ");
+    if (m_people->CanTakeIn()) {
+        m_ui->notice->Suggest(told, kTakeIn, [this] { Succeeds([this] { TakeIn(); }); });
+    } else if (told != m_told) {
+        m_ui->notice->Say(told);
+    }
+    m_told = told;
+}
+
+// They are of other days.
+void ReportsPage::ForgetProblems()
+{
+    if (m_told != m_outcome && m_ui->notice->Text() == m_told) {
+        m_ui->notice->Say(m_outcome);
+        m_told = m_outcome;
+    }
+}
+
+void ReportsPage::TakeIn()
+{
+    m_people->TakeIn();
+    m_told = m_outcome;
+    m_ui->notice->Say(m_outcome);
 }
 
 // Shows what becomes of a run.

@@ -65,8 +65,11 @@ private:
 
     // Asks where they are many.
     bool MayOpenWindows(const ReportOrder& order);
-    // Beside the outcome of the last run, while the line still tells it.
+
+    // Beside the outcome of the last run, while the line still tells it, and who is in no list.
     void TellProblems();
+    void ForgetProblems();
+    void TakeIn();
 
     // In the list box's order.
     [[nodiscard]] std::vector<std::string> Names(ReportWhom whom) const;
@@ -82,6 +85,7 @@ private:
     std::unique_ptr<Ui::ReportsPage> m_ui;
     ReportPeople* m_people;   // belongs to the page's list
     QString m_outcome;        // of the last run
+    QString m_told;           // that, with what is told beside it
     std::string m_reportName; // of the selected report, for the status bar
     bool m_generating = false;
 };

@@ -67,7 +67,7 @@ std::optional<SaveTarget> AskWhereToSave(QWidget& parent, const QString& name, s
     const QString path = dialog.selectedFiles().value(0);
     QSettings().setValue(kFolderKey, QFileInfo(path).absolutePath());
     const std::string encoded = QFile::encodeName(path).toStdString();
-    return SaveTarget{encoded, FormOfName(encoded, chosen())};
+    return SaveTarget{encoded, FormOfName(encoded, chosen(), forms)};
 }
 
 } // namespace ptk

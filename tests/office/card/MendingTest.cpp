@@ -134,7 +134,7 @@ TEST_F(MendingTest, MendsSeveralPeopleAsOneStep)
     EXPECT_EQ(plan.HoursAfter(plan.Lines()[0]), "9.00");
     ASSERT_TRUE(plan.HasEnd(0));
     EXPECT_FALSE(plan.HasEnd(2)) << "a split";
-    plan.End(0, ToDateTime("3/2/2026 16:15"));
+    plan.EndAt(0, ToDateTime("16:15"));
     EXPECT_EQ(plan.HoursAfter(plan.Lines()[0]), "8.25");
     ASSERT_TRUE(plan.Store(*m_database));
     ASSERT_TRUE(m_undo.Remember());

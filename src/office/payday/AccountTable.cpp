@@ -1,0 +1,74 @@
+#include "office/payday/AccountTable.h"
+
+#include "platform/text/Text.h"
+
+#include <algorithm>
+#include <fmt/format.h>
+
+namespace ptk {
+
+namespace {
+
+constexpr auto kNeverPaid = "not paid";
+constexpr auto kSomeDay = "yes"; // paid, nobody can say when
+constexpr auto kNoFigures = "not readable";
+
+std::string Hours(const std::string& regular, const std::string& overtime)
+{
+    return regular + " + " + overtime;
+}
+
+void ShowPaid(AccountCells& cells, const Closing& paid)
+{
+    cells[static_cast<std::size_t>(AccountColumn::PaidOn)] = paid.paidAt ? FormatDateTime(*paid.paidAt, "mm/dd/yyyy") : kSomeDay;
+    cells[static_cast<std::size_t>(AccountColumn::PaidHours)] = Hours(paid.regular, paid.overtime);
+    cells[static_cast<std::size_t>(AccountColumn::Paid)] = paid.gross;
+}
+
+void ShowOwed(AccountCells& cells, const PaidDifference& owed)
+{
+    if (owed.regular && owed.overtime) {
+        cells[static_cast<std::size_t>(AccountColumn::OwedHours)] = *owed.regular + " " + *owed.overtime;
+    }
+    cells[static_cast<std::size_t>(AccountColumn::Owed)] = owed.gross.value_or(kNoFigures);
+}
+
+} // namespace
+
+AccountCells AccountHeading()
+{
+    return {"Name", "Paid On", "Paid Hours", "Paid", "Hours Now", "Now", "Hours Owed", "Owed", "Changes"};
+}
+
+AccountCells CellsOf(const AccountPerson& person)
+{
+    AccountCells cells{NameOf(person.person), kNeverPaid};
+    if (!person.paid.empty()) {
+        ShowPaid(cells, person.paid.back());
+    }
+    if (person.now) {
+        cells[static_cast<std::size_t>(AccountColumn::NowHours)] = Hours(person.now->regular, person.now->overtime);
+        cells[static_cast<std::size_t>(AccountColumn::Now)] = person.now->gross;
+    } else if (person.person.employee != nullptr) {
+        cells[static_cast<std::size_t>(AccountColumn::Now)] = kNoFigures;
+    }
+    if (person.changed) {
+        ShowOwed(cells, *person.changed);
+    }
+    if (!person.changes.empty()) {
+        cells[static_cast<std::size_t>(AccountColumn::Changes)] = std::to_string(person.changes.size());
+    }
+    return cells;
+}
+
+std::string AccountNews(const PaydayAccount& account)
+{
+    const auto paid =
+        std::count_if(account.persons.begin(), account.persons.end(), [](const auto& person) { return !person.paid.empty(); });
+    const auto changed =
+        std::count_if(account.persons.begin(), account.persons.end(), [](const auto& person) { return person.changed.has_value(); });
+    return fmt::format("{} of {} are paid, {} changed since", paid, account.persons.size(),
+                       changed == 0 ? "none" : std::to_string(changed));
+}
+
+} // namespace ptk

@@ -1,0 +1,55 @@
+// The findings of several people with what can be done about each, to be ticked and changed.
+#pragma once
+
+#include "office/card/MendPlan.h"
+
+#include <QAbstractTableModel>
+
+namespace ptk {
+
+enum class MendColumn
+{
+    Name, // with the tick
+    Finding,
+    Remedy,
+    End,
+    HoursBefore,
+    HoursAfter
+};
+
+// Changes the plan that it shows.
+class MendModel final : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    // The plan outlives it.
+    MendModel(MendPlan& plan, QObject* parent);
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+    bool setData(const QModelIndex& index, const QVariant& value, int role) override;
+
+    void Toggle(int row);
+
+signals:
+    // What is ticked, or what it does, is another now.
+    void Changed();
+
+    // A text that is no time of day.
+    void Refused(const QString& text);
+
+private:
+    [[nodiscard]] const MendLine& Line(const QModelIndex& index) const { return m_plan.Lines().at(static_cast<std::size_t>(index.row())); }
+    [[nodiscard]] QString CellOf(const QModelIndex& index) const;
+    [[nodiscard]] QString TipOf(const QModelIndex& index) const;
+    [[nodiscard]] bool TakeEnd(std::size_t line, const QString& text);
+    void TellChanged();
+
+    MendPlan& m_plan;
+};
+
+} // namespace ptk

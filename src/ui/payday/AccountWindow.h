@@ -1,0 +1,63 @@
+// The account of a payday: what each person was paid, what the card says now, and what was changed since.
+#pragma once
+
+#include "model/PayPeriod.h"
+#include "office/payday/PaydayAccount.h"
+
+#include <memory>
+#include <optional>
+#include <QWidget>
+
+namespace Ui {
+class AccountWindow;
+}
+
+namespace ptk {
+
+class AccountModel;
+class PageHost;
+struct HistoryScope;
+
+class AccountWindow final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    // The host outlives it.
+    explicit AccountWindow(PageHost& host);
+
+    ~AccountWindow() override;
+
+    // Brings it to the front and reads the account of this period.
+    void Open(const PayPeriod& period);
+
+    // Of the chosen person; nothing without one, and of nobody who is known.
+    [[nodiscard]] std::optional<HistoryScope> ShownHistory() const;
+
+protected:
+    void changeEvent(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void LayOut();
+    void PrepareTable();
+    void Connect();
+
+    void Refresh();
+    bool Read(std::string& refusal);
+    void Show();
+    void FitColumns();
+    void ShowPerson();
+    void SaveAs();
+    void TellChanges();
+
+    PageHost& m_host;
+    std::unique_ptr<Ui::AccountWindow> m_ui;
+    AccountModel* m_rows; // belongs to the window
+    PayPeriod m_period;
+    std::shared_ptr<const PaydayAccount> m_account; // as it was read last; nullptr before
+    std::optional<std::int64_t> m_asOf;             // the newest entry of the trail when it was read
+};
+
+} // namespace ptk
