@@ -8,6 +8,7 @@
 #include "office/history/EmployeeNames.h"
 #include "office/history/HistoryReading.h"
 #include "office/overview/OverviewReading.h"
+#include "office/payday/PaydayClosing.h"
 #include "office/records/UndoStack.h"
 #include "platform/text/Text.h"
 #include "store/CJetDB.h"
@@ -124,6 +125,22 @@ TEST_F(RoundTripsTest, Overview)
         return overview.IsDone() && overview.Result().rows.size() == 3;
     };
     EXPECT_EQ(Of(all), 4) << "the limits, what was closed, everybody's records, and who worked before";
+}
+
+// However many people: they are asked for, and stored, together.
+TEST_F(RoundTripsTest, Payday)
+{
+    server.Run("INSERT INTO Employee (LastName, Active, AutoDeduct, PayRate) SELECT 'Kim', true, false, 10 FROM generate_series(1, 597)");
+    const auto close = [&](const char* from, const char* to) {
+        return Of([&] {
+            return ClosePayday(database, {{ToDateTime(from), ToDateTime(to)}, {}, ToDateTime("3/17/2003"), {}}).size() == 600;
+        });
+    };
+    EXPECT_EQ(close("2/1/2003", "2/14/2003"), 1);
+    EXPECT_EQ(close("3/3/2003", "3/16/2003"), 1) << "with the days between";
+    UndoStack undo(database);
+    EXPECT_EQ(Of([&] { return undo.Remember(); }), 1);
+    EXPECT_EQ(Of([&] { return undo.Undo(); }), 1);
 }
 
 } // namespace

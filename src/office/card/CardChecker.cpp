@@ -47,6 +47,34 @@ const ClosingsOfEmployee* CardChecker::ClosingsOf(std::int32_t employeeID) const
     return found == m_closings.end() ? nullptr : &found->second;
 }
 
+// The days before the period, too, of those who have such days.
+void CardChecker::ReadAhead(std::span<const std::int32_t> employeeIDs)
+{
+    m_reader.ReadAhead(employeeIDs);
+    if (!m_reader.ReadsAhead()) {
+        return;
+    }
+    std::map<DateTime, std::vector<std::int32_t>> people; // by the first of those days
+    for (const std::int32_t id : employeeIDs) {
+        const ClosingsOfEmployee* closings = ClosingsOf(id);
+        if (const auto gap = closings == nullptr ? std::nullopt : GapBefore(m_terms.period, *closings)) {
+            people[gap->from].push_back(id);
+        }
+    }
+    for (const auto& [first, ids] : people) {
+        GapReader({first, m_terms.period.from.AddDays(-1)}).ReadAhead(ids);
+    }
+}
+
+PunchReader& CardChecker::GapReader(const PayPeriod& gap)
+{
+    auto& reader = m_gaps[gap.from];
+    if (reader == nullptr) {
+        reader = std::make_unique<PunchReader>(*m_database, gap, m_terms.limits.firstWeekday);
+    }
+    return *reader;
+}
+
 CardCheck CardChecker::Check(const CEmployee& employee)
 {
     const std::int32_t id = employee.EmployeeID();
@@ -78,12 +106,8 @@ void CardChecker::ReadGap(std::int32_t employeeID, const ClosingsOfEmployee& clo
     if (!gap) {
         return;
     }
-    auto& reader = m_gaps[gap->from];
-    if (reader == nullptr) {
-        reader = std::make_unique<PunchReader>(*m_database, *gap, m_terms.limits.firstWeekday);
-    }
     const std::size_t known = m_rows.size();
-    for (Punch& punch : reader->Read(employeeID)) {
+    for (Punch& punch : GapReader(*gap).Read(employeeID)) {
         const auto end = m_rows.begin() + static_cast<std::ptrdiff_t>(known);
         if (std::none_of(m_rows.begin(), end, [&](const Punch& row) { return row.id == punch.id; })) {
             punch.fetched = false;

@@ -38,7 +38,7 @@ public:
     CardChecker(std::shared_ptr<CJetDB> database, const CheckTerms& terms, std::optional<std::int32_t> onlyEmployee = std::nullopt);
 
     // Of those who are to be checked next: see PunchReader.
-    void ReadAhead(std::span<const std::int32_t> employeeIDs) { m_reader.ReadAhead(employeeIDs); }
+    void ReadAhead(std::span<const std::int32_t> employeeIDs);
 
     [[nodiscard]] CardCheck Check(const CEmployee& employee);
 
@@ -55,6 +55,7 @@ public:
 
 private:
     [[nodiscard]] const ClosingsOfEmployee* ClosingsOf(std::int32_t employeeID) const;
+    [[nodiscard]] PunchReader& GapReader(const PayPeriod& gap);
     void ReadGap(std::int32_t employeeID, const ClosingsOfEmployee& closings);
     void NameChanged(CardCheck& check, const Closing& paid) const;
     [[nodiscard]] bool WorkedBefore(std::int32_t employeeID);

@@ -3,7 +3,6 @@
 #include "model/check/FindingText.h"
 #include "model/payday/ClosingReader.h"
 #include "office/card/CardFindings.h"
-#include "office/card/CardTexts.h"
 #include "office/history/HistoryScope.h"
 #include "office/overview/OverviewReading.h"
 #include "office/overview/OverviewTable.h"
@@ -16,11 +15,9 @@
 #include "startup/CController.h"
 #include "store/CSystemOptions.h"
 #include "ui/overview/OverviewTables.h"
-#include "ui/overview/PaydayActions.h"
+#include "ui/overview/PaydayButtons.h"
 #include "ui/page/ChangeNews.h"
 #include "ui/page/PageHost.h"
-#include "ui/payday/AccountWindow.h"
-#include "ui/payday/FPaydayLines.h"
 #include "ui/widgets/ButtonRow.h"
 #include "ui/widgets/FoldingRow.h"
 #include "ui/widgets/SaveDialog.h"
@@ -33,7 +30,6 @@
 #include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QLineEdit>
-#include <QMenu>
 #include <QShortcut>
 
 namespace ptk {
@@ -53,18 +49,6 @@ constexpr auto kNotYetRead = "Read the payday overview first (F9)";
 constexpr auto kNobodyBehind = "Nobody behind has problems in the payday overview";
 constexpr auto kNobodyBefore = "Nobody before has problems in the payday overview";
 
-constexpr auto kClosePayday = "Close Pa&yday (%1)";
-constexpr auto kAll = "all";
-constexpr auto kChosen = "%1 chosen";
-constexpr auto kCloseAllTip = "Keep what everybody without problems is paid for this period; choose people to close theirs alone";
-constexpr auto kCloseTip = "Keep what the chosen ones are paid for this period; Ctrl+Shift+A chooses nobody";
-constexpr auto kMendTip = "All that was found on the cards of %1, with what can be done about it";
-constexpr auto kMoreTip = "For %1: take a closed payday back, add a shift. For the period: the account";
-constexpr auto kEverybody = "everybody";
-constexpr auto kTheChosen = "the chosen ones";
-constexpr auto kBeingRead = "Wait until everybody has been read";
-constexpr auto kNobodyRead = "There is nobody to do that for";
-constexpr auto kDetails = "Details";
 constexpr auto kTakeInTip = "Put them among the rows and into the sums (Alt+K)";
 constexpr auto kNobodyToTakeIn = "Nobody of them is an employee";
 
@@ -80,14 +64,13 @@ OverviewWindow::OverviewWindow(PageHost& host) : m_host(host), m_ui(std::make_un
 {
     m_ui->setupUi(this);
     m_tables = new OverviewTables({*m_ui->grdOverview, *m_ui->grdTotals, *m_ui->grdLeftOut}, this);
-    m_actions = new PaydayActions(host, *this);
     setMinimumSize(kSmallestSize);
     setWindowIcon(ThemeIcon("overview"));
+    m_buttons = new PaydayButtons(host, {*this, *m_ui->cmdClosePayday, *m_ui->cmdMend, *m_ui->cmdMore, *m_ui->notice, *m_tables});
     LayOut();
     ConnectPeriod();
     ConnectTable();
     ConnectKeys();
-    ConnectPayday();
     m_next.setSingleShot(true);
     connect(&m_next, &QTimer::timeout, this, &OverviewWindow::ReadOn);
     ShowProgress();
@@ -136,6 +119,8 @@ void OverviewWindow::ConnectTable()
     connect(m_tables, &OverviewTables::ShownRowChanged, this, &OverviewWindow::ShowChoice);
     connect(m_ui->grdOverview, &QTableView::doubleClicked, this, &OverviewWindow::OpenCard);
     AfterEachLook(m_host, *this, [this] { TellChanges(); });
+    connect(m_buttons, &PaydayButtons::ReadAgainWanted, this, &OverviewWindow::Refresh);
+    connect(m_ui->cmdTakeIn, &QPushButton::clicked, this, &OverviewWindow::TakeIn);
     connect(m_ui->lstOverviewFindings, &FindingList::Entered, this, &OverviewWindow::OpenCard);
     connect(m_ui->cmdSaveAs, &QPushButton::clicked, this, &OverviewWindow::SaveAs);
     connect(m_ui->cmdOpenCard, &QPushButton::clicked, this, &OverviewWindow::OpenCard);
@@ -167,25 +152,6 @@ void OverviewWindow::ConnectKeys()
     for (const Qt::Key enter : {Qt::Key_Return, Qt::Key_Enter}) {
         onKey(m_ui->grdOverview, enter, Qt::WidgetShortcut, [this] { OpenCard(); });
     }
-}
-
-void OverviewWindow::ConnectPayday()
-{
-    auto* more = new QMenu(this);
-    const auto add = [&](const char* name, const char* text, auto action) {
-        QAction* line = more->addAction(text);
-        line->setObjectName(name);
-        connect(line, &QAction::triggered, this, action);
-    };
-    add("mnuReopen", "&Reopen Payday", [this] { m_actions->Reopen(Whom()); });
-    add("mnuAddShift", "&Add a Shift...", [this] { m_actions->AddShift(Whom()); });
-    add("mnuAccount", "A&ccount of the Period...", [this] { ShowAccount(); });
-    m_ui->cmdMore->setMenu(more);
-    connect(m_ui->cmdClosePayday, &QPushButton::clicked, this, [this] { m_actions->Close(Whom()); });
-    connect(m_ui->cmdMend, &QPushButton::clicked, this, [this] { m_actions->MendSeveral(Whom()); });
-    connect(m_ui->cmdTakeIn, &QPushButton::clicked, this, &OverviewWindow::TakeIn);
-    connect(m_actions, &PaydayActions::Stored, this, &OverviewWindow::TellStored);
-    connect(m_actions, &PaydayActions::Said, this, &OverviewWindow::Say);
 }
 
 void OverviewWindow::Open(const std::optional<PayPeriod>& timecards)
@@ -377,47 +343,11 @@ void OverviewWindow::ShowChoice()
     OfferActions();
 }
 
-// For those who are chosen, or for everybody once all have been read.
+// Once everybody has been read.
 void OverviewWindow::OfferActions()
 {
     const bool ready = m_reading != nullptr && m_tables->Shown() == m_reading.get() && m_reading->IsDone();
-    const bool anybody = ready && !m_reading->Result().rows.empty();
-    const auto chosen = ready ? static_cast<qsizetype>(m_tables->ChosenRows().size()) : 0;
-    const QString whom = chosen == 0 ? kEverybody : kTheChosen;
-    const char* const whyNot = ready ? kNobodyRead : kBeingRead;
-    m_ui->cmdClosePayday->setText(QString(kClosePayday).arg(chosen == 0 ? QString(kAll) : QString(kChosen).arg(chosen)));
-    m_ui->cmdClosePayday->setToolTip(anybody ? (chosen == 0 ? kCloseAllTip : kCloseTip) : whyNot);
-    m_ui->cmdMend->setToolTip(anybody ? QString(kMendTip).arg(whom) : QString(whyNot));
-    m_ui->cmdMore->setToolTip(ready ? QString(kMoreTip).arg(whom) : QString(whyNot));
-    m_ui->cmdClosePayday->setEnabled(anybody);
-    m_ui->cmdMend->setEnabled(anybody);
-    m_ui->cmdMore->setEnabled(ready);
-}
-
-PaydayWhom OverviewWindow::Whom() const
-{
-    PaydayWhom whom;
-    whom.period = m_reading->Result().period;
-    for (const OverviewRow& row : m_reading->Result().rows) {
-        whom.shown.push_back(row.employee->EmployeeID());
-        if (!row.employee->OfferedOnTimeCards()) {
-            whom.takenIn.push_back(row.employee->EmployeeID());
-        }
-    }
-    for (const OverviewRow* row : m_tables->ChosenRows()) {
-        whom.chosen.push_back(row->employee->EmployeeID());
-        whom.troubled += row->check.problems > (row->check.changed ? 1 : 0) ? 1 : 0;
-    }
-    return whom;
-}
-
-void OverviewWindow::TellStored(const QString& news, const QString& title, const QStringList& lines)
-{
-    Refresh();
-    if (lines.isEmpty()) {
-        return Say(news);
-    }
-    m_ui->notice->Suggest(news, kDetails, [this, title, lines] { FPaydayLines(this, title, lines).exec(); });
+    m_buttons->Offer(ready ? m_reading : nullptr);
 }
 
 void OverviewWindow::ReadAgain(const QString& news)
@@ -426,14 +356,6 @@ void OverviewWindow::ReadAgain(const QString& news)
         Refresh();
         Say(news);
     }
-}
-
-void OverviewWindow::ShowAccount()
-{
-    if (m_account == nullptr) {
-        m_account = std::make_unique<AccountWindow>(m_host);
-    }
-    m_account->Open(m_reading->Result().period);
 }
 
 void OverviewWindow::ShowFindings()
@@ -475,11 +397,8 @@ QString OverviewWindow::OpenNextCard(std::optional<std::int32_t> employeeID, int
 
 std::optional<HistoryScope> OverviewWindow::ShownHistory() const
 {
-    if (m_account != nullptr && m_account->isActiveWindow()) {
-        return m_account->ShownHistory();
-    }
     const OverviewRow* row = isActiveWindow() ? m_tables->ShownRow() : nullptr;
-    return row == nullptr ? std::nullopt
+    return row == nullptr ? m_buttons->ShownHistory()
                           : std::optional(HistoryScope{row->employee->EmployeeID(), m_tables->Shown()->Result().period, {}, {}, false});
 }
 

@@ -16,14 +16,12 @@ class OverviewWindow;
 
 namespace ptk {
 
-class AccountWindow;
 class OverviewReading;
 class OverviewTables;
 class PageHost;
-class PaydayActions;
+class PaydayButtons;
 struct HistoryScope;
 struct OverviewRow;
-struct PaydayWhom;
 
 // Reads a few employees whenever there is nothing else to do, so that the window, and every other one, can be used meanwhile. A reading is
 // given up as soon as another begins or the window is closed.
@@ -71,7 +69,6 @@ private:
     void ConnectPeriod();
     void ConnectTable();
     void ConnectKeys();
-    void ConnectPayday();
 
     void StepPeriod(std::int16_t direction);
     void ShowPeriod(const PayPeriod& period);
@@ -98,9 +95,6 @@ private:
     void ShowChoice();
     void ShowFindings();
     void OfferActions();
-    [[nodiscard]] PaydayWhom Whom() const;
-    void TellStored(const QString& news, const QString& title, const QStringList& lines);
-    void ShowAccount();
     void Walk(int direction);
     void Copy();
     void SaveAs();
@@ -109,8 +103,7 @@ private:
     PageHost& m_host;
     std::unique_ptr<Ui::OverviewWindow> m_ui;
     OverviewTables* m_tables; // these two belong to the window
-    PaydayActions* m_actions;
-    std::unique_ptr<AccountWindow> m_account;   // nullptr until it is asked for
+    PaydayButtons* m_buttons;
     std::shared_ptr<OverviewReading> m_reading; // that goes on, or the last one; nullptr before the first
     const OverviewRow* m_told = nullptr;        // whose findings are shown; part of the reading that is shown
     std::optional<std::int64_t> m_asOf;         // the newest entry of the trail when it began

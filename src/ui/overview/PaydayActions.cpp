@@ -109,7 +109,7 @@ void PaydayActions::TellStored(const QString& news, const QString& title, const 
 {
     m_host.SharedRecords().Remember();
     emit m_host.SharedRecords().ReadAgainWanted();
-    emit Stored(news, title, lines);
+    emit Done(news, title, lines);
 }
 
 bool PaydayActions::MayClose(const PaydayWhom& whom)
@@ -161,7 +161,7 @@ void PaydayActions::ChangePayday(const PaydayWhom& whom, bool close)
     if (stored) {
         TellStored(news + kTakeBack, title, texts);
     } else {
-        emit Stored(news, title, texts);
+        emit Done(news, title, texts);
     }
 }
 

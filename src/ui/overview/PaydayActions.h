@@ -50,7 +50,7 @@ public:
 
 signals:
     // It was done: what came of it, and where that is of use, a line a person under a title.
-    void Stored(const QString& news, const QString& title, const QStringList& lines);
+    void Done(const QString& news, const QString& title, const QStringList& lines);
 
     // Nothing was stored, and why.
     void Said(const QString& text);

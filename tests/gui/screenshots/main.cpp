@@ -185,22 +185,77 @@ void TakeFindings(FController& main, const Photographer& photographer)
     line.click();
 }
 
-void TakeOverview(FController& main, const Photographer& photographer)
+QWidget& TopLevel(const char* name)
+{
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->objectName() == name) {
+            return *window;
+        }
+    }
+    throw std::runtime_error(std::string("no ") + name);
+}
+
+QWidget& ReadOverview(FController& main)
 {
     Find<QAction>(main, "mnuViewOverview").trigger();
-    for (QWidget* window : QApplication::topLevelWidgets()) {
-        if (window->objectName() != "OverviewWindow") {
-            continue;
-        }
-        while (Find<QWidget>(*window, "cmdStop").isVisible()) {
-            QCoreApplication::processEvents();
-        }
-        photographer.TakeSizes(*window, "overview");
-        Find<QCheckBox>(*window, "chkOnlyProblems").setChecked(true);
-        Find<QTableView>(*window, "grdOverview").selectRow(0);
-        photographer.Take(*window, "overview-problems");
-        window->close();
+    QWidget& window = TopLevel("OverviewWindow");
+    while (Find<QWidget>(window, "cmdStop").isVisible()) {
+        QCoreApplication::processEvents();
     }
+    return window;
+}
+
+void TakeOverview(FController& main, const Photographer& photographer)
+{
+    QWidget& window = ReadOverview(main);
+    photographer.TakeSizes(window, "overview");
+    Find<QCheckBox>(window, "chkOnlyProblems").setChecked(true);
+    Find<QTableView>(window, "grdOverview").selectRow(0);
+    photographer.Take(window, "overview-problems");
+    Find<QCheckBox>(window, "chkOnlyProblems").setChecked(false);
+    Find<QTableView>(window, "grdOverview").clearSelection();
+    window.close();
+}
+
+// Mending, a shift for several people, the closed payday and its account, with somebody inactive who worked.
+void TakePayday(GuiProgram& program, const Photographer& photographer)
+{
+    FController& main = program.Main();
+    QWidget& window = ReadOverview(main);
+    photographer.TakeSizes(window, "payday-left-out");
+    {
+        const ModalScript mend([&](QDialog& dialog) { photographer.TakeSizes(dialog, "mend-several"); });
+        Find<QPushButton>(window, "cmdMend").click();
+    }
+    {
+        const ModalScript add([&](QDialog& dialog) {
+            Find<QPushButton>(dialog, "cmdAutoShift").click();
+            photographer.TakeSizes(dialog, "add-shift");
+        });
+        Find<QAction>(window, "mnuAddShift").trigger();
+    }
+    Find<QMenu>(window, "mnuMore").popup(window.mapToGlobal(QPoint()));
+    photographer.Take(Find<QMenu>(window, "mnuMore"), "payday-more");
+    Find<QMenu>(window, "mnuMore").close();
+    Find<QPushButton>(window, "cmdClosePayday").click();
+    ReadOverview(main);
+    photographer.TakeSizes(window, "payday-closed");
+    {
+        const ModalScript lines([&](QDialog& dialog) { photographer.Take(dialog, "payday-lines"); });
+        Find<QToolButton>(window, "cmdNotice").click();
+    }
+    const auto database = std::make_shared<CJetDB>(program.folder.Path());
+    database->DatabaseName(NativePath(program.databasePath).string());
+    if (!database->ExecuteAction(
+            "UPDATE TimeRecord SET EndTime = datetime(EndTime, '+30 minutes') WHERE TimeRecordID IN (SELECT "
+            "MAX(TimeRecordID) FROM TimeRecord WHERE EmployeeID IN (SELECT EmployeeID FROM _Payday) GROUP BY EmployeeID)")) {
+        throw database->LastFailure();
+    }
+    Find<QAction>(window, "mnuAccount").trigger();
+    QWidget& account = TopLevel("AccountWindow");
+    photographer.TakeSizes(account, "account");
+    account.close();
+    window.close();
 }
 
 // After a record was deleted, and after it is back.
@@ -328,6 +383,7 @@ void TakeAll(const QString& folder, const QString& theme)
     TakeViewers(program, photographer);
     TakeHistory(program, photographer);
     TakeEditMenu(main, program.desktop, photographer);
+    TakePayday(program, photographer);
 }
 
 int Run(int argc, char** argv)
