@@ -84,16 +84,17 @@ protected:
 TEST_F(PaydayWindowTest, TakesInWhoWasLeftOutAndClosesWhomNothingSpeaksAgainst)
 {
     OpenOverview();
-    EXPECT_EQ(Rows("grdLeftOut"), "Cy Day (inactive) 40.00 , EmployeeID 77 (unknown) 1 record ");
+    EXPECT_EQ(Rows("grdLeftOut").toStdString(), "Cy Day (inactive) 40.00 , EmployeeID 77 (unknown) 1 record ");
     EXPECT_EQ(CellIn("grdTotals", 0, 0), "Total (2)");
     Do("cmdTakeIn");
-    EXPECT_EQ(Rows("grdOverview"), "Bo Kim 0.00 , Ann Lee 95.00 , Cy Day 40.00 ");
+    EXPECT_EQ(Rows("grdOverview").toStdString(), "Bo Kim 0.00 , Cy Day 40.00 , Ann Lee 95.00 ");
     EXPECT_EQ(CellIn("grdTotals", 0, 3), "135.00");
-    EXPECT_EQ(Rows("grdLeftOut"), "EmployeeID 77 (unknown) 1 record ");
+    EXPECT_EQ(Rows("grdLeftOut").toStdString(), "EmployeeID 77 (unknown) 1 record ");
     EXPECT_EQ(Find<QPushButton>(Window(), "cmdClosePayday").text(), "Close Pa&yday (all)");
     Do("cmdClosePayday");
     EXPECT_EQ(Line(), "2 closed, 1 not closed: Bo Kim (1 problem); Edit > Undo (Ctrl+Z) takes it back");
-    EXPECT_EQ(Rows("grdOverview"), "Bo Kim 0.00 , Ann Lee 95.00 03/05/2003, Cy Day 40.00 03/05/2003") << "who was taken in stays";
+    EXPECT_EQ(Rows("grdOverview").toStdString(), "Bo Kim 0.00 , Cy Day 40.00 03/05/2003, Ann Lee 95.00 03/05/2003")
+        << "who was taken in stays";
     EXPECT_EQ(Paid(), (std::vector<std::string>{"42 40.00", "40 95.00"}));
     {
         const ExpectedModal details([](QDialog& window) {
@@ -106,7 +107,7 @@ TEST_F(PaydayWindowTest, TakesInWhoWasLeftOutAndClosesWhomNothingSpeaksAgainst)
     Undo();
     EXPECT_EQ(Line(), "Undone: Close Payday 03/01/2003 - 03/15/2003");
     EXPECT_EQ(Paid(), std::vector<std::string>());
-    EXPECT_EQ(Rows("grdOverview"), "Bo Kim 0.00 , Ann Lee 95.00 , Cy Day 40.00 ");
+    EXPECT_EQ(Rows("grdOverview").toStdString(), "Bo Kim 0.00 , Cy Day 40.00 , Ann Lee 95.00 ");
     EXPECT_EQ(Told(), Boxes());
 }
 
@@ -131,7 +132,7 @@ TEST_F(PaydayWindowTest, ClosesTheChosenOnesAfterAQuestionAndReopensThem)
     WaitUntilAllRead();
     EXPECT_EQ(Find<DateCombo>(Window(), "dttbOverviewFrom").Text(), "03/16/2003") << "what follows what was closed";
     Do("cmdOverviewBack");
-    EXPECT_EQ(Rows("grdOverview"), "Bo Kim 0.00 03/05/2003, Ann Lee 95.00 03/05/2003");
+    EXPECT_EQ(Rows("grdOverview").toStdString(), "Bo Kim 0.00 03/05/2003, Ann Lee 95.00 03/05/2003");
     Find<QAction>(Window(), "mnuReopen").trigger();
     WaitUntilAllRead();
     EXPECT_EQ(Line(), "2 reopened; Edit > Undo (Ctrl+Z) takes it back");
@@ -151,6 +152,7 @@ TEST_F(PaydayWindowTest, MendsSeveralAndAddsAShiftAsOneStepEach)
             const auto cell = [&](int column) { return table.model()->index(0, column).data().toString(); };
             EXPECT_EQ(Find<QLabel>(window, "lblMendTicked").text(), "1 of 1 finding ticked, for 1 person");
             EXPECT_EQ(cell(0) + ' ' + cell(2) + ' ' + cell(3) + ' ' + cell(4) + ' ' + cell(5), "Bo Kim End at 05:00 PM 05:00 PM 0.00 8.00");
+            QApplication::setActiveWindow(&window);
             QTest::keyClick(&table, Qt::Key_Space);
             EXPECT_FALSE(Find<QPushButton>(window, "cmdSave").isEnabled());
             QTest::keyClick(&table, Qt::Key_F2);

@@ -11,8 +11,8 @@
 #include "store/CSystemOptions.h"
 #include "ui/mend/FAddShift.h"
 #include "ui/mend/FMendSeveral.h"
+#include "ui/page/ChangeNews.h"
 #include "ui/page/PageHost.h"
-#include "ui/page/SharedRecords.h"
 #include "ui/widgets/WorkProgress.h"
 
 #include <algorithm>
@@ -107,8 +107,7 @@ bool PaydayActions::Run(const char* title, const char* text, const Work& work, c
 
 void PaydayActions::TellStored(const QString& news, const QString& title, const QStringList& lines)
 {
-    m_host.SharedRecords().Remember();
-    emit m_host.SharedRecords().ReadAgainWanted();
+    ptk::TellStored(m_host);
     emit Done(news, title, lines);
 }
 

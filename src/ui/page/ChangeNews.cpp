@@ -15,6 +15,12 @@ std::optional<std::int64_t> NewestChange(const PageHost& host)
     return host.SharedRecords().Newest();
 }
 
+void TellStored(const PageHost& host)
+{
+    host.SharedRecords().Remember();
+    emit host.SharedRecords().ReadAgainWanted();
+}
+
 void AfterEachLook(const PageHost& host, QObject& context, const std::function<void()>& looked)
 {
     QObject::connect(&host.SharedRecords(), &SharedRecords::Looked, &context, looked);

@@ -17,6 +17,9 @@ void LookForChanges(const PageHost& host);
 // The newest entry of the edit trail as far as anybody looked; nothing until the trail could be read.
 [[nodiscard]] std::optional<std::int64_t> NewestChange(const PageHost& host);
 
+// To be called right after a window stored something, before anything is read again: it can be undone then, and all pages show it.
+void TellStored(const PageHost& host);
+
 // Has it called after each look, as long as `context` is there.
 void AfterEachLook(const PageHost& host, QObject& context, const std::function<void()>& looked);
 
