@@ -213,9 +213,9 @@ TEST_F(PaydayWindowTest, AccountsForWhatWasPaidAndWhatChangedSince)
     for (int column = 0; column < rows.columnCount(); ++column) {
         cells << rows.index(1, column).data().toString();
     }
-    EXPECT_EQ(cells.join('|'), "Ann Lee|03/05/2003|8.00 + 1.00|95.00|8.00 + 1.50|102.50|+0.00 +0.50|+7.50|1");
+    EXPECT_EQ(cells.join('|'), "Ann Lee|03/05/2003|8.00 + 1.00|95.00|8.00 + 1.50|102.50|+0.50|+7.50|1");
     const QString told = Find<QPlainTextEdit>(account, "txtAccountPerson").toPlainText();
-    EXPECT_TRUE(told.startsWith("Ann Lee\npaid     8.00 + 1.00 hours, 95.00, 03/05/2003 08:05 AM by ")) << told.toStdString();
+    EXPECT_TRUE(told.startsWith("Ann Lee\npaid 8.00 + 1.00 hours, 95.00, 03/05/2003 08:05 AM by ")) << told.toStdString();
     EXPECT_TRUE(told.contains("end 03/03/2003 05:00 PM became 03/03/2003 05:30 PM")) << told.toStdString();
     QApplication::setActiveWindow(&account);
     Find<QAction>(Main(), "mnuViewHistory").trigger();

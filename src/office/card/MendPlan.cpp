@@ -12,6 +12,8 @@ namespace ptk {
 
 namespace {
 
+constexpr std::int64_t kShiftHour = 60; // minutes
+
 bool Shares(const Remedy& one, const Remedy& other)
 {
     return std::any_of(one.changes.begin(), one.changes.end(), [&](const RecordChange& change) {
@@ -58,11 +60,19 @@ void MendPlan::Add(Card card, const std::vector<std::vector<Remedy>>& remedies)
         const auto& offered = remedies[i];
         m_lines.push_back({m_cards.size(), card.check.findings[i], offered.empty() ? std::nullopt : std::optional(offered.front()), false});
         MendLine& line = m_lines.back();
-        line.ticked = line.remedy && !line.remedy->Deletes() && std::none_of(m_lines.begin(), m_lines.end(), [&](const MendLine& earlier) {
+        line.ticked = line.remedy && IsHarmless(*line.remedy) && std::none_of(m_lines.begin(), m_lines.end(), [&](const MendLine& earlier) {
                           return earlier.ticked && Shares(*earlier.remedy, *line.remedy);
                       });
     }
     m_cards.push_back(std::move(card));
+}
+
+// It neither deletes anything nor leaves a shift that is too long, a part of a split one for instance.
+bool MendPlan::IsHarmless(const Remedy& remedy) const
+{
+    return std::none_of(remedy.changes.begin(), remedy.changes.end(), [&](const RecordChange& change) {
+        return change.deletes || MinutesBetween(change.start, change.end) > m_terms.limits.longShiftHours * kShiftHour;
+    });
 }
 
 void MendPlan::Tick(std::size_t line, bool ticked)

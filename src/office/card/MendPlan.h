@@ -25,9 +25,8 @@ class MendPlan
 {
 public:
     // Reads the cards of these people, all of one moment, until `goOn` answers false; it is asked after each card. Of a server many cards
-    // are asked for at once. Ticked is what has a
-    // remedy that deletes nothing, of several for one record the first. autoShiftEnd: see ShiftEnds. Raises what reading the database
-    // raises. REQUIRES: nothing is nullptr.
+    // are asked for at once. Ticked is what has a remedy that deletes nothing and leaves no shift that is too long, of several for one
+    // record the first. autoShiftEnd: see ShiftEnds. Raises what reading the database raises. REQUIRES: nothing is nullptr.
     MendPlan(const std::shared_ptr<CJetDB>& database, const CheckTerms& terms, std::vector<std::shared_ptr<CEmployee>> people,
              std::optional<std::int64_t> autoShiftEnd, const std::function<bool()>& goOn = {});
 
@@ -69,6 +68,7 @@ private:
     };
 
     void Add(Card card, const std::vector<std::vector<Remedy>>& remedies);
+    [[nodiscard]] bool IsHarmless(const Remedy& remedy) const;
     [[nodiscard]] std::vector<RecordChange> TickedOf(std::size_t card) const;
     [[nodiscard]] std::optional<std::string> HoursOf(const Card& card, const std::vector<RecordChange>& changes) const;
 

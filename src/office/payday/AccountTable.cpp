@@ -1,9 +1,11 @@
 #include "office/payday/AccountTable.h"
 
+#include "platform/text/DecimalSum.h"
 #include "platform/text/Text.h"
 
 #include <algorithm>
 #include <fmt/format.h>
+#include <string_view>
 
 namespace ptk {
 
@@ -25,10 +27,21 @@ void ShowPaid(AccountCells& cells, const Closing& paid)
     cells[static_cast<std::size_t>(AccountColumn::Paid)] = paid.gross;
 }
 
+// Of two differences, with its sign.
+std::string Together(std::string_view regular, std::string_view overtime)
+{
+    DecimalSum sum;
+    for (const std::string_view hours : {regular, overtime}) {
+        sum.Add(hours.substr(hours.starts_with('+') ? 1 : 0));
+    }
+    const std::string text = sum.Text();
+    return text.starts_with('-') ? text : '+' + text;
+}
+
 void ShowOwed(AccountCells& cells, const PaidDifference& owed)
 {
     if (owed.regular && owed.overtime) {
-        cells[static_cast<std::size_t>(AccountColumn::OwedHours)] = *owed.regular + " " + *owed.overtime;
+        cells[static_cast<std::size_t>(AccountColumn::OwedHours)] = Together(*owed.regular, *owed.overtime);
     }
     cells[static_cast<std::size_t>(AccountColumn::Owed)] = owed.gross.value_or(kNoFigures);
 }

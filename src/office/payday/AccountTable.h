@@ -27,7 +27,8 @@ using AccountCells = std::array<std::string, kAccountColumns>; // by AccountColu
 
 [[nodiscard]] AccountCells AccountHeading();
 
-// Hours are regular and overtime ones, "80.00 + 0.50"; of several closings the newest counts. What is owed is empty where nothing changed.
+// Hours are regular and overtime ones, "80.00 + 0.50", of what is owed both together; of several closings the newest counts. What is owed
+// is empty where nothing changed.
 [[nodiscard]] AccountCells CellsOf(const AccountPerson& person);
 
 // "10 of 12 are paid, 1 changed since".

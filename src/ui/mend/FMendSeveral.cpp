@@ -5,6 +5,7 @@
 #include "ui_FMendSeveral.h"
 
 #include <algorithm>
+#include <QEvent>
 #include <QHeaderView>
 #include <QShortcut>
 
@@ -23,7 +24,7 @@ constexpr QSize kLeastMendSize(480, 340);
 constexpr int kRowRoom = 8; // pixels around the text of a row
 constexpr int kColumnRoom = 24;
 constexpr int kTickRoom = 28;
-constexpr int kMostNameCharacters = 26;
+constexpr int kMostCharacters = 34;    // of another column than the findings
 constexpr int kFindingCharacters = 30; // at least
 constexpr int kHintLines = 2;
 
@@ -65,6 +66,7 @@ void FMendSeveral::PrepareTable()
     table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + kRowRoom);
     table->verticalHeader()->hide();
     table->horizontalHeader()->setHighlightSections(false);
+    table->viewport()->installEventFilter(this);
 }
 
 void FMendSeveral::Connect()
@@ -97,17 +99,19 @@ void FMendSeveral::FitColumns()
             width = std::max(width, metrics.horizontalAdvance(m_rows->index(row, column).data().toString()));
         }
         const bool name = static_cast<MendColumn>(column) == MendColumn::Name;
-        width = std::min(width, kMostNameCharacters * metrics.averageCharWidth()) + (name ? kTickRoom : 0) + kColumnRoom;
+        width = std::min(width, kMostCharacters * metrics.averageCharWidth()) + (name ? kTickRoom : 0) + kColumnRoom;
         table->setColumnWidth(column, width);
         rest -= width;
     }
     table->setColumnWidth(static_cast<int>(MendColumn::Finding), std::max(rest, kFindingCharacters * metrics.averageCharWidth()));
 }
 
-void FMendSeveral::resizeEvent(QResizeEvent* event)
+bool FMendSeveral::eventFilter(QObject* watched, QEvent* event)
 {
-    QDialog::resizeEvent(event);
-    FitColumns();
+    if (event->type() == QEvent::Resize) {
+        FitColumns();
+    }
+    return QDialog::eventFilter(watched, event);
 }
 
 void FMendSeveral::ShowOnlyMendable(bool only)

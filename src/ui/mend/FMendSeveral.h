@@ -33,7 +33,8 @@ public:
     [[nodiscard]] QString Stored() const { return m_stored; }
 
 protected:
-    void resizeEvent(QResizeEvent* event) override;
+    // The room of the table.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void PrepareTable();

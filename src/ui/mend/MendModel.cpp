@@ -7,6 +7,9 @@
 #include "ui/widgets/ThemeIcon.h"
 
 #include <algorithm>
+#include <QApplication>
+#include <QPalette>
+#include <QStyle>
 
 namespace ptk {
 
@@ -40,7 +43,11 @@ QVariant AlignmentIn(int column)
 
 } // namespace
 
-MendModel::MendModel(MendPlan& plan, QObject* parent) : QAbstractTableModel(parent), m_plan(plan) {}
+MendModel::MendModel(MendPlan& plan, QObject* parent)
+    : QAbstractTableModel(parent), m_plan(plan), m_blank(QApplication::style()->pixelMetric(QStyle::PM_IndicatorWidth), 1)
+{
+    m_blank.fill(Qt::transparent);
+}
 
 int MendModel::rowCount(const QModelIndex& parent) const
 {
@@ -83,6 +90,19 @@ QString MendModel::TipOf(const QModelIndex& index) const
                : CellOf(index);
 }
 
+// Names without a tick stand below those with one.
+QVariant MendModel::IconOf(const QModelIndex& index) const
+{
+    switch (static_cast<MendColumn>(index.column())) {
+    case MendColumn::Name:
+        return Line(index).remedy ? QVariant() : QVariant(m_blank);
+    case MendColumn::Finding:
+        return ThemeIcon(SeverityIconName(SeverityOf(Line(index).finding.kind)));
+    default:
+        return {};
+    }
+}
+
 QVariant MendModel::data(const QModelIndex& index, int role) const
 {
     const auto column = static_cast<MendColumn>(index.column());
@@ -97,7 +117,10 @@ QVariant MendModel::data(const QModelIndex& index, int role) const
     case Qt::CheckStateRole:
         return column == MendColumn::Name && Line(index).remedy ? QVariant(Line(index).ticked ? Qt::Checked : Qt::Unchecked) : QVariant();
     case Qt::DecorationRole:
-        return column == MendColumn::Finding ? QVariant(ThemeIcon(SeverityIconName(SeverityOf(Line(index).finding.kind)))) : QVariant();
+        return IconOf(index);
+    case Qt::ForegroundRole:
+        return column == MendColumn::Remedy && !Line(index).remedy ? QVariant(QGuiApplication::palette().color(QPalette::PlaceholderText))
+                                                                   : QVariant();
     default:
         return {};
     }

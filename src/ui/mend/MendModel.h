@@ -4,6 +4,7 @@
 #include "office/card/MendPlan.h"
 
 #include <QAbstractTableModel>
+#include <QPixmap>
 
 namespace ptk {
 
@@ -45,11 +46,13 @@ signals:
 private:
     [[nodiscard]] const MendLine& Line(const QModelIndex& index) const { return m_plan.Lines().at(static_cast<std::size_t>(index.row())); }
     [[nodiscard]] QString CellOf(const QModelIndex& index) const;
+    [[nodiscard]] QVariant IconOf(const QModelIndex& index) const;
     [[nodiscard]] QString TipOf(const QModelIndex& index) const;
     [[nodiscard]] bool TakeEnd(std::size_t line, const QString& text);
     void TellChanged();
 
     MendPlan& m_plan;
+    QPixmap m_blank; // as wide as a tick
 };
 
 } // namespace ptk

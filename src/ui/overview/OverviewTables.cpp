@@ -21,6 +21,10 @@ constexpr int kCellSpace = 12;
 constexpr int kNameCharacters = 18;
 constexpr int kMostLeftOut = 3; // lines
 
+// A day, an amount: their sums are counts, which need less.
+constexpr auto kWidestDay = "88/88/8888";
+constexpr auto kWidestChange = "+8888.88";
+
 } // namespace
 
 OverviewTables::OverviewTables(const Place& place, QObject* parent)
@@ -214,12 +218,24 @@ void OverviewTables::FitColumns()
     for (int column = 1; column < m_sorted->columnCount(); ++column) {
         const QString heading = m_sorted->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
         const int sum = QFontMetrics(bold).horizontalAdvance(m_totals->index(0, column).data().toString());
-        const int width = std::max(m_table.fontMetrics().horizontalAdvance(heading) + kColumnSpace, sum + kCellSpace);
+        const int width = std::max({m_table.fontMetrics().horizontalAdvance(heading) + kColumnSpace, sum + kCellSpace, LeastWidth(column)});
         m_table.setColumnWidth(column, width);
         figures += width;
     }
     const int least = kNameCharacters * m_table.fontMetrics().averageCharWidth();
     m_table.setColumnWidth(0, std::max(m_table.viewport()->width() - figures, least));
+}
+
+int OverviewTables::LeastWidth(int column) const
+{
+    switch (static_cast<OverviewColumn>(column)) {
+    case OverviewColumn::Paid:
+        return m_table.fontMetrics().horizontalAdvance(kWidestDay) + kCellSpace;
+    case OverviewColumn::Changed:
+        return m_table.fontMetrics().horizontalAdvance(kWidestChange) + kCellSpace;
+    default:
+        return 0;
+    }
 }
 
 bool OverviewTables::eventFilter(QObject* watched, QEvent* event)

@@ -75,6 +75,7 @@ private:
     void ShowTotals();
     void ShowLeftOut();
     void FitColumns();
+    [[nodiscard]] int LeastWidth(int column) const;
     [[nodiscard]] std::size_t RowAt(int line) const;
     [[nodiscard]] std::int32_t EmployeeAt(int line) const { return Row(line).employee->EmployeeID(); }
     [[nodiscard]] const OverviewRow& Row(int line) const;

@@ -48,6 +48,8 @@ constexpr int kRoomOfCell = 20;
 constexpr int kLeastName = 18; // characters
 constexpr int kLines = 5;      // of the chosen person
 constexpr auto kWidestHours = "888.88 + 88.88";
+constexpr auto kWidestFigure = "88/88/8888";
+constexpr int kFirstCount = static_cast<int>(AccountColumn::Changes);
 
 QString Day(DateTime day)
 {
@@ -180,9 +182,9 @@ void AccountWindow::FitColumns()
     int rest = table->viewport()->width();
     for (int column = 1; column < m_rows->columnCount(); ++column) {
         const auto kind = static_cast<AccountColumn>(column);
-        const bool hours = kind == AccountColumn::PaidHours || kind == AccountColumn::NowHours || kind == AccountColumn::OwedHours;
+        const bool hours = kind == AccountColumn::PaidHours || kind == AccountColumn::NowHours;
         int width = metrics.horizontalAdvance(m_rows->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString());
-        width = std::max(width, metrics.horizontalAdvance(hours ? kWidestHours : (kind == AccountColumn::Changes ? "" : "88/88/8888")));
+        width = std::max(width, metrics.horizontalAdvance(hours ? kWidestHours : (column < kFirstCount ? kWidestFigure : "")));
         table->setColumnWidth(column, width + kRoomOfCell);
         rest -= width + kRoomOfCell;
     }
@@ -197,7 +199,7 @@ void AccountWindow::ShowPerson()
     if (person != nullptr) {
         lines << QString::fromStdString(NameOf(person->person));
         for (const std::string& line : LinesOf(*person)) {
-            lines << QString::fromStdString(line);
+            lines << QString::fromStdString(line).simplified(); // its columns are those of a typewriter
         }
     }
     m_ui->txtAccountPerson->setPlainText(lines.join('\n'));

@@ -221,8 +221,20 @@ void TakeOverview(FController& main, const Photographer& photographer)
 void TakePayday(GuiProgram& program, const Photographer& photographer)
 {
     FController& main = program.Main();
+    const auto database = std::make_shared<CJetDB>(program.folder.Path());
+    database->DatabaseName(NativePath(program.databasePath).string());
+    const auto run = [&](const char* sql) {
+        if (!database->ExecuteAction(sql)) {
+            throw database->LastFailure();
+        }
+    };
+    run("INSERT INTO TimeRecord (EmployeeID, StartTime, EndTime) SELECT EmployeeID, #3/3/2003 8:00 AM#, #3/3/2003 4:30 PM# FROM Employee "
+        "WHERE "
+        "LastName = 'Lindqvist'");
+    run("INSERT INTO TimeRecord (EmployeeID, StartTime, EndTime) SELECT 77, #3/3/2003 8:00 AM#, #3/3/2003 4:30 PM#");
     QWidget& window = ReadOverview(main);
     photographer.TakeSizes(window, "payday-left-out");
+    Find<QPushButton>(window, "cmdTakeIn").click();
     {
         const ModalScript mend([&](QDialog& dialog) { photographer.TakeSizes(dialog, "mend-several"); });
         Find<QPushButton>(window, "cmdMend").click();
@@ -244,13 +256,8 @@ void TakePayday(GuiProgram& program, const Photographer& photographer)
         const ModalScript lines([&](QDialog& dialog) { photographer.Take(dialog, "payday-lines"); });
         Find<QToolButton>(window, "cmdNotice").click();
     }
-    const auto database = std::make_shared<CJetDB>(program.folder.Path());
-    database->DatabaseName(NativePath(program.databasePath).string());
-    if (!database->ExecuteAction(
-            "UPDATE TimeRecord SET EndTime = datetime(EndTime, '+30 minutes') WHERE TimeRecordID IN (SELECT "
-            "MAX(TimeRecordID) FROM TimeRecord WHERE EmployeeID IN (SELECT EmployeeID FROM _Payday) GROUP BY EmployeeID)")) {
-        throw database->LastFailure();
-    }
+    run("UPDATE TimeRecord SET EndTime = datetime(EndTime, '+30 minutes') WHERE TimeRecordID IN (SELECT MAX(TimeRecordID) FROM TimeRecord "
+        "WHERE EmployeeID IN (SELECT EmployeeID FROM _Payday) GROUP BY EmployeeID)");
     Find<QAction>(window, "mnuAccount").trigger();
     QWidget& account = TopLevel("AccountWindow");
     photographer.TakeSizes(account, "account");
