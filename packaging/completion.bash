@@ -1,6 +1,6 @@
 # bash completion for ptk-console and ptk-admin
 _ptk_console() {
-    local commands="create-database time-card overview payday report history backup backups restore import import-punches copy-database check"
+    local commands="create-database time-card overview payday report history backup backups restore import import-punches import-employees person kept copy-database check"
     local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} command= i
     for ((i = 1; i < COMP_CWORD; i++)); do
         case ${COMP_WORDS[i]} in
@@ -15,12 +15,13 @@ _ptk_console() {
         --format)
             local formats="text csv json"
             [[ $command == report || $command == payday ]] && formats+=" pdf"
+            [[ $command == person ]] && formats="json pdf"
             mapfile -t COMPREPLY < <(compgen -W "$formats" -- "$word")
             return
             ;;
         -o | --output) mapfile -t COMPREPLY < <(compgen -f -- "$word"); return ;;
         --code-page) mapfile -t COMPREPLY < <(compgen -W "437 850 852 1250 1251 1252 1253 1254 1257" -- "$word"); return ;;
-        --employee | --today | --columns) return ;;
+        --employee | --today | --columns | --change | --number | --years) return ;;
     esac
     local words
     case $command in
@@ -38,6 +39,10 @@ _ptk_console() {
             if [[ $word == -* ]]; then words="--dry-run --accept-damaged --code-page --help"; else mapfile -t COMPREPLY < <(compgen -f -- "$word"); return; fi ;;
         import-punches)
             if [[ $word == -* ]]; then words="--dry-run --partly --columns --code-page --help"; else mapfile -t COMPREPLY < <(compgen -f -- "$word"); return; fi ;;
+        import-employees)
+            if [[ $word == -* ]]; then words="--dry-run --change --help"; else mapfile -t COMPREPLY < <(compgen -f -- "$word"); return; fi ;;
+        person) words="--number --format --output --help" ;;
+        kept) words="--years --help" ;;
         *) words="--help" ;;
     esac
     mapfile -t COMPREPLY < <(compgen -W "$words" -- "$word")

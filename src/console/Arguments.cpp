@@ -1,5 +1,7 @@
 #include "console/Arguments.h"
 
+#include "console/AddCommand.h"
+#include "console/PeopleArguments.h"
 #include "platform/system/Version.h"
 #include "platform/text/CodePage.h"
 #include "platform/text/TypedTime.h"
@@ -13,15 +15,6 @@
 namespace ptk {
 
 namespace {
-
-// What a command takes is described only when it stands on the line: that of all of them would take longer than a time card.
-template <typename Describe>
-CLI::App* AddCommand(CLI::App& app, const char* name, const char* about, Describe describe)
-{
-    CLI::App* const command = app.add_subcommand(name, about);
-    command->preparse_callback([command, describe](std::size_t) { describe(*command); });
-    return command;
-}
 
 void TakesFormat(CLI::App& command, std::string& format)
 {
@@ -113,6 +106,7 @@ private:
     Words m_words;
     CLI::App m_app{"PTK - Administrator for terminals and scheduled jobs: time cards and reports from the program folder's database",
                    "ptk-console"};
+    std::optional<PeopleGrammar> m_people;
     CLI::App* m_createDatabase = nullptr;
     CLI::App* m_timeCard = nullptr;
     CLI::App* m_report = nullptr;
@@ -152,6 +146,7 @@ Grammar::Grammar(DateTime today) : m_today(today)
     DescribeBackups();
     DescribeImport();
     DescribeImportPunches();
+    m_people.emplace(m_app);
     DescribeCopy();
     m_app.add_subcommand("check", "Verify the database's integrity and schema and print its row counts");
 }
@@ -374,7 +369,7 @@ Arguments Grammar::Result() const
         return {m_words.programFolder, HistoryArguments{named ? std::optional(m_words.employee) : std::nullopt, Day(m_words.from),
                                                         Day(m_words.to), m_words.format}};
     }
-    return {m_words.programFolder, FileResult()};
+    return {m_words.programFolder, m_people->Result().value_or(FileResult())};
 }
 
 Command Grammar::ReportResult() const

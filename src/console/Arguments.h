@@ -1,11 +1,13 @@
 // The command line of ptk-console, read and checked.
 #pragma once
 
+#include "office/sheet/EmployeeFields.h"
 #include "office/sheet/SheetColumns.h"
 #include "platform/text/DateTime.h"
 #include "reports/forms/ReportForms.h"
 #include "reports/ReportCatalog.h"
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <variant>
@@ -103,6 +105,26 @@ struct ImportPunchesArguments
     SheetWords words;
 };
 
+struct ImportEmployeesArguments
+{
+    std::string file;
+    bool dryRun = false;
+    std::vector<EmployeeField> change;
+};
+
+struct PersonArguments
+{
+    std::string name;                   // a display name
+    std::optional<std::int32_t> number; // of namesakes
+    ReportForm form = ReportForm::Json; // or Pdf
+    std::optional<std::string> output;  // a file; none: the standard output
+};
+
+struct KeptArguments
+{
+    std::int32_t years = 0;
+};
+
 struct CopyDatabaseArguments
 {
     std::optional<std::string> from; // a file or an address; none: the configured database
@@ -115,7 +137,7 @@ struct CheckArguments
 
 using Command = std::variant<CreateDatabaseArguments, TimeCardArguments, ReportArguments, OverviewArguments, PaydayArguments,
                              HistoryArguments, BackupArguments, RestoreArguments, BackupsArguments, ImportArguments, ImportPunchesArguments,
-                             CopyDatabaseArguments, CheckArguments>;
+                             ImportEmployeesArguments, PersonArguments, KeptArguments, CopyDatabaseArguments, CheckArguments>;
 
 struct Arguments
 {

@@ -26,6 +26,9 @@ struct Dispatch
     int operator()(const BackupsArguments& arguments) const { return BackupsCommand(arguments, console); }
     int operator()(const ImportArguments& arguments) const { return ImportCommand(arguments, console); }
     int operator()(const ImportPunchesArguments& arguments) const { return ImportPunchesCommand(arguments, console); }
+    int operator()(const ImportEmployeesArguments& arguments) const { return ImportEmployeesCommand(arguments, console); }
+    int operator()(const PersonArguments& arguments) const { return PersonCommand(arguments, console); }
+    int operator()(const KeptArguments& arguments) const { return KeptCommand(arguments, console); }
     int operator()(const CopyDatabaseArguments& arguments) const { return CopyDatabaseCommand(arguments, console); }
     int operator()(const CheckArguments& arguments) const { return CheckCommand(arguments, console); }
 };

@@ -373,6 +373,11 @@ std::string CController::SecondBackupFolder() const
     return ptk::SecondBackupFolder(*Required(m_configFile));
 }
 
+PersonPlaces CController::FilesOfPersons() const
+{
+    return {m_around.programFolder, SecondBackupFolder()};
+}
+
 std::string CController::SecondFolderRefusal(const std::string& folder) const
 {
     return ptk::SecondFolderRefusal(folder, m_around.programFolder);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "office/import/Import.h"
+#include "office/person/PersonData.h"
 #include "store/engine/Author.h"
 
 #include <cstdint>
@@ -111,6 +112,9 @@ public:
 
     // The folder for a second copy of each backup; empty for none.
     [[nodiscard]] std::string SecondBackupFolder() const;
+
+    // Where files beside the database may hold something about an employee.
+    [[nodiscard]] PersonPlaces FilesOfPersons() const;
 
     // See office/BackupRun.h.
     [[nodiscard]] std::string SecondFolderRefusal(const std::string& folder) const;

@@ -23,7 +23,7 @@ FLOORS = {
     "store": [["engine"], ["sqlite", "postgres", "rows"], ["whole"], ["backup"], [""], ["trail", "import"]],
     "model": [[""], ["payday"], ["check"], ["remedy"]],
     "reports": [["forms"], [""]],
-    "office": [["card", "import", "reports", "sheet"], ["history", "safety"], ["overview"], ["payday", "records", "business"]],
+    "office": [["card", "import", "reports", "sheet"], ["history", "safety"], ["overview"], ["payday", "records", "business", "person"]],
     "jetreader": [[""]],
     "startup": [[""]],
     "console": [[""], ["main"]],

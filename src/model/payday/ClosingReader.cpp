@@ -39,6 +39,10 @@ constexpr const char* kBefore =
 
 constexpr const char* kOfOne = " AND EmployeeID = :employee";
 
+constexpr const char* kAllOfOne =
+    "SELECT PaydayID, EmployeeID, FromDay, ToDay, PaidAt, PaidBy, Regular, Overtime, Gross, Entry FROM _Payday "
+    "WHERE EmployeeID = :employee ORDER BY FromDay, PaydayID";
+
 constexpr const char* kLast = "SELECT FromDay, ToDay FROM _Payday WHERE {} ORDER BY ToDay DESC, PaydayID DESC LIMIT 1";
 
 bool HasClosings(CJetDB& database)
@@ -123,6 +127,23 @@ Closings ReadClosings(const std::shared_ptr<CJetDB>& database, const PayPeriod& 
     for (auto& [id, closed] : closings) {
         std::sort(closed.ofPeriod.begin(), closed.ofPeriod.end(),
                   [](const Closing& left, const Closing& right) { return left.id < right.id; });
+    }
+    return closings;
+}
+
+std::vector<Closing> ReadClosingsOf(const std::shared_ptr<CJetDB>& database, std::int64_t employee)
+{
+    const CJetDB::Hold hold(database);
+    RequireOpen(*database);
+    std::vector<Closing> closings;
+    if (HasClosings(*database)) {
+        const auto rows = RequireSelect(*database, kAllOfOne);
+        rows->Bind("employee", std::to_string(employee));
+        rows->ForEachRow([&] {
+            if (const auto days = DaysOf(*rows, kFrom, kTo)) {
+                closings.push_back(ClosingOf(*rows, *days));
+            }
+        });
     }
     return closings;
 }

@@ -17,6 +17,9 @@ class CJetDB;
 [[nodiscard]] Closings ReadClosings(const std::shared_ptr<CJetDB>& database, const PayPeriod& period,
                                     std::optional<std::int64_t> employee = std::nullopt);
 
+// All of one employee, of whatever period, by their first days and numbers.
+[[nodiscard]] std::vector<Closing> ReadClosingsOf(const std::shared_ptr<CJetDB>& database, std::int64_t employee);
+
 // The period that follows what was closed last, of whomever: it begins on the day after the greatest last day and has as many days. Nothing
 // where nothing is closed, or where it would leave the calendar.
 [[nodiscard]] std::optional<PayPeriod> PeriodToClose(const std::shared_ptr<CJetDB>& database);

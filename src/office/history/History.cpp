@@ -61,7 +61,7 @@ std::string NumberOr(const std::optional<std::int64_t>& number, const char* none
     return number ? std::to_string(*number) : none;
 }
 
-std::string JsonLine(const TrailEntry& entry, const std::string& text)
+std::string JsonObject(const TrailEntry& entry, const std::string& text)
 {
     return fmt::format(
         R"({{"id":{},"at":{},"by":{},"program":{},"step":{},"table":{},"row":{},"action":{},"before":{},"after":{},"text":{},"reason":{}}})",
@@ -94,7 +94,7 @@ std::string HistoryIn(ReportForm form, const std::shared_ptr<CJetDB>& database, 
         names.Learn(entry);
         const auto nameOf = [&](std::int64_t id) { return names.Of(id); };
         if (form == ReportForm::Json) {
-            text += (text.empty() ? "\r\n" : ",\r\n") + JsonLine(entry, EntrySentence(entry, nameOf));
+            text += (text.empty() ? "\r\n" : ",\r\n") + HistoryJson(entry, nameOf);
         } else {
             text += HistoryLine(form, entry, nameOf);
         }
@@ -103,6 +103,11 @@ std::string HistoryIn(ReportForm form, const std::shared_ptr<CJetDB>& database, 
         return "{\"changes\":[" + text + (text.empty() ? "" : "\r\n") + "]}\r\n";
     }
     return HistoryHeading(form) + text;
+}
+
+std::string HistoryJson(const TrailEntry& entry, const NameOfEmployee& nameOf)
+{
+    return JsonObject(entry, EntrySentence(entry, nameOf));
 }
 
 std::string HistoryHeading(ReportForm form)

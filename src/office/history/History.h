@@ -17,6 +17,9 @@ class CJetDB;
 // without one. Lines end in CR LF. Raises what reading the trail raises. REQUIRES: not Pdf.
 [[nodiscard]] std::string HistoryIn(ReportForm form, const std::shared_ptr<CJetDB>& database, const TrailQuery& query);
 
+// One entry as JSON has it, an object without a line end.
+[[nodiscard]] std::string HistoryJson(const TrailEntry& entry, const NameOfEmployee& nameOf);
+
 // The line with which a file in this form begins, its end included; empty for text. REQUIRES: neither Pdf nor Json.
 [[nodiscard]] std::string HistoryHeading(ReportForm form);
 

@@ -17,6 +17,7 @@ namespace {
 
 constexpr auto kUndo = "Undo";
 constexpr auto kRedo = "Redo";
+constexpr auto kImportEmployees = "Import of {} Employees";
 constexpr auto kClosePayday = "Close Payday";
 constexpr auto kReopenPayday = "Reopen Payday";
 
@@ -48,6 +49,12 @@ bool AreNewRecords(const std::vector<TrailEntry>& entries)
 {
     return std::all_of(entries.begin(), entries.end(),
                        [](const TrailEntry& entry) { return entry.table == "TimeRecord" && !entry.before; });
+}
+
+// Only the import of employees stores several at once.
+bool AreEmployees(const std::vector<TrailEntry>& entries)
+{
+    return std::all_of(entries.begin(), entries.end(), [](const TrailEntry& entry) { return entry.table == "Employee"; });
 }
 
 // " 03/01/2003 - 03/15/2003"
@@ -161,6 +168,9 @@ std::string UndoStack::TextOf(const std::vector<TrailEntry>& entries) const
     }
     if (entries.size() == 1) {
         return VerbOf(entries.front()) + NameOf(entries.front());
+    }
+    if (AreEmployees(entries)) {
+        return fmt::format(kImportEmployees, entries.size());
     }
     return AreNewRecords(entries) ? fmt::format("Auto Fill of {} records", entries.size()) : fmt::format("{} changes", entries.size());
 }

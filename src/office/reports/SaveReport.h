@@ -18,7 +18,7 @@ namespace ptk {
 // The line of a file dialog: "PDF document (*.pdf)".
 [[nodiscard]] std::string FilterOf(ReportForm form);
 
-// By the ending of the name, in any letter case; `chosen` where it is that of none of these forms.
+// The one of the forms whose ending the name has, in any letter case; else `chosen`.
 [[nodiscard]] ReportForm FormOfName(const std::string& path, ReportForm chosen, std::span<const ReportForm> forms);
 
 // Makes the bytes of a form; may raise.

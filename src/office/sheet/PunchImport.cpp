@@ -109,7 +109,7 @@ bool PunchAccount::IsRefused(bool partly) const
 
 PunchAccount ImportPunches(const std::shared_ptr<CJetDB>& database, const PunchOrder& order, const GoesOn& goesOn)
 {
-    const std::string text = ReadSheet(order.from);
+    const std::string text = ReadSheet(order.from.file, order.from.codePage);
     PunchLines read;
     PunchAccount account;
     {

@@ -3,31 +3,14 @@
 #include "office/sheet/PunchEvents.h"
 #include "office/sheet/SheetMoment.h"
 #include "office/sheet/SheetPeople.h"
-#include "platform/Failure.h"
-#include "platform/files/SystemFile.h"
 #include "platform/text/Characters.h"
-#include "platform/text/CodePage.h"
-#include "platform/text/CsvReader.h"
-#include "platform/text/Utf8.h"
 
-#include <fcntl.h>
 #include <fmt/format.h>
 #include <span>
 
 namespace ptk {
 
 namespace {
-
-constexpr std::string_view kMark = "\xEF\xBB\xBF";           // the byte order mark of UTF-8
-constexpr std::size_t kLargestFile = std::size_t{256} << 20; // bytes
-constexpr std::size_t kLongestShown = 40;                    // characters of a value in a reason
-
-constexpr std::int64_t kAskedEvery = 1000;
-
-constexpr auto kCancelled = "it was cancelled";
-constexpr auto kTooLarge = "the file is larger than 256 MB";
-constexpr auto kBrokenUtf8 = "the file begins with the mark of UTF-8 and is no UTF-8";
-constexpr auto kNoHeading = "the file has no heading line";
 
 constexpr auto kNobody = "nobody has {}";
 constexpr auto kSeveral = "several people have {}";
@@ -38,23 +21,6 @@ constexpr auto kNoMoment = "no day with a time: {}";
 constexpr auto kNoDirection = "neither in nor out: {}";
 constexpr auto kBackward = "the end is before the start";
 constexpr auto kZero = "a day on which nobody can have come";
-constexpr auto kStray = "text behind the closing quotation mark";
-constexpr auto kNoColumn = "a cell without a heading";
-
-// Why one line is refused.
-struct Refused
-{
-    std::string reason;
-};
-
-std::string Shown(std::string_view value)
-{
-    std::string_view left = value;
-    for (std::size_t i = 0; i < kLongestShown && !left.empty(); ++i) {
-        static_cast<void>(TakeCharacter(left));
-    }
-    return fmt::format("\"{}{}\"", value.substr(0, value.size() - left.size()), left.empty() ? "" : "...");
-}
 
 class PunchTable
 {
@@ -69,13 +35,13 @@ public:
         ++m_read.lines;
         m_cells = record.cells;
         try {
-            RefuseStrange(record);
+            m_columns.Headings().RefuseStrange(record);
             if (m_columns.AreEvents()) {
                 m_events.push_back(Event(record.line));
             } else {
                 m_read.punches.push_back(Punch(record.line));
             }
-        } catch (const Refused& refused) {
+        } catch (const LineRefused& refused) {
             m_read.refused.push_back({record.line, refused.reason});
         }
     }
@@ -90,21 +56,9 @@ public:
     }
 
 private:
-    void RefuseStrange(const CsvRecord& record) const
-    {
-        if (record.strayCell != 0) {
-            throw Refused{fmt::format("{}: {}", m_columns.NameOf(record.strayCell), kStray)};
-        }
-        for (std::size_t place = m_columns.Count(); place < m_cells.size(); ++place) {
-            if (!Trimmed(m_cells[place]).empty()) {
-                throw Refused{fmt::format("{}: {}", m_columns.NameOf(place + 1), kNoColumn)};
-            }
-        }
-    }
-
     [[noreturn]] void Refuse(SheetColumn column, std::string_view reason) const
     {
-        throw Refused{fmt::format("{}: {}", m_columns.Heading(column), reason)};
+        throw LineRefused{fmt::format("{}: {}", m_columns.Heading(column), reason)};
     }
 
     [[nodiscard]] std::string_view Cell(SheetColumn column) const { return m_columns.Cell(m_cells, column); }
@@ -115,8 +69,8 @@ private:
         const auto found = m_people.Find(m_columns.Person(), cell);
         if (const auto* fault = std::get_if<PersonFault>(&found)) {
             Refuse(m_columns.Person(), *fault == PersonFault::None      ? kEmpty
-                                       : *fault == PersonFault::Unknown ? fmt::format(kNobody, Shown(cell))
-                                                                        : fmt::format(kSeveral, Shown(cell)));
+                                       : *fault == PersonFault::Unknown ? fmt::format(kNobody, ShownCell(cell))
+                                                                        : fmt::format(kSeveral, ShownCell(cell)));
         }
         return std::get<std::int32_t>(found);
     }
@@ -130,7 +84,7 @@ private:
         }
         const auto moment = m_columns.Has(SheetColumn::Date) ? TimeOnDay(column, cell) : ReadSheetMoment(cell);
         if (!moment) {
-            Refuse(column, fmt::format(kNoMoment, Shown(cell)));
+            Refuse(column, fmt::format(kNoMoment, ShownCell(cell)));
         }
         if (moment->IsZero()) {
             Refuse(column, kZero); // the moment that stands for none
@@ -143,11 +97,11 @@ private:
         const std::string_view dayCell = Cell(SheetColumn::Date);
         const auto day = ReadSheetDay(dayCell);
         if (!day) {
-            Refuse(SheetColumn::Date, dayCell.empty() ? kEmpty : fmt::format(kNoDay, Shown(dayCell)));
+            Refuse(SheetColumn::Date, dayCell.empty() ? kEmpty : fmt::format(kNoDay, ShownCell(dayCell)));
         }
         const auto time = ReadSheetTime(cell);
         if (!time) {
-            Refuse(column, fmt::format(kNoTime, Shown(cell)));
+            Refuse(column, fmt::format(kNoTime, ShownCell(cell)));
         }
         return OnDay(*day, *time);
     }
@@ -171,7 +125,7 @@ private:
         const DateTime time = Moment(SheetColumn::Time);
         const auto direction = m_columns.ReadDirection(word);
         if (!direction) {
-            Refuse(SheetColumn::Direction, word.empty() ? kEmpty : fmt::format(kNoDirection, Shown(word)));
+            Refuse(SheetColumn::Direction, word.empty() ? kEmpty : fmt::format(kNoDirection, ShownCell(word)));
         }
         return {person, time, line, *direction};
     }
@@ -183,66 +137,16 @@ private:
     std::vector<PunchEvent> m_events;
 };
 
-bool NextLine(CsvReader& reader, CsvRecord& record)
-{
-    while (reader.Next(record)) {
-        if (!record.IsBlank()) {
-            return true;
-        }
-    }
-    return false;
-}
-
-std::string ReadBytes(const std::string& path)
-{
-    SystemFile file = OpenRegularFile(path, O_RDONLY);
-    std::string bytes;
-    char buffer[1 << 16];
-    while (const std::size_t count = file.Read(buffer, sizeof buffer)) {
-        if (bytes.size() + count > kLargestFile) {
-            throw Failure(0, "PTK", kTooLarge);
-        }
-        bytes.append(buffer, count);
-    }
-    return bytes;
-}
-
 } // namespace
-
-std::string ReadSheet(const PunchFile& file)
-{
-    std::string text = ReadBytes(file.file);
-    const bool marked = text.starts_with(kMark);
-    text.erase(0, marked ? kMark.size() : 0);
-    RefuseStrangeLines(text);
-    if (IsUtf8(text)) {
-        return text;
-    }
-    if (marked) {
-        throw Failure(0, "PTK", kBrokenUtf8);
-    }
-    return FromCodePage(text, file.codePage.value_or(kWesternCodePage));
-}
-
-void AskWhetherToGoOn(const GoesOn& goesOn, std::int64_t done)
-{
-    if (done % kAskedEvery == 0 && goesOn && !goesOn()) {
-        throw Failure(0, "PTK", kCancelled);
-    }
-}
 
 PunchLines ReadPunches(std::string_view text, const SheetWords& words, const SheetPeople& people, std::int32_t longestHours,
                        const GoesOn& goesOn)
 {
-    CsvReader reader(text, SeparatorOf(text));
-    CsvRecord record;
-    if (!NextLine(reader, record)) {
-        throw Failure(0, "PTK", kNoHeading);
-    }
+    SheetReader reader(text);
     PunchLines read;
-    PunchTable table(SheetColumns(record.cells, words), people, read);
-    while (NextLine(reader, record)) {
-        table.Take(record);
+    PunchTable table(SheetColumns(reader.Record().cells, words), people, read);
+    while (reader.Next()) {
+        table.Take(reader.Record());
         AskWhetherToGoOn(goesOn, read.lines);
     }
     table.Finish(longestHours);

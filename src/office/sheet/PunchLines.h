@@ -2,7 +2,7 @@
 #pragma once
 
 #include "office/sheet/SheetColumns.h"
-#include "platform/GoesOn.h"
+#include "office/sheet/SheetFile.h"
 #include "platform/text/DateTime.h"
 
 #include <cstdint>
@@ -14,12 +14,6 @@
 namespace ptk {
 
 class SheetPeople;
-
-struct RefusedLine
-{
-    std::int64_t line = 0; // of the file on which the record begins, the first being 1
-    std::string reason;    // begins with the column's name
-};
 
 // A time record that the file holds. An open one has the zero date-time as its end.
 struct SheetPunch
@@ -41,19 +35,12 @@ struct PunchLines
     std::string startColumn;          // its heading, or that of the events' times
 };
 
-// Every thousand lines or records, `done` of them; false ends the work with a failure without a number.
-void AskWhetherToGoOn(const GoesOn& goesOn, std::int64_t done);
-
 struct PunchFile
 {
     std::string file;            // a path in the platform's own form
     std::optional<int> codePage; // of a file that is no UTF-8; else the western one
     SheetWords words;
 };
-
-// The file's text as UTF-8, without a byte order mark. Raises failures without a number, one sentence each, for a file that is no text, and
-// those of opening and reading it.
-[[nodiscard]] std::string ReadSheet(const PunchFile& file);
 
 // `text` as ReadSheet answers it. `longestHours`: an event that ends a longer shift is refused. Raises a failure without a number, one
 // sentence, for a file that is refused as a whole: its headings, a quotation mark that is never closed.

@@ -2,7 +2,6 @@
 
 #include "platform/Failure.h"
 #include "platform/text/Characters.h"
-#include "platform/text/Text.h"
 
 #include <algorithm>
 #include <fmt/format.h>
@@ -42,7 +41,6 @@ constexpr DirectionName kDirections[] = {{"in", Direction::In}, {"i", Direction:
 
 constexpr SheetColumn kPeople[] = {SheetColumn::Number, SheetColumn::Id, SheetColumn::Name, SheetColumn::Ssn};
 
-constexpr auto kTwice = "the heading {} stands twice";
 constexpr auto kTwoColumns = "the columns {} and {} mean the same";
 constexpr auto kNotThere = "the file has no column {}";
 constexpr auto kNoPerson = "no column says whose punches these are: Employee, Number, ID, Name or SSN";
@@ -57,13 +55,6 @@ constexpr auto kNoMoments = "no columns say when somebody came and went: Start a
     throw Failure(0, "PTK", std::move(text));
 }
 
-std::string Normalized(std::string_view text)
-{
-    std::string normalized = LowerCase(text);
-    std::erase_if(normalized, [](char c) { return c == ' ' || c == '\t'; });
-    return normalized;
-}
-
 const ColumnName* FindColumn(std::string_view normalized)
 {
     const auto* found = std::find_if(std::begin(kNames), std::end(kNames), [&](const ColumnName& name) { return name.name == normalized; });
@@ -74,11 +65,11 @@ const ColumnName* FindColumn(std::string_view normalized)
 bool TakeWord(std::string_view text, SheetWords& words)
 {
     const std::size_t equals = text.rfind('=');
-    const std::string file = Normalized(text.substr(0, equals));
+    const std::string file = NormalizedWord(text.substr(0, equals));
     if (equals == std::string_view::npos || file.empty()) {
         return false;
     }
-    const std::string ours = Normalized(text.substr(equals + 1));
+    const std::string ours = NormalizedWord(text.substr(equals + 1));
     if (ours == "in" || ours == "out") {
         words.directions.emplace_back(file, ours == "in" ? Direction::In : Direction::Out);
         return true;
@@ -107,68 +98,59 @@ std::optional<SheetWords> ReadSheetWords(std::string_view text)
     }
 }
 
-SheetColumns::SheetColumns(std::span<const std::string> headings, SheetWords words)
-    : m_headings(headings.begin(), headings.end()), m_words(std::move(words))
+SheetColumns::SheetColumns(std::span<const std::string> headings, SheetWords words) : m_headings(headings), m_words(std::move(words))
 {
-    for (std::string& heading : m_headings) {
-        heading = std::string(Trimmed(heading));
-    }
-    RefuseDoubled();
     PlaceTold();
     PlaceByName();
     ChoosePerson();
     RequireMoments();
 }
 
-void SheetColumns::RefuseDoubled() const
-{
-    std::vector<std::string> seen;
-    for (const std::string& heading : m_headings) {
-        std::string normalized = Normalized(heading);
-        if (normalized.empty()) {
-            continue;
-        }
-        if (std::find(seen.begin(), seen.end(), normalized) != seen.end()) {
-            Refuse(fmt::format(kTwice, Trimmed(heading)));
-        }
-        seen.push_back(std::move(normalized));
-    }
-}
-
 void SheetColumns::PlaceTold()
 {
     for (const auto& [heading, column] : m_words.columns) {
-        const auto found =
-            std::find_if(m_headings.begin(), m_headings.end(), [&](const std::string& own) { return Normalized(own) == heading; });
-        if (found == m_headings.end()) {
+        const auto found = m_headings.Find(heading);
+        if (!found) {
             Refuse(fmt::format(kNotThere, heading));
         }
-        Place(column, static_cast<std::size_t>(found - m_headings.begin()));
+        Place(column, *found);
     }
 }
 
-// What was told of a heading, or of what stands for one of ours, goes before the names.
+// What was told of a heading, or of what stands for one of ours, goes before the names; and beside Employee the others that say who it is
+// are further columns.
 void SheetColumns::PlaceByName()
 {
-    std::vector<bool> told(kSheetColumnCount);
-    for (std::size_t i = 0; i < kSheetColumnCount; ++i) {
-        told[i] = m_places[i].has_value();
+    bool byEmployee = Has(SheetColumn::Employee);
+    for (std::size_t place = 0; place < m_headings.Count(); ++place) {
+        byEmployee = byEmployee || NamedAt(place) == SheetColumn::Employee;
     }
-    for (std::size_t place = 0; place < m_headings.size(); ++place) {
-        const std::string normalized = Normalized(m_headings[place]);
-        const bool isTold =
-            std::any_of(m_words.columns.begin(), m_words.columns.end(), [&](const auto& word) { return word.first == normalized; });
-        const ColumnName* const name = isTold ? nullptr : FindColumn(normalized);
-        if (name != nullptr && !told[Index(name->column)]) {
-            Place(name->column, place);
+    std::vector<bool> taken(kSheetColumnCount);
+    for (std::size_t i = 0; i < kSheetColumnCount; ++i) {
+        const bool saysWho = std::find(std::begin(kPeople), std::end(kPeople), static_cast<SheetColumn>(i)) != std::end(kPeople);
+        taken[i] = m_places[i].has_value() || (byEmployee && saysWho);
+    }
+    for (std::size_t place = 0; place < m_headings.Count(); ++place) {
+        if (const auto column = NamedAt(place); column && !taken[Index(*column)]) {
+            Place(*column, place);
         }
     }
+}
+
+// Nothing for a heading that means nothing to us, or of which something was told.
+std::optional<SheetColumn> SheetColumns::NamedAt(std::size_t place) const
+{
+    const std::string normalized = NormalizedWord(m_headings.At(place));
+    const bool isTold =
+        std::any_of(m_words.columns.begin(), m_words.columns.end(), [&](const auto& word) { return word.first == normalized; });
+    const ColumnName* const name = isTold ? nullptr : FindColumn(normalized);
+    return name == nullptr ? std::nullopt : std::optional(name->column);
 }
 
 void SheetColumns::Place(SheetColumn column, std::size_t place)
 {
     if (Has(column)) {
-        Refuse(fmt::format(kTwoColumns, Heading(column), m_headings[place]));
+        Refuse(fmt::format(kTwoColumns, Heading(column), m_headings.At(place)));
     }
     m_places[Index(column)] = place;
 }
@@ -215,15 +197,9 @@ std::string_view SheetColumns::Cell(std::span<const std::string> cells, SheetCol
     return place < cells.size() ? Trimmed(cells[place]) : std::string_view();
 }
 
-std::string SheetColumns::NameOf(std::size_t place) const
-{
-    const std::string_view heading = place <= m_headings.size() ? Trimmed(m_headings[place - 1]) : std::string_view();
-    return heading.empty() ? fmt::format("column {}", place) : std::string(heading);
-}
-
 std::optional<Direction> SheetColumns::ReadDirection(std::string_view word) const
 {
-    const std::string normalized = Normalized(word);
+    const std::string normalized = NormalizedWord(word);
     for (const auto& [own, direction] : m_words.directions) {
         if (own == normalized) {
             return direction;

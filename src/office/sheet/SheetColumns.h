@@ -1,6 +1,8 @@
 // What the columns of a file of punches mean: by their headings, or as somebody said.
 #pragma once
 
+#include "office/sheet/SheetHeadings.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -34,12 +36,11 @@ enum class Direction
     Out
 };
 
-// What was said of a file's headings and of its words for directions. Headings and words are compared without blanks and without the
-// difference of letter case of A to Z.
+// What was said of a file's headings and of its words for directions.
 struct SheetWords
 {
-    std::vector<std::pair<std::string, SheetColumn>> columns;  // by the file's heading
-    std::vector<std::pair<std::string, Direction>> directions; // by the file's word
+    std::vector<std::pair<std::string, SheetColumn>> columns;  // by the file's heading, normalized
+    std::vector<std::pair<std::string, Direction>> directions; // by the file's word, normalized
 };
 
 // FILE=OURS,...: ours is one of the headings, In or Out. Nothing for what is no such text.
@@ -60,29 +61,26 @@ public:
     [[nodiscard]] SheetColumn Person() const { return m_person; }
 
     // As it stands in the file.
-    [[nodiscard]] const std::string& Heading(SheetColumn column) const { return m_headings[*m_places[Index(column)]]; }
+    [[nodiscard]] const std::string& Heading(SheetColumn column) const { return m_headings.At(*m_places[Index(column)]); }
 
     // Of a line, without the blanks around; empty where the line ends before it. REQUIRES: Has(column).
     [[nodiscard]] std::string_view Cell(std::span<const std::string> cells, SheetColumn column) const;
 
-    // The name of a place counted from 1: its heading, or its number where it has none.
-    [[nodiscard]] std::string NameOf(std::size_t place) const;
-
-    [[nodiscard]] std::size_t Count() const { return m_headings.size(); }
+    [[nodiscard]] const SheetHeadings& Headings() const { return m_headings; }
 
     // Nothing for a word that is no direction.
     [[nodiscard]] std::optional<Direction> ReadDirection(std::string_view word) const;
 
 private:
     [[nodiscard]] static std::size_t Index(SheetColumn column) { return static_cast<std::size_t>(column); }
-    void RefuseDoubled() const;
     void PlaceTold();
     void PlaceByName();
+    [[nodiscard]] std::optional<SheetColumn> NamedAt(std::size_t place) const;
     void Place(SheetColumn column, std::size_t place);
     void ChoosePerson();
     void RequireMoments() const;
 
-    std::vector<std::string> m_headings;
+    SheetHeadings m_headings;
     SheetWords m_words;
     std::optional<std::size_t> m_places[kSheetColumnCount];
     SheetColumn m_person = SheetColumn::Employee;

@@ -13,6 +13,7 @@ namespace {
 constexpr char kQuote = '"';
 constexpr std::size_t kLongestLine = std::size_t{1} << 20; // bytes
 constexpr std::array kSeparators{',', ';', '\t'};
+constexpr std::string_view kBlanks = " ,;\t"; // of a cell that holds nothing
 
 constexpr auto kOpenQuote = "line {}: a quotation mark is opened and never closed";
 constexpr auto kNul = "line {}: the file holds a NUL byte; it is no text file that can be read";
@@ -29,12 +30,56 @@ std::size_t LineEndLength(std::string_view text)
     return text.starts_with("\r\n") ? 2 : 1;
 }
 
+// Counts the separators of the first line that is not blank. Which of them separates is not known yet, so that behind each a cell may
+// begin, and with it a quotation mark.
+class HeadingCounter
+{
+public:
+    // False at the end of that line.
+    bool Take(char c)
+    {
+        if (m_quoted) {
+            m_quoted = c != kQuote;
+            m_blank = m_blank && kBlanks.find(c) != std::string_view::npos;
+        } else if (IsLineEnd(c)) {
+            return m_blank && Restart();
+        } else if (const auto* at = std::find(kSeparators.begin(), kSeparators.end(), c); at != kSeparators.end()) {
+            ++m_counts[static_cast<std::size_t>(at - kSeparators.begin())];
+            m_mayOpen = true;
+        } else if (c == kQuote) {
+            m_quoted = m_mayOpen; // also the second of two within, which is let in again
+        } else {
+            m_mayOpen = m_mayOpen && c == ' ';
+            m_blank = m_blank && c == ' ';
+        }
+        return true;
+    }
+
+    [[nodiscard]] char Most() const
+    {
+        return kSeparators[static_cast<std::size_t>(std::max_element(m_counts.begin(), m_counts.end()) - m_counts.begin())];
+    }
+
+private:
+    bool Restart()
+    {
+        m_counts = {};
+        m_mayOpen = true;
+        return true;
+    }
+
+    std::array<std::size_t, kSeparators.size()> m_counts{};
+    bool m_quoted = false;
+    bool m_mayOpen = true;
+    bool m_blank = true;
+};
+
 } // namespace
 
 bool CsvRecord::IsBlank() const
 {
     return strayCell == 0 && std::all_of(cells.begin(), cells.end(),
-                                         [](const std::string& cell) { return cell.find_first_not_of(" ,;\t") == std::string::npos; });
+                                         [](const std::string& cell) { return cell.find_first_not_of(kBlanks) == std::string::npos; });
 }
 
 bool CsvReader::Next(CsvRecord& record)
@@ -132,25 +177,11 @@ std::string_view CsvReader::TakeLineEnd()
 
 char SeparatorOf(std::string_view text)
 {
-    std::array<std::size_t, kSeparators.size()> counts{};
-    bool quoted = false;
-    bool blank = true;
-    for (const char c : text) {
-        if (IsLineEnd(c) && !quoted) {
-            if (!blank) {
-                break;
-            }
-            counts = {};
-        } else if (c == kQuote) {
-            quoted = !quoted;
-            blank = false;
-        } else if (const auto* at = std::find(kSeparators.begin(), kSeparators.end(), c); at != kSeparators.end() && !quoted) {
-            ++counts[static_cast<std::size_t>(at - kSeparators.begin())];
-        } else {
-            blank = blank && c == ' ';
-        }
+    HeadingCounter counter;
+    while (!text.empty() && counter.Take(text.front())) {
+        text.remove_prefix(1);
     }
-    return kSeparators[static_cast<std::size_t>(std::max_element(counts.begin(), counts.end()) - counts.begin())];
+    return counter.Most();
 }
 
 void RefuseStrangeLines(std::string_view text)

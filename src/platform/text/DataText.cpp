@@ -43,6 +43,11 @@ std::optional<unsigned> ControlCode(std::string_view character)
     return std::nullopt;
 }
 
+bool BeginsFormula(std::string_view text)
+{
+    return text.find_first_of("=+-@\t\r") == 0;
+}
+
 } // namespace
 
 std::string JsonText(std::string_view text)
@@ -69,7 +74,12 @@ std::string JsonTextOrNull(std::string_view text)
 
 std::string NoFormula(std::string_view text)
 {
-    return std::string(text.find_first_of("=+-@\t\r") == 0 ? "'" : "").append(text);
+    return std::string(BeginsFormula(text) ? "'" : "").append(text);
+}
+
+std::string_view WithoutFormulaMark(std::string_view text)
+{
+    return text.starts_with('\'') && BeginsFormula(text.substr(1)) ? text.substr(1) : text;
 }
 
 std::string CsvText(std::string_view text)

@@ -18,7 +18,10 @@ namespace ptk {
 // are not to be passed through here.
 [[nodiscard]] std::string NoFormula(std::string_view text);
 
-// The same as a field of an RFC 4180 file, in quotes where it needs them.
+// The text without the apostrophe that NoFormula gave it.
+[[nodiscard]] std::string_view WithoutFormulaMark(std::string_view text);
+
+// What NoFormula answers, as a field of an RFC 4180 file, in quotes where it needs them.
 [[nodiscard]] std::string CsvText(std::string_view text);
 
 } // namespace ptk

@@ -38,7 +38,20 @@ std::string JsonCell(CellType type, const Value& cell)
     return type == CellType::WholeNumber || type == CellType::Boolean ? text : JsonText(text);
 }
 
-std::string RowOf(const ReportRow& row, const ReportTable& table)
+std::string ObjectOf(const ReportDocument& document)
+{
+    const std::string missing = document.Missing();
+    std::string text = fmt::format(R"({{"title":{},"complete":{},"missing":{},"rows":[)", JsonText(document.title), document.Code() == 0,
+                                   missing.empty() ? "null" : JsonText(missing));
+    for (const ReportRow& row : document.table.rows) {
+        text += (&row == document.table.rows.data() ? "\r\n" : ",\r\n") + JsonRowOf(row, document.table);
+    }
+    return text + "]}";
+}
+
+} // namespace
+
+std::string JsonRowOf(const ReportRow& row, const ReportTable& table)
 {
     std::string members;
     for (std::size_t i = 0; i < row.size(); ++i) {
@@ -51,19 +64,6 @@ std::string RowOf(const ReportRow& row, const ReportTable& table)
     }
     return '{' + members + '}';
 }
-
-std::string ObjectOf(const ReportDocument& document)
-{
-    const std::string missing = document.Missing();
-    std::string text = fmt::format(R"({{"title":{},"complete":{},"missing":{},"rows":[)", JsonText(document.title), document.Code() == 0,
-                                   missing.empty() ? "null" : JsonText(missing));
-    for (const ReportRow& row : document.table.rows) {
-        text += (&row == document.table.rows.data() ? "\r\n" : ",\r\n") + RowOf(row, document.table);
-    }
-    return text + "]}";
-}
-
-} // namespace
 
 std::string JsonOf(std::span<const ReportDocument> documents, DateTime made)
 {

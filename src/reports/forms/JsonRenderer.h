@@ -2,15 +2,17 @@
 #pragma once
 
 #include "platform/text/DateTime.h"
+#include "reports/forms/ReportDocument.h"
 
 #include <span>
 #include <string>
 
 namespace ptk {
 
-struct ReportDocument;
-
 // One object, each row on a line of its own, lines ended by CR LF.
 [[nodiscard]] std::string JsonOf(std::span<const ReportDocument> documents, DateTime made);
+
+// One row as an object, its members named by the columns, without a line end.
+[[nodiscard]] std::string JsonRowOf(const ReportRow& row, const ReportTable& table);
 
 } // namespace ptk

@@ -20,7 +20,7 @@
 #include "ui/reports/WindowMenu.h"
 #include "ui/safety/BackupMenu.h"
 #include "ui/safety/ImportMenu.h"
-#include "ui/sheet/PunchesMenu.h"
+#include "ui/sheet/SheetMenu.h"
 #include "ui/timecards/TimeCardPage.h"
 #include "ui/widgets/ElidedLabel.h"
 #include "ui/widgets/NoticeLine.h"
@@ -158,8 +158,8 @@ void FController::ConnectBackups()
     auto* import = new ImportMenu(*m_ui->mnuFileImport, *this, *this);
     connect(import, &ImportMenu::Imported, this, &FController::ShowRestored);
     connect(import, &ImportMenu::Said, this, &FController::Say);
-    auto* punches = new PunchesMenu(*m_ui->mnuFilePunches, *this, *this);
-    connect(punches, &PunchesMenu::Said, this, &FController::Say);
+    auto* sheets = new SheetMenu({*m_ui->mnuFilePunches, *m_ui->mnuFileEmployees}, *this, *this);
+    connect(sheets, &SheetMenu::Said, this, &FController::Say);
 }
 
 void FController::ConnectViewMenu()

@@ -15,6 +15,7 @@
 #include "ui/page/OfferLeft.h"
 #include "ui/page/PageHost.h"
 #include "ui/page/SharedRecords.h"
+#include "ui/people/PersonExport.h"
 #include "ui/widgets/BoxText.h"
 #include "ui/widgets/ChosenOnly.h"
 #include "ui/widgets/EmployeeModels.h"
@@ -44,6 +45,8 @@ constexpr auto kEmployeeSaved = " saved";
 constexpr auto kEmployeeSavedUnread = " saved, but the employees could not be read again";
 constexpr auto kEmployeeNotInList = " is not in the list any more";
 constexpr auto kShowTip = "Show the password";
+constexpr auto kExportTip = "Save all that is kept about this employee, for him or her to read";
+constexpr auto kChooseFirst = "Choose an employee first";
 constexpr auto kHideTip = "Hide the password";
 
 // A box has room for an icon besides: these hold up to 8, 11 and 10 digits.
@@ -97,6 +100,8 @@ void EmployeePage::ConnectButtons()
 {
     connect(m_ui->chkAutoDeduct, &QCheckBox::toggled, this, &EmployeePage::EnableDeduction);
     connect(m_ui->cmdShowPassword, &QToolButton::toggled, this, &EmployeePage::ShowPassword);
+    connect(m_ui->cmdEmployeeExport, &QPushButton::clicked, this,
+            [this] { ExportPerson(*this, m_host, *m_ui->notice, ChosenIn(*m_ui->cboEmployeeID)); });
     connect(m_ui->cmdEmployeeNew, &QPushButton::clicked, this, &EmployeePage::New);
     connect(m_ui->cmdEmployeeSave, &QPushButton::clicked, this, &EmployeePage::Save);
     connect(m_ui->cmdEmployeeCancel, &QPushButton::clicked, this, &EmployeePage::Cancel);
@@ -193,6 +198,8 @@ void EmployeePage::Fill(const EmployeeTexts& texts)
     EnableDeduction(texts.autoDeduct);
     ShowText(m_ui->txtLunchLength, texts.lunchLength);
     ShowText(m_ui->txtBreakLength, texts.breakLength);
+    m_ui->cmdEmployeeExport->setEnabled(row >= 0);
+    m_ui->cmdEmployeeExport->setToolTip(row >= 0 ? kExportTip : kChooseFirst);
     m_texts.Show(ReadTexts());
 }
 

@@ -3,10 +3,12 @@
 #include "office/business/SampleBusiness.h"
 #include "store/CJetDB.h"
 #include "store/whole/BulkWriter.h"
+#include "support/Files.h"
 #include "support/OldDatabase.h"
 #include "ui/login/FServerPassword.h"
 #include "ui/safety/FFirstStart.h"
 #include "ui/safety/FImport.h"
+#include "ui/sheet/FImportEmployees.h"
 
 #include <cstdio>
 #include <QSettings>
@@ -351,6 +353,32 @@ void TakeImport(GuiProgram& program, const Photographer& photographer)
     photographer.Take(window, "import-done");
 }
 
+void TakeImportEmployees(GuiProgram& program, const Photographer& photographer)
+{
+    const auto database = program.Main().Controller()->PTKDatabase();
+    FImportEmployees window(&program.Main(),
+                            [&](const EmployeeOrder& order, const GoesOn& goesOn) { return ImportEmployees(database, order, goesOn); });
+    const auto read = [&](const std::string& text) {
+        const std::string file = program.folder.Path() + "/employees.csv";
+        WriteBytes(file, text);
+        Find<QLineEdit>(window, "txtFile").setText(QString());
+        Find<QLineEdit>(window, "txtFile").setText(QString::fromStdString(file));
+        Find<QPushButton>(window, "cmdRead").click();
+    };
+    window.show();
+    photographer.TakeSizes(window, "import-employees-empty");
+    read("Number,Last Name,SSN,Shoe Size\n103,,1,44\n900,Fox,,41\n");
+    photographer.Take(window, "import-employees-refused");
+    read("Number,Last Name,SSN,Phone,Address 1,Regular Pay Rate\n900,Fox,1,,,9\n"
+         "103,Fitzgerald-Montgomery,2,555-0100,1200 North Lake Shore Drive and a very long way,15.75\n105,Lee,3,555-0101,,16\n");
+    Find<QTableView>(window, "grdDifferences")
+        .model()
+        ->setData(Find<QTableView>(window, "grdDifferences").model()->index(1, 0), Qt::Checked, Qt::CheckStateRole);
+    photographer.TakeSizes(window, "import-employees");
+    Find<QPushButton>(window, "cmdSave").click();
+    photographer.Take(window, "import-employees-done");
+}
+
 void TakeViewers(GuiProgram& program, const Photographer& photographer)
 {
     FController& main = program.Main();
@@ -385,6 +413,7 @@ void TakeAll(const QString& folder, const QString& theme)
     TakeShortcuts(main, photographer);
     TakeRestore(program, photographer);
     TakeImport(program, photographer);
+    TakeImportEmployees(program, photographer);
     TakeFindings(main, photographer);
     TakeOverview(main, photographer);
     TakeViewers(program, photographer);

@@ -1,0 +1,14 @@
+// Files beside the database that may hold something about one person.
+#pragma once
+
+#include "office/person/PersonData.h"
+
+namespace ptk {
+
+class CEmployeeList;
+
+// The reports of this person and those of several people, the backups and their copies; not what by its name is another person's. Raises 70
+// and the like of a folder that cannot be read; none is no failure.
+[[nodiscard]] std::vector<PersonFile> FilesElsewhere(const PersonPlaces& places, CEmployeeList& employees, const CEmployee& person);
+
+} // namespace ptk

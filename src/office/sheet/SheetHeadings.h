@@ -1,0 +1,47 @@
+// The headings of a CSV file, by which reasons name its columns.
+#pragma once
+
+#include "platform/text/CsvReader.h"
+
+#include <cstddef>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace ptk {
+
+// Why one line is refused; begins with the column's name.
+struct LineRefused
+{
+    std::string reason;
+};
+
+// Headings and words of a file are compared without blanks and without the difference of letter case of A to Z.
+[[nodiscard]] std::string NormalizedWord(std::string_view text);
+
+class SheetHeadings
+{
+public:
+    // Raises a failure without a number for a heading that stands twice.
+    explicit SheetHeadings(std::span<const std::string> headings);
+
+    // As it stands in the file, without the blanks around. REQUIRES: place, counted from 0, is within the file's.
+    [[nodiscard]] const std::string& At(std::size_t place) const { return m_headings[place]; }
+
+    // The place of what is normalized already.
+    [[nodiscard]] std::optional<std::size_t> Find(std::string_view normalized) const;
+
+    [[nodiscard]] std::size_t Count() const { return m_headings.size(); }
+
+    // Throws LineRefused for text behind a closing quotation mark and for a cell that has no heading.
+    void RefuseStrange(const CsvRecord& record) const;
+
+private:
+    [[nodiscard]] std::string NameOf(std::size_t place) const;
+
+    std::vector<std::string> m_headings;
+};
+
+} // namespace ptk

@@ -1,0 +1,17 @@
+// Saving all that is kept about one employee, from the Employees page.
+#pragma once
+
+#include <memory>
+
+class QWidget;
+
+namespace ptk {
+
+class CEmployee;
+class NoticeLine;
+class PageHost;
+
+// Asks where to, as JSON or PDF, and says on the line what came of it; nothing when the user cancels or for nullptr.
+void ExportPerson(QWidget& parent, PageHost& host, NoticeLine& notice, const std::shared_ptr<CEmployee>& employee);
+
+} // namespace ptk
