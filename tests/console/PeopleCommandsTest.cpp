@@ -44,8 +44,9 @@ TEST_F(PeopleCommandsTest, ImportEndsWithTheStatusThatTellsWhatBecameOfTheLines)
 
 TEST_F(PeopleCommandsTest, APersonsDataHasNobodyElsesNameAndNoPassword)
 {
-    Execute("INSERT INTO Employee (FirstName, LastName, EmployeeNumber, SSNumber, Password, PayRate, Active) VALUES "
-            "('Ann', 'Lee', 7, '123-45-6789', 'secret', 12.5, 1), ('Bo', 'Kim', 8, '2', '', 9, 1), ('Ann', 'Lee', 9, '3', '', 9, 1)");
+    Execute(
+        "INSERT INTO Employee (FirstName, LastName, EmployeeNumber, SSNumber, Password, PayRate, Active, AutoDeduct) VALUES "
+        "('Ann', 'Lee', 7, '123-45-6789', 'secret', 12.5, 1, 0), ('Bo', 'Kim', 8, '2', '', 9, 1, 0), ('Ann', 'Lee', 9, '3', '', 9, 1, 0)");
     Execute("INSERT INTO TimeRecord (EmployeeID, StartTime, EndTime) VALUES (41, '2002-12-31 08:00:00', '2002-12-31 16:30:00'), "
             "(40, '2003-03-05 08:00:00', '1899-12-30 00:00:00'), (41, '2003-03-06 08:00:00', '2003-03-06 09:00:00')");
     Execute("UPDATE TimeRecord SET EmployeeID = 40 WHERE TimeRecordID = 1");

@@ -105,12 +105,12 @@ PersonData ReadPerson(const std::shared_ptr<CJetDB>& database, std::int32_t empl
     person.made = now;
     {
         const CJetDB::Hold hold(database);
-        RequireOpen(*database);
         const auto employees = EverybodyIn(database);
         person.employee = employees->GetEmployeeByID(employeeID);
         if (person.employee == nullptr) {
             throw Failure(timecard::NoEmployee, "PTK", kNoSuchPerson);
         }
+        RequireOpen(*database); // the list has closed it, if only to the eye
         person.company = CompanyOf(*database, *person.employee);
         person.punches = ReadPunchesOf(*database, employeeID);
         person.paid = ReadClosingsOf(database, employeeID);

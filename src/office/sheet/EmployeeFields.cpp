@@ -126,9 +126,9 @@ std::string HeadingOf(EmployeeField field)
     return EmployeeRecordColumns()[PlaceOf(field)].name;
 }
 
-const char* StoredColumnOf(EmployeeField field)
+std::span<const char* const> StoredEmployeeColumns()
 {
-    return kStoredColumns[PlaceOf(field)];
+    return kStoredColumns;
 }
 
 std::optional<EmployeeField> FindEmployeeField(std::string_view normalized)

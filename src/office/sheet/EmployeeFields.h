@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -37,8 +38,8 @@ inline constexpr std::size_t kEmployeeFieldCount = 16;
 // "Employee Number".
 [[nodiscard]] std::string HeadingOf(EmployeeField field);
 
-// Of the table Employee.
-[[nodiscard]] const char* StoredColumnOf(EmployeeField field);
+// Of the table Employee, by EmployeeField.
+[[nodiscard]] std::span<const char* const> StoredEmployeeColumns();
 
 // By its heading, normalized; the number also by "number", the social security number by "ssn".
 [[nodiscard]] std::optional<EmployeeField> FindEmployeeField(std::string_view normalized);

@@ -53,10 +53,6 @@ private:
 
 void AddSome(Engine& engine, std::span<const EmployeeValues> added)
 {
-    std::vector<const char*> columns;
-    for (std::size_t i = 0; i < kEmployeeFieldCount; ++i) {
-        columns.push_back(StoredColumnOf(static_cast<EmployeeField>(i)));
-    }
     ValuesSql sql;
     std::vector<std::string> rows;
     for (const EmployeeValues& employee : added) {
@@ -66,7 +62,7 @@ void AddSome(Engine& engine, std::span<const EmployeeValues> added)
         }
         rows.push_back(fmt::format("({}{})", row, kOthersOfNew));
     }
-    sql.Run(engine, fmt::format(kAddEmployees, fmt::join(columns, ", "), fmt::join(rows, ", ")));
+    sql.Run(engine, fmt::format(kAddEmployees, fmt::join(StoredEmployeeColumns(), ", "), fmt::join(rows, ", ")));
 }
 
 // "Phone = CASE EmployeeID WHEN 41 THEN :v0 ELSE Phone END"; empty where nobody's is changed.
@@ -78,7 +74,7 @@ std::string Assignment(EmployeeField field, std::span<const EmployeeChange> chan
             cases += own == field ? fmt::format(" WHEN {} THEN {}", change.employee, sql.Add(value)) : "";
         }
     }
-    const char* const column = StoredColumnOf(field);
+    const char* const column = StoredEmployeeColumns()[static_cast<std::size_t>(field)];
     return cases.empty() ? "" : fmt::format("{0} = CASE EmployeeID{1} ELSE {0} END", column, cases);
 }
 

@@ -21,7 +21,10 @@ namespace ptk {
 
 namespace {
 
-constexpr const char* kAllEmployees = "SELECT {} FROM Employee ORDER BY EmployeeID";
+// What a file has no columns for is not looked at.
+constexpr const char* kAllEmployees =
+    "SELECT EmployeeID, {}, 0 AS CompanyID, FALSE AS AutoDeduct, 0 AS AutoDeductLunchLength, 0 AS AutoDeductBreakLength, '' AS Password "
+    "FROM Employee ORDER BY EmployeeID";
 constexpr std::int32_t kRowsAtATime = 256;
 constexpr std::int32_t kAdministrator = 39; // its EmployeeID
 
@@ -35,7 +38,7 @@ constexpr auto kOfAdministrator = "the administrator may not be changed";
 std::unordered_multimap<std::int32_t, CEmployee> ReadByNumber(const PrepareStatement& prepare)
 {
     std::unordered_multimap<std::int32_t, CEmployee> employees;
-    const auto statement = prepare(fmt::format(kAllEmployees, fmt::join(EmployeeTable().names, ", ")));
+    const auto statement = prepare(fmt::format(kAllEmployees, fmt::join(StoredEmployeeColumns(), ", ")));
     for (std::int32_t read = kRowsAtATime; read == kRowsAtATime;) {
         const auto rows = statement->ReadRows(kRowsAtATime);
         read = rows->RecordCount();

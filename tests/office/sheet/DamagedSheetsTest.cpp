@@ -65,8 +65,8 @@ protected:
     DamagedSheetsTest()
     {
         CreateDatabase(m_path);
-        SqliteEngine(m_path).Execute("INSERT INTO Employee (FirstName, LastName, EmployeeNumber, SSNumber, PayRate) VALUES "
-                                     "('Ann', 'Lee', 7, '123-45-6789', 12.5), ('Bo', 'Kim', 8, '2', 9)");
+        SqliteEngine(m_path).Execute("INSERT INTO Employee (FirstName, LastName, EmployeeNumber, SSNumber, PayRate, Active) VALUES "
+                                     "('Ann', 'Lee', 7, '123-45-6789', 12.5, 1), ('Bo', 'Kim', 8, '2', 9, 1)");
         m_whole = ReadBytes(m_path);
         m_database->DatabaseName(m_path);
     }
@@ -111,11 +111,12 @@ protected:
 
 TEST_F(DamagedSheetsTest, OfPunches)
 {
+    const std::string note(200, 'n'); // some of the damage is to hit what is left aside
     std::string pairs = "Number,Note,Start,End\r\n";
-    std::string events = "Employee;Time;Direction\n";
+    std::string events = "Employee;Time;Direction;Note\n";
     for (int day = 10; day < 28; ++day) {
-        pairs += fmt::format("7,\"a, \"\"b\"\"\",2003-03-{0} 08:00,3/{0}/2003 5:00 PM\r\n", day);
-        events += fmt::format("Bo Kim;2003-03-{0}T08:00:00;in\nBo Kim;2003-03-{0}T17:00;out\n", day);
+        pairs += fmt::format("7,\"a, \"\"b\"\"{1}\",2003-03-{0} 08:00,3/{0}/2003 5:00 PM\r\n", day, note);
+        events += fmt::format("Bo Kim;2003-03-{0}T08:00:00;in;{1}\nBo Kim;2003-03-{0}T17:00;out;{1}\n", day, note);
     }
     for (const std::string& good : {pairs, events}) {
         Try(good, "TimeRecord", [this](const std::string& file) {

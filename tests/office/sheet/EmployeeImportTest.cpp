@@ -8,6 +8,7 @@
 #include "store/CJetDB.h"
 #include "store/engine/Engine.h"
 #include "store/engine/RecordSet.h"
+#include "store/engine/StoredDate.h"
 #include "support/EitherDatabase.h"
 #include "support/Failures.h"
 #include "support/Files.h"
@@ -30,10 +31,10 @@ protected:
         m_database->DatabaseName(m_own.Name());
         m_database->StoredBy({"office", "ptk-console"});
         m_own.Open()->Execute(
-            "INSERT INTO Employee (FirstName, LastName, EmployeeNumber, SSNumber, Phone, PayRate, Active, HireDate) VALUES "
-            "('Ann', 'Lee', 7, '123-45-6789', '=5', 12.5, '1', '2003-03-05 00:00:00'), "
-            "('Bo', 'Kim', 8, '1', '', 0, '1', NULL), ('Cy', 'Day', 8, '2', '', 0, '0', NULL), "
-            "('Di', 'Orr', 9, '3', '55', 7.8333335, '0', NULL)"); // 40 to 43
+            "INSERT INTO Employee (FirstName, LastName, EmployeeNumber, SSNumber, Phone, PayRate, Active, HireDate, AutoDeduct) VALUES "
+            "('Ann', 'Lee', 7, '123-45-6789', '=5', 12.5, '1', '2003-03-05 00:00:00', '0'), "
+            "('Bo', 'Kim', 8, '1', '', 0, '1', NULL, '0'), ('Cy', 'Day', 8, '2', '', 0, '0', NULL, '0'), "
+            "('Di', 'Orr', 9, '3', '55', 7.8333335, '0', NULL, '0')"); // 40 to 43
     }
 
     EmployeeAccount Import(const std::string& text, const char* change = "", bool trial = false)
@@ -66,7 +67,8 @@ protected:
              !rows->EndOfFile(); rows->MoveNext()) {
             const bool hired = !rows->IsNull(6) && !rows->DateTimeAt(6).IsZero();
             all += fmt::format("{}{} {} {} {} {} {} {}", all.empty() ? "" : " | ", rows->TextAt(0), rows->TextAt(1), rows->TextAt(2),
-                               rows->TextAt(3), rows->SingleAt(4), rows->BooleanAt(5), hired ? rows->TextAt(6).substr(0, 10) : "-");
+                               rows->TextAt(3), rows->SingleAt(4), rows->BooleanAt(5),
+                               hired ? StoredText(rows->DateTimeAt(6)).substr(0, 10) : "-");
         }
         return all;
     }
