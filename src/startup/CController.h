@@ -2,7 +2,7 @@
 #pragma once
 
 #include "office/import/Import.h"
-#include "office/person/PersonData.h"
+#include "office/person/PersonPlaces.h"
 #include "store/engine/Author.h"
 
 #include <cstdint>

@@ -42,7 +42,7 @@ TEST_F(EmployeesWindowTest, ShowsKnownOnesFieldByFieldAndChangesWhatIsTicked)
         }
         EXPECT_EQ(hint(), "New employees: 1. Fields to be changed: 1 of 2. Nothing has been stored yet.");
         Click(window, "cmdSave");
-        EXPECT_EQ(hint(), "1 employees added, 1 changed; Edit > Undo takes it back.");
+        EXPECT_EQ(hint(), "Employees added: 1, changed: 1; Edit > Undo takes it back.");
         Click(window, "cmdCancel");
     });
     The<QAction>("mnuFileEmployees").trigger();
@@ -59,6 +59,7 @@ TEST_F(EmployeesWindowTest, ShowsKnownOnesFieldByFieldAndChangesWhatIsTicked)
 TEST_F(EmployeesWindowTest, SavesAllThatIsKeptAboutAPerson)
 {
     The<QTabBar>("TabStrip").setCurrentIndex(2);
+    Press("cmdEmployeeNew");
     EXPECT_FALSE(The<QPushButton>("cmdEmployeeExport").isEnabled());
     auto& names = The<QComboBox>("cboEmployeeName");
     names.setCurrentIndex(names.findText("Ann Lee"));

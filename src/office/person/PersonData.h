@@ -3,6 +3,7 @@
 #pragma once
 
 #include "model/payday/Closing.h"
+#include "office/person/PersonPlaces.h"
 #include "reports/forms/ReportForms.h"
 #include "store/trail/TrailReader.h"
 
@@ -16,13 +17,6 @@ namespace ptk {
 
 class CEmployee;
 class CJetDB;
-
-// Where files are that may hold more.
-struct PersonPlaces
-{
-    std::string programFolder;
-    std::string secondFolder; // of copies of the backups; empty: none
-};
 
 struct PersonPunch
 {

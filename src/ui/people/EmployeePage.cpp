@@ -45,8 +45,6 @@ constexpr auto kEmployeeSaved = " saved";
 constexpr auto kEmployeeSavedUnread = " saved, but the employees could not be read again";
 constexpr auto kEmployeeNotInList = " is not in the list any more";
 constexpr auto kShowTip = "Show the password";
-constexpr auto kExportTip = "Save all that is kept about this employee, for him or her to read";
-constexpr auto kChooseFirst = "Choose an employee first";
 constexpr auto kHideTip = "Hide the password";
 
 // A box has room for an icon besides: these hold up to 8, 11 and 10 digits.
@@ -198,8 +196,7 @@ void EmployeePage::Fill(const EmployeeTexts& texts)
     EnableDeduction(texts.autoDeduct);
     ShowText(m_ui->txtLunchLength, texts.lunchLength);
     ShowText(m_ui->txtBreakLength, texts.breakLength);
-    m_ui->cmdEmployeeExport->setEnabled(row >= 0);
-    m_ui->cmdEmployeeExport->setToolTip(row >= 0 ? kExportTip : kChooseFirst);
+    AllowExport(*m_ui->cmdEmployeeExport, !texts.id.empty());
     m_texts.Show(ReadTexts());
 }
 

@@ -11,14 +11,24 @@
 #include "ui/widgets/NoticeLine.h"
 #include "ui/widgets/SaveDialog.h"
 
+#include <QPushButton>
+
 namespace ptk {
 
 namespace {
 
 constexpr auto kPersonFile = "PTK employee %1"; // by number, since a name may hold what a file's name may not
+constexpr auto kExportTip = "Save all that is kept about this employee, for him or her to read";
+constexpr auto kChooseFirst = "Choose an employee first";
 constexpr ReportForm kPersonForms[] = {ReportForm::Pdf, ReportForm::Json};
 
 } // namespace
+
+void AllowExport(QPushButton& button, bool allowed)
+{
+    button.setEnabled(allowed);
+    button.setToolTip(allowed ? kExportTip : kChooseFirst);
+}
 
 void ExportPerson(QWidget& parent, PageHost& host, NoticeLine& notice, const std::shared_ptr<CEmployee>& employee)
 {

@@ -26,7 +26,7 @@ constexpr auto kNoDifference = "The file has nothing else about anybody who is k
 constexpr auto kWhatWouldBe = "New employees: %1. Fields to be changed: %2 of %3. Nothing has been stored yet.";
 constexpr auto kLinesAreRefused = "Lines are refused: %1, for the reasons above. Nothing can be stored before the file is mended.";
 constexpr auto kEmployeesNotRead = "Nothing was stored: %1.";
-constexpr auto kEmployeesStored = "%1 employees added, %2 changed; Edit > Undo takes it back";
+constexpr auto kEmployeesStored = "Employees added: %1, changed: %2; Edit > Undo takes it back";
 
 constexpr auto kNameTheFile = "Choose the file first.";
 constexpr auto kReadTheFile = "Choose the file and read it first.";
@@ -38,14 +38,15 @@ constexpr QSize kEmployeesFirstSize(760, 520);
 constexpr QSize kEmployeesSmallestSize(460, 400);
 constexpr int kEmployeesHintLines = 2;
 constexpr int kAccountLines = 4;
-constexpr int kRowRoom = 6; // pixels above and below a row's text together
+constexpr int kRowRoom = 6;   // pixels above and below a row's text together
+constexpr int kCellRoom = 12; // pixels between texts that stand beside each other
 
 // Nobody reads more, and a text box takes its time for them.
 constexpr std::size_t kMostLines = 10'000;
 
-QString AccountText(const EmployeeAccount& account)
+QString AccountText(const EmployeeAccount& account, bool withDifferences)
 {
-    const std::vector<std::string> all = EmployeeAccountLines(account, false);
+    const std::vector<std::string> all = EmployeeAccountLines(account, withDifferences);
     QStringList lines;
     std::for_each(all.begin(), all.begin() + static_cast<std::ptrdiff_t>(std::min(all.size(), kMostLines)),
                   [&](const std::string& line) { lines.append(QString::fromStdString(line)); });
@@ -163,7 +164,7 @@ bool FImportEmployees::Run(bool trial, EmployeeAccount& account)
 void FImportEmployees::ShowRead(const EmployeeAccount& account)
 {
     m_read = account;
-    m_ui->txtAccount->setPlainText(AccountText(account));
+    m_ui->txtAccount->setPlainText(AccountText(account, false)); // those stand in the table
     m_ui->grdDifferences->SetHint(kNoDifference);
     m_differences->Show(account.differences);
     FitColumns();
@@ -178,7 +179,7 @@ void FImportEmployees::ShowRead(const EmployeeAccount& account)
 
 void FImportEmployees::ShowStored(const EmployeeAccount& account)
 {
-    m_ui->txtAccount->setPlainText(AccountText(account));
+    m_ui->txtAccount->setPlainText(AccountText(account, true));
     m_stored = QString(kEmployeesStored).arg(account.added.size()).arg(account.changed.size());
     for (QWidget* done : {static_cast<QWidget*>(m_ui->cmdSave), static_cast<QWidget*>(m_ui->cmdRead), static_cast<QWidget*>(m_ui->fraFile),
                           static_cast<QWidget*>(m_ui->chkAll), static_cast<QWidget*>(m_ui->grdDifferences)}) {
@@ -196,7 +197,8 @@ void FImportEmployees::FitColumns()
     QTableView* table = m_ui->grdDifferences;
     for (int column = 0; column < DifferenceModel::Given; ++column) {
         table->resizeColumnToContents(column);
-        table->setColumnWidth(column, std::min(table->columnWidth(column), table->viewport()->width() / DifferenceModel::Count));
+        const int wanted = table->columnWidth(column) + kCellRoom;
+        table->setColumnWidth(column, std::min(wanted, table->viewport()->width() / DifferenceModel::Count));
     }
 }
 
