@@ -2,6 +2,8 @@
 import json
 import sys
 
+from figures import Figures
+
 # What the program may cost, as a multiple of the raw work.
 LIMITS = {"card with its check": 1.3, "overview": 1.5, "history": 1.3, "card": 1.3, "1,000 cards": 1.3, "list": 1.5, "one record": 1.3, "backup": 1.5, "review": 1.7, "year-to-date": 1.5,
           "server, card of 10 million": 1.2, "server, overview": 1.5, "server": 1.3}
@@ -23,14 +25,10 @@ def medians(path):
 
 def main(path):
     times = medians(path)
-    print(f"{'work':<48}{'raw us':>12}{'program us':>12}{'ratio':>8}{'at most':>9}")
-    missed = False
-    for name in (run.removesuffix("/raw") for run in times if run.endswith("/raw")):
-        raw, program = times[name + "/raw"], times[name + "/program"]
-        ratio, allowed, most = program / raw, limit(name, LIMITS), limit(name, MOST)
-        missed = missed or (allowed is not None and ratio > allowed) or (most is not None and program > most)
-        print(f"{name:<48}{raw:>12.1f}{program:>12.1f}{ratio:>8.2f}{allowed or '':>9}")
-    return 1 if missed else 0
+    figures = Figures("raw", "us")
+    for name in sorted(run.removesuffix("/raw") for run in times if run.endswith("/raw")):
+        figures.add(name, times[name + "/raw"], times[name + "/program"], limit(name, LIMITS), limit(name, MOST))
+    return figures.keep()
 
 
 if __name__ == "__main__":

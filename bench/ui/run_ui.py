@@ -7,7 +7,12 @@ import subprocess
 import sys
 import time
 
+sys.path.insert(0, os.path.join(os.path.dirname(__file__), ".."))
+from figures import Figures  # noqa: E402
+
 RUNS = 15
+FRAME = 16.0  # ms between two pictures of a screen
+SEEN = 100.0  # ms that nobody takes for a wait
 
 
 def program_folder(data, name):
@@ -37,31 +42,28 @@ def medians(*commands):
     return [[statistics.median(column) for column in zip(*result)] for result in results]
 
 
-def row(work, program, bare, allowed, unit="ms"):
-    print(f"{work:<58}{bare:>10.1f}{program:>12.1f} {unit:<4}{program / bare:>7.2f}{allowed:>9}")
-
-
 def main(build, data):
     program, bare = os.path.join(build, "ptk_bench_program"), os.path.join(build, "ptk_bench_bare")
     few, many, history = (program_folder(data, name) for name in ("10k", "staff", "1m"))
-    print(f"{'window':<58}{'bare':>10}{'program':>12}     {'ratio':>7}{'at most':>9}")
+    figures = Figures("bare", "ms")
 
     login_few, login_many, login_bare = medians([program, "login", few], [program, "login", many], [bare, "login", few])
-    row("start to the painted login", login_few[0], login_bare[0], 1.5)
-    row("the same with 10,000 employees", login_many[0], login_bare[0], 2.5)
+    figures.add("window: start to the painted login", login_bare[0], login_few[0], 1.5)
+    figures.add("window: the same with 10,000 employees", login_bare[0], login_many[0], 2.5)
 
     shown, shown_bare = medians([program, "main", many], [bare, "main", many])
-    row("login to the painted main window, 10,000 employees", shown[1], shown_bare[1], 1.5)
-    row("its memory", shown[2] / 1024, shown_bare[2] / 1024, 1.5, "MiB")
+    figures.add("window: login to the painted main window, 10,000 employees", shown_bare[1], shown[1], 1.5)
+    figures.add("window: its memory", shown_bare[2] / 1024, shown[2] / 1024, 1.5, unit="MiB")
 
     review = max(glob.glob(os.path.join(data, "reports", "salary_review_*.txt")), key=os.path.getsize)
     viewer, viewer_bare = medians([program, "viewer", review], [bare, "viewer", review])
-    row("review of 1,000 employees shown", viewer[1], viewer_bare[1], 2.0)
+    figures.add("window: review of 1,000 employees shown", viewer_bare[1], viewer[1], 2.0)
 
     generated, saved = medians([program, "generate", history], [program, "save", many])
-    print(f"{'Generate Timecard among a million records':<58}{'':>10}{generated[1]:>12.1f} ms  {'':>7}{'16 ms':>9}")
-    print(f"{'one of 10,000 employees saved, lists refilled':<58}{'':>10}{saved[1]:>12.1f} ms  {'':>7}{'100 ms':>9}")
+    figures.add("window: Generate Timecard among a million records, of 16 ms", FRAME, generated[1], 1.0)
+    figures.add("window: one of 10,000 employees saved, of 100 ms", SEEN, saved[1], 1.0)
+    return figures.keep()
 
 
 if __name__ == "__main__":
-    main(*sys.argv[1:3])
+    sys.exit(main(*sys.argv[1:3]))
