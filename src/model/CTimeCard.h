@@ -67,6 +67,7 @@ public:
 
     // Must be set for GenerateTimecard.
     void PTKDatabase(std::shared_ptr<CJetDB> value) { m_database = std::move(value); }
+    [[nodiscard]] const std::shared_ptr<CJetDB>& PTKDatabase() const { return m_database; }
 
     // Loads the records that start at or after the start and end at or before the end (pass the midnight after the last day), and those
     // still open, and computes the figures. False with 603, 602, 405, 605 or 601; without records the figures stay as they were.

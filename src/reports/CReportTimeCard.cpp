@@ -3,12 +3,16 @@
 #include "model/CDateRange.h"
 #include "model/CEmployee.h"
 #include "model/CTimeCard.h"
+#include "model/payday/ClosingReader.h"
+#include "model/payday/PaidText.h"
+#include "platform/Succeeds.h"
 #include "reports/ReportCards.h"
 
 namespace ptk {
 
 namespace {
 
+constexpr auto kPaidUnread = "whether the period was paid could not be read: ";
 const std::string kSignatureRule = std::string(40, '_') + std::string(10, ' ') + std::string(20, '_');
 const std::string kSignatures = kSignatureRule + "\r\n" +                                          //
                                 "Employee Signature" + std::string(32, ' ') + "Date\r\n\r\n\r\n" + //
@@ -44,7 +48,9 @@ bool CReportTimeCard::GenerateReport(const std::shared_ptr<CJetDB>& thedatabase,
             return false;
         }
         AddGenerated(theemployee, days);
-        return PublishForm();
+        AddSignatures();
+        AddPaid(thedatabase, *theemployee, {days.StartDate(), days.EndDate()});
+        return Publish();
     });
 }
 
@@ -65,7 +71,9 @@ bool CReportTimeCard::WriteTimeCardReport(const std::shared_ptr<CTimeCard>& theT
             return false;
         }
         AddBody();
-        return PublishForm();
+        AddSignatures();
+        AddPaid(theTimeCard->PTKDatabase(), *employee, {days.StartDate(), days.EndDate().AddDays(-1)});
+        return Publish();
     });
 }
 
@@ -101,13 +109,29 @@ void CReportTimeCard::AddBody()
     }
 }
 
-bool CReportTimeCard::PublishForm()
+void CReportTimeCard::AddSignatures()
 {
     Body().BeginGroup(true);
     Body().Add("");
     Body().Add("");
     Body().Add(kSignatures);
-    return Publish();
+}
+
+// Whatever is signed stays as it is where nothing was paid.
+void CReportTimeCard::AddPaid(const std::shared_ptr<CJetDB>& database, const CEmployee& employee, const PayPeriod& period)
+{
+    if (database == nullptr) {
+        return;
+    }
+    const auto add = [&] {
+        const Closings closings = ReadClosings(database, period, employee.EmployeeID());
+        const auto found = closings.find(employee.EmployeeID());
+        if (found != closings.end() && found->second.Newest() != nullptr) {
+            Body().Add("");
+            Body().Add(PaidText(*found->second.Newest()) + ": " + PaidFigures(*found->second.Newest()));
+        }
+    };
+    Succeeds(add, [this](const Failure& reason) { Body().AddGap(kPaidUnread + reason.Description(), ""); });
 }
 
 } // namespace ptk

@@ -1,4 +1,4 @@
-// One employee's time card for one pay period as a paper form to sign.
+// One employee's time card for one pay period as a paper form to sign. Where the period was paid, a line below the signatures says so.
 #pragma once
 
 #include "reports/Report.h"
@@ -7,6 +7,7 @@ namespace ptk {
 
 class CDateRange;
 class CTimeCard;
+struct PayPeriod;
 
 class CReportTimeCard final : public Report
 {
@@ -32,7 +33,8 @@ private:
     bool OpenForm(const CEmployee& employee, const CDateRange& days);
     void AddGenerated(const std::shared_ptr<CEmployee>& employee, const CDateRange& days);
     void AddBody();
-    bool PublishForm();
+    void AddSignatures();
+    void AddPaid(const std::shared_ptr<CJetDB>& database, const CEmployee& employee, const PayPeriod& period);
 
     std::shared_ptr<CTimeCard> m_timeCard;
 };

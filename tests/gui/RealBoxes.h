@@ -19,6 +19,12 @@ public:
         return m_real.MessageBox(text, title, icon, buttons);
     }
 
+    Answer AskWithReason(const std::string& text, const std::string& title, Icon icon, Buttons buttons, ReasonLine& line) override
+    {
+        boxes.push_back({text, title, icon, buttons});
+        return m_real.AskWithReason(text, title, icon, buttons, line);
+    }
+
     void SetPointer(Pointer shape) override
     {
         pointer = shape;

@@ -167,6 +167,24 @@ TEST_F(RealBoxesTest, APaydayTakesFiveKeys)
     EXPECT_EQ(Viewers(), 0);
 }
 
+// The answer that Enter gives is the harmless one until a reason is typed.
+TEST(ReasonBoxTest, StandsBelowTheQuestionAndIsBegunInWhereItIsWanted)
+{
+    QtDesktop desktop;
+    const auto ask = [&](bool wanted, std::deque<KeyPress> presses) {
+        ReasonLine line{{"forgot it"}, wanted, {}};
+        const KeyPresses keys(std::move(presses));
+        const Answer answer = desktop.AskWithReason("Continue?", "Delete?", Icon::Question, Buttons::YesNo, line);
+        return std::pair(answer, line.reason);
+    };
+    const auto focus = [] { return QApplication::focusWidget()->objectName(); };
+    EXPECT_EQ(ask(false, {{"QMessageBox", Qt::Key_Return, 0, [&] { EXPECT_NE(focus(), "cboReason"); }}}),
+              std::pair(Answer::No, std::string()));
+    const std::deque<KeyPress> typed{{"QMessageBox", Qt::Key_W, 0, [&] { EXPECT_EQ(focus(), "cboReason"); }},
+                                     {"QMessageBox", Qt::Key_Return}};
+    EXPECT_EQ(ask(true, typed), std::pair(Answer::Yes, std::string("w")));
+}
+
 } // namespace
 
 } // namespace ptk

@@ -37,6 +37,8 @@ public:
     Pointer pointer = Pointer::Default;  // the shape set last
     std::deque<Answer> answers;          // for boxes that ask; none left: No
     std::deque<std::int32_t> shellCodes; // for shell requests; none left: taken over
+    std::string reason;                  // typed wherever one can be
+    std::vector<ReasonLine> reasons;     // as they were offered
     std::string refusal;                 // the reason given for a code that is none of success
 
     Answer MessageBox(const std::string& text, const std::string& title, Icon icon, Buttons buttons) override
@@ -51,6 +53,13 @@ public:
         const Answer answer = answers.front();
         answers.pop_front();
         return answer;
+    }
+
+    Answer AskWithReason(const std::string& text, const std::string& title, Icon icon, Buttons buttons, ReasonLine& line) override
+    {
+        reasons.push_back(line);
+        line.reason = reason;
+        return MessageBox(text, title, icon, buttons);
     }
 
     void SetPointer(Pointer shape) override { pointer = shape; }

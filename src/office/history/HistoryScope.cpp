@@ -13,7 +13,8 @@ std::string ScopeText(const HistoryScope& scope)
         return "Only the record of " + FormatDateTime(scope.start, "mm/dd/yyyy hh:mm AM/PM");
     }
     const auto day = [](DateTime date) { return FormatDateTime(date, "mm/dd/yyyy"); };
-    return fmt::format("Only what counts for {} - {}", day(scope.period.from), day(scope.period.to));
+    const std::string days = day(scope.period.from) + " - " + day(scope.period.to);
+    return scope.paidAfter ? fmt::format("Only what was changed since {} was paid", days) : "Only what counts for " + days;
 }
 
 void Narrow(TrailQuery& query, const HistoryScope& scope)
@@ -24,6 +25,7 @@ void Narrow(TrailQuery& query, const HistoryScope& scope)
     } else {
         query.employee = scope.employee;
         query.recordsIn = TrailDays{scope.period.from, scope.period.to};
+        query.newerThan = scope.paidAfter.value_or(0);
     }
 }
 

@@ -15,12 +15,14 @@ struct HistoryScope
 {
     std::int64_t employee = 0;
     PayPeriod period;
-    std::optional<std::int64_t> record; // nothing: every record that lies in the period or ever did, and the employee's own row
-    DateTime start;                     // of the record
-    bool narrows = true;                // false: the employee's whole history is asked for, and this offered beside it
+    std::optional<std::int64_t> record;      // nothing: every record that lies in the period or ever did, and the employee's own row
+    DateTime start;                          // of the record
+    bool narrows = true;                     // false: the employee's whole history is asked for, and this offered beside it
+    std::optional<std::int64_t> paidAfter{}; // of the period's closing, its Entry: only what was changed since
 };
 
-// "Only the record of 03/05/2003 08:00 AM", "Only what counts for 03/01/2003 - 03/15/2003".
+// "Only the record of 03/05/2003 08:00 AM", "Only what counts for 03/01/2003 - 03/15/2003", "Only what was
+// changed since 03/01/2003 - 03/15/2003 was paid".
 [[nodiscard]] std::string ScopeText(const HistoryScope& scope);
 
 // A record is followed also where it was another employee's before.

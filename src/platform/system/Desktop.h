@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace ptk {
 
@@ -52,6 +53,14 @@ public:
     [[nodiscard]] virtual std::uintptr_t WindowHandle() const { return 0; }
 };
 
+// A line below a question, for why it is answered as it is: it goes with what is stored then.
+struct ReasonLine
+{
+    std::vector<std::string> offered; // what can be chosen instead of typing
+    bool wanted = false;              // asked for: typing begins in it; it may stay empty all the same
+    std::string reason;               // as it stands there, and as it was left
+};
+
 class Desktop
 {
 public:
@@ -59,6 +68,13 @@ public:
 
     // Modal; returns the button pressed (closing the box counts as No or Cancel where there is one, else Ok).
     virtual Answer MessageBox(const std::string& text, const std::string& title, Icon icon, Buttons buttons) = 0;
+
+    // The same with a line for a reason below the text.
+    virtual Answer AskWithReason(const std::string& text, const std::string& title, Icon icon, Buttons buttons, ReasonLine& /*line*/)
+    {
+        return MessageBox(text, title, icon, buttons);
+    }
+
     virtual void SetPointer(Pointer pointer) = 0;
 
     // Hands an existing document to the desktop's opener or to the print spooler and waits for neither to be done. `path` is in the

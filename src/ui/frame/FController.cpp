@@ -8,6 +8,7 @@
 #include "startup/Notices.h"
 #include "store/engine/Waiting.h"
 #include "ui/frame/EditMenu.h"
+#include "ui/frame/FileMenu.h"
 #include "ui/frame/HelpMenu.h"
 #include "ui/frame/OptionsPage.h"
 #include "ui/frame/PageFrame.h"
@@ -18,11 +19,9 @@
 #include "ui/people/EmployeePage.h"
 #include "ui/reports/ReportsPage.h"
 #include "ui/reports/WindowMenu.h"
-#include "ui/safety/BackupMenu.h"
-#include "ui/safety/ImportMenu.h"
-#include "ui/sheet/SheetMenu.h"
 #include "ui/timecards/TimeCardPage.h"
 #include "ui/widgets/ElidedLabel.h"
+#include "ui/widgets/MeantButton.h"
 #include "ui/widgets/NoticeLine.h"
 #include "ui/widgets/ThemeIcon.h"
 #include "ui/widgets/WindowPlace.h"
@@ -30,7 +29,6 @@
 
 #include <array>
 #include <QCloseEvent>
-#include <QPushButton>
 #include <QThread>
 #include <QTimer>
 
@@ -57,6 +55,7 @@ constexpr std::array<Tab, 5> kTabs{{
     {"Options", " General Program Options ", "System Options", "options"},
 }};
 constexpr int kTimeCardTab = 1;
+constexpr int kEmployeeTab = 3;
 
 constexpr auto kProgramPanel = "PTK - Administrator";
 constexpr int kPanelMargin = 6;
@@ -87,7 +86,7 @@ FController::FController(std::string programFolder, ptk::Desktop& desktop, const
     BuildStatusBar();
     ConnectMenus();
     ConnectEditMenu();
-    ConnectBackups();
+    ConnectFileMenu();
     ConnectViewMenu();
     ConnectWindowMenu();
     ConnectTabs();
@@ -150,16 +149,12 @@ void FController::ConnectEditMenu()
     connect(menu, &EditMenu::Said, this, &FController::Say);
 }
 
-void FController::ConnectBackups()
+void FController::ConnectFileMenu()
 {
-    m_backups = new BackupMenu(*m_ui->mnuFileBackUp, *m_ui->mnuFileRestore, *this, this);
-    connect(m_backups, &BackupMenu::Done, this, &FController::Say);
-    connect(m_backups, &BackupMenu::Restored, this, &FController::ShowRestored);
-    auto* import = new ImportMenu(*m_ui->mnuFileImport, *this, *this);
-    connect(import, &ImportMenu::Imported, this, &FController::ShowRestored);
-    connect(import, &ImportMenu::Said, this, &FController::Say);
-    auto* sheets = new SheetMenu({*m_ui->mnuFilePunches, *m_ui->mnuFileEmployees}, *this, *this);
-    connect(sheets, &SheetMenu::Said, this, &FController::Say);
+    const FileMenu::Lines lines{*m_ui->mnuFileBackUp, *m_ui->mnuFileRestore, *m_ui->mnuFileImport, *m_ui->mnuFilePunches, *m_ui->mnuFileEmployees};
+    m_fileMenu = new FileMenu(*this, lines, *this);
+    connect(m_fileMenu, &FileMenu::Said, this, &FController::Say);
+    connect(m_fileMenu, &FileMenu::Restored, this, &FController::ShowRestored);
 }
 
 void FController::ConnectViewMenu()
@@ -172,6 +167,7 @@ void FController::ConnectViewMenu()
     connect(m_view.get(), &ViewMenu::Said, this, &FController::Say);
     m_ui->mnuViewHours->setChecked(m_timeCardPage->HoursShown());
     connect(m_ui->mnuViewCardHistory, &QAction::triggered, m_timeCardPage, &TimeCardPage::AskForHistory);
+    connect(m_timeCardPage, &TimeCardPage::RateWanted, this, &FController::ShowRate);
     connect(m_timeCardPage, &TimeCardPage::HistoryWanted, m_view.get(), &ViewMenu::ShowHistory);
     connect(m_ui->mnuViewHours, &QAction::toggled, m_timeCardPage, &TimeCardPage::ShowHours);
     connect(m_optionsPage, &OptionsPage::LimitsStored, m_timeCardPage, &TimeCardPage::CheckAgain);
@@ -216,7 +212,7 @@ void FController::Controller(std::shared_ptr<CController> value)
         m_errorNumber = windowerror::NoController;
     } else {
         ShowAll();
-        m_backups->Offer();
+        m_fileMenu->Offer();
         m_timeCardPage->EnablePrint();
         m_reportsPage->EnableGenerate();
         QTimer::singleShot(kBackupDelay, this, &FController::BackUpWhenDue);
@@ -229,7 +225,7 @@ void FController::BackUpWhenDue()
     if (IsBusyInDialog()) {
         return QTimer::singleShot(kBackupDelay, this, &FController::BackUpWhenDue);
     }
-    m_backups->BackUpWhenDue();
+    m_fileMenu->BackUpWhenDue();
 }
 
 void FController::ShowAll()
@@ -380,6 +376,12 @@ void FController::ShowTimeCard(std::int32_t employeeID, const PayPeriod& period)
     m_timeCardPage->ShowCard(employeeID, period);
 }
 
+void FController::ShowRate(std::int32_t employeeID)
+{
+    m_ui->TabStrip->setCurrentIndex(kEmployeeTab - 1);
+    m_employeePage->ShowRate(employeeID);
+}
+
 // Unloading the window, in the middle of this, runs the whole close path once more; all of it is harmless when repeated.
 void FController::Exit()
 {
@@ -450,15 +452,7 @@ void FController::keyPressEvent(QKeyEvent* event)
     if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
         return QMainWindow::keyPressEvent(event);
     }
-    auto* focused = qobject_cast<QPushButton*>(focusWidget());
-    if (focused != nullptr) {
-        return focused->click();
-    }
-    for (auto* button : m_ui->pages->currentWidget()->findChildren<QPushButton*>()) {
-        if (button->isDefault() && button->isEnabled()) {
-            return button->click();
-        }
-    }
+    PressMeantButton(*m_ui->pages->currentWidget(), focusWidget());
 }
 
 } // namespace ptk

@@ -21,10 +21,10 @@ class FController;
 
 namespace ptk {
 
-class BackupMenu;
 class CompanyPage;
 class CTimeRecord;
 class EmployeePage;
+class FileMenu;
 class OptionsPage;
 class PageTabs;
 class RecordPages;
@@ -86,7 +86,7 @@ private:
     void BuildStatusBar();
     void ConnectMenus();
     void ConnectEditMenu();
-    void ConnectBackups();
+    void ConnectFileMenu();
     void ConnectViewMenu();
     void ConnectWindowMenu();
     void ConnectTabs();
@@ -107,6 +107,7 @@ private:
     void Say(const QString& text);
 
     void ShowTimeCard(std::int32_t employeeID, const PayPeriod& period);
+    void ShowRate(std::int32_t employeeID);
 
     void Exit();
     void CloseDown(bool keepReview);
@@ -128,7 +129,7 @@ private:
     bool m_closing = false;
 
     RecordPages* m_recordPages = nullptr; // belongs to the window
-    BackupMenu* m_backups = nullptr;
+    FileMenu* m_fileMenu = nullptr;
     PageTabs* m_tabs = nullptr;
     TimeCardPage* m_timeCardPage = nullptr; // the pages belong to the window's widgets
     ReportsPage* m_reportsPage = nullptr;

@@ -3,11 +3,14 @@
 #include "platform/system/SystemShell.h"
 #include "store/engine/Waiting.h"
 #include "ui/widgets/ProgramEnd.h"
+#include "ui/widgets/ReasonBox.h"
 #include "ui/widgets/WindowPlace.h"
 
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QMessageBox>
+#include <QPushButton>
 
 #include <optional>
 
@@ -94,6 +97,30 @@ void MakeRoomForTitle(QMessageBox& box)
     }
 }
 
+// Between the text and the buttons.
+ReasonBox& AddReason(QMessageBox& box, const ReasonLine& line)
+{
+    auto* reason = new ReasonBox(&box);
+    reason->Offer(line);
+    if (line.wanted) {
+        reason->setFocus();
+    }
+    auto* row = new QHBoxLayout;
+    row->addWidget(reason->NewLabel());
+    row->addWidget(reason, 1);
+    auto* grid = qobject_cast<QGridLayout*>(box.layout());
+    auto* buttons = box.findChild<QDialogButtonBox*>();
+    if (grid == nullptr || buttons == nullptr) {
+        box.layout()->addItem(row);
+        return *reason;
+    }
+    grid->removeWidget(buttons);
+    const int below = grid->rowCount();
+    grid->addLayout(row, below, 0, 1, grid->columnCount());
+    grid->addWidget(buttons, below + 1, 0, 1, grid->columnCount());
+    return *reason;
+}
+
 // The wait pointer would say that the box cannot be answered.
 class PlainPointer
 {
@@ -122,6 +149,16 @@ private:
 
 Answer QtDesktop::MessageBox(const std::string& text, const std::string& title, Icon icon, Buttons buttons)
 {
+    return Ask(text, title, icon, buttons, nullptr);
+}
+
+Answer QtDesktop::AskWithReason(const std::string& text, const std::string& title, Icon icon, Buttons buttons, ReasonLine& line)
+{
+    return Ask(text, title, icon, buttons, &line);
+}
+
+Answer QtDesktop::Ask(const std::string& text, const std::string& title, Icon icon, Buttons buttons, ReasonLine* line)
+{
     if (IsEnding()) {
         return Unasked(buttons);
     }
@@ -129,12 +166,22 @@ Answer QtDesktop::MessageBox(const std::string& text, const std::string& title, 
     QMessageBox box(ToQt(icon), QString::fromStdString(title), QString(), ToQt(buttons), Owner());
     box.setTextFormat(Qt::PlainText);
     box.setText(QString::fromStdString(text));
-    MakeRoomForTitle(box);
     if (buttons == Buttons::YesNo) {
         box.setDefaultButton(QMessageBox::No); // whoever presses Enter without reading loses nothing
         box.setEscapeButton(QMessageBox::No);
     }
-    return ToAnswer(box.exec());
+    const ReasonBox* reason = line == nullptr ? nullptr : &AddReason(box, *line);
+    MakeRoomForTitle(box);
+    if (reason != nullptr && buttons == Buttons::YesNo) {
+        // Whoever has typed why has read what is asked.
+        QObject::connect(reason, &QComboBox::editTextChanged, &box,
+                         [&box](const QString& typed) { box.setDefaultButton(typed.isEmpty() ? QMessageBox::No : QMessageBox::Yes); });
+    }
+    const Answer answer = ToAnswer(box.exec());
+    if (reason != nullptr) {
+        line->reason = reason->Reason();
+    }
+    return answer;
 }
 
 void QtDesktop::SetPointer(Pointer pointer)

@@ -1,21 +1,24 @@
 #include "ui/frame/ViewMenu.h"
 
+#include "office/history/HistoryScope.h"
 #include "ui/history/HistoryWindow.h"
 #include "ui/overview/OverviewWindow.h"
 #include "ui/timecards/TimeCardPage.h"
 #include "ui/widgets/ThemeIcon.h"
 
 #include <QAction>
+#include <QApplication>
 
 namespace ptk {
 
-ViewMenu::ViewMenu(PageHost& host, const Lines& lines, const TimeCardPage& page) : m_host(host), m_page(page)
+ViewMenu::ViewMenu(PageHost& host, const Lines& lines, TimeCardPage& page) : m_host(host), m_page(page)
 {
     lines.overview.setIcon(ThemeIcon("overview"));
     lines.history.setIcon(ThemeIcon("history"));
     connect(&lines.overview, &QAction::triggered, this, &ViewMenu::ShowOverview);
     connect(&lines.nextProblems, &QAction::triggered, this, [this] { ShowNextCard(1); });
     connect(&lines.previousProblems, &QAction::triggered, this, [this] { ShowNextCard(-1); });
+    connect(&page, &TimeCardPage::NextCardWanted, this, &ViewMenu::GoOn);
     connect(&lines.history, &QAction::triggered, this, &ViewMenu::ShowHistoryOfChosen);
 }
 
@@ -47,10 +50,24 @@ void ViewMenu::ShowNextCard(int direction)
     }
 }
 
-// Of the person who is chosen where the overview, or its account, is in front, else the whole.
+// Where the overview was read of that period; nobody asked for it otherwise.
+void ViewMenu::GoOn(const PayPeriod& period)
+{
+    const auto read = m_overview == nullptr ? std::nullopt : m_overview->ReadPeriod();
+    if (read && read->from == period.from && read->to == period.to) {
+        ShowNextCard(1);
+    }
+}
+
+// Of the person who is chosen where the overview, or its account, is in front, of what was changed since where a card is that differs from
+// what was paid, else the whole.
 void ViewMenu::ShowHistoryOfChosen()
 {
-    ShowHistory(m_overview != nullptr ? m_overview->ShownHistory() : std::nullopt);
+    auto scope = m_overview != nullptr ? m_overview->ShownHistory() : std::nullopt;
+    if (!scope && QApplication::activeWindow() == m_page.window() && m_page.isVisible()) {
+        scope = m_page.SincePaid();
+    }
+    ShowHistory(scope);
 }
 
 void ViewMenu::ShowHistory(const std::optional<HistoryScope>& scope)

@@ -32,7 +32,7 @@ public:
     };
 
     // All outlive it.
-    ViewMenu(PageHost& host, const Lines& lines, const TimeCardPage& page);
+    ViewMenu(PageHost& host, const Lines& lines, TimeCardPage& page);
 
     ~ViewMenu() override;
 
@@ -64,6 +64,7 @@ private:
     void MakeOverview();
     void ShowOverview();
     void ShowNextCard(int direction);
+    void GoOn(const PayPeriod& period);
     void ShowHistoryOfChosen();
 
     PageHost& m_host;

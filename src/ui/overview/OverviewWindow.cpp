@@ -395,6 +395,11 @@ QString OverviewWindow::OpenNextCard(std::optional<std::int32_t> employeeID, int
     return {};
 }
 
+std::optional<PayPeriod> OverviewWindow::ReadPeriod() const
+{
+    return m_tables->Shown() == nullptr ? std::nullopt : std::optional(m_tables->Shown()->Result().period);
+}
+
 std::optional<HistoryScope> OverviewWindow::ShownHistory() const
 {
     const OverviewRow* row = isActiveWindow() ? m_tables->ShownRow() : nullptr;

@@ -43,6 +43,9 @@ public:
     // the table. Answers what there is to say of it: who has none left, or that nothing was read.
     QString OpenNextCard(std::optional<std::int32_t> employeeID, int direction);
 
+    // Of the rows that are shown; nothing before the first reading.
+    [[nodiscard]] std::optional<PayPeriod> ReadPeriod() const;
+
     // Of the shown row, or of the person in the account, whichever window is in front; nothing without one.
     [[nodiscard]] std::optional<HistoryScope> ShownHistory() const;
 

@@ -49,6 +49,9 @@ public:
     // False for nullptr.
     bool ShowEmployee(const std::shared_ptr<CEmployee>& theemployee);
 
+    // With the keyboard in the first rate of theirs that is none. What was typed of somebody else is offered in the line.
+    void ShowRate(std::int32_t employeeID);
+
 private:
     struct KeyList
     {

@@ -84,6 +84,7 @@ void CardDisplay::ConnectFindings()
     connect(findings, &CheckPanel::RowsWanted, this, &CardDisplay::ChooseRowsOf);
     connect(findings, &CheckPanel::EditAsked, this, &CardDisplay::EditAsked);
     connect(findings, &CheckPanel::DeleteAsked, this, &CardDisplay::DeleteAsked);
+    connect(findings, &CheckPanel::RemedyWanted, this, &CardDisplay::RemedyWanted);
     connect(findings, &CheckPanel::Elsewhere, this, &CardDisplay::Elsewhere);
     connect(findings, &CheckPanel::EditElsewhereAsked, this, &CardDisplay::EditElsewhereAsked);
     connect(findings, &CheckPanel::DeleteElsewhereAsked, this, &CardDisplay::DeleteElsewhereAsked);
@@ -195,6 +196,16 @@ void CardDisplay::ShowEdits(RecordEdits edits)
 void CardDisplay::OpenFindings()
 {
     m_ui->findings->OpenList();
+}
+
+std::optional<Finding> CardDisplay::ChosenFinding() const
+{
+    return m_ui->findings->Chosen();
+}
+
+bool CardDisplay::ChooseNextFinding(const std::optional<Finding>& done)
+{
+    return m_ui->findings->ChooseNext(done);
 }
 
 void CardDisplay::ShowHours(bool shown)

@@ -2,10 +2,13 @@
 #pragma once
 
 #include "model/CardLine.h"
+#include "model/check/Finding.h"
+#include "office/card/CardOffers.h"
 #include "office/history/RecordEdits.h"
 
 #include <array>
 #include <memory>
+#include <optional>
 #include <QWidget>
 #include <vector>
 
@@ -48,6 +51,10 @@ public:
 
     // The list of what is found.
     void OpenFindings();
+
+    // See CheckPanel.
+    [[nodiscard]] std::optional<Finding> ChosenFinding() const;
+    bool ChooseNextFinding(const std::optional<Finding>& done);
 
     // As a picture; remembered.
     void ShowHours(bool shown);
@@ -92,7 +99,10 @@ signals:
     // Of a finding that was chosen: its records that are not on the card.
     void Elsewhere(const ptk::FindingPlace& place);
 
-    // Such a record is to be edited, or deleted.
+    // One of the remedies of the chosen finding.
+    void RemedyWanted(const ptk::CardOffer& offer);
+
+    // A record that is not on the card is to be edited, or deleted.
     void EditElsewhereAsked(const ptk::Punch& punch);
     void DeleteElsewhereAsked(const ptk::Punch& punch);
 

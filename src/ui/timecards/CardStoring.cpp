@@ -13,6 +13,7 @@
 #include "platform/system/BusyPointer.h"
 #include "platform/system/Notice.h"
 #include "startup/CController.h"
+#include "store/CJetDB.h"
 #include "ui/page/PageHost.h"
 #include "ui/page/SharedRecords.h"
 #include "ui/timecards/CurrentCard.h"
@@ -24,6 +25,7 @@ bool CardStoring::Store(const Change& change)
 {
     m_line.Clear();
     const int place = m_card.KeyboardPlace();
+    const auto finding = m_card.ChosenFinding();
     if (!Succeeds([&] { return StoreQuietly(change); })) {
         const std::string refused = TellRefusal(change);
         Succeeds([this] { return m_card.ReadAgain(); });
@@ -34,7 +36,10 @@ bool CardStoring::Store(const Change& change)
     m_card.RegenerateAfterSave();
     m_card.TakeKeyboard(change.record == nullptr ? 0 : change.record->TimeRecordID(), place);
     const QString trouble = m_line.Text();
-    m_line.Say(QString::fromStdString(change.done) + (trouble.isEmpty() ? trouble : "; " + trouble));
+    if (finding) {
+        m_card.ChooseNextFinding(finding);
+    }
+    m_line.SayBefore(QString::fromStdString(change.done) + (trouble.isEmpty() ? trouble : "; " + trouble));
     return true;
 }
 
@@ -42,9 +47,14 @@ bool CardStoring::StoreQuietly(const Change& change)
 {
     m_conflict.reset();
     const BusyPointer busy(m_host.Desktop());
-    const auto factory = Required(Required(m_host.Controller())->TimeRecordFactory());
+    const auto controller = Required(m_host.Controller());
+    const auto factory = Required(controller->TimeRecordFactory());
+    const auto database = Required(controller->PTKDatabase());
+    const CJetDB::Reason reason(database, change.reason);
     const bool stored = change.step(*Required(m_card.Card()), *factory);
-    m_conflict = stored ? std::nullopt : factory->Conflict();
+    if (!stored) {
+        m_conflict = change.pastFactory ? database->Conflict() : factory->Conflict();
+    }
     return stored;
 }
 
@@ -54,10 +64,20 @@ std::string CardStoring::TellRefusal(const Change& change)
     if (m_conflict && Succeeds([&] { TellConflict(change); })) {
         return std::string(change.refused) + ": " + ConflictRemark(*m_conflict);
     }
-    const auto card = m_card.Card();
-    std::string refused = card == nullptr ? change.refused : RefusedText(change.refused, *card);
+    std::string refused = Refused(change);
     Tell(m_host.Desktop(), change.failed);
     return refused;
+}
+
+std::string CardStoring::Refused(const Change& change) const
+{
+    const auto controller = m_host.Controller();
+    const auto database = controller == nullptr ? nullptr : controller->PTKDatabase();
+    if (change.pastFactory && database != nullptr && !database->LastFailure().Description().empty()) {
+        return std::string(change.refused) + ": " + database->LastFailure().Description();
+    }
+    const auto card = m_card.Card();
+    return card == nullptr ? change.refused : RefusedText(change.refused, *card);
 }
 
 void CardStoring::TellConflict(const Change& change)

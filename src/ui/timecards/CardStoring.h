@@ -28,12 +28,15 @@ public:
         const char* refused; // for the page's line, before the reason
         std::string done;
         std::shared_ptr<CTimeRecord> record; // nullptr for several new ones
+        std::string reason{};                // goes into the edit trail; empty for none
+        bool pastFactory = false;            // the step stores by the database itself, which knows then why it was refused
     };
 
     // All outlive it.
     CardStoring(PageHost& host, CurrentCard& card, NoticeLine& line) : m_host(host), m_card(card), m_line(line) {}
 
-    // The card shows what is in the database from then on, or the user learns that nothing has changed there.
+    // The card shows what is in the database from then on, or the user learns that nothing has changed there. Of what the check found then,
+    // the next finding is chosen where one was.
     bool Store(const Change& change);
 
     // Why the last one was refused, where somebody else had changed or removed the record.
@@ -42,6 +45,7 @@ public:
 private:
     bool StoreQuietly(const Change& change);
     std::string TellRefusal(const Change& change);
+    [[nodiscard]] std::string Refused(const Change& change) const;
     void TellConflict(const Change& change);
 
     PageHost& m_host;

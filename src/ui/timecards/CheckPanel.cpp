@@ -1,8 +1,10 @@
 #include "ui/timecards/CheckPanel.h"
 
 #include "model/check/FindingText.h"
+#include "model/payday/PaidText.h"
 #include "office/card/CardFindings.h"
 #include "office/card/CheckedTimecard.h"
+#include "ui/timecards/RemedyRow.h"
 #include "ui/widgets/FindingList.h"
 #include "ui/widgets/FoldingRow.h"
 #include "ui/widgets/HintLabel.h"
@@ -10,6 +12,7 @@
 #include "ui/widgets/ThemeIcon.h"
 
 #include <QLabel>
+#include <QMenu>
 #include <QSettings>
 #include <QToolButton>
 
@@ -21,6 +24,10 @@ constexpr auto kLineDescription = "Shows or hides the sentences of the check";
 constexpr auto kOpenTip = "Show what was found (Alt+L)";
 constexpr auto kCloseTip = "Hide what was found (Alt+L)";
 constexpr auto kLineKeys = "Alt+L";
+constexpr auto kEditHint = "Enter edits the record";
+constexpr auto kEditLine = "Edit the Record";
+constexpr auto kDeleteLine = "Delete the Record";
+constexpr auto kPaidTip = "As it was paid: %1";
 constexpr auto kHoursCaption = "Hours per day:";
 constexpr auto kHoursHint = "The hours of a generated card stand here. F9 shows everybody's pay and problems.";
 
@@ -41,7 +48,7 @@ QIcon IconOf(const CardCheck& check)
 
 CheckPanel::CheckPanel(QWidget* parent)
     : QWidget(parent), m_line(new QToolButton(this)), m_detail(new HintLabel(this)), m_list(new FindingList(this)),
-      m_legend(new QWidget(this)), m_chart(new HoursChart(this))
+      m_remedies(new RemedyRow(this)), m_legend(new QWidget(this)), m_chart(new HoursChart(this))
 {
     m_line->setObjectName("cmdFindings");
     m_line->setAccessibleDescription(kLineDescription);
@@ -49,6 +56,7 @@ CheckPanel::CheckPanel(QWidget* parent)
     m_detail->setObjectName("lblFindings");
     m_list->setObjectName("lstFindings");
     m_list->KeepRoom(kListLines);
+    m_list->setContextMenuPolicy(Qt::CustomContextMenu);
     m_chart->setObjectName("lstHours");
     m_chart->SetHint(kHoursHint);
     const bool hours = QSettings().value(kHoursKey, true).toBool();
@@ -62,6 +70,8 @@ CheckPanel::CheckPanel(QWidget* parent)
     connect(m_list, &FindingList::Chosen, this, &CheckPanel::Choose);
     connect(m_list, &FindingList::Entered, this, &CheckPanel::Edit);
     connect(m_list, &FindingList::DeleteAsked, this, &CheckPanel::Delete);
+    connect(m_list, &QWidget::customContextMenuRequested, this, &CheckPanel::ShowMenu);
+    connect(m_remedies, &RemedyRow::Wanted, this, &CheckPanel::RemedyWanted);
     Show(nullptr);
 }
 
@@ -89,6 +99,7 @@ void CheckPanel::LayOut()
     column->setSpacing(kSpace);
     column->addLayout(top);
     column->addLayout(parts);
+    column->addWidget(m_remedies);
     QSizePolicy keepsPlace = m_line->sizePolicy();
     keepsPlace.setRetainSizeWhenHidden(true);
     m_line->setSizePolicy(keepsPlace);
@@ -99,6 +110,7 @@ void CheckPanel::Show(std::shared_ptr<const CheckedTimecard> checked)
     m_checked = std::move(checked);
     const bool has = m_checked != nullptr && m_checked->check;
     m_list->Show(has ? ShownFindings(*m_checked->check, m_checked->limits.showNotices) : std::vector<Finding>());
+    m_remedies->Show({});
     ShowLine();
     ShowColumns();
     ShowParts();
@@ -109,6 +121,8 @@ void CheckPanel::ShowLine()
     const bool has = m_checked != nullptr && m_checked->check;
     m_line->setVisible(has);
     m_detail->Say(m_checked == nullptr ? QString() : QString::fromStdString(FindingDetailText(*m_checked)));
+    const bool paid = m_checked != nullptr && m_checked->paid;
+    m_detail->setToolTip(paid ? QString(kPaidTip).arg(QString::fromStdString(PaidFigures(*m_checked->paid))) : QString());
     if (has) {
         m_line->setText(QString::fromStdString(FindingLineText(*m_checked)));
         m_line->setShortcut(QKeySequence(kLineKeys)); // which every text takes away
@@ -132,6 +146,7 @@ void CheckPanel::ShowParts()
     m_line->setFocusPolicy(opens ? Qt::StrongFocus : Qt::NoFocus);
     m_line->setToolTip(!opens ? "" : m_open ? kCloseTip : kOpenTip);
     m_list->setVisible(opens && m_open);
+    m_remedies->setVisible(opens && m_open);
 }
 
 void CheckPanel::SetStrange(bool strange)
@@ -150,6 +165,21 @@ void CheckPanel::OpenList()
     ShowParts();
 }
 
+std::optional<Finding> CheckPanel::Chosen() const
+{
+    const Finding* chosen = m_list->isHidden() ? nullptr : m_list->Current();
+    return chosen == nullptr ? std::nullopt : std::optional(*chosen);
+}
+
+bool CheckPanel::ChooseNext(const std::optional<Finding>& done)
+{
+    const auto next = m_checked == nullptr || m_list->isHidden() ? std::nullopt : NextToMend(*m_checked, done);
+    if (next) {
+        m_list->ChooseRow(*next);
+    }
+    return next.has_value();
+}
+
 void CheckPanel::ShowHours(bool shown)
 {
     m_legend->setVisible(shown);
@@ -162,8 +192,26 @@ void CheckPanel::ShowHours(bool shown)
 void CheckPanel::Choose(const Finding& finding)
 {
     const FindingPlace place = PlaceOf(finding, *m_checked);
+    m_remedies->Show(OffersFor(finding, *m_checked), finding.records.empty() ? "" : kEditHint);
     emit RowsWanted(place.onCard);
     emit Elsewhere(place);
+}
+
+// Of the sentence that the key or the click has chosen by then.
+void CheckPanel::ShowMenu(const QPoint& place)
+{
+    const auto chosen = Chosen();
+    if (!chosen) {
+        return;
+    }
+    QMenu menu(this);
+    m_remedies->AddTo(menu);
+    if (!chosen->records.empty()) {
+        menu.addSeparator();
+        connect(menu.addAction(kEditLine), &QAction::triggered, this, [&] { Edit(*chosen); });
+        connect(menu.addAction(kDeleteLine), &QAction::triggered, this, [&] { Delete(*chosen); });
+    }
+    menu.exec(m_list->viewport()->mapToGlobal(place));
 }
 
 void CheckPanel::Edit(const Finding& finding)

@@ -1,10 +1,13 @@
-// What the check says of the card on the Timecards page: a line that opens into the list of findings, and the hours per day.
+// What the check says of the card on the Timecards page: a line that opens into the list of findings and what can be done about the chosen
+// one, and the hours per day.
 #pragma once
 
 #include "model/check/Finding.h"
+#include "office/card/CardOffers.h"
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <QWidget>
 #include <vector>
 
@@ -15,6 +18,7 @@ namespace ptk {
 class FindingList;
 class HintLabel;
 class HoursChart;
+class RemedyRow;
 struct CheckedTimecard;
 struct FindingPlace;
 struct Punch;
@@ -39,6 +43,13 @@ public:
     // As the line does.
     void OpenList();
 
+    // In the open list; nothing where none is chosen.
+    [[nodiscard]] std::optional<Finding> Chosen() const;
+
+    // In the open list the next one that is to be mended, behind `done` or, without it, from the top; the keyboard goes there, too. False
+    // when none is left, or the list is closed.
+    bool ChooseNext(const std::optional<Finding>& done);
+
     void ShowHours(bool shown);
     [[nodiscard]] bool HoursShown() const;
 
@@ -51,7 +62,10 @@ signals:
     void EditAsked();
     void EditElsewhereAsked(const ptk::Punch& punch);
 
-    // The same for Delete.
+    // One of the remedies of the chosen one.
+    void RemedyWanted(const ptk::CardOffer& offer);
+
+    // Delete, on one that names records.
     void DeleteAsked();
     void DeleteElsewhereAsked(const ptk::Punch& punch);
 
@@ -63,10 +77,12 @@ private:
     void Choose(const Finding& finding);
     void Edit(const Finding& finding);
     void Delete(const Finding& finding);
+    void ShowMenu(const QPoint& place);
 
     QToolButton* m_line; // all of these belong to the widget
     HintLabel* m_detail;
     FindingList* m_list;
+    RemedyRow* m_remedies;
     QWidget* m_legend;
     HoursChart* m_chart;
     std::shared_ptr<const CheckedTimecard> m_checked;

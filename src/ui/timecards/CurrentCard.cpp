@@ -12,6 +12,7 @@
 #include "platform/system/Clock.h"
 #include "startup/CController.h"
 #include "store/CJetDB.h"
+#include "store/CSystemOptions.h"
 #include "ui/page/PageHost.h"
 #include "ui/page/SharedRecords.h"
 #include "ui/timecards/CardChoice.h"
@@ -96,12 +97,16 @@ bool CurrentCard::GenerateTimeCard()
 bool CurrentCard::Load(CTimeCard& card, const std::shared_ptr<CEmployee>& employee, const PayPeriod& period)
 {
     const BusyPointer busy(m_host.Desktop());
-    const auto database = Required(m_host.Controller())->PTKDatabase();
+    const auto controller = Required(m_host.Controller());
+    const auto database = controller->PTKDatabase();
+    const auto options = Required(controller->SystemOptions());
     if (employee != nullptr) {
         m_host.SharedRecords().AboutToRead(Shown::CardRecords, employee->EmployeeID());
     }
     const CJetDB::Hold hold(database);
-    m_checked = std::make_shared<CheckedTimecard>(GenerateChecked(card, database, employee, period, m_host.Clock().Now()));
+    m_checked =
+        std::make_shared<CheckedTimecard>(GenerateChecked(card, database, employee, period, m_host.Clock().Now(), std::nullopt,
+                                                          AutoShiftEnd(options->AutoShiftStartTime(), options->AutoShiftEndTime())));
     m_edits.clear();
     if (m_checked->generated) {
         ReadEdits(card);
@@ -240,10 +245,10 @@ bool CurrentCard::ShowTimeCard()
     return false;
 }
 
-// Also of a card that could not be made: what keeps it from that, and what crosses its ends.
+// Also of a card that could not be made: what keeps it from that, what crosses its ends, and that it is paid.
 void CurrentCard::ShowFindings()
 {
-    const bool tells = m_checked != nullptr && m_checked->check && !m_checked->check->findings.empty();
+    const bool tells = m_checked != nullptr && m_checked->check && (!m_checked->check->findings.empty() || m_checked->paid);
     if (m_display.ShowsCard() || tells) {
         m_display.ShowCheck(m_checked);
     }
@@ -269,6 +274,21 @@ void CurrentCard::ForgetChosenRecord()
 {
     m_display.ForgetChoice();
     m_host.EventSource(eventsource::None);
+}
+
+bool CurrentCard::IsPaid() const
+{
+    return m_checked != nullptr && m_checked->paid;
+}
+
+std::optional<Finding> CurrentCard::ChosenFinding() const
+{
+    return m_display.ChosenFinding();
+}
+
+bool CurrentCard::ChooseNextFinding(const std::optional<Finding>& done)
+{
+    return m_display.ChooseNextFinding(done);
 }
 
 std::int32_t CurrentCard::LongShiftHours() const

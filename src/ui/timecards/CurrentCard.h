@@ -1,6 +1,7 @@
 // The main window's current time card, and how the Timecards page shows it.
 #pragma once
 
+#include "model/check/Finding.h"
 #include "office/history/RecordEdits.h"
 #include "platform/text/DateTime.h"
 
@@ -46,6 +47,12 @@ public:
 
     void GiveUp() { m_card = nullptr; }
 
+    // The same as it was checked when it was last loaded; nullptr before.
+    [[nodiscard]] const std::shared_ptr<const CheckedTimecard>& Checked() const { return m_checked; }
+
+    // Its period was closed for its employee.
+    [[nodiscard]] bool IsPaid() const;
+
     // Generates and shows it; false for any run-time failure.
     bool RefreshTimeCard();
 
@@ -80,6 +87,10 @@ public:
     [[nodiscard]] std::shared_ptr<CTimeRecord> ChosenRecord() const;
 
     void ForgetChosenRecord();
+
+    // See CheckPanel.
+    [[nodiscard]] std::optional<Finding> ChosenFinding() const;
+    bool ChooseNextFinding(const std::optional<Finding>& done);
 
     // By the limits that the card was checked with.
     [[nodiscard]] std::int32_t LongShiftHours() const;

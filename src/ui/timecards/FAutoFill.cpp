@@ -2,6 +2,8 @@
 
 #include "model/CTimeRecord.h"
 #include "model/CTimeRecordList.h"
+#include "model/payday/Closing.h"
+#include "model/payday/PaidText.h"
 #include "model/PayPeriod.h"
 #include "office/card/TimeCardNotices.h"
 #include "platform/Required.h"
@@ -19,6 +21,7 @@ constexpr auto kRangeTitle = "Date Range Error";
 constexpr auto kPeriodText = "Cannot create time records for the given time period.";
 constexpr auto kRecordTitle = "Time Record Error";
 
+constexpr auto kWhyFilled = "This period is paid: say why it is changed, or press Save again.";
 constexpr int kForecastLines = 3;
 
 bool IsMidnight(DateTime moment)
@@ -76,6 +79,21 @@ void FAutoFill::Announce(const std::string& owner, std::optional<DayNumbers> tak
     m_ui->lblOwner->Say(QString::fromStdString(owner));
     m_takenDays = std::move(takenDays);
     Forecast();
+}
+
+void FAutoFill::TellPaid(const Closing& closing)
+{
+    m_ui->lblOwner->Say(m_ui->lblOwner->text() + "\n" + QString::fromStdString(PaidText(closing) + ": " + PaidFigures(closing)));
+}
+
+void FAutoFill::OfferReasons(const ReasonLine& line)
+{
+    m_ui->cboReason->Offer(line);
+}
+
+std::string FAutoFill::Reason() const
+{
+    return m_ui->cboReason->Reason();
 }
 
 FillTexts FAutoFill::Texts() const
@@ -154,6 +172,9 @@ void FAutoFill::AutoShift()
 
 void FAutoFill::Save()
 {
+    if (m_ui->cboReason->AsksForIt()) {
+        return m_ui->lblForecast->Say(kWhyFilled);
+    }
     m_okClick = LoadTimeRecordList();
     accept();
 }

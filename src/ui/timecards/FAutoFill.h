@@ -19,6 +19,8 @@ namespace ptk {
 class Clock;
 class CTimeRecordList;
 class Desktop;
+struct Closing;
+struct ReasonLine;
 
 // Adds the records to the list it was given and stores nothing.
 class FAutoFill final : public QDialog
@@ -59,6 +61,16 @@ public:
     // A line that says whose the records will be, and one that follows the dates and times with what Save will do. takenDays: those that
     // already have records of that employee, none when that is not known.
     void Announce(const std::string& owner, std::optional<DayNumbers> takenDays);
+
+    // In the first of these lines, too: the period was paid.
+    void TellPaid(const Closing& closing);
+
+    // Saving asks once for a reason that is wanted.
+    void OfferReasons(const ReasonLine& line);
+
+    // Empty for none.
+    [[nodiscard]] std::string Reason() const;
+
     [[nodiscard]] FillTexts Texts() const;
 
     // Puts its times back into their boxes.

@@ -1,6 +1,8 @@
 #include "ui/timecards/FTimeEditor.h"
 
 #include "model/CTimeRecord.h"
+#include "model/payday/Closing.h"
+#include "model/payday/PaidText.h"
 #include "platform/ErrorNumbers.h"
 #include "platform/Succeeds.h"
 #include "platform/system/Clock.h"
@@ -15,6 +17,7 @@ namespace {
 
 constexpr auto kFormatTitle = "Date Format Error";
 constexpr auto kFormatText = "Error: Invalid date separator. Use : to separate time values.";
+constexpr auto kWhyChanged = "This period is paid: say why it is changed, or press Save again.";
 constexpr int kWarningLines = 2;
 
 void ShowDay(DateTimeBox& box, DateTime moment, DateTime today)
@@ -80,6 +83,21 @@ bool FTimeEditor::SetAutoShiftTimes(DateTime thestarttime, DateTime theendtime)
 void FTimeEditor::Owner(const std::string& text)
 {
     m_ui->lblOwner->Say(QString::fromStdString(text));
+}
+
+void FTimeEditor::TellPaid(const Closing& closing)
+{
+    m_ui->lblOwner->Say(m_ui->lblOwner->text() + "\n" + QString::fromStdString(PaidText(closing) + ": " + PaidFigures(closing)));
+}
+
+void FTimeEditor::OfferReasons(const ReasonLine& line)
+{
+    m_ui->cboReason->Offer(line);
+}
+
+std::string FTimeEditor::Reason() const
+{
+    return m_ui->cboReason->Reason();
 }
 
 void FTimeEditor::WarnAsNew(std::optional<PayPeriod> shown)
@@ -209,6 +227,9 @@ void FTimeEditor::AutoShift()
 // A record whose texts could not be read, which the user has been told by then, goes back all the same, deliberately.
 void FTimeEditor::Save()
 {
+    if (m_ui->cboReason->AsksForIt()) {
+        return m_ui->lblWarning->Say(kWhyChanged);
+    }
     ReadTimeRecord();
     if (m_parentWindow == nullptr || !m_parentWindow->ReturnTimeRecord(m_timeRecord)) {
         m_saveErrorNumber = timecard::RecordRejected;

@@ -22,6 +22,8 @@ class CTimeRecord;
 class DateTimeBox;
 class Desktop;
 class TimeRecordReceiver;
+struct Closing;
+struct ReasonLine;
 
 // Writes into the very record it was given, already while the user types; Cancel does not undo that, deliberately. Only Save hands it back.
 class FTimeEditor final : public QDialog
@@ -47,6 +49,15 @@ public:
 
     // A line that says whose the record will be.
     void Owner(const std::string& text);
+
+    // In that line, too: the period was paid.
+    void TellPaid(const Closing& closing);
+
+    // Saving asks once for a reason that is wanted.
+    void OfferReasons(const ReasonLine& line);
+
+    // Empty for none.
+    [[nodiscard]] std::string Reason() const;
 
     // Warns, in a line, of a new record that the card of that period would not show.
     void WarnAsNew(std::optional<PayPeriod> shown);

@@ -3,6 +3,7 @@
 #include "model/CEmployee.h"
 #include "model/CTimeCard.h"
 #include "model/CTimeRecord.h"
+#include "office/card/CheckedTimecard.h"
 #include "platform/Succeeds.h"
 #include "ui/timecards/CardChoice.h"
 #include "ui/timecards/CardDisplay.h"
@@ -17,6 +18,7 @@ namespace {
 constexpr auto kOfRecord = "History of This &Record";
 constexpr auto kOfCard = "&History of %1 in This Period";
 constexpr auto kOfNobody = "&History of This Card";
+constexpr auto kSincePaid = "Changes &since It Was Paid";
 constexpr auto kNoRecord = "Choose a record first";
 constexpr auto kNoChoice = "Choose an employee and two dates first";
 
@@ -56,6 +58,9 @@ void HistoryActions::ShowMenu(const QPoint& place)
     const QString whose = QString::fromStdString(Whose()).replace('&', "&&");
     add(kOfRecord, OfRecord(), kNoRecord);
     add(whose.isEmpty() ? QString(kOfNobody) : QString(kOfCard).arg(whose), OfCard(), kNoChoice);
+    if (const auto since = SincePaid()) {
+        add(kSincePaid, since, "");
+    }
     menu.exec(place);
 }
 
@@ -71,6 +76,17 @@ std::optional<HistoryScope> HistoryActions::OfCard() const
         return OfChoice();
     }
     return HistoryScope{card->Employee()->EmployeeID(), {card->StartDate(), card->EndDate().AddDays(-1)}, {}, {}};
+}
+
+std::optional<HistoryScope> HistoryActions::SincePaid() const
+{
+    const auto card = m_card.Card();
+    const auto checked = m_card.Checked();
+    const bool shown = m_display.ShowsCard() || m_display.ShowsFindings();
+    if (!shown || card == nullptr || card->Employee() == nullptr || checked == nullptr || !checked->paid || !checked->check->changed) {
+        return std::nullopt;
+    }
+    return HistoryScope{card->Employee()->EmployeeID(), checked->period, {}, {}, true, checked->paid->entry};
 }
 
 std::optional<HistoryScope> HistoryActions::OfChoice() const

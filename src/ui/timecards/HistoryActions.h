@@ -26,6 +26,9 @@ public:
     // Of the chosen record, else of the card.
     void Ask();
 
+    // What was changed of the shown card since its period was paid; nothing unless it differs from what was paid.
+    [[nodiscard]] std::optional<HistoryScope> SincePaid() const;
+
 signals:
     void Wanted(const ptk::HistoryScope& scope);
 

@@ -1,13 +1,10 @@
 // The Timecards page: one employee's pay period, its time records and what they come to.
 #pragma once
 
-#include "office/card/FillPlan.h"
-#include "office/card/NewRecord.h"
+#include "model/PayPeriod.h"
 #include "ui/page/RecordPage.h"
-#include "ui/timecards/TimeRecordReceiver.h"
 
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <optional>
 #include <QWidget>
@@ -20,20 +17,19 @@ class TimeCardPage;
 namespace ptk {
 
 class CardChoice;
+class CardFilling;
+class CardMending;
 class CardStoring;
-class CController;
+class CTimeRecord;
 class CurrentCard;
-class FAutoFill;
-class FTimeEditor;
 class HistoryActions;
 class PageHost;
-struct FindingPlace;
+class RecordEditing;
 struct HistoryScope;
 struct PeriodTexts;
-struct Punch;
 
 // Every change to a record is stored at once and followed by a fresh generation of the card.
-class TimeCardPage final : public QWidget, public TimeRecordReceiver, public RecordPage
+class TimeCardPage final : public QWidget, public RecordPage
 {
     Q_OBJECT
 
@@ -65,7 +61,7 @@ public:
     // Whom and which days the boxes name, in the status bar.
     void ShowChoice();
 
-    // Chooses and generates it, with the list of what was found.
+    // Chooses and generates it, with the list of what was found and the first of it chosen.
     void ShowCard(std::int32_t employeeID, const PayPeriod& period);
 
     // The card that is shown, by limits that have changed.
@@ -79,70 +75,48 @@ public:
 
     [[nodiscard]] bool HoursShown() const;
 
-    bool ReturnTimeRecord(const std::shared_ptr<CTimeRecord>& thetimerecord) override;
+    // As an editor hands it over.
+    bool ReturnTimeRecord(const std::shared_ptr<CTimeRecord>& thetimerecord);
 
     // Of the chosen record, else of the card.
     void AskForHistory();
 
+    // See HistoryActions.
+    [[nodiscard]] std::optional<HistoryScope> SincePaid() const;
+
 signals:
     void HistoryWanted(const ptk::HistoryScope& scope);
+
+    // See CardMending.
+    void NextCardWanted(const ptk::PayPeriod& period);
+    void RateWanted(std::int32_t employeeID);
 
 protected:
     void showEvent(QShowEvent* event) override;
 
 private:
-    // A record in the editor, and what was typed for it in vain before.
-    struct Editing
-    {
-        std::shared_ptr<CTimeRecord> record;
-        bool isNew = false;
-        std::optional<RecordTexts> typed;
-    };
-
     void ConnectChoice();
     void ConnectActions();
+    void ConnectFindings();
     void ConnectHistory();
 
     void ChooseEmployee();
     void TurnToChosenEmployee();
     void ShowStatus();
     void EnableFill();
-
     void Generate();
-    void NewRecord();
-    void EditRecord();
-    void DeleteRecord();
-    void Delete(const std::shared_ptr<CTimeRecord>& record);
-    void AutoFill(const std::optional<FillTexts>& typed);
     void Print();
-
-    void OfferElsewhere(const FindingPlace& place);
-    void EditElsewhere(const Punch& punch);
-    void DeleteElsewhere(const Punch& punch);
-
-    // nullptr, said in the line with that text, where it cannot be had.
-    [[nodiscard]] std::shared_ptr<CTimeRecord> RecordElsewhere(const Punch& punch, const char* refused);
-
-    void OpenEditor(const Editing& editing);
-    void Prepare(FTimeEditor& editor, const Editing& editing);
-    void HandOver(FAutoFill& window);
-    void TakeOver(const FAutoFill& window, std::int32_t records);
-    void EditAgain(const Editing& editing, const RecordTexts& typed);
-    void OfferAgain(const std::function<void()>& action);
-
-    // Raises Failure 91 when there is none.
-    [[nodiscard]] std::shared_ptr<CController> Controller() const;
 
     PageHost& m_host;
     std::unique_ptr<Ui::TimeCardPage> m_ui;
-    CardChoice* m_choice; // these three belong to the page
+    CardChoice* m_choice; // these four belong to the page
     CurrentCard* m_card = nullptr;
-    std::unique_ptr<CardStoring> m_storing;
+    CardMending* m_mending = nullptr;
     HistoryActions* m_history = nullptr;
-    const FTimeEditor* m_editor = nullptr; // the one that is open
-    std::string m_employeeName;            // as of the last change of employee
-    bool m_editingNew = false;             // whether the editor was last opened for a new record; nothing depends on it
-    bool m_refused = false;                // whether the record that the editor returned could not be stored
+    std::unique_ptr<CardStoring> m_storing;
+    std::unique_ptr<RecordEditing> m_records;
+    std::unique_ptr<CardFilling> m_filling;
+    std::string m_employeeName; // as of the last change of employee
     bool m_seen = false;
 };
 

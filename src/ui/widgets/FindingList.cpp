@@ -91,6 +91,14 @@ const Finding* FindingList::Current() const
     return chosen.isEmpty() ? nullptr : &m_findings->Findings().at(static_cast<std::size_t>(chosen.first().row()));
 }
 
+void FindingList::ChooseRow(std::size_t row)
+{
+    setCurrentIndex(m_findings->index(static_cast<int>(row)));
+    if (isVisible()) {
+        setFocus();
+    }
+}
+
 void FindingList::Choose()
 {
     if (const Finding* finding = Current()) {

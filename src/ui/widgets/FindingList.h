@@ -38,6 +38,12 @@ public:
     // None of them chosen.
     void Show(std::vector<Finding> findings);
 
+    // nullptr when none is chosen.
+    [[nodiscard]] const Finding* Current() const;
+
+    // Counted from 0, and takes the keyboard where it is to be seen.
+    void ChooseRow(std::size_t row);
+
     // For at least so many lines of text, whatever it shows.
     void KeepRoom(int lines);
 
@@ -61,9 +67,6 @@ private:
     void Choose();
     void Enter();
     void AskToDelete();
-
-    // nullptr when none is chosen.
-    [[nodiscard]] const Finding* Current() const;
 
     FindingModel* m_findings; // belongs to the widget
 };

@@ -1,0 +1,42 @@
+// The way from a card without a rate to the box where it is entered.
+#include "model/CEmployee.h"
+#include "model/CEmployeeList.h"
+#include "platform/Required.h"
+#include "platform/Succeeds.h"
+#include "platform/text/Text.h"
+#include "ui/people/EmployeePage.h"
+#include "ui_EmployeePage.h"
+
+namespace ptk {
+
+namespace {
+
+constexpr auto kNoSuchEmployee = "This employee is not in the list any more";
+
+bool HoldsRate(const QLineEdit& box)
+{
+    double rate = 0;
+    return Succeeds([&] { rate = ToDouble(box.text().toStdString()); }) && rate > 0;
+}
+
+} // namespace
+
+void EmployeePage::ShowRate(std::int32_t employeeID)
+{
+    const auto show = [&] {
+        if (m_ui->cboEmployeeID->currentText() != QString::number(employeeID)) {
+            const auto employee = Required(List()->GetEmployeeByID(employeeID));
+            LeaveBehind(m_texts.Left(ReadTexts()));
+            ShowEmployee(employee);
+            ShowStatus(*employee);
+        }
+    };
+    if (!Succeeds(show)) {
+        return m_ui->notice->Say(kNoSuchEmployee);
+    }
+    QLineEdit* box = HoldsRate(*m_ui->txtPayRate) ? m_ui->txtOvertimePayRate : m_ui->txtPayRate;
+    box->setFocus();
+    box->selectAll();
+}
+
+} // namespace ptk

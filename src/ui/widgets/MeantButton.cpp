@@ -1,0 +1,19 @@
+#include "ui/widgets/MeantButton.h"
+
+#include <QPushButton>
+
+namespace ptk {
+
+void PressMeantButton(const QWidget& page, QWidget* focused)
+{
+    if (auto* button = qobject_cast<QPushButton*>(focused)) {
+        return button->click();
+    }
+    for (auto* button : page.findChildren<QPushButton*>()) {
+        if (button->isDefault() && button->isEnabled()) {
+            return button->click();
+        }
+    }
+}
+
+} // namespace ptk
