@@ -177,7 +177,10 @@ TEST(ReasonBoxTest, StandsBelowTheQuestionAndIsBegunInWhereItIsWanted)
         const Answer answer = desktop.AskWithReason("Continue?", "Delete?", Icon::Question, Buttons::YesNo, line);
         return std::pair(answer, line.reason);
     };
-    const auto focus = [] { return QApplication::focusWidget()->objectName(); };
+    const auto focus = [] {
+        const QWidget* widget = QApplication::focusWidget();
+        return widget == nullptr ? QString() : widget->objectName();
+    };
     EXPECT_EQ(ask(false, {{"QMessageBox", Qt::Key_Return, 0, [&] { EXPECT_NE(focus(), "cboReason"); }}}),
               std::pair(Answer::No, std::string()));
     const std::deque<KeyPress> typed{{"QMessageBox", Qt::Key_W, 0, [&] { EXPECT_EQ(focus(), "cboReason"); }},

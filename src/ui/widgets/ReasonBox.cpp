@@ -1,7 +1,6 @@
 #include "ui/widgets/ReasonBox.h"
 
 #include "platform/system/Desktop.h"
-#include "ui/widgets/Proposals.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -29,7 +28,7 @@ ReasonBox::ReasonBox(QWidget* parent) : QComboBox(parent)
     setMinimumContentsLength(kReasonCharacters);
     lineEdit()->setMaxLength(kLongestReason);
     lineEdit()->setPlaceholderText(kOptional);
-    new Proposals(*this, Proposals::Leaving::Keeps);
+    setCompleter(nullptr); // it would write what it proposes into the text
 }
 
 void ReasonBox::Offer(const ReasonLine& line)

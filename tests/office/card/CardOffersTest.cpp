@@ -54,7 +54,7 @@ TEST(CardOffersTest, TheNextOneIsBehindWhatWasDoneAndNoMereNotice)
     };
     const Case cases[] = {{{}, 0},
                           {On(2, FindingKind::Empty, {1}), 0}, // still there
-                          {On(2, FindingKind::Backward, {7}), 1},
+                          {On(2, FindingKind::Long, {7}), 1},
                           {On(3, FindingKind::Overlap, {7}), 3},
                           {On(6, FindingKind::Open, {7}), 0}}; // the first again
     for (const Case& one : cases) {
