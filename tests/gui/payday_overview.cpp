@@ -194,7 +194,7 @@ TEST_F(OverviewWindowTest, OpensTheHistoryOfTheChosenOne)
 {
     WaitUntilRead();
     Elsewhere("UPDATE Employee SET Phone = '1' WHERE EmployeeID IN (40, 41)");
-    Table().selectRow(1);
+    QTest::mouseClick(Table().viewport(), Qt::LeftButton, {}, Table().visualRect(Table().model()->index(1, 0)).center());
     QApplication::setActiveWindow(&Window());
     Find<QAction>(Main(), "mnuViewHistory").trigger();
     const auto windows = QApplication::topLevelWidgets();

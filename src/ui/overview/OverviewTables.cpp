@@ -147,8 +147,14 @@ const OverviewRow* OverviewTables::StepToProblems(std::optional<std::int32_t> em
     if (!found) {
         return nullptr;
     }
-    m_table.selectRow(static_cast<int>(*found));
+    ChooseLine(static_cast<int>(*found));
     return &m_rows->Rows().at(lines.at(*found));
+}
+
+// That one alone, also while Shift is held, as it is for a step back.
+void OverviewTables::ChooseLine(int line)
+{
+    m_table.selectionModel()->setCurrentIndex(m_sorted->index(line, 0), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
 }
 
 void OverviewTables::TakeChoice()

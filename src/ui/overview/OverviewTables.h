@@ -70,6 +70,7 @@ signals:
 private:
     void Prepare();
     void Connect();
+    void ChooseLine(int line);
     void TakeChoice();
     void ChooseAgain();
     void ShowTotals();

@@ -1,14 +1,20 @@
 // Pictures of every window for a person to look at: ui_screenshots OUTDIR. Each at its smallest, first and a large size, light and dark.
 #include "gui/GuiProgram.h"
+#include "model/CEmployee.h"
+#include "model/CEmployeeList.h"
 #include "office/business/SampleBusiness.h"
+#include "office/payday/PaydayClosing.h"
+#include "platform/text/Text.h"
 #include "store/CJetDB.h"
 #include "store/whole/BulkWriter.h"
 #include "support/Files.h"
 #include "support/OldDatabase.h"
+#include "ui/frame/QtDesktop.h"
 #include "ui/login/FServerPassword.h"
 #include "ui/safety/FFirstStart.h"
 #include "ui/safety/FImport.h"
 #include "ui/sheet/FImportEmployees.h"
+#include "ui/widgets/DateCombo.h"
 
 #include <cstdio>
 #include <QSettings>
@@ -172,7 +178,9 @@ void TakeFindings(FController& main, const Photographer& photographer)
     auto& line = Find<QToolButton>(main, "cmdFindings");
     line.click();
     auto& list = Find<QListView>(main, "lstFindings");
-    list.setCurrentIndex(list.model()->index(0, 0));
+    for (int row = 0; row < list.model()->rowCount() && !Find<QPushButton>(main, "cmdRemedy1").isVisible(); ++row) {
+        list.setCurrentIndex(list.model()->index(row, 0)); // one that something can be done about
+    }
     photographer.TakeSizes(main, "timecards-findings");
     const QSize first = main.size();
     main.resize(1, 1);
@@ -185,6 +193,46 @@ void TakeFindings(FController& main, const Photographer& photographer)
     photographer.Take(main, "timecards-findings-scrolled");
     main.resize(first);
     line.click();
+}
+
+// Of somebody whose period was paid and who got an hour more afterwards: the card, the editor asking why, and the question before a
+// deletion.
+void TakePaid(GuiProgram& program, const Photographer& photographer)
+{
+    FController& main = program.Main();
+    const auto generate = [&] {
+        auto& employees = Find<QComboBox>(main, "cboTCEmployeeName");
+        employees.setCurrentIndex(employees.findText(kCareful));
+        emit employees.activated(employees.currentIndex());
+        Find<QPushButton>(main, "cmdGenTimeRecs").click();
+    };
+    const auto database = program.Controller()->PTKDatabase();
+    const auto id = program.Controller()->EmployeeList()->GetEmployeeByName(kCareful)->EmployeeID();
+    generate();
+    const auto day = [&](const char* box) { return ToDateTime(Find<DateCombo>(main, box).Text().toStdString()); };
+    if (ClosePayday(database, {{day("dttbTCFrom"), day("dttbTCTo")}, {id}, program.clock.Now()}).empty()) {
+        throw std::runtime_error("not paid");
+    }
+    generate();
+    photographer.TakeSizes(main, "timecards-paid");
+    Find<QTableView>(main, "grdTimeRecs").selectRow(0);
+    main.EventSource(eventsource::TimeRecordGrid);
+    const ModalScript script([&](QDialog& window) {
+        Find<QLineEdit>(window, "dttbEndTime").setText("18:00");
+        Find<QPushButton>(window, "cmdSave").click();
+        photographer.Take(window, "time-editor-paid");
+        Find<QComboBox>(window, "cboReason").setEditText("stayed for the delivery");
+        Find<QPushButton>(window, "cmdSave").click();
+    });
+    Find<QPushButton>(main, "cmdTCEdit").click();
+    Find<QToolButton>(main, "cmdFindings").click();
+    Find<QListView>(main, "lstFindings").setCurrentIndex(Find<QListView>(main, "lstFindings").model()->index(0, 0));
+    photographer.TakeSizes(main, "timecards-changed");
+    Find<QToolButton>(main, "cmdFindings").click();
+    const ModalScript asked([&](QDialog& window) { photographer.Take(window, "delete-paid"); });
+    ReasonLine line{{"stayed for the delivery"}, true, {}};
+    QtDesktop().AskWithReason("Deleting will remove this time record from the database permanently. Continue?", "Delete Time Record?",
+                              Icon::Question, Buttons::YesNo, line);
 }
 
 QWidget& TopLevel(const char* name)
@@ -415,6 +463,7 @@ void TakeAll(const QString& folder, const QString& theme)
     TakeImport(program, photographer);
     TakeImportEmployees(program, photographer);
     TakeFindings(main, photographer);
+    TakePaid(program, photographer);
     TakeOverview(main, photographer);
     TakeViewers(program, photographer);
     TakeHistory(program, photographer);
