@@ -83,7 +83,7 @@ void FAutoFill::Announce(const std::string& owner, std::optional<DayNumbers> tak
 
 void FAutoFill::TellPaid(const Closing& closing)
 {
-    m_ui->lblOwner->Say(m_ui->lblOwner->text() + "\n" + QString::fromStdString(PaidText(closing) + ": " + PaidFigures(closing)));
+    m_ui->lblOwner->Say(m_ui->lblOwner->text() + "\n" + QString::fromStdString(PaidText(closing)));
 }
 
 void FAutoFill::OfferReasons(const ReasonLine& line)

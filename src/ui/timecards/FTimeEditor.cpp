@@ -87,7 +87,7 @@ void FTimeEditor::Owner(const std::string& text)
 
 void FTimeEditor::TellPaid(const Closing& closing)
 {
-    m_ui->lblOwner->Say(m_ui->lblOwner->text() + "\n" + QString::fromStdString(PaidText(closing) + ": " + PaidFigures(closing)));
+    m_ui->lblOwner->Say(m_ui->lblOwner->text() + "\n" + QString::fromStdString(PaidText(closing)));
 }
 
 void FTimeEditor::OfferReasons(const ReasonLine& line)
