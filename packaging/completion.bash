@@ -1,6 +1,6 @@
 # bash completion for ptk-console and ptk-admin
 _ptk_console() {
-    local commands="create-database time-card overview payday report history backup backups restore import import-punches import-employees person kept copy-database check"
+    local commands="create-database time-card overview payday report profiles history backup backups restore import import-punches import-employees person kept copy-database check"
     local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} command= i
     for ((i = 1; i < COMP_CWORD; i++)); do
         case ${COMP_WORDS[i]} in
@@ -21,6 +21,7 @@ _ptk_console() {
             ;;
         -o | --output) mapfile -t COMPREPLY < <(compgen -f -- "$word"); return ;;
         --code-page) mapfile -t COMPREPLY < <(compgen -W "437 850 852 1250 1251 1252 1253 1254 1257" -- "$word"); return ;;
+        --profile) mapfile -t COMPREPLY < <(compgen -W "plain kinds semicolons" -- "$word"); return ;;
         --employee | --today | --columns | --change | --number | --years) return ;;
     esac
     local words
@@ -31,7 +32,7 @@ _ptk_console() {
         overview) words="--employee --all --remedies --from --to --format --help" ;;
         history) words="--employee --from --to --format --help" ;;
         payday) words="close reopen account --employee --from --to --format --output --help" ;;
-        report) words="timecard review ytd employees phonebook --employee --from --to --format --output --help" ;;
+        report) words="timecard review ytd employees phonebook --employee --from --to --format --profile --output --help" ;;
         backup) words="--to --help" ;;
         copy-database) words="--to --from --help" ;;
         restore) mapfile -t COMPREPLY < <(compgen -f -- "$word"); return ;;

@@ -19,13 +19,13 @@ BEGIN
 
     -- The office reads and writes all rows, but not the trail's, and has no right on what the tables are.
     EXECUTE pg_catalog.format('GRANT USAGE ON SCHEMA %I TO ptk_office, ptk_reader', current_schema);
-    GRANT SELECT ON Company, Employee, TimeRecord, _System, _CheckLimits, _StoredQuery, _Structure, _Payday, _Change TO ptk_office, ptk_reader;
-    GRANT INSERT, UPDATE, DELETE ON Company, Employee, TimeRecord, _System, _CheckLimits, _Payday TO ptk_office;
+    GRANT SELECT ON Company, Employee, TimeRecord, _System, _CheckLimits, _StoredQuery, _Structure, _Payday, _Profile, _Change TO ptk_office, ptk_reader;
+    GRANT INSERT, UPDATE, DELETE ON Company, Employee, TimeRecord, _System, _CheckLimits, _Payday, _Profile TO ptk_office;
     GRANT USAGE ON SEQUENCE _change_changeid_seq TO ptk_office;
-    GRANT UPDATE ON SEQUENCE company_companyid_seq, employee_employeeid_seq, timerecord_timerecordid_seq, _payday_paydayid_seq
+    GRANT UPDATE ON SEQUENCE company_companyid_seq, employee_employeeid_seq, timerecord_timerecordid_seq, _payday_paydayid_seq, _profile_profileid_seq
         TO ptk_office; -- for rows with their numbers
-    GRANT SELECT ON SEQUENCE company_companyid_seq, employee_employeeid_seq, timerecord_timerecordid_seq, _payday_paydayid_seq, _change_changeid_seq
-        TO ptk_office, ptk_reader; -- a copy's numbers go on behind them
+    GRANT SELECT ON SEQUENCE company_companyid_seq, employee_employeeid_seq, timerecord_timerecordid_seq, _payday_paydayid_seq,
+        _profile_profileid_seq, _change_changeid_seq TO ptk_office, ptk_reader; -- a copy's numbers go on behind them
     GRANT EXECUTE ON FUNCTION ptk_add_entry(text, text) TO ptk_office;
 END
 $$;

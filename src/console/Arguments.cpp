@@ -67,6 +67,7 @@ struct Words
     bool acceptDamaged = false;
     bool partly = false;
     std::string columns;
+    std::string profile;
     int codePage = 0;
     std::vector<std::string> employees;
 };
@@ -91,7 +92,7 @@ private:
     void TakesDay(CLI::Option* option) const;
     void TakesPeriod(CLI::App& command);
     CLI::Option* TakesEmployees(CLI::App& command, const char* about);
-    void TakesReportForm(CLI::App& command);
+    CLI::Option* TakesReportForm(CLI::App& command);
     void CheckReport() const;
     std::variant<Arguments, UsageAnswer> Answer(const CLI::ParseError& error) const;
     Arguments Result() const;
@@ -110,6 +111,7 @@ private:
     CLI::App* m_createDatabase = nullptr;
     CLI::App* m_timeCard = nullptr;
     CLI::App* m_report = nullptr;
+    CLI::App* m_profiles = nullptr;
     CLI::App* m_overview = nullptr;
     CLI::App* m_payday = nullptr;
     CLI::App* m_close = nullptr;
@@ -178,12 +180,15 @@ void Grammar::DescribeReport()
         TakesEmployees(command, "An employee's name, may be repeated; else all that the Reports page lists");
         TakesDay(command.add_option("--from", m_words.from, "First day; else as the Reports page offers"));
         TakesDay(command.add_option("--to", m_words.to, "Last day; else as the Reports page offers"));
-        TakesReportForm(command);
+        command.add_option("--profile", m_words.profile, "Of a review: only the accountant's table, as the profile of this name wants it")
+            ->type_name("NAME")
+            ->excludes(TakesReportForm(command));
         command
             .add_option("-o,--output", m_words.output,
                         "Into this file instead of printing it; all reports into one, and each into the reports folder as well")
             ->type_name("FILE");
     });
+    m_profiles = m_app.add_subcommand("profiles", "List the profiles of the accountant's table");
 }
 
 void Grammar::DescribeOverview()
@@ -295,9 +300,11 @@ CLI::Option* Grammar::TakesEmployees(CLI::App& command, const char* about)
     return command.add_option("--employee", m_words.employees, about)->type_name("NAME")->allow_extra_args(false);
 }
 
-void Grammar::TakesReportForm(CLI::App& command)
+CLI::Option* Grammar::TakesReportForm(CLI::App& command)
 {
-    command.add_option("--format", m_words.format, "How: text, csv, json or pdf")->type_name("FORMAT")->check(CLI::IsMember(ReportForms()));
+    return command.add_option("--format", m_words.format, "How: text, csv, json or pdf")
+        ->type_name("FORMAT")
+        ->check(CLI::IsMember(ReportForms()));
 }
 
 void Grammar::TakesDay(CLI::Option* option) const
@@ -313,6 +320,9 @@ void Grammar::CheckReport() const
     const bool dates = m_report->count("--from") + m_report->count("--to") > 0;
     if (dates && entry.dates == ReportDates::None) {
         throw CLI::ValidationError("report " + m_words.report, "takes no dates");
+    }
+    if (m_report->count("--profile") > 0 && entry.kind != ReportKind::Review) {
+        throw CLI::ValidationError("report " + m_words.report, "has no profiles");
     }
     if (!m_words.employees.empty() && entry.whom == ReportWhom::Everyone) {
         throw CLI::ValidationError("report " + m_words.report, "takes no employees");
@@ -357,6 +367,9 @@ Arguments Grammar::Result() const
     if (m_report->parsed()) {
         return {m_words.programFolder, ReportResult()};
     }
+    if (m_profiles->parsed()) {
+        return {m_words.programFolder, ProfilesArguments{}};
+    }
     if (m_overview->parsed()) {
         return {m_words.programFolder,
                 OverviewArguments{m_words.employees, Day(m_words.from), Day(m_words.to), m_words.format, m_words.all, m_words.remedies}};
@@ -379,7 +392,8 @@ Command Grammar::ReportResult() const
                            Day(m_words.from),
                            Day(m_words.to),
                            ReportForms().at(m_words.format),
-                           m_report->count("--output") > 0 ? std::optional(m_words.output) : std::nullopt};
+                           m_report->count("--output") > 0 ? std::optional(m_words.output) : std::nullopt,
+                           m_report->count("--profile") > 0 ? std::optional(m_words.profile) : std::nullopt};
 }
 
 Command Grammar::PaydayResult() const

@@ -36,7 +36,12 @@ struct ReportArguments
     std::optional<DateTime> from;
     std::optional<DateTime> to;
     ReportForm form = ReportForm::Text;
-    std::optional<std::string> output; // a file; none: the standard output
+    std::optional<std::string> output;  // a file; none: the standard output
+    std::optional<std::string> profile; // of the accountant's table, of a review alone; none: the report in its form
+};
+
+struct ProfilesArguments
+{
 };
 
 struct OverviewArguments
@@ -135,9 +140,10 @@ struct CheckArguments
 {
 };
 
-using Command = std::variant<CreateDatabaseArguments, TimeCardArguments, ReportArguments, OverviewArguments, PaydayArguments,
-                             HistoryArguments, BackupArguments, RestoreArguments, BackupsArguments, ImportArguments, ImportPunchesArguments,
-                             ImportEmployeesArguments, PersonArguments, KeptArguments, CopyDatabaseArguments, CheckArguments>;
+using Command =
+    std::variant<CreateDatabaseArguments, TimeCardArguments, ReportArguments, ProfilesArguments, OverviewArguments, PaydayArguments,
+                 HistoryArguments, BackupArguments, RestoreArguments, BackupsArguments, ImportArguments, ImportPunchesArguments,
+                 ImportEmployeesArguments, PersonArguments, KeptArguments, CopyDatabaseArguments, CheckArguments>;
 
 struct Arguments
 {

@@ -17,6 +17,7 @@ struct KeptArguments;
 struct OverviewArguments;
 struct PaydayArguments;
 struct PersonArguments;
+struct ProfilesArguments;
 struct ReportArguments;
 struct RestoreArguments;
 struct TimeCardArguments;
@@ -24,6 +25,11 @@ struct TimeCardArguments;
 [[nodiscard]] int CreateDatabaseCommand(const CreateDatabaseArguments& arguments, Console& console);
 [[nodiscard]] int TimeCardCommand(const TimeCardArguments& arguments, Console& console);
 [[nodiscard]] int ReportCommand(const ReportArguments& arguments, Console& console);
+
+// The report's figures as the table of its profile.
+[[nodiscard]] int ReportByProfile(const ReportArguments& arguments, Console& console);
+
+[[nodiscard]] int ProfilesCommand(const ProfilesArguments& arguments, Console& console);
 [[nodiscard]] int OverviewCommand(const OverviewArguments& arguments, Console& console);
 [[nodiscard]] int PaydayCommand(const PaydayArguments& arguments, Console& console);
 [[nodiscard]] int HistoryCommand(const HistoryArguments& arguments, Console& console);

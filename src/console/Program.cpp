@@ -18,6 +18,7 @@ struct Dispatch
     int operator()(const CreateDatabaseArguments& arguments) const { return CreateDatabaseCommand(arguments, console); }
     int operator()(const TimeCardArguments& arguments) const { return TimeCardCommand(arguments, console); }
     int operator()(const ReportArguments& arguments) const { return ReportCommand(arguments, console); }
+    int operator()(const ProfilesArguments& arguments) const { return ProfilesCommand(arguments, console); }
     int operator()(const OverviewArguments& arguments) const { return OverviewCommand(arguments, console); }
     int operator()(const PaydayArguments& arguments) const { return PaydayCommand(arguments, console); }
     int operator()(const HistoryArguments& arguments) const { return HistoryCommand(arguments, console); }

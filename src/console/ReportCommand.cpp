@@ -60,11 +60,7 @@ ReportWriter::ReportWriter(const ReportArguments& arguments, Console& console)
         m_viewers.KeepReports();
     }
     m_session.LoadEmployees();
-    for (const std::string& name : arguments.employees) {
-        if (m_session.Employees()->GetEmployeeByName(name) == nullptr) {
-            throw ProgramFailure(report::NoEmployee, name);
-        }
-    }
+    m_session.RequireEmployees(arguments.employees);
 }
 
 ReportOrder ReportWriter::Order()
@@ -163,7 +159,7 @@ int ReportCommand(const ReportArguments& arguments, Console& console)
     if (arguments.output && arguments.output->empty()) {
         return RefuseUsage(console.err, kNoName);
     }
-    return ReportWriter(arguments, console).Write();
+    return arguments.profile ? ReportByProfile(arguments, console) : ReportWriter(arguments, console).Write();
 }
 
 } // namespace ptk

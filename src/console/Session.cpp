@@ -44,6 +44,15 @@ void Session::LoadEmployees()
     RequireLoaded(m_employees->LoadList(m_database));
 }
 
+void Session::RequireEmployees(const std::vector<std::string>& names) const
+{
+    for (const std::string& name : names) {
+        if (m_employees->GetEmployeeByName(name) == nullptr) {
+            throw ProgramFailure(report::NoEmployee, name);
+        }
+    }
+}
+
 std::shared_ptr<CEmployee> Session::EmployeeNamed(const std::string& name)
 {
     CEmployeeList namesakes;

@@ -8,6 +8,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace ptk {
 
@@ -36,6 +37,9 @@ public:
 
     // Each raises the failure of what could not be read.
     void LoadEmployees();
+
+    // Raises 602 with the first of these display names that none of those loaded has.
+    void RequireEmployees(const std::vector<std::string>& names) const;
 
     // Of all there are, the first of this display name, or nullptr.
     std::shared_ptr<CEmployee> EmployeeNamed(const std::string& name);

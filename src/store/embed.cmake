@@ -1,5 +1,5 @@
 # Puts the SQL of data/ into the library ptk_store: PTK_SQL_<name> for each file.
-set(sql_files schema stored_queries trail trail_entry payday postgres/schema postgres/stored_queries postgres/trail_functions postgres/trail
+set(sql_files schema stored_queries trail trail_entry payday profile postgres/schema postgres/stored_queries postgres/trail_functions postgres/trail
   postgres/structure_3 postgres/roles)
 foreach(name ${sql_files})
   set(file ${CMAKE_SOURCE_DIR}/data/${name}.sql)

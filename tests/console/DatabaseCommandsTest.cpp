@@ -46,7 +46,8 @@ TEST_F(DatabaseCommandsTest, CopiesIntoANewDatabaseAlone)
     EXPECT_EQ(copied.out,
               "from: " + Database().string() + "\nto: " + copy +
                   "\nCompany: 0 rows, 0 copied\nEmployee: 1 rows, 1 copied\nTimeRecord: 0 rows, 0 copied\n"
-                  "_System: 1 rows, 1 copied\n_CheckLimits: 1 rows, 1 copied\n_Payday: 0 rows, 0 copied\n_Change: 0 rows, 0 copied\n");
+                  "_System: 1 rows, 1 copied\n_CheckLimits: 1 rows, 1 copied\n_Payday: 0 rows, 0 copied\n_Profile: 0 rows, 0 copied\n"
+                  "_Change: 0 rows, 0 copied\n");
     const Answer again = Run({"copy-database", "--from", copy, "--to", Database().string()});
     EXPECT_EQ(again.status, 1);
     EXPECT_TRUE(again.err.starts_with("ptk-console: 75: ")) << again.err;

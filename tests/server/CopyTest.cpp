@@ -96,6 +96,7 @@ constexpr const char* kHardValues = R"(
     INSERT INTO TimeRecord (EmployeeID, StartTime, EndTime) VALUES (50, '2003-03-05 08:00:00', '1899-12-30 00:00:00'), (NULL, NULL, NULL);
     INSERT INTO TimeRecord (TimeRecordID) VALUES (4711);
     DELETE FROM TimeRecord WHERE TimeRecordID = 4711;
+    INSERT INTO _Profile (Name, Definition) VALUES ('Böhm', 'column=Pay' || char(9) || 'Lohn' || char(10)), (NULL, NULL);
     UPDATE _CheckLimits SET long_shift_hours = 12;)";
 
 TEST_F(CopyTest, ComesBackFromAServerAsItWas)

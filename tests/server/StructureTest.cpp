@@ -123,7 +123,7 @@ TEST_F(StructureTest, KeepsAStepTogether)
 constexpr const char* kBackToTwo = R"(
     DROP FUNCTION ptk_next, ptk_said;
     DROP INDEX TimeRecordUnusual;
-    DROP TABLE _Payday;
+    DROP TABLE _Payday, _Profile;
     ALTER TABLE _Change DROP COLUMN Reason;
     GRANT CREATE ON SCHEMA public TO PUBLIC;
     UPDATE _Structure SET version = 2)";
@@ -189,6 +189,7 @@ TEST_F(StructureTest, LetsTheRolesDoTheirsAndNoMore)
                               "INSERT INTO TimeRecord (EmployeeID) VALUES (40)", "DELETE FROM TimeRecord",
                               "INSERT INTO Company (Name) VALUES ('a')", "UPDATE Company SET Name = 'b'", "DELETE FROM Company",
                               "UPDATE _System SET period_length = 7", "UPDATE _CheckLimits SET show_notices = false",
+                              "INSERT INTO _Profile (Name) VALUES ('a')", "DELETE FROM _Profile",
                               "SELECT nextval('_change_changeid_seq')", "SELECT ptk_add_entry('restore', 'x')"}) {
         EXPECT_EQ(Refusal(ann, write), "") << write;
         EXPECT_THAT(Refusal(bob, write), HasSubstr("permission denied")) << write;

@@ -5,7 +5,7 @@ namespace ptk {
 
 // The one with a trail and without reasons, what was paid, and a number of its structure. It wrote the trail's columns without naming them.
 inline constexpr const char* kMakeFirstStructure =
-    "DROP TABLE _Payday; DROP TABLE _Structure; DROP TRIGGER _EditWritten; ALTER TABLE _Session DROP COLUMN reason;"
+    "DROP TABLE _Payday; DROP TABLE _Profile; DROP TABLE _Structure; DROP TRIGGER _EditWritten; ALTER TABLE _Session DROP COLUMN reason;"
     "ALTER TABLE _Change DROP COLUMN Reason;"
     R"sql(CREATE TRIGGER _EditWritten INSTEAD OF INSERT ON _Edit BEGIN
     INSERT INTO _Change SELECT NULL, datetime('now', 'localtime'),
@@ -31,7 +31,7 @@ END)sql";
 
 // The one before the trail and the check's limits.
 inline constexpr const char* kMakeWithoutTrail =
-    "DROP TABLE _Payday; DROP TABLE _Structure;"
+    "DROP TABLE _Payday; DROP TABLE _Profile; DROP TABLE _Structure;"
     "DROP TRIGGER _TimeRecordInsert; DROP TRIGGER _TimeRecordUpdate; DROP TRIGGER _TimeRecordDelete;"
     "DROP TRIGGER _EmployeeInsert; DROP TRIGGER _EmployeeUpdate; DROP TRIGGER _EmployeeDelete;"
     "DROP TRIGGER _CompanyInsert; DROP TRIGGER _CompanyUpdate; DROP TRIGGER _CompanyDelete;"

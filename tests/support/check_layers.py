@@ -23,11 +23,11 @@ FLOORS = {
     "store": [["engine"], ["sqlite", "postgres", "rows"], ["whole"], ["backup"], [""], ["trail", "import"]],
     "model": [[""], ["payday"], ["check"], ["remedy"]],
     "reports": [["forms"], [""]],
-    "office": [["card", "import", "reports", "sheet"], ["history", "safety"], ["overview"], ["payday", "records", "business", "person"]],
+    "office": [["card", "import", "reports", "sheet"], ["history", "safety"], ["overview"], ["payday", "records", "business", "person", "profile"]],
     "jetreader": [[""]],
     "startup": [[""]],
     "console": [[""], ["main"]],
-    "ui": [["widgets"], ["page"], ["login", "reports", "payday", "mend"], ["timecards", "people", "overview", "history", "safety", "sheet"], ["frame"]],
+    "ui": [["widgets"], ["page"], ["login", "payday", "mend", "profile"], ["reports"], ["timecards", "people", "overview", "history", "safety", "sheet"], ["frame"]],
     "pages": [[""]],
     "app": [[""]],
 }

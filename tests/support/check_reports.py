@@ -1,4 +1,5 @@
-"""check_reports.py PTK_CONSOLE SOURCES: the reports as JSON keep to docs/report.schema.json and are the same as CSV and as the files that -o names."""
+"""check_reports.py PTK_CONSOLE SOURCES: the reports as JSON keep to docs/report.schema.json and are the same as CSV and as the files that -o names;
+the accountant's tables add up to the review."""
 import csv
 import io
 import json
@@ -9,6 +10,7 @@ import shutil
 import subprocess
 import sys
 import tempfile
+from decimal import Decimal
 
 from check_overview import faults
 
@@ -26,6 +28,31 @@ def member(column):
 
 def shown(value):
     return "" if value is None else str(value).lower() if isinstance(value, (bool, int)) else value
+
+
+def hundredths(text):
+    """Of a figure, or of hours and minutes; nothing counts 0."""
+    if ":" in text:
+        hours, minutes = text.split(":")
+        return Decimal(hours) * 60 + Decimal(minutes)
+    return Decimal(text.replace(",", ".") or 0)
+
+
+def profile_faults(run):
+    """What the accountant's tables add up to, against the review."""
+    review = list(csv.DictReader(io.StringIO(run("--format", "csv").decode("utf-8-sig"), newline="")))
+    wanted = {column: sum(hundredths(row[column]) for row in review) for column in ("Regular Hours", "Overtime Hours", "Break Hours", "Gross Pay")}
+    for profile, separator in (("plain", ","), ("semicolons", ";")):
+        rows = list(csv.DictReader(io.StringIO(run("--profile", profile).decode("utf-8-sig"), newline=""), delimiter=separator))
+        yield from (f"{profile}: {column} is not the review's" for column in wanted if sum(hundredths(row[column]) for row in rows) != wanted[column])
+        if sum(hundredths(row["Regular Pay"]) + hundredths(row["Overtime Pay"]) for row in rows) != wanted["Gross Pay"]:
+            yield f"{profile}: the pay is not the review's"
+    rows = list(csv.DictReader(io.StringIO(run("--profile", "kinds").decode(), newline="")))
+    for kind in ("Regular", "Overtime"):
+        if sum(hundredths(row["Hours"]) for row in rows if row["Kind"] == kind) != wanted[kind + " Hours"]:
+            yield f"kinds: the {kind} hours are not the review's"
+    if sum(hundredths(row["Pay"]) for row in rows) != wanted["Gross Pay"] or len(rows) != 2 * len(review):
+        yield "kinds: the pay is not the review's"
 
 
 def on_a_terminal(command):
@@ -73,6 +100,8 @@ def main(console, sources):
                 found.append(f"{kind}: holds what it should not, or nothing")
             if not run("--format", "pdf").startswith(b"%PDF-"):
                 found.append(f"{kind}: no PDF file")
+            if kind == "review":
+                found += profile_faults(run)
         status, text = on_a_terminal([*program, "report", "phonebook", "--format", "csv"])
         if status != 0 or not text.startswith(b"Last Name,"):
             found.append(f"a terminal shows {text[:20]}")

@@ -9,6 +9,7 @@
 #include <iconv.h>
 #include <iterator>
 #include <memory>
+#include <optional>
 
 namespace ptk {
 
@@ -16,6 +17,23 @@ namespace {
 
 constexpr int kCodePages[] = {437, 850, 852, 855, 857, 866, 874, 932, 936, 949, 950, 1250, 1251, 1252, 1253, 1254, 1255, 1256, 1257, 1258};
 constexpr std::string_view kUnknown = "\xEF\xBF\xBD"; // U+FFFD
+
+// What the bytes 0x80 to 0x9F mean in the code page 1252; five mean nothing. Below and above them each byte is the character of its number.
+constexpr char32_t kWestern[] = {0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+                                 0x2039, 0x0152, 0,      0x017D, 0,      0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+                                 0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178};
+constexpr char32_t kFirstOfWestern = 0x80;
+constexpr char32_t kBehindWestern = 0xA0;
+constexpr char32_t kBehindBytes = 0x100;
+
+std::optional<char32_t> WesternByte(char32_t character)
+{
+    if (character < kFirstOfWestern || (character >= kBehindWestern && character < kBehindBytes)) {
+        return character;
+    }
+    const auto* found = std::find(std::begin(kWestern), std::end(kWestern), character);
+    return found == std::end(kWestern) ? std::nullopt : std::optional(kFirstOfWestern + static_cast<char32_t>(found - kWestern));
+}
 
 struct CloseConverter
 {
@@ -68,6 +86,17 @@ std::string FromCodePage(std::string_view text, int codePage)
     }
     static_cast<void>(ConvertSome(converter.get(), in, left, converted));
     return converted;
+}
+
+WesternText ToWestern(std::string_view text)
+{
+    WesternText western;
+    while (!text.empty()) {
+        const auto byte = WesternByte(TakeCharacter(text));
+        western.lost += byte ? 0 : 1;
+        western.bytes += static_cast<char>(byte.value_or('?'));
+    }
+    return western;
 }
 
 bool IsUtf8(std::string_view text)

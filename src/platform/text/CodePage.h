@@ -1,6 +1,7 @@
 // Texts of older programs, in the code pages that Windows knows by numbers.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -13,6 +14,15 @@ inline constexpr int kWesternCodePage = 1252;
 
 // A byte that means nothing in the code page becomes U+FFFD. Raises 5 for a code page that is not known to this system.
 [[nodiscard]] std::string FromCodePage(std::string_view text, int codePage);
+
+struct WesternText
+{
+    std::string bytes;
+    std::size_t lost = 0; // characters that the code page lacks, each of them a question mark
+};
+
+// UTF-8 in the code page 1252; a byte that is no UTF-8 is lost, too.
+[[nodiscard]] WesternText ToWestern(std::string_view text);
 
 // Whether all of it is well-formed UTF-8.
 [[nodiscard]] bool IsUtf8(std::string_view text);

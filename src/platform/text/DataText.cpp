@@ -82,16 +82,22 @@ std::string_view WithoutFormulaMark(std::string_view text)
     return text.starts_with('\'') && BeginsFormula(text.substr(1)) ? text.substr(1) : text;
 }
 
-std::string CsvText(std::string_view text)
+std::string CsvField(std::string_view text, char separator)
 {
     std::string field;
-    ForEachCharacter(NoFormula(text), [&](std::string_view character) {
+    ForEachCharacter(text, [&](std::string_view character) {
         if (character == "\"") {
             field += '"';
         }
         field += character;
     });
-    return field.find_first_of("\",\r\n") == std::string::npos ? field : '"' + field + '"';
+    const char special[] = {separator, '"', '\r', '\n'};
+    return field.find_first_of(special, 0, sizeof special) == std::string::npos ? field : '"' + field + '"';
+}
+
+std::string CsvText(std::string_view text)
+{
+    return CsvField(NoFormula(text), ',');
 }
 
 } // namespace ptk

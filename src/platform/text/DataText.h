@@ -21,6 +21,9 @@ namespace ptk {
 // The text without the apostrophe that NoFormula gave it.
 [[nodiscard]] std::string_view WithoutFormulaMark(std::string_view text);
 
+// A field of a file whose fields stand between such separators, in quotes where it needs them.
+[[nodiscard]] std::string CsvField(std::string_view text, char separator);
+
 // What NoFormula answers, as a field of an RFC 4180 file, in quotes where it needs them.
 [[nodiscard]] std::string CsvText(std::string_view text);
 

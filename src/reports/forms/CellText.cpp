@@ -43,13 +43,19 @@ std::string CellText(CellType type, const Value& cell)
     return cell.ToText();
 }
 
+std::int64_t WholeMinutes(float hours)
+{
+    return std::llround(static_cast<double>(hours) * 60);
+}
+
+std::string MinutesText(std::int64_t minutes)
+{
+    return fmt::format("{}{}:{:02}", minutes < 0 ? "-" : "", std::llabs(minutes) / 60, std::llabs(minutes) % 60);
+}
+
 std::string ClockText(const Value& hours)
 {
-    if (hours.IsNull()) {
-        return "";
-    }
-    const long long minutes = std::llround(static_cast<double>(hours.ToSingle()) * 60);
-    return fmt::format("{}{}:{:02}", minutes < 0 ? "-" : "", std::llabs(minutes) / 60, std::llabs(minutes) % 60);
+    return hours.IsNull() ? "" : MinutesText(WholeMinutes(hours.ToSingle()));
 }
 
 } // namespace ptk

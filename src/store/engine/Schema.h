@@ -8,6 +8,7 @@ extern const char* const kStoredQueriesSql; // the rows of _StoredQuery
 extern const char* const kTrailSql;         // the edit trail: tables, indexes, triggers, to be run before the next two
 extern const char* const kTrailEntrySql;    // what writes its entries; may be run again over an older version
 extern const char* const kPaydaySql;        // what was paid, and the structure's number; may be run again, too
+extern const char* const kProfileSql;       // the table of profiles, where it is missing
 
 // The same for a server, to be run in this order.
 extern const char* const kServerSchemaSql;

@@ -71,9 +71,15 @@ constexpr StoredColumn kPayday[] = {
     {"PaidBy", Text},      {"Regular", Text},       {"Overtime", Text}, {"Gross", Text}, {"Entry", Long},
 };
 
+constexpr StoredColumn kProfile[] = {
+    {"ProfileID", Integer},
+    {"Name", Text},
+    {"Definition", Text},
+};
+
 constexpr StoredTable kTables[] = {
     {"Company", kCompany, true},           {"Employee", kEmployee, true}, {"TimeRecord", kTimeRecord, true}, {"_System", kSystem, false},
-    {"_CheckLimits", kCheckLimits, false}, {"_Payday", kPayday, true},    {"_Change", kChange, true},
+    {"_CheckLimits", kCheckLimits, false}, {"_Payday", kPayday, true},    {"_Profile", kProfile, true},      {"_Change", kChange, true},
 };
 
 } // namespace

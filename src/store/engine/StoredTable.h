@@ -1,4 +1,4 @@
-// The tables of a database that hold people's data and its trail, column by column.
+// The tables of a database that hold people's data, how it is handed on, and its trail, column by column.
 #pragma once
 
 #include <cstdint>

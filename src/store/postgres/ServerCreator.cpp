@@ -15,7 +15,7 @@ namespace {
 constexpr const char* kEncoding = "SELECT current_setting('server_encoding')";
 constexpr const char* kTables =
     "SELECT COUNT(*) FROM pg_class JOIN pg_namespace ON pg_namespace.oid = relnamespace AND nspname = current_schema() WHERE relname IN "
-    "('company', 'employee', 'timerecord', '_system', '_checklimits', '_storedquery', '_change', '_structure', '_payday')";
+    "('company', 'employee', 'timerecord', '_system', '_checklimits', '_storedquery', '_change', '_structure', '_payday', '_profile')";
 constexpr const char* kAlone = "SELECT pg_try_advisory_xact_lock(CAST(8074110 AS bigint))"; // a number that makers of tables agreed upon
 constexpr const char* kRoles = "SELECT COUNT(*) FROM pg_roles WHERE rolname IN ('ptk_office', 'ptk_reader')";
 constexpr std::int32_t kRoleCount = 2;

@@ -117,6 +117,7 @@ void BringUpToDate(Engine& engine)
     }
     engine.RunScript(kTrailEntrySql);
     engine.RunScript(kPaydaySql);
+    engine.RunScript(kProfileSql);
     for (const char* table : kTables) {
         DropUnusableTriggers(engine, table);
     }

@@ -40,6 +40,7 @@ OwnRoutines ReadOwnRoutines()
     file.exec(kTrailSql);
     file.exec(kTrailEntrySql);
     file.exec(kPaydaySql);
+    file.exec(kProfileSql);
     OwnRoutines own;
     for (SQLite::Statement rows(file, kOwnRoutines); rows.executeStep();) {
         own.routines.push_back({rows.getColumn(0), rows.getColumn(1), rows.getColumn(2), rows.getColumn(3)});

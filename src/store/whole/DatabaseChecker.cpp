@@ -68,6 +68,12 @@ constexpr ExpectedColumns kStructureColumns[] = {
     {"_Payday", "TEXT", "PaidBy Regular Overtime Gross"},
 };
 
+// Of a table that a file has from its first profile on.
+constexpr ExpectedColumns kProfileColumns[] = {
+    {"_Profile", "INTEGER", "ProfileID"},
+    {"_Profile", "TEXT", "Name Definition"},
+};
+
 // Whatever a foreign view or a huge file takes: no file is slower to check than by this much.
 constexpr std::chrono::seconds kTime(30);
 constexpr std::int64_t kBytesOfSecond = 4 << 20;
@@ -120,6 +126,7 @@ private:
         CheckLimitsTable();
         CheckTrail();
         CheckStructure();
+        CheckProfiles();
         m_rows.TryActions();
         m_rows.CheckRows(m_incomplete);
     }
@@ -197,6 +204,15 @@ private:
         }
         if (!m_incomplete.contains("_Payday")) {
             m_rows.CheckClosings();
+        }
+    }
+
+    void CheckProfiles()
+    {
+        if (HasTable("_Profile")) {
+            for (const ExpectedColumns& columns : kProfileColumns) {
+                CheckColumns(columns);
+            }
         }
     }
 

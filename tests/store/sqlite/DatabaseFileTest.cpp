@@ -143,6 +143,7 @@ TEST_F(DatabaseFileTest, TheCheckFindsWhatIsWrong)
              Case{"ALTER TABLE _Change RENAME COLUMN Step TO Steps", "There is no column _Change.Step."},
              Case{"DELETE FROM _Session", "The table _Session has 0 rows, not 1."},
              Case{"DROP TRIGGER _PaydayInsert", "The edit trail misses changes of the table _Payday."},
+             Case{"ALTER TABLE _Profile RENAME COLUMN Name TO Names", "There is no column _Profile.Name."},
              Case{"DELETE FROM _Structure", "The table _Structure has 0 rows, not 1."},
              Case{"INSERT INTO _Payday (FromDay, ToDay) VALUES ('2003-03-05 00:00:00', '2003-03-04 00:00:00')",
                   "The days of _Payday 1 cannot be read or run backward: it counts for nothing."},
