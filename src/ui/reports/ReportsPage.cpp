@@ -15,6 +15,7 @@
 #include "startup/CController.h"
 #include "store/CSystemOptions.h"
 #include "ui/page/PageHost.h"
+#include "ui/profile/FAccountant.h"
 #include "ui/reports/OpenReports.h"
 #include "ui/reports/ReportPeople.h"
 #include "ui/widgets/ChosenOnly.h"
@@ -39,6 +40,11 @@ constexpr auto kStatusName = "Reports : ";
 
 constexpr auto kProgressTitle = "Generate Report";
 constexpr auto kProgressText = "Generating for {} employees...";
+
+constexpr auto kReviewTip = "The accountant's table is made for the days of an Accountants Review.";
+constexpr auto kAccountantTip = "The review as a table with the columns and signs that your accountant wants";
+constexpr auto kNoDays = "Choose a first and a last day.";
+constexpr auto kNobody = "Nobody is selected";
 
 constexpr auto kNothingMade = "No report was made";
 
@@ -93,6 +99,7 @@ ReportsPage::ReportsPage(PageHost& host, QWidget* parent) : QWidget(parent), m_h
     m_ui->cboFromDate->SetClock(host.Clock());
     m_ui->cboToDate->SetClock(host.Clock());
     m_ui->cmdGenerate->setEnabled(false);
+    SetUsable(*m_ui->cmdAccountant, false, kReviewTip);
     ConnectControls();
     ConnectPeriod();
     ConnectEmployees();
@@ -107,6 +114,7 @@ void ReportsPage::ConnectControls()
     connect(m_ui->cboReports, &QComboBox::currentIndexChanged, this, &ReportsPage::SelectReport);
     connect(m_ui->cboReports, &QComboBox::activated, this, &ReportsPage::SelectReport); // also the entry that was chosen before
     connect(m_ui->cmdGenerate, &QPushButton::clicked, this, &ReportsPage::Generate);
+    connect(m_ui->cmdAccountant, &QPushButton::clicked, this, &ReportsPage::SaveForAccountant);
 }
 
 // The buttons for dates and employees act when they are pressed: a click by key comes a tenth of a second after the key, and Enter, which
@@ -163,6 +171,7 @@ void ReportsPage::SelectReport()
     }
     OfferDates(entry->dates);
     OfferEmployees(entry->whom != ReportWhom::Everyone);
+    SetUsable(*m_ui->cmdAccountant, entry->kind == ReportKind::Review, kReviewTip, kAccountantTip);
     ShowPeriod();
 }
 
@@ -270,6 +279,28 @@ void ReportsPage::ShowOfferedNotice(const ReportEntry& entry)
 void ReportsPage::ShowStatus()
 {
     m_host.SetStatusText(kStatusName + m_reportName, (m_ui->cboFromDate->Text() + " - " + m_ui->cboToDate->Text()).toStdString());
+}
+
+void ReportsPage::SaveForAccountant()
+{
+    m_ui->notice->Clear();
+    const auto days = Days();
+    if (!days) {
+        return Say(kNoDays);
+    }
+    const QScopedValueRollback generating(m_generating, true);
+    Succeeds([&] { OpenAccountant(*days); }, [this](const Failure& reason) { Say(reason.Description()); });
+}
+
+void ReportsPage::OpenAccountant(const PayPeriod& days)
+{
+    const auto controller = Required(m_host.Controller());
+    AccountantOrder order{{controller->PTKDatabase(), {}, days, m_host.Clock().Now()}};
+    order.people.people = PeopleOfReview(*Required(controller->EmployeeList()), Names(ReportWhom::Together), order.notices);
+    if (order.people.people.empty()) {
+        return Say(kNobody);
+    }
+    FAccountant(this, m_host.Desktop(), std::move(order)).exec();
 }
 
 void ReportsPage::Generate()

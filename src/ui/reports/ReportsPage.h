@@ -60,6 +60,9 @@ private:
     void ShowOfferedNotice(const ReportEntry& entry);
     void ShowSelected();
 
+    void SaveForAccountant();
+    void OpenAccountant(const PayPeriod& days);
+
     void Generate();
     void Run(const ReportEntry& entry);
 

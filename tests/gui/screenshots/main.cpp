@@ -144,6 +144,22 @@ void TakePages(FController& main, const Photographer& photographer)
     Find<QTabBar>(main, "TabStrip").setCurrentIndex(0);
 }
 
+// The table for everybody, and a profile of one's own.
+void TakeAccountant(FController& main, const Photographer& photographer)
+{
+    Find<QTabBar>(main, "TabStrip").setCurrentIndex(1);
+    Find<QComboBox>(main, "cboReports").setCurrentText("Accountants Review");
+    Find<QPushButton>(main, "cmdSelectAll").click();
+    photographer.TakeSizes(main, "main-reports-review");
+    const ModalScript script([&](QDialog& window) {
+        photographer.TakeSizes(window, "accountant");
+        const ModalScript editor([&](QDialog& profile) { photographer.TakeSizes(profile, "profile"); });
+        Find<QPushButton>(window, "cmdNew").click();
+    });
+    Find<QPushButton>(main, "cmdAccountant").click();
+    Find<QTabBar>(main, "TabStrip").setCurrentIndex(0);
+}
+
 // Three of three days, the one in the middle damaged; checked first, then the list without any.
 void TakeRestore(GuiProgram& program, const Photographer& photographer)
 {
@@ -459,6 +475,7 @@ void TakeAll(const QString& folder, const QString& theme)
     TakeModal(main, "cmdFill", photographer, "auto-fill");
     TakeAbout(main, photographer);
     TakeShortcuts(main, photographer);
+    TakeAccountant(main, photographer);
     TakeRestore(program, photographer);
     TakeImport(program, photographer);
     TakeImportEmployees(program, photographer);

@@ -1,0 +1,49 @@
+#include "ui/profile/TablePreview.h"
+
+#include <QHeaderView>
+#include <QTableWidget>
+
+namespace ptk {
+
+namespace {
+
+constexpr int kPreviewRowSpace = 8; // pixels around the text of a row
+
+QStringList CellTexts(const TableLine& line)
+{
+    QStringList texts;
+    for (const std::string& cell : line) {
+        texts.append(QString::fromStdString(cell));
+    }
+    return texts;
+}
+
+} // namespace
+
+void ShowPreview(QTableWidget& grid, const Profile* profile, std::span<const PaidPerson> people)
+{
+    grid.clear();
+    grid.setRowCount(0);
+    grid.setColumnCount(0);
+    if (profile == nullptr) {
+        return;
+    }
+    std::vector<TableLine> lines = TableLines(*profile, people);
+    grid.setColumnCount(static_cast<int>(profile->cells.size()));
+    if (profile->heading == HeadingLine::Yes) {
+        grid.setHorizontalHeaderLabels(CellTexts(lines.front()));
+        lines.erase(lines.begin());
+    }
+    grid.verticalHeader()->setDefaultSectionSize(grid.fontMetrics().height() + kPreviewRowSpace);
+    grid.verticalHeader()->hide();
+    grid.setRowCount(static_cast<int>(lines.size()));
+    for (int row = 0; row < grid.rowCount(); ++row) {
+        const QStringList texts = CellTexts(lines.at(static_cast<std::size_t>(row)));
+        for (int column = 0; column < grid.columnCount(); ++column) {
+            grid.setItem(row, column, new QTableWidgetItem(texts.at(column)));
+        }
+    }
+    grid.resizeColumnsToContents();
+}
+
+} // namespace ptk
