@@ -64,12 +64,19 @@ protected:
             Click(editor, "cmdAdd");
         }
         Click(editor, "cmdUp");
-        columns.item(0, 1)->setText("Mandant");
+        QApplication::setActiveWindow(&editor);
+        columns.setCurrentCell(0, 1);
+        columns.setFocus();
+        QTest::keyClick(&columns, Qt::Key_F2);
+        QTest::keyClicks(QApplication::focusWidget(), "Client");
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        QCoreApplication::processEvents();
+        EXPECT_TRUE(editor.isVisible()) << "Enter ends the heading, not the window";
         columns.item(0, 2)->setText("4711");
         Pick(editor, "cboRows", "one a person and kind of hours");
         Pick(editor, "cboHours", "7:30");
         Pick(editor, "cboSeparator", "semicolon");
-        EXPECT_EQ(Shown(editor), "Mandant,Name,Hours|4711,'=Lee,8:00|4711,'=Lee,0:20|");
+        EXPECT_EQ(Shown(editor), "Client,Name,Hours|4711,'=Lee,8:00|4711,'=Lee,0:20|");
         Click(editor, "cmdSave");
     }
 
@@ -105,7 +112,7 @@ TEST_F(AccountantWindowTest, MakesAProfileAndWritesTheTableByIt)
             EXPECT_EQ(Find<QComboBox>(dialog, "cboProfile").currentText(), "Payroll");
             SaveTo(dialog, file);
             EXPECT_EQ(hint(), "Saved as " + file + ". The table is without Kim: there are no time records in this period.");
-            EXPECT_EQ(ReadBytes(file), "Mandant;Name;Hours\r\n4711;'=Lee;8:00\r\n4711;'=Lee;0:20\r\n");
+            EXPECT_EQ(ReadBytes(file), "Client;Name;Hours\r\n4711;'=Lee;8:00\r\n4711;'=Lee;0:20\r\n");
             program.desktop.answers = {Answer::Yes};
             Click(dialog, "cmdDelete");
             EXPECT_EQ(Find<QComboBox>(dialog, "cboProfile").count(), 3);

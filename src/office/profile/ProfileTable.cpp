@@ -99,6 +99,16 @@ bool NeedsOverview(const Profile& profile)
     });
 }
 
+bool IsFigure(const ProfileCell& cell, const PaidPerson& person)
+{
+    const ProfileColumn* column = FindProfileColumn(cell.column);
+    if (column == nullptr) {
+        return false;
+    }
+    const PayCell value = column->cell({person, HoursKind::Regular, ""});
+    return std::holds_alternative<PlainFigure>(value) || std::holds_alternative<PaidHours>(value);
+}
+
 std::vector<TableLine> TableLines(const Profile& profile, std::span<const PaidPerson> people)
 {
     std::vector<TableLine> lines;

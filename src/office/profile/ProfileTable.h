@@ -17,6 +17,9 @@ using TableLine = std::vector<std::string>;
 // Whether its columns need what the check of the cards says.
 [[nodiscard]] bool NeedsOverview(const Profile& profile);
 
+// Whether its column is one of figures.
+[[nodiscard]] bool IsFigure(const ProfileCell& cell, const PaidPerson& person);
+
 // The heading line first, where the profile wants one. REQUIRES: the profile has no fault; the people's overviews where it needs them.
 [[nodiscard]] std::vector<TableLine> TableLines(const Profile& profile, std::span<const PaidPerson> people);
 

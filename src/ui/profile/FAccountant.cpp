@@ -4,6 +4,7 @@
 #include "platform/Failure.h"
 #include "platform/Succeeds.h"
 #include "platform/system/Desktop.h"
+#include "reports/ReportCards.h"
 #include "ui/profile/FProfile.h"
 #include "ui/profile/TablePreview.h"
 #include "ui/widgets/SaveDialog.h"
@@ -52,6 +53,7 @@ FAccountant::FAccountant(QWidget* parent, ptk::Desktop& desktop, AccountantOrder
     setMinimumSize(kAccountantSmallest);
     resize(kAccountantSize);
     m_ui->lblHint->KeepRoom(kSaidLines);
+    setWindowTitle(windowTitle() + ": " + QString::fromStdString(TitleOfDays(first.period.from, first.period.to)));
     ConnectControls();
     Fill(QSettings().value(kChosenKey).toString().toStdString());
 }

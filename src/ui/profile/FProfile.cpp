@@ -22,7 +22,7 @@ constexpr auto kNotStored = "Not saved: %1.";
 constexpr auto kChooseColumn = "Choose a column of the table first.";
 
 constexpr QSize kProfileSize(900, 600);
-constexpr QSize kProfileSmallest(620, 420);
+constexpr QSize kProfileSmallest(620, 510);
 constexpr int kColumnRowSpace = 8; // pixels around the text of a row
 
 enum CellPart

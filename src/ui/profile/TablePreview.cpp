@@ -40,7 +40,10 @@ void ShowPreview(QTableWidget& grid, const Profile* profile, std::span<const Pai
     for (int row = 0; row < grid.rowCount(); ++row) {
         const QStringList texts = CellTexts(lines.at(static_cast<std::size_t>(row)));
         for (int column = 0; column < grid.columnCount(); ++column) {
-            grid.setItem(row, column, new QTableWidgetItem(texts.at(column)));
+            auto* item = new QTableWidgetItem(texts.at(column));
+            const bool figure = IsFigure(profile->cells.at(static_cast<std::size_t>(column)), people.front());
+            item->setTextAlignment((figure ? Qt::AlignTrailing : Qt::AlignLeading) | Qt::AlignVCenter);
+            grid.setItem(row, column, item);
         }
     }
     grid.resizeColumnsToContents();
