@@ -10,6 +10,7 @@
 #include <memory>
 #include <QObject>
 #include <QStringList>
+#include <string>
 #include <vector>
 
 class QWidget;
@@ -17,6 +18,7 @@ class QWidget;
 namespace ptk {
 
 class CEmployee;
+class CJetDB;
 class PageHost;
 class WorkProgress;
 

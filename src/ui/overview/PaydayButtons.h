@@ -9,6 +9,7 @@
 #include <QStringList>
 
 class QPushButton;
+class QWidget;
 
 namespace ptk {
 

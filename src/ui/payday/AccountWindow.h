@@ -4,9 +4,11 @@
 #include "model/PayPeriod.h"
 #include "office/payday/PaydayAccount.h"
 
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <QWidget>
+#include <string>
 
 namespace Ui {
 class AccountWindow;
