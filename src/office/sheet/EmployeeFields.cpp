@@ -15,6 +15,8 @@
 #include <algorithm>
 #include <cmath>
 #include <fmt/format.h>
+#include <functional>
+#include <map>
 
 namespace ptk {
 
@@ -133,19 +135,16 @@ std::span<const char* const> StoredEmployeeColumns()
 
 std::optional<EmployeeField> FindEmployeeField(std::string_view normalized)
 {
-    if (normalized == "number") {
-        return EmployeeField::Number;
-    }
-    if (normalized == "ssn") {
-        return EmployeeField::Ssn;
-    }
-    for (std::size_t i = 0; i < kEmployeeFieldCount; ++i) {
-        const auto field = static_cast<EmployeeField>(i);
-        if (NormalizedWord(HeadingOf(field)) == normalized) {
-            return field;
+    static const std::map<std::string, EmployeeField, std::less<>> fields = [] {
+        std::map<std::string, EmployeeField, std::less<>> all{{"number", EmployeeField::Number}, {"ssn", EmployeeField::Ssn}};
+        for (std::size_t i = 0; i < kEmployeeFieldCount; ++i) {
+            const auto field = static_cast<EmployeeField>(i);
+            all.emplace(NormalizedWord(HeadingOf(field)), field);
         }
-    }
-    return std::nullopt;
+        return all;
+    }();
+    const auto found = fields.find(normalized);
+    return found == fields.end() ? std::nullopt : std::optional(found->second);
 }
 
 std::optional<std::vector<EmployeeField>> ReadEmployeeFields(std::string_view text)

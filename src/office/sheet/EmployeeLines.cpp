@@ -26,6 +26,7 @@ constexpr const char* kAllEmployees =
     "SELECT EmployeeID, {}, 0 AS CompanyID, FALSE AS AutoDeduct, 0 AS AutoDeductLunchLength, 0 AS AutoDeductBreakLength, '' AS Password "
     "FROM Employee ORDER BY EmployeeID";
 constexpr std::int32_t kRowsAtATime = 256;
+constexpr std::size_t kMostLeftAside = 50;  // headings that are named
 constexpr std::int32_t kAdministrator = 39; // its EmployeeID
 
 constexpr auto kSameField = "the columns {} and {} mean the same";
@@ -76,9 +77,9 @@ FieldPlaces PlaceFields(const SheetHeadings& headings, std::vector<std::string>&
     FieldPlaces places;
     for (std::size_t place = 0; place < headings.Count(); ++place) {
         const std::string& heading = headings.At(place);
-        const auto field = FindEmployeeField(NormalizedWord(heading));
+        const auto field = FindEmployeeField(headings.NormalizedAt(place));
         if (!field) {
-            leftAside.insert(leftAside.end(), heading.empty() ? 0 : 1, heading);
+            leftAside.insert(leftAside.end(), heading.empty() || leftAside.size() == kMostLeftAside ? 0 : 1, heading);
             continue;
         }
         auto& own = places[static_cast<std::size_t>(*field)];

@@ -48,7 +48,7 @@ struct EmployeeLines
     std::vector<EmployeeChange> changed;         // in the order of the file
     std::vector<EmployeeDifference> differences; // also those that are left
     std::vector<RefusedLine> refused;            // in the order of the file
-    std::vector<std::string> leftAside;          // headings that mean nothing here
+    std::vector<std::string> leftAside;          // headings that mean nothing here, the first of them
 };
 
 // `text` as ReadSheet answers it. Raises a failure without a number for a file that is refused as a whole, one sentence: a heading that

@@ -140,7 +140,7 @@ void SheetColumns::PlaceByName()
 // Nothing for a heading that means nothing to us, or of which something was told.
 std::optional<SheetColumn> SheetColumns::NamedAt(std::size_t place) const
 {
-    const std::string normalized = NormalizedWord(m_headings.At(place));
+    const std::string& normalized = m_headings.NormalizedAt(place);
     const bool isTold =
         std::any_of(m_words.columns.begin(), m_words.columns.end(), [&](const auto& word) { return word.first == normalized; });
     const ColumnName* const name = isTold ? nullptr : FindColumn(normalized);

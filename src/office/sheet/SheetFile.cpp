@@ -14,7 +14,7 @@ namespace {
 
 constexpr std::string_view kMark = "\xEF\xBB\xBF";           // the byte order mark of UTF-8
 constexpr std::size_t kLargestFile = std::size_t{256} << 20; // bytes
-constexpr std::size_t kLongestShown = 40;                    // characters of a value in a reason
+constexpr std::size_t kLongestShown = 40;                    // characters of a value or heading in a reason
 
 constexpr std::int64_t kAskedEvery = 1000;
 
@@ -78,13 +78,18 @@ bool SheetReader::Next()
     return false;
 }
 
-std::string ShownCell(std::string_view value)
+std::string Shortened(std::string_view text)
 {
-    std::string_view left = value;
+    std::string_view left = text;
     for (std::size_t i = 0; i < kLongestShown && !left.empty(); ++i) {
         static_cast<void>(TakeCharacter(left));
     }
-    return fmt::format("\"{}{}\"", value.substr(0, value.size() - left.size()), left.empty() ? "" : "...");
+    return fmt::format("{}{}", text.substr(0, text.size() - left.size()), left.empty() ? "" : "...");
+}
+
+std::string ShownCell(std::string_view value)
+{
+    return '"' + Shortened(value) + '"';
 }
 
 } // namespace ptk

@@ -42,6 +42,9 @@ private:
     CsvRecord m_record;
 };
 
+// For people: a long text cut.
+[[nodiscard]] std::string Shortened(std::string_view text);
+
 // A value for a reason: in quotation marks, a long one cut.
 [[nodiscard]] std::string ShownCell(std::string_view value);
 

@@ -1,5 +1,6 @@
 #include "office/sheet/SheetHeadings.h"
 
+#include "office/sheet/SheetFile.h"
 #include "platform/Failure.h"
 #include "platform/text/Characters.h"
 #include "platform/text/Text.h"
@@ -27,21 +28,21 @@ std::string NormalizedWord(std::string_view text)
 
 SheetHeadings::SheetHeadings(std::span<const std::string> headings)
 {
-    std::set<std::string> seen;
+    std::set<std::string_view> seen;
+    m_normalized.reserve(headings.size()); // what was seen stays where it is
     for (const std::string& heading : headings) {
-        std::string normalized = NormalizedWord(heading);
-        if (!normalized.empty() && !seen.insert(std::move(normalized)).second) {
-            throw Failure(0, "PTK", fmt::format(kTwice, Trimmed(heading)));
+        m_shown.push_back(Shortened(Trimmed(heading)));
+        m_normalized.push_back(NormalizedWord(heading));
+        if (!m_normalized.back().empty() && !seen.insert(m_normalized.back()).second) {
+            throw Failure(0, "PTK", fmt::format(kTwice, m_shown.back()));
         }
-        m_headings.emplace_back(Trimmed(heading));
     }
 }
 
 std::optional<std::size_t> SheetHeadings::Find(std::string_view normalized) const
 {
-    const auto found = std::find_if(m_headings.begin(), m_headings.end(),
-                                    [&](const std::string& heading) { return NormalizedWord(heading) == normalized; });
-    return found == m_headings.end() ? std::nullopt : std::optional(static_cast<std::size_t>(found - m_headings.begin()));
+    const auto found = std::find(m_normalized.begin(), m_normalized.end(), normalized);
+    return found == m_normalized.end() ? std::nullopt : std::optional(static_cast<std::size_t>(found - m_normalized.begin()));
 }
 
 void SheetHeadings::RefuseStrange(const CsvRecord& record) const
@@ -49,7 +50,7 @@ void SheetHeadings::RefuseStrange(const CsvRecord& record) const
     if (record.strayCell != 0) {
         throw LineRefused{fmt::format(kStray, NameOf(record.strayCell - 1))};
     }
-    for (std::size_t place = m_headings.size(); place < record.cells.size(); ++place) {
+    for (std::size_t place = m_shown.size(); place < record.cells.size(); ++place) {
         if (!Trimmed(record.cells[place]).empty()) {
             throw LineRefused{fmt::format(kNoColumn, NameOf(place))};
         }
@@ -59,8 +60,8 @@ void SheetHeadings::RefuseStrange(const CsvRecord& record) const
 // Its heading, or its number counted from 1 where it has none.
 std::string SheetHeadings::NameOf(std::size_t place) const
 {
-    const bool named = place < m_headings.size() && !m_headings[place].empty();
-    return named ? m_headings[place] : fmt::format("column {}", place + 1);
+    const bool named = place < m_shown.size() && !m_shown[place].empty();
+    return named ? m_shown[place] : fmt::format("column {}", place + 1);
 }
 
 } // namespace ptk

@@ -27,13 +27,17 @@ public:
     // Raises a failure without a number for a heading that stands twice.
     explicit SheetHeadings(std::span<const std::string> headings);
 
-    // As it stands in the file, without the blanks around. REQUIRES: place, counted from 0, is within the file's.
-    [[nodiscard]] const std::string& At(std::size_t place) const { return m_headings[place]; }
+    // For people: as it stands in the file, without the blanks around, a long one cut. REQUIRES: place, counted from 0, is within the
+    // file's.
+    [[nodiscard]] const std::string& At(std::size_t place) const { return m_shown[place]; }
+
+    // REQUIRES: the same.
+    [[nodiscard]] const std::string& NormalizedAt(std::size_t place) const { return m_normalized[place]; }
 
     // The place of what is normalized already.
     [[nodiscard]] std::optional<std::size_t> Find(std::string_view normalized) const;
 
-    [[nodiscard]] std::size_t Count() const { return m_headings.size(); }
+    [[nodiscard]] std::size_t Count() const { return m_shown.size(); }
 
     // Throws LineRefused for text behind a closing quotation mark and for a cell that has no heading.
     void RefuseStrange(const CsvRecord& record) const;
@@ -41,7 +45,8 @@ public:
 private:
     [[nodiscard]] std::string NameOf(std::size_t place) const;
 
-    std::vector<std::string> m_headings;
+    std::vector<std::string> m_shown;
+    std::vector<std::string> m_normalized;
 };
 
 } // namespace ptk
