@@ -101,10 +101,10 @@ TEST_F(RemediesTest, OneKeyMendsAndGoesOnToTheNextFindingAndTheNextPerson)
     EXPECT_EQ(Button(3), "&3  Delete the record: the card has 25.50 hours");
     PressRemedy(1);
     EXPECT_EQ(Stored(kRemedyRecords)[3], "40 2003-02-21 08:00:00 2003-02-21 16:30:00");
-    EXPECT_EQ(Line(), "Ann Lee: End at 04:30 PM: the card has 34.00 hours");
+    EXPECT_EQ(Line(), "Ann Lee: End at 04:30 PM");
     EXPECT_EQ(Button(1), "&1  End at 06:00 AM on 02/25/2003: the card has 42.00 hours");
     PressRemedy(1);
-    EXPECT_EQ(Line(), "Ann Lee: End at 06:00 AM on 02/25/2003: the card has 42.00 hours; Bo Kim's card generated: 1 record");
+    EXPECT_EQ(Line(), "Ann Lee: End at 06:00 AM on 02/25/2003; Bo Kim's card generated: 1 record");
     EXPECT_EQ(Button(1), "&1  Enter the missing pay rate");
     EXPECT_EQ(Stored("SELECT COUNT(*) || ' ' || COUNT(DISTINCT Step) AS x FROM _Change"), std::vector<std::string>{"2 2"});
     PressRemedy(1);

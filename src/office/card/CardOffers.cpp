@@ -36,10 +36,10 @@ bool IsToMend(const Finding& finding, const CheckedTimecard& checked)
 std::vector<CardOffer> OffersFor(const Finding& finding, const CheckedTimecard& checked)
 {
     if (finding.kind == FindingKind::NoRate) {
-        return {{OfferKind::Rate, {kEnterRate, {}, {}}}};
+        return {{OfferKind::Rate, {kEnterRate, {}, {}, kEnterRate}}};
     }
     if (finding.kind == FindingKind::PaidChanged) {
-        return {{OfferKind::Changes, {kShowChanges, {}, {}}}};
+        return {{OfferKind::Changes, {kShowChanges, {}, {}, kShowChanges}}};
     }
     std::vector<CardOffer> offers;
     if (const auto* remedies = RemediesFor(finding, checked)) {

@@ -93,7 +93,7 @@ void CardMending::Mend(const Remedy& remedy)
         return ptk::Mend(*database, std::array{Mending{employeeID, &checked->punches, remedy.changes}});
     };
     const auto& failed = remedy.Deletes() ? kNotDeleted : kNotStored;
-    const std::string done = m_card.Employee() + ": " + remedy.text;
+    const std::string done = m_card.Employee() + ": " + remedy.what;
     const auto record = ChangedRecord(remedy, checked->punches, employeeID);
     if (m_storing.Store({mend, failed, kNotMended, done, record, *why, true}) && !m_card.ChosenFinding()) {
         GoOn(checked->period);

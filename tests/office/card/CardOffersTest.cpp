@@ -23,7 +23,7 @@ CheckedTimecard CardToMend()
     checked.check.emplace();
     checked.check->findings = {On(2, FindingKind::Empty, {1}), On(3, FindingKind::Open, {2}), On(4, FindingKind::Week, {}),
                                On(5, FindingKind::Deduction, {3})};
-    checked.remedies = {{{"Delete", {}, {}}}, {{"End at five", {}, {}}, {"Delete", {}, {}}}, {}, {}};
+    checked.remedies = {{{"Delete", {}, {}, {}}}, {{"End at five", {}, {}, {}}, {"Delete", {}, {}, {}}}, {}, {}};
     return checked;
 }
 
