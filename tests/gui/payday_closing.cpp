@@ -162,7 +162,7 @@ TEST_F(PaydayWindowTest, MendsSeveralAndAddsAShiftAsOneStepEach)
             QTest::keyClick(&editor, Qt::Key_Return);
             EXPECT_TRUE(QTest::qWaitFor([&] { return cell(3) == "04:30 PM"; }));
             EXPECT_EQ(cell(2) + ' ' + cell(5), "End at 04:30 PM 7.50") << "what was typed is ticked";
-            Find<QLineEdit>(window, "txtMendReason").setText("forgot to clock out");
+            Find<QComboBox>(window, "cboReason").setEditText("forgot to clock out");
             Click(window, "cmdSave");
         });
         Click(Window(), "cmdMend");

@@ -1,6 +1,8 @@
 #include "office/overview/OverviewTable.h"
 
+#include "model/payday/ClosingReader.h"
 #include "office/card/CardTexts.h"
+#include "platform/Succeeds.h"
 #include "platform/text/DataText.h"
 #include "platform/text/Text.h"
 
@@ -225,6 +227,14 @@ PayPeriod OverviewPeriod(const std::optional<PayPeriod>& timecards, DateTime tod
         return *timecards;
     }
     return DefaultPayPeriod(today, periodLength);
+}
+
+PayPeriod FirstPeriod(const std::shared_ptr<CJetDB>& database, const std::optional<PayPeriod>& timecards, DateTime today,
+                      std::int16_t periodLength)
+{
+    std::optional<PayPeriod> next;
+    Succeeds([&] { next = PeriodToClose(database); }); // why not is told by the reading that follows
+    return next ? *next : OverviewPeriod(timecards, today, periodLength);
 }
 
 } // namespace ptk

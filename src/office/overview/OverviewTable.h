@@ -77,4 +77,8 @@ using OverviewCells = std::array<std::string, kOverviewColumns>; // by OverviewC
 // begins today, as it does when the program starts; then the running pay period. Raises Failure 6 when that leaves the calendar.
 [[nodiscard]] PayPeriod OverviewPeriod(const std::optional<PayPeriod>& timecards, DateTime today, std::int16_t periodLength);
 
+// The one that is to be closed next; where nothing was closed yet, or that cannot be read, the one above. REQUIRES: not nullptr.
+[[nodiscard]] PayPeriod FirstPeriod(const std::shared_ptr<CJetDB>& database, const std::optional<PayPeriod>& timecards, DateTime today,
+                                    std::int16_t periodLength);
+
 } // namespace ptk

@@ -16,6 +16,7 @@ constexpr auto kOneShift = "1 shift";
 constexpr auto kShifts = "%1 shifts";
 constexpr auto kUsualTip = "Take the times of the usual shift";
 constexpr auto kNoUsualTip = "The usual shift is not set on the Options page";
+constexpr auto kWhyAdded = "This period was paid to some of them: say why it is changed, or save without a reason";
 constexpr auto kStoreTip = "Store the shift for everybody as one step";
 constexpr auto kStoreNotTip = "Choose a day and times first";
 
@@ -37,13 +38,14 @@ QString NamesOf(const FAddShift::People& people)
 
 } // namespace
 
-FAddShift::FAddShift(QWidget* parent, People people, Services services, const Usual& usual, DateTime day)
+FAddShift::FAddShift(QWidget* parent, People people, Services services, const Usual& usual, DateTime day, const ReasonLine& reasons)
     : QDialog(parent), m_ui(std::make_unique<Ui::FAddShift>()), m_people(std::move(people)), m_services(std::move(services)), m_usual(usual)
 {
     m_ui->setupUi(this);
     m_ui->dttbShiftDay->SetClock(m_services.clock);
     m_ui->dttbShiftDay->SetDate(day);
     m_ui->lblShiftForecast->KeepRoom(kShiftLines);
+    m_ui->cboReason->Offer(reasons);
     m_ui->lblShiftWhom->setText(m_people.size() == 1 ? QString(kForOne).arg(NamesOf(m_people))
                                                      : QString(kForWhom).arg(QString(kPeople).arg(m_people.size()), NamesOf(m_people)));
     const bool usualIsSet = IsSetTime(m_usual.start) && IsSetTime(m_usual.end);
@@ -102,7 +104,10 @@ void FAddShift::Save()
     if (!shift) {
         return;
     }
-    const QString refusal = m_services.store(*shift, m_ui->txtShiftReason->text().trimmed().toStdString());
+    if (m_ui->cboReason->AsksForIt()) {
+        return m_ui->lblShiftForecast->Say(kWhyAdded);
+    }
+    const QString refusal = m_services.store(*shift, m_ui->cboReason->Reason());
     if (!refusal.isEmpty()) {
         return m_ui->lblShiftForecast->Say(refusal);
     }

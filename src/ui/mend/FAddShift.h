@@ -15,6 +15,7 @@ class FAddShift;
 namespace ptk {
 
 class Clock;
+struct ReasonLine;
 
 // Tells all that goes wrong itself, and then stays for another try.
 class FAddShift final : public QDialog
@@ -41,7 +42,7 @@ public:
     };
 
     // day: that is proposed. REQUIRES: somebody.
-    FAddShift(QWidget* parent, People people, Services services, const Usual& usual, DateTime day);
+    FAddShift(QWidget* parent, People people, Services services, const Usual& usual, DateTime day, const ReasonLine& reasons);
     ~FAddShift() override;
 
     // What was stored, for a line; empty where nothing was.

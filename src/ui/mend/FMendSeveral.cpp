@@ -17,6 +17,7 @@ constexpr auto kTicked = "%1 of %2 ticked, for %3";
 constexpr auto kNoneTicked = "Nothing is ticked: Space ticks the chosen line";
 constexpr auto kMended = "%1 mended for %2; Edit > Undo (Ctrl+Z) takes it back";
 constexpr auto kNoTime = "\"%1\" is no time of day";
+constexpr auto kWhyMended = "Some of this was paid already: say why it is changed, or save without a reason";
 constexpr auto kSaveTip = "Store all that is ticked as one step (Enter)";
 
 constexpr QSize kMendSize(940, 560);
@@ -40,7 +41,7 @@ QString Persons(std::size_t count)
 
 } // namespace
 
-FMendSeveral::FMendSeveral(QWidget* parent, MendPlan plan, Storer storer)
+FMendSeveral::FMendSeveral(QWidget* parent, MendPlan plan, const ReasonLine& reasons, Storer storer)
     : QDialog(parent), m_ui(std::make_unique<Ui::FMendSeveral>()), m_plan(std::move(plan)), m_rows(new MendModel(m_plan, this)),
       m_storer(std::move(storer))
 {
@@ -48,6 +49,7 @@ FMendSeveral::FMendSeveral(QWidget* parent, MendPlan plan, Storer storer)
     setMinimumSize(kLeastMendSize);
     resize(kMendSize);
     m_ui->lblMendFinding->KeepRoom(kHintLines);
+    m_ui->cboReason->Offer(reasons);
     PrepareTable();
     Connect();
     ShowTicked();
@@ -158,8 +160,11 @@ void FMendSeveral::Toggle()
 
 void FMendSeveral::Save()
 {
+    if (m_ui->cboReason->AsksForIt()) {
+        return m_ui->lblMendFinding->Say(kWhyMended);
+    }
     const std::size_t ticked = m_plan.Ticked();
-    const QString refusal = m_storer(m_plan, m_ui->txtMendReason->text().trimmed().toStdString());
+    const QString refusal = m_storer(m_plan, m_ui->cboReason->Reason());
     if (!refusal.isEmpty()) {
         return m_ui->lblMendFinding->Say(refusal);
     }

@@ -15,6 +15,7 @@ class FMendSeveral;
 namespace ptk {
 
 class MendModel;
+struct ReasonLine;
 
 // Tells all that goes wrong itself, and then stays for another try.
 class FMendSeveral final : public QDialog
@@ -26,7 +27,7 @@ public:
     using Storer = std::function<QString(const MendPlan& plan, const std::string& reason)>;
 
     // REQUIRES: the plan has a line at least.
-    FMendSeveral(QWidget* parent, MendPlan plan, Storer storer);
+    FMendSeveral(QWidget* parent, MendPlan plan, const ReasonLine& reasons, Storer storer);
     ~FMendSeveral() override;
 
     // What was stored, for a line; empty where nothing was.

@@ -1,7 +1,6 @@
 #include "ui/overview/OverviewWindow.h"
 
 #include "model/check/FindingText.h"
-#include "model/payday/ClosingReader.h"
 #include "office/card/CardFindings.h"
 #include "office/history/HistoryScope.h"
 #include "office/overview/OverviewReading.h"
@@ -91,6 +90,7 @@ void OverviewWindow::LayOut()
     const std::unique_ptr<QLayout> before(m_ui->buttons);
     buttons->TakeFrom(*before);
     m_ui->lstOverviewFindings->KeepRoom(kFindingLines);
+    m_ui->notice->setMinimumHeight(m_ui->cmdClose->sizeHint().height()); // nothing moves when it has a button
 }
 
 void OverviewWindow::ConnectPeriod()
@@ -167,18 +167,13 @@ void OverviewWindow::Open(const std::optional<PayPeriod>& timecards)
     }
     m_ui->grdOverview->setFocus();
     m_takesIn = false;
-    const auto next = NextToClose();
-    if (Succeeds([&] { ShowPeriod(next ? *next : OverviewPeriod(timecards, m_host.Clock().Today(), PeriodLength())); })) {
+    const auto begin = [&] {
+        const auto database = Required(Required(m_host.Controller())->PTKDatabase());
+        ShowPeriod(FirstPeriod(database, timecards, m_host.Clock().Today(), PeriodLength()));
+    };
+    if (Succeeds(begin)) {
         Refresh();
     }
-}
-
-// Why it could not be read is told by the reading that follows.
-std::optional<PayPeriod> OverviewWindow::NextToClose() const
-{
-    std::optional<PayPeriod> next;
-    Succeeds([&] { next = PeriodToClose(Required(Required(m_host.Controller())->PTKDatabase())); });
-    return next;
 }
 
 void OverviewWindow::Say(const QString& text)

@@ -36,7 +36,7 @@ public:
     ~OverviewWindow() override;
 
     // Brings it to the front. Where it was not open, it begins with the period that is to be closed next, or where nothing was closed yet
-    // with that of the time cards, see OverviewPeriod, and reads; where it was, it reads what has been changed since.
+    // with that of the time cards, see FirstPeriod, and reads; where it was, it reads what has been changed since.
     void Open(const std::optional<PayPeriod>& timecards);
 
     // Has the card of the next one with problems (direction 1) or the one before (-1) opened, counted from this employee in the order of
@@ -75,7 +75,6 @@ private:
 
     void StepPeriod(std::int16_t direction);
     void ShowPeriod(const PayPeriod& period);
-    [[nodiscard]] std::optional<PayPeriod> NextToClose() const;
 
     // Nothing while the boxes do not hold one.
     [[nodiscard]] std::optional<PayPeriod> Period() const;

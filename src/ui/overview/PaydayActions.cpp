@@ -12,6 +12,7 @@
 #include "ui/mend/FAddShift.h"
 #include "ui/mend/FMendSeveral.h"
 #include "ui/page/ChangeNews.h"
+#include "ui/page/OfferedReasons.h"
 #include "ui/page/PageHost.h"
 #include "ui/widgets/WorkProgress.h"
 
@@ -209,9 +210,10 @@ void PaydayActions::MendSeveral(const PaydayWhom& whom)
     if (plan->Lines().empty()) {
         return (void)emit Said(kNothingFound);
     }
-    FMendSeveral window(&m_window, std::move(*plan), [this](const MendPlan& ticked, const std::string& reason) {
-        return Store(kMendTitle, reason, [&](CJetDB& database) { return ticked.Store(database); });
-    });
+    FMendSeveral window(&m_window, std::move(*plan), OfferedReasons(m_host, whom.paid),
+                        [this](const MendPlan& ticked, const std::string& reason) {
+                            return Store(kMendTitle, reason, [&](CJetDB& database) { return ticked.Store(database); });
+                        });
     window.exec();
     if (!window.Stored().isEmpty()) {
         TellStored(window.Stored());
@@ -232,7 +234,8 @@ void PaydayActions::AddShift(const PaydayWhom& whom)
         };
         const auto options = Required(Required(m_host.Controller())->SystemOptions());
         FAddShift window(&m_window, people, {m_host.Clock(), [this](DateTime day) { return WithRecordsOn(Database(), day); }, store},
-                         UsualShift(*options, Database()), ProposedDay(whom.period, m_host.Clock().Today()));
+                         UsualShift(*options, Database()), ProposedDay(whom.period, m_host.Clock().Today()),
+                         OfferedReasons(m_host, whom.paid));
         window.exec();
         if (!window.Stored().isEmpty()) {
             TellStored(window.Stored());

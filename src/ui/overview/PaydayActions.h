@@ -30,6 +30,7 @@ struct PaydayWhom
     std::vector<std::int32_t> takenIn; // of these the ones who are in no list
     std::vector<std::int32_t> chosen;
     std::int64_t troubled = 0; // how many of the chosen have problems, what was paid differently aside
+    bool paid = false;         // the period, to one of the people
 
     [[nodiscard]] const std::vector<std::int32_t>& People() const { return chosen.empty() ? shown : chosen; }
 };

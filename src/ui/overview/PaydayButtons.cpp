@@ -81,13 +81,16 @@ PaydayWhom PaydayButtons::Whom() const
 {
     PaydayWhom whom;
     whom.period = m_reading->Result().period;
+    const auto chosen = m_place.tables.ChosenRows();
     for (const OverviewRow& row : m_reading->Result().rows) {
+        whom.paid = whom.paid || (row.paid && chosen.empty());
         whom.shown.push_back(row.employee->EmployeeID());
         if (!row.employee->OfferedOnTimeCards()) {
             whom.takenIn.push_back(row.employee->EmployeeID());
         }
     }
-    for (const OverviewRow* row : m_place.tables.ChosenRows()) {
+    for (const OverviewRow* row : chosen) {
+        whom.paid = whom.paid || row->paid;
         whom.chosen.push_back(row->employee->EmployeeID());
         whom.troubled += row->check.problems > (row->check.changed ? 1 : 0) ? 1 : 0;
     }
