@@ -116,17 +116,12 @@ public:
         try {
             m_headings.RefuseStrange(record);
             const std::int32_t number = Read(EmployeeField::Number).ToInt32();
-            if (IsSaidAgain(number, record)) {
+            if (const auto said = m_said.find(number); said != m_said.end()) {
+                RequireSame(said->second);
                 ++m_read.there;
-                return;
-            }
-            const auto [first, end] = m_known.equal_range(number);
-            if (first == end) {
-                Add();
-            } else if (std::next(first) == end) {
-                Compare(first->second);
             } else {
-                Refuse(EmployeeField::Number, fmt::format(kSeveralKnown, ShownCell(Cell(EmployeeField::Number))));
+                Judge(number);
+                m_said.emplace(number, Said{record.line, AllFields()});
             }
         } catch (const LineRefused& refused) {
             m_read.refused.push_back({record.line, refused.reason});
@@ -166,16 +161,38 @@ private:
         }
     }
 
-    // The number stood before, and all that stood beside it; beside other fields the line is refused.
-    bool IsSaidAgain(std::int32_t number, const CsvRecord& record)
+    void Judge(std::int32_t number)
+    {
+        const auto [first, end] = m_known.equal_range(number);
+        if (first == end) {
+            Add();
+        } else if (std::next(first) == end) {
+            Compare(first->second);
+        } else {
+            Refuse(EmployeeField::Number, fmt::format(kSeveralKnown, ShownCell(Cell(EmployeeField::Number))));
+        }
+    }
+
+    struct Said
+    {
+        std::int64_t line;
+        std::string fields;
+    };
+
+    // Of a line whose number stood before.
+    void RequireSame(const Said& said) const
+    {
+        if (said.fields != AllFields()) {
+            Refuse(EmployeeField::Number, fmt::format(kOtherLine, ShownCell(Cell(EmployeeField::Number)), said.line));
+        }
+    }
+
+    // But the number, which may be written in several ways.
+    [[nodiscard]] std::string AllFields() const
     {
         std::string fields;
         ForEachField([&](EmployeeField field) { fields += field == EmployeeField::Number ? "" : fmt::format("{}\n", Cell(field)); });
-        const auto [said, isNew] = m_said.try_emplace(number, Said{record.line, fields});
-        if (!isNew && said->second.fields != fields) {
-            Refuse(EmployeeField::Number, fmt::format(kOtherLine, ShownCell(Cell(EmployeeField::Number)), said->second.line));
-        }
-        return !isNew;
+        return fields;
     }
 
     template <typename Visit>
@@ -203,18 +220,9 @@ private:
         std::vector<EmployeeDifference> differences;
         ForEachField([&](EmployeeField field) {
             const Value& value = stored[static_cast<std::size_t>(field)];
-            if (field == EmployeeField::Number || IsPrintedAs(field, value, Cell(field))) {
-                return;
-            }
-            const Value given = Read(field);
-            EmployeeDifference difference{employee.EmployeeID(),
-                                          employee.EmployeeNumber(),
-                                          employee.DisplayName(),
-                                          field,
-                                          PrintedField(field, value),
-                                          PrintedField(field, given),
-                                          false};
-            if (difference.stored == difference.given) {
+            const Value given = IsPrintedAs(field, value, Cell(field)) ? value : Read(field);
+            EmployeeDifference difference = Differing(employee, field, value, given);
+            if (field == EmployeeField::Number || difference.stored == difference.given) {
                 return;
             }
             difference.taken = m_takes(difference);
@@ -225,6 +233,16 @@ private:
         });
         Keep(employee, stored, std::move(change));
         std::move(differences.begin(), differences.end(), std::back_inserter(m_read.differences));
+    }
+
+    static EmployeeDifference Differing(const CEmployee& employee, EmployeeField field, const Value& stored, const Value& given)
+    {
+        return {.employee = employee.EmployeeID(),
+                .number = employee.EmployeeNumber(),
+                .name = employee.DisplayName(),
+                .field = field,
+                .stored = PrintedField(field, stored),
+                .given = PrintedField(field, given)};
     }
 
     void Keep(const CEmployee& employee, const ReportRow& stored, EmployeeChange change)
@@ -244,12 +262,6 @@ private:
         RequireWhole(values);
         m_read.changed.push_back(std::move(change));
     }
-
-    struct Said
-    {
-        std::int64_t line;
-        std::string fields;
-    };
 
     const SheetHeadings& m_headings;
     FieldPlaces m_places;

@@ -106,6 +106,7 @@ TEST_F(EmployeeImportTest, NamesLineColumnAndReasonOfWhatItRefuses)
                              "12x,A,B,1,true,1,\n"
                              "10,A,,1,true,1,\n"
                              "11,A,B,,true,1,\n"
+                             "11,A,B,,true,1,\n"
                              "12,A,B,1,yes,1,\n"
                              "13,A,B,1,true,-1,\n"
                              "14,A,B,1,true,nan,\n"
@@ -123,15 +124,15 @@ TEST_F(EmployeeImportTest, NamesLineColumnAndReasonOfWhatItRefuses)
                              "19,A,B,1,true,1,,x\n"
                              "4294967303,A,B,1,true,1,\n";
     EXPECT_EQ(Account(text, "Last Name"),
-              "Lines: 18, stored 1, there already 1, refused 16, changed 0 | Line 2: Employee Number: empty | "
-              "Line 3: Employee Number: no employee number: \"12x\" | Line 4: Last Name: empty | Line 5: SSN: empty | "
-              "Line 6: Active: neither true nor false: \"yes\" | Line 7: Regular Pay Rate: no rate: \"-1\" | "
-              "Line 8: Regular Pay Rate: no rate: \"nan\" | Line 9: Hire Date: no day: \"13/5/2003\" | "
-              "Line 10: Employee Number: several people have \"8\" | "
-              "Line 11: First Name: a control character, or one that cannot be read | "
-              "Line 12: First Name: more than 255 characters | Line 14: Employee Number: \"18\" has other fields on line 13 | "
-              "Line 16: Employee Number: the administrator may not be changed | Line 17: Regular Pay Rate: no rate: \"1e3\" | "
-              "Line 18: column 8: a cell without a heading | Line 19: Employee Number: no employee number: \"4294967303\"");
+              "Lines: 19, stored 1, there already 1, refused 17, changed 0 | Line 2: Employee Number: empty | "
+              "Line 3: Employee Number: no employee number: \"12x\" | Line 4: Last Name: empty | Line 5: SSN: empty | Line 6: SSN: empty | "
+              "Line 7: Active: neither true nor false: \"yes\" | Line 8: Regular Pay Rate: no rate: \"-1\" | "
+              "Line 9: Regular Pay Rate: no rate: \"nan\" | Line 10: Hire Date: no day: \"13/5/2003\" | "
+              "Line 11: Employee Number: several people have \"8\" | "
+              "Line 12: First Name: a control character, or one that cannot be read | "
+              "Line 13: First Name: more than 255 characters | Line 15: Employee Number: \"18\" has other fields on line 14 | "
+              "Line 17: Employee Number: the administrator may not be changed | Line 18: Regular Pay Rate: no rate: \"1e3\" | "
+              "Line 19: column 8: a cell without a heading | Line 20: Employee Number: no employee number: \"4294967303\"");
     EXPECT_EQ(Employees(), kOthers);
 }
 
