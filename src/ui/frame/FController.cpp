@@ -151,7 +151,8 @@ void FController::ConnectEditMenu()
 
 void FController::ConnectFileMenu()
 {
-    const FileMenu::Lines lines{*m_ui->mnuFileBackUp, *m_ui->mnuFileRestore, *m_ui->mnuFileImport, *m_ui->mnuFilePunches, *m_ui->mnuFileEmployees};
+    const FileMenu::Lines lines{*m_ui->mnuFileBackUp, *m_ui->mnuFileRestore, *m_ui->mnuFileImport, *m_ui->mnuFilePunches,
+                                *m_ui->mnuFileEmployees};
     m_fileMenu = new FileMenu(*this, lines, *this);
     connect(m_fileMenu, &FileMenu::Said, this, &FController::Say);
     connect(m_fileMenu, &FileMenu::Restored, this, &FController::ShowRestored);
