@@ -165,6 +165,7 @@ TEST_F(RemediesTest, APaidPeriodSaysSoAsksWhyAndTellsWhatWasChangedSince)
     List().setCurrentIndex(List().model()->index(0, 0));
     EXPECT_EQ(Chosen(), "Paid 8.00 hours, now 9.00: +10.00 owed.");
     EXPECT_EQ(Button(1), "&1  Show what was changed since it was paid");
+    QApplication::setActiveWindow(&Main());
     Find<QAction>(Main(), "mnuViewHistory").trigger();
     auto& history = Window("HistoryWindow");
     EXPECT_EQ(Find<QCheckBox>(history, "chkHistoryScope").text(), "&Only what was changed since 02/18/2003 - 03/04/2003 was paid");
