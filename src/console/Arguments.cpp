@@ -111,7 +111,6 @@ private:
     CLI::App* m_createDatabase = nullptr;
     CLI::App* m_timeCard = nullptr;
     CLI::App* m_report = nullptr;
-    CLI::App* m_profiles = nullptr;
     CLI::App* m_overview = nullptr;
     CLI::App* m_payday = nullptr;
     CLI::App* m_close = nullptr;
@@ -188,7 +187,7 @@ void Grammar::DescribeReport()
                         "Into this file instead of printing it; all reports into one, and each into the reports folder as well")
             ->type_name("FILE");
     });
-    m_profiles = m_app.add_subcommand("profiles", "List the profiles of the accountant's table");
+    m_app.add_subcommand("profiles", "List the profiles of the accountant's table");
 }
 
 void Grammar::DescribeOverview()
@@ -318,15 +317,14 @@ void Grammar::CheckReport() const
 {
     const ReportEntry& entry = *FindConsoleReport(m_words.report);
     const bool dates = m_report->count("--from") + m_report->count("--to") > 0;
-    if (dates && entry.dates == ReportDates::None) {
-        throw CLI::ValidationError("report " + m_words.report, "takes no dates");
-    }
-    if (m_report->count("--profile") > 0 && entry.kind != ReportKind::Review) {
-        throw CLI::ValidationError("report " + m_words.report, "has no profiles");
-    }
-    if (!m_words.employees.empty() && entry.whom == ReportWhom::Everyone) {
-        throw CLI::ValidationError("report " + m_words.report, "takes no employees");
-    }
+    const auto refuse = [this](bool given, const char* why) {
+        if (given) {
+            throw CLI::ValidationError("report " + m_words.report, why);
+        }
+    };
+    refuse(dates && entry.dates == ReportDates::None, "takes no dates");
+    refuse(m_report->count("--profile") > 0 && entry.kind != ReportKind::Review, "has no profiles");
+    refuse(!m_words.employees.empty() && entry.whom == ReportWhom::Everyone, "takes no employees");
 }
 
 std::variant<Arguments, UsageAnswer> Grammar::Read(std::vector<std::string> words)
@@ -366,9 +364,6 @@ Arguments Grammar::Result() const
     }
     if (m_report->parsed()) {
         return {m_words.programFolder, ReportResult()};
-    }
-    if (m_profiles->parsed()) {
-        return {m_words.programFolder, ProfilesArguments{}};
     }
     if (m_overview->parsed()) {
         return {m_words.programFolder,
@@ -434,7 +429,7 @@ Command Grammar::FileResult() const
     if (m_copy->parsed()) {
         return CopyDatabaseArguments{m_copy->count("--from") > 0 ? std::optional(m_words.from) : std::nullopt, m_words.target};
     }
-    return CheckArguments{};
+    return m_app.got_subcommand("profiles") ? Command(ProfilesArguments{}) : CheckArguments{};
 }
 
 } // namespace

@@ -20,6 +20,8 @@ def run(console, folder, *arguments):
 def commands():
     yield ["time-card", "--employee", "Thomas Brandt", *DAYS]
     yield ["time-card", "--employee", "Nobody", *DAYS]
+    for profile in ["plain", "kinds", "semicolons"]:
+        yield ["report", "review", "--profile", profile, *DAYS]
     for form in ["text", "csv", "json"]:
         yield ["overview", *DAYS, "--format", form]
         yield ["history", "--format", form]

@@ -2,14 +2,22 @@
 
 #include "office/history/HistoryScope.h"
 #include "office/overview/OverviewReading.h"
+#include "platform/Required.h"
+#include "platform/Succeeds.h"
+#include "platform/system/Clock.h"
+#include "startup/CController.h"
 #include "ui/overview/OverviewTables.h"
 #include "ui/overview/PaydayActions.h"
+#include "ui/page/PageHost.h"
 #include "ui/payday/AccountWindow.h"
 #include "ui/payday/FPaydayLines.h"
+#include "ui/profile/FAccountant.h"
 #include "ui/widgets/NoticeLine.h"
 
 #include <QMenu>
 #include <QPushButton>
+
+#include <unordered_set>
 
 namespace ptk {
 
@@ -20,11 +28,12 @@ constexpr auto kAll = "all";
 constexpr auto kChosen = "%1 chosen";
 constexpr auto kReopenPayday = "&Reopen Payday";
 constexpr auto kAddShift = "&Add a Shift...";
+constexpr auto kSaveForAccountant = "Save &for Accountant...";
 constexpr auto kAccount = "A&ccount of the Period...";
 constexpr auto kCloseAllTip = "Keep what everybody without problems is paid for this period; choose people to close theirs alone";
 constexpr auto kCloseTip = "Keep what the chosen ones are paid for this period; Ctrl+Shift+A chooses nobody";
 constexpr auto kMendTip = "All that was found on the cards of %1, with what can be done about it";
-constexpr auto kMoreTip = "For %1: take a closed payday back, add a shift. For the period: the account";
+constexpr auto kMoreTip = "For %1: take a closed payday back, add a shift, save the accountant's table. For the period: the account";
 constexpr auto kEverybody = "everybody";
 constexpr auto kTheChosen = "the chosen ones";
 constexpr auto kBeingRead = "Wait until everybody has been read";
@@ -52,6 +61,7 @@ void PaydayButtons::Connect()
     };
     add("mnuReopen", kReopenPayday, [this] { m_actions->Reopen(Whom()); });
     add("mnuAddShift", kAddShift, [this] { m_actions->AddShift(Whom()); });
+    add("mnuAccountant", kSaveForAccountant, [this] { SaveForAccountant(); });
     add("mnuAccount", kAccount, [this] { ShowAccount(); });
     m_place.more.setMenu(menu);
     connect(&m_place.close, &QPushButton::clicked, this, [this] { m_actions->Close(Whom()); });
@@ -103,6 +113,23 @@ void PaydayButtons::ShowAccount()
         m_account = std::make_unique<AccountWindow>(m_host);
     }
     m_account->Open(m_reading->Result().period);
+}
+
+// Of people as they were read; namesakes are told apart by their rows.
+void PaydayButtons::SaveForAccountant()
+{
+    const auto open = [this] {
+        AccountantOrder order{{Required(m_host.Controller())->PTKDatabase(), {}, m_reading->Result().period, m_host.Clock().Now()}};
+        const auto rows = m_place.tables.ChosenRows();
+        const std::unordered_set<const OverviewRow*> chosen(rows.begin(), rows.end());
+        for (const OverviewRow& row : m_reading->Result().rows) {
+            if (chosen.empty() || chosen.contains(&row)) {
+                order.people.people.push_back(std::make_shared<CEmployee>(row.employee->Row()));
+            }
+        }
+        FAccountant(&m_place.window, m_host.Desktop(), std::move(order)).exec();
+    };
+    Succeeds(open, [this](const Failure& reason) { m_place.notice.Say(QString::fromStdString(reason.Description())); });
 }
 
 std::optional<HistoryScope> PaydayButtons::ShownHistory() const

@@ -56,6 +56,7 @@ private:
     void Connect();
     [[nodiscard]] PaydayWhom Whom() const;
     void ShowAccount();
+    void SaveForAccountant();
     void TellDone(const QString& news, const QString& title, const QStringList& lines);
 
     PageHost& m_host;
