@@ -7,6 +7,7 @@
 #include "model/payday/PaidText.h"
 #include "platform/Succeeds.h"
 #include "reports/ReportCards.h"
+#include "store/CJetDB.h"
 
 namespace ptk {
 
@@ -47,9 +48,7 @@ bool CReportTimeCard::GenerateReport(const std::shared_ptr<CJetDB>& thedatabase,
         if (!OpenForm(*theemployee, days)) {
             return false;
         }
-        AddGenerated(theemployee, days);
-        AddSignatures();
-        AddPaid(thedatabase, *theemployee, {days.StartDate(), days.EndDate()});
+        AddForm(thedatabase, theemployee, days);
         return Publish();
     });
 }
@@ -88,10 +87,21 @@ bool CReportTimeCard::OpenForm(const CEmployee& employee, const CDateRange& days
     return opened;
 }
 
-void CReportTimeCard::AddGenerated(const std::shared_ptr<CEmployee>& employee, const CDateRange& days)
+void CReportTimeCard::AddForm(const std::shared_ptr<CJetDB>& database, const std::shared_ptr<CEmployee>& employee, const CDateRange& days)
+{
+    const CJetDB::Hold hold(database); // card and payment are of one moment
+    const bool generated = AddGenerated(employee, days);
+    AddSignatures();
+    if (generated) {
+        AddPaid(database, *employee, {days.StartDate(), days.EndDate()});
+    }
+}
+
+bool CReportTimeCard::AddGenerated(const std::shared_ptr<CEmployee>& employee, const CDateRange& days)
 {
     if (GenerateTimeCard(*m_timeCard, employee, days)) {
-        return AddBody();
+        AddBody();
+        return true;
     }
     const bool noRecords = m_timeCard->ErrorNumber() == report::NoRecords;
     Body().Fail(noRecords ? report::NoRecords : report::NotGenerated);
@@ -99,6 +109,7 @@ void CReportTimeCard::AddGenerated(const std::shared_ptr<CEmployee>& employee, c
     if (m_timeCard->LastFailure().Number() != 0 || !noRecords) {
         NoteMissing(Body(), *m_timeCard);
     }
+    return false;
 }
 
 void CReportTimeCard::AddBody()

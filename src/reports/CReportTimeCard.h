@@ -31,7 +31,8 @@ public:
 
 private:
     bool OpenForm(const CEmployee& employee, const CDateRange& days);
-    void AddGenerated(const std::shared_ptr<CEmployee>& employee, const CDateRange& days);
+    void AddForm(const std::shared_ptr<CJetDB>& database, const std::shared_ptr<CEmployee>& employee, const CDateRange& days);
+    bool AddGenerated(const std::shared_ptr<CEmployee>& employee, const CDateRange& days);
     void AddBody();
     void AddSignatures();
     void AddPaid(const std::shared_ptr<CJetDB>& database, const CEmployee& employee, const PayPeriod& period);
