@@ -168,8 +168,8 @@ void OverviewWindow::Open(const std::optional<PayPeriod>& timecards)
     m_ui->grdOverview->setFocus();
     m_takesIn = false;
     const auto begin = [&] {
-        const auto database = Required(Required(m_host.Controller())->PTKDatabase());
-        ShowPeriod(FirstPeriod(database, timecards, m_host.Clock().Today(), PeriodLength()));
+        const auto controller = Required(m_host.Controller());
+        ShowPeriod(FirstPeriod(Required(controller->PTKDatabase()), timecards, m_host.Clock().Today(), PeriodLength()));
     };
     if (Succeeds(begin)) {
         Refresh();
@@ -276,9 +276,8 @@ void OverviewWindow::Complain(const std::string& reason)
 void OverviewWindow::ShowProgress()
 {
     const bool reading = m_next.isActive();
-    for (QWidget* control : {static_cast<QWidget*>(m_ui->barOverview), static_cast<QWidget*>(m_ui->cmdStop)}) {
-        control->setVisible(reading);
-    }
+    m_ui->barOverview->setVisible(reading);
+    m_ui->cmdStop->setVisible(reading);
     if (reading) {
         const std::size_t read = m_reading->Result().rows.size();
         m_ui->barOverview->setRange(0, static_cast<int>(m_reading->Offered()));
