@@ -22,6 +22,8 @@ def commands():
     yield ["time-card", "--employee", "Nobody", *DAYS]
     for profile in ["plain", "kinds", "semicolons"]:
         yield ["report", "review", "--profile", profile, *DAYS]
+    yield ["person", "Ann Lee", "--format", "json"]
+    yield ["kept", "--years", "0"]
     for form in ["text", "csv", "json"]:
         yield ["overview", *DAYS, "--format", form]
         yield ["history", "--format", form]
