@@ -5,7 +5,7 @@
 #include "model/CEmployeeList.h"
 #include "Painted.h"
 #include "store/CJetDB.h"
-#include "ui/widgets/EmployeeModels.h"
+#include "ui/boxes/EmployeeModels.h"
 #include "ui_CardChoice.h"
 #include "ui_CompanyPage.h"
 #include "ui_EmployeePage.h"

@@ -13,7 +13,7 @@
 #include "ui/frame/SecondStart.h"
 #include "ui/login/FServerPassword.h"
 #include "ui/safety/FFirstStart.h"
-#include "ui/widgets/PaintMeanwhile.h"
+#include "ui/work/PaintMeanwhile.h"
 
 #include <algorithm>
 #include <cstdio>

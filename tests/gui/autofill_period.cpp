@@ -1,9 +1,9 @@
 // Auto fill: one record a day over a range of dates.
 #include "gui/GuiFixture.h"
 #include "model/CTimeRecordList.h"
-#include "ui/timecards/FAutoFill.h"
-#include "ui/widgets/DateCombo.h"
-#include "ui/widgets/DateTimeBox.h"
+#include "ui/boxes/DateCombo.h"
+#include "ui/boxes/DateTimeBox.h"
+#include "ui/editors/FAutoFill.h"
 
 namespace ptk {
 

@@ -1,7 +1,7 @@
 // The date combo and the time box under a user's hands.
 #include "gui/GuiFixture.h"
-#include "ui/widgets/DateCombo.h"
-#include "ui/widgets/DateTimeBox.h"
+#include "ui/boxes/DateCombo.h"
+#include "ui/boxes/DateTimeBox.h"
 
 namespace ptk {
 

@@ -1,9 +1,9 @@
 // The time record editor: what it shows, what it writes into the record while the user types, and what it hands back.
 #include "gui/RealBoxes.h"
 #include "model/CTimeRecord.h"
-#include "ui/timecards/FTimeEditor.h"
-#include "ui/timecards/TimeRecordReceiver.h"
-#include "ui/widgets/DateTimeBox.h"
+#include "ui/boxes/DateTimeBox.h"
+#include "ui/editors/FTimeEditor.h"
+#include "ui/editors/TimeRecordReceiver.h"
 
 namespace ptk {
 

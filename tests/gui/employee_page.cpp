@@ -1,8 +1,8 @@
 // The Employees page: finding, adding and changing employees, and what it refuses.
 #include "gui/PageFixture.h"
 #include "model/CEmployeeList.h"
-#include "ui/widgets/DateCombo.h"
-#include "ui/widgets/EmployeeModels.h"
+#include "ui/boxes/DateCombo.h"
+#include "ui/boxes/EmployeeModels.h"
 #include "ui/widgets/NoticeLine.h"
 
 namespace ptk {

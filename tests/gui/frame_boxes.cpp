@@ -178,7 +178,7 @@ TEST(ReasonBoxTest, StandsBelowTheQuestionAndIsBegunInWhereItIsWanted)
         return std::pair(answer, line.reason);
     };
     const auto focus = [] {
-        const QWidget* widget = QApplication::focusWidget();
+        const QWidget* widget = QApplication::activeModalWidget()->focusWidget(); // whether or not it is the active window by now
         return widget == nullptr ? QString() : widget->objectName();
     };
     EXPECT_EQ(ask(false, {{"QMessageBox", Qt::Key_Return, 0, [&] { EXPECT_NE(focus(), "cboReason"); }}}),

@@ -2,9 +2,9 @@
 #include "gui/GuiFixture.h"
 #include "store/CJetDB.h"
 #include "store/CSystemOptions.h"
-#include "ui/widgets/DateTimeBox.h"
+#include "ui/boxes/DateTimeBox.h"
 #include "ui/widgets/NoticeLine.h"
-#include "ui/widgets/WindowPlace.h"
+#include "ui/work/WindowPlace.h"
 
 #include <gmock/gmock.h>
 

@@ -1,7 +1,7 @@
 // Who changed what: the history as a window, and how a card leads to it.
 #include "gui/PageFixture.h"
 #include "store/sqlite/SqliteEngine.h"
-#include "ui/widgets/DateCombo.h"
+#include "ui/boxes/DateCombo.h"
 
 namespace ptk {
 

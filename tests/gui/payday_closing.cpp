@@ -1,6 +1,6 @@
 // The payday from the overview: nobody is forgotten, cards are mended, the payday is closed and accounted for.
 #include "gui/PageFixture.h"
-#include "ui/widgets/DateCombo.h"
+#include "ui/boxes/DateCombo.h"
 
 namespace ptk {
 

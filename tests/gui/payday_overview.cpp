@@ -1,6 +1,6 @@
 // The payday overview as a window.
 #include "gui/PageFixture.h"
-#include "ui/widgets/DateCombo.h"
+#include "ui/boxes/DateCombo.h"
 
 namespace ptk {
 

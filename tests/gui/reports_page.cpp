@@ -1,7 +1,7 @@
 // The Reports page of the started program: what is offered, what is chosen is what is asked for, and how the outcome is told.
 #include "gui/PageFixture.h"
+#include "ui/boxes/DateCombo.h"
 #include "ui/reports/ReportViewerWindow.h"
-#include "ui/widgets/DateCombo.h"
 
 namespace ptk {
 

@@ -1,6 +1,6 @@
 // Undoing what was stored, and what somebody else changed meanwhile.
 #include "gui/PageFixture.h"
-#include "ui/widgets/DateTimeBox.h"
+#include "ui/boxes/DateTimeBox.h"
 #include "ui/widgets/NoticeLine.h"
 
 namespace ptk {

@@ -2,11 +2,11 @@
 #include "gui/GuiFixture.h"
 #include "model/CEmployee.h"
 #include "model/CEmployeeList.h"
+#include "ui/boxes/ChosenOnly.h"
+#include "ui/boxes/EmployeeModels.h"
 #include "ui/frame/QtDesktop.h"
 #include "ui/frame/SecondStart.h"
 #include "ui/widgets/AiryStyle.h"
-#include "ui/widgets/ChosenOnly.h"
-#include "ui/widgets/EmployeeModels.h"
 #include "ui/widgets/NoticeLine.h"
 #include "ui/widgets/ThemeIcon.h"
 

@@ -1,6 +1,6 @@
 // What the check says on the Timecards page, and the limits on the Options page that it goes by.
 #include "gui/PageFixture.h"
-#include "ui/widgets/DateTimeBox.h"
+#include "ui/boxes/DateTimeBox.h"
 
 namespace ptk {
 

@@ -2,8 +2,8 @@
 #include "gui/PageFixture.h"
 #include "model/CEmployeeList.h"
 #include "model/CTimeCard.h"
-#include "ui/widgets/DateCombo.h"
-#include "ui/widgets/DateTimeBox.h"
+#include "ui/boxes/DateCombo.h"
+#include "ui/boxes/DateTimeBox.h"
 
 namespace ptk {
 

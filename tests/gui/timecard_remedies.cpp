@@ -1,7 +1,7 @@
 // Mending what the check found with one key each, and what is said of a period that was paid.
 #include "gui/PageFixture.h"
 #include "office/payday/PaydayClosing.h"
-#include "ui/widgets/DateTimeBox.h"
+#include "ui/boxes/DateTimeBox.h"
 
 namespace ptk {
 

@@ -2,8 +2,8 @@
 // file, and the backup of it.
 #include "gui/PageFixture.h"
 #include "office/business/SampleBusiness.h"
-#include "ui/widgets/DateCombo.h"
-#include "ui/widgets/DateTimeBox.h"
+#include "ui/boxes/DateCombo.h"
+#include "ui/boxes/DateTimeBox.h"
 
 #include <optional>
 

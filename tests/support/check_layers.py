@@ -26,8 +26,9 @@ FLOORS = {
     "office": [["card", "import", "reports", "sheet"], ["history", "safety"], ["overview"], ["payday", "records", "business", "person", "profile"]],
     "jetreader": [[""]],
     "startup": [[""]],
-    "console": [[""], ["main"]],
-    "ui": [["widgets"], ["page"], ["login", "payday", "mend", "profile"], ["reports"], ["timecards", "people", "overview", "history", "safety", "sheet"], ["frame"]],
+    "console": [[""], ["commands"], ["main"]],
+    "ui": [["widgets"], ["boxes", "work"], ["page"], ["login", "payday", "mend", "profile", "editors"], ["reports"],
+           ["timecards", "people", "overview", "history", "safety", "sheet", "help"], ["frame"]],
     "pages": [[""]],
     "app": [[""]],
 }

@@ -5,9 +5,9 @@
 #include "platform/Succeeds.h"
 #include "platform/system/BusyPointer.h"
 #include "startup/CController.h"
+#include "ui/boxes/SpentUndoKeys.h"
 #include "ui/page/PageHost.h"
 #include "ui/page/SharedRecords.h"
-#include "ui/widgets/SpentUndoKeys.h"
 #include "ui/widgets/ThemeIcon.h"
 
 #include <QAction>

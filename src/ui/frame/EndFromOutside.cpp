@@ -1,7 +1,7 @@
 #include "ui/frame/EndFromOutside.h"
 
 #include "platform/files/DraftsAtEnd.h"
-#include "ui/widgets/ProgramEnd.h"
+#include "ui/work/ProgramEnd.h"
 
 #include <array>
 #include <atomic>

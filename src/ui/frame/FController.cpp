@@ -9,11 +9,11 @@
 #include "store/engine/Waiting.h"
 #include "ui/frame/EditMenu.h"
 #include "ui/frame/FileMenu.h"
-#include "ui/frame/HelpMenu.h"
 #include "ui/frame/OptionsPage.h"
 #include "ui/frame/PageFrame.h"
 #include "ui/frame/PageTabs.h"
 #include "ui/frame/ViewMenu.h"
+#include "ui/help/HelpMenu.h"
 #include "ui/page/RecordPages.h"
 #include "ui/people/CompanyPage.h"
 #include "ui/people/EmployeePage.h"
@@ -24,7 +24,7 @@
 #include "ui/widgets/MeantButton.h"
 #include "ui/widgets/NoticeLine.h"
 #include "ui/widgets/ThemeIcon.h"
-#include "ui/widgets/WindowPlace.h"
+#include "ui/work/WindowPlace.h"
 #include "ui_FController.h"
 
 #include <array>

@@ -3,10 +3,10 @@
 
 #include "platform/system/Desktop.h"
 #include "startup/Windows.h"
+#include "ui/boxes/EmployeeModels.h"
 #include "ui/page/PageHost.h"
 #include "ui/page/SharedRecords.h"
 #include "ui/reports/OpenReports.h"
-#include "ui/widgets/EmployeeModels.h"
 
 #include <memory>
 #include <optional>

@@ -13,11 +13,11 @@
 #include "startup/Notices.h"
 #include "store/CJetDB.h"
 #include "store/CSystemOptions.h"
+#include "ui/boxes/ChosenOnly.h"
+#include "ui/boxes/FieldWidth.h"
 #include "ui/page/OfferLeft.h"
 #include "ui/page/PageHost.h"
 #include "ui/page/SharedRecords.h"
-#include "ui/widgets/ChosenOnly.h"
-#include "ui/widgets/FieldWidth.h"
 #include "ui_OptionsPage.h"
 
 #include <algorithm>

@@ -2,9 +2,9 @@
 
 #include "platform/system/SystemShell.h"
 #include "store/engine/Waiting.h"
-#include "ui/widgets/ProgramEnd.h"
-#include "ui/widgets/ReasonBox.h"
-#include "ui/widgets/WindowPlace.h"
+#include "ui/boxes/ReasonBox.h"
+#include "ui/work/ProgramEnd.h"
+#include "ui/work/WindowPlace.h"
 
 #include <QApplication>
 #include <QDialogButtonBox>

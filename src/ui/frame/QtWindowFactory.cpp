@@ -5,7 +5,7 @@
 #include "ui/safety/FRestore.h"
 #include "ui/widgets/AiryStyle.h"
 #include "ui/widgets/ThemeIcon.h"
-#include "ui/widgets/WorkProgress.h"
+#include "ui/work/WorkProgress.h"
 
 #include <QApplication>
 

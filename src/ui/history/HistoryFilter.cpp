@@ -1,7 +1,7 @@
 #include "ui/history/HistoryFilter.h"
 
 #include "office/history/EmployeeNames.h"
-#include "ui/widgets/ChosenOnly.h"
+#include "ui/boxes/ChosenOnly.h"
 #include "ui/widgets/FoldingRow.h"
 #include "ui_HistoryFilter.h"
 

@@ -13,9 +13,9 @@
 #include "ui/history/HistoryModel.h"
 #include "ui/page/PageHost.h"
 #include "ui/widgets/ButtonRow.h"
-#include "ui/widgets/SaveDialog.h"
 #include "ui/widgets/ThemeIcon.h"
-#include "ui/widgets/WindowPlace.h"
+#include "ui/work/SaveDialog.h"
+#include "ui/work/WindowPlace.h"
 #include "ui_HistoryWindow.h"
 
 #include <algorithm>

@@ -14,7 +14,7 @@
 #include "ui/page/ChangeNews.h"
 #include "ui/page/OfferedReasons.h"
 #include "ui/page/PageHost.h"
-#include "ui/widgets/WorkProgress.h"
+#include "ui/work/WorkProgress.h"
 
 #include <algorithm>
 #include <fmt/format.h>

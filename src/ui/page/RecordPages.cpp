@@ -11,7 +11,7 @@
 #include "ui/page/RecordPage.h"
 #include "ui/page/SharedRecords.h"
 #include "ui/widgets/NoticeLine.h"
-#include "ui/widgets/ProgramEnd.h"
+#include "ui/work/ProgramEnd.h"
 
 #include <algorithm>
 #include <chrono>

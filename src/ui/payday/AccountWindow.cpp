@@ -14,10 +14,10 @@
 #include "ui/page/PageHost.h"
 #include "ui/payday/AccountModel.h"
 #include "ui/widgets/ButtonRow.h"
-#include "ui/widgets/SaveDialog.h"
 #include "ui/widgets/ThemeIcon.h"
-#include "ui/widgets/WindowPlace.h"
-#include "ui/widgets/WorkProgress.h"
+#include "ui/work/SaveDialog.h"
+#include "ui/work/WindowPlace.h"
+#include "ui/work/WorkProgress.h"
 #include "ui_AccountWindow.h"
 
 #include <algorithm>

@@ -12,12 +12,12 @@
 #include "platform/text/Text.h"
 #include "startup/CController.h"
 #include "store/CJetDB.h"
+#include "ui/boxes/BoxText.h"
+#include "ui/boxes/ChosenOnly.h"
+#include "ui/boxes/FieldWidth.h"
 #include "ui/page/OfferLeft.h"
 #include "ui/page/PageHost.h"
 #include "ui/page/SharedRecords.h"
-#include "ui/widgets/BoxText.h"
-#include "ui/widgets/ChosenOnly.h"
-#include "ui/widgets/FieldWidth.h"
 #include "ui_CompanyPage.h"
 
 namespace ptk {

@@ -9,7 +9,7 @@
 #include "startup/CController.h"
 #include "ui/page/PageHost.h"
 #include "ui/widgets/NoticeLine.h"
-#include "ui/widgets/SaveDialog.h"
+#include "ui/work/SaveDialog.h"
 
 #include <QPushButton>
 

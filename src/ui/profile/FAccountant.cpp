@@ -7,8 +7,8 @@
 #include "reports/ReportCards.h"
 #include "ui/profile/FProfile.h"
 #include "ui/profile/TablePreview.h"
-#include "ui/widgets/SaveDialog.h"
-#include "ui/widgets/WorkProgress.h"
+#include "ui/work/SaveDialog.h"
+#include "ui/work/WorkProgress.h"
 #include "ui_FAccountant.h"
 
 #include <QSettings>

@@ -10,9 +10,9 @@
 #include "platform/system/Clock.h"
 #include "startup/CController.h"
 #include "store/CJetDB.h"
+#include "ui/boxes/EmployeeModels.h"
 #include "ui/page/ChangeNews.h"
 #include "ui/page/PageHost.h"
-#include "ui/widgets/EmployeeModels.h"
 #include "ui/widgets/FindingList.h"
 #include "ui/widgets/ThemeIcon.h"
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "model/PayPeriod.h"
-#include "ui/widgets/EmployeeModels.h"
+#include "ui/boxes/EmployeeModels.h"
 
 #include <cstdint>
 #include <functional>

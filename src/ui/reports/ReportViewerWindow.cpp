@@ -5,8 +5,8 @@
 #include "platform/Succeeds.h"
 #include "reports/Report.h"
 #include "ui/widgets/ButtonRow.h"
-#include "ui/widgets/SaveDialog.h"
-#include "ui/widgets/WindowPlace.h"
+#include "ui/work/SaveDialog.h"
+#include "ui/work/WindowPlace.h"
 #include "ui_ReportViewerWindow.h"
 
 #include <QApplication>

@@ -14,13 +14,13 @@
 #include "platform/text/Value.h"
 #include "startup/CController.h"
 #include "store/CSystemOptions.h"
+#include "ui/boxes/ChosenOnly.h"
+#include "ui/boxes/FieldWidth.h"
 #include "ui/page/PageHost.h"
 #include "ui/profile/FAccountant.h"
 #include "ui/reports/OpenReports.h"
 #include "ui/reports/ReportPeople.h"
-#include "ui/widgets/ChosenOnly.h"
-#include "ui/widgets/FieldWidth.h"
-#include "ui/widgets/WorkProgress.h"
+#include "ui/work/WorkProgress.h"
 #include "ui_ReportsPage.h"
 
 #include <QScopedValueRollback>

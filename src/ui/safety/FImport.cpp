@@ -2,7 +2,7 @@
 
 #include "platform/Failure.h"
 #include "platform/Succeeds.h"
-#include "ui/widgets/WorkProgress.h"
+#include "ui/work/WorkProgress.h"
 #include "ui_FImport.h"
 
 #include <QFileDialog>

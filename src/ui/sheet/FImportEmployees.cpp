@@ -3,7 +3,7 @@
 #include "platform/Failure.h"
 #include "platform/Succeeds.h"
 #include "ui/sheet/DifferenceModel.h"
-#include "ui/widgets/WorkProgress.h"
+#include "ui/work/WorkProgress.h"
 #include "ui_FImportEmployees.h"
 
 #include <algorithm>

@@ -8,9 +8,9 @@
 #include "platform/system/Clock.h"
 #include "startup/CController.h"
 #include "store/CSystemOptions.h"
+#include "ui/boxes/ChosenOnly.h"
+#include "ui/boxes/EmployeeModels.h"
 #include "ui/page/PageHost.h"
-#include "ui/widgets/ChosenOnly.h"
-#include "ui/widgets/EmployeeModels.h"
 #include "ui/widgets/FoldingRow.h"
 #include "ui_CardChoice.h"
 

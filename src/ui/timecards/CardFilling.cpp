@@ -14,12 +14,12 @@
 #include "platform/system/Desktop.h"
 #include "startup/CController.h"
 #include "store/CSystemOptions.h"
+#include "ui/editors/FAutoFill.h"
 #include "ui/page/PageHost.h"
 #include "ui/timecards/CardChoice.h"
 #include "ui/timecards/CardReasons.h"
 #include "ui/timecards/CardStoring.h"
 #include "ui/timecards/CurrentCard.h"
-#include "ui/timecards/FAutoFill.h"
 #include "ui/widgets/NoticeLine.h"
 
 namespace ptk {

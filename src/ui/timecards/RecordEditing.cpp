@@ -13,12 +13,12 @@
 #include "platform/system/Desktop.h"
 #include "startup/CController.h"
 #include "store/CSystemOptions.h"
+#include "ui/editors/FTimeEditor.h"
 #include "ui/page/PageHost.h"
 #include "ui/timecards/CardChoice.h"
 #include "ui/timecards/CardReasons.h"
 #include "ui/timecards/CardStoring.h"
 #include "ui/timecards/CurrentCard.h"
-#include "ui/timecards/FTimeEditor.h"
 #include "ui/widgets/NoticeLine.h"
 
 #include <QScopedValueRollback>

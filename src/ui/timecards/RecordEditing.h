@@ -2,7 +2,7 @@
 #pragma once
 
 #include "office/card/NewRecord.h"
-#include "ui/timecards/TimeRecordReceiver.h"
+#include "ui/editors/TimeRecordReceiver.h"
 
 #include <functional>
 #include <memory>

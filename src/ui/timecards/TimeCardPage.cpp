@@ -8,6 +8,7 @@
 #include "platform/Required.h"
 #include "platform/Succeeds.h"
 #include "platform/system/Desktop.h"
+#include "ui/boxes/EmployeeModels.h"
 #include "ui/page/PageHost.h"
 #include "ui/reports/OpenReports.h"
 #include "ui/timecards/CardChoice.h"
@@ -17,7 +18,6 @@
 #include "ui/timecards/CurrentCard.h"
 #include "ui/timecards/HistoryActions.h"
 #include "ui/timecards/RecordEditing.h"
-#include "ui/widgets/EmployeeModels.h"
 #include "ui_TimeCardPage.h"
 
 #include <utility>

@@ -9,12 +9,12 @@
 #include "store/whole/BulkWriter.h"
 #include "support/Files.h"
 #include "support/OldDatabase.h"
+#include "ui/boxes/DateCombo.h"
 #include "ui/frame/QtDesktop.h"
 #include "ui/login/FServerPassword.h"
 #include "ui/safety/FFirstStart.h"
 #include "ui/safety/FImport.h"
 #include "ui/sheet/FImportEmployees.h"
-#include "ui/widgets/DateCombo.h"
 
 #include <cstdio>
 #include <QSettings>

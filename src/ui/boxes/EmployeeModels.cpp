@@ -1,4 +1,4 @@
-#include "ui/widgets/EmployeeModels.h"
+#include "ui/boxes/EmployeeModels.h"
 
 #include "model/CEmployee.h"
 #include "model/CEmployeeList.h"

@@ -1,6 +1,6 @@
-#include "ui/widgets/ChosenOnly.h"
+#include "ui/boxes/ChosenOnly.h"
 
-#include "ui/widgets/Proposals.h"
+#include "ui/boxes/Proposals.h"
 
 #include <QComboBox>
 #include <QEvent>

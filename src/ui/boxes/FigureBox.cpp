@@ -1,4 +1,4 @@
-#include "ui/widgets/FigureBox.h"
+#include "ui/boxes/FigureBox.h"
 
 #include <QApplication>
 #include <QEvent>

@@ -1,7 +1,7 @@
-#include "ui/frame/FAbout.h"
+#include "ui/help/FAbout.h"
 
 #include "ui/widgets/ThemeIcon.h"
-#include "ui/widgets/WindowPlace.h"
+#include "ui/work/WindowPlace.h"
 #include "ui_FAbout.h"
 
 namespace ptk {

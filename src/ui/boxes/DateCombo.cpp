@@ -1,4 +1,4 @@
-#include "ui/widgets/DateCombo.h"
+#include "ui/boxes/DateCombo.h"
 
 #include "platform/system/Clock.h"
 #include "platform/text/Text.h"

@@ -1,4 +1,4 @@
-#include "ui/widgets/SaveDialog.h"
+#include "ui/work/SaveDialog.h"
 
 #include "office/reports/SaveReport.h"
 

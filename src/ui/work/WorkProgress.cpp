@@ -1,6 +1,6 @@
-#include "ui/widgets/WorkProgress.h"
+#include "ui/work/WorkProgress.h"
 
-#include "ui/widgets/PaintMeanwhile.h"
+#include "ui/work/PaintMeanwhile.h"
 
 #include <QApplication>
 #include <QDialogButtonBox>

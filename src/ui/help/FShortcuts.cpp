@@ -1,4 +1,4 @@
-#include "ui/frame/FShortcuts.h"
+#include "ui/help/FShortcuts.h"
 
 #include "ui_FShortcuts.h"
 

@@ -1,4 +1,4 @@
-#include "ui/widgets/ProgramEnd.h"
+#include "ui/work/ProgramEnd.h"
 
 namespace ptk {
 

@@ -1,7 +1,7 @@
-#include "ui/widgets/PaintMeanwhile.h"
+#include "ui/work/PaintMeanwhile.h"
 
 #include "store/engine/Waiting.h"
-#include "ui/widgets/WorkProgress.h"
+#include "ui/work/WorkProgress.h"
 
 #include <QApplication>
 #include <QEvent>

@@ -1,6 +1,6 @@
-#include "ui/widgets/Proposals.h"
+#include "ui/boxes/Proposals.h"
 
-#include "ui/widgets/BoxText.h"
+#include "ui/boxes/BoxText.h"
 
 #include <algorithm>
 #include <QAbstractProxyModel>

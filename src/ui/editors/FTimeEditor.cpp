@@ -1,4 +1,4 @@
-#include "ui/timecards/FTimeEditor.h"
+#include "ui/editors/FTimeEditor.h"
 
 #include "model/CTimeRecord.h"
 #include "model/payday/Closing.h"
@@ -8,7 +8,7 @@
 #include "platform/system/Clock.h"
 #include "platform/system/Desktop.h"
 #include "platform/text/Text.h"
-#include "ui/timecards/TimeRecordReceiver.h"
+#include "ui/editors/TimeRecordReceiver.h"
 #include "ui_FTimeEditor.h"
 
 namespace ptk {

@@ -1,4 +1,4 @@
-#include "ui/widgets/WindowPlace.h"
+#include "ui/work/WindowPlace.h"
 
 #include <QApplication>
 #include <QScreen>

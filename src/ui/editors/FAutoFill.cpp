@@ -1,4 +1,4 @@
-#include "ui/timecards/FAutoFill.h"
+#include "ui/editors/FAutoFill.h"
 
 #include "model/CTimeRecord.h"
 #include "model/CTimeRecordList.h"

@@ -1,12 +1,12 @@
-#include "ui/frame/HelpMenu.h"
+#include "ui/help/HelpMenu.h"
 
 #include "office/business/Guide.h"
 #include "platform/files/ProgramFolder.h"
 #include "platform/Succeeds.h"
 #include "platform/system/Desktop.h"
 #include "shell/CDocLauncher.h"
-#include "ui/frame/FAbout.h"
-#include "ui/frame/FShortcuts.h"
+#include "ui/help/FAbout.h"
+#include "ui/help/FShortcuts.h"
 #include "ui/page/PageHost.h"
 #include "ui/widgets/ThemeIcon.h"
 

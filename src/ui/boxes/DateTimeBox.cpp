@@ -1,4 +1,4 @@
-#include "ui/widgets/DateTimeBox.h"
+#include "ui/boxes/DateTimeBox.h"
 
 #include "platform/system/Clock.h"
 #include "platform/text/Text.h"

@@ -1,4 +1,4 @@
-#include "ui/widgets/ReasonBox.h"
+#include "ui/boxes/ReasonBox.h"
 
 #include "platform/system/Desktop.h"
 

@@ -1,4 +1,4 @@
-#include "ui/widgets/SpentUndoKeys.h"
+#include "ui/boxes/SpentUndoKeys.h"
 
 #include <QAbstractSpinBox>
 #include <QApplication>

@@ -1,4 +1,4 @@
-#include "ui/widgets/FieldWidth.h"
+#include "ui/boxes/FieldWidth.h"
 
 #include <QWidget>
 
