@@ -117,6 +117,15 @@ TEST_F(PaydayWindowTest, ClosesTheChosenOnesAfterAQuestionAndReopensThem)
     auto& table = Find<QTableView>(Window(), "grdOverview");
     table.selectRow(0);
     EXPECT_EQ(Find<QPushButton>(Window(), "cmdClosePayday").text(), "Close Pa&yday (1 chosen)");
+    {
+        const ExpectedModal accountant([](QDialog& window) {
+            EXPECT_EQ(window.windowTitle(), "Save for Accountant: 3/1/2003 - 3/15/2003");
+            EXPECT_EQ(Find<QTableWidget>(window, "grdPreview").rowCount(), 1) << "the chosen one alone";
+            Click(window, "cmdClose");
+        });
+        Find<QAction>(Window(), "mnuAccountant").trigger();
+        QApplication::setActiveWindow(&Window());
+    }
     program.desktop.answers = {Answer::No, Answer::Yes};
     Do("cmdClosePayday");
     EXPECT_EQ(Paid(), std::vector<std::string>());
