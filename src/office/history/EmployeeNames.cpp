@@ -74,7 +74,7 @@ void EmployeeNames::Learn(const TrailEntry& entry)
 void EmployeeNames::LearnGone(const std::shared_ptr<CJetDB>& database)
 {
     TrailQuery query;
-    query.kind = TrailKind::Employees;
+    query.kind = TrailKind::People;
     query.action = "delete";
     ReadTrail(database, query, [this](const TrailEntry& entry) { Learn(entry); });
 }
@@ -115,7 +115,7 @@ std::optional<std::int64_t> FindInHistory(const std::shared_ptr<CJetDB>& databas
     }
     std::optional<std::int64_t> found;
     TrailQuery query;
-    query.kind = TrailKind::Employees;
+    query.kind = TrailKind::People;
     ReadTrail(database, query, [&](const TrailEntry& entry) {
         if (names.FormerOf(entry) == name && !found) {
             found = entry.row;

@@ -56,7 +56,7 @@ struct TrailEntry
 enum class TrailKind : std::uint8_t
 {
     TimeRecords,
-    Employees,
+    People, // of the table Employee
     Companies,
     Options, // those of the check, too
     Paydays,

@@ -25,7 +25,7 @@ const char* ConditionOf(TrailKind kind)
     switch (kind) {
     case TrailKind::TimeRecords:
         return "TableName = 'TimeRecord'";
-    case TrailKind::Employees:
+    case TrailKind::People:
         return "TableName IS DISTINCT FROM 'TimeRecord' AND TableName = 'Employee'";
     case TrailKind::Companies:
         return "TableName IS DISTINCT FROM 'TimeRecord' AND TableName = 'Company'";

@@ -24,7 +24,7 @@ struct KindChoice
 };
 
 constexpr KindChoice kKinds[] = {
-    {"Everything", std::nullopt},        {"Time records", TrailKind::TimeRecords}, {"Employees", TrailKind::Employees},
+    {"Everything", std::nullopt},        {"Time records", TrailKind::TimeRecords}, {"Employees", TrailKind::People},
     {"Companies", TrailKind::Companies}, {"Options", TrailKind::Options},          {"Restores and imports", TrailKind::Whole},
 };
 

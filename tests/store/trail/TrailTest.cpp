@@ -260,7 +260,7 @@ const QueryCase kQueryCases[] = {
     {"another tool", [](TrailQuery& query) { query.person = ""; }, "10 8 ", ""},
     {"a person's of an employee", [](TrailQuery& query) { query.person = "Ann Lee", query.employee = 40; }, "5 2 1 ", "_Change"},
     {"time records", [](TrailQuery& query) { query.kind = TrailKind::TimeRecords; }, "7 6 5 4 3 2 ", ""},
-    {"employees", [](TrailQuery& query) { query.kind = TrailKind::Employees; }, "1 ", "_ChangeOther (TableName=?"},
+    {"employees", [](TrailQuery& query) { query.kind = TrailKind::People; }, "1 ", "_ChangeOther (TableName=?"},
     {"companies", [](TrailQuery& query) { query.kind = TrailKind::Companies; }, "9 ", "_ChangeOther (TableName=?"},
     {"options", [](TrailQuery& query) { query.kind = TrailKind::Options; }, "8 ", "_ChangeOther (TableName=?"},
     {"whole", [](TrailQuery& query) { query.kind = TrailKind::Whole; }, "10 ", "_ChangeOther (TableName=?"},
