@@ -1,8 +1,10 @@
 """A business of 40 people on the day after a pay period, with about 20 mistakes of all kinds in it: what payday.py is driven on."""
 import datetime
+import json
 import pathlib
 import sqlite3
 import subprocess
+import time
 
 PEOPLE = 40
 FIRST = 40  # the number of the first employee of a new database
@@ -108,7 +110,7 @@ class Business:
         day = self.change(15, 6, "EndTime = EndTime")
         self.change(15, 6, "StartTime = ?, EndTime = ?", moment(day, 0), moment(day, 13))
         self.shift(15, day, (13,), moment(day + day_after, 1))  # 25 hours in a day
-        self.change(16, 8, "EndTime = '5:30 PM'")  # another program's
+        self.unreadable_day = self.change(16, 8, "EndTime = '5:30 PM'")  # another program's
         self.database.execute("UPDATE Employee SET HireDate = ? WHERE EmployeeID = ?", (moment(self.day(1), 0), FIRST + 17))  # worked before
         self.database.execute("UPDATE Employee SET Active = 0 WHERE EmployeeID = ?", (FIRST + 18,))  # left, in no list
         self.database.execute("DELETE FROM TimeRecord WHERE EmployeeID = ? AND StartTime >= ?", (FIRST + 19, moment(self.first, 0)))  # no shift
@@ -128,3 +130,42 @@ class Business:
         self.paid_before()
         self.plant()
         self.database.commit()
+
+    def overview(self):
+        days = ("--from", f"{self.first:%m/%d/%Y}", "--to", f"{self.last:%m/%d/%Y}")
+        return json.loads(self.run("overview", *days, "--all", "--format", "json", statuses=(0, 3)))
+
+    def problems(self):
+        return self.overview()["totals"]["problems"]
+
+    def notices(self):
+        return self.overview()["totals"]["notices"]
+
+    def with_problems(self):
+        """In the order in which the payday overview lists them: most problems first, then most notices, then as in every list."""
+        employees = [employee for employee in self.overview()["employees"] if employee["problems"]]
+        return [employee["id"] - FIRST for employee in sorted(employees, key=lambda one: (-one["problems"], -one["notices"]))]
+
+    def reports(self, pattern):
+        return list((self.folder / "reports").glob(pattern))
+
+    def fake_printer(self):
+        """A folder with programs that take what is printed instead of the system's."""
+        folder = self.folder / "printer"
+        folder.mkdir()
+        for name, text in (("lp", f"#!/bin/sh\ncat > /dev/null\necho printed >> {folder}/pages\n"), ("lpstat", "#!/bin/sh\necho scheduler is running\n")):
+            (folder / name).write_text(text)
+            (folder / name).chmod(0o755)
+        return folder
+
+    def printed(self):
+        pages = self.folder / "printer/pages"
+        return len(pages.read_text().splitlines()) if pages.exists() else 0
+
+    @staticmethod
+    def until(true, what):
+        end = time.monotonic() + 60
+        while not true():
+            if time.monotonic() > end:
+                raise RuntimeError(f"no {what}")
+            time.sleep(0.2)
