@@ -294,6 +294,7 @@ void TakePayday(GuiProgram& program, const Photographer& photographer)
             throw database->LastFailure();
         }
     };
+    run("DELETE FROM _Payday"); // of the pictures before
     run("INSERT INTO TimeRecord (EmployeeID, StartTime, EndTime) SELECT EmployeeID, #3/3/2003 8:00 AM#, #3/3/2003 4:30 PM# FROM Employee "
         "WHERE "
         "LastName = 'Lindqvist'");
