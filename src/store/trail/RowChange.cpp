@@ -6,7 +6,9 @@
 
 #include <algorithm>
 #include <fmt/format.h>
+#include <fmt/ranges.h>
 #include <iterator>
+#include <span>
 
 namespace ptk {
 
@@ -78,52 +80,116 @@ std::int64_t KeyNow(const RowChange& change)
     throw RowChanged({change.table, static_cast<std::int32_t>(KeyNow(change)), {}});
 }
 
-bool Any(Engine& engine, const std::string& condition)
+// Changes of one kind and one table, each of another row: one question is asked about all of them.
+using Portion = std::span<const RowChange>;
+constexpr std::size_t kMostTogether = 200;
+
+std::string KeysOf(Portion portion)
 {
-    return engine.Prepare("SELECT EXISTS (SELECT 1 FROM " + condition + ")")->ReadRows()->Int32At(0) != 0;
+    std::vector<std::int64_t> keys(portion.size());
+    std::transform(portion.begin(), portion.end(), keys.begin(), KeyNow);
+    return fmt::format("{}", fmt::join(keys, ","));
 }
 
-void RequireUntouched(Engine& engine, const RowChange& change, const KnownSteps& known)
+// "Employee WHERE EmployeeID IN (41,42)"
+std::string RowsOf(Portion portion)
 {
-    const auto entries = engine.Prepare(fmt::format("SELECT Step FROM _Change WHERE ChangeID > {} AND TableName = '{}' AND RowID = {}",
-                                                    known.newerThan, change.table, KeyNow(change)));
-    for (const auto rows = entries->ReadRows(); !rows->EndOfFile(); rows->MoveNext()) {
-        const std::int64_t step = rows->IsNull(0) ? 0 : rows->Int64At(0);
-        if (step == 0 || (step != engine.StepNumber() && !known.steps.contains(step))) {
-            Refuse(change);
+    const std::string& table = portion.front().table;
+    return fmt::format("{} WHERE {} IN ({})", table, KeyOf(table), KeysOf(portion));
+}
+
+// Where a question about the portion has an answer, the row that its first column names is not to be changed.
+template <typename IsAllowed>
+void RefuseAnswered(Engine& engine, Portion portion, const std::string& question, IsAllowed isAllowed)
+{
+    const auto found = engine.Prepare(question);
+    for (const auto rows = found->ReadRows(); !rows->EndOfFile(); rows->MoveNext()) {
+        if (isAllowed(*rows)) {
+            continue;
         }
+        const auto change =
+            std::find_if(portion.begin(), portion.end(), [&](const RowChange& one) { return KeyNow(one) == rows->Int64At(0); });
+        Refuse(change == portion.end() ? portion.front() : *change);
     }
 }
 
-void RequireNone(Engine& engine, const RowChange& change, const char* table, const char* column)
+void RefuseAnswered(Engine& engine, Portion portion, const std::string& question)
+{
+    RefuseAnswered(engine, portion, question, [](const RecordSet&) { return false; });
+}
+
+// Locked, so that nobody else can change them any more.
+void RequireAsBefore(Engine& engine, Portion portion)
+{
+    const std::string key = KeyOf(portion.front().table);
+    std::string conditions;
+    for (const RowChange& change : portion) {
+        conditions +=
+            fmt::format("{}{} = {}{}", conditions.empty() ? "" : " OR ", key, KeyNow(change), Holding(*change.before, engine.Words()));
+    }
+    std::set<std::int64_t> same;
+    const auto found =
+        engine.Prepare(fmt::format("SELECT {} FROM {} AND ({}){}", key, RowsOf(portion), conditions, engine.Words().lockRows));
+    for (const auto rows = found->ReadRows(); !rows->EndOfFile(); rows->MoveNext()) {
+        same.insert(rows->Int64At(0));
+    }
+    const auto other =
+        std::find_if(portion.begin(), portion.end(), [&](const RowChange& change) { return !same.contains(KeyNow(change)); });
+    if (other != portion.end()) {
+        Refuse(*other);
+    }
+}
+
+void RequireUntouched(Engine& engine, Portion portion, const KnownSteps& known)
+{
+    const auto isOurs = [&](const RecordSet& entry) {
+        const std::int64_t step = entry.IsNull(1) ? 0 : entry.Int64At(1);
+        return step != 0 && (step == engine.StepNumber() || known.steps.contains(step));
+    };
+    RefuseAnswered(engine, portion,
+                   fmt::format("SELECT RowID, Step FROM _Change WHERE ChangeID > {} AND TableName = '{}' AND RowID IN ({})",
+                               known.newerThan, portion.front().table, KeysOf(portion)),
+                   isOurs);
+}
+
+void RequireNone(Engine& engine, Portion portion, const char* table, const char* column)
 {
     if (const std::string lock = Said(engine.Words().lockTable, table); !lock.empty()) {
         engine.Prepare(lock)->Run();
     }
-    if (Any(engine, fmt::format("{} WHERE {} = {}", table, column, change.row))) {
-        Refuse(change);
-    }
+    RefuseAnswered(engine, portion, fmt::format("SELECT {0} FROM {1} WHERE {0} IN ({2}) LIMIT 1", column, table, KeysOf(portion)));
 }
 
 // A person's time records and a company's people would be nobody's.
-void RequireUnused(Engine& engine, const RowChange& change)
+void RequireUnused(Engine& engine, Portion portion)
 {
-    if (change.table == "Employee") {
-        RequireNone(engine, change, "TimeRecord", "EmployeeID");
-    } else if (change.table == "Company") {
-        RequireNone(engine, change, "Employee", "CompanyID");
+    if (portion.front().table == "Employee") {
+        RequireNone(engine, portion, "TimeRecord", "EmployeeID");
+    } else if (portion.front().table == "Company") {
+        RequireNone(engine, portion, "Employee", "CompanyID");
     }
 }
 
-std::string InsertSql(const RowChange& change, const EngineWords& words)
+std::string ValuesOf(const RowChange& change, const EngineWords& words)
 {
-    std::string columns;
     std::string values;
     for (const TrailValue& value : *change.after) {
-        columns += (columns.empty() ? "" : ", ") + Quoted(value.column);
         values += (values.empty() ? "" : ", ") + Literal(value, words);
     }
-    return fmt::format("INSERT INTO {} ({}) VALUES ({})", change.table, columns, values);
+    return '(' + values + ')';
+}
+
+std::string InsertSql(Portion portion, const EngineWords& words)
+{
+    std::string columns;
+    for (const TrailValue& value : *portion.front().after) {
+        columns += (columns.empty() ? "" : ", ") + Quoted(value.column);
+    }
+    std::string rows;
+    for (const RowChange& change : portion) {
+        rows += (rows.empty() ? "" : ", ") + ValuesOf(change, words);
+    }
+    return fmt::format("INSERT INTO {} ({}) VALUES {}", portion.front().table, columns, rows);
 }
 
 std::string UpdateSql(const RowChange& change, const EngineWords& words)
@@ -135,25 +201,51 @@ std::string UpdateSql(const RowChange& change, const EngineWords& words)
     return fmt::format("UPDATE {} SET {} WHERE {} = {}", change.table, set, KeyOf(change.table), KeyNow(change));
 }
 
-void RedoOne(Engine& engine, const RowChange& change, const KnownSteps& known)
+void Add(Engine& engine, Portion portion, const KnownSteps& known)
 {
-    const std::string row = fmt::format("{} WHERE {} = {}", change.table, KeyOf(change.table), KeyNow(change));
-    if (!change.before) {
-        RequireUntouched(engine, change, known);
-        if (Any(engine, row)) {
-            Refuse(change);
-        }
-        return engine.Prepare(InsertSql(change, engine.Words()))->Run();
+    RequireUntouched(engine, portion, known);
+    RefuseAnswered(engine, portion, fmt::format("SELECT {} FROM {}", KeyOf(portion.front().table), RowsOf(portion)));
+    engine.Prepare(InsertSql(portion, engine.Words()))->Run();
+}
+
+void RedoTogether(Engine& engine, Portion portion, const KnownSteps& known)
+{
+    if (!portion.front().before) {
+        return Add(engine, portion, known);
     }
-    if (!Any(engine, row + Holding(*change.before, engine.Words()) + engine.Words().lockRows)) {
-        Refuse(change);
+    RequireAsBefore(engine, portion);
+    RequireUntouched(engine, portion, known);
+    if (!portion.front().after) {
+        RequireUnused(engine, portion);
+        return engine.Prepare("DELETE FROM " + RowsOf(portion))->Run();
     }
-    RequireUntouched(engine, change, known); // now that nobody else can change it any more
-    if (change.after) {
-        return engine.Prepare(UpdateSql(change, engine.Words()))->Run();
+    for (const RowChange& change : portion) {
+        engine.Prepare(UpdateSql(change, engine.Words()))->Run();
     }
-    RequireUnused(engine, change);
-    engine.Prepare("DELETE FROM " + row)->Run();
+}
+
+bool HasSameColumns(const std::optional<TrailRow>& one, const std::optional<TrailRow>& other)
+{
+    const auto named = [](const TrailValue& left, const TrailValue& right) { return left.column == right.column; };
+    return !one || std::equal(one->begin(), one->end(), other->begin(), other->end(), named);
+}
+
+bool GoTogether(const RowChange& one, const RowChange& other)
+{
+    return one.table == other.table && one.before.has_value() == other.before.has_value() &&
+           one.after.has_value() == other.after.has_value() && HasSameColumns(one.after, other.after);
+}
+
+// As many as can be from the first on. A row that is changed twice is changed in two portions.
+Portion FirstOf(Portion changes)
+{
+    std::set<std::int64_t> keys;
+    std::size_t count = 0;
+    while (count < changes.size() && count < kMostTogether && GoTogether(changes.front(), changes[count]) &&
+           keys.insert(KeyNow(changes[count])).second) {
+        ++count;
+    }
+    return changes.first(count);
 }
 
 } // namespace
@@ -169,8 +261,10 @@ std::vector<RowChange> Inverse(const std::vector<RowChange>& changes)
 
 void Redo(Engine& engine, const std::vector<RowChange>& changes, const KnownSteps& known)
 {
-    for (const RowChange& change : changes) {
-        RedoOne(engine, change, known);
+    for (Portion left = changes; !left.empty();) {
+        const Portion portion = FirstOf(left);
+        RedoTogether(engine, portion, known);
+        left = left.subspan(portion.size());
     }
 }
 

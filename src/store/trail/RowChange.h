@@ -34,7 +34,8 @@ struct KnownSteps
 };
 
 // As steps of Engine::Write: does these changes. Raises RowChanged when a row is not as they begin with, or an entry of the trail tells
-// that somebody else changed it meanwhile, or others rely on a row that is to go. A row that comes back has its number again.
+// that somebody else changed it meanwhile, or others rely on a row that is to go. A row that comes back has its number again. Up to 200
+// rows that are added or deleted together are asked about together and changed by one statement; others take one more each.
 void Redo(Engine& engine, const std::vector<RowChange>& changes, const KnownSteps& known);
 
 } // namespace ptk
