@@ -28,7 +28,7 @@ struct StoredProfile
 // read. Profiles are not in the edit trail: they are how figures are written, not figures.
 [[nodiscard]] bool SaveStoredProfile(const std::shared_ptr<CJetDB>& database, const StoredProfile& profile, const StoredProfile& asRead);
 
-// False in the same way; one that is no more is deleted.
+// On disk when it answers true; false with what CJetDB::ExecuteSteps leaves, also where the stored one is no longer as it was read.
 [[nodiscard]] bool DeleteStoredProfile(const std::shared_ptr<CJetDB>& database, const StoredProfile& asRead);
 
 } // namespace ptk

@@ -29,10 +29,10 @@ struct TableFile
     std::size_t lost = 0; // characters that the encoding lacks, each of them a question mark
 };
 
-// Lines end in CR LF. REQUIRES the same.
+// Lines end in CR LF. REQUIRES: the profile has no fault; the people's overviews where it needs them.
 [[nodiscard]] TableFile TableFileOf(const Profile& profile, std::span<const PaidPerson> people);
 
-// The same in UTF-8 without a mark, for a terminal.
+// The table in UTF-8 without a mark, for a terminal. REQUIRES: as the file's.
 [[nodiscard]] std::string TableText(const Profile& profile, std::span<const PaidPerson> people);
 
 // "accountant_2026-03-01_2026-03-14.csv".

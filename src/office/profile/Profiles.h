@@ -37,7 +37,7 @@ struct KnownProfile
 // with the profile, that its name is taken, that somebody else changed it meanwhile, or why the database refused it.
 void SaveProfile(const std::shared_ptr<CJetDB>& database, const Profile& profile, const KnownProfile* replaced = nullptr);
 
-// Raises the same. REQUIRES: not a ready one.
+// Raises a failure whose words say that somebody else changed it meanwhile, or why the database refused it. REQUIRES: not a ready one.
 void DeleteProfile(const std::shared_ptr<CJetDB>& database, const KnownProfile& known);
 
 } // namespace ptk
