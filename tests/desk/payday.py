@@ -48,7 +48,7 @@ class Desk:
         for key in keys:
             self.run("xdotool", "key", "--clearmodifiers", key)
             self.count(1, key)
-            time.sleep(0.35)
+            time.sleep(0.5)
 
     def type(self, text):
         self.run("xdotool", "type", "--delay", "40", text)
@@ -65,7 +65,7 @@ class Desk:
                 self.picture("stuck")
                 raise RuntimeError(f"no {title}; in front is {self.active()!r}")
             time.sleep(0.1)
-        time.sleep(0.5)
+        time.sleep(1.2)  # the program learns a little later that its window is in front
 
     def note(self, what):
         self.log.append(f"     -- {what}")
@@ -191,7 +191,7 @@ def mend_rest(desk, business):
     desk.key("F3", "Return")
     desk.wait(MAIN)
     for person in people:
-        time.sleep(0.5)
+        time.sleep(1.2)
         desk.note(f"person {person}")
         WAYS.get(person, lambda desk, _: next_person(desk))(desk, business)
 

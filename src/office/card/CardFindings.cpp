@@ -1,7 +1,6 @@
 #include "office/card/CardFindings.h"
 
 #include "model/check/FindingText.h"
-#include "model/payday/PaidText.h"
 #include "office/card/CheckedTimecard.h"
 #include "platform/text/Text.h"
 
@@ -100,13 +99,9 @@ std::string FindingDetailText(const CheckedTimecard& checked)
     if (!checked.check) {
         return checked.failure.Number() == 0 ? std::string() : kNotChecked + checked.failure.Description();
     }
-    const std::string paid = checked.paid ? PaidText(*checked.paid) : std::string();
     const auto spoils = [](const Punch& punch) { return punch.fetched && !punch.IsReadable(); };
     const auto spoiler = std::find_if(checked.punches.begin(), checked.punches.end(), spoils);
-    if (spoiler == checked.punches.end()) {
-        return paid;
-    }
-    return (paid.empty() ? paid : paid + ". ") + UnreadableText(*spoiler);
+    return spoiler == checked.punches.end() ? std::string() : UnreadableText(*spoiler);
 }
 
 FindingPlace PlaceOf(const Finding& finding, const CheckedTimecard& checked)

@@ -31,8 +31,8 @@ using RowMarks = std::unordered_map<std::int64_t, RowMark>; // by TimeRecordID
 
 [[nodiscard]] RowMarks MarksOf(const CardCheck& check, bool showNotices);
 
-// The line between grid and figures: "2 problems, 1 notice". Behind it when and by whom the period was paid, and the record that keeps the
-// card from being made, and its value, or why nothing was checked. Both can be empty.
+// The line between grid and figures: "2 problems, 1 notice". Behind it the record that keeps the card from being made, and its value, or
+// why nothing was checked. Both can be empty.
 [[nodiscard]] std::string FindingLineText(const CheckedTimecard& checked);
 [[nodiscard]] std::string FindingDetailText(const CheckedTimecard& checked);
 

@@ -5,6 +5,7 @@
 #include "office/card/CardFindings.h"
 #include "office/card/CheckedTimecard.h"
 #include "ui/timecards/RemedyRow.h"
+#include "ui/widgets/ElidedLabel.h"
 #include "ui/widgets/FindingList.h"
 #include "ui/widgets/FoldingRow.h"
 #include "ui/widgets/HintLabel.h"
@@ -27,7 +28,6 @@ constexpr auto kLineKeys = "Alt+L";
 constexpr auto kEditHint = "Enter edits the record";
 constexpr auto kEditLine = "Edit the Record";
 constexpr auto kDeleteLine = "Delete the Record";
-constexpr auto kPaidTip = "As it was paid: %1";
 constexpr auto kHoursCaption = "Hours per day:";
 constexpr auto kHoursHint = "The hours of a generated card stand here. F9 shows everybody's pay and problems.";
 
@@ -47,12 +47,13 @@ QIcon IconOf(const CardCheck& check)
 } // namespace
 
 CheckPanel::CheckPanel(QWidget* parent)
-    : QWidget(parent), m_line(new QToolButton(this)), m_detail(new HintLabel(this)), m_list(new FindingList(this)),
-      m_remedies(new RemedyRow(this)), m_legend(new QWidget(this)), m_chart(new HoursChart(this))
+    : QWidget(parent), m_line(new QToolButton(this)), m_paid(new ElidedLabel(this)), m_detail(new HintLabel(this)),
+      m_list(new FindingList(this)), m_remedies(new RemedyRow(this)), m_legend(new QWidget(this)), m_chart(new HoursChart(this))
 {
     m_line->setObjectName("cmdFindings");
     m_line->setAccessibleDescription(kLineDescription);
     m_line->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    m_paid->setObjectName("lblPaid");
     m_detail->setObjectName("lblFindings");
     m_list->setObjectName("lstFindings");
     m_list->KeepRoom(kListLines);
@@ -80,6 +81,7 @@ void CheckPanel::LayOut()
 {
     auto* line = new QHBoxLayout;
     line->addWidget(m_line);
+    line->addWidget(m_paid);
     line->addWidget(m_detail, 1);
     auto* legend = new QHBoxLayout(m_legend);
     legend->setContentsMargins(0, 0, 0, 0);
@@ -122,7 +124,8 @@ void CheckPanel::ShowLine()
     m_line->setVisible(has);
     m_detail->Say(m_checked == nullptr ? QString() : QString::fromStdString(FindingDetailText(*m_checked)));
     const bool paid = m_checked != nullptr && m_checked->paid;
-    m_detail->setToolTip(paid ? QString(kPaidTip).arg(QString::fromStdString(PaidFigures(*m_checked->paid))) : QString());
+    m_paid->setText(paid ? QString::fromStdString(PaidText(*m_checked->paid) + ": " + PaidFigures(*m_checked->paid)) : QString());
+    m_paid->setVisible(paid);
     if (has) {
         m_line->setText(QString::fromStdString(FindingLineText(*m_checked)));
         m_line->setShortcut(QKeySequence(kLineKeys)); // which every text takes away

@@ -15,6 +15,7 @@ class QToolButton;
 
 namespace ptk {
 
+class ElidedLabel;
 class FindingList;
 class HintLabel;
 class HoursChart;
@@ -80,6 +81,7 @@ private:
     void ShowMenu(const QPoint& place);
 
     QToolButton* m_line; // all of these belong to the widget
+    ElidedLabel* m_paid;
     HintLabel* m_detail;
     FindingList* m_list;
     RemedyRow* m_remedies;
