@@ -230,11 +230,15 @@ def print_cards(desk, business):
 def print_review(desk, business):
     desk.key("ctrl+shift+w")
     desk.wait(MAIN)
-    desk.key("alt+p", "Down", "Return")
+    desk.key("alt+p", "Down", "alt+s", "alt+i")
+    time.sleep(1)
+    desk.key("alt+a", "Return")
+    desk.wait("Report Generation Error")
+    desk.key("Return")  # of the one who has no shift
     business.until(lambda: business.reports("*review*"), "the review")
     time.sleep(1)
     desk.note("review")
-    desk.key("ctrl+p")
+    desk.key("ctrl+shift+p")
     business.until(lambda: business.printed() >= PEOPLE + 1, "the printed review")
 
 
