@@ -138,8 +138,7 @@ TEST_F(RoundTripsTest, Payday)
     };
     EXPECT_EQ(Of([&] { return close("2/1/2003", "2/14/2003"); }), 16 + 1) << "all their entries";
     EXPECT_EQ(Of([&] { return close("3/3/2003", "3/16/2003"); }), 18 + 1) << "the days between are asked for in portions, too";
-    EXPECT_EQ(Of([&] { return undo.Undo(); }), 3 * 3 + 2)
-        << "each row is looked at, its entries are, and it is removed; one had a problem";
+    EXPECT_EQ(Of([&] { return undo.Undo(); }), 3 * 3 + 2) << "each row is looked at, its entries are, and it is removed; one had a problem";
 }
 
 } // namespace
