@@ -39,7 +39,7 @@ public:
     // All that CheckCard needs, by start, end and number.
     Punches Read(std::int32_t employeeID);
 
-    // The same of records that name no employee there is: by the number that they have, or of those without one.
+    // All that CheckCard needs of records that name no employee there is: by the number that they have, or of those without one.
     Punches ReadOfNobody(CJetDB& database, const std::optional<std::int64_t>& employeeID) const;
 
 private:

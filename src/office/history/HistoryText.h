@@ -15,8 +15,8 @@ using NameOfEmployee = std::function<std::string(std::int64_t employeeID)>;
 // full stop.
 [[nodiscard]] std::string EntrySentence(const TrailEntry& entry, const NameOfEmployee& nameOf);
 
-// The same in two: "Ann Lee", empty where the entry is about no employee, and "end 03/05/2003 05:00 PM became 03/05/2003 06:00 PM",
-// "employee deleted", "Company 7: fax empty became "555"".
+// The sentence in two parts: "Ann Lee", empty where the entry is about no employee, and "end 03/05/2003 05:00 PM became 03/05/2003 06:00
+// PM", "employee deleted", "Company 7: fax empty became "555"".
 [[nodiscard]] std::string EntryEmployee(const TrailEntry& entry, const NameOfEmployee& nameOf);
 [[nodiscard]] std::string EntryDeed(const TrailEntry& entry, const NameOfEmployee& nameOf);
 

@@ -15,7 +15,7 @@ struct ReportDocument;
 // A table: under each employee the sentences on their card, at its end the sums. Lines end in CR LF.
 [[nodiscard]] std::string OverviewText(const Overview& overview);
 
-// The same for pages: an employee is kept together with the sentences.
+// The overview as text, for pages: an employee is kept together with the sentences.
 [[nodiscard]] ReportDocument OverviewDocument(const Overview& overview);
 
 // One line an employee and one a finding.

@@ -51,7 +51,7 @@ struct PaydayAccount
 // In the forms that docs/payday-format.md describes, with CR LF; CSV without a byte order mark. Raises what making pages raises.
 [[nodiscard]] std::string AccountIn(ReportForm form, const PaydayAccount& account);
 
-// The same as the bytes of a file: CSV with a byte order mark.
+// The account as the bytes of a file: CSV with a byte order mark.
 [[nodiscard]] std::string AccountFile(ReportForm form, const PaydayAccount& account);
 
 // "PTK payday 2003-03-01", the period's first day, without an ending.

@@ -40,8 +40,8 @@ public:
         return page == m_shown ? std::nullopt : std::optional(LeftBehind<Texts>{m_shown, page});
     }
 
-    // The same when an entry of this list has just been chosen, whose text has taken the place of what was typed there. A typed text that
-    // the chosen one holds was typed to find it, and is not missed.
+    // What differs when an entry of this list has just been chosen, whose text has taken the place of what was typed there. A typed text
+    // that the chosen one holds was typed to find it, and is not missed.
     [[nodiscard]] std::optional<LeftBehind<Texts>> LeftByChoice(Texts page, Field list) const
     {
         const bool sought = LowerCase(page.*list).find(LowerCase(m_typed.*list)) != std::string::npos;

@@ -7,7 +7,7 @@
 
 namespace ptk {
 
-// The same failure with ": " and the path at the end of its description.
+// The failure of a file with ": " and the path at the end of its description.
 class FailureOfFile final : public Failure
 {
 public:
