@@ -93,7 +93,7 @@ void CReportTimeCard::AddForm(const std::shared_ptr<CJetDB>& database, const std
     const bool generated = AddGenerated(employee, days);
     AddSignatures();
     if (generated) {
-        AddPaid(database, *employee, {days.StartDate(), days.EndDate()});
+        AddPaid(database, *employee, {days.StartDate(), days.EndDate()}); // the days that the card counts, whatever its title says
     }
 }
 

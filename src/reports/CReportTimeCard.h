@@ -26,7 +26,7 @@ public:
         return GenerateReport(request.database, request.employee, request.from, request.to);
     }
 
-    // The same form for a card already generated, as it stands. False with 706, 602, 503, 701.
+    // The form of a card that is already generated, as it stands. False with 706, 602, 503, 701.
     bool WriteTimeCardReport(const std::shared_ptr<CTimeCard>& theTimeCard);
 
 private:

@@ -39,7 +39,8 @@ public:
     // except where Replace had been done, too.
     void PlaceNew();
 
-    // The same under another name in the target's folder; false, and still a draft, where something has that name.
+    // Gives the draft another name in the target's folder; false, and still a draft, where something has that name. Raises what PlaceNew
+    // raises, save AlreadyThere.
     [[nodiscard]] bool PlaceAs(const std::string& target);
 
     // 75, with the name.

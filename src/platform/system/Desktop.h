@@ -69,7 +69,7 @@ public:
     // Modal; returns the button pressed (closing the box counts as No or Cancel where there is one, else Ok).
     virtual Answer MessageBox(const std::string& text, const std::string& title, Icon icon, Buttons buttons) = 0;
 
-    // The same with a line for a reason below the text.
+    // A message box with a line for a reason below the text; a desktop without windows asks for none.
     virtual Answer AskWithReason(const std::string& text, const std::string& title, Icon icon, Buttons buttons, ReasonLine& /*line*/)
     {
         return MessageBox(text, title, icon, buttons);
@@ -82,7 +82,7 @@ public:
     // ShellSuccess.
     virtual std::int32_t Shell(const DesktopWindow& owner, ShellVerb verb, const std::string& path) = 0;
 
-    // The same for printing, under a title that the print queue shows.
+    // Hands a document to the print spooler under a title that the print queue shows. Returns what Shell returns.
     virtual std::int32_t Print(const DesktopWindow& owner, const std::string& path, const std::string& /*title*/)
     {
         return Shell(owner, ShellVerb::Print, path);

@@ -41,10 +41,10 @@ public:
     [[nodiscard]] CalendarDate Date() const;
     [[nodiscard]] TimeOfDay Time() const;
 
-    // Since the zero date-time, negative before it.
+    // Whole days since the zero date-time, negative before it.
     [[nodiscard]] constexpr std::int64_t DayNumber() const { return Whole(m_seconds, kSecondsPerDay); }
 
-    // Likewise, the seconds cut off.
+    // Whole minutes since the zero date-time, the seconds cut off.
     [[nodiscard]] constexpr std::int64_t MinuteNumber() const { return Whole(m_seconds, kSecondsPerMinute); }
 
     // 0 Sunday to 6 Saturday.

@@ -21,7 +21,7 @@ namespace ptk {
 // minutes; anything else stands for itself. "mm/dd/yyyy hh:mm AM/PM" gives "03/05/2003 08:00 AM".
 [[nodiscard]] std::string FormatDateTime(DateTime value, std::string_view pattern);
 
-// The same, behind what `out` holds.
+// Adds what FormatDateTime gives behind what `out` holds.
 void AppendDateTime(std::string& out, DateTime value, std::string_view pattern);
 
 // Month/day/year with "/" or "-" (years of up to two digits: 00-29 are 2000-2029, 30-99 are 1930-1999), year first, month names, times of
