@@ -5,7 +5,6 @@
 #include "platform/text/Text.h"
 
 #include <fmt/format.h>
-#include <iterator>
 
 namespace ptk {
 
@@ -15,7 +14,7 @@ namespace {
 template <typename... Values>
 void Append(std::string& sql, fmt::format_string<Values...> text, Values&&... values)
 {
-    fmt::format_to(std::back_inserter(sql), text, std::forward<Values>(values)...);
+    sql += fmt::format(text, std::forward<Values>(values)...);
 }
 
 void BuildInsertSQL(std::string& sql, const TimeRecordRow& record)

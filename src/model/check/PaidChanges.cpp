@@ -2,13 +2,13 @@
 
 #include "model/check/PunchPlace.h"
 #include "model/check/WorkWeeks.h"
+#include "platform/text/Joined.h"
 #include "store/CJetDB.h"
 #include "store/engine/Statement.h"
 #include "store/engine/StoredDate.h"
 
 #include <algorithm>
 #include <fmt/format.h>
-#include <fmt/ranges.h>
 #include <map>
 #include <set>
 #include <string>
@@ -49,7 +49,7 @@ TrailValue PresentValue(const Statement& row, int column)
 States PresentStates(CJetDB& database, const std::vector<std::int64_t>& records)
 {
     States states;
-    const auto rows = RequireSelect(database, fmt::format(kPresent, fmt::join(records, ",")));
+    const auto rows = RequireSelect(database, fmt::format(kPresent, Joined(records, ",")));
     rows->ForEachRow([&] { states[rows->Int64At(0)] = TrailRow{PresentValue(*rows, 1), PresentValue(*rows, 2), PresentValue(*rows, 3)}; });
     return states;
 }

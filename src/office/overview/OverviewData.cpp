@@ -2,11 +2,10 @@
 #include "office/overview/Overview.h"
 #include "office/overview/OverviewTexts.h"
 #include "platform/text/DataText.h"
+#include "platform/text/Joined.h"
 #include "platform/text/Text.h"
 
 #include <fmt/format.h>
-#include <fmt/ranges.h>
-#include <iterator>
 
 namespace ptk {
 
@@ -86,7 +85,7 @@ std::string Json(const Remedy& remedy)
 std::string Json(const Finding& finding, const std::vector<Remedy>* remedies)
 {
     return fmt::format(R"({{"kind":"{}","severity":"{}","records":[{}],"minutes":{},"from":{},"to":{},"text":{}{}}})", NameOf(finding.kind),
-                       NameOf(SeverityOf(finding.kind)), fmt::join(finding.records, ","), finding.minutes, JsonMoment(finding.from),
+                       NameOf(SeverityOf(finding.kind)), Joined(finding.records, ","), finding.minutes, JsonMoment(finding.from),
                        JsonMoment(finding.to), JsonText(finding.text), remedies == nullptr ? "" : R"(,"remedies":)" + JsonList(*remedies));
 }
 
@@ -158,7 +157,7 @@ std::string Csv(const OverviewRow& row)
 std::string Csv(const CEmployee& employee, const Finding& finding)
 {
     return fmt::format("{},,,,,,,,{},{},{},{},{},{},{}\r\n", CsvEmployee(employee), NameOf(finding.kind), NameOf(SeverityOf(finding.kind)),
-                       fmt::join(finding.records, " "), finding.minutes, Moment(finding.from), Moment(finding.to), CsvText(finding.text));
+                       Joined(finding.records, " "), finding.minutes, Moment(finding.from), Moment(finding.to), CsvText(finding.text));
 }
 
 } // namespace
@@ -184,8 +183,8 @@ std::string OverviewJson(const Overview& overview)
         text += (&row == overview.rows.data() ? "\r\n" : ",\r\n") + Json(row, overview.withRemedies);
     }
     const OverviewTotals totals = TotalsOf(overview.rows);
-    fmt::format_to(std::back_inserter(text), "\r\n],\"leftOut\":{},\"totals\":{{{},\"clockedIn\":{},\"problems\":{},\"notices\":{}}}}}\r\n",
-                   JsonList(overview.leftOut), JsonFigures(totals.figures), totals.clockedIn, totals.problems, totals.notices);
+    text += fmt::format("\r\n],\"leftOut\":{},\"totals\":{{{},\"clockedIn\":{},\"problems\":{},\"notices\":{}}}}}\r\n",
+                        JsonList(overview.leftOut), JsonFigures(totals.figures), totals.clockedIn, totals.problems, totals.notices);
     return text;
 }
 

@@ -6,6 +6,7 @@
 #include "office/overview/Overview.h"
 #include "platform/ErrorNumbers.h"
 #include "platform/Failure.h"
+#include "platform/text/Joined.h"
 #include "store/CJetDB.h"
 #include "store/engine/Engine.h"
 #include "store/engine/EngineWords.h"
@@ -14,7 +15,6 @@
 
 #include <algorithm>
 #include <fmt/format.h>
-#include <fmt/ranges.h>
 #include <span>
 #include <utility>
 
@@ -95,7 +95,7 @@ public:
             }
         }
         if (!rows.empty()) {
-            m_engine.Prepare(fmt::format("DELETE FROM _Payday WHERE PaydayID IN ({})", fmt::join(rows, ",")))->Run();
+            m_engine.Prepare(fmt::format("DELETE FROM _Payday WHERE PaydayID IN ({})", Joined(rows, ",")))->Run();
         }
         return lines;
     }
@@ -162,7 +162,7 @@ private:
         const std::string& by = m_database->StoredBy().name;
         for (std::size_t at = 0; at < m_values.size(); at += kRowsAtOnce) {
             const std::span<const std::string> left = std::span(m_values).subspan(at);
-            const auto insert = m_engine.Prepare(fmt::format(kInsert, fmt::join(left.first(std::min(kRowsAtOnce, left.size())), ", ")));
+            const auto insert = m_engine.Prepare(fmt::format(kInsert, Joined(left.first(std::min(kRowsAtOnce, left.size())), ", ")));
             insert->Bind("by", by.empty() ? Value() : Value(by));
             insert->Run();
         }

@@ -2,11 +2,11 @@
 #include "model/CEmployee.h"
 #include "office/payday/PaydayAccount.h"
 #include "platform/text/DataText.h"
+#include "platform/text/Joined.h"
 #include "platform/text/Text.h"
 #include "reports/forms/ReportDocument.h"
 
 #include <fmt/format.h>
-#include <fmt/ranges.h>
 
 #include <algorithm>
 
@@ -78,8 +78,8 @@ std::string PersonJson(const AccountPerson& person)
     }
     return fmt::format(R"({{"number":{},"id":{},"name":{},"paid":[{}],"now":{},"changed":{},"changes":[{}]}})",
                        employee == nullptr ? "null" : std::to_string(employee->EmployeeNumber()), person.person.id,
-                       employee == nullptr ? "null" : JsonText(employee->DisplayName()), fmt::join(paid, ","), NowJson(person),
-                       ChangedJson(person.changed), fmt::join(NumbersOf(person), ","));
+                       employee == nullptr ? "null" : JsonText(employee->DisplayName()), Joined(paid, ","), NowJson(person),
+                       ChangedJson(person.changed), Joined(NumbersOf(person), ","));
 }
 
 std::string AccountJson(const PaydayAccount& account)
@@ -104,7 +104,7 @@ std::string PersonCsv(const AccountPerson& person)
     const CardFigures now = person.now.value_or(CardFigures());
     const PaidDifference changed = person.changed.value_or(PaidDifference());
     return fmt::format("{},{},{},{},{},{},{}", now.regular, now.overtime, now.gross, changed.regular.value_or(""),
-                       changed.overtime.value_or(""), changed.gross.value_or(""), fmt::join(NumbersOf(person), " "));
+                       changed.overtime.value_or(""), changed.gross.value_or(""), Joined(NumbersOf(person), " "));
 }
 
 std::string AccountCsv(const PaydayAccount& account)

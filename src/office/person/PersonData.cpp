@@ -4,11 +4,11 @@
 #include "model/payday/ClosingReader.h"
 #include "office/person/PersonFiles.h"
 #include "platform/Failure.h"
+#include "platform/text/Joined.h"
 #include "store/CJetDB.h"
 #include "store/engine/Statement.h"
 
 #include <fmt/format.h>
-#include <fmt/ranges.h>
 
 namespace ptk {
 
@@ -94,7 +94,7 @@ std::shared_ptr<CEmployee> FindPerson(const std::shared_ptr<CJetDB>& database, c
         for (const auto& employee : found) {
             numbers.push_back(employee->EmployeeNumber());
         }
-        throw Failure(0, "PTK", fmt::format(kNamesakes, found.size(), name, fmt::join(numbers, ", ")));
+        throw Failure(0, "PTK", fmt::format(kNamesakes, found.size(), name, Joined(numbers, ", ")));
     }
     return found.front();
 }

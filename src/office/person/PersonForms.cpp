@@ -12,7 +12,6 @@
 
 #include <algorithm>
 #include <fmt/format.h>
-#include <fmt/ranges.h>
 
 namespace ptk {
 

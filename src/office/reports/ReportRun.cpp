@@ -1,10 +1,10 @@
 #include "office/reports/ReportRun.h"
 
+#include "platform/text/Joined.h"
 #include "reports/Report.h"
 
 #include <algorithm>
 #include <fmt/format.h>
-#include <fmt/ranges.h>
 
 namespace ptk {
 
@@ -63,7 +63,7 @@ std::string DescribeRun(const ReportRun& run)
     if (run.failed == 0) {
         return cancelled + whole + " written" + replaced;
     }
-    const std::string reasons = (run.reasons.empty() ? "" : ": ") + fmt::format("{}", fmt::join(run.reasons, "; "));
+    const std::string reasons = (run.reasons.empty() ? "" : ": ") + Joined(run.reasons, "; ");
     return fmt::format("{}{} complete, {} failed{}{}", cancelled, whole, run.failed, reasons, replaced);
 }
 

@@ -1,13 +1,13 @@
 #include "office/sheet/EmployeeImport.h"
 
 #include "platform/Failure.h"
+#include "platform/text/Joined.h"
 #include "store/CJetDB.h"
 #include "store/engine/Engine.h"
 #include "store/engine/Statement.h"
 
 #include <algorithm>
 #include <fmt/format.h>
-#include <fmt/ranges.h>
 #include <iterator>
 #include <span>
 
@@ -62,7 +62,7 @@ void AddSome(Engine& engine, std::span<const EmployeeValues> added)
         }
         rows.push_back(fmt::format("({}{})", row, kOthersOfNew));
     }
-    sql.Run(engine, fmt::format(kAddEmployees, fmt::join(StoredEmployeeColumns(), ", "), fmt::join(rows, ", ")));
+    sql.Run(engine, fmt::format(kAddEmployees, Joined(StoredEmployeeColumns(), ", "), Joined(rows, ", ")));
 }
 
 // "Phone = CASE EmployeeID WHEN 41 THEN :v0 ELSE Phone END"; empty where nobody's is changed.
@@ -90,7 +90,7 @@ void ChangeSome(Engine& engine, std::span<const EmployeeChange> changed)
     }
     std::vector<std::int32_t> employees;
     std::transform(changed.begin(), changed.end(), std::back_inserter(employees), [](const EmployeeChange& c) { return c.employee; });
-    sql.Run(engine, fmt::format(kChangeEmployees, fmt::join(assignments, ", "), fmt::join(employees, ", ")));
+    sql.Run(engine, fmt::format(kChangeEmployees, Joined(assignments, ", "), Joined(employees, ", ")));
 }
 
 template <typename Row>
@@ -164,7 +164,7 @@ std::vector<std::string> EmployeeAccountLines(const EmployeeAccount& account, bo
         lines.push_back(fmt::format(kRefusedLine, refused.line, refused.reason));
     }
     if (!account.leftAside.empty()) {
-        lines.push_back(fmt::format(kLeftAside, fmt::join(account.leftAside, ", ")));
+        lines.push_back(fmt::format(kLeftAside, Joined(account.leftAside, ", ")));
     }
     for (const EmployeeDifference& difference : withDifferences ? account.differences : std::vector<EmployeeDifference>()) {
         lines.push_back(fmt::format(fmt::runtime(difference.taken ? kTaken : kLeft), difference.number, HeadingOf(difference.field),

@@ -4,6 +4,7 @@
 #include "office/sheet/SheetHeadings.h"
 #include "platform/Failure.h"
 #include "platform/text/Characters.h"
+#include "platform/text/Joined.h"
 #include "reports/EmployeeRecords.h"
 #include "store/engine/RecordSet.h"
 #include "store/engine/Statement.h"
@@ -11,7 +12,6 @@
 
 #include <algorithm>
 #include <fmt/format.h>
-#include <fmt/ranges.h>
 #include <iterator>
 #include <optional>
 #include <span>
@@ -39,7 +39,7 @@ constexpr auto kOfAdministrator = "the administrator may not be changed";
 std::unordered_multimap<std::int32_t, CEmployee> ReadByNumber(const PrepareStatement& prepare)
 {
     std::unordered_multimap<std::int32_t, CEmployee> employees;
-    const auto statement = prepare(fmt::format(kAllEmployees, fmt::join(StoredEmployeeColumns(), ", ")));
+    const auto statement = prepare(fmt::format(kAllEmployees, Joined(StoredEmployeeColumns(), ", ")));
     for (std::int32_t read = kRowsAtATime; read == kRowsAtATime;) {
         const auto rows = statement->ReadRows(kRowsAtATime);
         read = rows->RecordCount();

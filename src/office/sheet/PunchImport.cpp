@@ -10,7 +10,6 @@
 
 #include <algorithm>
 #include <fmt/format.h>
-#include <iterator>
 #include <span>
 
 namespace ptk {
@@ -60,8 +59,8 @@ void Store(Engine& engine, std::span<const SheetPunch> punches, const GoesOn& go
     while (!punches.empty()) {
         std::string statement = kInsert;
         for (const SheetPunch& punch : punches.first(std::min(punches.size(), kRecordsAtOnce))) {
-            fmt::format_to(std::back_inserter(statement), "{}({}, '{}', '{}')", statement.back() == ')' ? ", " : "", punch.employee,
-                           StoredText(punch.start), StoredText(punch.end));
+            statement += fmt::format("{}({}, '{}', '{}')", statement.back() == ')' ? ", " : "", punch.employee, StoredText(punch.start),
+                                     StoredText(punch.end));
         }
         engine.RunScript(statement.c_str());
         punches = punches.subspan(std::min(punches.size(), kRecordsAtOnce));

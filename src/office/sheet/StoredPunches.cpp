@@ -1,10 +1,10 @@
 #include "office/sheet/StoredPunches.h"
 
+#include "platform/text/Joined.h"
 #include "store/engine/Statement.h"
 
 #include <algorithm>
 #include <fmt/format.h>
-#include <fmt/ranges.h>
 
 namespace ptk {
 
@@ -52,7 +52,7 @@ StoredPunches::StoredPunches(const PrepareStatement& prepare, std::span<const Sh
 
 void StoredPunches::Read(const PrepareStatement& prepare, std::span<const std::int32_t> employees, DateTime first, DateTime last)
 {
-    const auto rows = prepare(fmt::format(kStarting, fmt::join(employees, ", ")));
+    const auto rows = prepare(fmt::format(kStarting, Joined(employees, ", ")));
     rows->Bind("first", first);
     rows->Bind("last", last);
     rows->ForEachRow([&] {

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <fmt/format.h>
-#include <iterator>
 #include <optional>
 
 namespace ptk {
@@ -56,7 +55,7 @@ std::string JsonText(std::string_view text)
     json.reserve(text.size() + 2);
     ForEachCharacter(text, [&](std::string_view character) {
         if (const auto code = ControlCode(character)) {
-            fmt::format_to(std::back_inserter(json), "\\u{:04x}", *code);
+            json += fmt::format("\\u{:04x}", *code);
             return;
         }
         if (character == "\"" || character == "\\") {

@@ -5,7 +5,6 @@
 #include <fmt/format.h>
 
 #include <cmath>
-#include <iterator>
 
 namespace ptk {
 
@@ -29,7 +28,7 @@ struct CopyField
     int place;
 
     void operator()(std::monostate) const { lines += "\\N"; }
-    void operator()(std::int64_t value) const { fmt::format_to(std::back_inserter(lines), "{}", value); }
+    void operator()(std::int64_t value) const { lines += fmt::format("{}", value); }
 
     // The shortest digits of the single that the number is read as.
     void operator()(double value) const
@@ -37,7 +36,7 @@ struct CopyField
         if (!std::isfinite(value)) {
             throw Unfit{place, "no finite number"};
         }
-        fmt::format_to(std::back_inserter(lines), "{}", static_cast<float>(value));
+        lines += fmt::format("{}", static_cast<float>(value));
     }
     void operator()(std::string_view value) const
     {

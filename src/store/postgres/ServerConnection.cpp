@@ -1,6 +1,7 @@
 #include "store/postgres/ServerConnection.h"
 
 #include "platform/system/Process.h"
+#include "platform/text/Joined.h"
 #include "store/engine/Waiting.h"
 #include "store/postgres/ServerAddress.h"
 #include "store/postgres/ServerFailure.h"
@@ -8,7 +9,6 @@
 #include "store/postgres/ServerOptions.h"
 
 #include <fmt/format.h>
-#include <fmt/ranges.h>
 #include <poll.h>
 
 #include <algorithm>
@@ -130,7 +130,7 @@ void ServerConnection::Try(const std::string& address, const ServerOptions& opti
     if (const std::string name = options.NameToLookUp(); !name.empty()) { // the library would wait for it in one piece
         const std::vector<std::string> addresses = LookUpServer(name, m_until);
         wanted.Add("host", Repeated(name, addresses.size()));
-        wanted.Add("hostaddr", fmt::format("{}", fmt::join(addresses, ",")));
+        wanted.Add("hostaddr", Joined(addresses, ","));
     }
     if (password) {
         wanted.Add("password", *password);

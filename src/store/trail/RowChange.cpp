@@ -1,12 +1,12 @@
 #include "store/trail/RowChange.h"
 
+#include "platform/text/Joined.h"
 #include "store/engine/Engine.h"
 #include "store/engine/RecordSet.h"
 #include "store/RowConflict.h"
 
 #include <algorithm>
 #include <fmt/format.h>
-#include <fmt/ranges.h>
 #include <iterator>
 #include <span>
 
@@ -30,7 +30,7 @@ std::string TextLiteral(const std::string& text)
     }
     std::string hex;
     for (const char c : text) {
-        fmt::format_to(std::back_inserter(hex), "{:02X}", static_cast<unsigned char>(c));
+        hex += fmt::format("{:02X}", static_cast<unsigned char>(c));
     }
     return "CAST(X'" + hex + "' AS TEXT)";
 }
@@ -88,7 +88,7 @@ std::string KeysOf(Portion portion)
 {
     std::vector<std::int64_t> keys(portion.size());
     std::transform(portion.begin(), portion.end(), keys.begin(), KeyNow);
-    return fmt::format("{}", fmt::join(keys, ","));
+    return Joined(keys, ",");
 }
 
 // "Employee WHERE EmployeeID IN (41,42)"

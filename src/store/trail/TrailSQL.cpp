@@ -1,12 +1,12 @@
 #include "store/trail/TrailSQL.h"
 
+#include "platform/text/Joined.h"
 #include "platform/text/Text.h"
 #include "store/engine/EngineWords.h"
 #include "store/engine/Statement.h"
 #include "store/trail/TrailReader.h"
 
 #include <fmt/format.h>
-#include <fmt/ranges.h>
 
 namespace ptk {
 
@@ -40,7 +40,7 @@ const char* ConditionOf(TrailKind kind)
 
 std::string NumberList(const std::vector<std::int64_t>& numbers)
 {
-    return numbers.empty() ? "NULL" : fmt::format("{}", fmt::join(numbers, ","));
+    return numbers.empty() ? "NULL" : Joined(numbers, ",");
 }
 
 std::string Conditions(const TrailQuery& query)

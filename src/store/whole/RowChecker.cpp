@@ -1,12 +1,12 @@
 #include "store/whole/RowChecker.h"
 
+#include "platform/text/Joined.h"
 #include "store/engine/RecordSet.h"
 #include "store/engine/Statement.h"
 #include "store/rows/QueryParameters.h"
 #include "store/whole/EveryRow.h"
 
 #include <fmt/format.h>
-#include <fmt/ranges.h>
 
 namespace ptk {
 
@@ -47,7 +47,7 @@ void RowChecker::CheckTable(const TableColumns& columns, ReadRow read)
 {
     try {
         std::vector<std::string> found;
-        ForEachPortionOf(m_engine, fmt::format("SELECT {} FROM {}", fmt::join(columns.names, ", "), columns.table),
+        ForEachPortionOf(m_engine, fmt::format("SELECT {} FROM {}", Joined(columns.names, ", "), columns.table),
                          [&](RecordSet& rows) { FindIn(rows, columns, read, found); });
         for (const std::string& find : found) {
             m_problems.push_back(find + '.');
