@@ -148,7 +148,18 @@ bool Connection::Resume()
         return false;
     }
     Hold();
+    KeepMorePages();
     return true;
+}
+
+// A small business's file stays in memory whole. Who opens the file for one question has nothing of it, so the first return is early
+// enough.
+void Connection::KeepMorePages()
+{
+    if (!m_keepsMore) {
+        Run("PRAGMA cache_size=-8192"); // KiB, four times the engine's own measure; taken as pages are read
+        m_keepsMore = true;
+    }
 }
 
 void Connection::RefuseOtherPrograms(std::int32_t applicationId, std::int32_t formatNumber) const

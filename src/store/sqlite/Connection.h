@@ -105,6 +105,7 @@ private:
     void RefuseNewerStructure();
     void LeaveLogAlone();
     void LeaveWriteAheadLog();
+    void KeepMorePages();
     [[nodiscard]] bool IsHeld() const;
     [[nodiscard]] bool IsReplaced() const;
     bool Wait();
@@ -119,6 +120,7 @@ private:
     waiting::Turns m_turns; // of the wait for who holds the file
     bool m_inOrder = false; // whether what the file is was seen from outside, without a wait
     bool m_durable = false; // whether commits survive a power cut
+    bool m_keepsMore = false;
 };
 
 } // namespace ptk
