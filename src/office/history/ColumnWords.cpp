@@ -76,8 +76,8 @@ std::string MomentText(DateTime moment, ColumnShape shape)
     if (shape == Shape::Day && moment == DateTime(moment.Date())) {
         return FormatDateTime(moment, "mm/dd/yyyy");
     }
-    const char* const time = moment.Time().second == 0 ? "hh:mm AM/PM" : "hh:mm:ss AM/PM";
-    return moment.DayNumber() == 0 ? FormatDateTime(moment, time) : FormatDateTime(moment, std::string("mm/dd/yyyy ") + time);
+    const std::string_view pattern = moment.Time().second == 0 ? "mm/dd/yyyy hh:mm AM/PM" : "mm/dd/yyyy hh:mm:ss AM/PM";
+    return FormatDateTime(moment, moment.DayNumber() == 0 ? pattern.substr(pattern.find('h')) : pattern);
 }
 
 } // namespace ptk

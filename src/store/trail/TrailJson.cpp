@@ -53,19 +53,24 @@ public:
 
     bool TakeAll(TrailRow& row)
     {
-        const auto add = [&](std::string& name, TrailValue& value) {
-            value.column = std::move(name);
-            row.push_back(std::move(value));
-        };
-        if (!TakeFields(add)) {
+        std::size_t count = 0;
+        const auto next = [&]() -> TrailValue& { return count++ == row.size() ? row.emplace_back() : row[count - 1]; };
+        if (!TakeFields(next, [](const TrailValue& /*field*/) {})) {
             return false;
         }
+        row.resize(count);
         SkipBlanks();
         return m_left.empty();
     }
 
 private:
-    void SkipBlanks() { m_left.remove_prefix(std::min(m_left.find_first_not_of(" \t\r\n"), m_left.size())); }
+    void SkipBlanks()
+    {
+        if (m_left.empty() || m_left.front() > ' ') { // as between most signs: the program's own triggers write none
+            return;
+        }
+        m_left.remove_prefix(std::min(m_left.find_first_not_of(" \t\r\n"), m_left.size()));
+    }
 
     bool Take(char sign)
     {
@@ -100,16 +105,19 @@ private:
         return Take(last);
     }
 
-    template <typename Add>
-    bool TakeFields(const Add& add)
+    // Each into the one that `next` answers; `taken` is told those that are whole.
+    template <typename Next, typename Taken>
+    bool TakeFields(const Next& next, const Taken& taken)
     {
         return TakeListed('{', '}', [&] {
-            std::string name;
-            TrailValue value;
-            if (!TakeText(name) || !Take(':') || !TakeValue(value)) {
+            TrailValue& field = next();
+            field.kind = TrailValue::Kind::Null;
+            field.column.clear();
+            field.text.clear();
+            if (!TakeText(field.column) || !Take(':') || !TakeValue(field)) {
                 return false;
             }
-            add(name, value);
+            taken(field);
             return true;
         });
     }
@@ -133,14 +141,16 @@ private:
         if (++m_depth > kDeepest) {
             return false;
         }
-        const auto look = [&](const std::string& name, TrailValue& value) {
-            if (name == "blob" && value.kind == TrailValue::Kind::Text) {
-                digits = std::move(value.text);
+        TrailValue inner;
+        const auto next = [&]() -> TrailValue& { return inner; };
+        const auto look = [&](TrailValue& field) {
+            if (field.column == "blob" && field.kind == TrailValue::Kind::Text) {
+                digits = std::move(field.text);
             }
         };
-        const bool taken = m_left.starts_with('{') ? TakeFields(look) : TakeListed('[', ']', [&] {
-            TrailValue ignored;
-            return TakeValue(ignored);
+        const bool taken = m_left.starts_with('{') ? TakeFields(next, look) : TakeListed('[', ']', [&] {
+            inner.text.clear();
+            return TakeValue(inner);
         });
         --m_depth;
         return taken;
@@ -262,12 +272,9 @@ private:
 
 } // namespace
 
-std::optional<TrailRow> ParseTrailRow(std::string_view json)
+bool ParseTrailRow(std::string_view json, TrailRow& row)
 {
-    constexpr std::size_t kColumns = 4; // a time record's
-    TrailRow row;
-    row.reserve(kColumns);
-    return JsonReader(json).TakeAll(row) ? std::optional(std::move(row)) : std::nullopt;
+    return JsonReader(json).TakeAll(row);
 }
 
 } // namespace ptk

@@ -3,13 +3,13 @@
 
 #include "store/trail/TrailReader.h"
 
-#include <optional>
 #include <string_view>
 
 namespace ptk {
 
-// The fields of an object, in their order; bytes are told as an object with their digits in its field "blob". Numbers keep their digits.
-// Nothing for what is no JSON object, whoever wrote it.
-[[nodiscard]] std::optional<TrailRow> ParseTrailRow(std::string_view json);
+// The fields of an object, in their order, in place of what the row held, whose memory is used again: a history reads thousands. Bytes are
+// told as an object with their digits in its field "blob". Numbers keep their digits. False for what is no JSON object, whoever wrote it;
+// the row is then of no use.
+[[nodiscard]] bool ParseTrailRow(std::string_view json, TrailRow& row);
 
 } // namespace ptk

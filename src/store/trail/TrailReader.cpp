@@ -30,9 +30,13 @@ constexpr const char* kNotes =
 
 constexpr std::int32_t kPortion = 10'000; // entries, some megabytes
 
-std::string TextOf(const Statement& row, int column)
+// Empty for a null. What the text had as memory is used again, as by all that an entry holds.
+void ReadText(const Statement& row, int column, std::string& text)
 {
-    return row.KindAt(column) == CellKind::Null ? std::string() : std::string(row.TextAt(column));
+    text.clear();
+    if (row.KindAt(column) != CellKind::Null) {
+        text = row.TextAt(column);
+    }
 }
 
 std::optional<std::int64_t> NumberOf(const Statement& row, int column)
@@ -40,9 +44,17 @@ std::optional<std::int64_t> NumberOf(const Statement& row, int column)
     return row.KindAt(column) == CellKind::Number ? std::optional(row.Int64At(column)) : std::nullopt;
 }
 
-std::optional<TrailRow> RowOf(const Statement& row, int column)
+void ReadSide(const Statement& row, int column, std::optional<TrailRow>& side)
 {
-    return row.KindAt(column) == CellKind::Text ? ParseTrailRow(row.TextAt(column)) : std::nullopt;
+    if (row.KindAt(column) != CellKind::Text) {
+        return side.reset();
+    }
+    if (!side) {
+        side.emplace();
+    }
+    if (!ParseTrailRow(row.TextAt(column), *side)) {
+        side.reset();
+    }
 }
 
 bool HasReasons(CJetDB& database)
@@ -51,28 +63,28 @@ bool HasReasons(CJetDB& database)
     return find.empty() || RequireSelect(database, find)->ReadRows()->RecordCount() != 0;
 }
 
-TrailEntry EntryOf(const Statement& row)
+void ReadEntry(const Statement& row, TrailEntry& entry)
 {
-    TrailEntry entry;
     using namespace trailsql;
     entry.id = row.Int64At(kId);
-    entry.at = TextOf(row, kAt);
-    entry.by = TextOf(row, kBy);
-    entry.program = TextOf(row, kProgram);
+    ReadText(row, kAt, entry.at);
+    ReadText(row, kBy, entry.by);
+    ReadText(row, kProgram, entry.program);
     entry.step = NumberOf(row, kStep);
-    entry.table = TextOf(row, kTable);
+    ReadText(row, kTable, entry.table);
     entry.row = NumberOf(row, kRow);
-    entry.action = TextOf(row, kAction);
-    entry.before = RowOf(row, kBefore);
-    entry.after = RowOf(row, kAfter);
+    ReadText(row, kAction, entry.action);
+    ReadSide(row, kBefore, entry.before);
+    ReadSide(row, kAfter, entry.after);
     entry.employee = NumberOf(row, kEmployee);
-    entry.reason = TextOf(row, kReason);
-    return entry;
+    ReadText(row, kReason, entry.reason);
 }
 
 TrailNote NoteOf(const Statement& row)
 {
-    return {row.Int64At(0), NumberOf(row, 1), TextOf(row, 2), NumberOf(row, 3), NumberOf(row, 4), NumberOf(row, 5)};
+    TrailNote note{row.Int64At(0), NumberOf(row, 1), {}, NumberOf(row, 3), NumberOf(row, 4), NumberOf(row, 5)};
+    ReadText(row, 2, note.table);
+    return note;
 }
 
 // Of a server all rows of an answer are in memory at once.
@@ -87,8 +99,9 @@ std::int32_t ReadPortion(CJetDB& database, TrailQuery& query, const std::functio
     const auto entries = RequireSelect(database, TrailSql(query, database.Words(), HasReasons(database)));
     BindTrail(*entries, query);
     std::int32_t count = 0;
+    TrailEntry entry;
     entries->ForEachRow([&] {
-        const TrailEntry entry = EntryOf(*entries);
+        ReadEntry(*entries, entry);
         query.olderThan = entry.id;
         ++count;
         take(entry);
