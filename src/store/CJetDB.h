@@ -41,7 +41,7 @@ struct PasswordChange
     std::string after;
 };
 
-// Not thread-safe. Closed at creation; the destructor closes an open file. No member but TakeNews and HasTrail raises.
+// Not thread-safe. Closed at creation; the destructor closes an open file. No member but TakeNews, HasTrail and HasTable raises.
 // ErrorNumber is never reset: it keeps the last code until another is set, and LoadCompanyList even refuses on a stale one.
 //
 // An open file is held exclusively, except after an operation that failed: its file stays open, but others get at it until the next
@@ -163,8 +163,9 @@ public:
     // Of the open database, for the texts that PrepareSelect takes.
     [[nodiscard]] const EngineWords& Words() const;
 
-    // Whether the open database has the edit trail. Raises the engine's failure.
+    // Whether the open database has the edit trail, or a table that files of earlier versions lack. Both raise the engine's failure.
     [[nodiscard]] bool HasTrail();
+    [[nodiscard]] bool HasTable(const char* name);
 
     // Opens the database when it is closed and always leaves it closed, except after a failed statement (407). Committed on return.
     bool ExecuteAction(const std::string& sqlstring);

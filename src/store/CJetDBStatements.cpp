@@ -71,6 +71,11 @@ bool CJetDB::HasTrail()
     return m_database->HasTrail();
 }
 
+bool CJetDB::HasTable(const char* name)
+{
+    return m_database->HasTable(name);
+}
+
 // One operation that writes: opens the file when it is closed and closes it after success, whoever opened it.
 bool CJetDB::Change(std::int32_t errorNumber, const std::function<void()>& steps)
 {

@@ -51,11 +51,11 @@ CheckLimits LimitsOf(const RecordSet& row)
     return limits;
 }
 
-// `prepare` makes a statement of a text; `lock` goes behind the select.
-template <typename Prepare>
-CheckLimits StoredLimits(const EngineWords& words, const char* lock, Prepare prepare)
+// Of a CJetDB or an Engine; `prepare` makes a statement of a text, `lock` goes behind the select.
+template <typename Database, typename Prepare>
+CheckLimits StoredLimits(Database& database, const char* lock, Prepare prepare)
 {
-    if (const std::string find = Said(words.findTable, kTable); !find.empty() && prepare(find)->ReadRows()->EndOfFile()) {
+    if (!database.HasTable(kTable)) {
         return {};
     }
     const auto row = prepare(std::string(kSelect) + lock)->ReadRows();
@@ -64,7 +64,7 @@ CheckLimits StoredLimits(const EngineWords& words, const char* lock, Prepare pre
 
 void Update(Engine& engine, const CheckLimits& limits)
 {
-    if (*engine.Words().findTable != '\0') {
+    if (engine.Words().makesTables) {
         engine.Run(kCreate);
         engine.Run(kAddRow);
     }
@@ -78,14 +78,14 @@ CheckLimits LoadCheckLimits(const std::shared_ptr<CJetDB>& database)
 {
     const CJetDB::Hold hold(database);
     RequireOpen(*database);
-    return StoredLimits(database->Words(), "", [&](const std::string& sql) { return RequireSelect(*database, sql); });
+    return StoredLimits(*database, "", [&](const std::string& sql) { return RequireSelect(*database, sql); });
 }
 
 bool SaveCheckLimits(const std::shared_ptr<CJetDB>& database, const CheckLimits& limits, const CheckLimits& asRead)
 {
     return database->ExecuteSteps([&](Engine& engine) {
         const CheckLimits present =
-            StoredLimits(engine.Words(), engine.Words().lockRows, [&](const std::string& sql) { return engine.Prepare(sql); });
+            StoredLimits(engine, engine.Words().lockRows, [&](const std::string& sql) { return engine.Prepare(sql); });
         if (limits == present || limits == asRead) {
             return;
         }

@@ -26,12 +26,12 @@ constexpr const char* kDeleteProfile = "DELETE FROM _Profile WHERE ProfileID = :
 constexpr auto kTaken = "there is a profile \"{}\" already";
 constexpr auto kNoLonger = "the profile \"{}\" was changed or deleted by somebody else since it was read";
 
-// `prepare` makes a statement of a text.
-template <typename Prepare>
-std::vector<StoredProfile> ReadStored(const EngineWords& words, Prepare prepare)
+// Of a CJetDB or an Engine; `prepare` makes a statement of a text.
+template <typename Database, typename Prepare>
+std::vector<StoredProfile> ReadStored(Database& database, Prepare prepare)
 {
     std::vector<StoredProfile> profiles;
-    if (const std::string find = Said(words.findTable, kProfileTable); !find.empty() && prepare(find)->ReadRows()->EndOfFile()) {
+    if (!database.HasTable(kProfileTable)) {
         return profiles;
     }
     for (const auto rows = prepare(kSelectProfiles)->ReadRows(); !rows->EndOfFile(); rows->MoveNext()) {
@@ -43,13 +43,13 @@ std::vector<StoredProfile> ReadStored(const EngineWords& words, Prepare prepare)
 // Within a write: nobody else changes them before its end.
 std::vector<StoredProfile> ReadToChange(Engine& engine)
 {
-    if (*engine.Words().findTable != '\0') {
+    if (!engine.HasTable(kProfileTable)) {
         engine.RunScript(kProfileSql);
     }
     if (const std::string lock = Said(engine.Words().lockTable, kProfileTable); !lock.empty()) {
         engine.Prepare(lock)->Run();
     }
-    return ReadStored(engine.Words(), [&](const std::string& sql) { return engine.Prepare(sql); });
+    return ReadStored(engine, [&](const std::string& sql) { return engine.Prepare(sql); });
 }
 
 void RequireStored(const std::vector<StoredProfile>& stored, const StoredProfile& asRead)
@@ -87,7 +87,7 @@ std::vector<StoredProfile> LoadStoredProfiles(const std::shared_ptr<CJetDB>& dat
 {
     const CJetDB::Hold hold(database);
     RequireOpen(*database);
-    return ReadStored(database->Words(), [&](const std::string& sql) { return RequireSelect(*database, sql); });
+    return ReadStored(*database, [&](const std::string& sql) { return RequireSelect(*database, sql); });
 }
 
 bool SaveStoredProfile(const std::shared_ptr<CJetDB>& database, const StoredProfile& profile, const StoredProfile& asRead)

@@ -45,11 +45,7 @@ constexpr const char* kAllOfOne =
 
 constexpr const char* kLast = "SELECT FromDay, ToDay FROM _Payday WHERE {} ORDER BY ToDay DESC, PaydayID DESC LIMIT 1";
 
-bool HasClosings(CJetDB& database)
-{
-    const std::string find = Said(database.Words().findTable, "_Payday");
-    return find.empty() || RequireSelect(database, find)->ReadRows()->RecordCount() != 0;
-}
+constexpr const char* kTable = "_Payday";
 
 std::string TextOf(const Statement& row, int column)
 {
@@ -113,7 +109,7 @@ Closings ReadClosings(const std::shared_ptr<CJetDB>& database, const PayPeriod& 
     const CJetDB::Hold hold(database);
     RequireOpen(*database);
     Closings closings;
-    if (!HasClosings(*database)) {
+    if (!database->HasTable(kTable)) {
         return closings;
     }
     const char* const ofOne = employee ? kOfOne : "";
@@ -136,7 +132,7 @@ std::vector<Closing> ReadClosingsOf(const std::shared_ptr<CJetDB>& database, std
     const CJetDB::Hold hold(database);
     RequireOpen(*database);
     std::vector<Closing> closings;
-    if (HasClosings(*database)) {
+    if (database->HasTable(kTable)) {
         const auto rows = RequireSelect(*database, kAllOfOne);
         rows->Bind("employee", std::to_string(employee));
         rows->ForEachRow([&] {
@@ -153,7 +149,7 @@ std::optional<PayPeriod> PeriodToClose(const std::shared_ptr<CJetDB>& database)
     const CJetDB::Hold hold(database);
     RequireOpen(*database);
     std::optional<PayPeriod> next;
-    if (!HasClosings(*database)) {
+    if (!database->HasTable(kTable)) {
         return next;
     }
     const auto last = RequireSelect(*database, Said(kLast, database->Words().closedDays));

@@ -48,12 +48,6 @@ int YearIn(std::string_view text)
     return year;
 }
 
-bool IsThere(CJetDB& database, const char* table)
-{
-    const std::string find = Said(database.Words().findTable, table);
-    return find.empty() || RequireSelect(database, find)->ReadRows()->RecordCount() != 0;
-}
-
 void Count(CJetDB& database, const DatedTable& table, KeptAccount& account)
 {
     const auto rows = RequireSelect(database, fmt::format(kByYear, table.name, table.column));
@@ -75,7 +69,7 @@ KeptAccount ReadKept(const std::shared_ptr<CJetDB>& database, std::int32_t years
     const CJetDB::Hold hold(database);
     RequireOpen(*database);
     for (const DatedTable& table : kTables) {
-        if (IsThere(*database, table.name)) {
+        if (database->HasTable(table.name)) {
             Count(*database, table, account);
         }
     }

@@ -83,6 +83,9 @@ public:
 
     [[nodiscard]] virtual bool HasTrail() = 0;
 
+    // Whether a table is there which files of earlier versions lack; always on a server.
+    [[nodiscard]] virtual bool HasTable(const char* name) = 0;
+
     // Within the steps of Write: the number of its newest entry so far; 0 without one.
     [[nodiscard]] virtual std::int64_t NewestEntry() = 0;
 

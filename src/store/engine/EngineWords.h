@@ -40,8 +40,8 @@ struct EngineWords
     // Digits, whatever the type of the column that they are for.
     const char* number;
 
-    // Answers a row where the table {0} is there, which files of earlier versions lack; empty where it always is.
-    const char* findTable;
+    // Whether tables that came with later versions are made when they are first written.
+    bool makesTables;
 
     // Answers a row where the trail has reasons, which it lacks in files of earlier versions; empty where it always has.
     const char* findReasons;

@@ -58,8 +58,7 @@ std::int64_t CountRows(Engine& engine, const ImportTable& table)
 // Without closings in a file of an earlier version.
 bool HasClosings(Engine& engine)
 {
-    const std::string find = Said(engine.Words().findTable, "_Payday");
-    return (find.empty() || !engine.Prepare(find)->ReadRows()->EndOfFile()) && NumberFrom(engine, kCountClosings) != 0;
+    return engine.HasTable("_Payday") && NumberFrom(engine, kCountClosings) != 0;
 }
 
 void RefuseUnlessEmpty(Engine& engine)

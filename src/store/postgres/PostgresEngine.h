@@ -63,6 +63,7 @@ public:
     void Untold(const std::function<void()>& steps) override;
     void AddWholeEntry(const char* action, const std::string& file) override;
     [[nodiscard]] bool HasTrail() override { return true; }
+    [[nodiscard]] bool HasTable(const char* /*name*/) override { return true; }
     [[nodiscard]] std::int64_t NewestEntry() override;
     [[nodiscard]] bool TellsNews() const override { return true; }
     [[nodiscard]] std::optional<std::int64_t> TakeNews() override;

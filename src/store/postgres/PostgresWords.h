@@ -19,7 +19,7 @@ inline constexpr EngineWords kPostgresWords{
     .inDays = "({0} >= CAST(left(:first, 10) AS date) AND {0} < CAST(left(:last, 10) AS date) + 1)",
     .jsonField = "(({0} ->> CAST('{1}' AS text)) COLLATE \"C\")",
     .number = "'{0}'",
-    .findTable = "",
+    .makesTables = false,
     .findReasons = "",
     .closedDays =
         "(FromDay BETWEEN DATE '0100-01-01' AND ToDay AND ToDay < DATE '10000-01-01' AND date_trunc('day', FromDay) = FromDay AND "

@@ -219,6 +219,17 @@ bool SqliteEngine::HasTrail()
     return ptk::HasTrail(*this);
 }
 
+// The engine knows the tables' definitions: their own table, which holds the texts of all triggers, need not be searched.
+bool SqliteEngine::HasTable(const char* name)
+{
+    sqlite3* const database = Open().Handle();
+    const int code = sqlite3_table_column_metadata(database, "main", name, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr);
+    if (code != SQLITE_ERROR) {
+        RaiseUnlessDone(database, code);
+    }
+    return code == SQLITE_OK;
+}
+
 std::int64_t SqliteEngine::NewestEntry()
 {
     return NextStep(*this) - 1;

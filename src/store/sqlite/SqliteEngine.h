@@ -55,6 +55,7 @@ public:
     void Untold(const std::function<void()>& steps) override;
     void AddWholeEntry(const char* action, const std::string& file) override;
     [[nodiscard]] bool HasTrail() override;
+    [[nodiscard]] bool HasTable(const char* name) override;
     [[nodiscard]] std::int64_t NewestEntry() override;
 
     [[nodiscard]] const EngineWords& Words() const override { return kSqliteWords; }

@@ -22,7 +22,7 @@ inline constexpr EngineWords kSqliteWords{
     .inDays = "{0} BETWEEN :first AND :last",
     .jsonField = "CASE WHEN json_valid({0}) THEN json_extract({0}, '$.{1}') END",
     .number = "{0}",
-    .findTable = "SELECT name FROM sqlite_master WHERE type = 'table' AND name = '{0}' COLLATE NOCASE",
+    .makesTables = true,
     .findReasons = "SELECT name FROM pragma_table_info('_Change') WHERE name = 'Reason' COLLATE NOCASE",
     .closedDays = "(FromDay BETWEEN '0100-' AND ToDay AND ToDay < ':' AND datetime(FromDay, '+0 days', 'start of day') = FromDay AND "
                   "datetime(ToDay, '+0 days', 'start of day') = ToDay)",
