@@ -12,6 +12,7 @@
 #include "office/records/UndoStack.h"
 #include "platform/text/Text.h"
 #include "store/CJetDB.h"
+#include "store/engine/Statement.h"
 #include "store/postgres/PostgresEngine.h"
 #include "store/trail/TrailReader.h"
 #include "support/NewServerDatabase.h"
@@ -125,6 +126,48 @@ TEST_F(RoundTripsTest, Overview)
         return overview.IsDone() && overview.Result().rows.size() == 3;
     };
     EXPECT_EQ(Of(all), 4) << "the limits, what was closed, everybody's records, and who worked before";
+}
+
+// A question sent off ahead is one trip like any other, whoever hears its answer; what it fails with ends the transaction and no more.
+TEST_F(RoundTripsTest, AnswersOnTheirWay)
+{
+    const auto told = [](Statement& rows) {
+        std::string text;
+        rows.ForEachRow([&] { text += rows.TextAt(0); });
+        return text;
+    };
+    const auto ask = [&](const std::function<void(Statement&, Statement&)>& questions) {
+        const CJetDB::Hold hold(database);
+        RequireOpen(*database);
+        const auto rows = RequireSelect(*database, "SELECT CAST(:number AS INTEGER)");
+        const auto other = RequireSelect(*database, "SELECT 7");
+        EXPECT_EQ(told(*other), "7");
+        questions(*rows, *other);
+        return true;
+    };
+    const auto answered = [&](Statement& rows, Statement& other) {
+        rows.Bind("number", std::int32_t{2});
+        rows.AskAhead();
+        EXPECT_EQ(told(other), "7") << "asked behind it";
+        EXPECT_EQ(told(rows), "2");
+        rows.AskAhead();
+        EXPECT_EQ(told(rows), "2");
+        rows.AskAhead();
+        rows.Bind("number", std::int32_t{3});
+        EXPECT_EQ(told(rows), "3") << "another question than the one on its way";
+    };
+    ASSERT_TRUE(ask(answered));
+    EXPECT_EQ(Of([&] { return ask(answered); }), 6);
+    ask([&](Statement& rows, Statement& other) {
+        rows.Bind("number", std::string("none"));
+        rows.AskAhead();
+        EXPECT_THROW(told(other), Failure);
+    });
+    ask([&](Statement& rows, Statement& /*other*/) {
+        rows.Bind("number", std::string("none"));
+        rows.AskAhead(); // and nobody waits for it
+    });
+    EXPECT_TRUE(Card()) << database->LastFailure().Description();
 }
 
 // Six hundred people are asked for in three portions and stored in three.

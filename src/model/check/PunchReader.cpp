@@ -3,13 +3,13 @@
 #include "model/check/FindingText.h"
 #include "model/check/WorkWeeks.h"
 #include "platform/Failure.h"
+#include "platform/text/Joined.h"
 #include "store/CJetDB.h"
 #include "store/engine/Statement.h"
 #include "store/engine/StoredDate.h"
 #include "store/PunchSQL.h"
 
 #include <fmt/format.h>
-#include <fmt/ranges.h>
 
 #include <algorithm>
 #include <tuple>
@@ -131,15 +131,35 @@ void PunchReader::ReadAhead(std::span<const std::int32_t> employeeIDs)
     }
 }
 
+void PunchReader::Choose(std::span<const std::int32_t> employeeIDs)
+{
+    m_ofMany->Bind("employees", fmt::format("{{{}}}", Joined(employeeIDs, ",")));
+    m_asked.assign(employeeIDs.begin(), employeeIDs.end());
+}
+
+void PunchReader::AskAhead(std::span<const std::int32_t> employeeIDs)
+{
+    if (ReadsAhead()) {
+        Choose(employeeIDs);
+        m_ofMany->AskAhead();
+    }
+}
+
 void PunchReader::Fetch(std::span<const std::int32_t> employeeIDs)
 {
     for (const std::int32_t id : employeeIDs) {
-        m_ahead[id].clear();
+        m_ahead[id].reserve(kUsualCount);
     }
-    m_ofMany->Bind("employees", fmt::format("{{{}}}", fmt::join(employeeIDs, ",")));
+    if (!std::ranges::equal(m_asked, employeeIDs)) {
+        Choose(employeeIDs);
+    }
+    auto whose = m_ahead.end(); // the rows of one stand together, mostly
     m_ofMany->ForEachRow([&] {
         const auto employee = static_cast<std::int32_t>(m_ofMany->Int64At(punchsql::kEmployee));
-        m_ahead[employee].push_back(ReadPunch(*m_ofMany));
+        if (whose == m_ahead.end() || whose->first != employee) {
+            whose = m_ahead.try_emplace(employee).first;
+        }
+        whose->second.push_back(ReadPunch(*m_ofMany));
     });
 }
 

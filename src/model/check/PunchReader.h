@@ -11,6 +11,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <vector>
 
 namespace ptk {
 
@@ -36,6 +37,9 @@ public:
     [[nodiscard]] bool ReadsAhead() const { return m_ofMany != nullptr; }
     void ReadAhead(std::span<const std::int32_t> employeeIDs);
 
+    // Sends off what the next ReadAhead of the same people reads, to be on its way while these are looked at.
+    void AskAhead(std::span<const std::int32_t> employeeIDs);
+
     // All that CheckCard needs, by start, end and number.
     Punches Read(std::int32_t employeeID);
 
@@ -47,6 +51,7 @@ private:
     [[nodiscard]] Punch ReadPunch(const Statement& row) const;
     [[nodiscard]] std::unique_ptr<Statement> Prepare(CJetDB& database, const std::string& sql) const;
     [[nodiscard]] Punches TakeAhead(std::int32_t employeeID);
+    void Choose(std::span<const std::int32_t> employeeIDs);
     void Fetch(std::span<const std::int32_t> employeeIDs);
 
     DateTime m_from; // the bounds of the card's fetch, both included
@@ -56,6 +61,7 @@ private:
     std::unique_ptr<Statement> m_ofMany; // or the other
     std::unique_ptr<Statement> m_ofOne;
     std::map<std::int32_t, Punches> m_ahead; // by employees
+    std::vector<std::int32_t> m_asked;       // whom the question that was sent off is about
 };
 
 } // namespace ptk

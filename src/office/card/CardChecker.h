@@ -39,6 +39,7 @@ public:
 
     // Of those who are to be checked next: see PunchReader.
     void ReadAhead(std::span<const std::int32_t> employeeIDs);
+    void AskAhead(std::span<const std::int32_t> employeeIDs) { m_reader.AskAhead(employeeIDs); }
 
     [[nodiscard]] CardCheck Check(const CEmployee& employee);
 

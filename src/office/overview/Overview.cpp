@@ -56,6 +56,16 @@ Employees OfferedEmployees(CEmployeeList& employees)
     return offered;
 }
 
+namespace {
+
+std::vector<std::int32_t> PortionAt(std::size_t place, std::span<const std::shared_ptr<CEmployee>> employees)
+{
+    return NumbersOf(employees.subspan(place, std::min(PunchReader::kAtOnce, employees.size() - place)));
+}
+
+} // namespace
+
+// Where nobody may end it in between, the next people's rows come while these are looked at.
 bool ReadOverview(Overview& overview, const std::shared_ptr<CJetDB>& database, std::span<const std::shared_ptr<CEmployee>> employees,
                   const RowTaken& taken)
 {
@@ -64,7 +74,10 @@ bool ReadOverview(Overview& overview, const std::shared_ptr<CJetDB>& database, s
     overview.rows.reserve(overview.rows.size() + employees.size());
     for (std::size_t i = 0; i < employees.size(); ++i) {
         if (i % PunchReader::kAtOnce == 0) {
-            checker.ReadAhead(NumbersOf(employees.subspan(i, std::min(PunchReader::kAtOnce, employees.size() - i))));
+            checker.ReadAhead(PortionAt(i, employees));
+            if (const std::size_t next = i + PunchReader::kAtOnce; !taken && next < employees.size()) {
+                checker.AskAhead(PortionAt(next, employees));
+            }
         }
         overview.rows.push_back(RowOf(overview, checker, employees[i]));
         if (taken && !taken(overview.rows.back())) {

@@ -219,6 +219,17 @@ ServerResult PostgresEngine::Ask(const ServerCommand& command, Intent intent)
     return std::move(results.back());
 }
 
+std::int64_t PostgresEngine::AskAhead(const ServerCommand& command)
+{
+    RequireOpen();
+    return m_begun ? m_line->SendAhead(command) : 0;
+}
+
+std::optional<ServerResult> PostgresEngine::TakeAhead(std::int64_t question)
+{
+    return question != 0 && m_begun ? m_line->TakeAhead(question) : std::nullopt;
+}
+
 // For what does not go through Ask.
 void PostgresEngine::RequireSigned()
 {

@@ -79,6 +79,13 @@ public:
     // One statement within the hold or the write.
     [[nodiscard]] ServerResult Ask(const ServerCommand& command, Intent intent = Intent::Read);
 
+    // A question whose answer is taken later by the number that is answered here; 0 where none can be asked before the hold has begun.
+    // There is one at a time: the next takes its place.
+    [[nodiscard]] std::int64_t AskAhead(const ServerCommand& command);
+
+    // Nothing where that answer is not to be had any more, or for 0.
+    [[nodiscard]] std::optional<ServerResult> TakeAhead(std::int64_t question);
+
     // Within the steps of Write, or since BeginMany.
     [[nodiscard]] bool IsWriting() const { return m_transaction != Transaction::Read; }
 

@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <charconv>
 #include <limits>
+#include <utility>
 
 namespace ptk {
 
@@ -134,6 +135,7 @@ void PostgresStatement::Bind(const std::string& name, const Value& value)
     const auto index = static_cast<std::size_t>(found - m_text.parameters.begin());
     m_values[index] = std::visit(ParameterText{}, value.Get());
     m_assigned[index] = true;
+    m_ahead = 0;
 }
 
 void PostgresStatement::RefuseMissingParameters() const
@@ -152,10 +154,19 @@ void PostgresStatement::RefuseUnlessAction()
     }
 }
 
+void PostgresStatement::AskAhead()
+{
+    RefuseMissingParameters();
+    m_ahead = m_engine.AskAhead({m_text.sql, m_values, true, false});
+}
+
 // What is run again is worth preparing.
 ServerResult PostgresStatement::Ask(Intent intent)
 {
     RefuseMissingParameters();
+    if (auto answer = m_engine.TakeAhead(std::exchange(m_ahead, 0))) {
+        return std::move(*answer);
+    }
     ServerResult result = m_engine.Ask({m_text.sql, m_values, m_keep, false}, intent);
     m_keep = true;
     return result;

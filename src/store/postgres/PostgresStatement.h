@@ -25,6 +25,7 @@ public:
     void Run() override;
     std::shared_ptr<RecordSet> ReadRows(std::int32_t most = kAllRows) override;
     void ForEachRow(const std::function<void()>& take) override;
+    void AskAhead() override;
     [[nodiscard]] CellKind KindAt(int column) const override;
     [[nodiscard]] std::int64_t Int64At(int column) const override;
     [[nodiscard]] double RealAt(int column) const override;
@@ -41,6 +42,7 @@ private:
     std::vector<ServerValue> m_values;
     std::vector<bool> m_assigned; // by parameter
     bool m_keep;
+    std::int64_t m_ahead = 0;           // number of the question whose answer is on its way, 0 without one
     std::optional<ServerResult> m_rows; // of the answer that is being read
     int m_row = 0;                      // the next, or the one at which ForEachRow stands
 };

@@ -208,10 +208,18 @@ void ServerLine::Verify()
     }
 }
 
+// What fails ahead of the end of a transaction has ended it as well.
 void ServerLine::SendUnheard(const char* sql)
 {
     m_connection.Begin();
-    HearUnheard();
+    try {
+        HearUnheard();
+    } catch (const ServerFailure& failure) {
+        if (failure.IsLost()) {
+            throw;
+        }
+    }
+    m_answer.reset();
     Post({sql, {}, true, false});
     SendOff();
     m_unheard = true;
@@ -222,6 +230,36 @@ void ServerLine::HearUnheard()
     if (std::exchange(m_unheard, false)) {
         static_cast<void>(Hear());
     }
+    HearAhead();
+}
+
+std::int64_t ServerLine::SendAhead(const ServerCommand& command)
+{
+    m_connection.Begin();
+    HearUnheard();
+    Post(command);
+    SendOff();
+    ++m_roundTrips;
+    m_answer.reset();
+    m_isAhead = true;
+    return ++m_ahead;
+}
+
+void ServerLine::HearAhead()
+{
+    if (std::exchange(m_isAhead, false)) {
+        m_answer = std::move(Hear().back());
+    }
+}
+
+std::optional<ServerResult> ServerLine::TakeAhead(std::int64_t question)
+{
+    if (question != m_ahead) {
+        return std::nullopt;
+    }
+    m_connection.Begin();
+    HearAhead();
+    return std::exchange(m_answer, std::nullopt);
 }
 
 void ServerLine::RunScript(const char* sql)

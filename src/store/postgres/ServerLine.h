@@ -48,6 +48,11 @@ public:
     // The same without waiting for the answer, which nobody needs.
     void SendUnheard(const char* sql);
 
+    // A question whose answer is taken later, by the number that is answered here; whatever is sent next hears it first. There is one at a
+    // time. TakeAhead answers nothing when something that ends a transaction was sent since, or another one ahead.
+    std::int64_t SendAhead(const ServerCommand& command);
+    [[nodiscard]] std::optional<ServerResult> TakeAhead(std::int64_t question);
+
     // Several commands in one text, in one round trip.
     void RunScript(const char* sql);
 
@@ -89,14 +94,18 @@ private:
     void RaiseAfterScript(const std::optional<ServerFailure>& failure);
     [[nodiscard]] std::vector<ServerResult> Hear();
     void HearUnheard();
+    void HearAhead();
 
     ServerConnection m_connection;
     std::map<std::string, std::string, std::less<>> m_prepared; // names by statements
     std::vector<Awaited> m_awaited;                             // what was sent and not answered yet
     std::int64_t m_roundTrips = 0;
-    std::int32_t m_names = 0; // given so far
-    bool m_verified = false;  // the session is its own
-    bool m_unheard = false;   // nobody waits for what is awaited
+    std::int32_t m_names = 0;             // given so far
+    bool m_verified = false;              // the session is its own
+    bool m_unheard = false;               // nobody waits for what is awaited
+    bool m_isAhead = false;               // who waits for what is awaited does something else meanwhile
+    std::int64_t m_ahead = 0;             // the newest question of that kind
+    std::optional<ServerResult> m_answer; // of it
 };
 
 } // namespace ptk
