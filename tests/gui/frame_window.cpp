@@ -294,7 +294,11 @@ TEST_F(MainWindowTest, TheGrossPayIsInSightAtTheSmallestSizeAndTwelveRowsOnASmal
     Main().resize(1008, 652); // what 1024 x 700 leaves beside a window manager's frame
     QCoreApplication::processEvents();
     const auto& grid = Find<QTableView>(Main(), "grdTimeRecs");
-    EXPECT_GE(grid.viewport()->height(), 12 * grid.verticalHeader()->defaultSectionSize());
+    EXPECT_GE(grid.viewport()->height(), 12 * grid.verticalHeader()->defaultSectionSize() + 10) << "with room for a larger font";
+    const int low = Find(Main(), "lstHours").height();
+    Main().resize(1008, 900);
+    QCoreApplication::processEvents();
+    EXPECT_GT(Find(Main(), "lstHours").height(), low) << "the bars have the room that there is";
 }
 
 TEST_F(MainWindowTest, FormsHaveTheirButtonsBelowTheirFields)

@@ -20,7 +20,9 @@ constexpr std::int64_t kLineMinutes = 480;
 constexpr std::int64_t kLeastTop = 600; // minutes up to which the scale reaches at least
 constexpr auto kWideWeek = "100.00";
 constexpr int kBarsHeight = 40; // pixels
-constexpr int kBarSpace = 4;    // beside a bar
+constexpr int kLowBarsHeight = 24;
+constexpr int kTallWindow = 760; // below which the rows of the card need the room
+constexpr int kBarSpace = 4;     // beside a bar
 constexpr int kTextSpace = 2;
 constexpr int kLeastColumn = 26;
 constexpr int kMostColumn = 64;
@@ -116,7 +118,7 @@ public:
         return width > m_view.width() - 2 * m_view.frameWidth();
     }
 
-    static int ColumnHeight(const QFontMetrics& metrics) { return kBarsHeight + 3 * metrics.lineSpacing() + 2 * kTextSpace; }
+    int ColumnHeight(const QFontMetrics& metrics) const { return BarsHeight() + 3 * metrics.lineSpacing() + 2 * kTextSpace; }
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
@@ -126,11 +128,10 @@ public:
         if (column.isWeek) {
             painter->fillRect(place, option.palette.alternateBase());
         } else {
-            PaintBars(*painter, QRect(place.left(), place.top() + line + kTextSpace, place.width(), kBarsHeight), column, option.palette);
+            PaintBars(*painter, QRect(place.left(), place.top() + line + kTextSpace, place.width(), BarsHeight()), column, option.palette);
         }
         const int names = place.bottom() + 1 - 2 * line - kTextSpace;
-        PaintText(*painter, option, QRect(place.left(), FigureTop(place, line, column), place.width(), line),
-                  QString::fromStdString(column.above), column.isWeek);
+        PaintFigure(*painter, option, QRect(place.left(), FigureTop(place, line, column), place.width(), line), column);
         PaintText(*painter, option, QRect(place.left(), names, place.width(), line), QString::fromStdString(column.name), false);
         const QRect below(place.left(), names + line, place.width(), line);
         const QString day = QString::fromStdString(column.day);
@@ -150,13 +151,14 @@ private:
         return QFontMetrics(font).horizontalAdvance(kWideWeek) + kBarSpace;
     }
 
-    int Height(std::int64_t minutes) const { return static_cast<int>(minutes * kBarsHeight / m_model.Top()); }
+    int BarsHeight() const { return m_view.window()->height() < kTallWindow ? kLowBarsHeight : kBarsHeight; }
+    int Height(std::int64_t minutes) const { return static_cast<int>(minutes * BarsHeight() / m_model.Top()); }
 
     // Above the bar, or in the middle of a week's column.
     int FigureTop(const QRect& place, int line, const HoursColumn& column) const
     {
-        const int bar = column.isWeek ? (kBarsHeight - line) / 2 : Height(column.regular + column.overtime);
-        return place.top() + kBarsHeight - bar;
+        const int bar = column.isWeek ? (BarsHeight() - line) / 2 : Height(column.regular + column.overtime);
+        return place.top() + BarsHeight() - bar;
     }
 
     void PaintBars(QPainter& painter, const QRect& place, const HoursColumn& column, const QPalette& palette) const
@@ -169,6 +171,17 @@ private:
         PaintPart(painter, QRect(left, floor - regular, width, regular), Part::Regular, palette);
         PaintPart(painter, QRect(left, floor - regular - overtime, width, overtime), Part::Overtime, palette);
         PaintPart(painter, QRect(place.left(), floor - Height(kLineMinutes), place.width(), 1), Part::Line, palette);
+    }
+
+    // A day's may lie on the line at 8 hours, which must not strike it through.
+    static void PaintFigure(QPainter& painter, const QStyleOptionViewItem& option, const QRect& place, const HoursColumn& column)
+    {
+        const QString figure = QString::fromStdString(column.above);
+        const int width = option.fontMetrics.horizontalAdvance(figure);
+        if (!column.isWeek && width <= place.width()) {
+            painter.fillRect(QRect(place.left() + (place.width() - width) / 2, place.top(), width, place.height()), option.palette.base());
+        }
+        PaintText(painter, option, place, figure, column.isWeek);
     }
 
     // What its column is too narrow for is told in words only.
@@ -226,9 +239,9 @@ void HoursChart::paintEvent(QPaintEvent* event)
 
 void HoursChart::FitHeight()
 {
-    const bool scrolls = static_cast<const ColumnPainter*>(itemDelegate())->NeedsScrolling(font());
-    setFixedHeight(ColumnPainter::ColumnHeight(fontMetrics()) + 2 * frameWidth() +
-                   (scrolls ? horizontalScrollBar()->sizeHint().height() : 0));
+    const auto& painter = static_cast<const ColumnPainter&>(*itemDelegate());
+    setFixedHeight(painter.ColumnHeight(fontMetrics()) + 2 * frameWidth() +
+                   (painter.NeedsScrolling(font()) ? horizontalScrollBar()->sizeHint().height() : 0));
 }
 
 void HoursChart::resizeEvent(QResizeEvent* event)
@@ -236,6 +249,23 @@ void HoursChart::resizeEvent(QResizeEvent* event)
     scheduleDelayedItemsLayout();
     QListView::resizeEvent(event);
     FitHeight();
+}
+
+void HoursChart::showEvent(QShowEvent* event)
+{
+    QListView::showEvent(event);
+    window()->installEventFilter(this);
+    FitHeight();
+}
+
+// The bars follow the window's height, which the view itself does not feel.
+bool HoursChart::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == window() && event->type() == QEvent::Resize) {
+        scheduleDelayedItemsLayout();
+        FitHeight();
+    }
+    return QListView::eventFilter(watched, event);
 }
 
 void HoursChart::changeEvent(QEvent* event)
