@@ -2,6 +2,7 @@
 
 #if defined(__x86_64__)
 #include <immintrin.h>
+#include <sys/platform/x86.h>
 #endif
 
 namespace ptk {
@@ -17,9 +18,11 @@ namespace {
 
 } // namespace
 
+// What the compiler has for it asks the processor again at each start of each program that has this file in it: on a virtual machine, a
+// thirtieth of a whole time card.
 void ClearUpperVectors()
 {
-    if (__builtin_cpu_supports("avx") != 0) {
+    if (CPU_FEATURE_ACTIVE(AVX)) {
         Clear();
     }
 }
