@@ -2,7 +2,7 @@
 #include "platform/text/Text.h"
 #include "store/CJetDB.h"
 #include "store/engine/RecordSet.h"
-#include "store/engine/Waiting.h"
+#include "platform/Waiting.h"
 #include "store/postgres/PostgresEngine.h"
 #include "store/postgres/ServerAddress.h"
 #include "store/postgres/ServerOptions.h"

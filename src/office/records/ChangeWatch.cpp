@@ -3,7 +3,7 @@
 #include "office/records/UndoStack.h"
 #include "platform/Succeeds.h"
 #include "store/CJetDB.h"
-#include "store/engine/Waiting.h"
+#include "platform/Waiting.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #include "store/postgres/PostgresEngine.h"
 
-#include "store/engine/Waiting.h"
+#include "platform/Waiting.h"
 #include "store/postgres/PostgresSink.h"
 #include "store/postgres/PostgresStatement.h"
 #include "store/postgres/ServerFailure.h"

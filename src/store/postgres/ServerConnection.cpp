@@ -2,7 +2,7 @@
 
 #include "platform/system/Process.h"
 #include "platform/text/Joined.h"
-#include "store/engine/Waiting.h"
+#include "platform/Waiting.h"
 #include "store/postgres/ServerAddress.h"
 #include "store/postgres/ServerFailure.h"
 #include "store/postgres/ServerName.h"

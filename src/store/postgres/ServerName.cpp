@@ -1,6 +1,6 @@
 #include "store/postgres/ServerName.h"
 
-#include "store/engine/Waiting.h"
+#include "platform/Waiting.h"
 #include "store/postgres/ServerFailure.h"
 
 #include <fmt/format.h>

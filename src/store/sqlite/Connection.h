@@ -1,7 +1,7 @@
 // The engine's handle on one database file and the exclusive hold on it.
 #pragma once
 
-#include "store/engine/Waiting.h"
+#include "platform/Waiting.h"
 #include "store/engine/WhenHeld.h"
 
 #include <SQLiteCpp/Database.h>

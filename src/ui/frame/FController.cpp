@@ -6,7 +6,7 @@
 #include "platform/Succeeds.h"
 #include "startup/CController.h"
 #include "startup/Notices.h"
-#include "store/engine/Waiting.h"
+#include "platform/Waiting.h"
 #include "ui/frame/EditMenu.h"
 #include "ui/frame/FileMenu.h"
 #include "ui/frame/OptionsPage.h"

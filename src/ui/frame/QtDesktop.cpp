@@ -1,7 +1,7 @@
 #include "ui/frame/QtDesktop.h"
 
 #include "platform/system/SystemShell.h"
-#include "store/engine/Waiting.h"
+#include "platform/Waiting.h"
 #include "ui/boxes/ReasonBox.h"
 #include "ui/work/ProgramEnd.h"
 #include "ui/work/WindowPlace.h"

@@ -1,6 +1,6 @@
 #include "ui/work/PaintMeanwhile.h"
 
-#include "store/engine/Waiting.h"
+#include "platform/Waiting.h"
 #include "ui/work/WorkProgress.h"
 
 #include <QApplication>

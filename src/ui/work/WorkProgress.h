@@ -2,7 +2,7 @@
 #pragma once
 
 #include "startup/Windows.h"
-#include "store/engine/Waiting.h"
+#include "platform/Waiting.h"
 
 #include <cstdint>
 #include <QDialog>

@@ -1,4 +1,4 @@
-#include "store/engine/Waiting.h"
+#include "platform/Waiting.h"
 
 #include <utility>
 
