@@ -1,18 +1,34 @@
 #include "platform/Waiting.h"
 
+#include <future>
+#include <optional>
+#include <system_error>
 #include <utility>
 
 namespace ptk {
 
 namespace {
 
+using SteadyClock = std::chrono::steady_clock;
+
 WaitTurn& PresentTurn()
 {
-    static WaitTurn turn;
+    thread_local WaitTurn turn;
     return turn;
 }
 
-thread_local bool isTurn = false; // who waits on another thread than that of the windows waits by themselves
+thread_local bool isTurn = false;
+thread_local SteadyClock::time_point lastTurn;
+
+// Nothing where the system has no thread to spare.
+std::optional<std::future<void>> Started(const std::function<void()>& work)
+{
+    try {
+        return std::async(std::launch::async, work);
+    } catch (const std::system_error&) {
+        return std::nullopt;
+    }
+}
 
 } // namespace
 
@@ -45,17 +61,36 @@ bool waiting::Turn()
     };
     const InTurn inTurn;
     const WaitTurn turn = PresentTurn(); // which may end with what it does
-    return turn();
+    const bool goesOn = turn();
+    CameRound();
+    return goesOn;
 }
 
-bool waiting::Turns::GoOn()
+void waiting::CameRound()
 {
-    if (std::chrono::steady_clock::now() < m_next) {
-        return true;
+    lastTurn = SteadyClock::now();
+}
+
+std::chrono::steady_clock::time_point waiting::NextTurn()
+{
+    return lastTurn + kSlice;
+}
+
+bool waiting::GoOn()
+{
+    return isTurn || !PresentTurn() || SteadyClock::now() < NextTurn() || Turn();
+}
+
+void waiting::Behind(const std::function<void()>& work)
+{
+    auto done = isTurn || !PresentTurn() ? std::nullopt : Started(work);
+    if (!done) {
+        return work();
     }
-    const bool goesOn = Turn();
-    m_next = std::chrono::steady_clock::now() + kSlice;
-    return goesOn;
+    while (done->wait_until(NextTurn()) != std::future_status::ready) {
+        static_cast<void>(Turn());
+    }
+    done->get();
 }
 
 } // namespace ptk

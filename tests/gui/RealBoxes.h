@@ -66,7 +66,8 @@ private:
         if (m_sinceStart.elapsed() > 10000) {
             return dialog->reject();
         }
-        if (!m_presses.empty() && dialog->inherits(m_presses.front().window) && IsRead()) {
+        const bool takesKeys = dialog->isActiveWindow() || QApplication::activeWindow() == nullptr;
+        if (takesKeys && !m_presses.empty() && dialog->inherits(m_presses.front().window) && IsRead()) {
             PressNext(*dialog);
         }
     }

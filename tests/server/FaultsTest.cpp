@@ -1,8 +1,8 @@
 // A server that goes away, is in somebody's hands, or says no: one message and no record lost or doubled.
 #include "platform/text/Text.h"
+#include "platform/Waiting.h"
 #include "store/CJetDB.h"
 #include "store/engine/RecordSet.h"
-#include "platform/Waiting.h"
 #include "store/postgres/PostgresEngine.h"
 #include "store/postgres/ServerAddress.h"
 #include "store/postgres/ServerOptions.h"

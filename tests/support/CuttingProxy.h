@@ -14,6 +14,7 @@
 #include <chrono>
 #include <cstring>
 #include <thread>
+#include <vector>
 
 namespace ptk {
 
@@ -36,8 +37,12 @@ public:
     void CutAfter(int bytes) { m_left = bytes; }
     [[nodiscard]] bool WasCut() const { return m_left < 0; }
 
-    // From then on nothing passes any more, over any line, and no line ends.
+    // From then on nothing passes any more, over any line, and no line ends, until it flows again.
     void Stall() { m_stalled = true; }
+    void Flow() { m_stalled = false; }
+
+    // What passes from then on takes so long each way.
+    void Delay(std::chrono::milliseconds way) { m_way = way; }
 
 private:
     static constexpr const char* kSocket = "/.s.PGSQL.5432";
@@ -66,26 +71,33 @@ private:
         return ::poll(&one, 1, milliseconds) > 0;
     }
 
-    // One line after the other, as a program has one at a time.
     void Serve()
     {
+        std::vector<std::thread> lines;
         while (!m_stopped) {
             if (IsReadable(m_listener)) {
-                const int client = ::accept(m_listener, nullptr, nullptr);
-                const int server = ::socket(AF_UNIX, SOCK_STREAM, 0);
-                const sockaddr_un address = AddressOf(TestServer() + kSocket);
-                if (::connect(server, reinterpret_cast<const sockaddr*>(&address), sizeof(address)) == 0) {
-                    Relay(client, server);
-                }
-                ::close(client);
-                ::close(server);
+                lines.emplace_back([this, client = ::accept(m_listener, nullptr, nullptr)] { Connect(client); });
             }
         }
+        for (std::thread& line : lines) {
+            line.join();
+        }
+    }
+
+    void Connect(int client)
+    {
+        const int server = ::socket(AF_UNIX, SOCK_STREAM, 0);
+        const sockaddr_un address = AddressOf(TestServer() + kSocket);
+        if (::connect(server, reinterpret_cast<const sockaddr*>(&address), sizeof(address)) == 0) {
+            Relay(client, server);
+        }
+        ::close(client);
+        ::close(server);
     }
 
     void Relay(int client, int server)
     {
-        std::array<char, 4096> buffer{};
+        std::vector<char> buffer(1 << 16);
         while (!m_stopped) {
             if (m_stalled) {
                 std::this_thread::sleep_for(std::chrono::milliseconds(5));
@@ -94,6 +106,7 @@ private:
             std::array<pollfd, 2> both{{{client, POLLIN, 0}, {server, POLLIN, 0}}};
             ::poll(both.data(), both.size(), 5);
             if (both[0].revents != 0) {
+                std::this_thread::sleep_for(m_way.load());
                 const auto size = ::read(client, buffer.data(), buffer.size());
                 if (size <= 0 || ::send(server, buffer.data(), static_cast<std::size_t>(size), MSG_NOSIGNAL) != size) {
                     return;
@@ -105,8 +118,9 @@ private:
         }
     }
 
-    bool PassBack(int client, int server, std::array<char, 4096>& buffer)
+    bool PassBack(int client, int server, std::vector<char>& buffer)
     {
+        std::this_thread::sleep_for(m_way.load());
         auto size = ::read(server, buffer.data(), buffer.size());
         if (size <= 0) {
             return false;
@@ -124,6 +138,7 @@ private:
 
     TemporaryFolder m_folder;
     std::atomic<int> m_left = kNever;
+    std::atomic<std::chrono::milliseconds> m_way{};
     std::atomic<bool> m_stopped = false;
     std::atomic<bool> m_stalled = false;
     int m_listener;

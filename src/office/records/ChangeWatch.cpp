@@ -2,8 +2,8 @@
 
 #include "office/records/UndoStack.h"
 #include "platform/Succeeds.h"
-#include "store/CJetDB.h"
 #include "platform/Waiting.h"
+#include "store/CJetDB.h"
 
 #include <algorithm>
 

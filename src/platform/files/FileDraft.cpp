@@ -1,4 +1,5 @@
 #include "platform/files/FileDraft.h"
+#include "platform/Waiting.h"
 
 #include <cerrno>
 #include <cstdio>
@@ -45,9 +46,10 @@ SystemFile OpenFolder(const path& folder)
 // After the last step.
 void FlushFolder(SystemFile& folder)
 {
-    // EINVAL: this file system has no flush for folders.
-    if (::fsync(folder.Descriptor()) != 0 && errno != EINVAL) {
-        const Failure reason = Failure::FromErrno(errno);
+    int error = 0;
+    waiting::Behind([&] { error = ::fsync(folder.Descriptor()) == 0 ? 0 : errno; });
+    if (error != 0 && error != EINVAL) { // EINVAL: this file system has no flush for folders
+        const Failure reason = Failure::FromErrno(error);
         throw Failure(reason.Number(), reason.Source(), kNotYetSafe + reason.Description(), reason.LastSystemError());
     }
 }

@@ -1,6 +1,7 @@
 #include "platform/files/SystemFile.h"
 
 #include "platform/Failure.h"
+#include "platform/Waiting.h"
 
 #include <cerrno>
 #include <fcntl.h>
@@ -84,9 +85,11 @@ void SystemFile::Write(std::string_view text)
 
 void SystemFile::Flush()
 {
-    if (::fsync(m_descriptor) != 0) {
-        throw Failure::FromErrno(errno);
-    }
+    waiting::Behind([this] {
+        if (::fsync(m_descriptor) != 0) {
+            throw Failure::FromErrno(errno);
+        }
+    });
 }
 
 void SystemFile::Close()

@@ -32,7 +32,7 @@ public:
     // All of it.
     void Write(std::string_view text);
 
-    // Down to the disk.
+    // Down to the disk, while windows live.
     void Flush();
 
     // Raises a late write failure; nothing is open afterwards either way.

@@ -2,6 +2,7 @@
 
 #include "platform/files/FileDraft.h"
 #include "platform/text/Text.h"
+#include "platform/Waiting.h"
 #include "store/engine/EngineNumber.h"
 #include "store/engine/RecordSet.h"
 #include "store/sqlite/EngineFailure.h"
@@ -58,9 +59,9 @@ public:
     template <typename Result>
     Result Await(std::future<Result>& work, const CopyProgress& progress)
     {
-        while (work.wait_for(progress ? kSlice : std::chrono::hours(1)) != std::future_status::ready) {
-            if (progress && !m_ended) {
-                m_ended = !progress(m_done, m_all);
+        while (work.wait_for(kSlice) != std::future_status::ready) {
+            if (!m_ended) {
+                m_ended = progress ? !progress(m_done, m_all) : !waiting::GoOn();
             }
         }
         return work.get();

@@ -206,7 +206,7 @@ void ServerConnection::WaitUntil(Clock::time_point until)
         throw ServerFailure(engine::Busy, "the database is being waited for already");
     }
     m_until = until;
-    m_nextTurn = Clock::now() + waiting::kSlice;
+    m_nextTurn = waiting::NextTurn(); // many short waits in a row take turns, too
 }
 
 void ServerConnection::Wait(short events)

@@ -1,9 +1,11 @@
 #include "store/sqlite/Connection.h"
 
+#include "platform/Waiting.h"
 #include "store/engine/RecordSet.h"
 #include "store/sqlite/EditTrail.h"
 #include "store/sqlite/EngineFailure.h"
 #include "store/sqlite/FileHeader.h"
+#include "store/sqlite/PatientDisk.h"
 #include "store/sqlite/SqliteStatement.h"
 
 #include <sqlite3.h>
@@ -11,6 +13,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <ctime>
 #include <thread>
 
@@ -59,7 +62,7 @@ SQLite::Database OpenFile(const std::string& path, Connection::Access access)
 {
     SpareMemoryCount();
     try {
-        return {path, OpenMode(access)};
+        return {path, OpenMode(access), 0, PatientDisk()};
     } catch (const SQLite::Exception& exception) {
         RefuseIrregularFile(path);
         throw EngineFailure(exception.getErrorCode());
@@ -260,7 +263,6 @@ void Connection::Hold()
 {
     if (!IsHeld()) {
         m_patientUntil = std::chrono::steady_clock::now();
-        m_turns = {};
         if (m_whenHeld == WhenHeld::Wait) {
             m_patientUntil += kPatience;
         }
@@ -283,7 +285,7 @@ bool Connection::IsReplaced() const
 bool Connection::Wait()
 {
     m_inOrder = false;
-    if (std::chrono::steady_clock::now() >= m_patientUntil || !m_turns.GoOn()) {
+    if (std::chrono::steady_clock::now() >= m_patientUntil || !waiting::GoOn()) {
         return false;
     }
     std::this_thread::sleep_for(kBetweenTries);
@@ -318,7 +320,20 @@ void Connection::Commit()
 
 namespace {
 
-constexpr int kPortion = 512; // pages, after which one may be told
+// Pages, after which one may be told: more and more of them where they are quick.
+constexpr int kFirstPortion = 16;
+constexpr int kMostPortion = 512;
+constexpr auto kLongPortion = waiting::kSlice;
+
+// Copies a portion, and makes the next one as long as the disk is quick.
+int CopyPortion(sqlite3_backup* copy, int& portion)
+{
+    const auto begun = std::chrono::steady_clock::now();
+    const int code = sqlite3_backup_step(copy, portion);
+    const bool isLong = std::chrono::steady_clock::now() - begun > kLongPortion;
+    portion = isLong ? std::max(portion / 2, 1) : std::min(portion * 2, kMostPortion);
+    return code;
+}
 
 // What writing the copy failed with is no failure of the database.
 void RaiseOfTarget(int code)
@@ -338,8 +353,9 @@ void Copy(sqlite3* from, sqlite3* to, const std::function<bool(std::int32_t, std
         throw EngineFailure(sqlite3_errcode(to), to);
     }
     int code = SQLITE_OK;
+    int portion = kFirstPortion;
     while (code == SQLITE_OK) {
-        code = sqlite3_backup_step(copy, kPortion);
+        code = CopyPortion(copy, portion);
         const int all = sqlite3_backup_pagecount(copy);
         if (code == SQLITE_OK && progress && !progress(all - sqlite3_backup_remaining(copy), all)) {
             code = SQLITE_INTERRUPT;

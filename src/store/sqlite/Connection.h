@@ -1,7 +1,6 @@
 // The engine's handle on one database file and the exclusive hold on it.
 #pragma once
 
-#include "platform/Waiting.h"
 #include "store/engine/WhenHeld.h"
 
 #include <SQLiteCpp/Database.h>
@@ -117,7 +116,6 @@ private:
     Access m_access;
     WhenHeld m_whenHeld;
     std::chrono::steady_clock::time_point m_patientUntil;
-    waiting::Turns m_turns; // of the wait for who holds the file
     bool m_inOrder = false; // whether what the file is was seen from outside, without a wait
     bool m_durable = false; // whether commits survive a power cut
     bool m_keepsMore = false;

@@ -1,7 +1,7 @@
 #include "store/sqlite/SqliteEngine.h"
 
-#include "store/engine/RecordSet.h"
 #include "platform/Waiting.h"
+#include "store/engine/RecordSet.h"
 #include "store/sqlite/Connection.h"
 #include "store/sqlite/EditTrail.h"
 #include "store/sqlite/EngineFailure.h"

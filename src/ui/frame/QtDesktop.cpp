@@ -213,8 +213,7 @@ std::int32_t QtDesktop::Run(ShellVerb verb, const std::string& path, const std::
 {
     const bool busy = m_busy;
     SetPointer(Pointer::Busy);
-    waiting::Turns turns;
-    const std::int32_t code = RunSystemShell(verb, path, title, m_refusal, [&turns] { return turns.GoOn(); });
+    const std::int32_t code = RunSystemShell(verb, path, title, m_refusal, [] { return waiting::GoOn(); });
     SetPointer(busy ? Pointer::Busy : Pointer::Default);
     return code;
 }

@@ -7,6 +7,7 @@
 #include "reports/ReportCards.h"
 #include "ui/profile/FProfile.h"
 #include "ui/profile/TablePreview.h"
+#include "ui/work/KeepSettings.h"
 #include "ui/work/SaveDialog.h"
 #include "ui/work/WorkProgress.h"
 #include "ui_FAccountant.h"
@@ -152,7 +153,7 @@ void FAccountant::Save()
     const SaveOutcome outcome = SaveAs(target->path, target->form, [&](ReportForm) { return BytesFor(profile, notices); });
     std::string said = outcome.said;
     if (outcome.saved) {
-        QSettings().setValue(kChosenKey, QString::fromStdString(profile.name));
+        KeepSettings({{kChosenKey, QString::fromStdString(profile.name)}});
         for (const std::string& notice : notices) {
             said += fmt::format(" {}.", notice);
         }

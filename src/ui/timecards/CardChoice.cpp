@@ -12,6 +12,7 @@
 #include "ui/boxes/EmployeeModels.h"
 #include "ui/page/PageHost.h"
 #include "ui/widgets/FoldingRow.h"
+#include "ui/work/KeepSettings.h"
 #include "ui_CardChoice.h"
 
 #include <QSettings>
@@ -132,9 +133,7 @@ void CardChoice::KeepAsLastUsed()
     if (ChosenDate(*m_ui->dttbTCFrom) == m_host.Clock().Today()) {
         return;
     }
-    QSettings settings;
-    settings.setValue(kLastFrom, QString::fromStdString(shown.from));
-    settings.setValue(kLastTo, QString::fromStdString(shown.to));
+    KeepSettings({{kLastFrom, QString::fromStdString(shown.from)}, {kLastTo, QString::fromStdString(shown.to)}});
     OfferLastUsed();
 }
 

@@ -11,6 +11,7 @@
 #include "ui/widgets/HintLabel.h"
 #include "ui/widgets/HoursChart.h"
 #include "ui/widgets/ThemeIcon.h"
+#include "ui/work/KeepSettings.h"
 
 #include <QLabel>
 #include <QMenu>
@@ -187,7 +188,7 @@ void CheckPanel::ShowHours(bool shown)
 {
     m_legend->setVisible(shown);
     m_chart->setVisible(shown);
-    QSettings().setValue(kHoursKey, shown);
+    KeepSettings({{kHoursKey, shown}});
     ShowColumns();
 }
 

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QEvent>
 #include <QEventLoop>
+#include <QObject>
 #include <QTimer>
 #include <QWindow>
 
@@ -15,11 +16,28 @@ namespace {
 
 constexpr int kBehindTheWait = 10; // milliseconds
 
+// Sees what only the event loop delivers: whatever follows has a whole slice before its first turn.
+class LoopWatch final : public QObject
+{
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject* /*receiver*/, QEvent* event) override
+    {
+        const QEvent::Type type = event->type();
+        if (event->spontaneous() || type == QEvent::Timer || type == QEvent::MetaCall || type == QEvent::SockAct) {
+            waiting::CameRound();
+        }
+        return false;
+    }
+};
+
 } // namespace
 
 void PaintWhileWaiting()
 {
     WhileWaiting(PaintMeanwhile);
+    QCoreApplication::instance()->installEventFilter(new LoopWatch(QCoreApplication::instance()));
 }
 
 bool PaintMeanwhile()

@@ -1,6 +1,7 @@
 #include "ui/work/SaveDialog.h"
 
 #include "office/reports/SaveReport.h"
+#include "ui/work/KeepSettings.h"
 
 #include <algorithm>
 #include <QFile>
@@ -65,7 +66,7 @@ std::optional<SaveTarget> AskWhereToSave(QWidget& parent, const QString& name, s
         return std::nullopt;
     }
     const QString path = dialog.selectedFiles().value(0);
-    QSettings().setValue(kFolderKey, QFileInfo(path).absolutePath());
+    KeepSettings({{kFolderKey, QFileInfo(path).absolutePath()}});
     const std::string encoded = QFile::encodeName(path).toStdString();
     return SaveTarget{encoded, FormOfName(encoded, chosen(), forms)};
 }

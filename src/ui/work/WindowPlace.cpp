@@ -1,5 +1,7 @@
 #include "ui/work/WindowPlace.h"
 
+#include "ui/work/KeepSettings.h"
+
 #include <QApplication>
 #include <QScreen>
 #include <QSettings>
@@ -49,7 +51,7 @@ void RestorePlace(QWidget& window, const QString& name, QSize first)
 
 void StorePlace(const QWidget& window, const QString& name)
 {
-    QSettings().setValue(Key(name), window.saveGeometry());
+    KeepSettings({{Key(name), window.saveGeometry()}});
 }
 
 } // namespace ptk

@@ -1,5 +1,6 @@
 #include "ui/work/WorkProgress.h"
 
+#include "platform/Waiting.h"
 #include "ui/work/PaintMeanwhile.h"
 
 #include <QApplication>
@@ -27,7 +28,7 @@ void LightenPointer()
 } // namespace
 
 WorkProgress::WorkProgress(QWidget* window, const ProgressWords& words)
-    : QDialog(window), m_bar(new QProgressBar(this)), m_waiting([this] { return GoOnWaiting(); })
+    : QDialog(window), m_bar(new QProgressBar(this)), m_waiting(std::make_unique<WaitingAs>([this] { return GoOnWaiting(); }))
 {
     setObjectName("dlgProgress");
     setWindowTitle(QString::fromStdString(words.title));
@@ -47,6 +48,8 @@ WorkProgress::WorkProgress(QWidget* window, const ProgressWords& words)
     Restart();
 }
 
+WorkProgress::~WorkProgress() = default;
+
 void WorkProgress::Restart()
 {
     m_sinceStart.start();
@@ -57,6 +60,15 @@ void WorkProgress::ShowWhenLong()
     if (!isVisible() && !m_cancelled && m_sinceStart.elapsed() >= kShownAfter) {
         show();
         LightenPointer();
+    }
+}
+
+// A window that the work has opened does not keep Escape from it; one of another program may.
+void WorkProgress::TakeKeyboard()
+{
+    const QWidget* active = QApplication::activeWindow();
+    if (active != nullptr && active != this) {
+        activateWindow();
     }
 }
 
@@ -78,7 +90,11 @@ bool WorkProgress::GoOn(std::int32_t done, std::int32_t all)
     if (isVisible()) {
         m_bar->setRange(0, all);
         m_bar->setValue(done);
+        TakeKeyboard();
         QApplication::processEvents();
+        waiting::CameRound();
+    } else {
+        static_cast<void>(waiting::GoOn());
     }
     return !m_cancelled;
 }

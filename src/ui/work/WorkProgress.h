@@ -2,15 +2,17 @@
 #pragma once
 
 #include "startup/Windows.h"
-#include "platform/Waiting.h"
 
 #include <cstdint>
+#include <memory>
 #include <QDialog>
 #include <QElapsedTimer>
 
 class QProgressBar;
 
 namespace ptk {
+
+class WaitingAs;
 
 // Opens, and lets other events happen, only inside GoOn and while the database is waited for, never by a timer of its own: a box that tells
 // of an employee's failure is then never covered by it.
@@ -21,6 +23,7 @@ class WorkProgress final : public QDialog, public ProgressWindow
 public:
     // Without a window it blocks all that there are.
     WorkProgress(QWidget* window, const ProgressWords& words);
+    ~WorkProgress() override;
 
     bool GoOn(std::int32_t done, std::int32_t all) override;
 
@@ -35,12 +38,13 @@ public:
 
 private:
     void ShowWhenLong();
+    void TakeKeyboard();
     bool GoOnWaiting();
 
     QProgressBar* m_bar; // belongs to the dialog
     QElapsedTimer m_sinceStart;
     bool m_cancelled = false;
-    WaitingAs m_waiting; // for a database: Cancel ends that, too
+    std::unique_ptr<WaitingAs> m_waiting; // for a database: Cancel ends that, too
 };
 
 } // namespace ptk
