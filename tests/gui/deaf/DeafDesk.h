@@ -1,0 +1,259 @@
+// A started program that goes through a payday, each action of it measured.
+#pragma once
+
+#include "gui/deaf/Deafness.h"
+#include "gui/GuiFixture.h"
+#include "store/whole/BulkWriter.h"
+#include "ui/boxes/DateCombo.h"
+#include "ui/boxes/DateTimeBox.h"
+
+#include <fmt/format.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace ptk {
+
+// Twenty people who worked each day from 24 February to 4 March 2003, yesterday, and on so many days of years before; 03 Kim has not ended
+// the shift of 24 February.
+inline void AddDeafStaff(BulkWriter& writer, int daysBefore)
+{
+    EmployeeRow employee;
+    employee.EmployeeActive = true;
+    employee.PayRate = 10;
+    employee.OvertimePayRate = 15;
+    employee.LastName = "Kim";
+    employee.SSN = "1";
+    for (int person = 0; person < 20; ++person) {
+        employee.FirstName = fmt::format("{:02}", person);
+        const std::int32_t id = writer.AddEmployee(employee);
+        constexpr std::int64_t kDay = 86400;
+        const std::int64_t last = DateTime({2003, 3, 4}).Seconds();
+        for (int day = -daysBefore - 8; day <= 0; ++day) {
+            const DateTime start = DateTime::FromSeconds(last + day * kDay + 8 * 3600);
+            const bool isOpen = person == 3 && day == -1;
+            writer.AddTimeRecord({-1, id, start, isOpen ? DateTime() : DateTime::FromSeconds(start.Seconds() + 9 * 3600)});
+        }
+    }
+}
+
+class DeafDesk
+{
+public:
+    struct Heard
+    {
+        const char* action;
+        std::chrono::milliseconds longest;
+    };
+
+    // `before` is done in front of each action. With an address the program works on that database, else on its own file.
+    DeafDesk(int daysBefore, std::function<void(const std::string& file)> before, const std::string& address = "")
+        : m_program([=](BulkWriter& writer) { AddDeafStaff(writer, daysBefore); }), m_before(std::move(before))
+    {
+        if (!address.empty()) {
+            WriteBytes(m_program.configPath, "[PTK]\r\nDatabasePath=" + address + "\r\nShowLoginHelp=False\r\n");
+        }
+        Measure("start, log in", [this] { m_program.LogIn(); });
+    }
+
+    // In the order of a payday; all of them, or what a short trial takes.
+    void GoThrough(bool all)
+    {
+        ShowCard();
+        Store();
+        if (all) {
+            FillAndUndo();
+            KeepRecords();
+            Oversee();
+            Report();
+        }
+        Measure("back up", [this] { Find<QAction>(Main(), "mnuFileBackUp").trigger(); });
+        Measure("exit", [this] { m_program.Controller()->UnloadControllerWindow(); });
+    }
+
+    void Measure(const char* action, const std::function<void()>& work)
+    {
+        m_before(NativePath(m_program.databasePath).string());
+        m_deafness.Begin();
+        work();
+        m_heard.push_back({action, m_deafness.Longest()});
+        for (const ShownBox& box : m_program.desktop.Take()) {
+            EXPECT_TRUE(box.buttons == Buttons::YesNo) << action << ": " << box.text;
+        }
+    }
+
+    [[nodiscard]] const std::vector<Heard>& AllHeard() const { return m_heard; }
+    FController& Main() { return m_program.Main(); }
+    GuiProgram& Program() { return m_program; }
+
+private:
+    static constexpr int kReports = 2;
+    static constexpr int kEmployees = 3;
+    static constexpr int kCompanies = 4;
+
+    template <typename Control>
+    Control& The(const char* name)
+    {
+        return Find<Control>(Main(), name);
+    }
+    void Press(const char* button) { Click(Main(), button); }
+    QTableView& Grid() { return The<QTableView>("grdTimeRecs"); }
+
+    static void Pick(QComboBox& box, int row)
+    {
+        box.setCurrentIndex(row);
+        emit box.activated(row);
+    }
+
+    static QWidget& TopLevel(const char* name)
+    {
+        for (QWidget* window : QApplication::topLevelWidgets()) {
+            if (window->objectName() == name && window->isVisible()) {
+                return *window;
+            }
+        }
+        throw std::runtime_error(std::string("no ") + name);
+    }
+
+    // Its button that stops the reading is there as long as that lasts; it begins when the window is there.
+    static void WaitUntilRead(const char* window)
+    {
+        QTest::qWait(20);
+        EXPECT_TRUE(QTest::qWaitFor([=] { return !Find(TopLevel(window), "cmdStop").isVisible(); }, 60000));
+    }
+
+    void ShowCard()
+    {
+        Press("cmdPeriodBack");
+        Measure("generate a card", [this] {
+            Pick(The<QComboBox>("cboTCEmployeeName"), 0);
+            Press("cmdGenTimeRecs");
+        });
+        EXPECT_GT(Grid().model()->rowCount(), 5);
+    }
+
+    void Store()
+    {
+        Measure("edit, save", [this] {
+            Grid().selectRow(0);
+            const ExpectedModal editor([](QDialog& window) {
+                Type(Find<DateTimeBox>(window, "dttbEndTime"), "430p");
+                Click(window, "cmdSave");
+            });
+            Press("cmdTCEdit");
+        });
+    }
+
+    void FillAndUndo()
+    {
+        Measure("delete", [this] {
+            Grid().selectRow(1);
+            m_program.desktop.answers = {Answer::Yes};
+            Press("cmdTCDelete");
+        });
+        Measure("undo", [this] { The<QAction>("mnuEditUndo").trigger(); });
+        Measure("auto fill", [this] {
+            const ExpectedModal window([](QDialog& fill) {
+                Type(*Find<DateCombo>(fill, "dttbTCFrom").lineEdit(), "2/20");
+                Type(*Find<DateCombo>(fill, "dttbTCTo").lineEdit(), "2/22");
+                Click(fill, "cmdAutoShift");
+                Click(fill, "cmdSave");
+            });
+            Press("cmdFill");
+        });
+        Measure("undo the fill", [this] { The<QAction>("mnuEditUndo").trigger(); });
+    }
+
+    void KeepRecords()
+    {
+        Measure("show an employee", [this] {
+            ClickTab(Main(), kEmployees);
+            Pick(The<QComboBox>("cboEmployeeID"), 1);
+        });
+        Measure("save an employee", [this] {
+            Type(The<QLineEdit>("txtPayRate"), "20");
+            Press("cmdEmployeeSave");
+        });
+        Measure("save a company", [this] {
+            ClickTab(Main(), kCompanies);
+            Press("cmdCompanyNew");
+            Type(*The<QComboBox>("cboCompanyName").lineEdit(), "Harbour");
+            Press("cmdCompanySave");
+        });
+        Measure("history", [this] {
+            The<QAction>("mnuViewHistory").trigger();
+            WaitUntilRead("HistoryWindow");
+        });
+    }
+
+    void Oversee()
+    {
+        Measure("overview", [this] {
+            The<QAction>("mnuViewOverview").trigger();
+            WaitUntilRead("OverviewWindow");
+        });
+        Measure("mend several", [] {
+            const ExpectedModal mending([](QDialog& window) {
+                EXPECT_GT(Find<QTableView>(window, "grdMend").model()->rowCount(), 0);
+                window.reject();
+            });
+            Click(TopLevel("OverviewWindow"), "cmdMend");
+            WaitUntilRead("OverviewWindow");
+        });
+        Measure("add a shift", [] {
+            const ExpectedModal adding([](QDialog& window) {
+                Find<DateCombo>(window, "dttbShiftDay").SetText("3/1/2003");
+                Find<QLineEdit>(window, "dttbShiftStart").setText("8");
+                Find<QLineEdit>(window, "dttbShiftEnd").setText("12");
+                Click(window, "cmdSave");
+            });
+            Find<QAction>(TopLevel("OverviewWindow"), "mnuAddShift").trigger();
+            WaitUntilRead("OverviewWindow");
+        });
+        Measure("close the payday", [this] {
+            m_program.desktop.answers = {Answer::Yes};
+            Click(TopLevel("OverviewWindow"), "cmdClosePayday");
+            WaitUntilRead("OverviewWindow");
+        });
+    }
+
+    void Report()
+    {
+        Measure("reports", [this] {
+            ClickTab(Main(), kReports);
+            The<QListView>("lstEmployees")
+                .selectionModel()
+                ->select(The<QListView>("lstEmployees").model()->index(1, 0), QItemSelectionModel::Select);
+            Press("cmdGenerate");
+        });
+        Measure("for accountant", [this] {
+            The<QComboBox>("cboReports").setCurrentText("Accountants Review");
+            Press("cmdSelectAll");
+            const ExpectedModal table([](QDialog& window) { Click(window, "cmdClose"); });
+            Press("cmdAccountant");
+        });
+        if (The<QAction>("mnuFileRestore").isEnabled()) { // not on a server
+            LookAtBackups();
+        }
+    }
+
+    void LookAtBackups()
+    {
+        Measure("list of backups", [this] {
+            const ExpectedModal choice([](QDialog& window) {
+                const auto& list = Find<QTableWidget>(window, "grdBackups");
+                EXPECT_TRUE(QTest::qWaitFor([&] { return list.findItems("checking...", Qt::MatchExactly).isEmpty(); }, 60000));
+                window.reject();
+            });
+            The<QAction>("mnuFileRestore").trigger();
+        });
+    }
+
+    GuiProgram m_program;
+    std::function<void(const std::string& file)> m_before;
+    Deafness m_deafness;
+    std::vector<Heard> m_heard;
+};
+
+} // namespace ptk
