@@ -170,9 +170,6 @@ public:
     // Opens the database when it is closed and always leaves it closed, except after a failed statement (407). Committed on return.
     bool ExecuteAction(const std::string& sqlstring);
 
-    // The same for several statements in one transaction: all of them are stored, or none. Nothing to do is true.
-    bool ExecuteActions(std::span<const std::string> statements);
-
     // Stores time records, in one transaction and one step, provided that each row is as it was read: false with 407 and a Conflict where
     // one is not, and nothing is stored.
     bool SaveTimeRecords(std::span<const TimeRecordWrite> records);

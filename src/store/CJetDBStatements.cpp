@@ -126,19 +126,6 @@ bool CJetDB::ExecuteAction(const std::string& sqlstring)
     return Change(jetdb::StatementFailed, [&] { m_database->Run(m_sql); });
 }
 
-bool CJetDB::ExecuteActions(std::span<const std::string> statements)
-{
-    if (statements.empty()) {
-        return true;
-    }
-    m_sql = statements.back();
-    return Change(jetdb::StatementFailed, [&] {
-        for (const std::string& statement : statements) {
-            m_database->Run(statement);
-        }
-    });
-}
-
 bool CJetDB::ExecuteSteps(const std::function<void(Engine& engine)>& steps)
 {
     return Change(jetdb::StatementFailed, [&] { steps(*m_database); });

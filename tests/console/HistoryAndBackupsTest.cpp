@@ -2,6 +2,7 @@
 
 #include "store/backup/BackupNames.h"
 #include "store/sqlite/SqliteEngine.h"
+#include "support/Execute.h"
 
 #include <unistd.h>
 
@@ -16,7 +17,7 @@ class HistoryAndBackupsTest : public ConsoleTest
 protected:
     void SetUp() override { ASSERT_EQ(Run({"create-database", "--sample", "--today", "3/20/2026"}).status, 0); }
 
-    void Elsewhere(const std::string& sql) const { SqliteEngine(Database().string()).Execute(sql); }
+    void Elsewhere(const std::string& sql) const { ExecuteIn(Database().string(), sql); }
     std::string Backup(const std::string& name) const { return (Folder() / "backups" / name).string(); }
 };
 

@@ -4,6 +4,7 @@
 
 #include "store/engine/Statement.h"
 #include "store/sqlite/SqliteEngine.h"
+#include "support/Execute.h"
 
 #include <algorithm>
 #include <set>
@@ -17,7 +18,7 @@ class OverviewCommandTest : public ConsoleTest
 {
 protected:
     void MakeSample() { ASSERT_EQ(Run({"create-database", "--sample"}).status, 0); }
-    void Change(const std::string& sql) const { SqliteEngine(Database().string()).Execute(sql); }
+    void Change(const std::string& sql) const { ExecuteIn(Database().string(), sql); }
 
     static int Count(const std::string& text, const std::string& part)
     {

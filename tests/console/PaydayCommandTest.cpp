@@ -1,6 +1,7 @@
 // ptk-console payday: what is kept, what it prints, and its statuses.
 #include "console/ConsoleFixture.h"
 #include "store/sqlite/SqliteEngine.h"
+#include "support/Execute.h"
 
 namespace ptk {
 
@@ -19,7 +20,7 @@ protected:
                   "(41, '2026-03-03 08:00:00', '1899-12-30 00:00:00')");
     }
 
-    void Elsewhere(const std::string& sql) const { SqliteEngine(Database().string()).Execute(sql); }
+    void Elsewhere(const std::string& sql) const { ExecuteIn(Database().string(), sql); }
 
     Answer Payday(std::vector<std::string> words)
     {

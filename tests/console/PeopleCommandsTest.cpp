@@ -1,6 +1,7 @@
 // import-employees, person and kept.
 #include "console/ConsoleFixture.h"
 #include "store/sqlite/SqliteEngine.h"
+#include "support/Execute.h"
 
 namespace ptk {
 
@@ -20,7 +21,7 @@ protected:
         return Run(words);
     }
 
-    void Execute(const char* sql) const { SqliteEngine(Database().string()).Execute(sql); }
+    void Execute(const char* sql) const { ExecuteIn(Database().string(), sql); }
 };
 
 TEST_F(PeopleCommandsTest, ImportEndsWithTheStatusThatTellsWhatBecameOfTheLines)

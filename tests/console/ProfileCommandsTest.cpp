@@ -1,6 +1,7 @@
 // ptk-console profiles, and the accountant's table by profile: what is printed and stored, and the statuses.
 #include "console/ConsoleFixture.h"
 #include "store/sqlite/SqliteEngine.h"
+#include "support/Execute.h"
 
 namespace ptk {
 
@@ -23,7 +24,7 @@ protected:
             "'column=Pay' || char(9) || 'P' || char(10)), ('later', 'colour=red')");
     }
 
-    void Elsewhere(const std::string& sql) const { SqliteEngine(Database().string()).Execute(sql); }
+    void Elsewhere(const std::string& sql) const { ExecuteIn(Database().string(), sql); }
 
     Answer Review(std::vector<std::string> words)
     {

@@ -1,6 +1,7 @@
 // Who changed what: the history as a window, and how a card leads to it.
 #include "gui/PageFixture.h"
 #include "store/sqlite/SqliteEngine.h"
+#include "support/Execute.h"
 #include "ui/boxes/DateCombo.h"
 
 namespace ptk {
@@ -38,7 +39,7 @@ protected:
     }
 
     // As another tool would.
-    void Elsewhere(const std::string& sql) const { SqliteEngine(NativePath(program.databasePath).string()).Execute(sql); }
+    void Elsewhere(const std::string& sql) const { ExecuteIn(NativePath(program.databasePath).string(), sql); }
     void Date() const { Elsewhere("UPDATE _Change SET ChangedAt = '2003-03-05 08:05:09'"); }
     QTableView& Grid() { return The<QTableView>("grdTimeRecs"); }
     void Open(const char* action) { Find<QAction>(Main(), action).trigger(); }

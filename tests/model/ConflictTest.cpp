@@ -10,6 +10,7 @@
 #include "store/CSystemOptions.h"
 #include "store/engine/RecordSet.h"
 #include "support/EitherDatabase.h"
+#include "support/Execute.h"
 
 #include <gtest/gtest.h>
 
@@ -30,7 +31,7 @@ protected:
         m_database->DatabaseName(m_kept.Name());
     }
 
-    void Elsewhere(const std::string& sql) const { m_kept.Open()->Execute(sql); }
+    void Elsewhere(const std::string& sql) const { Execute(*m_kept.Open(), sql); }
     std::string Value(const std::string& sql) const { return m_kept.Open()->Select(sql)->Shown(0); }
 
     EitherDatabase m_kept;

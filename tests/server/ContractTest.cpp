@@ -12,6 +12,7 @@
 #include "store/engine/Statement.h"
 #include "store/PunchSQL.h"
 #include "store/trail/TrailReader.h"
+#include "support/Execute.h"
 #include "support/NewServerDatabase.h"
 #include "support/TemporaryFolder.h"
 
@@ -294,9 +295,8 @@ TEST_P(ContractTest, TheTrailTellsTheSameAndUndoTakesItBack)
     UndoStack undo(database);
     AddRecord("3/5/2003 8:00 AM", "3/5/2003 5:00 PM");
     ASSERT_TRUE(undo.Remember()) << undo.Refusal();
-    ASSERT_TRUE(database->ExecuteActions(std::vector<std::string>{"UPDATE TimeRecord SET EndTime = #3/5/2003 6:00 PM#",
-                                                                  "UPDATE TimeRecord SET EmployeeID = 41",
-                                                                  "UPDATE TimeRecord SET EmployeeID = 41"}));
+    ASSERT_TRUE(ExecuteAll(*database, {"UPDATE TimeRecord SET EndTime = #3/5/2003 6:00 PM#", "UPDATE TimeRecord SET EmployeeID = 41",
+                                       "UPDATE TimeRecord SET EmployeeID = 41"}));
     ASSERT_TRUE(undo.Remember()) << undo.Refusal();
     ASSERT_TRUE(Do("UPDATE TimeRecord SET EmployeeID = 41"));
     EXPECT_EQ(database->LastStep(), 0) << "it changed nothing";

@@ -15,6 +15,7 @@
 #include "store/engine/Statement.h"
 #include "store/postgres/PostgresEngine.h"
 #include "store/trail/TrailReader.h"
+#include "support/Execute.h"
 #include "support/NewServerDatabase.h"
 
 #include <gtest/gtest.h>
@@ -98,7 +99,7 @@ TEST_F(RoundTripsTest, History)
                "FROM generate_series(1, 300)");
     UndoStack undo(database);
     std::vector<std::string> fill(14, "INSERT INTO TimeRecord (EmployeeID, StartTime, EndTime) SELECT 41, #3/6/2003#, #3/6/2003#");
-    EXPECT_EQ(Of([&] { return database->ExecuteActions(fill) && undo.Remember(); }), 14 + 1 + 1) << "each, the commit, all their entries";
+    EXPECT_EQ(Of([&] { return ExecuteAll(*database, fill) && undo.Remember(); }), 14 + 1 + 1) << "each, the commit, all their entries";
     EXPECT_EQ(undo.UndoText(), "Undo Auto Fill of 14 records");
     HistoryReading history(database, {}, std::make_shared<EmployeeNames>(database));
     const auto page = [&] {

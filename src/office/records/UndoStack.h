@@ -38,9 +38,6 @@ public:
     // could be redone then cannot be any more. False when the trail could not be read: see Refusal.
     bool Remember();
 
-    [[nodiscard]] bool CanUndo() const { return !m_done.empty(); }
-    [[nodiscard]] bool CanRedo() const { return !m_undone.empty(); }
-
     // "Undo Delete 03/05/2003 08:00 AM"; "Undo" when there is nothing.
     [[nodiscard]] std::string UndoText() const;
 

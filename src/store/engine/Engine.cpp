@@ -44,20 +44,6 @@ void Engine::Run(std::string_view statement)
     Prepare(TranslateStatement(statement))->Run();
 }
 
-void Engine::Execute(std::string_view statement)
-{
-    Write([&] { Run(statement); });
-}
-
-void Engine::ExecuteAll(std::span<const std::string> statements)
-{
-    Write([&] {
-        for (const std::string& statement : statements) {
-            Run(statement);
-        }
-    });
-}
-
 std::shared_ptr<RecordSet> Engine::SelectStored(std::string_view query)
 {
     return PrepareStored(query)->ReadRows();
@@ -68,11 +54,6 @@ void Engine::RunStored(std::string_view query, std::span<const Parameter> parame
     const auto statement = PrepareStored(query);
     statement->Bind(parameters);
     statement->Run();
-}
-
-void Engine::ExecuteStored(std::string_view query, std::span<const Parameter> parameters)
-{
-    Write([&] { RunStored(query, parameters); });
 }
 
 } // namespace ptk

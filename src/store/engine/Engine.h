@@ -49,7 +49,7 @@ public:
     // Others get at the database; what was not committed is dropped.
     virtual void GiveUp() noexcept = 0;
 
-    // In the program's own SQL. Select takes only statements that answer rows and change nothing, Execute only those that answer none.
+    // In the program's own SQL. Select takes only statements that answer rows and change nothing, Run only those that answer none.
     std::shared_ptr<RecordSet> Select(std::string_view statement);
 
     // As a step of Write.
@@ -58,17 +58,8 @@ public:
     // A query inside the database, as a step of Write.
     void RunStored(std::string_view query, std::span<const Parameter> parameters);
 
-    // On disk when it returns.
-    void Execute(std::string_view statement);
-
-    // All of them in one transaction, or nothing.
-    void ExecuteAll(std::span<const std::string> statements);
-
     // Of the queries inside the database. A missing query raises 12, an unknown parameter or one without a value 25.
     std::shared_ptr<RecordSet> SelectStored(std::string_view query);
-
-    // On disk when it returns.
-    void ExecuteStored(std::string_view query, std::span<const Parameter> parameters);
 
     // The steps in one transaction, or nothing of them; on disk when it returns. What they change is in the edit trail as this author's,
     // all under the number of one step. They may be run twice, the first time without any effect.

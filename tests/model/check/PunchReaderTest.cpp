@@ -8,6 +8,7 @@
 #include "store/sqlite/SqliteEngine.h"
 #include "store/whole/BulkWriter.h"
 #include "store/whole/DatabaseCreator.h"
+#include "support/Execute.h"
 #include "support/TemporaryFolder.h"
 
 #include <algorithm>
@@ -62,7 +63,7 @@ protected:
     }
 
     std::string Path() const { return m_folder.Path() + "/system/ptk_11.mdb"; }
-    void Run(const std::string& sql) const { SqliteEngine(Path()).Execute(sql); }
+    void Run(const std::string& sql) const { ExecuteIn(Path(), sql); }
 
     Punches Read(std::int32_t employeeID = 40) const
     {

@@ -7,6 +7,7 @@
 #include "store/CJetDB.h"
 #include "store/engine/Statement.h"
 #include "support/EitherDatabase.h"
+#include "support/Execute.h"
 
 #include <fmt/format.h>
 #include <gtest/gtest.h>
@@ -35,7 +36,7 @@ protected:
     void Run(const char* sql) const
     {
         const bool server = m_either.IsOnServer();
-        m_either.Open()->Execute(fmt::format(fmt::runtime(sql), server ? "true" : "1", server ? "false" : "0"));
+        Execute(*m_either.Open(), fmt::format(fmt::runtime(sql), server ? "true" : "1", server ? "false" : "0"));
     }
     void Add(std::int32_t employee, const std::string& start, const std::string& end) const
     {

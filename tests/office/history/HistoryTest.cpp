@@ -13,6 +13,7 @@
 #include "store/CJetDB.h"
 #include "store/sqlite/SqliteEngine.h"
 #include "store/whole/DatabaseCreator.h"
+#include "support/Execute.h"
 #include "support/Failures.h"
 #include "support/Files.h"
 #include "support/TemporaryFolder.h"
@@ -38,7 +39,7 @@ protected:
     }
 
     std::string Path() const { return m_folder.Path() + "/system/ptk_11.mdb"; }
-    void Elsewhere(const std::string& sql) const { SqliteEngine(Path()).Execute(sql); }
+    void Elsewhere(const std::string& sql) const { ExecuteIn(Path(), sql); }
 
     void By(const char* person, const std::string& sql, const char* program = "ptk-admin")
     {

@@ -14,6 +14,7 @@
 #include "store/sqlite/SqliteEngine.h"
 #include "store/whole/BulkWriter.h"
 #include "store/whole/DatabaseCreator.h"
+#include "support/Execute.h"
 #include "support/Failures.h"
 #include "support/TemporaryFolder.h"
 
@@ -71,8 +72,8 @@ protected:
     std::string Path() const { return m_folder.Path() + "/system/ptk_11.mdb"; }
     void Add(const std::string& start, const std::string& end, std::int32_t employee)
     {
-        SqliteEngine(Path()).Execute("INSERT INTO TimeRecord (EmployeeID, StartTime, EndTime) VALUES (" + std::to_string(employee) + ", " +
-                                     start + ", " + end + ")");
+        ExecuteIn(Path(), "INSERT INTO TimeRecord (EmployeeID, StartTime, EndTime) VALUES (" + std::to_string(employee) + ", " + start +
+                              ", " + end + ")");
     }
 
     TemporaryFolder m_folder;

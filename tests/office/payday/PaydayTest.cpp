@@ -14,6 +14,7 @@
 #include "store/engine/Statement.h"
 #include "store/whole/BulkWriter.h"
 #include "support/EitherDatabase.h"
+#include "support/Execute.h"
 
 #include <fmt/format.h>
 #include <gtest/gtest.h>
@@ -51,7 +52,7 @@ protected:
                   "(41, '2026-03-03 08:00:00', '1899-12-30 00:00:00')");
     }
 
-    void Elsewhere(const std::string& sql) const { m_either.Open()->Execute(sql); }
+    void Elsewhere(const std::string& sql) const { Execute(*m_either.Open(), sql); }
 
     // The first column, and of entries and closings all that does not depend on the time.
     std::string Rows(const std::string& sql) const

@@ -19,6 +19,7 @@
 #include "store/engine/RecordSet.h"
 #include "store/whole/BulkWriter.h"
 #include "support/EitherDatabase.h"
+#include "support/Execute.h"
 #include "support/Failures.h"
 
 #include <fmt/format.h>
@@ -219,7 +220,7 @@ protected:
 TEST_F(ProfilesTest, AreKeptChangedAndDeletedUnlessSomebodyElseWasThere)
 {
     if (!m_own.IsOnServer()) {
-        m_own.Open()->Execute("DROP TABLE _Profile"); // as in a file that never had one
+        Execute(*m_own.Open(), "DROP TABLE _Profile"); // as in a file that never had one
     }
     EXPECT_THAT(Names(), ElementsAre("plain", "kinds", "semicolons"));
     SaveProfile(m_database, Named("Payroll"));
@@ -239,7 +240,7 @@ TEST_F(ProfilesTest, AreKeptChangedAndDeletedUnlessSomebodyElseWasThere)
     EXPECT_THAT(FailureTextOf([&] { static_cast<void>(RequireProfile(m_database, "Payroll")); }),
                 HasSubstr("there is no profile \"Payroll\""));
 
-    m_own.Open()->Execute("INSERT INTO _Profile (Name, Definition) VALUES ('later', 'colour=red')");
+    Execute(*m_own.Open(), "INSERT INTO _Profile (Name, Definition) VALUES ('later', 'colour=red')");
     EXPECT_THAT(Names(), ElementsAre("plain", "kinds", "semicolons", "böhm", "later?"));
     EXPECT_THAT(FailureTextOf([&] { static_cast<void>(RequireProfile(m_database, "later")); }), HasSubstr("cannot be read: its line"));
     EXPECT_EQ(m_own.Open()->Select("SELECT COUNT(*) FROM _Change")->Int64At(0), 0) << "no figures: no change of any";
@@ -370,17 +371,17 @@ TEST_F(ProfilesTest, AddUpToTheReviewWhateverWasWorkedAndPaid)
                                              GeneralText(start), GeneralText(DateTime::FromSeconds(start.Seconds() + below(14 * 3600)))));
         }
     }
-    ASSERT_TRUE(m_database->ExecuteActions(statements)) << m_database->LastFailure().Description();
+    ASSERT_TRUE(ExecuteAll(*m_database, statements)) << m_database->LastFailure().Description();
     ExpectSumsOfTheCards(kMarch);
 }
 
 TEST_F(ProfilesTest, WhoHasNoCardIsNamedAndWhoStandsTwiceIsTold)
 {
-    m_own.Open()->Execute("INSERT INTO Employee (EmployeeNumber, FirstName, LastName, Active, PayRate, OvertimePayRate, AutoDeduct, "
-                          "AutoDeductLunchLength, AutoDeductBreakLength) VALUES (7, 'Ann', 'Lee', '1', 10, 15, '0', 0, 0), "
-                          "(8, 'Ann', 'Lee', '1', 20, 30, '0', 0, 0), (9, 'Bo', 'Kim', '1', 10, 15, '0', 0, 0)");
-    m_own.Open()->Execute(
-        "INSERT INTO TimeRecord (EmployeeID, StartTime, EndTime) VALUES (40, '2026-03-02 08:00:00', '2026-03-02 16:00:00')");
+    Execute(*m_own.Open(), "INSERT INTO Employee (EmployeeNumber, FirstName, LastName, Active, PayRate, OvertimePayRate, AutoDeduct, "
+                           "AutoDeductLunchLength, AutoDeductBreakLength) VALUES (7, 'Ann', 'Lee', '1', 10, 15, '0', 0, 0), "
+                           "(8, 'Ann', 'Lee', '1', 20, 30, '0', 0, 0), (9, 'Bo', 'Kim', '1', 10, 15, '0', 0, 0)");
+    Execute(*m_own.Open(),
+            "INSERT INTO TimeRecord (EmployeeID, StartTime, EndTime) VALUES (40, '2026-03-02 08:00:00', '2026-03-02 16:00:00')");
     CEmployeeList all;
     ASSERT_TRUE(all.LoadList(m_database));
     std::vector<std::string> doubled;

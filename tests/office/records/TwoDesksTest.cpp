@@ -10,6 +10,7 @@
 #include "store/CJetDB.h"
 #include "store/engine/RecordSet.h"
 #include "support/EitherDatabase.h"
+#include "support/Execute.h"
 
 #include <fmt/format.h>
 #include <gtest/gtest.h>
@@ -98,7 +99,7 @@ protected:
     }
 
     Desk NewDesk() const { return Desk(m_kept.Name(), m_kept.Folder()); }
-    void Elsewhere(const std::string& sql) const { m_kept.Open()->Execute(sql); }
+    void Elsewhere(const std::string& sql) const { Execute(*m_kept.Open(), sql); }
 
     Rows Stored() const
     {

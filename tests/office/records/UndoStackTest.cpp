@@ -7,6 +7,7 @@
 #include "store/engine/RecordSet.h"
 #include "store/sqlite/SqliteEngine.h"
 #include "store/whole/DatabaseCreator.h"
+#include "support/Execute.h"
 #include "support/TemporaryFolder.h"
 
 #include <fmt/format.h>
@@ -31,7 +32,7 @@ protected:
     std::string Path() const { return m_folder.Path() + "/system/ptk_11.mdb"; }
 
     // By another tool, or another window.
-    void Elsewhere(const std::string& sql) const { SqliteEngine(Path()).Execute(sql); }
+    void Elsewhere(const std::string& sql) const { ExecuteIn(Path(), sql); }
 
     std::string Rows(const std::string& sql) const
     {
@@ -86,7 +87,7 @@ TEST_F(UndoStackTest, TellsWhatItWouldDoAndKeepsNumbers)
     Run("DELETE FROM TimeRecord");
     EXPECT_EQ(m_undo.UndoText(), "Undo Delete 03/05/2003 08:00 AM");
     const std::vector<std::string> fill(3, kShift);
-    ASSERT_TRUE(m_database->ExecuteActions(fill));
+    ASSERT_TRUE(ExecuteAll(*m_database, fill));
     ASSERT_TRUE(m_undo.Remember());
     EXPECT_EQ(m_undo.UndoText(), "Undo Auto Fill of 3 records");
     const auto numbers = [&] { return Rows("SELECT TimeRecordID FROM TimeRecord"); };
@@ -100,12 +101,12 @@ TEST_F(UndoStackTest, TellsWhatItWouldDoAndKeepsNumbers)
     EXPECT_EQ(moved.employee, 39);
     ASSERT_TRUE(m_undo.Redo() && m_undo.Redo()) << m_undo.Refusal();
     EXPECT_EQ(numbers(), "2;3;4;");
-    EXPECT_FALSE(m_undo.CanRedo());
+    EXPECT_EQ(m_undo.NextRedo(), nullptr);
     ASSERT_TRUE(m_undo.Undo());
     Run("UPDATE _System SET period_length = 3");
-    EXPECT_TRUE(m_undo.CanRedo()) << "the options are no step of it";
+    EXPECT_NE(m_undo.NextRedo(), nullptr) << "the options are no step of it";
     Run(kShift);
-    EXPECT_FALSE(m_undo.CanRedo());
+    EXPECT_EQ(m_undo.NextRedo(), nullptr);
     EXPECT_EQ(Rows("SELECT ChangedBy || Program FROM _Change WHERE ChangeID = (SELECT MAX(ChangeID) FROM _Change)"), "Ann Leeptk-admin;");
 }
 
@@ -196,15 +197,15 @@ TEST_F(UndoStackTest, ChainsOfAnyLengthEndAtTheFirstState)
             Run(fmt::format(fmt::runtime(edits[upTo(10)]), upTo(5)));
         }
         const std::string last = State();
-        while (m_undo.CanUndo()) {
+        while (m_undo.NextUndo() != nullptr) {
             ASSERT_TRUE(m_undo.Undo()) << m_undo.Refusal();
         }
         EXPECT_EQ(State(), first);
-        while (m_undo.CanRedo()) {
+        while (m_undo.NextRedo() != nullptr) {
             ASSERT_TRUE(m_undo.Redo()) << m_undo.Refusal();
         }
         EXPECT_EQ(State(), last);
-        while (m_undo.CanUndo()) {
+        while (m_undo.NextUndo() != nullptr) {
             ASSERT_TRUE(m_undo.Undo()) << m_undo.Refusal();
         }
         EXPECT_EQ(State(), first);

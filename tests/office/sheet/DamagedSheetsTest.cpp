@@ -8,6 +8,7 @@
 #include "store/engine/RecordSet.h"
 #include "store/sqlite/SqliteEngine.h"
 #include "store/whole/DatabaseCreator.h"
+#include "support/Execute.h"
 #include "support/Files.h"
 #include "support/TemporaryFolder.h"
 
@@ -65,8 +66,8 @@ protected:
     DamagedSheetsTest()
     {
         CreateDatabase(m_path);
-        SqliteEngine(m_path).Execute("INSERT INTO Employee (FirstName, LastName, EmployeeNumber, SSNumber, PayRate, Active) VALUES "
-                                     "('Ann', 'Lee', 7, '123-45-6789', 12.5, 1), ('Bo', 'Kim', 8, '2', 9, 1)");
+        ExecuteIn(m_path, "INSERT INTO Employee (FirstName, LastName, EmployeeNumber, SSNumber, PayRate, Active) VALUES "
+                          "('Ann', 'Lee', 7, '123-45-6789', 12.5, 1), ('Bo', 'Kim', 8, '2', 9, 1)");
         m_whole = ReadBytes(m_path);
         m_database->DatabaseName(m_path);
     }

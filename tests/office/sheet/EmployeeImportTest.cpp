@@ -10,6 +10,7 @@
 #include "store/engine/RecordSet.h"
 #include "store/engine/StoredDate.h"
 #include "support/EitherDatabase.h"
+#include "support/Execute.h"
 #include "support/Failures.h"
 #include "support/Files.h"
 
@@ -30,11 +31,11 @@ protected:
     {
         m_database->DatabaseName(m_own.Name());
         m_database->StoredBy({"office", "ptk-console"});
-        m_own.Open()->Execute(
-            "INSERT INTO Employee (FirstName, LastName, EmployeeNumber, SSNumber, Phone, PayRate, Active, HireDate, AutoDeduct) VALUES "
-            "('Ann', 'Lee', 7, '123-45-6789', '=5', 12.5, '1', '2003-03-05 00:00:00', '0'), "
-            "('Bo', 'Kim', 8, '1', '', 0, '1', NULL, '0'), ('Cy', 'Day', 8, '2', '', 0, '0', NULL, '0'), "
-            "('Di', 'Orr', 9, '3', '55', 7.8333335, '0', NULL, '0')"); // 40 to 43
+        Execute(*m_own.Open(),
+                "INSERT INTO Employee (FirstName, LastName, EmployeeNumber, SSNumber, Phone, PayRate, Active, HireDate, AutoDeduct) VALUES "
+                "('Ann', 'Lee', 7, '123-45-6789', '=5', 12.5, '1', '2003-03-05 00:00:00', '0'), "
+                "('Bo', 'Kim', 8, '1', '', 0, '1', NULL, '0'), ('Cy', 'Day', 8, '2', '', 0, '0', NULL, '0'), "
+                "('Di', 'Orr', 9, '3', '55', 7.8333335, '0', NULL, '0')"); // 40 to 43
     }
 
     EmployeeAccount Import(const std::string& text, const char* change = "", bool trial = false)
@@ -159,8 +160,8 @@ TEST_F(EmployeeImportTest, AddsNewOnesAndChangesTheFieldsThatAreNamed)
 
 TEST_F(EmployeeImportTest, OwnRecordsComeInAgainWithoutADifferenceAndManyInPortions)
 {
-    m_own.Open()->Execute("DELETE FROM Employee WHERE EmployeeNumber = 8");
-    m_own.Open()->Execute("UPDATE Employee SET FirstName = '-x', Address = 'a;b \"c\"' WHERE EmployeeID = 43");
+    Execute(*m_own.Open(), "DELETE FROM Employee WHERE EmployeeNumber = 8");
+    Execute(*m_own.Open(), "UPDATE Employee SET FirstName = '-x', Address = 'a;b \"c\"' WHERE EmployeeID = 43");
     CEmployeeList list;
     ASSERT_TRUE(list.LoadList(m_database));
     ReportDocument records{.title = ""};

@@ -6,6 +6,7 @@
 #include "store/engine/RecordSet.h"
 #include "store/engine/StoredDate.h"
 #include "support/EitherDatabase.h"
+#include "support/Execute.h"
 #include "support/Failures.h"
 #include "support/Files.h"
 
@@ -23,9 +24,9 @@ protected:
     {
         m_database->DatabaseName(m_own.Name());
         m_database->StoredBy({"office", "ptk-console"});
-        m_own.Open()->Execute("INSERT INTO Employee (FirstName, LastName, EmployeeNumber, SSNumber) VALUES "
-                              "('Ann', 'Lee', 7, '123-45-6789'), ('', 'Cher', 8, ''), ('Ann', 'Lee', 41, ''), "
-                              "('José', 'Núñez', 12, '987-65-4321')"); // 40 to 43
+        Execute(*m_own.Open(), "INSERT INTO Employee (FirstName, LastName, EmployeeNumber, SSNumber) VALUES "
+                               "('Ann', 'Lee', 7, '123-45-6789'), ('', 'Cher', 8, ''), ('Ann', 'Lee', 41, ''), "
+                               "('José', 'Núñez', 12, '987-65-4321')"); // 40 to 43
     }
 
     PunchAccount Import(const std::string& text, const char* words = "", bool partly = false, bool trial = false)
@@ -92,7 +93,7 @@ TEST_F(PunchImportTest, ReadsTheDialectsOfOtherPrograms)
              Case{"told against its name", "ID,Number,Start,End\n7,x,2003-03-05 08:00,2003-03-05 17:00\n", "ID=Number"},
          }) {
         SCOPED_TRACE(c.name);
-        m_own.Open()->Execute("DELETE FROM TimeRecord");
+        Execute(*m_own.Open(), "DELETE FROM TimeRecord");
         const PunchAccount account = Import(c.text, c.words);
         EXPECT_EQ(account.isStored, *c.day != '\0');
         EXPECT_EQ(Records(), *c.day == '\0' ? "" : fmt::format("40 {0} 08:00:00 {0} 17:00:00", c.day));
@@ -217,7 +218,7 @@ TEST_F(PunchImportTest, PairsEventsAndGuessesNothing)
                   "Line 3: Time: the out comes more than 16 hours after the in"},
          }) {
         SCOPED_TRACE(c.name);
-        m_own.Open()->Execute("DELETE FROM TimeRecord");
+        Execute(*m_own.Open(), "DELETE FROM TimeRecord");
         EXPECT_EQ(Account(heading + c.text, "", true), c.account);
     }
 }

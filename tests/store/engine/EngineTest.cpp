@@ -4,6 +4,7 @@
 #include "store/sqlite/SqliteEngine.h"
 #include "store/sqlite/SqliteStatement.h"
 #include "store/StoreFixture.h"
+#include "support/Execute.h"
 #include "support/Files.h"
 
 #include <sys/resource.h>
@@ -26,9 +27,9 @@ TEST_F(EngineTest, KeepsNothingOfAFailedStatementAndNothingOfItReachesTheDiskLat
 {
     Run("CREATE TRIGGER rule BEFORE INSERT ON Company WHEN NEW.Name = 'Bad' BEGIN SELECT RAISE(FAIL, 'no'); END");
     SqliteEngine engine(Path());
-    EXPECT_EQ(FailureOf([&] { engine.Execute("INSERT INTO Company (Name) VALUES ('Good'), ('Bad')"); }), SQLITE_CONSTRAINT);
+    EXPECT_EQ(FailureOf([&] { Execute(engine, "INSERT INTO Company (Name) VALUES ('Good'), ('Bad')"); }), SQLITE_CONSTRAINT);
     EXPECT_EQ(engine.Select("SELECT * FROM Company")->RecordCount(), 0);
-    engine.Execute(kInsert);
+    Execute(engine, kInsert);
     engine.Close();
     EXPECT_EQ(Rows("SELECT Name FROM Company"), "Mill|");
 }
@@ -39,7 +40,11 @@ TEST_F(EngineTest, StoresSeveralStatementsTogetherOrNoneOfThem)
     SqliteEngine engine(Path());
     const auto store = [&](const std::string& last) {
         const std::string statements[] = {kInsert, "UPDATE Company SET Company.City = 'Easton'", last};
-        engine.ExecuteAll(statements);
+        engine.Write([&] {
+            for (const std::string& statement : statements) {
+                engine.Run(statement);
+            }
+        });
     };
     EXPECT_EQ(FailureOf([&] { store("INSERT INTO Company (Name) VALUES ('Bad')"); }), SQLITE_CONSTRAINT);
     EXPECT_EQ(Rows("SELECT * FROM Company"), "");
@@ -73,7 +78,7 @@ TEST_F(EngineTest, TakesOneStatementOfTheRightKind)
     for (const char* statement :
          {"", "SELECT 1", "UPDATE _System SET period_length = 1; DELETE FROM Employee", "UPDATE _System SET period_length = :x", "COMMIT",
           "ROLLBACK", "BEGIN", "PRAGMA journal_mode=OFF", "UPDATE Nowhere SET a = 1"}) {
-        EXPECT_NE(FailureOf([&] { engine.Execute(statement); }), 0) << statement;
+        EXPECT_NE(FailureOf([&] { Execute(engine, statement); }), 0) << statement;
     }
     EXPECT_EQ(engine.Select("SELECT 1; -- one\n /* and no more */ ")->RecordCount(), 1);
     engine.Close();
@@ -86,10 +91,10 @@ TEST_F(EngineTest, RefusesStoredQueriesThatDoNotFit)
     const std::vector<Parameter> unknown = {{"paramName", "Mill"}, {"paramCountry", "US"}};
     const std::vector<Parameter> few = {{"paramName", "Mill"}};
     EXPECT_EQ(FailureOf([&] { engine.SelectStored("GetNobody"); }), SQLITE_NOTFOUND);
-    EXPECT_EQ(FailureOf([&] { engine.ExecuteStored("AddNewCompany", few); }), SQLITE_RANGE);
-    EXPECT_EQ(FailureOf([&] { engine.ExecuteStored("GetAllCompanies", {}); }), SQLITE_ERROR);
+    EXPECT_EQ(FailureOf([&] { engine.Write([&] { engine.RunStored("AddNewCompany", few); }); }), SQLITE_RANGE);
+    EXPECT_EQ(FailureOf([&] { engine.Write([&] { engine.RunStored("GetAllCompanies", {}); }); }), SQLITE_ERROR);
     try {
-        engine.ExecuteStored("AddNewCompany", unknown);
+        engine.Write([&] { engine.RunStored("AddNewCompany", unknown); });
         ADD_FAILURE() << "accepted";
     } catch (const Failure& failure) {
         EXPECT_EQ(failure.Number(), SQLITE_RANGE);
@@ -144,7 +149,7 @@ TEST_F(EngineTest, HasEverythingOnDiskWhenAStatementAnswers)
 {
     const int status = InAnotherProcess([&] {
         SqliteEngine engine(Path());
-        engine.Execute(kInsert);
+        Execute(engine, kInsert);
         EXPECT_EQ(engine.Select("PRAGMA synchronous")->Int32At(0), kFlushesTheFolderToo);
         if (!HasFailure()) {
             kill(getpid(), SIGKILL);
@@ -160,7 +165,7 @@ TEST_F(EngineTest, LosesNothingElseWhenKilledBeforeTheCommit)
 {
     const int status = InAnotherProcess([&] {
         SqliteEngine engine(Path());
-        engine.Execute(kInsert);
+        Execute(engine, kInsert);
         engine.BeginMany();
         engine.RunScript("PRAGMA cache_size=1; DELETE FROM Company; INSERT INTO Company (Name) SELECT hex(randomblob(90000))");
         kill(getpid(), SIGKILL);
@@ -179,8 +184,8 @@ TEST_F(EngineTest, AFullDiskFailsTheStatementAndLeavesTheFileAsItWas)
                   const rlimit limit{before.size(), before.size()};
                   EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &limit), 0);
                   SqliteEngine engine(Path());
-                  EXPECT_NE(FailureOf([&] { engine.Execute("INSERT INTO Company (Name) SELECT hex(randomblob(90000))"); }), 0);
-                  engine.Execute(kInsert); // what still fits goes on
+                  EXPECT_NE(FailureOf([&] { Execute(engine, "INSERT INTO Company (Name) SELECT hex(randomblob(90000))"); }), 0);
+                  Execute(engine, kInsert); // what still fits goes on
                   EXPECT_EQ(engine.Select("SELECT * FROM Company")->RecordCount(), 1);
               }),
               0);

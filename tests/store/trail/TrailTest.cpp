@@ -6,6 +6,7 @@
 #include "store/trail/TrailReader.h"
 #include "store/trail/TrailSQL.h"
 #include "store/whole/DatabaseChecker.h"
+#include "support/Execute.h"
 #include "support/Files.h"
 
 #include <fmt/format.h>
@@ -96,9 +97,9 @@ TEST_F(TrailTest, NamesWhoWroteAndWhatBelongsTogether)
     const std::string insert =
         "INSERT INTO TimeRecord (EmployeeID, StartTime, EndTime) SELECT 40, #3/5/2003 8:00:00 AM#, #3/5/2003 5:00:00 PM#";
     const std::vector<std::string> three(3, insert);
-    EXPECT_TRUE(m_database->ExecuteActions(three));
+    EXPECT_TRUE(ExecuteAll(*m_database, three));
     EXPECT_EQ(m_database->LastStep(), 1);
-    EXPECT_FALSE(m_database->ExecuteActions(std::vector<std::string>{insert, "nonsense"}));
+    EXPECT_FALSE(ExecuteAll(*m_database, {insert, "nonsense"}));
     EXPECT_TRUE(m_database->ExecuteAction(insert));
     EXPECT_EQ(m_database->LastStep(), 4);
     {
