@@ -9,10 +9,14 @@
 
 #include <algorithm>
 #include <fmt/format.h>
+#include <string_view>
+#include <tuple>
 
 namespace ptk {
 
 namespace {
+
+constexpr const char* kHidden = "Password"; // its text is for nobody's eyes
 
 std::string Shown(const std::string& value)
 {
@@ -51,15 +55,8 @@ public:
     Comparison& Of(const char* column, Field Row::*field)
     {
         if (m_read.*field != m_present.*field) {
-            m_found.push_back({column, Shown(m_read.*field), Shown(m_present.*field)});
-        }
-        return *this;
-    }
-
-    Comparison& Hidden(const char* column, std::string Row::*field)
-    {
-        if (m_read.*field != m_present.*field) {
-            m_found.push_back({column, "", "changed"});
+            const bool hidden = std::string_view(column) == kHidden;
+            m_found.push_back({column, hidden ? "" : Shown(m_read.*field), hidden ? "changed" : Shown(m_present.*field)});
         }
         return *this;
     }
@@ -72,59 +69,45 @@ private:
     std::vector<FieldDifference> m_found;
 };
 
-std::vector<FieldDifference> Differences(const EmployeeRow& read, const EmployeeRow& present)
-{
-    using Row = EmployeeRow;
-    return Comparison(read, present)
-        .Of("SSNumber", &Row::SSN)
-        .Of("FirstName", &Row::FirstName)
-        .Of("LastName", &Row::LastName)
-        .Of("Address", &Row::Address1)
-        .Of("Address2", &Row::Address2)
-        .Of("City", &Row::City)
-        .Of("State", &Row::State)
-        .Of("ZipCode", &Row::ZipCode)
-        .Of("Phone", &Row::Phone)
-        .Of("EmployeeNumber", &Row::EmployeeNumber)
-        .Of("DateOfBirth", &Row::DateOfBirth)
-        .Of("HireDate", &Row::HireDate)
-        .Of("ReleaseDate", &Row::ReleaseDate)
-        .Of("PayRate", &Row::PayRate)
-        .Of("OvertimePayRate", &Row::OvertimePayRate)
-        .Of("Active", &Row::EmployeeActive)
-        .Of("CompanyID", &Row::CompanyID)
-        .Of("AutoDeduct", &Row::AutoDeduct)
-        .Of("AutoDeductLunchLength", &Row::AutoDeductLunchLength)
-        .Of("AutoDeductBreakLength", &Row::AutoDeductBreakLength)
-        .Hidden("Password", &Row::Password)
-        .Found();
-}
+// The fields behind the key, in the order in which the columns are read.
+using E = EmployeeRow;
+constexpr std::tuple kEmployeeFields{&E::SSN,
+                                     &E::FirstName,
+                                     &E::LastName,
+                                     &E::Address1,
+                                     &E::Address2,
+                                     &E::City,
+                                     &E::State,
+                                     &E::ZipCode,
+                                     &E::Phone,
+                                     &E::EmployeeNumber,
+                                     &E::DateOfBirth,
+                                     &E::HireDate,
+                                     &E::ReleaseDate,
+                                     &E::PayRate,
+                                     &E::OvertimePayRate,
+                                     &E::EmployeeActive,
+                                     &E::CompanyID,
+                                     &E::AutoDeduct,
+                                     &E::AutoDeductLunchLength,
+                                     &E::AutoDeductBreakLength,
+                                     &E::Password};
 
-// The web address is never read, so nobody can tell whether it changed.
-std::vector<FieldDifference> Differences(const CompanyRow& read, const CompanyRow& present)
-{
-    using Row = CompanyRow;
-    return Comparison(read, present)
-        .Of("Name", &Row::CompanyName)
-        .Of("Address1", &Row::Address1)
-        .Of("Address2", &Row::Address2)
-        .Of("City", &Row::City)
-        .Of("State", &Row::State)
-        .Of("ZipCode", &Row::ZipCode)
-        .Of("Phone", &Row::Phone)
-        .Of("Fax", &Row::Fax)
-        .Of("FederalTaxID", &Row::FederalTaxID)
-        .Found();
-}
+using C = CompanyRow;
+constexpr std::tuple kCompanyFields{&C::CompanyName, &C::Address1, &C::Address2, &C::City,        &C::State,
+                                    &C::ZipCode,     &C::Phone,    &C::Fax,      &C::FederalTaxID};
 
-std::vector<FieldDifference> Differences(const TimeRecordRow& read, const TimeRecordRow& present)
+using T = TimeRecordRow;
+constexpr std::tuple kTimeRecordFields{&T::EmployeeID, &T::StartTime, &T::EndTime};
+
+template <typename Row, typename... Fields>
+std::vector<FieldDifference> Differences(const Row& read, const Row& present, const TableColumns& table,
+                                         const std::tuple<Fields Row::*...>& fields)
 {
-    using Row = TimeRecordRow;
-    return Comparison(read, present)
-        .Of("EmployeeID", &Row::EmployeeID)
-        .Of("StartTime", &Row::StartTime)
-        .Of("EndTime", &Row::EndTime)
-        .Found();
+    Comparison compared(read, present);
+    std::size_t column = 1;
+    std::apply([&](auto... field) { (compared.Of(table.names.at(column++), field), ...); }, fields);
+    return compared.Found();
 }
 
 // What was stored here is read back without the numbers that mean nothing.
@@ -174,9 +157,9 @@ std::string RowConflict::Text() const
     std::string text = name + " was changed since it was read:";
     for (const FieldDifference& field : differences) {
         text += &field == differences.data() ? " " : ", ";
-        text += field.column == "Password" ? "Password is another one now"
-                                           : fmt::format("{} was {} and is {} now", field.column, field.read.empty() ? "empty" : field.read,
-                                                         field.present.empty() ? "empty" : field.present);
+        text += field.column == kHidden ? "Password is another one now"
+                                        : fmt::format("{} was {} and is {} now", field.column, field.read.empty() ? "empty" : field.read,
+                                                      field.present.empty() ? "empty" : field.present);
     }
     return text;
 }
@@ -187,13 +170,14 @@ void RequireAsRead(Engine& engine, const EmployeeRow& asRead)
 {
     const EmployeeRow read = AsLoaded(asRead);
     const auto row = ListedRow(engine, "GetAllEmployees", EmployeeTable(), read.EmployeeID);
-    Require("Employee", read.EmployeeID, Differences(read, RowReader(*row, EmployeeTable()).ReadEmployee()));
+    Require("Employee", read.EmployeeID,
+            Differences(read, RowReader(*row, EmployeeTable()).ReadEmployee(), EmployeeTable(), kEmployeeFields));
 }
 
 void RequireAsRead(Engine& engine, const CompanyRow& read)
 {
     const auto row = ListedRow(engine, "GetAllCompanies", CompanyTable(), read.CompanyID);
-    Require("Company", read.CompanyID, Differences(read, RowReader(*row, CompanyTable()).ReadCompany()));
+    Require("Company", read.CompanyID, Differences(read, RowReader(*row, CompanyTable()).ReadCompany(), CompanyTable(), kCompanyFields));
 }
 
 void RequireAsRead(Engine& engine, const TimeRecordRow& read)
@@ -202,7 +186,8 @@ void RequireAsRead(Engine& engine, const TimeRecordRow& read)
         "SELECT TimeRecordID, EmployeeID, StartTime, EndTime FROM TimeRecord WHERE TimeRecordID = :key{}", engine.Words().lockRows));
     search->Bind("key", read.TimeRecordID);
     const auto row = Required(search->ReadRows(), TimeRecordTable(), read.TimeRecordID);
-    Require("TimeRecord", read.TimeRecordID, Differences(read, RowReader(*row, TimeRecordTable()).ReadTimeRecord()));
+    Require("TimeRecord", read.TimeRecordID,
+            Differences(read, RowReader(*row, TimeRecordTable()).ReadTimeRecord(), TimeRecordTable(), kTimeRecordFields));
 }
 
 OptionsRow PresentOptions(Engine& engine)

@@ -1,14 +1,18 @@
 #include "store/engine/StoredTable.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace ptk {
 
 namespace {
 
 using enum ColumnKind;
+using enum ColumnRule;
 
 constexpr StoredColumn kCompany[] = {
-    {"CompanyID", Integer}, {"Name", Text},  {"Address1", Text}, {"Address2", Text},     {"City", Text}, {"State", Text},
-    {"ZipCode", Text},      {"Phone", Text}, {"Fax", Text},      {"FederalTaxID", Text}, {"URL", Text},
+    {"CompanyID", Integer}, {"Name", Text},  {"Address1", Text}, {"Address2", Text},     {"City", Text},        {"State", Text},
+    {"ZipCode", Text},      {"Phone", Text}, {"Fax", Text},      {"FederalTaxID", Text}, {"URL", Text, Unread},
 };
 
 constexpr StoredColumn kEmployee[] = {
@@ -28,16 +32,16 @@ constexpr StoredColumn kEmployee[] = {
     {"ReleaseDate", Date},
     {"PayRate", Single},
     {"OvertimePayRate", Single},
-    {"Active", Flag},
+    {"Active", Flag, TrueWhenAbsent},
     {"CompanyID", Integer},
     {"AutoDeduct", Flag},
-    {"AutoDeductLunchLength", Integer},
-    {"AutoDeductBreakLength", Integer},
+    {"AutoDeductLunchLength", Integer, Short},
+    {"AutoDeductBreakLength", Integer, Short},
     {"Password", Text},
 };
 
 constexpr StoredColumn kTimeRecord[] = {
-    {"TimeRecordID", Integer}, {"EmployeeID", Integer}, {"ShiftDate", Date}, {"StartTime", Date}, {"EndTime", Date},
+    {"TimeRecordID", Integer}, {"EmployeeID", Integer}, {"ShiftDate", Date, Unread}, {"StartTime", Date, Moment}, {"EndTime", Date, Moment},
 };
 
 constexpr StoredColumn kSystem[] = {
@@ -63,7 +67,7 @@ constexpr StoredColumn kChange[] = {
     {"After", Json},
     {"EmployeeBefore", Integer},
     {"EmployeeAfter", Integer},
-    {"Reason", Text, true},
+    {"Reason", Text, MayLack},
 };
 
 constexpr StoredColumn kPayday[] = {
@@ -87,6 +91,11 @@ constexpr StoredTable kTables[] = {
 std::span<const StoredTable> StoredTables()
 {
     return kTables;
+}
+
+const StoredTable& StoredTableOf(std::string_view name)
+{
+    return *std::find_if(std::begin(kTables), std::end(kTables), [&](const StoredTable& table) { return table.name == name; });
 }
 
 } // namespace ptk

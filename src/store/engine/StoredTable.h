@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <span>
+#include <string_view>
 
 namespace ptk {
 
@@ -17,11 +18,22 @@ enum class ColumnKind : std::uint8_t
     Json // text that is JSON
 };
 
+// What is said of a column besides its kind.
+enum class ColumnRule : std::uint8_t
+{
+    None,
+    MayLack,       // in a file of an earlier version, which has the table
+    Unread,        // written, never read back by the program
+    Short,         // 16 bits in the program and in older databases
+    Moment,        // without which the row makes no sense: an import leaves out one whose value is impossible
+    TrueWhenAbsent // in older databases
+};
+
 struct StoredColumn
 {
     const char* name;
     ColumnKind kind;
-    bool mayLack = false; // a file of an earlier version, which has the table
+    ColumnRule rule = ColumnRule::None;
 };
 
 struct StoredTable
@@ -33,5 +45,8 @@ struct StoredTable
 
 // All of them, the trail last.
 [[nodiscard]] std::span<const StoredTable> StoredTables();
+
+// REQUIRES a name among them, in their spelling.
+[[nodiscard]] const StoredTable& StoredTableOf(std::string_view name);
 
 } // namespace ptk

@@ -1,49 +1,44 @@
 #include "store/import/ImportTables.h"
 
+#include "store/engine/StoredTable.h"
+
 #include <array>
+#include <vector>
 
 namespace ptk {
 
 namespace {
 
-ImportColumn Key(const char* name)
+ImportColumn ImportedAs(const StoredColumn& column)
 {
-    return {name, ImportKind::Key, {}};
+    switch (column.kind) {
+    case ColumnKind::Text:
+        return {column.name, ImportKind::Text, {}};
+    case ColumnKind::Single:
+        return {column.name, ImportKind::Single, 0.0F};
+    case ColumnKind::Flag:
+        return {column.name, ImportKind::Flag, column.rule == ColumnRule::TrueWhenAbsent};
+    case ColumnKind::Date:
+        if (column.rule == ColumnRule::Moment) {
+            return {column.name, ImportKind::Moment, DateTime(), DateTime()};
+        }
+        return {column.name, ImportKind::Date, DateTime()};
+    default:
+        if (column.rule == ColumnRule::Short) {
+            return {column.name, ImportKind::Short, std::int16_t{0}};
+        }
+        return {column.name, ImportKind::Long, std::int32_t{0}};
+    }
 }
 
-ImportColumn Text(const char* name)
+std::vector<ImportColumn> ColumnsFor(const char* table)
 {
-    return {name, ImportKind::Text, {}};
-}
-
-ImportColumn Long(const char* name)
-{
-    return {name, ImportKind::Long, std::int32_t{0}};
-}
-
-ImportColumn Minutes(const char* name)
-{
-    return {name, ImportKind::Short, std::int16_t{0}};
-}
-
-ImportColumn Rate(const char* name)
-{
-    return {name, ImportKind::Single, 0.0F};
-}
-
-ImportColumn Date(const char* name)
-{
-    return {name, ImportKind::Date, DateTime()};
-}
-
-ImportColumn Flag(const char* name, bool absent)
-{
-    return {name, ImportKind::Flag, absent};
-}
-
-ImportColumn Moment(const char* name)
-{
-    return {name, ImportKind::Moment, DateTime(), DateTime()};
+    std::vector<ImportColumn> columns;
+    for (const StoredColumn& column : StoredTableOf(table).columns) {
+        columns.push_back(ImportedAs(column));
+    }
+    columns.front() = {columns.front().name, ImportKind::Key, {}};
+    return columns;
 }
 
 // An option stays as shipped where the older database says nothing of it.
@@ -61,31 +56,9 @@ DateTime Hour(int hour)
 
 const ImportTable& ImportTableOf(ImportTableId id)
 {
-    static const std::array employee{Key("EmployeeID"),
-                                     Text("SSNumber"),
-                                     Text("FirstName"),
-                                     Text("LastName"),
-                                     Text("Address"),
-                                     Text("Address2"),
-                                     Text("City"),
-                                     Text("State"),
-                                     Text("ZipCode"),
-                                     Text("Phone"),
-                                     Long("EmployeeNumber"),
-                                     Date("DateOfBirth"),
-                                     Date("HireDate"),
-                                     Date("ReleaseDate"),
-                                     Rate("PayRate"),
-                                     Rate("OvertimePayRate"),
-                                     Flag("Active", true),
-                                     Long("CompanyID"),
-                                     Flag("AutoDeduct", false),
-                                     Minutes("AutoDeductLunchLength"),
-                                     Minutes("AutoDeductBreakLength"),
-                                     Text("Password")};
-    static const std::array company{Key("CompanyID"), Text("Name"),  Text("Address1"), Text("Address2"),     Text("City"), Text("State"),
-                                    Text("ZipCode"),  Text("Phone"), Text("Fax"),      Text("FederalTaxID"), Text("URL")};
-    static const std::array timeRecord{Key("TimeRecordID"), Long("EmployeeID"), Date("ShiftDate"), Moment("StartTime"), Moment("EndTime")};
+    static const auto employee = ColumnsFor("Employee");
+    static const auto company = ColumnsFor("Company");
+    static const auto timeRecord = ColumnsFor("TimeRecord");
     static const std::array system{Option("program", ImportKind::Text, "PTK - Administrator"), Option("version", ImportKind::Text, "1.0"),
                                    Option("period_length", ImportKind::Short, std::int16_t{14}),
                                    Option("auto_shift_start_time", ImportKind::TimeOfDay, Hour(8)),

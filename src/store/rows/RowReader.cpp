@@ -2,6 +2,7 @@
 
 #include "platform/Failure.h"
 #include "store/engine/RecordSet.h"
+#include "store/engine/StoredTable.h"
 
 #include <fmt/format.h>
 
@@ -9,35 +10,17 @@ namespace ptk {
 
 namespace {
 
-constexpr const char* kEmployeeColumns[] = {"EmployeeID",
-                                            "SSNumber",
-                                            "FirstName",
-                                            "LastName",
-                                            "Address",
-                                            "Address2",
-                                            "City",
-                                            "State",
-                                            "ZipCode",
-                                            "Phone",
-                                            "EmployeeNumber",
-                                            "DateOfBirth",
-                                            "HireDate",
-                                            "ReleaseDate",
-                                            "PayRate",
-                                            "OvertimePayRate",
-                                            "Active",
-                                            "CompanyID",
-                                            "AutoDeduct",
-                                            "AutoDeductLunchLength",
-                                            "AutoDeductBreakLength",
-                                            "Password"};
-
-constexpr const char* kCompanyColumns[] = {"CompanyID", "Name",    "Address1", "Address2", "City",
-                                           "State",     "ZipCode", "Phone",    "Fax",      "FederalTaxID"};
-
-constexpr const char* kTimeRecordColumns[] = {"TimeRecordID", "EmployeeID", "StartTime", "EndTime"};
-
-constexpr const char* kOptionsColumns[] = {"program", "version", "period_length", "auto_shift_start_time", "auto_shift_end_time"};
+TableColumns ReadOf(const char* name)
+{
+    const StoredTable& table = StoredTableOf(name);
+    TableColumns read{table.name, {}, table.hasKey};
+    for (const StoredColumn& column : table.columns) {
+        if (column.rule != ColumnRule::Unread) {
+            read.names.push_back(column.name);
+        }
+    }
+    return read;
+}
 
 void ReadAt(const RecordSet& rows, std::size_t column, std::int32_t& field)
 {
@@ -56,24 +39,28 @@ void ReadAt(const RecordSet& rows, std::size_t column, float& field)
 
 } // namespace
 
-TableColumns EmployeeTable()
+const TableColumns& EmployeeTable()
 {
-    return {"Employee", kEmployeeColumns};
+    static const TableColumns kRead = ReadOf("Employee");
+    return kRead;
 }
 
-TableColumns CompanyTable()
+const TableColumns& CompanyTable()
 {
-    return {"Company", kCompanyColumns};
+    static const TableColumns kRead = ReadOf("Company");
+    return kRead;
 }
 
-TableColumns TimeRecordTable()
+const TableColumns& TimeRecordTable()
 {
-    return {"TimeRecord", kTimeRecordColumns};
+    static const TableColumns kRead = ReadOf("TimeRecord");
+    return kRead;
 }
 
-TableColumns OptionsTable()
+const TableColumns& OptionsTable()
 {
-    return {"_System", kOptionsColumns};
+    static const TableColumns kRead = ReadOf("_System");
+    return kRead;
 }
 
 RowReader::RowReader(const RecordSet& rows, const TableColumns& columns) : m_rows(rows), m_table(columns)
@@ -89,12 +76,11 @@ RowReader::RowReader(const RecordSet& rows, const TableColumns& columns, std::ve
     m_found = &found;
 }
 
-// "Employee 40: AutoDeductLunchLength is 70000 (Overflow)". The options are one row without a key.
+// "Employee 40: AutoDeductLunchLength is 70000 (Overflow)".
 std::string RowReader::Place(std::size_t column, const std::string& why) const
 {
-    const bool keyed = m_table.names.data() != kOptionsColumns;
-    return fmt::format("{}{}: {} is {} ({})", m_table.table, keyed ? ' ' + m_rows.Shown(m_columns.front()) : "", m_table.names[column],
-                       m_rows.Shown(m_columns[column]), why);
+    return fmt::format("{}{}: {} is {} ({})", m_table.table, m_table.hasKey ? ' ' + m_rows.Shown(m_columns.front()) : "",
+                       m_table.names[column], m_rows.Shown(m_columns[column]), why);
 }
 
 // Of what the program reads without noticing anything; only the check of a file does.
@@ -177,7 +163,7 @@ void RowReader::Flag(bool& field)
     Take([&](std::size_t column) { field = m_rows.BooleanAt(column); });
 }
 
-// In the order of kEmployeeColumns.
+// In the order of the table.
 EmployeeRow RowReader::ReadEmployee()
 {
     EmployeeRow row;
@@ -211,7 +197,7 @@ EmployeeRow RowReader::ReadEmployee()
     return row;
 }
 
-// In the order of kCompanyColumns.
+// In the order of the table.
 CompanyRow RowReader::ReadCompany()
 {
     CompanyRow row;
@@ -229,7 +215,7 @@ CompanyRow RowReader::ReadCompany()
     return row;
 }
 
-// In the order of kTimeRecordColumns.
+// In the order of the table.
 TimeRecordRow RowReader::ReadTimeRecord()
 {
     TimeRecordRow row;
@@ -242,7 +228,7 @@ TimeRecordRow RowReader::ReadTimeRecord()
     return row;
 }
 
-// In the order of kOptionsColumns.
+// In the order of the table.
 void RowReader::ReadOptions(OptionsRow& row)
 {
     Start();

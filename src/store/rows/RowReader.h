@@ -4,7 +4,6 @@
 #include "store/rows/Rows.h"
 
 #include <cstddef>
-#include <span>
 #include <string>
 #include <vector>
 
@@ -12,20 +11,18 @@ namespace ptk {
 
 class RecordSet;
 
-// The columns that the program reads of a table, in the order in which it reads them.
+// The columns that the program reads of a table, in the table's order.
 struct TableColumns
 {
     const char* table;
-    std::span<const char* const> names; // the first is the key, by which a row is told to people
+    std::vector<const char*> names; // the first is the key, where there is one, by which a row is told to people
+    bool hasKey;
 };
 
-[[nodiscard]] TableColumns EmployeeTable();
-
-// The web address deliberately is not among them: it is written but never read back.
-[[nodiscard]] TableColumns CompanyTable();
-
-[[nodiscard]] TableColumns TimeRecordTable();
-[[nodiscard]] TableColumns OptionsTable();
+[[nodiscard]] const TableColumns& EmployeeTable();
+[[nodiscard]] const TableColumns& CompanyTable();
+[[nodiscard]] const TableColumns& TimeRecordTable();
+[[nodiscard]] const TableColumns& OptionsTable();
 
 // Reads the current row of a record set column by column. A field whose column is null, or not greater than zero where only that has a
 // meaning, keeps its default. What cannot be read raises 94 (null), 13 (no such meaning) or 6 (does not fit), in words that name the row,
@@ -33,7 +30,7 @@ struct TableColumns
 class RowReader
 {
 public:
-    // Raises Failure 9 for a missing column.
+    // Both must outlive it. Raises Failure 9 for a missing column.
     RowReader(const RecordSet& rows, const TableColumns& columns);
 
     // For the check of a file: what cannot be read is put behind `found` instead of being raised, and so is what can be read but never
@@ -64,7 +61,7 @@ private:
     [[nodiscard]] std::string Place(std::size_t column, const std::string& why) const;
 
     const RecordSet& m_rows;
-    TableColumns m_table;
+    const TableColumns& m_table;
     std::vector<std::size_t> m_columns; // the record set's ordinals of the table's columns
     std::size_t m_next = 0;
     std::vector<std::string>* m_found = nullptr;

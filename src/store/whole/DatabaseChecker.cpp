@@ -3,6 +3,7 @@
 #include "platform/Failure.h"
 #include "platform/text/Text.h"
 #include "store/engine/RecordSet.h"
+#include "store/engine/StoredTable.h"
 #include "store/postgres/ServerAddress.h"
 #include "store/sqlite/FileHeader.h"
 #include "store/sqlite/SqliteEngine.h"
@@ -14,65 +15,34 @@
 #include <filesystem>
 #include <fmt/format.h>
 #include <set>
-#include <sstream>
+#include <span>
+#include <string_view>
 
 namespace ptk {
 
 namespace {
 
-// The columns of one type in one table, separated by blanks. Further tables and columns may be there.
-struct ExpectedColumns
+constexpr StoredColumn kQueryColumns[] = {{"name", ColumnKind::Text}, {"sql", ColumnKind::Text}};
+constexpr StoredColumn kSessionColumns[] = {{"user", ColumnKind::Text}, {"program", ColumnKind::Text}, {"step", ColumnKind::Integer}};
+constexpr StoredColumn kReasonColumn[] = {{"reason", ColumnKind::Text}};
+constexpr StoredColumn kVersionColumn[] = {{"version", ColumnKind::Integer}};
+
+const char* FileTypeOf(ColumnKind kind)
 {
-    const char* table;
-    const char* type;
-    const char* names;
-};
-
-constexpr ExpectedColumns kExpectedColumns[] = {
-    {"Company", "INTEGER", "CompanyID"},
-    {"Company", "TEXT", "Name Address1 Address2 City State ZipCode Phone Fax FederalTaxID URL"},
-    {"Employee", "INTEGER", "EmployeeID EmployeeNumber CompanyID AutoDeductLunchLength AutoDeductBreakLength"},
-    {"Employee", "TEXT", "SSNumber FirstName LastName Address Address2 City State ZipCode Phone Password"},
-    {"Employee", "DATETIME", "DateOfBirth HireDate ReleaseDate"},
-    {"Employee", "SINGLE", "PayRate OvertimePayRate"},
-    {"Employee", "BOOLEAN", "Active AutoDeduct"},
-    {"TimeRecord", "INTEGER", "TimeRecordID EmployeeID"},
-    {"TimeRecord", "DATETIME", "ShiftDate StartTime EndTime"},
-    {"_System", "TEXT", "program version"},
-    {"_System", "INTEGER", "period_length"},
-    {"_System", "DATETIME", "auto_shift_start_time auto_shift_end_time"},
-    {"_StoredQuery", "TEXT", "name sql"},
-};
-
-// Of a table that files of earlier versions lack.
-constexpr ExpectedColumns kLimitColumns[] = {
-    {"_CheckLimits", "INTEGER", "long_shift_hours first_weekday"},
-    {"_CheckLimits", "BOOLEAN", "show_notices"},
-};
-
-// Of the edit trail, which files of earlier versions lack, too.
-constexpr ExpectedColumns kTrailColumns[] = {
-    {"_Session", "TEXT", "user program"},
-    {"_Session", "INTEGER", "step"},
-    {"_Change", "INTEGER", "ChangeID Step RowID EmployeeBefore EmployeeAfter"},
-    {"_Change", "TEXT", "ChangedAt ChangedBy Program TableName Action Before After"},
-};
-
-// What came with the number of the structure, which files of earlier versions lack as well.
-constexpr ExpectedColumns kStructureColumns[] = {
-    {"_Structure", "INTEGER", "version"},
-    {"_Session", "TEXT", "reason"},
-    {"_Change", "TEXT", "Reason"},
-    {"_Payday", "INTEGER", "PaydayID EmployeeID Entry"},
-    {"_Payday", "DATETIME", "FromDay ToDay PaidAt"},
-    {"_Payday", "TEXT", "PaidBy Regular Overtime Gross"},
-};
-
-// Of a table that a file has from its first profile on.
-constexpr ExpectedColumns kProfileColumns[] = {
-    {"_Profile", "INTEGER", "ProfileID"},
-    {"_Profile", "TEXT", "Name Definition"},
-};
+    switch (kind) {
+    case ColumnKind::Integer:
+    case ColumnKind::Long:
+        return "INTEGER";
+    case ColumnKind::Date:
+        return "DATETIME";
+    case ColumnKind::Single:
+        return "SINGLE";
+    case ColumnKind::Flag:
+        return "BOOLEAN";
+    default:
+        return "TEXT";
+    }
+}
 
 // Whatever a foreign view or a huge file takes: no file is slower to check than by this much.
 constexpr std::chrono::seconds kTime(30);
@@ -119,9 +89,10 @@ private:
         CheckIntegrity();
         CheckNumber("application_id", kApplicationId);
         CheckNumber("user_version", kFormatNumber);
-        for (const ExpectedColumns& columns : kExpectedColumns) {
-            CheckColumns(columns);
+        for (const char* table : {"Company", "Employee", "TimeRecord", "_System"}) {
+            CheckTable(table);
         }
+        CheckColumns("_StoredQuery", kQueryColumns);
         CountRows();
         CheckLimitsTable();
         CheckTrail();
@@ -154,18 +125,34 @@ private:
         }
     }
 
-    void CheckColumns(const ExpectedColumns& columns)
+    void CheckTable(const char* table) { CheckColumns(table, StoredTableOf(table).columns); }
+
+    // Those of one type after the other. Further tables and columns may be there, and what a file may lack is not asked for here.
+    void CheckColumns(const char* table, std::span<const StoredColumn> columns)
     {
-        std::istringstream names(columns.names);
-        for (std::string name; names >> name;) {
-            const auto found = m_engine.Select(
-                fmt::format("SELECT type FROM pragma_table_info('{}') WHERE name = '{}' COLLATE NOCASE", columns.table, name));
-            if (found->EndOfFile()) {
-                Report("There is no column {}.{}.", columns.table, name);
-                m_incomplete.insert(columns.table);
-            } else if (LowerCase(found->TextAt(0)) != LowerCase(columns.type)) {
-                Report("The column {}.{} is {}, not {}.", columns.table, name, found->TextAt(0), columns.type);
+        std::set<std::string_view> types;
+        for (const StoredColumn& first : columns) {
+            const std::string_view type = FileTypeOf(first.kind);
+            if (!types.insert(type).second) {
+                continue;
             }
+            for (const StoredColumn& column : columns) {
+                if (type == FileTypeOf(column.kind) && column.rule != ColumnRule::MayLack) {
+                    CheckColumn(table, column.name, type);
+                }
+            }
+        }
+    }
+
+    void CheckColumn(const char* table, const char* name, std::string_view type)
+    {
+        const auto found =
+            m_engine.Select(fmt::format("SELECT type FROM pragma_table_info('{}') WHERE name = '{}' COLLATE NOCASE", table, name));
+        if (found->EndOfFile()) {
+            Report("There is no column {}.{}.", table, name);
+            m_incomplete.insert(table);
+        } else if (LowerCase(found->TextAt(0)) != LowerCase(type)) {
+            Report("The column {}.{} is {}, not {}.", table, name, found->TextAt(0), type);
         }
     }
 
@@ -182,9 +169,8 @@ private:
         if (!hasTrail) {
             return CheckRoutines(m_engine, hasTrail, m_check.problems);
         }
-        for (const ExpectedColumns& columns : kTrailColumns) {
-            CheckColumns(columns);
-        }
+        CheckColumns("_Session", kSessionColumns);
+        CheckTable("_Change");
         if (!m_incomplete.contains("_Session") && Count("_Session") != 1) {
             Report("The table _Session has {} rows, not 1.", Count("_Session"));
         }
@@ -196,9 +182,10 @@ private:
         if (!HasTable("_Structure")) {
             return;
         }
-        for (const ExpectedColumns& columns : kStructureColumns) {
-            CheckColumns(columns);
-        }
+        CheckColumns("_Structure", kVersionColumn);
+        CheckColumns("_Session", kReasonColumn);
+        CheckColumn("_Change", "Reason", "TEXT");
+        CheckTable("_Payday");
         if (!m_incomplete.contains("_Structure") && Count("_Structure") != 1) {
             Report("The table _Structure has {} rows, not 1.", Count("_Structure"));
         }
@@ -210,9 +197,7 @@ private:
     void CheckProfiles()
     {
         if (HasTable("_Profile")) {
-            for (const ExpectedColumns& columns : kProfileColumns) {
-                CheckColumns(columns);
-            }
+            CheckTable("_Profile");
         }
     }
 
@@ -221,9 +206,7 @@ private:
         if (!HasTable("_CheckLimits")) {
             return;
         }
-        for (const ExpectedColumns& columns : kLimitColumns) {
-            CheckColumns(columns);
-        }
+        CheckTable("_CheckLimits");
         if (m_incomplete.contains("_CheckLimits")) {
             return;
         }

@@ -145,7 +145,7 @@ std::string SelectText(const Source& source, const StoredTable& table, const std
 {
     std::string names;
     for (const StoredColumn& column : table.columns) {
-        const bool lacks = source.isFile && column.mayLack && !HasColumn(*source.engine, table, column.name);
+        const bool lacks = source.isFile && column.rule == ColumnRule::MayLack && !HasColumn(*source.engine, table, column.name);
         names += fmt::format("{}{}", names.empty() ? "" : ", ", lacks ? "NULL" : column.name);
     }
     return fmt::format("SELECT {} FROM {} WHERE {}{}", names, table.name, condition,

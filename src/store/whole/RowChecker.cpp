@@ -80,7 +80,7 @@ void RowChecker::CheckRows(const std::set<std::string>& incomplete)
 {
     struct Table
     {
-        TableColumns columns;
+        const TableColumns& columns;
         ReadRow read;
     };
     for (const Table& table : {Table{OptionsTable(), ReadOptions}, Table{CompanyTable(), ReadCompany}, Table{EmployeeTable(), ReadEmployee},
