@@ -1,10 +1,8 @@
 #include "ui/frame/EditMenu.h"
 
 #include "office/records/EmployeeTexts.h"
-#include "platform/Required.h"
 #include "platform/Succeeds.h"
 #include "platform/system/BusyPointer.h"
-#include "startup/CController.h"
 #include "ui/boxes/SpentUndoKeys.h"
 #include "ui/page/PageHost.h"
 #include "ui/page/SharedRecords.h"
@@ -113,7 +111,7 @@ std::string EditMenu::Whose(const MovedStep& step) const
 {
     std::string name;
     if (step.table == "TimeRecord" && step.employee) {
-        Succeeds([&] { name = DisplayNameOf(*Required(Required(m_host.Controller())->EmployeeList()), *step.employee); });
+        Succeeds([&] { name = DisplayNameOf(*m_host.Employees(), *step.employee); });
     }
     return name.empty() ? name : " (" + name + ")";
 }

@@ -161,7 +161,7 @@ bool OptionsPage::StoreLimits()
         return true;
     }
     const auto limits = ReadLimits(texts);
-    const auto database = Required(Required(m_host.Controller())->PTKDatabase());
+    const auto database = m_host.Database();
     if (!limits || !SaveCheckLimits(database, *limits, *m_limits)) {
         return false;
     }
@@ -281,8 +281,8 @@ void OptionsPage::LoadPresent()
     const auto controller = Required(m_host.Controller());
     {
         const CJetDB::Hold hold(controller->PTKDatabase());
-        RequireOpen(*Required(controller->PTKDatabase()));
-        Required(controller->SystemOptions())->Load();
+        RequireOpen(*m_host.Database());
+        m_host.Options()->Load();
         m_limits = LoadCheckLimits(controller->PTKDatabase());
     }
     DisplaySystemOptions(controller->SystemOptions());

@@ -4,11 +4,9 @@
 #include "office/history/HistoryFile.h"
 #include "office/history/HistoryTable.h"
 #include "office/reports/SaveReport.h"
-#include "platform/Required.h"
 #include "platform/Succeeds.h"
 #include "platform/system/BusyPointer.h"
 #include "platform/system/Clock.h"
-#include "startup/CController.h"
 #include "store/CJetDB.h"
 #include "ui/history/HistoryModel.h"
 #include "ui/page/PageHost.h"
@@ -174,7 +172,7 @@ void HistoryWindow::Refresh()
 void HistoryWindow::Begin()
 {
     const BusyPointer busy(m_host.Desktop());
-    const auto database = Required(Required(m_host.Controller())->PTKDatabase())->Afresh();
+    const auto database = m_host.Database()->Afresh();
     const CJetDB::Hold hold(database);
     const auto names = std::make_shared<EmployeeNames>(database);
     names->LearnGone(database);
@@ -273,7 +271,7 @@ void HistoryWindow::SaveAs()
     }
     Say(QString());
     const auto begin = [&] {
-        const auto database = Required(Required(m_host.Controller())->PTKDatabase())->Afresh();
+        const auto database = m_host.Database()->Afresh();
         m_file = std::make_unique<HistoryFile>(target->path, target->form, m_host.Clock().Now(), database, m_query, m_names);
         m_saving.start(0);
     };

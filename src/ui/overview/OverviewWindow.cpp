@@ -8,10 +8,8 @@
 #include "office/overview/OverviewTexts.h"
 #include "office/reports/SaveReport.h"
 #include "platform/Failure.h"
-#include "platform/Required.h"
 #include "platform/Succeeds.h"
 #include "platform/system/Clock.h"
-#include "startup/CController.h"
 #include "store/CSystemOptions.h"
 #include "ui/overview/OverviewTables.h"
 #include "ui/overview/PaydayButtons.h"
@@ -100,7 +98,7 @@ void OverviewWindow::ConnectPeriod()
     connect(m_ui->dttbOverviewFrom, &DateCombo::Changed, this, [this] {
         Succeeds([this] {
             if (const auto from = m_ui->dttbOverviewFrom->Date()) {
-                m_ui->dttbOverviewTo->SetDate(PayPeriodFrom(*from, PeriodLength()).to);
+                m_ui->dttbOverviewTo->SetDate(PayPeriodFrom(*from, m_host.PeriodLength()).to);
             }
         });
     });
@@ -167,10 +165,7 @@ void OverviewWindow::Open(const std::optional<PayPeriod>& timecards)
     }
     m_ui->grdOverview->setFocus();
     m_takesIn = false;
-    const auto begin = [&] {
-        const auto controller = Required(m_host.Controller());
-        ShowPeriod(FirstPeriod(Required(controller->PTKDatabase()), timecards, m_host.Clock().Today(), PeriodLength()));
-    };
+    const auto begin = [&] { ShowPeriod(FirstPeriod(m_host.Database(), timecards, m_host.Clock().Today(), m_host.PeriodLength())); };
     if (Succeeds(begin)) {
         Refresh();
     }
@@ -185,7 +180,7 @@ void OverviewWindow::StepPeriod(std::int16_t direction)
 {
     const auto step = [&] {
         const auto from = m_ui->dttbOverviewFrom->Date();
-        const auto next = from ? StepPayPeriod(*from, PeriodLength(), direction) : std::nullopt;
+        const auto next = from ? StepPayPeriod(*from, m_host.PeriodLength(), direction) : std::nullopt;
         if (!next) {
             return false;
         }
@@ -212,11 +207,6 @@ std::optional<PayPeriod> OverviewWindow::Period() const
     return from && to && *from <= *to ? std::optional(PayPeriod{*from, *to}) : std::nullopt;
 }
 
-std::int16_t OverviewWindow::PeriodLength() const
-{
-    return Required(Required(m_host.Controller())->SystemOptions())->PeriodLength();
-}
-
 // A failure of the first step leaves what was read before in its place.
 void OverviewWindow::Refresh()
 {
@@ -232,12 +222,10 @@ void OverviewWindow::Begin()
     if (!period) {
         return Say(kNoPeriod);
     }
-    const auto controller = Required(m_host.Controller());
     m_asOf = NewestChange(m_host);
-    const auto all = Required(controller->EmployeeList());
+    const auto all = m_host.Employees();
     m_takesIn = m_takesIn && m_reading != nullptr && m_reading->Result().period.from == period->from;
-    m_reading =
-        std::make_shared<OverviewReading>(Required(controller->PTKDatabase()), OfferedEmployees(*all), *period, m_host.Clock().Now(), all);
+    m_reading = std::make_shared<OverviewReading>(m_host.Database(), OfferedEmployees(*all), *period, m_host.Clock().Now(), all);
     m_next.start(0);
     ShowProgress();
 }

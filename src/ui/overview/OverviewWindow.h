@@ -79,9 +79,6 @@ private:
     // Nothing while the boxes do not hold one.
     [[nodiscard]] std::optional<PayPeriod> Period() const;
 
-    // Raises Failure 91 before the window has its controller.
-    [[nodiscard]] std::int16_t PeriodLength() const;
-
     void Refresh();
     void Begin();
     void ReadOn();

@@ -2,11 +2,9 @@
 
 #include "model/CEmployeeList.h"
 #include "office/card/MendPlan.h"
-#include "platform/Required.h"
 #include "platform/Succeeds.h"
 #include "platform/system/BusyPointer.h"
 #include "platform/system/Clock.h"
-#include "startup/CController.h"
 #include "store/CJetDB.h"
 #include "store/CSystemOptions.h"
 #include "ui/mend/FAddShift.h"
@@ -67,12 +65,12 @@ PaydayActions::PaydayActions(PageHost& host, QWidget& window) : QObject(&window)
 
 std::shared_ptr<CJetDB> PaydayActions::Database() const
 {
-    return Required(Required(m_host.Controller())->PTKDatabase());
+    return m_host.Database();
 }
 
 std::vector<std::shared_ptr<CEmployee>> PaydayActions::PeopleOf(const PaydayWhom& whom) const
 {
-    const auto all = Required(Required(m_host.Controller())->EmployeeList());
+    const auto all = m_host.Employees();
     std::vector<std::shared_ptr<CEmployee>> people;
     for (const std::int32_t id : whom.People()) {
         if (auto employee = all->GetEmployeeByID(id)) {
@@ -192,7 +190,7 @@ void PaydayActions::MendSeveral(const PaydayWhom& whom)
 {
     std::optional<MendPlan> plan;
     const auto read = [&](WorkProgress& progress) {
-        const auto options = Required(Required(m_host.Controller())->SystemOptions());
+        const auto options = m_host.Options();
         const auto people = PeopleOf(whom);
         std::int32_t done = 0;
         bool goesOn = true;
@@ -232,7 +230,7 @@ void PaydayActions::AddShift(const PaydayWhom& whom)
         const auto store = [&](const Shift& shift, const std::string& reason) {
             return Store(kShiftTitle, reason, [&](CJetDB& database) { return ptk::AddShift(database, numbers, shift.start, shift.end); });
         };
-        const auto options = Required(Required(m_host.Controller())->SystemOptions());
+        const auto options = m_host.Options();
         FAddShift window(&m_window, people, {m_host.Clock(), [this](DateTime day) { return WithRecordsOn(Database(), day); }, store},
                          UsualShift(*options, Database()), ProposedDay(whom.period, m_host.Clock().Today()),
                          OfferedReasons(m_host, whom.paid));

@@ -1,8 +1,6 @@
 #include "ui/page/OfferedReasons.h"
 
-#include "platform/Required.h"
 #include "platform/Succeeds.h"
-#include "startup/CController.h"
 #include "store/trail/TrailReader.h"
 #include "ui/page/PageHost.h"
 
@@ -19,7 +17,7 @@ ReasonLine OfferedReasons(PageHost& host, bool wanted)
 {
     ReasonLine line;
     line.wanted = wanted;
-    Succeeds([&] { line.offered = ReadTrailReasons(Required(Required(host.Controller())->PTKDatabase()), kOfferedReasons); },
+    Succeeds([&] { line.offered = ReadTrailReasons(host.Database(), kOfferedReasons); },
              [&](const Failure& reason) { host.Log(reason.Number(), kNoReasons + reason.Description()); });
     return line;
 }

@@ -9,7 +9,11 @@
 
 namespace ptk {
 
+class CCompanyList;
 class CController;
+class CEmployeeList;
+class CJetDB;
+class CSystemOptions;
 class Clock;
 class Desktop;
 class DesktopWindow;
@@ -42,6 +46,13 @@ public:
 
     // nullptr until the window was handed one.
     [[nodiscard]] virtual std::shared_ptr<CController> Controller() const = 0;
+
+    // What the controller holds. Raise Failure 91 without it, or where it has none.
+    [[nodiscard]] std::shared_ptr<CJetDB> Database() const;
+    [[nodiscard]] std::shared_ptr<CEmployeeList> Employees() const;
+    [[nodiscard]] std::shared_ptr<CCompanyList> Companies() const;
+    [[nodiscard]] std::shared_ptr<CSystemOptions> Options() const;
+    [[nodiscard]] std::int16_t PeriodLength() const; // of the options, in days
 
     [[nodiscard]] virtual ptk::Desktop& Desktop() const = 0;
     [[nodiscard]] virtual const ptk::Clock& Clock() const = 0;

@@ -1,7 +1,6 @@
 #include "ui/page/RecordPages.h"
 
 #include "office/records/LeftBehind.h"
-#include "platform/Required.h"
 #include "platform/Succeeds.h"
 #include "platform/system/BusyPointer.h"
 #include "platform/system/Desktop.h"
@@ -73,7 +72,7 @@ void RecordPages::ReadAgain()
 // Lists that cannot be read are empty afterwards, so the database is asked first.
 void RecordPages::RequireDatabase() const
 {
-    const auto database = Required(Required(m_frame.host.Controller())->PTKDatabase());
+    const auto database = m_frame.host.Database();
     RequireOpen(*database);
     database->CloseDB();
 }

@@ -3,12 +3,10 @@
 #include "model/CEmployee.h"
 #include "office/history/HistoryScope.h"
 #include "office/reports/SaveReport.h"
-#include "platform/Required.h"
 #include "platform/Succeeds.h"
 #include "platform/system/BusyPointer.h"
 #include "platform/system/Clock.h"
 #include "platform/text/Text.h"
-#include "startup/CController.h"
 #include "store/CJetDB.h"
 #include "ui/page/ChangeNews.h"
 #include "ui/page/PageHost.h"
@@ -142,7 +140,7 @@ bool AccountWindow::Read(std::string& refusal)
     progress.setWindowModality(Qt::ApplicationModal);
     const auto read = [&] {
         const BusyPointer busy(m_host.Desktop());
-        const auto database = Required(Required(m_host.Controller())->PTKDatabase());
+        const auto database = m_host.Database();
         m_account = std::make_shared<const PaydayAccount>(
             ReadPaydayAccount(database, m_period, m_host.Clock().Now(), [&](std::size_t done, std::size_t all) {
                 return progress.GoOn(static_cast<std::int32_t>(done), static_cast<std::int32_t>(all));

@@ -317,7 +317,7 @@ bool CompanyPage::Reload()
 // new access knows nothing of that.
 bool CompanyPage::ReloadAfresh()
 {
-    const auto stale = Required(Required(m_host.Controller())->PTKDatabase());
+    const auto stale = m_host.Database();
     stale->CloseDB();
     List()->Destroy();
     return List()->LoadList(stale->Afresh());
@@ -325,7 +325,7 @@ bool CompanyPage::ReloadAfresh()
 
 std::shared_ptr<CCompanyList> CompanyPage::List() const
 {
-    return Required(Required(m_host.Controller())->CompanyList());
+    return m_host.Companies();
 }
 
 } // namespace ptk

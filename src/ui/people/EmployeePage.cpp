@@ -441,7 +441,7 @@ bool EmployeePage::Reload()
 
 std::shared_ptr<CEmployeeList> EmployeePage::List() const
 {
-    return Required(Required(m_host.Controller())->EmployeeList());
+    return m_host.Employees();
 }
 
 } // namespace ptk

@@ -5,7 +5,6 @@
 #include "office/card/CardFindings.h"
 #include "office/overview/OverviewReading.h"
 #include "office/overview/OverviewTable.h"
-#include "platform/Required.h"
 #include "platform/Succeeds.h"
 #include "platform/system/Clock.h"
 #include "startup/CController.h"
@@ -215,7 +214,7 @@ void ReportPeople::TakeIn()
     for (const OverviewRow& row : m_reading->Result().rows) {
         numbers.push_back(row.employee->EmployeeID());
     }
-    const auto all = Required(Required(m_host.Controller())->EmployeeList());
+    const auto all = m_host.Employees();
     m_takenIn.clear();
     for (const std::int32_t number : numbers) {
         if (auto employee = all->GetEmployeeByID(number)) {

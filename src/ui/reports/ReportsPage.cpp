@@ -184,7 +184,7 @@ void ReportsPage::OfferDates(ReportDates dates)
     SetUsable(*m_ui->cmdReportPeriodBack, period, reason, kBackTip);
     SetUsable(*m_ui->cmdReportPeriodNext, period, reason, kNextTip);
     SetUsable(*m_ui->cmdSamePeriod, period, reason, kSameTip);
-    if (const auto offered = OfferedDays(dates, m_host.Clock().Today(), period ? PeriodLength() : std::int16_t{0})) {
+    if (const auto offered = OfferedDays(dates, m_host.Clock().Today(), period ? m_host.PeriodLength() : std::int16_t{0})) {
         m_ui->cboFromDate->SetDate(offered->from);
         m_ui->cboToDate->SetDate(offered->to);
     }
@@ -205,15 +205,10 @@ void ReportsPage::ShowSelected()
     m_ui->lblSelected->setText(QString::fromStdString(DescribeSelection(static_cast<std::int32_t>(selected), all)));
 }
 
-std::int16_t ReportsPage::PeriodLength() const
-{
-    return Required(Required(m_host.Controller())->SystemOptions())->PeriodLength();
-}
-
 void ReportsPage::ChangeFromDate()
 {
     if (const auto from = m_ui->cboFromDate->Date()) {
-        m_ui->cboToDate->SetDate(PayPeriodFrom(*from, PeriodLength()).to);
+        m_ui->cboToDate->SetDate(PayPeriodFrom(*from, m_host.PeriodLength()).to);
     }
     ShowPeriod();
 }
@@ -222,7 +217,7 @@ void ReportsPage::StepPeriod(std::int16_t direction)
 {
     const auto step = [&] {
         const auto from = m_ui->cboFromDate->Date();
-        const auto period = from ? StepPayPeriod(*from, PeriodLength(), direction) : std::nullopt;
+        const auto period = from ? StepPayPeriod(*from, m_host.PeriodLength(), direction) : std::nullopt;
         if (period) {
             m_ui->cboFromDate->SetDate(period->from);
             m_ui->cboToDate->SetDate(period->to);
@@ -268,9 +263,9 @@ void ReportsPage::ShowOfferedNotice(const ReportEntry& entry)
     std::string notice;
     if (entry.dates == ReportDates::PayPeriod) {
         const DateTime today = m_host.Clock().Today();
-        const auto offered = OfferedDays(entry.dates, today, PeriodLength());
+        const auto offered = OfferedDays(entry.dates, today, m_host.PeriodLength());
         if (offered && m_ui->cboFromDate->Date() == offered->from && m_ui->cboToDate->Date() == offered->to) {
-            notice = OfferedDaysNotice(today, PeriodLength());
+            notice = OfferedDaysNotice(today, m_host.PeriodLength());
         }
     }
     m_ui->lblOffered->Say(QString::fromStdString(notice));
@@ -296,7 +291,7 @@ void ReportsPage::OpenAccountant(const PayPeriod& days)
 {
     const auto controller = Required(m_host.Controller());
     AccountantOrder order{{controller->PTKDatabase(), {}, days, m_host.Clock().Now()}};
-    order.people.people = PeopleOfReview(*Required(controller->EmployeeList()), Names(ReportWhom::Together), order.notices);
+    order.people.people = PeopleOfReview(*m_host.Employees(), Names(ReportWhom::Together), order.notices);
     if (order.people.people.empty()) {
         return Say(kNobody);
     }
@@ -406,7 +401,7 @@ void ReportsPage::Run(const ReportEntry& entry)
     const auto controller = Required(m_host.Controller());
     const ReportOrder order{entry,
                             controller->PTKDatabase(),
-                            Required(controller->EmployeeList()),
+                            m_host.Employees(),
                             Names(entry.whom),
                             ChosenDate(*m_ui->cboFromDate),
                             ChosenDate(*m_ui->cboToDate)};

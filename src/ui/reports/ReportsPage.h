@@ -80,7 +80,6 @@ private:
     // Nothing while the boxes do not hold any.
     [[nodiscard]] std::optional<PayPeriod> Days() const;
 
-    [[nodiscard]] std::int16_t PeriodLength() const;
     void ShowFailure(std::int32_t errorNumber, const std::string& reportName);
     void Say(const std::string& text);
 

@@ -3,7 +3,6 @@
 #include "model/CEmployeeList.h"
 #include "office/card/TimeCardNotices.h"
 #include "platform/Failure.h"
-#include "platform/Required.h"
 #include "platform/Succeeds.h"
 #include "platform/system/Clock.h"
 #include "startup/CController.h"
@@ -105,12 +104,12 @@ bool CardChoice::InitializePayPeriod()
 
 bool CardChoice::AlignPeriodEnd()
 {
-    return Succeeds([this] { m_ui->dttbTCTo->SetDate(PayPeriodFrom(ChosenDate(*m_ui->dttbTCFrom), PeriodLength()).to); });
+    return Succeeds([this] { m_ui->dttbTCTo->SetDate(PayPeriodFrom(ChosenDate(*m_ui->dttbTCFrom), m_host.PeriodLength()).to); });
 }
 
 bool CardChoice::MovePayPeriod(std::int16_t direction)
 {
-    const auto period = StepPayPeriod(ChosenDate(*m_ui->dttbTCFrom), PeriodLength(), direction);
+    const auto period = StepPayPeriod(ChosenDate(*m_ui->dttbTCFrom), m_host.PeriodLength(), direction);
     if (!period) {
         return false;
     }
@@ -219,11 +218,6 @@ void CardChoice::SelectFirstEmployee()
 void CardChoice::FocusEmployee()
 {
     m_ui->cboTCEmployeeName->setFocus();
-}
-
-std::int16_t CardChoice::PeriodLength() const
-{
-    return Required(Required(m_host.Controller())->SystemOptions())->PeriodLength();
 }
 
 } // namespace ptk

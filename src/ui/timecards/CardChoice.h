@@ -88,9 +88,6 @@ private:
     void TakeLastUsed();
     void StepEmployee(int direction);
 
-    // Raises Failure 91 before the window has its controller.
-    [[nodiscard]] std::int16_t PeriodLength() const;
-
     PageHost& m_host;
     std::unique_ptr<Ui::CardChoice> m_ui;
 };

@@ -12,7 +12,6 @@
 #include "platform/Succeeds.h"
 #include "platform/system/BusyPointer.h"
 #include "platform/system/Desktop.h"
-#include "startup/CController.h"
 #include "store/CSystemOptions.h"
 #include "ui/editors/FAutoFill.h"
 #include "ui/page/PageHost.h"
@@ -60,19 +59,18 @@ void CardFilling::Open(const std::optional<Typed>& typed)
 
 void CardFilling::HandOver(FAutoFill& window)
 {
-    const auto controller = Required(m_host.Controller());
-    const auto options = Required(controller->SystemOptions());
+    const auto options = m_host.Options();
     const PayPeriod period = m_place.choice.Period();
     window.StartDate(period.from);
     window.EndDate(period.to);
     window.AutoShiftStartTime(options->AutoShiftStartTime());
     window.AutoShiftEndTime(options->AutoShiftEndTime());
-    const auto employee = Required(Required(controller->EmployeeList())->GetEmployeeByName(m_place.choice.EmployeeText()));
+    const auto employee = Required(m_host.Employees()->GetEmployeeByName(m_place.choice.EmployeeText()));
     window.EmployeeID(NarrowToInt16(employee->EmployeeID()));
     window.PeriodLength(options->PeriodLength());
     window.TimeRecordList(Required(m_place.card.Card())->TimeRecordList());
     const BusyPointer busy(m_host.Desktop());
-    window.Announce("For " + employee->DisplayName(), DaysWithRecords(*Required(controller->PTKDatabase()), employee->EmployeeID()));
+    window.Announce("For " + employee->DisplayName(), DaysWithRecords(*m_host.Database(), employee->EmployeeID()));
     if (m_place.card.IsPaid()) {
         window.TellPaid(*m_place.card.Checked()->paid);
     }

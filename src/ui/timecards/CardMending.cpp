@@ -12,7 +12,6 @@
 #include "platform/Required.h"
 #include "platform/Succeeds.h"
 #include "platform/system/Desktop.h"
-#include "startup/CController.h"
 #include "ui/page/PageHost.h"
 #include "ui/timecards/CardReasons.h"
 #include "ui/timecards/CardStoring.h"
@@ -55,7 +54,7 @@ void CardMending::Do(const CardOffer& offer)
         case OfferKind::Mend:
             return Mend(offer.remedy);
         case OfferKind::Rate:
-            return emit RateWanted(Required(Required(m_card.Card())->Employee())->EmployeeID());
+            return emit RateWanted(EmployeeID());
         case OfferKind::Changes:
             return emit ChangesWanted();
         }
@@ -63,6 +62,12 @@ void CardMending::Do(const CardOffer& offer)
     if (!Succeeds(act)) {
         m_line.Say(kNotMendedNow);
     }
+}
+
+std::int32_t CardMending::EmployeeID() const
+{
+    const auto card = Required(m_card.Card());
+    return Required(card->Employee())->EmployeeID();
 }
 
 std::optional<std::string> CardMending::Permission(const Remedy& remedy)
@@ -87,8 +92,8 @@ void CardMending::Mend(const Remedy& remedy)
         return;
     }
     const auto checked = Required(m_card.Checked());
-    const std::int32_t employeeID = Required(Required(m_card.Card())->Employee())->EmployeeID();
-    const auto database = Required(Required(m_host.Controller())->PTKDatabase());
+    const std::int32_t employeeID = EmployeeID();
+    const auto database = m_host.Database();
     const auto mend = [&](CTimeCard&, CTimeRecordFactory&) {
         return ptk::Mend(*database, std::array{Mending{employeeID, &checked->punches, remedy.changes}});
     };

@@ -41,6 +41,7 @@ signals:
 private:
     void Mend(const Remedy& remedy);
     void GoOn(const PayPeriod& period);
+    [[nodiscard]] std::int32_t EmployeeID() const; // of the card's; raises Failure 91 without one
 
     // Nothing: it is not to be done. Else why, perhaps empty.
     [[nodiscard]] std::optional<std::string> Permission(const Remedy& remedy);

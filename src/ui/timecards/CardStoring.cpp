@@ -49,7 +49,7 @@ bool CardStoring::StoreQuietly(const Change& change)
     const BusyPointer busy(m_host.Desktop());
     const auto controller = Required(m_host.Controller());
     const auto factory = Required(controller->TimeRecordFactory());
-    const auto database = Required(controller->PTKDatabase());
+    const auto database = m_host.Database();
     const CJetDB::Reason reason(database, change.reason);
     const bool stored = change.step(*Required(m_card.Card()), *factory);
     if (!stored) {
@@ -82,7 +82,7 @@ std::string CardStoring::Refused(const Change& change) const
 
 void CardStoring::TellConflict(const Change& change)
 {
-    const auto employees = Required(Required(m_host.Controller())->EmployeeList());
+    const auto employees = m_host.Employees();
     const auto read = Required(change.record)->AsRead();
     const std::string name = MomentText(read ? read->StartTime : DateTime(), ColumnShape::Moment) + " of " + m_card.Employee();
     const std::string text = ConflictText(*m_conflict, name, [&](std::int64_t id) { return DisplayNameOf(*employees, id); });

@@ -71,7 +71,7 @@ bool CurrentCard::RefreshTimeCard()
 
 std::shared_ptr<CEmployee> CurrentCard::EmployeeToShow() const
 {
-    const auto list = Required(Required(m_host.Controller())->EmployeeList());
+    const auto list = m_host.Employees();
     const bool meant = m_meant && m_meant == m_choice.EmployeeID();
     return meant ? list->GetEmployeeByID(*m_meant) : list->GetEmployeeByName(m_choice.EmployeeText());
 }
@@ -99,7 +99,7 @@ bool CurrentCard::Load(CTimeCard& card, const std::shared_ptr<CEmployee>& employ
     const BusyPointer busy(m_host.Desktop());
     const auto controller = Required(m_host.Controller());
     const auto database = controller->PTKDatabase();
-    const auto options = Required(controller->SystemOptions());
+    const auto options = m_host.Options();
     if (employee != nullptr) {
         m_host.SharedRecords().AboutToRead(Shown::CardRecords, employee->EmployeeID());
     }
@@ -201,7 +201,7 @@ void CurrentCard::Renew()
     }
     const auto renew = [&] {
         const std::int32_t id = card->Employee()->EmployeeID();
-        const auto list = Required(Required(m_host.Controller())->EmployeeList());
+        const auto list = m_host.Employees();
         m_host.SharedRecords().AboutToRead(Shown::CardEmployee, id);
         const bool wanted = IsWanted();
         card->Employee(Required(list->GetEmployeeByID(id)));

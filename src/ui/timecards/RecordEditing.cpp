@@ -8,10 +8,8 @@
 #include "office/card/CardRecords.h"
 #include "office/card/CheckedTimecard.h"
 #include "office/card/TimeCardNotices.h"
-#include "platform/Required.h"
 #include "platform/Succeeds.h"
 #include "platform/system/Desktop.h"
-#include "startup/CController.h"
 #include "store/CSystemOptions.h"
 #include "ui/editors/FTimeEditor.h"
 #include "ui/page/PageHost.h"
@@ -136,7 +134,7 @@ void RecordEditing::Open(const Editing& editing)
 
 void RecordEditing::Prepare(FTimeEditor& editor, const Editing& editing)
 {
-    const auto options = Required(Required(m_host.Controller())->SystemOptions());
+    const auto options = m_host.Options();
     editor.TimeRecord(editing.record);
     editor.ParentWindow(this);
     editor.SetAutoShiftTimes(options->AutoShiftStartTime(), options->AutoShiftEndTime());
