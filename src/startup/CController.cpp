@@ -337,7 +337,7 @@ std::string CController::Restore()
 
 std::string CController::RestoreRefusal() const
 {
-    return m_locator != nullptr && IsServerAddress(m_locator->DatabasePath()) ? kNoRestoreOnServer : "";
+    return m_locator == nullptr ? "" : ptk::RestoreRefusal(m_locator->DatabasePath());
 }
 
 bool CController::ReadAgain()

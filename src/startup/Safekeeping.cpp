@@ -4,9 +4,9 @@
 #include "platform/system/BusyPointer.h"
 #include "platform/system/Desktop.h"
 #include "startup/Windows.h"
+#include "store/backup/Restore.h"
 #include "store/engine/EngineNumber.h"
 #include "store/engine/EngineSource.h"
-#include "store/postgres/ServerAddress.h"
 
 #include <filesystem>
 #include <utility>
@@ -151,7 +151,7 @@ bool Safekeeping::PutBack(const BackupOrder& order, const std::string& file, con
 bool Safekeeping::CanReplace(const BackupOrder& order)
 {
     const auto hasBackups = [&] { return !BackupsIn(BackupFolder(order.programFolder)).empty(); };
-    if (order.database.empty() || IsServerAddress(order.database) || !Succeeds(hasBackups)) {
+    if (order.database.empty() || !RestoreRefusal(order.database).empty() || !Succeeds(hasBackups)) {
         return false;
     }
     bool replaceable = false;

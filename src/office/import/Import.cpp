@@ -181,9 +181,7 @@ ImportOutcome ImportOldDatabase(const ImportOrder& order, const ImportProgress& 
 {
     RefuseFile(order);
     RequireFolders(order);
-    if (IsServerAddress(order.database) || IsThere(order.database)) {
-        RefuseUnlessEmpty(order.database);
-    }
+    RefuseUnlessEmpty(order.database);
     ImportOutcome outcome;
     std::optional<FileDraft> draft; // first, so that an import without a place for its account is refused
     if (!order.trial) {

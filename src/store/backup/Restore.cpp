@@ -18,6 +18,10 @@ namespace ptk {
 
 namespace {
 
+constexpr auto kNoRestoreOnServer =
+    "A database on a server is not replaced by a backup: make an empty database there, copy the backup into it with ptk-console "
+    "copy-database --from, and enter its address as DatabasePath";
+
 namespace fs = std::filesystem;
 
 constexpr const char* kBeside[] = {"-journal", "-wal", "-shm"}; // where the engine keeps what it has not finished
@@ -132,10 +136,15 @@ Present KeepPresent(const RestoreOrder& order, const CopyProgress& progress)
 
 } // namespace
 
+std::string RestoreRefusal(const std::string& database)
+{
+    return IsServerAddress(database) ? kNoRestoreOnServer : "";
+}
+
 std::string Restore(const RestoreOrder& order, const CopyProgress& progress)
 {
-    if (IsServerAddress(order.database)) {
-        throw Failure(0, "PTK", kNoRestoreOnServer);
+    if (const std::string refusal = RestoreRefusal(order.database); !refusal.empty()) {
+        throw Failure(0, "PTK", refusal);
     }
     std::error_code ignored;
     RestoreOrder target = order;

@@ -18,11 +18,10 @@ struct RestoreOrder
     Author author;
 };
 
-inline constexpr const char* kNoRestoreOnServer =
-    "A database on a server is not replaced by a backup: make an empty database there, copy the backup into it with ptk-console "
-    "copy-database --from, and enter its address as DatabasePath";
+// Why no backup can take the place of this database, with what to do instead: others may be at work on a server. Empty for a file.
+[[nodiscard]] std::string RestoreRefusal(const std::string& database);
 
-// Refused for a server's address as the database, with what to do instead: others may be at work there.
+// Raises the refusal where there is one.
 //
 // The file is checked first; it stays as it is. The present database is backed up; where it is spoiled, its bytes, with a journal or a log
 // beside it, are moved to `backups` under the name of a backup with "-damaged" in it. The restored one has one entry more in its trail,

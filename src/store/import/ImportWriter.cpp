@@ -201,10 +201,11 @@ void RefuseUnlessEmpty(const std::string& database)
 {
     if (IsServerAddress(database)) {
         PostgresEngine engine(database);
-        return RefuseUnlessEmpty(engine);
+        RefuseUnlessEmpty(engine);
+    } else if (IsThere(database)) {
+        SqliteEngine engine(database, ReadOnly{});
+        RefuseUnlessEmpty(engine);
     }
-    SqliteEngine engine(database, ReadOnly{});
-    RefuseUnlessEmpty(engine);
 }
 
 void Import(const ImportTarget& target, const std::function<void(Engine&)>& fill)
@@ -223,9 +224,7 @@ void Import(const ImportTarget& target, const std::function<void(Engine&)>& fill
 
 void TryImport(const ImportTarget& target, const std::function<void(Engine&)>& fill)
 {
-    if (IsServerAddress(target.database) || IsThere(target.database)) {
-        RefuseUnlessEmpty(target.database);
-    }
+    RefuseUnlessEmpty(target.database);
     WithPassingDatabase([&](Engine& engine) { Change(engine, target, fill); });
 }
 

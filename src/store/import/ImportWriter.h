@@ -87,7 +87,7 @@ struct ImportTarget
 };
 
 // Raises a failure without a number where there is a database that holds companies, time records or more employees than the administrator,
-// and what opening it raises. Does not change it.
+// and what opening it raises. Does not change it; a file that is missing is empty.
 void RefuseUnlessEmpty(const std::string& database);
 
 // Runs `fill` on the target in one transaction, told in the trail as one entry: all of it or, when it raises, nothing. `fill` may have to
