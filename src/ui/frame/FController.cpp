@@ -371,9 +371,7 @@ void FController::ShowTimeCard(std::int32_t employeeID, const PayPeriod& period)
         return m_view->SayInOverview(kMakingReports);
     }
     m_ui->TabStrip->setCurrentIndex(kTimeCardTab - 1);
-    setWindowState(windowState() & ~Qt::WindowMinimized);
-    raise();
-    activateWindow();
+    BringForward(*this);
     m_timeCardPage->ShowCard(employeeID, period);
 }
 

@@ -1,4 +1,5 @@
 #include "ui/frame/SecondStart.h"
+#include "ui/work/WindowPlace.h"
 
 #include <algorithm>
 #include <QApplication>
@@ -49,9 +50,7 @@ SecondStart::~SecondStart() = default;
 void RaiseProgram()
 {
     if (QWidget* window = WindowInUse()) {
-        window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
-        window->raise();
-        window->activateWindow();
+        BringForward(*window);
     }
 }
 

@@ -11,6 +11,7 @@
 #include "ui/history/HistoryModel.h"
 #include "ui/page/PageHost.h"
 #include "ui/widgets/ButtonRow.h"
+#include "ui/widgets/FixedRows.h"
 #include "ui/widgets/ThemeIcon.h"
 #include "ui/work/SaveDialog.h"
 #include "ui/work/WindowPlace.h"
@@ -21,7 +22,6 @@
 #include <QCloseEvent>
 #include <QDir>
 #include <QGuiApplication>
-#include <QHeaderView>
 #include <QShortcut>
 
 namespace ptk {
@@ -75,10 +75,7 @@ HistoryWindow::~HistoryWindow() = default;
 
 void HistoryWindow::LayOut()
 {
-    auto* buttons = new ButtonRow;
-    m_ui->layout->addLayout(buttons);
-    const std::unique_ptr<QLayout> before(m_ui->buttons);
-    buttons->TakeFrom(*before);
+    FoldButtons(*m_ui->layout, m_ui->buttons);
     QPlainTextEdit* entry = m_ui->txtHistoryEntry;
     const int margins = 2 * (entry->frameWidth() + static_cast<int>(entry->document()->documentMargin()) + 1);
     entry->setFixedHeight(kEntryLines * entry->fontMetrics().lineSpacing() + margins);
@@ -88,10 +85,7 @@ void HistoryWindow::PrepareTable()
 {
     QTableView* table = m_ui->grdHistory;
     table->setModel(m_rows);
-    table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + kRowSpace);
-    table->verticalHeader()->hide();
-    table->horizontalHeader()->setHighlightSections(false);
+    FixRows(*table, kRowSpace);
     table->viewport()->installEventFilter(this);
 }
 
@@ -131,9 +125,7 @@ void HistoryWindow::Open(const std::optional<HistoryScope>& scope)
 {
     const bool wasOpen = isVisible();
     show();
-    setWindowState(windowState() & ~Qt::WindowMinimized);
-    raise();
-    activateWindow();
+    BringForward(*this);
     if (wasOpen && !scope) {
         return;
     }

@@ -2,11 +2,11 @@
 
 #include "office/card/CardTexts.h"
 #include "ui/mend/MendModel.h"
+#include "ui/widgets/FixedRows.h"
 #include "ui_FMendSeveral.h"
 
 #include <algorithm>
 #include <QEvent>
-#include <QHeaderView>
 #include <QShortcut>
 
 namespace ptk {
@@ -64,10 +64,7 @@ void FMendSeveral::PrepareTable()
 {
     QTableView* table = m_ui->grdMend;
     table->setModel(m_rows);
-    table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + kRowRoom);
-    table->verticalHeader()->hide();
-    table->horizontalHeader()->setHighlightSections(false);
+    FixRows(*table, kRowRoom);
     table->viewport()->installEventFilter(this);
 }
 

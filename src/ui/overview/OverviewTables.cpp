@@ -2,6 +2,7 @@
 
 #include "office/overview/OverviewReading.h"
 #include "ui/overview/OverviewModel.h"
+#include "ui/widgets/FixedRows.h"
 
 #include <algorithm>
 #include <iterator>
@@ -41,10 +42,7 @@ void OverviewTables::Prepare()
     m_sums.setModel(m_totals);
     m_others.setModel(m_leftOut);
     for (QTableView* table : {&m_table, &m_sums, &m_others}) {
-        table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-        table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + kRowSpace);
-        table->verticalHeader()->hide();
-        table->horizontalHeader()->setHighlightSections(false);
+        FixRows(*table, kRowSpace);
     }
     m_sums.horizontalHeader()->hide();
     m_others.horizontalHeader()->hide();

@@ -83,10 +83,7 @@ void OverviewWindow::LayOut()
     top->addWidget(m_ui->fraPeriod);
     top->addWidget(m_ui->fraRows, 1);
     m_ui->layout->insertLayout(0, top);
-    auto* buttons = new ButtonRow;
-    m_ui->layout->addLayout(buttons);
-    const std::unique_ptr<QLayout> before(m_ui->buttons);
-    buttons->TakeFrom(*before);
+    FoldButtons(*m_ui->layout, m_ui->buttons);
     m_ui->lstOverviewFindings->KeepRoom(kFindingLines);
     m_ui->notice->setMinimumHeight(m_ui->cmdClose->sizeHint().height()); // nothing moves when it has a button
 }
@@ -156,9 +153,7 @@ void OverviewWindow::Open(const std::optional<PayPeriod>& timecards)
 {
     const bool wasOpen = isVisible();
     show();
-    setWindowState(windowState() & ~Qt::WindowMinimized);
-    raise();
-    activateWindow();
+    BringForward(*this);
     if (wasOpen) {
         LookForChanges(m_host);
         return IsOutdated() ? Refresh() : void();

@@ -12,6 +12,7 @@
 #include "ui/page/PageHost.h"
 #include "ui/payday/AccountModel.h"
 #include "ui/widgets/ButtonRow.h"
+#include "ui/widgets/FixedRows.h"
 #include "ui/widgets/ThemeIcon.h"
 #include "ui/work/SaveDialog.h"
 #include "ui/work/WindowPlace.h"
@@ -20,7 +21,6 @@
 
 #include <algorithm>
 #include <QCloseEvent>
-#include <QHeaderView>
 #include <QShortcut>
 
 namespace ptk {
@@ -71,10 +71,7 @@ AccountWindow::~AccountWindow() = default;
 
 void AccountWindow::LayOut()
 {
-    auto* buttons = new ButtonRow;
-    m_ui->layout->addLayout(buttons);
-    const std::unique_ptr<QLayout> before(m_ui->buttons);
-    buttons->TakeFrom(*before);
+    FoldButtons(*m_ui->layout, m_ui->buttons);
     QPlainTextEdit* person = m_ui->txtAccountPerson;
     const int margins = 2 * (person->frameWidth() + static_cast<int>(person->document()->documentMargin()) + 1);
     person->setMinimumHeight(kLines * person->fontMetrics().lineSpacing() + margins);
@@ -85,10 +82,7 @@ void AccountWindow::PrepareTable()
     QTableView* table = m_ui->grdAccount;
     table->setModel(m_rows);
     m_ui->grdAccount->SetHint(kNobody);
-    table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + kRoomOfRow);
-    table->verticalHeader()->hide();
-    table->horizontalHeader()->setHighlightSections(false);
+    FixRows(*table, kRoomOfRow);
     table->viewport()->installEventFilter(this);
 }
 
@@ -110,9 +104,7 @@ void AccountWindow::Connect()
 void AccountWindow::Open(const PayPeriod& period)
 {
     show();
-    setWindowState(windowState() & ~Qt::WindowMinimized);
-    raise();
-    activateWindow();
+    BringForward(*this);
     m_ui->grdAccount->setFocus();
     m_period = period;
     Refresh();

@@ -177,9 +177,7 @@ void ReportViewerWindow::Rise()
 
 void ReportViewerWindow::BringUp()
 {
-    setWindowState(windowState() & ~Qt::WindowMinimized);
-    raise();
-    activateWindow();
+    BringForward(*this);
 }
 
 // A report that lost lines answers well and would otherwise pass for whole.

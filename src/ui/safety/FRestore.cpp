@@ -2,6 +2,7 @@
 
 #include "office/safety/BackupCells.h"
 #include "platform/Succeeds.h"
+#include "ui/widgets/FixedRows.h"
 #include "ui_FRestore.h"
 
 #include <algorithm>
@@ -67,11 +68,8 @@ void FRestore::PrepareTable()
     QTableWidget* table = m_ui->grdBackups;
     table->setColumnCount(static_cast<int>(kHeadings.size()));
     table->setHorizontalHeaderLabels(kHeadings);
-    table->horizontalHeader()->setHighlightSections(false);
     table->horizontalHeader()->setStretchLastSection(true);
-    table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + kRowSpace);
-    table->verticalHeader()->hide();
+    FixRows(*table, kRowSpace);
     for (int column = Made; column <= Checked; ++column) {
         table->horizontalHeaderItem(column)->setTextAlignment(AlignmentOf(column));
     }

@@ -3,6 +3,7 @@
 #include "platform/Failure.h"
 #include "platform/Succeeds.h"
 #include "ui/sheet/DifferenceModel.h"
+#include "ui/widgets/FixedRows.h"
 #include "ui/work/WorkProgress.h"
 #include "ui_FImportEmployees.h"
 
@@ -76,10 +77,7 @@ void FImportEmployees::PrepareTable()
 {
     QTableView* table = m_ui->grdDifferences;
     table->setModel(m_differences);
-    table->verticalHeader()->hide();
-    table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + kRowRoom);
-    table->horizontalHeader()->setHighlightSections(false);
+    FixRows(*table, kRowRoom);
     table->horizontalHeader()->setStretchLastSection(true);
     table->installEventFilter(this);
 }

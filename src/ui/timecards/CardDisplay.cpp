@@ -8,6 +8,7 @@
 #include "platform/Required.h"
 #include "platform/text/Text.h"
 #include "ui/timecards/TimeRecordGridModel.h"
+#include "ui/widgets/FixedRows.h"
 #include "ui/widgets/FoldingRow.h"
 #include "ui_CardDisplay.h"
 
@@ -64,10 +65,7 @@ void CardDisplay::PrepareGrid()
     TimeRecordGrid* grid = m_ui->grdTimeRecs;
     grid->setModel(m_records);
     grid->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-    grid->horizontalHeader()->setHighlightSections(false);
-    grid->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    grid->verticalHeader()->setDefaultSectionSize(grid->fontMetrics().height() + kRowSpace);
-    grid->verticalHeader()->hide();
+    FixRows(*grid, kRowSpace);
     connect(grid, &QTableView::clicked, this, &CardDisplay::Choose);
     connect(grid->selectionModel(), &QItemSelectionModel::selectionChanged, this, &CardDisplay::Choose);
     connect(grid, &TimeRecordGrid::EditAsked, this, &CardDisplay::EditAsked);

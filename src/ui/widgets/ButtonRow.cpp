@@ -151,4 +151,12 @@ void ButtonRow::Place(const Row& row, int top) const
     }
 }
 
+void FoldButtons(QBoxLayout& layout, QLayout* buttons)
+{
+    auto* row = new ButtonRow;
+    layout.addLayout(row);
+    const std::unique_ptr<QLayout> before(buttons);
+    row->TakeFrom(*before);
+}
+
 } // namespace ptk

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <QBoxLayout>
 #include <QLayout>
 #include <vector>
 
@@ -52,5 +53,8 @@ private:
 
     std::vector<std::unique_ptr<QLayoutItem>> m_items;
 };
+
+// Puts what stands in `buttons`, which ends, into such a row at the end of the window's layout.
+void FoldButtons(QBoxLayout& layout, QLayout* buttons);
 
 } // namespace ptk

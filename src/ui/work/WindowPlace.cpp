@@ -54,4 +54,11 @@ void StorePlace(const QWidget& window, const QString& name)
     KeepSettings({{Key(name), window.saveGeometry()}});
 }
 
+void BringForward(QWidget& window)
+{
+    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+    window.raise();
+    window.activateWindow();
+}
+
 } // namespace ptk

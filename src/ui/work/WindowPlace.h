@@ -18,4 +18,7 @@ namespace ptk {
 void RestorePlace(QWidget& window, const QString& name, QSize first);
 void StorePlace(const QWidget& window, const QString& name);
 
+// Before all others, with the keyboard, also where it was minimized.
+void BringForward(QWidget& window);
+
 } // namespace ptk
