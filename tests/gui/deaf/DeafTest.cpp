@@ -8,6 +8,7 @@
 #include "store/engine/RecordSet.h"
 #include "store/sqlite/SqliteEngine.h"
 #include "support/CuttingProxy.h"
+#include "support/Execute.h"
 #include "support/ServerDatabase.h"
 #include "ui/frame/QtDesktop.h"
 #include "ui/work/PaintMeanwhile.h"
@@ -201,7 +202,7 @@ TEST_F(DeafTest, CancelEndsAReadingOfASlowDiskAndUndoesAChange)
     }
     {
         SqliteEngine database(file);
-        EXPECT_EQ(Cancelled([&] { database.Execute("UPDATE TimeRecord SET EmployeeID = 1"); }).first, 9);
+        EXPECT_EQ(Cancelled([&] { Execute(database, "UPDATE TimeRecord SET EmployeeID = 1"); }).first, 9);
     }
     SqliteEngine database(file);
     EXPECT_EQ(database.Select("SELECT COUNT(*) FROM TimeRecord WHERE EmployeeID = 1")->Int32At(0), 0);
