@@ -148,7 +148,7 @@ private:
 
     void Undo()
     {
-        if (!m_undo.CanUndo()) {
+        if (m_undo.NextUndo() == nullptr) {
             return;
         }
         Told("undo", [&] {
