@@ -18,7 +18,7 @@ public:
     // With backslashes; once.
     [[nodiscard]] bool Open(const std::string& path);
 
-    // And CR LF; false when it is lost.
+    // Writes the text and CR LF behind it; false when the line is lost.
     [[nodiscard]] bool WriteLine(const std::string& text);
 
     // Whether any line was.

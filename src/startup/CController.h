@@ -99,8 +99,8 @@ public:
     [[nodiscard]] std::string BackUpWhenDue();
     [[nodiscard]] std::string BackUpNow();
 
-    // The same; where something was restored, everything has been read again into objects of its own, and the options' window is to be
-    // given those that hold now.
+    // Lets a backup be chosen and put back, and answers what the main window's line says of it. Where something was restored, everything
+    // has been read again into objects of its own, and the options' window is to be given those that hold now.
     [[nodiscard]] std::string Restore();
 
     // Why the database is none that a restore could replace, a sentence without a full stop; empty where it is one.

@@ -118,7 +118,8 @@ public:
     // the engine's (source "SQLite"), a conversion's, or one of those above.
     [[nodiscard]] const Failure& LastFailure() const { return m_lastFailure; }
 
-    // The same, where it was that the row to be stored had been changed or removed since it was read; nothing otherwise.
+    // What differs, where the last operation failed because the row to be stored had been changed or removed since it was read; nothing
+    // otherwise.
     [[nodiscard]] const std::optional<RowConflict>& Conflict() const { return m_conflict; }
 
     // In whose name all that follows is stored, as the edit trail tells it.
@@ -153,7 +154,8 @@ public:
     // The caller opens and closes the database. nullptr with 403, 406 or 407.
     std::shared_ptr<RecordSet> ExecuteSelect(const std::string& sqlstring);
 
-    // The same for rows that are read again and again with other parameters, in the engine's own words. Must end before the file is closed.
+    // A statement for rows that are read again and again with other parameters, in the engine's own words; nullptr with 403, 406 or 407.
+    // Must end before the file is closed, which the caller opens and closes.
     std::unique_ptr<Statement> PrepareSelect(const std::string& sqlstring);
 
     // See Engine; raises what opening the database raises.
@@ -189,7 +191,7 @@ public:
 
     bool UpdateEmployee(const EmployeeRow& theemployee);
 
-    // 413 and a Conflict when it is not.
+    // False with 413 and a Conflict where the employee is not stored as read any more.
     bool UpdateEmployee(const EmployeeRow& theemployee, const EmployeeRow& asRead);
 
     // Deliberately does nothing and answers false: employees are never deleted.
@@ -199,7 +201,7 @@ public:
     bool LoadCompanyList(CompanySink& thelist);
     bool UpdateCompany(const CompanyRow& thecompany);
 
-    // As above.
+    // False with 413 and a Conflict where the company is not stored as it was read any more.
     bool UpdateCompany(const CompanyRow& thecompany, const CompanyRow& asRead);
 
     // Deliberately does nothing and answers false.

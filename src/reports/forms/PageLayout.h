@@ -30,7 +30,7 @@ struct Paper
 
 [[nodiscard]] Paper PaperOf(PaperSize size);
 
-// The same in a type small enough for so many columns, but no smaller than two thirds.
+// Paper of that size in a type small enough for so many columns, but no smaller than two thirds of the usual one.
 [[nodiscard]] Paper PaperFor(std::size_t columns, PaperSize size);
 
 // The document's title on one line, one blank between its words.
