@@ -40,10 +40,12 @@ function(ptk_draws_pages target)
     COMMAND ${CMAKE_COMMAND} -E create_symlink $<TARGET_FILE:ptk_pages> $<TARGET_FILE_DIR:${target}>/$<TARGET_FILE_NAME:ptk_pages> VERBATIM)
 endfunction()
 
-# ptk_test(model): the test program model_tests of tests/model, linking ptk_model and the fixtures only.
+# ptk_test(model [USES libs] [EXCEPT sources]): the test program model_tests of tests/model, linking ptk_model and the fixtures only.
 function(ptk_test name)
-  cmake_parse_arguments(ARG "" "" "USES" ${ARGN})
-  file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/${name}/*.cpp)
+  cmake_parse_arguments(ARG "" "" "USES;EXCEPT" ${ARGN})
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS RELATIVE ${CMAKE_CURRENT_SOURCE_DIR} ${CMAKE_CURRENT_SOURCE_DIR}/${name}/*.cpp)
+  list(REMOVE_ITEM sources ${ARG_EXCEPT})
+  list(TRANSFORM sources PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/)
   add_executable(${name}_tests ${sources})
   ptk_batches(${name}_tests ${sources})
   target_link_libraries(${name}_tests PRIVATE ptk_${name} ${ARG_USES} test_support ptk_flags GTest::gmock GTest::gtest_main)

@@ -89,7 +89,7 @@ protected:
     std::size_t m_columns = 1;
 };
 
-struct Employees : EmployeeSink
+struct EmployeeEntries : EmployeeSink
 {
     bool InsertLoaded(EmployeeRow row, std::int32_t /*position*/) override
     {
@@ -124,7 +124,7 @@ TEST_P(ContractTest, AnEmployeeComesBackToTheLastBit)
 {
     const EmployeeRow anna = Anna();
     ASSERT_TRUE(database->AddNewEmployee(anna)) << database->LastFailure().Description();
-    Employees found;
+    EmployeeEntries found;
     ASSERT_TRUE(database->LoadEmployeeList(found));
     ASSERT_EQ(found.rows.size(), 2U);
     const EmployeeRow& row = found.rows.back();
@@ -140,7 +140,7 @@ TEST_P(ContractTest, AnEmployeeComesBackToTheLastBit)
     EXPECT_TRUE(row.EmployeeActive);
     EXPECT_FALSE(row.AutoDeduct);
     EXPECT_EQ(row.AutoDeductLunchLength, 32767);
-    Employees named;
+    EmployeeEntries named;
     EXPECT_TRUE(database->LoadEmployeesNamed(named, "Анна O'Neil \"Ω\" \\ 李")) << database->LastFailure().Description();
     EXPECT_EQ(named.rows.size(), 1U);
 }
@@ -151,7 +151,7 @@ TEST_P(ContractTest, NamesAreInOneOrder)
     for (const char* name : {"'zoe'", "'Ärmel'", "'adam'", "'ärmel'", "'ADAM'", "'_x'", "'Zoe'", "NULL", "'a b'", "'А'"}) {
         ASSERT_TRUE(Do(fmt::format("INSERT INTO Employee (LastName, Active, AutoDeduct) VALUES ({}, '1', '0')", name)));
     }
-    Employees found;
+    EmployeeEntries found;
     ASSERT_TRUE(database->LoadEmployeeList(found)) << database->LastFailure().Description();
     std::string order;
     for (const EmployeeRow& row : found.rows) {
@@ -222,7 +222,7 @@ TEST_P(ContractTest, FailuresHaveTheSameNumbers)
 TEST_P(ContractTest, ARowThatCannotBeReadIsNamed)
 {
     ASSERT_TRUE(Do("INSERT INTO Employee (LastName, AutoDeduct) VALUES ('Lee', '0')"));
-    Employees found;
+    EmployeeEntries found;
     EXPECT_FALSE(database->LoadEmployeeList(found));
     EXPECT_EQ(database->ErrorNumber(), jetdb::ListingFailed);
     EXPECT_EQ(database->LastFailure().Description(), "Employee 40: Active is NULL (Invalid use of Null)");
@@ -231,7 +231,7 @@ TEST_P(ContractTest, ARowThatCannotBeReadIsNamed)
 TEST_P(ContractTest, AChangeOfAnotherIsNotOverwritten)
 {
     ASSERT_TRUE(database->AddNewEmployee(Anna()));
-    Employees read;
+    EmployeeEntries read;
     ASSERT_TRUE(database->LoadEmployeeList(read));
     const EmployeeRow asRead = read.rows.back();
     EmployeeRow theirs = asRead;

@@ -37,7 +37,7 @@ namespace {
 using testing::ElementsAre;
 using testing::HasSubstr;
 
-const PayPeriod kMarch{DateTime(CalendarDate{2026, 3, 1}), DateTime(CalendarDate{2026, 3, 14})};
+const PayPeriod kFirstFortnight{DateTime(CalendarDate{2026, 3, 1}), DateTime(CalendarDate{2026, 3, 14})};
 
 // 80:20 regular and 2:05 overtime hours at 10.00 and 15.50: 32.24 for overtime, singles and all.
 PaidPerson Person(const std::string& first, const std::string& last, std::int32_t number = 7)
@@ -50,8 +50,15 @@ PaidPerson Person(const std::string& first, const std::string& last, std::int32_
     row.PayRate = 10;
     row.OvertimePayRate = 15.5F;
     row.HireDate = DateTime(CalendarDate{2020, 12, 5});
-    return {
-        std::make_shared<CEmployee>(row), kMarch, {"80.33", 4820}, {"2.08", 125}, {"0.50", 30}, "803.34", "32.24", "835.58", std::nullopt};
+    return {std::make_shared<CEmployee>(row),
+            kFirstFortnight,
+            {"80.33", 4820},
+            {"2.08", 125},
+            {"0.50", 30},
+            "803.34",
+            "32.24",
+            "835.58",
+            std::nullopt};
 }
 
 Profile With(const char* definition)
@@ -132,7 +139,7 @@ TEST(ProfileTableTest, TellsWhatTheOverviewKnows)
     PaidPerson person = Person("Ann", "Lee");
     person.overview.emplace();
     person.overview->check.problems = 2;
-    person.overview->check.weeks = {{kMarch.from, 2525, 125}};
+    person.overview->check.weeks = {{kFirstFortnight.from, 2525, 125}};
     person.overview->check.changed = PaidDifference{"+0.25", "-1.00", std::nullopt};
     person.overview->paid = Closing{};
     person.overview->paid->paidAt = DateTime(CalendarDate{2026, 3, 16}, TimeOfDay{9, 0, 0});
@@ -366,13 +373,13 @@ TEST_F(ProfilesTest, AddUpToTheReviewWhateverWasWorkedAndPaid)
                         "AutoDeductLunchLength, AutoDeductBreakLength) VALUES ({0}, 'P{0}', '1', '{1}', '{2}', '{3}', '{4}', '{5}')",
                         person, below(9000) / 100.0, below(20000) / 1000.0, below(2), below(90), below(20)));
         for (std::uint32_t shift = below(20); shift-- > 0;) {
-            const DateTime start = DateTime::FromSeconds(kMarch.from.Seconds() + below(14 * 86400));
+            const DateTime start = DateTime::FromSeconds(kFirstFortnight.from.Seconds() + below(14 * 86400));
             statements.push_back(fmt::format("INSERT INTO TimeRecord (EmployeeID, StartTime, EndTime) VALUES ({}, #{}#, #{}#)", 40 + person,
                                              GeneralText(start), GeneralText(DateTime::FromSeconds(start.Seconds() + below(14 * 3600)))));
         }
     }
     ASSERT_TRUE(ExecuteAll(*m_database, statements)) << m_database->LastFailure().Description();
-    ExpectSumsOfTheCards(kMarch);
+    ExpectSumsOfTheCards(kFirstFortnight);
 }
 
 TEST_F(ProfilesTest, WhoHasNoCardIsNamedAndWhoStandsTwiceIsTold)
@@ -385,7 +392,7 @@ TEST_F(ProfilesTest, WhoHasNoCardIsNamedAndWhoStandsTwiceIsTold)
     CEmployeeList all;
     ASSERT_TRUE(all.LoadList(m_database));
     std::vector<std::string> doubled;
-    PayTableOrder order{m_database, PeopleOfReview(all, {"Ann Lee", "Ann Lee", "Bo Kim"}, doubled), kMarch, kMarch.to};
+    PayTableOrder order{m_database, PeopleOfReview(all, {"Ann Lee", "Ann Lee", "Bo Kim"}, doubled), kFirstFortnight, kMarch.to};
     const PayTable table = ReadPayTable(order).value();
     EXPECT_EQ(BytesOf(With("column=Employee Number\tE\ncolumn=Gross Pay\tG\n"), table.people.at(1)), "E,G\r\n7,80.00\r\n");
     EXPECT_EQ(table.people.size(), 2U);
