@@ -80,8 +80,8 @@ protected:
             ASSERT_TRUE(one.Store(*m_database)) << m_database->LastFailure().Description();
             ASSERT_TRUE(m_undo.Remember());
             const auto& changed = one.Lines()[line].finding.records;
+            const auto now = Records();
             for (const auto& [id, text] : before) {
-                const auto now = Records();
                 const auto found = now.find(id);
                 const bool same = found != now.end() && found->second == text;
                 EXPECT_TRUE(same || std::find(changed.begin(), changed.end(), id) != changed.end()) << text;
