@@ -1,12 +1,15 @@
 #!/usr/bin/env python3
-"""payday.py PTK_ADMIN PTK_CONSOLE [--display :62] [--pictures FOLDER]: a whole payday by keys, counted.
+"""payday.py PTK_ADMIN PTK_CONSOLE [--pictures FOLDER] [--spoken FILE]: a whole payday by keys, counted.
 
 Makes the business of payday_business.py, starts ptk-admin on an X server of its own (Xvfb, openbox) and presses what a clerk would press, by xdotool:
 login, overview, mending, closing, printed cards, the accountant's review. Every key, with what is held down with it, every typed character and every click
 counts one. The result is looked up in the database afterwards, with the console; the status is 1 where something of it is not as it should be, or where
-more was pressed than is promised: 120 in all, 60 without what was done to type a time.
+more was pressed than is promised: 120 in all, 60 without what was done to type a time. With --spoken, FILE is what was pressed and what the desktop's screen
+reader said to it.
 """
 import argparse
+import contextlib
+import datetime
 import os
 import pathlib
 import subprocess
@@ -15,6 +18,7 @@ import tempfile
 import time
 
 from payday_business import CLERK, PEOPLE, Business
+from screen_reader import ScreenReader
 
 MOST_IN_ALL = 120
 MOST_WITHOUT_TIMES = 60
@@ -42,7 +46,10 @@ class Desk:
     def count(self, number, what):
         self.pressed += number
         self.for_times += number if self.typing_time else 0
-        self.log.append(f"{self.pressed:4} {what}")
+        self.tell(f"{self.pressed:4} {what}")
+
+    def tell(self, text):
+        self.log.append((datetime.datetime.now().strftime("%H:%M:%S.%f"), text))
 
     def key(self, *keys):
         for key in keys:
@@ -68,7 +75,7 @@ class Desk:
         time.sleep(1.2)  # the program learns a little later that its window is in front
 
     def note(self, what):
-        self.log.append(f"     -- {what}")
+        self.tell(f"     -- {what}")
         self.picture(what)
 
     def picture(self, what):
@@ -264,11 +271,40 @@ def faults(business):
     return found
 
 
-def drive(options, folder):
+@contextlib.contextmanager
+def screen():
+    """An X server of its own with a window manager; its display."""
+    told, tells = os.pipe()
+    with subprocess.Popen(["Xvfb", "-displayfd", str(tells), "-screen", "0", "1024x700x24"], pass_fds=[tells], stderr=subprocess.DEVNULL) as server:
+        display = f":{os.read(told, 16).decode().strip()}"
+        manager = subprocess.Popen(["openbox"], env={**os.environ, "DISPLAY": display}, stderr=subprocess.DEVNULL)
+        time.sleep(1)
+        try:
+            yield display
+        finally:
+            manager.terminate()
+            server.terminate()
+
+
+@contextlib.contextmanager
+def reading(desk, wanted):
+    """The screen reader of the desk, where one is wanted."""
+    if not wanted:
+        yield
+        return
+    with tempfile.TemporaryDirectory(ignore_cleanup_errors=True) as folder:
+        reader = ScreenReader(desk.environment, folder)
+        desk.environment = reader.environment
+        try:
+            yield
+        finally:
+            desk.log = sorted(desk.log + [(moment, f"       {text}") for moment, text in reader.stop()], key=lambda entry: entry[0])
+
+
+def drive(options, desk, folder):
     business = Business(folder, options.console)
     business.make()
     print(f"{PEOPLE} people, {business.problems()} problems and {business.notices()} notices, period {business.first} to {business.last}")
-    desk = Desk(options.display, options.pictures)
     environment = {**desk.environment, "PATH": f"{business.fake_printer()}:{os.environ['PATH']}", "XDG_CONFIG_HOME": f"{folder}/config"}
     with subprocess.Popen([options.admin, "--program-folder", folder], env=environment) as program:
         try:
@@ -278,29 +314,28 @@ def drive(options, folder):
                 print(f"{desk.pressed - before:4}  {name}")
         finally:
             program.terminate()
-    return desk, faults(business)
+    return faults(business)
 
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("admin")
     parser.add_argument("console")
-    parser.add_argument("--display", default=":62")
     parser.add_argument("--pictures")
+    parser.add_argument("--spoken")
     parser.add_argument("--log", action="store_true", help="every key that was pressed")
     options = parser.parse_args()
-    screen = subprocess.Popen(["Xvfb", options.display, "-screen", "0", "1024x700x24"], stderr=subprocess.DEVNULL)
-    time.sleep(2)
-    manager = subprocess.Popen(["openbox"], env={**os.environ, "DISPLAY": options.display}, stderr=subprocess.DEVNULL)
-    time.sleep(1)
-    try:
-        with tempfile.TemporaryDirectory() as folder:
-            desk, found = drive(options, folder)
-    finally:
-        manager.terminate()
-        screen.terminate()
-    if options.log:
-        print("\n".join(desk.log))
+    with screen() as display, tempfile.TemporaryDirectory() as folder:
+        desk = Desk(display, options.pictures)
+        try:
+            with reading(desk, options.spoken):
+                found = drive(options, desk, folder)
+        finally:
+            log = "".join(f"{text}\n" for _, text in desk.log)
+            if options.log:
+                print(log)
+            if options.spoken:
+                pathlib.Path(options.spoken).write_text(log)
     without = desk.pressed - desk.for_times
     print(f"{desk.pressed:4}  keys, characters and clicks in all, at most {MOST_IN_ALL}")
     print(f"{without:4}  of them without what was done to type a time, at most {MOST_WITHOUT_TIMES}")

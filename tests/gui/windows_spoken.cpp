@@ -1,5 +1,7 @@
 // What assistive tools are told of each window.
 #include "gui/PageFixture.h"
+#include "ui/widgets/NoticeLine.h"
+#include "ui/widgets/Spoken.h"
 
 #include <QAccessible>
 
@@ -52,6 +54,55 @@ std::string UnnamedIn(QWidget& window)
     FindUnnamed(*QAccessible::queryAccessibleInterface(&window), unnamed);
     return unnamed.join(", ").toStdString();
 }
+
+// Stands between the program and a screen reader: what the toolkit tells it, and what it tells on, as "focus NAME", "typed LETTERS", "shown
+// TEXT". Without a desktop the toolkit tells nobody anything by itself.
+class Reader
+{
+public:
+    Reader() : m_program(QAccessible::installUpdateHandler(Hear))
+    {
+        s_told.clear();
+        TellScreenReaders();
+    }
+    ~Reader()
+    {
+        QAccessible::installUpdateHandler(nullptr);
+        TellScreenReaders();
+    }
+    Reader(const Reader&) = delete;
+    Reader& operator=(const Reader&) = delete;
+
+    std::string After(QAccessibleEvent& event) const
+    {
+        m_program(&event);
+        return Told();
+    }
+    std::string AfterFocus(QWidget& widget) const
+    {
+        QAccessibleEvent focus(&widget, QAccessible::Focus);
+        return After(focus);
+    }
+    static std::string Told() { return std::exchange(s_told, {}).join(", ").toStdString(); }
+
+private:
+    static void Hear(QAccessibleEvent* event)
+    {
+        const QString name = event->accessibleInterface()->text(QAccessible::Name);
+        if (event->type() == QAccessible::Focus) {
+            s_told << "focus " + name;
+        } else if (event->type() == QAccessible::TextInserted) {
+            s_told << "typed " + static_cast<QAccessibleTextInsertEvent*>(event)->textInserted();
+        } else if (event->type() == QAccessible::TextSelectionChanged) {
+            s_told << "selected in " + name;
+        } else if (event->type() == QAccessible::ObjectShow && event->accessibleInterface()->role() == QAccessible::Notification) {
+            s_told << "shown " + name;
+        }
+    }
+
+    static inline QStringList s_told;
+    QAccessible::UpdateHandler m_program;
+};
 
 class SpokenWindowsTest : public PageTest
 {
@@ -110,6 +161,31 @@ TEST_F(SpokenWindowsTest, TellCellsAndHideThePassword)
     const auto& spoken = *QAccessible::queryAccessibleInterface(&password);
     EXPECT_TRUE(spoken.state().passwordEdit);
     EXPECT_FALSE(spoken.text(QAccessible::Value).contains("mine"));
+    const Reader reader;
+    QAccessibleTextInsertEvent typed(&password, 0, "on");
+    EXPECT_EQ(reader.After(typed), "typed **");
+}
+
+TEST_F(SpokenWindowsTest, TellWhereTheKeyboardIsWhatIsChosenThereAndEachMessage)
+{
+    Press("cmdPeriodBack");
+    Pick(The<QComboBox>("cboTCEmployeeName"), "Lee");
+    Press("cmdGenTimeRecs");
+    auto& grid = The<QTableView>("grdTimeRecs");
+    grid.setCurrentIndex(grid.model()->index(1, 0));
+    const Reader reader;
+    EXPECT_EQ(reader.AfterFocus(grid), "focus Time records, focus 03/04/2003 08:00 AM");
+    Find<NoticeLine>(The<QWidget>("FrameArray(1)"), "notice").Say("Lee saved");
+    EXPECT_EQ(Reader::Told(), "shown Lee saved");
+
+    ClickTab(Main(), 3);
+    auto& phone = The<QLineEdit>("txtEmployeePhone");
+    phone.setFocus();
+    QAccessibleTextSelectionEvent selected(&phone, 0, 2);
+    EXPECT_EQ(reader.After(selected), "focus Phone, selected in Phone")
+        << "a reader that learns of a selection first takes it for the old place";
+    EXPECT_EQ(reader.AfterFocus(phone), "") << "it knows";
+    EXPECT_EQ(reader.AfterFocus(phone), "focus Phone") << "from another window";
 }
 
 } // namespace

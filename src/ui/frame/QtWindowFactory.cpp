@@ -4,6 +4,7 @@
 #include "ui/login/FLogin.h"
 #include "ui/safety/FRestore.h"
 #include "ui/widgets/AiryStyle.h"
+#include "ui/widgets/Spoken.h"
 #include "ui/widgets/ThemeIcon.h"
 #include "ui/work/WorkProgress.h"
 
@@ -27,6 +28,7 @@ void QtWindowFactory::DressWindows()
 {
     QApplication::setWindowIcon(ThemeIcon("ptk-admin"));
     QApplication::setStyle(new AiryStyle);
+    TellScreenReaders();
 }
 
 std::shared_ptr<LoginWindow> QtWindowFactory::CreateLoginWindow()

@@ -1,6 +1,6 @@
 #include "ui/widgets/HintLabel.h"
 
-#include <QAccessible>
+#include "ui/widgets/Spoken.h"
 
 namespace ptk {
 
@@ -8,6 +8,7 @@ HintLabel::HintLabel(QWidget* parent) : QLabel(parent)
 {
     setTextFormat(Qt::PlainText);
     setWordWrap(true);
+    MakeMessage(*this);
 }
 
 void HintLabel::KeepRoom(int lines)
@@ -22,10 +23,7 @@ void HintLabel::Say(const QString& text)
         return;
     }
     setText(text);
-    if (!text.isEmpty()) {
-        QAccessibleEvent alert(this, QAccessible::Alert);
-        QAccessible::updateAccessibility(&alert);
-    }
+    TellAloud(*this);
 }
 
 } // namespace ptk

@@ -13,14 +13,36 @@ constexpr int kMargin = 12; // pixels around the hint
 void HintTable::SetHint(const QString& text)
 {
     m_hint = text;
-    setAccessibleDescription(text);
+    TellHint();
     viewport()->update();
+}
+
+void HintTable::reset()
+{
+    QTableView::reset();
+    TellHint();
+}
+
+void HintTable::rowsInserted(const QModelIndex& parent, int first, int last)
+{
+    QTableView::rowsInserted(parent, first, last);
+    TellHint();
+}
+
+bool HintTable::IsEmpty() const
+{
+    return model() == nullptr || model()->rowCount() == 0;
+}
+
+void HintTable::TellHint()
+{
+    setAccessibleDescription(IsEmpty() ? m_hint : QString());
 }
 
 void HintTable::paintEvent(QPaintEvent* event)
 {
     QTableView::paintEvent(event);
-    if (model()->rowCount() > 0) {
+    if (!IsEmpty()) {
         return;
     }
     QPainter painter(viewport());

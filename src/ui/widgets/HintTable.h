@@ -12,14 +12,19 @@ class HintTable : public QTableView
 public:
     using QTableView::QTableView;
 
-    // Shown while there are no rows.
+    // Shown, and told to assistive tools, while there are no rows.
     void SetHint(const QString& text);
 
+    void reset() override;
+
 protected:
-    // REQUIRES: a model.
     void paintEvent(QPaintEvent* event) override;
+    void rowsInserted(const QModelIndex& parent, int first, int last) override;
 
 private:
+    bool IsEmpty() const;
+    void TellHint();
+
     QString m_hint;
 };
 

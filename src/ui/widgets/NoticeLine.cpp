@@ -1,8 +1,8 @@
 #include "ui/widgets/NoticeLine.h"
 
 #include "ui/widgets/ElidedLabel.h"
+#include "ui/widgets/Spoken.h"
 
-#include <QAccessible>
 #include <QHBoxLayout>
 #include <QToolButton>
 #include <utility>
@@ -12,6 +12,7 @@ namespace ptk {
 NoticeLine::NoticeLine(QWidget* parent) : QWidget(parent), m_text(new ElidedLabel(QString(), this)), m_button(new QToolButton(this))
 {
     m_text->setObjectName("lblNotice");
+    MakeMessage(*m_text);
     m_button->setObjectName("cmdNotice");
     m_button->hide();
     auto* line = new QHBoxLayout(this);
@@ -79,10 +80,7 @@ void NoticeLine::Show(const QString& text)
 {
     m_text->Cut(Qt::ElideRight);
     m_text->setText(text);
-    if (!text.isEmpty()) {
-        QAccessibleEvent alert(m_text, QAccessible::Alert);
-        QAccessible::updateAccessibility(&alert);
-    }
+    TellAloud(*m_text);
 }
 
 // Emptied first: the action may say something of its own.
