@@ -6,6 +6,9 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
   target_compile_options(ptk_flags INTERFACE -Wno-restrict -Wno-maybe-uninitialized)
 endif()
 
+if(PTK_TESTS OR PTK_FUZZ)
+  add_compile_definitions(_GLIBCXX_ASSERTIONS) # the library's own looks: an index outside, an empty optional
+endif()
 if(PTK_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)

@@ -2,7 +2,7 @@
 # whole build. So no two files of a folder give one private name to different things.
 function(ptk_batches target)
   set_target_properties(${target} PROPERTIES UNITY_BUILD ${PTK_BATCHES} UNITY_BUILD_MODE GROUP)
-  target_compile_options(${target} PRIVATE -Wno-subobject-linkage) # g++ takes a batch's parts for headers, in which a fixture must not be private
+  target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>) # g++ takes a batch's parts for headers, in which a fixture must not be private
   foreach(source ${ARGN})
     cmake_path(GET source PARENT_PATH folder)
     if(NOT folder STREQUAL room) # sources come folder by folder

@@ -223,9 +223,9 @@ float CTimeCard::BreakAllowance() const
     if (m_employee == nullptr) {
         throw Failure(failure::ObjectNotSet);
     }
-    constexpr double kMinutesPerHour = 60.0;
-    return static_cast<float>(m_employee->AutoDeductLunchLength() / kMinutesPerHour +
-                              m_employee->AutoDeductBreakLength() / kMinutesPerHour);
+    constexpr double kMinutesOfAnHour = 60.0;
+    return static_cast<float>(m_employee->AutoDeductLunchLength() / kMinutesOfAnHour +
+                              m_employee->AutoDeductBreakLength() / kMinutesOfAnHour);
 }
 
 // Three tabs after the short labels and two after the long ones bring the values to one tab stop.

@@ -19,7 +19,9 @@ namespace ptk {
 class ScriptedServer
 {
 public:
-    // `first` answers a question once, `endless` follows for as long as somebody reads it.
+    static constexpr auto kHangsUp = "hang up";
+
+    // `first` answers a question once, `endless` follows for as long as somebody reads it; kHangsUp: nothing does, and the line ends.
     ScriptedServer(std::string first, std::string endless)
         : m_first(std::move(first)), m_endless(std::move(endless)), m_listener(Listen()), m_thread([this] { Serve(); })
     {
@@ -78,9 +80,10 @@ private:
             std::array<char, 65536> asked{};
             const bool goesOn = ::read(client, asked.data(), asked.size()) > 0 && Say(client, welcome) &&
                                 ::read(client, asked.data(), asked.size()) > 0 && Say(client, m_first);
-            while (goesOn && !m_endless.empty() && Say(client, m_endless)) {
+            const bool hangsUp = m_endless == kHangsUp;
+            while (goesOn && !hangsUp && !m_endless.empty() && Say(client, m_endless)) {
             }
-            static_cast<void>(goesOn && ::read(client, asked.data(), asked.size())); // until it is left
+            static_cast<void>(goesOn && !hangsUp && ::read(client, asked.data(), asked.size())); // until it is left
             ::close(client);
         }
     }

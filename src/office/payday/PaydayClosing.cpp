@@ -222,7 +222,7 @@ std::string NewsOf(const std::vector<PaydayLine>& lines)
 {
     std::string news;
     for (const auto& [deed, words] : kCounts) {
-        const auto count = std::count_if(lines.begin(), lines.end(), [&](const PaydayLine& line) { return line.deed == deed; });
+        const auto count = std::count_if(lines.begin(), lines.end(), [deed = deed](const PaydayLine& line) { return line.deed == deed; });
         if (count != 0) {
             news += (news.empty() ? "" : ", ") + fmt::format(fmt::runtime(words), count);
         }

@@ -2,6 +2,9 @@
 
 #if defined(__x86_64__)
 #include <immintrin.h>
+#if defined(__clang__)
+#define _Bool bool // a word of C, which the next header has where clang knows C++ alone
+#endif
 #include <sys/platform/x86.h>
 #endif
 
