@@ -9,6 +9,9 @@
 
 namespace ptk {
 
+// The caption of the way back to it.
+inline constexpr auto kBringBack = "Bring Back";
+
 // `Texts` holds a page as texts and flags, visits them with ForEachField, compares with ==, and has the texts `id`, empty for a new record,
 // and `name`.
 template <typename Texts>
@@ -74,6 +77,27 @@ template <typename Texts>
     left.shown = {};
     left.typed.id.clear();
     return left;
+}
+
+// What becomes of what was typed once its page has been read again.
+enum class TypedFate
+{
+    PutBack,     // over what is stored now
+    Offered,     // beside the record, which somebody else changed
+    OfferedAsNew // of a record that somebody else removed
+};
+
+// `present` is the record as it is now, nothing where the list has none of its ID; `isRead` tells whether the list could be read again.
+template <typename Texts>
+[[nodiscard]] TypedFate FateOf(const LeftBehind<Texts>& left, const std::optional<Texts>& present, bool isRead)
+{
+    if (left.typed.id.empty()) {
+        return TypedFate::PutBack;
+    }
+    if (!present) {
+        return isRead ? TypedFate::OfferedAsNew : TypedFate::Offered;
+    }
+    return *present == left.shown ? TypedFate::PutBack : TypedFate::Offered;
 }
 
 // "Changes to Ann Lee were not saved", "Bo Kim was not saved" for a new one.

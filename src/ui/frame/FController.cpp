@@ -280,10 +280,9 @@ void FController::Load()
 
 bool FController::InitializeTabPages()
 {
-    const bool company = m_companyPage->ClearCompanyFields();
-    const bool employee = m_employeePage->ClearEmployeeFields();
-    const bool timeCard = m_timeCardPage->ClearTimeCardDisplay();
-    if (!company || !employee || !timeCard) {
+    m_companyPage->ClearCompanyFields();
+    m_employeePage->ClearEmployeeFields();
+    if (!m_timeCardPage->ClearTimeCardDisplay()) {
         m_errorNumber = windowerror::ClearFieldsFailed;
     }
     return true;

@@ -15,7 +15,6 @@
 #include "store/CSystemOptions.h"
 #include "ui/boxes/ChosenOnly.h"
 #include "ui/boxes/FieldWidth.h"
-#include "ui/page/OfferLeft.h"
 #include "ui/page/PageHost.h"
 #include "ui/page/SharedRecords.h"
 #include "ui_OptionsPage.h"

@@ -2,17 +2,10 @@
 #pragma once
 
 #include "office/records/CompanyTexts.h"
-#include "office/records/LeftBehind.h"
+#include "ui/people/TypedRecordPage.h"
 
-#include "store/RowConflict.h"
-#include "ui/page/RecordPage.h"
-
-#include <array>
-#include <cstdint>
 #include <memory>
 #include <QWidget>
-
-class QComboBox;
 
 namespace Ui {
 class CompanyPage;
@@ -22,10 +15,10 @@ namespace ptk {
 
 class CCompany;
 class CCompanyList;
-class PageHost;
 
-// A page without a chosen ID holds a new company. What is refused stays on the page as it was typed.
-class CompanyPage final : public QWidget, public RecordPage
+extern template class TypedRecordPage<CCompany, CCompanyList, CompanyTexts>;
+
+class CompanyPage final : public QWidget, public TypedRecordPage<CCompany, CCompanyList, CompanyTexts>
 {
     Q_OBJECT
 
@@ -33,66 +26,28 @@ public:
     explicit CompanyPage(PageHost& host, QWidget* parent = nullptr);
     ~CompanyPage() override;
 
-    bool ClearCompanyFields();
+    void ClearCompanyFields() { ClearFields(); }
 
     // False when there is no company list.
     bool FillCompanyLists();
 
-    void ReadAgain(std::optional<std::int64_t> row) override;
-    [[nodiscard]] std::optional<Shown> IdleList() const override;
-    [[nodiscard]] std::string Unsaved() const override;
-    bool SaveTyped() override { return Save(); }
-    void TellChanges() override;
-
     // False for nullptr.
-    bool ShowCompany(const std::shared_ptr<CCompany>& thecompany);
+    bool ShowCompany(const std::shared_ptr<CCompany>& thecompany) { return ShowRecord(thecompany); }
 
 private:
-    struct KeyList
-    {
-        QComboBox* box;
-        std::string CompanyTexts::*text;
-        std::int32_t eventSource;
-        int characters;
-    };
-
-    [[nodiscard]] std::array<KeyList, 2> KeyLists() const;
     void PrepareLists();
     void ConnectButtons();
     void FitFields();
+    void New();
 
-    void Select(const KeyList& list);
+    bool FillLists() override { return FillCompanyLists(); }
+    bool Load() override;
+    bool LoadAfresh();
+    void ShowStatus(const CCompany& company) override;
+    bool IsAccepted(const CompanyTexts& texts) override;
+    void TellSaved(const std::string& told, const CompanyTexts& texts, const CCompany& saved) override;
 
-    // nullptr also for one that has left the list.
-    [[nodiscard]] std::shared_ptr<CCompany> ChosenIn(const QComboBox& box) const;
-
-    void ShowStatus(const CCompany& company);
-    void Fill(const CompanyTexts& texts);
-
-    void StartAnew();
-    void LeaveBehind(const std::optional<LeftBehind<CompanyTexts>>& left);
-    void BringBack(const LeftBehind<CompanyTexts>& left);
-    void PutBack(const LeftBehind<CompanyTexts>& left);
-    [[nodiscard]] std::shared_ptr<CCompany> Of(const std::string& id) const;
-
-    // These two: whether it is stored.
-    bool Save();
-    bool SaveTexts(const CompanyTexts& texts);
-    void AskForPresent(const RowConflict& conflict, const std::string& id);
-
-    // Whether the companies could be read again.
-    bool Reload();
-
-    bool ReloadAfresh();
-
-    [[nodiscard]] CompanyTexts ReadTexts() const;
-
-    // Raises Failure 91 when there is none.
-    [[nodiscard]] std::shared_ptr<CCompanyList> List() const;
-
-    PageHost& m_host;
     std::unique_ptr<Ui::CompanyPage> m_ui;
-    TypedTexts<CompanyTexts> m_texts;
 };
 
 } // namespace ptk

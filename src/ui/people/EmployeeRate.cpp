@@ -25,10 +25,7 @@ void EmployeePage::ShowRate(std::int32_t employeeID)
 {
     const auto show = [&] {
         if (m_ui->cboEmployeeID->currentText() != QString::number(employeeID)) {
-            const auto employee = Required(List()->GetEmployeeByID(employeeID));
-            LeaveBehind(m_texts.Left(ReadTexts()));
-            ShowEmployee(employee);
-            ShowStatus(*employee);
+            ShowAgain(Required(Records()->GetEmployeeByID(employeeID)));
         }
     };
     if (!Succeeds(show)) {

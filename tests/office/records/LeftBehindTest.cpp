@@ -70,6 +70,30 @@ TEST(TypedTextsTest, WhatIsBroughtBackLeavesOthersChangesAlone)
     EXPECT_EQ(removed.typed, Company("", "Oak", "Harbor"));
 }
 
+TEST(TypedFateTest, DependsOnWhatTheRecordIsNow)
+{
+    const CompanyTexts acorn = Company("1", "Acorn", "Harbor");
+    const CompanyTexts typed = Company("1", "Oak", "Harbor");
+    struct Case
+    {
+        const char* name;
+        LeftBehind<CompanyTexts> left;
+        std::optional<CompanyTexts> present;
+        bool isRead;
+        TypedFate fate;
+    };
+    for (const Case& c : {Case{"as it was", {acorn, typed}, acorn, true, TypedFate::PutBack},
+                          {"as it was, unread", {acorn, typed}, acorn, false, TypedFate::PutBack},
+                          {"another name", {acorn, typed}, Company("1", "Ash", "Harbor"), true, TypedFate::Offered},
+                          {"what was typed is stored", {acorn, typed}, typed, true, TypedFate::Offered},
+                          {"removed", {acorn, typed}, std::nullopt, true, TypedFate::OfferedAsNew},
+                          {"unread", {acorn, typed}, std::nullopt, false, TypedFate::Offered},
+                          {"a new one", {{}, Company("", "Oak", "")}, std::nullopt, true, TypedFate::PutBack},
+                          {"a new one, unread", {{}, Company("", "Oak", "")}, std::nullopt, false, TypedFate::PutBack}}) {
+        EXPECT_EQ(FateOf(c.left, c.present, c.isRead), c.fate) << c.name;
+    }
+}
+
 TEST(LeavingQuestionTest, NamesWhatIsNotSaved)
 {
     EXPECT_EQ(LeavingQuestion({"Changes to Ann Lee were not saved", "Acorn was not saved"}),
