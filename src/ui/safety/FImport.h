@@ -2,10 +2,10 @@
 #pragma once
 
 #include "office/import/Import.h"
+#include "ui/work/ImportWindow.h"
 
 #include <functional>
 #include <memory>
-#include <QDialog>
 
 namespace Ui {
 class FImport;
@@ -13,8 +13,7 @@ class FImport;
 
 namespace ptk {
 
-// Tells all that goes wrong itself, and then stays for another try.
-class FImport final : public QDialog
+class FImport final : public ImportWindow
 {
     Q_OBJECT
 
@@ -29,17 +28,16 @@ public:
     [[nodiscard]] bool HasImported() const { return m_imported; }
 
 private:
-    void Browse();
-    void Forget();
-    void Read();
-    void Import();
-    bool Run(bool trial, ImportOutcome& outcome);
-    void ShowRead(const ImportOutcome& outcome);
-    void ShowImported(const ImportOutcome& outcome);
+    void ForgetRead() override;
+    void Work(bool trial, const GoesOn& goesOn) override;
+    void ShowOutcome(bool trial) override;
+    void ShowRead();
+    void ShowImported();
     void EnableImport();
 
     std::unique_ptr<Ui::FImport> m_ui;
     Importer m_importer;
+    ImportOutcome m_outcome;
     bool m_read = false; // the account is that of the file that is named
     bool m_damaged = false;
     bool m_imported = false;

@@ -1,14 +1,11 @@
 #include "ui/sheet/FImportEmployees.h"
 
-#include "platform/Failure.h"
-#include "platform/Succeeds.h"
 #include "ui/sheet/DifferenceModel.h"
 #include "ui/widgets/FixedRows.h"
-#include "ui/work/WorkProgress.h"
 #include "ui_FImportEmployees.h"
 
 #include <algorithm>
-#include <QFileDialog>
+#include <QFile>
 #include <QHeaderView>
 #include <QKeyEvent>
 
@@ -16,28 +13,19 @@ namespace ptk {
 
 namespace {
 
-constexpr auto kEmployeesTitle = "Employees";
-constexpr auto kEmployeesFilter = "CSV files (*.csv *.txt *.tsv);;All Files (*)";
-constexpr auto kEmployeesProgress = "Import Employees";
-constexpr auto kEmployeesWork = "Reading the employees...";
-
 constexpr auto kNothingRead = "Choose the CSV file and press Read. Where it has something else about somebody who is known by the employee "
                               "number, that stands here to be ticked.";
 constexpr auto kNoDifference = "The file has nothing else about anybody who is known.";
 constexpr auto kWhatWouldBe = "New employees: %1. Fields to be changed: %2 of %3. Nothing has been stored yet.";
 constexpr auto kLinesAreRefused = "Lines are refused: %1, for the reasons above. Nothing can be stored before the file is mended.";
-constexpr auto kEmployeesNotRead = "Nothing was stored: %1.";
 constexpr auto kEmployeesStored = "Employees added: %1, changed: %2; Edit > Undo takes it back";
 
-constexpr auto kNameTheFile = "Choose the file first.";
 constexpr auto kReadTheFile = "Choose the file and read it first.";
 constexpr auto kNothingToSave = "Nobody is new and nothing is ticked.";
 constexpr auto kMendTheFile = "Mend the lines that are refused first.";
-constexpr auto kCloseWindow = "&Close";
 
 constexpr QSize kEmployeesFirstSize(760, 520);
 constexpr QSize kEmployeesSmallestSize(460, 400);
-constexpr int kEmployeesHintLines = 2;
 constexpr int kAccountLines = 4;
 constexpr int kRowRoom = 6;   // pixels above and below a row's text together
 constexpr int kCellRoom = 12; // pixels between texts that stand beside each other
@@ -45,29 +33,23 @@ constexpr int kCellRoom = 12; // pixels between texts that stand beside each oth
 // Nobody reads more, and a text box takes its time for them.
 constexpr std::size_t kMostLines = 10'000;
 
-QString AccountText(const EmployeeAccount& account, bool withDifferences)
-{
-    const std::vector<std::string> all = EmployeeAccountLines(account, withDifferences);
-    QStringList lines;
-    std::for_each(all.begin(), all.begin() + static_cast<std::ptrdiff_t>(std::min(all.size(), kMostLines)),
-                  [&](const std::string& line) { lines.append(QString::fromStdString(line)); });
-    return lines.join('\n') + (all.size() > kMostLines ? "\n..." : "");
-}
-
 } // namespace
 
 FImportEmployees::FImportEmployees(QWidget* parent, Importer importer)
-    : QDialog(parent), m_ui(std::make_unique<Ui::FImportEmployees>()), m_importer(std::move(importer)),
-      m_differences(new DifferenceModel(this))
+    : ImportWindow(parent, {.fileTitle = "Employees",
+                            .filter = "CSV files (*.csv *.txt *.tsv);;All Files (*)",
+                            .progressTitle = "Import Employees",
+                            .progressText = "Reading the employees...",
+                            .refused = "Nothing was stored: %1.",
+                            .nameFirst = "Choose the file first."}),
+      m_ui(std::make_unique<Ui::FImportEmployees>()), m_importer(std::move(importer)), m_differences(new DifferenceModel(this))
 {
     m_ui->setupUi(this);
-    setMinimumSize(kEmployeesSmallestSize);
-    resize(kEmployeesFirstSize);
-    m_ui->lblHint->KeepRoom(kEmployeesHintLines);
+    Begin({m_ui->fraFile, m_ui->txtFile, m_ui->cmdBrowse, m_ui->txtAccount, m_ui->lblHint, m_ui->cmdRead, m_ui->cmdSave, m_ui->cmdCancel},
+          kEmployeesFirstSize, kEmployeesSmallestSize);
     m_ui->txtAccount->setFixedHeight(kAccountLines * m_ui->txtAccount->fontMetrics().lineSpacing() + 2 * m_ui->txtAccount->frameWidth() +
                                      static_cast<int>(2 * m_ui->txtAccount->document()->documentMargin()));
     PrepareTable();
-    Connect();
     Forget();
 }
 
@@ -80,15 +62,6 @@ void FImportEmployees::PrepareTable()
     FixRows(*table, kRowRoom);
     table->horizontalHeader()->setStretchLastSection(true);
     table->installEventFilter(this);
-}
-
-void FImportEmployees::Connect()
-{
-    connect(m_ui->txtFile, &QLineEdit::textChanged, this, &FImportEmployees::Forget);
-    connect(m_ui->cmdBrowse, &QPushButton::clicked, this, &FImportEmployees::Browse);
-    connect(m_ui->cmdRead, &QPushButton::clicked, this, &FImportEmployees::Read);
-    connect(m_ui->cmdSave, &QPushButton::clicked, this, &FImportEmployees::Save);
-    connect(m_ui->cmdCancel, &QPushButton::clicked, this, &FImportEmployees::reject);
     connect(m_ui->chkAll, &QCheckBox::clicked, m_differences, &DifferenceModel::TickAll);
     connect(m_differences, &DifferenceModel::TicksChanged, this, &FImportEmployees::ShowTicks);
 }
@@ -105,68 +78,32 @@ bool FImportEmployees::eventFilter(QObject* watched, QEvent* event)
     return m_differences->setData(tick, ticked ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
 }
 
-void FImportEmployees::Browse()
-{
-    const QString file = QFileDialog::getOpenFileName(this, kEmployeesTitle, m_ui->txtFile->text(), kEmployeesFilter);
-    if (!file.isEmpty()) {
-        m_ui->txtFile->setText(file);
-        Read();
-    }
-}
-
-// What was read of another file.
-void FImportEmployees::Forget()
+void FImportEmployees::ForgetRead()
 {
     m_read = {};
-    m_ui->txtAccount->clear();
     m_ui->grdDifferences->SetHint(kNothingRead);
     m_differences->Show({});
-    m_ui->lblHint->Say(QString());
-    const bool isNamed = !m_ui->txtFile->text().isEmpty();
-    m_ui->cmdRead->setEnabled(isNamed);
-    m_ui->cmdRead->setToolTip(isNamed ? QString() : kNameTheFile);
-    m_ui->cmdRead->setDefault(true);
 }
 
-void FImportEmployees::Read()
-{
-    EmployeeAccount account;
-    if (Run(true, account)) {
-        ShowRead(account);
-    }
-}
-
-void FImportEmployees::Save()
-{
-    EmployeeAccount account;
-    if (Run(false, account)) {
-        account.isStored ? ShowStored(account) : ShowRead(account); // the file, or the database, has changed since it was read
-    }
-}
-
-// False where it was refused, which is then told.
-bool FImportEmployees::Run(bool trial, EmployeeAccount& account)
+void FImportEmployees::Work(bool trial, const GoesOn& goesOn)
 {
     const std::string file = QFile::encodeName(m_ui->txtFile->text()).toStdString();
-    const EmployeeOrder order{file, trial, {}, trial ? TakesDifference() : m_differences->Ticks()};
-    m_ui->lblHint->Say(QString());
-    const auto run = [&] {
-        WorkProgress progress(this, {kEmployeesProgress, kEmployeesWork});
-        account = m_importer(order, [&progress] { return progress.GoOn(0, 0); });
-    };
-    return Succeeds(run, [this](const Failure& reason) {
-        m_ui->lblHint->Say(QString(kEmployeesNotRead).arg(QString::fromStdString(reason.Description())));
-    });
+    m_read = m_importer({file, trial, {}, trial ? TakesDifference() : m_differences->Ticks()}, goesOn);
 }
 
-void FImportEmployees::ShowRead(const EmployeeAccount& account)
+// What was to be stored is shown as read where the file, or the database, has changed since then.
+void FImportEmployees::ShowOutcome(bool /*trial*/)
 {
-    m_read = account;
-    m_ui->txtAccount->setPlainText(AccountText(account, false)); // those stand in the table
+    ShowAccount(EmployeeAccountLines(m_read, m_read.isStored), kMostLines); // differences stand in the table until then
+    m_read.isStored ? ShowStored() : ShowRead();
+}
+
+void FImportEmployees::ShowRead()
+{
     m_ui->grdDifferences->SetHint(kNoDifference);
-    m_differences->Show(account.differences);
+    m_differences->Show(m_read.differences);
     FitColumns();
-    if (!account.differences.empty()) {
+    if (!m_read.differences.empty()) {
         m_ui->grdDifferences->setCurrentIndex(m_differences->index(0, DifferenceModel::Employee));
         m_ui->grdDifferences->setFocus();
     } else if (m_ui->cmdSave->isEnabled()) {
@@ -175,19 +112,12 @@ void FImportEmployees::ShowRead(const EmployeeAccount& account)
     (m_ui->cmdSave->isEnabled() ? m_ui->cmdSave : m_ui->cmdRead)->setDefault(true);
 }
 
-void FImportEmployees::ShowStored(const EmployeeAccount& account)
+void FImportEmployees::ShowStored()
 {
-    m_ui->txtAccount->setPlainText(AccountText(account, true));
-    m_stored = QString(kEmployeesStored).arg(account.added.size()).arg(account.changed.size());
-    for (QWidget* done : {static_cast<QWidget*>(m_ui->cmdSave), static_cast<QWidget*>(m_ui->cmdRead), static_cast<QWidget*>(m_ui->fraFile),
-                          static_cast<QWidget*>(m_ui->chkAll), static_cast<QWidget*>(m_ui->grdDifferences)}) {
-        done->hide();
-    }
+    m_stored = QString(kEmployeesStored).arg(m_read.added.size()).arg(m_read.changed.size());
     m_ui->txtAccount->setMaximumHeight(QWIDGETSIZE_MAX);
     m_ui->lblHint->Say(m_stored + '.');
-    m_ui->cmdCancel->setText(kCloseWindow);
-    m_ui->cmdCancel->setDefault(true);
-    m_ui->cmdCancel->setFocus();
+    HideAllDone({m_ui->chkAll, m_ui->grdDifferences});
 }
 
 void FImportEmployees::FitColumns()

@@ -3,10 +3,10 @@
 #pragma once
 
 #include "office/sheet/EmployeeImport.h"
+#include "ui/work/ImportWindow.h"
 
 #include <functional>
 #include <memory>
-#include <QDialog>
 
 namespace Ui {
 class FImportEmployees;
@@ -16,8 +16,7 @@ namespace ptk {
 
 class DifferenceModel;
 
-// Tells all that goes wrong itself, and then stays for another try.
-class FImportEmployees final : public QDialog
+class FImportEmployees final : public ImportWindow
 {
     Q_OBJECT
 
@@ -36,15 +35,12 @@ public:
 
 private:
     void PrepareTable();
-    void Connect();
     void FitColumns();
-    void Browse();
-    void Forget();
-    void Read();
-    void Save();
-    bool Run(bool trial, EmployeeAccount& account);
-    void ShowRead(const EmployeeAccount& account);
-    void ShowStored(const EmployeeAccount& account);
+    void ForgetRead() override;
+    void Work(bool trial, const GoesOn& goesOn) override;
+    void ShowOutcome(bool trial) override;
+    void ShowRead();
+    void ShowStored();
     void ShowTicks();
 
     std::unique_ptr<Ui::FImportEmployees> m_ui;

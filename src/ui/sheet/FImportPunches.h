@@ -2,10 +2,10 @@
 #pragma once
 
 #include "office/sheet/PunchImport.h"
+#include "ui/work/ImportWindow.h"
 
 #include <functional>
 #include <memory>
-#include <QDialog>
 
 namespace Ui {
 class FImportPunches;
@@ -13,8 +13,7 @@ class FImportPunches;
 
 namespace ptk {
 
-// Tells all that goes wrong itself, and then stays for another try.
-class FImportPunches final : public QDialog
+class FImportPunches final : public ImportWindow
 {
     Q_OBJECT
 
@@ -29,13 +28,11 @@ public:
     [[nodiscard]] QString Stored() const { return m_stored; }
 
 private:
-    void Browse();
-    void Forget();
-    void Read();
-    void Import();
-    bool Run(bool trial, PunchAccount& account);
-    void ShowRead(const PunchAccount& account);
-    void ShowStored(const PunchAccount& account);
+    void ForgetRead() override;
+    void Work(bool trial, const GoesOn& goesOn) override;
+    void ShowOutcome(bool trial) override;
+    void ShowRead();
+    void ShowStored();
     void EnableImport();
 
     std::unique_ptr<Ui::FImportPunches> m_ui;
