@@ -24,8 +24,7 @@ namespace {
 using std::chrono::steady_clock;
 
 constexpr std::chrono::milliseconds kBetweenLooks(50);
-constexpr std::size_t kPortion = 1 << 16;      // bytes
-constexpr std::size_t kKeptOfErrors = 4 << 10; // bytes
+constexpr std::size_t kPortion = 1 << 16; // bytes
 constexpr int kNotStarted = 127;
 
 #if defined(__SANITIZE_ADDRESS__)
@@ -176,7 +175,7 @@ std::string_view GuardedChild::Read()
         pollfd ends[] = {{m_output.Descriptor(), POLLIN, 0}, {errorsOpen ? m_errorOutput.Descriptor() : -1, POLLIN, 0}};
         ::poll(ends, std::size(ends), static_cast<int>(kBetweenLooks.count()));
         errorsOpen = errorsOpen && (ends[1].revents & (POLLHUP | POLLIN)) != POLLHUP;
-        TakeErrors();
+        CountErrors();
         if (ends[0].revents == 0) {
             continue;
         }
@@ -189,13 +188,12 @@ std::string_view GuardedChild::Read()
     }
 }
 
-// What has come so far, however much; beyond the first of it only the lines are counted.
-void GuardedChild::TakeErrors()
+// Takes what has come so far, however much.
+void GuardedChild::CountErrors()
 {
     char portion[4096];
     for (ssize_t size = 0; (size = ::read(m_errorOutput.Descriptor(), portion, sizeof portion)) > 0;) {
         m_errorLines += std::count(portion, portion + size, '\n');
-        m_errors.append(portion, std::min(static_cast<std::size_t>(size), kKeptOfErrors - m_errors.size()));
         RefuseToWaitLonger();
     }
 }
@@ -205,11 +203,11 @@ ChildEnd GuardedChild::Wait()
     int ending = 0;
     while (::waitpid(m_process, &ending, WNOHANG) == 0) {
         RefuseToWaitLonger();
-        TakeErrors();
+        CountErrors();
         std::this_thread::sleep_for(std::chrono::milliseconds(1));
     }
     m_process = -1;
-    TakeErrors();
+    CountErrors();
     const int status = WIFEXITED(ending) ? WEXITSTATUS(ending) : -1;
     return {status == 0, status};
 }

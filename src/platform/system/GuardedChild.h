@@ -57,9 +57,8 @@ public:
     // REQUIRES: Read came to the end. Raises Overdue.
     [[nodiscard]] ChildEnd Wait();
 
-    // Of its standard error so far: how many lines, and the first 4 KiB.
+    // Of its standard error so far.
     [[nodiscard]] std::int64_t ErrorLines() const { return m_errorLines; }
-    [[nodiscard]] const std::string& Errors() const { return m_errors; }
 
     // Without numbers, in one sentence.
     [[nodiscard]] static Failure Overdue();
@@ -68,7 +67,7 @@ public:
 
 private:
     void RefuseToWaitLonger() const;
-    void TakeErrors();
+    void CountErrors();
     void End() noexcept;
 
     ChildLimits m_limits;
@@ -78,7 +77,6 @@ private:
     int m_process = -1;
     std::uint64_t m_taken = 0;
     std::int64_t m_errorLines = 0;
-    std::string m_errors;
     std::string m_buffer;
 };
 
