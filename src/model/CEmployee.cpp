@@ -1,6 +1,7 @@
 #include "model/CEmployee.h"
 
 #include "model/AddressText.h"
+#include "platform/text/DayText.h"
 #include "platform/text/Text.h"
 #include "store/CJetDB.h"
 
@@ -16,7 +17,7 @@ void AppendDate(std::string& text, const char* label, DateTime date)
 {
     text += label;
     if (!date.IsZero()) {
-        text += "\t" + FormatDateTime(date, "mm/dd/yyyy");
+        text += "\t" + DayText(date);
     }
     text += "\r\n";
 }

@@ -8,7 +8,7 @@
 #include "platform/files/FileSteps.h"
 #include "platform/files/ProgramFolder.h"
 #include "platform/system/Clock.h"
-#include "platform/text/Text.h"
+#include "platform/text/DayText.h"
 #include "shell/CDatabaseLocator.h"
 #include "shell/CFileAdaptor.h"
 #include "store/engine/EngineSource.h"
@@ -68,7 +68,7 @@ std::string Line(const BackupEntry& entry)
     }
     const BackupContent& content = *entry.content;
     return fmt::format("{}  {} bytes  {} employees  {} records  newest shift {}\n", entry.name, entry.size, content.employees,
-                       content.records, content.newestShift ? FormatDateTime(*content.newestShift, "mm/dd/yyyy hh:mm AM/PM") : "none");
+                       content.records, content.newestShift ? MomentText(*content.newestShift) : "none");
 }
 
 } // namespace

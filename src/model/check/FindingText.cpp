@@ -2,6 +2,7 @@
 
 #include "model/check/CardCheck.h"
 #include "model/payday/Closing.h"
+#include "platform/text/DayText.h"
 #include "platform/text/Text.h"
 
 #include <algorithm>
@@ -13,19 +14,9 @@ namespace {
 
 constexpr std::size_t kMostShown = 40; // bytes of a value that cannot be read
 
-std::string Moment(DateTime value)
-{
-    return FormatDateTime(value, "mm/dd/yyyy hh:mm AM/PM");
-}
-
-std::string Day(DateTime value)
-{
-    return FormatDateTime(value, "mm/dd/yyyy");
-}
-
 std::string Span(const Punch& punch)
 {
-    return fmt::format("from {} to {}", Moment(*punch.start), Moment(*punch.end));
+    return fmt::format("from {} to {}", MomentText(*punch.start), MomentText(*punch.end));
 }
 
 bool ContinuesCharacter(char byte)
@@ -72,16 +63,16 @@ std::string UnreadableText(const Punch& punch)
                            What("end", punch.endText));
     }
     if (!punch.end) {
-        return fmt::format("Record {}, which begins on {}, cannot be read: it has {}.", punch.id, Moment(*punch.start),
+        return fmt::format("Record {}, which begins on {}, cannot be read: it has {}.", punch.id, MomentText(*punch.start),
                            What("end", punch.endText));
     }
-    const std::string where = IsSet(punch.end) ? fmt::format(", which ends on {},", Moment(*punch.end)) : "";
+    const std::string where = IsSet(punch.end) ? fmt::format(", which ends on {},", MomentText(*punch.end)) : "";
     return fmt::format("Record {}{} cannot be read: it has {}.", punch.id, where, What("start", punch.startText));
 }
 
 std::string ShiftText(FindingKind kind, const Punch& punch, std::int32_t longShiftHours)
 {
-    const std::string start = Moment(*punch.start);
+    const std::string start = MomentText(*punch.start);
     switch (kind) {
     case FindingKind::Open:
         return fmt::format("The shift that began on {} has no end and counts nothing.", start);
@@ -90,7 +81,7 @@ std::string ShiftText(FindingKind kind, const Punch& punch, std::int32_t longShi
     case FindingKind::OpenLater:
         return fmt::format("The shift that began on {} has no end and belongs to a later period.", start);
     case FindingKind::Backward:
-        return fmt::format("The shift that began on {} ends before that, on {}, and counts nothing.", start, Moment(*punch.end));
+        return fmt::format("The shift that began on {} ends before that, on {}, and counts nothing.", start, MomentText(*punch.end));
     case FindingKind::Empty:
         return fmt::format("The shift of {} ends in the minute in which it starts and counts nothing.", start);
     case FindingKind::Long:
@@ -111,9 +102,9 @@ std::string ShiftText(FindingKind kind, const Punch& punch, std::int32_t longShi
 std::string NotEmployedText(const Punch& punch, DateTime hired, DateTime released)
 {
     if (!hired.IsZero() && DaysBetween(*punch.start, hired) > 0) {
-        return fmt::format("The shift of {} starts before the hire date {}.", Moment(*punch.start), Day(hired));
+        return fmt::format("The shift of {} starts before the hire date {}.", MomentText(*punch.start), DayText(hired));
     }
-    return fmt::format("The shift of {} starts after the release date {}.", Moment(*punch.start), Day(released));
+    return fmt::format("The shift of {} starts after the release date {}.", MomentText(*punch.start), DayText(released));
 }
 
 std::string FindingSummary(const CardCheck& check)
@@ -132,23 +123,23 @@ std::string FindingSummary(const CardCheck& check)
 std::string OverlapText(const Finding& group)
 {
     return fmt::format("{} shifts between {} and {} overlap: {} hours lie in more than one of them.", group.records.size(),
-                       Moment(*group.from), Moment(*group.to), HoursAndMinutes(group.minutes));
+                       MomentText(*group.from), MomentText(*group.to), HoursAndMinutes(group.minutes));
 }
 
 std::string SameStartText(const Finding& group)
 {
-    return fmt::format("{} records start at {}, and not each of them has an end after it.", group.records.size(), Moment(*group.from));
+    return fmt::format("{} records start at {}, and not each of them has an end after it.", group.records.size(), MomentText(*group.from));
 }
 
 std::string DeductionText(const WorkDay& day, std::int64_t deducted)
 {
-    return fmt::format("On {} the automatic deduction takes {} hours off {} hours worked.", Day(day.day), HoursAndMinutes(deducted),
+    return fmt::format("On {} the automatic deduction takes {} hours off {} hours worked.", DayText(day.day), HoursAndMinutes(deducted),
                        HoursAndMinutes(day.minutes));
 }
 
 std::string LongDayText(const WorkDay& day)
 {
-    return fmt::format("The shifts of {} come to {} hours, more than a day has.", Day(day.day), HoursAndMinutes(day.minutes));
+    return fmt::format("The shifts of {} come to {} hours, more than a day has.", DayText(day.day), HoursAndMinutes(day.minutes));
 }
 
 std::string NoRateText(std::int64_t regularWithout, std::int64_t overtimeWithout)
@@ -164,7 +155,7 @@ std::string NoRateText(std::int64_t regularWithout, std::int64_t overtimeWithout
 
 std::string WeekText(const WorkWeek& week)
 {
-    return fmt::format("The week from {} has {} hours, {} above 40; the daily rule pays {} of them as overtime.", Day(week.from),
+    return fmt::format("The week from {} has {} hours, {} above 40; the daily rule pays {} of them as overtime.", DayText(week.from),
                        HoursAndMinutes(week.minutes), HoursAndMinutes(week.Above40()), HoursAndMinutes(week.paidAsOvertime));
 }
 
@@ -183,14 +174,14 @@ std::string PaidChangedText(const Closing& paid, const std::optional<CardFigures
 
 std::string TwiceText(const WorkDay& day)
 {
-    return fmt::format("On {} are {} hours that lie in another closed period, too.", Day(day.day), HoursAndMinutes(day.minutes));
+    return fmt::format("On {} are {} hours that lie in another closed period, too.", DayText(day.day), HoursAndMinutes(day.minutes));
 }
 
 std::string BetweenText(const Finding& shifts)
 {
     return fmt::format("{} with {} hours from {} on lie{} between the last closed period and this one: no card has them.",
                        shifts.records.size() == 1 ? "1 shift" : std::to_string(shifts.records.size()) + " shifts",
-                       HoursAndMinutes(shifts.minutes), Moment(*shifts.from), shifts.records.size() == 1 ? "s" : "");
+                       HoursAndMinutes(shifts.minutes), MomentText(*shifts.from), shifts.records.size() == 1 ? "s" : "");
 }
 
 std::string ClockChangeText(const Punch& punch, std::int64_t lasted)

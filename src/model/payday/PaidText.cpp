@@ -1,7 +1,7 @@
 #include "model/payday/PaidText.h"
 
 #include "model/payday/Closing.h"
-#include "platform/text/Text.h"
+#include "platform/text/DayText.h"
 
 #include <fmt/format.h>
 
@@ -9,7 +9,7 @@ namespace ptk {
 
 std::string PaidText(const Closing& closing)
 {
-    const std::string at = closing.paidAt ? " on " + FormatDateTime(*closing.paidAt, "mm/dd/yyyy hh:mm AM/PM") : "";
+    const std::string at = closing.paidAt ? " on " + MomentText(*closing.paidAt) : "";
     return "Paid" + at + (closing.paidBy.empty() ? "" : " by " + closing.paidBy);
 }
 

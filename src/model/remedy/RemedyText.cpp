@@ -1,5 +1,6 @@
 #include "model/remedy/RemedyText.h"
 
+#include "platform/text/DayText.h"
 #include "platform/text/Text.h"
 
 #include <fmt/format.h>
@@ -7,8 +8,6 @@
 namespace ptk {
 
 namespace {
-
-constexpr auto kDay = "mm/dd/yyyy";
 
 std::string ClockTime(DateTime moment)
 {
@@ -19,7 +18,7 @@ std::string ClockTime(DateTime moment)
 std::string TimeAfter(DateTime start, DateTime moment)
 {
     const bool sameDay = start.DayNumber() == moment.DayNumber();
-    return ClockTime(moment) + (sameDay ? std::string() : " on " + FormatDateTime(moment, kDay));
+    return ClockTime(moment) + (sameDay ? std::string() : " on " + DayText(moment));
 }
 
 } // namespace
@@ -38,7 +37,7 @@ std::string SplitText(const std::vector<DateTime>& midnights)
 {
     std::string days;
     for (const DateTime midnight : midnights) {
-        days += (days.empty() ? "" : " and ") + FormatDateTime(midnight, kDay);
+        days += (days.empty() ? "" : " and ") + DayText(midnight);
     }
     return fmt::format("Split at midnight, where {} begin{}", days, midnights.size() == 1 ? "s" : "");
 }

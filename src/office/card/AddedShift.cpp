@@ -4,6 +4,7 @@
 #include "model/check/FindingText.h"
 #include "model/check/Punch.h"
 #include "platform/Succeeds.h"
+#include "platform/text/DayText.h"
 #include "platform/text/Text.h"
 #include "store/CJetDB.h"
 #include "store/engine/Statement.h"
@@ -89,7 +90,7 @@ std::string AddedShiftForecast(const AddedShift& shift, const std::vector<std::s
     }
     const bool sameDay = read->start.DayNumber() == read->end.DayNumber();
     const std::int64_t minutes = MinutesBetween(read->start, read->end);
-    std::string text = fmt::format(kForecast, FormatDateTime(read->start, "mm/dd/yyyy hh:mm AM/PM"),
+    std::string text = fmt::format(kForecast, MomentText(read->start),
                                    FormatDateTime(read->end, sameDay ? "hh:mm AM/PM" : "mm/dd/yyyy hh:mm AM/PM"), HoursAndMinutes(minutes),
                                    people.size() == 1 ? people.front()->DisplayName() : fmt::format("each of {} people", people.size()));
     text += minutes > longShiftHours * kHour ? fmt::format(kLong, longShiftHours) : std::string();

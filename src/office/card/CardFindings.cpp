@@ -2,7 +2,7 @@
 
 #include "model/check/FindingText.h"
 #include "office/card/CheckedTimecard.h"
-#include "platform/text/Text.h"
+#include "platform/text/DayText.h"
 
 #include <algorithm>
 #include <fmt/format.h>
@@ -19,21 +19,16 @@ bool IsShown(const Finding& finding, bool showNotices)
     return showNotices || SeverityOf(finding.kind) == Severity::Problem;
 }
 
-std::string Day(DateTime moment)
-{
-    return FormatDateTime(moment, "mm/dd/yyyy");
-}
-
 // Of a shift that began years ago, both days.
 std::string DaysOf(const Punch& punch)
 {
     if (IsSet(punch.start) && IsSet(punch.end) && punch.start->DayNumber() != punch.end->DayNumber()) {
-        return Day(*punch.start) + " - " + Day(*punch.end);
+        return DayText(*punch.start) + " - " + DayText(*punch.end);
     }
     if (IsSet(punch.start)) {
-        return Day(*punch.start);
+        return DayText(*punch.start);
     }
-    return IsSet(punch.end) ? Day(*punch.end) : std::string();
+    return IsSet(punch.end) ? DayText(*punch.end) : std::string();
 }
 
 // The days come first: the line that says it may be short of room.

@@ -5,7 +5,7 @@
 #include "model/CTimeCard.h"
 #include "model/CTimeRecordList.h"
 #include "platform/Required.h"
-#include "platform/text/Text.h"
+#include "platform/text/DayText.h"
 
 #include <array>
 #include <cmath>
@@ -15,7 +15,6 @@ namespace ptk {
 
 namespace {
 
-constexpr auto kDate = "mm/dd/yyyy";
 constexpr int kMinutesPerHour = 60;
 constexpr std::array<const char*, 7> kWeekdays{"Sunday", "Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday"};
 
@@ -27,8 +26,8 @@ CardName NameOf(const CTimeCard& card)
     if (employee == nullptr) {
         return {};
     }
-    const std::string from = FormatDateTime(card.StartDate(), kDate);
-    const std::string to = FormatDateTime(card.EndDate().AddDays(-1), kDate); // the card ends with the midnight after its last day
+    const std::string from = DayText(card.StartDate());
+    const std::string to = DayText(card.EndDate().AddDays(-1)); // the card ends with the midnight after its last day
     return {employee->DisplayName(), from + " - " + to};
 }
 

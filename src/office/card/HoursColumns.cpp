@@ -2,6 +2,7 @@
 
 #include "model/check/CardCheck.h"
 #include "office/card/CardTexts.h"
+#include "platform/text/DayText.h"
 #include "platform/text/Text.h"
 
 #include <algorithm>
@@ -14,11 +15,6 @@ namespace {
 constexpr std::int64_t kMostDays = 366; // of a period that is shown day by day
 constexpr auto kWeek = "Week";
 
-std::string Date(DateTime day)
-{
-    return FormatDateTime(day, "mm/dd/yyyy");
-}
-
 std::string ShortDay(DateTime day)
 {
     return FormatDateTime(day, "m/d");
@@ -29,7 +25,7 @@ HoursColumn DayColumn(DateTime day, const DayMinutes* worked)
     HoursColumn column;
     column.name = WeekdayName(day).substr(0, 2);
     column.day = ShortDay(day);
-    column.text = WeekdayName(day) + ' ' + Date(day) + ": ";
+    column.text = WeekdayName(day) + ' ' + DayText(day) + ": ";
     if (worked == nullptr) {
         column.text += "no shift";
         return column;
@@ -48,7 +44,7 @@ HoursColumn WeekColumn(const WorkWeek& week)
             HoursText(week.minutes),
             kWeek,
             ShortDay(week.from),
-            fmt::format("Week from {}: {} hours, {} above 40, {} paid as overtime", Date(week.from), HoursText(week.minutes),
+            fmt::format("Week from {}: {} hours, {} above 40, {} paid as overtime", DayText(week.from), HoursText(week.minutes),
                         HoursText(week.Above40()), HoursText(week.paidAsOvertime)),
             0,
             0};

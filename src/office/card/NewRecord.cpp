@@ -3,7 +3,7 @@
 #include "model/check/FindingText.h"
 #include "model/check/Punch.h"
 #include "platform/Succeeds.h"
-#include "platform/text/Text.h"
+#include "platform/text/DayText.h"
 
 #include <fmt/format.h>
 
@@ -12,8 +12,6 @@ namespace ptk {
 namespace {
 
 constexpr int kMinutesOfHour = 60;
-constexpr auto kShortDate = "mm/dd/yyyy";
-constexpr auto kShortMoment = "mm/dd/yyyy hh:mm AM/PM";
 
 bool IsMidnight(DateTime moment)
 {
@@ -37,8 +35,7 @@ std::string TimesWarning(DateTime start, DateTime end)
 
 std::string PeriodWarning(const PayPeriod& period)
 {
-    return fmt::format("This record lies outside the period {} - {}.", FormatDateTime(period.from, kShortDate),
-                       FormatDateTime(period.to, kShortDate));
+    return fmt::format("This record lies outside the period {} - {}.", DayText(period.from), DayText(period.to));
 }
 
 std::optional<DateTime> ReadMoment(const RecordTexts& texts, DateTime (RecordTexts::*moment)() const)
@@ -50,7 +47,7 @@ std::optional<DateTime> ReadMoment(const RecordTexts& texts, DateTime (RecordTex
 
 std::string StoredText(DateTime moment, const char* none)
 {
-    return moment.IsZero() ? none : FormatDateTime(moment, kShortMoment);
+    return moment.IsZero() ? none : MomentText(moment);
 }
 
 // An end is taken only behind a start that was read.

@@ -1,5 +1,6 @@
 #include "office/history/ColumnWords.h"
 
+#include "platform/text/DayText.h"
 #include "platform/text/Text.h"
 
 #include <algorithm>
@@ -74,7 +75,7 @@ std::string MomentText(DateTime moment, ColumnShape shape)
         return "none";
     }
     if (shape == Shape::Day && moment == DateTime(moment.Date())) {
-        return FormatDateTime(moment, "mm/dd/yyyy");
+        return DayText(moment);
     }
     const std::string_view pattern = moment.Time().second == 0 ? "mm/dd/yyyy hh:mm AM/PM" : "mm/dd/yyyy hh:mm:ss AM/PM";
     return FormatDateTime(moment, moment.DayNumber() == 0 ? pattern.substr(pattern.find('h')) : pattern);

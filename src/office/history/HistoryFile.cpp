@@ -1,6 +1,6 @@
 #include "office/history/HistoryFile.h"
 
-#include "platform/text/Text.h"
+#include "platform/text/DayText.h"
 #include "reports/forms/ReportDocument.h"
 
 #include <utility>
@@ -65,7 +65,7 @@ std::string HistoryFile::End() const
 
 std::string HistoryFileName(DateTime today)
 {
-    return "PTK history " + FormatDateTime(today, "yyyy-mm-dd");
+    return "PTK history " + IsoDay(today);
 }
 
 } // namespace ptk

@@ -1,6 +1,6 @@
 #include "office/history/HistoryScope.h"
 
-#include "platform/text/Text.h"
+#include "platform/text/DayText.h"
 #include "store/trail/TrailReader.h"
 
 #include <fmt/format.h>
@@ -10,10 +10,9 @@ namespace ptk {
 std::string ScopeText(const HistoryScope& scope)
 {
     if (scope.record) {
-        return "Only the record of " + FormatDateTime(scope.start, "mm/dd/yyyy hh:mm AM/PM");
+        return "Only the record of " + MomentText(scope.start);
     }
-    const auto day = [](DateTime date) { return FormatDateTime(date, "mm/dd/yyyy"); };
-    const std::string days = day(scope.period.from) + " - " + day(scope.period.to);
+    const std::string days = DayText(scope.period.from) + " - " + DayText(scope.period.to);
     return scope.paidAfter ? fmt::format("Only what was changed since {} was paid", days) : "Only what counts for " + days;
 }
 

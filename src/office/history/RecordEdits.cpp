@@ -3,6 +3,7 @@
 #include "model/CTimeCard.h"
 #include "model/CTimeRecord.h"
 #include "office/history/HistoryText.h"
+#include "platform/text/DayText.h"
 #include "platform/text/Text.h"
 
 #include <fmt/format.h>
@@ -36,8 +37,7 @@ bool IsClockingOut(const TrailEntry& entry)
 std::string EditText(const char* deed, const TrailEntry& entry)
 {
     const auto moment = ParseDateTime(entry.at);
-    return fmt::format("{} by {} on {}{}", deed, EntryPerson(entry), moment ? FormatDateTime(*moment, "mm/dd/yyyy hh:mm AM/PM") : entry.at,
-                       EntryReason(entry));
+    return fmt::format("{} by {} on {}{}", deed, EntryPerson(entry), moment ? MomentText(*moment) : entry.at, EntryReason(entry));
 }
 
 } // namespace

@@ -2,8 +2,8 @@
 #include "office/overview/Overview.h"
 #include "office/overview/OverviewTexts.h"
 #include "platform/text/DataText.h"
+#include "platform/text/DayText.h"
 #include "platform/text/Joined.h"
-#include "platform/text/Text.h"
 
 #include <fmt/format.h>
 
@@ -14,24 +14,14 @@ namespace {
 constexpr auto kCsvHeading = "Number,ID,Name,Regular,Overtime,Gross,Longest week,Clocked in,Problems,Notices,Kind,Severity,Records,Minutes,"
                              "From,To,Text\r\n";
 
-std::string Day(DateTime day)
+std::string IsoMoment(const std::optional<DateTime>& moment)
 {
-    return FormatDateTime(day, "yyyy-mm-dd");
-}
-
-std::string Moment(DateTime moment)
-{
-    return FormatDateTime(moment, "yyyy-mm-dd") + 'T' + FormatDateTime(moment, "hh:nn:ss");
-}
-
-std::string Moment(const std::optional<DateTime>& moment)
-{
-    return moment ? Moment(*moment) : "";
+    return moment ? IsoMoment(*moment) : "";
 }
 
 std::string JsonMoment(const std::optional<DateTime>& moment)
 {
-    return moment ? '"' + Moment(*moment) + '"' : "null";
+    return moment ? '"' + IsoMoment(*moment) + '"' : "null";
 }
 
 std::string JsonFigures(const std::optional<CardFigures>& figures)
@@ -53,12 +43,12 @@ std::string Json(const RecordChange& change)
         return fmt::format(R"({{"record":{},"delete":true}})", change.record.value_or(0));
     }
     const std::string record = change.record ? fmt::format(R"("record":{},)", *change.record) : std::string();
-    return fmt::format(R"({{{}"start":"{}","end":"{}"}})", record, Moment(change.start), Moment(change.end));
+    return fmt::format(R"({{{}"start":"{}","end":"{}"}})", record, IsoMoment(change.start), IsoMoment(change.end));
 }
 
 std::string Json(const WorkWeek& week)
 {
-    return fmt::format(R"({{"from":"{}","hours":"{}","above40":"{}","paidAsOvertime":"{}"}})", Day(week.from), HoursText(week.minutes),
+    return fmt::format(R"({{"from":"{}","hours":"{}","above40":"{}","paidAsOvertime":"{}"}})", IsoDay(week.from), HoursText(week.minutes),
                        HoursText(week.Above40()), HoursText(week.paidAsOvertime));
 }
 
@@ -157,7 +147,8 @@ std::string Csv(const OverviewRow& row)
 std::string Csv(const CEmployee& employee, const Finding& finding)
 {
     return fmt::format("{},,,,,,,,{},{},{},{},{},{},{}\r\n", CsvEmployee(employee), NameOf(finding.kind), NameOf(SeverityOf(finding.kind)),
-                       Joined(finding.records, " "), finding.minutes, Moment(finding.from), Moment(finding.to), CsvText(finding.text));
+                       Joined(finding.records, " "), finding.minutes, IsoMoment(finding.from), IsoMoment(finding.to),
+                       CsvText(finding.text));
 }
 
 } // namespace
@@ -177,8 +168,8 @@ std::string OverviewCsv(const Overview& overview)
 // One line an employee.
 std::string OverviewJson(const Overview& overview)
 {
-    std::string text = fmt::format(R"({{"from":"{}","to":"{}","made":"{}","employees":[)", Day(overview.period.from),
-                                   Day(overview.period.to), Moment(overview.made));
+    std::string text = fmt::format(R"({{"from":"{}","to":"{}","made":"{}","employees":[)", IsoDay(overview.period.from),
+                                   IsoDay(overview.period.to), IsoMoment(overview.made));
     for (const OverviewRow& row : overview.rows) {
         text += (&row == overview.rows.data() ? "\r\n" : ",\r\n") + Json(row, overview.withRemedies);
     }

@@ -4,6 +4,7 @@
 #include "office/card/CardTexts.h"
 #include "platform/Succeeds.h"
 #include "platform/text/DataText.h"
+#include "platform/text/DayText.h"
 #include "platform/text/Text.h"
 
 #include <algorithm>
@@ -16,10 +17,8 @@ namespace {
 
 constexpr auto kNotReadable = "not readable";
 constexpr auto kYes = "yes";
-constexpr auto kPaidDay = "mm/dd/yyyy";
 constexpr auto kOneLeftOut = "{} with records in these days is in no list: {}";
 constexpr auto kSeveralLeftOut = "{} with records in these days are in no list: {}";
-constexpr auto kMoment = "mm/dd/yyyy hh:mm AM/PM";
 
 // A name is one line here, whatever stands in the database.
 std::string OneLine(std::string text)
@@ -45,7 +44,7 @@ std::string PaidText(const OverviewRow& row)
     if (!row.paid) {
         return "";
     }
-    return row.paid->paidAt ? FormatDateTime(*row.paid->paidAt, kPaidDay) : kYes;
+    return row.paid->paidAt ? DayText(*row.paid->paidAt) : kYes;
 }
 
 std::string ChangedText(const OverviewRow& row)
@@ -205,7 +204,7 @@ std::string OverviewNews(const Overview& overview, std::size_t offered)
 {
     const std::size_t read = overview.rows.size();
     const std::int64_t problems = ProblemCount(overview.rows);
-    const std::string made = FormatDateTime(overview.made, kMoment);
+    const std::string made = MomentText(overview.made);
     const char* have = problems == 1 ? "has" : "have";
     if (offered == 0) {
         return fmt::format("Read {}: there are no employees to show.", made);

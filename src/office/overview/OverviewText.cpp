@@ -1,6 +1,7 @@
 #include "office/card/CardTexts.h"
 #include "office/overview/OverviewTable.h"
 #include "office/overview/OverviewTexts.h"
+#include "platform/text/DayText.h"
 #include "platform/text/Text.h"
 #include "reports/forms/ReportDocument.h"
 
@@ -23,11 +24,6 @@ using Cells = OverviewCells;
 
 // Shorter than the window's, for the lines of a terminal and of a page.
 const Cells kHeading{"Name", "Regular", "Overtime", "Gross", "Longest week", "Problems", "Notices", "Clocked in", "Paid", "Changed"};
-
-std::string ShortDay(DateTime day)
-{
-    return FormatDateTime(day, "mm/dd/yyyy");
-}
 
 Cells CellsOf(const OverviewTotals& totals)
 {
@@ -154,7 +150,7 @@ std::string LeftOutText(const Overview& overview)
 
 std::string PeriodText(const Overview& overview)
 {
-    return fmt::format("{} {} - {}", kTitle, ShortDay(overview.period.from), ShortDay(overview.period.to));
+    return fmt::format("{} {} - {}", kTitle, DayText(overview.period.from), DayText(overview.period.to));
 }
 
 } // namespace
@@ -170,7 +166,7 @@ std::string FindingLines(const CardCheck& check, bool showNotices)
 
 std::string OverviewText(const Overview& overview)
 {
-    std::string text = fmt::format("{}, made {}\r\n\r\n", PeriodText(overview), FormatDateTime(overview.made, "mm/dd/yyyy hh:mm AM/PM"));
+    std::string text = fmt::format("{}, made {}\r\n\r\n", PeriodText(overview), MomentText(overview.made));
     if (overview.rows.empty()) {
         return text + kNobody + kLineEnd + LeftOutText(overview);
     }
@@ -228,7 +224,7 @@ std::string OverviewFile(ReportForm form, const Overview& overview)
 
 std::string OverviewFileName(const PayPeriod& period)
 {
-    return "PTK overview " + FormatDateTime(period.from, "yyyy-mm-dd");
+    return "PTK overview " + IsoDay(period.from);
 }
 
 } // namespace ptk

@@ -1,7 +1,7 @@
 #include "office/payday/AccountTable.h"
 
+#include "platform/text/DayText.h"
 #include "platform/text/DecimalSum.h"
-#include "platform/text/Text.h"
 
 #include <algorithm>
 #include <fmt/format.h>
@@ -22,7 +22,7 @@ std::string Hours(const std::string& regular, const std::string& overtime)
 
 void ShowPaid(AccountCells& cells, const Closing& paid)
 {
-    cells[static_cast<std::size_t>(AccountColumn::PaidOn)] = paid.paidAt ? FormatDateTime(*paid.paidAt, "mm/dd/yyyy") : kSomeDay;
+    cells[static_cast<std::size_t>(AccountColumn::PaidOn)] = paid.paidAt ? DayText(*paid.paidAt) : kSomeDay;
     cells[static_cast<std::size_t>(AccountColumn::PaidHours)] = Hours(paid.regular, paid.overtime);
     cells[static_cast<std::size_t>(AccountColumn::Paid)] = paid.gross;
 }

@@ -2,6 +2,7 @@
 #include "model/CEmployee.h"
 #include "office/payday/PaydayAccount.h"
 #include "platform/text/DataText.h"
+#include "platform/text/DayText.h"
 #include "platform/text/Joined.h"
 #include "platform/text/Text.h"
 #include "reports/forms/ReportDocument.h"
@@ -26,14 +27,9 @@ constexpr auto kLineEnd = "\r\n";
 constexpr auto kAccountHeading = "Number,Name,Paid At,Paid By,Regular,Overtime,Gross,Now Regular,Now Overtime,Now Gross,Changed Regular,"
                                  "Changed Overtime,Changed Gross,Changes\r\n";
 
-std::string IsoDay(DateTime day)
+std::string PaidAt(const Closing& closing)
 {
-    return FormatDateTime(day, "yyyy-mm-dd");
-}
-
-std::string IsoMoment(const std::optional<DateTime>& moment)
-{
-    return moment ? IsoDay(*moment) + 'T' + FormatDateTime(*moment, "hh:nn:ss") : "";
+    return closing.paidAt ? IsoMoment(*closing.paidAt) : "";
 }
 
 std::string ThreeJson(const std::string& regular, const std::string& overtime, const std::string& gross)
@@ -44,7 +40,7 @@ std::string ThreeJson(const std::string& regular, const std::string& overtime, c
 
 std::string ClosingJson(const Closing& closing)
 {
-    return fmt::format(R"({{"at":{},"by":{},{}}})", JsonTextOrNull(IsoMoment(closing.paidAt)), JsonTextOrNull(closing.paidBy),
+    return fmt::format(R"({{"at":{},"by":{},{}}})", JsonTextOrNull(PaidAt(closing)), JsonTextOrNull(closing.paidBy),
                        ThreeJson(closing.regular, closing.overtime, closing.gross));
 }
 
@@ -113,10 +109,9 @@ std::string AccountCsv(const PaydayAccount& account)
     for (const AccountPerson& person : account.persons) {
         const auto& employee = person.person.employee;
         for (const Closing& closing : person.paid) {
-            text +=
-                fmt::format("{},{},{},{},{},{},{},{}\r\n", employee == nullptr ? "" : std::to_string(employee->EmployeeNumber()),
-                            employee == nullptr ? "" : CsvText(employee->DisplayName()), IsoMoment(closing.paidAt), CsvText(closing.paidBy),
-                            FigureCell(closing.regular), FigureCell(closing.overtime), FigureCell(closing.gross), PersonCsv(person));
+            text += fmt::format("{},{},{},{},{},{},{},{}\r\n", employee == nullptr ? "" : std::to_string(employee->EmployeeNumber()),
+                                employee == nullptr ? "" : CsvText(employee->DisplayName()), PaidAt(closing), CsvText(closing.paidBy),
+                                FigureCell(closing.regular), FigureCell(closing.overtime), FigureCell(closing.gross), PersonCsv(person));
         }
     }
     return text;
@@ -129,7 +124,7 @@ std::string FiguresText(const std::string& regular, const std::string& overtime,
 
 std::string PaidLine(const Closing& closing)
 {
-    const std::string at = closing.paidAt ? FormatDateTime(*closing.paidAt, "mm/dd/yyyy hh:mm AM/PM") : "at an unknown time";
+    const std::string at = closing.paidAt ? MomentText(*closing.paidAt) : "at an unknown time";
     return fmt::format("paid     {}, {} by {}", FiguresText(closing.regular, closing.overtime, closing.gross), at,
                        closing.paidBy.empty() ? kNoPerson : closing.paidBy);
 }
@@ -151,13 +146,12 @@ std::string ChangedLine(const PaidDifference& changed)
 
 std::string TitleOf(const PaydayAccount& account)
 {
-    const auto day = [](DateTime date) { return FormatDateTime(date, "mm/dd/yyyy"); };
-    return fmt::format("{} {} - {}", kTitle, day(account.period.from), day(account.period.to));
+    return fmt::format("{} {} - {}", kTitle, DayText(account.period.from), DayText(account.period.to));
 }
 
 std::string AccountText(const PaydayAccount& account)
 {
-    std::string text = fmt::format("{}, made {}\r\n", TitleOf(account), FormatDateTime(account.made, "mm/dd/yyyy hh:mm AM/PM"));
+    std::string text = fmt::format("{}, made {}\r\n", TitleOf(account), MomentText(account.made));
     for (const AccountPerson& person : account.persons) {
         text += kLineEnd + NameOf(person.person) + kLineEnd;
         for (const std::string& line : LinesOf(person)) {

@@ -4,6 +4,7 @@
 #include "office/history/HistoryTable.h"
 #include "office/person/PersonData.h"
 #include "platform/text/DataText.h"
+#include "platform/text/DayText.h"
 #include "platform/text/Text.h"
 #include "reports/EmployeeRecords.h"
 #include "reports/forms/CellText.h"
@@ -75,7 +76,7 @@ int YearOf(const PersonPunch& punch)
 
 std::string JsonMoment(const std::optional<DateTime>& moment)
 {
-    return moment ? JsonText(MomentText(*moment)) : "null";
+    return moment ? JsonText(IsoMoment(*moment)) : "null";
 }
 
 std::string PunchJson(const PersonPunch& punch)
@@ -87,10 +88,9 @@ std::string PunchJson(const PersonPunch& punch)
 
 std::string PaidJson(const Closing& closing)
 {
-    const auto day = [](DateTime date) { return FormatDateTime(date, "yyyy-mm-dd"); };
-    return fmt::format(R"({{"from":"{}","to":"{}","at":{},"by":{},"regular":{},"overtime":{},"gross":{}}})", day(closing.period.from),
-                       day(closing.period.to), JsonMoment(closing.paidAt), JsonTextOrNull(closing.paidBy), JsonTextOrNull(closing.regular),
-                       JsonTextOrNull(closing.overtime), JsonTextOrNull(closing.gross));
+    return fmt::format(R"({{"from":"{}","to":"{}","at":{},"by":{},"regular":{},"overtime":{},"gross":{}}})", IsoDay(closing.period.from),
+                       IsoDay(closing.period.to), JsonMoment(closing.paidAt), JsonTextOrNull(closing.paidBy),
+                       JsonTextOrNull(closing.regular), JsonTextOrNull(closing.overtime), JsonTextOrNull(closing.gross));
 }
 
 std::string FileJson(const PersonFile& file)
@@ -190,11 +190,10 @@ private:
 
     void AddPaid()
     {
-        const auto day = [](DateTime date) { return FormatDateTime(date, "mm/dd/yyyy"); };
         std::vector<std::string> lines;
         for (const Closing& closing : m_person.paid) {
-            lines.push_back(
-                fmt::format(kPaidLine, day(closing.period.from), day(closing.period.to), closing.regular, closing.overtime, closing.gross));
+            lines.push_back(fmt::format(kPaidLine, DayText(closing.period.from), DayText(closing.period.to), closing.regular,
+                                        closing.overtime, closing.gross));
         }
         AddLines(kPaidTitle, lines);
     }

@@ -4,6 +4,7 @@
 #include "office/profile/ProfileColumns.h"
 #include "platform/text/CodePage.h"
 #include "platform/text/DataText.h"
+#include "platform/text/DayText.h"
 #include "platform/text/Text.h"
 #include "reports/forms/CellText.h"
 #include "reports/forms/ReportForms.h"
@@ -142,7 +143,7 @@ TableFile TableFileOf(const Profile& profile, std::span<const PaidPerson> people
 
 std::string TableFileName(const PayPeriod& period)
 {
-    return fmt::format("accountant_{}_{}.csv", FormatDateTime(period.from, "yyyy-mm-dd"), FormatDateTime(period.to, "yyyy-mm-dd"));
+    return fmt::format("accountant_{}_{}.csv", IsoDay(period.from), IsoDay(period.to));
 }
 
 std::vector<std::string> TableNotices(const TableFile& file)

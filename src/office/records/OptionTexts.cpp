@@ -2,6 +2,7 @@
 
 #include "model/PayPeriod.h"
 #include "platform/Succeeds.h"
+#include "platform/text/DayText.h"
 #include "platform/text/Text.h"
 #include "shell/CDataValidator.h"
 #include "store/CSystemOptions.h"
@@ -15,7 +16,6 @@ namespace ptk {
 namespace {
 
 constexpr std::int32_t kMostHours = 999;
-constexpr auto kDateFormat = "mm/dd/yyyy";
 
 // A negative length counts as none at all. Raises Failure 6 for one beyond 16 bits.
 std::optional<std::int16_t> PeriodLength(const std::string& text)
@@ -67,7 +67,7 @@ std::string PeriodExample(const std::string& periodLength, DateTime today)
         if (const auto length = PeriodLength(periodLength)) {
             const PayPeriod period = PayPeriodFrom(today, *length);
             example = fmt::format("A period has {} {}, for example {} - {}", *length + 1, *length == 0 ? "day" : "days",
-                                  FormatDateTime(period.from, kDateFormat), FormatDateTime(period.to, kDateFormat));
+                                  DayText(period.from), DayText(period.to));
         }
     });
     return example;

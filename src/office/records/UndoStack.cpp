@@ -2,6 +2,7 @@
 
 #include "office/history/HistoryText.h"
 #include "platform/Succeeds.h"
+#include "platform/text/DayText.h"
 #include "platform/text/Text.h"
 #include "store/CJetDB.h"
 #include "store/DisplayNameSQL.h"
@@ -65,7 +66,7 @@ std::string PaydayDays(const TrailEntry& entry)
         const auto& row = entry.after ? entry.after : entry.before;
         const TrailValue* value = ValueOf(*row, column);
         const auto day = value == nullptr ? std::nullopt : ParseDateTime(value->text);
-        days += day ? (days.empty() ? " " : " - ") + FormatDateTime(*day, "mm/dd/yyyy") : "";
+        days += day ? (days.empty() ? " " : " - ") + DayText(*day) : "";
     }
     return days;
 }
@@ -191,7 +192,7 @@ std::string UndoStack::NameOf(const TrailEntry& entry) const
         return fmt::format("{} {}", entry.table, *entry.row);
     }
     const auto moment = entry.table == "TimeRecord" ? ParseDateTime(text) : std::nullopt;
-    return moment ? FormatDateTime(*moment, "mm/dd/yyyy hh:mm AM/PM") : text;
+    return moment ? MomentText(*moment) : text;
 }
 
 bool UndoStack::Undo()

@@ -2,6 +2,7 @@
 
 #include "model/CEmployee.h"
 #include "model/CEmployeeList.h"
+#include "platform/text/DayText.h"
 #include "platform/text/Text.h"
 
 #include <algorithm>
@@ -18,8 +19,7 @@ constexpr auto kLeftOut = "{} {} in no period: the one before is {}.";
 
 std::string DaysText(const PayPeriod& days)
 {
-    const auto text = [](DateTime day) { return FormatDateTime(day, "mm/dd/yyyy"); };
-    return days.from == days.to ? text(days.from) : text(days.from) + " - " + text(days.to);
+    return days.from == days.to ? DayText(days.from) : DayText(days.from) + " - " + DayText(days.to);
 }
 
 std::string DaysNotice(const char* sentence, const PayPeriod& days, const PayPeriod& before)

@@ -1,6 +1,7 @@
 #include "office/safety/BackupCells.h"
 
 #include "office/card/CardTexts.h"
+#include "platform/text/DayText.h"
 #include "platform/text/Text.h"
 #include "store/backup/BackupNames.h"
 
@@ -41,7 +42,7 @@ BackupCells CellsOf(const BackupEntry& entry)
     const BackupContent content = entry.content.value_or(BackupContent());
     cells.employees = std::to_string(content.employees);
     cells.records = std::to_string(content.records);
-    cells.newestShift = content.newestShift ? FormatDateTime(*content.newestShift, "mm/dd/yyyy") : std::string();
+    cells.newestShift = content.newestShift ? DayText(*content.newestShift) : std::string();
     return cells;
 }
 

@@ -1,5 +1,6 @@
 // Date-times to text.
 #include "platform/text/Characters.h"
+#include "platform/text/DayText.h"
 #include "platform/text/Text.h"
 
 #include <fmt/format.h>
@@ -132,6 +133,26 @@ std::string FormatDateTime(DateTime value, std::string_view pattern)
     out.reserve(pattern.size() + 8);
     AppendDateTime(out, value, pattern);
     return out;
+}
+
+std::string DayText(DateTime day)
+{
+    return FormatDateTime(day, "mm/dd/yyyy");
+}
+
+std::string MomentText(DateTime moment)
+{
+    return FormatDateTime(moment, "mm/dd/yyyy hh:mm AM/PM");
+}
+
+std::string IsoDay(DateTime day)
+{
+    return FormatDateTime(day, "yyyy-mm-dd");
+}
+
+std::string IsoMoment(DateTime moment)
+{
+    return IsoDay(moment) + 'T' + FormatDateTime(moment, "hh:nn:ss");
 }
 
 std::string ShortDateText(DateTime value)

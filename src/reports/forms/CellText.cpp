@@ -1,5 +1,6 @@
 #include "reports/forms/CellText.h"
 
+#include "platform/text/DayText.h"
 #include "platform/text/Text.h"
 
 #include <cmath>
@@ -7,17 +8,6 @@
 #include <fmt/format.h>
 
 namespace ptk {
-
-namespace {
-
-constexpr auto kDay = "yyyy-mm-dd";
-
-} // namespace
-
-std::string MomentText(DateTime moment)
-{
-    return FormatDateTime(moment, kDay) + 'T' + FormatDateTime(moment, "hh:nn:ss");
-}
 
 std::string CellText(CellType type, const Value& cell)
 {
@@ -31,9 +21,9 @@ std::string CellText(CellType type, const Value& cell)
     case CellType::Rate:
         return SingleText(cell.ToSingle());
     case CellType::Date:
-        return FormatDateTime(cell.ToDateTime(), kDay);
+        return IsoDay(cell.ToDateTime());
     case CellType::DateTime:
-        return MomentText(cell.ToDateTime());
+        return IsoMoment(cell.ToDateTime());
     case CellType::Boolean:
         return cell.ToBoolean() ? "true" : "false";
     case CellType::Text:

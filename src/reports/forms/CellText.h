@@ -1,16 +1,12 @@
 // The values of a report's table as the data formats write them.
 #pragma once
 
-#include "platform/text/DateTime.h"
 #include "reports/forms/ReportDocument.h"
 
 #include <cstdint>
 #include <string>
 
 namespace ptk {
-
-// YYYY-MM-DDTHH:MM:SS.
-[[nodiscard]] std::string MomentText(DateTime moment);
 
 // Days as YYYY-MM-DD, hours and money with two decimals, rates with all they have, true or false; texts as they are. Empty for null.
 [[nodiscard]] std::string CellText(CellType type, const Value& cell);

@@ -2,6 +2,7 @@
 
 #include "platform/text/Characters.h"
 #include "platform/text/DataText.h"
+#include "platform/text/DayText.h"
 #include "reports/forms/CellText.h"
 
 #include <fmt/format.h>
@@ -67,7 +68,7 @@ std::string JsonRowOf(const ReportRow& row, const ReportTable& table)
 
 std::string JsonOf(std::span<const ReportDocument> documents, DateTime made)
 {
-    std::string text = fmt::format(R"({{"made":"{}","reports":[)", MomentText(made));
+    std::string text = fmt::format(R"({{"made":"{}","reports":[)", IsoMoment(made));
     for (const ReportDocument& document : documents) {
         text += (&document == documents.data() ? "\r\n" : ",\r\n") + ObjectOf(document);
     }

@@ -2,6 +2,7 @@
 
 #include "platform/Failure.h"
 #include "platform/system/Clock.h"
+#include "platform/text/DayText.h"
 #include "reports/forms/CellText.h"
 #include "reports/forms/PageDrawing.h"
 #include "reports/forms/PageLayout.h"
@@ -118,7 +119,7 @@ std::string PdfOf(std::span<const ReportDocument> documents, PaperSize size, Dat
         drawn.push_back(sheets.emplace_back(page, paper).Drawn());
     }
     const std::string title = TitleOf(documents);
-    const std::string moment = MomentText(made);
+    const std::string moment = IsoMoment(made);
     const PtkPages job{paper.width,   paper.height,   paper.characterWidth, paper.lineHeight,
                        title.c_str(), moment.c_str(), drawn.data(),         drawn.size()};
     std::string bytes;

@@ -6,7 +6,7 @@
 #include "platform/Succeeds.h"
 #include "platform/system/BusyPointer.h"
 #include "platform/system/Clock.h"
-#include "platform/text/Text.h"
+#include "platform/text/DayText.h"
 #include "store/CJetDB.h"
 #include "ui/page/ChangeNews.h"
 #include "ui/page/PageHost.h"
@@ -51,7 +51,7 @@ constexpr int kFirstCount = static_cast<int>(AccountColumn::Changes);
 
 QString Day(DateTime day)
 {
-    return QString::fromStdString(FormatDateTime(day, "mm/dd/yyyy"));
+    return QString::fromStdString(DayText(day));
 }
 
 } // namespace
