@@ -93,12 +93,17 @@ private:
     void TakesPeriod(CLI::App& command);
     CLI::Option* TakesEmployees(CLI::App& command, const char* about);
     CLI::Option* TakesReportForm(CLI::App& command);
-    void CheckReport() const;
+    void CheckReport(const CLI::App& report) const;
     std::variant<Arguments, UsageAnswer> Answer(const CLI::ParseError& error) const;
-    Arguments Result() const;
-    Command ReportResult() const;
-    Command PaydayResult() const;
-    Command FileResult() const;
+    ReportArguments ReportResult(const CLI::App& report) const;
+    PaydayArguments PaydayResult(PaydayTask task, const CLI::App& command) const;
+
+    // `result` makes of the words what the command is called with.
+    template <typename Describe, typename Result>
+    void Add(CLI::App& app, const char* name, const char* about, Describe describe, Result result)
+    {
+        AddCommand(app, name, about, describe, [this, result](const CLI::App& command) { m_result.emplace(result(command)); });
+    }
 
     // As the date boxes of the windows read it: "3/5" is of this year.
     std::optional<DateTime> Day(const std::string& text) const { return ReadTypedDate(text, m_today); }
@@ -108,20 +113,7 @@ private:
     CLI::App m_app{"PTK - Administrator for terminals and scheduled jobs: time cards and reports from the program folder's database",
                    "ptk-console"};
     std::optional<PeopleGrammar> m_people;
-    CLI::App* m_createDatabase = nullptr;
-    CLI::App* m_timeCard = nullptr;
-    CLI::App* m_report = nullptr;
-    CLI::App* m_overview = nullptr;
-    CLI::App* m_payday = nullptr;
-    CLI::App* m_close = nullptr;
-    CLI::App* m_reopen = nullptr;
-    CLI::App* m_history = nullptr;
-    CLI::App* m_backup = nullptr;
-    CLI::App* m_restore = nullptr;
-    CLI::App* m_backups = nullptr;
-    CLI::App* m_import = nullptr;
-    CLI::App* m_importPunches = nullptr;
-    CLI::App* m_copy = nullptr;
+    std::optional<Command> m_result; // of the command that was given
 };
 
 Grammar::Grammar(DateTime today) : m_today(today)
@@ -147,34 +139,41 @@ Grammar::Grammar(DateTime today) : m_today(today)
     DescribeBackups();
     DescribeImport();
     DescribeImportPunches();
-    m_people.emplace(m_app);
+    m_people.emplace(m_app, [this](Command command) { m_result.emplace(std::move(command)); });
     DescribeCopy();
-    m_app.add_subcommand("check", "Verify the database's integrity and schema and print its row counts");
+    Add(m_app, "check", "Verify the database's integrity and schema and print its row counts", TakesNothing,
+        [](const CLI::App&) { return CheckArguments{}; });
 }
 
 void Grammar::DescribeCreateDatabase()
 {
     constexpr auto about = "Make the database file that the configuration names; an existing one stays";
-    m_createDatabase = AddCommand(m_app, "create-database", about, [this](CLI::App& command) {
+    const auto describe = [this](CLI::App& command) {
         CLI::Option* sample = command.add_flag("--sample", m_words.sample, "Fill in a small business with half a year of shifts");
         TakesDay(command.add_option("--today", m_words.today, "The last day of the sample's shifts; else today")->needs(sample));
+    };
+    Add(m_app, "create-database", about, describe, [this](const CLI::App&) {
+        return CreateDatabaseArguments{m_words.sample, Day(m_words.today)};
     });
 }
 
 void Grammar::DescribeTimeCard()
 {
-    m_timeCard = AddCommand(m_app, "time-card", "Print an employee's time card", [this](CLI::App& command) {
+    const auto describe = [this](CLI::App& command) {
         command.add_option("--employee", m_words.employee, "First and last name, or the last name alone where there is no first one")
             ->type_name("NAME")
             ->required();
         TakesPeriod(command);
         command.add_flag("--check", m_words.check, "Say below the card what is wrong with it");
+    };
+    Add(m_app, "time-card", "Print an employee's time card", describe, [this](const CLI::App&) {
+        return TimeCardArguments{m_words.employee, Day(m_words.from).value(), Day(m_words.to).value(), m_words.check};
     });
 }
 
 void Grammar::DescribeReport()
 {
-    m_report = AddCommand(m_app, "report", "Write a report to the reports folder and print it", [this](CLI::App& command) {
+    const auto describe = [this](CLI::App& command) {
         command.add_option("report", m_words.report, "Which one")->type_name("KIND")->check(CLI::IsMember(ConsoleNames()))->required();
         TakesEmployees(command, "An employee's name, may be repeated; else all that the Reports page lists");
         TakesDay(command.add_option("--from", m_words.from, "First day; else as the Reports page offers"));
@@ -186,13 +185,16 @@ void Grammar::DescribeReport()
             .add_option("-o,--output", m_words.output,
                         "Into this file instead of printing it; all reports into one, and each into the reports folder as well")
             ->type_name("FILE");
-    });
-    m_app.add_subcommand("profiles", "List the profiles of the accountant's table");
+    };
+    Add(m_app, "report", "Write a report to the reports folder and print it", describe,
+        [this](const CLI::App& command) { return ReportResult(command); });
+    Add(m_app, "profiles", "List the profiles of the accountant's table", TakesNothing,
+        [](const CLI::App&) { return ProfilesArguments{}; });
 }
 
 void Grammar::DescribeOverview()
 {
-    m_overview = AddCommand(m_app, "overview", "Print whom one can pay for a period, whom not yet, and why", [this](CLI::App& command) {
+    const auto describe = [this](CLI::App& command) {
         CLI::Option* employee = TakesEmployees(command, "An employee's name, may be repeated; else all that are offered time cards");
         command.add_flag("--all", m_words.all, "Everybody else who has records in the period, too")->excludes(employee);
         command.add_flag("--remedies", m_words.remedies, "What can be done about each finding, and the hours after it");
@@ -200,71 +202,82 @@ void Grammar::DescribeOverview()
                                     "First day; else the day after what was closed last, or as the Reports page offers"));
         TakesDay(command.add_option("--to", m_words.to, "Last day, inclusive; else by the length of a pay period"));
         TakesFormat(command, m_words.format);
+    };
+    Add(m_app, "overview", "Print whom one can pay for a period, whom not yet, and why", describe, [this](const CLI::App&) {
+        return OverviewArguments{m_words.employees, Day(m_words.from), Day(m_words.to), m_words.format, m_words.all, m_words.remedies};
     });
 }
 
 void Grammar::DescribePayday()
 {
-    constexpr auto about = "Keep what is paid for a period, take that back, or print what became of it";
-    m_payday = AddCommand(m_app, "payday", about, [this](CLI::App& payday) {
-        payday.require_subcommand(1);
-        const auto takesPeopleOfPeriod = [this](CLI::App& task) {
-            TakesPeriod(task);
-            TakesEmployees(task, "An employee's name, may be repeated");
-        };
-        m_close = AddCommand(payday, "close", "Keep for each person what is paid for the period; without names, of all who have no problem",
-                             takesPeopleOfPeriod);
-        m_reopen = AddCommand(payday, "reopen", "Take the newest closing of the period back; without names, of all who have one",
-                              takesPeopleOfPeriod);
-        AddCommand(payday, "account", "Print what was paid, what the cards say now, and what was changed since", [this](CLI::App& account) {
-            TakesPeriod(account);
-            TakesReportForm(account);
-            account.add_option("-o,--output", m_words.output, "Into this file instead of printing it")->type_name("FILE");
-        });
-    });
+    CLI::App& payday = *m_app.add_subcommand("payday", "Keep what is paid for a period, take that back, or print what became of it");
+    payday.require_subcommand(1);
+    const auto takesPeopleOfPeriod = [this](CLI::App& task) {
+        TakesPeriod(task);
+        TakesEmployees(task, "An employee's name, may be repeated");
+    };
+    const auto takesForm = [this](CLI::App& account) {
+        TakesPeriod(account);
+        TakesReportForm(account);
+        account.add_option("-o,--output", m_words.output, "Into this file instead of printing it")->type_name("FILE");
+    };
+    Add(payday, "close", "Keep for each person what is paid for the period; without names, of all who have no problem", takesPeopleOfPeriod,
+        [this](const CLI::App& close) { return PaydayResult(PaydayTask::Close, close); });
+    Add(payday, "reopen", "Take the newest closing of the period back; without names, of all who have one", takesPeopleOfPeriod,
+        [this](const CLI::App& reopen) { return PaydayResult(PaydayTask::Reopen, reopen); });
+    Add(payday, "account", "Print what was paid, what the cards say now, and what was changed since", takesForm,
+        [this](const CLI::App& account) { return PaydayResult(PaydayTask::Account, account); });
 }
 
 void Grammar::DescribeHistory()
 {
     constexpr auto about = "Print who changed what, when, from what to what; the newest change first";
-    m_history = AddCommand(m_app, "history", about, [this](CLI::App& command) {
+    const auto describe = [this](CLI::App& command) {
         command.add_option("--employee", m_words.employee, "Only what was changed of this employee and of the time records")
             ->type_name("NAME");
         TakesDay(command.add_option("--from", m_words.from, "First day of the changes"));
         TakesDay(command.add_option("--to", m_words.to, "Last day of the changes, inclusive"));
         TakesFormat(command, m_words.format);
+    };
+    Add(m_app, "history", about, describe, [this](const CLI::App& command) {
+        return HistoryArguments{Given(command, "--employee", m_words.employee), Day(m_words.from), Day(m_words.to), m_words.format};
     });
 }
 
 void Grammar::DescribeBackups()
 {
-    constexpr auto about = "Back the database up into the folder backups, and remove backups that need not be kept";
-    m_backup = AddCommand(m_app, "backup", about, [this](CLI::App& command) {
+    const auto takesTarget = [this](CLI::App& command) {
         command.add_option("--to", m_words.target, "Into this new file instead, and remove nothing")->type_name("FILE");
-    });
-    m_restore =
-        AddCommand(m_app, "restore", "Put a backup in the place of the database, which is backed up first", [this](CLI::App& command) {
-            command.add_option("file", m_words.file, "The backup, or the name of one in the folder backups")->type_name("FILE")->required();
-        });
-    m_backups = m_app.add_subcommand("backups", "List the backups, the newest first");
+    };
+    const auto takesBackup = [this](CLI::App& command) {
+        command.add_option("file", m_words.file, "The backup, or the name of one in the folder backups")->type_name("FILE")->required();
+    };
+    Add(m_app, "backup", "Back the database up into the folder backups, and remove backups that need not be kept", takesTarget,
+        [this](const CLI::App& command) { return BackupArguments{Given(command, "--to", m_words.target)}; });
+    Add(m_app, "restore", "Put a backup in the place of the database, which is backed up first", takesBackup,
+        [this](const CLI::App&) { return RestoreArguments{m_words.file}; });
+    Add(m_app, "backups", "List the backups, the newest first", TakesNothing, [](const CLI::App&) { return BackupsArguments{}; });
 }
 
 void Grammar::DescribeImport()
 {
     constexpr auto about = "Bring an older database (.mdb, Jet 3 or 4) along into one that is still empty";
-    m_import = AddCommand(m_app, "import", about, [this](CLI::App& command) {
+    const auto describe = [this](CLI::App& command) {
         command.add_option("file", m_words.file, "The older database; it is only read")->type_name("FILE")->required();
         command.add_flag("--dry-run", m_words.dryRun, "Print the same account, and write nothing");
         command.add_flag("--accept-damaged", m_words.acceptDamaged, "Take what can be read of a file that shows signs of damage");
         TakesCodePage(command.add_option("--code-page", m_words.codePage,
                                          "Of the texts in a Jet 3 file (Access 97), instead of the one that it names"));
+    };
+    Add(m_app, "import", about, describe, [this](const CLI::App& command) {
+        return ImportArguments{m_words.file, m_words.dryRun, m_words.acceptDamaged, Given(command, "--code-page", m_words.codePage)};
     });
 }
 
 void Grammar::DescribeImportPunches()
 {
     constexpr auto about = "Store the punches of a CSV file: pairs of start and end, or events of in and out";
-    m_importPunches = AddCommand(m_app, "import-punches", about, [this](CLI::App& command) {
+    const auto describe = [this](CLI::App& command) {
         command.add_option("file", m_words.file, "The CSV file; it is only read")->type_name("FILE")->required();
         command.add_flag("--dry-run", m_words.dryRun, "Print the same account, and store nothing");
         command.add_flag("--partly", m_words.partly, "Store what can be stored although lines are refused");
@@ -273,18 +286,25 @@ void Grammar::DescribeImportPunches()
         command.add_option("--columns", m_words.columns, "What headings and words mean: Badge=Number,1=In,0=Out")
             ->type_name("FILE=OURS,...")
             ->check(CLI::Validator(fault, ""));
+    };
+    Add(m_app, "import-punches", about, describe, [this](const CLI::App& command) {
+        return ImportPunchesArguments{m_words.file, m_words.dryRun, m_words.partly, Given(command, "--code-page", m_words.codePage),
+                                      ReadSheetWords(m_words.columns).value_or(SheetWords())};
     });
 }
 
 void Grammar::DescribeCopy()
 {
     constexpr auto about = "Copy all that is in the database into a new one: a file or a PostgreSQL server's";
-    m_copy = AddCommand(m_app, "copy-database", about, [this](CLI::App& command) {
+    const auto describe = [this](CLI::App& command) {
         command.add_option("--to", m_words.target, "A file that is not there yet, or the address of a server's empty database")
             ->type_name("DATABASE")
             ->required();
         command.add_option("--from", m_words.from, "This file or address instead of the database that the configuration names")
             ->type_name("DATABASE");
+    };
+    Add(m_app, "copy-database", about, describe, [this](const CLI::App& command) {
+        return CopyDatabaseArguments{Given(command, "--from", m_words.from), m_words.target};
     });
 }
 
@@ -313,17 +333,17 @@ void Grammar::TakesDay(CLI::Option* option) const
 }
 
 // What each report has no use for is refused rather than silently left aside.
-void Grammar::CheckReport() const
+void Grammar::CheckReport(const CLI::App& report) const
 {
     const ReportEntry& entry = *FindConsoleReport(m_words.report);
-    const bool dates = m_report->count("--from") + m_report->count("--to") > 0;
+    const bool dates = report.count("--from") + report.count("--to") > 0;
     const auto refuse = [this](bool given, const char* why) {
         if (given) {
             throw CLI::ValidationError("report " + m_words.report, why);
         }
     };
     refuse(dates && entry.dates == ReportDates::None, "takes no dates");
-    refuse(m_report->count("--profile") > 0 && entry.kind != ReportKind::Review, "has no profiles");
+    refuse(report.count("--profile") > 0 && entry.kind != ReportKind::Review, "has no profiles");
     refuse(!m_words.employees.empty() && entry.whom == ReportWhom::Everyone, "takes no employees");
 }
 
@@ -332,13 +352,10 @@ std::variant<Arguments, UsageAnswer> Grammar::Read(std::vector<std::string> word
     std::reverse(words.begin(), words.end()); // CLI11 takes them from the back
     try {
         m_app.parse(std::move(words));
-        if (m_report->parsed()) {
-            CheckReport();
-        }
     } catch (const CLI::ParseError& error) {
         return Answer(error);
     }
-    return Result();
+    return Arguments{m_words.programFolder, m_result.value()};
 }
 
 std::variant<Arguments, UsageAnswer> Grammar::Answer(const CLI::ParseError& error) const
@@ -353,83 +370,26 @@ std::variant<Arguments, UsageAnswer> Grammar::Answer(const CLI::ParseError& erro
     return UsageAnswer{wrong, std::move(text)};
 }
 
-Arguments Grammar::Result() const
+ReportArguments Grammar::ReportResult(const CLI::App& report) const
 {
-    if (m_createDatabase->parsed()) {
-        return {m_words.programFolder, CreateDatabaseArguments{m_words.sample, Day(m_words.today)}};
-    }
-    if (m_timeCard->parsed()) {
-        return {m_words.programFolder,
-                TimeCardArguments{m_words.employee, Day(m_words.from).value(), Day(m_words.to).value(), m_words.check}};
-    }
-    if (m_report->parsed()) {
-        return {m_words.programFolder, ReportResult()};
-    }
-    if (m_overview->parsed()) {
-        return {m_words.programFolder,
-                OverviewArguments{m_words.employees, Day(m_words.from), Day(m_words.to), m_words.format, m_words.all, m_words.remedies}};
-    }
-    if (m_payday->parsed()) {
-        return {m_words.programFolder, PaydayResult()};
-    }
-    if (m_history->parsed()) {
-        const bool named = m_history->count("--employee") > 0;
-        return {m_words.programFolder, HistoryArguments{named ? std::optional(m_words.employee) : std::nullopt, Day(m_words.from),
-                                                        Day(m_words.to), m_words.format}};
-    }
-    return {m_words.programFolder, m_people->Result().value_or(FileResult())};
+    CheckReport(report);
+    return {*FindConsoleReport(m_words.report),
+            m_words.employees,
+            Day(m_words.from),
+            Day(m_words.to),
+            ReportForms().at(m_words.format),
+            Given(report, "--output", m_words.output),
+            Given(report, "--profile", m_words.profile)};
 }
 
-Command Grammar::ReportResult() const
+PaydayArguments Grammar::PaydayResult(PaydayTask task, const CLI::App& command) const
 {
-    return ReportArguments{*FindConsoleReport(m_words.report),
-                           m_words.employees,
-                           Day(m_words.from),
-                           Day(m_words.to),
-                           ReportForms().at(m_words.format),
-                           m_report->count("--output") > 0 ? std::optional(m_words.output) : std::nullopt,
-                           m_report->count("--profile") > 0 ? std::optional(m_words.profile) : std::nullopt};
-}
-
-Command Grammar::PaydayResult() const
-{
-    const PaydayTask others = m_reopen->parsed() ? PaydayTask::Reopen : PaydayTask::Account;
-    PaydayArguments arguments{m_close->parsed() ? PaydayTask::Close : others,
-                              Day(m_words.from).value(),
-                              Day(m_words.to).value(),
-                              m_words.employees,
-                              ReportForms().at(m_words.format),
-                              {}};
-    if (arguments.task == PaydayTask::Account && m_payday->get_subcommand("account")->count("--output") > 0) {
-        arguments.output = m_words.output;
-    }
-    return arguments;
-}
-
-Command Grammar::FileResult() const
-{
-    if (m_backup->parsed()) {
-        return BackupArguments{m_backup->count("--to") > 0 ? std::optional(m_words.target) : std::nullopt};
-    }
-    if (m_restore->parsed()) {
-        return RestoreArguments{m_words.file};
-    }
-    if (m_backups->parsed()) {
-        return BackupsArguments{};
-    }
-    if (m_import->parsed()) {
-        const bool named = m_import->count("--code-page") > 0;
-        return ImportArguments{m_words.file, m_words.dryRun, m_words.acceptDamaged, named ? std::optional(m_words.codePage) : std::nullopt};
-    }
-    if (m_importPunches->parsed()) {
-        const bool named = m_importPunches->count("--code-page") > 0;
-        return ImportPunchesArguments{m_words.file, m_words.dryRun, m_words.partly, named ? std::optional(m_words.codePage) : std::nullopt,
-                                      ReadSheetWords(m_words.columns).value_or(SheetWords())};
-    }
-    if (m_copy->parsed()) {
-        return CopyDatabaseArguments{m_copy->count("--from") > 0 ? std::optional(m_words.from) : std::nullopt, m_words.target};
-    }
-    return m_app.got_subcommand("profiles") ? Command(ProfilesArguments{}) : CheckArguments{};
+    return {task,
+            Day(m_words.from).value(),
+            Day(m_words.to).value(),
+            m_words.employees,
+            ReportForms().at(m_words.format),
+            task == PaydayTask::Account ? Given(command, "--output", m_words.output) : std::nullopt};
 }
 
 } // namespace

@@ -4,7 +4,7 @@
 #include "console/Arguments.h"
 
 #include <cstdint>
-#include <optional>
+#include <functional>
 #include <string>
 
 namespace CLI {
@@ -16,22 +16,17 @@ namespace ptk {
 class PeopleGrammar
 {
 public:
-    // Adds the commands, which the application keeps. REQUIRES: the grammar outlives its parsing.
-    explicit PeopleGrammar(CLI::App& app);
+    // Adds the commands, which the application keeps; `take` is handed the one that was given. REQUIRES: the grammar outlives the parsing.
+    PeopleGrammar(CLI::App& app, std::function<void(Command)> take);
     PeopleGrammar(const PeopleGrammar&) = delete;
     PeopleGrammar& operator=(const PeopleGrammar&) = delete;
-
-    // After the parsing; nothing where another command was given.
-    [[nodiscard]] std::optional<Command> Result() const;
 
 private:
     void DescribeImport(CLI::App& app);
     void DescribePerson(CLI::App& app);
     void DescribeKept(CLI::App& app);
 
-    CLI::App* m_import = nullptr; // these three belong to the application
-    CLI::App* m_person = nullptr;
-    CLI::App* m_kept = nullptr;
+    std::function<void(Command)> m_take;
     std::string m_file;
     bool m_dryRun = false;
     std::string m_change;
