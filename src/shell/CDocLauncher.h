@@ -10,7 +10,6 @@ namespace ptk {
 
 class Desktop;
 class DesktopWindow;
-enum class ShellVerb;
 
 // Of the box about any document that is not where it should be: the guide's title, which the reports have always shown as well,
 // deliberately.

@@ -7,7 +7,6 @@
 #include "store/engine/Statement.h"
 
 #include <algorithm>
-#include <fmt/format.h>
 
 namespace ptk {
 

@@ -9,7 +9,6 @@
 #include "store/backup/Restore.h"
 #include "store/trail/TrailReader.h"
 
-#include <algorithm>
 #include <filesystem>
 #include <system_error>
 

@@ -12,7 +12,6 @@
 #include "reports/forms/CellText.h"
 #include "shell/CDataValidator.h"
 
-#include <algorithm>
 #include <cmath>
 #include <fmt/format.h>
 #include <functional>
