@@ -25,7 +25,7 @@ std::optional<std::future<void>> Started(const std::function<void()>& work)
 {
     try {
         return std::async(std::launch::async, work);
-    } catch (const std::system_error&) {
+    } catch (const std::exception&) { // no thread, or no memory for one
         return std::nullopt;
     }
 }

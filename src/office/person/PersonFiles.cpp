@@ -2,6 +2,7 @@
 
 #include "model/CEmployeeList.h"
 #include "platform/Failure.h"
+#include "platform/files/Folder.h"
 #include "platform/text/Characters.h"
 #include "platform/text/Text.h"
 #include "store/backup/Backups.h"
@@ -22,18 +23,11 @@ constexpr auto kBackups = "backups";
 // In the order of their names; none without the folder.
 std::vector<std::string> FilesIn(const std::filesystem::path& folder)
 {
-    std::vector<std::string> names;
-    std::error_code error;
-    std::filesystem::directory_iterator at(folder, error);
-    for (const std::filesystem::directory_iterator end; !error && at != end; at.increment(error)) {
+    std::vector<std::string> names = NamesIn(folder.string());
+    std::erase_if(names, [&](const std::string& name) {
         std::error_code unknown;
-        if (at->is_regular_file(unknown)) {
-            names.push_back(at->path().filename().string());
-        }
-    }
-    if (error && error != std::errc::no_such_file_or_directory) {
-        throw Failure::FromErrno(error.value());
-    }
+        return !std::filesystem::is_regular_file(folder / name, unknown);
+    });
     std::sort(names.begin(), names.end());
     return names;
 }

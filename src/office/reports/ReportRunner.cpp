@@ -4,6 +4,7 @@
 #include "model/CEmployeeList.h"
 #include "office/reports/ReportChoice.h"
 #include "office/reports/ReportRun.h"
+#include "platform/Succeeds.h"
 #include "reports/Report.h"
 
 #include <map>
@@ -37,6 +38,27 @@ private:
     std::map<std::string, Owner> m_owners; // by the file's path
 };
 
+// A report and its viewer hold each other until somebody has them both: where what lies before that fails, they go, and the database with
+// them.
+class Unclaimed
+{
+public:
+    explicit Unclaimed(Report& report) : m_report(&report) {}
+    ~Unclaimed()
+    {
+        if (m_report != nullptr) {
+            static_cast<void>(Succeeds([this] { m_report->UnloadReportWindow(); })); // the first failure is on its way
+        }
+    }
+    Unclaimed(const Unclaimed&) = delete;
+    Unclaimed& operator=(const Unclaimed&) = delete;
+
+    void Claim() { m_report = nullptr; }
+
+private:
+    Report* m_report;
+};
+
 void RunEach(const ReportOrder& order, CEmployeeList& employees, ReportClient& client)
 {
     ReportRun run{employees.Count()};
@@ -44,12 +66,14 @@ void RunEach(const ReportOrder& order, CEmployeeList& employees, ReportClient& c
     while (run.done < run.wanted && client.GoOn(run.done)) {
         const auto employee = employees.Item(++run.done);
         const auto report = client.NewReport(order.report);
+        Unclaimed unclaimed(*report);
         const bool complete = report->Generate({order.database, employee, nullptr, order.from, order.to});
         if (report->ErrorNumber() != 0) {
             NoteFailure(run, report->Missing());
         }
         const std::string before = employee != nullptr && report->FileWritten() ? owners.Take(*report, *employee) : "";
         client.Made(*report, complete, DescribeReport(report->ErrorNumber(), report->Missing(), run));
+        unclaimed.Claim();
         if (!before.empty()) {
             run.replaced.push_back(DescribeReplacement(employee->DisplayName(), before));
             client.Replaced(run.replaced.back());
@@ -62,6 +86,7 @@ void RunTogether(const ReportOrder& order, const std::shared_ptr<CEmployeeList>&
 {
     ReportRun people{static_cast<std::int32_t>(order.names.size())};
     const auto report = client.NewReport(order.report);
+    Unclaimed unclaimed(*report);
     report->Progress([&](std::int32_t done, std::int32_t) {
         people.done = done;
         return client.GoOn(done);
@@ -71,6 +96,7 @@ void RunTogether(const ReportOrder& order, const std::shared_ptr<CEmployeeList>&
     const std::string outcome = DescribeReport(report->ErrorNumber(), report->Missing(), people);
     client.Say(outcome);
     client.Made(*report, complete, outcome);
+    unclaimed.Claim();
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "platform/Failure.h"
 #include "platform/files/FileDraft.h"
+#include "platform/files/Folder.h"
 #include "platform/files/ProgramFolder.h"
 #include "platform/Succeeds.h"
 #include "shell/CFileAdaptor.h"
@@ -119,14 +120,13 @@ BackupOutcome MakeBackup(const BackupOrder& order, const CopyProgress& progress)
 
 bool BackupIsDue(const std::string& programFolder, DateTime today)
 {
-    std::error_code error;
-    for (fs::directory_iterator at(BackupFolder(programFolder), error), end; !error && at != end; at.increment(error)) {
-        const auto made = BackupMoment(at->path().filename().string());
-        if (made && DaysBetween(today, *made) == 0) {
-            return false;
-        }
-    }
-    return true;
+    std::vector<std::string> names;
+    static_cast<void>(
+        Succeeds([&] { names = NamesIn(BackupFolder(programFolder)); })); // else it is due, and tells what is wrong with the folder
+    return std::none_of(names.begin(), names.end(), [&](const std::string& name) {
+        const auto made = BackupMoment(name);
+        return made && DaysBetween(today, *made) == 0;
+    });
 }
 
 std::int64_t NewestChange(const std::shared_ptr<CJetDB>& database)

@@ -1,4 +1,6 @@
 #include "platform/files/FileDraft.h"
+#include "platform/files/Folder.h"
+#include "platform/Succeeds.h"
 #include "platform/Waiting.h"
 
 #include <cerrno>
@@ -129,16 +131,16 @@ bool Holds(const std::string& path, std::string_view bytes)
 
 void RemoveAbandonedDrafts(const std::string& folder, const IsOurDraft& isOurs)
 {
-    std::error_code error;
-    for (std::filesystem::directory_iterator at(folder, error), end; !error && at != end; at.increment(error)) {
-        const std::string name = at->path().filename().string();
+    std::vector<std::string> names;
+    static_cast<void>(Succeeds([&] { names = NamesIn(folder); })); // what cannot be seen cannot be cleared away
+    for (const std::string& name : names) {
         const std::string_view draft = DraftOf(name);
         if (draft.empty()) {
             continue;
         }
         const path whole = path(folder) / draft;
         if (isOurs(std::string(TargetOf(draft)), whole.string()) && IsAbandoned(whole)) {
-            ::unlink(at->path().c_str());
+            ::unlink((path(folder) / name).c_str());
         }
     }
 }

@@ -2,6 +2,7 @@
 
 #include "platform/files/FileDraft.h"
 #include "platform/files/FileSteps.h"
+#include "platform/files/Folder.h"
 #include "platform/files/ProgramFolder.h"
 #include "platform/files/SystemFile.h"
 #include "platform/Succeeds.h"
@@ -46,21 +47,6 @@ void ClearFolder(const std::string& folder)
         bool ours = BackupMoment(target) || target.ends_with(kDamagedEnding);
         return ours || Succeeds([&] { return BeginsAsOurs(draft); });
     });
-}
-
-// None where there is no such folder. Raises 70 and the like of one that cannot be read.
-std::vector<std::string> NamesIn(const std::string& folder)
-{
-    std::vector<std::string> names;
-    std::error_code error;
-    fs::directory_iterator at(folder, error);
-    for (const fs::directory_iterator end; !error && at != end; at.increment(error)) {
-        names.push_back(at->path().filename().string());
-    }
-    if (error && error != std::errc::no_such_file_or_directory) {
-        throw Failure::FromErrno(error.value());
-    }
-    return names;
 }
 
 // The first free name from that moment on.

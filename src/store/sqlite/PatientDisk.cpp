@@ -4,6 +4,8 @@
 
 #include <sqlite3.h>
 
+#include <functional>
+
 namespace ptk {
 
 namespace {
@@ -57,7 +59,8 @@ int PatientWrite(sqlite3_file* file, const void* bytes, int size, sqlite3_int64 
 int PatientSync(sqlite3_file* file, int flags)
 {
     int code = SQLITE_OK;
-    waiting::Behind([&] { code = kOn<&Methods::xSync>(file, flags); });
+    const auto flush = [&] { code = kOn<&Methods::xSync>(file, flags); };
+    waiting::Behind(std::ref(flush)); // asks for no memory: nothing may be raised through the engine
     return code;
 }
 
@@ -111,7 +114,7 @@ int DeletePatient(sqlite3_vfs* /*disk*/, const char* name, int flushesFolder)
     if (flushesFolder == 0) {
         remove();
     } else {
-        waiting::Behind(remove);
+        waiting::Behind(std::ref(remove));
     }
     return code;
 }

@@ -145,17 +145,20 @@ private:
     CoarseTime m_end;
 };
 
-void SqliteStatement::Ending::operator()(sqlite3_stmt* statement) const
+void SqliteStatement::Ending::operator()(sqlite3_stmt* statement) noexcept
 {
     if (cache != nullptr) {
-        return cache->Keep(sql, statement);
+        return cache->Keep(std::move(sql), statement);
     }
     sqlite3_finalize(statement); // answers the failure of the last step, which was raised there
 }
 
 SqliteStatement::SqliteStatement(sqlite3* database, std::string_view sql, StatementCache* cache)
-    : m_database(database), m_statement(cache == nullptr ? nullptr : cache->Take(sql), Ending{cache, std::string(sql)})
+    : m_database(database), m_statement(nullptr, Ending{cache, std::string(sql)})
 {
+    if (cache != nullptr) {
+        m_statement.reset(cache->Take(sql));
+    }
     if (m_statement == nullptr) {
         m_statement.reset(PrepareOnly(database, sql));
     }

@@ -56,7 +56,7 @@ public:
 private:
     struct Ending
     {
-        void operator()(sqlite3_stmt* statement) const;
+        void operator()(sqlite3_stmt* statement) noexcept;
 
         StatementCache* cache = nullptr; // nullptr: it is given up
         std::string sql;

@@ -12,6 +12,11 @@ constexpr std::size_t kMost = 8;
 
 } // namespace
 
+StatementCache::StatementCache()
+{
+    m_waiting.reserve(kMost); // so that keeping one never fails
+}
+
 StatementCache::~StatementCache()
 {
     for (const Waiting& waiting : m_waiting) {
@@ -30,7 +35,7 @@ sqlite3_stmt* StatementCache::Take(std::string_view sql)
     return statement;
 }
 
-void StatementCache::Keep(std::string sql, sqlite3_stmt* statement)
+void StatementCache::Keep(std::string&& sql, sqlite3_stmt* statement) noexcept
 {
     sqlite3_reset(statement); // answers the failure of the last step, which was raised there
     sqlite3_clear_bindings(statement);

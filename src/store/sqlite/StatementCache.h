@@ -14,7 +14,7 @@ namespace ptk {
 class StatementCache
 {
 public:
-    StatementCache() = default;
+    StatementCache();
     ~StatementCache();
     StatementCache(const StatementCache&) = delete;
     StatementCache& operator=(const StatementCache&) = delete;
@@ -23,7 +23,7 @@ public:
     [[nodiscard]] sqlite3_stmt* Take(std::string_view sql);
 
     // Takes over one that is done with, and lets go of the one that has waited longest where there are too many.
-    void Keep(std::string sql, sqlite3_stmt* statement);
+    void Keep(std::string&& sql, sqlite3_stmt* statement) noexcept;
 
 private:
     struct Waiting
