@@ -33,6 +33,8 @@ TEST(TrailJson, EveryKindOfValueAndNothingElse)
              Case{R"({"a":{"blob":"00FF"},"b":{"blob":7,"x":{"blob":"01"}}})", "aB00FF bB "},
              Case{R"({"a":"O'Neil \"\u03a9\" \\ \/ \b\f\n\r\t"})", "aTO'Neil \"\xCE\xA9\" \\ / \b\f\n\r\t "},
              Case{R"({"\u674E":"\ud83d\ude00 \ud83d \udE00x"})", "\xE6\x9D\x8ET\xF0\x9F\x98\x80 \xEF\xBF\xBD \xEF\xBF\xBDx "},
+             Case{R"({"a":"\ud83d\u0041\ud83d\ue000"})", "aT\xEF\xBF\xBD"
+                                                         "A\xEF\xBF\xBD\xEE\x80\x80 "},
              Case{"{}", ""},
              Case{"", "none"},
              Case{"no JSON", "none"},
