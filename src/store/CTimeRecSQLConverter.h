@@ -27,7 +27,7 @@ public:
     // too.
     std::string BuildFetchSQL(std::int32_t theemployeeid, DateTime thestarttime, DateTime theendtime);
 
-    // The same with `then` behind its order: see EngineWords::thenByKey.
+    // The fetch with `then` behind its order: see EngineWords::thenByKey.
     std::string BuildFetchSQL(std::int32_t theemployeeid, DateTime thestarttime, DateTime theendtime, const char* then);
 
 private:

@@ -23,8 +23,8 @@ namespace ptk {
 // Raises 11 when the database is damaged.
 std::string BackUp(SqliteEngine& database, const std::string& folder, DateTime now, const CopyProgress& progress = {});
 
-// The same as one operation on the closed database `path`, which raises what opening it raises: 5 when a file is held. Of a server, whose
-// address that is, a backup is a file, too; `progress` is told of rows then.
+// A backup as one operation on the closed database `path`, which raises what opening it raises, too: 5 when a file is held. Of a server,
+// whose address that is, a backup is a file; `progress` is told of rows then.
 std::string BackUp(const std::string& path, const std::string& folder, DateTime now, const CopyProgress& progress = {});
 
 // A backup of that database under a name of one's own. Raises 75 when there is something of that name, 76 without its folder.

@@ -15,7 +15,7 @@ class FileDraft;
 // All paths are in the platform's own form. `progress` is asked at least every 50 milliseconds while a file is checked, copied or flushed,
 // so that a window stays alive, and ends it with 9.
 
-// The same progress as of one part of several that follow each other and take about as long; parts are counted from 0.
+// A progress as of one part of several that follow each other and take about as long; parts are counted from 0.
 [[nodiscard]] CopyProgress PartOf(const CopyProgress& whole, std::int32_t part, std::int32_t parts);
 
 // The database into the empty draft, as of one moment, checked and safe on the disk, but not yet placed. Raises 11 when it is damaged, what

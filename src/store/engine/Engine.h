@@ -101,8 +101,8 @@ public:
     // Commit only.
     virtual std::unique_ptr<Statement> Prepare(std::string_view sql) = 0;
 
-    // The same, ready for the next who asks for this text, also after the database was closed and opened again. Must end before it is
-    // closed.
+    // A statement that stays ready for the next who asks for this text, also after the database was closed and opened again. Must end
+    // before it is closed.
     virtual std::unique_ptr<Statement> PrepareToKeep(std::string_view sql) = 0;
 
     std::unique_ptr<Statement> PrepareStored(std::string_view query);

@@ -10,7 +10,7 @@ extern const char* const kTrailEntrySql;    // what writes its entries; may be r
 extern const char* const kPaydaySql;        // what was paid, and the structure's number; may be run again, too
 extern const char* const kProfileSql;       // the table of profiles, where it is missing
 
-// The same for a server, to be run in this order.
+// What makes a server's database, to be run in this order.
 extern const char* const kServerSchemaSql;
 extern const char* const kServerStoredQueriesSql;
 extern const char* const kServerTrailFunctionsSql; // may be run again over an older version of them

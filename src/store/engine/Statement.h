@@ -43,7 +43,7 @@ public:
     Statement(const Statement&) = delete;
     Statement& operator=(const Statement&) = delete;
 
-    // The same parameter may be assigned again. An unknown name is refused with 25.
+    // A parameter may be assigned again. An unknown name is refused with 25.
     virtual void Bind(const std::string& name, const Value& value) = 0;
     void Bind(std::span<const Parameter> parameters);
 
