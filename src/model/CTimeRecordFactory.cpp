@@ -73,8 +73,7 @@ bool CTimeRecordFactory::Load(std::int32_t theemployeeid, DateTime thestarttime,
         m_lastFailure = m_database->LastFailure();
         return true;
     }
-    const auto rows = m_database->ExecuteSelect(
-        CTimeRecSQLConverter().BuildFetchSQL(theemployeeid, thestarttime, theendtime, m_database->Words().thenByKey));
+    const auto rows = m_database->ExecuteSelect(WholeFetch({theemployeeid, thestarttime, theendtime, m_database->Words().thenByKey}));
     if (rows != nullptr) {
         InsertRows(*rows);
     } else {
@@ -158,7 +157,7 @@ bool CTimeRecordFactory::SaveList()
 // A record that was given another number is not the row that was read, and a new one none at all.
 TimeRecordWrite CTimeRecordFactory::WriteOf(const CTimeRecord& record)
 {
-    TimeRecordWrite write{record.ToSQL(), record.AsRead()};
+    TimeRecordWrite write{WholeStatement(record.Row()), record.AsRead()};
     const bool sameRow = write.asRead && write.asRead->TimeRecordID == record.TimeRecordID() && record.ObjectState() != state::New;
     if (!sameRow || write.statement.empty()) {
         write.asRead.reset();

@@ -43,6 +43,43 @@ void BuildDeleteSQL(std::string& sql, const TimeRecordRow& record)
     Append(sql, "WHERE ((TimeRecord.TimeRecordID = {})); ", record.TimeRecordID);
 }
 
+void BuildFetch(std::string& sql, const TimeRecordFetch& fetch)
+{
+    sql += "SELECT TimeRecord.TimeRecordID, TimeRecord.EmployeeID, TimeRecord.StartTime, TimeRecord.EndTime "
+           "From TimeRecord ";
+    Append(sql, "Where ((TimeRecord.EmployeeID = {}) ", fetch.employeeID);
+    Append(sql, "And ((TimeRecord.StartTime >= #{}#) ", GeneralText(fetch.from));
+    Append(sql, "And (TimeRecord.EndTime <= #{}#))) ", GeneralText(fetch.to));
+    Append(sql, "ORDER BY TimeRecord.StartTime, TimeRecord.EndTime{};", fetch.then);
+}
+
+// Nothing for any other state.
+void Build(std::string& sql, const TimeRecordRow& record)
+{
+    switch (record.ObjectState) {
+    case state::New:
+        return BuildInsertSQL(sql, record);
+    case state::Changed:
+        return BuildUpdateSQL(sql, record);
+    case state::Deleted:
+        return BuildDeleteSQL(sql, record);
+    default:
+        return;
+    }
+}
+
+std::int32_t ErrorOf(std::int32_t state)
+{
+    switch (state) {
+    case state::New:
+        return sqlerror::InsertFailed;
+    case state::Changed:
+        return sqlerror::UpdateFailed;
+    default:
+        return sqlerror::DeleteFailed;
+    }
+}
+
 } // namespace
 
 bool CTimeRecSQLConverter::ResetError()
@@ -58,43 +95,28 @@ std::string CTimeRecSQLConverter::ToSQL(const TimeRecordRow* thetimerecord)
         return "";
     }
     m_sqlstring.clear();
-    switch (thetimerecord->ObjectState) {
-    case state::New:
-        Build(BuildInsertSQL, *thetimerecord, sqlerror::InsertFailed);
-        break;
-    case state::Changed:
-        Build(BuildUpdateSQL, *thetimerecord, sqlerror::UpdateFailed);
-        break;
-    case state::Deleted:
-        Build(BuildDeleteSQL, *thetimerecord, sqlerror::DeleteFailed);
-        break;
-    default:
-        break;
-    }
+    SucceedsOr(ErrorOf(thetimerecord->ObjectState), m_errorNumber, [&] { Build(m_sqlstring, *thetimerecord); });
     return m_sqlstring;
-}
-
-void CTimeRecSQLConverter::Build(Builder builder, const TimeRecordRow& record, std::int32_t errorNumber)
-{
-    SucceedsOr(errorNumber, m_errorNumber, [&] { builder(m_sqlstring, record); });
 }
 
 std::string CTimeRecSQLConverter::BuildFetchSQL(std::int32_t theemployeeid, DateTime thestarttime, DateTime theendtime)
 {
-    return BuildFetchSQL(theemployeeid, thestarttime, theendtime, "");
+    std::string sql;
+    SucceedsOr(sqlerror::FetchFailed, m_errorNumber, [&] { BuildFetch(sql, {theemployeeid, thestarttime, theendtime}); });
+    return sql;
 }
 
-std::string CTimeRecSQLConverter::BuildFetchSQL(std::int32_t theemployeeid, DateTime thestarttime, DateTime theendtime, const char* then)
+std::string WholeStatement(const TimeRecordRow& record)
 {
     std::string sql;
-    SucceedsOr(sqlerror::FetchFailed, m_errorNumber, [&] {
-        sql = "SELECT TimeRecord.TimeRecordID, TimeRecord.EmployeeID, TimeRecord.StartTime, TimeRecord.EndTime "
-              "From TimeRecord ";
-        Append(sql, "Where ((TimeRecord.EmployeeID = {}) ", theemployeeid);
-        Append(sql, "And ((TimeRecord.StartTime >= #{}#) ", GeneralText(thestarttime));
-        Append(sql, "And (TimeRecord.EndTime <= #{}#))) ", GeneralText(theendtime));
-        Append(sql, "ORDER BY TimeRecord.StartTime, TimeRecord.EndTime{};", then);
-    });
+    Build(sql, record);
+    return sql;
+}
+
+std::string WholeFetch(const TimeRecordFetch& fetch)
+{
+    std::string sql;
+    BuildFetch(sql, fetch);
     return sql;
 }
 

@@ -8,7 +8,22 @@
 
 namespace ptk {
 
-// Holds no connection; it only writes text. Error numbers: 810 insert, 811 update, 812 delete, 813 fetch. Nothing is raised.
+// What BuildFetchSQL asks for.
+struct TimeRecordFetch
+{
+    std::int32_t employeeID = 0;
+    DateTime from;
+    DateTime to;
+    const char* then = ""; // stands behind the order: see EngineWords::thenByKey
+};
+
+// The converter's texts, or what making them raised: of half a statement its condition is missing, and it would change, delete or answer
+// everybody's records.
+[[nodiscard]] std::string WholeStatement(const TimeRecordRow& record);
+[[nodiscard]] std::string WholeFetch(const TimeRecordFetch& fetch);
+
+// Holds no connection; it only writes text. Error numbers: 810 insert, 811 update, 812 delete, 813 fetch. Nothing is raised;
+// what was built until a failure is answered, and must not be run.
 class CTimeRecSQLConverter
 {
 public:
@@ -27,13 +42,7 @@ public:
     // too.
     std::string BuildFetchSQL(std::int32_t theemployeeid, DateTime thestarttime, DateTime theendtime);
 
-    // The fetch with `then` behind its order: see EngineWords::thenByKey.
-    std::string BuildFetchSQL(std::int32_t theemployeeid, DateTime thestarttime, DateTime theendtime, const char* then);
-
 private:
-    using Builder = void (*)(std::string& sql, const TimeRecordRow& record);
-    void Build(Builder builder, const TimeRecordRow& record, std::int32_t errorNumber);
-
     std::string m_sqlstring;
     std::int32_t m_errorNumber = 0;
 };

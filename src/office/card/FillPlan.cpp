@@ -99,9 +99,9 @@ FillPlan PlanFill(const FillTexts& texts)
 std::optional<DayNumbers> DaysWithRecords(CJetDB& database, std::int32_t employeeID)
 {
     const CDateRange limits;
-    const auto query = CTimeRecSQLConverter().BuildFetchSQL(employeeID, limits.MinDate(), limits.MaxDate().AddDays(1));
     DayNumbers days;
     const auto read = [&] {
+        const auto query = WholeFetch({employeeID, limits.MinDate(), limits.MaxDate().AddDays(1)});
         const auto rows = database.OpenDB() ? database.ExecuteSelect(query) : nullptr;
         for (; rows != nullptr && !rows->EndOfFile(); rows->MoveNext()) {
             days.insert(rows->Field("StartTime").ToDateTime().DayNumber());
