@@ -78,10 +78,18 @@ void BoundTexts(sqlite3* database)
     sqlite3_limit(database, SQLITE_LIMIT_LIKE_PATTERN_LENGTH, kLongestPattern);
 }
 
+sqlite3_stmt* PreparedRollback(sqlite3* database)
+{
+    sqlite3_stmt* statement = nullptr;
+    RaiseUnlessDone(database, sqlite3_prepare_v3(database, "ROLLBACK", -1, SQLITE_PREPARE_PERSISTENT, &statement, nullptr));
+    return statement;
+}
+
 } // namespace
 
 Connection::Connection(const std::string& path, Access access, WhenHeld whenHeld)
-    : m_path(PlainPath(path)), m_database(OpenFile(m_path, access)), m_access(access), m_whenHeld(whenHeld)
+    : m_path(PlainPath(path)), m_database(OpenFile(m_path, access)), m_rollback(PreparedRollback(Handle()), sqlite3_finalize),
+      m_access(access), m_whenHeld(whenHeld)
 {
     if (FileSize(Handle()) == 0) { // as a device's always is
         RefuseIrregularFile(m_path);
@@ -394,7 +402,8 @@ void Connection::CopyTo(const std::string& path, const std::function<bool(std::i
 void Connection::Release() noexcept
 {
     if (IsHeld()) {
-        m_database.tryExec("ROLLBACK"); // what this cannot undo now, the journal undoes when the file is next opened
+        sqlite3_step(m_rollback.get()); // what this cannot undo now, the journal undoes when the file is next opened
+        sqlite3_reset(m_rollback.get());
     }
 }
 

@@ -112,7 +112,8 @@ private:
     std::string m_path;
     std::optional<FileState> m_parked;
     SQLite::Database m_database;
-    StatementCache m_prepared; // ends before it
+    StatementCache m_prepared;                                        // ends before it
+    std::unique_ptr<sqlite3_stmt, int (*)(sqlite3_stmt*)> m_rollback; // ready beforehand: for its text there may be no memory left
     Access m_access;
     WhenHeld m_whenHeld;
     std::chrono::steady_clock::time_point m_patientUntil;
