@@ -100,16 +100,25 @@ std::string UndoStack::RedoText() const
 
 bool UndoStack::Remember()
 {
+    return OrRefusal([&] {
+        const std::int64_t step = m_database->LastStep();
+        if (step == 0 || m_ours.contains(step)) {
+            return true;
+        }
+        TrailQuery query;
+        query.step = step;
+        query.newerThan = step - 1; // a step has the number of its first entry
+        return Succeeds([&] { Take(ReadTrail(m_database, query)); },
+                        [&](const Failure& failure) { m_refusal = "What was stored cannot be undone: " + failure.Description() + "."; });
+    });
+}
+
+// A long sentence may find no memory, where "Out of memory." needs none.
+template <typename Work>
+bool UndoStack::OrRefusal(Work work)
+{
     m_refusal.clear();
-    const std::int64_t step = m_database->LastStep();
-    if (step == 0 || m_ours.contains(step)) {
-        return true;
-    }
-    TrailQuery query;
-    query.step = step;
-    query.newerThan = step - 1; // a step has the number of its first entry
-    return Succeeds([&] { Take(ReadTrail(m_database, query)); },
-                    [&](const Failure& failure) { m_refusal = "What was stored cannot be undone: " + failure.Description() + "."; });
+    return Succeeds(work, [&](const Failure& failure) { m_refusal = failure.Description() + "."; });
 }
 
 void UndoStack::Take(const std::vector<TrailEntry>& entries)
@@ -197,22 +206,25 @@ std::string UndoStack::NameOf(const TrailEntry& entry) const
 
 bool UndoStack::Undo()
 {
-    return Move(m_done, m_undone, "undone");
+    return OrRefusal([&] { return Move(m_done, m_undone, "undone"); });
 }
 
 bool UndoStack::Redo()
 {
-    return Move(m_undone, m_done, "done again");
+    return OrRefusal([&] { return Move(m_undone, m_done, "done again"); });
 }
 
-// A step on either stack is done by the inverse of its changes, which is then the step on the other.
+// A step on either stack is done by the inverse of its changes, which is then the step on the other. Once it is stored nothing can fail
+// any more: what the stacks need memory for is made before.
 bool UndoStack::Move(std::vector<Step>& from, std::vector<Step>& to, const char* word)
 {
-    m_refusal.clear();
     if (from.empty()) {
         return false;
     }
     Step step = from.back();
+    MovedStep moved = step.told;
+    std::set<std::int64_t> ours{0};
+    to.reserve(to.size() + 1);
     if (!step.complete) {
         m_refusal = fmt::format("\"{}\" was not {}: the former password is not known.", step.told.text, word);
         return false;
@@ -228,8 +240,10 @@ bool UndoStack::Move(std::vector<Step>& from, std::vector<Step>& to, const char*
                         : fmt::format("\"{}\" was not {}: {}.", step.told.text, word, m_database->LastFailure().Description());
         return false;
     }
-    m_ours.insert(m_database->LastStep());
-    m_moved = step.told;
+    auto own = ours.extract(ours.begin());
+    own.value() = m_database->LastStep();
+    m_ours.insert(std::move(own));
+    m_moved = std::move(moved);
     from.pop_back();
     to.push_back(std::move(step));
     return true;

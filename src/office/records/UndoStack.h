@@ -75,6 +75,8 @@ private:
     [[nodiscard]] std::string TextOf(const std::vector<TrailEntry>& entries) const;
     [[nodiscard]] std::string NameOf(const TrailEntry& entry) const;
     [[nodiscard]] bool PutPasswords(const TrailEntry& entry, RowChange& change) const;
+    template <typename Work>
+    bool OrRefusal(Work work);
     bool Move(std::vector<Step>& from, std::vector<Step>& to, const char* word);
 
     std::shared_ptr<CJetDB> m_database;
