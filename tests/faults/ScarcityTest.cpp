@@ -3,22 +3,13 @@
 // again.
 //
 // A sample of the calls, or each PTK_SCARCE-th of them: PTK_SCARCE=1 tries them all, which takes hours.
-#include "faults/Scarcity.h"
 #include "console/Arguments.h"
 #include "console/Program.h"
-#include "store/RawDatabase.h"
-#include "support/Files.h"
-#include "support/FixedClock.h"
-#include "support/OldDatabase.h"
-#include "support/Sources.h"
-#include "support/TemporaryFolder.h"
+#include "faults/ScarceBusiness.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
-#include <filesystem>
-#include <functional>
-#include <iostream>
 #include <ostream>
 #include <streambuf>
 
@@ -26,14 +17,9 @@ namespace ptk {
 
 namespace {
 
-namespace fs = std::filesystem;
-
 constexpr std::int64_t kTriesOfSample = 4; // of each command, each want, and each way to run out
-constexpr std::int64_t kMostCalls = 2'000'000;
 constexpr int kRefused = 1;
 constexpr std::int64_t kSlack = 20; // calls between the words as they are given and as they are read
-
-constexpr std::array kNames{"Memory", "Read", "ShortRead", "Interrupted", "Open", "Forbidden", "Lock", "Look"}; // by Scarce
 
 // Takes no memory.
 class Fixed : public std::streambuf
@@ -91,113 +77,53 @@ class ScarcityTest : public testing::TestWithParam<Command>
 protected:
     ScarcityTest()
     {
-        fs::copy_file(SourceFolder() + "/data/ptk_11.cfg", Path("system/ptk_11.cfg"));
-        fs::current_path(m_folder.Path());
-        EXPECT_EQ(Run({"create-database"}), 0);
-        RawDatabase(m_database)
-            .Run("INSERT INTO Employee (EmployeeNumber, SSNumber, FirstName, LastName, PayRate, OvertimePayRate, Active, AutoDeduct, "
-                 "AutoDeductLunchLength, "
-                 "AutoDeductBreakLength, CompanyID) VALUES (7, '1', 'Ann', 'Lee', 10, 15, 1, 0, 0, 0, 0), (8, '2', 'Bo', 'Kim', 10, 15, 1, "
-                 "0, 0, 0, 0);"
-                 "INSERT INTO TimeRecord (EmployeeID, StartTime, EndTime) VALUES (40, '2026-03-02 08:00:00', '2026-03-02 16:00:00'), "
-                 "(41, '2026-03-03 08:00:00', '1899-12-30 00:00:00')");
-        m_bytes = ReadBytes(m_database);
-        RawDatabase(m_database).Run("UPDATE Employee SET Phone = '55'");
-        fs::copy_file(m_database, Path("sound.mdb"));
-        WriteBytes(Path("punches.csv"), "Number,Start,End\n7,03/04/2026 08:00,03/04/2026 17:00\n");
-        WriteBytes(Path("employees.csv"), "Number,SSN,First Name,Last Name\n9,3,Cy,Day\n");
-        PutBack();
+        std::filesystem::copy_file(m_business.Database(), m_business.Path("sound.mdb"));
+        RawDatabase(m_business.Path("sound.mdb")).Run("UPDATE Employee SET Phone = '55'");
+        WriteBytes(m_business.Path("punches.csv"), "Number,Start,End\n7,03/04/2026 08:00,03/04/2026 17:00\n");
+        WriteBytes(m_business.Path("employees.csv"), "Number,SSN,First Name,Last Name\n9,3,Cy,Day\n");
+        m_business.PutBack();
     }
-    ~ScarcityTest() override { Plenty(); }
 
-    int Run(std::vector<std::string> words)
+    int Run()
     {
-        words.insert(words.begin(), {"--program-folder", m_folder.Path()});
+        std::vector<std::string> words = GetParam().words;
+        words.insert(words.begin(), {"--program-folder", m_business.Folder()});
         m_out.Clear();
         m_err.Clear();
         std::ostream out(&m_out);
         std::ostream err(&m_err);
-        return RunConsole(words, m_clock, out, err);
+        return RunConsole(words, m_business.Clock(), out, err);
     }
 
-    // All that people are paid by, and whether the file is whole.
-    std::string Stored() const
-    {
-        return RawDatabase(m_database)
-            .Rows("SELECT EmployeeID, LastName, Phone, EmployeeNumber FROM Employee; SELECT * FROM TimeRecord; SELECT EmployeeID, FromDay, "
-                  "ToDay, Gross FROM "
-                  "_Payday; SELECT COUNT(*) FROM _Change; SELECT COUNT(*) FROM _Session WHERE user IS NOT NULL; PRAGMA integrity_check");
-    }
-
-    void PutBack() const
-    {
-        for (const char* left : {"system/ptk_11.mdb-journal", "out.pdf"}) {
-            fs::remove(Path(left));
-        }
-        fs::remove_all(Path("backups"));
-        fs::remove_all(Path("reports"));
-        fs::create_directory(Path("reports"));
-        WriteBytes(m_database, m_bytes);
-    }
-
-    // With the failure at that call.
     void TryAt(Scarce what, std::int64_t call, bool all, const std::string& done)
     {
         const Command& command = GetParam();
-        SCOPED_TRACE(testing::Message() << kNames.at(static_cast<std::size_t>(what)) << " at call " << call
-                                        << (all ? " and all behind it" : ""));
         RunOut(what, call, all);
-        const int status = Run(command.words);
+        const int status = Run();
         Plenty();
         const std::string_view told = m_err.Text();
         EXPECT_TRUE(status == command.status || (status == kRefused && told.substr(0, 13) == "ptk-console: " && told.size() > 20))
             << status << ' ' << told;
-        const std::string stored = Stored();
+        const std::string stored = m_business.Stored();
         EXPECT_TRUE(stored == done || (status == kRefused && stored == m_before)) << stored << status << ' ' << told;
-        PutBack();
-        EXPECT_EQ(Run(command.words), command.status) << m_err.Text();
-        EXPECT_EQ(Stored(), done);
-        PutBack();
-    }
-
-    // How many calls of that kind some work makes.
-    static std::int64_t CallsOf(Scarce what, const std::function<void()>& work)
-    {
-        RunOut(what, kMostCalls, false);
-        work();
-        Plenty();
-        return CallsSeen();
+        m_business.PutBack();
+        EXPECT_EQ(Run(), command.status) << m_err.Text();
+        EXPECT_EQ(m_business.Stored(), done);
+        m_business.PutBack();
     }
 
     // Behind the reading of the command line, whose library ends the program where memory runs out.
     void TryWithout(Scarce what, const std::string& done)
     {
-        std::vector<std::string> words = GetParam().words;
-        const std::int64_t read = CallsOf(what, [&] { static_cast<void>(ReadArguments(words, m_clock.Today())); });
-        const std::int64_t first = what == Scarce::Memory ? read + kSlack : 0;
-        const std::int64_t calls = CallsOf(what, [&] { Run(words); });
-        PutBack();
-        const char* const wanted = std::getenv("PTK_SCARCE");
-        const std::int64_t step = wanted != nullptr ? std::atoll(wanted) : std::max<std::int64_t>(1, (calls - first) / kTriesOfSample);
-        int tried = 0;
-        for (const bool all : {false, true}) {
-            if (all && what == Scarce::Interrupted) {
-                continue; // who is interrupted without end tries without end
-            }
-            for (std::int64_t call = first + 1 + step / 3; call <= calls && !HasFailure(); call += step) {
-                TryAt(what, call, all, done);
-                ++tried;
-            }
-        }
-        std::cout << kNames.at(static_cast<std::size_t>(what)) << ": " << calls - first << " calls, " << tried << " tried\n";
+        const std::vector<std::string> words = GetParam().words;
+        const std::int64_t read = CallsOf(what, [&] { static_cast<void>(ReadArguments(words, m_business.Clock().Today())); });
+        const std::int64_t calls = CallsOf(what, [&] { Run(); });
+        m_business.PutBack();
+        TryCalls(what, what == Scarce::Memory ? read + kSlack : 0, calls, kTriesOfSample,
+                 [&](std::int64_t call, bool all) { TryAt(what, call, all, done); });
     }
 
-    std::string Path(const char* name) const { return m_folder.Path() + "/" + name; }
-
-    FixedClock m_clock{DateTime(CalendarDate{2026, 3, 20}, TimeOfDay{9, 30, 0})};
-    TemporaryFolder m_folder;
-    std::string m_database = m_folder.Path() + "/system/ptk_11.mdb";
-    std::string m_bytes; // of the database as it was
+    ScarceBusiness m_business;
     std::string m_before;
     Fixed m_out;
     Fixed m_err;
@@ -205,12 +131,12 @@ protected:
 
 TEST_P(ScarcityTest, SaysSoStoresAllOrNothingAndGoesOnAfterwards)
 {
-    m_before = Stored();
-    ASSERT_EQ(Run(GetParam().words), GetParam().status) << m_err.Text();
-    const std::string done = Stored();
+    m_before = m_business.Stored();
+    ASSERT_EQ(Run(), GetParam().status) << m_err.Text();
+    const std::string done = m_business.Stored();
     EXPECT_EQ(done != m_before, GetParam().writes);
-    PutBack();
-    for (std::size_t what = 0; what < kNames.size(); ++what) {
+    m_business.PutBack();
+    for (std::size_t what = 0; what < kScarceNames.size(); ++what) {
         TryWithout(static_cast<Scarce>(what), done);
     }
 }

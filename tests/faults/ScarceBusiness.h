@@ -1,0 +1,115 @@
+// What the trials of scarcity share: a small business in a folder of its own, what is stored of it, and which calls are to fail.
+#pragma once
+
+#include "console/Program.h"
+#include "faults/Scarcity.h"
+#include "store/RawDatabase.h"
+#include "support/Files.h"
+#include "support/FixedClock.h"
+#include "support/Sources.h"
+#include "support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <filesystem>
+#include <functional>
+#include <iostream>
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace ptk {
+
+constexpr std::array kScarceNames{"Memory", "Read", "ShortRead", "Interrupted", "Open", "Forbidden", "Lock", "Look"}; // by Scarce
+
+class ScarceBusiness
+{
+public:
+    ScarceBusiness()
+    {
+        std::filesystem::copy_file(SourceFolder() + "/data/ptk_11.cfg", Path("system/ptk_11.cfg"));
+        std::filesystem::current_path(m_folder.Path());
+        std::ostringstream out;
+        EXPECT_EQ(RunConsole({"--program-folder", m_folder.Path(), "create-database"}, m_clock, out, out), 0) << out.str();
+        RawDatabase(m_database)
+            .Run("INSERT INTO Employee (EmployeeNumber, SSNumber, FirstName, LastName, PayRate, OvertimePayRate, Active, AutoDeduct, "
+                 "AutoDeductLunchLength, AutoDeductBreakLength, CompanyID) VALUES (7, '1', 'Ann', 'Lee', 10, 15, 1, 0, 0, 0, 0), (8, '2', "
+                 "'Bo', 'Kim', 10, 15, 1, 0, 0, 0, 0);"
+                 "INSERT INTO TimeRecord (EmployeeID, StartTime, EndTime) VALUES (40, '2026-03-02 08:00:00', '2026-03-02 16:00:00'), "
+                 "(41, '2026-03-03 08:00:00', '1899-12-30 00:00:00')");
+        m_bytes = ReadBytes(m_database);
+    }
+    ~ScarceBusiness() { Plenty(); }
+    ScarceBusiness(const ScarceBusiness&) = delete;
+    ScarceBusiness& operator=(const ScarceBusiness&) = delete;
+
+    [[nodiscard]] const std::string& Folder() const { return m_folder.Path(); }
+    [[nodiscard]] const std::string& Database() const { return m_database; }
+    [[nodiscard]] const FixedClock& Clock() const { return m_clock; }
+    [[nodiscard]] std::string Path(const char* name) const { return m_folder.Path() + "/" + name; }
+
+    // All that people are paid by, and whether the file is whole.
+    [[nodiscard]] std::string Stored() const
+    {
+        return RawDatabase(m_database)
+            .Rows("SELECT EmployeeID, LastName, Phone, EmployeeNumber FROM Employee; SELECT * FROM TimeRecord; SELECT EmployeeID, FromDay, "
+                  "ToDay, Gross FROM _Payday; SELECT period_length FROM _System; SELECT COUNT(*) FROM _Change; SELECT COUNT(*) FROM "
+                  "_Session WHERE user IS NOT NULL; PRAGMA integrity_check");
+    }
+
+    // As it was at first.
+    void PutBack() const
+    {
+        for (const char* left : {"system/ptk_11.mdb-journal", "out.pdf"}) {
+            std::filesystem::remove(Path(left));
+        }
+        for (const char* left : {"backups", "reports"}) {
+            std::filesystem::remove_all(Path(left));
+        }
+        std::filesystem::create_directory(Path("reports"));
+        WriteBytes(m_database, m_bytes);
+    }
+
+private:
+    FixedClock m_clock{DateTime(CalendarDate{2026, 3, 20}, TimeOfDay{9, 30, 0})};
+    TemporaryFolder m_folder;
+    std::string m_database = m_folder.Path() + "/system/ptk_11.mdb";
+    std::string m_bytes; // of the database
+};
+
+// How many calls of that kind some work makes.
+inline std::int64_t CallsOf(Scarce what, const std::function<void()>& work)
+{
+    constexpr std::int64_t kMostCalls = 2'000'000;
+    RunOut(what, kMostCalls, false);
+    work();
+    Plenty();
+    return CallsSeen();
+}
+
+// The calls from `first` on, each alone and each with all behind it: a sample of so many, or each PTK_SCARCE-th.
+inline void TryCalls(Scarce what, std::int64_t first, std::int64_t calls, std::int64_t sample,
+                     const std::function<void(std::int64_t call, bool all)>& tryAt)
+{
+    const char* const wanted = std::getenv("PTK_SCARCE");
+    const std::int64_t step = wanted != nullptr ? std::atoll(wanted) : std::max<std::int64_t>(1, (calls - first) / sample);
+    int tried = 0;
+    for (const bool all : {false, true}) {
+        if (all && what == Scarce::Interrupted) {
+            continue; // who is interrupted without end tries without end
+        }
+        for (std::int64_t call = first + 1 + step / 3; call <= calls && !testing::Test::HasFailure(); call += step) {
+            SCOPED_TRACE(testing::Message() << kScarceNames.at(static_cast<std::size_t>(what)) << " at call " << call
+                                            << (all ? " and all behind it" : ""));
+            tryAt(call, all);
+            ++tried;
+        }
+    }
+    std::cout << kScarceNames.at(static_cast<std::size_t>(what)) << ": " << std::max<std::int64_t>(0, calls - first) << " calls, " << tried
+              << " tried\n";
+}
+
+} // namespace ptk
