@@ -48,7 +48,7 @@ std::uint32_t WholeNumber(const JetTable& table, std::size_t column)
 {
     std::uint32_t number = 0;
     const auto bytes = table.Bytes(column);
-    if (!table.IsNull(column)) {
+    if (!table.IsNull(column) && !bytes.empty()) {
         std::memcpy(&number, bytes.data(), std::min(bytes.size(), sizeof number));
     }
     return number;
