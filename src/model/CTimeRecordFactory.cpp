@@ -11,6 +11,9 @@
 #include "store/engine/RecordSet.h"
 #include "store/rows/RowReader.h"
 
+#include <array>
+#include <vector>
+
 namespace ptk {
 
 namespace {
@@ -129,7 +132,7 @@ bool CTimeRecordFactory::Save(const std::shared_ptr<CTimeRecord>& thetimerecord)
         if (m_database != nullptr && thetimerecord != nullptr) {
             const TimeRecordWrite write = WriteOf(*thetimerecord);
             const bool stored = write.asRead ? m_database->SaveTimeRecords({&write, 1}) : m_database->ExecuteAction(write.statement);
-            TakeAnswer(stored, {thetimerecord.get()});
+            TakeAnswer(stored, std::array{thetimerecord.get()});
         }
     };
     return Succeeds(save, [&](const Failure& reason) { Fail(recordfactory::SaveFailed, reason); });
@@ -165,7 +168,7 @@ TimeRecordWrite CTimeRecordFactory::WriteOf(const CTimeRecord& record)
     return write;
 }
 
-void CTimeRecordFactory::TakeAnswer(bool stored, const std::vector<CTimeRecord*>& records)
+void CTimeRecordFactory::TakeAnswer(bool stored, std::span<CTimeRecord* const> records)
 {
     if (!stored) {
         m_errorNumber = recordfactory::SaveFailed;

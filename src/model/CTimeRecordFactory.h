@@ -9,7 +9,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
-#include <vector>
+#include <span>
 
 namespace ptk {
 
@@ -72,7 +72,7 @@ private:
     void InsertRows(RecordSet& rows);
     [[nodiscard]] static TimeRecordWrite WriteOf(const CTimeRecord& record);
     static void Stored(CTimeRecord& record);
-    void TakeAnswer(bool stored, const std::vector<CTimeRecord*>& records);
+    void TakeAnswer(bool stored, std::span<CTimeRecord* const> records);
     void ForgetFailure();
 
     // Always false.

@@ -224,7 +224,7 @@ private:
     void ForgetFailure();
     [[nodiscard]] std::unique_ptr<Engine> OpenEngine(const std::string& path);
     void TakeStep(std::int64_t step);
-    void RememberPassword(std::int32_t employeeID, const std::string& before, const std::string& after);
+    bool Remembering(PasswordChange password, const std::function<bool()>& change);
     bool OpenFile(const std::string& name);
     bool JoinHold();
     void CloseFile();

@@ -35,19 +35,27 @@ std::string HasDisplayName(const std::string& name, const EngineWords& words)
 
 } // namespace
 
-// Also an empty one, and one that took the place of none at all: the trail tells only that it changed.
-void CJetDB::RememberPassword(std::int32_t employeeID, const std::string& before, const std::string& after)
+// Also an empty one, and one that took the place of none at all: the trail tells only that it changed. What that takes is made before:
+// once it is stored nothing may fail any more.
+bool CJetDB::Remembering(PasswordChange password, const std::function<bool()>& change)
 {
-    m_memory->passwords.push_back({m_memory->lastStep, employeeID, before, after});
+    std::vector<PasswordChange>& passwords = m_memory->passwords;
+    if (passwords.size() == passwords.capacity()) {
+        passwords.reserve(2 * passwords.size() + 1);
+    }
+    if (!change()) {
+        return false;
+    }
+    password.step = m_memory->lastStep;
+    passwords.push_back(std::move(password));
+    return true;
 }
 
 bool CJetDB::AddNewEmployee(const EmployeeRow& theemployee)
 {
-    const bool added = Change(jetdb::InsertFailed, [&] { m_database->RunStored("AddNewEmployee", AddNewEmployeeParameters(theemployee)); });
-    if (added) {
-        RememberPassword(0, "", theemployee.Password);
-    }
-    return added;
+    return Remembering({0, 0, "", theemployee.Password}, [&] {
+        return Change(jetdb::InsertFailed, [&] { m_database->RunStored("AddNewEmployee", AddNewEmployeeParameters(theemployee)); });
+    });
 }
 
 bool CJetDB::UpdateEmployee(const EmployeeRow& theemployee)
@@ -57,14 +65,12 @@ bool CJetDB::UpdateEmployee(const EmployeeRow& theemployee)
 
 bool CJetDB::UpdateEmployee(const EmployeeRow& theemployee, const EmployeeRow& asRead)
 {
-    const bool updated = Change(jetdb::UpdateFailed, [&] {
-        RequireAsRead(*m_database, asRead);
-        m_database->RunStored("UpdateEmployee", UpdateEmployeeParameters(theemployee));
+    return Remembering({0, asRead.EmployeeID, asRead.Password, theemployee.Password}, [&] {
+        return Change(jetdb::UpdateFailed, [&] {
+            RequireAsRead(*m_database, asRead);
+            m_database->RunStored("UpdateEmployee", UpdateEmployeeParameters(theemployee));
+        });
     });
-    if (updated) {
-        RememberPassword(asRead.EmployeeID, asRead.Password, theemployee.Password);
-    }
-    return updated;
 }
 
 bool CJetDB::DeleteEmployee(const EmployeeRow& /*theemployee*/)

@@ -7,6 +7,8 @@
 
 #include <fmt/format.h>
 
+#include <utility>
+
 namespace ptk {
 
 namespace {
@@ -59,11 +61,12 @@ bool CSystemOptions::Update()
     if (!m_asRead) {
         return Required(m_database).ExecuteAction(m_sql);
     }
-    const bool updated = Required(m_database).UpdateOptions(m_sql, m_row, *m_asRead);
-    if (updated) {
-        m_asRead = m_row;
+    OptionsRow stored = m_row; // before, since nothing may fail once it is stored
+    if (!Required(m_database).UpdateOptions(m_sql, m_row, *m_asRead)) {
+        return false;
     }
-    return updated;
+    m_asRead = std::move(stored);
+    return true;
 }
 
 bool CSystemOptions::BuildSelectSQL()
