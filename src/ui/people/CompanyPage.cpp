@@ -25,6 +25,7 @@ constexpr CompanyPage::Kind kCompanies{
     .notRead = "An error occurred while loading the company object.",
     .notSaved = "An error occurred while saving the company list.",
     .savedUnread = " saved, but the companies could not be read again",
+    .unread = "The companies could not be read again",
     .list = &PageHost::Companies,
     .find = &CCompanyList::GetCompanyByID,
     .id = &CCompany::CompanyID,

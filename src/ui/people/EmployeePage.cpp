@@ -43,6 +43,7 @@ constexpr EmployeePage::Kind kEmployees{
     .notRead = "An error occurred while loading the employee object.",
     .notSaved = "An error occurred while saving the employee list.",
     .savedUnread = " saved, but the employees could not be read again",
+    .unread = "The employees could not be read again",
     .list = &PageHost::Employees,
     .find = &CEmployeeList::GetEmployeeByID,
     .id = &CEmployee::EmployeeID,

@@ -27,6 +27,7 @@ namespace {
 constexpr auto kSaved = " saved";
 constexpr auto kChanged = " was changed";
 constexpr auto kNotInList = " is not in the list any more";
+constexpr auto kReadAgain = "Try again";
 
 } // namespace
 
@@ -251,7 +252,11 @@ bool TypedRecordPage<Entity, List, Texts>::SaveTexts(const Texts& texts)
     }
     m_host.SharedRecords().Remember();
     const bool isRead = Reload();
-    TellSaved(texts.name + (isRead ? kSaved : m_kind.savedUnread) + (remark.empty() ? "" : ". ") + remark, texts, *edited->entity);
+    const std::string told = texts.name + (isRead ? kSaved : m_kind.savedUnread) + (remark.empty() ? "" : ". ") + remark;
+    TellSaved(told, texts, *edited->entity);
+    if (!isRead) {
+        OfferReading(told);
+    }
     return true;
 }
 
@@ -274,7 +279,17 @@ bool TypedRecordPage<Entity, List, Texts>::Reload()
         m_host.ErrorNumber(windowerror::FillListsFailed);
     }
     ClearFields();
+    if (!isRead) {
+        OfferReading(m_kind.unread);
+    }
     return isRead;
+}
+
+// The lists are empty until then.
+template <typename Entity, typename List, typename Texts>
+void TypedRecordPage<Entity, List, Texts>::OfferReading(const std::string& why)
+{
+    m_notice->Offer(QString::fromStdString(why), kReadAgain, [this] { emit m_host.SharedRecords().ReadAgainWanted(); });
 }
 
 template class TypedRecordPage<CCompany, CCompanyList, CompanyTexts>;

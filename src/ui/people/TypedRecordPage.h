@@ -28,6 +28,7 @@ struct RecordKind
     const char* notRead;
     const char* notSaved;
     const char* savedUnread; // behind the record's name
+    const char* unread;
     std::shared_ptr<List> (PageHost::*list)() const;
     std::shared_ptr<Entity> (List::*find)(std::int32_t id);
     std::int32_t (Entity::*id)() const;
@@ -122,8 +123,9 @@ private:
     bool SaveTexts(const Texts& texts);
     void AskForPresent(const RowConflict& conflict, const std::string& id);
 
-    // Whether the list could be read again.
+    // Whether the list could be read again; if not, the line offers to.
     bool Reload();
+    void OfferReading(const std::string& why);
 
     PageHost& m_host;
     const Kind& m_kind;
