@@ -28,7 +28,10 @@ CheckedTimecard GenerateChecked(CTimeCard& card, const std::shared_ptr<CJetDB>& 
         result.paid = checker.Paid(employee->EmployeeID());
         result.remedies = checker.Remedies(*employee, *result.check, autoShiftEnd);
     };
-    Succeeds(check, [&](const Failure& reason) { result.failure = reason; });
+    Succeeds(check, [&](const Failure& reason) {
+        result.failure = reason;
+        result.check.reset(); // half of one would pass for a whole one
+    });
     return result;
 }
 

@@ -137,7 +137,7 @@ std::optional<Connection::FileState> Connection::ReadState() const
 bool Connection::Park()
 {
     Release();
-    if (IsReplaced()) {
+    if (m_keepsLock || IsReplaced()) {
         return false;
     }
     m_parked = m_access == Access::Write ? ReadState() : std::nullopt;
@@ -300,6 +300,16 @@ bool Connection::Wait()
     return true;
 }
 
+namespace {
+
+// The lock of a writer is first made one of a reader, then given back.
+bool IsOfUnlocking(int reason)
+{
+    return reason == SQLITE_IOERR_RDLOCK || reason == SQLITE_IOERR_UNLOCK;
+}
+
+} // namespace
+
 // EXTRA also flushes the folder after the journal is gone, or a power cut could bring the journal back and undo the commit. It cannot be
 // set inside a transaction and takes a tenth of the time of a whole read, so only files that are written get it.
 void Connection::PrepareWrite()
@@ -317,9 +327,13 @@ void Connection::Commit()
     try {
         Run("COMMIT");
     } catch (const Failure&) {
-        const bool done = sqlite3_extended_errcode(Handle()) == SQLITE_IOERR_DIR_FSYNC; // which comes after the journal is gone
+        const int reason = sqlite3_extended_errcode(Handle());
         Release();
-        if (done) {
+        if (IsOfUnlocking(reason)) {
+            m_keepsLock = true;
+            return; // it is done: the lock goes after the journal is gone
+        }
+        if (reason == SQLITE_IOERR_DIR_FSYNC) { // which comes then, too
             throw EngineFailure(SQLITE_IOERR, kNotYetSafe);
         }
         throw;
@@ -403,7 +417,7 @@ void Connection::Release() noexcept
 {
     if (IsHeld()) {
         sqlite3_step(m_rollback.get()); // what this cannot undo now, the journal undoes when the file is next opened
-        sqlite3_reset(m_rollback.get());
+        m_keepsLock = sqlite3_reset(m_rollback.get()) != SQLITE_OK;
     }
 }
 

@@ -120,6 +120,7 @@ private:
     bool m_inOrder = false; // whether what the file is was seen from outside, without a wait
     bool m_durable = false; // whether commits survive a power cut
     bool m_keepsMore = false;
+    bool m_keepsLock = false; // could not be given back, which closing the file does
 };
 
 } // namespace ptk
