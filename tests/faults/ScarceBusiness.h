@@ -1,8 +1,8 @@
-// What the trials of scarcity share: a small business in a folder of its own, what is stored of it, and which calls are to fail.
+// A small business in a folder of its own, and what is stored of it.
 #pragma once
 
 #include "console/Program.h"
-#include "faults/Scarcity.h"
+#include "faults/ScarceCalls.h"
 #include "store/RawDatabase.h"
 #include "support/Files.h"
 #include "support/FixedClock.h"
@@ -11,19 +11,11 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <array>
-#include <cstdlib>
 #include <filesystem>
-#include <functional>
-#include <iostream>
 #include <sstream>
 #include <string>
-#include <vector>
 
 namespace ptk {
-
-constexpr std::array kScarceNames{"Memory", "Read", "ShortRead", "Interrupted", "Open", "Forbidden", "Lock", "Look"}; // by Scarce
 
 class ScarceBusiness
 {
@@ -79,37 +71,5 @@ private:
     std::string m_database = m_folder.Path() + "/system/ptk_11.mdb";
     std::string m_bytes; // of the database
 };
-
-// How many calls of that kind some work makes.
-inline std::int64_t CallsOf(Scarce what, const std::function<void()>& work)
-{
-    constexpr std::int64_t kMostCalls = 2'000'000;
-    RunOut(what, kMostCalls, false);
-    work();
-    Plenty();
-    return CallsSeen();
-}
-
-// The calls from `first` on, each alone and each with all behind it: a sample of so many, or each PTK_SCARCE-th.
-inline void TryCalls(Scarce what, std::int64_t first, std::int64_t calls, std::int64_t sample,
-                     const std::function<void(std::int64_t call, bool all)>& tryAt)
-{
-    const char* const wanted = std::getenv("PTK_SCARCE");
-    const std::int64_t step = wanted != nullptr ? std::atoll(wanted) : std::max<std::int64_t>(1, (calls - first) / sample);
-    int tried = 0;
-    for (const bool all : {false, true}) {
-        if (all && what == Scarce::Interrupted) {
-            continue; // who is interrupted without end tries without end
-        }
-        for (std::int64_t call = first + 1 + step / 3; call <= calls && !testing::Test::HasFailure(); call += step) {
-            SCOPED_TRACE(testing::Message() << kScarceNames.at(static_cast<std::size_t>(what)) << " at call " << call
-                                            << (all ? " and all behind it" : ""));
-            tryAt(call, all);
-            ++tried;
-        }
-    }
-    std::cout << kScarceNames.at(static_cast<std::size_t>(what)) << ": " << std::max<std::int64_t>(0, calls - first) << " calls, " << tried
-              << " tried\n";
-}
 
 } // namespace ptk

@@ -66,14 +66,19 @@ void* New(std::size_t size)
     return memory;
 }
 
+bool EngineFails()
+{
+    return Fails(Scarce::Memory) || Fails(Scarce::EngineMemory);
+}
+
 void* EngineMalloc(int size)
 {
-    return Fails(Scarce::Memory) ? nullptr : s_engine.xMalloc(size);
+    return EngineFails() ? nullptr : s_engine.xMalloc(size);
 }
 
 void* EngineRealloc(void* memory, int size)
 {
-    return Fails(Scarce::Memory) ? nullptr : s_engine.xRealloc(memory, size);
+    return EngineFails() ? nullptr : s_engine.xRealloc(memory, size);
 }
 
 template <typename Read>
@@ -88,6 +93,16 @@ ssize_t ReadOrNot(std::size_t size, Read read)
 bool OpenFails()
 {
     return Fails(Scarce::Open, ENFILE) || Fails(Scarce::Forbidden, EACCES);
+}
+
+// Where no lock can be taken any more, those that there are can still be given back.
+bool LockFails(int command, const void* argument)
+{
+    if (command != F_SETLK && command != F_OFD_SETLK) {
+        return false;
+    }
+    const bool gives = static_cast<const struct flock*>(argument)->l_type == F_UNLCK;
+    return !(gives && s_all) && Fails(Scarce::Lock, EIO);
 }
 
 } // namespace
@@ -138,6 +153,11 @@ void* operator new(std::size_t size)
 void* operator new[](std::size_t size)
 {
     return New(size);
+}
+
+void* operator new(std::size_t size, const std::nothrow_t& /*nothrow*/) noexcept
+{
+    return Fails(Scarce::Memory) ? nullptr : std::malloc(size == 0 ? 1 : size);
 }
 
 void operator delete(void* memory) noexcept
@@ -213,8 +233,16 @@ int fcntl(int file, int command, ...)
     va_start(arguments, command);
     void* const argument = va_arg(arguments, void*);
     va_end(arguments);
-    const bool locks = command == F_SETLK || command == F_OFD_SETLK;
-    return locks && Fails(Scarce::Lock, ENOLCK) ? -1 : REAL(fcntl)(file, command, argument);
+    return LockFails(command, argument) ? -1 : REAL(fcntl)(file, command, argument);
+}
+
+int fcntl64(int file, int command, ...)
+{
+    va_list arguments;
+    va_start(arguments, command);
+    void* const argument = va_arg(arguments, void*);
+    va_end(arguments);
+    return LockFails(command, argument) ? -1 : REAL(fcntl64)(file, command, argument);
 }
 
 int stat(const char* path, struct stat* status) noexcept

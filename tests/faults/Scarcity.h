@@ -8,9 +8,10 @@ namespace ptk {
 
 enum class Scarce : std::uint8_t
 {
-    Memory,
-    Read,      // fails as on a damaged disk
-    ShortRead, // answers one byte where more were asked for, which is no failure
+    Memory,       // the engine's included
+    EngineMemory, // alone
+    Read,         // fails as on a damaged disk
+    ShortRead,    // answers one byte where more were asked for, which is no failure
     Interrupted,
     Open,      // too many files
     Forbidden, // to open

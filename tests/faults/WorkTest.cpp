@@ -30,7 +30,7 @@ namespace ptk {
 
 namespace {
 
-constexpr std::int64_t kTriesOfSample = 6; // of each work, each want, and each way to run out
+constexpr std::int64_t kTriesOfSample = 3; // of each work, each want, and each way to run out
 
 DateTime Day(int day)
 {
@@ -138,8 +138,10 @@ bool SaveShifts(Desk& desk)
 
 bool SaveEmployee(Desk& desk)
 {
-    desk.people->GetEmployeeByID(40)->Phone("77");
-    return desk.Raising([&] { return desk.people->SaveList(); });
+    return desk.Raising([&] {
+        desk.people->GetEmployeeByID(40)->Phone("77");
+        return desk.people->SaveList();
+    });
 }
 
 void ReadOptions(Desk& desk)

@@ -1,0 +1,51 @@
+// Which calls are to fail, one after the other.
+#pragma once
+
+#include "faults/Scarcity.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <functional>
+#include <iostream>
+
+namespace ptk {
+
+constexpr std::array kScarceNames{"Memory", "EngineMemory", "Read", "ShortRead", "Interrupted",
+                                  "Open",   "Forbidden",    "Lock", "Look"}; // by Scarce
+
+// How many calls of that kind some work makes.
+inline std::int64_t CallsOf(Scarce what, const std::function<void()>& work)
+{
+    constexpr std::int64_t kMostCalls = 2'000'000;
+    RunOut(what, kMostCalls, false);
+    work();
+    Plenty();
+    return CallsSeen();
+}
+
+// The calls from `first` on, each alone and each with all behind it: a sample of so many, or each PTK_SCARCE-th.
+inline void TryCalls(Scarce what, std::int64_t first, std::int64_t calls, std::int64_t sample,
+                     const std::function<void(std::int64_t call, bool all)>& tryAt)
+{
+    const char* const wanted = std::getenv("PTK_SCARCE");
+    const std::int64_t step = wanted != nullptr ? std::atoll(wanted) : std::max<std::int64_t>(1, (calls - first) / sample);
+    int tried = 0;
+    for (const bool all : {false, true}) {
+        if (all && what == Scarce::Interrupted) {
+            continue; // who is interrupted without end tries without end
+        }
+        for (std::int64_t call = first + 1 + step / 3; call <= calls && !testing::Test::HasFailure(); call += step) {
+            SCOPED_TRACE(testing::Message() << kScarceNames.at(static_cast<std::size_t>(what)) << " at call " << call
+                                            << (all ? " and all behind it" : ""));
+            tryAt(call, all);
+            ++tried;
+        }
+    }
+    std::cout << kScarceNames.at(static_cast<std::size_t>(what)) << ": " << std::max<std::int64_t>(0, calls - first) << " calls, " << tried
+              << " tried\n";
+}
+
+} // namespace ptk
