@@ -84,10 +84,16 @@ protected:
         m_business.PutBack();
     }
 
-    int Run()
+    std::vector<std::string> Words() const
     {
         std::vector<std::string> words = GetParam().words;
         words.insert(words.begin(), {"--program-folder", m_business.Folder()});
+        return words;
+    }
+
+    int Run()
+    {
+        const std::vector<std::string> words = Words();
         m_out.Clear();
         m_err.Clear();
         std::ostream out(&m_out);
@@ -115,7 +121,7 @@ protected:
     // Behind the reading of the command line, whose library ends the program where memory runs out.
     void TryWithout(Scarce what, const std::string& done)
     {
-        const std::vector<std::string> words = GetParam().words;
+        const std::vector<std::string> words = Words();
         const std::int64_t read = CallsOf(what, [&] { static_cast<void>(ReadArguments(words, m_business.Clock().Today())); });
         const std::int64_t calls = CallsOf(what, [&] { Run(); });
         m_business.PutBack();
