@@ -2,7 +2,7 @@
 #pragma once
 
 #include "model/Entity.h"
-#include "platform/ErrorNumbers.h"
+#include "model/ModelErrors.h"
 #include "store/rows/Rows.h"
 
 #include <cstdint>

@@ -1,7 +1,7 @@
 // A range of dates with limits, which can be checked, counted, and written as one line of text.
 #pragma once
 
-#include "platform/ErrorNumbers.h"
+#include "model/ModelErrors.h"
 #include "platform/text/DateTime.h"
 #include "platform/text/Value.h"
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "model/Entity.h"
-#include "platform/ErrorNumbers.h"
+#include "model/ModelErrors.h"
 #include "platform/text/DateTime.h"
 #include "store/rows/Rows.h"
 

@@ -4,7 +4,7 @@
 #include "model/CardLine.h"
 #include "model/CDateRange.h"
 #include "model/Entity.h"
-#include "platform/ErrorNumbers.h"
+#include "model/ModelErrors.h"
 #include "platform/Failure.h"
 #include "platform/text/DateTime.h"
 

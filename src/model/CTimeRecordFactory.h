@@ -1,7 +1,7 @@
 // Loads the time records of one employee and period into the one current list of the program, and writes changed records back.
 #pragma once
 
-#include "platform/ErrorNumbers.h"
+#include "model/ModelErrors.h"
 #include "platform/Failure.h"
 #include "platform/text/DateTime.h"
 #include "store/CJetDB.h"

@@ -1,7 +1,7 @@
 // Orders a time record list by time and finds records in it by their times.
 #pragma once
 
-#include "platform/ErrorNumbers.h"
+#include "model/ModelErrors.h"
 #include "platform/text/DateTime.h"
 
 #include <cstdint>

@@ -1,9 +1,9 @@
 // What all reports have in common: a document is made, written to a text file in the reports folder and shown in a viewer.
 #pragma once
 
-#include "platform/ErrorNumbers.h"
 #include "platform/Succeeds.h"
 #include "reports/forms/ReportDocument.h"
+#include "reports/ReportErrors.h"
 #include "reports/ReportViewer.h"
 
 #include <cstdint>

@@ -1,8 +1,8 @@
 #include "reports/TextRenderer.h"
 
-#include "platform/ErrorNumbers.h"
 #include "platform/Succeeds.h"
 #include "reports/forms/ReportDocument.h"
+#include "reports/ReportErrors.h"
 #include "reports/ReportFile.h"
 #include "reports/ReportViewer.h"
 

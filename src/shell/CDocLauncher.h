@@ -1,7 +1,7 @@
 // Opens or prints a document through the desktop's shell.
 #pragma once
 
-#include "platform/ErrorNumbers.h"
+#include "shell/ShellErrors.h"
 
 #include <cstdint>
 #include <string>

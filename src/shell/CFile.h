@@ -1,9 +1,9 @@
 // One text file, read item by item or written line by line, with error numbers instead of raised failures.
 #pragma once
 
-#include "platform/ErrorNumbers.h"
 #include "platform/files/LineFile.h"
 #include "platform/text/Value.h"
+#include "shell/ShellErrors.h"
 
 #include <cstdint>
 #include <string>

@@ -1,8 +1,8 @@
 // The 1-based list that every list of the program is: employees, companies, time records, time cards and plain strings.
 #pragma once
 
-#include "platform/ErrorNumbers.h"
 #include "platform/Succeeds.h"
+#include "shell/ShellErrors.h"
 
 #include <algorithm>
 #include <cstddef>

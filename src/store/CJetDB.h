@@ -2,12 +2,12 @@
 // their tables and the entities through the stored queries inside the file.
 #pragma once
 
-#include "platform/ErrorNumbers.h"
 #include "platform/Failure.h"
 #include "store/engine/Author.h"
 #include "store/engine/WhenHeld.h"
 #include "store/RowConflict.h"
 #include "store/rows/Rows.h"
+#include "store/StoreErrors.h"
 
 #include <cstdint>
 #include <functional>

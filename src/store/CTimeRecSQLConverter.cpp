@@ -1,8 +1,8 @@
 #include "store/CTimeRecSQLConverter.h"
 
-#include "platform/ErrorNumbers.h"
 #include "platform/Succeeds.h"
 #include "platform/text/Text.h"
+#include "store/StoreErrors.h"
 
 #include <fmt/format.h>
 

@@ -1,11 +1,11 @@
 #include "store/RowConflict.h"
 
-#include "platform/ErrorNumbers.h"
 #include "platform/text/Text.h"
 #include "store/engine/Engine.h"
 #include "store/engine/RecordSet.h"
 #include "store/engine/Statement.h"
 #include "store/rows/RowReader.h"
+#include "store/StoreErrors.h"
 
 #include <algorithm>
 #include <fmt/format.h>

@@ -4,11 +4,12 @@
 #include "model/CTimeRecord.h"
 #include "model/CTimeRecordFactory.h"
 #include "model/CTimeRecordList.h"
-#include "platform/ErrorNumbers.h"
+#include "model/ModelErrors.h"
 #include "platform/text/Text.h"
 #include "store/CJetDB.h"
 #include "store/CSystemOptions.h"
 #include "store/engine/RecordSet.h"
+#include "store/StoreErrors.h"
 #include "support/EitherDatabase.h"
 #include "support/Execute.h"
 

@@ -3,8 +3,8 @@
 #include "console/Console.h"
 #include "console/ErrorText.h"
 #include "console/Session.h"
+#include "model/ModelErrors.h"
 #include "office/history/History.h"
-#include "platform/ErrorNumbers.h"
 #include "platform/files/ProgramFolder.h"
 
 namespace ptk {

@@ -5,9 +5,9 @@
 #include "console/ErrorText.h"
 #include "console/Session.h"
 #include "model/CEmployeeList.h"
+#include "model/ModelErrors.h"
 #include "office/payday/PaydayAccount.h"
 #include "office/payday/PaydayClosing.h"
-#include "platform/ErrorNumbers.h"
 #include "platform/files/FileDraft.h"
 #include "platform/system/Clock.h"
 

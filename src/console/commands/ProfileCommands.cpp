@@ -12,6 +12,7 @@
 #include "platform/Succeeds.h"
 #include "platform/system/Clock.h"
 #include "reports/ReportCards.h"
+#include "reports/ReportErrors.h"
 
 #include <algorithm>
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "model/CTimeCard.h"
-#include "platform/ErrorNumbers.h"
+#include "model/ModelErrors.h"
 #include "platform/system/Notice.h"
 
 #include <array>

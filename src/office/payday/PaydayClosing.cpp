@@ -1,10 +1,10 @@
 #include "office/payday/PaydayClosing.h"
 
 #include "model/CEmployeeList.h"
+#include "model/ModelErrors.h"
 #include "model/payday/ClosingReader.h"
 #include "office/card/CardTexts.h"
 #include "office/overview/Overview.h"
-#include "platform/ErrorNumbers.h"
 #include "platform/Failure.h"
 #include "platform/text/Joined.h"
 #include "store/CJetDB.h"

@@ -1,9 +1,9 @@
 #include "ui/editors/FTimeEditor.h"
 
 #include "model/CTimeRecord.h"
+#include "model/ModelErrors.h"
 #include "model/payday/Closing.h"
 #include "model/payday/PaidText.h"
-#include "platform/ErrorNumbers.h"
 #include "platform/Succeeds.h"
 #include "platform/system/Clock.h"
 #include "platform/system/Desktop.h"

@@ -1,7 +1,7 @@
 // What a tab page knows of the main window around it.
 #pragma once
 
-#include "platform/ErrorNumbers.h"
+#include "ui/page/WindowErrors.h"
 
 #include <cstdint>
 #include <memory>
