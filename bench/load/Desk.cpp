@@ -1,5 +1,6 @@
-// ptk_desk ADDRESS SEED SECONDS: one of many who work on the same few employees' records at once. Prints a line for each operation: its
-// name, its microseconds, and what became of it; at the end how many steps of the edit trail it stored.
+// ptk_desk ADDRESS SEED SECONDS PAUSE: one of many who work on the same few employees' records at once, with up to twice PAUSE milliseconds
+// between two of its turns. Prints a line for each operation: its name, its microseconds, and what became of it; at the end how many steps
+// of the edit trail it stored.
 #include "model/CEmployee.h"
 #include "model/CEmployeeList.h"
 #include "model/CTimeRecord.h"
@@ -12,6 +13,7 @@
 #include <fmt/format.h>
 #include <random>
 #include <string>
+#include <thread>
 
 namespace bench {
 
@@ -28,7 +30,7 @@ constexpr std::int32_t kFirstEmployee = 40;
 class Desk
 {
 public:
-    Desk(const std::string& address, unsigned seed) : m_random(seed)
+    Desk(const std::string& address, unsigned seed, std::uint64_t pause) : m_random(seed), m_pause(pause)
     {
         m_database->DatabaseName(address);
         m_database->StoredBy({fmt::format("Desk {}", seed), "load"});
@@ -39,6 +41,7 @@ public:
     {
         const auto until = std::chrono::steady_clock::now() + time;
         while (std::chrono::steady_clock::now() < until) {
+            std::this_thread::sleep_for(std::chrono::milliseconds(m_random() % (2 * m_pause + 1)));
             const std::uint64_t what = m_random() % 10;
             if (what < 8) {
                 ReadAndSave(what);
@@ -163,6 +166,7 @@ private:
     std::int32_t RandomEmployee() { return kFirstEmployee + static_cast<std::int32_t>(m_random() % kEmployees); }
 
     std::mt19937 m_random;
+    std::uint64_t m_pause; // milliseconds
     std::shared_ptr<ptk::CJetDB> m_database = std::make_shared<ptk::CJetDB>(".");
     ptk::CTimeRecordFactory m_factory;
     ptk::UndoStack m_undo{m_database};
@@ -176,10 +180,10 @@ private:
 
 int main(int argc, char** argv)
 {
-    if (argc != 4) {
-        fmt::print(stderr, "usage: ptk_desk ADDRESS SEED SECONDS\n");
+    if (argc != 5) {
+        fmt::print(stderr, "usage: ptk_desk ADDRESS SEED SECONDS PAUSE\n");
         return 2;
     }
-    bench::Desk(argv[1], static_cast<unsigned>(std::stoul(argv[2]))).WorkFor(std::chrono::seconds(std::stol(argv[3])));
+    bench::Desk(argv[1], static_cast<unsigned>(std::stoul(argv[2])), std::stoul(argv[4])).WorkFor(std::chrono::seconds(std::stol(argv[3])));
     return 0;
 }

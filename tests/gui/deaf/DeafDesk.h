@@ -67,6 +67,11 @@ public:
             KeepRecords();
             Oversee();
             Report();
+            SetOptions();
+            Import();
+            if (The<QAction>("mnuFileRestore").isEnabled()) { // not on a server
+                GoBackToABackup();
+            }
         }
         Measure("back up", [this] { Find<QAction>(Main(), "mnuFileBackUp").trigger(); });
         Measure("exit", [this] { m_program.Controller()->UnloadControllerWindow(); });
@@ -91,6 +96,7 @@ private:
     static constexpr int kReports = 2;
     static constexpr int kEmployees = 3;
     static constexpr int kCompanies = 4;
+    static constexpr int kOptions = 5;
 
     template <typename Control>
     Control& The(const char* name)
@@ -201,6 +207,11 @@ private:
             Click(TopLevel("OverviewWindow"), "cmdMend");
             WaitUntilRead("OverviewWindow");
         });
+        Measure("mend, save", [] {
+            const ExpectedModal mending([](QDialog& window) { Click(window, "cmdSave"); });
+            Click(TopLevel("OverviewWindow"), "cmdMend");
+            WaitUntilRead("OverviewWindow");
+        });
         Measure("add a shift", [] {
             const ExpectedModal adding([](QDialog& window) {
                 Find<DateCombo>(window, "dttbShiftDay").SetText("3/1/2003");
@@ -215,6 +226,10 @@ private:
             m_program.desktop.answers = {Answer::Yes};
             Click(TopLevel("OverviewWindow"), "cmdClosePayday");
             WaitUntilRead("OverviewWindow");
+        });
+        Measure("account", [] {
+            Find<QAction>(TopLevel("OverviewWindow"), "mnuAccount").trigger();
+            EXPECT_GT(Find<QTableView>(TopLevel("AccountWindow"), "grdAccount").model()->rowCount(), 0);
         });
     }
 
@@ -233,18 +248,50 @@ private:
             const ExpectedModal table([](QDialog& window) { Click(window, "cmdClose"); });
             Press("cmdAccountant");
         });
-        if (The<QAction>("mnuFileRestore").isEnabled()) { // not on a server
-            LookAtBackups();
-        }
     }
 
-    void LookAtBackups()
+    void SetOptions()
     {
-        Measure("list of backups", [this] {
+        Measure("options", [this] {
+            ClickTab(Main(), kOptions);
+            Type(The<QLineEdit>("txtPeriodLength"), "13");
+            Press("cmdApplyOptions");
+        });
+    }
+
+    void Import()
+    {
+        const std::string file = m_program.folder.Path() + "/sheet.csv";
+        const auto import = [&](const char* action, const char* save) {
+            const ExpectedModal sheet([&](QDialog& window) {
+                Type(Find<QLineEdit>(window, "txtFile"), QString::fromStdString(file));
+                Click(window, "cmdRead");
+                Click(window, save);
+                Click(window, "cmdCancel");
+            });
+            The<QAction>(action).trigger();
+        };
+        std::string punches = "ID,Start,End\n";
+        std::string people = "Number,First Name,Last Name,SSN\n";
+        for (int line = 0; line < 300; ++line) {
+            punches += fmt::format("{},2003-02-{:02} 08:00,2003-02-{:02} 17:00\n", 40 + line % 20, 1 + line / 20, 1 + line / 20);
+            people += fmt::format("{},Ann,Lee {},{}\n", 1000 + line, line, 1000 + line);
+        }
+        WriteBytes(file, punches);
+        Measure("import punches", [&] { import("mnuFilePunches", "cmdImport"); });
+        WriteBytes(file, people);
+        Measure("import employees", [&] { import("mnuFileEmployees", "cmdSave"); });
+    }
+
+    void GoBackToABackup()
+    {
+        Measure("back up, restore", [this] {
+            The<QAction>("mnuFileBackUp").trigger();
+            m_program.desktop.answers = {Answer::Yes};
             const ExpectedModal choice([](QDialog& window) {
                 const auto& list = Find<QTableWidget>(window, "grdBackups");
                 EXPECT_TRUE(QTest::qWaitFor([&] { return list.findItems("checking...", Qt::MatchExactly).isEmpty(); }, 60000));
-                window.reject();
+                Find<QPushButton>(window, "cmdRestore").click();
             });
             The<QAction>("mnuFileRestore").trigger();
         });
