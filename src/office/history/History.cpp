@@ -1,6 +1,8 @@
 #include "office/history/History.h"
 
+#include "platform/text/CsvLine.h"
 #include "platform/text/DataText.h"
+#include "platform/text/JsonWriter.h"
 #include "store/CJetDB.h"
 
 #include <fmt/format.h>
@@ -44,38 +46,40 @@ std::string Json(const std::optional<TrailRow>& row)
     if (!row) {
         return "null";
     }
-    std::string text;
+    JsonObject object;
     for (const TrailValue& value : *row) {
-        text += (text.empty() ? "" : ",") + JsonText(value.column) + ":" + Json(value);
+        object.Json(value.column, Json(value));
     }
-    return "{" + text + "}";
+    return object.Done();
 }
 
-std::string JsonOrNull(const std::string& text)
+std::string JsonLine(const TrailEntry& entry, const std::string& text)
 {
-    return text.empty() ? "null" : JsonText(text);
+    return JsonObject()
+        .Number("id", entry.id)
+        .Text("at", Moment(entry.at))
+        .TextOrNull("by", entry.by)
+        .TextOrNull("program", entry.program)
+        .NumberOrNull("step", entry.step)
+        .TextOrNull("table", entry.table)
+        .NumberOrNull("row", entry.row)
+        .Text("action", entry.action)
+        .Json("before", Json(entry.before))
+        .Json("after", Json(entry.after))
+        .Text("text", text)
+        .TextOrNull("reason", entry.reason)
+        .Done();
 }
 
-std::string NumberOr(const std::optional<std::int64_t>& number, const char* none)
+std::string LineInCsv(const TrailEntry& entry, const std::string& text)
 {
-    return number ? std::to_string(*number) : none;
-}
-
-std::string JsonObject(const TrailEntry& entry, const std::string& text)
-{
-    return fmt::format(
-        R"({{"id":{},"at":{},"by":{},"program":{},"step":{},"table":{},"row":{},"action":{},"before":{},"after":{},"text":{},"reason":{}}})",
-        entry.id, JsonText(Moment(entry.at)), JsonOrNull(entry.by), JsonOrNull(entry.program), NumberOr(entry.step, "null"),
-        JsonOrNull(entry.table), NumberOr(entry.row, "null"), JsonText(entry.action), Json(entry.before), Json(entry.after), JsonText(text),
-        JsonOrNull(entry.reason));
-}
-
-std::string CsvLine(const TrailEntry& entry, const std::string& text)
-{
-    const auto row = [](const std::optional<TrailRow>& side) { return side ? CsvText(Json(side)) : std::string(); };
-    return fmt::format("{},{},{},{},{},{},{},{},{},{},{},{}\r\n", entry.id, CsvText(Moment(entry.at)), CsvText(entry.by),
-                       CsvText(entry.program), NumberOr(entry.step, ""), CsvText(entry.table), NumberOr(entry.row, ""),
-                       CsvText(entry.action), row(entry.before), row(entry.after), CsvText(text), CsvText(entry.reason));
+    CsvLine line;
+    line.Number(entry.id).Text(Moment(entry.at)).Text(entry.by).Text(entry.program).Number(entry.step).Text(entry.table);
+    line.Number(entry.row).Text(entry.action);
+    for (const auto& side : {entry.before, entry.after}) {
+        line.Text(side ? Json(side) : "");
+    }
+    return line.Text(text).Text(entry.reason).Done();
 }
 
 std::string TextLine(const TrailEntry& entry, const std::string& text)
@@ -107,7 +111,7 @@ std::string HistoryIn(ReportForm form, const std::shared_ptr<CJetDB>& database, 
 
 std::string HistoryJson(const TrailEntry& entry, const NameOfEmployee& nameOf)
 {
-    return JsonObject(entry, EntrySentence(entry, nameOf));
+    return JsonLine(entry, EntrySentence(entry, nameOf));
 }
 
 std::string HistoryHeading(ReportForm form)
@@ -118,7 +122,7 @@ std::string HistoryHeading(ReportForm form)
 std::string HistoryLine(ReportForm form, const TrailEntry& entry, const NameOfEmployee& nameOf)
 {
     const std::string sentence = EntrySentence(entry, nameOf);
-    return form == ReportForm::Csv ? CsvLine(entry, sentence) : TextLine(entry, sentence);
+    return form == ReportForm::Csv ? LineInCsv(entry, sentence) : TextLine(entry, sentence);
 }
 
 } // namespace ptk

@@ -1,11 +1,10 @@
 // The overview as CSV and JSON. Figures are the texts that a time card shows, so that no reader rounds them again.
 #include "office/overview/Overview.h"
 #include "office/overview/OverviewTexts.h"
-#include "platform/text/DataText.h"
+#include "platform/text/CsvLine.h"
 #include "platform/text/DayText.h"
 #include "platform/text/Joined.h"
-
-#include <fmt/format.h>
+#include "platform/text/JsonWriter.h"
 
 namespace ptk {
 
@@ -19,136 +18,150 @@ std::string IsoMoment(const std::optional<DateTime>& moment)
     return moment ? IsoMoment(*moment) : "";
 }
 
-std::string JsonMoment(const std::optional<DateTime>& moment)
+// null where there are none.
+JsonObject& AddFigures(JsonObject& object, const std::optional<CardFigures>& figures)
 {
-    return moment ? '"' + IsoMoment(*moment) + '"' : "null";
+    const auto text = [&](std::string CardFigures::*figure) { return figures ? std::optional((*figures).*figure) : std::nullopt; };
+    return object.TextOrNull("regular", text(&CardFigures::regular))
+        .TextOrNull("overtime", text(&CardFigures::overtime))
+        .TextOrNull("gross", text(&CardFigures::gross));
 }
 
-std::string JsonFigures(const std::optional<CardFigures>& figures)
-{
-    if (!figures) {
-        return R"("regular":null,"overtime":null,"gross":null)";
-    }
-    return fmt::format(R"("regular":"{}","overtime":"{}","gross":"{}")", figures->regular, figures->overtime, figures->gross);
-}
-
-std::string JsonTextOrNull(const std::optional<std::string>& text)
-{
-    return text ? JsonText(*text) : "null";
-}
-
-std::string Json(const RecordChange& change)
+std::string ChangeJson(const RecordChange& change)
 {
     if (change.deletes) {
-        return fmt::format(R"({{"record":{},"delete":true}})", change.record.value_or(0));
+        return JsonObject().Number("record", change.record.value_or(0)).Truth("delete", true).Done();
     }
-    const std::string record = change.record ? fmt::format(R"("record":{},)", *change.record) : std::string();
-    return fmt::format(R"({{{}"start":"{}","end":"{}"}})", record, IsoMoment(change.start), IsoMoment(change.end));
-}
-
-std::string Json(const WorkWeek& week)
-{
-    return fmt::format(R"({{"from":"{}","hours":"{}","above40":"{}","paidAsOvertime":"{}"}})", IsoDay(week.from), HoursText(week.minutes),
-                       HoursText(week.Above40()), HoursText(week.paidAsOvertime));
-}
-
-std::string Json(const Remedy& remedy);
-std::string Json(const LeftOut& out);
-
-template <typename Items>
-std::string JsonList(const Items& items)
-{
-    std::string list;
-    for (const auto& item : items) {
-        list += (list.empty() ? "" : ",") + Json(item);
+    JsonObject object;
+    if (change.record) {
+        object.Number("record", *change.record);
     }
-    return '[' + list + ']';
+    return object.Moment("start", change.start).Moment("end", change.end).Done();
 }
 
-std::string Json(const Remedy& remedy)
+std::string WeekJson(const WorkWeek& week)
 {
-    return fmt::format(R"({{"text":{},"hours":{},"changes":{}}})", JsonText(remedy.text), JsonTextOrNull(remedy.hours),
-                       JsonList(remedy.changes));
+    return JsonObject()
+        .Day("from", week.from)
+        .Text("hours", HoursText(week.minutes))
+        .Text("above40", HoursText(week.Above40()))
+        .Text("paidAsOvertime", HoursText(week.paidAsOvertime))
+        .Done();
+}
+
+std::string RemedyJson(const Remedy& remedy)
+{
+    return JsonObject()
+        .Text("text", remedy.text)
+        .TextOrNull("hours", remedy.hours)
+        .Json("changes", JsonList(remedy.changes, ChangeJson))
+        .Done();
 }
 
 // remedies: those of this finding, nullptr where nobody asked for them.
-std::string Json(const Finding& finding, const std::vector<Remedy>* remedies)
+std::string FindingJson(const Finding& finding, const std::vector<Remedy>* remedies)
 {
-    return fmt::format(R"({{"kind":"{}","severity":"{}","records":[{}],"minutes":{},"from":{},"to":{},"text":{}{}}})", NameOf(finding.kind),
-                       NameOf(SeverityOf(finding.kind)), Joined(finding.records, ","), finding.minutes, JsonMoment(finding.from),
-                       JsonMoment(finding.to), JsonText(finding.text), remedies == nullptr ? "" : R"(,"remedies":)" + JsonList(*remedies));
-}
-
-std::string JsonFindings(const OverviewRow& row, bool withRemedies)
-{
-    std::string list;
-    for (std::size_t i = 0; i < row.check.findings.size(); ++i) {
-        list += (i == 0 ? "" : ",") + Json(row.check.findings[i], withRemedies ? &row.remedies.at(i) : nullptr);
+    JsonObject object;
+    object.Text("kind", NameOf(finding.kind))
+        .Text("severity", NameOf(SeverityOf(finding.kind)))
+        .Json("records", '[' + Joined(finding.records, ",") + ']')
+        .Number("minutes", finding.minutes)
+        .Moment("from", finding.from)
+        .Moment("to", finding.to)
+        .Text("text", finding.text);
+    if (remedies != nullptr) {
+        object.Json("remedies", JsonList(*remedies, RemedyJson));
     }
-    return '[' + list + ']';
+    return object.Done();
 }
 
-std::string JsonPaid(const std::optional<Closing>& paid)
+std::string FindingsJson(const OverviewRow& row, bool withRemedies)
+{
+    return JsonList(row.check.findings, [&](const Finding& finding) {
+        const auto place = static_cast<std::size_t>(&finding - row.check.findings.data());
+        return FindingJson(finding, withRemedies ? &row.remedies.at(place) : nullptr);
+    });
+}
+
+std::string PaidJson(const std::optional<Closing>& paid)
 {
     if (!paid) {
         return "null";
     }
-    return fmt::format(R"({{"at":{},"by":{},"regular":{},"overtime":{},"gross":{}}})", JsonMoment(paid->paidAt),
-                       JsonTextOrNull(paid->paidBy), JsonTextOrNull(paid->regular), JsonTextOrNull(paid->overtime),
-                       JsonTextOrNull(paid->gross));
+    return JsonObject()
+        .Moment("at", paid->paidAt)
+        .TextOrNull("by", paid->paidBy)
+        .TextOrNull("regular", paid->regular)
+        .TextOrNull("overtime", paid->overtime)
+        .TextOrNull("gross", paid->gross)
+        .Done();
 }
 
-std::string JsonChanged(const std::optional<PaidDifference>& changed)
+std::string ChangedJson(const std::optional<PaidDifference>& changed)
 {
     if (!changed) {
         return "null";
     }
-    return fmt::format(R"({{"regular":{},"overtime":{},"gross":{}}})", JsonTextOrNull(changed->regular), JsonTextOrNull(changed->overtime),
-                       JsonTextOrNull(changed->gross));
+    return JsonObject()
+        .TextOrNull("regular", changed->regular)
+        .TextOrNull("overtime", changed->overtime)
+        .TextOrNull("gross", changed->gross)
+        .Done();
 }
 
-std::string JsonPayday(const OverviewRow& row)
+JsonObject& AddPayday(JsonObject& object, const OverviewRow& row)
 {
-    return fmt::format(R"("paid":{},"changed":{})", JsonPaid(row.paid), JsonChanged(row.check.changed));
+    return object.Json("paid", PaidJson(row.paid)).Json("changed", ChangedJson(row.check.changed));
 }
 
-std::string Json(const LeftOut& out)
+std::string LeftOutJson(const LeftOut& out)
 {
     const CEmployee* employee = out.row.employee.get();
-    return fmt::format(R"({{"number":{},"id":{},"name":{},"reason":"{}","records":{},{},{}}})",
-                       employee == nullptr ? "null" : std::to_string(employee->EmployeeNumber()), out.id ? std::to_string(*out.id) : "null",
-                       employee == nullptr ? "null" : JsonText(employee->DisplayName()), NameOf(out.reason), out.row.records,
-                       JsonFigures(out.row.figures), JsonPayday(out.row));
+    JsonObject object;
+    object.NumberOrNull("number", employee == nullptr ? std::nullopt : std::optional<std::int64_t>(employee->EmployeeNumber()))
+        .NumberOrNull("id", out.id)
+        .TextOrNull("name", employee == nullptr ? std::nullopt : std::optional(employee->DisplayName()))
+        .Text("reason", NameOf(out.reason))
+        .Number("records", out.row.records);
+    AddFigures(object, out.row.figures);
+    return AddPayday(object, out.row).Done();
 }
 
-std::string Json(const OverviewRow& row, bool withRemedies)
+std::string EmployeeJson(const OverviewRow& row, bool withRemedies)
 {
-    const CEmployee& employee = *row.employee;
-    return fmt::format(R"({{"number":{},"id":{},"name":{},{},"longestWeek":"{}","clockedIn":{},"problems":{},"notices":{},)"
-                       R"("findings":{},"weeks":{},{}}})",
-                       employee.EmployeeNumber(), employee.EmployeeID(), JsonText(employee.DisplayName()), JsonFigures(row.figures),
-                       row.LongestWeek(), row.check.clockedIn, row.check.problems, row.check.notices, JsonFindings(row, withRemedies),
-                       JsonList(row.check.weeks), JsonPayday(row));
+    JsonObject object;
+    object.Number("number", row.employee->EmployeeNumber())
+        .Number("id", row.employee->EmployeeID())
+        .Text("name", row.employee->DisplayName());
+    AddFigures(object, row.figures)
+        .Text("longestWeek", row.LongestWeek())
+        .Truth("clockedIn", row.check.clockedIn)
+        .Number("problems", row.check.problems)
+        .Number("notices", row.check.notices)
+        .Json("findings", FindingsJson(row, withRemedies))
+        .Json("weeks", JsonList(row.check.weeks, WeekJson));
+    return AddPayday(object, row).Done();
 }
 
 // Number, ID and name begin every line of an employee.
-std::string CsvEmployee(const CEmployee& employee)
+CsvLine LineOf(const CEmployee& employee)
 {
-    return fmt::format("{},{},{}", employee.EmployeeNumber(), employee.EmployeeID(), CsvText(employee.DisplayName()));
+    return CsvLine().Number(employee.EmployeeNumber()).Number(employee.EmployeeID()).Text(employee.DisplayName());
 }
 
 std::string Csv(const OverviewRow& row)
 {
     const CardFigures figures = row.figures.value_or(CardFigures());
-    return fmt::format("{},{},{},{},{},{},{},{},,,,,,,\r\n", CsvEmployee(*row.employee), figures.regular, figures.overtime, figures.gross,
-                       row.LongestWeek(), row.check.clockedIn, row.check.problems, row.check.notices);
+    CsvLine line = LineOf(*row.employee);
+    line.Plain(figures.regular).Plain(figures.overtime).Plain(figures.gross).Plain(row.LongestWeek());
+    return line.Truth(row.check.clockedIn).Number(row.check.problems).Number(row.check.notices).Empty(7).Done();
 }
 
 std::string Csv(const CEmployee& employee, const Finding& finding)
 {
-    return fmt::format("{},,,,,,,,{},{},{},{},{},{},{}\r\n", CsvEmployee(employee), NameOf(finding.kind), NameOf(SeverityOf(finding.kind)),
-                       Joined(finding.records, " "), finding.minutes, IsoMoment(finding.from), IsoMoment(finding.to),
-                       CsvText(finding.text));
+    CsvLine line = LineOf(employee);
+    line.Empty(7).Plain(NameOf(finding.kind)).Plain(NameOf(SeverityOf(finding.kind))).Plain(Joined(finding.records, " "));
+    return line.Number(finding.minutes).Plain(IsoMoment(finding.from)).Plain(IsoMoment(finding.to)).Text(finding.text).Done();
 }
 
 } // namespace
@@ -168,15 +181,19 @@ std::string OverviewCsv(const Overview& overview)
 // One line an employee.
 std::string OverviewJson(const Overview& overview)
 {
-    std::string text = fmt::format(R"({{"from":"{}","to":"{}","made":"{}","employees":[)", IsoDay(overview.period.from),
-                                   IsoDay(overview.period.to), IsoMoment(overview.made));
-    for (const OverviewRow& row : overview.rows) {
-        text += (&row == overview.rows.data() ? "\r\n" : ",\r\n") + Json(row, overview.withRemedies);
-    }
-    const OverviewTotals totals = TotalsOf(overview.rows);
-    text += fmt::format("\r\n],\"leftOut\":{},\"totals\":{{{},\"clockedIn\":{},\"problems\":{},\"notices\":{}}}}}\r\n",
-                        JsonList(overview.leftOut), JsonFigures(totals.figures), totals.clockedIn, totals.problems, totals.notices);
-    return text;
+    const auto employee = [&](const OverviewRow& row) { return EmployeeJson(row, overview.withRemedies); };
+    const OverviewTotals sums = TotalsOf(overview.rows);
+    JsonObject totals;
+    AddFigures(totals, sums.figures).Number("clockedIn", sums.clockedIn).Number("problems", sums.problems).Number("notices", sums.notices);
+    return JsonObject()
+               .Day("from", overview.period.from)
+               .Day("to", overview.period.to)
+               .Moment("made", overview.made)
+               .Json("employees", '[' + JsonLines(overview.rows, employee) + "\r\n]")
+               .Json("leftOut", JsonList(overview.leftOut, LeftOutJson))
+               .Json("totals", totals.Done())
+               .Done() +
+           "\r\n";
 }
 
 } // namespace ptk

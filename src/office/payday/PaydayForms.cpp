@@ -1,9 +1,11 @@
 // The account of a payday as text, pages, CSV and JSON. Figures are the texts that a time card shows.
 #include "model/CEmployee.h"
 #include "office/payday/PaydayAccount.h"
+#include "platform/text/CsvLine.h"
 #include "platform/text/DataText.h"
 #include "platform/text/DayText.h"
 #include "platform/text/Joined.h"
+#include "platform/text/JsonWriter.h"
 #include "platform/text/Text.h"
 #include "reports/forms/ReportDocument.h"
 
@@ -27,33 +29,30 @@ constexpr auto kLineEnd = "\r\n";
 constexpr auto kAccountHeading = "Number,Name,Paid At,Paid By,Regular,Overtime,Gross,Now Regular,Now Overtime,Now Gross,Changed Regular,"
                                  "Changed Overtime,Changed Gross,Changes\r\n";
 
-std::string PaidAt(const Closing& closing)
+JsonObject& AddFigures(JsonObject& object, const std::string& regular, const std::string& overtime, const std::string& gross)
 {
-    return closing.paidAt ? IsoMoment(*closing.paidAt) : "";
-}
-
-std::string ThreeJson(const std::string& regular, const std::string& overtime, const std::string& gross)
-{
-    return fmt::format(R"("regular":{},"overtime":{},"gross":{})", JsonTextOrNull(regular), JsonTextOrNull(overtime),
-                       JsonTextOrNull(gross));
+    return object.TextOrNull("regular", regular).TextOrNull("overtime", overtime).TextOrNull("gross", gross);
 }
 
 std::string ClosingJson(const Closing& closing)
 {
-    return fmt::format(R"({{"at":{},"by":{},{}}})", JsonTextOrNull(PaidAt(closing)), JsonTextOrNull(closing.paidBy),
-                       ThreeJson(closing.regular, closing.overtime, closing.gross));
+    JsonObject object;
+    object.Moment("at", closing.paidAt).TextOrNull("by", closing.paidBy);
+    return AddFigures(object, closing.regular, closing.overtime, closing.gross).Done();
 }
 
 std::string NowJson(const AccountPerson& person)
 {
     const CardFigures now = person.now.value_or(CardFigures());
-    return person.person.employee == nullptr ? "null" : '{' + ThreeJson(now.regular, now.overtime, now.gross) + '}';
+    JsonObject object;
+    return person.person.employee == nullptr ? "null" : AddFigures(object, now.regular, now.overtime, now.gross).Done();
 }
 
 std::string ChangedJson(const std::optional<PaidDifference>& changed)
 {
+    JsonObject object;
     return !changed ? "null"
-                    : '{' + ThreeJson(changed->regular.value_or(""), changed->overtime.value_or(""), changed->gross.value_or("")) + '}';
+                    : AddFigures(object, changed->regular.value_or(""), changed->overtime.value_or(""), changed->gross.value_or("")).Done();
 }
 
 std::vector<std::int64_t> NumbersOf(const AccountPerson& person)
@@ -67,25 +66,26 @@ std::vector<std::int64_t> NumbersOf(const AccountPerson& person)
 
 std::string PersonJson(const AccountPerson& person)
 {
-    const auto& employee = person.person.employee;
-    std::vector<std::string> paid;
-    for (const Closing& closing : person.paid) {
-        paid.push_back(ClosingJson(closing));
-    }
-    return fmt::format(R"({{"number":{},"id":{},"name":{},"paid":[{}],"now":{},"changed":{},"changes":[{}]}})",
-                       employee == nullptr ? "null" : std::to_string(employee->EmployeeNumber()), person.person.id,
-                       employee == nullptr ? "null" : JsonText(employee->DisplayName()), Joined(paid, ","), NowJson(person),
-                       ChangedJson(person.changed), Joined(NumbersOf(person), ","));
+    const CEmployee* employee = person.person.employee.get();
+    return JsonObject()
+        .NumberOrNull("number", employee == nullptr ? std::nullopt : std::optional<std::int64_t>(employee->EmployeeNumber()))
+        .Number("id", person.person.id)
+        .TextOrNull("name", employee == nullptr ? std::nullopt : std::optional(employee->DisplayName()))
+        .Json("paid", JsonList(person.paid, ClosingJson))
+        .Json("now", NowJson(person))
+        .Json("changed", ChangedJson(person.changed))
+        .Json("changes", '[' + Joined(NumbersOf(person), ",") + ']')
+        .Done();
 }
 
 std::string AccountJson(const PaydayAccount& account)
 {
-    std::string persons;
-    for (const AccountPerson& person : account.persons) {
-        persons += (persons.empty() ? "\r\n" : ",\r\n") + PersonJson(person);
-    }
-    return fmt::format("{{\"from\":\"{}\",\"to\":\"{}\",\"employees\":[{}\r\n]}}\r\n", IsoDay(account.period.from),
-                       IsoDay(account.period.to), persons);
+    return JsonObject()
+               .Day("from", account.period.from)
+               .Day("to", account.period.to)
+               .Json("employees", '[' + JsonLines(account.persons, PersonJson) + "\r\n]")
+               .Done() +
+           kLineEnd;
 }
 
 // What another tool left in the place of figures may be anything.
@@ -94,24 +94,30 @@ std::string FigureCell(const std::string& figure)
     return figure.find_first_not_of("+-.0123456789") == std::string::npos ? figure : CsvText(figure);
 }
 
-// What stands in every line of the person.
-std::string PersonCsv(const AccountPerson& person)
+std::string PaidCsv(const AccountPerson& person, const Closing& closing)
 {
+    const CEmployee* employee = person.person.employee.get();
     const CardFigures now = person.now.value_or(CardFigures());
     const PaidDifference changed = person.changed.value_or(PaidDifference());
-    return fmt::format("{},{},{},{},{},{},{}", now.regular, now.overtime, now.gross, changed.regular.value_or(""),
-                       changed.overtime.value_or(""), changed.gross.value_or(""), Joined(NumbersOf(person), " "));
+    CsvLine line;
+    if (employee == nullptr) {
+        line.Empty(2);
+    } else {
+        line.Number(employee->EmployeeNumber()).Text(employee->DisplayName());
+    }
+    line.Plain(closing.paidAt ? IsoMoment(*closing.paidAt) : "").Text(closing.paidBy);
+    line.Plain(FigureCell(closing.regular)).Plain(FigureCell(closing.overtime)).Plain(FigureCell(closing.gross));
+    line.Plain(now.regular).Plain(now.overtime).Plain(now.gross);
+    line.Plain(changed.regular.value_or("")).Plain(changed.overtime.value_or("")).Plain(changed.gross.value_or(""));
+    return line.Plain(Joined(NumbersOf(person), " ")).Done();
 }
 
 std::string AccountCsv(const PaydayAccount& account)
 {
     std::string text = kAccountHeading;
     for (const AccountPerson& person : account.persons) {
-        const auto& employee = person.person.employee;
         for (const Closing& closing : person.paid) {
-            text += fmt::format("{},{},{},{},{},{},{},{}\r\n", employee == nullptr ? "" : std::to_string(employee->EmployeeNumber()),
-                                employee == nullptr ? "" : CsvText(employee->DisplayName()), PaidAt(closing), CsvText(closing.paidBy),
-                                FigureCell(closing.regular), FigureCell(closing.overtime), FigureCell(closing.gross), PersonCsv(person));
+            text += PaidCsv(person, closing);
         }
     }
     return text;

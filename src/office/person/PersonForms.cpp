@@ -3,8 +3,8 @@
 #include "office/history/History.h"
 #include "office/history/HistoryTable.h"
 #include "office/person/PersonData.h"
-#include "platform/text/DataText.h"
 #include "platform/text/DayText.h"
+#include "platform/text/JsonWriter.h"
 #include "platform/text/Text.h"
 #include "reports/EmployeeRecords.h"
 #include "reports/forms/CellText.h"
@@ -74,47 +74,47 @@ int YearOf(const PersonPunch& punch)
     return punch.start ? punch.start->Date().year : kNoYear;
 }
 
-std::string JsonMoment(const std::optional<DateTime>& moment)
-{
-    return moment ? JsonText(IsoMoment(*moment)) : "null";
-}
-
 std::string PunchJson(const PersonPunch& punch)
 {
-    const auto minutes = punch.Minutes();
-    return fmt::format(R"({{"year":{},"id":{},"start":{},"end":{},"minutes":{}}})", punch.start ? std::to_string(YearOf(punch)) : "null",
-                       punch.id, JsonMoment(punch.start), JsonMoment(punch.end), minutes ? std::to_string(*minutes) : "null");
+    return JsonObject()
+        .NumberOrNull("year", punch.start ? std::optional<std::int64_t>(YearOf(punch)) : std::nullopt)
+        .Number("id", punch.id)
+        .Moment("start", punch.start)
+        .Moment("end", punch.end)
+        .NumberOrNull("minutes", punch.Minutes())
+        .Done();
 }
 
 std::string PaidJson(const Closing& closing)
 {
-    return fmt::format(R"({{"from":"{}","to":"{}","at":{},"by":{},"regular":{},"overtime":{},"gross":{}}})", IsoDay(closing.period.from),
-                       IsoDay(closing.period.to), JsonMoment(closing.paidAt), JsonTextOrNull(closing.paidBy),
-                       JsonTextOrNull(closing.regular), JsonTextOrNull(closing.overtime), JsonTextOrNull(closing.gross));
+    return JsonObject()
+        .Day("from", closing.period.from)
+        .Day("to", closing.period.to)
+        .Moment("at", closing.paidAt)
+        .TextOrNull("by", closing.paidBy)
+        .TextOrNull("regular", closing.regular)
+        .TextOrNull("overtime", closing.overtime)
+        .TextOrNull("gross", closing.gross)
+        .Done();
 }
 
 std::string FileJson(const PersonFile& file)
 {
-    return fmt::format(R"({{"kind":{},"file":{}}})", JsonText(file.kind), JsonText(file.path));
+    return JsonObject().Text("kind", file.kind).Text("file", file.path).Done();
 }
 
-// An object a line.
-template <typename Row, typename Write>
-std::string JsonList(const std::vector<Row>& rows, Write write)
+template <typename Rows, typename Write>
+std::string ListInLines(const Rows& rows, Write json)
 {
-    std::string text;
-    for (const Row& row : rows) {
-        text += (text.empty() ? "\r\n" : ",\r\n") + write(row);
-    }
-    return '[' + text + (text.empty() ? "]" : "\r\n]");
+    return '[' + JsonLines(rows, json) + (rows.empty() ? "]" : "\r\n]");
 }
 
 std::string PersonJson(const PersonData& person)
 {
     const auto change = [nameOf = OnlyThisName(person)](const TrailEntry& entry) { return HistoryJson(entry, nameOf); };
     return fmt::format("{{\"employee\":{},\r\n\"records\":{},\r\n\"paid\":{},\r\n\"changes\":{},\r\n\"elsewhere\":{}}}\r\n",
-                       JsonRowOf(PersonRow(person), {PersonColumns(), {}}), JsonList(person.punches, PunchJson),
-                       JsonList(person.paid, PaidJson), JsonList(person.changes, change), JsonList(person.elsewhere, FileJson));
+                       JsonRowOf(PersonRow(person), {PersonColumns(), {}}), ListInLines(person.punches, PunchJson),
+                       ListInLines(person.paid, PaidJson), ListInLines(person.changes, change), ListInLines(person.elsewhere, FileJson));
 }
 
 class PersonDocument

@@ -66,11 +66,6 @@ std::string JsonText(std::string_view text)
     return json + '"';
 }
 
-std::string JsonTextOrNull(std::string_view text)
-{
-    return text.empty() ? "null" : JsonText(text);
-}
-
 std::string NoFormula(std::string_view text)
 {
     return std::string(BeginsFormula(text) ? "'" : "").append(text);

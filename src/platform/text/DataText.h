@@ -11,9 +11,6 @@ namespace ptk {
 // A JSON string with its quotes. Control characters are escaped, delete and those behind it included.
 [[nodiscard]] std::string JsonText(std::string_view text);
 
-// null for an empty text.
-[[nodiscard]] std::string JsonTextOrNull(std::string_view text);
-
 // What a spreadsheet would take for a formula (it begins with = + - @, a tab or a carriage return) gets an apostrophe before it; numbers
 // are not to be passed through here.
 [[nodiscard]] std::string NoFormula(std::string_view text);

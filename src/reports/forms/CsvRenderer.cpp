@@ -1,6 +1,6 @@
 #include "reports/forms/CsvRenderer.h"
 
-#include "platform/text/DataText.h"
+#include "platform/text/CsvLine.h"
 #include "reports/forms/CellText.h"
 
 namespace ptk {
@@ -8,33 +8,32 @@ namespace ptk {
 namespace {
 
 constexpr auto kTimeHeading = " (h:mm)";
-constexpr auto kLineEnd = "\r\n";
-
-// Numbers are nobody's formulas.
-std::string Field(CellType type, const Value& cell)
-{
-    const std::string text = CellText(type, cell);
-    return type == CellType::Text ? CsvText(text) : text;
-}
 
 std::string HeadingOf(const ReportTable& table)
 {
-    std::string line;
+    CsvLine line;
     for (const ReportColumn& column : table.columns) {
-        line += (line.empty() ? "" : ",") + CsvText(column.name);
-        line += column.type == CellType::Hours ? ',' + CsvText(column.name + std::string(kTimeHeading)) : "";
+        line.Text(column.name);
+        if (column.type == CellType::Hours) {
+            line.Text(column.name + std::string(kTimeHeading));
+        }
     }
-    return line + kLineEnd;
+    return line.Done();
 }
 
+// Numbers are nobody's formulas.
 std::string LineOf(const ReportRow& row, const ReportTable& table)
 {
-    std::string line;
+    CsvLine line;
     for (std::size_t i = 0; i < row.size(); ++i) {
-        line += (i == 0 ? "" : ",") + Field(table.columns[i].type, row[i]);
-        line += table.columns[i].type == CellType::Hours ? ',' + ClockText(row[i]) : "";
+        const CellType type = table.columns[i].type;
+        const std::string text = CellText(type, row[i]);
+        type == CellType::Text ? line.Text(text) : line.Plain(text);
+        if (type == CellType::Hours) {
+            line.Plain(ClockText(row[i]));
+        }
     }
-    return line + kLineEnd;
+    return line.Done();
 }
 
 } // namespace

@@ -2,10 +2,9 @@
 
 #include "platform/text/Characters.h"
 #include "platform/text/DataText.h"
-#include "platform/text/DayText.h"
+#include "platform/text/JsonWriter.h"
 #include "reports/forms/CellText.h"
 
-#include <fmt/format.h>
 #include <string_view>
 
 namespace ptk {
@@ -41,38 +40,34 @@ std::string JsonCell(CellType type, const Value& cell)
 
 std::string ObjectOf(const ReportDocument& document)
 {
-    const std::string missing = document.Missing();
-    std::string text = fmt::format(R"({{"title":{},"complete":{},"missing":{},"rows":[)", JsonText(document.title), document.Code() == 0,
-                                   missing.empty() ? "null" : JsonText(missing));
-    for (const ReportRow& row : document.table.rows) {
-        text += (&row == document.table.rows.data() ? "\r\n" : ",\r\n") + JsonRowOf(row, document.table);
-    }
-    return text + "]}";
+    const auto row = [&](const ReportRow& cells) { return JsonRowOf(cells, document.table); };
+    return JsonObject()
+        .Text("title", document.title)
+        .Truth("complete", document.Code() == 0)
+        .TextOrNull("missing", document.Missing())
+        .Json("rows", '[' + JsonLines(document.table.rows, row) + ']')
+        .Done();
 }
 
 } // namespace
 
 std::string JsonRowOf(const ReportRow& row, const ReportTable& table)
 {
-    std::string members;
+    JsonObject members;
     for (std::size_t i = 0; i < row.size(); ++i) {
         const ReportColumn& column = table.columns[i];
         const std::string name = MemberName(column.name);
-        members += fmt::format("{}\"{}\":{}", i == 0 ? "" : ",", name, JsonCell(column.type, row[i]));
+        members.Json(name, JsonCell(column.type, row[i]));
         if (column.type == CellType::Hours) {
-            members += fmt::format(",\"{}{}\":{}", name, kTimeSuffix, row[i].IsNull() ? "null" : JsonText(ClockText(row[i])));
+            members.Json(name + kTimeSuffix, row[i].IsNull() ? "null" : JsonText(ClockText(row[i])));
         }
     }
-    return '{' + members + '}';
+    return members.Done();
 }
 
 std::string JsonOf(std::span<const ReportDocument> documents, DateTime made)
 {
-    std::string text = fmt::format(R"({{"made":"{}","reports":[)", IsoMoment(made));
-    for (const ReportDocument& document : documents) {
-        text += (&document == documents.data() ? "\r\n" : ",\r\n") + ObjectOf(document);
-    }
-    return text + "\r\n]}\r\n";
+    return JsonObject().Moment("made", made).Json("reports", '[' + JsonLines(documents, ObjectOf) + "\r\n]").Done() + "\r\n";
 }
 
 } // namespace ptk

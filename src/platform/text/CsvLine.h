@@ -1,0 +1,33 @@
+// A line of a file in CSV, field by field.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace ptk {
+
+class CsvLine
+{
+public:
+    // In quotes where it needs them, and nobody's formula: see CsvText.
+    CsvLine& Text(std::string_view text);
+
+    // As it stands: a figure, a moment, a name that the program gives.
+    CsvLine& Plain(std::string_view text);
+
+    CsvLine& Truth(bool isTrue) { return Plain(isTrue ? "true" : "false"); }
+    CsvLine& Number(std::int64_t number) { return Plain(std::to_string(number)); }
+    CsvLine& Number(const std::optional<std::int64_t>& number) { return Plain(number ? std::to_string(*number) : ""); } // empty for none
+    CsvLine& Empty(int fields);
+
+    // With its end.
+    [[nodiscard]] std::string Done() const { return m_line + "\r\n"; }
+
+private:
+    std::string m_line;
+    bool m_begun = false;
+};
+
+} // namespace ptk
