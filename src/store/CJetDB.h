@@ -129,6 +129,9 @@ public:
     // The step of the edit trail of the last operation that stores; 0 where that changed nothing.
     [[nodiscard]] std::int64_t LastStep() const { return m_memory->lastStep; }
 
+    // The newest entry of the edit trail by then, where it changed something.
+    [[nodiscard]] std::int64_t NewestEntry() const { return m_memory->newestEntry; }
+
     // The passwords that were set so far, in the order of their steps.
     [[nodiscard]] const std::vector<PasswordChange>& Passwords() const { return m_memory->passwords; }
 
@@ -239,6 +242,7 @@ private:
     {
         Author author;
         std::int64_t lastStep = 0;
+        std::int64_t newestEntry = 0;
         std::vector<PasswordChange> passwords;
     };
 

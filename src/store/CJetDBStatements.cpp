@@ -104,6 +104,7 @@ void CJetDB::Write(const std::function<void()>& steps)
         throw;
     }
     TakeStep(m_database->StepNumber());
+    m_memory->newestEntry = m_database->NewestEntry();
 }
 
 // Of the writes of one Step, the first that leaves an entry gives the number.

@@ -140,10 +140,10 @@ std::shared_ptr<RecordSet> Required(std::shared_ptr<RecordSet> row, const TableC
 std::shared_ptr<RecordSet> ListedRow(Engine& engine, const char* listing, const TableColumns& table, std::int32_t key)
 {
     const Parameter parameter{"key", key};
-    return Required(
-        engine.PrepareStored(listing, fmt::format("{} = :key{}", table.names.front(), engine.Words().lockRows), {&parameter, 1})
-            ->ReadRows(),
-        table, key);
+    const auto search =
+        engine.PrepareStored(listing, fmt::format("{} = :key{}", table.names.front(), engine.Words().lockRows), {&parameter, 1});
+    engine.WillChangeNext();
+    return Required(search->ReadRows(), table, key);
 }
 
 } // namespace
@@ -185,6 +185,7 @@ void RequireAsRead(Engine& engine, const TimeRecordRow& read)
     const auto search = engine.Prepare(fmt::format(
         "SELECT TimeRecordID, EmployeeID, StartTime, EndTime FROM TimeRecord WHERE TimeRecordID = :key{}", engine.Words().lockRows));
     search->Bind("key", read.TimeRecordID);
+    engine.WillChangeNext();
     const auto row = Required(search->ReadRows(), TimeRecordTable(), read.TimeRecordID);
     Require("TimeRecord", read.TimeRecordID,
             Differences(read, RowReader(*row, TimeRecordTable()).ReadTimeRecord(), TimeRecordTable(), kTimeRecordFields));

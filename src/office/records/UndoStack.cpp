@@ -230,16 +230,14 @@ bool UndoStack::Move(std::vector<Step>& from, std::vector<Step>& to, const char*
         return false;
     }
     step.changes = Inverse(step.changes);
-    const bool done = m_database->ExecuteSteps([&](Engine& engine) {
-        ptk::Redo(engine, step.changes, {step.lastEntry, m_ours});
-        step.lastEntry = engine.NewestEntry();
-    });
+    const bool done = m_database->ExecuteSteps([&](Engine& engine) { ptk::Redo(engine, step.changes, {step.lastEntry, m_ours}); });
     if (!done) {
         m_refusal = m_database->Conflict()
                         ? fmt::format("\"{}\" was not {}: somebody else changed or uses what it is about.", step.told.text, word)
                         : fmt::format("\"{}\" was not {}: {}.", step.told.text, word, m_database->LastFailure().Description());
         return false;
     }
+    step.lastEntry = m_database->NewestEntry();
     auto own = ours.extract(ours.begin());
     own.value() = m_database->LastStep();
     m_ours.insert(std::move(own));

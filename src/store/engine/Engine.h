@@ -77,8 +77,9 @@ public:
     // Whether a table is there which files of earlier versions lack; always on a server.
     [[nodiscard]] virtual bool HasTable(const char* name) = 0;
 
-    // Within the steps of Write: the number of its newest entry so far; 0 without one.
-    [[nodiscard]] virtual std::int64_t NewestEntry() = 0;
+    // Within the steps of Write: the row that is asked for next, and locked by that, is the first that is going to be changed. A server
+    // numbers the step with the same question.
+    virtual void WillChangeNext() {}
 
     // Whether the database tells by itself when somebody changes it. A file has to be asked.
     [[nodiscard]] virtual bool TellsNews() const { return false; }
@@ -94,6 +95,9 @@ public:
 
     // Of the write that runs or was the last; 0 where it left no entry.
     [[nodiscard]] std::int64_t StepNumber() const { return m_lastStep; }
+
+    // Of the last write: its newest entry; of no meaning where it left none.
+    [[nodiscard]] std::int64_t NewestEntry() const { return m_newestEntry; }
 
     [[nodiscard]] virtual const EngineWords& Words() const = 0;
 
@@ -126,6 +130,7 @@ protected:
     [[nodiscard]] const Author& Signature() const { return m_author; }
     [[nodiscard]] std::int64_t WantedStep() const { return m_step; }
     void TookStep(std::int64_t step) { m_lastStep = step; }
+    void LeftEntry(std::int64_t newest) { m_newestEntry = newest; }
 
     // Raises 12 for a missing query.
     virtual std::string StoredText(std::string_view query);
@@ -134,6 +139,7 @@ private:
     Author m_author;
     std::int64_t m_step = 0;
     std::int64_t m_lastStep = 0;
+    std::int64_t m_newestEntry = 0;
 };
 
 } // namespace ptk

@@ -1,5 +1,6 @@
 #include "store/postgres/PostgresEngine.h"
 
+#include "platform/text/Text.h"
 #include "platform/Waiting.h"
 #include "store/postgres/PostgresSink.h"
 #include "store/postgres/PostgresStatement.h"
@@ -22,6 +23,7 @@ namespace {
 constexpr std::chrono::seconds kPatience(5);
 constexpr std::chrono::seconds kShortPatience(1); // of those who can as well ask later
 constexpr int kMostTries = 5;                     // of a write that stood in another's way
+constexpr std::size_t kMostPosted = 100;
 
 constexpr const char* kBeginRead = "BEGIN ISOLATION LEVEL REPEATABLE READ READ ONLY";
 constexpr const char* kBeginWrite = "BEGIN ISOLATION LEVEL READ COMMITTED"; // what a lock was waited for is seen as it is then
@@ -55,6 +57,14 @@ std::string LocalTimeZone()
     const long hours = std::labs(minutes) / 60;
     const long rest = std::labs(minutes) % 60;
     return fmt::format("<{0}{1:02}{2:02}>{3}{1:02}:{2:02}", minutes < 0 ? '-' : '+', hours, rest, minutes < 0 ? '+' : '-');
+}
+
+// What another tool put into a stored query may be anything.
+bool OnlyChanges(const std::string& sql)
+{
+    const std::string text = LowerCase(sql);
+    const bool changes = text.starts_with("insert ") || text.starts_with("update ") || text.starts_with("delete ");
+    return changes && text.find("returning") == std::string::npos;
 }
 
 std::int64_t NumberIn(const ServerResult& result, int column = 0)
@@ -162,6 +172,7 @@ void PostgresEngine::Release() noexcept
         }
     }
     m_transaction = Transaction::Read;
+    m_posted.clear();
 }
 
 void PostgresEngine::Begin(Transaction transaction)
@@ -203,25 +214,52 @@ void PostgresEngine::TakeSigning(const ServerResult& signing)
 ServerResult PostgresEngine::Ask(const ServerCommand& command, Intent intent)
 {
     RequireOpen();
-    const bool isToBeSigned = IsToBeSigned(intent);
-    std::vector<ServerCommand> commands;
+    std::vector<ServerCommand> commands = std::exchange(m_posted, {});
     if (!m_begun) {
         commands.push_back(Beginning());
     }
-    if (isToBeSigned) {
+    const bool signsBehind = std::exchange(m_signsBehind, false) && IsToBeSigned(Intent::Change);
+    const bool signsBefore = !signsBehind && IsToBeSigned(intent);
+    if (signsBefore) {
         commands.push_back(Signing());
     }
     commands.push_back(command);
+    if (signsBehind) {
+        commands.push_back(Signing());
+    }
     std::vector<ServerResult> results = m_begun ? m_line->Send(commands) : SendFirst(commands);
-    if (isToBeSigned) {
+    if (signsBehind) {
+        TakeSigning(results.back());
+        results.pop_back();
+    }
+    if (signsBefore) {
         TakeSigning(results.at(results.size() - 2));
     }
     return std::move(results.back());
 }
 
+bool PostgresEngine::Post(const ServerCommand& change)
+{
+    RequireOpen();
+    const bool isNumbered = m_begun && m_transaction == Transaction::Write && !m_number.empty();
+    if (!isNumbered || m_posted.size() >= kMostPosted || !OnlyChanges(change.sql)) {
+        return false;
+    }
+    m_posted.push_back(change);
+    return true;
+}
+
+void PostgresEngine::Flush()
+{
+    if (!m_posted.empty()) {
+        static_cast<void>(m_line->Send(std::exchange(m_posted, {})));
+    }
+}
+
 std::int64_t PostgresEngine::AskAhead(const ServerCommand& command)
 {
     RequireOpen();
+    Flush();
     return m_begun ? m_line->SendAhead(command) : 0;
 }
 
@@ -233,6 +271,7 @@ std::optional<ServerResult> PostgresEngine::TakeAhead(std::int64_t question)
 // For what does not go through Ask.
 void PostgresEngine::RequireSigned()
 {
+    Flush();
     if (!m_begun) {
         static_cast<void>(SendFirst({Beginning()}));
     }
@@ -282,6 +321,7 @@ void PostgresEngine::WriteOnce(const std::function<void()>& steps)
     Begin(Transaction::Write);
     TookStep(0);
     m_number.clear();
+    m_signsBehind = false;
     try {
         steps();
     } catch (...) {
@@ -291,15 +331,20 @@ void PostgresEngine::WriteOnce(const std::function<void()>& steps)
     CommitWrite();
 }
 
-// Also asks whether the step left any entry.
+// With the changes that were not sent yet. Also asks whether the step left any entry.
 void PostgresEngine::CommitWrite()
 {
     if (!m_begun) { // nothing was asked
         return Release();
     }
     try {
-        const auto results = m_line->Finish({{kNewest, {}, true, false}, {"COMMIT", {}, true, false}});
-        TookStep(NumberIn(results.front()) == 0 ? 0 : StepNumber());
+        std::vector<ServerCommand> commands = std::exchange(m_posted, {});
+        commands.push_back({kNewest, {}, true, false});
+        commands.push_back({"COMMIT", {}, true, false});
+        const auto results = m_line->Finish(commands);
+        const std::int64_t newest = NumberIn(results.at(results.size() - 2));
+        TookStep(newest == 0 ? 0 : StepNumber());
+        LeftEntry(newest);
     } catch (const ServerFailure& failure) {
         if (!failure.IsLost()) {
             Release();
@@ -349,11 +394,6 @@ PostgresEngine::Fate PostgresEngine::FateOfWrite(Moment until)
     } catch (const ServerFailure&) {
         return Fate::Unknown;
     }
-}
-
-std::int64_t PostgresEngine::NewestEntry()
-{
-    return NumberIn(Ask({kNewest, {}, true, false}));
 }
 
 std::optional<std::int64_t> PostgresEngine::TakeNews()

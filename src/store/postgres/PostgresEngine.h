@@ -64,7 +64,7 @@ public:
     void AddWholeEntry(const char* action, const std::string& file) override;
     [[nodiscard]] bool HasTrail() override { return true; }
     [[nodiscard]] bool HasTable(const char* /*name*/) override { return true; }
-    [[nodiscard]] std::int64_t NewestEntry() override;
+    void WillChangeNext() override { m_signsBehind = true; }
     [[nodiscard]] bool TellsNews() const override { return true; }
     [[nodiscard]] std::optional<std::int64_t> TakeNews() override;
     [[nodiscard]] const EngineWords& Words() const override { return kPostgresWords; }
@@ -78,6 +78,10 @@ public:
 
     // One statement within the hold or the write.
     [[nodiscard]] ServerResult Ask(const ServerCommand& command, Intent intent = Intent::Read);
+
+    // A change that may go with what is asked next, or with the end of the write, and fail there: an INSERT, UPDATE or DELETE that answers
+    // no rows, of a write that has its number. False where it is to be asked by itself.
+    [[nodiscard]] bool Post(const ServerCommand& change);
 
     // A question whose answer is taken later by the number that is answered here; 0 where none can be asked before the hold has begun.
     // There is one at a time: the next takes its place.
@@ -120,6 +124,7 @@ private:
     [[nodiscard]] bool IsToBeSigned(Intent intent) const;
     void TakeSigning(const ServerResult& signing);
     void RequireSigned();
+    void Flush();
     [[nodiscard]] ServerCommand Signing() const;
     [[nodiscard]] std::vector<ServerResult> SendFirst(const std::vector<ServerCommand>& commands);
     void WriteOnce(const std::function<void()>& steps);
@@ -136,7 +141,9 @@ private:
     bool m_listens = false;
     bool m_begun = false; // a transaction that the server knows of
     Transaction m_transaction = Transaction::Read;
-    std::string m_number; // of the write's transaction, once it is signed
+    std::string m_number;                // of the write's transaction, once it is signed
+    bool m_signsBehind = false;          // the write is signed behind the next question
+    std::vector<ServerCommand> m_posted; // changes that were not sent yet
     std::int64_t m_formerRoundTrips = 0;
     std::map<std::string, std::string, std::less<>> m_storedTexts; // as they were when first asked for
 };

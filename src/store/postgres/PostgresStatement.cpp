@@ -190,6 +190,11 @@ ServerResult PostgresStatement::AskForRows()
 
 void PostgresStatement::Run()
 {
+    RefuseMissingParameters();
+    if (m_engine.Post({m_text.sql, m_values, m_keep, false})) {
+        m_keep = true;
+        return;
+    }
     if (Ask(Intent::Change).HasRows()) {
         throw ServerFailure(engine::Refused, "the statement only answers rows");
     }

@@ -190,7 +190,9 @@ void SqliteEngine::RunSigned(const std::function<void()>& steps)
         return m_connection->PrepareWrite();
     }
     CloseStep(*this);
-    TookStep(NextStep(*this) == next ? 0 : step); // a number without entries is given to the next step
+    const std::int64_t behind = NextStep(*this);
+    TookStep(behind == next ? 0 : step); // a number without entries is given to the next step
+    LeftEntry(behind - 1);
 }
 
 void SqliteEngine::Untold(const std::function<void()>& steps)
@@ -228,11 +230,6 @@ bool SqliteEngine::HasTable(const char* name)
         RaiseUnlessDone(database, code);
     }
     return code == SQLITE_OK;
-}
-
-std::int64_t SqliteEngine::NewestEntry()
-{
-    return NextStep(*this) - 1;
 }
 
 void SqliteEngine::CopyTo(const std::string& path, const CopyProgress& progress)

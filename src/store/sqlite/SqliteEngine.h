@@ -56,7 +56,6 @@ public:
     void AddWholeEntry(const char* action, const std::string& file) override;
     [[nodiscard]] bool HasTrail() override;
     [[nodiscard]] bool HasTable(const char* name) override;
-    [[nodiscard]] std::int64_t NewestEntry() override;
 
     [[nodiscard]] const EngineWords& Words() const override { return kSqliteWords; }
     std::unique_ptr<Statement> Prepare(std::string_view sql) override;

@@ -130,6 +130,7 @@ void RequireAsBefore(Engine& engine, Portion portion)
     std::set<std::int64_t> same;
     const auto found =
         engine.Prepare(fmt::format("SELECT {} FROM {} AND ({}){}", key, RowsOf(portion), conditions, engine.Words().lockRows));
+    engine.WillChangeNext();
     for (const auto rows = found->ReadRows(); !rows->EndOfFile(); rows->MoveNext()) {
         same.insert(rows->Int64At(0));
     }
