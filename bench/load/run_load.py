@@ -96,7 +96,8 @@ def work(database, folder, options):
     until = time.monotonic() + options.seconds
     program = f"{options.build}/ptk-console"
     threads = [threading.Thread(target=console, args=(program, folder, options.pause, rounds, until)) for _ in range(options.consoles)]
-    threads += [threading.Thread(target=database.kill_each, args=(options.kill, until))] * bool(options.kill)
+    if options.kill:
+        threads.append(threading.Thread(target=database.kill_each, args=(options.kill, until)))
     words = [str(options.seconds), str(options.pause)]
     running = [subprocess.Popen([f"{options.build}/bench/ptk_desk", database.address, str(seed), *words], stdout=subprocess.PIPE, text=True)
                for seed in range(options.desks)]
@@ -157,7 +158,7 @@ def report(rounds):
         print(f"{name:<20}{len(seconds):>8}{statistics.median(seconds) * 1e3:>11.1f}{seconds[len(seconds) * 99 // 100] * 1e3:>10.1f}{seconds[-1] * 1e3:>10.1f}")
     for (name, what), count in sorted(became.items()):
         if what != "done":
-            print(f"{name}: {count} x {what}")
+            print(f"{name}: {count} x {what if len(what) <= 100 else what[:97] + '...'}")
     return times, [what for _, _, what in rounds if what not in ("done", "refused")]
 
 

@@ -2,6 +2,7 @@
 #include "gui/GuiFixture.h"
 #include "store/CJetDB.h"
 #include "store/engine/RecordSet.h"
+#include "store/postgres/PostgresEngine.h"
 #include "store/whole/BulkWriter.h"
 #include "support/ServerDatabase.h"
 #include "ui/widgets/NoticeLine.h"
@@ -49,6 +50,7 @@ public:
     void Press(const char* button) { Click(m_program.Main(), button); }
     QString Said(int page) { return Find<NoticeLine>(The(fmt::format("FrameArray({})", page).c_str()), "notice").Text(); }
     void PressNotice(int page) { Click(The(fmt::format("FrameArray({})", page).c_str()), "cmdNotice"); }
+    CJetDB& Database() const { return *m_program.Controller()->PTKDatabase(); }
     std::vector<ShownBox> Told() { return m_program.desktop.Take(); }
     void Answer(ptk::Answer answer) { m_program.desktop.answers = {answer}; }
 
@@ -96,6 +98,15 @@ protected:
 
     ServerDatabase m_server;
 };
+
+// What a login waits for over a slow line, the connection and the watch for others' changes apart.
+TEST_F(ThreeDesksTest, ALoginAsksFewQuestions)
+{
+    const Desk desk(m_server.Address());
+    std::int64_t trips = 0;
+    ASSERT_TRUE(desk.Database().ExecuteSteps([&](Engine& engine) { trips = dynamic_cast<PostgresEngine&>(engine).RoundTrips(); }));
+    EXPECT_EQ(trips, 6);
+}
 
 TEST_F(ThreeDesksTest, EverybodySeesWhatTheOthersStoreAndNothingIsLost)
 {
