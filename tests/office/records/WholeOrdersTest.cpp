@@ -59,7 +59,7 @@ std::string TextOf(const Order& order)
 // Hours of the shift that both know at first; of Ann's and of Bob's edit of it; of what one fill adds.
 constexpr int kHours = 8;
 constexpr std::array kEdited{7, 6};
-constexpr int kFilled = 4;
+constexpr int kFilled = 2; // an hour on each of two days, so that eight of them are no overtime
 
 // What is stored and what each desk knows. A shift of 0 hours is not there.
 class OrderModel
@@ -290,7 +290,7 @@ private:
             const auto shift = std::make_shared<CTimeRecord>();
             shift->EmployeeID(static_cast<std::int16_t>(m_employee));
             shift->StartTime(ToDateTime(fmt::format("{} 8:00", day)));
-            shift->EndTime(ToDateTime(fmt::format("{} 10:00", day)));
+            shift->EndTime(ToDateTime(fmt::format("{} 9:00", day)));
             filling.TimeRecordList()->AddNew(shift);
         }
         return filling.SaveList() && filling.ErrorNumber() == 0;
