@@ -441,8 +441,13 @@ std::unique_ptr<Statement> PostgresEngine::PrepareToKeep(std::string_view sql)
     return std::make_unique<PostgresStatement>(*this, sql, true);
 }
 
+// All of them by one question: there are few.
 std::string PostgresEngine::StoredText(std::string_view query)
 {
+    if (m_storedTexts.empty()) {
+        const auto all = Prepare("SELECT name, sql FROM _StoredQuery");
+        all->ForEachRow([&] { m_storedTexts.emplace(all->TextAt(0), all->TextAt(1)); });
+    }
     const auto found = m_storedTexts.find(query);
     return found != m_storedTexts.end() ? found->second : m_storedTexts.emplace(query, Engine::StoredText(query)).first->second;
 }

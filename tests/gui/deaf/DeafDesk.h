@@ -16,7 +16,7 @@
 namespace ptk {
 
 // Twenty people who worked each day from 24 February to 4 March 2003, yesterday, and on so many days of years before; 03 Kim has not ended
-// the shift of 24 February.
+// the shift of 3 March, 05 Kim not one of 21 February.
 inline void AddDeafStaff(BulkWriter& writer, int daysBefore)
 {
     EmployeeRow employee;
@@ -34,6 +34,9 @@ inline void AddDeafStaff(BulkWriter& writer, int daysBefore)
             const DateTime start = DateTime::FromSeconds(last + day * kDay + 8 * 3600);
             const bool isOpen = person == 3 && day == -1;
             writer.AddTimeRecord({-1, id, start, isOpen ? DateTime() : DateTime::FromSeconds(start.Seconds() + 9 * 3600)});
+        }
+        if (person == 5) {
+            writer.AddTimeRecord({-1, id, DateTime({2003, 2, 21}, {8, 0, 0}), DateTime()});
         }
     }
 }
@@ -79,6 +82,7 @@ public:
 
     void Measure(const char* action, const std::function<void()>& work)
     {
+        SCOPED_TRACE(action);
         m_before(NativePath(m_program.databasePath).string());
         m_deafness.Begin();
         work();
