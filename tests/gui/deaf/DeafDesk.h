@@ -32,10 +32,10 @@ inline void AddDeafStaff(BulkWriter& writer, int daysBefore)
         const std::int64_t last = DateTime({2003, 3, 4}).Seconds();
         for (int day = -daysBefore - 8; day <= 0; ++day) {
             const DateTime start = DateTime::FromSeconds(last + day * kDay + 8 * 3600);
-            const bool isOpen = person == 3 && day == -1;
+            const bool isOpen = (person == 3 && day == -1) || (person == 5 && day == -11);
             writer.AddTimeRecord({-1, id, start, isOpen ? DateTime() : DateTime::FromSeconds(start.Seconds() + 9 * 3600)});
         }
-        if (person == 5) {
+        if (person == 5 && daysBefore == 0) {
             writer.AddTimeRecord({-1, id, DateTime({2003, 2, 21}, {8, 0, 0}), DateTime()});
         }
     }

@@ -1,4 +1,5 @@
 // The forms of documents that other programs read, to the byte.
+#include "platform/text/Text.h"
 #include "reports/forms/CellText.h"
 #include "reports/forms/ReportDocument.h"
 #include "reports/forms/ReportForms.h"
@@ -68,6 +69,26 @@ TEST(DataFormsTest, AreTheSameToTheByte)
         "\"hoursAsTime\":null,\"zipCode\":\"+1\",\"grossPay\":\"0.00\",\"active\":null}]}\r\n]}\r\n");
     EXPECT_EQ(FileOf(ReportForm::Json, {}, kNow), "{\"made\":\"2003-03-20T09:30:00\",\"reports\":[\r\n]}\r\n");
     EXPECT_EQ(FileNameFor(second, ReportForm::Csv), "5_time_card.csv");
+}
+
+TEST(DataFormsTest, AFormOfNothingAndOfSeveral)
+{
+    const DateTime made = ToDateTime("3/16/2026 9:30");
+    EXPECT_EQ(FileOf(ReportForm::Text, {}, made), "");
+    EXPECT_EQ(FileOf(ReportForm::Csv, {}, made), kByteOrderMark);
+    EXPECT_EQ(FileOf(ReportForm::Json, {}, made), "{\"made\":\"2026-03-16T09:30:00\",\"reports\":[\r\n]}\r\n");
+    std::vector<ReportDocument> two(2);
+    for (ReportDocument& document : two) {
+        document.BeginGroup();
+        document.Add("line");
+    }
+    EXPECT_EQ(FileOf(ReportForm::Text, two, made), "line\r\n\r\nline\r\n") << "an empty line between";
+    EXPECT_EQ(CellText(CellType::Money, Value()), "") << "nothing is no amount";
+    std::string endings;
+    for (const ReportForm form : {ReportForm::Text, ReportForm::Csv, ReportForm::Json, ReportForm::Pdf}) {
+        endings += EndingOf(form);
+    }
+    EXPECT_EQ(endings, ".txt.csv.json.pdf");
 }
 
 } // namespace
