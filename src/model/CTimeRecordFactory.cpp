@@ -52,7 +52,7 @@ bool CTimeRecordFactory::BuildList(std::int32_t theemployeeid, DateTime thestart
     };
     // The hold must not outlive a failure, or no other program gets at the file.
     const auto giveUp = [&](const Failure& reason) {
-        m_lastFailure = reason;
+        m_refusal.failure = reason;
         if (m_database != nullptr) {
             m_database->CloseDB();
         }
@@ -73,14 +73,14 @@ void CTimeRecordFactory::RenewList()
 bool CTimeRecordFactory::Load(std::int32_t theemployeeid, DateTime thestarttime, DateTime theendtime)
 {
     if (!Required(m_database)->OpenDB()) {
-        m_lastFailure = m_database->LastFailure();
+        m_refusal.failure = m_database->LastFailure();
         return true;
     }
     const auto rows = m_database->ExecuteSelect(WholeFetch({theemployeeid, thestarttime, theendtime, m_database->Words().thenByKey}));
     if (rows != nullptr) {
         InsertRows(*rows);
     } else {
-        m_lastFailure = m_database->LastFailure();
+        m_refusal.failure = m_database->LastFailure();
     }
     m_database->CloseDB();
     return rows == nullptr || rows->RecordCount() > 0;
@@ -111,8 +111,7 @@ bool CTimeRecordFactory::DestroyList()
 
 void CTimeRecordFactory::ForgetFailure()
 {
-    m_lastFailure = Failure(0, "", "");
-    m_conflict.reset();
+    m_refusal = {};
 }
 
 // What the database has now, for the next save: a new record's number is not known, a deleted one's row is gone.
@@ -172,8 +171,7 @@ void CTimeRecordFactory::TakeAnswer(bool stored, std::span<CTimeRecord* const> r
 {
     if (!stored) {
         m_errorNumber = recordfactory::SaveFailed;
-        m_lastFailure = m_database->LastFailure();
-        m_conflict = m_database->Conflict();
+        m_refusal = m_database->LastRefusal();
         return;
     }
     for (CTimeRecord* record : records) {
@@ -203,7 +201,7 @@ bool CTimeRecordFactory::SortTimeRecordList()
 
 void CTimeRecordFactory::Fail(std::int32_t errorNumber, const Failure& reason)
 {
-    m_lastFailure = reason;
+    m_refusal.failure = reason;
     m_errorNumber = errorNumber;
 }
 

@@ -36,10 +36,10 @@ public:
 
     // Why the last BuildList, Save or SaveList did not do what it should, in words for the program's users; number 0 and no text when it
     // did, a period without records included. See CJetDB::LastFailure.
-    [[nodiscard]] const Failure& LastFailure() const { return m_lastFailure; }
+    [[nodiscard]] const Failure& LastFailure() const { return m_refusal.failure; }
 
     // The row that somebody else had changed or removed since it was read, where that was why the last Save or SaveList was refused.
-    [[nodiscard]] const std::optional<RowConflict>& Conflict() const { return m_conflict; }
+    [[nodiscard]] const std::optional<RowConflict>& Conflict() const { return m_refusal.conflict; }
 
     // Replaces the contents of the current list, the same list object. Bounds as CTimeRecSQLConverter::BuildFetchSQL takes them. False with
     // 301 for a period without records or a failure, the list then holding what was read; a database that cannot be opened gives true and
@@ -82,8 +82,7 @@ private:
     std::shared_ptr<CJetDB> m_database;
     std::shared_ptr<CTimeRecordList> m_list;
     std::int32_t m_errorNumber = 0;
-    Failure m_lastFailure{0, "", ""};
-    std::optional<RowConflict> m_conflict;
+    Refusal m_refusal;
 };
 
 } // namespace ptk

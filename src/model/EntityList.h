@@ -81,8 +81,7 @@ public:
     bool SaveList()
     {
         this->ClearError();
-        m_lastFailure = Failure(0, "", "");
-        m_conflict.reset();
+        m_refusal = {};
         const CJetDB::Step step(this->Database());
         bool saved = true;
         for (const auto& entry : this->Entries()) {
@@ -95,8 +94,8 @@ public:
 
     // Why the last SaveList failed first, in words for the program's users; number 0 and no text when it did not. And the row that somebody
     // else had changed or removed, where that was why.
-    [[nodiscard]] const Failure& LastFailure() const { return m_lastFailure; }
-    [[nodiscard]] const std::optional<RowConflict>& Conflict() const { return m_conflict; }
+    [[nodiscard]] const Failure& LastFailure() const { return m_refusal.failure; }
+    [[nodiscard]] const std::optional<RowConflict>& Conflict() const { return m_refusal.conflict; }
 
 protected:
     EntityList() = default;
@@ -121,17 +120,15 @@ private:
     bool SaveEntry(Object& entry)
     {
         const bool saved = entry.Save(this->Database());
-        if (!saved && this->Database() != nullptr && m_lastFailure.Number() == 0) {
-            m_lastFailure = this->Database()->LastFailure();
-            m_conflict = this->Database()->Conflict();
+        if (!saved && this->Database() != nullptr && m_refusal.failure.Number() == 0) {
+            m_refusal = this->Database()->LastRefusal();
         }
         return saved;
     }
 
     virtual bool FillFrom(CJetDB& thedatabase) = 0;
 
-    Failure m_lastFailure{0, "", ""};
-    std::optional<RowConflict> m_conflict;
+    Refusal m_refusal;
 };
 
 } // namespace ptk

@@ -27,7 +27,7 @@ CJetDB::Hold::Hold(std::shared_ptr<CJetDB> database) : m_database(std::move(data
     }
     if (m_database->m_holds == 0) {
         m_database->OpenDB();
-        m_database->m_holdFailure = m_database->m_lastFailure;
+        m_database->m_holdFailure = m_database->m_refusal.failure;
     }
     ++m_database->m_holds;
 }
@@ -77,15 +77,14 @@ std::shared_ptr<CJetDB> CJetDB::Afresh() const
 
 void CJetDB::ForgetFailure()
 {
-    m_lastFailure = Failure(0, "", "");
-    m_conflict.reset();
+    m_refusal = {};
 }
 
 // The file stays open after a failure, deliberately; the hold goes, or others would be locked out until the next operation.
 bool CJetDB::Fail(std::int32_t errorNumber, Failure reason)
 {
     m_errorNumber = errorNumber;
-    m_lastFailure = std::move(reason);
+    m_refusal.failure = std::move(reason);
     GiveUpHold();
     return false;
 }
@@ -105,7 +104,7 @@ void CJetDB::FailOpening(const Failure& reason)
 bool CJetDB::FailWithoutDatabase()
 {
     m_errorNumber = jetdb::NoDatabase;
-    return m_lastFailure.Number() != 0 ? false : Fail(jetdb::NoDatabase, "there is no open database");
+    return m_refusal.failure.Number() != 0 ? false : Fail(jetdb::NoDatabase, "there is no open database");
 }
 
 void CJetDB::GiveUpHold()

@@ -116,11 +116,14 @@ public:
 
     // Why the last operation failed, in words for the program's users; number 0 and no text when it did not. The number is the cause's own:
     // the engine's (source "SQLite"), a conversion's, or one of those above.
-    [[nodiscard]] const Failure& LastFailure() const { return m_lastFailure; }
+    [[nodiscard]] const Failure& LastFailure() const { return m_refusal.failure; }
 
     // What differs, where the last operation failed because the row to be stored had been changed or removed since it was read; nothing
     // otherwise.
-    [[nodiscard]] const std::optional<RowConflict>& Conflict() const { return m_conflict; }
+    [[nodiscard]] const std::optional<RowConflict>& Conflict() const { return m_refusal.conflict; }
+
+    // Both together.
+    [[nodiscard]] const Refusal& LastRefusal() const { return m_refusal; }
 
     // In whose name all that follows is stored, as the edit trail tells it.
     void StoredBy(Author value) { m_memory->author = std::move(value); }
@@ -257,8 +260,7 @@ private:
     bool m_databaseOpen = false;
     std::int16_t m_recordsetType = 0; // 0 stands for 4, a snapshot
     std::int32_t m_errorNumber = 0;
-    Failure m_lastFailure{0, "", ""};
-    std::optional<RowConflict> m_conflict;
+    Refusal m_refusal;
     std::string m_reason;
     std::int32_t m_steps = 0;      // of those that live
     std::int64_t m_stepNumber = 0; // theirs, once something was stored

@@ -164,7 +164,7 @@ bool CJetDB::LoadCompanyList(CompanySink& thelist)
     const auto rows = OpenCompanyQuery();
     // Deliberately by the number, which no member resets: one left by an earlier operation ends the load as well.
     if (m_errorNumber == jetdb::NegativeCount || m_errorNumber == jetdb::ListingFailed || m_errorNumber == jetdb::NoDatabase) {
-        return m_lastFailure.Number() != 0 ? false : Fail(m_errorNumber, "the companies are not listed after an earlier failure");
+        return m_refusal.failure.Number() != 0 ? false : Fail(m_errorNumber, "the companies are not listed after an earlier failure");
     }
     const auto fill = [&] {
         RowReader reader(*rows, CompanyTable());

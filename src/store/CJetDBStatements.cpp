@@ -100,7 +100,7 @@ void CJetDB::Write(const std::function<void()>& steps)
     try {
         m_database->Write(steps);
     } catch (const RowChanged& changed) {
-        m_conflict = changed.Conflict();
+        m_refusal.conflict = changed.Conflict();
         throw;
     }
     TakeStep(m_database->StepNumber());

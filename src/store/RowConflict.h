@@ -35,6 +35,14 @@ struct RowConflict
     [[nodiscard]] std::string Text() const;
 };
 
+// Why an operation was not done; number 0 and no text where it was. With the row that somebody else had changed or removed since it was
+// read, where that was why.
+struct Refusal
+{
+    Failure failure{0, "", ""};
+    std::optional<RowConflict> conflict{};
+};
+
 // Failure jetdb::RowChanged with the conflict's text.
 class RowChanged : public Failure
 {
