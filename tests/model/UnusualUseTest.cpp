@@ -53,6 +53,7 @@ TEST(UnusualUseTest, ARecordWithHalfItsTimes)
 {
     CTimeRecord record;
     record.TimeRecordFactory(nullptr);
+    record.TimeRecordFactory(std::make_shared<CTimeRecordFactory>());
     record.EndTime(ToDateTime("3/5/2026 17:00"));
     EXPECT_EQ(record.HoursWorked(), 0) << "no start yet";
     record.StartTime(ToDateTime("3/5/2026 8:00"));
@@ -128,6 +129,29 @@ TEST(UnusualUseTest, AChangedEmployeeThatWasNeverReadOrHasANumberThatNobodyHas)
     EXPECT_EQ(database->LastFailure().Description(), "Employee 41 was removed since it was read");
     ASSERT_TRUE(list.Destroy() && list.Create() && list.LoadList(database));
     EXPECT_EQ(list.GetEmployeeByID(40)->LastName(), "Day");
+}
+
+TEST(UnusualUseTest, ARecordThatIsAsItWasOrHasAnotherNumber)
+{
+    const TemporaryFolder folder;
+    const std::string path = folder.Path() + "/ptk.mdb";
+    CreateDatabase(path);
+    ExecuteIn(path, "INSERT INTO TimeRecord (EmployeeID, StartTime, EndTime) VALUES (40, #3/5/2003 8:00 AM#, #3/5/2003 5:00 PM#)");
+    const auto database = std::make_shared<CJetDB>(folder.Path());
+    database->DatabaseName(path);
+    CTimeRecordFactory factory;
+    factory.PTKDatabase(database);
+    ASSERT_TRUE(factory.BuildList(40, ToDateTime("3/1/2003"), ToDateTime("4/1/2003")));
+    const auto record = factory.TimeRecordList()->Item(1);
+    EXPECT_TRUE(factory.Save(nullptr) && factory.ErrorNumber() == 0);
+    EXPECT_TRUE(factory.Save(record) && factory.ErrorNumber() != 0) << "as it was read: there is no statement for it";
+    record->ObjectState(state::NothingToDo);
+    EXPECT_TRUE(factory.SaveList() && factory.ErrorNumber() == 0);
+    record->EndTime(ToDateTime("3/5/2003 6:00 PM"));
+    record->TimeRecordID(99);
+    EXPECT_TRUE(factory.SaveList() && factory.ErrorNumber() == 0) << "nobody read record 99, and there is none";
+    ASSERT_TRUE(factory.BuildList(40, ToDateTime("3/1/2003"), ToDateTime("4/1/2003")));
+    EXPECT_EQ(factory.TimeRecordList()->Item(1)->EndTime(), ToDateTime("3/5/2003 5:00 PM"));
 }
 
 } // namespace

@@ -12,6 +12,7 @@
 #include "office/records/UndoStack.h"
 #include "platform/text/Text.h"
 #include "store/CJetDB.h"
+#include "store/engine/EngineNumber.h"
 #include "store/engine/Statement.h"
 #include "store/postgres/PostgresEngine.h"
 #include "store/trail/TrailReader.h"
@@ -77,6 +78,28 @@ TEST_F(RoundTripsTest, CardsAndRecords)
     EXPECT_EQ(Of([&] { return Card() && factory.SaveList(); }), 1) << "what is as it was read is not stored";
 }
 
+// What is sent with the commit is refused as if it were sent alone: nothing is stored, and the next save is.
+TEST_F(RoundTripsTest, WhatIsRefusedWithTheCommit)
+{
+    const auto entries = [&] { return ReadTrailNotes(database, 0, 100).size(); };
+    const std::size_t before = entries();
+    ASSERT_TRUE(Card());
+    server.Run("ALTER TABLE TimeRecord ADD CONSTRAINT early CHECK (EndTime <> '2003-03-05 18:00:00')");
+    EXPECT_FALSE(Saved(state::Changed));
+    EXPECT_EQ(database->ErrorNumber(), jetdb::StatementFailed);
+    EXPECT_EQ(entries(), before);
+    server.Run("ALTER TABLE TimeRecord DROP CONSTRAINT early");
+    EXPECT_TRUE(Card() && Saved(state::Changed)) << database->LastFailure().Description();
+    EXPECT_EQ(entries(), before + 1);
+
+    server.Run("UPDATE _StoredQuery SET sql = rtrim(sql, E'; \n') || ' RETURNING EmployeeID' WHERE name = 'UpdateEmployee'");
+    ASSERT_TRUE(people.Create() && people.LoadList(database));
+    people.GetEmployeeByID(41)->Phone("1");
+    EXPECT_FALSE(people.SaveList()) << "what answers rows is no change";
+    EXPECT_EQ(database->LastFailure().Number(), engine::Refused);
+    EXPECT_EQ(entries(), before + 1);
+}
+
 TEST_F(RoundTripsTest, PeopleAndUndo)
 {
     UndoStack undo(database);
@@ -90,6 +113,10 @@ TEST_F(RoundTripsTest, PeopleAndUndo)
     EXPECT_EQ(Of(save), 2) << "the row is locked and compared; changed and committed";
     EXPECT_EQ(Of([&] { return save() && undo.Remember(); }), 2 + 2) << "the entry, whose row it is";
     EXPECT_EQ(Of([&] { return undo.Undo(); }), 3) << "the row is looked at, its entries are; it is changed and committed";
+    EXPECT_EQ(Of([&] { return undo.Redo(); }), 3) << "in the same way";
+    ASSERT_TRUE(Card() && Saved(state::Deleted) && undo.Remember());
+    EXPECT_EQ(Of([&] { return undo.Undo(); }), 3) << "the entries are looked at, the row is looked for; it is added and committed";
+    EXPECT_EQ(Of([&] { return undo.Redo(); }), 3) << "the row is looked at, its entries are; it is deleted and committed";
 }
 
 TEST_F(RoundTripsTest, History)

@@ -77,8 +77,8 @@ public:
     // Whether a table is there which files of earlier versions lack; always on a server.
     [[nodiscard]] virtual bool HasTable(const char* name) = 0;
 
-    // Within the steps of Write: the row that is asked for next, and locked by that, is the first that is going to be changed. A server
-    // numbers the step with the same question.
+    // Within the steps of Write: what is asked for next, and locked as far as it is there, is the first that is going to be changed. A
+    // server numbers the step with the same question.
     virtual void WillChangeNext() {}
 
     // Whether the database tells by itself when somebody changes it. A file has to be asked.

@@ -205,6 +205,7 @@ std::string UpdateSql(const RowChange& change, const EngineWords& words)
 void Add(Engine& engine, Portion portion, const KnownSteps& known)
 {
     RequireUntouched(engine, portion, known);
+    engine.WillChangeNext();
     RefuseAnswered(engine, portion, fmt::format("SELECT {} FROM {}", KeyOf(portion.front().table), RowsOf(portion)));
     engine.Prepare(InsertSql(portion, engine.Words()))->Run();
 }

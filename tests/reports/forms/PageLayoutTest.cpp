@@ -154,6 +154,27 @@ TEST(PageLayoutTest, BothPapersHoldARuleOf72AndWhatTabsAddToIt)
     EXPECT_EQ(PaperFor(500, PaperSize::Letter).characterWidth, 4.0) << "smaller is not read";
 }
 
+TEST(PageLayoutTest, ATitleThatOnlyLooksLikeOneStaysAndAnyLineEndIsOne)
+{
+    const auto pageOf = [](const std::vector<std::string>& lines) {
+        ReportDocument document{"Title"};
+        document.BeginGroup();
+        for (const std::string& line : lines) {
+            document.Add(line);
+        }
+        std::string text;
+        const std::vector<Page> pages = LayOut(document, kSmall, kPrinted);
+        for (const PlacedLine& line : pages.front()) {
+            text += line.row < 18 ? TextOf(line) + ' ' : "";
+        }
+        return text;
+    };
+    EXPECT_EQ(pageOf({"Title"}), "0:*0[Title] 1:--- 3:0[Title] ") << "nothing behind it";
+    EXPECT_EQ(pageOf({"Title", "a"}), "0:*0[Title] 1:--- 3:0[Title] 4:0[a] ") << "no rule behind it";
+    EXPECT_EQ(pageOf({"a\nb\r\nc"}), "0:*0[Title] 1:--- 3:0[a] 4:0[b] 5:0[c] ");
+    EXPECT_EQ(pageOf({"a\n\nb"}), "0:*0[Title] 1:--- 3:0[a] 5:0[b] ") << "an empty line";
+}
+
 } // namespace
 
 } // namespace ptk
