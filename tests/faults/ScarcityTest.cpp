@@ -17,7 +17,7 @@ namespace ptk {
 
 namespace {
 
-constexpr std::int64_t kTriesOfSample = 2; // of each command, each want, and each way to run out
+constexpr std::int64_t kTriesOfSample = 1; // of each command, each want, and each way to run out
 constexpr int kRefused = 1;
 constexpr std::int64_t kSlack = 20; // calls between the words as they are given and as they are read
 

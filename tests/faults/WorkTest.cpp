@@ -30,7 +30,7 @@ namespace ptk {
 
 namespace {
 
-constexpr std::int64_t kTriesOfSample = 3; // of each work, each want, and each way to run out
+constexpr std::int64_t kTriesOfSample = 1; // of each work, each want, and each way to run out
 
 DateTime Day(int day)
 {

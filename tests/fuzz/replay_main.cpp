@@ -1,24 +1,32 @@
-// Runs a fuzz target once over every file of a corpus folder, as an ordinary test.
+// fuzz_replay TARGET FOLDER: runs a fuzz target once over every file of a corpus folder, as an ordinary test.
 #include <cstdint>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <map>
+#include <string>
 #include <vector>
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
+// One function of each fuzz target's own name, which the build gives and lists.
+#define TARGET(name) extern "C" int name(const std::uint8_t* data, std::size_t size);
+PTK_FUZZ_TARGETS
+#undef TARGET
 
 int main(int argc, char** argv)
 {
-    if (argc != 2) {
+#define TARGET(name) {#name, name},
+    const std::map<std::string, int (*)(const std::uint8_t*, std::size_t)> targets{PTK_FUZZ_TARGETS};
+#undef TARGET
+    if (argc != 3 || !targets.contains(argv[1])) {
         return 2;
     }
     int count = 0;
-    for (const auto& entry : std::filesystem::directory_iterator(argv[1])) {
+    for (const auto& entry : std::filesystem::directory_iterator(argv[2])) {
         std::ifstream file(entry.path(), std::ios::binary);
         std::vector<char> bytes{std::istreambuf_iterator<char>(file), {}};
         bytes.reserve(1); // no null pointer for an empty input
-        LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size());
+        targets.at(argv[1])(reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size());
         ++count;
     }
     std::printf("%d inputs\n", count);

@@ -13,7 +13,7 @@ namespace {
 
 const bool kWatched = (WatchMemoryOfEngine(), true); // before the engine is asked for anything
 
-constexpr std::int64_t kTriesOfSample = 3; // of each action, each want, and each way to run out
+constexpr std::int64_t kTriesOfSample = 2; // of each action, each want, and each way to run out
 
 void AddScarceStaff(BulkWriter& writer)
 {
