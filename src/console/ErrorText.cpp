@@ -1,8 +1,8 @@
 #include "console/ErrorText.h"
 
 #include "reports/ReportErrors.h"
-#include "store/postgres/ServerAddress.h"
 #include "store/StoreErrors.h"
+#include "store/whole/DatabaseName.h"
 
 #include <algorithm>
 #include <array>

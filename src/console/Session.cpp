@@ -8,6 +8,7 @@
 #include "shell/CDatabaseLocator.h"
 #include "shell/CFileAdaptor.h"
 #include "store/CJetDB.h"
+#include "store/whole/DatabaseName.h"
 
 namespace ptk {
 
@@ -22,6 +23,11 @@ std::shared_ptr<CDatabaseLocator> LocateDatabase(const std::string& programFolde
         throw Failure(0, "PTK", "the configuration file is missing or names no database: " + NativePath(path).string());
     }
     return locator;
+}
+
+std::string LocatedDatabase(const std::string& programFolder)
+{
+    return NativeName(LocateDatabase(programFolder)->DatabasePath());
 }
 
 std::shared_ptr<CJetDB> ConfiguredDatabase(const std::string& programFolder)

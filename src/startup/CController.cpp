@@ -20,7 +20,7 @@
 #include "store/backup/Restore.h"
 #include "store/CJetDB.h"
 #include "store/CSystemOptions.h"
-#include "store/postgres/ServerAddress.h"
+#include "store/whole/DatabaseName.h"
 
 #include <fmt/format.h>
 
@@ -211,7 +211,7 @@ bool CController::LogUnopened()
     const std::string& name = m_locator->DatabasePath();
     const Failure& reason = m_database->LastFailure();
     if (!name.empty()) {
-        Log(reason.Number(), reason.Description() + (IsServerAddress(name) ? "" : ": " + NativePath(name).string()));
+        Log(reason.Number(), reason.Description() + (IsFileName(name) ? ": " + NativeName(name) : "")); // a server is in its reason already
     } else if (m_configFile->LastFailure().Number() == 0) { // a file that could not be read has its own line
         Log(jetdb::NoDatabase, kNoDatabaseNamed + NativePath(ConfigPath()).string());
     }
@@ -365,7 +365,7 @@ ImportOutcome CController::ImportOldDatabase(ImportOrder order, const ImportProg
 
 BackupOrder CController::Order() const
 {
-    return {NativePath(Required(m_locator)->DatabasePath()).string(), m_around.programFolder, SecondBackupFolder(), m_around.clock.Now()};
+    return {NativeName(Required(m_locator)->DatabasePath()), m_around.programFolder, SecondBackupFolder(), m_around.clock.Now()};
 }
 
 std::string CController::SecondBackupFolder() const

@@ -5,9 +5,9 @@
 #include "platform/system/Clock.h"
 #include "shell/CDatabaseLocator.h"
 #include "store/backup/Backups.h"
-#include "store/postgres/PostgresEngine.h"
-#include "store/postgres/ServerAddress.h"
 #include "store/sqlite/SqliteEngine.h"
+#include "store/whole/DatabaseName.h"
+#include "store/whole/OpenDatabase.h"
 
 #include <utility>
 
@@ -152,7 +152,7 @@ bool CJetDB::OpenFile(const std::string& name)
 {
     CloseFile(); // a hold of our own would lock us out like anybody else's
     const auto open = [&] {
-        const std::string path = IsServerAddress(name) ? name : NativePath(name).string();
+        const std::string path = NativeName(name);
         if (m_database == nullptr || m_openPath != path || !m_database->Reopen()) {
             m_database = OpenEngine(path);
             m_openPath = path;
@@ -170,12 +170,8 @@ bool CJetDB::OpenFile(const std::string& name)
 // The times in the edit trail are the machine's too.
 std::unique_ptr<Engine> CJetDB::OpenEngine(const std::string& path)
 {
-    if (IsServerAddress(path)) {
-        return std::make_unique<PostgresEngine>(path, m_whenHeld);
-    }
-    auto file = std::make_unique<SqliteEngine>(path, m_whenHeld);
-    file->KeepCopy([this, engine = file.get()] { BackUp(*engine, BackupFolder(m_programFolder), SystemClock().Now()); });
-    return file;
+    return OpenDatabase(path, OpenFor::Work, m_whenHeld,
+                        [this](SqliteEngine& file) { BackUp(file, BackupFolder(m_programFolder), SystemClock().Now()); });
 }
 
 bool CJetDB::JoinHold()

@@ -6,13 +6,12 @@
 #include "console/Session.h"
 #include "office/safety/BackupRun.h"
 #include "platform/files/FileSteps.h"
-#include "platform/files/ProgramFolder.h"
 #include "platform/system/Clock.h"
 #include "platform/text/DayText.h"
 #include "shell/CDatabaseLocator.h"
 #include "shell/CFileAdaptor.h"
 #include "store/engine/EngineSource.h"
-#include "store/postgres/ServerAddress.h"
+#include "store/whole/DatabaseName.h"
 
 #include <filesystem>
 #include <fmt/format.h>
@@ -21,14 +20,11 @@ namespace ptk {
 
 namespace {
 
-constexpr const char* kBackupIsFile = "a backup is a file; ptk-console copy-database copies into a server's database";
-
 // The database's path, and the second folder that the configuration names.
 BackupOrder OrderOf(const Console& console)
 {
     const auto locator = LocateDatabase(console.programFolder);
-    return {NativePath(locator->DatabasePath()).string(), console.programFolder, SecondBackupFolder(*locator->ConfigFile()),
-            console.clock.Now()};
+    return {NativeName(locator->DatabasePath()), console.programFolder, SecondBackupFolder(*locator->ConfigFile()), console.clock.Now()};
 }
 
 // A failure of the engine is one of the database, any other of what was to be written.
@@ -79,8 +75,8 @@ int BackupCommand(const BackupArguments& arguments, Console& console)
     if (!arguments.to) {
         return BackUpInto(order, console);
     }
-    if (IsServerAddress(*arguments.to)) {
-        throw Failure(0, "PTK", kBackupIsFile);
+    if (const std::string refusal = BackupRefusal(*arguments.to); !refusal.empty()) {
+        throw Failure(0, "PTK", refusal);
     }
     const std::string target = std::filesystem::absolute(*arguments.to).string();
     Naming(order.database, target, [&] { BackUpTo(order.database, target); });

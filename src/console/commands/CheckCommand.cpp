@@ -3,10 +3,8 @@
 #include "console/Console.h"
 #include "console/ErrorText.h"
 #include "console/Session.h"
-#include "platform/files/ProgramFolder.h"
-#include "shell/CDatabaseLocator.h"
-#include "store/postgres/ServerAddress.h"
 #include "store/whole/DatabaseChecker.h"
+#include "store/whole/DatabaseName.h"
 
 namespace ptk {
 
@@ -25,7 +23,7 @@ DatabaseCheck Check(const std::string& path)
 
 int CheckCommand(const CheckArguments&, Console& console)
 {
-    const std::string path = NativePath(LocateDatabase(console.programFolder)->DatabasePath()).string();
+    const std::string path = LocatedDatabase(console.programFolder);
     const DatabaseCheck check = Check(path);
     console.out << "database: " << TerminalText(SaidDatabase(path)) << '\n'
                 << "Company: " << check.companies << '\n'

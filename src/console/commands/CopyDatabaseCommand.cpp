@@ -2,27 +2,18 @@
 #include "console/Commands.h"
 #include "console/Console.h"
 #include "console/Session.h"
-#include "platform/files/ProgramFolder.h"
-#include "shell/CDatabaseLocator.h"
-#include "store/postgres/ServerAddress.h"
 #include "store/whole/DatabaseCopier.h"
+#include "store/whole/DatabaseName.h"
 
 #include <fmt/format.h>
-
-#include <filesystem>
 
 namespace ptk {
 
 namespace {
 
-std::string Whole(const std::string& database)
-{
-    return IsServerAddress(database) ? database : std::filesystem::absolute(database).string();
-}
-
 std::string SourceOf(const CopyDatabaseArguments& arguments, const Console& console)
 {
-    return arguments.from ? Whole(*arguments.from) : NativePath(LocateDatabase(console.programFolder)->DatabasePath()).string();
+    return arguments.from ? WholeName(*arguments.from) : LocatedDatabase(console.programFolder);
 }
 
 CopyAccount Copy(const std::string& from, const std::string& to)
@@ -46,7 +37,7 @@ std::string Line(const CopiedTable& table)
 int CopyDatabaseCommand(const CopyDatabaseArguments& arguments, Console& console)
 {
     const std::string from = SourceOf(arguments, console);
-    const std::string to = Whole(arguments.to);
+    const std::string to = WholeName(arguments.to);
     const CopyAccount account = Copy(from, to);
     console.out << "from: " << TerminalText(SaidDatabase(from)) << "\nto: " << TerminalText(SaidDatabase(to)) << '\n';
     for (const CopiedTable& table : account.tables) {

@@ -4,12 +4,10 @@
 #include "console/ErrorText.h"
 #include "console/Session.h"
 #include "office/business/SampleBusiness.h"
-#include "platform/files/ProgramFolder.h"
 #include "platform/system/Clock.h"
-#include "shell/CDatabaseLocator.h"
-#include "store/postgres/ServerAddress.h"
 #include "store/whole/BulkWriter.h"
 #include "store/whole/DatabaseCreator.h"
+#include "store/whole/DatabaseName.h"
 
 namespace ptk {
 
@@ -29,7 +27,7 @@ std::string Create(const std::string& path, const std::function<void(BulkWriter&
 
 int CreateDatabaseCommand(const CreateDatabaseArguments& arguments, Console& console)
 {
-    const std::string path = NativePath(LocateDatabase(console.programFolder)->DatabasePath()).string();
+    const std::string path = LocatedDatabase(console.programFolder);
     const DateTime today = arguments.today.value_or(console.clock.Today());
     const auto sample = [today](BulkWriter& writer) { AddSampleBusiness(writer, today); };
     const std::string left = arguments.sample ? Create(path, sample) : Create(path, nullptr);

@@ -5,7 +5,7 @@
 #include "console/Session.h"
 #include "model/ModelErrors.h"
 #include "office/history/History.h"
-#include "platform/files/ProgramFolder.h"
+#include "store/whole/DatabaseName.h"
 
 namespace ptk {
 
@@ -25,7 +25,7 @@ std::string Read(const HistoryArguments& arguments, TrailQuery query, const std:
     const auto database = ConfiguredDatabase(programFolder);
     const CJetDB::Hold hold(database);
     if (!database->OpenDB()) {
-        throw FileFailure(database->LastFailure(), NativePath(database->DatabaseName()).string());
+        throw FileFailure(database->LastFailure(), NativeName(database->DatabaseName()));
     }
     if (arguments.employee) {
         query.employee = FindInHistory(database, *arguments.employee);

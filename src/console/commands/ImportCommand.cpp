@@ -5,9 +5,7 @@
 #include "console/ErrorText.h"
 #include "console/Session.h"
 #include "office/import/Import.h"
-#include "platform/files/ProgramFolder.h"
 #include "platform/system/Clock.h"
-#include "shell/CDatabaseLocator.h"
 #include "store/engine/EngineSource.h"
 
 #include <filesystem>
@@ -33,7 +31,7 @@ int ImportCommand(const ImportArguments& arguments, Console& console)
 {
     ImportOrder order;
     order.file = std::filesystem::absolute(arguments.file).string();
-    order.database = NativePath(LocateDatabase(console.programFolder)->DatabasePath()).string();
+    order.database = LocatedDatabase(console.programFolder);
     order.programFolder = console.programFolder;
     order.codePage = arguments.codePage;
     order.trial = arguments.dryRun;

@@ -5,8 +5,8 @@
 #include "console/ErrorText.h"
 #include "console/Session.h"
 #include "office/sheet/EmployeeImport.h"
-#include "platform/files/ProgramFolder.h"
 #include "store/engine/EngineSource.h"
+#include "store/whole/DatabaseName.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -28,7 +28,7 @@ EmployeeAccount ImportFile(const ImportEmployeesArguments& arguments, const std:
         return ImportEmployees(database, {std::filesystem::absolute(arguments.file).string(), arguments.dryRun, arguments.change, takes});
     } catch (const Failure& failure) {
         if (IsOfDatabase(failure)) {
-            throw FileFailure(failure, NativePath(database->DatabaseName()).string());
+            throw FileFailure(failure, NativeName(database->DatabaseName()));
         }
         throw Failure(failure.Number(), failure.Source(), arguments.file + ": " + failure.Description(), failure.LastSystemError());
     }

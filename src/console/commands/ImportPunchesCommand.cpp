@@ -5,8 +5,8 @@
 #include "console/ErrorText.h"
 #include "console/Session.h"
 #include "office/sheet/PunchImport.h"
-#include "platform/files/ProgramFolder.h"
 #include "store/engine/EngineSource.h"
+#include "store/whole/DatabaseName.h"
 
 #include <filesystem>
 
@@ -27,7 +27,7 @@ PunchAccount Import(const ImportPunchesArguments& arguments, const std::string& 
         return ImportPunches(database, order);
     } catch (const Failure& failure) {
         if (IsOfDatabase(failure)) {
-            throw FileFailure(failure, NativePath(database->DatabaseName()).string());
+            throw FileFailure(failure, NativeName(database->DatabaseName()));
         }
         throw Failure(failure.Number(), failure.Source(), arguments.file + ": " + failure.Description(), failure.LastSystemError());
     }

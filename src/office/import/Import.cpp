@@ -10,7 +10,7 @@
 #include "store/backup/Backups.h"
 #include "store/DisplayNameSQL.h"
 #include "store/engine/Engine.h"
-#include "store/postgres/ServerAddress.h"
+#include "store/whole/DatabaseName.h"
 
 #include <chrono>
 #include <filesystem>
@@ -55,8 +55,7 @@ void RefuseFile(const ImportOrder& order)
 void RequireFolders(const ImportOrder& order)
 {
     std::error_code ignored;
-    const auto home = IsServerAddress(order.database) ? fs::path(order.programFolder) : fs::path(order.database).parent_path();
-    for (const std::string& folder : {order.programFolder + "/reports", home.string()}) {
+    for (const std::string& folder : {order.programFolder + "/reports", HomeOf(order.database, order.programFolder)}) {
         if (!fs::is_directory(folder, ignored)) {
             throw Failure(failure::PathNotFound, "PTK", "there is no folder " + folder);
         }

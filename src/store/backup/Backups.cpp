@@ -8,9 +8,9 @@
 #include "platform/Succeeds.h"
 #include "platform/text/Text.h"
 #include "store/backup/BackupNames.h"
-#include "store/postgres/ServerAddress.h"
 #include "store/sqlite/FileHeader.h"
 #include "store/whole/DatabaseCopier.h"
+#include "store/whole/DatabaseName.h"
 
 #include <algorithm>
 #include <fcntl.h>
@@ -23,6 +23,8 @@ namespace ptk {
 namespace {
 
 namespace fs = std::filesystem;
+
+constexpr const char* kBackupIsFile = "a backup is a file; ptk-console copy-database copies into a server's database";
 
 constexpr std::string_view kDamagedEnding = "-damaged.mdb"; // of what a restore could only keep the bytes of
 
@@ -113,11 +115,16 @@ std::string BackUp(SqliteEngine& database, const std::string& folder, DateTime n
 
 std::string BackUp(const std::string& path, const std::string& folder, DateTime now, const CopyProgress& progress)
 {
-    if (IsServerAddress(path)) {
+    if (!IsFileName(path)) {
         return BackUpServerInto(path, folder, now, progress);
     }
     SqliteEngine database(path);
     return BackUp(database, folder, now, progress);
+}
+
+std::string BackupRefusal(const std::string& target)
+{
+    return IsFileName(target) ? "" : kBackupIsFile;
 }
 
 void BackUpTo(const std::string& path, const std::string& target, const CopyProgress& progress)
@@ -126,7 +133,7 @@ void BackUpTo(const std::string& path, const std::string& target, const CopyProg
         throw FileDraft::AlreadyThere(target);
     }
     ClearFolder(fs::path(target).parent_path().string());
-    if (IsServerAddress(path)) {
+    if (!IsFileName(path)) {
         return BackUpServer(path, target, progress);
     }
     SqliteEngine database(path);

@@ -27,6 +27,9 @@ std::string BackUp(SqliteEngine& database, const std::string& folder, DateTime n
 // whose address that is, a backup is a file; `progress` is told of rows then.
 std::string BackUp(const std::string& path, const std::string& folder, DateTime now, const CopyProgress& progress = {});
 
+// Why no backup can be of this name, in a sentence without a full stop; empty where one can.
+[[nodiscard]] std::string BackupRefusal(const std::string& target);
+
 // A backup of that database under a name of one's own. Raises 75 when there is something of that name, 76 without its folder.
 void BackUpTo(const std::string& path, const std::string& target, const CopyProgress& progress = {});
 

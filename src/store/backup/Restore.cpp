@@ -7,7 +7,7 @@
 #include "store/backup/Backups.h"
 #include "store/engine/EngineNumber.h"
 #include "store/engine/EngineSource.h"
-#include "store/postgres/ServerAddress.h"
+#include "store/whole/DatabaseName.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -138,7 +138,7 @@ Present KeepPresent(const RestoreOrder& order, const CopyProgress& progress)
 
 std::string RestoreRefusal(const std::string& database)
 {
-    return IsServerAddress(database) ? kNoRestoreOnServer : "";
+    return IsFileName(database) ? "" : kNoRestoreOnServer;
 }
 
 std::string Restore(const RestoreOrder& order, const CopyProgress& progress)

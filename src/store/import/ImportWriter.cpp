@@ -2,11 +2,11 @@
 
 #include "platform/Failure.h"
 #include "platform/files/FileSteps.h"
+#include "store/engine/Engine.h"
 #include "store/engine/RecordSet.h"
-#include "store/postgres/PostgresEngine.h"
-#include "store/postgres/ServerAddress.h"
-#include "store/sqlite/SqliteEngine.h"
+#include "store/engine/Statement.h"
 #include "store/whole/DatabaseCreator.h"
+#include "store/whole/DatabaseName.h"
 #include "store/whole/EveryRow.h"
 
 #include <fmt/format.h>
@@ -95,6 +95,12 @@ void FillServer(Engine& server, const std::function<void(Engine&)>& fill)
     RefuseUnlessEmpty(server);
     fill(server);
     SkipNumbers(server);
+}
+
+// A file that is not there yet.
+bool IsMissing(const std::string& database)
+{
+    return IsFileName(database) && !IsThere(database);
 }
 
 void Change(Engine& engine, const ImportTarget& target, const std::function<void(Engine&)>& fill)
@@ -199,27 +205,23 @@ ImportFigures ReadFigures(Engine& engine)
 
 void RefuseUnlessEmpty(const std::string& database)
 {
-    if (IsServerAddress(database)) {
-        PostgresEngine engine(database);
-        RefuseUnlessEmpty(engine);
-    } else if (IsThere(database)) {
-        SqliteEngine engine(database, ReadOnly{});
-        RefuseUnlessEmpty(engine);
+    if (IsMissing(database)) {
+        return;
     }
+    const auto engine = OpenDatabase(database, OpenFor::Look);
+    RefuseUnlessEmpty(*engine);
 }
 
 void Import(const ImportTarget& target, const std::function<void(Engine&)>& fill)
 {
-    if (IsServerAddress(target.database)) {
-        PostgresEngine engine(target.database, Unhurried{});
-        return Change(engine, target, [&](Engine& server) { FillServer(server, fill); });
-    }
-    if (!IsThere(target.database)) {
+    if (IsMissing(target.database)) {
         return CreateAndChangeDatabase(target.database, [&](Engine& engine) { Change(engine, target, fill); });
     }
-    SqliteEngine engine(target.database);
-    engine.KeepCopy([&] { target.keepCopy(engine); });
-    Change(engine, target, fill);
+    const auto engine = OpenDatabase(target.database, OpenFor::Whole, WhenHeld::Wait, target.keepCopy);
+    if (IsFileName(target.database)) {
+        return Change(*engine, target, fill);
+    }
+    Change(*engine, target, [&](Engine& server) { FillServer(server, fill); });
 }
 
 void TryImport(const ImportTarget& target, const std::function<void(Engine&)>& fill)

@@ -3,6 +3,7 @@
 
 #include "store/import/ImportTables.h"
 #include "store/sqlite/EditTrail.h"
+#include "store/whole/OpenDatabase.h"
 
 #include <array>
 #include <cstdint>
@@ -16,7 +17,6 @@
 namespace ptk {
 
 class Engine;
-class SqliteEngine;
 class Statement;
 
 // What an import can be told by, of what was to be written and of what was. Minutes are those of the wall clock between start and end, both
@@ -83,7 +83,7 @@ struct ImportTarget
     std::string database; // in the platform's own form; a missing file is made, a server's must have its tables
     std::string file;     // where the rows come from, for the trail
     Author author;
-    std::function<void(SqliteEngine&)> keepCopy; // called before a database of an earlier version is brought up to date
+    KeepCopy keepCopy;
 };
 
 // Raises a failure without a number where there is a database that holds companies, time records or more employees than the administrator,

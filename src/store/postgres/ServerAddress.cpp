@@ -46,11 +46,6 @@ std::string SaidServer(const std::string& address)
     return said;
 }
 
-std::string SaidDatabase(const std::string& name)
-{
-    return IsServerAddress(name) ? SaidServer(name) : name;
-}
-
 void AskForPasswordsWith(AskPassword ask)
 {
     Asker() = std::move(ask);

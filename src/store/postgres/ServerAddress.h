@@ -14,9 +14,6 @@ namespace ptk {
 // Such an address as it is shown to people and written into logs, "ptk on books.example": nothing of it but host and database.
 [[nodiscard]] std::string SaidServer(const std::string& address);
 
-// Such an address so, any other name as it is.
-[[nodiscard]] std::string SaidDatabase(const std::string& name);
-
 // Asked for the password of an address when the server wants one and neither the environment nor the user's password file has it; nothing
 // when the person would rather not say. Called at most once for an address that then lets in: the program remembers it while it runs, and
 // writes it nowhere.

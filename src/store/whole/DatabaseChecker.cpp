@@ -4,9 +4,9 @@
 #include "platform/text/Text.h"
 #include "store/engine/RecordSet.h"
 #include "store/engine/StoredTable.h"
-#include "store/postgres/ServerAddress.h"
 #include "store/sqlite/FileHeader.h"
 #include "store/sqlite/SqliteEngine.h"
+#include "store/whole/DatabaseName.h"
 #include "store/whole/RowChecker.h"
 #include "store/whole/ServerChecker.h"
 #include "store/whole/TrailChecker.h"
@@ -249,7 +249,7 @@ private:
 
 DatabaseCheck CheckDatabase(const std::string& path)
 {
-    return IsServerAddress(path) ? CheckServerDatabase(path) : FileInspector(path).Inspect();
+    return IsFileName(path) ? FileInspector(path).Inspect() : CheckServerDatabase(path);
 }
 
 } // namespace ptk

@@ -7,11 +7,11 @@
 #include "store/engine/Engine.h"
 #include "store/engine/RecordSet.h"
 #include "store/engine/RowSink.h"
-#include "store/postgres/PostgresEngine.h"
-#include "store/postgres/ServerAddress.h"
 #include "store/sqlite/SqliteEngine.h"
 #include "store/whole/DatabaseCreator.h"
+#include "store/whole/DatabaseName.h"
 #include "store/whole/EveryRow.h"
+#include "store/whole/OpenDatabase.h"
 
 #include <fmt/format.h>
 
@@ -37,14 +37,7 @@ struct Source
     std::unique_ptr<Engine> engine;
     bool isFile;
 
-    explicit Source(const std::string& path) : isFile(!IsServerAddress(path))
-    {
-        if (isFile) {
-            engine = std::make_unique<SqliteEngine>(path);
-        } else {
-            engine = std::make_unique<PostgresEngine>(path, Unhurried{});
-        }
-    }
+    explicit Source(const std::string& name) : engine(OpenDatabase(name, OpenFor::Whole)), isFile(IsFileName(name)) {}
 };
 
 std::int64_t NumberFrom(Engine& engine, const std::string& sql)
@@ -259,10 +252,10 @@ CopyAccount CopyFile(const std::string& from, const std::string& to)
 
 CopyAccount CopyDatabase(const std::string& from, const std::string& to, const RowProgress& progress)
 {
-    if (!IsServerAddress(from) && !IsServerAddress(to)) {
+    if (IsFileName(from) && IsFileName(to)) {
         return CopyFile(from, to);
     }
-    if (!IsServerAddress(to)) {
+    if (IsFileName(to)) {
         RefuseTakenPath(to);
     }
     const Source source(from);

@@ -5,11 +5,11 @@
 #include "platform/files/FileSteps.h"
 #include "store/engine/Schema.h"
 #include "store/postgres/PostgresEngine.h"
-#include "store/postgres/ServerAddress.h"
 #include "store/postgres/ServerCreator.h"
 #include "store/sqlite/EditTrail.h"
 #include "store/sqlite/SqliteEngine.h"
 #include "store/whole/BulkWriter.h"
+#include "store/whole/DatabaseName.h"
 
 #include <unistd.h>
 
@@ -74,7 +74,7 @@ std::string CreateDatabase(const std::string& path, const std::function<void(Bul
 
 std::string CreateFilledDatabase(const std::string& path, const std::function<void(Engine&)>& fill)
 {
-    if (IsServerAddress(path)) {
+    if (!IsFileName(path)) {
         return CreateServerDatabase(path, fill) == ServerRoles::Ready ? "" : kRolesMissing;
     }
     RefuseTakenPath(path);
