@@ -51,15 +51,15 @@ CheckLimits LimitsOf(const RecordSet& row)
     return limits;
 }
 
-// Of a CJetDB or an Engine; `prepare` makes a statement of a text, `lock` goes behind the select.
-template <typename Database, typename Prepare>
-CheckLimits StoredLimits(Database& database, const char* lock, Prepare prepare)
+CheckLimits LimitsIn(Statement& select)
 {
-    if (!database.HasTable(kTable)) {
-        return {};
-    }
-    const auto row = prepare(std::string(kSelect) + lock)->ReadRows();
+    const auto row = select.ReadRows();
     return row->EndOfFile() ? CheckLimits() : LimitsOf(*row);
+}
+
+CheckLimits LockedLimits(Engine& engine)
+{
+    return engine.HasTable(kTable) ? LimitsIn(*engine.Prepare(std::string(kSelect) + engine.Words().lockRows)) : CheckLimits();
 }
 
 void Update(Engine& engine, const CheckLimits& limits)
@@ -74,18 +74,32 @@ void Update(Engine& engine, const CheckLimits& limits)
 
 } // namespace
 
+LimitsQuestion::LimitsQuestion(CJetDB& database)
+{
+    if (database.HasTable(kTable)) {
+        m_row = RequireSelect(database, kSelect);
+        m_row->AskAhead();
+    }
+}
+
+LimitsQuestion::~LimitsQuestion() = default;
+
+CheckLimits LimitsQuestion::Answer()
+{
+    return m_row == nullptr ? CheckLimits() : LimitsIn(*m_row);
+}
+
 CheckLimits LoadCheckLimits(const std::shared_ptr<CJetDB>& database)
 {
     const CJetDB::Hold hold(database);
     RequireOpen(*database);
-    return StoredLimits(*database, "", [&](const std::string& sql) { return RequireSelect(*database, sql); });
+    return LimitsQuestion(*database).Answer();
 }
 
 bool SaveCheckLimits(const std::shared_ptr<CJetDB>& database, const CheckLimits& limits, const CheckLimits& asRead)
 {
     return database->ExecuteSteps([&](Engine& engine) {
-        const CheckLimits present =
-            StoredLimits(engine, engine.Words().lockRows, [&](const std::string& sql) { return engine.Prepare(sql); });
+        const CheckLimits present = LockedLimits(engine);
         if (limits == present || limits == asRead) {
             return;
         }

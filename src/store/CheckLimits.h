@@ -7,6 +7,7 @@
 namespace ptk {
 
 class CJetDB;
+class Statement;
 
 struct CheckLimits
 {
@@ -18,7 +19,23 @@ struct CheckLimits
 };
 
 // Files of earlier versions have no such table: where it, its row or a value in it is missing or of no use, the value above holds. Raises
-// the failure of a database that cannot be opened or read. REQUIRES: database is not nullptr, here and below.
+// the failure of a database that cannot be read. The question is on its way from the first where its answer comes from afar. REQUIRES: a
+// CJetDB::Hold on the open database outlives it.
+class LimitsQuestion
+{
+public:
+    explicit LimitsQuestion(CJetDB& database);
+    ~LimitsQuestion();
+    LimitsQuestion(const LimitsQuestion&) = delete;
+    LimitsQuestion& operator=(const LimitsQuestion&) = delete;
+
+    [[nodiscard]] CheckLimits Answer();
+
+private:
+    std::unique_ptr<Statement> m_row; // nullptr without the table
+};
+
+// The same at once. Raises also that the database cannot be opened. REQUIRES: database is not nullptr, here and below.
 [[nodiscard]] CheckLimits LoadCheckLimits(const std::shared_ptr<CJetDB>& database);
 
 // Makes the table where it is missing; writes nothing where the limits are those as read, or stored already. On disk when it answers true;

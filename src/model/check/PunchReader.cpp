@@ -145,12 +145,17 @@ void PunchReader::AskAhead(std::span<const std::int32_t> employeeIDs)
     }
 }
 
+bool PunchReader::IsAsked(std::span<const std::int32_t> employeeIDs) const
+{
+    return std::ranges::equal(m_asked, employeeIDs);
+}
+
 void PunchReader::Fetch(std::span<const std::int32_t> employeeIDs)
 {
     for (const std::int32_t id : employeeIDs) {
         m_ahead[id].reserve(kUsualCount);
     }
-    if (!std::ranges::equal(m_asked, employeeIDs)) {
+    if (!IsAsked(employeeIDs)) {
         Choose(employeeIDs);
     }
     auto whose = m_ahead.end(); // the rows of one stand together, mostly

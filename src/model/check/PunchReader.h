@@ -39,6 +39,7 @@ public:
 
     // Sends off what the next ReadAhead of the same people reads, to be on its way while these are looked at.
     void AskAhead(std::span<const std::int32_t> employeeIDs);
+    [[nodiscard]] bool IsAsked(std::span<const std::int32_t> employeeIDs) const;
 
     // All that CheckCard needs, by start, end and number.
     Punches Read(std::int32_t employeeID);

@@ -103,27 +103,42 @@ void Take(Closings& closings, const Statement& row, const PayPeriod& period)
 
 } // namespace
 
-Closings ReadClosings(const std::shared_ptr<CJetDB>& database, const PayPeriod& period, std::optional<std::int64_t> employee)
+ClosingsQuestion::ClosingsQuestion(CJetDB& database, const PayPeriod& period, std::optional<std::int64_t> employee) : m_period(period)
 {
-    const CJetDB::Hold hold(database);
-    RequireOpen(*database);
-    Closings closings;
-    if (!database->HasTable(kTable)) {
-        return closings;
+    if (!database.HasTable(kTable)) {
+        return;
     }
     const char* const ofOne = employee ? kOfOne : "";
-    const auto rows = RequireSelect(*database, Said(kTouching, ofOne) + " UNION ALL " + Said(kBefore, database->Words().closedDays, ofOne));
-    rows->Bind("from", period.from);
-    rows->Bind("to", period.to);
+    m_rows = RequireSelect(database, Said(kTouching, ofOne) + " UNION ALL " + Said(kBefore, database.Words().closedDays, ofOne));
+    m_rows->Bind("from", period.from);
+    m_rows->Bind("to", period.to);
     if (employee) {
-        rows->Bind("employee", std::to_string(*employee));
+        m_rows->Bind("employee", std::to_string(*employee));
     }
-    rows->ForEachRow([&] { Take(closings, *rows, period); });
+    m_rows->AskAhead();
+}
+
+ClosingsQuestion::~ClosingsQuestion() = default;
+
+Closings ClosingsQuestion::Answer()
+{
+    Closings closings;
+    if (m_rows == nullptr) {
+        return closings;
+    }
+    m_rows->ForEachRow([&] { Take(closings, *m_rows, m_period); });
     for (auto& [id, closed] : closings) {
         std::sort(closed.ofPeriod.begin(), closed.ofPeriod.end(),
                   [](const Closing& left, const Closing& right) { return left.id < right.id; });
     }
     return closings;
+}
+
+Closings ReadClosings(const std::shared_ptr<CJetDB>& database, const PayPeriod& period, std::optional<std::int64_t> employee)
+{
+    const CJetDB::Hold hold(database);
+    RequireOpen(*database);
+    return ClosingsQuestion(*database, period, employee).Answer();
 }
 
 std::vector<Closing> ReadClosingsOf(const std::shared_ptr<CJetDB>& database, std::int64_t employee)

@@ -9,11 +9,29 @@
 namespace ptk {
 
 class CJetDB;
+class Statement;
 
 // All of these raise the failure of a database that cannot be opened or read. REQUIRES: database is not nullptr.
 
 // What an overview or a card of this period needs to know, by one question, of everybody or of one employee. What it costs does not grow
-// with the closings of earlier periods.
+// with the closings of earlier periods. The question is on its way from the first where its answer comes from afar. REQUIRES: a
+// CJetDB::Hold on the open database outlives it.
+class ClosingsQuestion
+{
+public:
+    ClosingsQuestion(CJetDB& database, const PayPeriod& period, std::optional<std::int64_t> employee);
+    ~ClosingsQuestion();
+    ClosingsQuestion(const ClosingsQuestion&) = delete;
+    ClosingsQuestion& operator=(const ClosingsQuestion&) = delete;
+
+    [[nodiscard]] Closings Answer();
+
+private:
+    PayPeriod m_period;
+    std::unique_ptr<Statement> m_rows; // nullptr where nothing can be closed
+};
+
+// The same at once.
 [[nodiscard]] Closings ReadClosings(const std::shared_ptr<CJetDB>& database, const PayPeriod& period,
                                     std::optional<std::int64_t> employee = std::nullopt);
 

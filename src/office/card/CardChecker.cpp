@@ -3,7 +3,6 @@
 #include "model/CEmployee.h"
 #include "model/check/PaidChanges.h"
 #include "model/check/PunchPlace.h"
-#include "model/payday/ClosingReader.h"
 #include "platform/system/LocalOffset.h"
 #include "store/CJetDB.h"
 #include "store/engine/Statement.h"
@@ -35,25 +34,35 @@ DateTime FirstDayBefore(const PayPeriod& period)
 
 } // namespace
 
-CardChecker::CardChecker(std::shared_ptr<CJetDB> database, const CheckTerms& terms, std::optional<std::int32_t> onlyEmployee)
+CardChecker::CardChecker(std::shared_ptr<CJetDB> database, const CheckTerms& terms, std::unique_ptr<ClosingsQuestion> closings)
     : m_database(std::move(database)), m_terms(terms), m_reader(*m_database, terms.period, terms.limits.firstWeekday),
-      m_closings(ReadClosings(m_database, terms.period, onlyEmployee)), m_clock(LocalOffset), m_usualEnds(m_database)
+      m_closingsQuestion(closings ? std::move(closings) : std::make_unique<ClosingsQuestion>(*m_database, terms.period, std::nullopt)),
+      m_clock(LocalOffset), m_usualEnds(m_database)
 {
 }
 
-const ClosingsOfEmployee* CardChecker::ClosingsOf(std::int32_t employeeID) const
+CardChecker::~CardChecker() = default;
+
+const ClosingsOfEmployee* CardChecker::ClosingsOf(std::int32_t employeeID)
 {
-    const auto found = m_closings.find(employeeID);
-    return found == m_closings.end() ? nullptr : &found->second;
+    if (!m_closings) {
+        m_closings = m_closingsQuestion->Answer();
+    }
+    const auto found = m_closings->find(employeeID);
+    return found == m_closings->end() ? nullptr : &found->second;
 }
 
-// The days before the period, too, of those who have such days.
+// The days before the period, too, of those who have such days. All that can be asked is on its way before the first answer is waited for.
 void CardChecker::ReadAhead(std::span<const std::int32_t> employeeIDs)
 {
-    m_reader.ReadAhead(employeeIDs);
     if (!m_reader.ReadsAhead()) {
         return;
     }
+    if (!m_reader.IsAsked(employeeIDs)) {
+        m_reader.AskAhead(employeeIDs);
+    }
+    AskWhoWorkedBefore();
+    m_reader.ReadAhead(employeeIDs);
     std::map<DateTime, std::vector<std::int32_t>> people; // by the first of those days
     for (const std::int32_t id : employeeIDs) {
         const ClosingsOfEmployee* closings = ClosingsOf(id);
@@ -62,7 +71,10 @@ void CardChecker::ReadAhead(std::span<const std::int32_t> employeeIDs)
         }
     }
     for (const auto& [first, ids] : people) {
-        GapReader({first, m_terms.period.from.AddDays(-1)}).ReadAhead(ids);
+        GapReader({first, m_terms.period.from.AddDays(-1)}).AskAhead(ids);
+    }
+    for (const auto& [first, ids] : people) {
+        m_gaps[first]->ReadAhead(ids);
     }
 }
 
@@ -116,14 +128,22 @@ void CardChecker::ReadGap(std::int32_t employeeID, const ClosingsOfEmployee& clo
     }
 }
 
+void CardChecker::AskWhoWorkedBefore()
+{
+    if (m_workedBeforeQuestion == nullptr) {
+        m_workedBeforeQuestion = RequireSelect(*m_database, punchsql::WithShiftsIn(m_database->Words()));
+        m_workedBeforeQuestion->Bind("first", FirstDayBefore(m_terms.period));
+        m_workedBeforeQuestion->Bind("end", m_terms.period.from);
+        m_workedBeforeQuestion->AskAhead();
+    }
+}
+
 bool CardChecker::WorkedBefore(std::int32_t employeeID)
 {
     if (!m_workedBefore) {
+        AskWhoWorkedBefore();
         m_workedBefore.emplace();
-        const auto rows = RequireSelect(*m_database, punchsql::WithShiftsIn(m_database->Words()));
-        rows->Bind("first", FirstDayBefore(m_terms.period));
-        rows->Bind("end", m_terms.period.from);
-        rows->ForEachRow([&] { m_workedBefore->insert(rows->Int64At(0)); });
+        m_workedBeforeQuestion->ForEachRow([&] { m_workedBefore->insert(m_workedBeforeQuestion->Int64At(0)); });
     }
     return m_workedBefore->contains(employeeID);
 }
@@ -134,7 +154,7 @@ std::int32_t CardChecker::RecordsOfPeriod() const
         std::count_if(m_rows.begin(), m_rows.end(), [&](const Punch& punch) { return LiesIn(m_terms.period, punch); }));
 }
 
-std::optional<Closing> CardChecker::Paid(std::int32_t employeeID) const
+std::optional<Closing> CardChecker::Paid(std::int32_t employeeID)
 {
     const ClosingsOfEmployee* closings = ClosingsOf(employeeID);
     return closings == nullptr || closings->Newest() == nullptr ? std::nullopt : std::optional(*closings->Newest());

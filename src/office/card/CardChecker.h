@@ -4,7 +4,7 @@
 #include "model/check/CardCheck.h"
 #include "model/check/ClockChanges.h"
 #include "model/check/PunchReader.h"
-#include "model/payday/Closing.h"
+#include "model/payday/ClosingReader.h"
 #include "model/PayPeriod.h"
 #include "model/remedy/Remedy.h"
 #include "model/remedy/UsualEnds.h"
@@ -21,6 +21,7 @@ namespace ptk {
 
 class CEmployee;
 class CJetDB;
+class Statement;
 
 // What a check is made with besides the records.
 struct CheckTerms
@@ -34,8 +35,12 @@ struct CheckTerms
 class CardChecker
 {
 public:
-    // Reads what was closed: of everybody by one question, or of one employee. REQUIRES: a CJetDB::Hold on the open database outlives it.
-    CardChecker(std::shared_ptr<CJetDB> database, const CheckTerms& terms, std::optional<std::int32_t> onlyEmployee = std::nullopt);
+    // Asks what was closed, of everybody, unless `closings` did so for the one employee who is to be checked. REQUIRES: a CJetDB::Hold on
+    // the open database outlives it.
+    CardChecker(std::shared_ptr<CJetDB> database, const CheckTerms& terms, std::unique_ptr<ClosingsQuestion> closings = nullptr);
+    ~CardChecker();
+    CardChecker(const CardChecker&) = delete;
+    CardChecker& operator=(const CardChecker&) = delete;
 
     // Of those who are to be checked next: see PunchReader.
     void ReadAhead(std::span<const std::int32_t> employeeIDs);
@@ -48,27 +53,30 @@ public:
     [[nodiscard]] std::int32_t RecordsOfPeriod() const;
 
     // What was paid for exactly this period, where it was.
-    [[nodiscard]] std::optional<Closing> Paid(std::int32_t employeeID) const;
+    [[nodiscard]] std::optional<Closing> Paid(std::int32_t employeeID);
 
     // Of the findings of the last Check, in their order. autoShiftEnd: see ShiftEnds.
     [[nodiscard]] std::vector<std::vector<Remedy>> Remedies(const CEmployee& employee, const CardCheck& check,
                                                             std::optional<std::int64_t> autoShiftEnd);
 
 private:
-    [[nodiscard]] const ClosingsOfEmployee* ClosingsOf(std::int32_t employeeID) const;
+    [[nodiscard]] const ClosingsOfEmployee* ClosingsOf(std::int32_t employeeID);
     [[nodiscard]] PunchReader& GapReader(const PayPeriod& gap);
     void ReadGap(std::int32_t employeeID, const ClosingsOfEmployee& closings);
     void NameChanged(CardCheck& check, const Closing& paid) const;
+    void AskWhoWorkedBefore();
     [[nodiscard]] bool WorkedBefore(std::int32_t employeeID);
 
     std::shared_ptr<CJetDB> m_database;
     CheckTerms m_terms;
     PunchReader m_reader;
-    Closings m_closings;
+    std::unique_ptr<ClosingsQuestion> m_closingsQuestion;
+    std::optional<Closings> m_closings; // once they were asked for
     ClockChanges m_clock;
     UsualEnds m_usualEnds;
     std::map<DateTime, std::unique_ptr<PunchReader>> m_gaps; // by their first day
-    std::optional<std::set<std::int64_t>> m_workedBefore;    // EmployeeIDs, read when somebody has no shift
+    std::unique_ptr<Statement> m_workedBeforeQuestion;
+    std::optional<std::set<std::int64_t>> m_workedBefore; // EmployeeIDs, read when somebody has no shift
     Punches m_rows;
 };
 

@@ -2,11 +2,30 @@
 
 #include "model/CEmployee.h"
 #include "model/CTimeCard.h"
+#include "model/payday/ClosingReader.h"
 #include "office/card/CardChecker.h"
 #include "platform/Succeeds.h"
 #include "store/CJetDB.h"
 
 namespace ptk {
+
+namespace {
+
+// What the check asks besides the records goes along with the card's own question, where answers come from afar.
+struct CheckQuestions
+{
+    std::unique_ptr<LimitsQuestion> limits; // nullptr where they are given
+    std::unique_ptr<ClosingsQuestion> closings;
+};
+
+CheckQuestions AskForCheck(CJetDB& database, const CEmployee& employee, const PayPeriod& period, bool limitsAreGiven)
+{
+    RequireOpen(database);
+    return {limitsAreGiven ? nullptr : std::make_unique<LimitsQuestion>(database),
+            std::make_unique<ClosingsQuestion>(database, period, employee.EmployeeID())};
+}
+
+} // namespace
 
 CheckedTimecard GenerateChecked(CTimeCard& card, const std::shared_ptr<CJetDB>& database, const std::shared_ptr<CEmployee>& employee,
                                 const PayPeriod& period, DateTime now, const std::optional<CheckLimits>& limits,
@@ -14,15 +33,24 @@ CheckedTimecard GenerateChecked(CTimeCard& card, const std::shared_ptr<CJetDB>& 
 {
     const DateTime end = period.to.AddDays(1);
     const CJetDB::Hold hold(database);
+    const bool isToBeChecked = employee != nullptr && database != nullptr;
+    const auto ask = [&] { return AskForCheck(*database, *employee, period, limits.has_value()); };
+    CheckQuestions asked;
+    if (isToBeChecked) {
+        Succeeds([&] { asked = ask(); }); // the check tells what it fails with
+    }
     CheckedTimecard result;
     result.period = period;
     result.generated = card.GenerateTimecard(employee, period.from, end);
-    if (employee == nullptr || database == nullptr) {
+    if (!isToBeChecked) {
         return result;
     }
     const auto check = [&] {
-        result.limits = limits ? *limits : LoadCheckLimits(database);
-        CardChecker checker(database, {period, now, result.limits}, employee->EmployeeID());
+        if (asked.closings == nullptr) {
+            asked = ask();
+        }
+        result.limits = limits ? *limits : asked.limits->Answer();
+        CardChecker checker(database, {period, now, result.limits}, std::move(asked.closings));
         result.check = checker.Check(*employee);
         result.punches = checker.Rows();
         result.paid = checker.Paid(employee->EmployeeID());

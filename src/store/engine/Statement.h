@@ -60,7 +60,8 @@ public:
     virtual void ForEachRow(const std::function<void()>& take) = 0;
 
     // Sends the question off where its answer comes from afar, so that it is on its way while the program does something else; the next
-    // ForEachRow reads it, if nothing was bound before. Refuses and raises the same. Does nothing elsewhere.
+    // reading takes it, if nothing was bound before. Several statements may do so one after the other. Refuses and raises the same. Does
+    // nothing elsewhere.
     virtual void AskAhead() {}
 
     // For `take`, of the row at which ForEachRow stands; columns count from 0.

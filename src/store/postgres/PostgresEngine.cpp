@@ -173,6 +173,7 @@ void PostgresEngine::Release() noexcept
     }
     m_transaction = Transaction::Read;
     m_posted.clear();
+    m_behind.clear();
 }
 
 void PostgresEngine::Begin(Transaction transaction)
@@ -260,12 +261,24 @@ std::int64_t PostgresEngine::AskAhead(const ServerCommand& command)
 {
     RequireOpen();
     Flush();
-    return m_begun ? m_line->SendAhead(command) : 0;
+    const NumberedQuestion question{++m_questions, command};
+    if (m_begun) {
+        m_line->SendAhead(question);
+    } else {
+        m_behind.push_back(question);
+    }
+    return question.number;
 }
 
-std::optional<ServerResult> PostgresEngine::TakeAhead(std::int64_t question)
+std::optional<ServerResult> PostgresEngine::TakeAhead(std::int64_t number)
 {
-    return question != 0 && m_begun ? m_line->TakeAhead(question) : std::nullopt;
+    const auto waits = std::find_if(m_behind.begin(), m_behind.end(), [&](const auto& question) { return question.number == number; });
+    if (waits != m_behind.end()) {
+        const ServerCommand command = waits->command;
+        m_behind.erase(waits);
+        return Ask(command);
+    }
+    return number != 0 && m_begun ? m_line->TakeAhead(number) : std::nullopt;
 }
 
 // For what does not go through Ask.
@@ -286,12 +299,13 @@ std::vector<ServerResult> PostgresEngine::SendFirst(const std::vector<ServerComm
 {
     const auto patient = std::chrono::steady_clock::now() + m_patience.whole.value_or(m_patience.silence);
     const Moment until = m_patience.whole ? Moment(patient) : std::nullopt;
+    const std::vector<NumberedQuestion> behind = std::exchange(m_behind, {});
     try {
         if (m_line == nullptr) {
             Connect(until);
         }
         m_begun = true;
-        return m_line->Send(commands, until);
+        return m_line->Send(commands, until, behind);
     } catch (const ServerFailure& failure) {
         if (!failure.IsLost() || std::chrono::steady_clock::now() >= patient) {
             throw;
@@ -299,7 +313,7 @@ std::vector<ServerResult> PostgresEngine::SendFirst(const std::vector<ServerComm
     }
     Connect(until);
     m_begun = true;
-    return m_line->Send(commands, until);
+    return m_line->Send(commands, until, behind);
 }
 
 void PostgresEngine::Write(const std::function<void()>& steps)

@@ -15,6 +15,7 @@ namespace ptk {
 class ServerFailure;
 class ServerLine;
 class ServerResult;
+struct NumberedQuestion;
 struct ServerCommand;
 
 // Tells that a server's database is about to get its tables.
@@ -83,12 +84,12 @@ public:
     // no rows, of a write that has its number. False where it is to be asked by itself.
     [[nodiscard]] bool Post(const ServerCommand& change);
 
-    // A question whose answer is taken later by the number that is answered here; 0 where none can be asked before the hold has begun.
-    // There is one at a time: the next takes its place.
+    // A question whose answer is taken later by the number that is answered here. Before the hold or the write has begun it goes with the
+    // first that is asked.
     [[nodiscard]] std::int64_t AskAhead(const ServerCommand& command);
 
     // Nothing where that answer is not to be had any more, or for 0.
-    [[nodiscard]] std::optional<ServerResult> TakeAhead(std::int64_t question);
+    [[nodiscard]] std::optional<ServerResult> TakeAhead(std::int64_t number);
 
     // Within the steps of Write, or since BeginMany.
     [[nodiscard]] bool IsWriting() const { return m_transaction != Transaction::Read; }
@@ -141,9 +142,11 @@ private:
     bool m_listens = false;
     bool m_begun = false; // a transaction that the server knows of
     Transaction m_transaction = Transaction::Read;
-    std::string m_number;                // of the write's transaction, once it is signed
-    bool m_signsBehind = false;          // the write is signed behind the next question
-    std::vector<ServerCommand> m_posted; // changes that were not sent yet
+    std::string m_number;                   // of the write's transaction, once it is signed
+    bool m_signsBehind = false;             // the write is signed behind the next question
+    std::vector<ServerCommand> m_posted;    // changes that were not sent yet
+    std::vector<NumberedQuestion> m_behind; // to go with the first question
+    std::int64_t m_questions = 0;           // asked ahead so far, over all connections
     std::int64_t m_formerRoundTrips = 0;
     std::map<std::string, std::string, std::less<>> m_storedTexts; // as they were when first asked for
 };

@@ -22,10 +22,11 @@ ServerLine::ServerLine(const std::string& address, LinePatience patience, std::o
 {
 }
 
-void ServerLine::SendOff()
+void ServerLine::SendOff(std::int64_t question)
 {
     m_connection.Require(Library().pipelineSync(m_connection.Get()));
     m_connection.Flush();
+    m_onTheirWay.push_back({std::exchange(m_awaited, {}), question, m_roundTrips, false});
 }
 
 void ServerLine::Post(const ServerCommand& command)
@@ -130,11 +131,11 @@ bool IsAnswer(const ServerResult& result)
 } // namespace
 
 // What was posted is answered up to the first failure; behind it nothing was done.
-std::vector<ServerResult> ServerLine::Hear()
+std::vector<ServerResult> ServerLine::Hear(const Portion& portion)
 {
     std::vector<ServerResult> results;
     std::optional<ServerFailure> failure;
-    for (const Awaited& awaited : std::exchange(m_awaited, {})) {
+    for (const Awaited& awaited : portion.awaited) {
         ServerResult result = m_connection.Next();
         m_connection.RequireExpected(IsAnswer(result));
         if (Library().resultStatus(result.Get()) == PGRES_FATAL_ERROR && !failure) {
@@ -158,21 +159,23 @@ std::vector<ServerResult> ServerLine::Hear()
     return results;
 }
 
-std::vector<ServerResult> ServerLine::Send(const std::vector<ServerCommand>& commands, std::optional<Clock::time_point> until)
+std::vector<ServerResult> ServerLine::Send(const std::vector<ServerCommand>& commands, std::optional<Clock::time_point> until,
+                                           const std::vector<NumberedQuestion>& behind)
 {
     m_connection.Begin(until);
-    return Ask(commands);
+    return Ask(commands, behind);
 }
 
 std::vector<ServerResult> ServerLine::Finish(const std::vector<ServerCommand>& commands)
 {
     m_connection.Begin(std::nullopt, false);
-    return Ask(commands);
+    auto results = Ask(commands, {});
+    m_answers.clear();
+    return results;
 }
 
-std::vector<ServerResult> ServerLine::Ask(const std::vector<ServerCommand>& commands)
+std::vector<ServerResult> ServerLine::Ask(const std::vector<ServerCommand>& commands, const std::vector<NumberedQuestion>& behind)
 {
-    HearUnheard();
     const bool verifies = !m_verified;
     if (verifies) {
         Post({kOwnToken, {}, false, false});
@@ -180,9 +183,18 @@ std::vector<ServerResult> ServerLine::Ask(const std::vector<ServerCommand>& comm
     for (const ServerCommand& command : commands) {
         Post(command);
     }
+    const std::size_t before = m_onTheirWay.size();
     SendOff();
-    ++m_roundTrips;
-    std::vector<ServerResult> results = Hear();
+    for (const NumberedQuestion& question : behind) {
+        Post(question.command);
+        SendOff(question.number);
+    }
+    for (std::size_t i = 0; i < before; ++i) {
+        HearNext();
+    }
+    const Portion own = TakePortion();
+    CountWait(own);
+    std::vector<ServerResult> results = Hear(own);
     if (verifies) {
         RequireOwnSession(results.front());
         results.erase(results.begin());
@@ -212,61 +224,75 @@ void ServerLine::Verify()
 void ServerLine::SendUnheard(const char* sql)
 {
     m_connection.Begin();
+    for (Portion& portion : m_onTheirWay) {
+        portion.question = 0;
+        portion.forgotten = true;
+    }
+    m_answers.clear();
+    Post({sql, {}, true, false});
+    SendOff();
+}
+
+ServerLine::Portion ServerLine::TakePortion()
+{
+    Portion portion = std::move(m_onTheirWay.front());
+    m_onTheirWay.pop_front();
+    return portion;
+}
+
+void ServerLine::CountWait(const Portion& portion)
+{
+    if (portion.sentAfter == m_roundTrips) {
+        ++m_roundTrips;
+    }
+}
+
+void ServerLine::HearNext()
+{
+    const Portion portion = TakePortion();
     try {
-        HearUnheard();
+        if (portion.question == 0) {
+            static_cast<void>(Hear(portion));
+            return;
+        }
+        CountWait(portion);
+        m_answers.emplace(portion.question, std::move(Hear(portion).back()));
     } catch (const ServerFailure& failure) {
-        if (failure.IsLost()) {
+        if (failure.IsLost() || !portion.forgotten) {
             throw;
         }
     }
-    m_answer.reset();
-    Post({sql, {}, true, false});
-    SendOff();
-    m_unheard = true;
 }
 
-void ServerLine::HearUnheard()
+void ServerLine::HearAllPortions()
 {
-    if (std::exchange(m_unheard, false)) {
-        static_cast<void>(Hear());
+    while (!m_onTheirWay.empty()) {
+        HearNext();
     }
-    HearAhead();
 }
 
-std::int64_t ServerLine::SendAhead(const ServerCommand& command)
+void ServerLine::SendAhead(const NumberedQuestion& question)
 {
     m_connection.Begin();
-    HearUnheard();
-    Post(command);
-    SendOff();
-    ++m_roundTrips;
-    m_answer.reset();
-    m_isAhead = true;
-    return ++m_ahead;
+    Post(question.command);
+    SendOff(question.number);
 }
 
-void ServerLine::HearAhead()
+std::optional<ServerResult> ServerLine::TakeAhead(std::int64_t number)
 {
-    if (std::exchange(m_isAhead, false)) {
-        m_answer = std::move(Hear().back());
-    }
-}
-
-std::optional<ServerResult> ServerLine::TakeAhead(std::int64_t question)
-{
-    if (question != m_ahead) {
-        return std::nullopt;
-    }
     m_connection.Begin();
-    HearAhead();
-    return std::exchange(m_answer, std::nullopt);
+    while (!m_answers.contains(number) && !m_onTheirWay.empty()) {
+        HearNext();
+    }
+    const auto found = m_answers.extract(number);
+    return found.empty() ? std::nullopt : std::optional(std::move(found.mapped()));
 }
 
 void ServerLine::RunScript(const char* sql)
 {
     Verify();
     m_connection.Begin();
-    HearUnheard();
+    HearAllPortions();
     m_connection.Require(Library().exitPipelineMode(m_connection.Get()));
     m_connection.Require(Library().sendQuery(m_connection.Get(), sql));
     ++m_roundTrips;
@@ -301,7 +327,7 @@ void ServerLine::BeginCopy(const std::string& sql)
 {
     Verify();
     m_connection.Begin();
-    HearUnheard();
+    HearAllPortions();
     m_connection.Require(Library().exitPipelineMode(m_connection.Get()));
     m_connection.Require(Library().sendQuery(m_connection.Get(), sql.c_str()));
     m_connection.Flush();
@@ -336,7 +362,7 @@ std::vector<std::string> ServerLine::TakeNotices()
     std::vector<std::string> notices;
     if (IsAlive()) {
         m_connection.Begin();
-        HearUnheard(); // what is told lies behind it
+        HearAllPortions(); // what is told lies behind it
         while (PGnotify* const notice = Library().notifies(m_connection.Get())) {
             notices.emplace_back(notice->extra);
             Library().freemem(notice);

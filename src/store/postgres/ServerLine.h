@@ -6,6 +6,7 @@
 #include "store/postgres/ServerResult.h"
 
 #include <cstdint>
+#include <deque>
 #include <map>
 #include <optional>
 #include <string>
@@ -26,6 +27,12 @@ struct ServerCommand
     bool describe = false; // not run: the result has its columns and no rows
 };
 
+struct NumberedQuestion
+{
+    std::int64_t number; // no other question has it; not 0
+    ServerCommand command;
+};
+
 // Everything that waits does so in slices (WhileWaiting), for no longer than its patience, and raises 5, 9 or 10 then; a line that was
 // waited for in vain is lost. So is one that answers what was not asked for, or more than memory should hold (7). After a failure that the
 // server told the line goes on.
@@ -39,8 +46,10 @@ public:
     ServerLine(const std::string& address, LinePatience patience, std::optional<Clock::time_point> until = std::nullopt);
 
     // All in one round trip, one after the other up to the first that fails, whose failure is raised. Answers one result each. The first
-    // one also shows whether this is a session of its own with the settings that were asked for; raises 14 where it is not.
-    std::vector<ServerResult> Send(const std::vector<ServerCommand>& commands, std::optional<Clock::time_point> until = std::nullopt);
+    // one also shows whether this is a session of its own with the settings that were asked for; raises 14 where it is not. `behind` is
+    // sent along and taken later, as if it were sent ahead when this is answered.
+    std::vector<ServerResult> Send(const std::vector<ServerCommand>& commands, std::optional<Clock::time_point> until = std::nullopt,
+                                   const std::vector<NumberedQuestion>& behind = {});
 
     // The same for what ends a transaction: that wait is not given up, since what was given up would be done all the same.
     std::vector<ServerResult> Finish(const std::vector<ServerCommand>& commands);
@@ -48,10 +57,10 @@ public:
     // The same without waiting for the answer, which nobody needs.
     void SendUnheard(const char* sql);
 
-    // A question whose answer is taken later, by the number that is answered here; whatever is sent next hears it first. There is one at a
-    // time. TakeAhead answers nothing when something that ends a transaction was sent since, or another one ahead.
-    std::int64_t SendAhead(const ServerCommand& command);
-    [[nodiscard]] std::optional<ServerResult> TakeAhead(std::int64_t question);
+    // A question whose answer is taken later, by its number. Several can be on their way; what is asked behind them hears them first.
+    // TakeAhead answers nothing when something that ends a transaction was sent since.
+    void SendAhead(const NumberedQuestion& question);
+    [[nodiscard]] std::optional<ServerResult> TakeAhead(std::int64_t number);
 
     // Several commands in one text, in one round trip.
     void RunScript(const char* sql);
@@ -71,7 +80,7 @@ public:
     // What the setting ptk.line of this session holds, and of no other.
     [[nodiscard]] const std::string& Token() const { return m_connection.Token(); }
 
-    // How often an answer was waited for.
+    // How often an answer was waited for. One that was sent off before another wait came along in that.
     [[nodiscard]] std::int64_t RoundTrips() const { return m_roundTrips; }
 
 private:
@@ -82,30 +91,39 @@ private:
         bool wanted = true;
     };
 
-    [[nodiscard]] std::vector<ServerResult> Ask(const std::vector<ServerCommand>& commands);
+    // What was sent off together and is to be heard.
+    struct Portion
+    {
+        std::vector<Awaited> awaited;
+        std::int64_t question = 0;  // its number, where the answer is taken later
+        std::int64_t sentAfter = 0; // as many waits
+        bool forgotten = false;     // nor hears what it failed with
+    };
+
+    [[nodiscard]] std::vector<ServerResult> Ask(const std::vector<ServerCommand>& commands, const std::vector<NumberedQuestion>& behind);
     void RequireOwnSession(const ServerResult& told);
     void Verify();
     void Post(const ServerCommand& command);
     void PostText(const ServerCommand& command);
     void PostPrepared(const ServerCommand& command);
     [[nodiscard]] std::string NameOf(const std::string& sql);
-    void SendOff();
+    void SendOff(std::int64_t question = 0);
     [[nodiscard]] std::optional<ServerFailure> HearAll();
     void RaiseAfterScript(const std::optional<ServerFailure>& failure);
-    [[nodiscard]] std::vector<ServerResult> Hear();
-    void HearUnheard();
-    void HearAhead();
+    [[nodiscard]] Portion TakePortion();
+    void CountWait(const Portion& portion);
+    [[nodiscard]] std::vector<ServerResult> Hear(const Portion& portion);
+    void HearNext();
+    void HearAllPortions();
 
     ServerConnection m_connection;
     std::map<std::string, std::string, std::less<>> m_prepared; // names by statements
-    std::vector<Awaited> m_awaited;                             // what was sent and not answered yet
+    std::vector<Awaited> m_awaited;                             // of what was posted and not sent off yet
+    std::deque<Portion> m_onTheirWay;                           // in the order in which they were sent off
+    std::map<std::int64_t, ServerResult> m_answers;             // to questions ahead, heard and not taken yet
     std::int64_t m_roundTrips = 0;
-    std::int32_t m_names = 0;             // given so far
-    bool m_verified = false;              // the session is its own
-    bool m_unheard = false;               // nobody waits for what is awaited
-    bool m_isAhead = false;               // who waits for what is awaited does something else meanwhile
-    std::int64_t m_ahead = 0;             // the newest question of that kind
-    std::optional<ServerResult> m_answer; // of it
+    std::int32_t m_names = 0; // given so far
+    bool m_verified = false;  // the session is its own
 };
 
 } // namespace ptk
