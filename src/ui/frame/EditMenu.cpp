@@ -4,8 +4,8 @@
 #include "platform/Succeeds.h"
 #include "platform/system/BusyPointer.h"
 #include "ui/boxes/SpentUndoKeys.h"
-#include "ui/page/PageHost.h"
 #include "ui/page/SharedRecords.h"
+#include "ui/page/Workplace.h"
 #include "ui/widgets/ThemeIcon.h"
 
 #include <QAction>
@@ -45,7 +45,7 @@ void ShowLine(QAction& line, bool possible, const std::string& text, const char*
 
 } // namespace
 
-EditMenu::EditMenu(QMenu& menu, const Lines& lines, PageHost& host, std::function<bool()> isBusy)
+EditMenu::EditMenu(QMenu& menu, const Lines& lines, Workplace& host, std::function<bool()> isBusy)
     : QObject(&menu), m_lines(lines), m_host(host), m_isBusy(std::move(isBusy))
 {
     menu.setToolTipsVisible(true);

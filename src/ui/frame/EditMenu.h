@@ -11,7 +11,7 @@ class QMenu;
 
 namespace ptk {
 
-class PageHost;
+class Workplace;
 
 // Its lines say what they would do, and to whom. A box with the focus keeps their keys while it has something to undo or redo in its text.
 class EditMenu final : public QObject
@@ -26,7 +26,7 @@ public:
     };
 
     // All outlive it. `isBusy` tells that nothing can be undone just now.
-    EditMenu(QMenu& menu, const Lines& lines, PageHost& host, std::function<bool()> isBusy);
+    EditMenu(QMenu& menu, const Lines& lines, Workplace& host, std::function<bool()> isBusy);
 
 signals:
     // A step was undone or done again; `done` says which: "Undone: Delete 03/05/2003 08:00 AM (Ann Lee)".
@@ -44,7 +44,7 @@ private:
     [[nodiscard]] std::string Whose(const MovedStep& step) const;
 
     Lines m_lines;
-    PageHost& m_host;
+    Workplace& m_host;
     std::function<bool()> m_isBusy;
 };
 

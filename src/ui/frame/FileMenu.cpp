@@ -1,6 +1,6 @@
 #include "ui/frame/FileMenu.h"
 
-#include "ui/page/PageHost.h"
+#include "ui/page/Workplace.h"
 #include "ui/safety/BackupMenu.h"
 #include "ui/safety/ImportMenu.h"
 #include "ui/sheet/SheetMenu.h"
@@ -9,7 +9,7 @@
 
 namespace ptk {
 
-FileMenu::FileMenu(PageHost& host, const Lines& lines, QWidget& window)
+FileMenu::FileMenu(Workplace& host, const Lines& lines, QWidget& window)
     : QObject(&window), m_backups(new BackupMenu(lines.backUp, lines.restore, host, &window))
 {
     connect(m_backups, &BackupMenu::Done, this, &FileMenu::Said);

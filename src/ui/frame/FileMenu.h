@@ -9,7 +9,7 @@ class QWidget;
 namespace ptk {
 
 class BackupMenu;
-class PageHost;
+class Workplace;
 
 class FileMenu final : public QObject
 {
@@ -26,7 +26,7 @@ public:
     };
 
     // All outlive it. The window is the parent.
-    FileMenu(PageHost& host, const Lines& lines, QWidget& window);
+    FileMenu(Workplace& host, const Lines& lines, QWidget& window);
 
     // See BackupMenu.
     void Offer();

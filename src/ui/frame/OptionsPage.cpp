@@ -15,8 +15,8 @@
 #include "store/CSystemOptions.h"
 #include "ui/boxes/ChosenOnly.h"
 #include "ui/boxes/FieldWidth.h"
-#include "ui/page/PageHost.h"
 #include "ui/page/SharedRecords.h"
+#include "ui/page/Workplace.h"
 #include "ui_OptionsPage.h"
 
 #include <algorithm>
@@ -47,7 +47,7 @@ const DateTime kSunday(CalendarDate{1899, 12, 31});
 
 } // namespace
 
-OptionsPage::OptionsPage(PageHost& host, QWidget* parent) : QWidget(parent), m_host(host), m_ui(std::make_unique<Ui::OptionsPage>())
+OptionsPage::OptionsPage(Workplace& host, QWidget* parent) : QWidget(parent), m_host(host), m_ui(std::make_unique<Ui::OptionsPage>())
 {
     m_ui->setupUi(this);
     LimitWidth(*this, fieldwidth::Page);

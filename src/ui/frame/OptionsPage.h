@@ -18,7 +18,7 @@ namespace ptk {
 class CJetDB;
 class CSystemOptions;
 class Failure;
-class PageHost;
+class Workplace;
 
 // The limits are read when the page is first seen, and written only where they were changed: a database of an earlier version has no table
 // for them until then.
@@ -27,7 +27,7 @@ class OptionsPage final : public QWidget
     Q_OBJECT
 
 public:
-    explicit OptionsPage(PageHost& host, QWidget* parent = nullptr);
+    explicit OptionsPage(Workplace& host, QWidget* parent = nullptr);
     ~OptionsPage() override;
 
     // False for nullptr.
@@ -74,7 +74,7 @@ private:
     void Complain(const char* what, const Failure& reason);
     void Cancel();
 
-    PageHost& m_host;
+    Workplace& m_host;
     std::unique_ptr<Ui::OptionsPage> m_ui;
     OptionTexts m_shown;                   // as they were put into the boxes
     std::optional<CheckLimits> m_limits;   // as they stand in the database; nothing until they have been read

@@ -11,7 +11,7 @@
 
 namespace ptk {
 
-ViewMenu::ViewMenu(PageHost& host, const Lines& lines, TimeCardPage& page) : m_host(host), m_page(page)
+ViewMenu::ViewMenu(Workplace& host, const Lines& lines, TimeCardPage& page) : m_host(host), m_page(page)
 {
     lines.overview.setIcon(ThemeIcon("overview"));
     lines.history.setIcon(ThemeIcon("history"));

@@ -14,7 +14,7 @@ namespace ptk {
 
 class HistoryWindow;
 class OverviewWindow;
-class PageHost;
+class Workplace;
 class TimeCardPage;
 struct HistoryScope;
 
@@ -32,7 +32,7 @@ public:
     };
 
     // All outlive it.
-    ViewMenu(PageHost& host, const Lines& lines, TimeCardPage& page);
+    ViewMenu(Workplace& host, const Lines& lines, TimeCardPage& page);
 
     ~ViewMenu() override;
 
@@ -67,7 +67,7 @@ private:
     void GoOn(const PayPeriod& period);
     void ShowHistoryOfChosen();
 
-    PageHost& m_host;
+    Workplace& m_host;
     const TimeCardPage& m_page;
     std::unique_ptr<OverviewWindow> m_overview; // these two: nullptr until they are asked for
     std::unique_ptr<HistoryWindow> m_history;

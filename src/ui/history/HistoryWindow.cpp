@@ -9,7 +9,7 @@
 #include "platform/system/Clock.h"
 #include "store/CJetDB.h"
 #include "ui/history/HistoryModel.h"
-#include "ui/page/PageHost.h"
+#include "ui/page/Workplace.h"
 #include "ui/widgets/ButtonRow.h"
 #include "ui/widgets/FixedRows.h"
 #include "ui/widgets/ThemeIcon.h"
@@ -57,7 +57,7 @@ QString CountOf(std::int64_t changes)
 
 } // namespace
 
-HistoryWindow::HistoryWindow(PageHost& host) : m_host(host), m_ui(std::make_unique<Ui::HistoryWindow>()), m_rows(new HistoryModel(this))
+HistoryWindow::HistoryWindow(Workplace& host) : m_host(host), m_ui(std::make_unique<Ui::HistoryWindow>()), m_rows(new HistoryModel(this))
 {
     m_ui->setupUi(this);
     setMinimumSize(kSmallestSize);

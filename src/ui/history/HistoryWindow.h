@@ -20,7 +20,7 @@ namespace ptk {
 class EmployeeNames;
 class HistoryFile;
 class HistoryModel;
-class PageHost;
+class Workplace;
 
 // Reads the newest changes and more as one scrolls down, never all. Saves all of them while nothing else is to be done, so that the window,
 // and every other one, can be used meanwhile.
@@ -30,7 +30,7 @@ class HistoryWindow final : public QWidget
 
 public:
     // The host outlives it.
-    explicit HistoryWindow(PageHost& host);
+    explicit HistoryWindow(Workplace& host);
 
     ~HistoryWindow() override;
 
@@ -65,7 +65,7 @@ private:
     void StopSaving();
     void ShowSaving();
 
-    PageHost& m_host;
+    Workplace& m_host;
     std::unique_ptr<Ui::HistoryWindow> m_ui;
     HistoryModel* m_rows; // belongs to the window
     TrailQuery m_query;   // whose rows are shown

@@ -14,7 +14,7 @@
 #include "ui/overview/OverviewTables.h"
 #include "ui/overview/PaydayButtons.h"
 #include "ui/page/ChangeNews.h"
-#include "ui/page/PageHost.h"
+#include "ui/page/Workplace.h"
 #include "ui/widgets/ButtonRow.h"
 #include "ui/widgets/FoldingRow.h"
 #include "ui/widgets/ThemeIcon.h"
@@ -57,7 +57,7 @@ constexpr int kFindingLines = 3;
 
 } // namespace
 
-OverviewWindow::OverviewWindow(PageHost& host) : m_host(host), m_ui(std::make_unique<Ui::OverviewWindow>())
+OverviewWindow::OverviewWindow(Workplace& host) : m_host(host), m_ui(std::make_unique<Ui::OverviewWindow>())
 {
     m_ui->setupUi(this);
     m_tables = new OverviewTables({*m_ui->grdOverview, *m_ui->grdTotals, *m_ui->grdLeftOut}, this);

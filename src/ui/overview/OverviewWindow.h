@@ -18,7 +18,7 @@ namespace ptk {
 
 class OverviewReading;
 class OverviewTables;
-class PageHost;
+class Workplace;
 class PaydayButtons;
 struct HistoryScope;
 struct OverviewRow;
@@ -31,7 +31,7 @@ class OverviewWindow final : public QWidget
 
 public:
     // The host outlives it.
-    explicit OverviewWindow(PageHost& host);
+    explicit OverviewWindow(Workplace& host);
 
     ~OverviewWindow() override;
 
@@ -99,7 +99,7 @@ private:
     void SaveAs();
     void OpenCard();
 
-    PageHost& m_host;
+    Workplace& m_host;
     std::unique_ptr<Ui::OverviewWindow> m_ui;
     OverviewTables* m_tables; // these two belong to the window
     PaydayButtons* m_buttons;

@@ -11,7 +11,7 @@
 #include "ui/mend/FMendSeveral.h"
 #include "ui/page/ChangeNews.h"
 #include "ui/page/OfferedReasons.h"
-#include "ui/page/PageHost.h"
+#include "ui/page/Workplace.h"
 #include "ui/work/WorkProgress.h"
 
 #include <algorithm>
@@ -61,7 +61,7 @@ DateTime ProposedDay(const PayPeriod& period, DateTime today)
 
 } // namespace
 
-PaydayActions::PaydayActions(PageHost& host, QWidget& window) : QObject(&window), m_host(host), m_window(window) {}
+PaydayActions::PaydayActions(Workplace& host, QWidget& window) : QObject(&window), m_host(host), m_window(window) {}
 
 std::shared_ptr<CJetDB> PaydayActions::Database() const
 {

@@ -19,7 +19,7 @@ namespace ptk {
 
 class CEmployee;
 class CJetDB;
-class PageHost;
+class Workplace;
 class WorkProgress;
 
 // For whom. Without anybody chosen it is everybody who is shown.
@@ -43,7 +43,7 @@ class PaydayActions final : public QObject
 
 public:
     // Both outlive it; the window is what its dialogs belong to.
-    PaydayActions(PageHost& host, QWidget& window);
+    PaydayActions(Workplace& host, QWidget& window);
 
     // Asks where chosen ones have problems.
     void Close(const PaydayWhom& whom);
@@ -69,7 +69,7 @@ private:
     [[nodiscard]] QString Store(const char* title, const std::string& reason, const std::function<bool(CJetDB& database)>& store);
     [[nodiscard]] std::shared_ptr<CJetDB> Database() const;
 
-    PageHost& m_host;
+    Workplace& m_host;
     QWidget& m_window;
 };
 

@@ -8,7 +8,7 @@
 #include "startup/CController.h"
 #include "ui/overview/OverviewTables.h"
 #include "ui/overview/PaydayActions.h"
-#include "ui/page/PageHost.h"
+#include "ui/page/Workplace.h"
 #include "ui/payday/AccountWindow.h"
 #include "ui/payday/FPaydayLines.h"
 #include "ui/profile/FAccountant.h"
@@ -42,7 +42,7 @@ constexpr auto kDetails = "Details";
 
 } // namespace
 
-PaydayButtons::PaydayButtons(PageHost& host, const Place& place)
+PaydayButtons::PaydayButtons(Workplace& host, const Place& place)
     : QObject(&place.window), m_host(host), m_place(place), m_actions(new PaydayActions(host, place.window))
 {
     Connect();

@@ -17,7 +17,7 @@ class AccountWindow;
 class NoticeLine;
 class OverviewReading;
 class OverviewTables;
-class PageHost;
+class Workplace;
 class PaydayActions;
 struct HistoryScope;
 struct PaydayWhom;
@@ -39,7 +39,7 @@ public:
         OverviewTables& tables;
     };
 
-    PaydayButtons(PageHost& host, const Place& place);
+    PaydayButtons(Workplace& host, const Place& place);
     ~PaydayButtons() override;
 
     // For those of this reading; nullptr as long as not everybody has been read. To be called whenever somebody else is chosen, too.
@@ -59,7 +59,7 @@ private:
     void SaveForAccountant();
     void TellDone(const QString& news, const QString& title, const QStringList& lines);
 
-    PageHost& m_host;
+    Workplace& m_host;
     Place m_place;
     PaydayActions* m_actions; // belongs to the window
     std::shared_ptr<const OverviewReading> m_reading;

@@ -1,27 +1,27 @@
 #include "ui/page/ChangeNews.h"
 
-#include "ui/page/PageHost.h"
 #include "ui/page/SharedRecords.h"
+#include "ui/page/Workplace.h"
 
 namespace ptk {
 
-void LookForChanges(const PageHost& host)
+void LookForChanges(const Workplace& host)
 {
     host.SharedRecords().Look();
 }
 
-std::optional<std::int64_t> NewestChange(const PageHost& host)
+std::optional<std::int64_t> NewestChange(const Workplace& host)
 {
     return host.SharedRecords().Newest();
 }
 
-void TellStored(const PageHost& host)
+void TellStored(const Workplace& host)
 {
     host.SharedRecords().Remember();
     emit host.SharedRecords().ReadAgainWanted();
 }
 
-void AfterEachLook(const PageHost& host, QObject& context, const std::function<void()>& looked)
+void AfterEachLook(const Workplace& host, QObject& context, const std::function<void()>& looked)
 {
     QObject::connect(&host.SharedRecords(), &SharedRecords::Looked, &context, looked);
 }

@@ -9,18 +9,18 @@ class QObject;
 
 namespace ptk {
 
-class PageHost;
+class Workplace;
 
 // Does not wait for the database. What could not be asked now is asked the next time.
-void LookForChanges(const PageHost& host);
+void LookForChanges(const Workplace& host);
 
 // The newest entry of the edit trail as far as anybody looked; nothing until the trail could be read.
-[[nodiscard]] std::optional<std::int64_t> NewestChange(const PageHost& host);
+[[nodiscard]] std::optional<std::int64_t> NewestChange(const Workplace& host);
 
 // To be called right after a window stored something, before anything is read again: it can be undone then, and all pages show it.
-void TellStored(const PageHost& host);
+void TellStored(const Workplace& host);
 
 // Has it called after each look, as long as `context` is there.
-void AfterEachLook(const PageHost& host, QObject& context, const std::function<void()>& looked);
+void AfterEachLook(const Workplace& host, QObject& context, const std::function<void()>& looked);
 
 } // namespace ptk

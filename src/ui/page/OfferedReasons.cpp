@@ -2,7 +2,7 @@
 
 #include "platform/Succeeds.h"
 #include "store/trail/TrailReader.h"
-#include "ui/page/PageHost.h"
+#include "ui/page/Workplace.h"
 
 namespace ptk {
 
@@ -13,7 +13,7 @@ constexpr auto kNoReasons = "The last reasons could not be read: ";
 
 } // namespace
 
-ReasonLine OfferedReasons(PageHost& host, bool wanted)
+ReasonLine OfferedReasons(Workplace& host, bool wanted)
 {
     ReasonLine line;
     line.wanted = wanted;

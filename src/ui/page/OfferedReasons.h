@@ -5,9 +5,9 @@
 
 namespace ptk {
 
-class PageHost;
+class Workplace;
 
 // Offers the last reasons of the edit trail. wanted: the reason is asked for. That they cannot be read is logged.
-[[nodiscard]] ReasonLine OfferedReasons(PageHost& host, bool wanted);
+[[nodiscard]] ReasonLine OfferedReasons(Workplace& host, bool wanted);
 
 } // namespace ptk

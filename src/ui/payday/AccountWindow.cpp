@@ -9,7 +9,7 @@
 #include "platform/text/DayText.h"
 #include "store/CJetDB.h"
 #include "ui/page/ChangeNews.h"
-#include "ui/page/PageHost.h"
+#include "ui/page/Workplace.h"
 #include "ui/payday/AccountModel.h"
 #include "ui/widgets/ButtonRow.h"
 #include "ui/widgets/FixedRows.h"
@@ -56,7 +56,7 @@ QString Day(DateTime day)
 
 } // namespace
 
-AccountWindow::AccountWindow(PageHost& host) : m_host(host), m_ui(std::make_unique<Ui::AccountWindow>()), m_rows(new AccountModel(this))
+AccountWindow::AccountWindow(Workplace& host) : m_host(host), m_ui(std::make_unique<Ui::AccountWindow>()), m_rows(new AccountModel(this))
 {
     m_ui->setupUi(this);
     setMinimumSize(kLeastSize);

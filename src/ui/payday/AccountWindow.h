@@ -17,7 +17,7 @@ class AccountWindow;
 namespace ptk {
 
 class AccountModel;
-class PageHost;
+class Workplace;
 struct HistoryScope;
 
 class AccountWindow final : public QWidget
@@ -26,7 +26,7 @@ class AccountWindow final : public QWidget
 
 public:
     // The host outlives it.
-    explicit AccountWindow(PageHost& host);
+    explicit AccountWindow(Workplace& host);
 
     ~AccountWindow() override;
 
@@ -54,7 +54,7 @@ private:
     void SaveAs();
     void TellChanges();
 
-    PageHost& m_host;
+    Workplace& m_host;
     std::unique_ptr<Ui::AccountWindow> m_ui;
     AccountModel* m_rows; // belongs to the window
     PayPeriod m_period;

@@ -7,7 +7,7 @@
 #include "platform/system/BusyPointer.h"
 #include "platform/system/Clock.h"
 #include "startup/CController.h"
-#include "ui/page/PageHost.h"
+#include "ui/page/Workplace.h"
 #include "ui/widgets/NoticeLine.h"
 #include "ui/work/SaveDialog.h"
 
@@ -30,7 +30,7 @@ void AllowExport(QPushButton& button, bool allowed)
     button.setToolTip(allowed ? kExportTip : kChooseFirst);
 }
 
-void ExportPerson(QWidget& parent, PageHost& host, NoticeLine& notice, const std::shared_ptr<CEmployee>& employee)
+void ExportPerson(QWidget& parent, Workplace& host, NoticeLine& notice, const std::shared_ptr<CEmployee>& employee)
 {
     const auto target =
         employee == nullptr ? std::nullopt : AskWhereToSave(parent, QString(kPersonFile).arg(employee->EmployeeNumber()), kPersonForms);

@@ -3,14 +3,14 @@
 #include "platform/Required.h"
 #include "platform/Succeeds.h"
 #include "startup/CController.h"
-#include "ui/page/PageHost.h"
+#include "ui/page/Workplace.h"
 #include "ui/widgets/ThemeIcon.h"
 
 #include <QAction>
 
 namespace ptk {
 
-BackupMenu::BackupMenu(QAction& backUp, QAction& restore, PageHost& host, QObject* parent)
+BackupMenu::BackupMenu(QAction& backUp, QAction& restore, Workplace& host, QObject* parent)
     : QObject(parent), m_restore(restore), m_host(host)
 {
     backUp.setIcon(ThemeIcon("backup"));

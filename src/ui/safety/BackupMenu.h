@@ -7,7 +7,7 @@ class QAction;
 
 namespace ptk {
 
-class PageHost;
+class Workplace;
 
 class BackupMenu final : public QObject
 {
@@ -15,7 +15,7 @@ class BackupMenu final : public QObject
 
 public:
     // All outlive it.
-    BackupMenu(QAction& backUp, QAction& restore, PageHost& host, QObject* parent);
+    BackupMenu(QAction& backUp, QAction& restore, Workplace& host, QObject* parent);
 
     // Offers what can be done with the controller's database; the rest says why not. REQUIRES: there is a controller.
     void Offer();
@@ -34,7 +34,7 @@ private:
     void Restore();
 
     QAction& m_restore;
-    PageHost& m_host;
+    Workplace& m_host;
 };
 
 } // namespace ptk

@@ -3,7 +3,7 @@
 #include "platform/Required.h"
 #include "platform/Succeeds.h"
 #include "startup/CController.h"
-#include "ui/page/PageHost.h"
+#include "ui/page/Workplace.h"
 #include "ui/safety/FImport.h"
 #include "ui/widgets/ThemeIcon.h"
 
@@ -17,7 +17,7 @@ constexpr auto kImportDone = "The older database was imported";
 
 } // namespace
 
-ImportMenu::ImportMenu(QAction& action, PageHost& host, QWidget& window) : QObject(&window), m_host(host), m_window(window)
+ImportMenu::ImportMenu(QAction& action, Workplace& host, QWidget& window) : QObject(&window), m_host(host), m_window(window)
 {
     action.setIcon(ThemeIcon("import"));
     connect(&action, &QAction::triggered, this, &ImportMenu::Import);

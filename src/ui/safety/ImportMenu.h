@@ -8,7 +8,7 @@ class QWidget;
 
 namespace ptk {
 
-class PageHost;
+class Workplace;
 
 class ImportMenu final : public QObject
 {
@@ -16,7 +16,7 @@ class ImportMenu final : public QObject
 
 public:
     // All outlive it; `window` is what the dialog belongs to.
-    ImportMenu(QAction& action, PageHost& host, QWidget& window);
+    ImportMenu(QAction& action, Workplace& host, QWidget& window);
 
 signals:
     // All that the windows show is of another database.
@@ -27,7 +27,7 @@ signals:
 private:
     void Import();
 
-    PageHost& m_host;
+    Workplace& m_host;
     QWidget& m_window;
 };
 

@@ -3,8 +3,8 @@
 #include "platform/Required.h"
 #include "platform/Succeeds.h"
 #include "startup/CController.h"
-#include "ui/page/PageHost.h"
 #include "ui/page/SharedRecords.h"
+#include "ui/page/Workplace.h"
 #include "ui/sheet/FImportEmployees.h"
 #include "ui/sheet/FImportPunches.h"
 #include "ui/widgets/ThemeIcon.h"
@@ -13,7 +13,7 @@
 
 namespace ptk {
 
-SheetMenu::SheetMenu(const Actions& actions, PageHost& host, QWidget& window) : QObject(&window), m_host(host), m_window(window)
+SheetMenu::SheetMenu(const Actions& actions, Workplace& host, QWidget& window) : QObject(&window), m_host(host), m_window(window)
 {
     actions.punches.setIcon(ThemeIcon("import"));
     actions.employees.setIcon(ThemeIcon("import"));

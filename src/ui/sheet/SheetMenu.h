@@ -12,7 +12,7 @@ class QWidget;
 namespace ptk {
 
 class CJetDB;
-class PageHost;
+class Workplace;
 
 // Has all pages read again once something was stored, which Edit > Undo takes back as one step.
 class SheetMenu final : public QObject
@@ -27,7 +27,7 @@ public:
     };
 
     // All outlive it; `window` is what the dialogs belong to.
-    SheetMenu(const Actions& actions, PageHost& host, QWidget& window);
+    SheetMenu(const Actions& actions, Workplace& host, QWidget& window);
 
 signals:
     void Said(const QString& text);
@@ -36,7 +36,7 @@ private:
     template <typename Window, typename Order, typename Account>
     void Run(Account (*import)(const std::shared_ptr<CJetDB>& database, const Order& order, const GoesOn& goesOn));
 
-    PageHost& m_host;
+    Workplace& m_host;
     QWidget& m_window;
 };
 

@@ -14,7 +14,7 @@
 #include "platform/system/Desktop.h"
 #include "store/CSystemOptions.h"
 #include "ui/editors/FAutoFill.h"
-#include "ui/page/PageHost.h"
+#include "ui/page/Workplace.h"
 #include "ui/timecards/CardChoice.h"
 #include "ui/timecards/CardReasons.h"
 #include "ui/timecards/CardStoring.h"

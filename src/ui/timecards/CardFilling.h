@@ -17,7 +17,7 @@ class CardStoring;
 class CurrentCard;
 class FAutoFill;
 class NoticeLine;
-class PageHost;
+class Workplace;
 
 // What somebody typed in vain is offered again.
 class CardFilling
@@ -34,7 +34,7 @@ public:
     };
 
     // `chosen` is told when the filled days have become the chosen period.
-    CardFilling(PageHost& host, const Place& place, std::function<void()> chosen)
+    CardFilling(Workplace& host, const Place& place, std::function<void()> chosen)
         : m_host(host), m_place(place), m_chosen(std::move(chosen))
     {
     }
@@ -54,7 +54,7 @@ private:
     void HandOver(FAutoFill& window);
     void TakeOver(const FAutoFill& window, std::int32_t records);
 
-    PageHost& m_host;
+    Workplace& m_host;
     Place m_place;
     std::function<void()> m_chosen;
 };

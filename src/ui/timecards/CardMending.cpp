@@ -12,7 +12,7 @@
 #include "platform/Required.h"
 #include "platform/Succeeds.h"
 #include "platform/system/Desktop.h"
-#include "ui/page/PageHost.h"
+#include "ui/page/Workplace.h"
 #include "ui/timecards/CardReasons.h"
 #include "ui/timecards/CardStoring.h"
 #include "ui/timecards/CurrentCard.h"
@@ -42,7 +42,7 @@ std::shared_ptr<CTimeRecord> ChangedRecord(const Remedy& remedy, const Punches& 
 
 } // namespace
 
-CardMending::CardMending(PageHost& host, CurrentCard& card, CardStoring& storing, NoticeLine& line, QObject* parent)
+CardMending::CardMending(Workplace& host, CurrentCard& card, CardStoring& storing, NoticeLine& line, QObject* parent)
     : QObject(parent), m_host(host), m_card(card), m_storing(storing), m_line(line)
 {
 }

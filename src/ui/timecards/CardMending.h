@@ -13,7 +13,7 @@ namespace ptk {
 class CardStoring;
 class CurrentCard;
 class NoticeLine;
-class PageHost;
+class Workplace;
 struct CardOffer;
 struct Remedy;
 
@@ -24,7 +24,7 @@ class CardMending final : public QObject
 
 public:
     // All of these outlive it.
-    CardMending(PageHost& host, CurrentCard& card, CardStoring& storing, NoticeLine& line, QObject* parent);
+    CardMending(Workplace& host, CurrentCard& card, CardStoring& storing, NoticeLine& line, QObject* parent);
 
     void Do(const CardOffer& offer);
 
@@ -46,7 +46,7 @@ private:
     // Nothing: it is not to be done. Else why, perhaps empty.
     [[nodiscard]] std::optional<std::string> Permission(const Remedy& remedy);
 
-    PageHost& m_host;
+    Workplace& m_host;
     CurrentCard& m_card;
     CardStoring& m_storing;
     NoticeLine& m_line;

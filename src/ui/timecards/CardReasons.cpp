@@ -5,7 +5,7 @@
 
 namespace ptk {
 
-ReasonLine ReasonFor(PageHost& host, const CurrentCard& card)
+ReasonLine ReasonFor(Workplace& host, const CurrentCard& card)
 {
     return OfferedReasons(host, card.IsPaid());
 }

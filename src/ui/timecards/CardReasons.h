@@ -6,9 +6,9 @@
 namespace ptk {
 
 class CurrentCard;
-class PageHost;
+class Workplace;
 
 // Offers the last reasons of the edit trail; the reason is asked for where the card's period was paid. That they cannot be read is logged.
-[[nodiscard]] ReasonLine ReasonFor(PageHost& host, const CurrentCard& card);
+[[nodiscard]] ReasonLine ReasonFor(Workplace& host, const CurrentCard& card);
 
 } // namespace ptk

@@ -14,8 +14,8 @@
 #include "platform/system/Notice.h"
 #include "startup/CController.h"
 #include "store/CJetDB.h"
-#include "ui/page/PageHost.h"
 #include "ui/page/SharedRecords.h"
+#include "ui/page/Workplace.h"
 #include "ui/timecards/CurrentCard.h"
 #include "ui/widgets/NoticeLine.h"
 

@@ -15,7 +15,7 @@ class CTimeRecord;
 class CTimeRecordFactory;
 class CurrentCard;
 class NoticeLine;
-class PageHost;
+class Workplace;
 struct Notice;
 
 class CardStoring
@@ -33,7 +33,7 @@ public:
     };
 
     // All outlive it.
-    CardStoring(PageHost& host, CurrentCard& card, NoticeLine& line) : m_host(host), m_card(card), m_line(line) {}
+    CardStoring(Workplace& host, CurrentCard& card, NoticeLine& line) : m_host(host), m_card(card), m_line(line) {}
 
     // The card shows what is in the database from then on, or the user learns that nothing has changed there. Of what the check found then,
     // the next finding is chosen where one was.
@@ -48,7 +48,7 @@ private:
     [[nodiscard]] std::string Refused(const Change& change) const;
     void TellConflict(const Change& change);
 
-    PageHost& m_host;
+    Workplace& m_host;
     CurrentCard& m_card;
     NoticeLine& m_line;
     std::optional<RowConflict> m_conflict;

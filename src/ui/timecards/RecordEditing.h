@@ -19,7 +19,7 @@ class CTimeRecord;
 class CurrentCard;
 class FTimeEditor;
 class NoticeLine;
-class PageHost;
+class Workplace;
 struct FindingPlace;
 struct Punch;
 
@@ -37,7 +37,7 @@ public:
         NoticeLine& line;
     };
 
-    RecordEditing(PageHost& host, const Place& place) : m_host(host), m_place(place) {}
+    RecordEditing(Workplace& host, const Place& place) : m_host(host), m_place(place) {}
 
     void New();
     void EditChosen();
@@ -69,7 +69,7 @@ private:
     // nullptr, said in the line with that text, where it cannot be had.
     [[nodiscard]] std::shared_ptr<CTimeRecord> RecordElsewhere(const Punch& punch, const char* refused);
 
-    PageHost& m_host;
+    Workplace& m_host;
     Place m_place;
     const FTimeEditor* m_editor = nullptr; // the one that is open
     bool m_editingNew = false;             // whether the editor was last opened for a new record; nothing depends on it

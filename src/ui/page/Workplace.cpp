@@ -1,4 +1,4 @@
-#include "ui/page/PageHost.h"
+#include "ui/page/Workplace.h"
 
 #include "platform/Required.h"
 #include "startup/CController.h"
@@ -6,27 +6,27 @@
 
 namespace ptk {
 
-std::shared_ptr<CJetDB> PageHost::Database() const
+std::shared_ptr<CJetDB> Workplace::Database() const
 {
     return Required(Required(Controller())->PTKDatabase());
 }
 
-std::shared_ptr<CEmployeeList> PageHost::Employees() const
+std::shared_ptr<CEmployeeList> Workplace::Employees() const
 {
     return Required(Required(Controller())->EmployeeList());
 }
 
-std::shared_ptr<CCompanyList> PageHost::Companies() const
+std::shared_ptr<CCompanyList> Workplace::Companies() const
 {
     return Required(Required(Controller())->CompanyList());
 }
 
-std::shared_ptr<CSystemOptions> PageHost::Options() const
+std::shared_ptr<CSystemOptions> Workplace::Options() const
 {
     return Required(Required(Controller())->SystemOptions());
 }
 
-std::int16_t PageHost::PeriodLength() const
+std::int16_t Workplace::PeriodLength() const
 {
     return Options()->PeriodLength();
 }
