@@ -4,6 +4,7 @@
 #include "store/engine/Engine.h"
 #include "store/engine/RecordSet.h"
 #include "store/engine/Statement.h"
+#include "store/rows/RowFields.h"
 #include "store/rows/RowReader.h"
 #include "store/StoreErrors.h"
 
@@ -69,44 +70,14 @@ private:
     std::vector<FieldDifference> m_found;
 };
 
-// The fields behind the key, in the order in which the columns are read.
-using E = EmployeeRow;
-constexpr std::tuple kEmployeeFields{&E::SSN,
-                                     &E::FirstName,
-                                     &E::LastName,
-                                     &E::Address1,
-                                     &E::Address2,
-                                     &E::City,
-                                     &E::State,
-                                     &E::ZipCode,
-                                     &E::Phone,
-                                     &E::EmployeeNumber,
-                                     &E::DateOfBirth,
-                                     &E::HireDate,
-                                     &E::ReleaseDate,
-                                     &E::PayRate,
-                                     &E::OvertimePayRate,
-                                     &E::EmployeeActive,
-                                     &E::CompanyID,
-                                     &E::AutoDeduct,
-                                     &E::AutoDeductLunchLength,
-                                     &E::AutoDeductBreakLength,
-                                     &E::Password};
-
-using C = CompanyRow;
-constexpr std::tuple kCompanyFields{&C::CompanyName, &C::Address1, &C::Address2, &C::City,        &C::State,
-                                    &C::ZipCode,     &C::Phone,    &C::Fax,      &C::FederalTaxID};
-
-using T = TimeRecordRow;
-constexpr std::tuple kTimeRecordFields{&T::EmployeeID, &T::StartTime, &T::EndTime};
-
+// Behind the key, by which the row was looked for.
 template <typename Row, typename... Fields>
 std::vector<FieldDifference> Differences(const Row& read, const Row& present, const TableColumns& table,
                                          const std::tuple<Fields Row::*...>& fields)
 {
     Comparison compared(read, present);
     std::size_t column = 1;
-    std::apply([&](auto... field) { (compared.Of(table.names.at(column++), field), ...); }, fields);
+    std::apply([&](auto /*key*/, auto... field) { (compared.Of(table.columns.at(column++)->name, field), ...); }, fields);
     return compared.Found();
 }
 
@@ -141,7 +112,7 @@ std::shared_ptr<RecordSet> ListedRow(Engine& engine, const char* listing, const 
 {
     const Parameter parameter{"key", key};
     const auto search =
-        engine.PrepareStored(listing, fmt::format("{} = :key{}", table.names.front(), engine.Words().lockRows), {&parameter, 1});
+        engine.PrepareStored(listing, fmt::format("{} = :key{}", table.columns.front()->name, engine.Words().lockRows), {&parameter, 1});
     engine.WillChangeNext();
     return Required(search->ReadRows(), table, key);
 }
@@ -171,13 +142,14 @@ void RequireAsRead(Engine& engine, const EmployeeRow& asRead)
     const EmployeeRow read = AsLoaded(asRead);
     const auto row = ListedRow(engine, "GetAllEmployees", EmployeeTable(), read.EmployeeID);
     Require("Employee", read.EmployeeID,
-            Differences(read, RowReader(*row, EmployeeTable()).ReadEmployee(), EmployeeTable(), kEmployeeFields));
+            Differences(read, RowReader(*row, EmployeeTable()).ReadEmployee(), EmployeeTable(), rowfields::kEmployee));
 }
 
 void RequireAsRead(Engine& engine, const CompanyRow& read)
 {
     const auto row = ListedRow(engine, "GetAllCompanies", CompanyTable(), read.CompanyID);
-    Require("Company", read.CompanyID, Differences(read, RowReader(*row, CompanyTable()).ReadCompany(), CompanyTable(), kCompanyFields));
+    Require("Company", read.CompanyID,
+            Differences(read, RowReader(*row, CompanyTable()).ReadCompany(), CompanyTable(), rowfields::kCompany));
 }
 
 void RequireAsRead(Engine& engine, const TimeRecordRow& read)
@@ -188,7 +160,7 @@ void RequireAsRead(Engine& engine, const TimeRecordRow& read)
     engine.WillChangeNext();
     const auto row = Required(search->ReadRows(), TimeRecordTable(), read.TimeRecordID);
     Require("TimeRecord", read.TimeRecordID,
-            Differences(read, RowReader(*row, TimeRecordTable()).ReadTimeRecord(), TimeRecordTable(), kTimeRecordFields));
+            Differences(read, RowReader(*row, TimeRecordTable()).ReadTimeRecord(), TimeRecordTable(), rowfields::kTimeRecord));
 }
 
 OptionsRow PresentOptions(Engine& engine)

@@ -26,7 +26,7 @@ constexpr StoredColumn kEmployee[] = {
     {"State", Text},
     {"ZipCode", Text},
     {"Phone", Text},
-    {"EmployeeNumber", Integer},
+    {"EmployeeNumber", Integer, AnyNumber},
     {"DateOfBirth", Date},
     {"HireDate", Date},
     {"ReleaseDate", Date},

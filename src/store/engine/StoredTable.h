@@ -24,6 +24,7 @@ enum class ColumnRule : std::uint8_t
     None,
     MayLack,       // in a file of an earlier version, which has the table
     Unread,        // written, never read back by the program
+    AnyNumber,     // also one that is not greater than 0 means something
     Short,         // 16 bits in the program and in older databases
     Moment,        // without which the row makes no sense: an import leaves out one whose value is impossible
     TrueWhenAbsent // in older databases

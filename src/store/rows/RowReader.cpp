@@ -2,7 +2,7 @@
 
 #include "platform/Failure.h"
 #include "store/engine/RecordSet.h"
-#include "store/engine/StoredTable.h"
+#include "store/rows/RowFields.h"
 
 #include <fmt/format.h>
 
@@ -16,7 +16,7 @@ TableColumns ReadOf(const char* name)
     TableColumns read{table.name, {}, table.hasKey};
     for (const StoredColumn& column : table.columns) {
         if (column.rule != ColumnRule::Unread) {
-            read.names.push_back(column.name);
+            read.columns.push_back(&column);
         }
     }
     return read;
@@ -65,9 +65,9 @@ const TableColumns& OptionsTable()
 
 RowReader::RowReader(const RecordSet& rows, const TableColumns& columns) : m_rows(rows), m_table(columns)
 {
-    m_columns.reserve(columns.names.size());
-    for (const char* column : columns.names) {
-        m_columns.push_back(rows.Column(column));
+    m_columns.reserve(columns.columns.size());
+    for (const StoredColumn* column : columns.columns) {
+        m_columns.push_back(rows.Column(column->name));
     }
 }
 
@@ -80,7 +80,7 @@ RowReader::RowReader(const RecordSet& rows, const TableColumns& columns, std::ve
 std::string RowReader::Place(std::size_t column, const std::string& why) const
 {
     return fmt::format("{}{}: {} is {} ({})", m_table.table, m_table.hasKey ? ' ' + m_rows.Shown(m_columns.front()) : "",
-                       m_table.names[column], m_rows.Shown(m_columns[column]), why);
+                       m_table.columns[column]->name, m_rows.Shown(m_columns[column]), why);
 }
 
 // Of what the program reads without noticing anything; only the check of a file does.
@@ -92,8 +92,8 @@ void RowReader::Doubt(const char* why) const
 }
 
 // Reads the next column; a failure gets the words that lead to the value.
-template <typename Read>
-void RowReader::Take(const Read& read)
+template <typename Reading>
+void RowReader::Take(const Reading& read)
 {
     const std::size_t column = m_next++;
     try {
@@ -132,7 +132,19 @@ void RowReader::Key(std::int32_t& field)
     Positive(field, "not a key that the program can use");
 }
 
-void RowReader::Text(std::string& field)
+void RowReader::Read(std::int32_t& field)
+{
+    if (Rule() != ColumnRule::AnyNumber) {
+        return Positive(field);
+    }
+    Take([&](std::size_t column) {
+        if (!m_rows.IsNull(column)) {
+            field = m_rows.Int32At(column);
+        }
+    });
+}
+
+void RowReader::Read(std::string& field)
 {
     Take([&](std::size_t column) {
         if (!m_rows.IsNull(column)) {
@@ -141,89 +153,46 @@ void RowReader::Text(std::string& field)
     });
 }
 
-void RowReader::Date(DateTime& field, const char* doubtWhenNull)
+// A missing time of a shift reads as not set, but the search for a period's records passes it over.
+void RowReader::Read(DateTime& field)
 {
+    const bool isOfShift = Rule() == ColumnRule::Moment;
     Take([&](std::size_t column) {
         if (!m_rows.IsNull(column)) {
             field = m_rows.DateTimeAt(column);
-        } else if (doubtWhenNull != nullptr) {
-            Doubt(doubtWhenNull);
+        } else if (isOfShift) {
+            Doubt("a time that is not set is stored as 1899-12-30 00:00:00");
         }
     });
 }
 
-// A missing one reads as not set, but the search for a period's records passes it over.
-void RowReader::ShiftTime(DateTime& field)
-{
-    Date(field, "a time that is not set is stored as 1899-12-30 00:00:00");
-}
-
-void RowReader::Flag(bool& field)
+void RowReader::Read(bool& field)
 {
     Take([&](std::size_t column) { field = m_rows.BooleanAt(column); });
 }
 
-// In the order of the table.
+template <typename Row, typename... Fields>
+Row RowReader::ReadFields(const std::tuple<Fields Row::*...>& fields)
+{
+    Row row;
+    m_next = 0;
+    std::apply([&](auto key, auto... field) { Key(row.*key), (Read(row.*field), ...); }, fields);
+    return row;
+}
+
 EmployeeRow RowReader::ReadEmployee()
 {
-    EmployeeRow row;
-    Start();
-    Key(row.EmployeeID);
-    Text(row.SSN);
-    Text(row.FirstName);
-    Text(row.LastName);
-    Text(row.Address1);
-    Text(row.Address2);
-    Text(row.City);
-    Text(row.State);
-    Text(row.ZipCode);
-    Text(row.Phone);
-    Take([&](std::size_t column) {
-        if (!m_rows.IsNull(column)) {
-            row.EmployeeNumber = m_rows.Int32At(column);
-        }
-    });
-    Date(row.DateOfBirth);
-    Date(row.HireDate);
-    Date(row.ReleaseDate);
-    Positive(row.PayRate);
-    Positive(row.OvertimePayRate);
-    Flag(row.EmployeeActive);
-    Positive(row.CompanyID);
-    Flag(row.AutoDeduct);
-    Positive(row.AutoDeductLunchLength);
-    Positive(row.AutoDeductBreakLength);
-    Text(row.Password);
-    return row;
+    return ReadFields(rowfields::kEmployee);
 }
 
-// In the order of the table.
 CompanyRow RowReader::ReadCompany()
 {
-    CompanyRow row;
-    Start();
-    Key(row.CompanyID);
-    Text(row.CompanyName);
-    Text(row.Address1);
-    Text(row.Address2);
-    Text(row.City);
-    Text(row.State);
-    Text(row.ZipCode);
-    Text(row.Phone);
-    Text(row.Fax);
-    Text(row.FederalTaxID);
-    return row;
+    return ReadFields(rowfields::kCompany);
 }
 
-// In the order of the table.
 TimeRecordRow RowReader::ReadTimeRecord()
 {
-    TimeRecordRow row;
-    Start();
-    Key(row.TimeRecordID);
-    Positive(row.EmployeeID);
-    ShiftTime(row.StartTime);
-    ShiftTime(row.EndTime);
+    TimeRecordRow row = ReadFields(rowfields::kTimeRecord);
     row.ObjectState = state::Unchanged;
     return row;
 }
@@ -231,7 +200,7 @@ TimeRecordRow RowReader::ReadTimeRecord()
 // In the order of the table.
 void RowReader::ReadOptions(OptionsRow& row)
 {
-    Start();
+    m_next = 0;
     Take([&](std::size_t column) { row.ProgramName = m_rows.Field(column).ToText(); });
     Take([&](std::size_t column) { row.ProgramVersion = m_rows.Field(column).ToText(); });
     Take([&](std::size_t column) { row.PeriodLength = m_rows.Int16At(column); });

@@ -1,10 +1,12 @@
 // Takes the rows of the program's tables into plain rows, each column by its rule.
 #pragma once
 
+#include "store/engine/StoredTable.h"
 #include "store/rows/Rows.h"
 
 #include <cstddef>
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace ptk {
@@ -15,7 +17,7 @@ class RecordSet;
 struct TableColumns
 {
     const char* table;
-    std::vector<const char*> names; // the first is the key, where there is one, by which a row is told to people
+    std::vector<const StoredColumn*> columns; // the first is the key, where there is one, by which a row is told to people
     bool hasKey;
 };
 
@@ -47,16 +49,20 @@ public:
     void ReadOptions(OptionsRow& row);
 
 private:
-    void Start() { m_next = 0; }
-    template <typename Read>
-    void Take(const Read& read);
+    template <typename Reading>
+    void Take(const Reading& read);
     template <typename Number>
     void Positive(Number& field, const char* doubt = nullptr);
     void Key(std::int32_t& field);
-    void Text(std::string& field);
-    void Date(DateTime& field, const char* doubtWhenNull = nullptr);
-    void ShiftTime(DateTime& field);
-    void Flag(bool& field);
+    void Read(std::int32_t& field);
+    void Read(std::int16_t& field) { Positive(field); }
+    void Read(float& field) { Positive(field); }
+    void Read(std::string& field);
+    void Read(DateTime& field);
+    void Read(bool& field);
+    template <typename Row, typename... Fields>
+    Row ReadFields(const std::tuple<Fields Row::*...>& fields);
+    [[nodiscard]] ColumnRule Rule() const { return m_table.columns[m_next]->rule; } // of the next column
     void Doubt(const char* why) const;
     [[nodiscard]] std::string Place(std::size_t column, const std::string& why) const;
 

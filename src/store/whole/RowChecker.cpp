@@ -6,7 +6,9 @@
 #include "store/rows/QueryParameters.h"
 #include "store/whole/EveryRow.h"
 
+#include <algorithm>
 #include <fmt/format.h>
+#include <iterator>
 
 namespace ptk {
 
@@ -33,6 +35,13 @@ void ReadOptions(RowReader& reader)
     reader.ReadOptions(row);
 }
 
+std::vector<const char*> NamesOf(const TableColumns& columns)
+{
+    std::vector<const char*> names;
+    std::ranges::transform(columns.columns, std::back_inserter(names), &StoredColumn::name);
+    return names;
+}
+
 // What cannot be used goes behind `found`, without full stops.
 void FindIn(RecordSet& rows, const TableColumns& columns, void (*read)(RowReader& reader), std::vector<std::string>& found)
 {
@@ -47,7 +56,7 @@ void RowChecker::CheckTable(const TableColumns& columns, ReadRow read)
 {
     try {
         std::vector<std::string> found;
-        ForEachPortionOf(m_engine, fmt::format("SELECT {} FROM {}", Joined(columns.names, ", "), columns.table),
+        ForEachPortionOf(m_engine, fmt::format("SELECT {} FROM {}", Joined(NamesOf(columns), ", "), columns.table),
                          [&](RecordSet& rows) { FindIn(rows, columns, read, found); });
         for (const std::string& find : found) {
             m_problems.push_back(find + '.');
