@@ -61,7 +61,9 @@ void CardChecker::ReadAhead(std::span<const std::int32_t> employeeIDs)
     if (!m_reader.IsAsked(employeeIDs)) {
         m_reader.AskAhead(employeeIDs);
     }
-    AskWhoWorkedBefore();
+    if (employeeIDs.size() < PunchReader::kAtOnce) { // of many it costs more than a wait
+        AskWhoWorkedBefore();
+    }
     m_reader.ReadAhead(employeeIDs);
     std::map<DateTime, std::vector<std::int32_t>> people; // by the first of those days
     for (const std::int32_t id : employeeIDs) {

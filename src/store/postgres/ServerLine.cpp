@@ -176,6 +176,7 @@ std::vector<ServerResult> ServerLine::Finish(const std::vector<ServerCommand>& c
 
 std::vector<ServerResult> ServerLine::Ask(const std::vector<ServerCommand>& commands, const std::vector<NumberedQuestion>& behind)
 {
+    HearPreparedInVain();
     const bool verifies = !m_verified;
     if (verifies) {
         Post({kOwnToken, {}, false, false});
@@ -264,6 +265,18 @@ void ServerLine::HearNext()
     }
 }
 
+// A transaction that failed prepared nothing behind its failure: nobody is to ask for that by its name.
+void ServerLine::HearPreparedInVain()
+{
+    const auto mayBeInVain = [](const Portion& portion) {
+        return portion.forgotten &&
+               std::ranges::any_of(portion.awaited, [](const Awaited& awaited) { return !awaited.prepared.empty(); });
+    };
+    while (std::ranges::any_of(m_onTheirWay, mayBeInVain)) {
+        HearNext();
+    }
+}
+
 void ServerLine::HearAllPortions()
 {
     while (!m_onTheirWay.empty()) {
@@ -274,6 +287,7 @@ void ServerLine::HearAllPortions()
 void ServerLine::SendAhead(const NumberedQuestion& question)
 {
     m_connection.Begin();
+    HearPreparedInVain();
     Post(question.command);
     SendOff(question.number);
 }

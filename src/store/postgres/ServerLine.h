@@ -114,6 +114,7 @@ private:
     void CountWait(const Portion& portion);
     [[nodiscard]] std::vector<ServerResult> Hear(const Portion& portion);
     void HearNext();
+    void HearPreparedInVain();
     void HearAllPortions();
 
     ServerConnection m_connection;
