@@ -49,11 +49,11 @@ def main(build, data):
 
     login_few, login_many, login_bare = medians([program, "login", few], [program, "login", many], [bare, "login", few])
     figures.add("window: start to the painted login", login_bare[0], login_few[0], 1.5)
-    figures.add("window: the same with 10,000 employees", login_bare[0], login_many[0], 2.5)
+    figures.add("window: the same with 10,000 employees", login_bare[0], login_many[0], 1.5)
 
     shown, shown_bare = medians([program, "main", many], [bare, "main", many])
     figures.add("window: login to the painted main window, 10,000 employees", shown_bare[1], shown[1], 1.5)
-    figures.add("window: its memory", shown_bare[2] / 1024, shown[2] / 1024, 1.5, unit="MiB")
+    figures.add("window: its memory", shown_bare[2] / 1024, shown[2] / 1024, 1.05, unit="MiB")
 
     review = max(glob.glob(os.path.join(data, "reports", "salary_review_*.txt")), key=os.path.getsize)
     viewer, viewer_bare = medians([program, "viewer", review], [bare, "viewer", review])

@@ -269,8 +269,7 @@ void ServerLine::HearNext()
 void ServerLine::HearPreparedInVain()
 {
     const auto mayBeInVain = [](const Portion& portion) {
-        return portion.forgotten &&
-               std::ranges::any_of(portion.awaited, [](const Awaited& awaited) { return !awaited.prepared.empty(); });
+        return portion.forgotten && std::ranges::any_of(portion.awaited, [](const Awaited& awaited) { return !awaited.prepared.empty(); });
     };
     while (std::ranges::any_of(m_onTheirWay, mayBeInVain)) {
         HearNext();
