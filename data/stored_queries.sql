@@ -1,4 +1,5 @@
--- The queries that the program runs by name. Their parameters and columns are known to it by exactly these names.
+-- The queries that the program runs by name. Their parameters and columns are known to it by exactly these names. A server's are the same, with its
+-- own words for the order (src/store/embed.cmake); the program puts the parameters' numbers in their places.
 
 INSERT INTO _StoredQuery (name, sql) VALUES ('AddNewEmployee',
 'INSERT INTO Employee (

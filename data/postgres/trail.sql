@@ -26,21 +26,3 @@ CREATE INDEX _ChangeEmployeeBefore ON _Change (EmployeeBefore, ChangeID) WHERE E
 CREATE INDEX _ChangeRecord ON _Change (RowID, ChangeID) WHERE TableName = 'TimeRecord';
 CREATE INDEX _ChangePerson ON _Change (ChangedBy, ChangeID) WHERE ChangedBy IS NOT NULL;
 CREATE INDEX _ChangeOther ON _Change (TableName, ChangeID) WHERE TableName IS DISTINCT FROM 'TimeRecord';
-
--- Each tells the function below its table and columns in the program's spelling; a column of date-times ends in @.
-CREATE TRIGGER _TimeRecordChange AFTER INSERT OR UPDATE OR DELETE ON TimeRecord FOR EACH ROW EXECUTE FUNCTION ptk_tell(
-    'TimeRecord', 'TimeRecordID', 'EmployeeID', 'ShiftDate@', 'StartTime@', 'EndTime@');
-
-CREATE TRIGGER _EmployeeChange AFTER INSERT OR UPDATE OR DELETE ON Employee FOR EACH ROW EXECUTE FUNCTION ptk_tell(
-    'Employee', 'EmployeeID', 'SSNumber', 'FirstName', 'LastName', 'Address', 'Address2', 'City', 'State', 'ZipCode', 'Phone',
-    'EmployeeNumber', 'DateOfBirth@', 'HireDate@', 'ReleaseDate@', 'PayRate', 'OvertimePayRate', 'Active', 'CompanyID', 'AutoDeduct',
-    'AutoDeductLunchLength', 'AutoDeductBreakLength', 'Password');
-
-CREATE TRIGGER _CompanyChange AFTER INSERT OR UPDATE OR DELETE ON Company FOR EACH ROW EXECUTE FUNCTION ptk_tell(
-    'Company', 'CompanyID', 'Name', 'Address1', 'Address2', 'City', 'State', 'ZipCode', 'Phone', 'Fax', 'FederalTaxID', 'URL');
-
-CREATE TRIGGER _SystemChange AFTER INSERT OR UPDATE OR DELETE ON _System FOR EACH ROW EXECUTE FUNCTION ptk_tell(
-    '_System', 'program', 'version', 'period_length', 'auto_shift_start_time@', 'auto_shift_end_time@');
-
-CREATE TRIGGER _CheckLimitsChange AFTER INSERT OR UPDATE OR DELETE ON _CheckLimits FOR EACH ROW EXECUTE FUNCTION ptk_tell(
-    '_CheckLimits', 'long_shift_hours', 'first_weekday', 'show_notices');

@@ -44,6 +44,9 @@ struct StoredTable
     bool hasKey;                           // else it holds one row
 };
 
+// Whose changes have been told as long as there is a trail, in the order in which their triggers are made.
+inline constexpr const char* kFirstToldTables[] = {"TimeRecord", "Employee", "Company", "_System", "_CheckLimits"};
+
 // All of them, the trail last.
 [[nodiscard]] std::span<const StoredTable> StoredTables();
 

@@ -5,6 +5,7 @@
 #include "store/engine/Schema.h"
 #include "store/postgres/PostgresEngine.h"
 #include "store/postgres/ServerStrangers.h"
+#include "store/postgres/ServerTriggers.h"
 
 #include <algorithm>
 
@@ -60,8 +61,9 @@ ServerRoles CreateServerDatabase(const std::string& address, const std::function
     PostgresEngine engine(address, NewStructure{});
     engine.BeginMany();
     RefuseUnfit(engine);
-    for (const char* sql :
-         {kServerSchemaSql, kServerStoredQueriesSql, kServerTrailFunctionsSql, kServerTrailSql, kServerStructure3Sql, kServerRolesSql}) {
+    const std::string triggers = ServerTrailTriggers();
+    for (const char* sql : {kServerSchemaSql, kServerStoredQueriesSql, kServerTrailFunctionsSql, kServerTrailSql, triggers.c_str(),
+                            kServerStructure3Sql, kServerRolesSql}) {
         engine.RunScript(sql);
     }
     RefuseStrangers(engine);

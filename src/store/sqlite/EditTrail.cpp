@@ -5,6 +5,7 @@
 #include "store/engine/Engine.h"
 #include "store/engine/RecordSet.h"
 #include "store/engine/Schema.h"
+#include "store/sqlite/TrailTriggers.h"
 
 #include <fmt/format.h>
 
@@ -114,6 +115,7 @@ void BringUpToDate(Engine& engine)
         AddColumn(engine, "_Change", "Reason");
     } else {
         engine.RunScript(kTrailSql);
+        engine.RunScript(TrailTriggers().c_str());
     }
     engine.RunScript(kTrailEntrySql);
     engine.RunScript(kPaydaySql);

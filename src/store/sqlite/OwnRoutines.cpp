@@ -1,6 +1,7 @@
 #include "store/sqlite/OwnRoutines.h"
 
 #include "store/engine/Schema.h"
+#include "store/sqlite/TrailTriggers.h"
 
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Statement.h>
@@ -38,6 +39,7 @@ OwnRoutines ReadOwnRoutines()
     SQLite::Database file(":memory:", SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
     file.exec(kSchemaSql);
     file.exec(kTrailSql);
+    file.exec(TrailTriggers());
     file.exec(kTrailEntrySql);
     file.exec(kPaydaySql);
     file.exec(kProfileSql);
