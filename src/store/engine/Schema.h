@@ -15,7 +15,7 @@ extern const char* const kServerSchemaSql;
 extern const char* const kServerStoredQueriesSql;
 extern const char* const kServerTrailFunctionsSql; // may be run again over an older version of them
 extern const char* const kServerTrailSql;          // without the triggers, which come behind it
-extern const char* const kServerStructure3Sql; // also brings a database of structure 2 to 3, behind the functions and before the roles
-extern const char* const kServerRolesSql;      // may be run again; leaves the roles out where whoever runs it may not make them
+extern const char* const kServerStructure3Sql;     // also brings a database of structure 2 to 3, behind the functions and before the roles
+extern const char* const kServerRolesSql;          // may be run again; leaves the roles out where whoever runs it may not make them
 
 } // namespace ptk
