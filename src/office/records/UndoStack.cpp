@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <fmt/format.h>
+#include <string_view>
 
 namespace ptk {
 
@@ -26,6 +27,15 @@ bool IsUndoable(const TrailEntry& entry)
 {
     const bool table = entry.table == "TimeRecord" || entry.table == "Employee" || entry.table == "Company" || entry.table == "_Payday";
     return table && entry.row && (entry.before || entry.after);
+}
+
+// What a server says of its line is whole sentences at times.
+std::string Sentence(std::string text)
+{
+    if (text.empty() || std::string_view(".?!").find(text.back()) == std::string_view::npos) {
+        text += '.';
+    }
+    return text;
 }
 
 TrailValue* PasswordIn(std::optional<TrailRow>& row)
@@ -108,8 +118,9 @@ bool UndoStack::Remember()
         TrailQuery query;
         query.step = step;
         query.newerThan = step - 1; // a step has the number of its first entry
-        return Succeeds([&] { Take(ReadTrail(m_database, query)); },
-                        [&](const Failure& failure) { m_refusal = "What was stored cannot be undone: " + failure.Description() + "."; });
+        return Succeeds(
+            [&] { Take(ReadTrail(m_database, query)); },
+            [&](const Failure& failure) { m_refusal = Sentence("What was stored cannot be undone: " + failure.Description()); });
     });
 }
 
@@ -118,7 +129,7 @@ template <typename Work>
 bool UndoStack::OrRefusal(Work work)
 {
     m_refusal.clear();
-    return Succeeds(work, [&](const Failure& failure) { m_refusal = failure.Description() + "."; });
+    return Succeeds(work, [&](const Failure& failure) { m_refusal = Sentence(failure.Description()); });
 }
 
 void UndoStack::Take(const std::vector<TrailEntry>& entries)
@@ -234,7 +245,7 @@ bool UndoStack::Move(std::vector<Step>& from, std::vector<Step>& to, const char*
     if (!done) {
         m_refusal = m_database->Conflict()
                         ? fmt::format("\"{}\" was not {}: somebody else changed or uses what it is about.", step.told.text, word)
-                        : fmt::format("\"{}\" was not {}: {}.", step.told.text, word, m_database->LastFailure().Description());
+                        : Sentence(fmt::format("\"{}\" was not {}: {}", step.told.text, word, m_database->LastFailure().Description()));
         return false;
     }
     step.lastEntry = m_database->NewestEntry();
