@@ -59,14 +59,13 @@ TEST_F(PeopleCommandsTest, APersonsDataHasNobodyElsesNameAndNoPassword)
     EXPECT_EQ(Run({"person", "Nobody"}).status, 1);
     const Answer person = Run({"person", "Ann Lee", "--number", "7"});
     EXPECT_EQ(person.status, 0) << person.err;
+    const char* const records = "\"records\":[\n"
+                                R"({"year":2002,"id":1,"start":"2002-12-31T08:00:00","end":"2002-12-31T16:30:00","minutes":510},)"
+                                "\n"
+                                R"({"year":2003,"id":2,"start":"2003-03-05T08:00:00","end":null,"minutes":null})";
     for (const char* part :
          {R"({"employee":{"number":7,"firstName":"Ann","lastName":"Lee","socialSecurityNumber":"123-45-6789",)",
-          R"("regularPayRate":"12.5",)",
-          "\"records\":[\n"
-          R"({"year":2002,"id":1,"start":"2002-12-31T08:00:00","end":"2002-12-31T16:30:00","minutes":510},)"
-          "\n"
-          R"({"year":2003,"id":2,"start":"2003-03-05T08:00:00","end":null,"minutes":null})",
-          R"("paid":[],)", R"("Password":"changed")", "employee 41 became Ann Lee",
+          R"("regularPayRate":"12.5",)", records, R"("paid":[],)", R"("Password":"changed")", "employee 41 became Ann Lee",
           R"({"kind":"report","file":"reports/7_2003-03-01_time_card.txt"})", R"("file":"reports/employee_records.txt"})"}) {
         EXPECT_NE(person.out.find(part), std::string::npos) << part << '\n' << person.out;
     }

@@ -21,10 +21,11 @@ namespace {
 
 class RareFaultTest : public testing::Test
 {
-protected:
+public:
     RareFaultTest() { CreateDatabase(m_database); }
     ~RareFaultTest() override { MeetMisfortune(Misfortune::Killed, 0); }
 
+protected:
     TemporaryFolder m_folder;
     std::string m_database = m_folder.Path() + "/system/ptk_11.mdb";
 };

@@ -47,7 +47,7 @@ void MayRefuse(const Action& action)
 } // namespace
 
 // What the reading library keeps until the end of a process is the system's to take back.
-extern "C" const char* __asan_default_options()
+extern "C" const char* __asan_default_options() // NOLINT(clang-diagnostic-reserved-identifier)
 {
     return "detect_leaks=0";
 }

@@ -12,6 +12,7 @@
 #include "support/OwnServer.h"
 #include "support/ScriptedServer.h"
 
+#include <fmt/format.h>
 #include <gtest/gtest.h>
 
 #include <array>
@@ -262,7 +263,8 @@ TEST(ServerFaults, AServerThatIsNoneIsLeft)
              Case{"gives", begun + message('H', noColumns), "", engine::Lost},
              Case{"takes", begun + message('G', noColumns), "", engine::Lost},
              Case{"gives and takes", begun + message('W', noColumns), "", engine::Lost},
-             Case{"is another's", begun + columns + row("other") + done + begun + columns + row("2") + done + message('Z', "I"), "",
+             Case{"is another's",
+                  fmt::format("{0}{1}{2}{3}{0}{1}{4}{3}{5}", begun, columns, row("other"), done, row("2"), message('Z', "I")), "",
                   engine::CannotOpen},
              Case{"never ends", begun + columns, row(std::string(60'000, 'x')), engine::NoMemory},
          }) {

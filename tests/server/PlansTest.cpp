@@ -13,7 +13,6 @@ namespace ptk {
 namespace {
 
 using ::testing::HasSubstr;
-using ::testing::Not;
 
 class PlansTest : public ::testing::Test
 {

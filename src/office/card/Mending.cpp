@@ -22,7 +22,7 @@ TimeRecordRow RowAsRead(const Mending& mending, std::int64_t record)
 
 TimeRecordWrite WriteOf(const TimeRecordRow& row, std::optional<TimeRecordRow> asRead)
 {
-    return {WholeStatement(row), std::move(asRead)};
+    return {WholeStatement(row), asRead};
 }
 
 TimeRecordWrite WriteOf(const Mending& mending, const RecordChange& change)

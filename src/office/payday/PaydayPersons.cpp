@@ -66,6 +66,7 @@ std::vector<PaydayPerson> PersonsWithClosings(CEmployeeList& employees, const Cl
 std::vector<PaydayPerson> PersonsOf(const std::vector<std::shared_ptr<CEmployee>>& employees)
 {
     std::vector<PaydayPerson> persons;
+    persons.reserve(employees.size());
     for (const auto& employee : employees) {
         persons.push_back({employee->EmployeeID(), employee});
     }

@@ -91,6 +91,7 @@ std::shared_ptr<CEmployee> FindPerson(const std::shared_ptr<CJetDB>& database, c
     }
     if (found.size() > 1) {
         std::vector<std::int32_t> numbers;
+        numbers.reserve(found.size());
         for (const auto& employee : found) {
             numbers.push_back(employee->EmployeeNumber());
         }

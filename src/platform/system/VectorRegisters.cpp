@@ -3,7 +3,8 @@
 #if defined(__x86_64__)
 #include <immintrin.h>
 #if defined(__clang__)
-#define _Bool bool // a word of C, which the next header has where clang knows C++ alone
+// A word of C, which the next header has where clang knows C++ alone.
+#define _Bool bool // NOLINT(clang-diagnostic-reserved-macro-identifier)
 #endif
 #include <sys/platform/x86.h>
 #endif

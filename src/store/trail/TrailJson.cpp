@@ -176,7 +176,10 @@ private:
         return end - from;
     }
 
-    bool HasAt(std::size_t at, std::string_view anyOf) const { return at < m_left.size() && anyOf.find(m_left[at]) != anyOf.npos; }
+    bool HasAt(std::size_t at, std::string_view anyOf) const
+    {
+        return at < m_left.size() && anyOf.find(m_left[at]) != std::string_view::npos;
+    }
 
     bool TakeNumber(TrailValue& value)
     {
@@ -227,8 +230,8 @@ private:
         if (TakeWord("u")) {
             return TakeCharacter(text);
         }
-        const std::size_t place = m_left.empty() ? kSigns.npos : kSigns.find(m_left.front());
-        if (place == kSigns.npos) {
+        const std::size_t place = m_left.empty() ? std::string_view::npos : kSigns.find(m_left.front());
+        if (place == std::string_view::npos) {
             return false;
         }
         text += kMeant[place];

@@ -167,9 +167,10 @@ void FProfile::Remove()
 
 void FProfile::Move(int by)
 {
-    const int row = m_ui->grdColumns->currentRow();
-    std::swap(m_profile.cells.at(static_cast<std::size_t>(row)), m_profile.cells.at(static_cast<std::size_t>(row + by)));
-    ShowColumns(row + by);
+    const int from = m_ui->grdColumns->currentRow();
+    const int to = from + by;
+    std::swap(m_profile.cells.at(static_cast<std::size_t>(from)), m_profile.cells.at(static_cast<std::size_t>(to)));
+    ShowColumns(to);
 }
 
 void FProfile::EnableMoving()

@@ -28,12 +28,13 @@ inline void AddDeafStaff(BulkWriter& writer, int daysBefore)
     for (int person = 0; person < 20; ++person) {
         employee.FirstName = fmt::format("{:02}", person);
         const std::int32_t id = writer.AddEmployee(employee);
-        constexpr std::int64_t kDay = 86400;
+        constexpr std::int64_t kHour = 3600;
+        constexpr std::int64_t kDay = 24 * kHour;
         const std::int64_t last = DateTime({2003, 3, 4}).Seconds();
         for (int day = -daysBefore - 8; day <= 0; ++day) {
-            const DateTime start = DateTime::FromSeconds(last + day * kDay + 8 * 3600);
+            const DateTime start = DateTime::FromSeconds(last + day * kDay + 8 * kHour);
             const bool isOpen = (person == 3 && day == -1) || (person == 5 && day == -11);
-            writer.AddTimeRecord({-1, id, start, isOpen ? DateTime() : DateTime::FromSeconds(start.Seconds() + 9 * 3600)});
+            writer.AddTimeRecord({-1, id, start, isOpen ? DateTime() : DateTime::FromSeconds(start.Seconds() + 9 * kHour)});
         }
         if (person == 5 && daysBefore == 0) {
             writer.AddTimeRecord({-1, id, DateTime({2003, 2, 21}, {8, 0, 0}), DateTime()});

@@ -392,7 +392,7 @@ TEST_F(ProfilesTest, WhoHasNoCardIsNamedAndWhoStandsTwiceIsTold)
     CEmployeeList all;
     ASSERT_TRUE(all.LoadList(m_database));
     std::vector<std::string> doubled;
-    PayTableOrder order{m_database, PeopleOfReview(all, {"Ann Lee", "Ann Lee", "Bo Kim"}, doubled), kFirstFortnight, kMarch.to};
+    PayTableOrder order{m_database, PeopleOfReview(all, {"Ann Lee", "Ann Lee", "Bo Kim"}, doubled), kFirstFortnight, kFirstFortnight.to};
     const PayTable table = ReadPayTable(order).value();
     EXPECT_EQ(BytesOf(With("column=Employee Number\tE\ncolumn=Gross Pay\tG\n"), table.people.at(1)), "E,G\r\n7,80.00\r\n");
     EXPECT_EQ(table.people.size(), 2U);

@@ -42,7 +42,11 @@ private:
     std::size_t Below(std::size_t end) { return std::uniform_int_distribution<std::size_t>(0, end - 1)(m_random); }
     std::size_t Place(const std::string& text) { return Below(text.size() + 1); }
 
-    void Flip(std::string& text) { text[Below(text.size())] ^= static_cast<char>(1U << Below(7)); }
+    void Flip(std::string& text)
+    {
+        char& byte = text[Below(text.size())];
+        byte = static_cast<char>(static_cast<unsigned char>(byte) ^ (1U << Below(7)));
+    }
     void Cut(std::string& text) { text.resize(Place(text)); }
     void TakeOut(std::string& text) { text.erase(Below(text.size()), Below(30)); }
     void Double(std::string& text) { text.insert(Place(text), text.substr(Below(text.size()), Below(200))); }
