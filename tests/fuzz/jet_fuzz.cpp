@@ -46,8 +46,12 @@ void MayRefuse(const Action& action)
 
 } // namespace
 
+#if defined(__clang__)
+#pragma clang diagnostic ignored "-Wreserved-identifier" // the sanitizer's own name
+#endif
+
 // What the reading library keeps until the end of a process is the system's to take back.
-extern "C" const char* __asan_default_options() // NOLINT(clang-diagnostic-reserved-identifier)
+extern "C" const char* __asan_default_options()
 {
     return "detect_leaks=0";
 }
