@@ -25,7 +25,7 @@ std::shared_ptr<CDatabaseLocator> LocateDatabase(const std::string& programFolde
     return locator;
 }
 
-std::string LocatedDatabase(const std::string& programFolder)
+std::string ConfiguredName(const std::string& programFolder)
 {
     return NativeName(LocateDatabase(programFolder)->DatabasePath());
 }

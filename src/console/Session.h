@@ -20,8 +20,8 @@ class CTimeRecordFactory;
 // Where the configuration says the database is, with backslashes as configured. Raises a failure without a number when it names none.
 [[nodiscard]] std::shared_ptr<CDatabaseLocator> LocateDatabase(const std::string& programFolder);
 
-// That name, as engines take it.
-[[nodiscard]] std::string LocatedDatabase(const std::string& programFolder);
+// The name that the configuration gives the database, as engines take it. Raises what LocateDatabase raises.
+[[nodiscard]] std::string ConfiguredName(const std::string& programFolder);
 
 // The database that the configuration names, closed, for commands that read: nobody is asked whose account this is, and nothing that is
 // stored through it would carry a name.

@@ -35,7 +35,8 @@ private:
     std::unique_ptr<Statement> m_row; // nullptr without the table
 };
 
-// The same at once. Raises also that the database cannot be opened. REQUIRES: database is not nullptr, here and below.
+// The stored limits, as LimitsQuestion asks for them, waited for at once. Raises also that the database cannot be opened. REQUIRES:
+// database is not nullptr, here and below.
 [[nodiscard]] CheckLimits LoadCheckLimits(const std::shared_ptr<CJetDB>& database);
 
 // Makes the table where it is missing; writes nothing where the limits are those as read, or stored already. On disk when it answers true;

@@ -23,7 +23,7 @@ DatabaseCheck Check(const std::string& path)
 
 int CheckCommand(const CheckArguments&, Console& console)
 {
-    const std::string path = LocatedDatabase(console.programFolder);
+    const std::string path = ConfiguredName(console.programFolder);
     const DatabaseCheck check = Check(path);
     console.out << "database: " << TerminalText(SaidDatabase(path)) << '\n'
                 << "Company: " << check.companies << '\n'

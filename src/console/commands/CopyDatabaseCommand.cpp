@@ -13,7 +13,7 @@ namespace {
 
 std::string SourceOf(const CopyDatabaseArguments& arguments, const Console& console)
 {
-    return arguments.from ? WholeName(*arguments.from) : LocatedDatabase(console.programFolder);
+    return arguments.from ? WholeName(*arguments.from) : ConfiguredName(console.programFolder);
 }
 
 CopyAccount Copy(const std::string& from, const std::string& to)

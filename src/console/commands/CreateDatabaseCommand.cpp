@@ -27,7 +27,7 @@ std::string Create(const std::string& path, const std::function<void(BulkWriter&
 
 int CreateDatabaseCommand(const CreateDatabaseArguments& arguments, Console& console)
 {
-    const std::string path = LocatedDatabase(console.programFolder);
+    const std::string path = ConfiguredName(console.programFolder);
     const DateTime today = arguments.today.value_or(console.clock.Today());
     const auto sample = [today](BulkWriter& writer) { AddSampleBusiness(writer, today); };
     const std::string left = arguments.sample ? Create(path, sample) : Create(path, nullptr);

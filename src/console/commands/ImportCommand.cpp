@@ -31,7 +31,7 @@ int ImportCommand(const ImportArguments& arguments, Console& console)
 {
     ImportOrder order;
     order.file = std::filesystem::absolute(arguments.file).string();
-    order.database = LocatedDatabase(console.programFolder);
+    order.database = ConfiguredName(console.programFolder);
     order.programFolder = console.programFolder;
     order.codePage = arguments.codePage;
     order.trial = arguments.dryRun;

@@ -139,7 +139,7 @@ void PunchReader::Choose(std::span<const std::int32_t> employeeIDs)
 
 void PunchReader::AskAhead(std::span<const std::int32_t> employeeIDs)
 {
-    if (ReadsAhead()) {
+    if (ReadsAhead() && !IsAsked(employeeIDs)) {
         Choose(employeeIDs);
         m_ofMany->AskAhead();
     }

@@ -37,9 +37,9 @@ public:
     [[nodiscard]] bool ReadsAhead() const { return m_ofMany != nullptr; }
     void ReadAhead(std::span<const std::int32_t> employeeIDs);
 
-    // Sends off what the next ReadAhead of the same people reads, to be on its way while these are looked at.
+    // Sends off what the next ReadAhead of the same people reads, to be on its way while these are looked at. Those who were asked about
+    // last are not asked about again.
     void AskAhead(std::span<const std::int32_t> employeeIDs);
-    [[nodiscard]] bool IsAsked(std::span<const std::int32_t> employeeIDs) const;
 
     // All that CheckCard needs, by start, end and number.
     Punches Read(std::int32_t employeeID);
@@ -52,6 +52,7 @@ private:
     [[nodiscard]] Punch ReadPunch(const Statement& row) const;
     [[nodiscard]] std::unique_ptr<Statement> Prepare(CJetDB& database, const std::string& sql) const;
     [[nodiscard]] Punches TakeAhead(std::int32_t employeeID);
+    [[nodiscard]] bool IsAsked(std::span<const std::int32_t> employeeIDs) const;
     void Choose(std::span<const std::int32_t> employeeIDs);
     void Fetch(std::span<const std::int32_t> employeeIDs);
 

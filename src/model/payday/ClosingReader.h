@@ -31,7 +31,7 @@ private:
     std::unique_ptr<Statement> m_rows; // nullptr where nothing can be closed
 };
 
-// The same at once.
+// What was closed, as ClosingsQuestion asks it, waited for at once.
 [[nodiscard]] Closings ReadClosings(const std::shared_ptr<CJetDB>& database, const PayPeriod& period,
                                     std::optional<std::int64_t> employee = std::nullopt);
 

@@ -58,9 +58,7 @@ void CardChecker::ReadAhead(std::span<const std::int32_t> employeeIDs)
     if (!m_reader.ReadsAhead()) {
         return;
     }
-    if (!m_reader.IsAsked(employeeIDs)) {
-        m_reader.AskAhead(employeeIDs);
-    }
+    m_reader.AskAhead(employeeIDs);
     if (employeeIDs.size() < PunchReader::kAtOnce) { // of many it costs more than a wait
         AskWhoWorkedBefore();
     }

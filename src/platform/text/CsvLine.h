@@ -22,7 +22,7 @@ public:
     CsvLine& Number(const std::optional<std::int64_t>& number) { return Plain(number ? std::to_string(*number) : ""); } // empty for none
     CsvLine& Empty(int fields);
 
-    // With its end.
+    // The whole line, with the end of a line behind it.
     [[nodiscard]] std::string Done() const { return m_line + "\r\n"; }
 
 private:

@@ -94,7 +94,8 @@ void RefuseUnlessEmpty(const std::string& database);
 // run a second time, when the first was undone. Raises what RefuseUnlessEmpty raises, and what making a database raises.
 void Import(const ImportTarget& target, const std::function<void(Engine&)>& fill);
 
-// The same without any target: what would be written is gone afterwards. Looks at the target as RefuseUnlessEmpty does.
+// Tries an import without its target: `fill` runs on a passing database, which is gone afterwards. Looks at the target as RefuseUnlessEmpty
+// does.
 void TryImport(const ImportTarget& target, const std::function<void(Engine&)>& fill);
 
 } // namespace ptk

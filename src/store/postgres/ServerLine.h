@@ -51,10 +51,10 @@ public:
     std::vector<ServerResult> Send(const std::vector<ServerCommand>& commands, std::optional<Clock::time_point> until = std::nullopt,
                                    const std::vector<NumberedQuestion>& behind = {});
 
-    // The same for what ends a transaction: that wait is not given up, since what was given up would be done all the same.
+    // Sends what ends a transaction, as Send does: that wait is not given up, since what was given up would be done all the same.
     std::vector<ServerResult> Finish(const std::vector<ServerCommand>& commands);
 
-    // The same without waiting for the answer, which nobody needs.
+    // Sends what ends a transaction and does not wait for the answer, which nobody needs.
     void SendUnheard(const char* sql);
 
     // A question whose answer is taken later, by its number. Several can be on their way; what is asked behind them hears them first.

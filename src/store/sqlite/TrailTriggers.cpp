@@ -1,6 +1,7 @@
 #include "store/sqlite/TrailTriggers.h"
 
 #include "platform/text/Joined.h"
+#include "platform/text/Text.h"
 #include "store/engine/StoredTable.h"
 
 #include <algorithm>
@@ -31,13 +32,6 @@ std::string Capitals(std::string_view word)
 {
     std::string text(word);
     std::ranges::transform(text, text.begin(), [](char letter) { return letter >= 'a' ? static_cast<char>(letter - 'a' + 'A') : letter; });
-    return text;
-}
-
-std::string Small(const char* word)
-{
-    std::string text(word);
-    text.front() = static_cast<char>(text.front() - 'A' + 'a');
     return text;
 }
 
@@ -76,7 +70,7 @@ std::string Trigger(const StoredTable& table, const Deed& deed)
     const std::string_view name = table.name;
     const bool isOfEmployee = std::ranges::any_of(table.columns, [](const StoredColumn& column) { return column.name == kEmployee; });
     Texts targets{"tab", "act", "row"};
-    Texts heads{fmt::format("'{}'", name), fmt::format("'{}'", Small(deed.name)),
+    Texts heads{fmt::format("'{}'", name), fmt::format("'{}'", LowerCase(deed.name)),
                 fmt::format("{}.{}", deed.hasBefore ? "OLD" : "NEW", table.hasKey ? table.columns.front().name : "rowid")};
     Texts numbers;
     Texts names;
