@@ -178,6 +178,37 @@ TEST(ServerFaults, ALineThatIsCutLosesAndDoublesNothing)
     EXPECT_EQ(Asked(*database, "SELECT COUNT(*) FROM TimeRecord"), std::to_string(stored)) << "reading goes on over a new line";
 }
 
+// Numbers from 3 down to 1, and then what cannot be divided by.
+constexpr auto kThreeThenNone = "SELECT 6 / CAST(n AS integer) FROM generate_series(3, {}, -1) AS numbers (n)";
+
+TEST(ServerFaults, RowsThatComeOneByOneEndWhereTheServerFailsOrSomethingElseIsAsked)
+{
+    const NewServerDatabase server;
+    PostgresEngine engine(server.Address());
+    std::vector<std::int64_t> read;
+    const auto readAll = [&](Statement& rows, const std::function<void()>& between) {
+        read.clear();
+        return FailureOf([&] {
+            rows.ForEachRow([&] {
+                read.push_back(rows.Int64At(0));
+                between();
+            });
+        });
+    };
+    const auto ask = [&] { EXPECT_EQ(engine.Prepare("SELECT 7")->ReadRows()->Int32At(0), 7); };
+    EXPECT_NE(readAll(*engine.PrepareForAllRows(fmt::format(kThreeThenNone, 0)), [] {}), 0);
+    EXPECT_EQ(read, (std::vector<std::int64_t>{2, 3, 6})) << "those before the failure";
+    engine.GiveUp();
+    const auto rows = engine.PrepareForAllRows(fmt::format(kThreeThenNone, 1));
+    EXPECT_EQ(readAll(*rows, ask), engine::Misuse) << "what was asked between has taken their place";
+    EXPECT_EQ(read, std::vector<std::int64_t>{2});
+    EXPECT_EQ(readAll(*rows, [] {}), 0);
+    EXPECT_EQ(read, (std::vector<std::int64_t>{2, 3, 6}));
+    EXPECT_EQ(rows->ReadRows(3)->RecordCount(), 3);
+    EXPECT_EQ(rows->ReadRows(3)->RecordCount(), 0) << "only fewer rows are the end";
+    ask();
+}
+
 class AStalledServer : public testing::Test
 {
 protected:

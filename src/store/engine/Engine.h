@@ -109,6 +109,10 @@ public:
     // before it is closed.
     virtual std::unique_ptr<Statement> PrepareToKeep(std::string_view sql) = 0;
 
+    // A select of any number of rows, of which only those that are being read take memory. Nothing else is asked of the database before the
+    // last of them was read.
+    virtual std::unique_ptr<Statement> PrepareForAllRows(std::string_view sql) { return Prepare(sql); }
+
     std::unique_ptr<Statement> PrepareStored(std::string_view query);
 
     // Only the rows for which a condition in the engine's own words holds, in the query's order.

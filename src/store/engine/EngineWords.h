@@ -55,10 +55,6 @@ struct EngineWords
     // A statement: nobody else adds rows to a table, or takes any away, before the end of the write. Empty where nobody could.
     const char* lockTable;
 
-    // Before many rows of a select {0} are read, and for each of their portions; both empty where rows come one by one anyway.
-    const char* openCursor;
-    const char* nextRows;
-
     // Of a table {0} with the key {1}: the last number that was given to a row, and several statements that keep numbers up to {2} from
     // being given.
     const char* lastNumber;

@@ -7,7 +7,6 @@
 #include "store/engine/Statement.h"
 #include "store/whole/DatabaseCreator.h"
 #include "store/whole/DatabaseName.h"
-#include "store/whole/EveryRow.h"
 
 #include <fmt/format.h>
 #include <utility>
@@ -115,14 +114,15 @@ void Change(Engine& engine, const ImportTarget& target, const std::function<void
 
 void ReadHours(Engine& engine, ImportFigures& figures)
 {
-    ForEachRowOf(engine, kRecords, [&](const Statement& record) {
-        const auto start = record.StoredDateAt(1);
-        const auto end = record.StoredDateAt(2);
+    const auto record = engine.PrepareForAllRows(kRecords);
+    record->ForEachRow([&] {
+        const auto start = record->StoredDateAt(1);
+        const auto end = record->StoredDateAt(2);
         if (!start || !end) {
             throw Failure(0, "PTK", "a time record does not read back as it was written");
         }
-        const bool isNone = record.KindAt(0) == CellKind::Null;
-        figures.Count(isNone ? std::nullopt : std::optional(NarrowToInt32(record.Int64At(0))), *start, *end);
+        const bool isNone = record->KindAt(0) == CellKind::Null;
+        figures.Count(isNone ? std::nullopt : std::optional(NarrowToInt32(record->Int64At(0))), *start, *end);
     });
 }
 

@@ -53,6 +53,7 @@ LibPq Load()
     Find(library, "PQflush", pq.flush);
     Find(library, "PQconsumeInput", pq.consumeInput);
     Find(library, "PQisBusy", pq.isBusy);
+    Find(library, "PQsetSingleRowMode", pq.setSingleRowMode);
     Find(library, "PQgetResult", pq.getResult);
     Find(library, "PQnotifies", pq.notifies);
     Find(library, "PQclear", pq.clear);

@@ -33,6 +33,7 @@ struct LibPq
     decltype(&PQflush) flush;
     decltype(&PQconsumeInput) consumeInput;
     decltype(&PQisBusy) isBusy;
+    decltype(&PQsetSingleRowMode) setSingleRowMode;
     decltype(&PQgetResult) getResult;
     decltype(&PQnotifies) notifies;
     decltype(&PQclear) clear;

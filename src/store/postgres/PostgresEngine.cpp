@@ -281,13 +281,30 @@ std::optional<ServerResult> PostgresEngine::TakeAhead(std::int64_t number)
     return number != 0 && m_begun ? m_line->TakeAhead(number) : std::nullopt;
 }
 
+ServerResult PostgresEngine::BeginRows(const ServerCommand& command)
+{
+    RequireOpen();
+    RequireBegun();
+    return m_line->BeginRows(command);
+}
+
+ServerResult PostgresEngine::NextRow()
+{
+    return m_line->NextRow();
+}
+
 // For what does not go through Ask.
-void PostgresEngine::RequireSigned()
+void PostgresEngine::RequireBegun()
 {
     Flush();
     if (!m_begun) {
         static_cast<void>(SendFirst({Beginning()}));
     }
+}
+
+void PostgresEngine::RequireSigned()
+{
+    RequireBegun();
     if (m_transaction == Transaction::Write && m_number.empty()) {
         TakeSigning(m_line->Send({Signing()}).front());
     }
@@ -446,13 +463,19 @@ void PostgresEngine::AddWholeEntry(const char* action, const std::string& file)
 std::unique_ptr<Statement> PostgresEngine::Prepare(std::string_view sql)
 {
     RequireOpen();
-    return std::make_unique<PostgresStatement>(*this, sql, false);
+    return std::make_unique<PostgresStatement>(*this, sql, Usage::Once);
 }
 
 std::unique_ptr<Statement> PostgresEngine::PrepareToKeep(std::string_view sql)
 {
     RequireOpen();
-    return std::make_unique<PostgresStatement>(*this, sql, true);
+    return std::make_unique<PostgresStatement>(*this, sql, Usage::Often);
+}
+
+std::unique_ptr<Statement> PostgresEngine::PrepareForAllRows(std::string_view sql)
+{
+    RequireOpen();
+    return std::make_unique<PostgresStatement>(*this, sql, Usage::RowByRow);
 }
 
 // All of them by one question: there are few.

@@ -71,6 +71,7 @@ public:
     [[nodiscard]] const EngineWords& Words() const override { return kPostgresWords; }
     std::unique_ptr<Statement> Prepare(std::string_view sql) override;
     std::unique_ptr<Statement> PrepareToKeep(std::string_view sql) override;
+    std::unique_ptr<Statement> PrepareForAllRows(std::string_view sql) override;
     void BeginMany() override;
     void RunScript(const char* sql) override;
     [[nodiscard]] std::int64_t LastKey() override;
@@ -79,6 +80,10 @@ public:
 
     // One statement within the hold or the write.
     [[nodiscard]] ServerResult Ask(const ServerCommand& command, Intent intent = Intent::Read);
+
+    // A question whose rows are answered one by one, see ServerLine::BeginRows.
+    [[nodiscard]] ServerResult BeginRows(const ServerCommand& command);
+    [[nodiscard]] ServerResult NextRow();
 
     // A change that may go with what is asked next, or with the end of the write, and fail there: an INSERT, UPDATE or DELETE that answers
     // no rows, of a write that has its number. False where it is to be asked by itself.
@@ -124,6 +129,7 @@ private:
     [[nodiscard]] ServerCommand Beginning() const;
     [[nodiscard]] bool IsToBeSigned(Intent intent) const;
     void TakeSigning(const ServerResult& signing);
+    void RequireBegun();
     void RequireSigned();
     void Flush();
     [[nodiscard]] ServerCommand Signing() const;

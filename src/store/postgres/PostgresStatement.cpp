@@ -117,9 +117,9 @@ void AddCell(RecordSet::Builder& rows, const ServerResult& from, int row, int co
 
 } // namespace
 
-PostgresStatement::PostgresStatement(PostgresEngine& engine, std::string_view sql, bool keep)
+PostgresStatement::PostgresStatement(PostgresEngine& engine, std::string_view sql, Usage usage)
     : m_engine(engine), m_text(TranslateForServer(sql)), m_values(m_text.parameters.size()), m_assigned(m_text.parameters.size()),
-      m_keep(keep)
+      m_usage(usage)
 {
     if (!HoldsStatement(sql)) {
         throw ServerFailure(engine::Refused, "there is no statement to run");
@@ -164,22 +164,32 @@ void PostgresStatement::AskAhead()
 ServerResult PostgresStatement::Ask(Intent intent)
 {
     RefuseMissingParameters();
+    if (m_usage == Usage::RowByRow) {
+        return m_engine.BeginRows(Command());
+    }
     if (auto answer = m_engine.TakeAhead(std::exchange(m_ahead, 0))) {
         return std::move(*answer);
     }
-    ServerResult result = m_engine.Ask({m_text.sql, m_values, m_keep, false}, intent);
-    m_keep = true;
+    ServerResult result = m_engine.Ask(Command(), intent);
+    m_usage = Usage::Often;
     return result;
 }
 
+ServerCommand PostgresStatement::Command() const
+{
+    return {m_text.sql, m_values, m_usage == Usage::Often, false};
+}
+
 // A transaction that only reads lets nothing else be done.
-ServerResult PostgresStatement::AskForRows()
+void PostgresStatement::AskForRows()
 {
     try {
-        ServerResult result = Ask(Intent::Read);
-        if (result.HasRows()) {
-            return result;
+        m_rows = Ask(Intent::Read);
+        m_row = 0;
+        if (m_rows->HasRows()) {
+            return;
         }
+        m_rows.reset();
     } catch (const ServerFailure& failure) {
         if (!failure.TakesNoChanges() || m_engine.IsWriting()) {
             throw;
@@ -191,8 +201,8 @@ ServerResult PostgresStatement::AskForRows()
 void PostgresStatement::Run()
 {
     RefuseMissingParameters();
-    if (m_engine.Post({m_text.sql, m_values, m_keep, false})) {
-        m_keep = true;
+    if (m_engine.Post(Command())) {
+        m_usage = Usage::Often;
         return;
     }
     if (Ask(Intent::Change).HasRows()) {
@@ -202,11 +212,19 @@ void PostgresStatement::Run()
 
 void PostgresStatement::ForEachRow(const std::function<void()>& take)
 {
-    m_rows = AskForRows();
-    for (m_row = 0; m_row < m_rows->RowCount(); ++m_row) {
+    for (AskForRows(); IsAtRow(); GoToNextRow()) {
         take();
     }
     m_rows.reset();
+}
+
+void PostgresStatement::GoToNextRow()
+{
+    ++m_row;
+    if (m_rows->IsOneOfMany()) {
+        m_rows = m_engine.NextRow();
+        m_row = 0;
+    }
 }
 
 CellKind PostgresStatement::KindAt(int column) const
@@ -258,22 +276,20 @@ std::optional<DateTime> PostgresStatement::StoredDateAt(int column) const
 std::shared_ptr<RecordSet> PostgresStatement::ReadRows(std::int32_t most)
 {
     if (!m_rows) {
-        m_rows = AskForRows();
-        m_row = 0;
+        AskForRows();
     }
     RecordSet::Builder rows;
     for (int column = 0; column < m_rows->ColumnCount(); ++column) {
         rows.AddColumn(Library().fname(m_rows->Get(), column), Declaration(m_rows->TypeOf(column)));
     }
-    const int end = m_row + std::min(most, m_rows->RowCount() - m_row);
-    const bool finished = end - m_row < most;
-    for (; m_row < end; ++m_row) {
+    std::int32_t read = 0;
+    for (; read < most && IsAtRow(); GoToNextRow(), ++read) {
         for (int column = 0; column < m_rows->ColumnCount(); ++column) {
             AddCell(rows, *m_rows, m_row, column);
         }
         rows.EndRow();
     }
-    if (finished) {
+    if (read < most) {
         m_rows.reset();
     }
     return rows.Finish();

@@ -12,12 +12,20 @@ namespace ptk {
 class PostgresEngine;
 enum class Intent;
 
-// Failures carry the source "PostgreSQL". All rows of an answer are there at once, so that other statements can be run between them.
+// How a statement is going to be used.
+enum class Usage
+{
+    Once,    // the server prepares it for its second run, if there is one
+    Often,   // prepared and kept for the next who asks for this text
+    RowByRow // for any number of rows, which come one by one
+};
+
+// Failures carry the source "PostgreSQL". All rows of an answer are there at once, so that other statements can be run between them, but
+// for those that come one by one.
 class PostgresStatement final : public Statement
 {
 public:
-    // With `keep` the server keeps it prepared for the next who asks for this text, else only from its second run on.
-    PostgresStatement(PostgresEngine& engine, std::string_view sql, bool keep);
+    PostgresStatement(PostgresEngine& engine, std::string_view sql, Usage usage);
 
     using Statement::Bind;
     void Bind(const std::string& name, const Value& value) override;
@@ -34,16 +42,19 @@ public:
 
 private:
     void RefuseMissingParameters() const;
+    [[nodiscard]] ServerCommand Command() const;
     [[nodiscard]] ServerResult Ask(Intent intent);
-    [[nodiscard]] ServerResult AskForRows();
+    void AskForRows();
+    [[nodiscard]] bool IsAtRow() const { return m_row < m_rows->RowCount(); }
+    void GoToNextRow();
 
     PostgresEngine& m_engine;
     ServerText m_text;
     std::vector<ServerValue> m_values;
     std::vector<bool> m_assigned; // by parameter
-    bool m_keep;
+    Usage m_usage;
     std::int64_t m_ahead = 0;           // number of the question whose answer is on its way, 0 without one
-    std::optional<ServerResult> m_rows; // of the answer that is being read
+    std::optional<ServerResult> m_rows; // of the answer that is being read, or the one that came last
     int m_row = 0;                      // the next, or the one at which ForEachRow stands
 };
 

@@ -26,8 +26,6 @@ inline constexpr EngineWords kPostgresWords{
         "date_trunc('day', ToDay) = ToDay)",
     .lockRows = " FOR UPDATE",
     .lockTable = "LOCK TABLE {0} IN SHARE MODE",
-    .openCursor = "DECLARE ptk_rows NO SCROLL CURSOR FOR {0}",
-    .nextRows = "FETCH 10000 FROM ptk_rows",
     .lastNumber = "SELECT CASE WHEN is_called THEN last_value ELSE last_value - 1 END FROM {0}_{1}_seq",
     .skipNumbers = "SELECT setval('{0}_{1}_seq', {2}) FROM {0}_{1}_seq WHERE {2} > CASE WHEN is_called THEN last_value ELSE last_value - 1 "
                    "END",

@@ -26,7 +26,7 @@ void ServerLine::SendOff(std::int64_t question)
 {
     m_connection.Require(Library().pipelineSync(m_connection.Get()));
     m_connection.Flush();
-    m_onTheirWay.push_back({std::exchange(m_awaited, {}), question, m_roundTrips, false});
+    m_onTheirWay.push_back({std::exchange(m_awaited, {}), question, m_roundTrips});
 }
 
 void ServerLine::Post(const ServerCommand& command)
@@ -130,13 +130,28 @@ bool IsAnswer(const ServerResult& result)
 
 } // namespace
 
-// What was posted is answered up to the first failure; behind it nothing was done.
 std::vector<ServerResult> ServerLine::Hear(const Portion& portion)
+{
+    return Hear(portion, NextEnd());
+}
+
+// Behind the rows that nobody took.
+ServerResult ServerLine::NextEnd()
+{
+    ServerResult result = m_connection.Next();
+    while (result.IsOneOfMany()) {
+        result = m_connection.Next();
+    }
+    return result;
+}
+
+// What was posted is answered up to the first failure; behind it nothing was done.
+std::vector<ServerResult> ServerLine::Hear(const Portion& portion, ServerResult first)
 {
     std::vector<ServerResult> results;
     std::optional<ServerFailure> failure;
+    ServerResult result = std::move(first);
     for (const Awaited& awaited : portion.awaited) {
-        ServerResult result = m_connection.Next();
         m_connection.RequireExpected(IsAnswer(result));
         if (Library().resultStatus(result.Get()) == PGRES_FATAL_ERROR && !failure) {
             failure = FailureOf(result);
@@ -151,8 +166,9 @@ std::vector<ServerResult> ServerLine::Hear(const Portion& portion)
             results.push_back(std::move(result));
         }
         m_connection.RequireExpected(m_connection.Next().Get() == nullptr);
+        result = m_connection.Next();
     }
-    m_connection.RequireExpected(Library().resultStatus(m_connection.Next().Get()) == PGRES_PIPELINE_SYNC); // the end of the round trip
+    m_connection.RequireExpected(Library().resultStatus(result.Get()) == PGRES_PIPELINE_SYNC); // the end of the round trip
     if (failure) {
         throw *failure;
     }
@@ -299,6 +315,32 @@ std::optional<ServerResult> ServerLine::TakeAhead(std::int64_t number)
     }
     const auto found = m_answers.extract(number);
     return found.empty() ? std::nullopt : std::optional(std::move(found.mapped()));
+}
+
+ServerResult ServerLine::BeginRows(const ServerCommand& command)
+{
+    Verify();
+    m_connection.Begin();
+    HearAllPortions();
+    Post(command);
+    SendOff();
+    m_onTheirWay.back().rowByRow = true;
+    m_connection.Require(Library().setSingleRowMode(m_connection.Get()));
+    CountWait(m_onTheirWay.back());
+    return NextRow();
+}
+
+ServerResult ServerLine::NextRow()
+{
+    if (m_onTheirWay.empty() || !m_onTheirWay.front().rowByRow) {
+        throw ServerFailure(engine::Misuse, "something else was asked before all rows were read");
+    }
+    m_connection.Begin();
+    ServerResult row = m_connection.Next();
+    if (row.IsOneOfMany()) {
+        return row;
+    }
+    return std::move(Hear(TakePortion(), std::move(row)).back());
 }
 
 void ServerLine::RunScript(const char* sql)

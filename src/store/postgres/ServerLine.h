@@ -62,6 +62,11 @@ public:
     void SendAhead(const NumberedQuestion& question);
     [[nodiscard]] std::optional<ServerResult> TakeAhead(std::int64_t number);
 
+    // A question whose rows are answered one at a time, and behind the last one a result that has only their columns. What is asked before
+    // that drops the rows that were not taken; NextRow raises 21 then.
+    ServerResult BeginRows(const ServerCommand& command);
+    ServerResult NextRow();
+
     // Several commands in one text, in one round trip.
     void RunScript(const char* sql);
 
@@ -98,6 +103,7 @@ private:
         std::int64_t question = 0;  // its number, where the answer is taken later
         std::int64_t sentAfter = 0; // as many waits
         bool forgotten = false;     // nor hears what it failed with
+        bool rowByRow = false;
     };
 
     [[nodiscard]] std::vector<ServerResult> Ask(const std::vector<ServerCommand>& commands, const std::vector<NumberedQuestion>& behind);
@@ -113,6 +119,8 @@ private:
     [[nodiscard]] Portion TakePortion();
     void CountWait(const Portion& portion);
     [[nodiscard]] std::vector<ServerResult> Hear(const Portion& portion);
+    [[nodiscard]] std::vector<ServerResult> Hear(const Portion& portion, ServerResult first);
+    [[nodiscard]] ServerResult NextEnd();
     void HearNext();
     void HearPreparedInVain();
     void HearAllPortions();

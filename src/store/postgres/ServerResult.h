@@ -15,7 +15,10 @@ public:
     explicit ServerResult(PGresult* result) : m_result(result) {}
 
     [[nodiscard]] PGresult* Get() const { return m_result.get(); }
-    [[nodiscard]] bool HasRows() const { return Library().resultStatus(Get()) == PGRES_TUPLES_OK; }
+    [[nodiscard]] bool HasRows() const { return Library().resultStatus(Get()) == PGRES_TUPLES_OK || IsOneOfMany(); }
+
+    // One row, after which others or the end are answered.
+    [[nodiscard]] bool IsOneOfMany() const { return Library().resultStatus(Get()) == PGRES_SINGLE_TUPLE; }
     [[nodiscard]] int RowCount() const { return Library().ntuples(Get()); }
     [[nodiscard]] int ColumnCount() const { return Library().nfields(Get()); }
     [[nodiscard]] Oid TypeOf(int column) const { return Library().ftype(Get(), column); }

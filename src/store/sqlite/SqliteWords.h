@@ -28,8 +28,6 @@ inline constexpr EngineWords kSqliteWords{
                   "datetime(ToDay, '+0 days', 'start of day') = ToDay)",
     .lockRows = "",
     .lockTable = "",
-    .openCursor = "",
-    .nextRows = "",
     .lastNumber = "SELECT COALESCE((SELECT seq FROM sqlite_sequence WHERE name = '{0}'), 0)",
     .skipNumbers = "INSERT INTO sqlite_sequence SELECT '{0}', {2} WHERE {2} > 0 AND NOT EXISTS (SELECT 1 FROM sqlite_sequence WHERE name = "
                    "'{0}'); UPDATE sqlite_sequence SET seq = {2} WHERE name = '{0}' AND seq < {2}",

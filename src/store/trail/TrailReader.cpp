@@ -87,12 +87,6 @@ TrailNote NoteOf(const Statement& row)
     return note;
 }
 
-// Of a server all rows of an answer are in memory at once.
-std::int32_t MostAtOnce(const CJetDB& database)
-{
-    return *database.Words().openCursor == '\0' ? Statement::kAllRows : kPortion;
-}
-
 // Answers how many there were, and leaves the query at what is older than the last of them.
 std::int32_t ReadPortion(CJetDB& database, TrailQuery& query, const std::function<void(const TrailEntry&)>& take)
 {
@@ -128,7 +122,7 @@ void ReadTrail(const std::shared_ptr<CJetDB>& database, const TrailQuery& query,
     std::int32_t left = query.most;
     std::int32_t read = 0;
     do {
-        portion.most = std::min(left, MostAtOnce(*database));
+        portion.most = std::min(left, kPortion);
         read = ReadPortion(*database, portion, take);
         left -= read;
     } while (read == portion.most && left > 0);

@@ -10,7 +10,6 @@
 #include "store/sqlite/SqliteEngine.h"
 #include "store/whole/DatabaseCreator.h"
 #include "store/whole/DatabaseName.h"
-#include "store/whole/EveryRow.h"
 #include "store/whole/OpenDatabase.h"
 
 #include <fmt/format.h>
@@ -189,11 +188,12 @@ private:
     {
         target.Prepare(fmt::format("DELETE FROM {}", table.name))->Run(); // the rows of a new database
         const auto sink = target.Fill(table);
-        ForEachRowOf(*m_source.engine, SelectText(m_source, table), [&](const Statement& row) {
+        const auto row = m_source.engine->PrepareForAllRows(SelectText(m_source, table));
+        row->ForEachRow([&] {
             try {
-                sink->Add(row);
+                sink->Add(*row);
             } catch (const Unfit& unfit) {
-                throw Refusal(table, row, unfit);
+                throw Refusal(table, *row, unfit);
             }
             Tell();
         });

@@ -4,7 +4,6 @@
 #include "store/engine/RecordSet.h"
 #include "store/engine/Statement.h"
 #include "store/rows/QueryParameters.h"
-#include "store/whole/EveryRow.h"
 
 #include <algorithm>
 #include <fmt/format.h>
@@ -13,6 +12,8 @@
 namespace ptk {
 
 namespace {
+
+constexpr std::int32_t kRowsAtOnce = 10'000;
 
 void ReadCompany(RowReader& reader)
 {
@@ -56,8 +57,12 @@ void RowChecker::CheckTable(const TableColumns& columns, ReadRow read)
 {
     try {
         std::vector<std::string> found;
-        ForEachPortionOf(m_engine, fmt::format("SELECT {} FROM {}", Joined(NamesOf(columns), ", "), columns.table),
-                         [&](RecordSet& rows) { FindIn(rows, columns, read, found); });
+        const auto rows = m_engine.PrepareForAllRows(fmt::format("SELECT {} FROM {}", Joined(NamesOf(columns), ", "), columns.table));
+        for (bool more = true; more;) {
+            const auto portion = rows->ReadRows(kRowsAtOnce);
+            FindIn(*portion, columns, read, found);
+            more = portion->RecordCount() == kRowsAtOnce;
+        }
         for (const std::string& find : found) {
             m_problems.push_back(find + '.');
         }
@@ -104,11 +109,12 @@ void RowChecker::CheckRows(const std::set<std::string>& incomplete)
 
 void RowChecker::CheckClosings()
 {
-    ForEachRowOf(m_engine, fmt::format("SELECT PaydayID FROM _Payday WHERE {} IS NOT TRUE ORDER BY PaydayID", m_engine.Words().closedDays),
-                 [&](const Statement& row) {
-                     m_problems.push_back(
-                         fmt::format("The days of _Payday {} cannot be read or run backward: it counts for nothing.", row.TextAt(0)));
-                 });
+    const auto closing = m_engine.PrepareForAllRows(
+        fmt::format("SELECT PaydayID FROM _Payday WHERE {} IS NOT TRUE ORDER BY PaydayID", m_engine.Words().closedDays));
+    closing->ForEachRow([&] {
+        m_problems.push_back(
+            fmt::format("The days of _Payday {} cannot be read or run backward: it counts for nothing.", closing->TextAt(0)));
+    });
 }
 
 void RowChecker::TryActions()
