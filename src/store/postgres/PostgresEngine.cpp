@@ -28,36 +28,7 @@ constexpr std::size_t kMostPosted = 100;
 constexpr const char* kBeginRead = "BEGIN ISOLATION LEVEL REPEATABLE READ READ ONLY";
 constexpr const char* kBeginWrite = "BEGIN ISOLATION LEVEL READ COMMITTED"; // what a lock was waited for is seen as it is then
 
-// The first entry of a step has the step's own number; the day and hour of the entries are those where the person sits.
-constexpr const char* kSign =
-    "SELECT set_config('ptk.user', $1, true), set_config('ptk.program', $2, true), set_config('ptk.reason', $5, true), "
-    "set_config('ptk.step', step::text, true), "
-    "set_config('ptk.next', CASE WHEN $3 = '' THEN step::text ELSE '' END, true), set_config('TimeZone', $4, true), "
-    "step, pg_current_xact_id()::text, current_setting('ptk.line', true) "
-    "FROM (SELECT COALESCE(NULLIF($3, '')::bigint, nextval('_change_changeid_seq')) AS step) AS numbered";
-constexpr int kStepColumn = 6;
-constexpr int kNumberColumn = 7;
-constexpr int kLineColumn = 8;
 constexpr const char* kNewest = "SELECT COALESCE(NULLIF(current_setting('ptk.last', true), '')::bigint, 0)";
-
-// Asked in this order: what does not run any more is seen by the next question, or never.
-constexpr const char* kIsRunning = "SELECT EXISTS (SELECT 1 FROM pg_locks WHERE locktype = 'transactionid' AND mode = 'ExclusiveLock' AND "
-                                   "transactionid = $1::xid8::xid)";
-constexpr const char* kIsStored = "SELECT EXISTS (SELECT 1 FROM _Change WHERE ChangeID >= $1::bigint AND Step = $1::bigint AND "
-                                  "xmin = $2::xid8::xid AND ChangedBy IS NOT DISTINCT FROM NULLIF(left($3::text, 500), '') AND "
-                                  "Program IS NOT DISTINCT FROM NULLIF(left($4::text, 500), ''))"; // no more of either is kept
-
-// As the server reads a time zone: "<+0530>-05:30", east of Greenwich counting down.
-std::string LocalTimeZone()
-{
-    const std::time_t now = std::time(nullptr);
-    std::tm local{};
-    localtime_r(&now, &local);
-    const long minutes = local.tm_gmtoff / 60;
-    const long hours = std::labs(minutes) / 60;
-    const long rest = std::labs(minutes) % 60;
-    return fmt::format("<{0}{1:02}{2:02}>{3}{1:02}:{2:02}", minutes < 0 ? '-' : '+', hours, rest, minutes < 0 ? '+' : '-');
-}
 
 // What another tool put into a stored query may be anything.
 bool OnlyChanges(const std::string& sql)
@@ -65,11 +36,6 @@ bool OnlyChanges(const std::string& sql)
     const std::string text = LowerCase(sql);
     const bool changes = text.starts_with("insert ") || text.starts_with("update ") || text.starts_with("delete ");
     return changes && text.find("returning") == std::string::npos;
-}
-
-std::int64_t NumberIn(const ServerResult& result, int column = 0)
-{
-    return std::strtoll(std::string(result.Text(0, column)).c_str(), nullptr, 10);
 }
 
 } // namespace
@@ -183,12 +149,6 @@ void PostgresEngine::Begin(Transaction transaction)
     m_transaction = transaction;
 }
 
-ServerCommand PostgresEngine::Signing() const
-{
-    const std::string wanted = WantedStep() == 0 ? "" : std::to_string(WantedStep());
-    return {kSign, {Signature().name, Signature().program, wanted, LocalTimeZone(), Signature().reason}, true, false};
-}
-
 ServerCommand PostgresEngine::Beginning() const
 {
     return {m_transaction == Transaction::Read ? kBeginRead : kBeginWrite, {}, true, false};
@@ -198,18 +158,13 @@ ServerCommand PostgresEngine::Beginning() const
 // own by then, so that the entries of a row have their numbers in the order of its changes.
 bool PostgresEngine::IsToBeSigned(Intent intent) const
 {
-    return m_transaction == Transaction::Write && m_number.empty() && intent == Intent::Change;
+    return m_transaction == Transaction::Write && m_write.transaction.empty() && intent == Intent::Change;
 }
 
-void PostgresEngine::TakeSigning(const ServerResult& signing)
+void PostgresEngine::TakeNumbers(const ServerResult& answer)
 {
-    if (signing.Text(0, kLineColumn) != m_line->Token()) {
-        throw ServerFailure(engine::CannotOpen,
-                            "something between the program and the server hands each change to another session; nothing "
-                            "was stored. Connect to the server itself");
-    }
-    TookStep(NumberIn(signing, kStepColumn));
-    m_number = signing.Text(0, kNumberColumn);
+    m_write = NumbersIn(answer, *m_line);
+    TookStep(m_write.step);
 }
 
 ServerResult PostgresEngine::Ask(const ServerCommand& command, Intent intent)
@@ -222,19 +177,19 @@ ServerResult PostgresEngine::Ask(const ServerCommand& command, Intent intent)
     const bool signsBehind = std::exchange(m_signsBehind, false) && IsToBeSigned(Intent::Change);
     const bool signsBefore = !signsBehind && IsToBeSigned(intent);
     if (signsBefore) {
-        commands.push_back(Signing());
+        commands.push_back(Numbering(Signature(), WantedStep()));
     }
     commands.push_back(command);
     if (signsBehind) {
-        commands.push_back(Signing());
+        commands.push_back(Numbering(Signature(), WantedStep()));
     }
     std::vector<ServerResult> results = m_begun ? m_line->Send(commands) : SendFirst(commands);
     if (signsBehind) {
-        TakeSigning(results.back());
+        TakeNumbers(results.back());
         results.pop_back();
     }
     if (signsBefore) {
-        TakeSigning(results.at(results.size() - 2));
+        TakeNumbers(results.at(results.size() - 2));
     }
     return std::move(results.back());
 }
@@ -242,7 +197,7 @@ ServerResult PostgresEngine::Ask(const ServerCommand& command, Intent intent)
 bool PostgresEngine::Post(const ServerCommand& change)
 {
     RequireOpen();
-    const bool isNumbered = m_begun && m_transaction == Transaction::Write && !m_number.empty();
+    const bool isNumbered = m_begun && m_transaction == Transaction::Write && !m_write.transaction.empty();
     if (!isNumbered || m_posted.size() >= kMostPosted || !OnlyChanges(change.sql)) {
         return false;
     }
@@ -305,8 +260,8 @@ void PostgresEngine::RequireBegun()
 void PostgresEngine::RequireSigned()
 {
     RequireBegun();
-    if (m_transaction == Transaction::Write && m_number.empty()) {
-        TakeSigning(m_line->Send({Signing()}).front());
+    if (m_transaction == Transaction::Write && m_write.transaction.empty()) {
+        TakeNumbers(m_line->Send({Numbering(Signature(), WantedStep())}).front());
     }
 }
 
@@ -351,7 +306,7 @@ void PostgresEngine::WriteOnce(const std::function<void()>& steps)
 {
     Begin(Transaction::Write);
     TookStep(0);
-    m_number.clear();
+    m_write = {};
     m_signsBehind = false;
     try {
         steps();
@@ -373,7 +328,7 @@ void PostgresEngine::CommitWrite()
         commands.push_back({kNewest, {}, true, false});
         commands.push_back({"COMMIT", {}, true, false});
         const auto results = m_line->Finish(commands);
-        const std::int64_t newest = NumberIn(results.at(results.size() - 2));
+        const std::int64_t newest = results.at(results.size() - 2).IntegerAt(0, 0);
         TookStep(newest == 0 ? 0 : StepNumber());
         LeftEntry(newest);
     } catch (const ServerFailure& failure) {
@@ -390,17 +345,17 @@ void PostgresEngine::CommitWrite()
 // The answer to a commit was lost. What became of it stands in the trail, also after the server was started anew.
 void PostgresEngine::Settle(const ServerFailure& lost)
 {
-    if (m_number.empty()) { // nothing was changed
+    if (m_write.transaction.empty()) { // nothing was changed
         throw lost;
     }
-    const auto until = std::chrono::steady_clock::now() + kPatience;
+    const auto until = ServerLine::Clock::now() + kPatience;
     do {
         switch (FateOfWrite(until)) {
-        case Fate::Stored:
+        case WriteFate::Stored:
             return;
-        case Fate::Dropped:
+        case WriteFate::Dropped:
             throw lost;
-        case Fate::Unknown:
+        case WriteFate::Unknown:
             std::this_thread::sleep_for(waiting::kSlice);
             static_cast<void>(waiting::Turn()); // not to be given up: something was stored, or not
         }
@@ -409,21 +364,13 @@ void PostgresEngine::Settle(const ServerFailure& lost)
                                       "known: look before you enter it again");
 }
 
-// The server's own word on the transaction's number is not asked for: one that crashed gives numbers of what it forgot to others.
-PostgresEngine::Fate PostgresEngine::FateOfWrite(Moment until)
+WriteFate PostgresEngine::FateOfWrite(ServerLine::Clock::time_point until)
 {
     try {
         Connect(until);
-        const auto results =
-            m_line->Send({{kIsRunning, {m_number}, false, false},
-                          {kIsStored, {std::to_string(StepNumber()), m_number, Signature().name, Signature().program}, false, false}},
-                         until);
-        if (results.at(0).Text(0, 0) == "t") {
-            return Fate::Unknown;
-        }
-        return results.at(1).Text(0, 0) == "t" ? Fate::Stored : Fate::Dropped;
+        return FateOf(m_write, Signature(), *m_line, until);
     } catch (const ServerFailure&) {
-        return Fate::Unknown;
+        return WriteFate::Unknown;
     }
 }
 
@@ -504,7 +451,7 @@ void PostgresEngine::RunScript(const char* sql)
 
 std::int64_t PostgresEngine::LastKey()
 {
-    return NumberIn(Ask({"SELECT lastval()", {}, true, false}));
+    return Ask({"SELECT lastval()", {}, true, false}).IntegerAt(0, 0);
 }
 
 void PostgresEngine::Commit()

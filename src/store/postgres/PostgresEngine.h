@@ -5,6 +5,7 @@
 #include "store/engine/WhenHeld.h"
 #include "store/postgres/PostgresWords.h"
 #include "store/postgres/ServerConnection.h"
+#include "store/postgres/WriteNumbers.h"
 
 #include <chrono>
 #include <map>
@@ -113,13 +114,6 @@ private:
         Many   // of no step
     };
 
-    enum class Fate
-    {
-        Stored,
-        Dropped,
-        Unknown // it still runs, or the server cannot be asked
-    };
-
     using Moment = std::optional<std::chrono::steady_clock::time_point>;
 
     void Connect(Moment until = std::nullopt);
@@ -128,16 +122,15 @@ private:
     void Begin(Transaction transaction);
     [[nodiscard]] ServerCommand Beginning() const;
     [[nodiscard]] bool IsToBeSigned(Intent intent) const;
-    void TakeSigning(const ServerResult& signing);
+    void TakeNumbers(const ServerResult& answer);
     void RequireBegun();
     void RequireSigned();
     void Flush();
-    [[nodiscard]] ServerCommand Signing() const;
     [[nodiscard]] std::vector<ServerResult> SendFirst(const std::vector<ServerCommand>& commands);
     void WriteOnce(const std::function<void()>& steps);
     void CommitWrite();
     void Settle(const ServerFailure& lost);
-    [[nodiscard]] Fate FateOfWrite(Moment until);
+    [[nodiscard]] WriteFate FateOfWrite(ServerLine::Clock::time_point until);
     void Release() noexcept;
 
     std::string m_address;
@@ -148,7 +141,7 @@ private:
     bool m_listens = false;
     bool m_begun = false; // a transaction that the server knows of
     Transaction m_transaction = Transaction::Read;
-    std::string m_number;                   // of the write's transaction, once it is signed
+    WriteNumbers m_write;                   // of the write that runs or was the last
     bool m_signsBehind = false;             // the write is signed behind the next question
     std::vector<ServerCommand> m_posted;    // changes that were not sent yet
     std::vector<NumberedQuestion> m_behind; // to go with the first question

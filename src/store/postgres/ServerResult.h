@@ -3,6 +3,8 @@
 
 #include "store/postgres/LibPq.h"
 
+#include <cstdint>
+#include <cstdlib>
 #include <memory>
 #include <string_view>
 
@@ -28,6 +30,12 @@ public:
     [[nodiscard]] std::string_view Text(int row, int column) const
     {
         return {Library().getvalue(Get(), row, column), static_cast<std::size_t>(Library().getlength(Get(), row, column))};
+    }
+
+    // 0 for what is no whole number.
+    [[nodiscard]] std::int64_t IntegerAt(int row, int column) const
+    {
+        return std::strtoll(Library().getvalue(Get(), row, column), nullptr, 10);
     }
 
 private:
