@@ -254,6 +254,7 @@ TEST_F(CopyTest, TheCheckNamesWhatIsWrongWithAServersDatabase)
     };
     for (const Case& c : {
              Case{"ALTER TABLE Company DROP COLUMN Fax", "There is no column Company.Fax."},
+             Case{"ALTER TABLE Employee DROP COLUMN City", "There is no column Employee.City."},
              Case{"ALTER TABLE Company ALTER COLUMN Name TYPE varchar(50)", "The column Company.Name is character varying(50), not text."},
              Case{"ALTER TABLE Company ALTER COLUMN Name TYPE text COLLATE \"POSIX\"",
                   "The column Company.Name is text in another order than \"C\", not text."},
@@ -281,6 +282,7 @@ TEST_F(CopyTest, TheCheckNamesWhatIsWrongWithAServersDatabase)
         const DatabaseCheck check = CheckDatabase(server.Address());
         ASSERT_FALSE(check.problems.empty());
         EXPECT_THAT(check.problems.front(), HasSubstr(c.problem));
+        EXPECT_EQ(check.employees, 1) << "also where a column is missing";
     }
 }
 

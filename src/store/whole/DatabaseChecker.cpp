@@ -1,22 +1,23 @@
 #include "store/whole/DatabaseChecker.h"
 
 #include "platform/Failure.h"
-#include "platform/text/Text.h"
 #include "store/engine/RecordSet.h"
 #include "store/engine/StoredTable.h"
 #include "store/sqlite/FileHeader.h"
 #include "store/sqlite/SqliteEngine.h"
+#include "store/whole/DatabaseInspector.h"
 #include "store/whole/DatabaseName.h"
-#include "store/whole/RowChecker.h"
 #include "store/whole/ServerChecker.h"
 #include "store/whole/TrailChecker.h"
 
+#include <algorithm>
 #include <chrono>
 #include <filesystem>
 #include <fmt/format.h>
-#include <set>
+#include <iterator>
 #include <span>
 #include <string_view>
+#include <vector>
 
 namespace ptk {
 
@@ -25,6 +26,7 @@ namespace {
 constexpr StoredColumn kQueryColumns[] = {{"name", ColumnKind::Text}, {"sql", ColumnKind::Text}};
 constexpr StoredColumn kSessionColumns[] = {{"user", ColumnKind::Text}, {"program", ColumnKind::Text}, {"step", ColumnKind::Integer}};
 constexpr StoredColumn kReasonColumn[] = {{"reason", ColumnKind::Text}};
+constexpr StoredColumn kToldReasonColumn[] = {{"Reason", ColumnKind::Text}};
 constexpr StoredColumn kVersionColumn[] = {{"version", ColumnKind::Integer}};
 
 const char* FileTypeOf(ColumnKind kind)
@@ -60,6 +62,23 @@ constexpr const char* kFileUselessLimits =
     "AND "
     "typeof(first_weekday) = 'integer' AND first_weekday BETWEEN 0 AND 6 AND typeof(show_notices) = 'integer', 0)";
 
+constexpr const char* kFileColumns = "SELECT name, type FROM pragma_table_info('{}')";
+constexpr InspectionWords kFileWords{FileTypeOf, kFileColumns, kFileUselessLimits, true};
+
+// Those of one type after the other, and none that a file may lack.
+std::vector<StoredColumn> RequiredOf(std::span<const StoredColumn> columns)
+{
+    std::vector<StoredColumn> required;
+    std::ranges::copy_if(columns, std::back_inserter(required),
+                         [](const StoredColumn& column) { return column.rule != ColumnRule::MayLack; });
+    const auto firstOfType = [&](const StoredColumn& column) {
+        return std::ranges::find_if(
+            columns, [&](const StoredColumn& first) { return std::string_view(FileTypeOf(first.kind)) == FileTypeOf(column.kind); });
+    };
+    std::ranges::stable_sort(required, {}, firstOfType);
+    return required;
+}
+
 class FileInspector
 {
 public:
@@ -78,9 +97,9 @@ public:
             }
         }
         if (CoarseNow() >= m_end) {
-            Report("The check was ended after {} seconds: what it had not come to by then was not looked at.", m_time.count());
+            m_inspector.Report("The check was ended after {} seconds: what it had not come to by then was not looked at.", m_time.count());
         }
-        return std::move(m_check);
+        return m_inspector.Take();
     }
 
 private:
@@ -93,26 +112,20 @@ private:
             CheckTable(table);
         }
         CheckColumns("_StoredQuery", kQueryColumns);
-        CountRows();
+        m_inspector.CountRecords();
+        m_inspector.RequireOneRow("_System");
         CheckLimitsTable();
         CheckTrail();
         CheckStructure();
         CheckProfiles();
-        m_rows.TryActions();
-        m_rows.CheckRows(m_incomplete);
-    }
-
-    template <typename... Values>
-    void Report(fmt::format_string<Values...> text, Values&&... values)
-    {
-        m_check.problems.push_back(fmt::format(text, std::forward<Values>(values)...));
+        m_inspector.CheckRows();
     }
 
     void CheckIntegrity()
     {
         for (const auto rows = m_engine.CheckIntegrity(); !rows->EndOfFile(); rows->MoveNext()) {
             if (const std::string finding(rows->TextAt(0)); finding != "ok") {
-                Report("The file is damaged: {}.", finding);
+                m_inspector.Report("The file is damaged: {}.", finding);
             }
         }
     }
@@ -121,40 +134,12 @@ private:
     {
         const std::int32_t found = m_engine.Select(fmt::format("PRAGMA {}", name))->Int32At(0);
         if (found != expected) {
-            Report("The {} is {}, not {}.", name, found, expected);
+            m_inspector.Report("The {} is {}, not {}.", name, found, expected);
         }
     }
 
     void CheckTable(const char* table) { CheckColumns(table, StoredTableOf(table).columns); }
-
-    // Those of one type after the other. Further tables and columns may be there, and what a file may lack is not asked for here.
-    void CheckColumns(const char* table, std::span<const StoredColumn> columns)
-    {
-        std::set<std::string_view> types;
-        for (const StoredColumn& first : columns) {
-            const std::string_view type = FileTypeOf(first.kind);
-            if (!types.insert(type).second) {
-                continue;
-            }
-            for (const StoredColumn& column : columns) {
-                if (type == FileTypeOf(column.kind) && column.rule != ColumnRule::MayLack) {
-                    CheckColumn(table, column.name, type);
-                }
-            }
-        }
-    }
-
-    void CheckColumn(const char* table, const char* name, std::string_view type)
-    {
-        const auto found =
-            m_engine.Select(fmt::format("SELECT type FROM pragma_table_info('{}') WHERE name = '{}' COLLATE NOCASE", table, name));
-        if (found->EndOfFile()) {
-            Report("There is no column {}.{}.", table, name);
-            m_incomplete.insert(table);
-        } else if (LowerCase(found->TextAt(0)) != LowerCase(type)) {
-            Report("The column {}.{} is {}, not {}.", table, name, found->TextAt(0), type);
-        }
-    }
+    void CheckColumns(const char* table, std::span<const StoredColumn> columns) { m_inspector.CheckColumns(table, RequiredOf(columns)); }
 
     bool HasTable(const char* name)
     {
@@ -162,19 +147,23 @@ private:
                     ->EndOfFile();
     }
 
+    void RequireOneRow(const char* table)
+    {
+        if (!m_inspector.LacksColumns(table)) {
+            m_inspector.RequireOneRow(table);
+        }
+    }
+
     // A file has both tables or, from an earlier version, none.
     void CheckTrail()
     {
         const bool hasTrail = HasTable("_Session") || HasTable("_Change");
-        if (!hasTrail) {
-            return CheckRoutines(m_engine, hasTrail, m_check.problems);
+        if (hasTrail) {
+            CheckColumns("_Session", kSessionColumns);
+            CheckTable("_Change");
+            RequireOneRow("_Session");
         }
-        CheckColumns("_Session", kSessionColumns);
-        CheckTable("_Change");
-        if (!m_incomplete.contains("_Session") && Count("_Session") != 1) {
-            Report("The table _Session has {} rows, not 1.", Count("_Session"));
-        }
-        CheckRoutines(m_engine, hasTrail, m_check.problems);
+        CheckRoutines(m_engine, hasTrail, m_inspector.Problems());
     }
 
     void CheckStructure()
@@ -184,14 +173,10 @@ private:
         }
         CheckColumns("_Structure", kVersionColumn);
         CheckColumns("_Session", kReasonColumn);
-        CheckColumn("_Change", "Reason", "TEXT");
+        CheckColumns("_Change", kToldReasonColumn);
         CheckTable("_Payday");
-        if (!m_incomplete.contains("_Structure") && Count("_Structure") != 1) {
-            Report("The table _Structure has {} rows, not 1.", Count("_Structure"));
-        }
-        if (!m_incomplete.contains("_Payday")) {
-            m_rows.CheckClosings();
-        }
+        RequireOneRow("_Structure");
+        m_inspector.CheckClosings();
     }
 
     void CheckProfiles()
@@ -207,42 +192,15 @@ private:
             return;
         }
         CheckTable("_CheckLimits");
-        if (m_incomplete.contains("_CheckLimits")) {
-            return;
-        }
-        if (const std::int32_t limits = Count("_CheckLimits"); limits != 1) {
-            Report("The table _CheckLimits has {} rows, not 1.", limits);
-        } else if (m_engine.Select(kFileUselessLimits)->Int32At(0) != 0) {
-            Report("The table _CheckLimits holds a value of no use: the check takes its own instead.");
-        }
-    }
-
-    // 0 for a table that is not there, which has been reported by then.
-    std::int32_t Count(const char* table)
-    {
-        try {
-            return m_engine.Select(fmt::format("SELECT COUNT(*) FROM {}", table))->Int32At(0);
-        } catch (const Failure&) {
-            return 0;
-        }
-    }
-
-    void CountRows()
-    {
-        m_check.companies = Count("Company");
-        m_check.employees = Count("Employee");
-        m_check.timeRecords = Count("TimeRecord");
-        if (const std::int32_t options = Count("_System"); options != 1) {
-            Report("The table _System has {} rows, not 1.", options);
+        if (!m_inspector.LacksColumns("_CheckLimits") && m_inspector.RequireOneRow("_CheckLimits")) {
+            m_inspector.CheckLimits();
         }
     }
 
     SqliteEngine m_engine;
     std::chrono::seconds m_time;
     CoarseTime m_end;
-    DatabaseCheck m_check;
-    RowChecker m_rows{m_engine, m_check.problems};
-    std::set<std::string> m_incomplete; // tables that lack a column
+    DatabaseInspector m_inspector{m_engine, kFileWords};
 };
 
 } // namespace
