@@ -12,17 +12,11 @@
 #include "ui/page/Workplace.h"
 #include "ui/widgets/ButtonRow.h"
 #include "ui/widgets/FixedRows.h"
-#include "ui/widgets/ThemeIcon.h"
 #include "ui/work/SaveDialog.h"
-#include "ui/work/WindowPlace.h"
 #include "ui_HistoryWindow.h"
 
 #include <algorithm>
-#include <QClipboard>
-#include <QCloseEvent>
-#include <QDir>
-#include <QGuiApplication>
-#include <QShortcut>
+#include <QFileInfo>
 
 namespace ptk {
 
@@ -31,7 +25,6 @@ namespace {
 constexpr auto kNoDays = "Choose days, the first not after the last, or leave them empty";
 constexpr auto kUnread = "Press F5 to read the history";
 constexpr auto kNotRead = "The history could not be read: ";
-constexpr auto kCopied = "Copied: %1 and a heading";
 constexpr auto kSaveTip = "Save all changes that fit what is chosen above, also those not shown yet";
 constexpr auto kNothingToSave = "Nothing is shown that could be saved";
 constexpr auto kBeingSaved = "The file is being saved";
@@ -39,11 +32,10 @@ constexpr auto kNotSaved = "Not saved: ";
 constexpr auto kCancelled = "Not saved: you cancelled it";
 constexpr auto kSaved = "Saved: %1 in %2";
 constexpr auto kSaving = "Saving: %1";
+constexpr auto kChange = "change"; // each row is one
 
-constexpr auto kPlaceName = "history";
 constexpr QSize kFirstSize(900, 640);
-constexpr QSize kSmallestSize(512, 350); // as the main window's
-constexpr int kRowSpace = 8;             // pixels around the text of a row
+constexpr int kRowSpace = 8; // pixels around the text of a row
 constexpr int kColumnSpace = 16;
 constexpr int kEmployeeCharacters = 14; // shown in any case
 constexpr int kEntryLines = 2;
@@ -52,23 +44,22 @@ constexpr auto kUsualChange = "start 03/05/2003 08:00 AM became 03/05/2003 08:00
 
 QString CountOf(std::int64_t changes)
 {
-    return QString::fromStdString(CountText(changes, "change"));
+    return QString::fromStdString(CountText(changes, kChange));
 }
 
 } // namespace
 
-HistoryWindow::HistoryWindow(Workplace& host) : m_host(host), m_ui(std::make_unique<Ui::HistoryWindow>()), m_rows(new HistoryModel(this))
+HistoryWindow::HistoryWindow(Workplace& host)
+    : ReadingWindow(host, "history"), m_ui(std::make_unique<Ui::HistoryWindow>()), m_rows(new HistoryModel(this))
 {
     m_ui->setupUi(this);
-    setMinimumSize(kSmallestSize);
-    setWindowIcon(ThemeIcon("history"));
     m_ui->filter->SetClock(host.Clock());
     LayOut();
     PrepareTable();
     Connect();
     ConnectKeys();
     ShowSaving();
-    RestorePlace(*this, kPlaceName, kFirstSize);
+    Furnish(*m_ui->notice, "history", kFirstSize);
 }
 
 HistoryWindow::~HistoryWindow() = default;
@@ -86,7 +77,7 @@ void HistoryWindow::PrepareTable()
     QTableView* table = m_ui->grdHistory;
     table->setModel(m_rows);
     FixRows(*table, kRowSpace);
-    table->viewport()->installEventFilter(this);
+    OnRoom(*table, [this] { FitColumns(); });
 }
 
 void HistoryWindow::Connect()
@@ -106,13 +97,10 @@ void HistoryWindow::Connect()
 
 void HistoryWindow::ConnectKeys()
 {
-    const auto onKey = [this](const QKeySequence& key, auto action) {
-        connect(new QShortcut(key, this), &QShortcut::activated, this, action);
-    };
-    onKey(Qt::Key_F5, [this] { Refresh(); });
-    onKey(QKeySequence::Copy, [this] { Copy(); });
-    onKey(QKeySequence::Save, [this] { m_ui->cmdSave->click(); });
-    onKey(Qt::Key_Escape, [this] {
+    OnKey(Qt::Key_F5, [this] { Refresh(); });
+    OnKey(QKeySequence::Copy, [this] { Copy(); });
+    OnKey(QKeySequence::Save, [this] { m_ui->cmdSave->click(); });
+    OnKey(Qt::Key_Escape, [this] {
         if (m_file != nullptr) {
             StopSaving();
         } else {
@@ -123,26 +111,12 @@ void HistoryWindow::ConnectKeys()
 
 void HistoryWindow::Open(const std::optional<HistoryScope>& scope)
 {
-    const bool wasOpen = isVisible();
-    show();
-    BringForward(*this);
-    if (wasOpen && !scope) {
+    if (ShowInFront() && !scope) {
         return;
     }
     m_ui->grdHistory->setFocus();
     m_ui->filter->Start(scope);
     StartOver();
-}
-
-void HistoryWindow::Say(const QString& text)
-{
-    m_ui->notice->Say(text);
-}
-
-void HistoryWindow::Complain(const std::string& line)
-{
-    Say(QString::fromStdString(line));
-    m_host.Log(line);
 }
 
 // What was read before is not what is chosen now, also where that cannot be read.
@@ -163,8 +137,8 @@ void HistoryWindow::Refresh()
 
 void HistoryWindow::Begin()
 {
-    const BusyPointer busy(m_host.Desktop());
-    const auto database = m_host.Database()->Afresh();
+    const BusyPointer busy(Host().Desktop());
+    const auto database = Host().Database()->Afresh();
     const CJetDB::Hold hold(database);
     const auto names = std::make_shared<EmployeeNames>(database);
     names->LearnGone(database);
@@ -232,14 +206,6 @@ void HistoryWindow::ShowEntry()
     m_ui->txtHistoryEntry->setPlainText(chosen ? QString::fromStdString(InOneText(m_rows->Cells(current.row()))) : QString());
 }
 
-bool HistoryWindow::eventFilter(QObject* watched, QEvent* event)
-{
-    if (event->type() == QEvent::Resize) {
-        FitColumns();
-    }
-    return QWidget::eventFilter(watched, event);
-}
-
 // The chosen rows in the order in which they stand, or all that are shown.
 void HistoryWindow::Copy()
 {
@@ -250,21 +216,20 @@ void HistoryWindow::Copy()
             lines.push_back(m_rows->Cells(row));
         }
     }
-    QGuiApplication::clipboard()->setText(QString::fromStdString(TabSeparated(lines)));
-    Say(QString(kCopied).arg(CountOf(std::ssize(lines) - 1)));
+    CopyRows(TabSeparated(lines), lines.size() - 1, kChange);
 }
 
 void HistoryWindow::SaveAs()
 {
-    const auto name = QString::fromStdString(HistoryFileName(m_host.Clock().Today()));
+    const auto name = QString::fromStdString(HistoryFileName(Host().Clock().Today()));
     const auto target = AskWhereToSave(*this, name, SavedForms());
     if (!target) {
         return;
     }
     Say(QString());
     const auto begin = [&] {
-        const auto database = m_host.Database()->Afresh();
-        m_file = std::make_unique<HistoryFile>(target->path, target->form, m_host.Clock().Now(), database, m_query, m_names);
+        const auto database = Host().Database()->Afresh();
+        m_file = std::make_unique<HistoryFile>(target->path, target->form, Host().Clock().Now(), database, m_query, m_names);
         m_saving.start(0);
     };
     Succeeds(begin, [this](const Failure& reason) { Complain(kNotSaved + reason.Description()); });
@@ -310,13 +275,6 @@ void HistoryWindow::ShowSaving()
     } else {
         ShowNews();
     }
-}
-
-void HistoryWindow::closeEvent(QCloseEvent* event)
-{
-    StopSaving();
-    StorePlace(*this, kPlaceName);
-    event->accept();
 }
 
 } // namespace ptk

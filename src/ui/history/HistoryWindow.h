@@ -4,12 +4,11 @@
 #include "office/history/HistoryScope.h"
 #include "office/history/HistoryTable.h"
 #include "store/trail/TrailReader.h"
+#include "ui/page/ReadingWindow.h"
 
 #include <memory>
 #include <optional>
 #include <QTimer>
-#include <QWidget>
-#include <string>
 
 namespace Ui {
 class HistoryWindow;
@@ -20,11 +19,10 @@ namespace ptk {
 class EmployeeNames;
 class HistoryFile;
 class HistoryModel;
-class Workplace;
 
 // Reads the newest changes and more as one scrolls down, never all. Saves all of them while nothing else is to be done, so that the window,
 // and every other one, can be used meanwhile.
-class HistoryWindow final : public QWidget
+class HistoryWindow final : public ReadingWindow
 {
     Q_OBJECT
 
@@ -37,20 +35,12 @@ public:
     // Brings it to the front. Where it was not open it shows everything; with a scope always just that.
     void Open(const std::optional<HistoryScope>& scope);
 
-protected:
-    void closeEvent(QCloseEvent* event) override;
-
-    // The table's room.
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 private:
+    void End() override { StopSaving(); }
     void LayOut();
     void PrepareTable();
     void Connect();
     void ConnectKeys();
-
-    void Say(const QString& text);
-    void Complain(const std::string& line);
     void StartOver();
     void Refresh();
     void Begin();
@@ -65,7 +55,6 @@ private:
     void StopSaving();
     void ShowSaving();
 
-    Workplace& m_host;
     std::unique_ptr<Ui::HistoryWindow> m_ui;
     HistoryModel* m_rows; // belongs to the window
     TrailQuery m_query;   // whose rows are shown

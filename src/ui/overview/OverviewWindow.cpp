@@ -17,15 +17,9 @@
 #include "ui/page/Workplace.h"
 #include "ui/widgets/ButtonRow.h"
 #include "ui/widgets/FoldingRow.h"
-#include "ui/widgets/ThemeIcon.h"
-#include "ui/work/SaveDialog.h"
-#include "ui/work/WindowPlace.h"
 #include "ui_OverviewWindow.h"
 
-#include <QClipboard>
-#include <QCloseEvent>
 #include <QElapsedTimer>
-#include <QGuiApplication>
 #include <QLineEdit>
 #include <QShortcut>
 
@@ -37,9 +31,7 @@ constexpr auto kNoPeriod = "Choose two dates, the second not before the first";
 constexpr auto kNotMoved = "There is no such period";
 constexpr auto kNotRead = "The overview could not be read: ";
 constexpr auto kFindingsOf = "%1: %2";
-constexpr auto kCopied = "Copied: %1 and a heading";
-constexpr auto kLines = "%1 lines";
-constexpr auto kOneLine = "1 line";
+constexpr auto kLine = "line";
 constexpr auto kChangedSince = "Changed since it was read";
 constexpr auto kReadAgain = "Refresh";
 constexpr auto kNotYetRead = "Read the payday overview first (F9)";
@@ -49,20 +41,17 @@ constexpr auto kNobodyBefore = "Nobody before has problems in the payday overvie
 constexpr auto kTakeInTip = "Put them among the rows and into the sums (Alt+K)";
 constexpr auto kNobodyToTakeIn = "Nobody of them is an employee";
 
-constexpr auto kPlaceName = "overview";
 constexpr QSize kFirstSize(960, 660);
-constexpr QSize kSmallestSize(512, 350); // as the main window's
-constexpr qint64 kReadingTime = 30;      // milliseconds without a glance at keys and mouse
+constexpr qint64 kReadingTime = 30; // milliseconds without a glance at keys and mouse
 constexpr int kFindingLines = 3;
 
 } // namespace
 
-OverviewWindow::OverviewWindow(Workplace& host) : m_host(host), m_ui(std::make_unique<Ui::OverviewWindow>())
+OverviewWindow::OverviewWindow(Workplace& host)
+    : ReadingWindow(host, "overview"), m_ui(std::make_unique<Ui::OverviewWindow>())
 {
     m_ui->setupUi(this);
     m_tables = new OverviewTables({*m_ui->grdOverview, *m_ui->grdTotals, *m_ui->grdLeftOut}, this);
-    setMinimumSize(kSmallestSize);
-    setWindowIcon(ThemeIcon("overview"));
     m_buttons = new PaydayButtons(host, {*this, *m_ui->cmdClosePayday, *m_ui->cmdMend, *m_ui->cmdMore, *m_ui->notice, *m_tables});
     LayOut();
     ConnectPeriod();
@@ -71,7 +60,7 @@ OverviewWindow::OverviewWindow(Workplace& host) : m_host(host), m_ui(std::make_u
     m_next.setSingleShot(true);
     connect(&m_next, &QTimer::timeout, this, &OverviewWindow::ReadOn);
     ShowProgress();
-    RestorePlace(*this, kPlaceName, kFirstSize);
+    Furnish(*m_ui->notice, "overview", kFirstSize);
 }
 
 OverviewWindow::~OverviewWindow() = default;
@@ -90,12 +79,12 @@ void OverviewWindow::LayOut()
 
 void OverviewWindow::ConnectPeriod()
 {
-    m_ui->dttbOverviewFrom->SetClock(m_host.Clock());
-    m_ui->dttbOverviewTo->SetClock(m_host.Clock());
+    m_ui->dttbOverviewFrom->SetClock(Host().Clock());
+    m_ui->dttbOverviewTo->SetClock(Host().Clock());
     connect(m_ui->dttbOverviewFrom, &DateCombo::Changed, this, [this] {
         Succeeds([this] {
             if (const auto from = m_ui->dttbOverviewFrom->Date()) {
-                m_ui->dttbOverviewTo->SetDate(PayPeriodFrom(*from, m_host.PeriodLength()).to);
+                m_ui->dttbOverviewTo->SetDate(PayPeriodFrom(*from, Host().PeriodLength()).to);
             }
         });
     });
@@ -113,7 +102,7 @@ void OverviewWindow::ConnectTable()
     connect(m_ui->chkOnlyProblems, &QCheckBox::toggled, m_tables, &OverviewTables::ShowOnlyProblems);
     connect(m_tables, &OverviewTables::ShownRowChanged, this, &OverviewWindow::ShowChoice);
     connect(m_ui->grdOverview, &QTableView::doubleClicked, this, &OverviewWindow::OpenCard);
-    AfterEachLook(m_host, *this, [this] { TellChanges(); });
+    AfterEachLook(Host(), *this, [this] { TellChanges(); });
     connect(m_buttons, &PaydayButtons::ReadAgainWanted, this, &OverviewWindow::Refresh);
     connect(m_ui->cmdTakeIn, &QPushButton::clicked, this, &OverviewWindow::TakeIn);
     connect(m_ui->lstOverviewFindings, &FindingList::Entered, this, &OverviewWindow::OpenCard);
@@ -124,20 +113,17 @@ void OverviewWindow::ConnectTable()
 
 void OverviewWindow::ConnectKeys()
 {
-    const auto onKey = [this](QWidget* where, const QKeySequence& key, Qt::ShortcutContext context, auto action) {
-        connect(new QShortcut(key, where, nullptr, nullptr, context), &QShortcut::activated, this, action);
-    };
-    onKey(this, Qt::Key_F5, Qt::WindowShortcut, [this] { Refresh(); });
-    onKey(this, QKeySequence::Copy, Qt::WindowShortcut, [this] { Copy(); });
-    onKey(this, QKeySequence::Save, Qt::WindowShortcut, [this] { SaveAs(); });
-    onKey(this, Qt::ALT | Qt::Key_Left, Qt::WindowShortcut, [this] { StepPeriod(-1); });
-    onKey(this, Qt::ALT | Qt::Key_Right, Qt::WindowShortcut, [this] { StepPeriod(1); });
-    onKey(this, Qt::Key_F3, Qt::WindowShortcut, [this] { Walk(1); });
-    onKey(this, Qt::SHIFT | Qt::Key_F3, Qt::WindowShortcut, [this] { Walk(-1); });
-    onKey(this, Qt::CTRL | Qt::SHIFT | Qt::Key_A, Qt::WindowShortcut, [this] { m_tables->ChooseNone(); });
-    onKey(this, QKeySequence::Undo, Qt::WindowShortcut, [this] { emit UndoWanted(); });
-    onKey(this, QKeySequence::Redo, Qt::WindowShortcut, [this] { emit RedoWanted(); });
-    onKey(this, Qt::Key_Escape, Qt::WindowShortcut, [this] {
+    OnKey(Qt::Key_F5, [this] { Refresh(); });
+    OnKey(QKeySequence::Copy, [this] { Copy(); });
+    OnKey(QKeySequence::Save, [this] { SaveAs(); });
+    OnKey(Qt::ALT | Qt::Key_Left, [this] { StepPeriod(-1); });
+    OnKey(Qt::ALT | Qt::Key_Right, [this] { StepPeriod(1); });
+    OnKey(Qt::Key_F3, [this] { Walk(1); });
+    OnKey(Qt::SHIFT | Qt::Key_F3, [this] { Walk(-1); });
+    OnKey(Qt::CTRL | Qt::SHIFT | Qt::Key_A, [this] { m_tables->ChooseNone(); });
+    OnKey(QKeySequence::Undo, [this] { emit UndoWanted(); });
+    OnKey(QKeySequence::Redo, [this] { emit RedoWanted(); });
+    OnKey(Qt::Key_Escape, [this] {
         if (m_next.isActive()) {
             Stop();
         } else {
@@ -145,37 +131,30 @@ void OverviewWindow::ConnectKeys()
         }
     });
     for (const Qt::Key enter : {Qt::Key_Return, Qt::Key_Enter}) {
-        onKey(m_ui->grdOverview, enter, Qt::WidgetShortcut, [this] { OpenCard(); });
+        auto* inTable = new QShortcut(enter, m_ui->grdOverview, nullptr, nullptr, Qt::WidgetShortcut);
+        connect(inTable, &QShortcut::activated, this, &OverviewWindow::OpenCard);
     }
 }
 
 void OverviewWindow::Open(const std::optional<PayPeriod>& timecards)
 {
-    const bool wasOpen = isVisible();
-    show();
-    BringForward(*this);
-    if (wasOpen) {
-        LookForChanges(m_host);
+    if (ShowInFront()) {
+        LookForChanges(Host());
         return IsOutdated() ? Refresh() : void();
     }
     m_ui->grdOverview->setFocus();
     m_takesIn = false;
-    const auto begin = [&] { ShowPeriod(FirstPeriod(m_host.Database(), timecards, m_host.Clock().Today(), m_host.PeriodLength())); };
+    const auto begin = [&] { ShowPeriod(FirstPeriod(Host().Database(), timecards, Host().Clock().Today(), Host().PeriodLength())); };
     if (Succeeds(begin)) {
         Refresh();
     }
-}
-
-void OverviewWindow::Say(const QString& text)
-{
-    m_ui->notice->Say(text);
 }
 
 void OverviewWindow::StepPeriod(std::int16_t direction)
 {
     const auto step = [&] {
         const auto from = m_ui->dttbOverviewFrom->Date();
-        const auto next = from ? StepPayPeriod(*from, m_host.PeriodLength(), direction) : std::nullopt;
+        const auto next = from ? StepPayPeriod(*from, Host().PeriodLength(), direction) : std::nullopt;
         if (!next) {
             return false;
         }
@@ -206,9 +185,9 @@ std::optional<PayPeriod> OverviewWindow::Period() const
 void OverviewWindow::Refresh()
 {
     m_next.stop();
-    LookForChanges(m_host);
+    LookForChanges(Host());
     Say(QString());
-    Succeeds([this] { Begin(); }, [this](const Failure& reason) { Complain(reason.Description()); });
+    Succeeds([this] { Begin(); }, [this](const Failure& reason) { TellUnread(reason); });
 }
 
 void OverviewWindow::Begin()
@@ -217,10 +196,10 @@ void OverviewWindow::Begin()
     if (!period) {
         return Say(kNoPeriod);
     }
-    m_asOf = NewestChange(m_host);
-    const auto all = m_host.Employees();
+    m_asOf = NewestChange(Host());
+    const auto all = Host().Employees();
     m_takesIn = m_takesIn && m_reading != nullptr && m_reading->Result().period.from == period->from;
-    m_reading = std::make_shared<OverviewReading>(m_host.Database(), OfferedEmployees(*all), *period, m_host.Clock().Now(), all);
+    m_reading = std::make_shared<OverviewReading>(Host().Database(), OfferedEmployees(*all), *period, Host().Clock().Now(), all);
     m_next.start(0);
     ShowProgress();
 }
@@ -231,7 +210,7 @@ void OverviewWindow::ReadOn()
     QElapsedTimer time;
     time.start();
     const auto read = [&] { m_reading->ReadOn([&] { return time.elapsed() < kReadingTime; }); };
-    if (!Succeeds(read, [this](const Failure& reason) { Complain(reason.Description()); })) {
+    if (!Succeeds(read, [this](const Failure& reason) { TellUnread(reason); })) {
         return Stop();
     }
     m_tables->Show(m_reading);
@@ -249,11 +228,9 @@ void OverviewWindow::Stop()
     ShowProgress();
 }
 
-void OverviewWindow::Complain(const std::string& reason)
+void OverviewWindow::TellUnread(const Failure& reason)
 {
-    const std::string line = kNotRead + reason;
-    Say(QString::fromStdString(line));
-    m_host.Log(line);
+    Complain(kNotRead + reason.Description());
 }
 
 void OverviewWindow::ShowProgress()
@@ -304,7 +281,7 @@ void OverviewWindow::ShowRead()
 // Also while it is being read: who was read before the change may be another by now.
 bool OverviewWindow::IsOutdated() const
 {
-    return m_tables->Shown() != nullptr && NewestChange(m_host) != m_asOf;
+    return m_tables->Shown() != nullptr && NewestChange(Host()) != m_asOf;
 }
 
 void OverviewWindow::TellChanges()
@@ -387,9 +364,7 @@ std::optional<HistoryScope> OverviewWindow::ShownHistory() const
 void OverviewWindow::Copy()
 {
     const auto lines = m_tables->ChosenCells();
-    QGuiApplication::clipboard()->setText(QString::fromStdString(TabSeparated(lines)));
-    const auto count = lines.size() - 1;
-    Say(QString(kCopied).arg(count == 1 ? QString(kOneLine) : QString(kLines).arg(count)));
+    CopyRows(TabSeparated(lines), lines.size() - 1, kLine);
 }
 
 // All that was read, sorted as it was read.
@@ -399,15 +374,8 @@ void OverviewWindow::SaveAs()
         return;
     }
     const auto reading = m_reading; // the dialog lets the window go on
-    const auto name = QString::fromStdString(OverviewFileName(reading->Result().period));
-    const auto target = AskWhereToSave(*this, name, SavedForms());
-    if (!target) {
-        return;
-    }
-    const auto make = [&](ReportForm form) { return OverviewFile(form, reading->Result()); };
-    const SaveOutcome outcome = ptk::SaveAs(target->path, target->form, make);
-    const auto said = QString::fromStdString(outcome.said);
-    outcome.saved ? m_ui->notice->SayFile(said) : Say(said);
+    SaveUnder(OverviewFileName(reading->Result().period), SavedForms(),
+              [&](ReportForm form) { return OverviewFile(form, reading->Result()); });
 }
 
 void OverviewWindow::OpenCard()
@@ -417,21 +385,9 @@ void OverviewWindow::OpenCard()
     }
 }
 
-// As it comes to the front.
-void OverviewWindow::changeEvent(QEvent* event)
+void OverviewWindow::Activated()
 {
-    if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
-        QMetaObject::invokeMethod(
-            this, [this] { LookForChanges(m_host); }, Qt::QueuedConnection);
-    }
-    QWidget::changeEvent(event);
-}
-
-void OverviewWindow::closeEvent(QCloseEvent* event)
-{
-    Stop();
-    StorePlace(*this, kPlaceName);
-    event->accept();
+    LookForChanges(Host());
 }
 
 } // namespace ptk

@@ -3,12 +3,12 @@
 
 #include "model/PayPeriod.h"
 #include "platform/text/DateTime.h"
+#include "ui/page/ReadingWindow.h"
 
 #include <cstdint>
 #include <memory>
 #include <optional>
 #include <QTimer>
-#include <QWidget>
 
 namespace Ui {
 class OverviewWindow;
@@ -16,16 +16,16 @@ class OverviewWindow;
 
 namespace ptk {
 
+class Failure;
 class OverviewReading;
 class OverviewTables;
-class Workplace;
 class PaydayButtons;
 struct HistoryScope;
 struct OverviewRow;
 
 // Reads a few employees whenever there is nothing else to do, so that the window, and every other one, can be used meanwhile. A reading is
 // given up as soon as another begins or the window is closed.
-class OverviewWindow final : public QWidget
+class OverviewWindow final : public ReadingWindow
 {
     Q_OBJECT
 
@@ -52,9 +52,6 @@ public:
     // Where it is open: what was stored otherwise, which it reads.
     void ReadAgain(const QString& news);
 
-    // In its line.
-    void Say(const QString& text);
-
 signals:
     // Of the period that was read.
     void CardWanted(std::int32_t employeeID, const ptk::PayPeriod& period);
@@ -63,11 +60,9 @@ signals:
     void UndoWanted();
     void RedoWanted();
 
-protected:
-    void changeEvent(QEvent* event) override;
-    void closeEvent(QCloseEvent* event) override;
-
 private:
+    void Activated() override;
+    void End() override { Stop(); }
     void LayOut();
     void ConnectPeriod();
     void ConnectTable();
@@ -83,7 +78,7 @@ private:
     void Begin();
     void ReadOn();
     void Stop();
-    void Complain(const std::string& reason);
+    void TellUnread(const Failure& reason);
     void ShowProgress();
     void ShowRead();
     void ShowLeftOut();
@@ -99,7 +94,6 @@ private:
     void SaveAs();
     void OpenCard();
 
-    Workplace& m_host;
     std::unique_ptr<Ui::OverviewWindow> m_ui;
     OverviewTables* m_tables; // these two belong to the window
     PaydayButtons* m_buttons;

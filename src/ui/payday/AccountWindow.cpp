@@ -13,15 +13,10 @@
 #include "ui/payday/AccountModel.h"
 #include "ui/widgets/ButtonRow.h"
 #include "ui/widgets/FixedRows.h"
-#include "ui/widgets/ThemeIcon.h"
-#include "ui/work/SaveDialog.h"
-#include "ui/work/WindowPlace.h"
 #include "ui/work/WorkProgress.h"
 #include "ui_AccountWindow.h"
 
 #include <algorithm>
-#include <QCloseEvent>
-#include <QShortcut>
 
 namespace ptk {
 
@@ -38,10 +33,8 @@ constexpr auto kAgain = "Refresh";
 constexpr auto kSave = "Save the account as pages, a table, data or text (Ctrl+S)";
 constexpr auto kNothing = "Nothing has been read that could be saved";
 
-constexpr auto kPlace = "account";
 constexpr QSize kUsualSize(900, 560);
-constexpr QSize kLeastSize(512, 350); // as the main window's
-constexpr int kRoomOfRow = 8;         // pixels around the text of a row
+constexpr int kRoomOfRow = 8; // pixels around the text of a row
 constexpr int kRoomOfCell = 20;
 constexpr int kLeastName = 18; // characters
 constexpr int kLines = 5;      // of the chosen person
@@ -56,15 +49,14 @@ QString Day(DateTime day)
 
 } // namespace
 
-AccountWindow::AccountWindow(Workplace& host) : m_host(host), m_ui(std::make_unique<Ui::AccountWindow>()), m_rows(new AccountModel(this))
+AccountWindow::AccountWindow(Workplace& host)
+    : ReadingWindow(host, "account"), m_ui(std::make_unique<Ui::AccountWindow>()), m_rows(new AccountModel(this))
 {
     m_ui->setupUi(this);
-    setMinimumSize(kLeastSize);
-    setWindowIcon(ThemeIcon("overview"));
     LayOut();
     PrepareTable();
     Connect();
-    RestorePlace(*this, kPlace, kUsualSize);
+    Furnish(*m_ui->notice, "overview", kUsualSize);
 }
 
 AccountWindow::~AccountWindow() = default;
@@ -83,28 +75,24 @@ void AccountWindow::PrepareTable()
     table->setModel(m_rows);
     m_ui->grdAccount->SetHint(kNobody);
     FixRows(*table, kRoomOfRow);
-    table->viewport()->installEventFilter(this);
+    OnRoom(*table, [this] { FitColumns(); });
 }
 
 void AccountWindow::Connect()
 {
-    const auto onKey = [this](const QKeySequence& key, auto action) {
-        connect(new QShortcut(key, this), &QShortcut::activated, this, action);
-    };
-    onKey(Qt::Key_F5, [this] { Refresh(); });
-    onKey(QKeySequence::Save, [this] { m_ui->cmdSave->click(); });
-    onKey(Qt::Key_Escape, [this] { close(); });
+    OnKey(Qt::Key_F5, [this] { Refresh(); });
+    OnKey(QKeySequence::Save, [this] { m_ui->cmdSave->click(); });
+    OnKey(Qt::Key_Escape, [this] { close(); });
     connect(m_ui->grdAccount->selectionModel(), &QItemSelectionModel::selectionChanged, this, &AccountWindow::ShowPerson);
     connect(m_ui->cmdRefresh, &QPushButton::clicked, this, &AccountWindow::Refresh);
     connect(m_ui->cmdSave, &QPushButton::clicked, this, &AccountWindow::SaveAs);
     connect(m_ui->cmdClose, &QPushButton::clicked, this, &QWidget::close);
-    AfterEachLook(m_host, *this, [this] { TellChanges(); });
+    AfterEachLook(Host(), *this, [this] { TellChanges(); });
 }
 
 void AccountWindow::Open(const PayPeriod& period)
 {
-    show();
-    BringForward(*this);
+    ShowInFront();
     m_ui->grdAccount->setFocus();
     m_period = period;
     Refresh();
@@ -113,7 +101,7 @@ void AccountWindow::Open(const PayPeriod& period)
 // What was read before is not kept where it is of other days.
 void AccountWindow::Refresh()
 {
-    LookForChanges(m_host);
+    LookForChanges(Host());
     m_ui->notice->Clear();
     std::string refusal;
     if (!Read(refusal) && m_account != nullptr && (m_account->period.from != m_period.from || m_account->period.to != m_period.to)) {
@@ -121,27 +109,27 @@ void AccountWindow::Refresh()
     }
     Show();
     if (!refusal.empty()) {
-        m_ui->notice->Say(QString::fromStdString(refusal));
+        Say(QString::fromStdString(refusal));
     }
 }
 
 bool AccountWindow::Read(std::string& refusal)
 {
-    m_asOf = NewestChange(m_host);
+    m_asOf = NewestChange(Host());
     WorkProgress progress(this, {kTitle, kReading});
     progress.setWindowModality(Qt::ApplicationModal);
     const auto read = [&] {
-        const BusyPointer busy(m_host.Desktop());
-        const auto database = m_host.Database();
+        const BusyPointer busy(Host().Desktop());
+        const auto database = Host().Database();
         m_account = std::make_shared<const PaydayAccount>(
-            ReadPaydayAccount(database, m_period, m_host.Clock().Now(), [&](std::size_t done, std::size_t all) {
+            ReadPaydayAccount(database, m_period, Host().Clock().Now(), [&](std::size_t done, std::size_t all) {
                 return progress.GoOn(static_cast<std::int32_t>(done), static_cast<std::int32_t>(all));
             }));
     };
     return Succeeds(read, [&](const Failure& reason) {
         refusal = progress.IsCancelled() ? kEnded : kUnread + reason.Description();
         if (!progress.IsCancelled()) {
-            m_host.Log(refusal);
+            Host().Log(refusal);
         }
     });
 }
@@ -207,44 +195,19 @@ std::optional<HistoryScope> AccountWindow::ShownHistory() const
 void AccountWindow::SaveAs()
 {
     const auto account = m_account; // the dialog lets the window go on
-    const auto target = AskWhereToSave(*this, QString::fromStdString(AccountFileName(account->period)), AllForms());
-    if (!target) {
-        return;
-    }
-    const SaveOutcome outcome = ptk::SaveAs(target->path, target->form, [&](ReportForm form) { return AccountFile(form, *account); });
-    const auto said = QString::fromStdString(outcome.said);
-    outcome.saved ? m_ui->notice->SayFile(said) : m_ui->notice->Say(said);
+    SaveUnder(AccountFileName(account->period), AllForms(), [&](ReportForm form) { return AccountFile(form, *account); });
 }
 
 void AccountWindow::TellChanges()
 {
-    if (isVisible() && m_account != nullptr && NewestChange(m_host) != m_asOf && !m_ui->notice->IsOffering()) {
+    if (isVisible() && m_account != nullptr && NewestChange(Host()) != m_asOf && !m_ui->notice->IsOffering()) {
         m_ui->notice->Offer(kChanged, kAgain, [this] { Refresh(); });
     }
 }
 
-bool AccountWindow::eventFilter(QObject* watched, QEvent* event)
+void AccountWindow::Activated()
 {
-    if (event->type() == QEvent::Resize) {
-        FitColumns();
-    }
-    return QWidget::eventFilter(watched, event);
-}
-
-// As it comes to the front.
-void AccountWindow::changeEvent(QEvent* event)
-{
-    if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
-        QMetaObject::invokeMethod(
-            this, [this] { LookForChanges(m_host); }, Qt::QueuedConnection);
-    }
-    QWidget::changeEvent(event);
-}
-
-void AccountWindow::closeEvent(QCloseEvent* event)
-{
-    StorePlace(*this, kPlace);
-    event->accept();
+    LookForChanges(Host());
 }
 
 } // namespace ptk

@@ -3,11 +3,11 @@
 
 #include "model/PayPeriod.h"
 #include "office/payday/PaydayAccount.h"
+#include "ui/page/ReadingWindow.h"
 
 #include <cstdint>
 #include <memory>
 #include <optional>
-#include <QWidget>
 #include <string>
 
 namespace Ui {
@@ -17,10 +17,9 @@ class AccountWindow;
 namespace ptk {
 
 class AccountModel;
-class Workplace;
 struct HistoryScope;
 
-class AccountWindow final : public QWidget
+class AccountWindow final : public ReadingWindow
 {
     Q_OBJECT
 
@@ -36,12 +35,8 @@ public:
     // Of the chosen person; nothing without one, and of nobody who is known.
     [[nodiscard]] std::optional<HistoryScope> ShownHistory() const;
 
-protected:
-    void changeEvent(QEvent* event) override;
-    void closeEvent(QCloseEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 private:
+    void Activated() override;
     void LayOut();
     void PrepareTable();
     void Connect();
@@ -54,7 +49,6 @@ private:
     void SaveAs();
     void TellChanges();
 
-    Workplace& m_host;
     std::unique_ptr<Ui::AccountWindow> m_ui;
     AccountModel* m_rows; // belongs to the window
     PayPeriod m_period;
