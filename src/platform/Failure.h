@@ -1,4 +1,4 @@
-// The one exception of the program: what the platform raises and what every public routine above it turns into a false result and a code.
+// The one exception of the program: the platform raises it, and every public routine above turns it into a false result and a number.
 #pragma once
 
 #include <cstdint>
@@ -8,7 +8,7 @@
 namespace ptk {
 
 // The platform's failure numbers, as the error log and the message boxes show them. Failures of the database engine carry the engine's own
-// result codes instead (5 is then "busy", not "invalid procedure call"); their source tells them apart.
+// result codes instead (5 is then "busy", not "invalid procedure call"); the source tells the two apart.
 namespace failure {
 inline constexpr std::int32_t InvalidProcedureCall = 5;
 inline constexpr std::int32_t Overflow = 6;
@@ -34,7 +34,7 @@ inline constexpr std::int32_t NoCurrentRecord = 3021;
 class Failure : public std::exception
 {
 public:
-    // A platform failure: source "PTK", the number's standard description.
+    // A failure of the platform: its source is "PTK", its description the standard one of the number.
     explicit Failure(std::int32_t number);
     Failure(std::int32_t number, std::string source, std::string description, std::int32_t lastSystemError = 0);
 
@@ -56,8 +56,8 @@ private:
     std::int32_t m_lastSystemError = 0;
 };
 
-// What is being handled right now, for a catch (...) block: any Failure as it is, bad_alloc as 7, any other exception as 5 with its own
-// text. Outside a handler: number 0 and empty texts.
+// The exception that the catch block around the call handles, as a Failure: a Failure as it is, bad_alloc as 7, any other as 5, with its
+// own text if it is a std::exception. Outside a catch block: number 0 and empty texts.
 [[nodiscard]] Failure CurrentFailure();
 
 } // namespace ptk

@@ -5,7 +5,7 @@
 
 namespace ptk {
 
-// False ends the work. Whoever asks says how often.
+// Answers whether the work is to go on; false ends it. The one that takes such a function says how often it calls it.
 using GoesOn = std::function<bool()>;
 
 } // namespace ptk

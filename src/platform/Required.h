@@ -1,4 +1,4 @@
-// For references that a step cannot do without.
+// Checks a reference that a step cannot do without.
 #pragma once
 
 #include "platform/Failure.h"
@@ -8,7 +8,7 @@
 
 namespace ptk {
 
-// The reference itself; raises Failure 91 when it is empty.
+// Answers the reference; raises Failure 91 when it is empty.
 template <typename Object>
 std::shared_ptr<Object> Required(std::shared_ptr<Object> object)
 {

@@ -1,4 +1,4 @@
-// The one edge between what is raised below and what is answered above: every failure becomes false, and a number or a reason.
+// The one place where raised failures become answers: every failure turns into false, and a number or a reason.
 #pragma once
 
 #include "platform/Failure.h"
@@ -8,8 +8,8 @@
 
 namespace ptk {
 
-// The answer of a step (true for one that answers nothing); false when it raised anything, which is handed to `told` first. `told` itself
-// should raise nothing: nothing holds that back.
+// Runs the step and answers what it answers (true if it answers nothing). When it raises anything, `told` gets the failure and the answer
+// is false. `told` itself should raise nothing: nothing catches that.
 template <typename Step, typename Told>
 bool Succeeds(Step step, Told told)
 {
@@ -26,14 +26,15 @@ bool Succeeds(Step step, Told told)
     }
 }
 
-// For event handlers and others, whose users are told of the false itself.
+// Runs the step and answers false when it raised anything; the failure is lost. For callers such as event handlers, which tell the user of
+// the false.
 template <typename Step>
 bool Succeeds(Step step)
 {
     return Succeeds(step, [](const Failure&) {});
 }
 
-// Leaves `number` in `errorNumber` when the step raised anything.
+// Runs the step; when it raises anything, leaves `number` in `errorNumber` and answers false.
 template <typename Step>
 bool SucceedsOr(std::int32_t number, std::int32_t& errorNumber, Step step)
 {

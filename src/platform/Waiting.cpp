@@ -20,7 +20,7 @@ WaitTurn& PresentTurn()
 thread_local bool isTurn = false;
 thread_local SteadyClock::time_point lastTurn;
 
-// Nothing where the system has no thread to spare.
+// Starts the work on a thread of its own; nothing where the system has no thread to spare.
 std::optional<std::future<void>> Started(const std::function<void()>& work)
 {
     try {
@@ -60,7 +60,7 @@ bool waiting::Turn()
         ~InTurn() { isTurn = false; }
     };
     const InTurn inTurn;
-    const WaitTurn turn = PresentTurn(); // which may end with what it does
+    const WaitTurn turn = PresentTurn(); // a copy: what the turn does may replace the present one
     const bool goesOn = turn();
     CameRound();
     return goesOn;

@@ -1,4 +1,4 @@
-// What happens while a disk, a server or another program has to be waited for. This layer knows no windows: they hand in what is to be
+// What the program does while it waits for a disk, a server or another program. This layer knows no windows: they hand in what is to be
 // done.
 #pragma once
 
@@ -7,15 +7,16 @@
 
 namespace ptk {
 
-// Done at least every 50 ms of a wait, on the thread that waits; false gives the wait up, which raises 9. It must not come back to the
-// database: what it asks there is refused with 5.
+// What is done at least every 50 ms of a wait, on the thread that waits. False gives the wait up, and the operation raises 9. It must not
+// use the database: what it asks there is refused with 5.
 using WaitTurn = std::function<bool()>;
 
-// Of the thread that asks, which is that of the windows, to be set before the first database is opened. Without it nothing is done
-// meanwhile, and other threads wait by themselves.
+// Sets the turn of the calling thread. The thread of the windows calls it before the first database is opened. A thread without a turn does
+// nothing while it waits.
 void WhileWaiting(WaitTurn turn);
 
-// While one lives, its turn takes the place of the one before: that of a work which shows how far it is and can be ended.
+// While an object of this class lives, its turn takes the place of the thread's turn: for a work that shows its progress and can be
+// cancelled.
 class WaitingAs
 {
 public:
@@ -32,24 +33,24 @@ namespace waiting {
 
 inline constexpr std::chrono::milliseconds kSlice(25); // so that a slice and a short step between two of them stay below 50
 
-// False where the wait is to be given up.
+// Takes a turn of this thread, if it has one. False where the wait is to be given up.
 [[nodiscard]] bool Turn();
 
-// Whether a turn is being done right now.
+// Whether this thread is inside a turn right now.
 [[nodiscard]] bool IsTurn();
 
-// The event loop has come round by itself: the next turn of this thread is due a slice from now.
+// Says that the event loop has come round by itself: the next turn of this thread is due a slice from now.
 void CameRound();
 
-// When a turn of this thread falls due; in the past where there was none yet.
+// When the next turn of this thread falls due; a moment in the past where there was no turn yet.
 [[nodiscard]] std::chrono::steady_clock::time_point NextTurn();
 
-// To be asked again and again in a wait, and between the steps of work that may be slow: takes the turn that is due. False where it is to
-// be given up.
+// Takes the turn that is due, if one is. To be called again and again in a wait, and between the steps of work that may be slow. False
+// where it is to be given up.
 [[nodiscard]] bool GoOn();
 
-// Done when it returns, on a thread of its own while this one takes its turns where it has any; never given up. Raises what the work
-// raises.
+// Runs `work` to its end, on a thread of its own while this thread takes its turns; on this thread where it has no turn or no other thread
+// can be started. The work is never given up. Raises what the work raises.
 void Behind(const std::function<void()>& work);
 
 } // namespace waiting

@@ -14,7 +14,7 @@ constexpr std::size_t kMost = 16;
 constexpr std::size_t kLongestPath = 4096; // bytes
 constexpr const char* kBeside[] = {"", "-journal", "-wal", "-shm"};
 
-// Of texts that the files' owners keep: a handler may neither allocate nor wait for a lock.
+// The paths, as texts that the files' owners keep: a signal handler may neither allocate nor wait for a lock.
 std::array<std::atomic<const char*>, kMost> mortalFiles;
 
 void RemoveWithBeside(const char* path)
@@ -31,7 +31,7 @@ void RemoveWithBeside(const char* path)
     }
 }
 
-// The signal comes again, now as the end that its sender meant, once this returns.
+// Handles a signal: removes the files, then lets the signal come again, which now ends the process as its sender meant.
 void EndWithoutThem(int signal)
 {
     RemoveMortalFiles();
@@ -72,7 +72,7 @@ void RemoveMortalFilesOnSignals()
         struct sigaction present
         {
         };
-        if (::sigaction(signal, nullptr, &present) == 0 && present.sa_handler == SIG_DFL) { // nohup and the like stay as they are
+        if (::sigaction(signal, nullptr, &present) == 0 && present.sa_handler == SIG_DFL) { // one ignored by nohup stays ignored
             std::signal(signal, EndWithoutThem);
         }
     }

@@ -1,12 +1,12 @@
-// Files in the making that go with a process which a signal ends, before their owners could take them away.
+// Removes unfinished files when a signal ends the process before their owners could remove them.
 #pragma once
 
 #include <string>
 
 namespace ptk {
 
-// While it lives, such an end removes the file, and what an engine keeps beside it. `path` outlives it, unchanged. Of the first sixteen at
-// one time; further ones are left for the next program that makes a file there.
+// While it lives, a signal that ends the process also removes the file `path` and what an engine keeps beside it. `path` must outlive it,
+// unchanged. This holds for sixteen files at a time; any others are left for the next program that makes a file there.
 class MortalFile
 {
 public:
@@ -19,10 +19,10 @@ private:
     std::size_t m_place;
 };
 
-// May be called from a signal's handler.
+// Removes the files of all MortalFile objects that live. A signal handler may call it.
 void RemoveMortalFiles() noexcept;
 
-// From here on SIGTERM, SIGHUP and SIGINT, where they would end the process, remove these files first.
+// Lets SIGTERM, SIGHUP and SIGINT remove these files before they end the process; a signal that the process ignores or handles stays so.
 void RemoveMortalFilesOnSignals();
 
 } // namespace ptk

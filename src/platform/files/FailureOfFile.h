@@ -1,4 +1,4 @@
-// Failures that name the file which they are about.
+// Failures that name the file they are about.
 #pragma once
 
 #include "platform/Failure.h"

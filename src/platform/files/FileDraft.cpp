@@ -29,13 +29,13 @@ path FolderOf(const path& target)
     return target.has_parent_path() ? target.parent_path() : path(".");
 }
 
-// Hidden, so that nobody takes a draft for a report.
+// The name is hidden, so that nobody takes a draft for a report.
 std::string DraftStart(const path& target)
 {
     return "." + target.filename().string() + ".";
 }
 
-// Opened before anything is made in it: what cannot be flushed there shall not appear there.
+// Opens the folder before anything is made in it: where the folder cannot be flushed, no file shall appear.
 SystemFile OpenFolder(const path& folder)
 {
     SystemFile file(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
@@ -45,7 +45,7 @@ SystemFile OpenFolder(const path& folder)
     return file;
 }
 
-// After the last step.
+// Flushes the folder after the file has its name; the failure says that the file is done.
 void FlushFolder(SystemFile& folder)
 {
     int error = 0;
@@ -56,7 +56,7 @@ void FlushFolder(SystemFile& folder)
     }
 }
 
-// A file that may not be written is not replaced either, although its folder would allow it.
+// Refuses a target that may not be written, although its folder would allow to replace it.
 void RequireReplaceable(const std::string& target)
 {
     struct stat status
@@ -71,8 +71,8 @@ void RequireReplaceable(const std::string& target)
     }
 }
 
-// A lock on the first byte, which no database engine locks, lasts as long as the process that works on the draft. False when another holds
-// it. Where the file system knows no such locks, nobody ever holds one.
+// Locks the first byte, which no database engine locks, for as long as the process works on the draft. False when another process holds the
+// lock, or where the file system knows no such locks: there nobody ever holds one.
 bool Lock(const SystemFile& file)
 {
     struct flock first
@@ -84,7 +84,7 @@ bool Lock(const SystemFile& file)
     return ::fcntl(file.Descriptor(), F_OFD_SETLK, &first) == 0;
 }
 
-// A draft that is no more, or that nobody holds.
+// Whether the draft is gone already or no process holds it.
 bool IsAbandoned(const path& draft)
 {
     const SystemFile file(::open(draft.c_str(), O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
@@ -97,7 +97,8 @@ bool IsAbandoned(const path& draft)
     return ::fstat(file.Descriptor(), &status) == 0 && S_ISREG(status.st_mode) && Lock(file);
 }
 
-// The draft that a file is, or lies beside: further endings stand for what an engine keeps there, such as its journal. Empty for others.
+// The name of the draft that a file is or belongs to: endings behind it stand for what an engine keeps there, such as its journal. Empty
+// for other files.
 std::string_view DraftOf(std::string_view name)
 {
     const std::size_t ending = name.rfind(kEnding);
@@ -106,7 +107,7 @@ std::string_view DraftOf(std::string_view name)
     return isDraft ? name.substr(0, ending + kEnding.size()) : std::string_view();
 }
 
-// Of a draft's name.
+// The target's name, taken from a draft's name.
 std::string_view TargetOf(std::string_view draft)
 {
     return draft.substr(1, draft.size() - 2 - kRandom.size() - kEnding.size());
@@ -178,7 +179,7 @@ void FileDraft::Create()
     static_cast<void>(::fchmod(m_file.Descriptor(), kOwnerOnly)); // an odd umask can only have taken rights of the owner
 }
 
-// False when another program took the new draft for an abandoned one, between its making and its lock.
+// Locks the new draft. False when another program took it for an abandoned one before it was locked.
 bool FileDraft::Hold()
 {
     struct stat status
@@ -201,7 +202,8 @@ void FileDraft::Replace()
     FlushFolder(m_folder);
 }
 
-// Whoever owns the folder may read what is in it; anybody else could have laid the file there to read what replaces it.
+// Gives the draft the owner, group and mode of the file that it replaces, if this user or the folder's owner owns that file: anybody else
+// could have put it there to read what replaces it.
 void FileDraft::HandDownMode()
 {
     struct stat old
@@ -242,7 +244,7 @@ bool FileDraft::PlaceAs(const std::string& target)
     return true;
 }
 
-// Network file systems know only the way by a second name.
+// Gives the draft the target's name if it is free. Network file systems cannot rename so: there it gets a second name and loses the first.
 bool FileDraft::RenameToFree() const
 {
     if (::renameat2(AT_FDCWD, m_path.c_str(), AT_FDCWD, m_target.c_str(), RENAME_NOREPLACE) == 0) {
@@ -258,7 +260,8 @@ Failure FileDraft::AlreadyThere(const std::string& target)
 
 namespace {
 
-// A link stays one. Some lead to no file at all, such as what a program writes to a pipe.
+// The path that a link leads to, so that the link stays. Some links lead to no file at all, such as a program's standard output that is a
+// pipe.
 std::string BehindLinks(const std::string& path)
 {
     std::error_code error;

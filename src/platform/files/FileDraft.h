@@ -1,4 +1,4 @@
-// Files that appear whole or not at all: written aside under a name of their own, flushed, and only then put in place.
+// Files that appear whole or not at all: they are written under another name beside the target, flushed, and only then put in its place.
 #pragma once
 
 #include "platform/Failure.h"
@@ -12,14 +12,14 @@
 
 namespace ptk {
 
-// An empty file beside the target, for its owner only, that anybody may fill under Path(). It is gone again with its owner unless one of
-// the two endings gave it the target's name. Paths are in the platform's own form.
+// An empty file beside the target, readable by its owner only, that anybody may fill under Path(). The destructor removes it unless
+// Replace, PlaceNew or PlaceAs gave it its final name. Paths are in the platform's own form.
 class FileDraft
 {
 public:
-    // Also removes the drafts of this target that killed programs left, with what an engine kept beside them; those that a living program
-    // works on stay, and one that a signal ends takes its own along (DraftsAtEnd). Raises 75 when the target is, or is a link to, something
-    // else than a regular file, 70 when it or the folder may not be written, 76 without the folder, 61, 57.
+    // Makes the draft. First it removes the drafts of this target that killed programs left, with what an engine kept beside them; drafts
+    // that a living program works on stay. A signal that ends this program removes its own (DraftsAtEnd). Raises 75 when the target is, or
+    // is a link to, something else than a regular file, 70 when it or the folder may not be written, 76 without the folder, 61, 57.
     explicit FileDraft(std::string target);
     ~FileDraft();
     FileDraft(const FileDraft&) = delete;
@@ -30,20 +30,21 @@ public:
     // The draft itself, open for writing.
     SystemFile& File() { return m_file; }
 
-    // Puts the draft in the place of whatever the target is by now: of a link itself, not of what it leads to. A file that is replaced
-    // hands down its mode, unless it is a stranger's or has another name elsewhere. Raises 61, 57, 70; the target is then what it was,
-    // except when only the last step failed, which makes sure that the folder, too, is on the disk: the failure says then that all is done.
+    // Gives the draft the target's name, in place of whatever has that name by now: a link itself is replaced, not what it leads to. A
+    // regular file hands down its owner, group and mode, unless neither this user nor the folder's owner owns it, or it has a second name
+    // (hard link). Raises 61, 57, 70; the target is then what it was, except when only the last step failed, which makes sure that the
+    // folder, too, is on the disk: the failure then says that the file is done.
     void Replace();
 
     // Gives the draft the target's name only where nothing has it. Raises AlreadyThere and what Replace raises; there is then no new file,
-    // except where Replace had been done, too.
+    // except when only the last step failed, as for Replace.
     void PlaceNew();
 
-    // Gives the draft another name in the target's folder; false, and still a draft, where something has that name. Raises what PlaceNew
-    // raises, save AlreadyThere.
+    // Gives the draft another name in the target's folder. False where something has that name; it is then still a draft. Raises what
+    // PlaceNew raises, except AlreadyThere.
     [[nodiscard]] bool PlaceAs(const std::string& target);
 
-    // 75, with the name.
+    // The failure 75 that names the target.
     [[nodiscard]] static Failure AlreadyThere(const std::string& target);
 
 private:
@@ -60,15 +61,15 @@ private:
     bool m_placed = false;
 };
 
-// Told a draft's target, without its folder, and the draft's path.
+// Whether a draft may be removed, by its target's name without the folder and by the draft's path.
 using IsOurDraft = std::function<bool(const std::string& target, const std::string& draft)>;
 
-// Of all targets in the folder, those drafts that killed programs left and that are told to be ours, with what an engine kept beside them.
-// Raises nothing of its own: what cannot be removed stays for the next.
+// Removes the drafts in the folder that killed programs left, of any target, for which `isOurs` answers true, with what an engine kept
+// beside them. Raises nothing of its own: what cannot be removed stays for the next call.
 void RemoveAbandonedDrafts(const std::string& folder, const IsOurDraft& isOurs);
 
-// Makes these bytes the whole content of the file by way of a draft; a file that holds just them is not touched. A link stays one, and what
-// it leads to gets the bytes. False where nothing had to be written. Raises what a draft raises.
+// Makes these bytes the whole content of the file by way of a draft. A file that holds just them is not touched: the answer is false. A
+// link stays a link, and what it leads to gets the bytes. Raises what a draft raises.
 bool PutFile(const std::string& path, std::string_view bytes);
 
 } // namespace ptk

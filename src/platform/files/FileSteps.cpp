@@ -25,7 +25,7 @@ void CopyBytes(const std::string& from, FileDraft& to)
     std::string buffer(kPortion, '\0');
     while (const std::size_t size = file.Read(buffer.data(), buffer.size())) {
         to.File().Write(std::string_view(buffer).substr(0, size));
-        static_cast<void>(waiting::GoOn()); // whoever has the bytes copied cannot end it
+        static_cast<void>(waiting::GoOn()); // only lets the turn be taken: a copy is not given up
     }
 }
 

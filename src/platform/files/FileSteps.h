@@ -7,13 +7,13 @@ namespace ptk {
 
 class FileDraft;
 
-// Also a link that leads nowhere; false for what cannot be told.
+// Whether something has this name, a link that leads nowhere included; false where the system does not tell.
 [[nodiscard]] bool IsThere(const std::string& path);
 
-// The bytes of a regular file into an empty draft. Raises what opening, reading and writing files raises.
+// Copies the bytes of a regular file into an empty draft. Raises what opening, reading and writing files raises.
 void CopyBytes(const std::string& from, FileDraft& to);
 
-// For its owner only; nothing where it is there. Raises 76 without its parent, 70, 61, 57.
+// Makes the folder, for its owner only; does nothing where the name is taken already. Raises 76 without its parent, 70, 61, 57.
 void MakeOwnFolder(const std::string& folder);
 
 } // namespace ptk

@@ -1,4 +1,4 @@
-// What stands in a folder. The standard library's own walk through one ends the program where memory runs out.
+// Lists the files of a folder. The standard library's own directory iterator ends the program where memory runs out.
 #pragma once
 
 #include <string>
@@ -6,7 +6,7 @@
 
 namespace ptk {
 
-// The names in it, in no order; none where there is no such folder. Raises 70 and the like of one that cannot be read.
+// The names in the folder, in no order; none where there is no such folder. Raises 70 and the like where it cannot be read.
 [[nodiscard]] std::vector<std::string> NamesIn(const std::string& folder);
 
 } // namespace ptk

@@ -34,7 +34,7 @@ OpenFile& At(std::int32_t number)
     return *files[static_cast<std::size_t>(number)];
 }
 
-// Each written text goes to what is the end at that moment, so that two programs with the same file open lose nothing of each other's.
+// The flags of open(2). Each text goes to what is the end at that moment, so that two programs that write to the same file lose nothing.
 int Flags(Mode mode)
 {
     switch (mode) {
@@ -47,7 +47,7 @@ int Flags(Mode mode)
     }
 }
 
-// One more character to look at without taking it; false at the end of the file.
+// Puts the next character in `next` without taking it; false at the end of the file.
 bool Peek(OpenFile& file, char& next)
 {
     if (file.at == file.buffer.size() && !file.ended) {
@@ -78,7 +78,7 @@ void SkipBlanks(OpenFile& file)
     }
 }
 
-// The comma or the line end after an item.
+// Skips the comma or the line end behind an item.
 void SkipDelimiter(OpenFile& file)
 {
     char c = '\0';
@@ -103,7 +103,7 @@ std::string TakePlain(OpenFile& file)
     return item;
 }
 
-// What stands between the closing quote and the delimiter belongs to no item and is passed over.
+// Takes an item in quotes. Text between the closing quote and the delimiter belongs to no item and is skipped.
 std::string TakeQuoted(OpenFile& file)
 {
     std::string item;

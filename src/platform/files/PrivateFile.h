@@ -1,4 +1,4 @@
-// A file that nobody but its owner may read, for as long as its object lives.
+// A file that only its owner may read, for as long as its object lives.
 #pragma once
 
 #include <string>
@@ -6,18 +6,18 @@
 
 namespace ptk {
 
-// In a folder of its own among the system's temporary files, both for the owner only. Both are gone with the object; whoever has the file
-// open by then keeps it.
+// A file in a new folder among the system's temporary files, both for the owner only. The destructor removes both; a program that has the
+// file open by then can still read it.
 class PrivateFile
 {
 public:
-    // `name`: without a folder; programs show it. Raises 61, 57, 70, 76; nothing is left then.
+    // `name` has no folder; programs show it. Raises 61, 57, 70, 76; nothing is left then.
     PrivateFile(const std::string& name, std::string_view bytes);
     ~PrivateFile();
     PrivateFile(const PrivateFile&) = delete;
     PrivateFile& operator=(const PrivateFile&) = delete;
 
-    // In the platform's own form.
+    // The file's path, in the platform's own form.
     [[nodiscard]] const std::string& Path() const { return m_path; }
 
 private:

@@ -47,7 +47,7 @@ fs::path Home()
     return user == nullptr ? "/" : user->pw_dir;
 }
 
-// A relative path in such a variable counts for nothing, by the rules of the desktops.
+// The program's folder below the one that the variable names. A relative path in the variable is ignored, by the rules of the desktops.
 fs::path UsersFolder(const char* variable, const char* belowHome)
 {
     const fs::path folder = Variable(variable);
@@ -90,7 +90,7 @@ std::string UserFolder()
 
 void RememberProgramFolder(const std::string& folder)
 {
-    std::error_code ignored; // the writing tells it
+    std::error_code ignored; // the write below fails then and tells why
     fs::create_directories(RememberedFile().parent_path(), ignored);
     PutFile(RememberedFile().string(), folder + '\n');
 }

@@ -1,4 +1,4 @@
-// That only one program at a time works on a folder.
+// Lets only one program at a time work on a folder.
 #pragma once
 
 #include "platform/files/SystemFile.h"
@@ -7,15 +7,15 @@
 
 namespace ptk {
 
-// A lock on the folder itself, which nothing remains of however the process ends. A folder that cannot be locked (it is not there, or its
-// file system knows no such locks) is taken by nobody.
+// A lock on the folder itself; nothing of it remains however the process ends. A folder that cannot be locked (it is not there, or its file
+// system knows no such locks) counts as taken by nobody.
 class SoleUse
 {
 public:
-    // In the platform's own form. Never waits.
+    // Tries to lock the folder, a path in the platform's own form; never waits.
     explicit SoleUse(const std::string& folder);
 
-    // Whether another program, or another one of these, has it.
+    // Whether another program, or another object of this class, has the folder.
     [[nodiscard]] bool TakenElsewhere() const { return m_takenElsewhere; }
 
 private:

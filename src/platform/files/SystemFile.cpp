@@ -13,7 +13,7 @@ namespace ptk {
 
 namespace {
 
-// Without O_NONBLOCK a pipe that nobody reads would hold the program until somebody does.
+// Flags of every open: without O_NONBLOCK a pipe that nobody reads would hold the program until somebody does.
 constexpr int kAlways = O_NONBLOCK | O_CLOEXEC;
 
 int OpenOrCreate(const std::filesystem::path& path, int flags)
@@ -29,7 +29,7 @@ int OpenOrCreate(const std::filesystem::path& path, int flags)
     return made;
 }
 
-// A missing folder is told from a missing file by looking at what the path stands in.
+// The failure of an open. Where the path's folder is missing, it says so instead of a missing file.
 Failure OpenFailure(int error, const std::filesystem::path& path)
 {
     std::error_code ignored;
@@ -94,7 +94,7 @@ void SystemFile::Flush()
 
 void SystemFile::Close()
 {
-    // The system gives the descriptor up also where it reports a failure, so a second try could close a stranger's file.
+    // The system gives up the descriptor also where it reports a failure, so a second try could close somebody else's file.
     if (::close(std::exchange(m_descriptor, -1)) != 0 && errno != EINTR) {
         throw Failure::FromErrno(errno);
     }
