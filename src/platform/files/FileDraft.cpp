@@ -20,7 +20,7 @@ using std::filesystem::path;
 
 constexpr std::string_view kRandom = "XXXXXX"; // becomes random characters
 constexpr std::string_view kEnding = ".draft";
-constexpr int kMostTries = 16; // two programs take each other's drafts for abandoned once or twice; a folder without locks would always
+constexpr int kMostTries = 16; // two programs may remove each other's new draft once or twice; more often only where locks do not work
 constexpr auto kNotYetSafe = "The file is done, but may not survive a power cut: ";
 constexpr mode_t kModeBits = S_IRWXU | S_IRWXG | S_IRWXO;
 

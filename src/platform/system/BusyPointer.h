@@ -1,4 +1,4 @@
-// The busy pointer, for as long as this lives.
+// Shows the busy pointer for as long as the object lives.
 #pragma once
 
 #include "platform/system/Desktop.h"

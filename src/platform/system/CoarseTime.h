@@ -1,4 +1,4 @@
-// A clock for limits: good to some milliseconds, and so cheap that it may be asked at every turn.
+// A clock for time limits: good to some milliseconds, and so cheap that every step of a loop may ask it.
 #pragma once
 
 #include <chrono>
@@ -8,7 +8,7 @@ namespace ptk {
 
 using CoarseTime = std::chrono::steady_clock::time_point;
 
-// Never ahead of the steady clock, and behind it by less than 10 milliseconds.
+// The present time, never ahead of the steady clock and behind it by less than 10 milliseconds.
 [[nodiscard]] inline CoarseTime CoarseNow()
 {
     timespec now{};

@@ -53,12 +53,12 @@ public:
     [[nodiscard]] virtual std::uintptr_t WindowHandle() const { return 0; }
 };
 
-// A line below a question, for why it is answered as it is: it goes with what is stored then.
+// A line below a question in which the user may give a reason; the reason is stored with what the answer causes.
 struct ReasonLine
 {
     std::vector<std::string> offered; // what can be chosen instead of typing
-    bool wanted = false;              // asked for: typing begins in it; it may stay empty all the same
-    std::string reason;               // as it stands there, and as it was left
+    bool wanted = false;              // typing begins in this line; it may stay empty all the same
+    std::string reason;               // the text of the line, before and after the question
 };
 
 class Desktop
@@ -69,7 +69,7 @@ public:
     // Modal; returns the button pressed (closing the box counts as No or Cancel where there is one, else Ok).
     virtual Answer MessageBox(const std::string& text, const std::string& title, Icon icon, Buttons buttons) = 0;
 
-    // A message box with a line for a reason below the text; a desktop without windows asks for none.
+    // Shows a message box with a line for a reason below the text. A desktop without windows does not ask for one.
     virtual Answer AskWithReason(const std::string& text, const std::string& title, Icon icon, Buttons buttons, ReasonLine& /*line*/)
     {
         return MessageBox(text, title, icon, buttons);
@@ -77,9 +77,9 @@ public:
 
     virtual void SetPointer(Pointer pointer) = 0;
 
-    // Hands an existing document to the desktop's opener or to the print spooler and waits for neither to be done. `path` is in the
-    // platform's own form. Returns more than ShellSuccess when it was taken over, ShellFileNotFound, ShellNoProgram, or another code up to
-    // ShellSuccess.
+    // Hands an existing document to the desktop's opener or to the print spooler, without waiting until it is shown or printed. `path` is
+    // in the platform's own form. Returns more than ShellSuccess when it was taken over, else ShellFileNotFound, ShellNoProgram, or another
+    // code up to ShellSuccess.
     virtual std::int32_t Shell(const DesktopWindow& owner, ShellVerb verb, const std::string& path) = 0;
 
     // Hands a document to the print spooler under a title that the print queue shows. Returns what Shell returns.

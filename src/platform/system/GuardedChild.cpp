@@ -48,7 +48,7 @@ Pipe MakePipe()
     return {SystemFile(ends[0]), SystemFile(ends[1])};
 }
 
-// All that follow run in the child between fork and exec, where nothing may be allocated.
+// All functions from here to Become run in the child between fork and exec, where nothing may be allocated.
 
 void Limit(decltype(RLIMIT_AS) resource, rlim_t value)
 {
@@ -66,7 +66,7 @@ void SetLimits(const ChildLimits& limits)
     Limit(RLIMIT_FSIZE, 0);
 }
 
-// Without rights of its own an ordinary user can give up this one for good: there is no socket any more, and no way around by a ring.
+// Takes the network away for good, which an ordinary user may do: no sockets can be made, and io_uring is no way around.
 void RefuseNetwork()
 {
     sock_filter filter[] = {
@@ -78,7 +78,8 @@ void RefuseNetwork()
     ::prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &program);
 }
 
-// Onto the numbers of the standard streams; first away from them, should the parent's own be closed.
+// Makes the three descriptors the standard streams. They are first copied to higher numbers, in case the parent's own streams are closed
+// and they have low ones.
 void SetStreams(int input, int output, int errors)
 {
     constexpr int kClear = 10;
@@ -188,7 +189,7 @@ std::string_view GuardedChild::Read()
     }
 }
 
-// Takes what has come so far, however much.
+// Takes all that has come on the standard error so far, and counts its lines.
 void GuardedChild::CountErrors()
 {
     char portion[4096];

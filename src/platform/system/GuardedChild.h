@@ -1,4 +1,4 @@
-// A program of our own that works on files nobody vouches for: it may crash, loop or run out of memory without harm to anybody.
+// Runs another program of this product on files that nobody vouches for: it may crash, loop or run out of memory without harm to anybody.
 #pragma once
 
 #include "platform/Failure.h"
@@ -19,7 +19,7 @@ struct ChildLimits
     // Bytes; builds with an address sanitizer, which claims terabytes for itself, set no limit.
     std::size_t addressSpace = std::size_t{512} << 20;
     std::chrono::seconds cpu{20};
-    std::chrono::steady_clock::time_point deadline;    // of its work; it is ended then
+    std::chrono::steady_clock::time_point deadline;    // when the child is ended; to be set, the default is long past
     std::uint64_t mostOutput = std::uint64_t{4} << 30; // bytes
 };
 
@@ -27,40 +27,42 @@ struct ChildOrder
 {
     std::string program; // in the platform's own form
     std::vector<std::string> arguments;
-    const SystemFile& input; // open for reading: its standard input. It inherits nothing else
+    const SystemFile& input; // open for reading; the child's standard input. It inherits no other file
     ChildLimits limits;
-    std::function<bool()>
-        goesOn; // asked between any two portions, and twenty times a second while it waits; false ends it. Without it nobody is asked
+    // Asked between any two portions, and at least twenty times a second during a wait; false ends the child. May be empty.
+    std::function<bool()> goesOn;
 };
 
-// How it ended. Whatever it had to say counts only when it is `clean`.
+// How a child ended. What it wrote counts only when the end is `clean`.
 struct ChildEnd
 {
     bool clean = false; // it ended by itself, with status 0
     int status = -1;    // what it ended with; -1 where a signal ended it
 };
 
-// Runs from its making on, without network, with an environment of LC_ALL=C alone, without a core, unable to make a file grow; it is gone
-// with its owner.
+// The constructor starts the child, the destructor ends it. The child has no network, only LC_ALL=C in its environment, makes no core dump
+// and cannot make a file grow.
 class GuardedChild
 {
 public:
-    // Raises 53 when there is no such program to run, 7, 67.
+    // Raises 53 when there is no such program to run, 7 (no memory), 67 (too many open files), 57 (no process to spare).
     explicit GuardedChild(const ChildOrder& order);
     ~GuardedChild();
     GuardedChild(const GuardedChild&) = delete;
     GuardedChild& operator=(const GuardedChild&) = delete;
 
-    // What it wrote next, waiting for it; empty at its end. Valid until the next call. Raises Overdue, TooMuch and GivenUp.
+    // Waits for what the child writes next and answers it; empty at the end of its output. Valid until the next call. Raises Overdue,
+    // TooMuch and GivenUp.
     [[nodiscard]] std::string_view Read();
 
-    // REQUIRES: Read came to the end. Raises Overdue.
+    // Waits for the child's end. REQUIRES: Read came to the end of the output. Raises Overdue and GivenUp.
     [[nodiscard]] ChildEnd Wait();
 
-    // Of its standard error so far.
+    // The number of lines that the child has written to its standard error so far.
     [[nodiscard]] std::int64_t ErrorLines() const { return m_errorLines; }
 
-    // Without numbers, in one sentence.
+    // The failures of a child that works past its deadline, writes more than `mostOutput`, or is given up by `goesOn`. Their number is 0,
+    // their text one sentence.
     [[nodiscard]] static Failure Overdue();
     [[nodiscard]] static Failure TooMuch();
     [[nodiscard]] static Failure GivenUp();

@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::int64_t kDaysBefore1970 = 25569;
 
-// Of a moment of universal time, in seconds since 1970.
+// The offset in seconds at a moment of universal time, which is given in seconds since 1970.
 std::int64_t OffsetAt(std::int64_t moment)
 {
     const std::time_t time = moment;

@@ -1,4 +1,4 @@
-// What the local time zone says of a moment of the wall clock.
+// How far local time is ahead of universal time.
 #pragma once
 
 #include "platform/text/DateTime.h"
@@ -7,8 +7,8 @@
 
 namespace ptk {
 
-// Seconds by which the wall clock that shows `wall` is ahead of universal time. A moment that comes twice is the first; one that the clock
-// leaves out is as before it was put forward.
+// How many seconds local time is ahead of universal time when the wall clock shows `wall`. A moment that comes twice counts as the first;
+// one that the clock skips gets the offset from before the clock was put forward.
 [[nodiscard]] std::int64_t LocalOffset(DateTime wall);
 
 } // namespace ptk

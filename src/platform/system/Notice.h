@@ -1,4 +1,4 @@
-// A message box that only wants to be read: its words stand once, beside whoever shows it.
+// A message box that is only to be read; its words stand once, in the file that shows it.
 #pragma once
 
 #include "platform/system/Desktop.h"
@@ -12,7 +12,7 @@ struct Notice
     Icon icon;
 };
 
-// Waits for the user's OK.
+// Shows the notice and waits for the user's OK.
 inline void Tell(Desktop& desktop, const Notice& notice)
 {
     desktop.Show(notice.text, notice.title, notice.icon);

@@ -18,7 +18,7 @@ struct Address
     socklen_t length = 0;
 };
 
-// A name that stands in no folder, and is free again when its program is gone.
+// A socket's address in no folder (an abstract name), which is free again when its program is gone.
 Address AddressFor(const std::string& name)
 {
     const std::string text = "ptk-" + std::to_string(::getuid()) + "-" + std::to_string(std::hash<std::string>()(name));
@@ -29,7 +29,7 @@ Address AddressFor(const std::string& name)
     return address;
 }
 
-// The name is everybody's to take.
+// Whether the other end of the socket belongs to this user: any user may take the name.
 bool IsOurs(int socket)
 {
     ucred peer{};

@@ -1,28 +1,29 @@
-// Whether this program runs already for the same purpose, and the call that tells the one that runs.
+// Finds out whether this program runs already for the same purpose, and calls the one that runs.
 #pragma once
 
 #include <string>
 
 namespace ptk {
 
-// The first of a user's programs that are made with one name hears of each later one. Nothing of it is left behind, however a program ends.
+// The first of a user's programs that makes an object with a given name hears of each later one. Nothing of it is left behind, however a
+// program ends.
 class OneOfAKind
 {
 public:
-    // name: what no two programs of a user are to be for at a time; of any length.
+    // `name` says what a user may run only one program for at a time; it may be of any length.
     explicit OneOfAKind(const std::string& name);
 
     ~OneOfAKind();
     OneOfAKind(const OneOfAKind&) = delete;
     OneOfAKind& operator=(const OneOfAKind&) = delete;
 
-    // Another one of this user runs; it has been called by now. False also where the system lets nobody know.
+    // Whether another program of this user runs with that name; it has been called by now. False also where the system does not tell.
     [[nodiscard]] bool RunsAlready() const { return m_runsAlready; }
 
-    // A file number to be watched for reading, of the first one; -1 of others.
+    // The descriptor of the first program's socket, to be watched for reading; -1 in later ones.
     [[nodiscard]] int Number() const { return m_listens ? m_socket : -1; }
 
-    // After there was something to read: whether it was a call of the same user. Does not wait.
+    // Takes what there is to read and answers whether it was a call of the same user. Does not wait.
     [[nodiscard]] bool TakeCall() const;
 
 private:

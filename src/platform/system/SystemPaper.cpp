@@ -34,7 +34,7 @@ std::optional<PaperSize> Named(const std::string& name)
     return known == "a4" ? std::optional(PaperSize::A4) : std::nullopt;
 }
 
-// The file's first line that is neither empty nor a comment.
+// The size in the file's first line that is neither empty nor a comment.
 std::optional<PaperSize> NamedIn(const std::string& path)
 {
     std::ifstream file(path);
@@ -47,7 +47,7 @@ std::optional<PaperSize> NamedIn(const std::string& path)
     return std::nullopt;
 }
 
-// The variable that decides for paper, empty when none is set.
+// The locale that decides about paper, empty when none is set.
 std::string LocaleName()
 {
     for (const char* name : {"LC_ALL", "LC_PAPER", "LANG"}) {
@@ -58,7 +58,7 @@ std::string LocaleName()
     return "";
 }
 
-// The plain locale has a width as well, but nobody chose it.
+// The size of the locale. The plain locale has a width as well, but nobody chose it, so it says nothing.
 std::optional<PaperSize> OfLocale()
 {
     const std::string name = LocaleName();

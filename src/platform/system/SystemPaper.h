@@ -9,8 +9,8 @@ enum class PaperSize
     A4
 };
 
-// As the system's own tools read the setting: PAPERSIZE, the file that PAPERCONF names, /etc/papersize, the locale of LC_PAPER. What names
-// neither of the two sizes says nothing; letter where nothing says. Raises nothing.
+// The paper size, found as the system's own tools find it: in PAPERSIZE, the file that PAPERCONF names, /etc/papersize, the locale of
+// LC_PAPER. A setting that names neither size is passed over; Letter where none names one. Raises nothing.
 [[nodiscard]] PaperSize SystemPaper();
 
 } // namespace ptk

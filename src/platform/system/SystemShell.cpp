@@ -36,7 +36,7 @@ constexpr auto kNothingOpensIt = "no program is set up for this kind of document
 constexpr auto kNoAnswer = "the print scheduler does not answer";
 constexpr auto kNotTaken = "the print scheduler refused it";
 
-// What the print program says, and what that means in the office.
+// Words in the print program's complaints, and what they mean to the user.
 constexpr auto kNoPrinter = "no printer is set up";
 constexpr auto kNoScheduler = "the print scheduler is not running";
 constexpr std::pair<std::string_view, const char*> kMeanings[] = {
@@ -60,7 +60,7 @@ std::vector<char*> Pointers(std::vector<std::string>& arguments)
     return pointers;
 }
 
-// The signals that this program ignores are not the child's to ignore.
+// Gives the child the default action of the signals that this program ignores.
 void DefaultSignals(posix_spawnattr_t& attributes)
 {
     sigset_t signals;
@@ -71,8 +71,8 @@ void DefaultSignals(posix_spawnattr_t& attributes)
     posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGDEF);
 }
 
-// The child's process number, or none when the program cannot be run. What it says goes to `sayings`: it would only disturb the caller's
-// terminal.
+// Starts a program and answers its process number, or none when it cannot be run. What it writes goes to `sayings`: on the caller's
+// terminal it would only disturb.
 std::optional<pid_t> Spawn(std::vector<std::string> arguments, const SystemFile& sayings)
 {
     posix_spawn_file_actions_t actions;
@@ -94,7 +94,7 @@ std::optional<pid_t> Spawn(std::vector<std::string> arguments, const SystemFile&
     return error == 0 ? std::optional(child) : std::nullopt;
 }
 
-// Whether the child ended without complaint; nothing when it still runs at the end of its time, or when nobody waits for it any more.
+// Whether the child ended with status 0; nothing when it still runs at the end of its time or when `goesOn` gave it up.
 std::optional<bool> EndsWell(pid_t child, std::chrono::milliseconds patience, const GoesOn& goesOn)
 {
     const auto deadline = std::chrono::steady_clock::now() + patience;
@@ -116,7 +116,7 @@ struct Outcome
 {
     bool started = false;
     std::optional<bool> endedWell{}; // nothing when it had to be stopped
-    std::string lastLine{};          // of what it said
+    std::string lastLine{};          // of what it wrote
 };
 
 std::string LastLine(const SystemFile& sayings)
@@ -125,7 +125,7 @@ std::string LastLine(const SystemFile& sayings)
     const ssize_t size = ::pread(sayings.Descriptor(), text.data(), text.size(), 0);
     text.resize(size > 0 ? static_cast<std::size_t>(size) : 0);
     text.erase(text.find_last_not_of(" \r\n") + 1);
-    return text.substr(text.rfind('\n') + 1); // from the beginning where there is none
+    return text.substr(text.rfind('\n') + 1); // the whole text where it has one line
 }
 
 Outcome RunToItsEnd(std::vector<std::string> arguments, const GoesOn& goesOn)
@@ -144,7 +144,7 @@ Outcome RunToItsEnd(std::vector<std::string> arguments, const GoesOn& goesOn)
     return outcome;
 }
 
-// The print program asks for a printer also where there is nobody to know one.
+// What a complaint of the print program means. It misses a printer also when the scheduler is not running, so the scheduler is asked then.
 std::string MeaningOf(const std::string& complaint, const GoesOn& goesOn)
 {
     for (const auto& [words, meaning] : kMeanings) {
@@ -157,7 +157,7 @@ std::string MeaningOf(const std::string& complaint, const GoesOn& goesOn)
     return complaint.empty() ? kNotTaken : complaint;
 }
 
-// Why not; empty when it is printed. A spooler that hangs has not taken the document over.
+// Prints the document; answers why it was refused, empty when it was taken. A spooler that hangs has not taken it.
 std::string Print(const std::string& path, const std::string& title, const GoesOn& goesOn)
 {
     std::vector<std::string> arguments{kPrintProgram};
@@ -175,8 +175,8 @@ std::string Print(const std::string& path, const std::string& title, const GoesO
     return *outcome.endedWell ? "" : MeaningOf(outcome.lastLine, goesOn);
 }
 
-// Why not; empty when it is open. An opener that finds no program for the document complains at once; one that is the program itself
-// stays, and leaves no zombie behind.
+// Opens the document; answers why not, empty when it is open. An opener that finds no program for the document complains at once. One that
+// shows the document itself keeps running; a thread waits for its end, so that it leaves no zombie behind.
 std::string Open(const std::string& path, const GoesOn& goesOn)
 {
     const auto child = Spawn({kOpenProgram, path}, SystemFile());

@@ -3,7 +3,7 @@
 #if defined(__x86_64__)
 #include <immintrin.h>
 #if defined(__clang__)
-// A word of C, which the next header has where clang knows C++ alone.
+// The next header uses this word of C, which clang does not know in C++.
 #define _Bool bool // NOLINT(clang-diagnostic-reserved-macro-identifier)
 #endif
 #include <sys/platform/x86.h>
@@ -22,8 +22,8 @@ namespace {
 
 } // namespace
 
-// What the compiler has for it asks the processor again at each start of each program that has this file in it: on a virtual machine, a
-// thirtieth of a whole time card.
+// The compiler's own check would query the processor again at each start of each program that has this file in it: on a virtual machine, a
+// thirtieth of the time that a whole time card takes.
 void ClearUpperVectors()
 {
     if (CPU_FEATURE_ACTIVE(AVX)) {

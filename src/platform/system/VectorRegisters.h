@@ -1,12 +1,11 @@
-// Keeps long work from paying for the vector instructions of others.
+// Keeps long work from being slowed down by other code's vector instructions.
 #pragma once
 
 namespace ptk {
 
-// Code that fills the vector registers' upper halves and leaves them so, as parts of Qt do, makes every instruction on the lower halves
-// wait for the one before it, until they are cleared: 10,000 employees then take a fifth longer to load. This clears them, where the
-// processor has any. A program that holds this asks its processor at each start, for nearly a tenth of a millisecond; one without Qt need
-// not.
+// Clears the upper halves of the vector registers, where the processor has any. Code that leaves them filled, as parts of Qt do, makes
+// every instruction on the lower halves wait for the one before it: 10,000 employees then take a fifth longer to load. A program that links
+// this function queries the processor at each start, for nearly a tenth of a millisecond; a program without Qt does not need it.
 void ClearUpperVectors();
 
 } // namespace ptk

@@ -4,7 +4,7 @@ namespace ptk {
 
 const char* Version()
 {
-    return PTK_VERSION; // of the build's own project line, so that no other place has to be changed for a new one
+    return PTK_VERSION; // from the build's project line, the only place to change for a new version
 }
 
 } // namespace ptk

@@ -1,9 +1,9 @@
-// Which version of the programs this is.
+// The version of the programs.
 #pragma once
 
 namespace ptk {
 
-// As the build has it, "1.0".
+// The version as the build's project line has it, such as "1.0".
 [[nodiscard]] const char* Version();
 
 } // namespace ptk
