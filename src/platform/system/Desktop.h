@@ -66,7 +66,8 @@ class Desktop
 public:
     virtual ~Desktop() = default;
 
-    // Modal; returns the button pressed (closing the box counts as No or Cancel where there is one, else Ok).
+    // Shows a modal message box and returns the button pressed. Closing the box counts as Cancel, else as No, where there is such a button,
+    // else as Ok.
     virtual Answer MessageBox(const std::string& text, const std::string& title, Icon icon, Buttons buttons) = 0;
 
     // Shows a message box with a line for a reason below the text. A desktop without windows does not ask for one.

@@ -1,4 +1,4 @@
-// What the readers of dates, numbers and words ask of single characters: ASCII only, whatever the process locale says.
+// Questions about single characters for the readers of dates, numbers and words: ASCII only, whatever the process locale says.
 #pragma once
 
 #include <string_view>
@@ -22,7 +22,7 @@ namespace ptk {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
-// Without the blanks around.
+// The text without the blanks around it.
 [[nodiscard]] constexpr std::string_view Trimmed(std::string_view text)
 {
     while (!text.empty() && IsBlank(text.front())) {

@@ -51,8 +51,8 @@ Converter OpenConverter(int codePage)
     return Converter(opened);
 }
 
-// What of the source fits into a few thousand bytes; nothing left of it flushes a letter that an accent behind it would have changed. False
-// at a byte that means nothing.
+// Converts what fits into a few thousand bytes; false at a byte that means nothing. With nothing left, it writes a letter that the
+// converter held back because an accent behind it could have changed it.
 bool ConvertSome(void* converter, char*& in, std::size_t& left, std::string& converted)
 {
     char buffer[4096];

@@ -1,4 +1,4 @@
-// Texts of older programs, in the code pages that Windows knows by numbers.
+// Converts texts of older programs, in the code pages that Windows knows by numbers.
 #pragma once
 
 #include <cstddef>
@@ -9,10 +9,11 @@ namespace ptk {
 
 inline constexpr int kWesternCodePage = 1252;
 
-// Those of the languages whose texts can be turned into UTF-8.
+// Whether the program turns texts of this code page into UTF-8.
 [[nodiscard]] bool IsKnownCodePage(int codePage);
 
-// A byte that means nothing in the code page becomes U+FFFD. Raises 5 for a code page that is not known to this system.
+// Turns a text into UTF-8. A byte that means nothing in the code page becomes U+FFFD. Raises 5 for a code page that is not known to this
+// system.
 [[nodiscard]] std::string FromCodePage(std::string_view text, int codePage);
 
 struct WesternText
@@ -21,7 +22,7 @@ struct WesternText
     std::size_t lost = 0; // characters that the code page lacks, each of them a question mark
 };
 
-// UTF-8 in the code page 1252; a byte that is no UTF-8 is lost, too.
+// Turns UTF-8 text into code page 1252. A byte that is no UTF-8 counts as lost, too.
 [[nodiscard]] WesternText ToWestern(std::string_view text);
 
 // Whether all of it is well-formed UTF-8.

@@ -1,4 +1,4 @@
-// A line of a file in CSV, field by field.
+// Makes a line of a CSV file, field by field.
 #pragma once
 
 #include <cstdint>
@@ -11,10 +11,10 @@ namespace ptk {
 class CsvLine
 {
 public:
-    // In quotes where it needs them, and nobody's formula: see CsvText.
+    // Adds a text, in quotes where it needs them, and so that no spreadsheet takes it for a formula: see CsvText.
     CsvLine& Text(std::string_view text);
 
-    // As it stands: a figure, a moment, a name that the program gives.
+    // Adds a field unchanged: a figure, a moment, a name that the program gives.
     CsvLine& Plain(std::string_view text);
 
     CsvLine& Truth(bool isTrue) { return Plain(isTrue ? "true" : "false"); }
@@ -22,7 +22,7 @@ public:
     CsvLine& Number(const std::optional<std::int64_t>& number) { return Plain(number ? std::to_string(*number) : ""); } // empty for none
     CsvLine& Empty(int fields);
 
-    // The whole line, with the end of a line behind it.
+    // The whole line with its line end.
     [[nodiscard]] std::string Done() const { return m_line + "\r\n"; }
 
 private:

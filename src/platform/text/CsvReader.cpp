@@ -13,7 +13,7 @@ namespace {
 constexpr char kQuote = '"';
 constexpr std::size_t kLongestLine = std::size_t{1} << 20; // bytes
 constexpr std::array kSeparators{',', ';', '\t'};
-constexpr std::string_view kBlanks = " ,;\t"; // of a cell that holds nothing
+constexpr std::string_view kBlanks = " ,;\t"; // all that a blank cell holds
 
 constexpr auto kOpenQuote = "line {}: a quotation mark is opened and never closed";
 constexpr auto kNul = "line {}: the file holds a NUL byte; it is no text file that can be read";
@@ -24,18 +24,18 @@ bool IsLineEnd(char c)
     return c == '\r' || c == '\n';
 }
 
-// CR LF is one end.
+// The length of the line end at the beginning of the text; CR LF is one end.
 std::size_t LineEndLength(std::string_view text)
 {
     return text.starts_with("\r\n") ? 2 : 1;
 }
 
-// Counts the separators of the first line that is not blank. Which of them separates is not known yet, so that behind each a cell may
-// begin, and with it a quotation mark.
+// Counts the separators of the first line that is not blank. It is not known yet which of them separates, so a cell, and with it a
+// quotation mark, may begin behind each.
 class HeadingCounter
 {
 public:
-    // False at the end of that line.
+    // Takes the next character; false at the end of that line.
     bool Take(char c)
     {
         if (m_quoted) {
@@ -47,7 +47,7 @@ public:
             ++m_counts[static_cast<std::size_t>(at - kSeparators.begin())];
             m_mayOpen = true;
         } else if (c == kQuote) {
-            m_quoted = m_mayOpen; // also the second of two within, which is let in again
+            m_quoted = m_mayOpen; // the second of two within a cell opens it again, too
         } else {
             m_mayOpen = m_mayOpen && c == ' ';
             m_blank = m_blank && c == ' ';
@@ -108,7 +108,7 @@ bool CsvReader::AtCellEnd() const
     return m_left.empty() || m_left.front() == m_separator || IsLineEnd(m_left.front());
 }
 
-// Past the blanks before the quotation mark, where there is one.
+// Whether the next cell begins with a quotation mark; if so, skips it and the blanks before it.
 bool CsvReader::BeginsQuoted()
 {
     std::size_t at = 0;
@@ -153,7 +153,7 @@ std::string CsvReader::TakeQuotedCell(std::int64_t line)
     throw Failure(0, "PTK", fmt::format(kOpenQuote, line));
 }
 
-// What stands between a closing quotation mark and the end of the cell; whether it is more than blanks.
+// Skips what stands between a closing quotation mark and the end of the cell; answers whether it is more than blanks.
 bool CsvReader::TakeStray()
 {
     bool stray = false;

@@ -17,7 +17,7 @@ bool IsPlain(char c)
     return c >= ' ' && c < '\x7F' && c != '"' && c != '\\';
 }
 
-// Character by character, plain ones as many at once as stand together; each byte that is no UTF-8 comes as U+FFFD.
+// Calls `take` for each character; plain ones that stand together come as one text, each byte that is no UTF-8 as U+FFFD.
 template <typename Take>
 void ForEachCharacter(std::string_view text, Take take)
 {
@@ -29,7 +29,7 @@ void ForEachCharacter(std::string_view text, Take take)
     }
 }
 
-// C0, delete and C1, which a terminal might obey.
+// The number of a control character (C0, delete and C1), which a terminal might obey; nothing for others.
 std::optional<unsigned> ControlCode(std::string_view character)
 {
     const unsigned first = ByteAt(character, 0);

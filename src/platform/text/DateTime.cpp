@@ -80,7 +80,7 @@ DateTime DateTime::AddMinutes(std::int64_t minutes) const
 
 DateTime DateTime::Later(std::int64_t count, std::int64_t unit) const
 {
-    // Far more than the range holds; keeps the product below from overflowing.
+    // This is far more than the range holds, and keeps the product below from overflowing.
     constexpr std::int64_t limit = 10'000'000'000;
     if (count > limit || count < -limit) {
         throw Failure(failure::Overflow);

@@ -21,8 +21,8 @@ struct TimeOfDay
     int second = 0;
 };
 
-// Counted in seconds from 30 December 1899 00:00:00, the zero date-time, which means "not set" wherever a date may be missing.
-// Range: 1 January 100 00:00:00 to 31 December 9999 23:59:59; a result outside it raises Failure 6 (overflow).
+// A date-time, counted in seconds from 30 December 1899 00:00:00, the zero date-time, which means "not set" wherever a date may be missing.
+// Its range is 1 January 100 00:00:00 to 31 December 9999 23:59:59; a result outside it raises Failure 6 (overflow).
 class DateTime
 {
 public:
@@ -47,7 +47,7 @@ public:
     // Whole minutes since the zero date-time, the seconds cut off.
     [[nodiscard]] constexpr std::int64_t MinuteNumber() const { return Whole(m_seconds, kSecondsPerMinute); }
 
-    // 0 Sunday to 6 Saturday.
+    // The day of the week, 0 Sunday to 6 Saturday.
     [[nodiscard]] int Weekday() const;
 
     [[nodiscard]] DateTime AddDays(std::int64_t days) const;
@@ -58,7 +58,7 @@ public:
 private:
     [[nodiscard]] DateTime Later(std::int64_t count, std::int64_t unit) const; // `unit` in seconds
 
-    // Rounded down.
+    // Seconds in whole units, rounded down.
     [[nodiscard]] static constexpr std::int64_t Whole(std::int64_t seconds, std::int64_t unit)
     {
         return seconds / unit - (seconds % unit < 0 ? 1 : 0);
@@ -67,7 +67,8 @@ private:
     std::int64_t m_seconds = 0;
 };
 
-// Calendar differences: the day or minute boundaries crossed from `from` to `to`, negative when `to` is earlier. Smaller units are ignored.
+// Calendar differences: how many times a day or minute begins from `from` to `to`, negative when `to` is earlier. Smaller units are
+// ignored.
 [[nodiscard]] constexpr std::int64_t DaysBetween(DateTime from, DateTime to)
 {
     return to.DayNumber() - from.DayNumber();

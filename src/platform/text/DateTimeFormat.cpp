@@ -42,7 +42,7 @@ bool StartsWithMeridiem(std::string_view text)
 
 void AppendPadded(std::string& out, int value, std::size_t width)
 {
-    if (width == 2 && value < 100) { // nearly every field of nearly every date
+    if (width == 2 && value < 100) { // a short way for nearly every field
         out += static_cast<char>('0' + value / 10);
         out += static_cast<char>('0' + value % 10);
         return;
@@ -54,7 +54,7 @@ void AppendPadded(std::string& out, int value, std::size_t width)
     out.append(digits.data(), digits.size());
 }
 
-// One run of equal pattern letters; `afterHours` makes m mean minutes.
+// Appends the value of one run of equal pattern letters; `afterHours` makes m mean minutes.
 void AppendToken(std::string& out, char letter, std::size_t length, const Moment& moment, bool afterHours)
 {
     switch (letter) {

@@ -43,7 +43,7 @@ public:
         return true;
     }
 
-    // Up to four digits; a longer run is no number of a date.
+    // Takes up to four digits; a longer run of digits is no number of a date.
     Number TakeNumber()
     {
         Number number;
@@ -103,7 +103,7 @@ std::optional<CalendarDate> MakeDate(int year, int month, int day)
     return CalendarDate{year, month, day};
 }
 
-// Month and day change places where only that is a date (13/5/2003).
+// The date of a month and a day, which change places where only that is a date (13/5/2003).
 std::optional<CalendarDate> MakeDateEitherWay(int year, int first, int second)
 {
     if (const auto date = MakeDate(year, first, second)) {
@@ -112,7 +112,7 @@ std::optional<CalendarDate> MakeDateEitherWay(int year, int first, int second)
     return MakeDate(year, second, first);
 }
 
-// 3/5/2003, 3-5-03, 2003-03-05, 5-Mar-2003.
+// Takes 3/5/2003, 3-5-03, 2003-03-05 or 5-Mar-2003 from behind its first separator on.
 std::optional<CalendarDate> TakeSeparatedDate(Scanner& scanner, Number first, char separator)
 {
     const std::size_t mark = scanner.Mark();
@@ -138,7 +138,7 @@ std::optional<CalendarDate> TakeSeparatedDate(Scanner& scanner, Number first, ch
     return MakeDateEitherWay(FullYear(third), first.value, second.value);
 }
 
-// After the day and the month of a spelled date: an optional comma, blanks, the year.
+// Takes what follows the day and the month of a spelled date: an optional comma, blanks, the year.
 std::optional<int> TakeSpelledYear(Scanner& scanner)
 {
     const bool comma = scanner.Take(',');
@@ -152,7 +152,7 @@ std::optional<int> TakeSpelledYear(Scanner& scanner)
     return FullYear(year);
 }
 
-// March 5, 2003 or March 5 2003.
+// Takes March 5, 2003 or March 5 2003.
 std::optional<CalendarDate> TakeMonthFirst(Scanner& scanner)
 {
     const int month = MonthOfWord(scanner.TakeWord());
@@ -165,7 +165,7 @@ std::optional<CalendarDate> TakeMonthFirst(Scanner& scanner)
     return year ? MakeDate(*year, month, day.value) : std::nullopt;
 }
 
-// 5 March 2003 or 5 March, 2003.
+// Takes 5 March 2003 or 5 March, 2003 from behind its day on.
 std::optional<CalendarDate> TakeDayFirst(Scanner& scanner, Number day)
 {
     scanner.Blanks();

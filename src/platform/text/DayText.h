@@ -1,4 +1,4 @@
-// A day and a moment as the program tells them everywhere.
+// A day and a moment as texts, the same everywhere in the program.
 #pragma once
 
 #include "platform/text/DateTime.h"
@@ -7,11 +7,11 @@
 
 namespace ptk {
 
-// To people: "03/05/2003", and to the minute "03/05/2003 08:05 AM".
+// For people: "03/05/2003", and to the minute "03/05/2003 08:05 AM".
 [[nodiscard]] std::string DayText(DateTime day);
 [[nodiscard]] std::string MomentText(DateTime moment);
 
-// To programs: "2003-03-05" and "2003-03-05T08:05:09".
+// For programs: "2003-03-05" and "2003-03-05T08:05:09".
 [[nodiscard]] std::string IsoDay(DateTime day);
 [[nodiscard]] std::string IsoMoment(DateTime moment);
 

@@ -26,7 +26,7 @@ void DecimalSum::Add(std::string_view amount)
 
 std::string DecimalSum::Text() const
 {
-    // The highest digit that is not 0 after carrying has the sign of the whole; a negative one is carried again turned round.
+    // After carrying, the highest digit that is not 0 has the sign of the sum. A negative sum is carried again with all its digits negated.
     const auto carried = [](std::array<std::int64_t, kDigits> digits) {
         for (std::size_t i = 0; i + 1 < digits.size(); ++i) {
             const std::int64_t digit = (digits[i] % kBase + kBase) % kBase;

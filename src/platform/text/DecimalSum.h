@@ -11,10 +11,10 @@ namespace ptk {
 class DecimalSum
 {
 public:
-    // As TwoDecimals writes it: "-1234.50".
+    // Adds an amount as TwoDecimals writes it: "-1234.50".
     void Add(std::string_view amount);
 
-    // In the same form.
+    // The sum, in the form that TwoDecimals writes.
     [[nodiscard]] std::string Text() const;
 
 private:

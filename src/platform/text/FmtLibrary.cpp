@@ -1,5 +1,5 @@
-// The one translation unit of the fmt library. Debian has it as a shared library only, whose loading, and that of the standard library that
-// it needs, costs the console a third of what one card costs.
+// The one translation unit of the fmt library. Debian has it as a shared library only; loading that, and the standard library that it
+// needs, would cost the console a third of the time that one card takes.
 #include <fmt/format-inl.h>
 
 FMT_BEGIN_NAMESPACE

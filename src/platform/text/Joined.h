@@ -1,4 +1,4 @@
-// Several texts or whole numbers in one text.
+// Joins several texts or whole numbers in one text.
 #pragma once
 
 #include <string>
@@ -7,7 +7,7 @@
 
 namespace ptk {
 
-// "41, 42" of {41, 42} with ", " between; empty for nothing.
+// The items as one text: "41, 42" for {41, 42} with ", " between; empty for no items.
 template <typename Items>
 [[nodiscard]] std::string Joined(const Items& items, std::string_view between)
 {

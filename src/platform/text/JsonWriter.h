@@ -1,4 +1,4 @@
-// JSON, written value by value without a blank.
+// Writes JSON value by value, without blanks.
 #pragma once
 
 #include "platform/text/DateTime.h"
@@ -10,7 +10,7 @@
 
 namespace ptk {
 
-// Its members stand in the order of the calls.
+// A JSON object; its members stand in the order of the calls.
 class JsonObject
 {
 public:
@@ -25,7 +25,7 @@ public:
     JsonObject& Day(std::string_view name, DateTime day);
     JsonObject& Moment(std::string_view name, const std::optional<DateTime>& moment); // null where there is none
 
-    // A value that is JSON already.
+    // Adds a value that is JSON already.
     JsonObject& Json(std::string_view name, std::string_view json);
 
     [[nodiscard]] std::string Done() const { return m_members + '}'; }
@@ -34,7 +34,7 @@ private:
     std::string m_members = "{";
 };
 
-// "[1,2]" of what `json` makes of each.
+// A JSON list, "[1,2]", of what `json` makes of each item.
 template <typename Items, typename Write>
 std::string JsonList(const Items& items, Write json)
 {
@@ -45,7 +45,8 @@ std::string JsonList(const Items& items, Write json)
     return '[' + list + ']';
 }
 
-// What stands between a list's brackets where each value has a line of its own; the last one's end is not there.
+// The inside of a JSON list in which each value has a line of its own: without the brackets, and without the line end behind the last
+// value.
 template <typename Items, typename Write>
 std::string JsonLines(const Items& items, Write json)
 {

@@ -13,7 +13,8 @@ namespace ptk {
 
 namespace {
 
-// Decimal text only: an optional sign, digits with at most one point, an optional exponent. Keeps "inf", "nan" and hexadecimal out.
+// Whether the text is decimal: an optional sign, digits with at most one point, an optional exponent. Keeps "inf", "nan" and hexadecimal
+// out.
 bool IsDecimal(std::string_view text)
 {
     std::size_t at = !text.empty() && (text[0] == '+' || text[0] == '-') ? 1 : 0;
@@ -36,7 +37,7 @@ bool IsDecimal(std::string_view text)
     return text.substr(at).find_first_not_of("0123456789") == std::string_view::npos;
 }
 
-// At which end a decimal text other than zero leaves the range: below one or above it. Values out of range come nowhere near one.
+// Whether a decimal text that is out of range (and so not zero) is below one, not above it. Values out of range come nowhere near one.
 bool IsBelowOne(std::string_view text)
 {
     const std::size_t exponentAt = std::min(text.find_first_of("eE"), text.size());
@@ -92,7 +93,7 @@ Integer ParseInteger(std::string_view text)
     return static_cast<Integer>(value);
 }
 
-// The significant digits and the place of the point, as scientific shortest text gives them.
+// The significant digits of a number and the place of its point, as the shortest scientific text gives them.
 struct Decimal
 {
     bool negative = false;
@@ -122,7 +123,7 @@ Decimal ShortestDecimal(Float value)
     return decimal;
 }
 
-// Digits before the point and after it, without an exponent.
+// The digits before the point and those after it, without an exponent.
 std::pair<std::string, std::string> Positional(const Decimal& decimal)
 {
     const int whole = decimal.exponent + 1;

@@ -47,7 +47,7 @@ std::optional<int> DigitsValue(std::string_view digits, std::size_t most)
     return ToInt32(digits);
 }
 
-// "830" and "0830"; "17" is an hour.
+// Reads "830" and "0830"; "17" is an hour.
 std::optional<TimeOfDay> RunTogether(std::string_view digits)
 {
     const auto number = DigitsValue(digits, 4);
@@ -57,7 +57,7 @@ std::optional<TimeOfDay> RunTogether(std::string_view digits)
     return digits.size() <= 2 ? TimeOfDay{*number, 0, 0} : TimeOfDay{*number / 100, *number % 100, 0};
 }
 
-// "8:30" and "8:30:15"; points may stand for the colons. "8.5" is left alone: it may mean half past eight.
+// Reads "8:30" and "8:30:15"; points may stand for the colons. "8.5" is refused: it may mean half past eight.
 std::optional<TimeOfDay> Separated(std::string_view text, char separator)
 {
     const std::size_t first = text.find(separator);
@@ -82,7 +82,7 @@ std::optional<TimeOfDay> Clocktime(std::string_view text)
     return RunTogether(text);
 }
 
-// Turns the hour of a 12-hour clock into that of 24; false when the hour is none of its clock's.
+// Turns the hour of a 12-hour clock into that of a 24-hour clock; false when its clock has no such hour.
 bool ApplyHalf(TimeOfDay& time, Half half)
 {
     if (half == Half::None) {

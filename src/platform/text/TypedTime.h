@@ -1,4 +1,4 @@
-// What a user may type for a time of day and for a date.
+// Reads what a user may type for a time of day and for a date.
 #pragma once
 
 #include "platform/text/DateTime.h"
@@ -9,13 +9,14 @@
 
 namespace ptk {
 
-// A time of day on the zero date: 17, 830, 0830, 8.30, 8:30, 8:30:15, each with a, p, am or pm behind it. One or two digits are the hour.
+// Reads a time of day, on the zero date: 17, 830, 0830, 8.30, 8:30, 8:30:15, each with a, p, am or pm behind it. One or two digits are the
+// hour.
 [[nodiscard]] std::optional<DateTime> ReadTypedTime(std::string_view text);
 
-// A day at midnight: whatever reads as a date, or month and day of today's year ("3/5", "3-5").
+// Reads a day, at midnight: whatever reads as a date, or month and day of today's year ("3/5", "3-5").
 [[nodiscard]] std::optional<DateTime> ReadTypedDate(std::string_view text, DateTime today);
 
-// What stands in a box, and what it was read as: read once, and handed on instead of the text.
+// The text of a box and the moment that it was read as: read once, and passed on instead of the text.
 struct TypedMoment
 {
     std::string text;
@@ -26,7 +27,7 @@ struct TypedMoment
 
 [[nodiscard]] TypedMoment TypedTime(std::string text);
 
-// Also a date with a time of day, and one of the zero day.
+// Reads what ReadTypedDate reads, and anything else that ParseDateTime reads: a date with a time of day, or a time alone, on the zero date.
 [[nodiscard]] TypedMoment TypedDate(std::string text, DateTime today);
 
 // The moment of a day and a time in two boxes. Where one is empty, the other counts alone: no time is midnight, no day the zero day. Raises

@@ -8,7 +8,7 @@ namespace {
 
 constexpr char32_t kReplacement = 0xFFFD;
 
-// What the second byte of a character may be, by the first: neither overlong forms nor surrogates nor what lies beyond U+10FFFF.
+// Whether the second byte fits behind the first: no overlong forms, no surrogates, nothing beyond U+10FFFF.
 bool FitsBehind(unsigned first, unsigned second)
 {
     switch (first) {

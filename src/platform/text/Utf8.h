@@ -1,4 +1,4 @@
-// The characters of UTF-8 text, one by one.
+// Reads the characters of UTF-8 text one by one.
 #pragma once
 
 #include <cstddef>
@@ -6,13 +6,13 @@
 
 namespace ptk {
 
-// As a number of 0 to 255. REQUIRES: position is within the text.
+// The byte at a position, 0 to 255. REQUIRES: position is within the text.
 [[nodiscard]] inline unsigned ByteAt(std::string_view text, std::size_t position)
 {
     return static_cast<unsigned char>(text[position]);
 }
 
-// In bytes, of the character at the beginning; 0 where there is none. REQUIRES: text is not empty.
+// The length in bytes of the character at the beginning; 0 where the text begins with none. REQUIRES: text is not empty.
 [[nodiscard]] std::size_t Utf8Length(std::string_view text);
 
 // Takes the first character off the text; U+FFFD for a byte that begins none. REQUIRES: text is not empty.

@@ -9,8 +9,9 @@
 
 namespace ptk {
 
-// Nothing (a database null), a boolean, a 16- or 32-bit integer, a single, a double, a date-time or text.
-// The conversions raise Failure 94 for null, 13 for what has no such meaning, 6 for what does not fit; nothing ever wraps.
+// A value: nothing (a database null), a boolean, a 16- or 32-bit integer, a single, a double, a date-time or text. As a number, a true
+// boolean is -1 and a date-time its days since the zero date-time. The conversions raise Failure 94 for null, 13 for a value without such a
+// meaning, 6 for one that does not fit; nothing ever wraps.
 class Value
 {
 public:
@@ -26,19 +27,17 @@ public:
 
     [[nodiscard]] bool IsNull() const { return std::holds_alternative<std::monostate>(m_value); }
 
-    // A date-time, or text that reads as one.
+    // Whether it is a date-time, or text that reads as one.
     [[nodiscard]] bool IsDate() const;
 
     [[nodiscard]] bool ToBoolean() const;
 
-    // A true boolean is -1.
     [[nodiscard]] std::int16_t ToInt16() const;
-
     [[nodiscard]] std::int32_t ToInt32() const;
     [[nodiscard]] float ToSingle() const;
     [[nodiscard]] double ToDouble() const;
 
-    // A number counts days since the zero date-time.
+    // The date-time; a number counts days since the zero date-time.
     [[nodiscard]] DateTime ToDateTime() const;
 
     [[nodiscard]] std::string ToText() const;
@@ -50,7 +49,7 @@ private:
     Storage m_value;
 };
 
-// Narrowing that raises Failure 6 instead of wrapping.
+// Narrow an integer; raise Failure 6 instead of wrapping.
 [[nodiscard]] std::int16_t NarrowToInt16(std::int64_t value);
 [[nodiscard]] std::int32_t NarrowToInt32(std::int64_t value);
 
