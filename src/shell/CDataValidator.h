@@ -1,4 +1,4 @@
-// Whether text typed into a number or date field can be taken.
+// Tells whether text typed into a number or date field can be taken.
 #pragma once
 
 #include <string>
@@ -8,12 +8,12 @@ namespace ptk {
 class CDataValidator
 {
 public:
-    // Digits only; deliberately true for "" and for numbers of any size.
+    // Whether it holds digits only; deliberately true for "" and for numbers of any size.
     [[nodiscard]] bool CheckIntegerValues(const std::string& thestring) const;
 
     [[nodiscard]] bool CheckDateTimeValues(const std::string& thestring) const;
 
-    // Digits and a point that together are a single; no sign.
+    // Whether it holds only digits and a point that together are a single; no sign.
     [[nodiscard]] bool CheckSingleValues(const std::string& thestring) const;
 };
 

@@ -25,7 +25,8 @@ bool CDatabaseLocator::GetDatabasePath()
         if (m_configFile) {
             m_databasePath = m_configFile->FindKeyValue(kPathKey);
         }
-        // Text in front of the placeholder goes; so it does up to the first ">" where that stands even before the placeholder.
+        // The program folder replaces all up to the first ">": also text in front of the placeholder, and too little where a ">" stands
+        // before it.
         if (m_databasePath.find(kPlaceholder) != std::string::npos) {
             m_databasePath = m_programFolder + m_databasePath.substr(m_databasePath.find('>') + 1);
         }

@@ -18,10 +18,11 @@ public:
 
     [[nodiscard]] std::shared_ptr<CFileAdaptor> ConfigFile() const { return m_configFile; }
 
-    // With backslashes as configured.
+    // The path that GetDatabasePath found, with backslashes as configured.
     [[nodiscard]] std::string DatabasePath() const { return m_databasePath; }
 
-    // True also without a configuration or without the key (the path is then "" or what it was); false only when reading raised a failure.
+    // Finds the path. True also without a configuration (the path stays as it was) or without the key (the path is then ""); false only
+    // when reading raised a failure.
     bool GetDatabasePath();
 
 private:

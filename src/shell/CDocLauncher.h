@@ -11,8 +11,8 @@ namespace ptk {
 class Desktop;
 class DesktopWindow;
 
-// Of the box about any document that is not where it should be: the guide's title, which the reports have always shown as well,
-// deliberately.
+// The title of the box about any document that is not where it should be: deliberately the guide's title, which the reports have always
+// shown as well.
 inline constexpr const char* kNotOpenedTitle = "User's Guide Open Error";
 
 class CDocLauncher
@@ -24,11 +24,12 @@ public:
     std::string FileName(const std::string& thedocname);
     [[nodiscard]] std::int32_t ErrorNumber() const { return m_errorNumber; }
 
-    // False when the shell refused or an argument is missing (`theparent` nullptr, `thedocname` empty). Nothing is raised.
+    // Open and print a document. False when the shell refused or an argument is missing (`theparent` nullptr, `thedocname` empty). Nothing
+    // is raised.
     bool DisplayDocument(const DesktopWindow* theparent, const std::string& thedocname);
     bool PrintDocument(const DesktopWindow* theparent, const std::string& thedocname);
 
-    // Under a title that the print queue shows.
+    // Prints a document under a title that the print queue shows. False in the same cases as PrintDocument without a title.
     bool PrintDocument(const DesktopWindow* theparent, const std::string& thedocname, const std::string& title);
 
 private:

@@ -1,4 +1,4 @@
-// Stands for the enumerations that the program shares; it exists from the first step of the program to the last and holds nothing.
+// Stands for the enumerations that the program shares. It lives from the program's first step to its last and holds nothing.
 #pragma once
 
 namespace ptk {

@@ -1,4 +1,4 @@
-// The failure being handled at the moment this is created, and the box that tells the user of it.
+// The failure that is being handled when this is created, and the box that tells the user of it.
 #pragma once
 
 #include "platform/Failure.h"
@@ -20,7 +20,7 @@ public:
     [[nodiscard]] std::int32_t ErrorNumber() const { return m_failure.Number(); }
     [[nodiscard]] std::string ErrorSource() const { return m_failure.Source(); }
 
-    // Deliberately appends; an empty text only fills an empty description.
+    // Deliberately appends to the description; an empty text only gives an empty description its default.
     void ErrorDescription(const std::string& thisDesc);
 
     [[nodiscard]] std::string ErrorDescription() const { return m_description; }
@@ -32,11 +32,12 @@ public:
     [[nodiscard]] std::string ModuleName() const { return m_moduleName; }
     [[nodiscard]] std::int16_t MsgBoxRetVal() const { return m_msgBoxRetVal; }
 
-    // The values of Icon and Buttons; what is missing or not numeric means an exclamation icon and OK. Sets the pointer back to its
-    // default. Returns the Answer's value. Raises Failure 6 when an argument or the sum of both does not fit 16 bits.
+    // Shows the box. The arguments are the values of Icon and Buttons; one that is missing or not numeric means an exclamation icon or OK.
+    // Sets the pointer back to its default. Returns the Answer's value. Raises Failure 6 when an argument or the sum of both does not fit
+    // 16 bits.
     std::int16_t MessageBox(const Value& userIcon = {}, const Value& userButtons = {});
 
-    // Deliberately nothing: whoever catches the failure writes the log.
+    // Deliberately does nothing: the code that catches the failure writes the log.
     bool LogMessage() { return false; }
 
 private:

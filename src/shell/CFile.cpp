@@ -96,7 +96,7 @@ void CFile::OpenUnder(std::int32_t number, linefile::Mode mode)
 bool CFile::CloseFile()
 {
     ClearError();
-    // Closed also when closing fails: from now on the number may be another file's.
+    // The file counts as closed also when closing fails: from now on the number may be another file's.
     const bool wasOpen = std::exchange(m_fileOpen, false);
     return Succeeds([&] { linefile::Close(wasOpen ? m_fileNumber : kNoNumber); }, [&](const Failure& reason) { Fail(kClosing, reason); });
 }

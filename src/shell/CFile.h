@@ -13,23 +13,24 @@ namespace ptk {
 class Failure;
 class Clock;
 
-// Modes: 0 reads an existing file, 1 creates or truncates for writing, 2 writes on at the end (created if missing). Each written line lands
-// at what is then the end of the file. What is no regular file is not opened (75); what is created is for its owner only.
-// Every operation but GetTempFile clears the error first. The destructor closes an open file.
+// A text file. Modes: 0 reads an existing file, 1 creates or truncates it for writing, 2 writes on at the end (created if missing). Each
+// written line lands at what is then the end of the file, ends with CR LF, and is on its way to the disk when the call returns: a full disk
+// is told by the write that meets it. What is no regular file is not opened (75); a new file is for its owner only. Every operation but
+// GetTempFile clears the error first. The destructor closes an open file.
 class CFile
 {
 public:
     // Tells the time by the system's clock.
     CFile();
 
-    // Must outlive the file.
+    // The clock must outlive the file.
     explicit CFile(const Clock& clock);
 
     ~CFile();
     CFile(const CFile&) = delete;
     CFile& operator=(const CFile&) = delete;
 
-    // As given, not the platform's own form.
+    // The name as it was given, not in the platform's own form.
     [[nodiscard]] std::string FileName() const { return m_fileName; }
 
     // "0", "1" or "2"; "" before the first OpenFile.
@@ -38,10 +39,10 @@ public:
     [[nodiscard]] bool FileOpen() const { return m_fileOpen; }
     [[nodiscard]] std::int32_t FileNumber() const { return m_fileNumber; }
 
-    // There are no temporary files.
+    // Always empty: there are no temporary files.
     [[nodiscard]] std::string TempFile() const { return {}; }
 
-    // Once true it stays true, also for the next file opened.
+    // Whether ReadLine came to the end of a file. Once true it stays true, also for the next file opened.
     [[nodiscard]] bool EndOfFile() const { return m_endOfFile; }
 
     [[nodiscard]] std::int32_t ErrorNumber() const { return m_errorNumber; }
@@ -50,21 +51,21 @@ public:
     // Deliberately does nothing and answers false.
     bool GetTempFile(std::string& parampath);
 
-    // A mode that is missing, not numeric or outside 0 to 2 reads. Another file that this object still has open is closed once this one is
+    // Opens a file. A mode that is missing, not numeric or outside 0 to 2 reads. A file that is still open is closed once the new one is
     // open.
     bool OpenFile(const std::string& paramfile, const Value& parammode = {});
 
-    // False when the system could not keep what was written; the file is closed all the same.
+    // Closes the file. False when the system could not keep what was written; the file is closed all the same.
     bool CloseFile();
 
-    // The next item: up to a comma or the line's end, quotes removed. At the end of the file "EOF" and EndOfFile; "" after an error.
+    // Reads the next item: up to a comma or the line's end, quotes removed. At the end of the file it answers "EOF" and sets EndOfFile; ""
+    // after an error.
     std::string ReadLine();
 
-    // Each is on its way to the disk when it answers: a full disk is told by the write that meets it. Lines end with CR LF.
-    // The general date-time text; deliberately false even when it was written.
+    // Writes the present moment as the general date-time text; deliberately answers false even when it was written.
     bool WriteDateTime();
 
-    // An empty line, then the header in brackets.
+    // Writes an empty line, then the header in brackets.
     bool WriteHeader(const std::string& thisheader);
 
     bool WriteLine(const std::string& buffer, const std::string& notes = {},

@@ -42,7 +42,8 @@ bool CFileAdaptor::ReadFile(const std::string& thefilename)
     });
 }
 
-// The position counts the dropped lines, too, so that it also ends the reading of a file whose device keeps failing: at the 32,768th item.
+// Inserts what is read. The position counts the dropped lines, too, so that the reading of a file whose device keeps failing ends: at the
+// 32,768th item.
 void CFileAdaptor::ReadLines(CFile& file)
 {
     std::int16_t position = 1;

@@ -1,4 +1,4 @@
-// The 1-based list that every list of the program is: employees, companies, time records, time cards and plain strings.
+// The 1-based list on which every list of the program is built: employees, companies, time records, time cards and texts.
 #pragma once
 
 #include "platform/Succeeds.h"
@@ -35,7 +35,7 @@ public:
         return Guarded(listerror::DestroyFailed, [this] { m_entries.clear(); });
     }
 
-    // Empty, without an error, outside 1 to Count.
+    // The entry at a position; empty, without an error, outside 1 to Count.
     Entry Item(std::int32_t thisindex)
     {
         ClearError();
@@ -50,7 +50,8 @@ protected:
     KeyedStore() { Create(); }
     ~KeyedStore() = default;
 
-    // A position above Count appends, one below 1 goes to the front. Appending is amortised O(1). False with 312 when it fails.
+    // Inserts at a position: one above Count appends, one below 1 inserts at the front. Appending is amortised O(1). False with 312 when it
+    // fails.
     bool InsertAt(Entry thisvalue, std::int32_t thisindex)
     {
         ClearError();
@@ -58,7 +59,7 @@ protected:
         return Guarded(listerror::InsertFailed, [&] { m_entries.insert(At(position), std::move(thisvalue)); });
     }
 
-    // The removed entry; none with 351 outside 1 to Count, none with 313 when the gap could not be closed.
+    // Removes an entry and answers it; none with 351 outside 1 to Count, none with 313 when removing failed.
     std::optional<Entry> RemoveAt(std::int32_t thisindex)
     {
         ClearError();
@@ -99,7 +100,7 @@ protected:
     // The entries in order, for walks that need neither a copied reference nor a cleared error.
     [[nodiscard]] const std::vector<Entry>& Entries() const { return m_entries; }
 
-    // May raise bad_alloc.
+    // Makes room for `count` entries; may raise bad_alloc.
     void Reserve(std::int32_t count) { m_entries.reserve(static_cast<std::size_t>(count)); }
 
     // Keeps the entries that satisfy it, in their order, in one pass.
@@ -109,7 +110,7 @@ protected:
         std::erase_if(m_entries, [&](const Entry& entry) { return !keep(entry); });
     }
 
-    // True, or false with this error number when the operation raised anything.
+    // Runs the operation. True, or what it answers; false with this error number when it raised anything.
     template <typename Operation>
     bool Guarded(std::int32_t errorNumber, Operation operation)
     {
@@ -134,22 +135,22 @@ private:
     std::int32_t m_errorNumber = 0;
 };
 
-// The list in its full form, whose Insert, Move and Remove answer the entry.
+// A list whose Insert, Move and Remove answer the entry.
 template <typename Entry>
 class KeyedList : public KeyedStore<Entry>
 {
 public:
-    // The inserted entry; empty with 312 when it failed.
+    // Inserts an entry and answers it; empty with 312 when it failed.
     Entry Insert(Entry thisvalue, std::int32_t thisindex)
     {
         Entry inserted = thisvalue;
         return this->InsertAt(std::move(thisvalue), thisindex) ? inserted : Entry{};
     }
 
-    // Deliberately nothing but a removal and an insertion in a row: a `fromHere` outside 1 to Count inserts an empty entry.
+    // Moves an entry; deliberately nothing but a removal and an insertion in a row: a `fromHere` outside 1 to Count inserts an empty entry.
     Entry Move(std::int32_t fromHere, std::int32_t toHere) { return Insert(Remove(fromHere), toHere); }
 
-    // The removed entry; empty with 351 or 313.
+    // Removes an entry and answers it; empty with 351 or 313.
     Entry Remove(std::int32_t thisindex) { return this->RemoveAt(thisindex).value_or(Entry{}); }
 
     std::int32_t Find(const Entry& thisobject) { return this->PositionOf(thisobject); }

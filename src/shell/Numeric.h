@@ -1,11 +1,11 @@
-// Whether an "any value" argument counts as a number.
+// Tells whether an "any value" argument counts as a number.
 #pragma once
 
 namespace ptk {
 
 class Value;
 
-// Numbers, booleans and text that reads as a number; neither nothing nor a date-time. Never raises.
+// True for numbers, booleans and text that reads as a number; false for null and a date-time. Never raises.
 [[nodiscard]] bool IsNumeric(const Value& value);
 
 } // namespace ptk
