@@ -80,7 +80,7 @@ void CJetDB::ForgetFailure()
     m_refusal = {};
 }
 
-// The file stays open after a failure, deliberately; the hold goes, or others would be locked out until the next operation.
+// Notes a failure. The file deliberately stays open; the hold is given up, or others would be locked out until the next operation.
 bool CJetDB::Fail(std::int32_t errorNumber, Failure reason)
 {
     m_errorNumber = errorNumber;
@@ -94,13 +94,13 @@ bool CJetDB::Fail(std::int32_t errorNumber, const char* reason)
     return Fail(errorNumber, Failure(errorNumber, "PTK", reason));
 }
 
-// With the engine's own number, which tells a file in use from a damaged one.
+// Fails with the engine's own number, which tells a file in use from a damaged one.
 void CJetDB::FailOpening(const Failure& reason)
 {
     Fail(reason.Number(), reason);
 }
 
-// An operation knows only that it found no open file; why its opening failed still stands.
+// Fails with 403. An operation only knows that it found no open database; the reason why opening it failed stays.
 bool CJetDB::FailWithoutDatabase()
 {
     m_errorNumber = jetdb::NoDatabase;
@@ -167,7 +167,7 @@ bool CJetDB::OpenFile(const std::string& name)
     return true;
 }
 
-// The times in the edit trail are the machine's too.
+// Opens the database. Its backups have the machine's time, as the entries of the edit trail have.
 std::unique_ptr<Engine> CJetDB::OpenEngine(const std::string& path)
 {
     return OpenDatabase(path, OpenFor::Work, m_whenHeld,
@@ -180,7 +180,7 @@ bool CJetDB::JoinHold()
         if (m_holdFailure.Number() != 0) {
             throw m_holdFailure;
         }
-        m_database->Hold(); // gone where something was stored meanwhile
+        m_database->Hold(); // it is gone where something was stored meanwhile
     };
     if (!Succeeds(hold, [this](const Failure& reason) { FailOpening(reason); })) {
         return false;

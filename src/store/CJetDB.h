@@ -1,5 +1,5 @@
-// The program's database as its classes ask for it: opens and closes the file, runs their SQL, and moves employees and companies between
-// their tables and the entities through the stored queries inside the file.
+// The database as the program's classes use it: opens and closes it, runs their SQL, and moves employees and companies between their tables
+// and the entities through the stored queries inside the database.
 #pragma once
 
 #include "platform/Failure.h"
@@ -25,14 +25,14 @@ struct EngineWords;
 class RecordSet;
 class Statement;
 
-// One time record to be stored: its statement, and the row as it was read, where it was. See CTimeRecSQLConverter.
+// One time record to be stored: its statement (see CTimeRecSQLConverter), and the row as it was read, if it was read.
 struct TimeRecordWrite
 {
     std::string statement;
     std::optional<TimeRecordRow> asRead;
 };
 
-// A password that an operation set, be it the same. The edit trail says no more than that it changed.
+// A password that an operation stored, even if it is the same as before. The edit trail only says that it changed.
 struct PasswordChange
 {
     std::int64_t step = 0;
@@ -49,9 +49,10 @@ struct PasswordChange
 class CJetDB
 {
 public:
-    // While one lives, the file is held across any number of operations: all that read see the same moment, until one of them stores
-    // something, and what they open and close costs nothing. Where the file could not be opened, each of them is told so at once, without
-    // waiting for its own second. Holds may nest; the file is closed after the last. Not to be kept while the user is asked something.
+    // While an object of this class lives, the file is held across any number of operations: all that read see the same moment, until one
+    // of them stores something, and their opening and closing costs nothing. Where the file could not be opened, each operation fails at
+    // once, without waiting for its own second. Holds may nest; the file is closed after the last. Not to be kept while the user is asked
+    // something.
     class Hold
     {
     public:
@@ -66,11 +67,11 @@ public:
         std::shared_ptr<CJetDB> m_database;
     };
 
-    // While one lives, all that is stored is one step of the edit trail. Steps may nest.
+    // While an object of this class lives, all that is stored is one step of the edit trail. Steps may nest.
     class Step
     {
     public:
-        // nullptr: of nothing.
+        // nullptr does nothing.
         explicit Step(std::shared_ptr<CJetDB> database);
 
         ~Step();
@@ -81,11 +82,12 @@ public:
         std::shared_ptr<CJetDB> m_database;
     };
 
-    // While one lives, all that is stored stands in the edit trail with this reason; an empty one is none. The innermost holds.
+    // While an object of this class lives, all that is stored has this reason in the edit trail; an empty text is none. The innermost
+    // reason counts.
     class Reason
     {
     public:
-        // nullptr: of nothing.
+        // nullptr does nothing.
         Reason(std::shared_ptr<CJetDB> database, std::string reason);
 
         ~Reason();
@@ -115,89 +117,94 @@ public:
     [[nodiscard]] std::int32_t ErrorNumber() const { return m_errorNumber; }
 
     // Why the last operation failed, in words for the program's users; number 0 and no text when it did not. The number is the cause's own:
-    // the engine's (source "SQLite"), a conversion's, or one of those above.
+    // the engine's (source "SQLite" or "PostgreSQL"), a conversion's, or one of jetdb (StoreErrors.h).
     [[nodiscard]] const Failure& LastFailure() const { return m_refusal.failure; }
 
-    // What differs, where the last operation failed because the row to be stored had been changed or removed since it was read; nothing
-    // otherwise.
+    // How the stored row differs from the one that was read, where the last operation failed because somebody had changed or removed it
+    // since; nothing otherwise.
     [[nodiscard]] const std::optional<RowConflict>& Conflict() const { return m_refusal.conflict; }
 
-    // Both together.
+    // LastFailure and Conflict together.
     [[nodiscard]] const Refusal& LastRefusal() const { return m_refusal; }
 
-    // In whose name all that follows is stored, as the edit trail tells it.
+    // Sets whom the edit trail names for all that is stored from now on.
     void StoredBy(Author value) { m_memory->author = std::move(value); }
     [[nodiscard]] const Author& StoredBy() const { return m_memory->author; }
 
-    // The step of the edit trail of the last operation that stores; 0 where that changed nothing.
+    // The step of the edit trail of the last operation that stores. 0 where that changed nothing; within a Step the number then stays.
     [[nodiscard]] std::int64_t LastStep() const { return m_memory->lastStep; }
 
-    // The newest entry of the edit trail by then, where it changed something.
+    // The number of the edit trail's newest entry after the last operation that stores, where that changed something.
     [[nodiscard]] std::int64_t NewestEntry() const { return m_memory->newestEntry; }
 
-    // The passwords that were set so far, in the order of their steps.
+    // The passwords that were stored so far, in the order of their steps.
     [[nodiscard]] const std::vector<PasswordChange>& Passwords() const { return m_memory->passwords; }
 
-    // Another access to the same file, closed, that knows nothing of earlier failures. Author, steps and passwords are one for both.
+    // Another object for the same database, closed, that knows of no earlier failures. Author, steps and passwords are shared by both.
     [[nodiscard]] std::shared_ptr<CJetDB> Afresh() const;
 
-    // From now on a file that somebody else has is not waited for: for questions that can as well be asked later.
+    // Sets that from now on an operation fails at once where somebody else has the file: for questions that can as well be asked later.
     void DoNotWait() { m_whenHeld = WhenHeld::Refuse; }
 
-    // Opens the file that the locator found. An empty path opens nothing, answers false and leaves ErrorNumber alone.
+    // Opens the database that the locator found. An empty path opens nothing, answers false and leaves ErrorNumber unchanged.
     bool OpenPTKDatabase(const std::shared_ptr<CDatabaseLocator>& thedatabaselocator);
 
-    // Opens exclusively, without ever creating a file. False with 403 (no name) or the engine's own number.
-    // The connect text and the password are accepted and not used.
+    // Opens the database exclusively and never creates a file. False with 403 (no name) or the engine's own number. The connect text and
+    // the password are accepted and not used.
     bool OpenDB(const std::string& paramName = "", const std::string& paramConnect = "", const std::string& paramPassword = "");
 
-    // False only when nothing was ever opened.
+    // Closes the database, which a Hold keeps ready all the same. False only when nothing was ever opened.
     bool CloseDB();
 
-    // Lets others at the open file until the next operation; nothing inside a Hold.
+    // Lets others use the open file until the next operation; does nothing inside a Hold.
     void GiveUpHold();
 
-    // The caller opens and closes the database. nullptr with 403, 406 or 407.
+    // Answers the rows of a select; nullptr with 403, 406 or 407. The caller opens and closes the database.
     std::shared_ptr<RecordSet> ExecuteSelect(const std::string& sqlstring);
 
-    // A statement for rows that are read again and again with other parameters, in the engine's own words; nullptr with 403, 406 or 407.
-    // Must end before the file is closed, which the caller opens and closes.
+    // A statement in the engine's own words, for rows that are read again and again with other parameters; nullptr with 403 or 407. The
+    // caller opens and closes the database; the statement must end before it is closed.
     std::unique_ptr<Statement> PrepareSelect(const std::string& sqlstring);
 
-    // See Engine; raises what opening the database raises.
+    // Whether the database tells of changes, and what it told: see Engine. TakeNews opens the database and raises what that raises.
     [[nodiscard]] bool TellsNews() const;
     [[nodiscard]] std::optional<std::int64_t> TakeNews();
 
-    // Of the open database, for the texts that PrepareSelect takes.
+    // The engine's words for the texts that PrepareSelect takes. REQUIRES: the database is open.
     [[nodiscard]] const EngineWords& Words() const;
 
-    // Whether the open database has the edit trail, or a table that files of earlier versions lack. Both raise the engine's failure.
+    // Whether the database has the edit trail, or a table that files of earlier versions lack. Both raise the engine's failure. REQUIRES:
+    // the database is open.
     [[nodiscard]] bool HasTrail();
     [[nodiscard]] bool HasTable(const char* name);
 
-    // Opens the database when it is closed and always leaves it closed, except after a failed statement (407). Committed on return.
+    // Runs a statement that changes rows; on disk when it answers true. Opens the database when it is closed and always leaves it closed,
+    // except after a failed statement (407).
     bool ExecuteAction(const std::string& sqlstring);
 
-    // Stores time records, in one transaction and one step, provided that each row is as it was read: false with 407 and a Conflict where
-    // one is not, and nothing is stored.
+    // Stores time records in one transaction and one step, if each row is stored as it was read; else false with 407 and a Conflict, and
+    // nothing is stored.
     bool SaveTimeRecords(std::span<const TimeRecordWrite> records);
 
-    // Changes the options in the same way; nothing is written where they are the same already.
+    // Changes the options, if they are stored as they were read; else false with 407 and a Conflict. Nothing is written where `options` are
+    // stored already or are those that were read.
     bool UpdateOptions(const std::string& sqlstring, const OptionsRow& options, const OptionsRow& asRead);
 
-    // Runs steps in one transaction, as ExecuteAction runs a statement: false with 407. A RowChanged that they raise is a Conflict.
+    // Runs steps in one transaction, and opens and closes as ExecuteAction does: false with 407. A RowChanged that they raise becomes the
+    // Conflict.
     bool ExecuteSteps(const std::function<void(Engine& engine)>& steps);
 
-    // Each opens the database when it is closed and closes it after success; a failed statement (412, 413) leaves it open.
+    // Members for employees and companies: each opens the database when it is closed and closes it after success; a failed statement (411
+    // to 413) leaves it open.
     bool AddNewEmployee(const EmployeeRow& theemployee);
     bool LoadEmployeeList(EmployeeSink& thelist);
 
-    // By display name; nobody else's row is read.
+    // Loads the employees with that display name; nobody else's row is read.
     bool LoadEmployeesNamed(EmployeeSink& thelist, const std::string& thename);
 
     bool UpdateEmployee(const EmployeeRow& theemployee);
 
-    // False with 413 and a Conflict where the employee is not stored as read any more.
+    // Stores the employee; false with 413 and a Conflict where the stored row is not as it was read any more.
     bool UpdateEmployee(const EmployeeRow& theemployee, const EmployeeRow& asRead);
 
     // Deliberately does nothing and answers false: employees are never deleted.
@@ -207,21 +214,21 @@ public:
     bool LoadCompanyList(CompanySink& thelist);
     bool UpdateCompany(const CompanyRow& thecompany);
 
-    // False with 413 and a Conflict where the company is not stored as it was read any more.
+    // Stores the company; false with 413 and a Conflict where the stored row is not as it was read any more.
     bool UpdateCompany(const CompanyRow& thecompany, const CompanyRow& asRead);
 
-    // Deliberately does nothing and answers false.
+    // Deliberately does nothing and answers false: companies are never deleted.
     bool DeleteCompany(const CompanyRow& thecompany);
 
 private:
-    // Always false, as the next.
+    // Notes the failure and gives the hold up. Always false.
     bool Fail(std::int32_t errorNumber, const char* reason);
 
     bool Fail(std::int32_t errorNumber, Failure reason);
     void FailOpening(const Failure& reason);
     bool FailWithoutDatabase();
 
-    // For Succeeds: the operation fails with this number and what was raised.
+    // A handler for Succeeds: the operation fails with this number and what was raised.
     auto FailingWith(std::int32_t errorNumber)
     {
         return [this, errorNumber](const Failure& reason) { Fail(errorNumber, reason); };
@@ -252,7 +259,7 @@ private:
     std::shared_ptr<Memory> m_memory = std::make_shared<Memory>();
     std::shared_ptr<CDatabaseLocator> m_locator;
     std::unique_ptr<Engine> m_database; // kept after a close, as an unusable handle
-    std::string m_openPath;             // its, in the platform's own form
+    std::string m_openPath;             // of m_database, in the platform's own form
     std::shared_ptr<RecordSet> m_recSet;
     std::string m_databasePath;
     std::string m_databaseName;
@@ -262,15 +269,15 @@ private:
     std::int32_t m_errorNumber = 0;
     Refusal m_refusal;
     std::string m_reason;
-    std::int32_t m_steps = 0;      // of those that live
-    std::int64_t m_stepNumber = 0; // theirs, once something was stored
+    std::int32_t m_steps = 0;      // how many Step objects live
+    std::int64_t m_stepNumber = 0; // their common number, once something was stored
     std::int32_t m_holds = 0;
     WhenHeld m_whenHeld = WhenHeld::Wait;
-    Failure m_holdFailure{0, "", ""}; // why the file that is to be held is not
+    Failure m_holdFailure{0, "", ""}; // why the file could not be opened for the Hold
     std::string m_programFolder;
 };
 
-// For readers that raise: the member's failure as what LastFailure says of it.
+// OpenDB and PrepareSelect for readers that raise: a failure is raised as LastFailure tells it.
 void RequireOpen(CJetDB& database);
 [[nodiscard]] std::unique_ptr<Statement> RequireSelect(CJetDB& database, const std::string& sql);
 

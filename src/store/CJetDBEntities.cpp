@@ -1,4 +1,4 @@
-// Of CJetDB: employees and companies between their tables and the lists above.
+// Part of CJetDB: moves employees and companies between their tables and the lists above.
 #include "platform/Succeeds.h"
 #include "platform/text/Text.h"
 #include "store/CJetDB.h"
@@ -21,8 +21,8 @@ constexpr const char* kAllCompanies = "GetAllCompanies";
 
 constexpr std::int32_t kPortion = 256; // rows
 
-// Who has the display name :name. A last name is all of it or what follows one of its blanks: asked for
-// first, because the index of the listing finds that.
+// The condition for the display name :name. Its last name is all of it or what follows one of its blanks; that is asked first, because the
+// index of the listing finds it.
 std::string HasDisplayName(const std::string& name, const EngineWords& words)
 {
     std::string lastNames = Said(words.caseless, ":name");
@@ -35,8 +35,8 @@ std::string HasDisplayName(const std::string& name, const EngineWords& words)
 
 } // namespace
 
-// Also an empty one, and one that took the place of none at all: the trail tells only that it changed. What that takes is made before:
-// once it is stored nothing may fail any more.
+// Makes a change and remembers the password it stored, also an empty one and the first one: the trail only tells that it changed. The
+// memory is taken first: once the change is stored nothing may fail any more.
 bool CJetDB::Remembering(PasswordChange password, const std::function<bool()>& change)
 {
     std::vector<PasswordChange>& passwords = m_memory->passwords;
@@ -101,7 +101,7 @@ bool CJetDB::DeleteCompany(const CompanyRow& /*thecompany*/)
     return false;
 }
 
-// A snapshot: its count is the number of all its rows.
+// Lists the companies as a snapshot: its count is the number of all its rows.
 std::shared_ptr<RecordSet> CJetDB::OpenCompanyQuery()
 {
     if (!m_databaseOpen) {
@@ -130,7 +130,7 @@ bool CJetDB::LoadEmployeesNamed(EmployeeSink& thelist, const std::string& thenam
         thelist, [&] { return m_database->PrepareStored(kAllEmployees, HasDisplayName(thename, m_database->Words()), parameters); });
 }
 
-// In portions that stay in the processor's memory: thousands of rows at once would cost as much again.
+// Fills the list in portions that stay in the processor's memory: all rows at once would cost as much again.
 bool CJetDB::FillEmployees(EmployeeSink& thelist, const std::function<std::unique_ptr<Statement>()>& prepare)
 {
     ForgetFailure();
@@ -162,7 +162,7 @@ bool CJetDB::LoadCompanyList(CompanySink& thelist)
     ForgetFailure();
     OpenWhenClosed();
     const auto rows = OpenCompanyQuery();
-    // Deliberately by the number, which no member resets: one left by an earlier operation ends the load as well.
+    // Deliberately judged by the number, which no member resets: one left by an earlier operation ends the load as well.
     if (m_errorNumber == jetdb::NegativeCount || m_errorNumber == jetdb::ListingFailed || m_errorNumber == jetdb::NoDatabase) {
         return m_refusal.failure.Number() != 0 ? false : Fail(m_errorNumber, "the companies are not listed after an earlier failure");
     }

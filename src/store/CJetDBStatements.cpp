@@ -1,4 +1,4 @@
-// Of CJetDB: the statements of the program's classes, and the transaction that all writing goes through.
+// Part of CJetDB: the statements of the program's classes, and the transaction that all writing goes through.
 #include "platform/Succeeds.h"
 #include "store/CJetDB.h"
 #include "store/engine/Engine.h"
@@ -11,7 +11,7 @@ namespace {
 constexpr std::int16_t kSnapshot = 4;
 constexpr const char* kNoSqlText = "there is no statement to run";
 
-// Of what Update writes.
+// Whether the options that Update writes are the same.
 bool SameOptions(const OptionsRow& a, const OptionsRow& b)
 {
     return a.PeriodLength == b.PeriodLength && a.AutoShiftStartTime == b.AutoShiftStartTime && a.AutoShiftEndTime == b.AutoShiftEndTime;
@@ -76,7 +76,7 @@ bool CJetDB::HasTable(const char* name)
     return m_database->HasTable(name);
 }
 
-// One operation that writes: opens the file when it is closed and closes it after success, whoever opened it.
+// Runs one operation that writes: opens the file when it is closed and closes it after success, whoever opened it.
 bool CJetDB::Change(std::int32_t errorNumber, const std::function<void()>& steps)
 {
     ForgetFailure();
@@ -107,7 +107,7 @@ void CJetDB::Write(const std::function<void()>& steps)
     m_memory->newestEntry = m_database->NewestEntry();
 }
 
-// Of the writes of one Step, the first that leaves an entry gives the number.
+// Takes the number of a write's step. Of the writes within one Step, the first that leaves an entry gives the number.
 void CJetDB::TakeStep(std::int64_t step)
 {
     if (m_steps == 0 || step != 0) {
@@ -154,7 +154,7 @@ bool CJetDB::UpdateOptions(const std::string& sqlstring, const OptionsRow& optio
     return Change(jetdb::StatementFailed, [&] {
         const OptionsRow present = PresentOptions(*m_database);
         if (SameOptions(options, present) || SameOptions(options, asRead)) {
-            return; // where only somebody else changed them, theirs stay
+            return; // if only somebody else changed them, those changes stay
         }
         RequireAsRead(present, asRead);
         m_database->Run(m_sql);

@@ -28,23 +28,24 @@ public:
     [[nodiscard]] std::string ProgramVersion() const { return m_row.ProgramVersion; }
     void PeriodLength(std::int16_t value) { m_row.PeriodLength = value; }
 
-    // Days added to a period's first day.
+    // The length of a pay period, in days added to its first day.
     [[nodiscard]] std::int16_t PeriodLength() const { return m_row.PeriodLength; }
 
     void AutoShiftStartTime(DateTime value) { m_row.AutoShiftStartTime = value; }
 
-    // Only the time of day matters.
+    // The start of an automatic shift; only the time of day matters.
     [[nodiscard]] DateTime AutoShiftStartTime() const { return m_row.AutoShiftStartTime; }
 
     void AutoShiftEndTime(DateTime value) { m_row.AutoShiftEndTime = value; }
     [[nodiscard]] DateTime AutoShiftEndTime() const { return m_row.AutoShiftEndTime; }
 
-    // Reads the row; the database must be open and stays open. False when there is no result set. Raises what reading the row raises
-    // (3021 for an empty table, 94 for a null), naming the column: the controller logs it.
+    // Reads the row; the database must be open and stays open. False when there is no result set. Raises 91 without a database, and what
+    // reading the row raises (3021 for an empty table, 94 for a null), naming the column: the controller logs it.
     bool Load();
 
-    // Writes period length and shift times (never name and version) and leaves the database closed. After a Load it writes only what was
-    // changed since, and is refused when somebody else changed the options meanwhile: see CJetDB::Conflict.
+    // Writes period length and shift times (never name and version) and leaves the database closed. After a Load it writes only if they
+    // were changed since, and is refused when somebody else changed the options meanwhile: see CJetDB::Conflict. Raises 91 without a
+    // database.
     bool Update();
 
 private:

@@ -10,7 +10,7 @@ namespace ptk {
 
 namespace {
 
-// Appends to `sql`, so that what is there when a failure comes stays there.
+// Appends to `sql`; what is in it when a failure comes stays there.
 template <typename... Values>
 void Append(std::string& sql, fmt::format_string<Values...> text, Values&&... values)
 {
@@ -53,7 +53,7 @@ void BuildFetch(std::string& sql, const TimeRecordFetch& fetch)
     Append(sql, "ORDER BY TimeRecord.StartTime, TimeRecord.EndTime{};", fetch.then);
 }
 
-// Nothing for any other state.
+// Writes the statement for the record's state; nothing for a state without one.
 void Build(std::string& sql, const TimeRecordRow& record)
 {
     switch (record.ObjectState) {

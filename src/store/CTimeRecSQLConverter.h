@@ -14,20 +14,20 @@ struct TimeRecordFetch
     std::int32_t employeeID = 0;
     DateTime from;
     DateTime to;
-    const char* then = ""; // stands behind the order: see EngineWords::thenByKey
+    const char* then = ""; // goes behind the ORDER BY: see EngineWords::thenByKey
 };
 
-// The converter's texts, or what making them raised: of half a statement its condition is missing, and it would change, delete or answer
-// everybody's records.
+// The texts of CTimeRecSQLConverter, always whole: a failure to make one is raised. Half a statement has no condition, and would change,
+// delete or answer everybody's records.
 [[nodiscard]] std::string WholeStatement(const TimeRecordRow& record);
 [[nodiscard]] std::string WholeFetch(const TimeRecordFetch& fetch);
 
-// Holds no connection; it only writes text. Error numbers: 810 insert, 811 update, 812 delete, 813 fetch. Nothing is raised;
-// what was built until a failure is answered, and must not be run.
+// Writes SQL text; it holds no connection. Error numbers: 810 insert, 811 update, 812 delete, 813 fetch. Nothing is raised: what was
+// written before a failure is answered, and must not be run.
 class CTimeRecSQLConverter
 {
 public:
-    // The last statement of ToSQL.
+    // The statement that ToSQL made last.
     std::string sqlstring() const { return m_sqlstring; }
 
     [[nodiscard]] std::int32_t ErrorNumber() const { return m_errorNumber; }
@@ -35,11 +35,12 @@ public:
     // Always true.
     bool ResetError();
 
-    // By the record's state: 1 insert, 2 update, 3 delete, any other the empty text. nullptr gives the empty text and keeps sqlstring.
+    // The statement for the record's state: 1 insert, 2 update, 3 delete; the empty text for any other. nullptr gives the empty text and
+    // keeps sqlstring.
     std::string ToSQL(const TimeRecordRow* thetimerecord);
 
-    // Both bounds are inclusive and compared as full date-times, so every open record (end = zero date-time) from the start on is fetched
-    // too.
+    // The query for the employee's records from the start to the end. Both bounds are inclusive and compared as full date-times, so every
+    // open record (end = zero date-time) from the start on is fetched too.
     std::string BuildFetchSQL(std::int32_t theemployeeid, DateTime thestarttime, DateTime theendtime);
 
 private:

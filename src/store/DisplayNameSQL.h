@@ -3,7 +3,7 @@
 
 namespace ptk {
 
-// As CEmployee puts it together: first name, blank, last name, or the last name alone. Never null.
+// The display name as CEmployee makes it: first name, blank, last name, or the last name alone. Never null.
 inline constexpr const char* kDisplayNameSql =
     "CASE WHEN COALESCE(FirstName, '') = '' THEN COALESCE(LastName, '') ELSE FirstName || ' ' || COALESCE(LastName, '') END";
 

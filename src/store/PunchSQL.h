@@ -1,11 +1,11 @@
-// The time records that the check of a card looks at.
+// Queries for the time records that the check of a card looks at.
 #pragma once
 
 #include "store/engine/EngineWords.h"
 
 namespace ptk::punchsql {
 
-// By all queries, in this order; the last by OfMany alone.
+// The columns of Starting, Unusual, Of and OfMany, in this order; the last by OfMany alone.
 enum Column
 {
     kId,
@@ -14,21 +14,22 @@ enum Column
     kEmployee
 };
 
-// What starts between two moments, both included, of whom `whose` says, a condition. Answered by the index TimeRecordPeriod alone.
+// The time records that start from :first to :last, both included, of the employees that the condition `whose` names. Answered by the index
+// TimeRecordPeriod alone.
 [[nodiscard]] inline std::string Starting(std::string_view whose)
 {
     return fmt::format("SELECT TimeRecordID, StartTime, EndTime FROM TimeRecord WHERE {} AND StartTime BETWEEN :first AND :last", whose);
 }
 
-// What that search passes over, or would have to look for in the whole history: shifts still open, backward or longer than a day, and
-// starts that cannot be read. The index TimeRecordUnusual holds them, few rows; in a database without it the employee's whole history is
-// searched.
+// The time records that Starting passes over, or would have to look for in the whole history: shifts still open, backward or longer than a
+// day, and starts that cannot be read. The index TimeRecordUnusual holds these few rows; in a database without it the employee's whole
+// history is searched.
 [[nodiscard]] inline std::string Unusual(std::string_view whose, const EngineWords& words)
 {
     return fmt::format("SELECT TimeRecordID, StartTime, EndTime FROM TimeRecord WHERE {} AND {}", whose, words.unusualPunch);
 }
 
-// Both. A row may come twice.
+// What Starting and Unusual ask for, in one query. A row may come twice.
 [[nodiscard]] inline std::string Of(std::string_view whose, const EngineWords& words)
 {
     return Starting(whose) + " UNION ALL " + Unusual(whose, words);
@@ -36,8 +37,8 @@ enum Column
 
 inline constexpr auto kOne = "EmployeeID = :employee";
 
-// The ends of the ten newest shifts before a moment, those of at least a minute that began within two hours of the minute `minute` of the
-// day, also over midnight. Answered by the index TimeRecordPeriod, from the moment backwards.
+// The ends of the ten newest shifts before the moment :start that last at least a minute and began within two hours of the minute :minute
+// of the day, also over midnight. Answered by the index TimeRecordPeriod, from the moment backwards.
 [[nodiscard]] inline std::string EarlierEnds(const EngineWords& words)
 {
     return fmt::format("SELECT EndTime FROM TimeRecord WHERE EmployeeID = :employee AND StartTime < :start AND {0} AND {1} < {2} AND "
@@ -46,7 +47,8 @@ inline constexpr auto kOne = "EmployeeID = :employee";
                        Said(words.minuteOfDay, "StartTime"));
 }
 
-// Whose records are on the card of the days from `first` to the midnight `end`, save those that start after it.
+// The employees who have records on the card of the days from :first to the midnight :end; records that start at :end or later do not
+// count.
 [[nodiscard]] inline std::string WithShiftsIn(const EngineWords& words)
 {
     return fmt::format("SELECT EmployeeID FROM Employee WHERE EXISTS (SELECT 1 FROM TimeRecord WHERE TimeRecord.EmployeeID = "
@@ -54,13 +56,13 @@ inline constexpr auto kOne = "EmployeeID = :employee";
                        words.readablePunch);
 }
 
-// Which employees have records that start between two moments, both included.
+// The employees who have records that start from :first to :last, both included.
 inline constexpr auto kWithStartsIn =
     "SELECT EmployeeID FROM Employee WHERE EXISTS (SELECT 1 FROM TimeRecord WHERE TimeRecord.EmployeeID = "
     "Employee.EmployeeID AND StartTime BETWEEN :first AND :last)";
 
-// The EmployeeIDs, known or not, that have records which start between two moments, both included, or are among those that such a search
-// passes over; a null where there are records that name nobody. From one number to the next by the index TimeRecordPeriod.
+// The EmployeeIDs, of known employees or not, that have a record which starts from :first to :last, both included, or one that Unusual
+// finds; a null where any record names nobody. It goes from one number to the next by the index TimeRecordPeriod.
 [[nodiscard]] inline std::string EmployeesWithRecords(const EngineWords& words)
 {
     return fmt::format("WITH RECURSIVE Named (Number) AS (SELECT MIN(EmployeeID) FROM TimeRecord UNION ALL SELECT (SELECT MIN(EmployeeID) "
@@ -71,7 +73,7 @@ inline constexpr auto kWithStartsIn =
                        words.unusualPunch);
 }
 
-// Both of the employees `employees`, in one question. REQUIRES: the words have amongEmployees.
+// What Of asks for, in one question for all the employees :employees. REQUIRES: words.amongEmployees is not empty.
 [[nodiscard]] inline std::string OfMany(const EngineWords& words)
 {
     const std::string select =

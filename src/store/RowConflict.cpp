@@ -36,7 +36,7 @@ std::string Shown(bool value)
     return BooleanText(value);
 }
 
-// A time of day lies on the zero date, an unset moment is nothing.
+// The text of a date-time: a time of day lies on the zero date, an unset moment is empty.
 std::string Shown(DateTime value)
 {
     if (value.IsZero()) {
@@ -70,7 +70,7 @@ private:
     std::vector<FieldDifference> m_found;
 };
 
-// Behind the key, by which the row was looked for.
+// What differs in the fields behind the key; the row was found by its key.
 template <typename Row, typename... Fields>
 std::vector<FieldDifference> Differences(const Row& read, const Row& present, const TableColumns& table,
                                          const std::tuple<Fields Row::*...>& fields)
@@ -81,7 +81,7 @@ std::vector<FieldDifference> Differences(const Row& read, const Row& present, co
     return compared.Found();
 }
 
-// What was stored here is read back without the numbers that mean nothing.
+// The row as it is read back: numbers below zero, which mean nothing, come back as 0.
 EmployeeRow AsLoaded(EmployeeRow row)
 {
     row.PayRate = std::max(row.PayRate, 0.0F);
@@ -107,7 +107,7 @@ std::shared_ptr<RecordSet> Required(std::shared_ptr<RecordSet> row, const TableC
     return row;
 }
 
-// By the listing that the file brings, as the row was read.
+// The stored row, read by the database's own listing query, as the loaders read it. Raises RowChanged where it was removed.
 std::shared_ptr<RecordSet> ListedRow(Engine& engine, const char* listing, const TableColumns& table, std::int32_t key)
 {
     const Parameter parameter{"key", key};

@@ -1,4 +1,4 @@
-// A row that somebody else changed or removed after it was read: what a save or a deletion must not overwrite.
+// Rows that somebody else changed or removed after they were read: a save or a deletion must not overwrite them.
 #pragma once
 
 #include "platform/Failure.h"
@@ -16,9 +16,9 @@ class Engine;
 
 struct FieldDifference
 {
-    std::string column; // as the table names it
-    std::string read;   // as texts for people; passwords are no texts for people
-    std::string present;
+    std::string column;  // as the table names it
+    std::string read;    // the value as people read it; empty for a password
+    std::string present; // "changed" for a password
 
     bool operator==(const FieldDifference&) const = default;
 };
@@ -27,23 +27,23 @@ struct RowConflict
 {
     std::string table;
     std::int32_t key = 0;                     // 0 for the options and limits
-    std::vector<FieldDifference> differences; // none for a row that is no more
+    std::vector<FieldDifference> differences; // none where the row was removed
 
     [[nodiscard]] bool Removed() const { return differences.empty(); }
 
-    // "Employee 40 was changed since it was read: PayRate was 10 and is 12 now", "TimeRecord 7 was removed since it was read".
+    // The conflict in words: "Employee 40 was changed since it was read: PayRate was 10 and is 12 now", "TimeRecord 7 was removed since it
+    // was read".
     [[nodiscard]] std::string Text() const;
 };
 
-// Why an operation was not done; number 0 and no text where it was. With the row that somebody else had changed or removed since it was
-// read, where that was why.
+// Why an operation was not done, with the conflict where that was the reason; number 0 and no text where it was done.
 struct Refusal
 {
     Failure failure{0, "", ""};
     std::optional<RowConflict> conflict{};
 };
 
-// Failure jetdb::RowChanged with the conflict's text.
+// The failure jetdb::RowChanged, with the conflict and its text.
 class RowChanged : public Failure
 {
 public:
@@ -54,12 +54,13 @@ private:
     RowConflict m_conflict;
 };
 
-// As steps of Engine::Write: raise RowChanged unless the stored row is as it was read. Compared is what the program reads of a row.
+// Raise RowChanged unless the stored row is as it was read, in the columns that the program reads. To be called within the steps of
+// Engine::Write.
 void RequireAsRead(Engine& engine, const EmployeeRow& read);
 void RequireAsRead(Engine& engine, const CompanyRow& read);
 void RequireAsRead(Engine& engine, const TimeRecordRow& read);
 
-// What the options are now.
+// The options as they are stored now; on a server they are locked until the write ends.
 [[nodiscard]] OptionsRow PresentOptions(Engine& engine);
 void RequireAsRead(const OptionsRow& present, const OptionsRow& read);
 void RequireAsRead(const CheckLimits& present, const CheckLimits& read);

@@ -7,7 +7,7 @@
 
 namespace ptk {
 
-// Of CJetDB. A failed open leaves the engine's own number instead of one of these. Why it was is LastFailure's to tell.
+// The error numbers of CJetDB. A failed open leaves the engine's own number instead of one of these. CJetDB::LastFailure tells the reason.
 namespace jetdb {
 inline constexpr std::int32_t NoDatabase = 403;                               // no handle, no name, or an operation found no open database
 inline constexpr std::int32_t NoSql = 406;                                    // neither an argument nor a stored statement
@@ -20,7 +20,7 @@ inline constexpr std::int32_t NegativeCount = 421;                            //
 inline constexpr std::int32_t WorkingReferenceLost = listerror::InsertFailed; // a loaded company did not arrive in its list
 } // namespace jetdb
 
-// Of CTimeRecSQLConverter: the text of a statement could not be made.
+// The error numbers of CTimeRecSQLConverter: the text of a statement could not be made.
 namespace sqlerror {
 inline constexpr std::int32_t InsertFailed = 810;
 inline constexpr std::int32_t UpdateFailed = 811;

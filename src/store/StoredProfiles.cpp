@@ -26,7 +26,7 @@ constexpr const char* kDeleteProfile = "DELETE FROM _Profile WHERE ProfileID = :
 constexpr auto kTaken = "there is a profile \"{}\" already";
 constexpr auto kNoLonger = "the profile \"{}\" was changed or deleted by somebody else since it was read";
 
-// Of a CJetDB or an Engine; `prepare` makes a statement of a text.
+// Reads the profiles of a CJetDB or an Engine; `prepare` makes a statement of a text.
 template <typename Database, typename Prepare>
 std::vector<StoredProfile> ReadStored(Database& database, Prepare prepare)
 {
@@ -40,7 +40,7 @@ std::vector<StoredProfile> ReadStored(Database& database, Prepare prepare)
     return profiles;
 }
 
-// Within a write: nobody else changes them before its end.
+// Reads the profiles within a write, and makes their table where it is missing. Nobody else changes them before the write ends.
 std::vector<StoredProfile> ReadToChange(Engine& engine)
 {
     if (!engine.HasTable(kProfileTable)) {

@@ -1,4 +1,4 @@
-// The profiles of the accountant's table as the table _Profile keeps them: what a name stands for is no concern of the store.
+// The profiles of the accountant's table as the table _Profile keeps them. The store does not know what their texts mean.
 #pragma once
 
 #include <cstdint>
@@ -19,16 +19,17 @@ struct StoredProfile
     bool operator==(const StoredProfile&) const = default;
 };
 
-// In the order in which they were made; none where a file has no such table, which its first profile makes. Raises the failure of a
-// database that cannot be opened or read. REQUIRES: database is not nullptr, here and below.
+// Reads all profiles, in the order in which they were made; none where the database has no such table, which the first profile makes.
+// Raises the failure of a database that cannot be opened or read. REQUIRES: database is not nullptr.
 [[nodiscard]] std::vector<StoredProfile> LoadStoredProfiles(const std::shared_ptr<CJetDB>& database);
 
-// Adds a new profile, or puts `profile` in the place of the one that was read. On disk when it answers true; false with what
+// Adds `profile` where asRead.id is 0, else puts it in the place of `asRead`. On disk when it answers true; false with what
 // CJetDB::ExecuteSteps leaves: also where another profile has that name, letter case aside, and where the stored one is no longer as it was
-// read. Profiles are not in the edit trail: they are how figures are written, not figures.
+// read. Profiles are not in the edit trail: they say how figures are written, they are no figures. REQUIRES: database is not nullptr.
 [[nodiscard]] bool SaveStoredProfile(const std::shared_ptr<CJetDB>& database, const StoredProfile& profile, const StoredProfile& asRead);
 
-// On disk when it answers true; false with what CJetDB::ExecuteSteps leaves, also where the stored one is no longer as it was read.
+// Deletes a profile. On disk when it answers true; false with what CJetDB::ExecuteSteps leaves, also where the stored one is no longer as
+// it was read. REQUIRES: database is not nullptr.
 [[nodiscard]] bool DeleteStoredProfile(const std::shared_ptr<CJetDB>& database, const StoredProfile& asRead);
 
 } // namespace ptk
