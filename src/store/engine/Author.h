@@ -1,16 +1,16 @@
-// Who writes and why, as the edit trail tells it.
+// Who changes the database and why, as the edit trail records it.
 #pragma once
 
 #include <string>
 
 namespace ptk {
 
-// An empty text is told as nothing, as another tool's writes are.
+// The edit trail stores an empty text as null, as for other tools' writes.
 struct Author
 {
-    std::string name;     // of the person, or the account
+    std::string name;     // the person's, or the account's
     std::string program;  // "ptk-admin" or "ptk-console"
-    std::string reason{}; // what the person says to it
+    std::string reason{}; // what the person gives as the reason
 };
 
 } // namespace ptk

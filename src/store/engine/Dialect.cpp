@@ -11,7 +11,7 @@ namespace ptk {
 
 namespace {
 
-// `keyword` in lower case.
+// Whether the token is the keyword, which is given in lower case.
 bool IsKeyword(const Token& token, std::string_view keyword)
 {
     return token.kind == TokenKind::Word && token.text.size() == keyword.size() && LowerCase(token.text) == keyword;
@@ -33,7 +33,7 @@ std::string BareName(const Token& token)
     return LowerCase(quoted ? token.text.substr(1, token.text.size() - 2) : token.text);
 }
 
-// The tokens that carry meaning, as they follow each other. Those between them stay where they are.
+// The tokens that carry meaning, in their order. The blanks between them stay where they are.
 using Meaning = std::vector<Token*>;
 
 Meaning WithoutBlanks(std::vector<Token>& tokens)
@@ -48,7 +48,7 @@ Meaning WithoutBlanks(std::vector<Token>& tokens)
     return meaning;
 }
 
-// One blank stays, so that the neighbours do not grow together.
+// Drops tokens. One blank stays, so that the neighbours do not grow together.
 void Drop(const Meaning& meaning, std::size_t from, std::size_t to)
 {
     for (std::size_t i = from; i < to; ++i) {
@@ -61,7 +61,7 @@ bool MayStandInColumnList(const Token& token)
     return IsName(token) || IsSign(token, '.') || IsSign(token, ',') || IsSign(token, '*');
 }
 
-// DELETE a, b FROM t: rows go as a whole, whatever columns are listed.
+// Drops the columns of DELETE a, b FROM t: rows are deleted whole, whatever columns are listed.
 void DropColumnList(const Meaning& meaning)
 {
     std::size_t from = 1;
@@ -85,7 +85,7 @@ void DropQualifier(const Meaning& meaning, std::size_t position, const std::stri
     }
 }
 
-// UPDATE t SET t.a = 1, t.b = 2: an assigned column can only be the table's own.
+// Drops the table's name in UPDATE t SET t.a = 1, t.b = 2: an assigned column can only be the table's own.
 void DropQualifiers(const Meaning& meaning)
 {
     if (meaning.size() < 3 || !IsName(*meaning[1]) || !IsKeyword(*meaning[2], "set")) {
@@ -103,7 +103,7 @@ void DropQualifiers(const Meaning& meaning)
     }
 }
 
-// Blanks around it, as two texts side by side would be one with a quote in it.
+// The stored text of a date. It gets blanks around it, because two texts side by side would be one with a quote in it.
 std::string DateText(std::string_view literal)
 {
     if (literal.size() < 2 || literal.back() != '#') {

@@ -7,7 +7,7 @@
 
 namespace ptk {
 
-// The queries' texts are part of the database, so that one of other tables can bring queries that fit them.
+// The queries' texts are part of the database, so that one with other tables can bring queries that fit them.
 std::string Engine::StoredText(std::string_view query)
 {
     const auto search = Prepare("SELECT sql FROM _StoredQuery WHERE name = :name");
@@ -28,7 +28,7 @@ std::unique_ptr<Statement> Engine::PrepareStored(std::string_view query, std::st
 {
     std::string text = StoredText(query);
     text.erase(text.find_last_not_of(" \t\r\n;") + 1);
-    // On a line of its own, since the text may end in a comment.
+    // The condition stands on a line of its own, since the text may end in a comment.
     auto statement = Prepare("SELECT * FROM (" + text + "\n) AS Listed WHERE " + std::string(condition));
     statement->Bind(parameters);
     return statement;

@@ -1,11 +1,11 @@
-// Which failures are a database's own.
+// Tells which failures are a database's own.
 #pragma once
 
 #include "platform/Failure.h"
 
 namespace ptk {
 
-// The sources of failures, by what keeps the database.
+// The sources of a database's failures: of a file, and of a server.
 inline constexpr const char* kFileSource = "SQLite";
 inline constexpr const char* kServerSource = "PostgreSQL";
 

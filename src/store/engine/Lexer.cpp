@@ -23,14 +23,14 @@ bool IsWordPart(char c)
     return IsWordStart(c) || IsDigit(c) || c == '$';
 }
 
-// The length up to and including `end`, or all of the rest when it is not there.
+// The length up to and including `end`, or of the whole rest where it is not there.
 std::size_t LengthThrough(std::string_view rest, std::string_view end, std::size_t from)
 {
     const std::size_t found = rest.find(end, from);
     return found == std::string_view::npos ? rest.size() : found + end.size();
 }
 
-// A doubled quote inside stands for one and does not end it.
+// The length of a quoted token. A doubled quote inside stands for one and does not end it.
 std::size_t QuotedLength(std::string_view rest)
 {
     const char quote = rest.front();
@@ -47,7 +47,7 @@ std::size_t LengthWhile(std::string_view rest, Predicate belongs)
     return static_cast<std::size_t>(std::find_if_not(rest.begin(), rest.end(), belongs) - rest.begin());
 }
 
-// Comments and white space; 0 for anything else.
+// The length of a comment or of white space; 0 for anything else.
 std::size_t BlankLength(std::string_view rest)
 {
     if (rest.starts_with("--")) {

@@ -1,4 +1,4 @@
-// Takes SQL text apart, without loss: the tokens' texts one after the other are the statement again.
+// Splits SQL text into tokens; joined again, they are the same statement.
 #pragma once
 
 #include <cstdint>

@@ -75,7 +75,7 @@ Value RecordSet::Stored(const Cell& cell) const
     case Kind::Null:
         return {};
     case Kind::Integer:
-        // The loosely typed value knows no wider integer, and a double holds every number that is not an overflow anyway.
+        // Value has no wider integer, and a double holds every number that is not an overflow anyway.
         return cell.content == static_cast<std::int32_t>(cell.content) ? Value(static_cast<std::int32_t>(cell.content))
                                                                        : Value(static_cast<double>(cell.content));
     case Kind::Real:
@@ -90,7 +90,7 @@ Value RecordSet::Stored(const Cell& cell) const
     throw Failure(failure::TypeMismatch); // bytes are none of the types the program knows
 }
 
-// Other tools do not keep to the declared types, so the typed readers convert; what was stored as declared takes the short way.
+// Other tools do not keep to the declared types, so the typed readers convert; they are quick where the value has the declared type.
 Value RecordSet::Field(std::size_t column) const
 {
     const Cell& cell = At(column);
@@ -157,7 +157,7 @@ DateTime RecordSet::DateTimeAt(std::size_t column) const
     if (const auto moment = cell.kind == Kind::Text ? FromStoredText(TextOf(cell)) : std::nullopt) {
         return *moment;
     }
-    static_cast<void>(Stored(cell).ToDateTime()); // tells what is no date at all
+    static_cast<void>(Stored(cell).ToDateTime()); // raises what tells that it is no date at all
     throw Failure(failure::TypeMismatch, "PTK", kNotStored);
 }
 

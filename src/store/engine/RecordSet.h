@@ -12,29 +12,29 @@
 
 namespace ptk {
 
-// Starts on its first row. Columns are addressed by name in any letter case, or by the ordinal that Column() gave, which the loaders use on
-// their hot path. The typed readers raise Failure 94 for a null, 13 for what has no such meaning, 6 for what does not fit; all readers
-// raise 3021 when no row is current and 9 for a column that is not there.
+// A record set starts on its first row. Columns are addressed by name in any letter case, or by the ordinal that Column() gave, which is
+// faster for many rows. The typed readers raise Failure 94 for a null, 13 for a value without such a meaning, 6 for one that does not fit;
+// all readers raise 3021 when no row is current and 9 for a column that is not there.
 class RecordSet
 {
 public:
-    // All rows, whether visited or not.
+    // The number of all rows, whether visited or not.
     [[nodiscard]] std::int32_t RecordCount() const { return m_rowCount; }
 
     [[nodiscard]] bool EndOfFile() const { return m_row >= m_rowCount; }
 
-    // Raises Failure 3021 on no rows.
+    // Goes to the first row; raises Failure 3021 where there are none.
     void MoveFirst();
 
-    // Past the last row EndOfFile() is true; raises Failure 3021 when it already is.
+    // Goes to the next row; behind the last one EndOfFile() is true. Raises Failure 3021 when it already is.
     void MoveNext();
 
-    // Raises Failure 9.
+    // The ordinal of a column; raises Failure 9 where there is none of that name.
     [[nodiscard]] std::size_t Column(std::string_view name) const;
 
     [[nodiscard]] Value Field(std::string_view name) const { return Field(Column(name)); }
 
-    // Typed by the column's declaration; null stays null.
+    // The value in the type that its column was declared with; null stays null.
     [[nodiscard]] Value Field(std::size_t column) const;
 
     [[nodiscard]] bool IsNull(std::size_t column) const;
@@ -44,25 +44,25 @@ public:
     [[nodiscard]] float SingleAt(std::size_t column) const;
     [[nodiscard]] bool BooleanAt(std::size_t column) const;
 
-    // Of the stored form YYYY-MM-DD HH:MM:SS of a real moment alone: any other text would sort and be searched as what it is not. No
-    // allocation.
+    // A date-time in the stored form YYYY-MM-DD HH:MM:SS of a real moment; any other form raises 13, because searches and sorting would
+    // take it for what it is not. No allocation.
     [[nodiscard]] DateTime DateTimeAt(std::size_t column) const;
 
-    // Of text cells only (13); valid as long as the record set.
+    // The text of a text cell; any other raises 13. Valid as long as the record set.
     [[nodiscard]] std::string_view TextAt(std::size_t column) const;
 
-    // For telling people of a value, whatever it is: as it is stored, on one line, texts in quotes and cut where they are long; NULL for a
+    // The value for people to read, whatever it is: as it is stored, on one line, texts in quotes and cut where they are long; NULL for a
     // null.
     [[nodiscard]] std::string Shown(std::size_t column) const;
 
-    // Whether it is a date-time, as text of the stored form YYYY-MM-DD HH:MM:SS alone: searches compare texts and pass over others.
+    // Whether the cell is a date-time in the stored form YYYY-MM-DD HH:MM:SS: searches compare texts and miss any other.
     [[nodiscard]] bool HasStoredDate(std::size_t column) const;
 
-    // How the engine hands the rows over; defined beside the engine.
+    // Through this class the engine fills a record set; see RecordSetBuilder.h.
     class Builder;
 
 private:
-    // What a column was declared as; Any for expressions and other tools' types, whose values go by how they are stored.
+    // The type that a column was declared with; Any for expressions and other tools' types, whose values are read as they are stored.
     enum class Type : std::uint8_t
     {
         Any,
@@ -88,7 +88,7 @@ private:
         Type type = Type::Any;
     };
 
-    // Cells of all rows stand in one row after the other, their texts in one string: few allocations for any number of rows.
+    // A cell. All rows' cells stand one after the other in one array, their texts in one string: few allocations for any number of rows.
     struct Cell
     {
         std::int64_t content = 0; // integer, bits of the real, seconds of the date-time, or the text's offset

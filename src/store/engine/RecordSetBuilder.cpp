@@ -10,7 +10,7 @@ namespace ptk {
 
 namespace {
 
-// More than a gigabyte is no answer but a query gone astray; ten million time records take 40 million cells.
+// A record set of more than a gigabyte comes from a wrong query; ten million time records take 40 million cells.
 constexpr std::size_t kMostCells = std::size_t{1} << 26U;
 constexpr std::size_t kMostTextBytes = std::size_t{1} << 30U;
 
@@ -49,7 +49,7 @@ void RecordSet::Builder::AddReal(double value)
     Add(Kind::Real, std::bit_cast<std::int64_t>(value));
 }
 
-// Date-times are most of what is read: taken apart while their text is at hand, they need no room of their own.
+// Most of what is read are date-times: converted while their text is at hand, they need no room for texts.
 void RecordSet::Builder::AddText(std::string_view value)
 {
     if (NextType() == Type::DateTime) {

@@ -17,13 +17,13 @@ public:
     void AddInteger(std::int64_t value) { Add(Kind::Integer, value); }
     void AddReal(double value);
 
-    // A date-time column takes its stored form apart at once.
+    // Adds a text; in a date-time column one in the stored form becomes a date-time at once.
     void AddText(std::string_view value);
 
-    // No column has such values; reading the cell is a type mismatch.
+    // Adds bytes. No column has such values: reading the cell raises 13.
     void AddBinary() { Add(Kind::Binary, 0); }
 
-    // Raises Failure 7 when the rows take more than a gigabyte.
+    // Ends the row. Raises Failure 7 when the cells, or their texts, take more than a gigabyte.
     void EndRow();
 
     std::shared_ptr<RecordSet> Finish() { return std::move(m_rows); }

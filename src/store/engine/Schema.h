@@ -1,4 +1,4 @@
-// What a new database starts with, embedded from data/ at build time, so that the executables need no files of their own.
+// The SQL that makes a new database, embedded from data/ at build time, so that the executables need no files of their own.
 #pragma once
 
 namespace ptk {
@@ -10,7 +10,7 @@ extern const char* const kTrailEntrySql;    // what writes its entries; may be r
 extern const char* const kPaydaySql;        // what was paid, and the structure's number; may be run again, too
 extern const char* const kProfileSql;       // the table of profiles, where it is missing
 
-// What makes a server's database, to be run in this order.
+// The SQL that makes a server's database, to be run in this order.
 extern const char* const kServerSchemaSql;
 extern const char* const kServerStoredQueriesSql;
 extern const char* const kServerTrailFunctionsSql; // may be run again over an older version of them

@@ -9,10 +9,10 @@
 
 namespace ptk {
 
-// The zero date-time is 1899-12-30 00:00:00.
+// The stored text of a date-time; that of the zero date-time is 1899-12-30 00:00:00.
 [[nodiscard]] std::string StoredText(DateTime value);
 
-// Empty for every other form, dates that do not exist and years below 100 included. Does not allocate.
+// The date-time of a stored text; empty for every other form, dates that do not exist and years below 100. Does not allocate.
 [[nodiscard]] std::optional<DateTime> FromStoredText(std::string_view text);
 
 } // namespace ptk

@@ -1,4 +1,4 @@
-// The tables of a database that hold people's data, how it is handed on, and its trail, column by column.
+// The tables of a database that are copied whole, column by column: people's data, the settings, paydays, profiles and the edit trail.
 #pragma once
 
 #include <cstdint>
@@ -18,13 +18,13 @@ enum class ColumnKind : std::uint8_t
     Json // text that is JSON
 };
 
-// What is said of a column besides its kind.
+// What holds for a column besides its kind.
 enum class ColumnRule : std::uint8_t
 {
     None,
     MayLack,       // in a file of an earlier version, which has the table
     Unread,        // written, never read back by the program
-    AnyNumber,     // also one that is not greater than 0 means something
+    AnyNumber,     // a number below 1 means something, too
     Short,         // 16 bits in the program and in older databases
     Moment,        // without which the row makes no sense: an import leaves out one whose value is impossible
     TrueWhenAbsent // in older databases
@@ -44,13 +44,13 @@ struct StoredTable
     bool hasKey;                           // else it holds one row
 };
 
-// Whose changes have been told as long as there is a trail, in the order in which their triggers are made.
+// The tables whose changes the edit trail has recorded since its first version, in the order in which their triggers are made.
 inline constexpr const char* kFirstToldTables[] = {"TimeRecord", "Employee", "Company", "_System", "_CheckLimits"};
 
-// All of them, the trail last.
+// All these tables, the trail last.
 [[nodiscard]] std::span<const StoredTable> StoredTables();
 
-// REQUIRES a name among them, in their spelling.
+// The table of that name. REQUIRES: the name is one of StoredTables, spelled as there.
 [[nodiscard]] const StoredTable& StoredTableOf(std::string_view name);
 
 } // namespace ptk

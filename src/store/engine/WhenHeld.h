@@ -1,12 +1,12 @@
-// What is to be done about a database that somebody else has.
+// What to do about a database that somebody else has.
 #pragma once
 
 namespace ptk {
 
 enum class WhenHeld
 {
-    Wait,  // up to a second, for a server up to five
-    Refuse // at once, of a server after a second
+    Wait,  // up to a second for a file, up to five for a server
+    Refuse // at once for a file, after a second for a server
 };
 
 } // namespace ptk

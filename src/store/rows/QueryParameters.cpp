@@ -31,7 +31,7 @@ std::vector<Parameter> AddNewEmployeeParameters(const EmployeeRow& employee)
     };
 }
 
-// The company deliberately comes twice, as the password above.
+// The company deliberately comes twice, as the password does in AddNewEmployeeParameters.
 std::vector<Parameter> UpdateEmployeeParameters(const EmployeeRow& employee)
 {
     return {

@@ -1,4 +1,4 @@
-// What the stored queries are given. The parameters' names are the database's contract and differ on purpose between insert, update and the
+// The parameters of the stored queries. Their names are the database's contract and differ on purpose between insert, update and the
 // columns of the listings.
 #pragma once
 
@@ -9,7 +9,7 @@
 
 namespace ptk {
 
-// In the order in which they are assigned.
+// The parameters of the stored query of that name, in the order in which they are assigned.
 [[nodiscard]] std::vector<Parameter> AddNewEmployeeParameters(const EmployeeRow& employee);
 [[nodiscard]] std::vector<Parameter> UpdateEmployeeParameters(const EmployeeRow& employee);
 [[nodiscard]] std::vector<Parameter> AddNewCompanyParameters(const CompanyRow& company);

@@ -1,5 +1,5 @@
-// Which field of a row holds which column: in the order in which a table's columns are read, the key first. What reads rows and what
-// compares them goes by these.
+// Which field of a row holds which column: in the order in which a table's columns are read, the key first. Reading and comparing rows both
+// use these.
 #pragma once
 
 #include "store/rows/Rows.h"

@@ -76,14 +76,14 @@ RowReader::RowReader(const RecordSet& rows, const TableColumns& columns, std::ve
     m_found = &found;
 }
 
-// "Employee 40: AutoDeductLunchLength is 70000 (Overflow)".
+// Where the value stands, in words: "Employee 40: AutoDeductLunchLength is 70000 (Overflow)".
 std::string RowReader::Place(std::size_t column, const std::string& why) const
 {
     return fmt::format("{}{}: {} is {} ({})", m_table.table, m_table.hasKey ? ' ' + m_rows.Shown(m_columns.front()) : "",
                        m_table.columns[column]->name, m_rows.Shown(m_columns[column]), why);
 }
 
-// Of what the program reads without noticing anything; only the check of a file does.
+// Raises a doubt about a value that the program reads without a complaint; only the check of a file raises it.
 void RowReader::Doubt(const char* why) const
 {
     if (m_found != nullptr) {
@@ -197,7 +197,7 @@ TimeRecordRow RowReader::ReadTimeRecord()
     return row;
 }
 
-// In the order of the table.
+// Reads the columns in the order of the table.
 void RowReader::ReadOptions(OptionsRow& row)
 {
     m_next = 0;

@@ -1,4 +1,4 @@
-// Takes the rows of the program's tables into plain rows, each column by its rule.
+// Reads the rows of the program's tables into plain rows, each column by its rule.
 #pragma once
 
 #include "store/engine/StoredTable.h"
@@ -17,7 +17,7 @@ class RecordSet;
 struct TableColumns
 {
     const char* table;
-    std::vector<const StoredColumn*> columns; // the first is the key, where there is one, by which a row is told to people
+    std::vector<const StoredColumn*> columns; // the first is the key, where there is one; people are told a row by it
     bool hasKey;
 };
 
@@ -32,20 +32,20 @@ struct TableColumns
 class RowReader
 {
 public:
-    // Both must outlive it. Raises Failure 9 for a missing column.
+    // Both arguments must outlive the reader. Raises Failure 9 for a missing column.
     RowReader(const RecordSet& rows, const TableColumns& columns);
 
-    // For the check of a file: what cannot be read is put behind `found` instead of being raised, and so is what can be read but never
-    // serves: dates in any other form than the stored one, which searches pass over, missing times of a shift, keys below 1.
+    // For the check of a file: what cannot be read, such as a date in any other form than the stored one, is added to `found` instead of
+    // being raised, and so is what can be read but is never of use: missing times of a shift, keys below 1.
     RowReader(const RecordSet& rows, const TableColumns& columns, std::vector<std::string>& found);
 
     EmployeeRow ReadEmployee();
     CompanyRow ReadCompany();
 
-    // Unchanged.
+    // Reads a time record; its state is Unchanged.
     TimeRecordRow ReadTimeRecord();
 
-    // Nothing may be null; what was read before a failure stays in the row.
+    // Reads the options into `row`. Nothing may be null; what was read before a failure stays in the row.
     void ReadOptions(OptionsRow& row);
 
 private:

@@ -1,5 +1,5 @@
-// One record of each table as plain fields: what travels between the database access class and the entities of the model, which lie above
-// it. The defaults are those of a freshly made entity; a loader leaves a field alone where the column's rule says so.
+// One record of each table as plain fields: they carry it between the database access class and the entities of the model above it. The
+// defaults are those of a freshly made entity; a loader leaves a field unchanged where the column's rule says so.
 #pragma once
 
 #include "platform/text/DateTime.h"
@@ -9,7 +9,7 @@
 
 namespace ptk {
 
-// Persistence states of every entity.
+// The states of an entity: what has to be stored of it.
 namespace state {
 inline constexpr std::int32_t NothingToDo = -1;
 inline constexpr std::int32_t Unchanged = 0;
@@ -77,8 +77,8 @@ struct OptionsRow
     DateTime AutoShiftEndTime;
 };
 
-// The lists that a loader fills: makes an unchanged entity of the row and inserts it at the 1-based position. False when the list did not
-// take it.
+// A list that a loader fills. InsertLoaded makes an unchanged entity of the row and inserts it at the 1-based position; false when the list
+// did not take it.
 class EmployeeSink
 {
 public:
