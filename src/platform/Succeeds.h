@@ -26,8 +26,7 @@ bool Succeeds(Step step, Told told)
     }
 }
 
-// Runs the step and answers false when it raised anything; the failure is lost. For callers such as event handlers, which tell the user of
-// the false.
+// Runs the step; false when it raised anything, and the failure is lost: for callers such as event handlers, which tell of the false.
 template <typename Step>
 bool Succeeds(Step step)
 {

@@ -11,12 +11,10 @@ namespace ptk {
 // use the database: what it asks there is refused with 5.
 using WaitTurn = std::function<bool()>;
 
-// Sets the turn of the calling thread. The thread of the windows calls it before the first database is opened. A thread without a turn does
-// nothing while it waits.
+// Sets the turn of the calling thread; that of the windows calls it before the first database is opened. A thread without one just waits.
 void WhileWaiting(WaitTurn turn);
 
-// While an object of this class lives, its turn takes the place of the thread's turn: for a work that shows its progress and can be
-// cancelled.
+// While an object of this class lives, its turn takes the place of the thread's: for a work that shows its progress and can be cancelled.
 class WaitingAs
 {
 public:
@@ -45,8 +43,7 @@ void CameRound();
 // When the next turn of this thread falls due; a moment in the past where there was no turn yet.
 [[nodiscard]] std::chrono::steady_clock::time_point NextTurn();
 
-// Takes the turn that is due, if one is. To be called again and again in a wait, and between the steps of work that may be slow. False
-// where it is to be given up.
+// Takes the turn that is due, if one is; false where the wait is to be given up. To be called often in a wait and in work that may be slow.
 [[nodiscard]] bool GoOn();
 
 // Runs `work` to its end, on a thread of its own while this thread takes its turns; on this thread where it has no turn or no other thread

@@ -21,8 +21,8 @@ public:
     // The path that GetDatabasePath found, with backslashes as configured.
     [[nodiscard]] std::string DatabasePath() const { return m_databasePath; }
 
-    // Finds the path. True also without a configuration (the path stays as it was) or without the key (the path is then ""); false only
-    // when reading raised a failure.
+    // Finds the path. True also without a configuration (the path stays) or without the key (it becomes ""); false only when reading
+    // raised.
     bool GetDatabasePath();
 
 private:

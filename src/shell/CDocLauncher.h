@@ -11,8 +11,7 @@ namespace ptk {
 class Desktop;
 class DesktopWindow;
 
-// The title of the box about any document that is not where it should be: deliberately the guide's title, which the reports have always
-// shown as well.
+// The title of the box about a document that is not where it should be: deliberately the guide's, which the reports have always shown too.
 inline constexpr const char* kNotOpenedTitle = "User's Guide Open Error";
 
 class CDocLauncher
@@ -24,8 +23,7 @@ public:
     std::string FileName(const std::string& thedocname);
     [[nodiscard]] std::int32_t ErrorNumber() const { return m_errorNumber; }
 
-    // Open and print a document. False when the shell refused or an argument is missing (`theparent` nullptr, `thedocname` empty). Nothing
-    // is raised.
+    // Open and print a document; raise nothing. False when the shell refused, `theparent` is nullptr or `thedocname` is empty.
     bool DisplayDocument(const DesktopWindow* theparent, const std::string& thedocname);
     bool PrintDocument(const DesktopWindow* theparent, const std::string& thedocname);
 

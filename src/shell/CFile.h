@@ -58,8 +58,7 @@ public:
     // Closes the file. False when the system could not keep what was written; the file is closed all the same.
     bool CloseFile();
 
-    // Reads the next item: up to a comma or the line's end, quotes removed. At the end of the file it answers "EOF" and sets EndOfFile; ""
-    // after an error.
+    // Reads the next item: up to a comma or the line's end, quotes removed. "EOF" and EndOfFile at the end of the file; "" after an error.
     std::string ReadLine();
 
     // Writes the present moment as the general date-time text; deliberately answers false even when it was written.

@@ -42,7 +42,7 @@ bool CFileAdaptor::ReadFile(const std::string& thefilename)
     });
 }
 
-// Inserts what is read. The position counts the dropped lines, too, so that the reading of a file whose device keeps failing ends: at the
+// Inserts what is read. The position counts dropped lines, too, which ends the reading of a file whose device keeps failing: at the
 // 32,768th item.
 void CFileAdaptor::ReadLines(CFile& file)
 {

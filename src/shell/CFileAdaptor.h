@@ -43,8 +43,8 @@ public:
     // when it could not be written.
     bool WriteFile(const std::string& thefilename);
 
-    // Why the last ReadFile could not open its file, or the last WriteFile could not write it: they answer true all the same. Number 0 when
-    // they could.
+    // Why the last ReadFile could not open its file, or the last WriteFile not write it, though they answered true. Number 0 when they
+    // could.
     [[nodiscard]] const Failure& LastFailure() const { return m_lastFailure; }
 
     // Adds a line, deliberately before the present last line, not after it.

@@ -50,8 +50,7 @@ protected:
     KeyedStore() { Create(); }
     ~KeyedStore() = default;
 
-    // Inserts at a position: one above Count appends, one below 1 inserts at the front. Appending is amortised O(1). False with 312 when it
-    // fails.
+    // Inserts at a position: above Count at the end (amortised O(1)), below 1 at the front. False with 312 when it fails.
     bool InsertAt(Entry thisvalue, std::int32_t thisindex)
     {
         ClearError();

@@ -51,8 +51,7 @@ class CJetDB
 public:
     // While an object of this class lives, the file is held across any number of operations: all that read see the same moment, until one
     // of them stores something, and their opening and closing costs nothing. Where the file could not be opened, each operation fails at
-    // once, without waiting for its own second. Holds may nest; the file is closed after the last. Not to be kept while the user is asked
-    // something.
+    // once, without waiting for its own second. Holds may nest; the last closes the file. Not to be kept while the user is asked.
     class Hold
     {
     public:
@@ -82,8 +81,7 @@ public:
         std::shared_ptr<CJetDB> m_database;
     };
 
-    // While an object of this class lives, all that is stored has this reason in the edit trail; an empty text is none. The innermost
-    // reason counts.
+    // While an object of this class lives, all that is stored has this reason in the edit trail; "" is none. The innermost reason counts.
     class Reason
     {
     public:
@@ -149,8 +147,8 @@ public:
     // Opens the database that the locator found. An empty path opens nothing, answers false and leaves ErrorNumber unchanged.
     bool OpenPTKDatabase(const std::shared_ptr<CDatabaseLocator>& thedatabaselocator);
 
-    // Opens the database exclusively and never creates a file. False with 403 (no name) or the engine's own number. The connect text and
-    // the password are accepted and not used.
+    // Opens the database exclusively; never creates a file. False with 403 (no name) or the engine's own number. Connect text and password
+    // are not used.
     bool OpenDB(const std::string& paramName = "", const std::string& paramConnect = "", const std::string& paramPassword = "");
 
     // Closes the database, which a Hold keeps ready all the same. False only when nothing was ever opened.
@@ -194,8 +192,8 @@ public:
     // Conflict.
     bool ExecuteSteps(const std::function<void(Engine& engine)>& steps);
 
-    // Members for employees and companies: each opens the database when it is closed and closes it after success; a failed statement (411
-    // to 413) leaves it open.
+    // Members for employees and companies open the database when it is closed and close it after success; failed (411 to 413), they leave
+    // it open.
     bool AddNewEmployee(const EmployeeRow& theemployee);
     bool LoadEmployeeList(EmployeeSink& thelist);
 

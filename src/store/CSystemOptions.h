@@ -44,8 +44,7 @@ public:
     bool Load();
 
     // Writes period length and shift times (never name and version) and leaves the database closed. After a Load it writes only if they
-    // were changed since, and is refused when somebody else changed the options meanwhile: see CJetDB::Conflict. Raises 91 without a
-    // database.
+    // were changed, and is refused when somebody else changed them meanwhile: see CJetDB::Conflict. Raises 91 without a database.
     bool Update();
 
 private:

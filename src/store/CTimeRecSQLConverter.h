@@ -35,8 +35,7 @@ public:
     // Always true.
     bool ResetError();
 
-    // The statement for the record's state: 1 insert, 2 update, 3 delete; the empty text for any other. nullptr gives the empty text and
-    // keeps sqlstring.
+    // The statement for the record's state: 1 insert, 2 update, 3 delete, any other "". nullptr gives "" and keeps sqlstring.
     std::string ToSQL(const TimeRecordRow* thetimerecord);
 
     // The query for the employee's records from the start to the end. Both bounds are inclusive and compared as full date-times, so every

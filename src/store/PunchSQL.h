@@ -47,8 +47,7 @@ inline constexpr auto kOne = "EmployeeID = :employee";
                        Said(words.minuteOfDay, "StartTime"));
 }
 
-// The employees who have records on the card of the days from :first to the midnight :end; records that start at :end or later do not
-// count.
+// The employees who have records on the card of the days from :first to the midnight :end, those that start from :end on left out.
 [[nodiscard]] inline std::string WithShiftsIn(const EngineWords& words)
 {
     return fmt::format("SELECT EmployeeID FROM Employee WHERE EXISTS (SELECT 1 FROM TimeRecord WHERE TimeRecord.EmployeeID = "

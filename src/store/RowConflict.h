@@ -54,8 +54,7 @@ private:
     RowConflict m_conflict;
 };
 
-// Raise RowChanged unless the stored row is as it was read, in the columns that the program reads. To be called within the steps of
-// Engine::Write.
+// Raise RowChanged unless the stored row is as read, in the columns that the program reads. For use within the steps of Engine::Write.
 void RequireAsRead(Engine& engine, const EmployeeRow& read);
 void RequireAsRead(Engine& engine, const CompanyRow& read);
 void RequireAsRead(Engine& engine, const TimeRecordRow& read);

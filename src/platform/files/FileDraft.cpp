@@ -97,8 +97,8 @@ bool IsAbandoned(const path& draft)
     return ::fstat(file.Descriptor(), &status) == 0 && S_ISREG(status.st_mode) && Lock(file);
 }
 
-// The name of the draft that a file is or belongs to: endings behind it stand for what an engine keeps there, such as its journal. Empty
-// for other files.
+// The name of the draft that a file is or belongs to (endings behind it stand for what an engine keeps there, such as its journal); else
+// empty.
 std::string_view DraftOf(std::string_view name)
 {
     const std::size_t ending = name.rfind(kEnding);
@@ -260,8 +260,7 @@ Failure FileDraft::AlreadyThere(const std::string& target)
 
 namespace {
 
-// The path that a link leads to, so that the link stays. Some links lead to no file at all, such as a program's standard output that is a
-// pipe.
+// The path that a link leads to, so that the link stays. Some links lead to no file at all, such as that of a standard output to a pipe.
 std::string BehindLinks(const std::string& path)
 {
     std::error_code error;

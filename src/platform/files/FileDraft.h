@@ -40,8 +40,8 @@ public:
     // except when only the last step failed, as for Replace.
     void PlaceNew();
 
-    // Gives the draft another name in the target's folder. False where something has that name; it is then still a draft. Raises what
-    // PlaceNew raises, except AlreadyThere.
+    // Gives the draft another name in the target's folder. False, and still a draft, where something has that name. Raises what PlaceNew
+    // raises, except AlreadyThere.
     [[nodiscard]] bool PlaceAs(const std::string& target);
 
     // The failure 75 that names the target.

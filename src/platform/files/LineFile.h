@@ -1,5 +1,4 @@
-// Text files by number: delimited input and line output. Writing is unbuffered: when the call returns, the text is on its way to the disk
-// and a failure is known.
+// Text files by number: delimited input and line output, unbuffered: when a write returns, it is on its way to the disk or has failed.
 #pragma once
 
 #include <cstdint>
@@ -23,8 +22,7 @@ enum class Mode : std::int16_t
 // Raises 52 (bad number), 53 (no such file), 55 (number in use), 70, 75 (no regular file), 76 (no such folder), 67, 57, 61.
 void Open(std::int32_t number, const std::string& path, Mode mode);
 
-// Closes the file. Raises 52 when no file is open under the number, 57 or 61 when the system reports a late write failure; the number is
-// free again all the same.
+// Closes the file. Raises 52 when the number has no open file, 57 or 61 for a late write failure; the number is free again all the same.
 void Close(std::int32_t number);
 
 [[nodiscard]] bool AtEnd(std::int32_t number);

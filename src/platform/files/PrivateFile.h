@@ -6,8 +6,8 @@
 
 namespace ptk {
 
-// A file in a new folder among the system's temporary files, both for the owner only. The destructor removes both; a program that has the
-// file open by then can still read it.
+// A file in a new folder among the system's temporary files, both for the owner only. The destructor removes both; whoever has the file
+// open keeps it.
 class PrivateFile
 {
 public:

@@ -11,8 +11,7 @@ namespace ptk {
 // The mode of files that the program makes: names and pay are nobody else's business.
 inline constexpr mode_t kOwnerOnly = S_IRUSR | S_IWUSR;
 
-// Owns a file descriptor. Its members raise the failure of the errno: 61 (disk full, or beyond a limit on file size or space), 57 and the
-// like.
+// Owns a file descriptor. Members raise the failure of the errno: 61 (disk full, or beyond a limit on file size or space), 57 and the like.
 class SystemFile
 {
 public:

@@ -66,8 +66,7 @@ class Desktop
 public:
     virtual ~Desktop() = default;
 
-    // Shows a modal message box and returns the button pressed. Closing the box counts as Cancel, else as No, where there is such a button,
-    // else as Ok.
+    // Shows a modal message box; returns the button pressed. Closing the box counts as Cancel or No where there is one, else as Ok.
     virtual Answer MessageBox(const std::string& text, const std::string& title, Icon icon, Buttons buttons) = 0;
 
     // Shows a message box with a line for a reason below the text. A desktop without windows does not ask for one.
@@ -78,9 +77,9 @@ public:
 
     virtual void SetPointer(Pointer pointer) = 0;
 
-    // Hands an existing document to the desktop's opener or to the print spooler, without waiting until it is shown or printed. `path` is
-    // in the platform's own form. Returns more than ShellSuccess when it was taken over, else ShellFileNotFound, ShellNoProgram, or another
-    // code up to ShellSuccess.
+    // Hands an existing document to the desktop's opener or to the print spooler and does not wait until that is done. `path` is in the
+    // platform's own form. Returns more than ShellSuccess when it was taken over, else ShellFileNotFound, ShellNoProgram, or another code
+    // up to it.
     virtual std::int32_t Shell(const DesktopWindow& owner, ShellVerb verb, const std::string& path) = 0;
 
     // Hands a document to the print spooler under a title that the print queue shows. Returns what Shell returns.

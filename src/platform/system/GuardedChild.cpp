@@ -78,8 +78,7 @@ void RefuseNetwork()
     ::prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &program);
 }
 
-// Makes the three descriptors the standard streams. They are first copied to higher numbers, in case the parent's own streams are closed
-// and they have low ones.
+// Makes the three descriptors the standard streams, by way of higher numbers: theirs may be low if the parent's own streams are closed.
 void SetStreams(int input, int output, int errors)
 {
     constexpr int kClear = 10;

@@ -40,8 +40,8 @@ struct ChildEnd
     int status = -1;    // what it ended with; -1 where a signal ended it
 };
 
-// The constructor starts the child, the destructor ends it. The child has no network, only LC_ALL=C in its environment, makes no core dump
-// and cannot make a file grow.
+// A child that ends with this object at the latest. It has no network, only LC_ALL=C in its environment, no core dump, and makes no file
+// grow.
 class GuardedChild
 {
 public:
@@ -61,8 +61,8 @@ public:
     // The number of lines that the child has written to its standard error so far.
     [[nodiscard]] std::int64_t ErrorLines() const { return m_errorLines; }
 
-    // The failures of a child that works past its deadline, writes more than `mostOutput`, or is given up by `goesOn`. Their number is 0,
-    // their text one sentence.
+    // Failures, with number 0 and one sentence: the child worked past its deadline, wrote more than `mostOutput`, or was given up by
+    // `goesOn`.
     [[nodiscard]] static Failure Overdue();
     [[nodiscard]] static Failure TooMuch();
     [[nodiscard]] static Failure GivenUp();

@@ -5,8 +5,7 @@
 
 namespace ptk {
 
-// The first of a user's programs that makes an object with a given name hears of each later one. Nothing of it is left behind, however a
-// program ends.
+// The first of a user's programs that makes one with a name hears of each later one. Nothing of it is left behind, however a program ends.
 class OneOfAKind
 {
 public:

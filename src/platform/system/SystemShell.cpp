@@ -71,8 +71,7 @@ void DefaultSignals(posix_spawnattr_t& attributes)
     posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGDEF);
 }
 
-// Starts a program and answers its process number, or none when it cannot be run. What it writes goes to `sayings`: on the caller's
-// terminal it would only disturb.
+// Starts a program; answers its process number, or none when it cannot be run. What it writes goes to `sayings`, not to the terminal.
 std::optional<pid_t> Spawn(std::vector<std::string> arguments, const SystemFile& sayings)
 {
     posix_spawn_file_actions_t actions;

@@ -12,8 +12,7 @@ inline constexpr int kWesternCodePage = 1252;
 // Whether the program turns texts of this code page into UTF-8.
 [[nodiscard]] bool IsKnownCodePage(int codePage);
 
-// Turns a text into UTF-8. A byte that means nothing in the code page becomes U+FFFD. Raises 5 for a code page that is not known to this
-// system.
+// Turns a text into UTF-8; a byte that means nothing in the code page becomes U+FFFD. Raises 5 for a code page that this system lacks.
 [[nodiscard]] std::string FromCodePage(std::string_view text, int codePage);
 
 struct WesternText

@@ -27,8 +27,8 @@ public:
     // The text must outlive the reader.
     CsvReader(std::string_view text, char separator) : m_left(text), m_separator(separator) {}
 
-    // Reads the next record; false at the end of the text. Raises a failure with number 0 that names the line of a quotation mark which is
-    // never closed.
+    // Reads the next record; false at the end. Raises a failure with number 0 that names the line of a quotation mark which is never
+    // closed.
     [[nodiscard]] bool Next(CsvRecord& record);
 
 private:

@@ -67,8 +67,7 @@ private:
     std::int64_t m_seconds = 0;
 };
 
-// Calendar differences: how many times a day or minute begins from `from` to `to`, negative when `to` is earlier. Smaller units are
-// ignored.
+// Calendar differences: the beginnings of days or minutes from `from` to `to`, negative when `to` is earlier. Smaller units are ignored.
 [[nodiscard]] constexpr std::int64_t DaysBetween(DateTime from, DateTime to)
 {
     return to.DayNumber() - from.DayNumber();

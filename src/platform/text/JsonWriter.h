@@ -45,8 +45,7 @@ std::string JsonList(const Items& items, Write json)
     return '[' + list + ']';
 }
 
-// The inside of a JSON list in which each value has a line of its own: without the brackets, and without the line end behind the last
-// value.
+// The inside of a JSON list, each value on a line of its own: without the brackets and the line end behind the last value.
 template <typename Items, typename Write>
 std::string JsonLines(const Items& items, Write json)
 {

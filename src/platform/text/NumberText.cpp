@@ -13,8 +13,7 @@ namespace ptk {
 
 namespace {
 
-// Whether the text is decimal: an optional sign, digits with at most one point, an optional exponent. Keeps "inf", "nan" and hexadecimal
-// out.
+// Whether the text is an optional sign, digits with at most one point, an optional exponent. Keeps "inf", "nan" and hexadecimal out.
 bool IsDecimal(std::string_view text)
 {
     std::size_t at = !text.empty() && (text[0] == '+' || text[0] == '-') ? 1 : 0;

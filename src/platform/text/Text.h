@@ -26,15 +26,13 @@ void AppendDateTime(std::string& out, DateTime value, std::string_view pattern);
 
 // Reads a date-time: month/day/year with "/" or "-" (years of up to two digits: 00-29 are 2000-2029, 30-99 are 1930-1999), year first,
 // month names, times of 24 hours or with AM/PM, a date alone or a time alone (on the zero date), blanks around. Day and month change places
-// where only that is a date. Empty for anything else, a bare number included. It reads what GeneralText writes, to the same second over the
-// whole range.
+// where only that is a date. Empty for anything else, a bare number included. Reads all that GeneralText writes, to the same second.
 [[nodiscard]] std::optional<DateTime> ParseDateTime(std::string_view text);
 
 // Reads what ParseDateTime reads; raises Failure 13 for anything else.
 [[nodiscard]] DateTime ToDateTime(std::string_view text);
 
-// Read a number. Blanks around it are allowed; fractions round half to even. Raise Failure 13 for what is no number, 6 for what does not
-// fit.
+// Read a number; blanks around it are allowed, fractions round half to even. Raise Failure 13 for no number, 6 for one that does not fit.
 [[nodiscard]] std::int16_t ToInt16(std::string_view text);
 [[nodiscard]] std::int32_t ToInt32(std::string_view text);
 [[nodiscard]] float ToSingle(std::string_view text);

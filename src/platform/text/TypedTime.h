@@ -9,8 +9,7 @@
 
 namespace ptk {
 
-// Reads a time of day, on the zero date: 17, 830, 0830, 8.30, 8:30, 8:30:15, each with a, p, am or pm behind it. One or two digits are the
-// hour.
+// Reads a time of day, on the zero date: 17, 830, 0830, 8.30, 8:30, 8:30:15, each also with a, p, am or pm. One or two digits are the hour.
 [[nodiscard]] std::optional<DateTime> ReadTypedTime(std::string_view text);
 
 // Reads a day, at midnight: whatever reads as a date, or month and day of today's year ("3/5", "3-5").

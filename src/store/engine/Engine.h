@@ -66,12 +66,11 @@ public:
     // this author's, under the number of one step. The steps may be run twice, the first time without any effect.
     virtual void Write(const std::function<void()>& steps) = 0;
 
-    // Runs steps whose changes the edit trail does not record row by row; the caller adds one entry for them. REQUIRES: within Write or
-    // BeginMany.
+    // Runs steps whose changes the trail does not record row by row: the caller adds one entry. REQUIRES: within Write or BeginMany.
     virtual void Untold(const std::function<void()>& steps) = 0;
 
-    // Adds one entry to the open step of the trail, about the database as a whole: "restore" or "import", and from which file. Does nothing
-    // in a database without the trail.
+    // Adds one entry to the open step, about the database as a whole: "restore" or "import", and from which file. Nothing without the
+    // trail.
     virtual void AddWholeEntry(const char* action, const std::string& file) = 0;
 
     [[nodiscard]] virtual bool HasTrail() = 0;

@@ -64,8 +64,7 @@ public:
     // nothing for a file.
     virtual void AskAhead() {}
 
-    // The kind of the value in a column, counted from 0, of the row at which ForEachRow stands; this and the readers below are for its
-    // `take`.
+    // The kind of a value in the row at which ForEachRow stands; columns count from 0. This and the readers below are for its `take`.
     [[nodiscard]] virtual CellKind KindAt(int column) const = 0;
 
     // The value as a number; 0 for what is none.

@@ -1,5 +1,4 @@
-// Which field of a row holds which column: in the order in which a table's columns are read, the key first. Reading and comparing rows both
-// use these.
+// Which field of a row holds which column: in the order in which the columns are read, the key first. Rows are read and compared by this.
 #pragma once
 
 #include "store/rows/Rows.h"

@@ -77,8 +77,7 @@ struct OptionsRow
     DateTime AutoShiftEndTime;
 };
 
-// A list that a loader fills. InsertLoaded makes an unchanged entity of the row and inserts it at the 1-based position; false when the list
-// did not take it.
+// A list that a loader fills. InsertLoaded inserts an unchanged entity of the row at the 1-based position; false when it was not taken.
 class EmployeeSink
 {
 public:
