@@ -25,7 +25,7 @@ bool CDatabaseLocator::GetDatabasePath()
         if (m_configFile) {
             m_databasePath = m_configFile->FindKeyValue(kPathKey);
         }
-        // The program folder replaces all up to the first ">": text before the placeholder, too, and not the placeholder if a ">" precedes
+        // The program folder replaces all up to the first ">": also text before the placeholder, and not the placeholder if ">" precedes
         // it.
         if (m_databasePath.find(kPlaceholder) != std::string::npos) {
             m_databasePath = m_programFolder + m_databasePath.substr(m_databasePath.find('>') + 1);

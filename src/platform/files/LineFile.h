@@ -1,4 +1,4 @@
-// Text files by number: delimited input and line output, unbuffered: when a write returns, it is on its way to the disk or has failed.
+// Text files by number: delimited input and line output. Writes are unbuffered: when one returns, its text is on its way to the disk.
 #pragma once
 
 #include <cstdint>
