@@ -35,8 +35,8 @@ std::string HasDisplayName(const std::string& name, const EngineWords& words)
 
 } // namespace
 
-// Makes a change and remembers the password it stored, also an empty one and the first one: the trail only tells that it changed. The
-// memory is taken first: once the change is stored nothing may fail any more.
+// Makes a change and remembers the password it stored, also an empty one and the first one: the trail only tells that it changed. Room for
+// it is made first: once the change is stored nothing may fail any more.
 bool CJetDB::Remembering(PasswordChange password, const std::function<bool()>& change)
 {
     std::vector<PasswordChange>& passwords = m_memory->passwords;

@@ -11,7 +11,7 @@ class Statement;
 
 struct CheckLimits
 {
-    std::int32_t longShiftHours = 16; // a longer shift is a problem, and if open, nobody is thought at work; not negative
+    std::int32_t longShiftHours = 16; // a longer shift is a problem, a longer open one no longer counts as at work; not negative
     std::int32_t firstWeekday = 0;    // the first day of a work week, 0 Sunday to 6 Saturday
     bool showNotices = true;          // in windows and printed text; figures and data files always hold them
 

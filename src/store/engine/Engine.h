@@ -115,7 +115,7 @@ public:
 
     std::unique_ptr<Statement> PrepareStored(std::string_view query);
 
-    // A stored query that answers only the rows for which the condition holds, in its order. The condition is in the engine's own words.
+    // A stored query that answers, in its order, only the rows that meet the condition, which is in the engine's own words.
     std::unique_ptr<Statement> PrepareStored(std::string_view query, std::string_view condition, std::span<const Parameter> parameters);
     // Begins a transaction for many rows, unless it has begun; they are on disk at Commit only.
     virtual void BeginMany() = 0;
