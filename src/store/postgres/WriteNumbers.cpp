@@ -65,9 +65,10 @@ WriteNumbers NumbersIn(const ServerResult& answer, const ServerLine& line)
 // The server's own word on the transaction's number is not asked for: one that crashed gives numbers of what it forgot to others.
 WriteFate FateOf(const WriteNumbers& write, const Author& author, ServerLine& line, ServerLine::Clock::time_point until)
 {
-    const auto answers = line.Send({{kIsRunning, {write.transaction}, false, false},
-                                    {kIsStored, {std::to_string(write.step), write.transaction, author.name, author.program}, false, false}},
-                                   until);
+    const auto answers =
+        line.Send({{kIsRunning, {write.transaction}, false, false},
+                   {kIsStored, {std::to_string(write.step), write.transaction, author.name, author.program}, false, false}},
+                  until);
     if (IsTrue(answers.at(0))) {
         return WriteFate::Unknown;
     }

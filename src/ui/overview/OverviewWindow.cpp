@@ -47,8 +47,7 @@ constexpr int kFindingLines = 3;
 
 } // namespace
 
-OverviewWindow::OverviewWindow(Workplace& host)
-    : ReadingWindow(host, "overview"), m_ui(std::make_unique<Ui::OverviewWindow>())
+OverviewWindow::OverviewWindow(Workplace& host) : ReadingWindow(host, "overview"), m_ui(std::make_unique<Ui::OverviewWindow>())
 {
     m_ui->setupUi(this);
     m_tables = new OverviewTables({*m_ui->grdOverview, *m_ui->grdTotals, *m_ui->grdLeftOut}, this);
