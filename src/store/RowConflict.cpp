@@ -4,7 +4,6 @@
 #include "store/engine/Engine.h"
 #include "store/engine/RecordSet.h"
 #include "store/engine/Statement.h"
-#include "store/rows/RowFields.h"
 #include "store/rows/RowReader.h"
 #include "store/StoreErrors.h"
 
@@ -71,13 +70,13 @@ private:
 };
 
 // What differs in the fields behind the key; the row was found by its key.
-template <typename Row, typename... Fields>
+template <typename Row, typename... T>
 std::vector<FieldDifference> Differences(const Row& read, const Row& present, const TableColumns& table,
-                                         const std::tuple<Fields Row::*...>& fields)
+                                         const std::tuple<RowField<Row, T>...>& fields)
 {
     Comparison compared(read, present);
     std::size_t column = 1;
-    std::apply([&](auto /*key*/, auto... field) { (compared.Of(table.columns.at(column++)->name, field), ...); }, fields);
+    std::apply([&](auto /*key*/, auto... each) { (compared.Of(table.columns.at(column++)->name, each.field), ...); }, fields);
     return compared.Found();
 }
 
@@ -142,14 +141,13 @@ void RequireAsRead(Engine& engine, const EmployeeRow& asRead)
     const EmployeeRow read = AsLoaded(asRead);
     const auto row = ListedRow(engine, "GetAllEmployees", EmployeeTable(), read.EmployeeID);
     Require("Employee", read.EmployeeID,
-            Differences(read, RowReader(*row, EmployeeTable()).ReadEmployee(), EmployeeTable(), rowfields::kEmployee));
+            Differences(read, RowReader(*row, EmployeeTable()).ReadEmployee(), EmployeeTable(), kEmployeeFields));
 }
 
 void RequireAsRead(Engine& engine, const CompanyRow& read)
 {
     const auto row = ListedRow(engine, "GetAllCompanies", CompanyTable(), read.CompanyID);
-    Require("Company", read.CompanyID,
-            Differences(read, RowReader(*row, CompanyTable()).ReadCompany(), CompanyTable(), rowfields::kCompany));
+    Require("Company", read.CompanyID, Differences(read, RowReader(*row, CompanyTable()).ReadCompany(), CompanyTable(), kCompanyFields));
 }
 
 void RequireAsRead(Engine& engine, const TimeRecordRow& read)
@@ -160,7 +158,7 @@ void RequireAsRead(Engine& engine, const TimeRecordRow& read)
     engine.WillChangeNext();
     const auto row = Required(search->ReadRows(), TimeRecordTable(), read.TimeRecordID);
     Require("TimeRecord", read.TimeRecordID,
-            Differences(read, RowReader(*row, TimeRecordTable()).ReadTimeRecord(), TimeRecordTable(), rowfields::kTimeRecord));
+            Differences(read, RowReader(*row, TimeRecordTable()).ReadTimeRecord(), TimeRecordTable(), kTimeRecordFields));
 }
 
 OptionsRow PresentOptions(Engine& engine)

@@ -1,5 +1,4 @@
-// The parameters of the stored queries. Their names are the database's contract and differ on purpose between insert, update and the
-// columns of the listings.
+// The parameters of the stored queries that write.
 #pragma once
 
 #include "store/engine/Engine.h"
@@ -9,7 +8,7 @@
 
 namespace ptk {
 
-// The parameters of the stored query of that name, in the order in which they are assigned.
+// The parameters of the stored query of that name.
 [[nodiscard]] std::vector<Parameter> AddNewEmployeeParameters(const EmployeeRow& employee);
 [[nodiscard]] std::vector<Parameter> UpdateEmployeeParameters(const EmployeeRow& employee);
 [[nodiscard]] std::vector<Parameter> AddNewCompanyParameters(const CompanyRow& company);

@@ -2,7 +2,6 @@
 
 #include "platform/Failure.h"
 #include "store/engine/RecordSet.h"
-#include "store/rows/RowFields.h"
 
 #include <fmt/format.h>
 
@@ -171,28 +170,28 @@ void RowReader::Read(bool& field)
     Take([&](std::size_t column) { field = m_rows.BooleanAt(column); });
 }
 
-template <typename Row, typename... Fields>
-Row RowReader::ReadFields(const std::tuple<Fields Row::*...>& fields)
+template <typename Row, typename... T>
+Row RowReader::ReadFields(const std::tuple<RowField<Row, T>...>& fields)
 {
     Row row;
     m_next = 0;
-    std::apply([&](auto key, auto... field) { Key(row.*key), (Read(row.*field), ...); }, fields);
+    std::apply([&](auto key, auto... each) { Key(row.*key.field), (Read(row.*each.field), ...); }, fields);
     return row;
 }
 
 EmployeeRow RowReader::ReadEmployee()
 {
-    return ReadFields(rowfields::kEmployee);
+    return ReadFields(kEmployeeFields);
 }
 
 CompanyRow RowReader::ReadCompany()
 {
-    return ReadFields(rowfields::kCompany);
+    return ReadFields(kCompanyFields);
 }
 
 TimeRecordRow RowReader::ReadTimeRecord()
 {
-    TimeRecordRow row = ReadFields(rowfields::kTimeRecord);
+    TimeRecordRow row = ReadFields(kTimeRecordFields);
     row.ObjectState = state::Unchanged;
     return row;
 }

@@ -60,8 +60,8 @@ private:
     void Read(std::string& field);
     void Read(DateTime& field);
     void Read(bool& field);
-    template <typename Row, typename... Fields>
-    Row ReadFields(const std::tuple<Fields Row::*...>& fields);
+    template <typename Row, typename... T>
+    Row ReadFields(const std::tuple<RowField<Row, T>...>& fields);
     [[nodiscard]] ColumnRule Rule() const { return m_table.columns[m_next]->rule; } // of the next column
     void Doubt(const char* why) const;
     [[nodiscard]] std::string Place(std::size_t column, const std::string& why) const;

@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <string>
+#include <tuple>
 
 namespace ptk {
 
@@ -17,6 +18,21 @@ inline constexpr std::int32_t New = 1;
 inline constexpr std::int32_t Changed = 2;
 inline constexpr std::int32_t Deleted = 3;
 } // namespace state
+
+// The field that holds a column, and the parameters that carry it into the stored queries which add a row and change one; nullptr where the
+// query has none. Their names are the database's contract and differ on purpose from one another and from the columns.
+template <typename Row, typename T>
+struct RowField
+{
+    T Row::*field;
+    const char* added = nullptr;
+    const char* changed = nullptr;
+};
+
+template <typename Row, typename T>
+RowField(T Row::*) -> RowField<Row, T>;
+template <typename Row, typename T>
+RowField(T Row::*, const char*, const char*) -> RowField<Row, T>;
 
 struct EmployeeRow
 {
@@ -44,6 +60,32 @@ struct EmployeeRow
     std::int16_t AutoDeductBreakLength = 0; // minutes
 };
 
+// In the order of the columns that are read, the key first. So of the other rows.
+inline constexpr std::tuple kEmployeeFields{
+    RowField{&EmployeeRow::EmployeeID, nullptr, "employee_id"},
+    RowField{&EmployeeRow::SSN, "paramSSN", "SSN"},
+    RowField{&EmployeeRow::FirstName, "paramFirst", "first_name"},
+    RowField{&EmployeeRow::LastName, "paramLast", "last_name"},
+    RowField{&EmployeeRow::Address1, "paramAddress", "Address1"},
+    RowField{&EmployeeRow::Address2, "paramAddress2", "Address2"},
+    RowField{&EmployeeRow::City, "paramCity", "City"},
+    RowField{&EmployeeRow::State, "paramState", "State"},
+    RowField{&EmployeeRow::ZipCode, "paramZipCode", "zip_code"},
+    RowField{&EmployeeRow::Phone, "paramPhone", "Phone"},
+    RowField{&EmployeeRow::EmployeeNumber, "paramEmpNumber", "employee_number"},
+    RowField{&EmployeeRow::DateOfBirth, "paramDOB", "dob"},
+    RowField{&EmployeeRow::HireDate, "paramHireDate", "hire_date"},
+    RowField{&EmployeeRow::ReleaseDate, "paramRelDate", "release_date"},
+    RowField{&EmployeeRow::PayRate, "paramPayRate", "pay_rate"},
+    RowField{&EmployeeRow::OvertimePayRate, "paramOvertimePay", "overtime_pay_rate"},
+    RowField{&EmployeeRow::EmployeeActive, "paramActive", "active_employee"},
+    RowField{&EmployeeRow::CompanyID, "paramCompID", "company_id"},
+    RowField{&EmployeeRow::AutoDeduct, "paramAutoDeduct", "auto_deduct"},
+    RowField{&EmployeeRow::AutoDeductLunchLength, "paramLunchLength", "auto_deduct_lunch_length"},
+    RowField{&EmployeeRow::AutoDeductBreakLength, "paramBreakLength", "auto_deduct_break_length"},
+    RowField{&EmployeeRow::Password, "paramPassword", "Password"},
+};
+
 struct CompanyRow
 {
     std::int32_t CompanyID = -1; // -1 = not stored yet
@@ -59,6 +101,19 @@ struct CompanyRow
     std::string URL; // written, never read back
 };
 
+inline constexpr std::tuple kCompanyFields{
+    RowField{&CompanyRow::CompanyID, nullptr, "paramID"},
+    RowField{&CompanyRow::CompanyName, "paramName", "paramName"},
+    RowField{&CompanyRow::Address1, "paramAddr1", "paramAddr1"},
+    RowField{&CompanyRow::Address2, "paramAddr2", "paramAddr2"},
+    RowField{&CompanyRow::City, "paramCity", "paramCity"},
+    RowField{&CompanyRow::State, "paramState", "paramState"},
+    RowField{&CompanyRow::ZipCode, "paramZipCode", "paramZipCode"},
+    RowField{&CompanyRow::Phone, "paramPhone", "paramPhone"},
+    RowField{&CompanyRow::Fax, "paramFax", "paramFax"},
+    RowField{&CompanyRow::FederalTaxID, "paramFederalTaxID", "paramFederalTaxID"},
+};
+
 struct TimeRecordRow
 {
     std::int32_t TimeRecordID = -1; // -1 = not stored yet
@@ -66,6 +121,13 @@ struct TimeRecordRow
     DateTime StartTime;
     DateTime EndTime; // zero = still clocked in
     std::int32_t ObjectState = state::New;
+};
+
+inline constexpr std::tuple kTimeRecordFields{
+    RowField{&TimeRecordRow::TimeRecordID},
+    RowField{&TimeRecordRow::EmployeeID},
+    RowField{&TimeRecordRow::StartTime},
+    RowField{&TimeRecordRow::EndTime},
 };
 
 struct OptionsRow
