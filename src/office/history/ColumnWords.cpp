@@ -2,9 +2,9 @@
 
 #include "platform/text/DayText.h"
 #include "platform/text/Text.h"
+#include "store/engine/StoredTable.h"
 
 #include <algorithm>
-#include <array>
 
 namespace ptk {
 
@@ -12,60 +12,39 @@ namespace {
 
 using Shape = ColumnShape;
 
-constexpr std::array kColumns{
-    ColumnWords{"TimeRecordID", "number", Shape::Plain},
-    ColumnWords{"EmployeeID", "employee", Shape::Employee},
-    ColumnWords{"ShiftDate", "shift date", Shape::Day},
-    ColumnWords{"StartTime", "start", Shape::Moment},
-    ColumnWords{"EndTime", "end", Shape::Moment},
-    ColumnWords{"SSNumber", "SS number", Shape::Plain},
-    ColumnWords{"FirstName", "first name", Shape::Plain},
-    ColumnWords{"LastName", "last name", Shape::Plain},
-    ColumnWords{"Name", "name", Shape::Plain},
-    ColumnWords{"Address", "address", Shape::Plain},
-    ColumnWords{"Address1", "address", Shape::Plain},
-    ColumnWords{"Address2", "second address line", Shape::Plain},
-    ColumnWords{"City", "city", Shape::Plain},
-    ColumnWords{"State", "state", Shape::Plain},
-    ColumnWords{"ZipCode", "ZIP code", Shape::Plain},
-    ColumnWords{"Phone", "phone", Shape::Plain},
-    ColumnWords{"Fax", "fax", Shape::Plain},
-    ColumnWords{"FederalTaxID", "federal tax ID", Shape::Plain},
-    ColumnWords{"URL", "web address", Shape::Plain},
-    ColumnWords{"EmployeeNumber", "employee number", Shape::Plain},
-    ColumnWords{"DateOfBirth", "date of birth", Shape::Day},
-    ColumnWords{"HireDate", "hire date", Shape::Day},
-    ColumnWords{"ReleaseDate", "release date", Shape::Day},
-    ColumnWords{"PayRate", "pay rate", Shape::Plain},
-    ColumnWords{"OvertimePayRate", "overtime pay rate", Shape::Plain},
-    ColumnWords{"Active", "active", Shape::Flag},
-    ColumnWords{"CompanyID", "company", Shape::Plain},
-    ColumnWords{"AutoDeduct", "automatic deduction", Shape::Flag},
-    ColumnWords{"AutoDeductLunchLength", "lunch", Shape::Plain},
-    ColumnWords{"AutoDeductBreakLength", "break", Shape::Plain},
-    ColumnWords{"PaydayID", "number", Shape::Plain},
-    ColumnWords{"FromDay", "first day", Shape::Day},
-    ColumnWords{"ToDay", "last day", Shape::Day},
-    ColumnWords{"PaidAt", "time of closing", Shape::Moment},
-    ColumnWords{"PaidBy", "closed by", Shape::Plain},
-    ColumnWords{"Regular", "regular hours", Shape::Plain},
-    ColumnWords{"Overtime", "overtime hours", Shape::Plain},
-    ColumnWords{"Gross", "gross pay", Shape::Plain},
-    ColumnWords{"Entry", "newest change before", Shape::Plain},
-    ColumnWords{"period_length", "period length", Shape::Plain},
-    ColumnWords{"auto_shift_start_time", "start of the automatic shift", Shape::Moment},
-    ColumnWords{"auto_shift_end_time", "end of the automatic shift", Shape::Moment},
-    ColumnWords{"long_shift_hours", "longest usual shift", Shape::Plain},
-    ColumnWords{"first_weekday", "first day of the work week", Shape::Weekday},
-    ColumnWords{"show_notices", "showing notices", Shape::Flag},
-};
+Shape ShapeOf(const StoredColumn& column)
+{
+    switch (column.told) {
+    case ColumnTold::Day:
+        return Shape::Day;
+    case ColumnTold::Weekday:
+        return Shape::Weekday;
+    case ColumnTold::Employee:
+        return Shape::Employee;
+    case ColumnTold::ByKind:
+        break;
+    }
+    switch (column.kind) {
+    case ColumnKind::Date:
+        return Shape::Moment;
+    case ColumnKind::Flag:
+        return Shape::Flag;
+    default:
+        return Shape::Plain;
+    }
+}
 
 } // namespace
 
 ColumnWords WordsOf(std::string_view column)
 {
-    const auto* found = std::find_if(kColumns.begin(), kColumns.end(), [&](const ColumnWords& words) { return words.column == column; });
-    return found == kColumns.end() ? ColumnWords{column, nullptr, Shape::Plain} : *found;
+    for (const StoredTable& table : StoredTables()) {
+        const auto found = std::ranges::find(table.columns, column, &StoredColumn::name);
+        if (found != table.columns.end()) {
+            return {found->words, ShapeOf(*found)};
+        }
+    }
+    return {nullptr, Shape::Plain};
 }
 
 // The seconds are told only where there are any: nobody types them.

@@ -20,11 +20,11 @@ enum class ColumnShape
 
 struct ColumnWords
 {
-    std::string_view column;
     const char* words; // "pay rate"; nullptr for a column that nobody has words for
     ColumnShape shape;
 };
 
+// Columns of one name are called the same in all tables.
 [[nodiscard]] ColumnWords WordsOf(std::string_view column);
 
 // "03/05/2003 08:00 AM", "03/05/2003" of a day, "08:00 AM" of a time of day, "none" of the zero date-time.

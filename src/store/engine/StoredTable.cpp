@@ -9,49 +9,67 @@ namespace {
 
 using enum ColumnKind;
 using enum ColumnRule;
+using Told = ColumnTold;
 
 constexpr StoredColumn kCompany[] = {
-    {"CompanyID", Integer}, {"Name", Text},  {"Address1", Text}, {"Address2", Text},     {"City", Text},        {"State", Text},
-    {"ZipCode", Text},      {"Phone", Text}, {"Fax", Text},      {"FederalTaxID", Text}, {"URL", Text, Unread},
+    {"CompanyID", Integer, "company"},
+    {"Name", Text, "name"},
+    {"Address1", Text, "address"},
+    {"Address2", Text, "second address line"},
+    {"City", Text, "city"},
+    {"State", Text, "state"},
+    {"ZipCode", Text, "ZIP code"},
+    {"Phone", Text, "phone"},
+    {"Fax", Text, "fax"},
+    {"FederalTaxID", Text, "federal tax ID"},
+    {"URL", Text, "web address", Unread},
 };
 
 constexpr StoredColumn kEmployee[] = {
-    {"EmployeeID", Integer},
-    {"SSNumber", Text},
-    {"FirstName", Text},
-    {"LastName", Text},
-    {"Address", Text},
-    {"Address2", Text},
-    {"City", Text},
-    {"State", Text},
-    {"ZipCode", Text},
-    {"Phone", Text},
-    {"EmployeeNumber", Integer, AnyNumber},
-    {"DateOfBirth", Date},
-    {"HireDate", Date},
-    {"ReleaseDate", Date},
-    {"PayRate", Single},
-    {"OvertimePayRate", Single},
-    {"Active", Flag, TrueWhenAbsent},
-    {"CompanyID", Integer},
-    {"AutoDeduct", Flag},
-    {"AutoDeductLunchLength", Integer, Short},
-    {"AutoDeductBreakLength", Integer, Short},
+    {"EmployeeID", Integer, "employee", None, Told::Employee},
+    {"SSNumber", Text, "SS number"},
+    {"FirstName", Text, "first name"},
+    {"LastName", Text, "last name"},
+    {"Address", Text, "address"},
+    {"Address2", Text, "second address line"},
+    {"City", Text, "city"},
+    {"State", Text, "state"},
+    {"ZipCode", Text, "ZIP code"},
+    {"Phone", Text, "phone"},
+    {"EmployeeNumber", Integer, "employee number", AnyNumber},
+    {"DateOfBirth", Date, "date of birth", None, Told::Day},
+    {"HireDate", Date, "hire date", None, Told::Day},
+    {"ReleaseDate", Date, "release date", None, Told::Day},
+    {"PayRate", Single, "pay rate"},
+    {"OvertimePayRate", Single, "overtime pay rate"},
+    {"Active", Flag, "active", TrueWhenAbsent},
+    {"CompanyID", Integer, "company"},
+    {"AutoDeduct", Flag, "automatic deduction"},
+    {"AutoDeductLunchLength", Integer, "lunch", Short},
+    {"AutoDeductBreakLength", Integer, "break", Short},
     {"Password", Text},
 };
 
 constexpr StoredColumn kTimeRecord[] = {
-    {"TimeRecordID", Integer}, {"EmployeeID", Integer}, {"ShiftDate", Date, Unread}, {"StartTime", Date, Moment}, {"EndTime", Date, Moment},
+    {"TimeRecordID", Integer, "number"},
+    {"EmployeeID", Integer, "employee", None, Told::Employee},
+    {"ShiftDate", Date, "shift date", Unread, Told::Day},
+    {"StartTime", Date, "start", Moment},
+    {"EndTime", Date, "end", Moment},
 };
 
 constexpr StoredColumn kSystem[] = {
-    {"program", Text}, {"version", Text}, {"period_length", Integer}, {"auto_shift_start_time", Date}, {"auto_shift_end_time", Date},
+    {"program", Text},
+    {"version", Text},
+    {"period_length", Integer, "period length"},
+    {"auto_shift_start_time", Date, "start of the automatic shift"},
+    {"auto_shift_end_time", Date, "end of the automatic shift"},
 };
 
 constexpr StoredColumn kCheckLimits[] = {
-    {"long_shift_hours", Integer},
-    {"first_weekday", Integer},
-    {"show_notices", Flag},
+    {"long_shift_hours", Integer, "longest usual shift"},
+    {"first_weekday", Integer, "first day of the work week", None, Told::Weekday},
+    {"show_notices", Flag, "showing notices"},
 };
 
 constexpr StoredColumn kChange[] = {
@@ -67,17 +85,25 @@ constexpr StoredColumn kChange[] = {
     {"After", Json},
     {"EmployeeBefore", Integer},
     {"EmployeeAfter", Integer},
-    {"Reason", Text, MayLack},
+    {"Reason", Text, nullptr, MayLack},
 };
 
 constexpr StoredColumn kPayday[] = {
-    {"PaydayID", Integer}, {"EmployeeID", Integer}, {"FromDay", Date},  {"ToDay", Date}, {"PaidAt", Date},
-    {"PaidBy", Text},      {"Regular", Text},       {"Overtime", Text}, {"Gross", Text}, {"Entry", Long},
+    {"PaydayID", Integer, "number"},
+    {"EmployeeID", Integer, "employee", None, Told::Employee},
+    {"FromDay", Date, "first day", None, Told::Day},
+    {"ToDay", Date, "last day", None, Told::Day},
+    {"PaidAt", Date, "time of closing"},
+    {"PaidBy", Text, "closed by"},
+    {"Regular", Text, "regular hours"},
+    {"Overtime", Text, "overtime hours"},
+    {"Gross", Text, "gross pay"},
+    {"Entry", Long, "newest change before"},
 };
 
 constexpr StoredColumn kProfile[] = {
     {"ProfileID", Integer},
-    {"Name", Text},
+    {"Name", Text, "name"},
     {"Definition", Text},
 };
 

@@ -30,11 +30,22 @@ enum class ColumnRule : std::uint8_t
     TrueWhenAbsent // in older databases
 };
 
+// As what people are told its values, where that is not what its kind says.
+enum class ColumnTold : std::uint8_t
+{
+    ByKind,
+    Day,
+    Weekday, // 0 Sunday to 6 Saturday
+    Employee // by name
+};
+
 struct StoredColumn
 {
     const char* name;
     ColumnKind kind;
+    const char* words = nullptr; // what people call it, "pay rate"; nullptr where they are not told of it
     ColumnRule rule = ColumnRule::None;
+    ColumnTold told = ColumnTold::ByKind;
 };
 
 struct StoredTable
