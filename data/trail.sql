@@ -37,12 +37,3 @@ CREATE INDEX _ChangeEmployeeBefore ON _Change (EmployeeBefore) WHERE EmployeeBef
 CREATE INDEX _ChangeRecord ON _Change (RowID) WHERE TableName = 'TimeRecord';
 CREATE INDEX _ChangePerson ON _Change (ChangedBy) WHERE ChangedBy IS NOT NULL;
 CREATE INDEX _ChangeOther ON _Change (TableName) WHERE TableName IS NOT 'TimeRecord';
-
--- What the triggers of the tables hand over to the one that writes the entry: the names of the columns as a JSON array, and their values before
--- (b) and after (a) in the same order. It keeps nothing. Every opening of the file reads all triggers: the less stands in them, the better. They are made of
--- the table of columns (src/store/sqlite/TrailTriggers).
-CREATE VIEW _Edit (tab, act, row, empb, empa, names,
-    b0, b1, b2, b3, b4, b5, b6, b7, b8, b9, b10, b11, b12, b13, b14, b15, b16, b17, b18, b19, b20, b21,
-    a0, a1, a2, a3, a4, a5, a6, a7, a8, a9, a10, a11, a12, a13, a14, a15, a16, a17, a18, a19, a20, a21
-) AS SELECT 0, 0, 0, 0, 0, 0, 
-    0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0;

@@ -1,4 +1,5 @@
--- How the edit trail (trail.sql) makes an entry of what a table's trigger hands over. May be run again over an older version of it.
+-- How the edit trail (trail.sql) makes an entry of what a table's trigger hands over. May be run again over an older version of it. Where a letter
+-- stands between dollar signs, the program says which column of _Edit has which number (src/store/sqlite/TrailTriggers).
 
 -- Takes whatever value there is, since a refusal here would be one of the write itself. Passwords never appear.
 DROP TRIGGER IF EXISTS _EditWritten;
@@ -14,13 +15,7 @@ CREATE TRIGGER _EditWritten INSTEAD OF INSERT ON _Edit BEGIN
             WHEN typeof(a) <> 'real' THEN json_quote(a) WHEN abs(a) < 9e999 THEN printf('%!.17g', a) ELSE json_quote(a || '') END) || '}' END,
     NEW.empb, NEW.empa, (SELECT reason FROM _Session)
     FROM (SELECT value k, CASE key
-        WHEN 0 THEN NEW.b0 WHEN 1 THEN NEW.b1 WHEN 2 THEN NEW.b2 WHEN 3 THEN NEW.b3 WHEN 4 THEN NEW.b4 WHEN 5 THEN NEW.b5 WHEN 6 THEN
-        NEW.b6 WHEN 7 THEN NEW.b7 WHEN 8 THEN NEW.b8 WHEN 9 THEN NEW.b9 WHEN 10 THEN NEW.b10 WHEN 11 THEN NEW.b11 WHEN 12 THEN NEW.b12
-        WHEN 13 THEN NEW.b13 WHEN 14 THEN NEW.b14 WHEN 15 THEN NEW.b15 WHEN 16 THEN NEW.b16 WHEN 17 THEN NEW.b17 WHEN 18 THEN NEW.b18 WHEN
-        19 THEN NEW.b19 WHEN 20 THEN NEW.b20 WHEN 21 THEN NEW.b21 END b,
+$B$ END b,
         CASE key
-        WHEN 0 THEN NEW.a0 WHEN 1 THEN NEW.a1 WHEN 2 THEN NEW.a2 WHEN 3 THEN NEW.a3 WHEN 4 THEN NEW.a4 WHEN 5 THEN NEW.a5 WHEN 6 THEN
-        NEW.a6 WHEN 7 THEN NEW.a7 WHEN 8 THEN NEW.a8 WHEN 9 THEN NEW.a9 WHEN 10 THEN NEW.a10 WHEN 11 THEN NEW.a11 WHEN 12 THEN NEW.a12
-        WHEN 13 THEN NEW.a13 WHEN 14 THEN NEW.a14 WHEN 15 THEN NEW.a15 WHEN 16 THEN NEW.a16 WHEN 17 THEN NEW.a17 WHEN 18 THEN NEW.a18 WHEN
-        19 THEN NEW.a19 WHEN 20 THEN NEW.a20 WHEN 21 THEN NEW.a21 END a FROM json_each(NEW.names)) WHERE NEW.act <> 'update' OR b IS NOT a HAVING count(*) > 0;
+$A$ END a FROM json_each(NEW.names)) WHERE NEW.act <> 'update' OR b IS NOT a HAVING count(*) > 0;
 END;

@@ -5,8 +5,8 @@ namespace ptk {
 
 extern const char* const kSchemaSql;        // tables, index, format numbers, the options' row, the administrator
 extern const char* const kStoredQueriesSql; // the rows of _StoredQuery
-extern const char* const kTrailSql;         // the edit trail: tables, indexes, view, to be run before its triggers and the next two
-extern const char* const kTrailEntrySql;    // what writes its entries; may be run again over an older version
+extern const char* const kTrailSql;         // the edit trail: tables and indexes, to be run before its view and triggers
+extern const char* const kTrailEntrySql;    // what writes its entries, see TrailTriggers
 extern const char* const kPaydaySql;        // what was paid, and the structure's number; may be run again, too
 extern const char* const kProfileSql;       // the table of profiles, where it is missing
 

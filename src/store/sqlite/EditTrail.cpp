@@ -117,7 +117,7 @@ void BringUpToDate(Engine& engine)
         engine.RunScript(kTrailSql);
         engine.RunScript(TrailTriggers().c_str());
     }
-    engine.RunScript(kTrailEntrySql);
+    engine.RunScript(TrailEntryTrigger().c_str());
     engine.RunScript(kPaydaySql);
     engine.RunScript(kProfileSql);
     for (const char* table : kTables) {

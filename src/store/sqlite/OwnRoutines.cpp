@@ -40,7 +40,7 @@ OwnRoutines ReadOwnRoutines()
     file.exec(kSchemaSql);
     file.exec(kTrailSql);
     file.exec(TrailTriggers());
-    file.exec(kTrailEntrySql);
+    file.exec(TrailEntryTrigger());
     file.exec(kPaydaySql);
     file.exec(kProfileSql);
     OwnRoutines own;

@@ -2,11 +2,14 @@
 
 #include "platform/text/Joined.h"
 #include "platform/text/Text.h"
+#include "store/engine/Schema.h"
 #include "store/engine/StoredTable.h"
 
 #include <algorithm>
+#include <cstring>
 #include <fmt/format.h>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace ptk {
@@ -35,13 +38,13 @@ std::string Capitals(std::string_view word)
     return text;
 }
 
-// Behind `line`, with commas; where a line is full, on a new one as deep as `depth`.
-std::string Wrapped(std::string line, const Texts& parts, std::size_t depth, const char* end)
+// Behind `line`, each part but the last with a comma, or with `between`; where a line is full, on a new one as deep as `depth`.
+std::string Wrapped(std::string line, const Texts& parts, std::size_t depth, const char* end, const char* between = ",")
 {
     std::string text;
     bool isFirst = true;
     for (const std::string& part : parts) {
-        const std::string piece = part + (&part == &parts.back() ? end : ",");
+        const std::string piece = part + (&part == &parts.back() ? end : between);
         if (line.size() + piece.size() + (isFirst ? 0 : 1) > kWidth) {
             text += line + '\n';
             line = std::string(depth, ' ');
@@ -97,11 +100,61 @@ std::string Trigger(const StoredTable& table, const Deed& deed)
            Wrapped("        ", values, 8, ");") + "END;\n";
 }
 
+// As many columns as the widest table has.
+std::size_t Width()
+{
+    std::size_t width = 0;
+    for (const char* table : kFirstToldTables) {
+        width = std::max(width, StoredTableOf(table).columns.size());
+    }
+    return width;
+}
+
+std::string Numbered(char side)
+{
+    Texts columns;
+    for (std::size_t i = 0; i < Width(); ++i) {
+        columns.push_back(fmt::format("{}{}", side, i));
+    }
+    return Joined(columns, ", ");
+}
+
+// What the triggers of the tables hand over to the one that writes the entry: the names of the columns as a JSON array, and their values
+// before (b) and after (a) in the same order. It keeps nothing. Every opening of the file reads all triggers: the less stands in them, the
+// better.
+std::string View()
+{
+    const Texts nothing(2 * Width(), "0");
+    return fmt::format("CREATE VIEW _Edit (tab, act, row, empb, empa, names,\n    {},\n    {}\n) AS SELECT 0, 0, 0, 0, 0, 0, \n    {};\n",
+                       Numbered('b'), Numbered('a'), Joined(nothing, ", "));
+}
+
+// Which column of the view has which number, to stand in a CASE.
+std::string Cases(char side)
+{
+    Texts words;
+    for (std::size_t i = 0; i < Width(); ++i) {
+        words.insert(words.end(), {"WHEN", std::to_string(i), "THEN", fmt::format("NEW.{}{}", side, i)});
+    }
+    std::string text = Wrapped("        ", words, 8, "", "");
+    text.pop_back(); // the end of its last line
+    return text;
+}
+
 } // namespace
+
+std::string TrailEntryTrigger()
+{
+    std::string text = kTrailEntrySql;
+    for (const auto& [mark, side] : {std::pair("$B$", 'b'), std::pair("$A$", 'a')}) {
+        text.replace(text.find(mark), std::strlen(mark), Cases(side));
+    }
+    return text;
+}
 
 std::string TrailTriggers()
 {
-    std::string text;
+    std::string text = View();
     for (const char* table : kFirstToldTables) {
         for (const Deed& deed : kDeeds) {
             text += Trigger(StoredTableOf(table), deed);
