@@ -21,10 +21,8 @@ namespace ptk {
 
 namespace {
 
-// What a file has no columns for is not looked at.
-constexpr const char* kAllEmployees =
-    "SELECT EmployeeID, {}, 0 AS CompanyID, FALSE AS AutoDeduct, 0 AS AutoDeductLunchLength, 0 AS AutoDeductBreakLength, '' AS Password "
-    "FROM Employee ORDER BY EmployeeID";
+constexpr const char* kAllEmployees = "SELECT {} FROM Employee ORDER BY EmployeeID";
+constexpr std::string_view kKey = "EmployeeID";
 constexpr std::int32_t kRowsAtATime = 256;
 constexpr std::size_t kMostLeftAside = 50;  // headings that are named
 constexpr std::int32_t kAdministrator = 39; // its EmployeeID
@@ -36,10 +34,22 @@ constexpr auto kOtherLine = "{} has other fields on line {}";
 constexpr auto kMissing = "empty";
 constexpr auto kOfAdministrator = "the administrator may not be changed";
 
+// What a file has no columns for is not looked at.
+std::string LookedAtColumns()
+{
+    std::vector<std::string> columns;
+    for (const StoredColumn* column : EmployeeTable().columns) {
+        const bool looksAt = column->name == kKey || std::ranges::count(StoredEmployeeColumns(), std::string_view(column->name)) != 0;
+        const char* const none = column->kind == ColumnKind::Flag ? "FALSE" : "NULL";
+        columns.push_back(looksAt ? column->name : fmt::format("{} AS {}", none, column->name));
+    }
+    return Joined(columns, ", ");
+}
+
 std::unordered_multimap<std::int32_t, CEmployee> ReadByNumber(const PrepareStatement& prepare)
 {
     std::unordered_multimap<std::int32_t, CEmployee> employees;
-    const auto statement = prepare(fmt::format(kAllEmployees, Joined(StoredEmployeeColumns(), ", ")));
+    const auto statement = prepare(fmt::format(kAllEmployees, LookedAtColumns()));
     for (std::int32_t read = kRowsAtATime; read == kRowsAtATime;) {
         const auto rows = statement->ReadRows(kRowsAtATime);
         read = rows->RecordCount();
