@@ -5,7 +5,7 @@
 
 namespace ptk {
 
-// "Address: " and the indented lines below it, each ending in CR LF. An empty second line is left out.
+// Appends "Address: " and the indented lines below it, each ending in CR LF. An empty second address line is left out.
 template <typename Row>
 void AppendAddress(std::string& text, const Row& row)
 {

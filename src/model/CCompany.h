@@ -14,13 +14,13 @@ namespace ptk {
 
 class CJetDB;
 
-// Setters store the value as it is; the fields' meanings stand at CompanyRow.
+// Setters store the value as it is; the fields are explained at CompanyRow.
 class CCompany : public RowEntity<CompanyRow>
 {
 public:
     CCompany() = default;
 
-    // As loaded: unchanged.
+    // A company as it was loaded; its state is unchanged.
     explicit CCompany(CompanyRow row);
 
     void CompanyID(std::int32_t value) { SetKey(m_row.CompanyID, value); }
@@ -46,11 +46,11 @@ public:
     void URL(std::string value) { Change(&CompanyRow::URL, std::move(value)); }
     [[nodiscard]] const std::string& URL() const { return m_row.URL; }
 
-    // Adds, updates or deletes by state; false with 321 in any other. Unchanged afterwards in every case. A row that was changed since it
-    // was read is not overwritten: false with the database's Conflict.
+    // Adds, updates or deletes the row, as its state asks; false with 321 in any other state. The state is unchanged afterwards in every
+    // case. A row that was changed in the database since it was read is not overwritten: false with the database's Conflict.
     bool Save(const std::shared_ptr<CJetDB>& thedatabase);
 
-    // The whole record; lines end in CR LF. What could be built, with 806, when it failed.
+    // The whole record as text; lines end in CR LF. A failure leaves 806, and the text ends where it happened.
     std::string ToString();
 
     [[nodiscard]] const CompanyRow& Row() const { return Fields(); }

@@ -10,13 +10,13 @@
 
 namespace ptk {
 
-// The look-ups find the first match in list order, else nullptr.
+// The look-ups answer the first match in list order, or nullptr.
 class CCompanyList final : public EntityList<CCompanyList, CCompany>, public CompanySink
 {
 public:
     std::shared_ptr<CCompany> GetCompanyByID(std::int32_t theid);
 
-    // Exact, in its letter case.
+    // The name must match exactly, letter case included.
     std::shared_ptr<CCompany> GetCompanyByName(std::string_view thename);
 
     bool InsertLoaded(CompanyRow row, std::int32_t position) override;

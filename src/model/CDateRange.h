@@ -20,25 +20,25 @@ public:
 
     void MinDate(DateTime value) { m_minDate = value; }
 
-    // At first 1/1/1900.
+    // The earliest date that is allowed; 1/1/1900 until it is set.
     [[nodiscard]] DateTime MinDate() const { return m_minDate; }
 
     void MaxDate(DateTime value) { m_maxDate = value; }
 
-    // At first 12/31/2100.
+    // The latest date that is allowed; 12/31/2100 until it is set.
     [[nodiscard]] DateTime MaxDate() const { return m_maxDate; }
 
-    // Validates the range, with its error numbers.
+    // Sets the start and checks the range as ValidateRange does.
     void StartDate(DateTime value);
 
     [[nodiscard]] DateTime StartDate() const { return m_startDate; }
 
-    // Validates the range, with its error numbers.
+    // Sets the end and checks the range as ValidateRange does.
     void EndDate(DateTime value);
 
     [[nodiscard]] DateTime EndDate() const { return m_endDate; }
 
-    // Day boundaries from start to end, 0 for one day; -1 unless validated.
+    // The number of midnights between start and end: 0 within one day. -1 when the range is not valid.
     [[nodiscard]] std::int32_t DayCount() const;
 
     [[nodiscard]] bool ValidRange() const { return m_validRange; }
@@ -51,20 +51,21 @@ public:
     [[nodiscard]] std::string FormatString() const { return m_formatString; }
     [[nodiscard]] std::int32_t ErrorNumber() const { return m_errorNumber; }
 
-    // Stores and checks. False, storing nothing, only with 899; a range out of limits (803) or reversed (802) is deliberately valid and
-    // true all the same: whoever cares reads ErrorNumber.
+    // Stores both dates and checks the range. False only with 899, where one is no date; nothing is stored then. A range outside the limits
+    // (803) or reversed (802) deliberately counts as valid all the same and answers true: only ErrorNumber tells.
     bool ValidateRange(const Value& thestart, const Value& theend);
 
-    // False with 804, 801, 803, or with no number when it lies outside.
+    // Whether a date lies in the range. False with 804 (never validated), 801, 803, or with no number when it lies outside the range.
     bool CheckDateInclusion(const Value& checkthisdate);
 
-    // Stores without checking; always true.
+    // Stores both dates without checking them; ValidRange stays as it was. Always true.
     bool SetRange(DateTime thestartdate, DateTime theenddate);
 
-    // Reads start "+" end. Always true, deliberately: a text that is no range leaves a zero, invalid one (801 when a half is no date).
+    // Reads the text start "+" end. Always true, deliberately: any other text leaves an invalid range of zero dates (with 801 when a half
+    // is no date).
     bool SetRangeString(const std::string& therange);
 
-    // 01/05/2003+01/11/2003.
+    // The range as text: 01/05/2003+01/11/2003.
     [[nodiscard]] std::string ToString() const;
 
 private:
@@ -73,7 +74,7 @@ private:
     bool Parse(const std::string& range);
     std::optional<DateTime> ParseHalf(const std::string& text);
 
-    // Always false.
+    // Sets the number; always false.
     bool Fail(std::int32_t errorNumber);
 
     DateTime m_minDate;

@@ -16,13 +16,13 @@ namespace ptk {
 
 class CJetDB;
 
-// Setters store the value as it is; units and meanings of the fields stand at EmployeeRow.
+// Setters store the value as it is; EmployeeRow explains the fields and their units.
 class CEmployee : public RowEntity<EmployeeRow>
 {
 public:
     CEmployee() = default;
 
-    // As loaded: unchanged.
+    // An employee as loaded; the state is unchanged.
     explicit CEmployee(EmployeeRow row);
 
     void EmployeeID(std::int32_t value) { SetKey(m_row.EmployeeID, value); }
@@ -70,25 +70,25 @@ public:
     void AutoDeductBreakLength(std::int16_t value) { Change(&EmployeeRow::AutoDeductBreakLength, value); }
     [[nodiscard]] std::int16_t AutoDeductBreakLength() const { return m_row.AutoDeductBreakLength; }
 
-    // Adds, updates or deletes by state; false with 803 in any other. Unchanged afterwards in every case. A row that was changed since it
-    // was read is not overwritten: false with the database's Conflict.
+    // Adds, updates or deletes the row, as its state asks; false with 803 in any other state. The state is unchanged afterwards in every
+    // case. A row that was changed in the database since it was read is not overwritten: false with the database's Conflict.
     bool Save(const std::shared_ptr<CJetDB>& thedatabase);
 
-    // Lines end in CR LF. The labels' wording, blanks and tabs differ between the three forms, deliberately. What could be built, with 806,
-    // when it failed. The whole record
+    // The whole record as text. In all three text forms lines end in CR LF; a failure leaves 806, and the text ends where it happened. The
+    // labels' wording, blanks and tabs differ between the three, deliberately.
     std::string ToString();
 
-    // Heading of a time card.
+    // The employee's lines at the head of a time card.
     std::string ToStringTimeCard();
 
-    // Heading of an accountant's review.
+    // The employee's lines above the figures in an accountant's review.
     std::string ToStringReview();
 
     // First name, blank, last name; the last name alone when there is no first name. The form in which the program shows and finds
     // employees.
     [[nodiscard]] std::string DisplayName() const;
 
-    // Exact, without building a text.
+    // Whether DisplayName is exactly this name; builds no text.
     [[nodiscard]] bool HasDisplayName(std::string_view name) const;
 
     // Whether the employee has hours to show: active, and not an administrator by display name.

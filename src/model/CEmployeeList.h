@@ -1,4 +1,4 @@
-// All employees, as login, employee page, time cards and reports search them.
+// The list of employees, in which login, employee page, time cards and reports search.
 #pragma once
 
 #include "model/CEmployee.h"
@@ -11,19 +11,20 @@
 
 namespace ptk {
 
-// The look-ups find the first match in list order, else nullptr; texts match exactly, in their letter case.
+// The look-ups answer the first match in list order, or nullptr; texts must match exactly, letter case included.
 class CEmployeeList final : public EntityList<CEmployeeList, CEmployee>, public EmployeeSink
 {
 public:
     std::shared_ptr<CEmployee> GetEmployeeByID(std::int32_t theid);
 
-    // By display name.
+    // Looks up a display name: see CEmployee::DisplayName.
     std::shared_ptr<CEmployee> GetEmployeeByName(std::string_view thename);
 
     std::shared_ptr<CEmployee> GetEmployeeBySSN(std::string_view thessn);
     std::shared_ptr<CEmployee> GetEmployeeByNumber(std::int32_t thenumber);
 
-    // Puts only those of this display name, in their order, before those already here: for one card of one employee. False with 301.
+    // Loads only the employees with this display name and puts them before those already here: enough for one employee's card. False with
+    // 301.
     bool LoadNamed(const std::shared_ptr<CJetDB>& thedatabase, const std::string& thename);
 
     bool InsertLoaded(EmployeeRow row, std::int32_t position) override;

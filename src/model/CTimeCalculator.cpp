@@ -15,7 +15,7 @@ namespace {
 constexpr float kDailyRegularHours = 8.0F;
 constexpr double kMinutesPerHour = 60.0;
 
-// Every figure is a single: each step is computed in double and rounded once. Raises Failure 6 when it is too large.
+// Every figure has single precision: each step is computed in double precision and rounded once. Raises Failure 6 when it is too large.
 float Single(double value)
 {
     const auto rounded = static_cast<float>(value);

@@ -30,10 +30,10 @@ public:
     [[nodiscard]] float OvertimePay() const { return m_overtimePay; }
     [[nodiscard]] float TotalPay() const { return m_totalPay; }
 
-    // What was deducted.
+    // The hours that automatic deductions took off.
     [[nodiscard]] float TotalBreakTime() const { return m_totalBreakTime; }
 
-    // A failure is told by the answer alone.
+    // Always 0: a failure shows in the answer alone.
     [[nodiscard]] std::int32_t ErrorNumber() const { return 0; }
 
     // REQUIRES: the list is in order of start times. False, with the figures as far as they were summed, for more than 32,767 records or an
@@ -44,7 +44,7 @@ public:
     // summed, for more than 32,767 shifts or an overflow.
     bool CalculateTimes(const CEmployee& theemployee, std::span<const WorkedShift> theshifts);
 
-    // Rates in money per hour. The total pay; 0 on an overflow. Negative regular hours pay nothing at all, not even overtime, deliberately.
+    // The total pay at these rates per hour; 0 on an overflow. Negative regular hours pay nothing, not even overtime, deliberately.
     float CalculatePay(float theregularrate, float theovertimerate);
 
 private:

@@ -123,7 +123,7 @@ bool CTimeCard::CloseTimeRecord(const std::shared_ptr<CEmployee>& theemployee, D
     if (theemployee == nullptr) {
         return Fail(timecard::FetchFailed);
     }
-    // Both bounds on the shift date: of the records from there on, an open one's end lies before every bound.
+    // Both bounds are the shift date: of the records from then on this finds the open ones, whose zero end lies before every bound.
     if (!m_factory->BuildList(theemployee->EmployeeID(), theshiftdate, theshiftdate)) {
         return Fail(timecard::FetchFailed, m_factory->LastFailure());
     }
@@ -217,7 +217,8 @@ void CTimeCard::AppendLines(std::string& text)
     }
 }
 
-// Taken off every line, deliberately: whether or not the employee has automatic deduction, and however many records share a day.
+// The breaks are taken off every line, deliberately: whether or not the employee has automatic deduction, and however many records share a
+// day.
 float CTimeCard::BreakAllowance() const
 {
     if (m_employee == nullptr) {

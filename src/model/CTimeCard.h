@@ -1,4 +1,4 @@
-// The pay period of one employee: its time records, hours, break time and pay, and their text forms.
+// A time card: one employee's time records of one pay period, their hours, break time and pay, and its text forms.
 #pragma once
 
 #include "model/CardLine.h"
@@ -21,14 +21,15 @@ class CJetDB;
 class CTimeRecordFactory;
 class CTimeRecordList;
 
-// All cards work through the one factory: generating a card replaces the records of every card generated before. No member raises.
+// All cards share one factory: generating a card replaces the records of every card generated before. No member raises but
+// BreakAllowance and Lines.
 class CTimeCard : public Entity
 {
 public:
-    // The line above the shifts in the report's form.
+    // The column headings above the shifts in ToStringReport.
     static constexpr const char* kReportHeading = "\tStart Time\t\tEnd Time\t\tHours";
 
-    // REQUIRES: not nullptr.
+    // REQUIRES: the factory is not nullptr.
     explicit CTimeCard(std::shared_ptr<CTimeRecordFactory> factory);
 
     void Employee(std::shared_ptr<CEmployee> value) { Set(m_employee, std::move(value)); }
@@ -41,62 +42,65 @@ public:
 
     [[nodiscard]] DateTime EndDate() const { return m_range.EndDate(); }
 
-    // The factory's current list.
+    // The factory's current list; nullptr until a card has been generated.
     [[nodiscard]] std::shared_ptr<CTimeRecordList> TimeRecordList() const;
 
-    // Of that list, in its order; none without one.
+    // One line for each record of the factory's current list, in its order; none without a list. Raises 91 at an empty
+    // entry.
     [[nodiscard]] std::vector<CardLine> Lines() const;
 
-    // Hours that the text forms take off every line; raises 91 without an employee.
+    // The hours of breaks that the text forms take off every line; raises 91 without an employee.
     [[nodiscard]] float BreakAllowance() const;
 
     [[nodiscard]] float RegularHoursWorked() const { return m_regularHours; }
 
-    // Deliberately the employee's pay rate of now, not an amount; 0 without an employee.
+    // Deliberately the employee's present pay rate, not an amount; 0 without an employee.
     [[nodiscard]] float RegularPay() const;
 
     [[nodiscard]] float OvertimeHoursWorked() const { return m_overtimeHours; }
 
-    // Deliberately the employee's overtime pay rate of now, not an amount; 0 without an employee.
+    // Deliberately the employee's present overtime pay rate, not an amount; 0 without an employee.
     [[nodiscard]] float OvertimePay() const;
 
     [[nodiscard]] float TotalPay() const { return m_totalPay; }
 
-    // Hours taken off automatically.
+    // The hours that automatic deductions took off.
     [[nodiscard]] float TotalBreakTime() const { return m_totalBreakTime; }
 
-    // Must be set for GenerateTimecard.
+    // GenerateTimecard needs a database (405).
     void PTKDatabase(std::shared_ptr<CJetDB> value) { m_database = std::move(value); }
     [[nodiscard]] const std::shared_ptr<CJetDB>& PTKDatabase() const { return m_database; }
 
-    // Loads the records that start at or after the start and end at or before the end (pass the midnight after the last day), and those
-    // still open, and computes the figures. False with 603, 602, 405, 605 or 601; without records the figures stay as they were.
+    // Loads the records that start at or after the start date, and end at or before the end date (pass the midnight after the last day) or
+    // are still open, and computes the figures. False with 603, 602, 405, 605 or 601, or with no number where the figures cannot be
+    // computed; without records the figures stay as they were.
     bool GenerateTimecard(const std::shared_ptr<CEmployee>& theemployee, DateTime thestartdate, DateTime theenddate);
 
-    // Clocks the employee out: ends and saves the first record still open that starts on or after the shift date. False with 301, or with
-    // no number when none is open. A refused save answers true; it shows in the factory's ErrorNumber only.
+    // Clocks the employee out: gives the first open record that starts on or after the shift date its end, and saves it. False with 301, or
+    // with no number when no record is open. A refused save answers true; it shows in LastFailure and in the factory's ErrorNumber.
     bool CloseTimeRecord(const std::shared_ptr<CEmployee>& theemployee, DateTime theshiftdate, DateTime theendtime);
 
-    // nullptr with 607.
+    // The record of the current list with these times; nullptr with 607 when there is none.
     std::shared_ptr<CTimeRecord> GetTimeRecordByKey(DateTime thestarttime, DateTime theendtime);
 
     // Why the last GenerateTimecard, CloseTimeRecord, Save or SaveTimeRecord failed or stored nothing, in words for the program's users;
     // number 0 and no text when nothing went wrong, which a period without records (605) does not. See CJetDB::LastFailure.
     [[nodiscard]] const Failure& LastFailure() const { return m_lastFailure; }
 
-    // False with the factory's number, for an unexpected failure only: a refused statement shows in the factory's ErrorNumber alone.
-    // Every changed record of the current list, or none of them; the card is unchanged afterwards.
+    // Stores every changed record of the current list, or none of them; the card's state is unchanged afterwards. False with the factory's
+    // number for an unexpected failure only: a refused statement answers true and shows in LastFailure and in the factory's ErrorNumber.
     bool Save();
 
+    // Stores one record by its state, and answers as Save does.
     bool SaveTimeRecord(const std::shared_ptr<CTimeRecord>& thetimerecord);
 
-    // Lines end in CR LF. With 710 what could be built. An empty line and the summary
+    // An empty line and the summary. In all three text forms lines end in CR LF; a failure leaves 710, and the text ends where it happened.
     std::string ToString();
 
-    // The employee, the records and the summary; 605 when there are no records.
+    // The form of a report: the employee, the records and the summary; leaves 605 when there are no records.
     std::string ToStringReport();
 
-    // The summary.
+    // The summary alone, for the accountant's review.
     std::string ToStringReview();
 
 private:
@@ -107,7 +111,7 @@ private:
     void AppendLines(std::string& text);
     void Begin();
 
-    // Always false.
+    // Sets the number; always false.
     bool Fail(std::int32_t errorNumber);
     bool Fail(std::int32_t errorNumber, const Failure& reason);
 

@@ -7,7 +7,7 @@ namespace ptk {
 
 namespace {
 
-constexpr std::size_t kUsualLineLength = 48; // two times in the usual format and the hours: one allocation a line
+constexpr std::size_t kUsualLineLength = 48; // two times in the usual format and the hours, so that a line costs one allocation
 
 } // namespace
 
@@ -93,7 +93,7 @@ std::shared_ptr<CTimeRecord> StoredRecord(const TimeRecordRow& row)
     record->EmployeeID(row.EmployeeID);
     record->StartTime(row.StartTime);
     record->EndTime(row.EndTime);
-    record->ObjectState(row.ObjectState); // last, since filling marks it changed
+    record->ObjectState(row.ObjectState); // last, since the setters above mark the record as changed
     record->KeepAsRead();
     return record;
 }

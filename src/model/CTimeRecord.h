@@ -15,13 +15,13 @@ namespace ptk {
 
 class CTimeRecordFactory;
 
-// Decimal hours, rounded to single.
+// Minutes as decimal hours, rounded to single precision.
 [[nodiscard]] float HoursOf(std::int64_t minutes);
 
 class CTimeRecord : public Entity
 {
 public:
-    // nullptr is ignored; not kept alive.
+    // Remembers the factory without keeping it alive; nullptr is ignored.
     void TimeRecordFactory(const std::shared_ptr<CTimeRecordFactory>& value);
 
     [[nodiscard]] std::shared_ptr<CTimeRecordFactory> TimeRecordFactory() const { return m_factory.lock(); }
@@ -34,19 +34,20 @@ public:
     void EmployeeID(std::int32_t value) { Set(m_employeeID, value); }
     [[nodiscard]] std::int32_t EmployeeID() const { return m_employeeID; }
 
-    // Setting either recalculates the hours as soon as both are known (not zero).
+    // Setting the start or the end recalculates the hours as soon as both are set (not zero).
     void StartTime(DateTime value);
     [[nodiscard]] DateTime StartTime() const { return m_startTime; }
     void EndTime(DateTime value);
 
-    // Zero = still clocked in.
+    // Zero while the employee is still clocked in.
     [[nodiscard]] DateTime EndTime() const { return m_endTime; }
 
-    // Decimal hours. An end before the start is stored as a negative number but read as 0; the text form shows it as it is, deliberately.
+    // Decimal hours. Where the end is before the start, the stored number is negative and this answers 0; the text form shows the stored
+    // number, deliberately.
     void HoursWorked(float value) { Set(m_hoursWorked, value); }
     [[nodiscard]] float HoursWorked() const { return m_hoursWorked > 0 ? m_hoursWorked : 0; }
 
-    // Negative as they are.
+    // Decimal hours, negative where the end is before the start.
     [[nodiscard]] float StoredHours() const { return m_hoursWorked; }
 
     // Whether the text forms use FormatString or the general date-time text.
@@ -55,27 +56,29 @@ public:
     void FormatString(std::string value) { m_formatString = std::move(value); }
     [[nodiscard]] std::string FormatString() const { return m_formatString.value_or(kDefaultFormat); }
 
-    // From the minute boundaries crossed; marks nothing.
+    // Sets the hours to the minute boundaries between start and end; does not mark the record as changed.
     float CalculateHoursWorked();
 
     // The statement that stores the record, by its state; empty when there is nothing to store. See CTimeRecSQLConverter.
     [[nodiscard]] std::string ToSQL() const;
 
-    // One line without a line end: start, tab, end, tab, hours less `breakHours` with two decimals. With 806 what could be built.
+    // One line without a line end: start, tab, end, tab, hours less `breakHours` with two decimals. A failure leaves 806,
+    // and the text ends where it happened.
     std::string ToString(float breakHours);
 
-    // One line without a line end: start, tab, end. With 806 what could be built.
+    // One line without a line end: start, tab, end. A failure leaves 806, and the text ends where it happened.
     std::string ToStringReport();
 
-    // What the database had when the record was read or last stored there; nothing for one that never was. It holds a save to that row.
+    // The row as the record was read or last stored; nothing for a new or deleted record. A save goes through only where the stored row is
+    // still this one.
     [[nodiscard]] const std::optional<TimeRecordRow>& AsRead() const { return m_asRead; }
 
-    // The database has it as it is now.
+    // Notes that the stored row is now as this record is.
     void KeepAsRead() { m_asRead = Row(); }
 
     void ForgetAsRead() { m_asRead.reset(); }
 
-    // In this record's format; may raise failures.
+    // Appends a time in this record's format; may raise failures.
     void AppendTime(std::string& text, DateTime time) const;
 
     [[nodiscard]] TimeRecordRow Row() const { return {m_timeRecordID, m_employeeID, m_startTime, m_endTime, ObjectState()}; }
@@ -87,7 +90,7 @@ private:
     static constexpr const char* kDefaultFormat = "mm/dd/yyyy hh:mm AM/PM";
 
     std::weak_ptr<CTimeRecordFactory> m_factory;
-    std::optional<std::string> m_formatString; // none = the default, which would cost every record an allocation
+    std::optional<std::string> m_formatString; // none: the default, which is not copied since every record would pay an allocation
     std::optional<TimeRecordRow> m_asRead;
     DateTime m_startTime;
     DateTime m_endTime;
@@ -97,7 +100,7 @@ private:
     bool m_enforceFormat = true;
 };
 
-// A record as the database has it.
+// The record of a stored row, in the row's state.
 [[nodiscard]] std::shared_ptr<CTimeRecord> StoredRecord(const TimeRecordRow& row);
 
 } // namespace ptk

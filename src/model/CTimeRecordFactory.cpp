@@ -50,7 +50,7 @@ bool CTimeRecordFactory::BuildList(std::int32_t theemployeeid, DateTime thestart
         SortTimeRecordList();
         return found;
     };
-    // The hold must not outlive a failure, or no other program gets at the file.
+    // The file must not stay held after a failure, or no other program could open it.
     const auto giveUp = [&](const Failure& reason) {
         m_refusal.failure = reason;
         if (m_database != nullptr) {
@@ -114,7 +114,7 @@ void CTimeRecordFactory::ForgetFailure()
     m_refusal = {};
 }
 
-// What the database has now, for the next save: a new record's number is not known, a deleted one's row is gone.
+// Notes the stored row for the next save. There is none to note for a new record, whose number is not known, and for a deleted one.
 void CTimeRecordFactory::Stored(CTimeRecord& record)
 {
     if (record.ObjectState() == state::Changed) {
@@ -156,7 +156,7 @@ bool CTimeRecordFactory::SaveList()
     return Succeeds(save, [&](const Failure& reason) { Fail(recordfactory::SaveListFailed, reason); });
 }
 
-// A record that was given another number is not the row that was read, and a new one none at all.
+// Only a record that is not new and kept its number is the row that was read; for others no row is compared.
 TimeRecordWrite CTimeRecordFactory::WriteOf(const CTimeRecord& record)
 {
     TimeRecordWrite write{WholeStatement(record.Row()), record.AsRead()};

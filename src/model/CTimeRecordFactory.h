@@ -17,7 +17,7 @@ class CTimeRecord;
 class CTimeRecordList;
 class RecordSet;
 
-// The program has exactly one, which all time cards share. No member raises.
+// The program has exactly one factory, which all time cards share. No member raises.
 class CTimeRecordFactory
 {
 public:
@@ -31,43 +31,44 @@ public:
 
     [[nodiscard]] std::int32_t ErrorNumber() const { return m_errorNumber; }
 
-    // Always true.
+    // Clears ErrorNumber, LastFailure and Conflict; always true.
     bool ResetError();
 
-    // Why the last BuildList, Save or SaveList did not do what it should, in words for the program's users; number 0 and no text when it
-    // did, a period without records included. See CJetDB::LastFailure.
+    // Why the last BuildList, Save or SaveList failed, in words for the program's users; number 0 and no text when it did not, and for a
+    // period without records. See CJetDB::LastFailure.
     [[nodiscard]] const Failure& LastFailure() const { return m_refusal.failure; }
 
-    // The row that somebody else had changed or removed since it was read, where that was why the last Save or SaveList was refused.
+    // The row that somebody else changed or removed after it was read, where the last Save or SaveList was refused for that reason.
     [[nodiscard]] const std::optional<RowConflict>& Conflict() const { return m_refusal.conflict; }
 
-    // Replaces the contents of the current list, the same list object. Bounds as CTimeRecSQLConverter::BuildFetchSQL takes them. False with
-    // 301 for a period without records or a failure, the list then holding what was read; a database that cannot be opened gives true and
-    // an empty list, deliberately. The database is closed afterwards.
+    // Fills the current list anew, which stays the same object, with an employee's records of a period; the bounds are those of
+    // CTimeRecSQLConverter::BuildFetchSQL. False with 301 for a period without records or a failure, the list then holding what was read; a
+    // database that cannot be opened or asked gives true and an empty list, deliberately. The database is closed afterwards.
     bool BuildList(std::int32_t theemployeeid, DateTime thestarttime, DateTime theendtime);
 
     // Empties and drops the current list; false with 302.
     bool DestroyList();
 
     // Writes one record by its state, which stays as it is: saving a new record twice stores it twice, deliberately. A refused statement
-    // answers true and leaves 803; an error number of before is not cleared.
+    // answers true and leaves 803, an unexpected failure answers false with 803; an earlier error number is not cleared.
     bool Save(const std::shared_ptr<CTimeRecord>& thetimerecord);
 
-    // All that need it, in one transaction: none is stored when one was refused (803); false only with 321.
+    // Stores all records of the current list that need it, in one transaction: none is stored when one is refused, which answers true with
+    // 803. False only with 321.
     bool SaveList();
 
     // Always nullptr.
     std::shared_ptr<CTimeRecordList> CloneTimeRecordList();
 
-    // nullptr, with 0 when there is none.
+    // The first record of the current list with these times. nullptr with 0 when there is none, with 341 when the list cannot be read.
     std::shared_ptr<CTimeRecord> GetTimeRecordByKey(DateTime thestarttime, DateTime theendtime);
 
-    // False with 314.
+    // Sorts the current list as CTimeRecordListSorter::Sort does; false with 314.
     bool SortTimeRecordList();
 
 private:
     void RenewList();
-    // False for a period without records; true, with an empty list, also where the database could not be read, deliberately.
+    // False for a period without records; deliberately true, with an empty list, where the database could not be opened or asked.
     bool Load(std::int32_t theemployeeid, DateTime thestarttime, DateTime theendtime);
     void InsertRows(RecordSet& rows);
     [[nodiscard]] static TimeRecordWrite WriteOf(const CTimeRecord& record);
@@ -75,7 +76,7 @@ private:
     void TakeAnswer(bool stored, std::span<CTimeRecord* const> records);
     void ForgetFailure();
 
-    // Always false.
+    // Sets the number; always false.
     bool Fail(std::int32_t errorNumber);
     void Fail(std::int32_t errorNumber, const Failure& reason);
 

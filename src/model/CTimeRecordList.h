@@ -15,13 +15,13 @@ class CJetDB;
 class CTimeRecordList final : public KeyedStore<std::shared_ptr<CTimeRecord>>
 {
 public:
-    // Kept, not used by the list.
+    // The list keeps the database but does not use it.
     void PTKDatabase(std::shared_ptr<CJetDB> value) { m_database = std::move(value); }
 
-    // Appends it as new; false with 312.
+    // Appends the record and sets its state to new; false with 312.
     bool AddNew(const std::shared_ptr<CTimeRecord>& thisvalue);
 
-    // False with 312; the record's state stays.
+    // Inserts the record, whose state stays as it is; false with 312.
     bool Insert(std::shared_ptr<CTimeRecord> thisvalue, std::int32_t thisindex);
 
     // False with 351 or 313.
@@ -30,7 +30,7 @@ public:
     // Deliberately loses the record and answers false: it is put back at `toHere` only when taking it out failed.
     bool Move(std::int32_t fromHere, std::int32_t toHere);
 
-    // For walks: raises Failure 9 outside 1 to Count and 91 for an empty entry; leaves ErrorNumber alone.
+    // For walks through the list: raises Failure 9 outside 1 to Count and 91 for an empty entry; leaves ErrorNumber alone.
     [[nodiscard]] CTimeRecord& RecordAt(std::int32_t position) const;
 
     using KeyedStore::Entries;

@@ -29,7 +29,7 @@ bool InOrder(const CTimeRecordList& list)
     return true;
 }
 
-// Of equal records the one at the lower position.
+// The position of the earliest record from `first` on; among equal records the lowest position.
 std::int32_t EarliestFrom(const CTimeRecordList& list, std::int32_t first)
 {
     std::int32_t earliest = first;
@@ -96,7 +96,7 @@ bool CTimeRecordListSorter::Sort(std::int16_t /*sortorder*/)
     });
 }
 
-// Every Move shortens the list by the record it should have moved; the walk goes on at the next position all the same.
+// Every Move loses the record that it should move, and the list gets shorter; the walk still goes on at the next position.
 void CTimeRecordListSorter::SelectionSort()
 {
     for (std::int32_t i = 1; i <= m_list->Count(); ++i) {

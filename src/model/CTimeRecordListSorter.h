@@ -12,7 +12,7 @@ namespace ptk {
 class CTimeRecord;
 class CTimeRecordList;
 
-// The first match wins; not found is nullptr or -1 without a number.
+// Searches answer the first match, or nullptr or -1: with number 0 when nothing matches, with 341 when the list cannot be read.
 class CTimeRecordListSorter
 {
 public:
@@ -28,11 +28,11 @@ public:
 
     std::shared_ptr<CTimeRecord> GetTimeRecordByKey(DateTime thestarttime, DateTime theendtime);
 
-    // The shift date is not used.
+    // The position of the first record with these two times; the shift date is not used.
     std::int32_t GetIndexByKey(DateTime theshiftdate, DateTime thestarttime, DateTime theendtime);
 
-    // Ascending by start, then end, whatever the sort order; equal records stay in place. False without a list, and with 314 for more than
-    // 32,767 records. A list that is out of order loses each record that would have to move, deliberately: see CTimeRecordList::Move.
+    // Sorts ascending by start, then end, whatever the sort order; equal records stay in place. False without a list, and with 314 for more
+    // than 32,767 records. A list that is out of order loses each record that would have to move, deliberately: see CTimeRecordList::Move.
     bool Sort(std::int16_t sortorder);
 
 private:

@@ -10,7 +10,7 @@ namespace ptk {
 
 class CTimeRecord;
 
-// Times and hours stand as they were when the card answered them, whatever an editor does to the record since. REQUIRES: a record.
+// Times and hours stay as they were when the card was asked for its lines, whatever an editor does to the record later. REQUIRES: a record.
 struct CardLine
 {
     DateTime start;
@@ -18,14 +18,14 @@ struct CardLine
     float hours = 0;                     // decimal; deliberately below 0 where the end is before the start, which is paid as 0
     std::shared_ptr<CTimeRecord> record; // whose line it is
 
-    // In the record's own format of times.
+    // Start and end in the record's own date-time format.
     [[nodiscard]] std::string StartText() const;
     [[nodiscard]] std::string EndText() const;
 
-    // Less the break, with two decimals.
+    // The hours less the break, with two decimals.
     [[nodiscard]] std::string HoursText(float breakHours = 0) const;
 
-    // Start, tab, end, tab, hours.
+    // Appends start, tab, end, tab and the hours less the break.
     void AppendTo(std::string& text, float breakHours) const;
 };
 

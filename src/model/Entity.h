@@ -1,4 +1,4 @@
-// The part of every entity that remembers what the database still has to learn about it.
+// What all entities have: a state, which says how the next save stores the entity, and an error number.
 #pragma once
 
 #include "platform/Succeeds.h"
@@ -20,14 +20,14 @@ struct StoreCalls
     bool (CJetDB::*add)(const Row&);
     bool (CJetDB::*update)(const Row&);
 
-    // Refused when the stored row is another.
+    // Refuses where the stored row is no longer as it was read.
     bool (CJetDB::*updateAsRead)(const Row&, const Row& asRead);
 
     bool (CJetDB::*remove)(const Row&);
     std::int32_t wrongState;
 };
 
-// An entity starts as new (1). Loaders set it to unchanged (0) after filling it, since filling marks it.
+// An entity starts as new (1). Loaders set its state to unchanged (0) after they have filled it, since the setters mark it as changed.
 class Entity
 {
 public:
@@ -57,7 +57,7 @@ protected:
         MarkChanged();
     }
 
-    // A key comes from the database, so even a new entity that is given one counts as stored there.
+    // A key comes from the database, so even a new entity counts as stored (and changed) once it is given a key.
     void SetKey(std::int32_t& key, std::int32_t value)
     {
         key = value;
@@ -68,7 +68,7 @@ protected:
 
     void ErrorNumber(std::int32_t value) { m_errorNumber = value; }
 
-    // The text that `append` writes; with `failedNumber` what was there when it failed.
+    // The text that `append` writes. A failure leaves `failedNumber`, and the text ends where it happened.
     template <typename Steps>
     std::string BuildText(std::int32_t failedNumber, Steps append)
     {
@@ -84,7 +84,7 @@ private:
     std::int32_t m_errorNumber = 0;
 };
 
-// An entity that is one row of a table, and knows as what it was read, so that a save overwrites nobody else's change.
+// An entity that is one row of a table. It keeps the row as it was read, so that a save overwrites nobody else's change.
 template <typename Row>
 class RowEntity : public Entity
 {
@@ -106,7 +106,7 @@ protected:
         Set(m_row.*field, std::move(value));
     }
 
-    // Stores the row the way the state asks for. Deliberately unchanged afterwards even when that failed: a refused row is not tried again.
+    // Stores the row as the state asks. The state is deliberately unchanged afterwards even on failure: a refused row is not tried again.
     bool SaveRow(const std::shared_ptr<CJetDB>& thedatabase, std::int32_t Row::*key, const StoreCalls<Row>& calls)
     {
         ErrorNumber(0);
@@ -128,7 +128,7 @@ protected:
     Row m_row;
 
 private:
-    // A row that was given another key is not the one that was read.
+    // A row that was given another key is not the one that was read: it is updated without a comparison.
     bool Update(CJetDB& database, std::int32_t Row::*key, const StoreCalls<Row>& calls)
     {
         const Row* asRead = m_stored ? &m_row : m_asRead.get();
@@ -141,8 +141,8 @@ private:
         return updated;
     }
 
-    std::shared_ptr<const Row> m_asRead; // where it was changed since
-    bool m_stored = false;               // whether the row is as the database has it
+    std::shared_ptr<const Row> m_asRead; // only where the row was changed since
+    bool m_stored = false;               // whether m_row is as it was read or stored last
 };
 
 } // namespace ptk

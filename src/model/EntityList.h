@@ -12,7 +12,7 @@
 
 namespace ptk {
 
-// `Self` is the list class itself.
+// A list that knows its database. `Self` is the list class that is derived from it.
 template <typename Self, typename Object>
 class DatabaseList : public KeyedList<std::shared_ptr<Object>>
 {
@@ -62,7 +62,7 @@ public:
         return true;
     }
 
-    // Puts the stored entities, unchanged, before those already here. False with 301; an empty database gives false with no number.
+    // Puts all stored entities, in the state unchanged, before those already here. False with 301; nullptr gives false with no number.
     bool LoadList(const std::shared_ptr<CJetDB>& thedatabase)
     {
         this->ClearError();
@@ -77,7 +77,7 @@ public:
         return loaded;
     }
 
-    // Saves every object that needs it, also after one failed, as one step of the edit trail. True when all of them, or none, were saved.
+    // Saves every object that needs it, also after one failed, as one step of the edit trail. False when any of them was not saved.
     bool SaveList()
     {
         this->ClearError();
@@ -92,8 +92,8 @@ public:
         return saved;
     }
 
-    // Why the last SaveList failed first, in words for the program's users; number 0 and no text when it did not. And the row that somebody
-    // else had changed or removed, where that was why.
+    // The first failure of the last SaveList, in words for the program's users; number 0 and no text when there was none. Where somebody
+    // else's change or removal of a row was the reason, Conflict is that row.
     [[nodiscard]] const Failure& LastFailure() const { return m_refusal.failure; }
     [[nodiscard]] const std::optional<RowConflict>& Conflict() const { return m_refusal.conflict; }
 
@@ -101,7 +101,7 @@ protected:
     EntityList() = default;
     ~EntityList() = default;
 
-    // The first object, in list order, that satisfies it; else nullptr.
+    // The first object, in list order, for which `matches` is true; else nullptr.
     template <typename Predicate>
     std::shared_ptr<Object> First(Predicate matches)
     {
