@@ -23,8 +23,7 @@ public:
     std::shared_ptr<CEmployee> GetEmployeeBySSN(std::string_view thessn);
     std::shared_ptr<CEmployee> GetEmployeeByNumber(std::int32_t thenumber);
 
-    // Loads only the employees with this display name and puts them before those already here: enough for one employee's card. False with
-    // 301.
+    // Loads only the employees with this display name, for one employee's card, and puts them before those already here. False with 301.
     bool LoadNamed(const std::shared_ptr<CJetDB>& thedatabase, const std::string& thename);
 
     bool InsertLoaded(EmployeeRow row, std::int32_t position) override;

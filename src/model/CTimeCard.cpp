@@ -217,8 +217,7 @@ void CTimeCard::AppendLines(std::string& text)
     }
 }
 
-// The breaks are taken off every line, deliberately: whether or not the employee has automatic deduction, and however many records share a
-// day.
+// The breaks come off every line, deliberately: whether or not the employee has automatic deduction, and however many records share a day.
 float CTimeCard::BreakAllowance() const
 {
     if (m_employee == nullptr) {

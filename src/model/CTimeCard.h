@@ -21,8 +21,7 @@ class CJetDB;
 class CTimeRecordFactory;
 class CTimeRecordList;
 
-// All cards share one factory: generating a card replaces the records of every card generated before. No member raises but
-// BreakAllowance and Lines.
+// All cards share one factory: generating one replaces the records of every earlier card. No member raises but BreakAllowance and Lines.
 class CTimeCard : public Entity
 {
 public:
@@ -45,8 +44,7 @@ public:
     // The factory's current list; nullptr until a card has been generated.
     [[nodiscard]] std::shared_ptr<CTimeRecordList> TimeRecordList() const;
 
-    // One line for each record of the factory's current list, in its order; none without a list. Raises 91 at an empty
-    // entry.
+    // One line for each record of the factory's current list, in its order; none without a list. Raises 91 at an empty entry.
     [[nodiscard]] std::vector<CardLine> Lines() const;
 
     // The hours of breaks that the text forms take off every line; raises 91 without an employee.

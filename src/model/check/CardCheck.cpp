@@ -18,7 +18,7 @@ namespace {
 constexpr std::int64_t kMinutesPerHour = 60;
 constexpr std::int64_t kSecondsPerHour = 3600;
 
-// Days of the calendar by their numbers, both included.
+// A span of calendar days by their numbers, both ends included.
 struct DaySpan
 {
     std::int64_t first;
@@ -76,7 +76,7 @@ private:
         }
     }
 
-    // Of all readable ones, in their order.
+    // The readable punches that match, by start, end and number.
     template <typename Predicate>
     std::vector<const Punch*> Where(Predicate matches) const
     {
@@ -161,7 +161,7 @@ private:
         }
     }
 
-    // Among the records of the card and those of the work weeks around it.
+    // Looks for groups among the records of the card and of the work weeks that its period touches.
     void CheckGroups()
     {
         const auto near =
@@ -205,7 +205,7 @@ private:
         CheckRates(regular, overtime);
     }
 
-    // Somebody who is at work may yet work off the deduction.
+    // No finding while somebody is at work: the day's hours may still exceed the deduction.
     void CheckDeduction(const WorkDay& day, std::int64_t paid)
     {
         const auto atWork = [this](const Punch* punch) { return IsAtWork(*punch); };
@@ -291,9 +291,9 @@ private:
     DateTime m_now;
     const CheckLimits& m_limits;
     const CardFacts& m_facts;
-    std::vector<const Punch*> m_all; // readable, by start, end and number
+    std::vector<const Punch*> m_all; // the readable punches, by start, end and number
     std::vector<const Punch*> m_onCard;
-    bool m_readable = true; // all that the card's fetch takes
+    bool m_readable = true; // whether all rows that the card's fetch takes can be read
     CardCheck m_found;
 };
 

@@ -1,4 +1,4 @@
-// The check of a card: beside the pay, never part of it. It says what of one employee's pay period should be looked at before paying.
+// The check of a card finds what should be looked at in one employee's pay period before paying. It never changes what is paid.
 #pragma once
 
 #include "model/check/CardFigures.h"
@@ -19,7 +19,7 @@ class CEmployee;
 class ClockChanges;
 struct ClosingsOfEmployee;
 
-// Whose card, and for which days.
+// Whose card is checked, and for which days.
 struct CheckedCard
 {
     const CEmployee& employee;
@@ -27,7 +27,7 @@ struct CheckedCard
     DateTime to;
 };
 
-// How the card's hours of one day are paid, in minutes. Automatic deduction can bring the regular ones below 0.
+// How the card's hours of one day are paid, in minutes. Automatic deduction can bring the regular minutes below 0.
 struct DayMinutes
 {
     DateTime day; // midnight
@@ -35,35 +35,35 @@ struct DayMinutes
     std::int64_t overtime = 0;
 };
 
-// What the check is told of beside the records. Each is asked only where it matters.
+// What the check needs besides the records. Each fact is looked at only where it matters.
 struct CardFacts
 {
     const ClosingsOfEmployee* closings = nullptr; // as seen from the period; nullptr: nothing is closed
     ClockChanges* clock = nullptr;                // nullptr: the clock was never changed
 
-    // Whether a readable record is on the card of as many days before the period; where this is not set, none.
+    // Whether the card of equally many days before this period has a readable record; where the function is empty, it has none.
     std::function<bool()> workedBefore{};
 };
 
 struct CardCheck
 {
-    std::vector<Finding> findings; // in their order
-    std::vector<WorkWeek> weeks;   // that the period touches and in which a shift starts, on whichever of their days
-    std::vector<DayMinutes> days;  // on which a shift of the card starts
+    std::vector<Finding> findings; // ordered by operator<
+    std::vector<WorkWeek> weeks;   // the weeks that the period touches and in which a shift starts, be it outside the period
+    std::vector<DayMinutes> days;  // the days on which a shift of the card starts
     std::int32_t problems = 0;
     std::int32_t notices = 0;
-    bool clockedIn = false;                // somebody is at work
+    bool clockedIn = false;                // whether the employee is at work now
     std::optional<CardFigures> figures;    // none where the card's fetch takes a row that cannot be read, or more than 32,767
-    std::optional<PaidDifference> changed; // none where the period is not closed, or the card is as it was paid
+    std::optional<PaidDifference> changed; // none where the period is not closed, or the card is still as it was paid
 
-    // Minutes, 0 without weeks.
+    // The minutes of the longest week; 0 without weeks.
     [[nodiscard]] std::int64_t LongestWeek() const;
 };
 
-// `punches`: the rows that the card's fetch takes, those that start in or reach into a work week of the period, those that cross either end
-// of it, those that start between the last closing before it and the period, and those that cannot be read; further ones do no harm. Linear
-// after sorting. Of somebody without a shift on the card or across its ends and without a row that cannot be read there is nothing to tell
-// but what the closings and the period before give rise to: such a check has no weeks and figures of 0.
+// Checks a card. `punches` are the rows that the card's fetch takes, and those that start in or reach into a work week of the period, cross
+// one of its ends, start between the last closing before it and the period, or cannot be read; other rows do no harm. Linear after sorting.
+// Where every row can be read and no shift is on the card or crosses its ends, only closings and the period before can lead to findings:
+// such a check has no weeks and figures of 0.
 [[nodiscard]] CardCheck CheckCard(const CheckedCard& card, const Punches& punches, DateTime now, const CheckLimits& limits,
                                   const CardFacts& facts = {});
 

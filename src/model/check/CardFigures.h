@@ -11,7 +11,7 @@ namespace ptk {
 
 class CEmployee;
 
-// To the letter as the employee's time card shows them.
+// The exact texts that the employee's time card shows.
 struct CardFigures
 {
     std::string regular;  // hours
@@ -20,11 +20,11 @@ struct CardFigures
 
     bool operator==(const CardFigures&) const = default;
 
-    // The shown hours of both kinds together.
+    // Regular and overtime hours together, added as they are shown.
     [[nodiscard]] std::string Hours() const;
 };
 
-// Nothing for more than 32,767. REQUIRES: all are on the card and readable, and stand by start.
+// Nothing for more than 32,767 punches, or where the hours overflow. REQUIRES: all punches are on the card and readable, ordered by start.
 [[nodiscard]] std::optional<CardFigures> FiguresOf(const CEmployee& employee, std::span<const Punch* const> punches);
 
 } // namespace ptk

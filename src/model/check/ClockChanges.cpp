@@ -15,7 +15,7 @@ std::int64_t ClockChanges::AtMidnight(std::int64_t dayNumber)
     return m_midnights[dayNumber] = m_offsetAt(DateTime::FromSeconds(dayNumber * DateTime::kSecondsPerDay));
 }
 
-// No zone changes its clocks twice on one day.
+// Where both midnights of a day have the same offset, the whole day has it: no zone changes its clocks twice on one day.
 std::int64_t ClockChanges::At(DateTime moment)
 {
     static const std::int64_t lastDay = DateTime(CalendarDate{9999, 12, 31}).DayNumber();

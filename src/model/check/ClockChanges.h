@@ -1,4 +1,4 @@
-// When the clocks of the business were put forward or back: a punch holds what a clock on the wall showed.
+// When the clocks of the business were put forward or back. This matters since a punch holds what a clock on the wall showed.
 #pragma once
 
 #include "platform/text/DateTime.h"
@@ -9,16 +9,16 @@
 
 namespace ptk {
 
-// Remembers what it was asked. One that a card after the other is checked with asks the system once a day of theirs.
+// Remembers the answers for midnights: used for many cards, it asks the system about each day once, save on days of a change.
 class ClockChanges
 {
 public:
-    // Seconds by which a clock on the wall is ahead of the world's time. Not empty.
+    // Answers by how many seconds a clock on the wall is ahead of UTC at that moment. Must not be empty.
     using OffsetAt = std::function<std::int64_t(DateTime moment)>;
 
     explicit ClockChanges(OffsetAt offsetAt);
 
-    // By how many seconds the clock was put forward between the two, negative where it was put back.
+    // By how many seconds the clock was put forward between two moments; negative where it was put back.
     [[nodiscard]] std::int64_t Between(DateTime earlier, DateTime later);
 
 private:

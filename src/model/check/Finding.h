@@ -1,4 +1,4 @@
-// What can be wrong, or worth a look, with one employee's time card.
+// A finding: something that is wrong, or worth a look, on one employee's time card.
 #pragma once
 
 #include "platform/text/DateTime.h"
@@ -11,7 +11,7 @@
 
 namespace ptk {
 
-// In the order in which findings of one moment are listed.
+// The kinds stand in the order in which findings of one moment are listed.
 enum class FindingKind
 {
     Unreadable,
@@ -44,25 +44,25 @@ enum class Severity
     Notice   // look at it
 };
 
-// "unreadable", "clocked-in": as data files carry it.
+// The kind's name in data files: "unreadable", "clocked-in".
 [[nodiscard]] std::string_view NameOf(FindingKind kind);
 
 [[nodiscard]] Severity SeverityOf(FindingKind kind);
 
-// "problem", "notice".
+// The severity's name in data files: "problem", "notice".
 [[nodiscard]] std::string_view NameOf(Severity severity);
 
 struct Finding
 {
     FindingKind kind = FindingKind::Unreadable;
     std::vector<std::int64_t> records; // keys, by start, end and number; none for what concerns a whole week or period, save what was paid
-    std::int64_t minutes = 0;          // what it is about, whole minutes; below 0 where less is owed than was paid
-    std::optional<DateTime> from;      // the earliest start and the latest end, where there is one
+    std::int64_t minutes = 0;          // whole minutes that the finding is about; below 0 where less is owed than was paid
+    std::optional<DateTime> from;      // the earliest start, where there is one; `to` is the latest end
     std::optional<DateTime> to;
     std::string text; // one plain sentence
 };
 
-// By start, those without one first, then by kind, then by record.
+// Orders by start, findings without one first, then by kind, then by records.
 bool operator<(const Finding& left, const Finding& right);
 
 } // namespace ptk

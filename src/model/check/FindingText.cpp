@@ -43,7 +43,7 @@ std::string HoursAndMinutes(std::int64_t minutes)
     return (minutes < 0 ? "-" : "") + std::to_string(size / 60) + (rest.size() == 1 ? ":0" : ":") + rest;
 }
 
-// A foreign value may be long: its beginning tells enough.
+// A value that another tool stored may be long: its beginning says enough.
 std::string QuotedValue(std::string_view text)
 {
     std::size_t length = std::min(text.size(), kMostShown);
@@ -55,7 +55,7 @@ std::string QuotedValue(std::string_view text)
     return '"' + shown + (length < text.size() ? "...\"" : "\"");
 }
 
-// The time that can be read says where to look for the record.
+// Where one of the two times can be read, it says where to look for the record.
 std::string UnreadableText(const Punch& punch)
 {
     if (!IsSet(punch.start) && !punch.end) {

@@ -1,4 +1,4 @@
-// The sentences of the findings: the program's only wording for these matters, in windows, on the console and in data files.
+// The sentences of the findings. Windows, the console and data files all use these.
 #pragma once
 
 #include "model/check/Finding.h"
@@ -16,18 +16,18 @@ struct CardCheck;
 struct CardFigures;
 struct Closing;
 
-// "7:05", "-0:30".
+// Minutes as hours and minutes: "7:05", "-0:30".
 [[nodiscard]] std::string HoursAndMinutes(std::int64_t minutes);
 
-// Of a single shift, readable, and of a kind that needs no more than the shift and the limit.
+// The sentence of a finding that is about one readable shift and needs nothing but it and the limit; empty for all other kinds.
 [[nodiscard]] std::string ShiftText(FindingKind kind, const Punch& punch, std::int32_t longShiftHours);
 
-// zero: that date is not set.
+// A hire or release date of zero is not set. REQUIRES: the shift starts before the one or after the other.
 [[nodiscard]] std::string NotEmployedText(const Punch& punch, DateTime hired, DateTime released);
 
 [[nodiscard]] std::string UnreadableText(const Punch& punch);
 
-// How a text that stands where a time belongs is shown: in quotes, cut where it is long, control characters as question marks.
+// How a text that was stored instead of a time is shown: in quotes, cut where it is long, control characters as question marks.
 [[nodiscard]] std::string QuotedValue(std::string_view text);
 
 // "2 problems, 1 notice"; "No problems or notices" where nothing was found.
@@ -38,19 +38,19 @@ struct Closing;
 [[nodiscard]] std::string DeductionText(const WorkDay& day, std::int64_t deducted);
 [[nodiscard]] std::string LongDayText(const WorkDay& day);
 
-// Minutes; 0: that rate is not missing.
+// Takes the minutes that have no pay rate and no overtime rate; 0: that rate is not missing.
 [[nodiscard]] std::string NoRateText(std::int64_t regularWithout, std::int64_t overtimeWithout);
 
 [[nodiscard]] std::string WeekText(const WorkWeek& week);
 
-// "Paid 88.00 hours, now 88.50: +9.25 owed."; owed: none where it cannot be told.
+// "Paid 88.00 hours, now 88.50: +9.25 owed."; `owed` is none where the figures that were paid cannot be read.
 [[nodiscard]] std::string PaidChangedText(const Closing& paid, const std::optional<CardFigures>& now,
                                           const std::optional<std::string>& owed);
 
 [[nodiscard]] std::string TwiceText(const WorkDay& day);
 [[nodiscard]] std::string BetweenText(const Finding& shifts);
 
-// lasted: minutes, by a clock that nobody changed.
+// `lasted`: the minutes that the shift really lasted, as a clock that is never changed counts them.
 [[nodiscard]] std::string ClockChangeText(const Punch& punch, std::int64_t lasted);
 
 [[nodiscard]] std::string NoShiftText();

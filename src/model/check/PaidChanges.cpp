@@ -18,10 +18,10 @@ namespace ptk {
 namespace {
 
 constexpr const char* kPresent = "SELECT TimeRecordID, EmployeeID, StartTime, EndTime FROM TimeRecord WHERE TimeRecordID IN ({})";
-constexpr const char* kColumns[] = {"EmployeeID", "StartTime", "EndTime"}; // behind the key, as above
+constexpr const char* kColumns[] = {"EmployeeID", "StartTime", "EndTime"}; // the columns of kPresent after the key
 constexpr const char* kPaidBy[] = {"PayRate", "OvertimePayRate", "AutoDeduct", "AutoDeductLunchLength", "AutoDeductBreakLength"};
 
-using States = std::map<std::int64_t, std::optional<TrailRow>>; // of records by their keys; none: there is no such record
+using States = std::map<std::int64_t, std::optional<TrailRow>>; // the rows of records by their keys; none: the record does not exist
 
 bool IsOfPay(const TrailEntry& entry)
 {
@@ -54,7 +54,7 @@ States PresentStates(CJetDB& database, const std::vector<std::int64_t>& records)
     return states;
 }
 
-// As the row was before, where the entry tells only what changed.
+// The row as it was before an entry. An entry of a change holds only the columns that changed: the others are those of `after`.
 std::optional<TrailRow> StateBefore(const TrailEntry& entry, const std::optional<TrailRow>& after)
 {
     if (!entry.before || !entry.after) {
@@ -78,7 +78,7 @@ std::optional<DateTime> MomentIn(const TrailRow& row, const char* column)
     return value != nullptr && value->kind == TrailValue::Kind::Text ? FromStoredText(value->text) : std::nullopt;
 }
 
-// Whose records, and in which days.
+// The card of one employee and period: tells which rows of the trail lie in it.
 class Card
 {
 public:
@@ -100,7 +100,7 @@ private:
         return punch;
     }
 
-    // As the card's fetch compares the values, those that cannot be read, too.
+    // Whether the card's fetch would take the row. It compares the stored values, even those that cannot be read as times.
     bool IsFetched(const TrailRow& row, const Punch& punch) const
     {
         using StoredKind = TrailValue::Kind;
@@ -119,7 +119,7 @@ private:
     PayPeriod m_period;
 };
 
-// Those of records that touch the card, walking back from what the records are now. REQUIRES: newest first, all of these records.
+// The entries that touch the card, found by walking back from the present rows. REQUIRES: all entries of these records, newest first.
 std::set<std::int64_t> TouchingEntries(const std::vector<TrailEntry>& entries, States states, const Card& card)
 {
     std::set<std::int64_t> touching;
@@ -157,7 +157,7 @@ std::vector<TrailEntry> ReadPaidChanges(const std::shared_ptr<CJetDB>& database,
     std::vector<TrailEntry> found = ReadTrail(database, ofEmployee);
     TrailQuery ofRecords;
     ofRecords.records = RecordsOf(found);
-    ofRecords.newerThan = newerThan; // also while they were somebody else's
+    ofRecords.newerThan = newerThan; // entries, too, of the time when a record was somebody else's
     std::erase_if(found, [](const TrailEntry& entry) { return entry.table != "Employee" || !IsOfPay(entry); });
     if (ofRecords.records->empty()) {
         return found;

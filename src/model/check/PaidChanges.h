@@ -1,4 +1,4 @@
-// What was changed of a paid period since it was closed, as the edit trail tells it.
+// What was changed in a paid period since it was closed, read from the edit trail.
 #pragma once
 
 #include "model/PayPeriod.h"
@@ -12,14 +12,14 @@ namespace ptk {
 
 class CJetDB;
 
-// The entries newer than `newerThan`, newest first, that concern the employee's card of this period: of each record that was this
-// employee's and lay in the period, before the change or after it (on the card, across one of its ends, or unreadable and told there); and
-// of the employee's own row, where a pay rate or the automatic deduction changed. Costs three questions, however many records there are.
+// The trail's entries newer than `newerThan`, newest first, that concern the employee's card of this period. These are the changes of each
+// record that was this employee's and lay in the period before or after the change (on the card, across one of its ends, or unreadable and
+// told there), and those of the employee's own row that changed a pay rate or the automatic deduction. Costs three questions at most.
 // Raises the failure of a database that cannot be opened or read. REQUIRES: database is not nullptr.
 [[nodiscard]] std::vector<TrailEntry> ReadPaidChanges(const std::shared_ptr<CJetDB>& database, std::int64_t employee,
                                                       const PayPeriod& period, std::int64_t newerThan);
 
-// The time records that these entries are about, by number, each once.
+// The keys of the time records that these entries are about, in ascending order, each once.
 [[nodiscard]] std::vector<std::int64_t> RecordsOf(const std::vector<TrailEntry>& entries);
 
 } // namespace ptk

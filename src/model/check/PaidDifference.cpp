@@ -11,7 +11,7 @@ namespace ptk {
 namespace {
 
 constexpr auto kNoDifference = "+0.00";
-constexpr std::size_t kLongestFigure = 42; // characters of a figure that is added digit by digit; longer ones are of another tool
+constexpr std::size_t kLongestFigure = 42; // characters of a figure that is added digit by digit; only another tool stores longer ones
 constexpr double kMinutesAnHour = 60.0;
 
 bool HasTwoDecimals(const std::string& figure)
@@ -21,7 +21,7 @@ bool HasTwoDecimals(const std::string& figure)
            digits[digits.size() - 3] == '.' && digits.find_last_not_of("0123456789") == digits.size() - 3;
 }
 
-// As the program wrote it, or as another tool may have written a number.
+// A paid figure with two decimals: as the program wrote it, or made of a number that another tool wrote. None of anything else.
 std::optional<std::string> Figure(const std::string& paid)
 {
     if (HasTwoDecimals(paid)) {

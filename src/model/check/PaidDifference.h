@@ -1,4 +1,4 @@
-// What a card is now, against what was paid for its period.
+// The difference between a card's present figures and those that were paid for its period.
 #pragma once
 
 #include "model/check/CardFigures.h"
@@ -10,8 +10,8 @@
 
 namespace ptk {
 
-// Now less paid, always with a sign: "+0.50", "-9.25", "+0.00". Nothing in all three where the figures of now, or those that were paid,
-// cannot be read.
+// The present figures less the paid ones, always with a sign: "+0.50", "-9.25", "+0.00". All three are none where the present figures are
+// none or a paid one cannot be read.
 struct PaidDifference
 {
     std::optional<std::string> regular;
@@ -20,11 +20,11 @@ struct PaidDifference
 
     bool operator==(const PaidDifference&) const = default;
 
-    // Of regular and overtime hours together, in minutes; 0 where it cannot be told.
+    // The difference of regular and overtime hours together, in minutes; 0 where it cannot be told.
     [[nodiscard]] std::int64_t Minutes() const;
 };
 
-// Nothing where the card is as it was paid.
+// None where the card's figures are still those that were paid.
 [[nodiscard]] std::optional<PaidDifference> DifferenceOf(const Closing& paid, const std::optional<CardFigures>& now);
 
 } // namespace ptk

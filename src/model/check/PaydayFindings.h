@@ -1,4 +1,4 @@
-// What closings, and clocks that were changed, give rise to on a card.
+// The findings on a card that come from closings, and from clocks that were changed.
 #pragma once
 
 #include "model/check/ClockChanges.h"
@@ -14,21 +14,21 @@
 
 namespace ptk {
 
-// Punches are readable and stand by start, end and number everywhere here.
+// Everything in this header takes readable punches, ordered by start, end and number.
 
-// One where there is a difference. Its records are left to whoever reads the edit trail.
+// One finding where there is a difference. It names no records: these are found by reading the edit trail.
 [[nodiscard]] std::vector<Finding> PaidChangedFindings(const Closing& paid, const std::optional<CardFigures>& now,
                                                        const std::optional<PaidDifference>& difference);
 
-// A day of the period that was paid as part of another one.
+// One finding for each day of the period whose shifts were also paid as part of another period.
 [[nodiscard]] std::vector<Finding> TwiceFindings(const PayPeriod& period, const ClosingsOfEmployee& closings,
                                                  std::span<const Punch* const> onCard);
 
-// What lies in no period, between the last closed one and this.
+// One finding for all shifts that lie between the last closed period and this one, and so on no card.
 [[nodiscard]] std::vector<Finding> BetweenFindings(const PayPeriod& period, const ClosingsOfEmployee& closings,
                                                    std::span<const Punch* const> all);
 
-// A shift that did not last what it counts.
+// One finding for each shift during which the clock was changed, so that it did not last as long as it counts.
 [[nodiscard]] std::vector<Finding> ClockChangeFindings(std::span<const Punch* const> onCard, ClockChanges& clock);
 
 } // namespace ptk

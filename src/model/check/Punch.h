@@ -1,4 +1,4 @@
-// One stored pair of clock-in and clock-out times, as its row stands in the file, readable or not.
+// A time record as its row is stored, whether its times can be read or not: one pair of clock-in and clock-out times.
 #pragma once
 
 #include "platform/text/DateTime.h"
@@ -21,10 +21,10 @@ struct Punch
     std::optional<DateTime> start; // empty: not the text of a real moment; the zero date-time: not set
     std::optional<DateTime> end;   // empty: not the text of a real moment; the zero date-time: still running
     bool fetched = false;          // whether the time card's own fetch takes the row
-    std::string startText;         // what stands there instead, where it cannot be read: "soon" in quotes, 46000 without; empty for nothing
+    std::string startText;         // what is stored where `start` cannot be read: "soon" in quotes, 46000 without; empty for nothing
     std::string endText;
 
-    // Both times are real moments and the shift has a beginning; the members below count on it.
+    // Whether both times are real moments and the start is set. The members below REQUIRE it.
     [[nodiscard]] bool IsReadable() const { return IsSet(start) && end; }
 
     [[nodiscard]] bool IsOpen() const { return end->IsZero(); }

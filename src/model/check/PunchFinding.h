@@ -1,4 +1,4 @@
-// A finding of certain records.
+// Makes a finding out of the punches that it is about.
 #pragma once
 
 #include "model/check/Finding.h"
@@ -10,7 +10,7 @@
 
 namespace ptk {
 
-// From the first one's start to the latest end. REQUIRES: at least one, all readable, by start, end and number.
+// The finding lasts from the first start to the latest end. REQUIRES: at least one punch, all readable, ordered by start, end and number.
 [[nodiscard]] Finding FindingOf(FindingKind kind, std::span<const Punch* const> punches, std::int64_t minutes, std::string text);
 
 } // namespace ptk

@@ -13,7 +13,7 @@ bool HasNoLength(const Punch* punch)
     return punch->Minutes() == 0;
 }
 
-// Goes through the shifts from the earliest start on. What of a shift lies before the latest end so far is covered at least twice.
+// Goes through the shifts from the earliest start on. The part of a shift that lies before the latest end so far is covered at least twice.
 class OverlapSweep
 {
 public:

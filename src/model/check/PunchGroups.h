@@ -1,4 +1,4 @@
-// Shifts that get in each other's way.
+// Groups of shifts that contradict each other: they overlap, or start at the same moment.
 #pragma once
 
 #include "model/check/Punch.h"
@@ -15,13 +15,14 @@ struct PunchGroup
     std::int64_t minutes = 0;
 };
 
-// Both take readable punches by start, end and number, and answer the groups in that order.
+// Both functions take readable punches ordered by start, end and number, and answer the groups in that order.
 
-// Each shares at least one whole minute with another of its group: a chain is one group. Minutes of the clock that two or more cover, each
-// counted once.
+// In a group, each shift shares at least one whole minute with another; a chain of such shifts is one group. Its minutes are those of the
+// clock that two or more shifts cover, each counted once.
 [[nodiscard]] std::vector<PunchGroup> OverlappingPunches(std::span<const Punch* const> punches);
 
-// Punches with one start to the second, at least one of them without a length: open, backward or empty. Minutes of all together.
+// Groups of punches that start in the same second and of which at least one has no length: it is open, backward or empty. A group's minutes
+// are those of all its punches together.
 [[nodiscard]] std::vector<PunchGroup> SameStartPunches(std::span<const Punch* const> punches);
 
 } // namespace ptk

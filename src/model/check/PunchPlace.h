@@ -8,7 +8,8 @@
 
 namespace ptk {
 
-// Whether a shift goes on over the midnight with which a day begins, the one after the calendar's last day included. REQUIRES: readable.
+// Whether a shift goes on over the midnight with which the day of this number begins; the day after the calendar's last one is allowed.
+// REQUIRES: readable.
 [[nodiscard]] inline bool Crosses(const Punch& punch, std::int64_t dayNumber)
 {
     const std::int64_t midnight = dayNumber * DateTime::kSecondsPerDay;
@@ -20,7 +21,8 @@ namespace ptk {
     return period.from.DayNumber() <= moment.DayNumber() && moment.DayNumber() <= period.to.DayNumber();
 }
 
-// One that cannot be read: where its start lies, else its end, else everywhere; and wherever it keeps a card from being made.
+// Whether a punch that cannot be read is told in this period: where its start lies in it; without a start, where its end does; without
+// both, in every period. It is told, too, where it keeps the period's card from being made.
 [[nodiscard]] inline bool IsToldIn(const PayPeriod& period, const Punch& punch)
 {
     if (punch.fetched) {
@@ -32,7 +34,7 @@ namespace ptk {
     return !IsSet(punch.end) || StartsIn(period, *punch.end);
 }
 
-// Whether it has to do with the period at all: it is on its card, crosses one of its ends, or cannot be read and is told there.
+// Whether a punch has to do with the period at all: it is on its card, crosses one of its ends, or cannot be read and is told there.
 [[nodiscard]] inline bool LiesIn(const PayPeriod& period, const Punch& punch)
 {
     if (!punch.IsReadable()) {

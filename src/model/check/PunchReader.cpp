@@ -23,7 +23,7 @@ using punchsql::kEnd;
 using punchsql::kId;
 using punchsql::kStart;
 
-constexpr std::size_t kUsualCount = 32; // the shifts of three weeks
+constexpr std::size_t kUsualCount = 32; // enough for the shifts of three weeks
 
 std::string ShownValue(const Statement& row, int column)
 {
@@ -40,7 +40,7 @@ std::string ShownValue(const Statement& row, int column)
     return "a value of bytes";
 }
 
-// By start and end; a row that came twice once.
+// Orders by start, end and number, and drops the second of a row that came twice.
 void Order(Punches& punches)
 {
     const auto key = [](const Punch& punch) { return std::tie(punch.start, punch.end, punch.id); };
@@ -59,13 +59,13 @@ DateTime LastSecond(DateTime day)
     return DateTime::FromSeconds(day.Seconds() + DateTime::kSecondsPerDay - 1);
 }
 
-// What ends on the card may be made to end a day later, if nothing else begins before that.
+// A remedy may let a shift of the card end a day later, where no other shift begins before that: so shifts up to then are needed, too.
 DateTime NextMidnight(DateTime midnight)
 {
     return EndOfDay(DateTime(midnight.Date()));
 }
 
-// Shifts of up to a day reach into the first week from the day before it.
+// Shifts that start on the day before the first week may reach into it; longer ones than a day are found by punchsql::Unusual.
 DateTime DayBefore(DateTime day)
 {
     static const DateTime firstDay(CalendarDate{100, 1, 1});
@@ -74,7 +74,7 @@ DateTime DayBefore(DateTime day)
 
 } // namespace
 
-// A shift without length at the card's last moment is on the card, though it begins behind the period and perhaps its weeks.
+// A shift without length at the card's last moment is on the card, although it begins after the period and perhaps after its weeks.
 PunchReader::PunchReader(CJetDB& database, const PayPeriod& period, std::int32_t firstWeekday)
     : m_from(period.from), m_end(EndOfDay(period.to)), m_first(DayBefore(WeekStart(period.from, firstWeekday))),
       m_last(std::max(LastSecond(WeekLast(period.to, firstWeekday)), NextMidnight(m_end)))
@@ -98,7 +98,7 @@ std::unique_ptr<Statement> PunchReader::Prepare(CJetDB& database, const std::str
 
 PunchReader::~PunchReader() = default;
 
-// Of a row that cannot be read: the card's fetch compares the values as they stand.
+// Whether the card's fetch takes a row that cannot be read: it compares the values as they are stored.
 bool PunchReader::IsFetched(const Statement& row) const
 {
     const CellKind start = row.KindAt(kStart);
@@ -158,7 +158,7 @@ void PunchReader::Fetch(std::span<const std::int32_t> employeeIDs)
     if (!IsAsked(employeeIDs)) {
         Choose(employeeIDs);
     }
-    auto whose = m_ahead.end(); // the rows of one stand together, mostly
+    auto whose = m_ahead.end(); // one employee's rows mostly follow each other
     m_ofMany->ForEachRow([&] {
         const auto employee = static_cast<std::int32_t>(m_ofMany->Int64At(punchsql::kEmployee));
         if (whose == m_ahead.end() || whose->first != employee) {

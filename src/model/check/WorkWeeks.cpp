@@ -18,7 +18,7 @@ DateTime Midnight(std::int64_t dayNumber)
     return DateTime::FromSeconds(dayNumber * DateTime::kSecondsPerDay);
 }
 
-// Can lie before the calendar.
+// The number of the first day of the week in which `day` lies; it can lie before the calendar.
 std::int64_t WeekStartNumber(DateTime day, std::int32_t firstWeekday)
 {
     return day.DayNumber() - (day.Weekday() - firstWeekday + kDaysPerWeek) % kDaysPerWeek;

@@ -1,4 +1,4 @@
-// Work weeks: seven days each from a chosen weekday on, whatever the pay period.
+// Work weeks: seven days each, beginning on a chosen weekday, independent of the pay period.
 #pragma once
 
 #include "model/check/Punch.h"
@@ -21,8 +21,8 @@ inline constexpr std::int64_t kWeeklyRegularMinutes = 2400;
 struct WorkWeek
 {
     DateTime from;                   // midnight of its first day
-    std::int64_t minutes = 0;        // by the day rules of the card; automatic deduction can bring it below 0
-    std::int64_t paidAsOvertime = 0; // what is above 8 hours on its days
+    std::int64_t minutes = 0;        // after the automatic deduction of each day, which can bring it below 0
+    std::int64_t paidAsOvertime = 0; // the minutes above 8 hours of each of its days
     [[nodiscard]] std::int64_t Above40() const { return minutes > kWeeklyRegularMinutes ? minutes - kWeeklyRegularMinutes : 0; }
 };
 
@@ -37,22 +37,22 @@ struct WorkDay
 // The midnight after a day; at the calendar's end, which has none, its last second.
 [[nodiscard]] DateTime EndOfDay(DateTime day);
 
-// Hours with two decimals, as a time card shows its own: of a single, so 20 minutes are "0.33".
+// Minutes as hours with two decimals, rounded as a time card rounds them: 20 minutes are "0.33".
 [[nodiscard]] std::string HoursText(std::int64_t minutes);
 
-// Both days midnight; the week's first weekday is 0 (Sunday) to 6. Weeks are cut at the calendar's first and last day.
+// The first day, at midnight, of a day's week. firstWeekday: 0 Sunday to 6 Saturday. Weeks are cut at the calendar's first and last day.
 [[nodiscard]] DateTime WeekStart(DateTime day, std::int32_t firstWeekday);
 
-// The week's last day.
+// The last day, at midnight, of a day's week.
 [[nodiscard]] DateTime WeekLast(DateTime day, std::int32_t firstWeekday);
 
-// The days on which a shift starts, in order; their shifts are parts of `punches`, which stand by start, all of them readable.
+// The days on which a shift starts, in order; their shifts are parts of `punches`. REQUIRES: all punches are readable and ordered by start.
 [[nodiscard]] std::vector<WorkDay> DaysOf(std::span<const Punch* const> punches);
 
-// What is left of a day's minutes after the automatic deduction, where the employee has it; can be below 0.
+// A day's minutes after the automatic deduction, where the employee has it; can be below 0.
 [[nodiscard]] std::int64_t PaidMinutes(const WorkDay& day, const CEmployee& employee);
 
-// The weeks in which one of these days lies, in order.
+// The weeks in which these days lie, in order. REQUIRES: the days are in order.
 [[nodiscard]] std::vector<WorkWeek> WeeksOf(const std::vector<WorkDay>& days, const CEmployee& employee, std::int32_t firstWeekday);
 
 } // namespace ptk

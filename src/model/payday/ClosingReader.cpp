@@ -12,7 +12,7 @@ namespace ptk {
 
 namespace {
 
-// The columns of both questions; the numbers of the first one's second half are 0.
+// The columns of kTouching, kBefore and kAllOfOne; the rows of kBefore are known by a PaydayID of 0.
 enum Column
 {
     kId,
@@ -31,7 +31,7 @@ constexpr const char* kTouching =
     "SELECT PaydayID, EmployeeID, FromDay, ToDay, PaidAt, PaidBy, Regular, Overtime, Gross, Entry FROM _Payday "
     "WHERE ToDay >= :from AND FromDay <= :to{}";
 
-// Employee by employee, so that each is one step into the index (EmployeeID, ToDay).
+// One look into the index (EmployeeID, ToDay) for each employee.
 constexpr const char* kBefore =
     "SELECT 0, EmployeeID, NULL, (SELECT ToDay FROM _Payday WHERE _Payday.EmployeeID = Employee.EmployeeID AND "
     "ToDay < :from AND {} ORDER BY ToDay DESC LIMIT 1), NULL, NULL, NULL, NULL, NULL, 0 FROM Employee WHERE TRUE{}";

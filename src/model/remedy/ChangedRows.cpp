@@ -21,7 +21,7 @@ void Change(const CheckedCard& card, Punches& punches, const RecordChange& chang
     }
     Punch& punch = change.record ? *found : punches.emplace_back();
     if (!change.record) {
-        punch.id = std::numeric_limits<std::int64_t>::max(); // its number is yet to come, and greater than any other
+        punch.id = std::numeric_limits<std::int64_t>::max(); // the database will give it a number, greater than any other
     }
     punch.start = change.start;
     punch.end = change.end;

@@ -8,10 +8,10 @@
 
 namespace ptk {
 
-// Those that can be read, by start, end and number.
+// The punches that can be read, ordered by start, end and number. REQUIRES: `punches` outlives the answer.
 [[nodiscard]] std::vector<const Punch*> ReadablePunches(const Punches& punches);
 
-// A change of a record that is not among the rows does nothing.
+// The punches after these changes. A change of a record that is not among them does nothing.
 [[nodiscard]] Punches WithChanges(const CheckedCard& card, Punches punches, const std::vector<RecordChange>& changes);
 
 } // namespace ptk

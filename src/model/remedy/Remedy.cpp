@@ -13,21 +13,21 @@ namespace {
 
 constexpr std::int64_t kMinutesAnHour = 60;
 
-// None beyond the calendar.
+// The same time on the next day; none beyond the calendar.
 std::optional<DateTime> DayLater(DateTime moment)
 {
     static const std::int64_t lastDay = DateTime(CalendarDate{9999, 12, 31}).DayNumber();
     return moment.DayNumber() < lastDay ? std::optional(moment.AddDays(1)) : std::nullopt;
 }
 
-// The first such time of the day after a shift's start.
+// The first moment after a shift's start at which the clock shows this second of the day; none beyond the calendar.
 std::optional<DateTime> FirstAfter(DateTime start, std::int64_t secondOfDay)
 {
     const DateTime sameDay = DateTime::FromSeconds(start.DayNumber() * DateTime::kSecondsPerDay + secondOfDay);
     return sameDay > start ? std::optional(sameDay) : DayLater(sameDay);
 }
 
-// By whole minutes.
+// Whether one shift lies within the other, compared by whole minutes.
 bool Covers(const Punch& outer, const Punch& inner)
 {
     return outer.start->MinuteNumber() <= inner.start->MinuteNumber() && inner.end->MinuteNumber() <= outer.end->MinuteNumber();
@@ -101,7 +101,7 @@ private:
         }
     }
 
-    // No remedy makes a new problem: neither a shift that is too long nor one that overlaps the next.
+    // A remedy must not make a new problem: no shift that is too long, and none that overlaps the next.
     bool IsPossible(const Punch& shift, const std::optional<DateTime>& end) const
     {
         if (!end || *end <= *shift.start || MinutesBetween(*shift.start, *end) > m_rows.limits.longShiftHours * kMinutesAnHour) {

@@ -1,4 +1,4 @@
-// What can be done about a finding, and what it would do to the hours, before anything is stored.
+// What can be done about a finding, and how that would change the card's hours, before anything is stored.
 #pragma once
 
 #include "model/check/Finding.h"
@@ -16,22 +16,22 @@ struct CardCheck;
 struct CheckedCard;
 struct CheckLimits;
 
-// What is done to one record.
+// A change, a deletion or an addition of one record.
 struct RecordChange
 {
-    std::optional<std::int64_t> record; // its key; none: a new one
-    DateTime start;                     // as they are to be; of no meaning where it is deleted
+    std::optional<std::int64_t> record; // its key; none: a record to be added
+    DateTime start;                     // start and end after the change; without meaning where the record is deleted
     DateTime end;
     bool deletes = false;
 
     bool operator==(const RecordChange&) const = default;
 };
 
-// One finding's have different texts.
+// One thing that can be done about a finding. The remedies of one finding have different texts.
 struct Remedy
 {
     std::string text;                 // "End at 04:30 PM: the card has 80.30 hours"
-    std::optional<std::string> hours; // regular and overtime of the card together; none where it cannot be computed even then
+    std::optional<std::string> hours; // regular and overtime hours of the changed card together; none where they cannot be computed
     std::vector<RecordChange> changes;
     std::string what; // "End at 04:30 PM": the text without the hours
 
@@ -41,29 +41,29 @@ struct Remedy
 // When the shift of somebody who forgot to clock out may have ended, as seconds of the day.
 struct ShiftEnds
 {
-    // For a shift that began at that moment: as the employee usually ends it. Empty where nobody can tell; asked only when it is needed.
+    // Answers when the employee usually ends a shift that began at `start`. Called only when that is needed; empty where it cannot be told.
     std::function<std::optional<std::int64_t>(DateTime start)> usual;
 
-    std::optional<std::int64_t> automatic; // of the auto shift; see AutoShiftEnd
+    std::optional<std::int64_t> automatic; // the end of the employee's auto shift: see AutoShiftEnd
 };
 
-// The second of the day; none unless both times of the auto shift are set, that is, are not midnight.
+// The second of the day at which the auto shift ends; none unless both its times are set, that is, are not midnight.
 [[nodiscard]] std::optional<std::int64_t> AutoShiftEnd(DateTime autoShiftStart, DateTime autoShiftEnd);
 
 // A card, its rows and what their check found.
 struct CheckedRows
 {
     const CheckedCard& card;
-    const Punches& punches; // also those that start up to two days after the period
+    const Punches& punches; // among them those that start up to two days after the period
     const CardCheck& check;
     const CheckLimits& limits;
 };
 
-// In the order in which they are offered; none for a finding that only a person can judge. Each changes records of the finding alone.
-// Computed by changing a copy of the rows, as the card itself would be.
+// The remedies of a finding in the order in which they are offered; none for a finding that only a person can judge. A remedy changes only
+// the finding's own records. Its hours are computed from a changed copy of the rows, by the rules of the card.
 [[nodiscard]] std::vector<Remedy> RemediesOf(const Finding& finding, const CheckedRows& rows, const ShiftEnds& ends);
 
-// The shown hours of the card with these changes; none where it cannot be computed.
+// The hours that the card would show after these changes; none where they cannot be computed.
 [[nodiscard]] std::optional<std::string> HoursWith(const CheckedRows& rows, const std::vector<RecordChange>& changes);
 
 } // namespace ptk

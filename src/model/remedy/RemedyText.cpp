@@ -14,7 +14,7 @@ std::string ClockTime(DateTime moment)
     return FormatDateTime(moment, moment.Time().second == 0 ? "hh:mm AM/PM" : "hh:mm:ss AM/PM");
 }
 
-// The day only where it is another one.
+// A time after `start`; the day is told only where it is another than that of `start`.
 std::string TimeAfter(DateTime start, DateTime moment)
 {
     const bool sameDay = start.DayNumber() == moment.DayNumber();
