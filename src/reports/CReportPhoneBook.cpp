@@ -47,14 +47,14 @@ ReportRow PhoneRow(const CEmployee& employee)
             employee.State(),    employee.ZipCode(),   employee.Phone()};
 }
 
-// Without a right one its column stays empty.
+// Without a right employee the right column stays empty.
 void AddPair(ReportDocument& document, const CEmployee& left, const CEmployee* right)
 {
     document.BeginGroup();
     for (const auto& text : {LastAndFirstName, Street, Town, Phone}) {
         document.Add(TwoColumns(text(left), right == nullptr ? "" : text(*right)));
     }
-    document.Add("\r\n"); // with its own line end two empty lines
+    document.Add("\r\n"); // two empty lines, together with the line's own end
     document.table.rows.push_back(PhoneRow(left));
     if (right != nullptr) {
         document.table.rows.push_back(PhoneRow(*right));

@@ -34,7 +34,7 @@ bool CReportReview::GenerateReport(const std::shared_ptr<CJetDB>& thedatabase, c
 
 void CReportReview::AddEmployees(const std::shared_ptr<CJetDB>& database, CEmployeeList& list, const CDateRange& days)
 {
-    const CJetDB::Hold hold(Context().factory->PTKDatabase()); // all cards are of one moment
+    const CJetDB::Hold hold(Context().factory->PTKDatabase()); // so that all cards show the same moment
     Body().table.columns = PayColumns();
     const std::int32_t count = list.Count();
     for (std::int32_t i = 1; i <= count; ++i) {

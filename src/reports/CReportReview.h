@@ -12,8 +12,8 @@ class CReportReview final : public Report
 public:
     explicit CReportReview(ReportContext context) : Report(ReportKind::Review, std::move(context)) {}
 
-    // The title shows the end date as given. False with 603, 331, 503, 701; with 710 those who have no card are left out, as Missing tells,
-    // with 711 all that come after the user's stop. The database is held while the cards are made.
+    // The title shows the end date as given. False with 603, 331, 503, 701. False with 710 where employees without a card were left out, as
+    // Missing says; false with 711 where the user stopped and the rest is missing. The database is held while the cards are made.
     bool GenerateReport(const std::shared_ptr<CJetDB>& thedatabase, const std::shared_ptr<CEmployeeList>& recordslist,
                         const Value& thestartdate, const Value& theenddate);
     bool Generate(const ReportRequest& request) override

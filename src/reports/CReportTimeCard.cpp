@@ -89,11 +89,11 @@ bool CReportTimeCard::OpenForm(const CEmployee& employee, const CDateRange& days
 
 void CReportTimeCard::AddForm(const std::shared_ptr<CJetDB>& database, const std::shared_ptr<CEmployee>& employee, const CDateRange& days)
 {
-    const CJetDB::Hold hold(database); // card and payment are of one moment
+    const CJetDB::Hold hold(database); // so that card and payment show the same moment
     const bool generated = AddGenerated(employee, days);
     AddSignatures();
     if (generated) {
-        AddPaid(database, *employee, {days.StartDate(), days.EndDate()}); // the days that the card counts, whatever its title says
+        AddPaid(database, *employee, {days.StartDate(), days.EndDate()}); // the days that the card counts; its title ends a day earlier
     }
 }
 
@@ -105,7 +105,7 @@ bool CReportTimeCard::AddGenerated(const std::shared_ptr<CEmployee>& employee, c
     }
     const bool noRecords = m_timeCard->ErrorNumber() == report::NoRecords;
     Body().Fail(noRecords ? report::NoRecords : report::NotGenerated);
-    // Where there are no records, the number says so by itself.
+    // A period without records needs no reason: the number says it.
     if (m_timeCard->LastFailure().Number() != 0 || !noRecords) {
         NoteMissing(Body(), *m_timeCard);
     }
@@ -128,7 +128,7 @@ void CReportTimeCard::AddSignatures()
     Body().Add(kSignatures);
 }
 
-// Whatever is signed stays as it is where nothing was paid.
+// Adds a line only where the period was paid, so that any other form stays as it was.
 void CReportTimeCard::AddPaid(const std::shared_ptr<CJetDB>& database, const CEmployee& employee, const PayPeriod& period)
 {
     if (database == nullptr) {

@@ -14,11 +14,11 @@ class CReportTimeCard final : public Report
 public:
     explicit CReportTimeCard(ReportContext context) : Report(ReportKind::TimeCard, std::move(context)) {}
 
-    // The card written, also one that could not be generated.
+    // The card of the report generated last, also one that could not be generated; nullptr before.
     [[nodiscard]] std::shared_ptr<CTimeCard> TimeCard() const { return m_timeCard; }
 
-    // The end date is exclusive: the title shows the day before it. False with 603, 602, 503, 701; with 605 or 710 the form is written
-    // without its body and shown.
+    // The end date is exclusive in the title, which shows the day before it; shifts of the end day count all the same. False with 603, 602,
+    // 503, 701, or with 605 or 710, where the form is written and shown without its body.
     bool GenerateReport(const std::shared_ptr<CJetDB>& thedatabase, const std::shared_ptr<CEmployee>& theemployee,
                         const Value& thestartdate, const Value& theenddate);
     bool Generate(const ReportRequest& request) override
@@ -26,7 +26,7 @@ public:
         return GenerateReport(request.database, request.employee, request.from, request.to);
     }
 
-    // The form of a card that is already generated, as it stands. False with 706, 602, 503, 701.
+    // Writes the form of a card that is already generated, without generating it again. False with 706, 602, 503, 701.
     bool WriteTimeCardReport(const std::shared_ptr<CTimeCard>& theTimeCard);
 
 private:

@@ -11,7 +11,7 @@ class CEmployee;
 
 [[nodiscard]] std::span<const ReportColumn> EmployeeRecordColumns();
 
-// One value for each of the columns; dates that are not known are null.
+// An employee's values, one for each of these columns; dates that are not known are null.
 [[nodiscard]] ReportRow EmployeeRecord(const CEmployee& employee);
 
 } // namespace ptk

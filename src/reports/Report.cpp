@@ -70,7 +70,7 @@ bool Report::Publish()
     return m_document.Code() == 0;
 }
 
-// A report that is cut short, or that a full disk cut, does not take the place of a whole one.
+// The file of a report that was cut short, or of which lines were lost, does not replace a whole one.
 void Report::Finish(ReportFile& file)
 {
     if (!file.Close()) {
@@ -96,7 +96,7 @@ bool Report::PrintReport()
 {
     m_refusal.clear();
     if (!m_fileWritten) {
-        // A file of that name is an earlier report's then.
+        // If there is a file of that name, it is an earlier report's.
         return Succeeds([this] {
             TellNoFile(m_context.desktop);
             return false;

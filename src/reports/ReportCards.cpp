@@ -18,7 +18,7 @@ std::string CodeOf(const CDateRange& days)
 {
     const std::string range = days.ToString(); // 01/01/2003+01/16/2003
     const auto cut = [&](std::size_t first, std::size_t length) { return range.substr(first - 1, length); };
-    // The end's year is left out, deliberately: a period across the new year is filed under the year it began in.
+    // The end's year is left out, deliberately: a period across the new year is filed under the year in which it began.
     return cut(1, 2) + cut(4, 2) + "_" + cut(12, 2) + cut(15, 2) + "_" + cut(7, 4);
 }
 
@@ -57,8 +57,8 @@ std::shared_ptr<CTimeCard> NewTimeCard(const ReportContext& context, const std::
 
 bool GenerateTimeCard(CTimeCard& card, const std::shared_ptr<CEmployee>& employee, const CDateRange& days)
 {
-    // A day is added so that the shifts of the end day itself count, deliberately also where the end was meant to be exclusive. After the
-    // last day of the calendar there is none.
+    // A day is added so that the shifts of the end day itself count, deliberately also where the end was meant to be exclusive. AddDays
+    // raises a failure after the last day of the calendar.
     return Succeeds([&] { return card.GenerateTimecard(employee, days.StartDate(), days.EndDate().AddDays(1)); });
 }
 
@@ -72,7 +72,7 @@ void AddCard(ReportDocument& document, CTimeCard& card)
     document.heading = CTimeCard::kReportHeading;
     document.Add(card.ToStringReport());
     const std::size_t shifts = card.Lines().size();
-    const std::size_t summary = CountLines(card.ToString()); // with the empty line above it
+    const std::size_t summary = CountLines(card.ToString()); // the empty line above it included
     document.SplitBefore(shifts == 0 ? 0 : shifts - 1, summary);
 }
 

@@ -1,4 +1,4 @@
-// What the reports over a stretch of days share: the names made of employee and days, and the time cards of which they are made.
+// What the reports about a span of days share: titles and file names made of employee and days, and the time cards that they consist of.
 #pragma once
 
 #include "reports/forms/ReportDocument.h"
@@ -17,25 +17,28 @@ class DateTime;
 struct ReportContext;
 struct ReportEntry;
 
-// The pieces of the titles: "Ann Lee : ", with a leading blank when there is no first name, and "1/1/2003 - 1/15/2003".
+// A title's first part: "Ann Lee : ", with a leading blank when there is no first name.
 [[nodiscard]] std::string TitleOfEmployee(const CEmployee& employee);
+
+// A title's last part: "1/1/2003 - 1/15/2003".
 [[nodiscard]] std::string TitleOfDays(DateTime first, DateTime last);
 
-// The file's name for these days, and for this employee when it is one employee's.
+// The name of the report's file for these days; `employee` for the report of a single one.
 [[nodiscard]] std::string FileNameOf(const ReportEntry& entry, const CDateRange& days, const CEmployee* employee = nullptr);
 
 [[nodiscard]] std::shared_ptr<CTimeCard> NewTimeCard(const ReportContext& context, const std::shared_ptr<CJetDB>& database);
 
-// Of the days, the last one included. False with the card's own error number.
+// Generates the card of these days, the last one included. False with the card's own error number, or with no number where the day after
+// the last is beyond the calendar.
 [[nodiscard]] bool GenerateTimeCard(CTimeCard& card, const std::shared_ptr<CEmployee>& employee, const CDateRange& days);
 
-// Notes in the document why GenerateTimeCard failed; the title may say whose card it is.
+// Notes in the document why GenerateTimeCard failed. `whose` may be empty where the title says whose card it is.
 void NoteMissing(ReportDocument& document, const CTimeCard& card, const std::string& whose = "");
 
-// The card's text; a page may begin before any of its shifts but the first.
+// Adds the card's text to the last group; a page may begin before each of its shifts but the first.
 void AddCard(ReportDocument& document, CTimeCard& card);
 
-// The data of a card as one row: whose, the days, the figures.
+// The columns of a card's data as one row: the employee, the days, the figures.
 [[nodiscard]] std::span<const ReportColumn> PayColumns();
 [[nodiscard]] ReportRow PayRow(const CTimeCard& card, const CDateRange& days);
 

@@ -1,4 +1,4 @@
-// The table of reports: which there are, how each is called, and whom and which days it takes.
+// The table of reports: which reports there are, what each is called, and which people and days it takes.
 #pragma once
 
 #include <cstdint>
@@ -11,7 +11,7 @@ namespace ptk {
 class Report;
 struct ReportContext;
 
-// By its kind an owner keeps a report and lets go of it.
+// An owner of open reports tells them apart by their kind.
 enum class ReportKind
 {
     TimeCard,
@@ -23,36 +23,36 @@ enum class ReportKind
 
 enum class ReportWhom
 {
-    Each,     // of those chosen: a report for each
-    Together, // of those chosen: one report for all
-    Everyone, // one report for all who are listed, chosen or not, but for the administrators
+    Each,     // a report for each of the chosen employees
+    Together, // one report for all chosen employees
+    Everyone, // one report for all listed employees but the administrators, chosen or not
 };
 
 enum class ReportDates
 {
-    PayPeriod,  // both dates free, the running pay period offered
-    YearToDate, // from 1 January on, the end free
+    PayPeriod,  // both dates are free; the running pay period is offered
+    YearToDate, // from 1 January on; the end is free
     None,
 };
 
 struct ReportEntry
 {
     ReportKind kind;
-    std::string_view caption;     // in the report list
-    std::string_view consoleName; // for ptk-console
-    std::string_view title;       // or what the title starts with
-    std::string_view fileName;    // {number} stands for the employee's, {days} for the period's code
+    std::string_view caption;     // its name in the report list
+    std::string_view consoleName; // its name for ptk-console
+    std::string_view title;       // the title, or its first part
+    std::string_view fileName;    // {number}: the employee's number, {days}: the period's code
     std::string_view viewer;      // the name of its viewer's window
     ReportWhom whom;
     ReportDates dates;
-    bool tellsFailures; // in a box; deliberately not of the two lists
+    bool tellsFailures; // whether a box tells failures; deliberately not for the two lists
     std::shared_ptr<Report> (*make)(ReportContext context);
 };
 
 // In the order of the report list.
 [[nodiscard]] std::span<const ReportEntry> ReportCatalog();
 
-// The entry with exactly this name; nullptr when there is none.
+// The entry with exactly this name, by caption or by console name; nullptr when there is none.
 [[nodiscard]] const ReportEntry* FindReport(std::string_view caption);
 [[nodiscard]] const ReportEntry* FindConsoleReport(std::string_view consoleName);
 

@@ -7,7 +7,7 @@
 
 namespace ptk {
 
-// Of the reports.
+// Error numbers of the reports, some of them shared with files, lists and time cards.
 namespace report {
 using fileerror::NotClosed;
 using fileerror::NotOpen;

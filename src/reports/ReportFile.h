@@ -1,4 +1,5 @@
-// The text file of a report: written aside, for its owner only; it takes the place of an earlier one of its name at the end or not at all.
+// The text file of a report. It is written to a draft that only its owner can read; at the end this replaces an earlier file, or is
+// dropped.
 #pragma once
 
 #include "platform/files/FileDraft.h"
@@ -9,25 +10,25 @@
 
 namespace ptk {
 
-// Without an ending nothing is left of it. No member raises.
+// Without Publish nothing is left of the draft. No member raises.
 class ReportFile
 {
 public:
     explicit ReportFile(const Clock& clock) : m_file(clock) {}
 
-    // With backslashes; once.
+    // Opens the draft of the file at this path, with backslashes; false when that fails. To be called once.
     [[nodiscard]] bool Open(const std::string& path);
 
     // Writes the text and CR LF behind it; false when the line is lost.
     [[nodiscard]] bool WriteLine(const std::string& text);
 
-    // Whether any line was.
+    // Whether any line was lost.
     [[nodiscard]] bool Lost() const { return m_lost; }
 
-    // False when the system refuses it.
+    // Closes the draft; false when the system refuses it.
     [[nodiscard]] bool Close();
 
-    // After Close; false when it could not take its place.
+    // Puts the closed draft in the file's place; false when that fails. REQUIRES: Close was called.
     [[nodiscard]] bool Publish();
 
 private:

@@ -1,4 +1,4 @@
-// The way of a report's pages to the print spooler and to the program that the desktop shows PDF files with.
+// Hands a report's pages to the print spooler, and to the program with which the desktop shows PDF files.
 #pragma once
 
 #include "platform/text/DateTime.h"
@@ -13,17 +13,18 @@ class DesktopWindow;
 class PrivateFile;
 struct ReportDocument;
 
-// Neither raises anything; `refusal` says why not, in words, where that is known. The files are for their owner only.
+// PrintPages and OpenPages raise nothing; `refusal` says in words why they failed, where that is known. Only its owner can read a file of
+// pages.
 
-// False when the spooler does not take it.
+// Prints the document's pages; false when the spooler does not take them.
 [[nodiscard]] bool PrintPages(Desktop& desktop, const DesktopWindow* window, const ReportDocument& document, DateTime now,
                               std::string& refusal);
 
-// The file that is shown, for the caller to keep as long as it may be looked at; nullptr when nothing shows it.
+// Shows the document's pages. Answers their file, which the caller keeps as long as it may be looked at; nullptr when nothing shows it.
 [[nodiscard]] std::unique_ptr<PrivateFile> OpenPages(Desktop& desktop, const DesktopWindow* window, const ReportDocument& document,
                                                      DateTime now, std::string& refusal);
 
-// The box about a report whose file is not there.
+// Shows the box about a report that has no file.
 void TellNoFile(Desktop& desktop);
 
 } // namespace ptk

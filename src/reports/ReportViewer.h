@@ -20,10 +20,10 @@ public:
     virtual void Controller(std::shared_ptr<Report> value) = 0;
     virtual void Caption(const std::string& value) = 0;
 
-    // Appends buffer and CR LF; false or a failure raised stands for a line lost.
+    // Appends buffer and CR LF. False, or a failure that it raises, means that the line is lost.
     virtual bool WriteLine(const std::string& buffer) = 0;
 
-    // Not modally.
+    // Shows the window, not modally.
     virtual void Show() = 0;
 
     virtual void Hide() = 0;

@@ -9,8 +9,8 @@ class ReportFile;
 class ReportViewer;
 struct ReportDocument;
 
-// Answers the last number of what went wrong: the document's own codes, each in its place, 702 for a line that the file lost, 703 for one
-// that the viewer lost; 0 when nothing did. A lost line stops no other.
+// Writes the lines and answers the last number of what went wrong: 702 for a line that the file lost, 703 for one that the viewer lost, and
+// the document's own codes, each after its line; 0 when nothing went wrong. The other lines are written even where one is lost.
 [[nodiscard]] std::int32_t RenderText(const ReportDocument& document, ReportFile& file, ReportViewer& viewer);
 
 } // namespace ptk

@@ -8,16 +8,17 @@
 
 namespace ptk {
 
-// Days as YYYY-MM-DD, hours and money with two decimals, rates with all they have, true or false; texts as they are. Empty for null.
+// A value as text: days as YYYY-MM-DD, hours and money with two decimals, rates with all their decimals, true or false, texts unchanged.
+// Empty for null.
 [[nodiscard]] std::string CellText(CellType type, const Value& cell);
 
-// Of hours, the nearest ones.
+// Decimal hours rounded to whole minutes.
 [[nodiscard]] std::int64_t WholeMinutes(float hours);
 
-// "8:30", "-0:15".
+// Minutes as hours and minutes: "8:30", "-0:15".
 [[nodiscard]] std::string MinutesText(std::int64_t minutes);
 
-// Hours as hours and minutes, to the nearest minute: "8:30", "-0:15". Empty for null.
+// Decimal hours as hours and minutes, rounded to whole minutes: "8:30", "-0:15". Empty for null.
 [[nodiscard]] std::string ClockText(const Value& hours);
 
 } // namespace ptk

@@ -21,7 +21,7 @@ std::string HeadingOf(const ReportTable& table)
     return line.Done();
 }
 
-// Numbers are nobody's formulas.
+// Only texts are guarded against being taken for formulas: a negative number is no formula.
 std::string LineOf(const ReportRow& row, const ReportTable& table)
 {
     CsvLine line;

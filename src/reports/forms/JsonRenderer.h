@@ -9,7 +9,7 @@
 
 namespace ptk {
 
-// One object, each row on a line of its own, lines ended by CR LF.
+// The documents as one object, each row on a line of its own; lines end in CR LF. `made` is the moment that it names.
 [[nodiscard]] std::string JsonOf(std::span<const ReportDocument> documents, DateTime made);
 
 // One row as an object, its members named by the columns, without a line end.

@@ -1,6 +1,6 @@
-// What the programs and the module that draws pages (src/pages) agree on. The module is loaded only when pages are wanted: the libraries
-// that it draws with take longer to load than a time card takes from the file to the terminal. Plain data, since each side has a C++
-// runtime of its own, and no failure may be raised from one into the other.
+// The interface between the programs and the module that draws pages (src/pages). The module is loaded only when pages are wanted: the
+// libraries that it draws with take longer to load than a time card takes from the file to the terminal. It is plain data, since each side
+// has its own C++ runtime, and no failure may be raised from one into the other.
 #pragma once
 
 #include <cstddef>
@@ -11,8 +11,8 @@ extern "C" {
 struct PtkText
 {
     double x;
-    double y;     // the upper edge of its line
-    double width; // the most it may take
+    double y;     // the upper edge of the text's line
+    double width; // the most that the text may take
     const char* text;
     int bold;
 };
@@ -36,7 +36,7 @@ struct PtkPages
 {
     double width;
     double height;
-    double characterWidth; // the typeface is taken in the size that has this
+    double characterWidth; // the typeface's size is chosen so that its characters have this width
     double lineHeight;
     const char* title;
     const char* created; // YYYY-MM-DDTHH:MM:SS, by the wall clock
@@ -47,7 +47,7 @@ struct PtkPages
 // Takes the next bytes of the PDF file; 0 when it cannot. Raises nothing.
 using PtkTakeBytes = int (*)(void* taker, const unsigned char* bytes, unsigned length);
 
-// nullptr, or what went wrong, in words of a lifetime without end.
+// Draws the pages and hands over the bytes of their PDF file. Answers nullptr, or what went wrong, in a text that is never freed.
 using PtkDrawPages = const char* (*)(const PtkPages* pages, PtkTakeBytes take, void* taker);
 
 } // extern "C"
@@ -55,6 +55,6 @@ using PtkDrawPages = const char* (*)(const PtkPages* pages, PtkTakeBytes take, v
 namespace ptk {
 
 inline constexpr const char* kPageModule = "ptk-pages.so";
-inline constexpr const char* kDrawPages = "ptk_draw_pages"; // a PtkDrawPages
+inline constexpr const char* kDrawPages = "ptk_draw_pages"; // the name of the module's PtkDrawPages
 
 } // namespace ptk

@@ -19,9 +19,9 @@ constexpr Paper kA4{595.276, 841.89};
 constexpr auto kPrinted = "Printed {}";
 constexpr auto kPageOf = "Page {} of {}";
 
-constexpr std::size_t kBelowTitle = 2;  // its rule and an empty line
-constexpr std::size_t kHeadingRows = 2; // and an empty line below it
-constexpr std::size_t kFootRows = 2;    // an empty line above the foot
+constexpr std::size_t kBelowTitle = 2;  // the title's rule and an empty line
+constexpr std::size_t kHeadingRows = 2; // the heading and an empty line below it
+constexpr std::size_t kFootRows = 2;    // the foot and an empty line above it
 constexpr std::size_t kShortestRule = 20;
 
 using Line = std::vector<TextPiece>;
@@ -33,7 +33,7 @@ struct Block
     bool atFoot = false;
     bool underHeading = false;
 
-    // Without the empty lines at its end, which need no room.
+    // The rows that the group needs: the empty lines at its end need none.
     [[nodiscard]] std::size_t Rows() const
     {
         const auto last = std::find_if(lines.rbegin(), lines.rend(), [](const auto& line) { return !IsEmpty(line); });
@@ -48,7 +48,7 @@ bool IsRule(std::string_view text)
     return text.size() >= kShortestRule && text.find_first_not_of('-') == std::string_view::npos;
 }
 
-// Without the line ends inside a line.
+// The document's lines, split at the line ends inside them.
 std::vector<std::string_view> SingleLines(const ReportDocument& document)
 {
     std::vector<std::string_view> lines;
@@ -63,7 +63,7 @@ std::vector<std::string_view> SingleLines(const ReportDocument& document)
     return lines;
 }
 
-// Of the lines at the document's beginning that each page has at its head instead.
+// The number of lines at the document's beginning that every page has at its head instead.
 std::size_t LinesOfTitle(const ReportDocument& document)
 {
     const bool begins = document.lines.size() > 1 && document.lines[0].text == document.title && IsRule(document.lines[1].text);
@@ -117,7 +117,7 @@ private:
     const Paper& m_paper;
     std::vector<Line> m_title;
     Line m_heading;
-    std::size_t m_top; // of what lies between head and foot
+    std::size_t m_top; // the first row below the head; what lies between head and foot ends above m_end
     std::size_t m_end;
     std::size_t m_row = 0;
     std::vector<Page> m_pages;
@@ -128,7 +128,7 @@ PageMaker::PageMaker(const ReportDocument& document, const Paper& paper) : m_pap
     m_title = PiecesOf(HeadOf(document), paper.Columns());
     m_heading = PiecesOf(document.heading, paper.Columns()).front();
     m_end = paper.Rows() - kFootRows;
-    m_title.resize(std::min(m_title.size(), m_end / 2)); // whatever somebody is called
+    m_title.resize(std::min(m_title.size(), m_end / 2)); // a very long name must not fill the page
     m_top = m_title.size() + kBelowTitle;
     NextPage(false);
 }

@@ -13,8 +13,8 @@ namespace ptk {
 
 struct ReportDocument;
 
-// Lengths in points, 72 to an inch: 12 characters an inch keep a line of 72 and what its tabs add to it whole on either paper, 6 lines an
-// inch make them easy to read.
+// Lengths in points, 72 to an inch. 12 characters an inch leave room for a line of 72 characters and its tabs on either paper; 6 lines an
+// inch are easy to read.
 struct Paper
 {
     double width;
@@ -23,14 +23,14 @@ struct Paper
     double lineHeight = 12;
     double characterWidth = 6;
 
-    // Within the margins.
+    // Columns and rows of text within the margins.
     [[nodiscard]] std::size_t Columns() const { return static_cast<std::size_t>((width - 2 * margin) / characterWidth); }
     [[nodiscard]] std::size_t Rows() const { return static_cast<std::size_t>((height - 2 * margin) / lineHeight); }
 };
 
 [[nodiscard]] Paper PaperOf(PaperSize size);
 
-// Paper of that size in a type small enough for so many columns, but no smaller than two thirds of the usual one.
+// Paper of that size with a type small enough for this many columns, but not smaller than two thirds of the usual type.
 [[nodiscard]] Paper PaperFor(std::size_t columns, PaperSize size);
 
 // The document's title on one line, one blank between its words.
@@ -47,15 +47,16 @@ struct PlacedLine
 {
     std::size_t row = 0; // from 0, within the margins
     LineStyle style = LineStyle::Plain;
-    std::vector<TextPiece> pieces{}; // none of a rule
+    std::vector<TextPiece> pieces{}; // none for a rule
 };
 
-// From top to bottom, without the empty lines.
+// The lines of a page from top to bottom, without the empty ones.
 using Page = std::vector<PlacedLine>;
 
-// At least one page. Each has the document's title and a rule at its head, the day of printing and "Page x of y" at its foot; the title and
-// the rule with which the document itself begins are these. A group stands whole on one page where a page can hold it, one at the foot with
-// the group before it. A page that begins below a heading repeats it; empty lines begin no page. REQUIRES: paper of at least 20 rows.
+// Lays the document out on at least one page. Each page has the document's title and a rule at its head, in place of those with which the
+// document itself begins, and the day of printing and "Page x of y" at its foot. A group is kept whole on one page where a page can hold
+// it, and a group at the foot stays with the group before it. A page that begins within lines under a heading repeats the heading; no page
+// begins with an empty line. REQUIRES: paper of at least 20 rows.
 [[nodiscard]] std::vector<Page> LayOut(const ReportDocument& document, const Paper& paper, DateTime printed);
 
 } // namespace ptk

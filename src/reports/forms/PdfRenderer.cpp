@@ -22,9 +22,9 @@ namespace {
 constexpr auto kNoDrawing = "pages cannot be drawn: {}";
 constexpr auto kTitleOfMany = "{}, and {} more";
 
-constexpr auto kInstalledFolder = "../lib"; // seen from the programs, each of which has a folder of its name there
+constexpr auto kInstalledFolder = "../lib"; // relative to the programs, each of which has a folder of its name there
 
-// Beside the program as it was built, else where it is installed.
+// The module lies beside a program that was only built, otherwise where the program is installed.
 std::filesystem::path ModulePath()
 {
     const std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe");
@@ -34,7 +34,7 @@ std::filesystem::path ModulePath()
     return isBeside ? folder / kPageModule : folder / kInstalledFolder / program.filename() / kPageModule;
 }
 
-// It stays loaded until the program ends: its libraries keep caches that the next document needs again.
+// The module stays loaded until the program ends: its libraries keep caches that the next document needs again.
 PtkDrawPages LoadDrawing()
 {
     void* module = ::dlopen(ModulePath().c_str(), RTLD_LAZY | RTLD_LOCAL);
@@ -81,11 +81,11 @@ std::vector<Page> PagesOf(std::span<const ReportDocument> documents, const Paper
     return pages;
 }
 
-// Without control characters, which the file's own description must not hold.
+// The title for the file's properties, which must not hold control characters.
 std::string TitleOf(std::span<const ReportDocument> documents)
 {
     const std::string head = HeadOf(documents.front());
-    const auto pieces = PiecesOf(head, 2 * head.size() + 1).front(); // never broken, one blank being all that is between words
+    const auto pieces = PiecesOf(head, 2 * head.size() + 1).front(); // wide enough that it stays one piece
     const std::string title = pieces.empty() ? "" : pieces.front().text;
     return documents.size() == 1 ? title : fmt::format(kTitleOfMany, title, documents.size() - 1);
 }

@@ -11,9 +11,9 @@ namespace ptk {
 
 struct ReportDocument;
 
-// The file's bytes: each document begins a page, and its pages are counted by themselves. The same documents, paper and moment give the
-// same bytes with the same libraries and typefaces; a ReproducibleMoment stands for `now` where there is one. Raises 53 when the module
-// that draws or one of its libraries is not there, 57 when drawing fails. REQUIRES: one document at least.
+// The bytes of a PDF file in which each document begins a new page and counts its own pages. The same documents, paper and moment give the
+// same bytes with the same libraries and typefaces; a ReproducibleMoment, where there is one, is used instead of `now`. Raises 53 when the
+// drawing module or one of its libraries is missing, 57 when drawing fails. REQUIRES: at least one document.
 [[nodiscard]] std::string PdfOf(std::span<const ReportDocument> documents, PaperSize paper, DateTime now);
 
 } // namespace ptk

@@ -1,4 +1,4 @@
-// The forms in which reports leave the program.
+// The forms in which reports are saved or printed: text, CSV, JSON and PDF.
 #pragma once
 
 #include "platform/text/DateTime.h"
@@ -19,14 +19,14 @@ enum class ReportForm
     Pdf
 };
 
-// The ending of its files, with the point.
+// The ending of files of this form, with the point.
 [[nodiscard]] std::string_view EndingOf(ReportForm form);
 
-// Marks a file as UTF-8 for spreadsheets, which else take it for something older.
+// Tells spreadsheets that a file is UTF-8; without it they assume an older encoding.
 inline constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
-// The bytes of one file of all these documents: text as the reports' own files have it, with an empty line between two; CSV with a byte
-// order mark; pages on the system's paper. `made`: the day printed and the moment in the file. Raises what PdfOf raises.
+// The bytes of one file that holds all these documents: text as in the reports' own files, with an empty line between two; CSV with a byte
+// order mark; pages on the system's paper. `made` is the day printed on pages and the moment named in the file. Raises what PdfOf raises.
 [[nodiscard]] std::string FileOf(ReportForm form, std::span<const ReportDocument> documents, DateTime made);
 
 // The name of the report's text file with the ending of the form.

@@ -20,7 +20,7 @@ struct Range
     char32_t last;
 };
 
-// Roughly, as typefaces have them: they decide where a column begins, never whether something is printed.
+// Which characters are two columns wide, roughly as in typefaces. They decide where a column begins, never whether something is printed.
 constexpr Range kWide[] = {{0x1100, 0x115F}, {0x2E80, 0x303E},   {0x3041, 0xA4CF},   {0xA960, 0xA97F},
                            {0xAC00, 0xD7A3}, {0xF900, 0xFAFF},   {0xFE30, 0xFE6F},   {0xFF01, 0xFF60},
                            {0xFFE0, 0xFFE6}, {0x1F300, 0x1F64F}, {0x1F900, 0x1F9FF}, {0x20000, 0x3FFFD}};
@@ -47,7 +47,7 @@ bool IsControl(char32_t character)
     return character < ' ' || (character >= 0x7F && character < 0xA0);
 }
 
-// Takes what fits into so many columns off the text, one character at least.
+// Takes the beginning of the text that fits into this many columns off it, at least one character.
 std::string TakeWidth(std::string_view& text, std::size_t columns)
 {
     std::string taken;
@@ -79,9 +79,9 @@ private:
 
     const std::size_t m_columns;
     std::vector<std::vector<TextPiece>> m_lines{1};
-    std::size_t m_column = 0;     // on paper
-    std::size_t m_characters = 0; // as the text counts them
-    bool m_joined = false;        // one blank behind a piece, which the next word goes on
+    std::size_t m_column = 0;     // the column on paper
+    std::size_t m_characters = 0; // the column when every character counts as one
+    bool m_joined = false;        // after a piece came one blank: the next word joins the piece
 };
 
 void PieceMaker::AddGap(std::string_view gap)
@@ -108,7 +108,7 @@ void PieceMaker::AddWord(std::string_view word)
     }
     m_characters += CharacterCount(word);
     if (m_joined) {
-        m_lines.back().back().text += ' ' + TakeWidth(word, width); // all of it
+        m_lines.back().back().text += ' ' + TakeWidth(word, width); // the whole word
         m_column += width;
     }
     while (!word.empty()) {

@@ -1,4 +1,4 @@
-// A line of a report as pieces that each begin in a column of the paper.
+// A line of a report in pieces, each of which begins in a column of the paper.
 #pragma once
 
 #include <cstddef>
@@ -8,7 +8,7 @@
 
 namespace ptk {
 
-// The columns are as wide as a digit; Chinese, Japanese and Korean characters take two, accents of their own none.
+// A column is as wide as a digit; Chinese, Japanese and Korean characters take two, combining accents none.
 struct TextPiece
 {
     std::size_t column = 0; // from 0
@@ -16,12 +16,12 @@ struct TextPiece
     std::string text;       // UTF-8 without control characters; words with one blank between them
 };
 
-// The text in as many lines as it takes on paper of so many columns, one at least. Tabs lead to every eighth column. What stands behind
-// several blanks keeps the column that it has where every character is counted as one, as the reports' columns are. A word that a line has
-// no room for stands below it, under what it belongs to as far as it fits there. REQUIRES: no line ends in it; columns > 0.
+// Breaks a line into as many lines as it needs on paper of this many columns, at least one. Tabs lead to every eighth column. A word after
+// several blanks keeps the column that it has when every character counts as one, as in the reports' own columns. A word that has no room
+// on its line goes to the next one, below what it belongs to, as far as it fits there. REQUIRES: `line` has no line ends; columns > 0.
 [[nodiscard]] std::vector<std::vector<TextPiece>> PiecesOf(std::string_view line, std::size_t columns);
 
-// In columns.
+// The width of a text in columns.
 [[nodiscard]] std::size_t WidthOf(std::string_view text);
 
 } // namespace ptk
