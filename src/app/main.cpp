@@ -1,4 +1,4 @@
-// ptk-admin: the windows over the start-up.
+// The main function of ptk-admin: hands the windows to the start-up.
 #include "platform/files/ProgramFolder.h"
 #include "platform/system/Clock.h"
 #include "platform/system/Process.h"
@@ -27,7 +27,7 @@ namespace {
 
 constexpr auto kFolderOption = "program-folder";
 
-// What an event handler lets through is shown, and the program goes on.
+// Shows the failures that leave an event handler, after which the program goes on.
 class AdminApplication final : public QApplication
 {
 public:
@@ -47,7 +47,7 @@ public:
     }
 
 private:
-    // One box at a time: a failure to paint would otherwise bring up the next while the first is open.
+    // Shows one box at a time: otherwise a failure to paint would show the next box while the first is open.
     void ShowFailure()
     {
         ptk::CError error(m_desktop);
@@ -70,7 +70,7 @@ void DescribeOptions(QCommandLineParser& parser)
     parser.addOption({kFolderOption, "Work beside the data in DIR instead of the program's own folder.", "DIR"});
 }
 
-// The help and the version are there for those without a display, too. Does not return where they are asked for.
+// Prints the help or the version and ends the process where the command line asks for it: neither needs a display.
 void AnswerWithoutDisplay(int argc, char** argv)
 {
     const auto asked = [&](std::initializer_list<std::string_view> words) {
@@ -90,7 +90,7 @@ void AnswerWithoutDisplay(int argc, char** argv)
     parser.showHelp();
 }
 
-// Without a display Qt ends the process by a core dump; a start that failed has a status.
+// Ends a failed start with a status: without a display, Qt itself would end the process with a core dump.
 void EndFailedStart(QtMsgType type, const QMessageLogContext& context, const QString& text)
 {
     std::fputs(qPrintable(qFormatLogMessage(type, context, text) + '\n'), stderr);
@@ -107,7 +107,7 @@ std::string ProgramFolderOption(const QApplication& application)
     return parser.value(kFolderOption).toStdString();
 }
 
-// Empty when somebody who has no program folder yet does not begin one.
+// The program folder, chosen at the first start where there is none yet; empty where the user cancels that.
 std::string FolderToWorkIn(const ptk::ProgramFolder& found, const ptk::Clock& clock)
 {
     if (found.named || ptk::HoldsConfiguration(found.path)) {
@@ -121,7 +121,7 @@ std::string FolderToWorkIn(const ptk::ProgramFolder& found, const ptk::Clock& cl
 int Run(const QApplication& application, ptk::Desktop& desktop)
 {
     const ptk::SystemClock clock;
-    // Between the login and the main window there is no window, and the program must not take that for its end.
+    // Between login and main window no window is open, and this must not end the program.
     QApplication::setQuitOnLastWindowClosed(false);
     const ptk::EndFromOutside end;
     const std::string folder = FolderToWorkIn(ptk::FindProgramFolder(ProgramFolderOption(application)), clock);
@@ -139,7 +139,7 @@ int Run(const QApplication& application, ptk::Desktop& desktop)
 
     admin.Start();
     if (!ptk::IsAnyWindowShown()) {
-        return EXIT_FAILURE; // the start-up has told why by then
+        return EXIT_FAILURE; // the start-up has already told why
     }
     const ptk::LastWindow last([] { QApplication::exit(); });
     return QApplication::exec();

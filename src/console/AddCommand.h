@@ -1,4 +1,4 @@
-// Commands of the command line, described late.
+// Adds commands to the command line, and describes their arguments only when they are needed.
 #pragma once
 
 #include <CLI/CLI.hpp>
@@ -8,8 +8,8 @@
 
 namespace ptk {
 
-// What a command takes is described only when it stands on the line: that of all of them would take longer than a time card. `take` is
-// called with the command that was given, once all of the line is read.
+// Adds a command. `describe` adds its arguments, and is called only where the command stands on the line: to describe all commands would
+// take longer than to print a time card. `take` is called with the command that was given, once the whole line is read.
 template <typename Describe, typename Take>
 void AddCommand(CLI::App& app, const char* name, const char* about, Describe describe, Take take)
 {
@@ -18,10 +18,10 @@ void AddCommand(CLI::App& app, const char* name, const char* about, Describe des
     command->final_callback([command, take] { take(*command); });
 }
 
-// For a command without arguments.
+// The `describe` of a command without arguments.
 inline void TakesNothing(CLI::App& /*command*/) {}
 
-// The value of an option; nothing where the line does not have it.
+// The value of an option; nothing where the option is not on the line.
 template <typename Value>
 std::optional<Value> Given(const CLI::App& command, const char* option, const Value& value)
 {

@@ -46,7 +46,7 @@ std::vector<std::string> ConsoleNames()
     return names;
 }
 
-// The words as CLI11 stores them; dates are checked while reading and turned into dates afterwards.
+// The words of the line as CLI11 stores them. Dates are checked while the line is read and converted afterwards.
 struct Words
 {
     std::string programFolder;
@@ -98,14 +98,14 @@ private:
     ReportArguments ReportResult(const CLI::App& report) const;
     PaydayArguments PaydayResult(PaydayTask task, const CLI::App& command) const;
 
-    // `result` makes of the words what the command is called with.
+    // Adds a command; `result` makes its arguments of the words.
     template <typename Describe, typename Result>
     void Add(CLI::App& app, const char* name, const char* about, Describe describe, Result result)
     {
         AddCommand(app, name, about, describe, [this, result](const CLI::App& command) { m_result.emplace(result(command)); });
     }
 
-    // As the date boxes of the windows read it: "3/5" is of this year.
+    // A date read as in the date boxes of the windows: "3/5" is in this year.
     std::optional<DateTime> Day(const std::string& text) const { return ReadTypedDate(text, m_today); }
 
     DateTime m_today;
@@ -113,7 +113,7 @@ private:
     CLI::App m_app{"PTK - Administrator for terminals and scheduled jobs: time cards and reports from the program folder's database",
                    "ptk-console"};
     std::optional<PeopleGrammar> m_people;
-    std::optional<Command> m_result; // of the command that was given
+    std::optional<Command> m_result; // the command that was given, with its arguments
 };
 
 Grammar::Grammar(DateTime today) : m_today(today)
@@ -332,7 +332,7 @@ void Grammar::TakesDay(CLI::Option* option) const
         CLI::Validator([this](std::string& text) { return Day(text) ? std::string() : "not a date: " + text; }, ""));
 }
 
-// What each report has no use for is refused rather than silently left aside.
+// Refuses what the report has no use for, rather than ignoring it silently.
 void Grammar::CheckReport(const CLI::App& report) const
 {
     const ReportEntry& entry = *FindConsoleReport(m_words.report);

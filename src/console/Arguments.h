@@ -1,4 +1,4 @@
-// The command line of ptk-console, read and checked.
+// Reads and checks the command line of ptk-console.
 #pragma once
 
 #include "office/sheet/EmployeeFields.h"
@@ -37,7 +37,7 @@ struct ReportArguments
     std::optional<DateTime> to;
     ReportForm form = ReportForm::Text;
     std::optional<std::string> output;  // a file; none: the standard output
-    std::optional<std::string> profile; // of the accountant's table, of a review alone; none: the report in its form
+    std::optional<std::string> profile; // of the accountant's table, for a review only; none: the report in its form
 };
 
 struct ProfilesArguments
@@ -50,7 +50,7 @@ struct OverviewArguments
     std::optional<DateTime> from;
     std::optional<DateTime> to;
     std::string format; // one of text, csv, json
-    bool all = false;   // those who are not offered and have records in the period, too
+    bool all = false;   // also those who are not offered but have records in the period
     bool remedies = false;
 };
 
@@ -66,8 +66,8 @@ struct PaydayArguments
     PaydayTask task;
     DateTime from;
     DateTime to;                        // inclusive
-    std::vector<std::string> employees; // as above; none: all that the task is for. Not of an account
-    ReportForm form = ReportForm::Text; // of an account, as the next
+    std::vector<std::string> employees; // display names in the order given; none: all that the task is for. Not for an account
+    ReportForm form = ReportForm::Text; // of an account only, as is `output`
     std::optional<std::string> output;  // a file; none: the standard output
 };
 
@@ -120,7 +120,7 @@ struct ImportEmployeesArguments
 struct PersonArguments
 {
     std::string name;                   // a display name
-    std::optional<std::int32_t> number; // of namesakes
+    std::optional<std::int32_t> number; // the employee number, where several have the name
     ReportForm form = ReportForm::Json; // or Pdf
     std::optional<std::string> output;  // a file; none: the standard output
 };
@@ -151,14 +151,14 @@ struct Arguments
     Command command;
 };
 
-// What stands instead of arguments when there is nothing to do any more: the text asked for (help, version) or what is wrong.
+// The answer instead of arguments when there is no command to run: the text that was asked for (help, version), or what is wrong.
 struct UsageAnswer
 {
     bool wrong = false;
     std::string text; // without a line end at its end
 };
 
-// `words`: the command line without the program's name. `today` tells the year of a date without one.
+// Reads `words`, the command line without the program's name. The year of a date without one is that of `today`.
 [[nodiscard]] std::variant<Arguments, UsageAnswer> ReadArguments(const std::vector<std::string>& words, DateTime today);
 
 } // namespace ptk

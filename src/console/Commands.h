@@ -26,7 +26,7 @@ struct TimeCardArguments;
 [[nodiscard]] int TimeCardCommand(const TimeCardArguments& arguments, Console& console);
 [[nodiscard]] int ReportCommand(const ReportArguments& arguments, Console& console);
 
-// The report's figures as the table of its profile.
+// Writes the accountant's table by the profile that the arguments name. REQUIRES: they name one.
 [[nodiscard]] int ReportByProfile(const ReportArguments& arguments, Console& console);
 
 [[nodiscard]] int ProfilesCommand(const ProfilesArguments& arguments, Console& console);

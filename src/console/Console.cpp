@@ -16,7 +16,7 @@ constexpr bool IsPlain(char c)
     return (c >= ' ' && c < '\x7F') || c == '\n' || c == '\t';
 }
 
-// In bytes: of a UTF-8 character, 1 for a byte that begins none.
+// The length in bytes of the UTF-8 character at the beginning; 1 for a byte that begins none.
 std::size_t CharacterLength(std::string_view text)
 {
     const auto first = static_cast<unsigned char>(text.front());
@@ -28,7 +28,7 @@ std::size_t CharacterLength(std::string_view text)
     return length == expected ? length : 1;
 }
 
-// What a terminal may obey instead of showing it: C0 but tab and line feed, DEL, C1 as UTF-8 or as a stray byte.
+// Whether a terminal may obey the character instead of showing it: C0 but tab and line feed, DEL, C1 as UTF-8 or as a stray byte.
 bool IsControl(std::string_view character)
 {
     const auto byte = [&](std::size_t at) { return static_cast<unsigned char>(character[at]); };

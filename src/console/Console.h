@@ -19,24 +19,24 @@ inline constexpr int WrongUsage = 2;
 inline constexpr int ProblemsFound = 3; // done, but what it found should be mended
 } // namespace status
 
-// The references outlive the command.
+// What a command is run with. REQUIRES: what the references name outlives the command.
 struct Console
 {
     std::string programFolder; // without a trailing separator
     const ptk::Clock& clock;
     std::ostream& out;
     std::ostream& err;
-    bool terminal = false; // somebody reads `out` on one
+    bool terminal = false; // whether `out` is a terminal
 };
 
-// "ptk-console: NUMBER: TEXT" on one line, without the number where there is none (0).
+// Writes "ptk-console: NUMBER: TEXT" on one line, without the number where it is 0.
 void Complain(std::ostream& err, const Failure& failure);
 
-// Says what is wrong with the command line; answers the status for that.
+// Says what is wrong with the command line; answers WrongUsage.
 [[nodiscard]] int RefuseUsage(std::ostream& err, const std::string& text);
 
-// Texts carry CR LF, as files keep them; a terminal wants LF alone. Names come from whoever filled the database: any other control
-// character but the tab, which a terminal might take for a command, becomes a question mark.
+// A text made fit for a terminal. CR LF, as files have it, becomes LF. Every other control character but the tab becomes a question mark,
+// since a terminal might obey it: names come from whoever filled the database.
 [[nodiscard]] std::string TerminalText(std::string_view text);
 
 } // namespace ptk

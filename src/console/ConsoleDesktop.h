@@ -7,11 +7,11 @@
 
 namespace ptk {
 
-// Nobody is there to answer: a question with Yes and No is answered No, any other with OK.
+// Nobody is there to answer a box: one with Yes and No is answered No, any other OK.
 class ConsoleDesktop final : public Desktop
 {
 public:
-    explicit ConsoleDesktop(std::ostream& stream) : m_stream(stream) {} // the stream must outlive the desktop
+    explicit ConsoleDesktop(std::ostream& stream) : m_stream(stream) {} // REQUIRES: the stream outlives the desktop
 
     Answer MessageBox(const std::string& text, const std::string& title, Icon icon, Buttons buttons) override;
     void SetPointer(Pointer pointer) override;

@@ -17,7 +17,7 @@ struct NumberedText
     const char* text;
 };
 
-// A number that several classes set has the words of the one whose failure reaches the console.
+// Where several classes set the same number, its text is for the class whose failure reaches the console.
 constexpr std::array kTexts{
     NumberedText{listerror::CreateFailed, "a list could not be loaded from the database"},
     NumberedText{listerror::DestroyFailed, "a list could not be given up"},
@@ -71,7 +71,7 @@ constexpr std::array kTexts{
     NumberedText{docerror::NoParentWindow, "there is no window to open the document from"},
 };
 
-// "the operation failed" for a number that stands here nowhere.
+// The text of a number; "the operation failed" for one that is not in the table.
 const char* ErrorText(std::int32_t number)
 {
     const auto* found = std::find_if(kTexts.begin(), kTexts.end(), [&](const NumberedText& entry) { return entry.number == number; });
@@ -82,7 +82,7 @@ const char* ErrorText(std::int32_t number)
 
 Failure ProgramFailure(std::int32_t number, const std::string& subject, const std::string& reason)
 {
-    // The number says that there are no records also where they could not be read.
+    // The number says that there are no records even where they could not be read; the reason tells the two apart.
     std::string text = number == timecard::NoRecords && !reason.empty() ? "the time records could not be read" : ErrorText(number);
     for (const std::string& part : {subject, reason}) {
         if (!part.empty()) {

@@ -1,4 +1,4 @@
-// What the numbers mean that the program's objects leave behind, in words for a terminal. The windows have texts of their own.
+// The meaning of the program's error numbers in words for a terminal. The windows have texts of their own.
 #pragma once
 
 #include "platform/Failure.h"
@@ -8,10 +8,10 @@
 
 namespace ptk {
 
-// A failure of this number with its text and, where given, what it is about and why ("...: Ann Lee: the disk is full").
+// A failure with this number, its text and, where given, what it is about and why ("...: Ann Lee: the disk is full").
 [[nodiscard]] Failure ProgramFailure(std::int32_t number, const std::string& subject = "", const std::string& reason = "");
 
-// A failure of the database file or of its opening, with its number and text and, where the text does not name it, the database.
+// The same failure; where its text does not name the database or file at `path`, that is added.
 [[nodiscard]] Failure FileFailure(const Failure& reason, const std::string& path);
 
 } // namespace ptk

@@ -1,4 +1,4 @@
-// The part of the command line that is about employees: a file of them, one person's data, what is kept of old.
+// The commands about employees on the command line: import-employees, person and kept.
 #pragma once
 
 #include "console/Arguments.h"
@@ -16,7 +16,8 @@ namespace ptk {
 class PeopleGrammar
 {
 public:
-    // Adds the commands, which the application keeps; `take` is handed the one that was given. REQUIRES: the grammar outlives the parsing.
+    // Adds the commands to the application, which owns them; `take` is called with the command that was given. REQUIRES: the grammar
+    // outlives the parsing.
     PeopleGrammar(CLI::App& app, std::function<void(Command)> take);
     PeopleGrammar(const PeopleGrammar&) = delete;
     PeopleGrammar& operator=(const PeopleGrammar&) = delete;

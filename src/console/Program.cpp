@@ -10,7 +10,7 @@ namespace ptk {
 
 namespace {
 
-// The commands by the arguments that they take.
+// Calls the command that takes these arguments.
 struct Dispatch
 {
     Console& console;

@@ -9,8 +9,8 @@ namespace ptk {
 
 class Clock;
 
-// `words`: the command line without the program's name. Never raises; output that could not be written is a failure too. `terminal`:
-// whether `out` is one, which shows no byte order mark and no PDF file.
+// Runs `words`, the command line without the program's name, and answers the exit status. Never raises; output that could not be written is
+// a failure, too. `terminal`: whether `out` is a terminal, to which no byte order mark and no PDF file are written.
 [[nodiscard]] int RunConsole(const std::vector<std::string>& words, const Clock& clock, std::ostream& out, std::ostream& err,
                              bool terminal = false);
 

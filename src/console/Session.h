@@ -1,4 +1,4 @@
-// The program's objects as they stand after its start, without windows: configuration, database, employees, time record factory.
+// The objects that the program has after its start, without windows: configuration, database, employees, time record factory.
 #pragma once
 
 #include "store/CJetDB.h"
@@ -17,17 +17,17 @@ class CEmployee;
 class CEmployeeList;
 class CTimeRecordFactory;
 
-// Where the configuration says the database is, with backslashes as configured. Raises a failure without a number when it names none.
+// A locator that has found where the configuration says the database is. Raises a failure without a number when that names none.
 [[nodiscard]] std::shared_ptr<CDatabaseLocator> LocateDatabase(const std::string& programFolder);
 
-// The name that the configuration gives the database, as engines take it. Raises what LocateDatabase raises.
+// The configured name of the database in the form that engines take. Raises what LocateDatabase raises.
 [[nodiscard]] std::string ConfiguredName(const std::string& programFolder);
 
-// The database that the configuration names, closed, for commands that read: nobody is asked whose account this is, and nothing that is
-// stored through it would carry a name.
+// The database that the configuration names, closed, for commands that only read: it has no author, so the edit trail would name nobody for
+// what is stored through it. Raises what LocateDatabase raises.
 [[nodiscard]] std::shared_ptr<CJetDB> ConfiguredDatabase(const std::string& programFolder);
 
-// Holds the database until it is told to give it up: whatever a command reads is of one moment.
+// Holds the database until GiveUpDatabase, so that all that a command reads is of the same moment.
 class Session
 {
 public:
@@ -38,22 +38,22 @@ public:
     [[nodiscard]] const std::shared_ptr<CEmployeeList>& Employees() const { return m_employees; }
     [[nodiscard]] const std::shared_ptr<CTimeRecordFactory>& Factory() const { return m_factory; }
 
-    // Each raises the failure of what could not be read.
+    // Loads all employees. Raises a failure where they could not be read, as the members below do.
     void LoadEmployees();
 
-    // Raises 602 with the first of these display names that none of those loaded has.
+    // Raises 602, naming the first of these display names that no loaded employee has.
     void RequireEmployees(const std::vector<std::string>& names) const;
 
-    // Of all there are, the first of this display name, or nullptr.
+    // The first employee with this display name, or nullptr; LoadEmployees need not have been called.
     std::shared_ptr<CEmployee> EmployeeNamed(const std::string& name);
 
-    // Days, as the options say at this moment.
+    // The length of a pay period in days, as the options say now.
     std::int16_t PeriodLength();
 
     // The second of the day at which the auto shift of the options ends; none where it is not set. See AutoShiftEnd.
     std::optional<std::int64_t> AutoShiftEndOfDay();
 
-    // Before anything is written that somebody may be slow to read.
+    // Lets go of the database. To be called before output is written, since its reader may be slow.
     void GiveUpDatabase() { m_hold.reset(); }
 
 private:

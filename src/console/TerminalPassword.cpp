@@ -14,7 +14,7 @@ constexpr const char* kTerminal = "/dev/tty";
 
 constexpr char kInterrupt = 3; // Ctrl+C
 
-// Shows nothing of what is typed while it lives, and lets no key end the program before the terminal is as it was.
+// While it lives, the terminal does not show what is typed, and no key ends the program before the terminal is as it was.
 class NoEcho
 {
 public:

@@ -6,8 +6,8 @@
 
 namespace ptk {
 
-// From the terminal itself, wherever input and output lead, and without showing it; nothing where there is no terminal, as in a scheduled
-// job.
+// Asks on the terminal itself, even where input and output are redirected, and does not show what is typed. Nothing where there is no
+// terminal, as in a scheduled job, or where Ctrl+C was typed.
 [[nodiscard]] std::optional<std::string> AskAtTerminal(const std::string& address);
 
 } // namespace ptk

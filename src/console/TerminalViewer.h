@@ -1,4 +1,4 @@
-// The console's report viewers: a shown report is printed or kept, and the file that it was written to, if any, is named beside it.
+// The console's report viewers: a shown report is printed or kept, and the file to which it was written, if any, is named.
 #pragma once
 
 #include "reports/forms/ReportDocument.h"
@@ -14,13 +14,14 @@ class Transcript;
 class TerminalViewers final : public ReportViewerFactory
 {
 public:
-    // Reports go to the output, one empty line between them, the files' paths to the error output. The transcript outlives the viewers.
+    // Prints reports to the output, with an empty line between them, and their files' paths to the error output. REQUIRES: the transcript
+    // outlives the viewers.
     explicit TerminalViewers(Transcript& transcript) : m_transcript(transcript) {}
 
     // Keeps the reports instead of printing them.
     void KeepReports() { m_keeps = true; }
 
-    // In the order in which they were shown.
+    // The kept reports, in the order in which they were shown.
     [[nodiscard]] const std::vector<ReportDocument>& Kept() const { return m_kept; }
 
     std::shared_ptr<ReportViewer> CreateViewer(ReportKind kind) override;

@@ -1,5 +1,5 @@
-// What a command has to say while it holds the database, said when it has given it up: a reader that stops reading must not keep others
-// from the file.
+// Keeps what a command says while it holds the database, until it has given the database up: a reader of the output that stops reading must
+// not keep others from the file.
 #pragma once
 
 #include <string>
@@ -14,19 +14,19 @@ class Failure;
 class Transcript
 {
 public:
-    // On the output.
+    // Keeps a text for the output.
     void Print(std::string text);
 
-    // On the error output, after the program's name.
+    // Keeps a line for the error output, after the program's name.
     void Note(std::string_view line);
 
-    // A file that was written, likewise.
+    // Keeps a line for the error output that names a file that was written.
     void NameFile(const std::string& path) { Note("written: " + path); }
 
-    // As ptk::Complain.
+    // Keeps the line that ptk::Complain writes, for the error output.
     void Complain(const Failure& failure);
 
-    // In the order in which it came, once.
+    // Writes all that was kept, in its order, and keeps it no longer.
     void SayAll(const Console& console);
 
 private:

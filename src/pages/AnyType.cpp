@@ -18,7 +18,7 @@ AnyType::AnyType(cairo_t* context, double characterWidth, double lineHeight)
     : m_context(context), m_layout(pango_cairo_create_layout(context)), m_plain(pango_font_description_from_string(kTypefaces))
 {
     pango_context_set_round_glyph_positions(pango_layout_get_context(m_layout.get()), FALSE);
-    pango_layout_set_auto_dir(m_layout.get(), FALSE); // the columns stand from left to right, whatever stands in them
+    pango_layout_set_auto_dir(m_layout.get(), FALSE); // columns run from left to right, whatever script is in them
     pango_font_description_set_size(m_plain.get(), static_cast<int>(kTrialSize * PANGO_SCALE));
     pango_layout_set_font_description(m_layout.get(), m_plain.get());
     pango_layout_set_text(m_layout.get(), "0", 1);

@@ -21,14 +21,14 @@ struct Releases
 class AnyType
 {
 public:
-    // In the size whose digits are that wide.
+    // Takes the typefaces in the size whose digits have this width.
     AnyType(cairo_t* context, double characterWidth, double lineHeight);
 
-    // At the point (x, y), the left end of the baseline, whichever typefaces it takes; what is wider than `width` is made narrower rather
-    // than cut.
+    // Draws a text, with whichever typefaces it needs; (x, y) is the left end of its baseline. A text wider than `width` is made narrower,
+    // not cut.
     void Draw(const char* text, bool bold, double x, double y, double width);
 
-    // Of the baseline, below the upper edge of a line.
+    // How far the baseline lies below the upper edge of a line.
     [[nodiscard]] double Ascent() const { return m_ascent; }
 
 private:

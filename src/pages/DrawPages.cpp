@@ -43,7 +43,7 @@ private:
     cairo_t* m_context;
     const PtkPages& m_pages;
     std::unique_ptr<PlainType> m_plain;
-    std::optional<AnyType> m_any; // once it is needed
+    std::optional<AnyType> m_any; // made when it is first needed
 };
 
 Pen::Pen(cairo_t* context, const PtkPages& pages)

@@ -22,11 +22,11 @@ constexpr auto kFolder = "/usr/share/fonts/truetype/dejavu/";
 constexpr auto kPlain = "DejaVuSansMono.ttf";
 constexpr auto kBold = "DejaVuSansMono-Bold.ttf";
 
-constexpr FT_ULong kFirstAccent = 0x300; // characters of their own that stand on the one before
+constexpr FT_ULong kFirstAccent = 0x300; // combining accents: characters that are drawn over the one before
 constexpr FT_ULong kFirstGreek = 0x370;
 constexpr FT_ULong kBehindCyrillic = 0x483;
 
-// The text is UTF-8.
+// Takes the first character off a UTF-8 text; `bytes` is its length. REQUIRES: the text is valid and not empty.
 FT_ULong TakeCharacter(const char*& text, int& bytes)
 {
     const auto byte = [&](int at) { return static_cast<unsigned char>(text[at]); };

@@ -1,5 +1,5 @@
-// The typeface of most texts, drawn without asking for any other: what is Latin, Greek or Cyrillic needs no more, and finding typefaces for
-// every script of the world first would take longer than all the rest of a page.
+// Draws most texts with one typeface, without looking for others: Latin, Greek and Cyrillic need no more, and finding typefaces for every
+// script would take longer than all the rest of a page.
 #pragma once
 
 #include <cairo.h>
@@ -11,14 +11,14 @@ namespace ptk {
 class PlainType
 {
 public:
-    // nullptr where the typeface is not where this system keeps it. In the size whose characters are that wide.
+    // The typeface in the size whose characters have this width; nullptr where it is not in the folder in which this system keeps it.
     static std::unique_ptr<PlainType> Open(double characterWidth, double lineHeight);
 
-    // False when a character of it is not in the typeface or is none that stands in a place of its own; nothing is drawn then. At the point
-    // (x, y), the left end of the baseline.
+    // Draws a text; (x, y) is the left end of its baseline. False, with nothing drawn, when the typeface lacks one of its characters, or
+    // when a character does not stand in a place of its own.
     [[nodiscard]] bool Draw(cairo_t* context, const char* text, bool bold, double x, double y) const;
 
-    // Of the baseline, below the upper edge of a line.
+    // How far the baseline lies below the upper edge of a line.
     [[nodiscard]] double Ascent() const { return m_ascent; }
 
 private:
@@ -26,7 +26,7 @@ private:
 
     PlainType() = default;
 
-    const Face* m_plain = nullptr; // until the process ends, as what cairo remembers of them
+    const Face* m_plain = nullptr; // lives until the process ends, as cairo's caches of it do
     const Face* m_bold = nullptr;
     double m_size = 0;
     double m_ascent = 0;

@@ -69,7 +69,7 @@ bool CController::Logged(Operation operation)
 
 void CController::Start()
 {
-    const std::shared_ptr<CController> self = shared_from_this(); // the end routine gives up its own
+    const std::shared_ptr<CController> self = shared_from_this(); // the end routine releases its reference
     Succeeds([this] { BringUp(); },
              [this](const Failure& reason) {
                  CError(m_around.desktop).MessageBox(static_cast<std::int16_t>(Icon::Critical), static_cast<std::int16_t>(Buttons::Ok));
@@ -113,7 +113,7 @@ void CController::OpenAndShow()
     }
 }
 
-// Instead of a database that is of no use.
+// Lets the user restore a backup where the database is useless; whether that was done.
 bool CController::RestoredInstead()
 {
     CloseDatabase();
@@ -146,11 +146,11 @@ void CController::ShowMainWindow()
 
 bool CController::Cleanup()
 {
-    // Where the end routine does not end the process, nothing is left for a second run.
+    // After a first run whose end routine did not end the process, there is nothing left to shut down.
     if (!m_configFile) {
         return false;
     }
-    const std::shared_ptr<CController> self = shared_from_this(); // the end routine and the main window give up theirs
+    const std::shared_ptr<CController> self = shared_from_this(); // the end routine and the main window release their references
     Succeeds([this] { ShutDown(); });
     return false;
 }
@@ -211,8 +211,8 @@ bool CController::LogUnopened()
     const std::string& name = m_locator->DatabasePath();
     const Failure& reason = m_database->LastFailure();
     if (!name.empty()) {
-        Log(reason.Number(), reason.Description() + (IsFileName(name) ? ": " + NativeName(name) : "")); // a server is in its reason already
-    } else if (m_configFile->LastFailure().Number() == 0) { // a file that could not be read has its own line
+        Log(reason.Number(), reason.Description() + (IsFileName(name) ? ": " + NativeName(name) : "")); // the reason already names a server
+    } else if (m_configFile->LastFailure().Number() == 0) { // a configuration file that could not be read has its own line in the log
         Log(jetdb::NoDatabase, kNoDatabaseNamed + NativePath(ConfigPath()).string());
     }
     return false;
@@ -236,7 +236,7 @@ bool CController::StoreSystemOptions()
     });
 }
 
-// All three, also when an earlier one failed: each failure is to reach the log.
+// Does all three steps even when an earlier one failed, so that each failure is logged.
 bool CController::BuildLists()
 {
     const bool companies = GetCompanyList();
@@ -281,7 +281,7 @@ bool CController::GetCompanyList()
 
 bool CController::GetEmployeeList()
 {
-    ClearUpperVectors(); // the longest work of the start, right behind the windows' own
+    ClearUpperVectors(); // the start's longest work comes next, right after windows were shown
     return Logged([this] { return Reload(m_employeeList, m_database) || LogRefused("The list of employees could not be loaded"); });
 }
 
@@ -324,7 +324,7 @@ std::string CController::BackUpNow()
     return m_safekeeping->BackUpNow(Order());
 }
 
-// Whoever still works with an object of before works with what is no more: all are new.
+// After a restore, whoever keeps an object from before works with data that is gone: database, options and factory are new objects.
 std::string CController::Restore()
 {
     CloseDatabase();

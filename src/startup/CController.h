@@ -28,8 +28,9 @@ class Safekeeping;
 class WindowFactory;
 struct BackupOrder;
 
-// Always held by std::shared_ptr: make it, then call Start once. Accessors hand out the shared objects themselves, nullptr before they
-// exist and after Cleanup released them. No operation raises; failures go to the error log as "Error: number : description".
+// Accessors answer the shared objects themselves, nullptr before these exist; Cleanup releases all of them but the options. Failures go to
+// the error log as "Error: number : description"; only ConfigFile and ImportOldDatabase raise them. REQUIRES: a std::shared_ptr holds the
+// controller, and Start is called once.
 class CController : public std::enable_shared_from_this<CController>
 {
 public:
@@ -41,8 +42,7 @@ public:
         WindowFactory& windows;
         std::shared_ptr<CFile> errorLog; // written to only while it is open
 
-        // Ends the process with this status: 1 when the start failed or was cancelled. When it returns, the controller touches nothing any
-        // more.
+        // Ends the process with this status: 0, or 1 when the start failed or was cancelled. The controller does nothing after it.
         std::function<void(int)> endRoutine;
     };
 
@@ -51,16 +51,16 @@ public:
     CController(const CController&) = delete;
     CController& operator=(const CController&) = delete;
 
-    // The whole start-up: configuration, database, options, lists, login, main window. Returns with the main window shown, or without one
-    // when the database could not be opened or a failure was met, or after the end routine (no lists, login refused).
+    // Starts the program: configuration, database, options, lists, login, main window. Returns when the main window is shown; without one
+    // when the database could not be opened or a failure occurred; or after the end routine (no configuration, no lists, login refused).
     void Start();
 
-    // Shutdown: saves options and configuration, releases the shared objects and runs the end routine; what could not be saved is told.
-    // When the database cannot be opened it tells so, saves nothing and leaves the program to end with its last window. Harmless when
-    // repeated. Deliberately always false.
+    // Shuts the program down: saves the options, makes a backup where one is due, saves the configuration, releases the shared objects and
+    // runs the end routine; a box tells what could not be saved. When the database cannot be opened, a box says so, nothing is saved, and
+    // the program ends with its last window. Harmless when repeated. Deliberately always false.
     bool Cleanup();
 
-    // No operation of the controller sets it.
+    // Always 0: no operation of the controller sets an error number.
     [[nodiscard]] std::int32_t ErrorNumber() const { return 0; }
 
     [[nodiscard]] std::shared_ptr<MainWindow> ControllerWindow() const { return m_controllerWindow; }
@@ -74,56 +74,57 @@ public:
     [[nodiscard]] std::shared_ptr<CCompanyList> CompanyList() const { return m_companyList; }
     [[nodiscard]] std::shared_ptr<CEmployeeList> EmployeeList() const { return m_employeeList; }
 
-    // True also when the file could not be read: that shows up as a database that cannot be opened.
+    // Reads the configuration file. True even when that failed: it is logged, and shows as a database that cannot be opened.
     bool ReadConfigFile();
 
-    // True also when the file could not be written: that is logged.
+    // Writes the configuration file. True even when that failed: it is logged.
     bool WriteConfigFile();
 
-    // Reloads into the same list object.
+    // Loads the companies, into the same list object where there is one.
     bool GetCompanyList();
 
-    // Reloads into the same list object.
+    // Loads the employees, into the same list object where there is one.
     bool GetEmployeeList();
 
-    // Reserved.
+    // Reserved; always false.
     bool GetTimeCardList() { return false; }
 
-    // Makes the factory on the present database, or empties the current list of the one there is, which keeps its first database.
+    // Makes the time record factory for the present database. A factory that exists keeps its first database, and its current list is
+    // emptied; false where it has no list.
     bool StartTimeRecordFactory();
 
-    // Hides, unloads and releases the main window; a second call from its closing steps does nothing. Deliberately always false.
+    // Unloads and releases the main window; a second call, from the window's own closing steps, does nothing. Deliberately always false.
     bool UnloadControllerWindow();
 
-    // See Safekeeping: for the main window once it is shown, for its menu, and what each answers for its line.
+    // Called once the main window is shown, and by its menu; its status line shows what these answer. See Safekeeping.
     [[nodiscard]] std::string BackUpWhenDue();
     [[nodiscard]] std::string BackUpNow();
 
-    // Lets a backup be chosen and put back, and answers what the main window's line says of it. Where something was restored, everything
-    // has been read again into objects of its own, and the options' window is to be given those that hold now.
+    // Lets the user choose a backup and restores it; answers what the main window's line says about that. After a restore everything has
+    // been read again: database, options and factory are new objects, and the window with the options must be given the new ones.
     [[nodiscard]] std::string Restore();
 
-    // Why the database is none that a restore could replace, a sentence without a full stop; empty where it is one.
+    // Why a restore cannot replace this database, as a sentence without a full stop; empty where it can.
     [[nodiscard]] std::string RestoreRefusal() const;
 
-    // Of the order, its file and what is wanted of it count. Where something was imported, everything has been read again as after a
-    // restore; what of that failed is the outcome's problem. Raises what office/Import says.
+    // Imports an older database into the configured one: database, folder, moment and author of the order are set here. After an import
+    // everything has been read again as after a restore; if that failed, the outcome's problem says so. Raises what office/import raises.
     [[nodiscard]] ImportOutcome ImportOldDatabase(ImportOrder order, const ImportProgress& progress);
 
     // The folder for a second copy of each backup; empty for none.
     [[nodiscard]] std::string SecondBackupFolder() const;
 
-    // Where files beside the database may hold something about an employee.
+    // The folders in which files beside the database may hold something about an employee.
     [[nodiscard]] PersonPlaces FilesOfPersons() const;
 
-    // See office/BackupRun.h.
+    // Why a folder cannot take the second copies: see ptk::SecondFolderRefusal.
     [[nodiscard]] std::string SecondFolderRefusal(const std::string& folder) const;
 
-    // Into the configuration file; false, with a line in the log, when that could not be written. REQUIRES: the file can hold it, see
-    // office/BackupRun.
+    // Sets that folder and writes the configuration file; false, with a line in the log, when that failed. REQUIRES: SecondFolderRefusal is
+    // empty for it.
     [[nodiscard]] bool SecondBackupFolder(const std::string& folder);
 
-    // One line for the session log, of something that went wrong outside the controller: "Error: NUMBER : TEXT", 0 where it has no number.
+    // Writes a line to the error log about a failure outside the controller: "Error: NUMBER : TEXT", with 0 where there is no number.
     void Log(std::int32_t number, const std::string& text);
 
 private:
@@ -136,7 +137,7 @@ private:
     void ShutDown();
     void ReleaseObjects();
 
-    // On a fresh database object and locator each time.
+    // Makes a new database object and locator each time.
     bool OpenDatabase();
 
     void CloseDatabase();
@@ -150,10 +151,10 @@ private:
     void LogFailure(const char* kind, std::int32_t number, const std::string& description);
     void LogConfigFailure();
 
-    // Why the database's last operation was refused; always false.
+    // Logs why the database's last operation was refused; always false.
     bool LogRefused(const std::string& what);
 
-    // Why it could not be opened; always false.
+    // Logs why the database could not be opened; always false.
     bool LogUnopened();
 
     // The operation's answer, or false and a line in the log when it raised a failure.
@@ -171,7 +172,7 @@ private:
     std::shared_ptr<CSystemOptions> m_systemOptions;
     std::shared_ptr<LoginWindow> m_loginWindow;
     std::unique_ptr<Safekeeping> m_safekeeping;
-    Author m_author{"", "ptk-admin"}; // of what is stored
+    Author m_author{"", "ptk-admin"}; // the author of all that the program stores
 };
 
 } // namespace ptk

@@ -1,4 +1,4 @@
-// What the start-up and the shutdown tell the user, word for word.
+// The boxes of the start-up and the shutdown, word for word.
 #pragma once
 
 #include "platform/system/Notice.h"

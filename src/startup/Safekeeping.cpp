@@ -39,7 +39,7 @@ std::string NameOf(const std::string& path)
     return std::filesystem::path(path).filename().string();
 }
 
-// A failure of the engine is one of the database, any other of the folder.
+// The failure's text, with the backup folder where it is not a failure of the engine.
 std::string Located(const Failure& reason, const BackupOrder& order)
 {
     return reason.Description() + (IsOfDatabase(reason) ? "" : ": " + BackupFolder(order.programFolder));
@@ -110,7 +110,7 @@ Safekeeping::Attempt Safekeeping::Make(const BackupOrder& order)
         attempt.outcome = MakeBackup(order, [&](std::int32_t done, std::int32_t all) { return goesOn = window->GoOn(done, all); });
     };
     Succeeds(make, [&](const Failure& reason) {
-        goesOn = goesOn && window->GoOn(0, 0); // it may have been ended while a server was waited for
+        goesOn = goesOn && window->GoOn(0, 0); // the user may have stopped it while it waited for a server
         if (goesOn) {
             attempt.problem = kNotBackedUp + Located(reason, order);
             m_log(reason.Number(), attempt.problem);

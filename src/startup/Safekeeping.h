@@ -1,4 +1,4 @@
-// The backups that the program makes by itself and when it is asked to, and the way back to one.
+// The backups that the program makes by itself and when it is asked to, and restoring one.
 #pragma once
 
 #include "office/safety/BackupRun.h"
@@ -15,42 +15,42 @@ class CJetDB;
 class Desktop;
 class WindowFactory;
 
-// Every failure is told and logged, and holds nothing else up. Texts are sentences without a full stop. No member raises, and for all but
-// Begin the database must not be open here.
+// Every failure is told and logged, and does not keep the program from anything else. Answers are sentences without a full stop. No member
+// raises. REQUIRES, for all members but Begin: the program does not have the database open.
 class Safekeeping
 {
 public:
-    // The two outlive it.
+    // REQUIRES: desktop and windows outlive this object.
     Safekeeping(Desktop& desktop, WindowFactory& windows, std::function<void(std::int32_t number, const std::string& text)> log);
 
-    // Changes count from here on.
+    // Begins the session: changes that are made from now on count for BackUpChanges.
     void Begin(const std::shared_ptr<CJetDB>& database);
 
-    // The day's first backup, where there is none. Answers what is to be told of it; empty when all is well.
+    // Makes a backup where the day has none yet. Answers what the user must be told about it; empty when all is well.
     [[nodiscard]] std::string BackUpWhenDue(const BackupOrder& order);
 
-    // At the end of a session in which something changed, or whose day has no backup. Tells a failure in a box.
+    // Ends the session: makes a backup where something changed in it, or where the day has no backup. Tells a failure in a box.
     void BackUpChanges(const BackupOrder& order, const std::shared_ptr<CJetDB>& database);
 
-    // Answers what came of it.
+    // Makes a backup and answers whether that succeeded, in words.
     [[nodiscard]] std::string BackUpNow(const BackupOrder& order);
 
-    // Lets the user choose a file, and choose again where that could not be restored. Answers what was done; empty when nothing was.
+    // Lets the user choose a backup and restores it; where that fails, the user may choose again. Answers what was done; empty for nothing.
     [[nodiscard]] std::string Restore(const BackupOrder& order, const Author& author);
 
-    // Whether the database is a file, damaged, none, or missing, and there is a backup to take its place.
+    // Whether there are backups, and the database is a file that is damaged, is no database or is missing.
     [[nodiscard]] static bool CanReplace(const BackupOrder& order);
 
 private:
     struct Attempt
     {
-        BackupOutcome outcome; // without a path when it was not made
-        std::string problem;   // empty also when the user ended it
+        BackupOutcome outcome; // without a path when no backup was made
+        std::string problem;   // empty also when the user stopped the backup
     };
 
     [[nodiscard]] Attempt Make(const BackupOrder& order);
 
-    // For people who did not ask for the backup: empty where all is well or was told before.
+    // What to tell somebody who did not ask for the backup; empty where all is well or was told before.
     [[nodiscard]] static std::string NewsOf(const Attempt& attempt);
     [[nodiscard]] bool PutBack(const BackupOrder& order, const std::string& file, const Author& author);
     void Tell(const char* title, const std::string& text);
@@ -58,7 +58,7 @@ private:
     Desktop& m_desktop;
     WindowFactory& m_windows;
     std::function<void(std::int32_t number, const std::string& text)> m_log;
-    std::optional<std::int64_t> m_newest; // change when the session began; nothing where it could not be read
+    std::optional<std::int64_t> m_newest; // the newest change when the session began; nothing where it could not be read
 };
 
 } // namespace ptk

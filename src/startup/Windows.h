@@ -1,4 +1,4 @@
-// The windows that the start-up shows, as it knows them: the user interface above implements them and hands in the factory.
+// Interfaces of the windows that the start-up shows. The user interface above implements them and hands in the factory.
 #pragma once
 
 #include <cstdint>
@@ -23,12 +23,12 @@ public:
 
     virtual void EmployeeList(std::shared_ptr<CEmployeeList> value) = 0;
 
-    // Returns when the window was hidden or closed.
+    // Shows the window and returns when it was hidden or closed.
     virtual void ShowModal() = 0;
 
     [[nodiscard]] virtual bool LoginValid() const = 0;
 
-    // The display name, as typed; of use when the login is valid.
+    // The display name, as it was typed. REQUIRES: the login is valid.
     [[nodiscard]] virtual std::string LoggedIn() const = 0;
 };
 
@@ -37,12 +37,12 @@ class MainWindow
 public:
     virtual ~MainWindow() = default;
 
-    // Brings the window up, not modally.
+    // Gives the window its controller and shows it, not modally.
     virtual void Controller(std::shared_ptr<CController> value) = 0;
 
     virtual bool DisplaySystemOptions(std::shared_ptr<CSystemOptions> options) = 0;
 
-    // Hides and closes the window; its own closing steps run.
+    // Hides and closes the window; the window's own closing steps run.
     virtual void Unload() = 0;
 };
 
@@ -52,30 +52,30 @@ struct ProgressWords
     std::string text;
 };
 
-// Comes up by itself once the work takes its time, and lets the user end it.
+// Shows itself once the work takes long, and lets the user stop the work.
 class ProgressWindow
 {
 public:
     // Unloads the window.
     virtual ~ProgressWindow() = default;
 
-    // Of `all` steps. False once the user has ended the work.
+    // Shows that `done` of `all` steps are done. False once the user has stopped the work.
     [[nodiscard]] virtual bool GoOn(std::int32_t done, std::int32_t all) = 0;
 };
 
-// Asks which backup the database is to be again.
+// Asks which backup is to be restored.
 class RestoreWindow
 {
 public:
     // Unloads the window.
     virtual ~RestoreWindow() = default;
 
-    // Of the backups in the folder, or of any other place. Returns when the user has chosen: the file's path, or nothing.
+    // Lets the user choose one of the backups in the folder, or a file elsewhere. Answers its path; empty where the user chose none.
     [[nodiscard]] virtual std::string Choose(const std::string& folder) = 0;
 };
 
-// The program lets go of a window from within the window's own closing steps, so its deleter must not destroy it before those have
-// returned.
+// The program releases a window from within the window's own closing steps, so the deleter of its pointer must not destroy it before these
+// have returned.
 class WindowFactory
 {
 public:

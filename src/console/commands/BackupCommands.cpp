@@ -27,7 +27,7 @@ BackupOrder OrderOf(const Console& console)
     return {NativeName(locator->DatabasePath()), console.programFolder, SecondBackupFolder(*locator->ConfigFile()), console.clock.Now()};
 }
 
-// A failure of the engine is one of the database, any other of what was to be written.
+// Runs the action. A failure of the engine is given the database's name, any other that of the file to be written.
 template <typename Action>
 auto Naming(const std::string& database, const std::string& target, Action action)
 {
@@ -49,7 +49,7 @@ int BackUpInto(const BackupOrder& order, Console& console)
     return status::ProblemsFound;
 }
 
-// One of the backups may be named without its folder.
+// The file to restore. A backup in the backup folder may be named without its folder.
 std::string FileToRestore(const Console& console, const std::string& file)
 {
     const std::string listed = BackupFolder(console.programFolder) + '/' + file;

@@ -13,7 +13,7 @@ namespace ptk {
 
 namespace {
 
-// What is left to do.
+// Makes the database; answers what is left to do.
 std::string Create(const std::string& path, const std::function<void(BulkWriter&)>& fill)
 {
     try {

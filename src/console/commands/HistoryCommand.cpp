@@ -19,7 +19,7 @@ ReportForm FormOf(const std::string& format)
     return format == "csv" ? ReportForm::Csv : ReportForm::Text;
 }
 
-// The database is given up when it returns, before anything is written that somebody may be slow to read.
+// The history as text. The database is let go when this returns, before output is written, since its reader may be slow.
 std::string Read(const HistoryArguments& arguments, TrailQuery query, const std::string& programFolder)
 {
     const auto database = ConfiguredDatabase(programFolder);

@@ -42,7 +42,7 @@ std::string Rendered(const Overview& overview, const std::string& format)
     return format == "csv" ? OverviewCsv(overview) : OverviewText(overview);
 }
 
-// Where nothing was closed, where the offered period begins does not depend on its length.
+// Where nothing was closed, the first day that is offered does not depend on the period's length: with --to, the length is not read.
 PayPeriod ChosenPeriod(const OverviewArguments& arguments, Session& session, DateTime today)
 {
     if (arguments.from) {

@@ -20,7 +20,7 @@ namespace ptk {
 
 namespace {
 
-// What an accountant's review would hold, with the same complaints.
+// Writes the accountant's table: the people and figures of an accountant's review, with the same complaints.
 class TableWriter
 {
 public:

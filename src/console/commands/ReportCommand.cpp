@@ -26,7 +26,7 @@ constexpr auto kNotOnATerminal = "a PDF file is nothing for a terminal: name a f
 constexpr auto kNoName = "-o needs the name of a file";
 constexpr auto kNothingToWrite = "nobody is offered reports: there is no page to write";
 
-// The Reports page without its window.
+// Makes the chosen reports, as the Reports page does, without a window.
 class ReportWriter final : private ReportClient
 {
 public:
@@ -37,7 +37,7 @@ private:
     ReportOrder Order();
     std::shared_ptr<Report> NewReport(const ReportEntry& entry) override;
     bool GoOn(std::int32_t /*done*/) override { return true; }
-    void Say(const std::string& /*outcome*/) override {} // the files are named and the failures told one by one
+    void Say(const std::string& /*outcome*/) override {} // files and failures are told one by one
     void Made(Report& report, bool complete, const std::string& outcome) override;
     void Replaced(const std::string& sentence) override;
     void Deliver();
@@ -84,7 +84,7 @@ std::shared_ptr<Report> ReportWriter::NewReport(const ReportEntry& entry)
 
 void ReportWriter::Made(Report& report, bool complete, const std::string& /*outcome*/)
 {
-    // A line lost on a full disk leaves the answer true, but a scheduled job must hear of it.
+    // A report is complete even when lines of its file were lost on a full disk, but a scheduled job must hear of it.
     if (!complete || report.ErrorNumber() != 0) {
         const bool unopened = report.ErrorNumber() == report::NotOpen;
         m_transcript.Complain(ProgramFailure(report.ErrorNumber(), report.ReportName(),
@@ -94,7 +94,7 @@ void ReportWriter::Made(Report& report, bool complete, const std::string& /*outc
     report.UnloadReportWindow(); // report and viewer hold each other until then
 }
 
-// One of the two is lost in the reports folder, though both are printed.
+// Two reports had the same file name: only one is in the reports folder, although both are printed.
 void ReportWriter::Replaced(const std::string& sentence)
 {
     m_transcript.Complain(Failure(0, "PTK", sentence));
@@ -112,7 +112,7 @@ int ReportWriter::Write()
     return m_status;
 }
 
-// Half a report takes no other's place, as it does not in the reports folder.
+// Prints or stores the reports that were kept. As in the reports folder, an incomplete report does not replace an earlier one.
 void ReportWriter::Deliver()
 {
     const std::vector<ReportDocument>& reports = m_viewers.Kept();

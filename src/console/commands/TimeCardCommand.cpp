@@ -37,7 +37,7 @@ public:
     }
 
 private:
-    // What is wrong is told of a card that could not be generated, too.
+    // Prints the card and its findings; the findings even where the card could not be generated.
     int PrintChecked(const std::shared_ptr<CEmployee>& employee)
     {
         const CheckLimits limits = LoadCheckLimits(m_session.Database());
@@ -60,7 +60,7 @@ private:
         return checked.check->problems > 0 ? status::ProblemsFound : status::Done;
     }
 
-    // A terminal or pipe may take its time; nobody need wait for the database meanwhile.
+    // Lets go of the database first: a terminal or pipe may be slow, and nobody should wait for the database meanwhile.
     void PrintCard()
     {
         m_session.GiveUpDatabase();
