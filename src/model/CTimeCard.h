@@ -65,7 +65,7 @@ public:
     // The hours that automatic deductions took off.
     [[nodiscard]] float TotalBreakTime() const { return m_totalBreakTime; }
 
-    // GenerateTimecard needs a database (405).
+    // GenerateTimecard fails without it (405), but reads from the factory's database.
     void PTKDatabase(std::shared_ptr<CJetDB> value) { m_database = std::move(value); }
     [[nodiscard]] const std::shared_ptr<CJetDB>& PTKDatabase() const { return m_database; }
 

@@ -38,7 +38,7 @@ struct Closing;
 [[nodiscard]] std::string DeductionText(const WorkDay& day, std::int64_t deducted);
 [[nodiscard]] std::string LongDayText(const WorkDay& day);
 
-// Takes the minutes that have no pay rate and no overtime rate; 0: that rate is not missing.
+// Takes the regular minutes without a pay rate and the overtime minutes without an overtime rate; 0: that rate is not missing.
 [[nodiscard]] std::string NoRateText(std::int64_t regularWithout, std::int64_t overtimeWithout);
 
 [[nodiscard]] std::string WeekText(const WorkWeek& week);
@@ -50,7 +50,7 @@ struct Closing;
 [[nodiscard]] std::string TwiceText(const WorkDay& day);
 [[nodiscard]] std::string BetweenText(const Finding& shifts);
 
-// `lasted`: the minutes that the shift really lasted, as a clock that is never changed counts them.
+// `lasted`: the minutes that the shift really lasted, by a clock that nobody changed.
 [[nodiscard]] std::string ClockChangeText(const Punch& punch, std::int64_t lasted);
 
 [[nodiscard]] std::string NoShiftText();

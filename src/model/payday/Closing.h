@@ -29,7 +29,7 @@ struct ClosingsOfEmployee
 {
     std::vector<Closing> ofPeriod;         // closings of exactly this period, oldest first; the last one counts
     std::vector<PayPeriod> touching;       // other closed periods that share a day with this one; the same days may be here twice
-    std::optional<DateTime> lastDayBefore; // the latest day, before this period begins, that a closed period ends on
+    std::optional<DateTime> lastDayBefore; // the latest last day of all closed periods that end before this one begins
 
     // The closing that counts; nullptr where the period is not closed.
     [[nodiscard]] const Closing* Newest() const { return ofPeriod.empty() ? nullptr : &ofPeriod.back(); }

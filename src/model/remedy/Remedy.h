@@ -44,7 +44,7 @@ struct ShiftEnds
     // Answers when the employee usually ends a shift that began at `start`. Called only when that is needed; empty where it cannot be told.
     std::function<std::optional<std::int64_t>(DateTime start)> usual;
 
-    std::optional<std::int64_t> automatic; // the end of the employee's auto shift: see AutoShiftEnd
+    std::optional<std::int64_t> automatic; // the end of the auto shift in the options: see AutoShiftEnd
 };
 
 // The second of the day at which the auto shift ends; none unless both its times are set, that is, are not midnight.
