@@ -142,7 +142,7 @@ private:
     }
 
     std::shared_ptr<const Row> m_asRead; // only where the row was changed since
-    bool m_stored = false;               // whether m_row is as it was read or stored last
+    bool m_stored = false;               // whether m_row is as it was read or last updated
 };
 
 } // namespace ptk
