@@ -25,7 +25,7 @@ constexpr auto kUndo = "Undo";
 constexpr auto kRedo = "Redo";
 constexpr auto kBusy = "Not now: the program is busy";
 
-constexpr qsizetype kMostCharacters = 60; // of a line: names have any length
+constexpr qsizetype kMostCharacters = 60; // of a menu line: names have any length
 
 QString Caption(const std::string& text)
 {
@@ -97,7 +97,7 @@ void EditMenu::Move(bool undo)
     emit Moved(step, QString::fromStdString((undo ? kUndone : kRedone) + step.text + Whose(step)));
 }
 
-// Nothing to undo is no refusal.
+// Shows why nothing was done; an empty reason, since there was nothing to undo, is no refusal.
 void EditMenu::Refuse(const std::string& reason, const char* title)
 {
     if (!reason.empty()) {
@@ -106,7 +106,7 @@ void EditMenu::Refuse(const std::string& reason, const char* title)
     }
 }
 
-// A record is told by its time; whose it is has to be said.
+// The owner of a time record, in brackets: the step's text names a time record by its time only.
 std::string EditMenu::Whose(const MovedStep& step) const
 {
     std::string name;

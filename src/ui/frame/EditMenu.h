@@ -13,7 +13,8 @@ namespace ptk {
 
 class Workplace;
 
-// Its lines say what they would do, and to whom. A box with the focus keeps their keys while it has something to undo or redo in its text.
+// The lines of the menu say what they would undo or redo, and whose record that is. While a box with the keyboard has something to undo or
+// redo in its own text, it keeps the keys of these lines.
 class EditMenu final : public QObject
 {
     Q_OBJECT
@@ -25,14 +26,14 @@ public:
         QAction& redo;
     };
 
-    // All outlive it. `isBusy` tells that nothing can be undone just now.
+    // Everything that is handed in outlives the menu. `isBusy` says that nothing can be undone just now.
     EditMenu(QMenu& menu, const Lines& lines, Workplace& host, std::function<bool()> isBusy);
 
 signals:
     // A step was undone or done again; `done` says which: "Undone: Delete 03/05/2003 08:00 AM (Ann Lee)".
     void Moved(const ptk::MovedStep& step, const QString& done);
 
-    // Why nothing was done.
+    // Nothing was done; `text` says why.
     void Said(const QString& text);
 
 private:

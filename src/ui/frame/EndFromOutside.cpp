@@ -24,7 +24,7 @@ std::array<int, 2> pipeEnds{-1, -1};
 std::array<struct sigaction, kSignals.size()> before;
 std::atomic<bool> asked = false;
 
-// The event loop hears of it by the pipe. Where it does not come to that, the second signal is the last.
+// The signal handler: tells the event loop through the pipe. A second signal, or a pipe that cannot be written, ends the process at once.
 void Ask(int signal)
 {
     const int error = errno;
@@ -89,8 +89,8 @@ void EndFromOutside::Begin()
     }
 }
 
-// A dialog's caller goes on only once the dialog's loop has returned, so that it takes several tries. Once the windows close, a dialog that
-// comes up is the progress of the last backup, and stays.
+// Closes the open dialog, else all windows. The caller of a dialog goes on only when the dialog's loop has returned, so this takes several
+// tries. A dialog that comes up while the windows close is the progress of the last backup, and stays.
 void EndFromOutside::CloseWindows()
 {
     if (QWidget* modal = QApplication::activeModalWidget()) {

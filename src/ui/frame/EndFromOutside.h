@@ -9,9 +9,9 @@ class QSocketNotifier;
 
 namespace ptk {
 
-// From its making on, SIGTERM, SIGHUP and SIGINT (where they would end the process) and the end of the desktop's session close all windows
-// as Exit does: the day's backup where it is due, the options, the configuration, the log's end. Whatever box or dialog is open goes first;
-// a second signal ends the process at once. One at a time.
+// While it lives, SIGTERM, SIGHUP and SIGINT (where they would end the process) and the end of the desktop's session close all windows as
+// Exit does: with the day's backup where it is due, the options, the configuration and the end of the log. An open box or dialog is closed
+// first; a second signal ends the process at once. There is one of it at a time.
 class EndFromOutside final : public QObject
 {
     Q_OBJECT
@@ -19,7 +19,7 @@ class EndFromOutside final : public QObject
 public:
     EndFromOutside();
 
-    // Signals are again what they were.
+    // Gives the signals back to what handled them before.
     ~EndFromOutside() override;
 
 private:

@@ -36,7 +36,7 @@ namespace ptk {
 
 namespace {
 
-// Half of 1024 x 700: what a screen of that size has to give at 200 %.
+// Half of 1024 x 700, which is the room that a screen of that size has at a scaling of 200 %.
 constexpr QSize kSmallestSize(512, 350);
 
 struct Tab
@@ -63,7 +63,7 @@ constexpr auto kFirstStatus = "<object name : ID>";
 
 constexpr auto kMakingReports = "Not now: reports are being made";
 
-constexpr int kBackupDelay = 300; // milliseconds: nobody waits for the day's first backup to see the window
+constexpr int kBackupDelay = 300; // milliseconds: the window is shown before the day's first backup is made
 
 constexpr auto kPlaceName = "main";
 constexpr QSize kFirstSize(960, 660);
@@ -81,7 +81,7 @@ FController::FController(std::string programFolder, ptk::Desktop& desktop, const
       m_sharedRecords(std::make_unique<ptk::SharedRecords>())
 {
     m_ui->setupUi(this);
-    setMinimumSize(kSmallestSize); // the pages scroll below their own size
+    setMinimumSize(kSmallestSize); // below their own size the pages scroll
     BuildPages();
     BuildStatusBar();
     ConnectMenus();
@@ -93,7 +93,7 @@ FController::FController(std::string programFolder, ptk::Desktop& desktop, const
     RestorePlace(*this, kPlaceName, kFirstSize);
 }
 
-// The pages go first: they still show the models.
+// The pages are deleted first, because they still show the models.
 FController::~FController()
 {
     delete takeCentralWidget();
@@ -183,7 +183,7 @@ void FController::ConnectWindowMenu()
     connect(m_ui->mnuWindowCloseAll, &QAction::triggered, windows, [&viewers] { viewers.CloseAll(); });
 }
 
-// A click counts also when it does not move the selection: the first one on the first tab does.
+// A click counts even when it does not change the selection, as the first click on the first tab.
 void FController::ConnectTabs()
 {
     QTabBar* strip = m_ui->TabStrip;
@@ -239,7 +239,7 @@ void FController::ShowAll()
     }
 }
 
-// The reports that are open stay: they say of which day they are.
+// Open reports stay open, since each says of which day it is.
 void FController::ShowRestored(const QString& outcome)
 {
     m_timeCardPage->GiveUpCard();
@@ -255,7 +255,7 @@ void FController::ShowRestored(const QString& outcome)
     Say(outcome);
 }
 
-// What lines and status bar said was of records that are not shown any more.
+// Clears the lines and the status bar, which spoke of records that are not shown any more.
 void FController::ForgetLines()
 {
     for (auto* line : m_ui->pages->findChildren<NoticeLine*>()) {
@@ -363,7 +363,7 @@ bool FController::ShowTabPage(int index)
     return m_ui->pages->currentIndex() == index - 1;
 }
 
-// Not while reports are made: they and the page share the one list of records.
+// Shows no card while reports are being made, because they share the list of time records with the page.
 void FController::ShowTimeCard(std::int32_t employeeID, const PayPeriod& period)
 {
     if (IsBusyInDialog()) {
@@ -380,7 +380,7 @@ void FController::ShowRate(std::int32_t employeeID)
     m_employeePage->ShowRate(employeeID);
 }
 
-// Unloading the window, in the middle of this, runs the whole close path once more; all of it is harmless when repeated.
+// In the middle of this the window is unloaded, which runs the whole close path once more; all of it is harmless when repeated.
 void FController::Exit()
 {
     if (m_recordPages->MayLeave()) {
@@ -422,8 +422,8 @@ bool FController::IsBusyInDialog() const
            QThread::currentThread()->loopLevel() > 1;
 }
 
-// A window that is told to close while one of its editors is open, by the end of the desktop's session for instance, closes the editor
-// first and itself when the editor's caller has returned.
+// A window that is told to close while one of its editors is open (at the end of the desktop's session, for instance) first closes the
+// editor, and then itself when the editor's caller has returned.
 void FController::closeEvent(QCloseEvent* event)
 {
     if (IsBusyInDialog()) {
@@ -444,7 +444,7 @@ void FController::closeEvent(QCloseEvent* event)
     CloseDown(false);
 }
 
-// Enter anywhere on a page presses the button that is meant most there, as in a dialog.
+// Enter anywhere on a page presses the button with the keyboard, or else the page's default one, as in a dialog.
 void FController::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {

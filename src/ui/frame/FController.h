@@ -46,10 +46,10 @@ public:
     std::shared_ptr<CController> Controller() const override { return m_controller; }
     void Controller(std::shared_ptr<CController> value) override;
 
-    // Into the Options page.
+    // Shows the options on the Options page; false for nullptr.
     bool DisplaySystemOptions(std::shared_ptr<CSystemOptions> options) override;
 
-    // Hands a record on to the Timecards page, where the editor hands its own; always true.
+    // Hands the record on to the Timecards page, as the record editor hands its own; always true.
     bool ReturnTimeRecord(const std::shared_ptr<CTimeRecord>& thetimerecord);
 
     bool UnloadTimeCardReport() { return m_reports->UnloadReport(ReportKind::TimeCard); }
@@ -103,7 +103,7 @@ private:
     void ChangeTab(int index);
     bool ShowTabPage(int index);
 
-    // In the shown page's line.
+    // Says it in the line of the page that is shown.
     void Say(const QString& text);
 
     void ShowTimeCard(std::int32_t employeeID, const PayPeriod& period);

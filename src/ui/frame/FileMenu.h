@@ -1,4 +1,4 @@
-// The File menu's ways to keep the records safe and to bring others in: backups, older databases, files of punches and of employees.
+// The File menu's backups and imports: backups and their restoring, older databases, files of punches and of employees.
 #pragma once
 
 #include <QObject>
@@ -25,18 +25,18 @@ public:
         QAction& employees;
     };
 
-    // All outlive it. The window is the parent.
+    // Everything that is handed in outlives the menu; the window is its parent.
     FileMenu(Workplace& host, const Lines& lines, QWidget& window);
 
-    // See BackupMenu.
+    // Both do what they do in BackupMenu. REQUIRES of Offer: there is a controller.
     void Offer();
     void BackUpWhenDue();
 
 signals:
-    // What a line came to.
+    // A line of the menu has done its work, or could not; `outcome` says which.
     void Said(const QString& outcome);
 
-    // Everything was read again, of another database.
+    // The database was replaced by a restore or an import, and the windows still show records of the former one.
     void Restored(const QString& outcome);
 
 private:

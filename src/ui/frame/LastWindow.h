@@ -1,4 +1,4 @@
-// Tells when no window of the program is left to be seen, however the last one went.
+// Tells when no window of the program is visible any more, however the last one went.
 #pragma once
 
 #include <functional>
@@ -8,14 +8,13 @@ namespace ptk {
 
 [[nodiscard]] bool IsAnyWindowShown();
 
-// Calls `gone` from the event loop, after any window was hidden and none is left. The toolkit's own signal of the last window counts only
-// windows that are closed, not those that hide themselves or are taken down with their owner.
+// Calls `gone` from the event loop when a window was hidden and no other is visible. The toolkit's own signal of the last window counts
+// only windows that are closed, not those that hide themselves or are taken down with their owner.
 class LastWindow final : public QObject
 {
     Q_OBJECT
 
 public:
-    // Watches from now on.
     explicit LastWindow(std::function<void()> gone);
 
     bool eventFilter(QObject* watched, QEvent* event) override;

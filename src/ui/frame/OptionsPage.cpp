@@ -67,7 +67,7 @@ OptionsPage::OptionsPage(Workplace& host, QWidget* parent) : QWidget(parent), m_
 
 OptionsPage::~OptionsPage() = default;
 
-// The boxes of all frames stand below each other.
+// Aligns the boxes of all frames below each other.
 void OptionsPage::AlignFrames()
 {
     const int label = std::max(m_ui->lblPeriodLength->sizeHint().width(), m_ui->lblLongShift->sizeHint().width());
@@ -81,7 +81,7 @@ void OptionsPage::AlignFrames()
     }
 }
 
-// A period of 14 days deliberately has 15: one sees it before a payday depends on it.
+// Shows an example of a period, since a period of 14 days deliberately has 15: the user sees it before a payday depends on it.
 void OptionsPage::ShowExample()
 {
     const std::string length = m_ui->txtPeriodLength->text().toStdString();
@@ -134,7 +134,7 @@ void OptionsPage::LoadLimits()
     ShowStoredLimits();
 }
 
-// What could not be read cannot be changed here either.
+// Limits that could not be read cannot be changed here either.
 void OptionsPage::ShowStoredLimits()
 {
     m_ui->fraCheck->setEnabled(m_limits.has_value());
@@ -186,7 +186,7 @@ bool OptionsPage::SaveSystemOptions()
                     [this](const Failure& reason) { m_host.Log(reason.Number(), kOptionsUnstored + reason.Description()); });
 }
 
-// Both in one step of the edit trail. The hold also makes the database forget an earlier conflict.
+// Saves options and limits in one step of the edit trail. The hold also makes the database forget an earlier conflict.
 bool OptionsPage::SaveToDatabase()
 {
     const auto database = Required(m_host.Controller())->PTKDatabase();
@@ -202,7 +202,7 @@ bool OptionsPage::SaveToDatabase()
     return saved;
 }
 
-// Of a text that is none the database knows nothing.
+// Keeps and logs why the database refused. It has no reason to give where a typed text was refused before it was asked.
 void OptionsPage::TakeRefusal(const CJetDB& database)
 {
     m_conflict = database.Conflict();
@@ -298,7 +298,7 @@ void OptionsPage::Complain(const char* what, const Failure& reason)
     m_host.Log(reason.Number(), what + reason.Description());
 }
 
-// What of the typed texts stands in the way; empty when that is something else.
+// Why the typed limits or the typed folder cannot be stored; empty where they can, and the failure lies elsewhere.
 std::string OptionsPage::Refusal() const
 {
     const std::string limits = m_limits ? LimitRefusal(Limits()) : std::string();

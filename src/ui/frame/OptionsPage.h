@@ -20,8 +20,8 @@ class CSystemOptions;
 class Failure;
 class Workplace;
 
-// The limits are read when the page is first seen, and written only where they were changed: a database of an earlier version has no table
-// for them until then.
+// The page reads the limits of the check when it is first shown, and writes them only where they were changed: a database of an earlier
+// version has no table for them until then.
 class OptionsPage final : public QWidget
 {
     Q_OBJECT
@@ -30,20 +30,21 @@ public:
     explicit OptionsPage(Workplace& host, QWidget* parent = nullptr);
     ~OptionsPage() override;
 
-    // False for nullptr.
+    // Shows the options; false for nullptr.
     bool DisplaySystemOptions(const std::shared_ptr<CSystemOptions>& options);
 
-    // Without a message; false also for any failure, and, with nothing stored, for limits or a folder that are none.
+    // Saves what the page shows, without a message. False for any failure. Limits or a folder that cannot be used are refused
+    // before anything is stored.
     bool SaveSystemOptions();
 
     // Shows the controller's options again.
     bool RestoreSystemOptions();
 
-    // They are read again when the page is seen next.
+    // Has the limits read again when the page is shown next, at once where it is visible.
     void ForgetLimits();
 
 signals:
-    // Others than before.
+    // Changed limits were stored.
     void LimitsStored();
 
 protected:
@@ -76,9 +77,9 @@ private:
 
     Workplace& m_host;
     std::unique_ptr<Ui::OptionsPage> m_ui;
-    OptionTexts m_shown;                   // as they were put into the boxes
-    std::optional<CheckLimits> m_limits;   // as they stand in the database; nothing until they have been read
-    std::optional<RowConflict> m_conflict; // why the last saving was refused, where somebody else had changed the options
+    OptionTexts m_shown;                   // what the boxes showed before anybody typed
+    std::optional<CheckLimits> m_limits;   // as they are stored; nothing until they have been read
+    std::optional<RowConflict> m_conflict; // why the last save was refused, where somebody else had changed the options
 };
 
 } // namespace ptk

@@ -12,17 +12,17 @@ namespace ptk {
 
 namespace {
 
-constexpr auto kStanding = "figures"; // what is to be seen however small the window is
+constexpr auto kStanding = "figures"; // what stays in sight however small the window is
 constexpr auto kButtons = "buttons";
 constexpr int kSpace = 8; // pixels
 
-// It has no use for more height than it needs.
+// Whether the page is a form, which has no use for more height than it needs.
 bool IsForm(const QWidget& page)
 {
     return page.sizePolicy().verticalPolicy() == QSizePolicy::Maximum;
 }
 
-// As high as the page wants to be, and less where there is less.
+// Scrolls a page: as high as the page wants to be, and less where there is less room.
 class PageScroll final : public QScrollArea
 {
 public:
@@ -64,7 +64,7 @@ protected:
 
 } // namespace
 
-// A page is no wider than it says. A form has its buttons below its fields.
+// The frame's content is no wider than the page's own maximum. The buttons of a form stand directly below its fields.
 PageFrame::PageFrame(const QString& caption, QWidget* page) : QGroupBox(caption)
 {
     auto* row = new QHBoxLayout(this);
@@ -93,7 +93,7 @@ void PageFrame::AddStanding(QVBoxLayout& column, QWidget& page)
     }
 }
 
-// After the page is inside the frame: in one window, the buttons keep their places in the order of Tab.
+// REQUIRES: the page is inside the frame already. Within one window the buttons keep their places in the order of Tab.
 void PageFrame::AddButtons(QVBoxLayout& column, QWidget& page)
 {
     const std::unique_ptr<QLayout> buttons(page.findChild<QLayout*>(kButtons));

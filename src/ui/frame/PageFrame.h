@@ -7,14 +7,14 @@ class QVBoxLayout;
 
 namespace ptk {
 
-// The page scrolls where the frame is too small for it, so that nothing is ever cut off. Its layouts named "figures" and
-// "buttons" stay in sight, below what scrolls, and their widgets are then the frame's children.
+// The page scrolls where the frame is too small for it, so that nothing is ever cut off. The page's layouts named "figures" and "buttons"
+// stay in sight below what scrolls, and their widgets become children of the frame.
 class PageFrame final : public QGroupBox
 {
     Q_OBJECT
 
 public:
-    // Takes the page over.
+    // Takes ownership of the page.
     PageFrame(const QString& caption, QWidget* page);
 
 private:

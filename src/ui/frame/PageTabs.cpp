@@ -46,7 +46,7 @@ void PageTabs::FitInto(int width)
     }
 }
 
-// The strip announces a click of every button; only the left one turns a page.
+// Keeps clicks of the other mouse buttons from the strip, which would announce them like those of the left one.
 bool PageTabs::eventFilter(QObject* watched, QEvent* event)
 {
     const bool press = event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick;

@@ -1,5 +1,5 @@
-// What the tab strip of the main window does by itself: it turns by keys and by the left mouse button only, and shows its icons where
-// there is room for them.
+// The behaviour of the main window's tab strip: it turns by keys and by the left mouse button only, and shows its icons where there is room
+// for them.
 #pragma once
 
 #include <QIcon>
@@ -15,10 +15,10 @@ class PageTabs final : public QObject
     Q_OBJECT
 
 public:
-    // The strip holds all its tabs, with their icons. The keys are those of its window.
+    // The strip already holds all its tabs, with their icons. The keys work in the strip's whole window.
     explicit PageTabs(QTabBar& strip);
 
-    // Pixels that there are for the strip.
+    // Shows the icons where the strip then fits into `width` pixels, and hides them otherwise.
     void FitInto(int width);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -28,7 +28,7 @@ private:
 
     QTabBar& m_strip;
     QList<QIcon> m_icons;
-    int m_width; // of the tabs with their icons
+    int m_width; // of the strip with all icons, in pixels
 };
 
 } // namespace ptk

@@ -67,7 +67,7 @@ Answer ToAnswer(int button)
     }
 }
 
-// Whatever changes nothing.
+// The answer to a box that is not shown: the one that changes nothing.
 Answer Unasked(Buttons buttons)
 {
     switch (buttons) {
@@ -82,14 +82,14 @@ Answer Unasked(Buttons buttons)
     return Answer::Ok;
 }
 
-// A box that is in front of everything that could cover it.
+// The owner for a message box, so that the box is in front of everything that could cover it.
 QWidget* Owner()
 {
     QWidget* modal = QApplication::activeModalWidget();
     return modal != nullptr ? modal : QApplication::activeWindow();
 }
 
-// A box is as wide as its text wants it, whatever its title needs.
+// Widens the box for its title; by itself a message box is only as wide as its text wants it.
 void MakeRoomForTitle(QMessageBox& box)
 {
     if (auto* grid = qobject_cast<QGridLayout*>(box.layout())) {
@@ -98,7 +98,7 @@ void MakeRoomForTitle(QMessageBox& box)
     }
 }
 
-// Between the text and the buttons.
+// Adds a line for a reason between the text and the buttons.
 ReasonBox& AddReason(QMessageBox& box, const ReasonLine& line)
 {
     auto* reason = new ReasonBox(&box);
@@ -122,7 +122,7 @@ ReasonBox& AddReason(QMessageBox& box, const ReasonLine& line)
     return *reason;
 }
 
-// The wait pointer would say that the box cannot be answered.
+// Lifts the wait pointer while a box is open, because it would say that the box cannot be answered.
 class PlainPointer
 {
 public:
@@ -168,13 +168,13 @@ Answer QtDesktop::Ask(const std::string& text, const std::string& title, Icon ic
     box.setTextFormat(Qt::PlainText);
     box.setText(QString::fromStdString(text));
     if (buttons == Buttons::YesNo) {
-        box.setDefaultButton(QMessageBox::No); // whoever presses Enter without reading loses nothing
+        box.setDefaultButton(QMessageBox::No); // so that Enter, pressed without reading, loses nothing
         box.setEscapeButton(QMessageBox::No);
     }
     const ReasonBox* reason = line == nullptr ? nullptr : &AddReason(box, *line);
     MakeRoomForTitle(box);
     if (reason != nullptr && buttons == Buttons::YesNo) {
-        // Whoever has typed why has read what is asked.
+        // A user who has typed a reason has read the question.
         QObject::connect(reason, &QComboBox::editTextChanged, &box,
                          [&box](const QString& typed) { box.setDefaultButton(typed.isEmpty() ? QMessageBox::No : QMessageBox::Yes); });
     }

@@ -16,7 +16,7 @@ public:
     [[nodiscard]] std::string Refusal() const override { return m_refusal; }
 
 private:
-    static Answer Ask(const std::string& text, const std::string& title, Icon icon, Buttons buttons, ReasonLine* line); // nullptr: without
+    static Answer Ask(const std::string& text, const std::string& title, Icon icon, Buttons buttons, ReasonLine* line); // nullptr: no line
     std::int32_t Run(ShellVerb verb, const std::string& path, const std::string& title);
 
     bool m_busy = false;

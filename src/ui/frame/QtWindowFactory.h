@@ -10,14 +10,14 @@ namespace ptk {
 class Clock;
 class Desktop;
 
-// Windows of its making are deleted by the event loop, once nothing on the stack uses them any more. The desktop and the clock must outlive
-// them.
+// The windows that it makes for login and main work are deleted by the event loop, once nothing on the stack uses them any more. The
+// desktop and the clock must outlive all windows.
 class QtWindowFactory final : public WindowFactory
 {
 public:
     QtWindowFactory(std::string programFolder, Desktop& desktop, const Clock& clock);
 
-    // All windows of the program, also those that come up before any factory: their icon and style.
+    // Sets the icon, the style and the help for screen readers of all windows, for those too that come up before there is any factory.
     static void DressWindows();
 
     std::shared_ptr<LoginWindow> CreateLoginWindow() override;

@@ -11,7 +11,7 @@ namespace ptk {
 
 namespace {
 
-// One folder by all its names.
+// The name of the program in this folder, the same for all names that lead to the folder.
 std::string NameOf(const std::string& folder)
 {
     const QString whole = QFileInfo(QString::fromStdString(folder)).canonicalFilePath();

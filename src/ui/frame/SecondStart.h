@@ -1,4 +1,4 @@
-// What a second start of the program on the same data comes to: the windows of the first come to the front.
+// Brings the program's windows to the front when it is started a second time on the same data.
 #pragma once
 
 #include "platform/system/OneOfAKind.h"
@@ -16,12 +16,12 @@ class SecondStart final : public QObject
     Q_OBJECT
 
 public:
-    // The program folder that is worked in.
+    // `folder` is the program folder that is worked in.
     explicit SecondStart(const std::string& folder);
 
     ~SecondStart() override;
 
-    // This is the second one, and the first has been told to come to the front.
+    // Whether another program already works in the folder; it has then been told to come to the front.
     [[nodiscard]] bool IsSecond() const { return m_program.RunsAlready(); }
 
 private:
@@ -29,7 +29,7 @@ private:
     std::unique_ptr<QSocketNotifier> m_calls; // nullptr unless this is the first
 };
 
-// The window that can be used now, in front of everything.
+// Brings the window that can be used now in front of everything: the open dialog, else a main window that is visible.
 void RaiseProgram();
 
 } // namespace ptk

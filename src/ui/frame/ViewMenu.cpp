@@ -40,7 +40,7 @@ void ViewMenu::ShowOverview()
     m_overview->Open(m_page.ChosenPeriod());
 }
 
-// From the card that is shown on, as the overview was read last, whether it is open or not.
+// Opens the next card with problems after the shown one, in the order in which the overview was last read, whether or not it is open.
 void ViewMenu::ShowNextCard(int direction)
 {
     MakeOverview();
@@ -50,7 +50,7 @@ void ViewMenu::ShowNextCard(int direction)
     }
 }
 
-// Where the overview was read of that period; nobody asked for it otherwise.
+// Goes on to the next card where the overview was read for this period; otherwise nobody has asked to walk through cards.
 void ViewMenu::GoOn(const PayPeriod& period)
 {
     const auto read = m_overview == nullptr ? std::nullopt : m_overview->ReadPeriod();
@@ -59,8 +59,8 @@ void ViewMenu::GoOn(const PayPeriod& period)
     }
 }
 
-// Of the person who is chosen where the overview, or its account, is in front, of what was changed since where a card is that differs from
-// what was paid, else the whole.
+// Shows the history of the person who is chosen in the overview or its account, where one of them is in front. In front of a card that
+// differs from what was paid, shows what was changed since. Otherwise shows the whole history.
 void ViewMenu::ShowHistoryOfChosen()
 {
     auto scope = m_overview != nullptr ? m_overview->ShownHistory() : std::nullopt;

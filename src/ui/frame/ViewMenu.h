@@ -1,4 +1,4 @@
-// The View menu's windows, the payday overview and the history, and the ways from one to the other and to the cards.
+// The windows of the View menu (the payday overview and the history), and the ways from one to the other and to the time cards.
 #pragma once
 
 #include "model/PayPeriod.h"
@@ -31,33 +31,33 @@ public:
         QAction& history;
     };
 
-    // All outlive it.
+    // Everything that is handed in outlives the menu.
     ViewMenu(Workplace& host, const Lines& lines, TimeCardPage& page);
 
     ~ViewMenu() override;
 
-    // See HistoryWindow.
+    // Opens the history, of everything or of `scope` only; see HistoryWindow.
     void ShowHistory(const std::optional<HistoryScope>& scope);
 
-    // In the overview's line; nothing where it was never opened.
+    // Says it in the overview's line, where there is an overview.
     void SayInOverview(const QString& text);
 
-    // Of what was undone, or done again; nothing where it is not open.
+    // Has an open overview read its rows again after an undo or a redo; `news` says what was done.
     void ReadOverviewAgain(const QString& news);
 
-    // What they show is not to be seen any more.
+    // Each closes its window and forgets what it showed.
     void CloseOverview();
     void CloseHistory();
 
 signals:
-    // See OverviewWindow.
+    // The overview asks for this card; see OverviewWindow.
     void CardWanted(std::int32_t employeeID, const ptk::PayPeriod& period);
 
-    // See OverviewWindow.
+    // The overview asks for the last step to be undone, or done again.
     void UndoWanted();
     void RedoWanted();
 
-    // To be told in the main window.
+    // `text` is to be shown in the main window.
     void Said(const QString& text);
 
 private:
@@ -69,7 +69,7 @@ private:
 
     Workplace& m_host;
     const TimeCardPage& m_page;
-    std::unique_ptr<OverviewWindow> m_overview; // these two: nullptr until they are asked for
+    std::unique_ptr<OverviewWindow> m_overview; // both windows: nullptr until they are asked for
     std::unique_ptr<HistoryWindow> m_history;
 };
 

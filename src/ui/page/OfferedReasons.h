@@ -1,4 +1,4 @@
-// Why records are changed, as far as somebody says so.
+// The reasons that are offered to somebody who changes a record.
 #pragma once
 
 #include "platform/system/Desktop.h"
@@ -7,7 +7,8 @@ namespace ptk {
 
 class Workplace;
 
-// Offers the last reasons of the edit trail. wanted: the reason is asked for. That they cannot be read is logged.
+// A reason line with the last reasons of the edit trail to choose from; `wanted`: the user is asked for a reason. A failure to read the
+// last reasons is logged, and none are offered.
 [[nodiscard]] ReasonLine OfferedReasons(Workplace& host, bool wanted);
 
 } // namespace ptk

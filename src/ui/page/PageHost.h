@@ -1,4 +1,4 @@
-// What a tab page knows of the main window around it, besides what everybody in it works with.
+// What a tab page knows of the main window around it, beyond Workplace.
 #pragma once
 
 #include "ui/page/WindowErrors.h"
@@ -10,8 +10,8 @@ class DesktopWindow;
 class EmployeeModels;
 class OpenReports;
 
-// In which list the user chose something last: a page's own list while it fills its fields from that, the time records until another
-// choice. Several pages share the one marker.
+// Where the user chose something last: in a list of a page, only while the page fills its fields from that choice, or in the time records,
+// until another choice. All pages share this one marker.
 namespace eventsource {
 inline constexpr std::int32_t None = 0;
 inline constexpr std::int32_t ID = 1;
@@ -21,7 +21,7 @@ inline constexpr std::int32_t TimeRecordGrid = 4;
 inline constexpr std::int32_t EmployeeNumber = 5;
 } // namespace eventsource
 
-// What two date boxes show.
+// The texts of the two date boxes of a period.
 struct PeriodTexts
 {
     std::string from;
@@ -33,7 +33,7 @@ class PageHost : public Workplace
 public:
     [[nodiscard]] virtual const DesktopWindow& AsDesktopWindow() const = 0;
 
-    // Second panel: name " : " identifier.
+    // Shows name " : " identifier in the second panel of the status bar.
     virtual bool SetStatusText(const std::string& name, const std::string& identifier) = 0;
 
     virtual void ErrorNumber(std::int32_t value) = 0;
@@ -41,7 +41,7 @@ public:
     [[nodiscard]] virtual std::int32_t EventSource() const = 0;
     virtual void EventSource(std::int32_t value) = 0;
 
-    // As the Timecards page shows it.
+    // The period as the Timecards page shows it.
     [[nodiscard]] virtual PeriodTexts TimeCardPeriod() const = 0;
 
     // The employees behind every list and box of the window.

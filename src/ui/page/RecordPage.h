@@ -14,21 +14,21 @@ class RecordPage
 public:
     virtual ~RecordPage() = default;
 
-    // Shows what is stored now. What was typed stays where its record is as it was, and is offered otherwise. `row` is shown where it can
-    // be without putting anything typed away.
+    // Shows what is stored now. Typed text stays on the page where its record has not changed, and is offered in the page's line otherwise.
+    // The record `row` is shown where that does not push typed text aside.
     virtual void ReadAgain(std::optional<std::int64_t> row) = 0;
 
-    // Of a page with a list of its own that is to be read again by itself: which records it lists, while nothing typed on it could be put
-    // away by that. Nothing for other pages, and meanwhile.
+    // The kind of records that the page lists, if that list may be read again unasked: the page has a list of its own and holds no typed
+    // text that this could push aside. Nothing otherwise.
     [[nodiscard]] virtual std::optional<Shown> IdleList() const { return std::nullopt; }
 
-    // What was typed on it and not saved, in words without a full stop; empty for nothing.
+    // What was typed on the page and not saved, in words without a full stop; empty for nothing.
     [[nodiscard]] virtual std::string Unsaved() const { return {}; }
 
-    // Saves that as its own button does. False when it was refused, which the user was told.
+    // Saves the typed text as the page's own button does. False when it was refused, which the user was told.
     virtual bool SaveTyped() { return true; }
 
-    // In its line, where somebody else changed what it shows, as far as the window has looked.
+    // Says in the page's line that somebody else changed what it shows, as far as the window has looked; nothing otherwise.
     virtual void TellChanges() = 0;
 };
 

@@ -69,7 +69,7 @@ void RecordPages::ReadAgain()
     }
 }
 
-// Lists that cannot be read are empty afterwards, so the database is asked first.
+// Raises a failure where the database cannot be opened. It is asked first, because lists that cannot be read are empty afterwards.
 void RecordPages::RequireDatabase() const
 {
     const auto database = m_frame.host.Database();
@@ -77,7 +77,7 @@ void RecordPages::RequireDatabase() const
     database->CloseDB();
 }
 
-// Answers what went wrong. The time card is read last, with the employee's new row.
+// Returns what went wrong, or nothing. The time card is read last, so that it is made with the employee's new row.
 std::string RecordPages::ReadPages(const MovedStep& step)
 {
     const auto read = [&] {
@@ -142,7 +142,7 @@ bool RecordPages::eventFilter(QObject* watched, QEvent* event)
     return QObject::eventFilter(watched, event);
 }
 
-// Not before the window is there to be seen.
+// Looks for changes from the event loop, when the window is visible.
 void RecordPages::LookSoon()
 {
     QMetaObject::invokeMethod(this, &RecordPages::Look, Qt::QueuedConnection);
@@ -164,7 +164,7 @@ void RecordPages::Look()
     }
 }
 
-// Not while something is chosen from a list that drops down.
+// Reads no list while the user chooses from one that has dropped down.
 void RecordPages::ReadIdleLists()
 {
     for (const Place& place : m_places) {

@@ -1,4 +1,4 @@
-// The pages that show stored records, together: read again after an undo or on request, and told of other people's changes.
+// All pages that show stored records: read again after an undo or on request, and told of other people's changes.
 #pragma once
 
 #include "office/records/UndoStack.h"
@@ -17,7 +17,7 @@ class PageHost;
 class RecordPage;
 
 // Looks for other people's changes whenever the window or one of the pages comes to the front, and every two seconds where the database
-// tells them by itself; but never while `isBusy`. In the latter case lists of people and companies are kept as they are stored, too.
+// reports them by itself; but never while `isBusy`. Where the database reports them, the lists of people and companies are read again, too.
 class RecordPages final : public QObject
 {
     Q_OBJECT
@@ -38,23 +38,23 @@ public:
         std::function<bool()> isBusy;
     };
 
-    // All outlive it. The window is the parent.
+    // Everything that is handed in outlives it; the window is its parent.
     RecordPages(QWidget& window, Frame frame, const std::array<Place, 3>& places);
 
-    // Brings up the page that the step is about, with what is stored now, and says there what was done.
+    // Brings up the page that the step is about, has all pages show what is stored now, and says there what was done.
     void ShowMoved(const MovedStep& step, const QString& done);
 
-    // All of them; where the database cannot be opened nothing is, and the shown page says so.
+    // Has all pages show what is stored now. Where the database cannot be opened no page is read again, and the shown page says so.
     void ReadAgain();
 
-    // Whether the program may end: asks what is to become of what was typed and not saved, where there is any, and does that. A page that
-    // refuses to save is brought up. True from then on once it is; nobody is asked where the end comes from outside.
+    // Whether the program may end. Where something was typed and not saved, asks whether to save or discard it, and does so; a page that
+    // refuses to save is brought up. Once true, it stays true. Nobody is asked where the end comes from outside.
     bool MayLeave();
 
-    // It may from now on.
+    // From now on the program may end without a question.
     void LeaveUnasked() { m_mayLeave = true; }
 
-    // In the shown page's line and the session log: what was stored cannot be undone.
+    // Says in the shown page's line and in the session log why what was stored cannot be undone.
     void TellNotRemembered(const QString& reason);
 
     bool eventFilter(QObject* watched, QEvent* event) override;

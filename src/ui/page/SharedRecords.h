@@ -1,4 +1,4 @@
-// What the main window knows of changes to stored records: its own, which can be undone, and those of others.
+// What the main window knows of changes to stored records: its own changes, which can be undone, and those of others.
 #pragma once
 
 #include "office/records/ChangeWatch.h"
@@ -21,20 +21,20 @@ class SharedRecords final : public QObject
     Q_OBJECT
 
 public:
-    // Begins anew; nullptr ends it.
+    // Begins anew with this database, with nothing to undo; nullptr ends it.
     void Use(const std::shared_ptr<CJetDB>& database);
 
-    // To be called right after every save, of whatever kind, before anything is read again.
+    // To be called right after every save of any kind, before anything is read again.
     void Remember();
 
-    // nullptr without a database.
+    // What can be undone; nullptr without a database.
     [[nodiscard]] const UndoStack* Undo() const { return m_undo.get(); }
 
-    // Of the undo stack; false without a database, too. Whoever asks has all pages read again.
+    // Both answer what the undo stack answers; false without a database. The caller has all pages read again afterwards.
     bool UndoLast() { return Move(&UndoStack::Undo); }
     bool RedoLast() { return Move(&UndoStack::Redo); }
 
-    // See ChangeWatch.
+    // These do what they do in ChangeWatch, and nothing without a database.
     void Look();
     [[nodiscard]] std::optional<std::int64_t> Newest() const;
     void AboutToRead(Shown what);
@@ -48,13 +48,13 @@ public:
     void OfferLoad(NoticeLine& line, const std::string& whose);
 
 signals:
-    // Or what can be redone.
+    // What can be undone or redone may be different now.
     void UndoChanged();
 
-    // What was stored last, which was stored all the same.
+    // What was stored last cannot be undone, though it is stored.
     void NotRemembered(const QString& reason);
 
-    // For changes, of one's own or others'.
+    // Changes, one's own or others', have been looked for.
     void Looked();
 
     // All pages are to show what is stored now.

@@ -5,7 +5,6 @@
 
 namespace ptk {
 
-// Of the main window.
 namespace windowerror {
 inline constexpr std::int32_t NoController = 211;
 inline constexpr std::int32_t FillListsFailed = 221;

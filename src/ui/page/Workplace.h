@@ -1,4 +1,4 @@
-// What everybody in the main window works with: the program's objects, the surroundings, the log, and the news of what was changed.
+// What everything in the main window works with: the program's objects, the desktop and the clock, the log, and the news of changes.
 #pragma once
 
 #include <cstdint>
@@ -24,7 +24,7 @@ public:
     // nullptr until the window was handed one.
     [[nodiscard]] virtual std::shared_ptr<CController> Controller() const = 0;
 
-    // What the controller holds. Raise Failure 91 without it, or where it has none.
+    // What the controller holds. These raise Failure 91 without a controller, or where it has none.
     [[nodiscard]] std::shared_ptr<CJetDB> Database() const;
     [[nodiscard]] std::shared_ptr<CEmployeeList> Employees() const;
     [[nodiscard]] std::shared_ptr<CCompanyList> Companies() const;
@@ -34,13 +34,13 @@ public:
     [[nodiscard]] virtual ptk::Desktop& Desktop() const = 0;
     [[nodiscard]] virtual const ptk::Clock& Clock() const = 0;
 
-    // A failure, with its number, into the session log; nothing without a controller.
+    // Writes a failure with its number into the session log; nothing without a controller.
     virtual void Log(std::int32_t number, const std::string& text) = 0;
 
-    // A failure of which only the words are known.
+    // Writes a failure of which only the words are known.
     void Log(const std::string& text) { Log(0, text); }
 
-    // To be told of every save and before every reading.
+    // Has to be told of every save, right after it, and of every reading, right before it.
     [[nodiscard]] virtual ptk::SharedRecords& SharedRecords() const = 0;
 };
 
