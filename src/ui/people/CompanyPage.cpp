@@ -130,8 +130,8 @@ bool CompanyPage::Load()
     return Required(Host().Controller())->GetCompanyList() || LoadAfresh();
 }
 
-// Once an operation has found the database closed, the program's access to it lists no companies any more, and leaves it open on the way. A
-// new access knows nothing of that.
+// Once an operation has found the database closed, the program's access to it lists no more companies, and remains open on the way. A new
+// access does not have this trouble.
 bool CompanyPage::LoadAfresh()
 {
     const auto stale = Host().Database();

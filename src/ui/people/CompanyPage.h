@@ -28,10 +28,10 @@ public:
 
     void ClearCompanyFields() { ClearFields(); }
 
-    // False when there is no company list.
+    // Fills the lists of companies; false when there is no company list.
     bool FillCompanyLists();
 
-    // False for nullptr.
+    // Shows the company; false for nullptr.
     bool ShowCompany(const std::shared_ptr<CCompany>& thecompany) { return ShowRecord(thecompany); }
 
 private:

@@ -31,7 +31,7 @@ constexpr auto kShowAgain = "Show Again";
 constexpr auto kShowTip = "Show the password";
 constexpr auto kHideTip = "Hide the password";
 
-// A box has room for an icon besides: these hold up to 8, 11 and 10 digits.
+// A box has room for an icon, too, so these hold up to 8, 11 and 10 digits.
 constexpr int kEmployeeIDCharacters = 5;
 constexpr int kSSNCharacters = 8;
 constexpr int kNumberCharacters = 7;
@@ -231,7 +231,8 @@ void EmployeePage::TellSaved(const std::string& told, const EmployeeTexts& texts
     emit Host().EmployeeModels().Saved(saved.EmployeeID());
 }
 
-// The page is deliberately empty after a save; the one who was saved is a press away. A new one is the newest of that name.
+// The ID of the employee who was just saved, for the button "Show Again": the page is deliberately empty after a save. A new employee is
+// the newest of that name.
 std::string EmployeePage::SavedID(const EmployeeTexts& texts) const
 {
     std::int32_t newest = 0;

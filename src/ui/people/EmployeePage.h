@@ -24,16 +24,17 @@ public:
     explicit EmployeePage(PageHost& host, QWidget* parent = nullptr);
     ~EmployeePage() override;
 
-    // Leaves the "Employee Active" box as it is.
+    // Empties all fields, but leaves the "Employee Active" box as it is.
     void ClearEmployeeFields() { ClearFields(); }
 
-    // Also those of the time card and reports pages.
+    // Fills this page's lists of employees and those of the time card and reports pages.
     bool FillEmployeeLists();
 
-    // False for nullptr.
+    // Shows the employee; false for nullptr.
     bool ShowEmployee(const std::shared_ptr<CEmployee>& theemployee) { return ShowRecord(theemployee); }
 
-    // With the keyboard in the first rate of theirs that is none. What was typed of somebody else is offered in the line.
+    // Shows the employee with the keyboard in the box of the pay rate, or, where that holds a rate, of the overtime rate. What was typed
+    // about another employee is offered in the line.
     void ShowRate(std::int32_t employeeID);
 
 private:

@@ -1,4 +1,4 @@
-// The way from a card without a rate to the box where it is entered.
+// The way from a time card without a pay rate to the box where the rate is entered.
 #include "model/CEmployee.h"
 #include "model/CEmployeeList.h"
 #include "platform/Required.h"

@@ -17,7 +17,7 @@ namespace ptk {
 
 namespace {
 
-constexpr auto kPersonFile = "PTK employee %1"; // by number, since a name may hold what a file's name may not
+constexpr auto kPersonFile = "PTK employee %1"; // the employee's number, since a name may hold characters that a file's name may not
 constexpr auto kExportTip = "Save all that is kept about this employee, for him or her to read";
 constexpr auto kChooseFirst = "Choose an employee first";
 constexpr ReportForm kPersonForms[] = {ReportForm::Pdf, ReportForm::Json};

@@ -12,10 +12,10 @@ class CEmployee;
 class NoticeLine;
 class Workplace;
 
-// Its tool tip says what it does, or why it cannot.
+// Enables the button or not. Its tool tip says what it does, or why it cannot.
 void AllowExport(QPushButton& button, bool allowed);
 
-// Asks where to, as JSON or PDF, and says on the line what came of it; nothing when the user cancels or for nullptr.
+// Asks for a file, in JSON or PDF, saves there and says in the line what came of it. Does nothing when the user cancels or for nullptr.
 void ExportPerson(QWidget& parent, Workplace& host, NoticeLine& notice, const std::shared_ptr<CEmployee>& employee);
 
 } // namespace ptk

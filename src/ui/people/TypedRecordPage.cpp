@@ -63,7 +63,7 @@ void TypedRecordPage<Entity, List, Texts>::Select(const KeyList& list)
     m_host.EventSource(eventsource::None);
 }
 
-// By the row's own ID: of namesakes each is found.
+// Finds the record by the ID of the chosen row, so that namesakes are told apart.
 template <typename Entity, typename List, typename Texts>
 std::shared_ptr<Entity> TypedRecordPage<Entity, List, Texts>::ChosenIn(const QComboBox& box) const
 {
@@ -94,7 +94,7 @@ bool TypedRecordPage<Entity, List, Texts>::ShowRecord(const std::shared_ptr<Enti
     return true;
 }
 
-// All lists stand on the row of the shown ID, so that namesakes are not mixed up.
+// Sets all lists to the row of the shown ID, so that namesakes are not mixed up.
 template <typename Entity, typename List, typename Texts>
 void TypedRecordPage<Entity, List, Texts>::Show(const Texts& texts)
 {
@@ -142,7 +142,7 @@ void TypedRecordPage<Entity, List, Texts>::StartAnew()
     ClearFields();
 }
 
-// Where nothing was left, the line keeps an earlier offer and nothing else.
+// Offers to bring back what was typed. Where nothing was, the line keeps an earlier offer and nothing else.
 template <typename Entity, typename List, typename Texts>
 void TypedRecordPage<Entity, List, Texts>::Offer(const std::optional<LeftBehind<Texts>>& left)
 {
@@ -152,7 +152,7 @@ void TypedRecordPage<Entity, List, Texts>::Offer(const std::optional<LeftBehind<
     m_notice->Offer(QString::fromStdString(NoticeOf(*left)), kBringBack, [this, left = *left] { BringBack(left); });
 }
 
-// What stands on the page by then may have to be brought back in its turn.
+// Brings typed text back. What stands on the page by then is offered in its turn.
 template <typename Entity, typename List, typename Texts>
 void TypedRecordPage<Entity, List, Texts>::BringBack(const LeftBehind<Texts>& left)
 {
@@ -166,7 +166,7 @@ void TypedRecordPage<Entity, List, Texts>::BringBack(const LeftBehind<Texts>& le
     }
 }
 
-// Over what is stored by now.
+// Puts typed text over what is stored now.
 template <typename Entity, typename List, typename Texts>
 void TypedRecordPage<Entity, List, Texts>::PutBack(const LeftBehind<Texts>& left)
 {
@@ -285,7 +285,7 @@ bool TypedRecordPage<Entity, List, Texts>::Reload()
     return isRead;
 }
 
-// The lists are empty until then.
+// Offers to read the lists again; they are empty until then.
 template <typename Entity, typename List, typename Texts>
 void TypedRecordPage<Entity, List, Texts>::OfferReading(const std::string& why)
 {

@@ -1,4 +1,4 @@
-// What the pages of companies and of employees share: a record is found, shown, added and changed, and nothing typed is lost on the way.
+// What the pages of companies and of employees share: finding, showing, adding and changing a record without losing typed text.
 #pragma once
 
 #include "office/records/LeftBehind.h"
@@ -19,7 +19,7 @@ namespace ptk {
 class NoticeLine;
 class PageHost;
 
-// One kind of record, and what its page tells.
+// One kind of record: the messages of its page, and the functions by which a page reads and writes it.
 template <typename Entity, typename List, typename Texts>
 struct RecordKind
 {
@@ -27,7 +27,7 @@ struct RecordKind
     const char* notFound;
     const char* notRead;
     const char* notSaved;
-    const char* savedUnread; // behind the record's name
+    const char* savedUnread; // follows the record's name
     const char* unread;
     std::shared_ptr<List> (PageHost::*list)() const;
     std::shared_ptr<Entity> (List::*find)(std::int32_t id);
@@ -36,7 +36,8 @@ struct RecordKind
     void (*read)(const Texts&, Entity&);
 };
 
-// A page without a chosen ID holds a new record. What is refused stays on the page as it was typed. The pages differ in their fields.
+// A page for one kind of record. Without a chosen ID it holds a new record. A record that is refused stays on the page as it was typed. The
+// derived pages have the fields.
 template <typename Entity, typename List, typename Texts>
 class TypedRecordPage : public RecordPage
 {
@@ -50,7 +51,7 @@ public:
     void TellChanges() final;
 
 protected:
-    // A box in which a record is looked for; one that can be typed into is a field of the record, too.
+    // A box in which the user looks for a record. A box that can be typed into is a field of the record, too.
     struct KeyList
     {
         QComboBox* box; // its entries hold their records' IDs
@@ -67,13 +68,13 @@ protected:
     // `kind` outlives the page.
     TypedRecordPage(PageHost& host, const Kind& kind) : m_host(host), m_kind(kind) {}
 
-    // Once the controls are there. The first list holds the IDs.
+    // To be called once the controls exist. The first list holds the IDs.
     void Begin(std::vector<KeyList> lists, std::vector<TextBox> boxes, NoticeLine& notice);
 
-    // False for nullptr.
+    // Shows the record; false for nullptr.
     bool ShowRecord(const std::shared_ptr<Entity>& record);
 
-    // What was typed is offered in the line, as everywhere where another record takes its place.
+    // Both put another record, or an empty one, in place of the shown one, and offer in the line what was typed on the page.
     void ShowAgain(const std::shared_ptr<Entity>& record);
     void StartAnew();
 
@@ -81,12 +82,12 @@ protected:
     void ClearFields() { Show(Empty()); }
     void ShownAfresh() { m_texts.Show(ReadTexts()); }
 
-    // nullptr also for one that has left the list.
+    // The record with the chosen ID; nullptr where none is chosen, or where it has left the list.
     [[nodiscard]] std::shared_ptr<Entity> Chosen() const { return ChosenIn(*m_lists.front().box); }
 
     [[nodiscard]] std::shared_ptr<Entity> Of(const std::string& id) const;
 
-    // Raises Failure 91 when there is none.
+    // The list of these records. Raises Failure 91 when there is none.
     [[nodiscard]] std::shared_ptr<List> Records() const { return (m_host.*m_kind.list)(); }
 
     [[nodiscard]] PageHost& Host() const { return m_host; }
@@ -94,18 +95,18 @@ protected:
 private:
     [[nodiscard]] virtual Texts Empty() const { return {}; }
 
-    // What stands neither in a list nor in a box for texts.
+    // The fields that are neither lists nor boxes for texts.
     virtual void FillFields(const Texts& /*texts*/) {}
     virtual void ReadFields(Texts& /*texts*/) const {}
 
     virtual bool FillLists() = 0;
-    virtual bool Load() = 0; // the list, from the database
+    virtual bool Load() = 0; // reads the list from the database
     virtual void ShowStatus(const Entity& record) = 0;
 
-    // False when the texts cannot be saved, which the user is told.
+    // Whether the texts can be saved; where they cannot, the user has been told.
     virtual bool IsAccepted(const Texts& texts) = 0;
 
-    // What else is to be said once they are saved, asked before.
+    // What is said besides once the texts are saved. It is asked for before the save.
     [[nodiscard]] virtual std::string Remark(const Texts& /*texts*/) const { return {}; }
 
     virtual void TellSaved(const std::string& told, const Texts& texts, const Entity& saved) = 0;
@@ -123,7 +124,7 @@ private:
     bool SaveTexts(const Texts& texts);
     void AskForPresent(const RowConflict& conflict, const std::string& id);
 
-    // Whether the list could be read again; if not, the line offers to.
+    // Reads the list again. False where that failed; the line then offers to try again.
     bool Reload();
     void OfferReading(const std::string& why);
 
