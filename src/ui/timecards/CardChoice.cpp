@@ -21,7 +21,7 @@ namespace ptk {
 namespace {
 
 constexpr int kNameCharacters = 14;     // shown on the smallest window
-constexpr int kMostNameCharacters = 32; // on the largest
+constexpr int kMostNameCharacters = 32; // shown on the largest window
 constexpr auto kLastFrom = "timecards/from";
 constexpr auto kLastTo = "timecards/to";
 constexpr auto kNoneUsed = "No time card has been generated yet";
@@ -37,7 +37,7 @@ DateTime ChosenDate(const DateCombo& box)
     return *date;
 }
 
-// As they were shown.
+// The texts of the last used period, as the boxes showed them; null texts where there is none.
 QStringList LastUsed()
 {
     const QSettings settings;
@@ -67,7 +67,7 @@ void CardChoice::LayOut()
     delete layout();
     auto* row = new FoldingRow(this);
     row->addWidget(m_ui->Frame1);
-    auto* button = new QVBoxLayout; // on a level with what stands in the frames
+    auto* button = new QVBoxLayout; // aligned with what stands inside the frames
     button->addStretch();
     button->addWidget(m_ui->cmdGenTimeRecs);
     button->addSpacing(m_ui->Frame2->contentsMargins().bottom() + m_ui->layoutFrame2->contentsMargins().bottom());

@@ -1,4 +1,4 @@
-// What a time card is to be made of, the pay period and the employee, and the button that makes it: the top of the Timecards page.
+// The top of the Timecards page: the boxes for the pay period and the employee of a time card, and the button that generates it.
 #pragma once
 
 #include "model/PayPeriod.h"
@@ -27,52 +27,52 @@ public:
     explicit CardChoice(PageHost& host, QWidget* parent = nullptr);
     ~CardChoice() override;
 
-    // Starts it today; false when its length cannot be had, the end is then left alone.
+    // Has the period start today. False when the length of a period is not known; the end then stays as it is.
     bool InitializePayPeriod();
 
-    // Raises Failure 13 when a box holds no date.
+    // The period in the boxes. Raises Failure 13 when a box holds no date.
     [[nodiscard]] PayPeriod Period() const;
 
     void Period(PayPeriod value);
 
-    // The period is offered as the last one used, also after the next start of the program; not one that only begins today, as it does
-    // where nobody has chosen any. Raises Failure 13 when a box holds no date.
+    // Offers the period as the last one used, also after the next start of the program. A period that begins today is not kept, because it
+    // is what the boxes hold where nobody has chosen one. Raises Failure 13 when a box holds no date.
     void KeepAsLastUsed();
 
-    // As the boxes show it.
+    // Both dates as the boxes show them.
     [[nodiscard]] ptk::PeriodTexts PeriodTexts() const;
 
-    // Both in one.
+    // Both dates as the boxes show them, in one text: "03/01/2003 - 03/15/2003".
     [[nodiscard]] std::string PeriodText() const;
 
-    // As it stands in the box.
+    // The employee's name as it stands in the box.
     [[nodiscard]] std::string EmployeeText() const;
 
-    // The employee is empty while the box holds nobody's name.
+    // The employee and the period in the boxes. The employee is empty while the box holds nobody's name.
     [[nodiscard]] CardName Chosen() const;
 
-    // Chooses that row of the list, also of namesakes.
+    // Chooses the row of this employee in the list; namesakes have rows of their own.
     void Employee(std::int32_t employeeID);
 
-    // Of the row that the box holds; nothing for a typed text.
+    // The ID of the employee whose row the box holds; nothing for a typed text.
     [[nodiscard]] std::optional<std::int32_t> EmployeeID() const;
 
     void SelectFirstEmployee();
     void FocusEmployee();
 
 signals:
-    // Or picked in a calendar; the end has followed the start by then.
+    // A date was typed, or picked in a calendar. The end has already followed a new start.
     void PeriodTyped();
 
-    // By an arrow, also where there was nowhere to go.
+    // An arrow or the last used period was pressed, even where there was nowhere to go.
     void Stepped();
 
-    // From the list or by typing.
+    // An employee was chosen from the list or by typing.
     void EmployeeChosen();
 
     void GenerateAsked();
 
-    // Any text of the boxes, by whatever means.
+    // The text of a box has changed, by whatever means.
     void Changed();
 
 private:
@@ -80,7 +80,7 @@ private:
     void ConnectBoxes();
     bool AlignPeriodEnd();
 
-    // Raises what the calculation raises.
+    // False where the period would leave the years 1900 to 2100. Raises what the calculation of the period raises.
     bool MovePayPeriod(std::int16_t direction);
 
     void StepPeriod(std::int16_t direction);

@@ -20,7 +20,7 @@ namespace ptk {
 
 namespace {
 
-constexpr int kRowSpace = 3; // pixels around the text of a row: twelve are to fit on a screen of 1024 x 700
+constexpr int kRowSpace = 3; // pixels above and below a text together: twelve rows are to fit on a screen of 1024 x 700
 
 QString Figure(float value)
 {
@@ -42,7 +42,8 @@ CardDisplay::CardDisplay(QWidget* parent)
 
 CardDisplay::~CardDisplay() = default;
 
-// The frame keeps them in sight. The break time stands before them, or above them on a narrow window.
+// Puts the figures into a layout of their own, which the frame keeps in sight. The break time stands before them, or above them on a narrow
+// window.
 void CardDisplay::LayOutFigures()
 {
     auto* standing = new FoldingRow;
@@ -88,7 +89,7 @@ void CardDisplay::ConnectFindings()
     connect(findings, &CheckPanel::DeleteElsewhereAsked, this, &CardDisplay::DeleteElsewhereAsked);
 }
 
-// The rows of a sentence stay marked while one of them is the chosen one.
+// Tells of the chosen row. The rows of a finding stay marked while one of them is the chosen one.
 void CardDisplay::Choose()
 {
     const auto record = ChosenRecord();
@@ -101,7 +102,7 @@ void CardDisplay::Choose()
     emit RowChosen();
 }
 
-// Also where it is chosen already: the choice may have been forgotten elsewhere in the meantime.
+// Tells of the row even if it is chosen already, since the choice may have been forgotten elsewhere in the meantime.
 void CardDisplay::ChooseRowOf(qint64 timeRecordID)
 {
     const int row = m_records->RowOf(timeRecordID);
@@ -111,7 +112,7 @@ void CardDisplay::ChooseRowOf(qint64 timeRecordID)
     }
 }
 
-// From the last to the first: where they do not all fit, the first is seen.
+// Scrolls from the last row to the first, so that the first is in sight where they do not all fit.
 void CardDisplay::ChooseRowsOf(const std::vector<std::int64_t>& timeRecordIDs)
 {
     ForgetChoice();
@@ -129,7 +130,7 @@ void CardDisplay::TakeKeyboard(std::int64_t record, int place)
     grid->setFocus();
     const int row = m_records->RowOf(record);
     const QModelIndex current =
-        m_records->index(row >= 0 ? row : std::min(place, m_records->rowCount() - 1), recordcolumn::Start); // none for a negative one
+        m_records->index(row >= 0 ? row : std::min(place, m_records->rowCount() - 1), recordcolumn::Start); // none if it is negative
     if (current.isValid()) {
         grid->selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
     }
@@ -241,8 +242,8 @@ void CardDisplay::SetHint(const QString& text)
     m_ui->grdTimeRecs->SetHint(text);
 }
 
-// The shown texts have no seconds, an editor may have changed the record since, and another record may have its times: a row means its own
-// record, always.
+// A row always means its own record, whatever its texts say: they have no seconds, an editor may have changed the record since, and another
+// record may have the same times.
 std::shared_ptr<CTimeRecord> CardDisplay::ChosenRecord() const
 {
     const auto rows = m_ui->grdTimeRecs->selectionModel()->selectedRows();

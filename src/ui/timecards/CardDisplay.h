@@ -1,4 +1,4 @@
-// What the Timecards page shows of a card: its time records and what they come to.
+// The part of the Timecards page that shows a card: its time records, what they come to, and its check.
 #pragma once
 
 #include "model/CardLine.h"
@@ -26,7 +26,7 @@ struct FindingPlace;
 struct Punch;
 class TimeRecordGridModel;
 
-// Empty at first. Rows and figures stand as they were when they were put in, whatever becomes of the card since.
+// Empty at first. Rows and figures stay as they were put in, whatever becomes of the card later.
 class CardDisplay final : public QWidget
 {
     Q_OBJECT
@@ -35,74 +35,75 @@ public:
     explicit CardDisplay(QWidget* parent = nullptr);
     ~CardDisplay() override;
 
-    // Empties the grid and what is found in it; always true.
+    // Empties the grid and the findings; always true.
     bool SetupTimeRecordGrid();
 
-    // Fills grid and figures; raises Failure 91 for a card without employee or records.
+    // Fills the grid and the figures. Raises Failure 91 for a card without an employee or records.
     bool DisplayTimeCard(const CTimeCard& card);
 
     void ClearFigures();
 
-    // Marks its rows, too; also of a card that could not be made.
+    // Shows the findings and marks their rows. It may be the check of a card that could not be made.
     void ShowCheck(const std::shared_ptr<const CheckedTimecard>& checked);
 
-    // Of its rows, by whom they were entered or changed.
+    // Shows on the rows by whom their records were entered or changed.
     void ShowEdits(RecordEdits edits);
 
-    // The list of what is found.
+    // Opens the list of findings.
     void OpenFindings();
 
-    // See CheckPanel.
+    // The findings of the open list, see CheckPanel.
     [[nodiscard]] std::optional<Finding> ChosenFinding() const;
     bool ChooseNextFinding(const std::optional<Finding>& done);
 
-    // As a picture; remembered.
+    // Shows or hides the chart of the hours; remembered for the next session.
     void ShowHours(bool shown);
 
     [[nodiscard]] bool HoursShown() const;
 
-    // Rows are shown, as every generated card has some.
+    // Whether rows are shown; every generated card has some.
     [[nodiscard]] bool ShowsCard() const;
 
     [[nodiscard]] bool ShowsFindings() const;
 
-    // grey: a card that is not the one named above it.
+    // Greys everything: the card is not the one that is named above it.
     void SetStrange(bool strange);
 
     void SetHint(const QString& text);
 
-    // The chosen row's own; nullptr when none is chosen.
+    // The very record of the chosen row; nullptr when none is chosen.
     [[nodiscard]] std::shared_ptr<CTimeRecord> ChosenRecord() const;
 
     void ForgetChoice();
 
-    // Nothing when it is not on the card.
+    // Chooses the row of this record; does nothing when it is not on the card.
     void ChooseRowOf(qint64 timeRecordID);
 
-    // Marks them all, brings them into sight as far as there is room, and chooses the first; none is chosen any more when there are none.
+    // Marks the rows of all these records, scrolls to them as far as there is room, and chooses the first. Without records no row is
+    // chosen.
     void ChooseRowsOf(const std::vector<std::int64_t>& timeRecordIDs);
 
-    // See CurrentCard.
+    // Both do what they do in CurrentCard.
     void TakeKeyboard(std::int64_t record, int place);
     [[nodiscard]] int KeyboardPlace() const;
 
 signals:
-    // By mouse or keys, also when it was chosen before.
+    // A row was chosen by mouse or keys, maybe the one that was chosen before.
     void RowChosen();
 
     void EditAsked();
     void DeleteAsked();
 
-    // On the grid, at this place of the screen.
+    // The menu of the grid is asked for, at this place of the screen.
     void MenuAsked(const QPoint& place);
 
-    // Of a finding that was chosen: its records that are not on the card.
+    // A finding was chosen; `place` says which of its records are not on the card.
     void Elsewhere(const ptk::FindingPlace& place);
 
-    // One of the remedies of the chosen finding.
+    // One of the remedies of the chosen finding was picked.
     void RemedyWanted(const ptk::CardOffer& offer);
 
-    // A record that is not on the card is to be edited, or deleted.
+    // A record that is not on the card is to be edited or deleted.
     void EditElsewhereAsked(const ptk::Punch& punch);
     void DeleteElsewhereAsked(const ptk::Punch& punch);
 

@@ -19,11 +19,11 @@ class FAutoFill;
 class NoticeLine;
 class Workplace;
 
-// What somebody typed in vain is offered again.
+// Fills the card by the Auto Fill window. What was typed and could not be stored is offered again.
 class CardFilling
 {
 public:
-    // The page's own parts, which outlive this; the page is the window's parent.
+    // Parts of the page, which outlive this. The page is the parent of the Auto Fill window.
     struct Place
     {
         QWidget& page;
@@ -33,17 +33,17 @@ public:
         NoticeLine& line;
     };
 
-    // `chosen` is told when the filled days have become the chosen period.
+    // `chosen` is called when the period that was filled has become the chosen period.
     CardFilling(Workplace& host, const Place& place, std::function<void()> chosen)
         : m_host(host), m_place(place), m_chosen(std::move(chosen))
     {
     }
 
-    // In the Auto Fill window. Without a card, or with a name that nobody has, there is nothing to fill.
+    // Opens the Auto Fill window. Without a card, or with a name that nobody has, it only says why not.
     void Fill() { Open({}); }
 
 private:
-    // What was typed in vain before.
+    // What was typed before and could not be stored.
     struct Typed
     {
         FillTexts texts;

@@ -32,7 +32,7 @@ constexpr auto kPaidEnd = ". Change it all the same?";
 constexpr auto kNotMended = "Not mended";
 constexpr auto kNotMendedNow = "This cannot be mended now";
 
-// The one that is changed; nullptr where that is not among the rows.
+// The record that the remedy changes; nullptr where it is not among the rows.
 std::shared_ptr<CTimeRecord> ChangedRecord(const Remedy& remedy, const Punches& rows, std::int32_t employeeID)
 {
     const auto& record = remedy.changes.front().record;
@@ -84,7 +84,7 @@ std::optional<std::string> CardMending::Permission(const Remedy& remedy)
     return answer == Answer::Yes || answer == Answer::Ok ? std::optional(why.reason) : std::nullopt;
 }
 
-// By the rows as they were checked: what somebody else has changed since is not overwritten.
+// Mends the rows as they were checked, so that nothing that somebody else has changed since is overwritten.
 void CardMending::Mend(const Remedy& remedy)
 {
     const auto why = Permission(remedy);
@@ -105,7 +105,7 @@ void CardMending::Mend(const Remedy& remedy)
     }
 }
 
-// What was done stays in the line beside what is said of the next card.
+// Goes on to the next card. The line says what was done beside what is said of the next card.
 void CardMending::GoOn(const PayPeriod& period)
 {
     const QString done = m_line.Text();

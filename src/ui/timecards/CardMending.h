@@ -1,4 +1,4 @@
-// Doing what is offered about the findings of the current card.
+// Carries out what is offered about the findings of the current card.
 #pragma once
 
 #include "model/PayPeriod.h"
@@ -17,33 +17,33 @@ class Workplace;
 struct CardOffer;
 struct Remedy;
 
-// Each remedy is one step of the edit trail. What deletes, and what changes a paid period, is asked for first.
+// Each remedy is stored as one step of the edit trail. The user is asked before anything is deleted or a paid period is changed.
 class CardMending final : public QObject
 {
     Q_OBJECT
 
 public:
-    // All of these outlive it.
+    // Everything that is handed in outlives it.
     CardMending(Workplace& host, CurrentCard& card, CardStoring& storing, NoticeLine& line, QObject* parent);
 
     void Do(const CardOffer& offer);
 
 signals:
-    // Something was mended, and nothing is left on this card that could be.
+    // Something was mended, and no finding that could be mended is left on this card.
     void NextCardWanted(const ptk::PayPeriod& period);
 
-    // Of an employee who has none.
+    // The missing pay rate of this employee is to be entered.
     void RateWanted(std::int32_t employeeID);
 
-    // Since the period was paid.
+    // The changes since the period was paid are to be shown.
     void ChangesWanted();
 
 private:
     void Mend(const Remedy& remedy);
     void GoOn(const PayPeriod& period);
-    [[nodiscard]] std::int32_t EmployeeID() const; // of the card's; raises Failure 91 without one
+    [[nodiscard]] std::int32_t EmployeeID() const; // the employee of the card; raises Failure 91 without one
 
-    // Nothing: it is not to be done. Else why, perhaps empty.
+    // The reason that the user gave, maybe empty; nothing where the remedy is not to be carried out.
     [[nodiscard]] std::optional<std::string> Permission(const Remedy& remedy);
 
     Workplace& m_host;

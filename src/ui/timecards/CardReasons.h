@@ -1,4 +1,4 @@
-// Why the records of a card are changed, as far as somebody says so.
+// The reasons that are offered to somebody who changes the records of a card.
 #pragma once
 
 #include "platform/system/Desktop.h"
@@ -8,7 +8,8 @@ namespace ptk {
 class CurrentCard;
 class Workplace;
 
-// Offers the last reasons of the edit trail; the reason is asked for where the card's period was paid. That they cannot be read is logged.
+// A reason line with the last reasons of the edit trail to choose from. The user is asked for a reason where the card's period was paid. A
+// failure to read the last reasons is logged, and none are offered.
 [[nodiscard]] ReasonLine ReasonFor(Workplace& host, const CurrentCard& card);
 
 } // namespace ptk

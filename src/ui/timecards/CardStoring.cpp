@@ -58,7 +58,7 @@ bool CardStoring::StoreQuietly(const Change& change)
     return stored;
 }
 
-// Answers the same for the page's line.
+// Tells in a box why the change was refused, and returns the sentence for the page's line.
 std::string CardStoring::TellRefusal(const Change& change)
 {
     if (m_conflict && Succeeds([&] { TellConflict(change); })) {

@@ -25,21 +25,21 @@ public:
     {
         std::function<bool(CTimeCard&, CTimeRecordFactory&)> step;
         const Notice& failed;
-        const char* refused; // for the page's line, before the reason
+        const char* refused; // begins the sentence in the page's line; the reason follows
         std::string done;
-        std::shared_ptr<CTimeRecord> record; // nullptr for several new ones
+        std::shared_ptr<CTimeRecord> record; // the changed record; nullptr for several new ones
         std::string reason{};                // goes into the edit trail; empty for none
-        bool pastFactory = false;            // the step stores by the database itself, which knows then why it was refused
+        bool pastFactory = false;            // the step stores by the database itself, which then knows why it refused
     };
 
-    // All outlive it.
+    // Everything that is handed in outlives it.
     CardStoring(Workplace& host, CurrentCard& card, NoticeLine& line) : m_host(host), m_card(card), m_line(line) {}
 
-    // The card shows what is in the database from then on, or the user learns that nothing has changed there. Of what the check found then,
-    // the next finding is chosen where one was.
+    // Stores the change. Either the card then shows what is in the database, or the answer is false and the user learns that nothing has
+    // changed there. Where a finding was chosen, the next one is chosen afterwards.
     bool Store(const Change& change);
 
-    // Why the last one was refused, where somebody else had changed or removed the record.
+    // Why the last change was refused, where somebody else had changed or removed the record; nothing otherwise.
     [[nodiscard]] const std::optional<RowConflict>& Conflict() const { return m_conflict; }
 
 private:

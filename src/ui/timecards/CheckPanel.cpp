@@ -34,7 +34,7 @@ constexpr auto kHoursHint = "The hours of a generated card stand here. F9 shows 
 
 constexpr auto kHoursKey = "timecards/hours";
 constexpr int kListLines = 4;
-constexpr int kLeastWidth = 320; // pixels of the list and of the hours
+constexpr int kLeastWidth = 320; // pixels, of the list and of the hours
 constexpr int kSpace = 6;
 
 QIcon IconOf(const CardCheck& check)
@@ -77,7 +77,7 @@ CheckPanel::CheckPanel(QWidget* parent)
     Show(nullptr);
 }
 
-// Line and legend, list and hours stand side by side where there is room.
+// Lays out the line beside the legend, and the list beside the hours, where there is room.
 void CheckPanel::LayOut()
 {
     auto* line = new QHBoxLayout;
@@ -129,7 +129,7 @@ void CheckPanel::ShowLine()
     m_paid->setVisible(paid);
     if (has) {
         m_line->setText(QString::fromStdString(FindingLineText(*m_checked)));
-        m_line->setShortcut(QKeySequence(kLineKeys)); // which every text takes away
+        m_line->setShortcut(QKeySequence(kLineKeys)); // a new text has taken it away
         m_line->setIcon(IconOf(*m_checked->check));
     }
 }
@@ -140,7 +140,7 @@ void CheckPanel::ShowColumns()
     m_chart->Show(has ? HoursColumns(*m_checked->check, m_checked->period, m_checked->limits.firstWeekday) : std::vector<HoursColumn>());
 }
 
-// A line behind which there is nothing can be read, but not pressed.
+// Shows the parts that the line opens. Where there is nothing to open, the line can be read, but not pressed.
 void CheckPanel::ShowParts()
 {
     const bool opens = m_list->model()->rowCount() > 0;
@@ -192,7 +192,7 @@ void CheckPanel::ShowHours(bool shown)
     ShowColumns();
 }
 
-// Both for a group of which a part is elsewhere.
+// Sends both signals, since a part of the finding's records may be on the card and a part elsewhere.
 void CheckPanel::Choose(const Finding& finding)
 {
     const FindingPlace place = PlaceOf(finding, *m_checked);
@@ -201,7 +201,7 @@ void CheckPanel::Choose(const Finding& finding)
     emit Elsewhere(place);
 }
 
-// Of the sentence that the key or the click has chosen by then.
+// Shows the menu of the finding, which the key or the click has already chosen.
 void CheckPanel::ShowMenu(const QPoint& place)
 {
     const auto chosen = Chosen();

@@ -1,5 +1,5 @@
-// What the check says of the card on the Timecards page: a line that opens into the list of findings and what can be done about the chosen
-// one, and the hours per day.
+// The check of the card on the Timecards page: a line that opens into the list of findings and what can be done about the chosen one, and
+// the hours per day.
 #pragma once
 
 #include "model/check/Finding.h"
@@ -24,8 +24,8 @@ struct CheckedTimecard;
 struct FindingPlace;
 struct Punch;
 
-// Empty, and as high as with its line, until it is given a card. Whether the list is open stays with every card, whether the hours are
-// shown from one session to the next, too.
+// Empty until it is given a card, but already as high as with its line. Whether the list is open stays the same from card to card; whether
+// the hours are shown is kept for the next session, too.
 class CheckPanel final : public QWidget
 {
     Q_OBJECT
@@ -33,22 +33,22 @@ class CheckPanel final : public QWidget
 public:
     explicit CheckPanel(QWidget* parent = nullptr);
 
-    // nullptr for none.
+    // Shows the check of this card; nullptr shows none.
     void Show(std::shared_ptr<const CheckedTimecard> checked);
 
     [[nodiscard]] bool IsShown() const { return m_checked != nullptr; }
 
-    // Greys the hours.
+    // Greys the hours, where the card is not the one that is named above it.
     void SetStrange(bool strange);
 
-    // As the line does.
+    // Opens the list of findings, as a press of the line does.
     void OpenList();
 
-    // In the open list; nothing where none is chosen.
+    // The chosen finding of the open list; nothing where none is chosen.
     [[nodiscard]] std::optional<Finding> Chosen() const;
 
-    // In the open list the next one that is to be mended, behind `done` or, without it, from the top; the keyboard goes there, too. False
-    // when none is left, or the list is closed.
+    // Chooses in the open list the next finding to be mended after `done`, or the first one without it, and gives the list the keyboard.
+    // False when none is left, or the list is closed.
     bool ChooseNext(const std::optional<Finding>& done);
 
     void ShowHours(bool shown);
@@ -59,14 +59,14 @@ signals:
     void RowsWanted(const std::vector<std::int64_t>& timeRecordIDs);
     void Elsewhere(const ptk::FindingPlace& place);
 
-    // Enter, or a double click, on one that names records: the chosen row, or this record that is not on the card, is to be edited.
+    // Enter or a double click on a finding that names records: the chosen row, or this record that is not on the card, is to be edited.
     void EditAsked();
     void EditElsewhereAsked(const ptk::Punch& punch);
 
-    // One of the remedies of the chosen one.
+    // One of the remedies of the chosen finding was picked.
     void RemedyWanted(const ptk::CardOffer& offer);
 
-    // Delete, on one that names records.
+    // The Delete key on a finding that names records: the chosen row, or this record that is not on the card, is to be deleted.
     void DeleteAsked();
     void DeleteElsewhereAsked(const ptk::Punch& punch);
 

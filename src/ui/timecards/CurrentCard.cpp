@@ -45,13 +45,13 @@ void CurrentCard::Mark()
     const CardName chosen = m_choice.Chosen();
     const bool shown = m_display.ShowsCard();
     const std::string strange = m_card == nullptr ? std::string() : StrangeCardText(NameOf(*m_card), shown, chosen);
-    m_mark.setVisible(!strange.empty()); // else its room is the rows'
+    m_mark.setVisible(!strange.empty()); // without a text its room is for the rows
     m_mark.Say(QString::fromStdString(strange));
     m_display.SetStrange(shown && !strange.empty());
     m_display.SetHint(QString::fromStdString(NextStepText(chosen)));
 }
 
-// After a run-time failure nothing is shown: the rows would be those of a card that is no longer the current one.
+// After a run-time failure nothing is shown, because the rows would be those of a card that is no longer the current one.
 bool CurrentCard::RefreshTimeCard()
 {
     m_line.Clear();
@@ -93,7 +93,7 @@ bool CurrentCard::GenerateTimeCard()
     return generated;
 }
 
-// The pointer is the usual one again before anything is told.
+// Loads and checks the card. The busy pointer has ended before the caller tells of a failure.
 bool CurrentCard::Load(CTimeCard& card, const std::shared_ptr<CEmployee>& employee, const PayPeriod& period)
 {
     const BusyPointer busy(m_host.Desktop());
@@ -114,7 +114,7 @@ bool CurrentCard::Load(CTimeCard& card, const std::shared_ptr<CEmployee>& employ
     return m_checked->generated;
 }
 
-// Without them the card is shown all the same.
+// Reads who changed the records. Where that fails the card is shown all the same.
 void CurrentCard::ReadEdits(const CTimeCard& card)
 {
     Succeeds([&] { m_edits = ReadRecordEdits(Required(m_host.Controller())->PTKDatabase(), card); },
@@ -142,7 +142,7 @@ bool CurrentCard::Regenerate()
     return generated;
 }
 
-// What was to be saved is saved; that the card cannot be shown again is another matter.
+// The record is saved by then, so a card that cannot be shown again is told in a box of its own.
 void CurrentCard::RegenerateAfterSave()
 {
     if (!Succeeds([this] { Regenerate(); })) {
@@ -157,7 +157,7 @@ bool CurrentCard::ReadAgain()
     return m_display.ShowsCard() || m_display.ShowsFindings() ? LoadAgain() : true;
 }
 
-// Of its own employee and period, whatever the boxes say by now.
+// Loads the card again for its own employee and period, whatever the boxes say by now.
 bool CurrentCard::LoadAgain()
 {
     const auto card = Required(m_card);
@@ -187,7 +187,7 @@ void CurrentCard::RenewFor(std::int32_t savedEmployee)
     }
 }
 
-// Also a card that had no records left.
+// Whether the card is shown or is what the boxes name; the latter covers a card that had no records left.
 bool CurrentCard::IsWanted() const
 {
     return m_display.ShowsCard() || m_display.ShowsFindings() || NameOf(*m_card) == m_choice.Chosen();
@@ -245,7 +245,7 @@ bool CurrentCard::ShowTimeCard()
     return false;
 }
 
-// Also of a card that could not be made: what keeps it from that, what crosses its ends, and that it is paid.
+// Shows the check, also of a card that could not be made: what prevents it, what crosses the ends of its period, and that it is paid.
 void CurrentCard::ShowFindings()
 {
     const bool tells = m_checked != nullptr && m_checked->check && (!m_checked->check->findings.empty() || m_checked->paid);

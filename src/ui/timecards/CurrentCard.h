@@ -1,4 +1,4 @@
-// The main window's current time card, and how the Timecards page shows it.
+// The current time card of the main window, and how the Timecards page shows it.
 #pragma once
 
 #include "model/check/Finding.h"
@@ -24,14 +24,14 @@ class PageHost;
 struct CheckedTimecard;
 struct PayPeriod;
 
-// Made of what the page's boxes name, and marked as soon as it is not what they name any more. Moving to another period or employee clears
-// the display but keeps the card. Whatever goes wrong is told in the given boxes, and its reason in the page's line and the session log.
+// The card is made of what the page's boxes name, and is marked as soon as the boxes name another one. Moving to another period or employee
+// clears the display but keeps the card. Failures are told in message boxes, and their reasons in the page's line and the session log.
 class CurrentCard final : public QObject
 {
     Q_OBJECT
 
 public:
-    // The page's widgets, which outlive this.
+    // Widgets of the page, which outlive this.
     struct Place
     {
         CardChoice& choice;
@@ -47,69 +47,72 @@ public:
 
     void GiveUp() { m_card = nullptr; }
 
-    // The same as it was checked when it was last loaded; nullptr before.
+    // The check of the card, from when it was last loaded; nullptr before.
     [[nodiscard]] const std::shared_ptr<const CheckedTimecard>& Checked() const { return m_checked; }
 
-    // Its period was closed for its employee.
+    // Whether the card's period was closed for its employee.
     [[nodiscard]] bool IsPaid() const;
 
-    // Generates and shows it; false for any run-time failure.
+    // Generates the card that the boxes name and shows it; false for any run-time failure, which leaves the display empty.
     bool RefreshTimeCard();
 
-    // The same, with a box for that failure, and with nothing in the line when it is shown.
+    // Generates and shows the card after a save: a run-time failure has a box of its own, and the line stays empty when the card is shown.
     void RegenerateAfterSave();
 
-    // Without a box; where that fails, false, what is shown stays. May raise failures.
+    // Reads the shown card again, without a box. Where that fails, answers false, and what is shown stays. May raise failures.
     bool ReadAgain();
 
-    // With its employee as the list has him now, where the card is shown or is what the boxes name. Without a box.
+    // Gives the card its employee as the list has him now, and reads it again where it is shown or is what the boxes name. Without a box;
+    // where that fails, the display is cleared.
     void Renew();
 
-    // Says in the line, with a button to load it, that somebody else changed the employee or the records shown.
+    // Says in the line that somebody else changed the employee or the records shown, with a button that loads the change.
     void TellChanges();
 
-    // In the line, before what it says: that the card, which somebody is about to be paid by, has problems. Nothing where it has none.
+    // Says in the line, before what stands there, that the card has problems: somebody is about to be paid by it. Nothing where it has
+    // none.
     void TellProblems();
 
-    // With the limits that the options hold now.
+    // Checks the shown card again with the limits that are stored now.
     void CheckAgain();
 
-    // Name, rates and deductions of that employee may be others now.
+    // Renews the card where this employee, whose name, rates and deductions may have changed, is the card's.
     void RenewFor(std::int32_t savedEmployee);
 
-    // Always true.
+    // Clears the display and keeps the card; always true.
     bool ClearTimeCardDisplay();
 
-    // Display name; empty when there is no card or it is nobody's.
+    // The display name of the card's employee; empty when there is no card or no employee.
     [[nodiscard]] std::string Employee() const;
 
-    // nullptr when the user has chosen none since the grid was rebuilt.
+    // The record of the chosen row; nullptr when the user has chosen none since the grid was rebuilt.
     [[nodiscard]] std::shared_ptr<CTimeRecord> ChosenRecord() const;
 
     void ForgetChosenRecord();
 
-    // See CheckPanel.
+    // The findings of the open list, see CheckPanel.
     [[nodiscard]] std::optional<Finding> ChosenFinding() const;
     bool ChooseNextFinding(const std::optional<Finding>& done);
 
-    // By the limits that the card was checked with.
+    // The most hours of a usual shift, by the limits that the card was checked with.
     [[nodiscard]] std::int32_t LongShiftHours() const;
 
-    // Puts the keyboard into the table, on the row of that record, or, where it is not there, on the one at that place; none is chosen by
-    // it.
+    // Gives the table the keyboard, on the row of that record or, where it has none, on the row at that place, counted from 0. No row is
+    // chosen by this.
     void TakeKeyboard(std::int64_t record, int place);
 
-    // From 0, of the row that has the keyboard in the table; -1 for none.
+    // The row that has the keyboard in the table, counted from 0; -1 for none.
     [[nodiscard]] int KeyboardPlace() const;
 
-    // Into the page's line and the session log; nothing for an empty text.
+    // Says it in the page's line and writes it into the session log; nothing for an empty text.
     void Complain(const std::string& line);
 
-    // Of several of one name, the card is to be of this one as long as the box holds its row; nothing: of the first of the name.
+    // Among namesakes, the card is to be that of this employee as long as the box holds his row. Without an ID it is that of the first of
+    // the name.
     void Mean(std::optional<std::int32_t> employeeID) { m_meant = employeeID; }
 
 signals:
-    // The grid, with or without a card in it.
+    // The grid was built anew, with or without a card in it.
     void Rebuilt();
 
 private:
@@ -136,8 +139,8 @@ private:
     NoticeLine& m_line;
     std::shared_ptr<CTimeCard> m_card;
     std::optional<std::int32_t> m_meant;
-    std::shared_ptr<const CheckedTimecard> m_checked; // the current card as it was last loaded; nullptr before
-    RecordEdits m_edits;                              // of its records
+    std::shared_ptr<const CheckedTimecard> m_checked; // of the card when it was last loaded; nullptr before
+    RecordEdits m_edits;                              // of the card's records
 };
 
 } // namespace ptk

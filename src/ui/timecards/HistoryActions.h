@@ -14,25 +14,25 @@ class CardChoice;
 class CardDisplay;
 class CurrentCard;
 
-// A menu on the grid. It means the card that is shown, else the employee and the period that are chosen.
+// Has a menu on the grid. It is about the card that is shown, or else about the employee and the period that are chosen.
 class HistoryActions final : public QObject
 {
     Q_OBJECT
 
 public:
-    // All three outlive this.
+    // The choice, the card and the display outlive this.
     HistoryActions(const CardChoice& choice, const CurrentCard& card, CardDisplay& display, QObject* parent);
 
-    // Of the chosen record, else of the card.
+    // Asks for the history of the chosen record, or else of the card.
     void Ask();
 
-    // What was changed of the shown card since its period was paid; nothing unless it differs from what was paid.
+    // The changes of the shown card since its period was paid; nothing unless the card differs from what was paid.
     [[nodiscard]] std::optional<HistoryScope> SincePaid() const;
 
 signals:
     void Wanted(const ptk::HistoryScope& scope);
 
-    // There is neither card nor employee and period.
+    // No history can be shown: there is neither a card nor a chosen employee with a period.
     void NothingChosen();
 
 private:

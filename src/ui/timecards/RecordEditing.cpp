@@ -34,7 +34,7 @@ constexpr auto kNoEditor = "The record cannot be edited now";
 constexpr auto kNotToDelete = "The record cannot be deleted now";
 constexpr auto kOpenElsewhere = "Open Record";
 
-// Nothing while a box holds no date.
+// The period in the boxes; nothing while a box holds no date.
 std::optional<PayPeriod> PeriodOf(const CardChoice& choice)
 {
     std::optional<PayPeriod> period;
@@ -110,7 +110,8 @@ void RecordEditing::DeleteElsewhere(const Punch& punch)
     }
 }
 
-// A record that could not be stored is again what it was, so that nobody stores it unasked later on; what was typed is offered again.
+// Opens the editor. A record that could not be stored gets its former values back, so that nobody stores the typed ones unasked later on;
+// what was typed is offered again.
 void RecordEditing::Open(const Editing& editing)
 {
     const auto edit = [&] {
@@ -154,7 +155,7 @@ void RecordEditing::Prepare(FTimeEditor& editor, const Editing& editing)
     }
 }
 
-// What somebody else changed meanwhile is edited as it is now; what was removed, as a new record.
+// Offers to edit again. A record that somebody else changed meanwhile is edited as it is now; one that was removed, as a new record.
 void RecordEditing::EditAgain(const Editing& editing, const FTimeEditor& editor)
 {
     Editing again{editing.record, editing.isNew, editor.Texts(), editor.Reason()};

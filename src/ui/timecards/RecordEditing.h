@@ -1,4 +1,4 @@
-// Records of the current card, and those that the check found elsewhere, in the editor and deleted.
+// Editing and deleting the records of the current card, and those that the check found elsewhere.
 #pragma once
 
 #include "office/card/NewRecord.h"
@@ -23,11 +23,11 @@ class Workplace;
 struct FindingPlace;
 struct Punch;
 
-// What somebody typed in vain is offered again.
+// What was typed in the editor and could not be stored is offered again.
 class RecordEditing final : public TimeRecordReceiver
 {
 public:
-    // The page's own parts, which outlive this; the page is the editor's parent.
+    // Parts of the page, which outlive this. The page is the parent of the editor.
     struct Place
     {
         QWidget& page;
@@ -43,7 +43,8 @@ public:
     void EditChosen();
     void DeleteChosen();
 
-    // Says where they are, with a way to the first; nothing where all are on the card.
+    // Says where the finding's records outside the card are, with a button that opens the first. Where all are on the card, clears the
+    // line.
     void OfferElsewhere(const FindingPlace& place);
 
     void EditElsewhere(const Punch& punch);
@@ -52,7 +53,7 @@ public:
     bool ReturnTimeRecord(const std::shared_ptr<CTimeRecord>& thetimerecord) override;
 
 private:
-    // A record in the editor, and what was typed for it in vain before.
+    // A record in the editor, and what was typed for it before and could not be stored.
     struct Editing
     {
         std::shared_ptr<CTimeRecord> record;
@@ -66,7 +67,7 @@ private:
     void EditAgain(const Editing& editing, const FTimeEditor& editor);
     void Delete(const std::shared_ptr<CTimeRecord>& record);
 
-    // nullptr, said in the line with that text, where it cannot be had.
+    // The record outside the card; nullptr where it cannot be had, which the line then says with the text `refused`.
     [[nodiscard]] std::shared_ptr<CTimeRecord> RecordElsewhere(const Punch& punch, const char* refused);
 
     Workplace& m_host;

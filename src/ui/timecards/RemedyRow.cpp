@@ -66,7 +66,7 @@ void RemedyRow::AddTo(QMenu& menu)
 void RemedyRow::Take(std::size_t place)
 {
     if (place < m_offers.size()) {
-        emit Wanted(CardOffer(m_offers[place])); // what follows may offer something else
+        emit Wanted(CardOffer(m_offers[place])); // a copy: what follows may show other offers
     }
 }
 

@@ -14,7 +14,7 @@ namespace ptk {
 
 class HintLabel;
 
-// As high with one button as without. What does not fit side by side stands below each other.
+// Keeps its height whether or not there are buttons. Buttons that do not fit side by side stand below each other.
 class RemedyRow final : public QWidget
 {
     Q_OBJECT
@@ -22,10 +22,10 @@ class RemedyRow final : public QWidget
 public:
     explicit RemedyRow(QWidget* parent = nullptr);
 
-    // Alt+1 for the first, and so on. The hint stands there where nothing is offered.
+    // Shows a button for each offer, with the keys Alt+1, Alt+2 and so on; without offers it shows the hint.
     void Show(std::vector<CardOffer> offers, const QString& hint = {});
 
-    // One line for each, with its key.
+    // Adds a line for each offer to the menu, with its key.
     void AddTo(QMenu& menu);
 
 signals:

@@ -36,7 +36,7 @@ constexpr auto kNotPrinted = "The card was not printed";
 
 } // namespace
 
-// The choice is made first, so that Tab comes to it first.
+// The choice is created first, so that the Tab key comes to it first.
 TimeCardPage::TimeCardPage(PageHost& host, QWidget* parent)
     : QWidget(parent), m_host(host), m_ui(std::make_unique<Ui::TimeCardPage>()), m_choice(new CardChoice(host, this))
 {
@@ -112,7 +112,7 @@ void TimeCardPage::AskForHistory()
     m_history->Ask();
 }
 
-// Another page may have taken the marker over in the meantime; a row that cannot be edited must not look chosen.
+// Another page may have taken over the marker of what was chosen in the meantime; a row that cannot be edited must not look chosen.
 void TimeCardPage::showEvent(QShowEvent* event)
 {
     QWidget::showEvent(event);
@@ -253,7 +253,7 @@ bool TimeCardPage::HoursShown() const
 
 void TimeCardPage::Generate()
 {
-    Succeeds([this] { m_choice->KeepAsLastUsed(); }); // of what is no period the generation says so
+    Succeeds([this] { m_choice->KeepAsLastUsed(); }); // the generation complains of texts that are no period
     if (!m_card->RefreshTimeCard()) {
         Tell(m_host.Desktop(), kNotGenerated);
     }

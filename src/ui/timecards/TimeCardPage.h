@@ -37,57 +37,57 @@ public:
     explicit TimeCardPage(PageHost& host, QWidget* parent = nullptr);
     ~TimeCardPage() override;
 
-    // Starts it today; false when its length cannot be had, the end is then left alone.
+    // Has the period start today. False when the length of a period is not known; the end then stays as it is.
     bool InitializePayPeriod();
 
-    // Always true.
+    // Clears the display and keeps the card; always true.
     bool ClearTimeCardDisplay();
 
     void SelectFirstEmployee();
     void EnablePrint();
 
-    // The current one; the display stays.
+    // Forgets the current card; the display stays.
     void GiveUpCard();
 
-    // As the boxes show it.
+    // The period as the boxes show it.
     [[nodiscard]] PeriodTexts Period() const;
 
-    // Nothing while a box holds no date.
+    // The period in the boxes; nothing while a box holds no date.
     [[nodiscard]] std::optional<PayPeriod> ChosenPeriod() const;
 
-    // In the list; nothing for a typed text.
+    // The ID of the employee who is chosen in the list; nothing for a typed text.
     [[nodiscard]] std::optional<std::int32_t> ChosenEmployee() const;
 
-    // Whom and which days the boxes name, in the status bar.
+    // Shows in the status bar which employee and which days the boxes name.
     void ShowChoice();
 
-    // Chooses and generates it, with the list of what was found and the first of it chosen.
+    // Chooses the employee and the period and generates the card, with the list of findings open and the first one to be mended chosen.
     void ShowCard(std::int32_t employeeID, const PayPeriod& period);
 
-    // The card that is shown, by limits that have changed.
+    // Checks the shown card again after the limits have changed.
     void CheckAgain();
 
     void ReadAgain(std::optional<std::int64_t> row) override;
     void TellChanges() override;
 
-    // The hours per day below the grid; remembered.
+    // Shows or hides the chart of the hours per day below the grid; remembered for the next session.
     void ShowHours(bool shown);
 
     [[nodiscard]] bool HoursShown() const;
 
-    // As an editor hands it over.
+    // Stores the record as if the editor had handed it over; always true.
     bool ReturnTimeRecord(const std::shared_ptr<CTimeRecord>& thetimerecord);
 
-    // Of the chosen record, else of the card.
+    // Asks for the history of the chosen record, or else of the card.
     void AskForHistory();
 
-    // See HistoryActions.
+    // The changes of the shown card since it was paid, see HistoryActions.
     [[nodiscard]] std::optional<HistoryScope> SincePaid() const;
 
 signals:
     void HistoryWanted(const ptk::HistoryScope& scope);
 
-    // See CardMending.
+    // What CardMending asks for.
     void NextCardWanted(const ptk::PayPeriod& period);
     void RateWanted(std::int32_t employeeID);
 

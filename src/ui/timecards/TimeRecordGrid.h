@@ -5,8 +5,8 @@
 
 namespace ptk {
 
-// The chosen row stays in sight when there is less room, and looks the same when the keyboard is elsewhere. Enter on a chosen row asks for
-// it to be edited, as a double click does; without a chosen row Enter is left to the window.
+// The chosen row stays in sight when the table becomes smaller, and looks the same when the keyboard is elsewhere. Enter on a chosen row
+// asks for it to be edited, as a double click does; without a chosen row Enter is left to the window.
 class TimeRecordGrid final : public HintTable
 {
     Q_OBJECT
@@ -14,7 +14,7 @@ class TimeRecordGrid final : public HintTable
 public:
     explicit TimeRecordGrid(QWidget* parent = nullptr);
 
-    // As high as its least height: it takes what the page has left.
+    // Asks for its least height only, since it takes all the room that the page has left.
     QSize sizeHint() const override;
 
 signals:

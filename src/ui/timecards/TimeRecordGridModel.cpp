@@ -124,7 +124,7 @@ const RowMark* TimeRecordGridModel::Mark(const CardLine& line) const
     return mark == m_marks.end() ? nullptr : &mark->second;
 }
 
-// In every cell: a reader hears it whichever of them is the current one.
+// Every cell has the note, so that a screen reader says it whichever of them is the current one.
 QString TimeRecordGridModel::MarkedNote(const CardLine& line, int column) const
 {
     QStringList notes{Note(line, column)};

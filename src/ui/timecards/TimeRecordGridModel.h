@@ -19,9 +19,9 @@ inline constexpr int Total = 2; // hours
 inline constexpr int Count = 3;
 } // namespace recordcolumn
 
-// Shows the lines as they were when the grid was filled; their texts are made as they are painted.
-// The weekday of a date, of an end that is not there yet that somebody is at work, what the check says of a row, and who entered or changed
-// it by hand stand in tool tips and in descriptions for readers; a row of which the check says something has an icon.
+// Shows the lines as they were when the grid was filled; makes their texts when they are painted. Tool tips and the descriptions for screen
+// readers say: the weekday of a date, or that somebody is still at work where there is no end yet; what the check says of a row; and who
+// entered or changed it by hand. A row of which the check says something has an icon.
 class TimeRecordGridModel final : public QAbstractTableModel
 {
     Q_OBJECT
@@ -32,22 +32,22 @@ public:
     void SetLines(std::vector<CardLine> lines);
     void Clear();
 
-    // What the check says, by record.
+    // Sets what the check says of each record.
     void SetMarks(RowMarks marks);
 
     void SetEdits(RecordEdits edits);
 
-    // Their rows are tinted, as those that one sentence is about.
+    // Tints the rows of these records, which one sentence of the check is about.
     void SetGroup(const std::vector<std::int64_t>& timeRecordIDs);
     [[nodiscard]] bool IsInGroup(std::int64_t timeRecordID) const { return m_group.contains(timeRecordID); }
 
-    // Greys all rows.
+    // Shows all rows in grey.
     void SetFaded(bool faded);
 
-    // The record itself, which the list may have let go of by now. REQUIRES: a row of the grid.
+    // The record of a row, even where the card's list does not hold it any more. REQUIRES: a row of the grid.
     [[nodiscard]] std::shared_ptr<CTimeRecord> Record(int row) const { return m_lines.at(static_cast<std::size_t>(row)).record; }
 
-    // -1 when there is none.
+    // The row of this record; -1 when it has none.
     [[nodiscard]] int RowOf(std::int64_t timeRecordID) const;
 
     int rowCount(const QModelIndex& parent = {}) const override;
