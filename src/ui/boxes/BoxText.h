@@ -11,7 +11,7 @@ namespace ptk {
     return box->text().toStdString();
 }
 
-// A text longer than its box shows its beginning, unless somebody is at work in it.
+// Scrolls a text that is longer than its box to its beginning, unless somebody is typing in the box.
 inline void ShowBeginning(QLineEdit* box)
 {
     if (!box->hasFocus()) {

@@ -17,7 +17,7 @@ namespace ptk {
 namespace {
 
 constexpr auto kFormat = "mm/dd/yyyy";
-constexpr int kCharacters = 7; // with the room that every box has for an icon, enough for mm/dd/yyyy
+constexpr int kCharacters = 7; // enough for mm/dd/yyyy, together with the room that every box has for an icon
 const QDate kFirst(1900, 1, 1);
 const QDate kLast(2100, 12, 31);
 
@@ -33,7 +33,7 @@ bool InRange(DateTime value)
     return date >= kFirst && date <= kLast;
 }
 
-// Below the box, above it where the screen ends, and never beside the screen.
+// The place for the calendar: below the box, above it where the screen ends, and never off the side of the screen.
 QPoint PopupPlace(const QWidget& box, const QSize& size)
 {
     const QRect screen = box.screen()->availableGeometry();
@@ -45,7 +45,7 @@ QPoint PopupPlace(const QWidget& box, const QSize& size)
     return place;
 }
 
-// Quieter than the working days, in the theme's own colour; a calendar's red is none of it.
+// Shows weekends more quietly than working days, in a colour of the theme. A calendar's usual red is not one.
 void QuietenWeekends(QCalendarWidget& calendar)
 {
     QTextCharFormat quiet;
@@ -150,7 +150,7 @@ void DateCombo::Pick(QDate date)
     }
 }
 
-// "-" also separates the parts of a date, so it steps only from a date that is already whole.
+// Steps a day for "+" and "-". Since "-" also separates the parts of a date, only a whole date is stepped from.
 bool DateCombo::Step(const QString& key)
 {
     if ((key != "+" && key != "-") || !ParseDateTime(currentText().toStdString()) || !Date()) {

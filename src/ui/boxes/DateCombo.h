@@ -10,8 +10,8 @@ namespace ptk {
 
 class Clock;
 
-// Takes "3/5" (of this year), "3/5/26", "3/5/2026" and every other form of a date from 1 January 1900 to 31 December 2100, "+" and "-" for
-// the next and the previous day. On leaving, what is a date is shown as mm/dd/yyyy; what is none stays as it was typed.
+// Takes "3/5" (of this year), "3/5/26", "3/5/2026" and every other form of a date from 1 January 1900 to 31 December 2100; "+" and "-" step
+// to the next and the previous day. When the box is left, a date is shown as mm/dd/yyyy, and any other text stays as it was typed.
 class DateCombo final : public QComboBox
 {
     Q_OBJECT
@@ -19,15 +19,15 @@ class DateCombo final : public QComboBox
 public:
     explicit DateCombo(QWidget* parent = nullptr);
 
-    // Tells this year; must outlive the box. Without it the machine's clock does.
+    // The clock tells which year is this year; it must outlive the box. Without one the machine's clock does.
     void SetClock(const Clock& clock);
 
-    // As it will be shown on leaving: typed "3/5" already answers the whole date.
+    // The text as it is shown once the box is left: for a typed "3/5" the whole date.
     [[nodiscard]] QString Text() const;
 
     void SetText(const QString& text);
 
-    // Midnight of the day; nothing for an empty text, no date, or a date out of range.
+    // The date in the box, at midnight; nothing for an empty text, no date, or a date out of range.
     [[nodiscard]] std::optional<DateTime> Date() const;
 
     void SetDate(DateTime value);
@@ -35,7 +35,8 @@ public:
     void showPopup() override;
 
 signals:
-    // By the user only: on each keystroke that alters the text, a day picked in the calendar, a step of a day.
+    // The user changed the text: by a keystroke, by picking a day in the calendar, or by a step of a day. Never sent for changes by the
+    // program.
     void Changed();
 
 protected:

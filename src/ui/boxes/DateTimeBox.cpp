@@ -114,7 +114,7 @@ void DateTimeBox::focusOutEvent(QFocusEvent* event)
     }
 }
 
-// A click is handled when its button goes up.
+// Reports when the mouse button goes up, since that is when a click is handled.
 bool DateTimeBox::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::MouseButtonRelease) {

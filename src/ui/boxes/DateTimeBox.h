@@ -1,4 +1,4 @@
-// A box for a time of day, or for a date: free text that is put right on leaving.
+// A box for a time of day, or for a date: free text that is put in order when the box is left.
 #pragma once
 
 #include "platform/text/TypedTime.h"
@@ -11,11 +11,11 @@ namespace ptk {
 
 class Clock;
 
-// The time of a moment as general text, as time boxes are filled with it.
+// The time of day of a moment, in the form in which time boxes are filled.
 [[nodiscard]] QString TimeText(DateTime moment);
 
-// In time mode, the first one, 830, 0830, 8.30, 8:30, 830a, 5p and 17 become a time in the display format; in date mode dates are taken as
-// a DateCombo takes them. What is neither stays as it was typed. Empty is allowed.
+// The box begins in time mode: 830, 0830, 8.30, 8:30, 830a, 5p and 17 become a time in the display format. In date mode dates are taken as
+// a DateCombo takes them. Any other text stays as it was typed. Empty is allowed.
 class DateTimeBox final : public QLineEdit
 {
     Q_OBJECT
@@ -23,33 +23,33 @@ class DateTimeBox final : public QLineEdit
 public:
     explicit DateTimeBox(QWidget* parent = nullptr);
 
-    // Of a time, in the tokens of FormatDateTime; "hh:mm:ss AM/PM" at first.
+    // The format of times, in the tokens of FormatDateTime; "hh:mm:ss AM/PM" at first.
     void SetDisplayFormat(std::string pattern);
 
-    // The clock tells this year and must outlive the box.
+    // From now on the box takes dates. The clock tells which year is this year, and must outlive the box.
     void SetDateMode(const Clock& clock);
 
-    // As it will be shown on leaving.
+    // The text as it is shown once the box is left.
     [[nodiscard]] QString Text() const;
 
-    // That text and what it was read as.
+    // What Text answers, together with what it was read as.
     [[nodiscard]] TypedMoment Moment() const;
 
     void SetText(const QString& text);
     void Clear();
 
-    // The text has been read by other means: no Changed is owed for it any more.
+    // To be called when the text has been read without waiting for Changed, which then need not come for it any more.
     void TakeNote() { m_unreported = false; }
 
 signals:
-    // All by the user only. On every keystroke that alters the text
+    // The user altered the text by a keystroke. No signal of this box is sent for changes by the program.
     void KeyEntered();
 
-    // And on those that leave a readable one.
+    // The user altered the text by a keystroke, and it can be read.
     void Typed();
 
-    // After leaving the box, or Enter in it, when it has been typed into since the last time. It may be answered by a message box, so it
-    // waits for the click or key that brought it to be handled, and never comes when that hid the box's window or had the text read.
+    // The user left the box or pressed Enter in it, after typing into it. A message box may be the answer, so the signal waits until the
+    // click or key that caused it has been handled. It does not come when that hid the box's window or had the text read.
     void Changed();
 
 protected:
@@ -64,7 +64,7 @@ private:
     void Report();
 
     std::string m_format = "hh:mm:ss AM/PM";
-    const Clock* m_dateClock = nullptr; // set in date mode only
+    const Clock* m_dateClock = nullptr; // nullptr in time mode
     bool m_unreported = false;          // typed into since the last Changed
 };
 

@@ -27,7 +27,7 @@ QString Text(const CEmployee& employee, EmployeeText shown)
     return QString::number(employee.EmployeeNumber());
 }
 
-// Rows of one height, laid out in batches: a list that measures each of its rows takes a second to open.
+// Gives the box a list with rows of one height, laid out in batches. A list that measures each of its rows takes a second to open.
 void PrepareView(QComboBox& box)
 {
     auto* view = new QListView(&box);
@@ -40,7 +40,7 @@ void PrepareView(QComboBox& box)
 struct Choice
 {
     QVariant employeeID;
-    std::optional<QString> typed; // what stands in the box in place of a row's text
+    std::optional<QString> typed; // the text that stands in the box in place of a row's text
 };
 
 Choice ChoiceIn(const QComboBox& box)
@@ -49,7 +49,7 @@ Choice ChoiceIn(const QComboBox& box)
     return {box.currentData(kEmployeeIDRole), typed ? std::optional(box.currentText()) : std::nullopt};
 }
 
-// A box reacts to new rows by choosing the first, and has done so by the time it is put right here.
+// Chooses the row again after new rows have come: by then the box has chosen the first of them by itself.
 void Choose(QComboBox& box, const Choice& choice)
 {
     box.setCurrentIndex(choice.employeeID.isValid() ? box.findData(choice.employeeID, kEmployeeIDRole) : -1);
@@ -77,7 +77,7 @@ void Choose(QAbstractItemView& list, const QSet<int>& ids)
             continue;
         }
         if (!rows.isEmpty() && rows.last().bottom() == row - 1) {
-            rows.last() = QItemSelectionRange(rows.last().topLeft(), index); // one range for a run of rows: they are compared pair by pair
+            rows.last() = QItemSelectionRange(rows.last().topLeft(), index); // one range for a run of rows: ranges are compared in pairs
         } else {
             rows.append(QItemSelectionRange(index));
         }

@@ -1,4 +1,5 @@
-// The employees behind every list and box of the main window: one set of rows for all of them, reading the entities as they are asked for.
+// The employees behind every list and box of the main window: one set of rows for all, whose texts are read from the entities when they are
+// asked for.
 #pragma once
 
 #include <cstdint>
@@ -23,11 +24,11 @@ enum class EmployeeText
     Number
 };
 
-// The EmployeeID of a row, by which it is told from its namesakes.
+// The role that answers the EmployeeID of a row, which tells the employee from namesakes.
 inline constexpr int kEmployeeIDRole = Qt::UserRole;
 
-// One text of each employee, in list order. Holds references to the entities of the list at the time of SetRows, so that its rows stay
-// whole while the list is being changed, and copies none of their texts.
+// One text of each employee, in list order. Shares the entities that the list had at the time of SetRows, so that its rows stay whole while
+// the list is being changed, and copies none of their texts.
 class EmployeeColumn final : public QAbstractListModel
 {
     Q_OBJECT
@@ -52,17 +53,17 @@ class EmployeeModels final : public QObject
     Q_OBJECT
 
 public:
-    // Every employee.
+    // A model of every employee.
     QAbstractItemModel* All(EmployeeText shown);
 
-    // The display names offered on time cards and reports.
+    // A model of the display names that are offered on time cards and reports.
     QAbstractItemModel* Offered() { return &m_offered; }
 
-    // Resets all models. nullptr empties them.
+    // Fills all models anew with the employees of the list; nullptr empties them.
     void SetEmployees(const std::shared_ptr<CEmployeeList>& list);
 
 signals:
-    // This employee has been changed in the database, and the models hold what is there now; -1: a new one has been added.
+    // This employee has been changed in the database, and the models hold what is stored now; -1: a new employee has been added.
     void Saved(std::int32_t employeeID);
 
 private:
@@ -73,12 +74,13 @@ private:
     EmployeeColumn m_offered{EmployeeText::Name};
 };
 
-// Puts one of the models behind a box, without a choice: opens at once with ten thousand rows, never adds what is typed to its list, and is
-// at least `characters` wide whatever the rows hold. When the models are filled again the chosen employee stays chosen, under the new name
-// if there is one, and a text that is being typed stays as it is.
+// Puts one of the models behind a box, with no row chosen. The box opens at once even with ten thousand rows, never adds typed text to its
+// list, and is at least `characters` wide whatever the rows hold. When the models are filled again, the chosen employee stays chosen, under
+// a new name if there is one, and a text that is being typed stays as it is.
 void ShowEmployees(QComboBox& box, QAbstractItemModel* model, int characters);
 
-// The same for a list of several choices: those who are still in it stay chosen.
+// Puts one of the models behind a list of several choices. When the models are filled again, the chosen employees who are still in them
+// stay chosen.
 void ShowEmployees(QAbstractItemView& list, QAbstractItemModel* model);
 
 } // namespace ptk

@@ -4,7 +4,7 @@
 
 namespace ptk {
 
-// The frame and the air of the known styles take less than a line's height together.
+// In the known styles the frame and the space inside it together take less than the height of a line.
 void LimitWidth(QWidget& field, int digits)
 {
     const QFontMetrics font = field.fontMetrics();

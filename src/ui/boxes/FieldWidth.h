@@ -1,11 +1,11 @@
-// Fields that are no wider than what they are for, however wide the window is.
+// Fields that are no wider than their content needs, however wide the window is.
 #pragma once
 
 class QWidget;
 
 namespace ptk {
 
-// In digits of the widget's font.
+// Widths in digits of the widget's font.
 namespace fieldwidth {
 inline constexpr int State = 6;
 inline constexpr int Zip = 11;
@@ -15,7 +15,7 @@ inline constexpr int Minutes = 6;
 inline constexpr int Page = 120; // all the fields of a page, with their labels
 } // namespace fieldwidth
 
-// Leaves room for that many digits and for the frame around them.
+// Limits the width to that many digits and the frame around them.
 void LimitWidth(QWidget& field, int digits);
 
 } // namespace ptk

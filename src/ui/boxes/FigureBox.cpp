@@ -46,7 +46,7 @@ QSize FigureBox::minimumSizeHint() const
     return SizeFor(kLeast);
 }
 
-// The base class asks for room for many letters.
+// The size for such a figure; the base class would ask for room for many letters.
 QSize FigureBox::SizeFor(const char* figure) const
 {
     const int frame = QLineEdit::minimumSizeHint().width() - fontMetrics().maxWidth();

@@ -1,11 +1,11 @@
-// A figure to be read and copied, never typed into: right-aligned, on the window's own ground, no stop of the Tab key.
+// A box for a figure to read and copy, not to type into: right-aligned, on the window's own background, not reached by the Tab key.
 #pragma once
 
 #include <QLineEdit>
 
 namespace ptk {
 
-// As wide as a figure needs, which is little: it grows only where its layout has it fill a column.
+// Asks for no more width than a figure needs; it grows only where its layout has it fill a column.
 class FigureBox final : public QLineEdit
 {
     Q_OBJECT
@@ -13,10 +13,10 @@ class FigureBox final : public QLineEdit
 public:
     explicit FigureBox(QWidget* parent = nullptr);
 
-    // Larger and bold.
+    // Makes the figure larger and bold.
     void SetImportant();
 
-    // Grey, for a figure that does not belong to what stands around it.
+    // Shows the figure in grey, because it does not belong to what stands around it.
     void SetFaded(bool faded);
 
     QSize sizeHint() const override;

@@ -14,7 +14,7 @@ namespace ptk {
 
 namespace {
 
-// Rows of one height, as in the box's own list: thousands of them may hold a single typed letter.
+// A list with rows of one height, as in the box's own list, since thousands of entries may hold a single typed letter.
 QListView* NewView()
 {
     auto* view = new QListView;
@@ -28,7 +28,7 @@ QListView* NewView()
     return view;
 }
 
-// The row with the very text, else the first that begins with it, else the first.
+// The row of the typed text itself, else the first row that begins with it, else the first of all.
 int BestRow(const QAbstractItemModel& rows, const QString& typed)
 {
     int begun = -1;
@@ -49,16 +49,16 @@ int BestRow(const QAbstractItemModel& rows, const QString& typed)
 
 Proposals::Proposals(QComboBox& box, Leaving leaving) : QObject(&box), m_box(box), m_completer(box.model()), m_leaving(leaving)
 {
-    box.setCompleter(nullptr); // a box's own writes what it proposes into the text
+    box.setCompleter(nullptr); // the box's own completer writes what it proposes into the text
     m_completer.setWidget(&box);
     m_completer.setCaseSensitivity(Qt::CaseInsensitive);
     m_completer.setFilterMode(Qt::MatchContains);
     m_completer.setPopup(NewView());
     m_completer.popup()->setWindowFlags(Qt::ToolTip); // a popup would keep the click that closes it from the button it was meant for
-    box.installEventFilter(this);                     // before the completer, which holds back what tells that the box is left
+    box.installEventFilter(this);                     // before the completer does, which holds back that the box is left
     connect(box.lineEdit(), &QLineEdit::textEdited, this, &Proposals::Propose);
     connect(&m_completer, qOverload<const QModelIndex&>(&QCompleter::activated), this, &Proposals::ChooseProposal);
-    disconnect(box.lineEdit(), &QLineEdit::editingFinished, &box, nullptr); // the box's own choosing on leaving
+    disconnect(box.lineEdit(), &QLineEdit::editingFinished, &box, nullptr); // this would choose by itself on leaving
     if (leaving == Leaving::Chooses) {
         connect(box.lineEdit(), &QLineEdit::editingFinished, this, &Proposals::Leave);
     }
@@ -111,7 +111,7 @@ bool Proposals::Press(QKeyEvent& press)
     case Qt::Key_Return:
     case Qt::Key_Enter:
         if (m_leaving == Leaving::Chooses) {
-            return false; // the editor's business, which tells Leave
+            return false; // left to the editor, whose signal calls Leave
         }
         (void)ChooseTyped();
         return true;
@@ -149,7 +149,7 @@ bool Proposals::PressOpen(QKeyEvent& press)
     }
 }
 
-// A whole typed entry is left for its neighbour, a part of one opens the proposals, and a text that no entry holds stays as it is.
+// Steps from a typed entry to its neighbour. A part of an entry opens the proposals, and a text that no entry holds stays as it is.
 bool Proposals::StepFromTyped(int step)
 {
     if (!IsTyped() || m_box.currentText().isEmpty()) {
@@ -169,7 +169,7 @@ void Proposals::ChooseProposal(const QModelIndex& proposal)
     Choose(qobject_cast<QAbstractProxyModel*>(m_completer.completionModel())->mapToSource(proposal).row());
 }
 
-// The entry that was typed, else the only one that holds what was typed.
+// Chooses the entry that was typed, else the only one that holds the typed text.
 void Proposals::Leave()
 {
     if (!ChooseTyped() && IsTyped() && MatchesOf(m_box.currentText()) == 1) {

@@ -1,4 +1,4 @@
-// What an editable list proposes while somebody types into it.
+// The entries that an editable list proposes while somebody types into it.
 #pragma once
 
 #include <QCompleter>
@@ -8,9 +8,9 @@ class QKeyEvent;
 
 namespace ptk {
 
-// The entries that hold the typed text anywhere, in any letter case, in a list below the box. What was typed stays as it is, whatever is
-// walked over in that list, until an entry is chosen there. Keys and clicks that are not meant for the list go where they would go without
-// it. Belongs to the box, whose model must be set already.
+// Shows in a list below the box the entries that hold the typed text anywhere, in any letter case. The typed text stays as it is while the
+// user moves through that list, until he chooses an entry there. Keys and clicks that are not meant for the list go where they would go
+// without it. Belongs to the box, whose model must be set already.
 class Proposals final : public QObject
 {
     Q_OBJECT
@@ -18,8 +18,8 @@ class Proposals final : public QObject
 public:
     enum class Leaving
     {
-        Chooses, // the best proposal is marked from the start, so that Enter and Tab take it, and both go on
-        Keeps    // what was typed; only Enter takes the marked proposal, and goes no further
+        Chooses, // the best proposal is marked from the start, so that Enter and Tab take it, and both then do their usual work
+        Keeps    // the typed text stays; only Enter takes the marked proposal, and then does nothing else
     };
 
     Proposals(QComboBox& box, Leaving leaving);

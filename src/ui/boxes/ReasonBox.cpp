@@ -14,7 +14,7 @@ constexpr auto kReasonName = "Reason";
 constexpr auto kOptional = "why, if it is worth telling";
 constexpr auto kAskedFor = "why it is changed after it was paid";
 constexpr int kLongestReason = 200;   // characters, so that it can be read in the history
-constexpr int kReasonCharacters = 24; // shown at the least
+constexpr int kReasonCharacters = 24; // characters that can be seen at the least
 
 } // namespace
 
@@ -28,7 +28,7 @@ ReasonBox::ReasonBox(QWidget* parent) : QComboBox(parent)
     setMinimumContentsLength(kReasonCharacters);
     lineEdit()->setMaxLength(kLongestReason);
     lineEdit()->setPlaceholderText(kOptional);
-    setCompleter(nullptr); // it would write what it proposes into the text
+    setCompleter(nullptr); // a completer would write what it proposes into the text
 }
 
 void ReasonBox::Offer(const ReasonLine& line)

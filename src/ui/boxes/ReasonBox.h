@@ -1,4 +1,4 @@
-// A line for why something is changed, with the last reasons to choose from.
+// A box for the reason of a change, with the last reasons to choose from.
 #pragma once
 
 #include <QComboBox>
@@ -10,7 +10,7 @@ namespace ptk {
 
 struct ReasonLine;
 
-// May stay empty. What was typed is never changed by what is offered.
+// The reason may stay empty. Proposals never change what was typed.
 class ReasonBox final : public QComboBox
 {
     Q_OBJECT
@@ -20,13 +20,13 @@ public:
 
     void Offer(const ReasonLine& line);
 
-    // Without outer blanks; empty for none.
+    // The typed reason without blanks at its ends; empty for none.
     [[nodiscard]] std::string Reason() const;
 
-    // Whether it is wanted, was left empty and has not been asked for by this before: once, as nobody is kept from leaving it empty.
+    // True once, when a wanted reason was left empty: the box then takes the keyboard. After that nobody is kept from leaving it empty.
     [[nodiscard]] bool AsksForIt();
 
-    // "Reason", with the key that leads to the box.
+    // A new label "Reason", with the key that leads to the box.
     [[nodiscard]] QLabel* NewLabel();
 
 private:

@@ -10,7 +10,7 @@ namespace ptk {
 
 namespace {
 
-// The editor inside a list or a number box does not have the keyboard itself.
+// The editor that types for the box: in a list or a number box it is a part inside that does not have the keyboard itself.
 const QLineEdit* EditorOf(const QObject* box)
 {
     if (const auto* list = qobject_cast<const QComboBox*>(box)) {

@@ -1,17 +1,17 @@
-// The keys for undo and redo, where the box that has the keyboard has nothing of its own to undo or redo.
+// Passes the keys for undo and redo on to the window, where the box with the keyboard has nothing of its own to undo or redo.
 #pragma once
 
 #include <QObject>
 
 namespace ptk {
 
-// Has such a box leave these keys to the shortcuts of its window; by itself a box takes them also when they do nothing there.
+// Without this a box takes the keys even when they do nothing there, and the window's shortcuts never see them.
 class SpentUndoKeys final : public QObject
 {
     Q_OBJECT
 
 public:
-    // From now on, in all windows of the program.
+    // Works from now on in all windows of the program.
     explicit SpentUndoKeys(QObject* parent);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
