@@ -13,8 +13,8 @@ namespace ptk {
 
 class Workplace;
 
-// The lines of the menu say what they would undo or redo, and whose record that is. While a box with the keyboard has something to undo or
-// redo in its own text, it keeps the keys of these lines.
+// The lines say what they would undo or redo, and whose record that is. A box with the keyboard keeps their keys while it has something to
+// undo or redo in its own text.
 class EditMenu final : public QObject
 {
     Q_OBJECT

@@ -7,8 +7,7 @@ namespace ptk {
 
 class Workplace;
 
-// A reason line with the last reasons of the edit trail to choose from; `wanted`: the user is asked for a reason. A failure to read the
-// last reasons is logged, and none are offered.
+// The last reasons of the edit trail to choose from. `wanted`: a reason is asked for. When they cannot be read, that is logged.
 [[nodiscard]] ReasonLine OfferedReasons(Workplace& host, bool wanted);
 
 } // namespace ptk

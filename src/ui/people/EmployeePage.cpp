@@ -231,8 +231,7 @@ void EmployeePage::TellSaved(const std::string& told, const EmployeeTexts& texts
     emit Host().EmployeeModels().Saved(saved.EmployeeID());
 }
 
-// The ID of the employee who was just saved, for the button "Show Again": the page is deliberately empty after a save. A new employee is
-// the newest of that name.
+// The ID of the employee just saved, for "Show Again": the page is deliberately empty after a save. A new one is the newest of that name.
 std::string EmployeePage::SavedID(const EmployeeTexts& texts) const
 {
     std::int32_t newest = 0;

@@ -33,8 +33,8 @@ public:
     // Shows the employee; false for nullptr.
     bool ShowEmployee(const std::shared_ptr<CEmployee>& theemployee) { return ShowRecord(theemployee); }
 
-    // Shows the employee with the keyboard in the box of the pay rate, or, where that holds a rate, of the overtime rate. What was typed
-    // about another employee is offered in the line.
+    // Shows the employee, the keyboard in the box of the pay rate or, where that holds a rate, of the overtime rate. What was typed about
+    // another employee is offered in the line.
     void ShowRate(std::int32_t employeeID);
 
 private:

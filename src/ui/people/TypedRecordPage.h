@@ -36,8 +36,8 @@ struct RecordKind
     void (*read)(const Texts&, Entity&);
 };
 
-// A page for one kind of record. Without a chosen ID it holds a new record. A record that is refused stays on the page as it was typed. The
-// derived pages have the fields.
+// A page without a chosen ID holds a new record. A record that is refused stays on the page as it was typed. The fields belong to the
+// derived pages.
 template <typename Entity, typename List, typename Texts>
 class TypedRecordPage : public RecordPage
 {

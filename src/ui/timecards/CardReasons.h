@@ -8,8 +8,8 @@ namespace ptk {
 class CurrentCard;
 class Workplace;
 
-// A reason line with the last reasons of the edit trail to choose from. The user is asked for a reason where the card's period was paid. A
-// failure to read the last reasons is logged, and none are offered.
+// The last reasons of the edit trail to choose from; a reason is asked for where the card's period was paid. When the last reasons cannot
+// be read, that is logged.
 [[nodiscard]] ReasonLine ReasonFor(Workplace& host, const CurrentCard& card);
 
 } // namespace ptk

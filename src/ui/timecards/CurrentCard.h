@@ -53,24 +53,23 @@ public:
     // Whether the card's period was closed for its employee.
     [[nodiscard]] bool IsPaid() const;
 
-    // Generates the card that the boxes name and shows it; false for any run-time failure, which leaves the display empty.
+    // Generates and shows the card that the boxes name. False for any run-time failure, which leaves the display empty.
     bool RefreshTimeCard();
 
-    // Generates and shows the card after a save: a run-time failure has a box of its own, and the line stays empty when the card is shown.
+    // Generates and shows the card after a save. A run-time failure has a box; the line stays empty when the card is shown.
     void RegenerateAfterSave();
 
     // Reads the shown card again, without a box. Where that fails, answers false, and what is shown stays. May raise failures.
     bool ReadAgain();
 
-    // Gives the card its employee as the list has him now, and reads it again where it is shown or is what the boxes name. Without a box;
-    // where that fails, the display is cleared.
+    // Reads the card again with its employee as the list has him now, where it is shown or is what the boxes name. Without a box; where
+    // that fails, the display is cleared.
     void Renew();
 
     // Says in the line that somebody else changed the employee or the records shown, with a button that loads the change.
     void TellChanges();
 
-    // Says in the line, before what stands there, that the card has problems: somebody is about to be paid by it. Nothing where it has
-    // none.
+    // Says in the line, before what stands there, that the card, which somebody is about to be paid by, has problems; nothing otherwise.
     void TellProblems();
 
     // Checks the shown card again with the limits that are stored now.

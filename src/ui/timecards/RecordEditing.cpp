@@ -111,7 +111,7 @@ void RecordEditing::DeleteElsewhere(const Punch& punch)
 }
 
 // Opens the editor. A record that could not be stored gets its former values back, so that nobody stores the typed ones unasked later on;
-// what was typed is offered again.
+// they are offered again.
 void RecordEditing::Open(const Editing& editing)
 {
     const auto edit = [&] {

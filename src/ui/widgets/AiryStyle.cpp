@@ -7,7 +7,7 @@ namespace ptk {
 namespace {
 
 constexpr QSize kAir(16, 2);      // pixels, both sides together
-constexpr double kHintText = 0.6; // of the text in the colour of a hint, the rest is the background: above 4.5:1, on a window, too
+constexpr double kHintText = 0.6; // share of the text's colour in a hint's, the rest is the background: above 4.5:1, on a window, too
 
 QColor Blend(const QColor& one, const QColor& other, double share)
 {

@@ -10,10 +10,10 @@ class AiryStyle final : public QProxyStyle
     Q_OBJECT
 
 public:
-    // Over the application's present style.
+    // Builds on the style that the application has at present.
     AiryStyle();
 
-    // Hints are to be read, too.
+    // Gives hints more contrast, so that they can be read.
     void polish(QPalette& palette) override;
     using QProxyStyle::polish;
 

@@ -8,7 +8,7 @@ namespace ptk {
 namespace {
 
 constexpr int kSpace = 8;
-constexpr int kLeastLine = 160; // pixels in which the beginning of a sentence can be read
+constexpr int kLeastLine = 160; // pixels, enough to read the beginning of a sentence
 
 bool Expands(const QLayoutItem& item)
 {

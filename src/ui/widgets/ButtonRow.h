@@ -1,4 +1,4 @@
-// The layout of a page's buttons and the quiet line beside them: one row where the width allows it, more where it does not.
+// The layout of a page's buttons and of the quiet line beside them: one row where the width allows it, several where it does not.
 #pragma once
 
 #include <memory>
@@ -9,7 +9,7 @@
 namespace ptk {
 
 // Buttons keep their own sizes and stand at the right. The one item that expands, the quiet line, takes what is left of the emptiest row,
-// or a row of its own above the others where that is too little for what it says. The least width is that of the widest button.
+// or a row of its own above the others where that is too little for its text. The least width is that of the widest button.
 class ButtonRow final : public QLayout
 {
     Q_OBJECT
@@ -18,17 +18,17 @@ public:
     explicit ButtonRow(QWidget* parent = nullptr);
     ~ButtonRow() override;
 
-    // All items of it, in their order.
+    // Takes over all items of the other layout, in their order.
     void TakeFrom(QLayout& other);
 
-    // Owned from then on.
+    // Takes ownership of the item.
     void addItem(QLayoutItem* item) override;
 
     int count() const override { return static_cast<int>(m_items.size()); }
     QLayoutItem* itemAt(int index) const override;
     QLayoutItem* takeAt(int index) override;
 
-    // Of one row.
+    // The size of all items in one row.
     QSize sizeHint() const override;
 
     QSize minimumSize() const override;
@@ -54,7 +54,7 @@ private:
     std::vector<std::unique_ptr<QLayoutItem>> m_items;
 };
 
-// Puts what stands in `buttons`, which ends, into such a row at the end of the window's layout.
+// Puts the items of `buttons` into a ButtonRow at the end of the window's layout, and deletes `buttons`.
 void FoldButtons(QBoxLayout& layout, QLayout* buttons);
 
 } // namespace ptk

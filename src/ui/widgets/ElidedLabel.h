@@ -1,4 +1,4 @@
-// A line of plain text that gives way to the window's width: what does not fit gives way to dots and stands whole in the tool tip.
+// A label for one line of plain text. What does not fit its width is replaced by dots; the whole text then stands in the tool tip.
 #pragma once
 
 #include <QLabel>
@@ -13,7 +13,7 @@ public:
     explicit ElidedLabel(QWidget* parent = nullptr) : ElidedLabel(QString(), parent) {}
     explicit ElidedLabel(const QString& text, QWidget* parent = nullptr);
 
-    // Where what does not fit is left out, at the end unless told otherwise.
+    // Sets where the text is cut; at the end unless this is called.
     void Cut(Qt::TextElideMode where);
 
     QSize minimumSizeHint() const override;

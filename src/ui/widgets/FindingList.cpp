@@ -11,7 +11,7 @@ namespace ptk {
 namespace {
 
 constexpr auto kName = "Findings";
-constexpr int kRowSpace = 4; // pixels above and below a sentence
+constexpr int kRowSpace = 4; // pixels, above and below a sentence together
 constexpr std::size_t kMostBroken = 200;
 
 } // namespace
@@ -109,18 +109,18 @@ void FindingList::Choose()
 void FindingList::Enter()
 {
     if (const Finding* finding = Current()) {
-        emit Entered(Finding(*finding)); // what follows may fill the list anew
+        emit Entered(Finding(*finding)); // a copy: what follows may fill the list anew
     }
 }
 
 void FindingList::AskToDelete()
 {
     if (const Finding* finding = Current()) {
-        emit DeleteAsked(Finding(*finding)); // what follows may fill the list anew
+        emit DeleteAsked(Finding(*finding)); // a copy: what follows may fill the list anew
     }
 }
 
-// By Tab: the first sentence is chosen, and read.
+// Where the Tab key brings the keyboard, the first sentence is chosen, so that a screen reader says it.
 void FindingList::focusInEvent(QFocusEvent* event)
 {
     QListView::focusInEvent(event);

@@ -1,4 +1,4 @@
-// A list of the sentences of findings.
+// A list that shows findings, each by its sentence.
 #pragma once
 
 #include "model/check/Finding.h"
@@ -26,8 +26,8 @@ private:
     std::vector<Finding> m_findings;
 };
 
-// An icon and, in tool tips and for a screen reader, a word tell problems from notices. What does not fit into a line is broken, or, where
-// there are hundreds, ends in dots: ten thousand of them open at once.
+// An icon tells problems from notices, and so does a word in tool tips and for a screen reader. A sentence that does not fit into a line is
+// broken, or, where there are hundreds, ends in dots, so that even ten thousand open at once.
 class FindingList final : public QListView
 {
     Q_OBJECT
@@ -35,28 +35,28 @@ class FindingList final : public QListView
 public:
     explicit FindingList(QWidget* parent = nullptr);
 
-    // None of them chosen.
+    // Shows these findings, with none of them chosen.
     void Show(std::vector<Finding> findings);
 
-    // nullptr when none is chosen.
+    // The chosen finding; nullptr when none is chosen. Valid until the list is filled anew.
     [[nodiscard]] const Finding* Current() const;
 
-    // Counted from 0, and takes the keyboard where it is to be seen.
+    // Chooses a row, counted from 0, and takes the keyboard where the list is visible.
     void ChooseRow(std::size_t row);
 
-    // For at least so many lines of text, whatever it shows.
+    // Makes the list high enough for this many lines of text, whatever it shows.
     void KeepRoom(int lines);
 
     QSize sizeHint() const override;
 
 signals:
-    // By mouse or keys, also when it was chosen before.
+    // A finding was chosen by mouse or keys, maybe the one that was chosen before.
     void Chosen(const Finding& finding);
 
-    // By Enter or a double click.
+    // Enter was pressed on the chosen finding, or it was clicked twice.
     void Entered(const Finding& finding);
 
-    // By the key.
+    // The Delete key was pressed on the chosen finding.
     void DeleteAsked(const Finding& finding);
 
 protected:
@@ -71,7 +71,7 @@ private:
     FindingModel* m_findings; // belongs to the widget
 };
 
-// "problem", "notice": the icon that stands for it.
+// The name of the icon that stands for the severity: "problem" or "notice".
 [[nodiscard]] QString SeverityIconName(Severity severity);
 
 } // namespace ptk

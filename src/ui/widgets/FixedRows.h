@@ -1,11 +1,11 @@
-// How the tables of the windows look.
+// The common look of the tables in the windows.
 #pragma once
 
 class QTableView;
 
 namespace ptk {
 
-// Rows of one height, `space` pixels above and below a text together, without headings at their left.
+// Gives all rows one height, with `space` pixels above and below the text together, and hides their headings at the left.
 void FixRows(QTableView& table, int space);
 
 } // namespace ptk

@@ -6,7 +6,7 @@ namespace ptk {
 
 namespace {
 
-// What each item gives, and the spaces between them.
+// The lengths of all items and the spaces between them.
 template <typename Length>
 int Sum(const QBoxLayout& row, Length length)
 {

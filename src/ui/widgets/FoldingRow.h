@@ -1,11 +1,11 @@
-// Widgets side by side where the width allows it, below each other where it does not.
+// A layout that puts its items side by side where the width allows it, and below each other where it does not.
 #pragma once
 
 #include <QBoxLayout>
 
 namespace ptk {
 
-// The least width is that of the widest item alone. Without margins.
+// The least width is that of the widest item alone. There are no margins.
 class FoldingRow final : public QBoxLayout
 {
     Q_OBJECT

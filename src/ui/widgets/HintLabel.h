@@ -1,11 +1,11 @@
-// Sentences that follow what the user does, where a message box would stand in the way.
+// A label for sentences that follow what the user does, where a message box would be in the way.
 #pragma once
 
 #include <QLabel>
 
 namespace ptk {
 
-// Empty at first; breaks its lines. Each new text is announced to assistive tools.
+// Empty at first; long texts take several lines. Each new text is announced to assistive tools.
 class HintLabel final : public QLabel
 {
     Q_OBJECT
@@ -15,7 +15,7 @@ public:
 
     void Say(const QString& text);
 
-    // So that nothing around it moves when it says more or less.
+    // Keeps room for this many lines, so that nothing around the label moves when its text becomes longer or shorter.
     void KeepRoom(int lines);
 };
 

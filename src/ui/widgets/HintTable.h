@@ -12,7 +12,7 @@ class HintTable : public QTableView
 public:
     using QTableView::QTableView;
 
-    // Shown, and told to assistive tools, while there are no rows.
+    // Sets the text that is shown, and told to assistive tools, while there are no rows.
     void SetHint(const QString& text);
 
     void reset() override;

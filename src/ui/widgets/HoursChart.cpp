@@ -17,12 +17,12 @@ constexpr auto kLegendText = "Bars: regular hours filled, overtime hatched, a li
 constexpr std::array<const char*, 3> kLegend{"Regular", "Overtime", "8 hours"};
 
 constexpr std::int64_t kLineMinutes = 480;
-constexpr std::int64_t kLeastTop = 600; // minutes up to which the scale reaches at least
+constexpr std::int64_t kLeastTop = 600; // minutes that the scale covers at least
 constexpr auto kWideWeek = "100.00";
 constexpr int kBarsHeight = 40; // pixels
 constexpr int kLowBarsHeight = 24;
-constexpr int kTallWindow = 760; // below which the rows of the card need the room
-constexpr int kBarSpace = 4;     // beside a bar
+constexpr int kTallWindow = 760; // pixels; in a lower window the rows of the card need the room
+constexpr int kBarSpace = 4;     // pixels at each side of a bar
 constexpr int kTextSpace = 2;
 constexpr int kLeastColumn = 26;
 constexpr int kMostColumn = 64;
@@ -36,7 +36,7 @@ enum class Part
     Line
 };
 
-// By palette: the hatching stands on the plain background, the filling does not.
+// Paints a part in the colours of the palette, without a background behind the hatching.
 void PaintPart(QPainter& painter, const QRect& place, Part part, const QPalette& palette)
 {
     const QColor ink = palette.color(QPalette::Text);
@@ -71,7 +71,7 @@ public:
     }
 
     const HoursColumn& Column(int row) const { return m_columns.at(static_cast<std::size_t>(row)); }
-    std::int64_t Top() const { return m_top; } // minutes of a bar of full height
+    std::int64_t Top() const { return m_top; } // in minutes: what a bar of full height stands for
     int Weeks() const { return m_weeks; }
 
     int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : static_cast<int>(m_columns.size()); }
@@ -98,7 +98,7 @@ public:
         return {ColumnWidth(option.font, m_model.Column(index.row()).isWeek), ColumnHeight(option.fontMetrics)};
     }
 
-    // The weeks keep room for their figures; the days share the rest.
+    // The width of a column: weeks keep enough room for their figures, and the days share the rest.
     int ColumnWidth(const QFont& font, bool isWeek) const
     {
         const int room = m_view.width() - 2 * m_view.frameWidth();
@@ -154,7 +154,7 @@ private:
     int BarsHeight() const { return m_view.window()->height() < kTallWindow ? kLowBarsHeight : kBarsHeight; }
     int Height(std::int64_t minutes) const { return static_cast<int>(minutes * BarsHeight() / m_model.Top()); }
 
-    // Above the bar, or in the middle of a week's column.
+    // The top of a column's figure: above the bar, or in the middle of a week's column.
     int FigureTop(const QRect& place, int line, const HoursColumn& column) const
     {
         const int bar = column.isWeek ? (BarsHeight() - line) / 2 : Height(column.regular + column.overtime);
@@ -173,7 +173,7 @@ private:
         PaintPart(painter, QRect(place.left(), floor - Height(kLineMinutes), place.width(), 1), Part::Line, palette);
     }
 
-    // A day's may lie on the line at 8 hours, which must not strike it through.
+    // Clears the background of a day's figure first, because the line at 8 hours may pass there and must not strike it through.
     static void PaintFigure(QPainter& painter, const QStyleOptionViewItem& option, const QRect& place, const HoursColumn& column)
     {
         const QString figure = QString::fromStdString(column.above);
@@ -184,7 +184,7 @@ private:
         PaintText(painter, option, place, figure, column.isWeek);
     }
 
-    // What its column is too narrow for is told in words only.
+    // False, and nothing painted, where the column is too narrow for the text, which then stands in the column's words only.
     static bool PaintText(QPainter& painter, const QStyleOptionViewItem& option, const QRect& place, const QString& text, bool bold)
     {
         QFont font = option.font;
@@ -258,7 +258,7 @@ void HoursChart::showEvent(QShowEvent* event)
     FitHeight();
 }
 
-// The bars follow the window's height, which the view itself does not feel.
+// Follows the height of the window, on which that of the bars depends; the view itself gets no event for it.
 bool HoursChart::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == window() && event->type() == QEvent::Resize) {

@@ -1,4 +1,4 @@
-// Hours per day as bars with a line at 8 hours, and what the work weeks come to.
+// A chart of the hours per day, as bars with a line at 8 hours, and of the totals of the work weeks.
 #pragma once
 
 #include "office/card/HoursColumns.h"
@@ -10,8 +10,8 @@ class QPainter;
 
 namespace ptk {
 
-// Each column can be reached with the arrow keys and tells its figures in words, as its tool tip and to a screen reader. Overtime is
-// hatched. Columns share the width; where they would become too narrow, the view scrolls.
+// The arrow keys reach each column; its figures stand in words in its tool tip and for a screen reader. Overtime is hatched. Columns share
+// the width; where they would become too narrow, the view scrolls.
 class HoursChart final : public QListView
 {
     Q_OBJECT
@@ -21,7 +21,7 @@ public:
 
     void Show(std::vector<HoursColumn> columns);
 
-    // Shown while there are no columns.
+    // Sets the text that is shown while there are no columns.
     void SetHint(const QString& text) { m_hint = text; }
 
 protected:
@@ -37,7 +37,7 @@ private:
     QString m_hint;
 };
 
-// What the bars stand for.
+// The legend of the chart: what the bars and the line stand for.
 class HoursLegend final : public QWidget
 {
     Q_OBJECT

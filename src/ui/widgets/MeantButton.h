@@ -1,11 +1,11 @@
-// Enter anywhere on a page, as in a dialog.
+// What Enter does anywhere on a page, as in a dialog.
 #pragma once
 
 class QWidget;
 
 namespace ptk {
 
-// Presses the button that has the focus, or else the enabled default one of the page, where there is one.
+// Presses the button that has the focus, or else the page's default button where there is one and it is enabled.
 void PressMeantButton(const QWidget& page, QWidget* focused);
 
 } // namespace ptk

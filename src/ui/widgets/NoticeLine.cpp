@@ -83,7 +83,7 @@ void NoticeLine::Show(const QString& text)
     TellAloud(*m_text);
 }
 
-// Emptied first: the action may say something of its own.
+// Empties the line before it runs the action, which may say something of its own.
 void NoticeLine::Act()
 {
     const auto action = std::exchange(m_action, nullptr);

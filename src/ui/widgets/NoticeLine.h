@@ -1,4 +1,4 @@
-// The quiet line at the left of a page's buttons: what was just done, or what could not be, and sometimes a way back.
+// The quiet line at the left of a page's buttons: it says what was done or could not be done, and may have a button for what comes next.
 #pragma once
 
 #include <functional>
@@ -21,19 +21,19 @@ public:
 
     void Say(const QString& text);
 
-    // The same of a text that ends in the name of a file: what does not fit is left out in its middle.
+    // Says a text that ends in the name of a file: what does not fit is left out in the middle.
     void SayFile(const QString& text);
 
-    // Says it, unless something is being offered.
+    // Says the text, unless something is being offered; the offer then stays.
     void Remark(const QString& text);
 
-    // Says it, with a button beside it that runs `action` once; the line is empty again by the time it runs.
+    // Says the text, with a button beside it that runs `action` once; the line is already empty when it runs.
     void Offer(const QString& text, const QString& caption, std::function<void()> action);
 
-    // The same of what is merely handy: it gives way to all that the page says next.
+    // Offers something that is merely handy: the offer gives way to all that the page says next.
     void Suggest(const QString& text, const QString& caption, std::function<void()> action);
 
-    // Says it before the words of what is being offered, which stays; as Say where nothing is.
+    // Says the text before the words of an offer, which stays; where nothing is offered it does what Say does.
     void SayBefore(const QString& text);
 
     [[nodiscard]] bool IsOffering() const { return m_action != nullptr && !m_suggests; }
@@ -45,10 +45,10 @@ private:
     void Show(const QString& text);
     void Act();
 
-    ElidedLabel* m_text;   // lblNotice; both belong to the widget
+    ElidedLabel* m_text;   // lblNotice; this and the button belong to the widget
     QToolButton* m_button; // cmdNotice, hidden unless something is offered
     std::function<void()> m_action;
-    bool m_suggests = false; // the action
+    bool m_suggests = false; // the action is a suggestion
 };
 
 } // namespace ptk

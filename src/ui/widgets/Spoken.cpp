@@ -15,11 +15,11 @@ namespace {
 constexpr auto kIsMessage = "isMessage";
 constexpr QChar kMask = '*';
 
-QAccessible::UpdateHandler s_before = nullptr; // who was told before us; the desktop, where it is null
-QPointer<QObject> s_focused;                   // of which a reader knows that it has the keyboard
-QPointer<QObject> s_early;                     // whose focus was told before Qt tells it: told twice, readers take neither
+QAccessible::UpdateHandler s_before = nullptr; // the handler before ours; null: the desktop is told directly
+QPointer<QObject> s_focused;                   // the object that a reader already knows to have the keyboard
+QPointer<QObject> s_early;                     // whose focus we told before Qt does: readers that are told twice say neither
 
-// A notification: what the desktop's readers say without being asked.
+// A label as a notification, which the desktop's screen readers say without being asked.
 class Message final : public QAccessibleWidget
 {
 public:
@@ -101,7 +101,7 @@ void TellFocus(QAccessibleEvent& event)
     }
 }
 
-// A text that gets the keyboard tells first what is selected in it.
+// Tells of the focus before the selection, because Qt tells the selection first when a text gets the keyboard.
 void TellFocusBefore(QAccessibleEvent& text)
 {
     if (text.object() != nullptr && text.object() != s_focused && text.object() == QApplication::focusWidget()) {
@@ -125,7 +125,7 @@ void Watch(QAccessibleEvent* event)
     case QAccessible::TextRemoved:
     case QAccessible::TextUpdated:
         return interface != nullptr && interface->state().passwordEdit ? PassOnPassword(*event) : PassOn(*event);
-    case QAccessible::ObjectShow: // a message that comes up with its window is said, one without words is none
+    case QAccessible::ObjectShow: // a message is said when its window comes up, unless it has no words
         if (interface != nullptr && interface->role() == QAccessible::Notification && interface->text(QAccessible::Name).isEmpty()) {
             return;
         }
@@ -141,7 +141,7 @@ void TellScreenReaders()
 {
     QAccessible::installFactory(MessageOf);
     const auto before = QAccessible::installUpdateHandler(Watch);
-    if (before != Watch) { // at the first call
+    if (before != Watch) { // not so in later calls
         s_before = before;
     }
 }

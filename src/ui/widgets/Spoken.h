@@ -1,16 +1,17 @@
-// What a screen reader is told beyond what the windows' own widgets tell it: of a list or table with the keyboard, which entry is chosen;
-// of a text, that it has the keyboard before what is selected in it; of a password, how many letters were typed instead of which; and
-// messages, as they change.
+// What screen readers are told beyond what the toolkit's widgets tell them: which entry is chosen in a list or table that has the keyboard;
+// that a text has the keyboard, before what is selected in it; how many letters were typed into a password, instead of which; and messages,
+// when they change.
 #pragma once
 
 class QLabel;
 
 namespace ptk {
 
-// From its call on, for all windows of the program.
+// Begins to tell screen readers these things, for all windows of the program.
 void TellScreenReaders();
 
-// Makes a label one whose text a reader says by itself, each time TellAloud is called. For a label that no reader has seen yet.
+// MakeMessage turns a label into one whose text a screen reader says by itself each time TellAloud is called. REQUIRES: no screen reader
+// has seen the label yet.
 void MakeMessage(QLabel& label);
 void TellAloud(QLabel& message);
 

@@ -7,7 +7,7 @@
 #include <QPalette>
 #include <QSvgRenderer>
 
-// Outside any namespace, as its macro wants it. The icons live in a static library, which nobody initialises by itself.
+// Stands outside any namespace, as its macro requires. The icons live in a static library, so nothing else initialises them.
 static void LoadIcons()
 {
     Q_INIT_RESOURCE(icons);

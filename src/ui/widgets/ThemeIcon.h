@@ -5,8 +5,8 @@
 
 namespace ptk {
 
-// data/icons/NAME.svg; what is drawn there in "currentColor" takes the colour of the palette's window text each time it is painted, so
-// light and dark themes both show it, at any scaling.
+// The icon data/icons/NAME.svg. What is drawn there in "currentColor" takes the colour of the palette's window text each time it is
+// painted, so that both light and dark themes show it, at any scaling.
 [[nodiscard]] QIcon ThemeIcon(const QString& name);
 
 } // namespace ptk
