@@ -129,7 +129,7 @@ bool FAutoFill::LoadTimeRecordList()
     });
 }
 
-// Of times that cannot be read no box tells, deliberately.
+// Tells in a box of a wrong range, and deliberately not of times that cannot be read.
 bool FAutoFill::MayFill(const FillPlan& plan)
 {
     if (plan.refusal == FillRefusal::NoRange) {

@@ -1,4 +1,4 @@
-// Makes one time record for every day of a date range, all with the same times of day.
+// The Auto Fill window: it makes one time record for every day of a date range, all with the same times of day.
 #pragma once
 
 #include "office/card/FillPlan.h"
@@ -22,7 +22,7 @@ class Desktop;
 struct Closing;
 struct ReasonLine;
 
-// Adds the records to the list it was given and stores nothing.
+// Adds the new records to the list that it was given, and stores nothing.
 class FAutoFill final : public QDialog
 {
     Q_OBJECT
@@ -33,47 +33,47 @@ public:
 
     void StartDate(DateTime value);
 
-    // Raises Failure 13 when the box holds no date.
+    // The first day. Raises Failure 13 when its box holds no date.
     [[nodiscard]] DateTime StartDate() const;
 
     void EndDate(DateTime value);
     [[nodiscard]] DateTime EndDate() const;
 
-    // Only the times of day matter.
+    // The times of the automatic shift. Only the times of day matter.
     void AutoShiftStartTime(DateTime value) { m_autoShiftStart = value; }
 
     void AutoShiftEndTime(DateTime value) { m_autoShiftEnd = value; }
     void EmployeeID(std::int16_t value) { m_employeeID = value; }
 
-    // Days added to the first day for the last one.
+    // How many days the last day comes after the first one.
     void PeriodLength(std::int16_t value) { m_periodLength = value; }
 
-    // Whether Save made the records.
+    // Whether Save made records; false before it was pressed.
     [[nodiscard]] bool OKClick() const { return m_okClick; }
 
     void TimeRecordList(std::shared_ptr<CTimeRecordList> value) { m_list = std::move(value); }
     [[nodiscard]] std::shared_ptr<CTimeRecordList> TimeRecordList() const { return m_list; }
 
-    // One record for each day from the first to the last, weekends and days with records included; a range of one day is refused,
-    // deliberately. False when none were made: with a message for a wrong range, without one for times that cannot be read.
+    // Adds one record for each day from the first to the last, weekends and days with records included. A range of one day is refused,
+    // deliberately. False when no record was made: with a message for a wrong range, without one for times that cannot be read.
     bool LoadTimeRecordList();
 
-    // A line that says whose the records will be, and one that follows the dates and times with what Save will do. takenDays: those that
-    // already have records of that employee, none when that is not known.
+    // Shows a line that says whose the records will be, and one that follows the dates and times with what Save will do. takenDays: the
+    // days that already have records of that employee, none when that is not known.
     void Announce(const std::string& owner, std::optional<DayNumbers> takenDays);
 
-    // In the first of these lines, too: the period was paid.
+    // Says in the owner's line that the period was paid. To be called after Announce.
     void TellPaid(const Closing& closing);
 
-    // Saving asks once for a reason that is wanted.
+    // Offers reasons to choose from. Save asks once for a reason that is wanted.
     void OfferReasons(const ReasonLine& line);
 
-    // Empty for none.
+    // The typed reason; empty for none.
     [[nodiscard]] std::string Reason() const;
 
     [[nodiscard]] FillTexts Texts() const;
 
-    // Puts its times back into their boxes.
+    // Puts the times of these texts back into their boxes, and leaves the dates as they are.
     void Times(const FillTexts& value);
 
 private:

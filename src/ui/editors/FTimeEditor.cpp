@@ -26,7 +26,7 @@ void ShowDay(DateTimeBox& box, DateTime moment, DateTime today)
     box.SetText(QString::fromStdString(ShortDateText(day.IsZero() ? today : day)));
 }
 
-// Without the seconds, and deliberately empty at midnight, which is what a record still open has for its end.
+// Shows the time without seconds. The box is deliberately empty at midnight, since that is the end of a record that is still open.
 void ShowTime(DateTimeBox& box, DateTime moment)
 {
     const TimeOfDay time = moment.Time();
@@ -120,7 +120,7 @@ void FTimeEditor::Warn()
     m_ui->lblWarning->Say(QString::fromStdString(tooLong + (m_isNew ? NewRecordWarning(texts, m_shownPeriod) : std::string())));
 }
 
-// As Tab would have come to the first box: what is typed takes the place of what stands there.
+// Selects the text of the first box, as the Tab key would, so that what is typed replaces it.
 void FTimeEditor::showEvent(QShowEvent* event)
 {
     QDialog::showEvent(event);
@@ -169,7 +169,7 @@ void FTimeEditor::ShowTimeRecord()
     ShowTotal();
 }
 
-// The same words whatever the cause, deliberately; a start that was read before the end failed stays in the record.
+// Reads the boxes into the record. The message is deliberately the same whatever the cause. If only the end fails, the new start stays.
 bool FTimeEditor::ReadTimeRecord()
 {
     for (auto* box : Boxes()) {
@@ -200,7 +200,7 @@ bool FTimeEditor::HasBothTimes() const
     return !m_ui->dttbStartTime->Text().isEmpty() && !m_ui->dttbEndTime->Text().isEmpty();
 }
 
-// Without a box, which would take the next key: what is wrong is told when the time box is left.
+// Shows the total without a message box, which would take the next key. A mistake is told when the time box is left.
 void FTimeEditor::FollowTyping()
 {
     if (HasBothTimes() && Succeeds([this] { ReadTimes(); })) {
@@ -224,7 +224,7 @@ void FTimeEditor::AutoShift()
     ShowTotal();
 }
 
-// A record whose texts could not be read, which the user has been told by then, goes back all the same, deliberately.
+// Hands the record back, deliberately even if its texts could not be read, of which the user has already been told.
 void FTimeEditor::Save()
 {
     if (m_ui->cboReason->AsksForIt()) {

@@ -25,7 +25,7 @@ class TimeRecordReceiver;
 struct Closing;
 struct ReasonLine;
 
-// Writes into the very record it was given, already while the user types; Cancel does not undo that, deliberately. Only Save hands it back.
+// Writes into the very record it was given, already while the user types; Cancel deliberately does not undo that. Only Save hands it back.
 class FTimeEditor final : public QDialog
 {
     Q_OBJECT
@@ -34,44 +34,45 @@ public:
     FTimeEditor(ptk::Desktop& desktop, const Clock& clock, QWidget* parent = nullptr);
     ~FTimeEditor() override;
 
-    // Not owned.
+    // Sets who gets the record when it is saved; not owned.
     void ParentWindow(TimeRecordReceiver* value) { m_parentWindow = value; }
 
     [[nodiscard]] TimeRecordReceiver* ParentWindow() const { return m_parentWindow; }
 
-    // Shows it; nullptr: empty boxes, and a new record as soon as they are read.
+    // Shows the record. nullptr empties the boxes; a new record is made when they are read.
     void TimeRecord(std::shared_ptr<CTimeRecord> value);
 
     [[nodiscard]] std::shared_ptr<CTimeRecord> TimeRecord() const { return m_timeRecord; }
 
-    // Only the times of day matter; deliberately always false.
+    // Sets the times of the automatic shift. Only the times of day matter; deliberately always false.
     bool SetAutoShiftTimes(DateTime thestarttime, DateTime theendtime);
 
-    // A line that says whose the record will be.
+    // Shows a line that says whose the record will be.
     void Owner(const std::string& text);
 
-    // In that line, too: the period was paid.
+    // Says in the owner's line that the period was paid. To be called after Owner.
     void TellPaid(const Closing& closing);
 
-    // Saving asks once for a reason that is wanted.
+    // Offers reasons to choose from. Save asks once for a reason that is wanted.
     void OfferReasons(const ReasonLine& line);
 
-    // Empty for none.
+    // The typed reason; empty for none.
     [[nodiscard]] std::string Reason() const;
 
-    // Warns, in a line, of a new record that the card of that period would not show.
+    // Has the warning line warn of a new record that the card of that period would not show.
     void WarnAsNew(std::optional<PayPeriod> shown);
 
-    // Warns, in that line, of a shift that has more hours.
+    // Has the warning line warn of a shift of more hours than these.
     void WarnAbove(std::int32_t hours);
 
-    // What stands in the boxes.
+    // The texts in the boxes, and what they were read as.
     [[nodiscard]] RecordTexts Texts() const;
 
-    // Puts it back there, unreadable texts included.
+    // Puts the texts back into the boxes, unreadable ones included.
     void Texts(const RecordTexts& value);
 
-    // What is said when the record was stored as the owner's: what could not be read of the boxes is not in it. REQUIRES: a record.
+    // The sentence for a record that was stored as the owner's. It names texts that could not be read and are not in it. REQUIRES: a
+    // record.
     [[nodiscard]] std::string SavedText(const std::string& owner) const;
 
 protected:
@@ -102,7 +103,7 @@ private:
     std::optional<std::int32_t> m_longShiftHours;
     bool m_isNew = false;
     bool m_modified = false;            // typed into since it was shown; nothing depends on it
-    std::int32_t m_saveErrorNumber = 0; // 608 when the record was rejected; nothing depends on it
+    std::int32_t m_saveErrorNumber = 0; // 608 when the record was not handed over; nothing depends on it
 };
 
 } // namespace ptk

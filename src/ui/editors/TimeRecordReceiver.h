@@ -1,4 +1,4 @@
-// Where the time record editor hands its record when the user saves.
+// The receiver of the record that the user saves in the time record editor.
 #pragma once
 
 #include <memory>
@@ -12,7 +12,7 @@ class TimeRecordReceiver
 public:
     virtual ~TimeRecordReceiver() = default;
 
-    // Stores the record, new or edited, and shows the card afresh; tells the user what goes wrong on the way. Always true.
+    // Stores the record, new or edited, and shows the card afresh. Tells the user what goes wrong on the way; always true.
     virtual bool ReturnTimeRecord(const std::shared_ptr<CTimeRecord>& thetimerecord) = 0;
 };
 
