@@ -1,5 +1,4 @@
-// The main window's side of the reports: makes each with a viewer window of its own and keeps the last of each kind until its viewer
-// closes.
+// The reports of the main window: gives each a viewer window, and keeps the last one of each kind until its viewer closes.
 #pragma once
 
 #include "reports/Report.h"
@@ -15,7 +14,7 @@ namespace ptk {
 class CTimeCard;
 class PageHost;
 
-// A new report of a kind replaces the one before here, which lives on with its open viewer. The destructor closes every viewer still open.
+// A new report of a kind takes the place of the former, which lives on with its open viewer. The destructor closes all open viewers.
 class OpenReports final : public ReportOwner
 {
 public:
@@ -26,16 +25,16 @@ public:
     OpenReports(const OpenReports&) = delete;
     OpenReports& operator=(const OpenReports&) = delete;
 
-    // Raise Failure 91 before the window has its controller.
+    // Makes a report and keeps it. Raises Failure 91 before the window has its controller, as PrintTimeCard does.
     std::shared_ptr<Report> NewReport(const ReportEntry& entry);
 
-    // Writes and shows the form of a generated card. errorNumber: the report's, 0 when nothing went wrong.
+    // Writes and shows the report of a generated card. errorNumber: that of the report, 0 when nothing went wrong.
     bool PrintTimeCard(const std::shared_ptr<CTimeCard>& card, std::int32_t& errorNumber);
 
-    // Drops its reference and answers false, which nobody looks at.
+    // Forgets the report of this kind. The answer is always false, and nobody looks at it.
     bool UnloadReport(ReportKind kind) override;
 
-    // Drops the references; viewers stay open.
+    // Forgets all reports, or all but the review; viewers stay open.
     void Clear(bool exceptReview);
 
     QtViewerFactory& Viewers() { return m_viewers; }

@@ -4,7 +4,7 @@ namespace ptk {
 
 namespace {
 
-// Windows are let go of in their own event handlers, so they are deleted when those have returned.
+// A new viewer window. It is deleted by the event loop, because its owners let go of it in its own event handlers.
 std::shared_ptr<ReportViewerWindow> NewWindow(ReportKind kind)
 {
     const std::string_view name = EntryOf(kind).viewer;

@@ -1,4 +1,4 @@
-// The viewer windows of the reports, alike but for their names: opened here, and found again while they are open.
+// Opens the viewer windows of the reports, which differ in their names only, and finds them again while they are open.
 #pragma once
 
 #include "ui/reports/ReportViewerWindow.h"
@@ -10,25 +10,25 @@
 
 namespace ptk {
 
-// REQUIRES: CloseAll before it goes, so that reports and viewers let go of each other.
+// REQUIRES: CloseAll before its end, so that reports and viewers let go of each other.
 class QtViewerFactory final : public ReportViewerFactory
 {
 public:
-    // Takes the lines that a viewer has for the session log.
+    // `log` is called with each line that a viewer has for the session log.
     explicit QtViewerFactory(std::function<void(const std::string&)> log);
 
     std::shared_ptr<ReportViewer> CreateViewer(ReportKind kind) override;
 
-    // The longest open first.
+    // The visible viewers, the one that has been open longest first.
     [[nodiscard]] std::vector<std::shared_ptr<ReportViewerWindow>> Shown() const;
 
-    // Those that printing has hidden.
+    // Closes the viewers that printing has hidden.
     void ClosePrinted();
 
     void CloseAll();
 
-    // While it lives, windows open behind all others and leave the keyboard where it is; when it goes they rise, and the last one takes it.
-    // One at a time.
+    // While it lives, new windows open behind all others and leave the keyboard where it is. At its end they rise, and the last one takes
+    // the keyboard. There is one of it at a time.
     class OpensBehind
     {
     public:

@@ -28,11 +28,11 @@ namespace {
 
 constexpr auto kNotChecked = "The employees' time cards could not be checked for problems: ";
 
-constexpr int kSettled = 300;        // milliseconds after the days were changed last
-constexpr qint64 kCheckingTime = 30; // milliseconds without a glance at keys and mouse
-constexpr int kTryAgain = 5000;      // milliseconds, where somebody else has the database
+constexpr int kSettled = 300;        // milliseconds between the last change of the days and the check
+constexpr qint64 kCheckingTime = 30; // milliseconds of checking before keys and mouse are looked at
+constexpr int kTryAgain = 5000;      // milliseconds before the next try, where the database could not be read
 
-// The problems alone, a line each.
+// The words of an employee's mark: a summary, and each problem in a line of its own, without the notices.
 QString MarkOf(const CardCheck& check)
 {
     QString words = QString::fromStdString(FindingSummary(check));
@@ -67,7 +67,7 @@ QVariant MarkedEmployees::data(const QModelIndex& index, int role) const
     const auto mark = m_marks.find(QIdentityProxyModel::data(index, kEmployeeIDRole).toInt());
     const bool marked = mark != m_marks.end();
     if (role == Qt::DecorationRole) {
-        return marked ? ThemeIcon(SeverityIconName(Severity::Problem)) : m_blank; // the names stand below each other
+        return marked ? ThemeIcon(SeverityIconName(Severity::Problem)) : m_blank; // blank, so that all names begin at one place
     }
     return marked ? QVariant(mark->second) : QVariant();
 }
@@ -100,7 +100,7 @@ bool ReportPeople::Check(const std::optional<PayPeriod>& days)
     return !same;
 }
 
-// The marks of before say nothing of other days.
+// Removes all marks, which say nothing about other days, and begins the check when the days have settled.
 void ReportPeople::CheckSoon()
 {
     m_reading = nullptr;
@@ -121,7 +121,7 @@ bool ReportPeople::eventFilter(QObject* watched, QEvent* event)
     return QObject::eventFilter(watched, event);
 }
 
-// What was marked stays so until it is read anew.
+// Begins the check again after a change. The marks stay until everybody has been checked anew.
 void ReportPeople::LookAgain()
 {
     if (m_reading != nullptr && NewestChange(m_host) != m_asOf) {
@@ -145,7 +145,7 @@ void ReportPeople::CheckOn()
     m_next.start(kTryAgain);
 }
 
-// By an access of its own, which waits for nobody.
+// Begins the check by an access to the database of its own, which does not wait for others.
 void ReportPeople::Begin()
 {
     const auto controller = m_host.Controller();
@@ -203,7 +203,7 @@ bool ReportPeople::CanTakeIn() const
     return m_reading != nullptr && m_reading->IsDone() && ptk::CanTakeIn(m_reading->Result().leftOut);
 }
 
-// In the order of the list.
+// Takes in those who were left out, and keeps the order of the overview's rows.
 void ReportPeople::TakeIn()
 {
     if (!CanTakeIn()) {

@@ -1,4 +1,4 @@
-// Whose time cards have problems, in the Reports page's list of employees: who is to be looked at before a report of him is passed on.
+// The Reports page's list of employees. It marks those whose cards have problems, to be looked at before a report is passed on.
 #pragma once
 
 #include "model/PayPeriod.h"
@@ -22,7 +22,7 @@ namespace ptk {
 class OverviewReading;
 class PageHost;
 
-// The employees of a list, some of them with an icon, a tool tip, and words for a screen reader.
+// The employees of a list, some of whom have an icon, a tool tip, and words for a screen reader.
 class MarkedEmployees final : public QIdentityProxyModel
 {
     Q_OBJECT
@@ -30,7 +30,7 @@ class MarkedEmployees final : public QIdentityProxyModel
 public:
     using Marks = std::unordered_map<std::int32_t, QString>; // by EmployeeID
 
-    // size: pixels of the icon.
+    // `size` is that of the icon, in pixels.
     MarkedEmployees(int size, QObject* parent);
 
     void Mark(Marks marks);
@@ -43,31 +43,32 @@ private:
     QIcon m_blank;
 };
 
-// Checks the cards of the days that the page shows, a few at a time while the list can be seen and nothing else is to be done, so that
-// neither the list nor anything else waits for it; again where records have been changed. Who could not be checked has no mark.
+// Checks the cards of the days that the page shows, a few at a time while the list is visible and nothing else is to be done, so that
+// neither the list nor anything else waits for it. Checks again after records were changed. An employee who could not be checked has no
+// mark.
 class ReportPeople final : public QObject
 {
     Q_OBJECT
 
 public:
-    // Puts the employees into the list. Not while `isBusy`. Host and list outlive it.
+    // Puts the employees into the list. Nobody is checked while `isBusy`. Host and list outlive it.
     ReportPeople(PageHost& host, QListView& list, std::function<bool()> isBusy);
 
     ~ReportPeople() override;
 
-    // Nothing for a report without days: no marks. Whether these are other days than before.
+    // Checks the cards of these days; without days (for a report that needs none) removes all marks. Answers whether the days are new.
     bool Check(const std::optional<PayPeriod>& days);
 
-    // "17 of 40 have problems: F9", of the chosen ones, as far as they have been checked; empty where nobody has any.
+    // "17 of 40 have problems: F9", of the chosen employees as far as they have been checked; empty where nobody has any.
     [[nodiscard]] std::string ProblemsOfChosen() const;
 
-    // Who has records in these days and is in no list, in one sentence; empty where there is nobody, and while that is not known.
+    // One sentence on who has records in these days and is in no list; empty where there is nobody, and while that is not known.
     [[nodiscard]] std::string LeftOut() const;
 
-    // Whether there is anybody of them who can be chosen.
+    // Whether the list can take in anybody of those whom LeftOut names.
     [[nodiscard]] bool CanTakeIn() const;
 
-    // Puts them into the list, where they stay until other days are checked or the employees are read again.
+    // Puts those who were left out into the list, until other days are checked or the employees are read again.
     void TakeIn();
 
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -88,12 +89,12 @@ private:
     PageHost& m_host;
     QListView& m_list;
     std::function<bool()> m_isBusy;
-    MarkedEmployees* m_employees; // belongs to it
+    MarkedEmployees* m_employees; // belongs to this
     EmployeeColumn m_withTakenIn{EmployeeText::Name};
-    std::vector<std::shared_ptr<CEmployee>> m_takenIn; // all of the list then; empty while it is the given one
+    std::vector<std::shared_ptr<CEmployee>> m_takenIn; // the whole list while it has taken somebody in; else empty
     std::optional<PayPeriod> m_days;
     std::unique_ptr<OverviewReading> m_reading; // nullptr before the days are checked
-    std::optional<std::int64_t> m_asOf;         // the newest entry of the trail when it began
+    std::optional<std::int64_t> m_asOf;         // the newest entry of the trail when the reading began
     QTimer m_next;
 };
 

@@ -33,12 +33,12 @@ constexpr auto kCheckPrinter = "Check that a printer is set up and that the repo
 constexpr auto kNotOpened = "Not opened";
 constexpr auto kCheckViewer = "Check that a program for PDF documents is set up.";
 
-constexpr int kTabWidth = 8;      // characters, as the reports' columns are made for
-constexpr int kFirstColumns = 84; // the 72 characters of a rule and some air
-constexpr int kFirstLines = 44;   // of a card of fifteen shifts with its signatures; a longer report opens higher
+constexpr int kTabWidth = 8;      // characters, the width for which the reports' columns are made
+constexpr int kFirstColumns = 84; // the 72 characters of a rule and some space
+constexpr int kFirstLines = 44;   // those of a card of fifteen shifts with its signatures; a longer report opens higher
 constexpr double kSmallestPoints = 5;
 constexpr double kLargestPoints = 48;
-constexpr int kCascadeStep = 32; // about a title bar
+constexpr int kCascadeStep = 32; // pixels, about the height of a title bar
 
 QFont ReportFont()
 {
@@ -50,7 +50,7 @@ QFont ReportFont()
     return font;
 }
 
-// Within half a step, since a window's place moves by its frame when it is shown.
+// Whether the window stands on another viewer: within half a step of it, since a window moves by its frame when it is shown.
 bool StandsOnAnother(const QWidget& window)
 {
     const auto windows = QApplication::topLevelWidgets();
@@ -77,7 +77,7 @@ ReportViewerWindow::ReportViewerWindow(const QString& name) : m_ui(std::make_uni
 
 ReportViewerWindow::~ReportViewerWindow() = default;
 
-// Where they leave the line beside them too little room, it stands above them.
+// Lays out the buttons. Where they leave the line beside them too little room, it stands above them.
 void ReportViewerWindow::LayOutButtons()
 {
     auto* row = new ButtonRow;
@@ -163,10 +163,10 @@ void ReportViewerWindow::Show()
 void ReportViewerWindow::OpenBehind()
 {
     setAttribute(Qt::WA_ShowWithoutActivating);
-    setWindowFlag(Qt::WindowStaysOnBottomHint); // raising another window after each would take that from what else is on the screen
+    setWindowFlag(Qt::WindowStaysOnBottomHint); // raising another window after each would put that one before the user's other programs
 }
 
-// The flag is taken from the window itself: from the widget it would hide the window first.
+// Takes the flag from the system's window, because taking it from the widget would hide the window first.
 void ReportViewerWindow::Rise()
 {
     setAttribute(Qt::WA_ShowWithoutActivating, false);
@@ -180,7 +180,7 @@ void ReportViewerWindow::BringUp()
     BringForward(*this);
 }
 
-// A report that lost lines answers well and would otherwise pass for whole.
+// Says what the report has lost: it was made without an error and would otherwise pass for complete.
 void ReportViewerWindow::ShowNotice()
 {
     if (m_controller != nullptr) {
@@ -199,7 +199,7 @@ void ReportViewerWindow::Place()
     }
 }
 
-// The whole report where the screen allows it, which RestorePlace sees to.
+// The size for the whole report; RestorePlace makes it smaller where the screen is.
 QSize ReportViewerWindow::FirstSize() const
 {
     const QFontMetrics metrics(m_ui->txtReport->font());
@@ -209,7 +209,7 @@ QSize ReportViewerWindow::FirstSize() const
     return {kFirstColumns * metrics.horizontalAdvance('0'), lines * metrics.lineSpacing() + margins + around};
 }
 
-// A size that the user has chosen is for all windows of this kind; otherwise each fits its own report.
+// Keeps a size that the user has chosen, for all windows of this kind. Otherwise each window fits its own report.
 void ReportViewerWindow::Hide()
 {
     if (size() != m_placed) {
@@ -268,7 +268,7 @@ void ReportViewerWindow::OpenPdf()
 
 void ReportViewerWindow::SaveAs()
 {
-    const auto report = m_controller; // the dialog lets the window go on
+    const auto report = m_controller; // a copy: the window may be closed while the dialog is open
     if (report == nullptr) {
         return;
     }
@@ -290,7 +290,7 @@ void ReportViewerWindow::SaveAs()
     Succeeds(save, [this](const Failure& reason) { Say(reason.Description()); });
 }
 
-// What is missing from a report is said beside whatever else there is to say.
+// Says the text, and beside it what is missing from the report.
 void ReportViewerWindow::Say(const std::string& text)
 {
     const std::string gaps = m_controller == nullptr ? "" : DescribeGaps(m_controller->ErrorNumber(), m_controller->Missing());
@@ -325,7 +325,7 @@ void ReportViewerWindow::ShowFindBar(bool shown)
     m_ui->txtFind->selectAll();
 }
 
-// Goes on from the selection and, past the end, from the other end.
+// Finds the text after the selection, or before it. At the end of the report it goes on from the other end.
 void ReportViewerWindow::Find(bool backward)
 {
     const QString text = m_ui->txtFind->text();

@@ -1,4 +1,4 @@
-// The viewer window of the reports: the text as it was written, find, zoom, save, show as pages, print and close.
+// The viewer window of a report: shows the text as it was written, with find, zoom, save, show as pages, print and close.
 #pragma once
 
 #include "reports/ReportViewer.h"
@@ -13,14 +13,14 @@ class ReportViewerWindow;
 
 namespace ptk {
 
-// The lines are collected and become one text when the window is shown, so that ten thousand of them open at once. Closing it unloads the
-// report.
+// Collects the lines and makes one text of them when the window is shown, so that ten thousand of them open at once. Closing the window
+// unloads the report.
 class ReportViewerWindow : public QMainWindow, public ReportViewer
 {
     Q_OBJECT
 
 public:
-    // The object's name, under which its size is remembered.
+    // `name` is the object's name, under which the window's size is remembered.
     explicit ReportViewerWindow(const QString& name);
 
     ~ReportViewerWindow() override;
@@ -28,40 +28,40 @@ public:
     void Controller(std::shared_ptr<Report> value) override { m_controller = std::move(value); }
     void Caption(const std::string& value) override;
 
-    // Always true.
+    // Appends a line; always true.
     bool WriteLine(const std::string& buffer) override;
 
-    // To the front, or behind everything where it is opened so.
+    // Shows the window in front of all others, or behind them after OpenBehind.
     void Show() override;
     void Hide() override;
     void Unload() override;
 
-    // To be called before it is shown: it opens below all other windows, without the keyboard, and stays there until it is to rise.
+    // Has the window open below all others, without the keyboard, and stay there until Rise. To be called before it is shown.
     void OpenBehind();
 
-    // In front of the others, still without the keyboard.
+    // Puts the window in front of the others, still without the keyboard.
     void Rise();
 
-    // To the front.
+    // Puts the window in front of the others and gives it the keyboard.
     void BringUp();
 
-    // Hides the window when the printer has taken the report, and says so in its line when not.
+    // Hides the window when the printer has taken the report; otherwise says in its line why not.
     bool Print();
 
-    // What closing does: hides the window and unloads its report, once.
+    // Hides the window and unloads its report, once, as closing does.
     void LetGo();
 
-    // Hidden by printing, where nobody can close it.
+    // Whether printing has hidden the window, so that nobody can close it.
     [[nodiscard]] bool Printed() const { return m_printed; }
 
 signals:
-    // For the session log.
+    // Something failed; `line` is for the session log.
     void Failed(const QString& line);
 
 protected:
     void closeEvent(QCloseEvent* event) override;
 
-    // Ctrl+wheel over the text.
+    // Zooms for Ctrl and the wheel over the text.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -72,10 +72,10 @@ private:
     void OpenPdf();
     void Say(const std::string& text);
 
-    // In the window's line, and for the session log.
+    // Says in the window's line what was refused and why, or without a reason the advice, and sends it to the session log.
     void TellRefusal(const char* what, const char* advice);
 
-    // Leaves the find bar, then the window.
+    // Closes the find bar, or else the window.
     void Escape();
 
     void ShowFindBar(bool shown);
@@ -92,7 +92,7 @@ private:
     std::string m_lines; // written and not yet in the text box
     double m_firstPointSize = 0;
     bool m_printed = false;
-    QSize m_placed; // as it was opened
+    QSize m_placed; // the size with which it was opened
 };
 
 } // namespace ptk

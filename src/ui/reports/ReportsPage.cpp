@@ -59,7 +59,7 @@ constexpr auto kSameTip = "Take the dates that the Timecards page shows";
 
 constexpr int kNameCharacters = 72; // the list is no wider than names need
 
-// What the user sees is what the report is asked for; a text that is no date is the report's to refuse.
+// The date that the report is asked for, as the user sees it. A text that is no date is left to the report to refuse.
 Value ChosenDate(const DateCombo& box)
 {
     const auto date = box.Date();
@@ -112,7 +112,7 @@ void ReportsPage::ConnectControls()
 {
     ChooseOnlyDeliberately(*m_ui->cboReports);
     connect(m_ui->cboReports, &QComboBox::currentIndexChanged, this, &ReportsPage::SelectReport);
-    connect(m_ui->cboReports, &QComboBox::activated, this, &ReportsPage::SelectReport); // also the entry that was chosen before
+    connect(m_ui->cboReports, &QComboBox::activated, this, &ReportsPage::SelectReport); // for the entry that was chosen before, too
     connect(m_ui->cmdGenerate, &QPushButton::clicked, this, &ReportsPage::Generate);
     connect(m_ui->cmdAccountant, &QPushButton::clicked, this, &ReportsPage::SaveForAccountant);
 }
@@ -257,7 +257,7 @@ void ReportsPage::ShowPeriod()
     }
 }
 
-// Days of one's own choice need no explanation.
+// Explains the days where they are the offered ones; days that the user has chosen need no explanation.
 void ReportsPage::ShowOfferedNotice(const ReportEntry& entry)
 {
     std::string notice;
@@ -314,7 +314,7 @@ void ReportsPage::Generate()
     TellProblems();
 }
 
-// Also when they have been checked only after the run.
+// Called after a run, and again when everybody has been checked, which may come later.
 void ReportsPage::TellProblems()
 {
     if (m_ui->notice->Text() != m_told) {
@@ -332,7 +332,7 @@ void ReportsPage::TellProblems()
     m_told = told;
 }
 
-// They are of other days.
+// Takes the problems out of the line when the days change, because they belong to other days.
 void ReportsPage::ForgetProblems()
 {
     if (m_told != m_outcome && m_ui->notice->Text() == m_told) {
@@ -348,7 +348,7 @@ void ReportsPage::TakeIn()
     m_ui->notice->Say(m_outcome);
 }
 
-// Shows what becomes of a run.
+// The page as the client of a run: shows its progress, its outcome and its failures.
 class ReportsPage::Client final : public ReportClient
 {
 public:
@@ -370,7 +370,7 @@ private:
     ReportsPage& m_page;
     const ReportEntry& m_entry;
     std::unique_ptr<WorkProgress> m_progress;
-    std::int32_t m_all; // employees
+    std::int32_t m_all; // how many employees
 };
 
 void ReportsPage::Client::Made(Report& report, bool complete, const std::string& outcome)
@@ -387,7 +387,7 @@ void ReportsPage::Client::ShowFailure(const Report& report)
 {
     const bool more = m_entry.whom == ReportWhom::Each;
     if (!more) {
-        m_progress = nullptr; // gone before the box opens
+        m_progress = nullptr; // ended before the box opens
     }
     m_page.ShowFailure(report.ErrorNumber(), report.ReportName());
     if (more) {

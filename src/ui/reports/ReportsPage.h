@@ -1,4 +1,4 @@
-// The Reports page: which report, for whom, for which days.
+// The Reports page: the user chooses a report, the employees and the days.
 #pragma once
 
 #include "model/PayPeriod.h"
@@ -30,13 +30,13 @@ public:
     explicit ReportsPage(PageHost& host, QWidget* parent = nullptr);
     ~ReportsPage() override;
 
-    // Always true; selects none.
+    // Fills the list of reports and selects none; always true.
     bool FillReportList();
 
     bool SelectFirstReport();
     void EnableGenerate();
 
-    // A box or the progress of it may be open.
+    // Whether reports are being made; a box or their progress may be open.
     [[nodiscard]] bool IsGenerating() const { return m_generating; }
 
 private:
@@ -51,7 +51,7 @@ private:
     void OfferEmployees(bool needed);
     void ChangeFromDate();
 
-    // 1 or -1.
+    // `direction` is 1 for the next period, -1 for the one before.
     void StepPeriod(std::int16_t direction);
 
     void TakeTimeCardPeriod();
@@ -66,18 +66,18 @@ private:
     void Generate();
     void Run(const ReportEntry& entry);
 
-    // Asks where they are many.
+    // Asks the user before many windows open.
     bool MayOpenWindows(const ReportOrder& order);
 
-    // Beside the outcome of the last run, while the line still tells it, and who is in no list.
+    // Says who has problems and who is in no list, beside the outcome of the last run as long as the line still tells it.
     void TellProblems();
     void ForgetProblems();
     void TakeIn();
 
-    // In the list box's order.
+    // The names that the report is for, in the order of the list box.
     [[nodiscard]] std::vector<std::string> Names(ReportWhom whom) const;
 
-    // Nothing while the boxes do not hold any.
+    // The days in the boxes; nothing while they hold no date, or the last day comes before the first.
     [[nodiscard]] std::optional<PayPeriod> Days() const;
 
     void ShowFailure(std::int32_t errorNumber, const std::string& reportName);
@@ -87,7 +87,7 @@ private:
     std::unique_ptr<Ui::ReportsPage> m_ui;
     ReportPeople* m_people;   // belongs to the page's list
     QString m_outcome;        // of the last run
-    QString m_told;           // that, with what is told beside it
+    QString m_told;           // the outcome with what is told beside it
     std::string m_reportName; // of the selected report, for the status bar
     bool m_generating = false;
 };

@@ -12,7 +12,7 @@ namespace {
 
 constexpr auto kNone = "No report is open";
 constexpr auto kLineName = "mnuWindowReport%1";
-constexpr int kDigits = 9; // windows that a digit reaches
+constexpr int kDigits = 9; // how many windows have a digit as their key
 
 QString Caption(int number, QString title)
 {

@@ -1,4 +1,4 @@
-// The Window menu: the open report windows, and what is done to all of them.
+// The Window menu: it lists the open report windows, and prints or closes all of them.
 #pragma once
 
 #include <functional>
@@ -10,16 +10,16 @@ namespace ptk {
 
 class QtViewerFactory;
 
-// Adds a line for each open window below what the menu holds already, each time it opens.
+// Each time the menu opens, adds a line for each open window below what the menu holds already.
 class WindowMenu final : public QObject
 {
     Q_OBJECT
 
 public:
-    // Both outlive it.
+    // The menu and the viewers outlive it.
     WindowMenu(QMenu& menu, QtViewerFactory& viewers);
 
-    // In the order of their opening, until a printer refuses one; those printed are hidden.
+    // Prints the windows in the order in which they were opened, until a printer refuses one. Those that were printed are hidden.
     void PrintAll();
 
 signals:
