@@ -12,7 +12,7 @@ namespace ptk {
 
 class OverviewReading;
 
-// In the order of reading. Shows what has been read of a reading that goes on meanwhile.
+// Holds the rows in the order in which they are read. It can show a reading that still goes on: then it holds what has been read so far.
 class OverviewModel final : public QAbstractTableModel
 {
     Q_OBJECT
@@ -20,13 +20,13 @@ class OverviewModel final : public QAbstractTableModel
 public:
     using QAbstractTableModel::QAbstractTableModel;
 
-    // Takes in what has been read since; another reading than before takes the place of its rows.
+    // Adds the rows that were read since the last call. Another reading than before replaces all rows.
     void Show(const std::shared_ptr<const OverviewReading>& reading);
 
-    // The same where rows were put between those that were shown.
+    // Shows all rows of the reading anew. Needed where rows were put between those that were shown.
     void ShowAnew(const std::shared_ptr<const OverviewReading>& reading);
 
-    // REQUIRES: a reading was shown, here and in the next two.
+    // REQUIRES: HasReading, also for Rows and Row.
     [[nodiscard]] const OverviewReading& Shown() const { return *m_reading; }
 
     [[nodiscard]] const std::vector<OverviewRow>& Rows() const;
@@ -43,7 +43,7 @@ private:
     int m_shown = 0;
 };
 
-// The same sorted by a column, and without those who have no problems where that is wanted.
+// Sorts the rows of an OverviewModel by a column and, where that is wanted, leaves out people without problems.
 class SortedOverview final : public QSortFilterProxyModel
 {
     Q_OBJECT
@@ -63,7 +63,7 @@ private:
     bool m_onlyProblems = false;
 };
 
-// What stands below the rows: the sums, or who was left out.
+// The lines below the rows of the overview: the sums, or the people who were left out.
 class OverviewLinesModel final : public QAbstractTableModel
 {
     Q_OBJECT

@@ -22,7 +22,7 @@ constexpr int kCellSpace = 12;
 constexpr int kNameCharacters = 18;
 constexpr int kMostLeftOut = 3; // lines
 
-// A day, an amount: their sums are counts, which need less.
+// The widest texts of the columns with a day and with an amount. The sums below them are counts, which are narrower.
 constexpr auto kWidestDay = "88/88/8888";
 constexpr auto kWidestChange = "+8888.88";
 
@@ -149,7 +149,7 @@ const OverviewRow* OverviewTables::StepToProblems(std::optional<std::int32_t> em
     return &m_rows->Rows().at(lines.at(*found));
 }
 
-// That one alone, also while Shift is held, as it is for a step back.
+// Chooses this line alone, even while Shift is held: Shift+F3 steps back.
 void OverviewTables::ChooseLine(int line)
 {
     m_table.selectionModel()->setCurrentIndex(m_sorted->index(line, 0), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
@@ -166,7 +166,7 @@ void OverviewTables::TakeChoice()
     }
 }
 
-// Those of the reading before who have come since.
+// Chooses the people whom the user had chosen in the reading before and whose rows have been read by now.
 void OverviewTables::ChooseAgain()
 {
     QItemSelectionModel& selection = *m_table.selectionModel();
@@ -200,7 +200,7 @@ void OverviewTables::ShowTotals()
     }
 }
 
-// As high as a few of them; the others are scrolled to.
+// The table is at most kMostLeftOut lines high; the others are scrolled to.
 void OverviewTables::ShowLeftOut()
 {
     std::vector<OverviewCells> lines;
@@ -213,7 +213,8 @@ void OverviewTables::ShowLeftOut()
     m_leftOut->Show(std::move(lines));
 }
 
-// The names take what the figures leave. Headings and sums have to fit; no figure is wider than its sum, or hardly.
+// The column of names takes the width that the figures leave. Each other column fits its heading and its sum: hardly any figure is wider
+// than its sum.
 void OverviewTables::FitColumns()
 {
     QFont bold = m_table.font();

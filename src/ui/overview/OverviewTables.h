@@ -1,4 +1,5 @@
-// The tables of the payday overview, its rows, their sums and those left out: who is shown, who is chosen, how wide the columns are.
+// The three tables of the payday overview: its rows, their sums, and the people who were left out. Decides who is shown, who is chosen and
+// how wide the columns are.
 #pragma once
 
 #include "office/overview/OverviewTable.h"
@@ -34,37 +35,40 @@ public:
 
     OverviewTables(const Place& place, QObject* parent);
 
-    // What has been read since, see OverviewModel. Those who were chosen are chosen again as soon as they are there.
+    // Shows what has been read since the last call, see OverviewModel::Show. People whom the user had chosen are chosen again once they are
+    // read.
     void Show(const std::shared_ptr<const OverviewReading>& reading);
 
-    // The same where rows were put between those that were shown.
+    // Shows all rows of the reading anew. Needed where rows were put between those that were shown.
     void ShowAnew(const std::shared_ptr<const OverviewReading>& reading);
 
-    // nullptr before the first.
+    // The reading whose rows are shown; nullptr before the first.
     [[nodiscard]] const OverviewReading* Shown() const;
 
     void ShowOnlyProblems(bool only);
 
-    // The chosen one, else the first; nullptr without rows. Good until another reading is shown.
+    // A chosen row, or the first row where none is chosen; nullptr without rows. Good until another reading is shown or people are taken
+    // into this one.
     [[nodiscard]] const OverviewRow* ShownRow() const;
 
-    // Chooses the next one with problems (direction 1) or the one before (-1) in the order of the table. From the chosen row where nobody
-    // is named; from the first or the last where he has no row. nullptr beyond the ends.
+    // Chooses the next person with problems (direction 1) or the one before (-1) in the order of the table and answers the row. Counts from
+    // the named employee, or from the chosen row where nobody is named; from the first or the last row where there is no such row. nullptr
+    // where nobody is left.
     const OverviewRow* StepToProblems(std::optional<std::int32_t> employeeID, int direction);
 
-    // In the order in which they stand; none where nobody is chosen.
+    // The chosen rows in the order of the table; none where nobody is chosen.
     [[nodiscard]] std::vector<const OverviewRow*> ChosenRows() const;
 
     void ChooseNone();
 
-    // A heading and the chosen rows in the order in which they stand, or all.
+    // The heading, then the chosen rows, or all rows where none is chosen, in the order of the table.
     [[nodiscard]] std::vector<OverviewCells> ChosenCells() const;
 
-    // The room of the rows.
+    // Fits the columns to a new size of the table of rows.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 signals:
-    // Which row is shown, what it holds, or who is chosen, may be another.
+    // ShownRow, what it holds, or ChosenRows may have changed.
     void ShownRowChanged();
 
 private:
@@ -84,12 +88,12 @@ private:
     QTableView& m_table;
     QTableView& m_sums;
     QTableView& m_others;
-    OverviewModel* m_rows; // these four belong to it
+    OverviewModel* m_rows; // this one and the next three are children of this object
     SortedOverview* m_sorted;
     OverviewLinesModel* m_totals;
     OverviewLinesModel* m_leftOut;
-    std::set<std::int32_t> m_kept; // who was chosen by the user, also while they are not there
-    bool m_showing = false;        // the choice that changes is not the user's
+    std::set<std::int32_t> m_kept; // EmployeeIDs that the user chose, whether or not they have been read
+    bool m_showing = false;        // while the program, not the user, changes what is chosen
 };
 
 } // namespace ptk

@@ -53,7 +53,7 @@ FAddShift::Usual UsualShift(const CSystemOptions& options, const std::shared_ptr
     return {options.AutoShiftStartTime(), options.AutoShiftEndTime(), LoadCheckLimits(database).longShiftHours};
 }
 
-// Today where that lies in the period, else the period's last day.
+// Today where it lies in the period, else the period's last day.
 DateTime ProposedDay(const PayPeriod& period, DateTime today)
 {
     return period.from <= today && today <= period.to ? today : period.to;
@@ -80,7 +80,7 @@ std::vector<std::shared_ptr<CEmployee>> PaydayActions::PeopleOf(const PaydayWhom
     return people;
 }
 
-// Nothing else of the program may come to the database in the midst of it.
+// Blocks all windows: nothing else of the program may use the database while `work` runs.
 bool PaydayActions::Run(const char* title, const char* text, const Work& work, const char* refused)
 {
     bool cancelled = false;
@@ -163,7 +163,7 @@ void PaydayActions::ChangePayday(const PaydayWhom& whom, bool close)
     }
 }
 
-// Of time records; why not, in a sentence.
+// Stores changes of time records. Answers why nothing was stored, in a sentence; empty where it was.
 QString PaydayActions::Store(const char* title, const std::string& reason, const std::function<bool(CJetDB& database)>& store)
 {
     std::string refusal;

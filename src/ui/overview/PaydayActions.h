@@ -1,5 +1,4 @@
-// What the payday overview does for people besides showing them: closing their payday and taking that back, mending their cards, adding a
-// shift.
+// The actions of the payday overview: closing a payday and reopening it, mending the cards of several people, adding a shift for them.
 #pragma once
 
 #include "model/PayPeriod.h"
@@ -22,40 +21,41 @@ class CJetDB;
 class Workplace;
 class WorkProgress;
 
-// For whom. Without anybody chosen it is everybody who is shown.
+// The people whom an action is for: those who are chosen, or everybody who is shown where nobody is chosen.
 struct PaydayWhom
 {
     PayPeriod period;
     std::vector<std::int32_t> shown;   // EmployeeIDs, in the order of the list
-    std::vector<std::int32_t> takenIn; // of these the ones who are in no list
+    std::vector<std::int32_t> takenIn; // those of `shown` who are not offered time cards and were taken in
     std::vector<std::int32_t> chosen;
-    std::int64_t troubled = 0; // how many of the chosen have problems, what was paid differently aside
-    bool paid = false;         // the period, to one of the people
+    std::int64_t troubled = 0; // how many of `chosen` have problems; a difference to what was paid does not count as one
+    bool paid = false;         // whether the period was paid to at least one of People()
 
     [[nodiscard]] const std::vector<std::int32_t>& People() const { return chosen.empty() ? shown : chosen; }
 };
 
-// Each is one step of the edit trail, which Edit > Undo takes back; nothing else happens meanwhile but painting and Cancel. No member
+// Each action stores one step of the edit trail, which Edit > Undo takes back. While it runs, windows only paint and take Cancel. No member
 // raises.
 class PaydayActions final : public QObject
 {
     Q_OBJECT
 
 public:
-    // Both outlive it; the window is what its dialogs belong to.
+    // Both outlive it. `window` is the parent of its dialogs.
     PaydayActions(Workplace& host, QWidget& window);
 
-    // Asks where chosen ones have problems.
+    // Asks first where `troubled` is not 0.
     void Close(const PaydayWhom& whom);
     void Reopen(const PaydayWhom& whom);
     void MendSeveral(const PaydayWhom& whom);
     void AddShift(const PaydayWhom& whom);
 
 signals:
-    // It was done: what came of it, and where that is of use, a line a person under a title.
+    // The action ran to its end, though it may have found nothing to store. `news` says what came of it; `lines`, one for each person,
+    // stand under `title`, both empty where one sentence is enough.
     void Done(const QString& news, const QString& title, const QStringList& lines);
 
-    // Nothing was stored, and why.
+    // Nothing was stored; `text` says why.
     void Said(const QString& text);
 
 private:

@@ -115,7 +115,7 @@ void PaydayButtons::ShowAccount()
     m_account->Open(m_reading->Result().period);
 }
 
-// Of people as they were read; namesakes are told apart by their rows.
+// Saves the people as they were read. Rows, not names, say who is chosen: two people can have the same name.
 void PaydayButtons::SaveForAccountant()
 {
     const auto open = [this] {
@@ -137,7 +137,7 @@ std::optional<HistoryScope> PaydayButtons::ShownHistory() const
     return m_account != nullptr && m_account->isActiveWindow() ? m_account->ShownHistory() : std::nullopt;
 }
 
-// Reading begins with an empty line.
+// The news is shown after the overview was told to read again, because that empties the line.
 void PaydayButtons::TellDone(const QString& news, const QString& title, const QStringList& lines)
 {
     emit ReadAgainWanted();

@@ -1,4 +1,4 @@
-// The buttons of the payday overview that do something for people, and the words that say for whom.
+// The buttons of the payday overview that start an action for people, with captions and tool tips that say for whom.
 #pragma once
 
 #include "model/PayPeriod.h"
@@ -22,16 +22,16 @@ class PaydayActions;
 struct HistoryScope;
 struct PaydayWhom;
 
-// They mean those who are chosen in the table, or, where nobody is, everybody of the reading.
+// The buttons act on the people who are chosen in the table, or on everybody of the reading where nobody is chosen.
 class PaydayButtons final : public QObject
 {
     Q_OBJECT
 
 public:
-    // All outlive it.
+    // The controls that the buttons work with. All outlive it.
     struct Place
     {
-        QWidget& window; // theirs
+        QWidget& window; // the one that holds them all
         QPushButton& close;
         QPushButton& mend;
         QPushButton& more;
@@ -42,14 +42,15 @@ public:
     PaydayButtons(Workplace& host, const Place& place);
     ~PaydayButtons() override;
 
-    // For those of this reading; nullptr as long as not everybody has been read. To be called whenever somebody else is chosen, too.
+    // Enables the buttons for the people of this reading; nullptr disables them, for as long as not everybody has been read. To be called
+    // also whenever somebody else is chosen.
     void Offer(std::shared_ptr<const OverviewReading> reading);
 
-    // Of the person in the account, where that is in front.
+    // The history of the person who is chosen in the account; nothing where the account's window is not the active one.
     [[nodiscard]] std::optional<HistoryScope> ShownHistory() const;
 
 signals:
-    // Something may have been stored. What is said of it follows.
+    // Something may have been stored, so the overview is to be read again. The sentence about it is shown after that.
     void ReadAgainWanted();
 
 private:
