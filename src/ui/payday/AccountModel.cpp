@@ -13,7 +13,7 @@ QString CellOf(const AccountCells& cells, int column)
     return QString::fromStdString(cells.at(static_cast<std::size_t>(column)));
 }
 
-// Names to the left, figures to the right.
+// Names stand to the left, figures to the right.
 QVariant Alignment(int column)
 {
     const bool name = static_cast<AccountColumn>(column) == AccountColumn::Name;
@@ -44,7 +44,7 @@ int AccountModel::columnCount(const QModelIndex& parent) const
     return parent.isValid() ? 0 : static_cast<int>(kAccountColumns);
 }
 
-// An icon tells those of whom something is owed.
+// An icon marks the people whose card differs from what they were paid.
 QVariant AccountModel::data(const QModelIndex& index, int role) const
 {
     const AccountPerson& person = *Person(index.row());

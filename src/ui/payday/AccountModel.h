@@ -15,7 +15,7 @@ class AccountModel final : public QAbstractTableModel
 public:
     using QAbstractTableModel::QAbstractTableModel;
 
-    // nullptr: nothing.
+    // Replaces all rows; nullptr: there are none.
     void Show(std::shared_ptr<const PaydayAccount> account);
 
     // nullptr where there is no such row.

@@ -16,7 +16,7 @@ class FPaydayLines final : public QDialog
     Q_OBJECT
 
 public:
-    // A line a person.
+    // `lines`: one for each person.
     FPaydayLines(QWidget* parent, const QString& title, const QStringList& lines);
     ~FPaydayLines() override;
 
