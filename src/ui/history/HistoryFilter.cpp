@@ -37,7 +37,7 @@ struct ActionChoice
 constexpr ActionChoice kActions[] = {{"Any change", ""}, {"Added", "insert"}, {"Changed", "update"}, {"Deleted", "delete"}};
 
 constexpr int kTyping = 400;            // milliseconds after the last key
-constexpr int kNameCharacters = 14;     // shown on the smallest window
+constexpr int kNameCharacters = 14;     // of a name, shown on the smallest window
 constexpr int kMostNameCharacters = 32; // on the largest
 
 QString Text(const std::string& text)
@@ -45,7 +45,7 @@ QString Text(const std::string& text)
     return QString::fromStdString(text);
 }
 
-// An empty box is no day and no fault.
+// Whether the box holds text that is no date. An empty box asks for no day and is no fault.
 bool IsFaulty(const DateCombo& box)
 {
     return !box.Date() && !box.Text().trimmed().isEmpty();
@@ -63,7 +63,7 @@ bool Holds(const QComboBox& box, const Entries& entries)
     return same;
 }
 
-// Many thousand entries take a moment, and seldom are they others. The first one is chosen where the chosen one is gone.
+// Fills the box only where its entries have changed: many thousands of them take a moment. Chooses the first entry where `chosen` is gone.
 void Refill(QComboBox& box, const Entries& entries, const QVariant& chosen)
 {
     if (!Holds(box, entries)) {
@@ -93,7 +93,7 @@ std::array<QComboBox*, 4> HistoryFilter::Boxes() const
     return {m_ui->cboHistoryEmployee, m_ui->cboHistoryPerson, m_ui->cboHistoryKind, m_ui->cboHistoryAction};
 }
 
-// What stands side by side folds on a narrow window.
+// Rows of boxes are broken on a narrow window.
 void HistoryFilter::LayOut()
 {
     auto* row = new FoldingRow;
@@ -181,7 +181,7 @@ void HistoryFilter::ShowAll()
     emit Changed();
 }
 
-// It is one of that employee.
+// The scope belongs to its employee, so it is dropped when another one is chosen.
 void HistoryFilter::DropScope()
 {
     m_scope.reset();

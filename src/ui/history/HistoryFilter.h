@@ -1,4 +1,4 @@
-// What of the history is asked for: of whom, by whom, what, when.
+// The boxes that say which part of the history is asked for: whose records, changed by whom, which kind of change, on which days.
 #pragma once
 
 #include "office/history/HistoryScope.h"
@@ -30,23 +30,23 @@ public:
     explicit HistoryFilter(QWidget* parent = nullptr);
     ~HistoryFilter() override;
 
-    // See DateCombo.
+    // Hands the clock to both date boxes, see DateCombo.
     void SetClock(const Clock& clock);
 
-    // Of whom and by whom; what is chosen stays chosen where it is still there.
+    // Fills the boxes of employees and of persons who made changes. What is chosen stays chosen where it is still there.
     void Fill(const EmployeeNames& employees, const std::vector<std::string>& persons);
 
-    // Everything, or just this; what is filled in afterwards has its employee.
+    // Sets all boxes back: everything is asked for, or only `scope`, whose employee the next call of Fill chooses.
     void Start(const std::optional<HistoryScope>& scope);
 
-    // Nothing while the days are no days, or end before they begin.
+    // What is asked for; nothing where a date box holds no date, or the last day is before the first.
     [[nodiscard]] std::optional<TrailQuery> Query() const;
 
-    // Anything less than all.
+    // Whether less than the whole history is asked for; also true while a scope is offered and not ticked.
     [[nodiscard]] bool Narrows() const;
 
 signals:
-    // By the user; typed days when they have been left alone for a moment.
+    // The user has changed what is asked for. A changed day is told once the boxes were left alone for 400 ms.
     void Changed();
 
 private:
@@ -59,7 +59,7 @@ private:
     void ShowAll();
 
     std::unique_ptr<Ui::HistoryFilter> m_ui;
-    std::optional<HistoryScope> m_scope; // offered by the box, whether it is ticked or not
+    std::optional<HistoryScope> m_scope; // what the check box offers, whether it is ticked or not
     QTimer m_typing;
 };
 

@@ -1,4 +1,4 @@
-// The rows of the history, newest first; older ones are read as the view asks for them.
+// The rows of the history, newest first. Older ones are read when the view asks for them.
 #pragma once
 
 #include "office/history/HistoryReading.h"
@@ -15,13 +15,13 @@ class HistoryModel final : public QAbstractTableModel
 public:
     using QAbstractTableModel::QAbstractTableModel;
 
-    // With what has been read of it so far; nullptr: nothing.
+    // Replaces all rows by what has been read of `reading` so far; nullptr: there are none.
     void Show(std::shared_ptr<HistoryReading> reading);
 
-    // REQUIRES: a row.
+    // REQUIRES: there is such a row.
     [[nodiscard]] const HistoryCells& Cells(int row) const { return m_reading->Rows().at(static_cast<std::size_t>(row)); }
 
-    // After a failure no more is read: the view would ask again at once.
+    // False after a failure, too: else the view would ask again at once.
     bool canFetchMore(const QModelIndex& parent = {}) const override;
     void fetchMore(const QModelIndex& parent = {}) override;
 
@@ -31,7 +31,7 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 signals:
-    // Why no more could be read.
+    // More rows could not be read; `reason` says why.
     void Failed(const QString& reason);
 
 private:
