@@ -25,8 +25,8 @@ constexpr QSize kLeastMendSize(480, 340);
 constexpr int kRowRoom = 8; // pixels around the text of a row
 constexpr int kColumnRoom = 24;
 constexpr int kTickRoom = 28;
-constexpr int kMostCharacters = 34;    // of another column than the findings
-constexpr int kFindingCharacters = 30; // at least
+constexpr int kMostCharacters = 34;    // of any column except the findings
+constexpr int kFindingCharacters = 30; // of the findings, at least
 constexpr int kHintLines = 2;
 
 QString Counted(std::size_t count, const char* thing)
@@ -83,7 +83,7 @@ void FMendSeveral::Connect()
     connect(m_ui->cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
 }
 
-// The findings take what the others leave.
+// The column of findings takes the width that the others leave.
 void FMendSeveral::FitColumns()
 {
     QTableView* table = m_ui->grdMend;
@@ -130,7 +130,7 @@ void FMendSeveral::ShowTicked()
     m_ui->cmdSave->setToolTip(ticked > 0 ? kSaveTip : kNoneTicked);
 }
 
-// Whole, as the row may not have the room.
+// Shows the whole finding of the current row below the table, because its cell may be too narrow.
 void FMendSeveral::ShowLine()
 {
     const QModelIndex current = m_ui->grdMend->currentIndex();

@@ -1,4 +1,5 @@
-// Mends what the check found on the cards of several people: each finding with its first remedy, to be ticked, changed and stored at once.
+// The window that mends what the check found on the cards of several people. It shows each finding with its first remedy, lets the user
+// tick and change remedies, and stores what is ticked at once.
 #pragma once
 
 #include "office/card/MendPlan.h"
@@ -17,24 +18,24 @@ namespace ptk {
 class MendModel;
 struct ReasonLine;
 
-// Tells all that goes wrong itself, and then stays for another try.
+// Shows every failure to store the remedies itself and then stays open for another try.
 class FMendSeveral final : public QDialog
 {
     Q_OBJECT
 
 public:
-    // Stores what is ticked, all or nothing, for that reason; empty for none. Answers why it did not, in a sentence; empty where it did.
+    // Stores all that is ticked, or nothing. An empty `reason` is none. Answers why nothing was stored, in a sentence; empty where it was.
     using Storer = std::function<QString(const MendPlan& plan, const std::string& reason)>;
 
-    // REQUIRES: the plan has a line at least.
+    // REQUIRES: the plan has at least one line.
     FMendSeveral(QWidget* parent, MendPlan plan, const ReasonLine& reasons, Storer storer);
     ~FMendSeveral() override;
 
-    // What was stored, for a line; empty where nothing was.
+    // What was stored, as a line to show; empty where nothing was.
     [[nodiscard]] QString Stored() const { return m_stored; }
 
 protected:
-    // The room of the table.
+    // Fits the columns to a new size of the table.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

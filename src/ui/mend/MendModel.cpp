@@ -90,7 +90,7 @@ QString MendModel::TipOf(const QModelIndex& index) const
                : CellOf(index);
 }
 
-// Names without a tick stand below those with one.
+// A blank icon moves names without a tick box under the names that have one.
 QVariant MendModel::IconOf(const QModelIndex& index) const
 {
     switch (static_cast<MendColumn>(index.column())) {
@@ -158,7 +158,7 @@ bool MendModel::setData(const QModelIndex& index, const QVariant& value, int rol
     return true;
 }
 
-// What was not changed ticks nothing.
+// An end that is left as it was does not tick the line.
 bool MendModel::TakeEnd(std::size_t line, const QString& text)
 {
     if (text == ClockText(m_plan.EndOf(line))) {
@@ -179,7 +179,7 @@ void MendModel::Toggle(int row)
     TellChanged();
 }
 
-// A tick can take another one away, and changes the hours of all lines of the card.
+// All rows have to be drawn anew: a tick can take another one away, and it changes the hours in all lines of the card.
 void MendModel::TellChanged()
 {
     emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));

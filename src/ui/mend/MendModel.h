@@ -1,4 +1,4 @@
-// The findings of several people with what can be done about each, to be ticked and changed.
+// The rows of findings of several people, each with what can be done about it, which can be ticked and changed.
 #pragma once
 
 #include "office/card/MendPlan.h"
@@ -18,7 +18,7 @@ enum class MendColumn
     HoursAfter
 };
 
-// Changes the plan that it shows.
+// Shows a plan, and changes that plan when the user ticks a line or types another end.
 class MendModel final : public QAbstractTableModel
 {
     Q_OBJECT
@@ -37,10 +37,10 @@ public:
     void Toggle(int row);
 
 signals:
-    // What is ticked, or what it does, is another now.
+    // What is ticked has changed, or the end that a remedy gives a shift.
     void Changed();
 
-    // A text that is no time of day.
+    // `text` was typed as the end of a shift and is no time of day.
     void Refused(const QString& text);
 
 private:
