@@ -71,7 +71,7 @@ void FAccountant::ConnectControls()
     connect(m_ui->cmdClose, &QPushButton::clicked, this, &FAccountant::reject);
 }
 
-// The first one where there is none of that name.
+// Chooses the profile of that name, or the first one where there is none.
 void FAccountant::Fill(const std::string& chosen)
 {
     m_known = ReadProfiles(m_order.people.database);
@@ -107,7 +107,7 @@ void FAccountant::Choose()
     m_ui->cmdSaveAs->setToolTip(readable ? "" : kUnreadableTip);
 }
 
-// From the one that is chosen.
+// The new profile begins as a copy of the chosen one.
 void FAccountant::New()
 {
     Profile profile = Chosen().profile.value_or(NewProfile());
@@ -161,7 +161,7 @@ void FAccountant::Save()
     Say(said);
 }
 
-// Everybody's, with what there is to say of it.
+// The bytes of the table with everybody in it. Adds to `notices` what the user has to know about it.
 std::string FAccountant::BytesFor(const Profile& profile, std::vector<std::string>& notices)
 {
     PayTableOrder order = m_order.people;

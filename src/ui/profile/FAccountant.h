@@ -1,4 +1,4 @@
-// Saves what is paid as a table for the accountant: by which profile, with a look at its first rows.
+// The window that saves what is paid as a table for the accountant. The user chooses a profile and sees the first rows of its table.
 #pragma once
 
 #include "office/profile/PayTable.h"
@@ -17,7 +17,8 @@ namespace ptk {
 
 class Desktop;
 
-// Whose pay, and what else there is to say of them, see PeopleOfReview. How many are read, and whether their checks are, is the window's.
+// Whose pay is saved, and the notices about them that are shown once it was, see PeopleOfReview. The window itself sets `people.most` and
+// `people.withOverview`.
 struct AccountantOrder
 {
     PayTableOrder people;
@@ -29,8 +30,8 @@ class FAccountant final : public QDialog
     Q_OBJECT
 
 public:
-    // Reads the profiles and the first people. Raises the failure of a database that cannot be opened or read. The desktop
-    // outlives it.
+    // Reads the profiles and the pay of the first people. Raises the failure of a database that cannot be opened or read. The desktop
+    // outlives the window.
     FAccountant(QWidget* parent, ptk::Desktop& desktop, AccountantOrder order);
 
     ~FAccountant() override;
@@ -52,7 +53,7 @@ private:
     AccountantOrder m_order;
     std::unique_ptr<Ui::FAccountant> m_ui;
     std::vector<KnownProfile> m_known; // in the box's order
-    PayTable m_first;                  // of the preview
+    PayTable m_first;                  // the people of the preview
 };
 
 } // namespace ptk

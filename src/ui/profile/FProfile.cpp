@@ -92,7 +92,7 @@ void FProfile::OfferColumns()
     m_ui->cboColumn->setCurrentIndex(1);
 }
 
-// In the order of ProfileOptions().
+// The boxes of the options, in the order of ProfileOptions().
 std::vector<QComboBox*> FProfile::OptionBoxes() const
 {
     return {m_ui->cboRows, m_ui->cboSeparator, m_ui->cboDecimal, m_ui->cboHours, m_ui->cboDates, m_ui->cboEncoding, m_ui->cboHeading};
@@ -120,7 +120,7 @@ void FProfile::ConnectColumns()
     connect(m_ui->cmdDown, &QPushButton::clicked, this, [this] { Move(1); });
 }
 
-// With this one chosen.
+// Fills the list of columns anew and chooses the row.
 void FProfile::ShowColumns(int row)
 {
     QTableWidget* grid = m_ui->grdColumns;
@@ -149,7 +149,7 @@ void FProfile::TakeCell(int row, int column)
     ShowResult();
 }
 
-// Behind the one that is chosen.
+// The new column stands behind the chosen one.
 void FProfile::Add()
 {
     const std::string name = m_ui->cboColumn->currentIndex() == 0 ? "" : m_ui->cboColumn->currentText().toStdString();
@@ -198,7 +198,7 @@ void FProfile::TakeFields()
     ShowResult();
 }
 
-// The rows, or what is still wrong.
+// Shows the rows, and what is still wrong with the profile.
 void FProfile::ShowResult()
 {
     const QString fault = QString::fromStdString(FaultOf(m_profile));

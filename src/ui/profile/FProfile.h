@@ -1,4 +1,4 @@
-// Makes or changes a profile of the accountant's table, with a preview of its first rows.
+// The window that makes or changes a profile of the accountant's table. It shows a preview of the table's first rows.
 #pragma once
 
 #include "office/profile/PayTable.h"
@@ -23,15 +23,15 @@ class FProfile final : public QDialog
     Q_OBJECT
 
 public:
-    // Stores the profile, or raises why not.
+    // Stores the profile. Raises a failure that says why it could not.
     using Saver = std::function<void(const Profile& profile)>;
 
-    // people: of the preview, with what the overview says of them; outlive the window.
+    // `people` are those of the preview, with their rows of the overview; they outlive the window.
     FProfile(QWidget* parent, const Profile& profile, std::span<const PaidPerson> people, Saver save);
 
     ~FProfile() override;
 
-    // As it was stored, once the window was accepted.
+    // The profile that was stored, once the window was accepted.
     [[nodiscard]] const Profile& Stored() const { return m_profile; }
 
 private:

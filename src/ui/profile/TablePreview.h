@@ -9,7 +9,8 @@ namespace ptk {
 
 inline constexpr std::size_t kPreviewedPeople = 8;
 
-// The heading line as the heading of the grid, where the profile has one; nothing of a profile that cannot be used.
+// Fills the grid with the rows of these people. The heading line, where the profile has one, becomes the grid's heading. nullptr: the grid
+// is emptied.
 void ShowPreview(QTableWidget& grid, const Profile* profile, std::span<const PaidPerson> people);
 
 } // namespace ptk
