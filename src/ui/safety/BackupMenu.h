@@ -1,4 +1,4 @@
-// What the File menu offers for the safety of the data.
+// The lines of the File menu that make and restore backups.
 #pragma once
 
 #include <QObject>
@@ -17,16 +17,17 @@ public:
     // All outlive it.
     BackupMenu(QAction& backUp, QAction& restore, Workplace& host, QObject* parent);
 
-    // Offers what can be done with the controller's database; the rest says why not. REQUIRES: there is a controller.
+    // Enables Restore where the controller's database can be replaced by a backup; else its tool tip says why not. REQUIRES: there is a
+    // controller.
     void Offer();
 
-    // The day's first backup, where there is none yet.
+    // Makes a backup where there is none of this day yet. A failure is logged.
     void BackUpWhenDue();
 
 signals:
     void Done(const QString& outcome);
 
-    // All that the windows show is of another database.
+    // A backup was restored: all windows still show what the database held before.
     void Restored(const QString& outcome);
 
 private:

@@ -97,7 +97,7 @@ std::string FFirstStart::BeginNew()
     return refusal;
 }
 
-// One that was looked at before is looked at again.
+// A sample that was made at an earlier start is used again as it is.
 std::string FFirstStart::BeginWithSample()
 {
     const std::string folder = m_folder + kSampleEnding;
@@ -119,7 +119,7 @@ std::string FFirstStart::UseExisting()
     return refusal;
 }
 
-// The window of the import asks for the file, shows what is in it and tells what went wrong.
+// FImport asks for the file, shows what is in it and tells what went wrong.
 void FFirstStart::BeginWithOld()
 {
     const auto import = [this](ImportOrder order, const ImportProgress& progress) {

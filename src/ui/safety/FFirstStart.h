@@ -1,4 +1,4 @@
-// The window of somebody who starts the program and has no program folder yet.
+// The window for the first start of the program, when there is no program folder with a configuration yet.
 #pragma once
 
 #include <memory>
@@ -13,7 +13,7 @@ namespace ptk {
 
 class Clock;
 
-// Nothing is made before Start, and what cannot be made whole is not made: the window then says why and stays.
+// Makes nothing before Start is pressed. What cannot be made whole is not made at all: then the window says why and stays open.
 class FFirstStart final : public QDialog
 {
     Q_OBJECT
@@ -23,7 +23,7 @@ public:
     FFirstStart(std::string folder, const Clock& clock);
     ~FFirstStart() override;
 
-    // To work in, once the window was accepted.
+    // The program folder to work in, once the window was accepted.
     [[nodiscard]] const std::string& Folder() const { return m_folder; }
 
 private:
@@ -31,7 +31,7 @@ private:
     void Browse();
     void Begin();
 
-    // Each answers what stands in the way, or raises it; empty when the folder is there.
+    // Each of these three answers what stands in the way, or raises it as a failure; empty when the program folder is ready.
     std::string BeginNew();
     std::string BeginWithSample();
     std::string UseExisting();

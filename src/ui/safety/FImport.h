@@ -1,4 +1,4 @@
-// Bringing an older database along: first what is in it, then, when the user wants it, the import.
+// The window that imports an older database. It first shows what is in the file, then imports it when the user wants that.
 #pragma once
 
 #include "office/import/Import.h"
@@ -18,13 +18,13 @@ class FImport final : public ImportWindow
     Q_OBJECT
 
 public:
-    // Given the file and what is wanted of it; see office/Import.
+    // Reads or imports the file of the order, see ImportOldDatabase.
     using Importer = std::function<ImportOutcome(const ImportOrder&, const ImportProgress&)>;
 
     FImport(QWidget* parent, Importer importer);
     ~FImport() override;
 
-    // Once the window is closed.
+    // Whether the database was imported, once the window is closed.
     [[nodiscard]] bool HasImported() const { return m_imported; }
 
 private:
@@ -38,7 +38,7 @@ private:
     std::unique_ptr<Ui::FImport> m_ui;
     Importer m_importer;
     ImportOutcome m_outcome;
-    bool m_read = false; // the account is that of the file that is named
+    bool m_read = false; // whether m_outcome is that of the file that is named
     bool m_damaged = false;
     bool m_imported = false;
 };

@@ -41,7 +41,7 @@ enum Column
 
 const QStringList kHeadings{"Made", "Size", "Employees", "Records", "Newest Shift", "Checked"};
 
-// Figures stand below each other.
+// Figures stand to the right, so that their digits are below each other.
 Qt::Alignment AlignmentOf(int column)
 {
     return (column == Made || column == Checked ? Qt::AlignLeading : Qt::AlignTrailing) | Qt::AlignVCenter;
@@ -101,7 +101,7 @@ void FRestore::Fill()
     m_ui->grdBackups->setRowCount(static_cast<int>(m_names.size()));
     for (int row = 0; row < m_ui->grdBackups->rowCount(); ++row) {
         const std::string& name = m_names.at(static_cast<std::size_t>(row));
-        std::error_code error; // one that is gone by now is told when it is checked
+        std::error_code error; // ignored: the check will tell of a file that is gone by now
         const auto size = std::filesystem::file_size(std::filesystem::path(m_folder) / name, error);
         ShowCells(row, CellsOf(name, error ? 0 : static_cast<std::int64_t>(size)));
         Put(row, Checked, kChecking);
@@ -109,7 +109,7 @@ void FRestore::Fill()
     EnableRestore();
 }
 
-// Answers what is to be said above the list.
+// Reads the names of the backups and answers the text above the list.
 QString FRestore::ReadNames()
 {
     m_names.clear();
@@ -129,14 +129,14 @@ void FRestore::CheckNext()
         return m_next.stop();
     }
     const auto position = next - m_states.begin();
-    m_next.stop(); // or the events meanwhile would begin the next
+    m_next.stop(); // else the timer would begin the next check during this one, which lets events happen
     const auto goOn = [this](std::int32_t /*done*/, std::int32_t /*all*/) {
         QApplication::processEvents();
         return isVisible();
     };
     const BackupEntry entry = CheckedBackup(m_folder, m_names.at(static_cast<std::size_t>(position)), goOn);
     if (!isVisible()) {
-        return; // the user has chosen or gone, and nothing was found out
+        return; // the user has chosen a backup or closed the window, which ended the check without a result
     }
     m_next.start();
     *next = entry.content ? State::Sound : State::Useless;
@@ -144,7 +144,7 @@ void FRestore::CheckNext()
     EnableRestore();
 }
 
-// The newest sound one is what most come for.
+// Selects the first sound backup, which is the newest: most people want that one.
 void FRestore::ShowChecked(int row, const BackupEntry& entry)
 {
     QTableWidget* table = m_ui->grdBackups;

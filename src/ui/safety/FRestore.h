@@ -1,4 +1,4 @@
-// Which backup the database is to be again.
+// The window in which the user chooses the backup that is to replace the database.
 #pragma once
 
 #include "startup/Windows.h"
@@ -18,7 +18,7 @@ namespace ptk {
 struct BackupCells;
 struct BackupEntry;
 
-// Checks one backup after the other while it waits for the user; only those that were found sound can be chosen.
+// Checks one backup after the other while it waits for the user. Only backups that were found sound can be chosen from the list.
 class FRestore final : public QDialog, public RestoreWindow
 {
     Q_OBJECT
@@ -50,7 +50,7 @@ private:
 
     std::unique_ptr<Ui::FRestore> m_ui;
     std::string m_folder;
-    std::vector<std::string> m_names; // as the rows
+    std::vector<std::string> m_names; // in the order of the rows
     std::vector<State> m_states;
     std::string m_chosen;
     QTimer m_next;

@@ -1,4 +1,4 @@
-// File > Import Older Database.
+// The line File > Import Older Database.
 #pragma once
 
 #include <QObject>
@@ -19,7 +19,7 @@ public:
     ImportMenu(QAction& action, Workplace& host, QWidget& window);
 
 signals:
-    // All that the windows show is of another database.
+    // An older database was imported: all windows still show what the database held before.
     void Imported(const QString& outcome);
 
     void Said(const QString& text);
