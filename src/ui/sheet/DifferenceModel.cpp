@@ -8,7 +8,8 @@ namespace {
 
 constexpr const char* kHeadings[DifferenceModel::Count] = {"Change", "Field", "Stored", "In the File"};
 
-// What makes a difference another one: also what is stored, by the time it is.
+// Tells differences apart. The stored value is part of the key, so that a tick does not hold for a value that has changed since it was
+// shown.
 auto KeyOf(const EmployeeDifference& difference)
 {
     return std::tuple(difference.employee, difference.field, difference.stored, difference.given);
@@ -70,7 +71,7 @@ int DifferenceModel::columnCount(const QModelIndex& parent) const
     return parent.isValid() ? 0 : Count;
 }
 
-// What does not fit its cell stands whole in the tool tip.
+// The tool tip holds the whole text of a cell, which may be too narrow for it.
 QVariant DifferenceModel::data(const QModelIndex& index, int role) const
 {
     if (role == Qt::CheckStateRole && index.column() == Employee) {

@@ -1,4 +1,4 @@
-// The fields of known employees that a file has otherwise, each to be ticked.
+// The rows of differences: fields of known employees whose value in the file is not the stored one. Each can be ticked.
 #pragma once
 
 #include "office/sheet/EmployeeLines.h"
@@ -25,14 +25,14 @@ public:
 
     using QAbstractTableModel::QAbstractTableModel;
 
-    // None of them ticked.
+    // Replaces all rows; none is ticked.
     void Show(std::vector<EmployeeDifference> differences);
 
     void TickAll(bool ticked);
 
     [[nodiscard]] int Ticked() const { return static_cast<int>(m_ticked.size()); }
 
-    // Whether this one, as it was shown, is ticked.
+    // Answers whether a difference is ticked. One whose stored or given value is not the one that was shown counts as not ticked.
     [[nodiscard]] TakesDifference Ticks() const;
 
     int rowCount(const QModelIndex& parent = {}) const override;

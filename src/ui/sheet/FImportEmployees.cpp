@@ -30,7 +30,7 @@ constexpr int kAccountLines = 4;
 constexpr int kRowRoom = 6;   // pixels above and below a row's text together
 constexpr int kCellRoom = 12; // pixels between texts that stand beside each other
 
-// Nobody reads more, and a text box takes its time for them.
+// Lines of the account that are shown: nobody reads more, and a text box is slow with them.
 constexpr std::size_t kMostLines = 10'000;
 
 } // namespace
@@ -91,10 +91,10 @@ void FImportEmployees::Work(bool trial, const GoesOn& goesOn)
     m_read = m_importer({file, trial, {}, trial ? TakesDifference() : m_differences->Ticks()}, goesOn);
 }
 
-// What was to be stored is shown as read where the file, or the database, has changed since then.
+// Where nothing was stored, because the file or the database has changed since it was read, the account is shown as that of a reading.
 void FImportEmployees::ShowOutcome(bool /*trial*/)
 {
-    ShowAccount(EmployeeAccountLines(m_read, m_read.isStored), kMostLines); // differences stand in the table until then
+    ShowAccount(EmployeeAccountLines(m_read, m_read.isStored), kMostLines); // until they are stored, differences stand in the table
     m_read.isStored ? ShowStored() : ShowRead();
 }
 
@@ -130,7 +130,7 @@ void FImportEmployees::FitColumns()
     }
 }
 
-// What would be stored now, and whether it can.
+// Shows what would be stored now, and enables Save where it can be stored.
 void FImportEmployees::ShowTicks()
 {
     const int all = m_differences->rowCount();

@@ -1,5 +1,5 @@
-// Employees from a CSV file: first what would become of each line, known employees field by field with a tick for each, then, when the user
-// wants it, the import.
+// The window that imports employees from a CSV file. It first shows what each line would do, and known employees field by field with a tick
+// for each field; then it imports when the user wants that.
 #pragma once
 
 #include "office/sheet/EmployeeImport.h"
@@ -21,7 +21,7 @@ class FImportEmployees final : public ImportWindow
     Q_OBJECT
 
 public:
-    // See office/sheet/EmployeeImport.
+    // Reads or imports the file of the order, see ImportEmployees.
     using Importer = std::function<EmployeeAccount(const EmployeeOrder&, const GoesOn&)>;
 
     FImportEmployees(QWidget* parent, Importer importer);
@@ -45,8 +45,8 @@ private:
 
     std::unique_ptr<Ui::FImportEmployees> m_ui;
     Importer m_importer;
-    DifferenceModel* m_differences; // belongs to it
-    EmployeeAccount m_read;         // of the file that is named; nothing before it was read
+    DifferenceModel* m_differences; // belongs to the window
+    EmployeeAccount m_read;         // the account of the file that is named; empty before it was read
     QString m_stored;
 };
 

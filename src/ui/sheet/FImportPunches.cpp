@@ -19,7 +19,7 @@ constexpr auto kWordsWrong = "what the headings mean is told as File=Ours, for e
 
 constexpr QSize kFirstSize(720, 480);
 constexpr QSize kSmallestSize(440, 320);
-constexpr std::size_t kMostShown = 10'000; // lines of the account; nobody reads more, and a text box takes its time for them
+constexpr std::size_t kMostShown = 10'000; // lines of the account: nobody reads more, and a text box is slow with them
 
 } // namespace
 
@@ -60,7 +60,7 @@ void FImportPunches::Work(bool trial, const GoesOn& goesOn)
     m_read = m_importer({{m_ui->txtFile->text().toStdString(), std::nullopt, *words}, trial, m_ui->chkPartly->isChecked()}, goesOn);
 }
 
-// What was to be stored is shown as read where the file, or the database, has changed since then.
+// Where nothing was stored, because the file or the database has changed since it was read, the account is shown as that of a reading.
 void FImportPunches::ShowOutcome(bool /*trial*/)
 {
     ShowAccount(PunchAccountLines(m_read), kMostShown);

@@ -1,4 +1,4 @@
-// Punches from a CSV file: first what would become of each line, then, when the user wants it, the import.
+// The window that imports punches from a CSV file. It first shows what each line would do, then imports when the user wants that.
 #pragma once
 
 #include "office/sheet/PunchImport.h"
@@ -18,7 +18,7 @@ class FImportPunches final : public ImportWindow
     Q_OBJECT
 
 public:
-    // See office/sheet/PunchImport.
+    // Reads or imports the file of the order, see ImportPunches.
     using Importer = std::function<PunchAccount(const PunchOrder&, const GoesOn&)>;
 
     FImportPunches(QWidget* parent, Importer importer);
@@ -37,7 +37,7 @@ private:
 
     std::unique_ptr<Ui::FImportPunches> m_ui;
     Importer m_importer;
-    PunchAccount m_read; // of the file that is named; nothing before it was read
+    PunchAccount m_read; // the account of the file that is named; empty before it was read
     QString m_stored;
 };
 

@@ -1,4 +1,4 @@
-// File > Import Punches and File > Import Employees.
+// The lines File > Import Punches and File > Import Employees.
 #pragma once
 
 #include "office/sheet/SheetFile.h"
@@ -14,7 +14,7 @@ namespace ptk {
 class CJetDB;
 class Workplace;
 
-// Has all pages read again once something was stored, which Edit > Undo takes back as one step.
+// Once something was stored, has all pages read again. Edit > Undo takes it back as one step.
 class SheetMenu final : public QObject
 {
     Q_OBJECT
