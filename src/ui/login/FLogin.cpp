@@ -75,7 +75,7 @@ bool FLogin::SaveShowLoginHelp()
     return m_configFile != nullptr && m_configFile->ReplaceLine(kShowLoginHelp, BooleanText(m_showHelp));
 }
 
-// Everything that goes wrong on the way is a refused login.
+// Any failure in here counts as a refused login.
 bool FLogin::ValidateLogin()
 {
     return Succeeds([this] {
@@ -103,7 +103,8 @@ void FLogin::Login()
     accept();
 }
 
-// The help answers "do not show again" whether or not its box was ticked: once read, it is offered no more after the next login.
+// FLoginHelp answers "do not show again" whether or not its box was ticked. So once the help was read, the next successful login stores
+// that it is not offered any more.
 void FLogin::Help()
 {
     FLoginHelp help(this);

@@ -1,4 +1,4 @@
-// The login: a name and a password checked against the employees, before the main window opens.
+// The login window, shown before the main window opens. Checks a name and a password against the employees.
 #pragma once
 
 #include "startup/Windows.h"
@@ -24,7 +24,7 @@ public:
     explicit FLogin(ptk::Desktop& desktop);
     ~FLogin() override;
 
-    // Raises Failure 91 for nullptr, 13 when ShowLoginHelp is no boolean.
+    // Shows the Help button as ShowLoginHelp says. Raises Failure 91 for nullptr, 13 when ShowLoginHelp is no boolean.
     void ConfigFile(std::shared_ptr<CFileAdaptor> value) override;
 
     void EmployeeList(std::shared_ptr<CEmployeeList> value) override;
@@ -35,11 +35,11 @@ public:
     // Deliberately always empty.
     [[nodiscard]] std::string UserName() const { return m_userName; }
 
-    // Cancel, Escape and the close box.
+    // Ends the login as not valid: by Cancel, Escape or the close box.
     void reject() override;
 
 protected:
-    // Enter after the name goes on to an empty password.
+    // Enter in the box of the name moves to the box of the password where that is still empty.
     void keyPressEvent(QKeyEvent* event) override;
 
     void closeEvent(QCloseEvent* event) override;

@@ -15,7 +15,7 @@ FServerPassword::FServerPassword(const std::string& address) : m_ui(std::make_un
 {
     m_ui->setupUi(this);
     m_ui->lblServer->setText(QString(kWanted).arg(QString::fromStdString(SaidServer(address))));
-    setMinimumSize(sizeHint()); // of a long address all lines
+    setMinimumSize(sizeHint()); // so that all lines of a long address are seen
     connect(m_ui->cmdConnect, &QPushButton::clicked, this, &QDialog::accept);
     connect(m_ui->cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
 }

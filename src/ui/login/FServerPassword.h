@@ -1,4 +1,4 @@
-// Asks for the password that a database server wants.
+// The window that asks for the password of a database server.
 #pragma once
 
 #include <memory>
@@ -12,7 +12,7 @@ class FServerPassword;
 
 namespace ptk {
 
-// What is typed is kept by whoever asks, in memory alone.
+// Does not keep the password: the caller does, in memory only.
 class FServerPassword final : public QDialog
 {
     Q_OBJECT
@@ -21,7 +21,7 @@ public:
     explicit FServerPassword(const std::string& address);
     ~FServerPassword() override;
 
-    // Nothing when the person would rather not say.
+    // Shows the window and answers what was typed; nothing when the user cancels.
     [[nodiscard]] static std::optional<std::string> Ask(const std::string& address);
 
 private:
