@@ -1,4 +1,4 @@
-// The list of the keys that do something.
+// The window that lists the keys of the program.
 #pragma once
 
 #include <memory>
@@ -10,13 +10,13 @@ class FShortcuts;
 
 namespace ptk {
 
-// Those of the menus as they stand there, and those of the pages and windows.
+// Lists the keys of the menus, read from the menus themselves, and those of the pages and windows.
 class FShortcuts final : public QDialog
 {
     Q_OBJECT
 
 public:
-    // The window whose menus are meant is the parent.
+    // `window` is the one whose menus are read; it becomes the parent.
     explicit FShortcuts(QWidget& window);
     ~FShortcuts() override;
 

@@ -1,4 +1,4 @@
-// The Help menu: the user's guide, and what the program says of itself.
+// The Help menu: the user's guide, the list of keys, and the About box.
 #pragma once
 
 #include <QObject>
@@ -23,7 +23,7 @@ public:
         QAction& shortcuts;
     };
 
-    // All outlive it; the window is the parent.
+    // The references outlive it; the window is the parent.
     HelpMenu(QWidget& window, const Lines& lines, PageHost& host, std::string programFolder);
 
 signals:
@@ -32,7 +32,7 @@ signals:
 private:
     void About();
 
-    // Its page where nothing takes the document.
+    // Opens the guide's document, or its HTML page where no program takes the document.
     void UsersGuide();
 
     void TellNotOpened(const std::string& line);
