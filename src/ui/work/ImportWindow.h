@@ -1,4 +1,4 @@
-// The frame of windows that bring a file along: first what would become of it, then, when the user wants it, the import.
+// The base of windows that import a file. They first show what the import would do, then import when the user wants that.
 #pragma once
 
 #include "platform/GoesOn.h"
@@ -16,7 +16,7 @@ namespace ptk {
 
 class HintLabel;
 
-// Tells all that goes wrong itself, and then stays for another try.
+// Shows every failure itself and then stays open for another try.
 class ImportWindow : public QDialog
 {
 protected:
@@ -26,7 +26,7 @@ protected:
         const char* filter;
         const char* progressTitle;
         const char* progressText;
-        const char* refused; // with %1 for the reason
+        const char* refused; // a sentence with %1 for the reason
         const char* nameFirst;
     };
 
@@ -44,28 +44,28 @@ protected:
 
     ImportWindow(QWidget* parent, const Words& words) : QDialog(parent), m_words(words) {}
 
-    // Once the controls are there, which belong to the window.
+    // Connects the controls, which belong to the window. To be called once, as soon as they are there.
     void Begin(const Parts& parts, QSize first, QSize smallest);
 
-    // Of another file, or of this one read in another way.
+    // Empties all that was read. To be called when another file is named, or this one is to be read in another way.
     void Forget();
 
     void TellRefused(const std::string& reason);
 
-    // Of more than `most` lines the first ones.
+    // Shows these lines as the account, the first `most` of them where there are more.
     void ShowAccount(const std::vector<std::string>& lines, std::size_t most);
 
-    // Once nothing is left to be done but to close the window.
+    // Hides the buttons, the parts that name the file, and `others`. To be called once nothing is left to do but to close the window.
     void HideAllDone(const std::vector<QWidget*>& others);
 
-    // With the keyboard in it, where it can be pressed.
+    // Makes Import the default button and gives it the keyboard where it is enabled.
     void OfferImport();
 
 private:
-    // What was read is none of what the window shows any more.
+    // Forgets what was read, because it does not belong to what the window shows any more.
     virtual void ForgetRead() = 0;
 
-    // Raises why the file is refused.
+    // Reads the file; imports it unless this is a trial. Raises a failure that says why the file is refused.
     virtual void Work(bool trial, const GoesOn& goesOn) = 0;
 
     virtual void ShowOutcome(bool trial) = 0;

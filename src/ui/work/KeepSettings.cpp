@@ -6,7 +6,7 @@
 
 namespace ptk {
 
-// The settings are made, written and gone on the other thread: they would else be written once more by an event of the windows' thread.
+// The settings object lives and ends on the other thread. Else an event of the windows' thread would write the settings once more.
 void KeepSettings(std::initializer_list<std::pair<QString, QVariant>> settings)
 {
     waiting::Behind([settings] {

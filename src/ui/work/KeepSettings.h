@@ -1,4 +1,4 @@
-// What the user's desktop keeps of the windows from start to start.
+// Stores what the user's desktop settings keep of the windows from one start to the next.
 #pragma once
 
 #include <initializer_list>
@@ -8,7 +8,7 @@
 
 namespace ptk {
 
-// All or, where the desktop's settings cannot be written, none of them. They are on the disk when it returns, and windows live meanwhile.
+// Stores all of them, or none where the desktop's settings cannot be written. They are on the disk when it returns; windows live meanwhile.
 void KeepSettings(std::initializer_list<std::pair<QString, QVariant>> settings);
 
 } // namespace ptk

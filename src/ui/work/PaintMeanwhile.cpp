@@ -16,7 +16,7 @@ namespace {
 
 constexpr int kBehindTheWait = 10; // milliseconds
 
-// Sees what only the event loop delivers: whatever follows has a whole slice before its first turn.
+// Watches for events that only the event loop delivers. After each, the work that follows has a whole slice before its first turn is due.
 class LoopWatch final : public QObject
 {
 public:

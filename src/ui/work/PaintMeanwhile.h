@@ -1,4 +1,4 @@
-// Windows while the database is waited for.
+// Lets windows paint while the program waits for the database or a disk.
 #pragma once
 
 class QEvent;
@@ -6,15 +6,15 @@ class QObject;
 
 namespace ptk {
 
-// From here on they paint, and answer the desktop, also where no progress window lets them: no key or click is taken, no timer runs, so
-// that nothing comes back to the database that is being waited for.
+// From this call on, windows paint and answer the desktop during each wait, also where no progress window lets them. No key or click is
+// taken and no timer runs, so that nothing uses the database that is being waited for. To be called once, with the application there.
 void PaintWhileWaiting();
 
-// The same for once; always true.
+// Lets windows paint once, without keys, clicks and timers. Always true.
 bool PaintMeanwhile();
 
-// Before an event is delivered: whether a window was told to close in the midst of a wait. It is told so again behind the wait; a progress
-// window closes at once.
+// To be asked before an event is delivered: true where it tells a window to close in the middle of a wait. The event is then ignored, and
+// the window is closed after the wait. A progress window closes at once.
 bool PostponesClose(QObject& window, QEvent& event);
 
 } // namespace ptk

@@ -37,7 +37,7 @@ QStringList FiltersOf(std::span<const ReportForm> forms)
     return filters;
 }
 
-// What is typed without an ending gets that of the form; what has that of another form changes it.
+// A name that is typed later without an ending gets that of the form; a name that is already there changes its ending to it.
 void TakeForm(QFileDialog& dialog, ReportForm form)
 {
     const QString ending = TextOf(EndingOf(form));

@@ -14,7 +14,7 @@ namespace ptk {
 namespace {
 
 constexpr int kTitleButtons = 120; // pixels beside a title: the window's icon and its buttons
-constexpr double kTitleFont = 1.2; // of the application's, which a title's need not be
+constexpr double kTitleFont = 1.2; // times the application's font: a title's font can be wider
 constexpr QSize kFrame(16, 48);    // pixels that window managers take for borders and title, generously
 
 QString Key(const QString& name)
@@ -37,7 +37,7 @@ int WidthFor(const QString& title)
     return static_cast<int>(QFontMetrics(font).horizontalAdvance(title) * kTitleFont) + kTitleButtons;
 }
 
-// What was kept on a larger screen, or on the same one at a smaller scale, would have its buttons out of sight.
+// A window that is as large as it was on a larger screen, or at a smaller scale, would have its buttons out of sight.
 void RestorePlace(QWidget& window, const QString& name, QSize first)
 {
     const bool kept = window.restoreGeometry(QSettings().value(Key(name)).toByteArray());

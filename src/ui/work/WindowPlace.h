@@ -8,17 +8,18 @@ class QWidget;
 
 namespace ptk {
 
-// What the window's screen has to give, less what the window manager takes for borders and a title.
+// The room on the window's screen for its content: the screen less what the window manager takes for borders and a title.
 [[nodiscard]] QRect RoomFor(const QWidget& window);
 
-// How wide a window has to be at least for the whole title to stand in its frame.
+// The least width in pixels of a window in whose frame the whole title is seen.
 [[nodiscard]] int WidthFor(const QString& title);
 
-// Gives the window the size it last had under that name, `first` before that; never larger than its screen nor off any screen.
+// Gives the window the place and size that it last had under that name, at first the size `first`. It is never larger than its screen nor
+// off it.
 void RestorePlace(QWidget& window, const QString& name, QSize first);
 void StorePlace(const QWidget& window, const QString& name);
 
-// Before all others, with the keyboard, also where it was minimized.
+// Puts the window in front of all others and gives it the keyboard, also where it was minimized.
 void BringForward(QWidget& window);
 
 } // namespace ptk

@@ -63,7 +63,8 @@ void WorkProgress::ShowWhenLong()
     }
 }
 
-// A window that the work has opened does not keep Escape from it; one of another program may.
+// Takes the keyboard back from a window of this program that the work has opened, so that Escape ends the work. A window of another program
+// keeps it.
 void WorkProgress::TakeKeyboard()
 {
     const QWidget* active = QApplication::activeWindow();
@@ -72,7 +73,7 @@ void WorkProgress::TakeKeyboard()
     }
 }
 
-// In the midst of a question: only Cancel may be pressed, which is all that there is to press.
+// A turn during a question to the database. Keys and clicks may be taken: while the window is shown, Cancel is all that there is to press.
 bool WorkProgress::GoOnWaiting()
 {
     ShowWhenLong();
