@@ -213,8 +213,7 @@ void OverviewTables::ShowLeftOut()
     m_leftOut->Show(std::move(lines));
 }
 
-// The column of names takes the width that the figures leave. Each other column fits its heading and its sum: hardly any figure is wider
-// than its sum.
+// The names take the width that the figures leave. Other columns fit their heading and sum: hardly any figure is wider than its sum.
 void OverviewTables::FitColumns()
 {
     QFont bold = m_table.font();

@@ -35,8 +35,7 @@ public:
 
     OverviewTables(const Place& place, QObject* parent);
 
-    // Shows what has been read since the last call, see OverviewModel::Show. People whom the user had chosen are chosen again once they are
-    // read.
+    // Shows what was read since the last call, see OverviewModel::Show. Chooses people again whom the user had chosen, once they are read.
     void Show(const std::shared_ptr<const OverviewReading>& reading);
 
     // Shows all rows of the reading anew. Needed where rows were put between those that were shown.

@@ -8,8 +8,7 @@ namespace {
 
 constexpr const char* kHeadings[DifferenceModel::Count] = {"Change", "Field", "Stored", "In the File"};
 
-// Tells differences apart. The stored value is part of the key, so that a tick does not hold for a value that has changed since it was
-// shown.
+// Tells differences apart. The stored value is part of it: a tick must not hold for a value that has changed since it was shown.
 auto KeyOf(const EmployeeDifference& difference)
 {
     return std::tuple(difference.employee, difference.field, difference.stored, difference.given);

@@ -63,8 +63,7 @@ void WorkProgress::ShowWhenLong()
     }
 }
 
-// Takes the keyboard back from a window of this program that the work has opened, so that Escape ends the work. A window of another program
-// keeps it.
+// Takes the keyboard from a window that the work has opened, so that Escape ends the work. A window of another program keeps it.
 void WorkProgress::TakeKeyboard()
 {
     const QWidget* active = QApplication::activeWindow();
