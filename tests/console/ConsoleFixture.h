@@ -1,4 +1,4 @@
-// Runs ptk-console in process on a program folder of its own.
+// Runs ptk-console inside the test's process, on a program folder of the test's own.
 #pragma once
 
 #include "console/Program.h"

@@ -1,23 +1,23 @@
-// Every call of this program that changes something on a disk, counted, and the one at which a misfortune happens.
+// Counts the calls of this program that change something on a disk, and lets a misfortune happen at one of them.
 #pragma once
 
 namespace ptk {
 
 enum class Misfortune
 {
-    Killed,     // in front of the call, as by kill -9
-    KilledHalf, // with half of its bytes written
-    DiskFull,   // from there on: what needs room fails
-    // At all calls of one kind, the others are well:
+    Killed,     // before the call, as by kill -9
+    KilledHalf, // once half of the call's bytes are written
+    DiskFull,   // from that call on, each that needs room fails
+    // For these the number does not matter: all calls of one kind fail, the others succeed.
     FolderUnsafe, // folders cannot be flushed
     NoLocks,      // files cannot be locked
     NothingRuns   // programs cannot be run
 };
 
-// From now on, in this process: at the call of this number, from 1.
+// Lets the misfortune happen in this process, at the `call`th call from now on. Calls count from 1; 0: nothing happens.
 void MeetMisfortune(Misfortune kind, int call);
 
-// Whether that call has come.
+// Whether the misfortune has happened since the last MeetMisfortune.
 [[nodiscard]] bool MisfortuneMet();
 
 } // namespace ptk

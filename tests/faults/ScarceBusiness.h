@@ -1,4 +1,4 @@
-// A small business in a folder of its own, and what is stored of it.
+// A small business in a folder of its own, for tests in which the machine runs out of something.
 #pragma once
 
 #include "console/Program.h"
@@ -43,7 +43,7 @@ public:
     [[nodiscard]] const FixedClock& Clock() const { return m_clock; }
     [[nodiscard]] std::string Path(const char* name) const { return m_folder.Path() + "/" + name; }
 
-    // All that people are paid by, and whether the file is whole.
+    // All that people are paid by, and whether the file is whole, as text to compare.
     [[nodiscard]] std::string Stored() const
     {
         return RawDatabase(m_database)
@@ -52,7 +52,7 @@ public:
                   "_Session WHERE user IS NOT NULL; PRAGMA integrity_check");
     }
 
-    // As it was at first.
+    // Puts the database back as it was at first and removes what was written beside it.
     void PutBack() const
     {
         for (const char* left : {"system/ptk_11.mdb-journal", "out.pdf"}) {

@@ -1,4 +1,4 @@
-// Which calls are to fail, one after the other.
+// Tries some work again and again, with another call failing each time.
 #pragma once
 
 #include "faults/Scarcity.h"
@@ -16,7 +16,7 @@ namespace ptk {
 constexpr std::array kScarceNames{"Memory", "EngineMemory", "Read", "ShortRead", "Interrupted",
                                   "Open",   "Forbidden",    "Lock", "Look"}; // by Scarce
 
-// How many calls of that kind some work makes.
+// How many calls of that kind `work` makes.
 inline std::int64_t CallsOf(Scarce what, const std::function<void()>& work)
 {
     constexpr std::int64_t kMostCalls = 2'000'000;
@@ -26,7 +26,7 @@ inline std::int64_t CallsOf(Scarce what, const std::function<void()>& work)
     return CallsSeen();
 }
 
-// The calls from `first` on, each alone and each with all behind it: a sample of so many, or each PTK_SCARCE-th.
+// Calls `tryAt` for a sample of the calls after `first`: once to fail alone, once with all behind it. Each PTK_SCARCE-th where that is set.
 inline void TryCalls(Scarce what, std::int64_t first, std::int64_t calls, std::int64_t sample,
                      const std::function<void(std::int64_t call, bool all)>& tryAt)
 {
@@ -35,7 +35,7 @@ inline void TryCalls(Scarce what, std::int64_t first, std::int64_t calls, std::i
     int tried = 0;
     for (const bool all : {false, true}) {
         if (all && what == Scarce::Interrupted) {
-            continue; // who is interrupted without end tries without end
+            continue; // a read that is always interrupted would be tried without end
         }
         for (std::int64_t call = first + 1 + step / 3; call <= calls && !testing::Test::HasFailure(); call += step) {
             SCOPED_TRACE(testing::Message() << kScarceNames.at(static_cast<std::size_t>(what)) << " at call " << call

@@ -29,17 +29,17 @@ inline std::string_view TextIn(std::span<const std::uint8_t> bytes)
     return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
 }
 
-// Raising a failure is an answer, too; anything else that is raised is a fault.
+// Runs the action, which may raise a Failure. Anything else that it raises is a fault.
 template <typename Action>
 void MayFail(const Action& action)
 {
     try {
         action();
-    } catch (const Failure&) { // what it was about is refused
+    } catch (const Failure&) { // the input is refused
     }
 }
 
-// A file of this process's own, for targets that read one.
+// Writes the bytes into a file of this process's own, for targets that read a file, and answers its path.
 inline std::string InFile(std::string_view bytes)
 {
     static const std::string path = (std::filesystem::temp_directory_path() / ("fuzz." + std::to_string(::getpid()))).string();
@@ -47,8 +47,8 @@ inline std::string InFile(std::string_view bytes)
     return path;
 }
 
-// Files too large to be changed whole are changed by patches: an offset of three bytes, how many bytes, and these; none cuts the file
-// there.
+// Changes a file that is too large to be the input itself. Each patch is an offset of three bytes, low byte first, a count of one byte, and
+// as many bytes to write; a count of 0 cuts the file at the offset.
 inline std::string Patched(std::string file, std::span<const std::uint8_t> patches)
 {
     constexpr std::size_t kHead = 4;

@@ -8,7 +8,7 @@
 
 namespace ptk {
 
-// A script that the test expects to be run, and to close its window.
+// A script for a modal window. The test fails where it was not run or left the window open.
 class ExpectedModal final : public ModalScript
 {
 public:
@@ -25,7 +25,7 @@ inline void Click(const QWidget& window, const QString& button)
     QTest::mouseClick(&Find<QAbstractButton>(window, button), Qt::LeftButton);
 }
 
-// Types over what a box holds, as a user does, and leaves it by Tab.
+// Replaces what a box holds by typing, as a user does, and leaves the box by Tab.
 inline void Type(QLineEdit& box, const QString& text)
 {
     QApplication::setActiveWindow(box.window());

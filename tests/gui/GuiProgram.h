@@ -19,7 +19,7 @@
 
 namespace ptk {
 
-// The control of that name; a missing one ends the test with its name.
+// The control of that name. Raises a runtime_error with the name where there is none, which ends the test.
 template <typename Control = QWidget>
 Control& Find(const QWidget& window, const QString& name)
 {
@@ -30,7 +30,7 @@ Control& Find(const QWidget& window, const QString& name)
     return *control;
 }
 
-// What a user does in the next modal window, run as soon as it is up. It is to end with the window closed; one left open is rejected.
+// What a user does in the next modal window. The script is run as soon as the window is up and must close it; one left open is rejected.
 class ModalScript
 {
 public:
@@ -89,7 +89,7 @@ public:
 
     void Start() { m_main.Start(); }
 
-    // Start, with the administrator's account typed into the login.
+    // Starts the program and logs in with the administrator's account.
     void LogIn()
     {
         const ModalScript login([](QDialog& window) {

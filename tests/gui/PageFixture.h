@@ -1,4 +1,4 @@
-// The main window on a database with employees and companies of the test's own, and a look into that database.
+// The main window on a database that the test fills, and a look into that database.
 #pragma once
 
 #include "gui/GuiFixture.h"
@@ -33,7 +33,7 @@ protected:
     void Press(const char* button) { Click(Main(), button); }
     Boxes Told() { return program.desktop.Take(); }
 
-    // The rows of a select, its columns x and so on by name.
+    // The values of the column named x, one for each row of the select.
     std::vector<std::string> Stored(const std::string& sql)
     {
         CJetDB database(program.folder.Path());
@@ -48,7 +48,7 @@ protected:
         return texts;
     }
 
-    // Another program's hold on the database.
+    // Opens the database as another program would. It is held as long as the answer lives.
     std::unique_ptr<CJetDB> HoldDatabase()
     {
         auto holder = std::make_unique<CJetDB>(program.folder.Path());
@@ -57,7 +57,7 @@ protected:
         return holder;
     }
 
-    // What a click on an entry of the opened list does.
+    // Does what a click on an entry of the opened list does.
     static void Pick(QComboBox& box, const QString& text)
     {
         const int row = box.findText(text);
@@ -75,7 +75,7 @@ protected:
         QTest::keyClicks(box.lineEdit(), text);
     }
 
-    // Where the window system delivers it; the editor inside a list does not have the focus itself.
+    // Presses a key in the box itself, as the window system delivers it: the editor inside a list does not have the focus.
     static void Key(QComboBox& box, Qt::Key key) { QTest::keyClick(&box, key); }
 
     GuiProgram program;

@@ -1,4 +1,4 @@
-// For journeys through windows with real message boxes: they are shown, and answered by keys as the window system delivers them.
+// For tests that go through windows with real message boxes: these are shown, and answered by keys as the window system delivers them.
 #pragma once
 
 #include "gui/GuiFixture.h"
@@ -37,14 +37,14 @@ private:
 
 struct KeyPress
 {
-    const char* window; // class of the modal window that it is meant for, "QMessageBox" for a box
+    const char* window; // class of the modal window that the key is meant for, "QMessageBox" for a box
     Qt::Key key;
-    int reads = 0;                   // milliseconds that the user takes first
-    std::function<void()> sees = {}; // what is looked at, or done, before
+    int reads = 0;                   // milliseconds that the user reads before the key
+    std::function<void()> sees = {}; // called just before the key
 };
 
-// Presses one key after the other, each as soon as the window it is meant for takes keys. One that is blocked by another window never does:
-// after ten seconds everything modal is closed, and the test has failed.
+// Presses one key after the other, each as soon as the window that it is meant for takes keys. A window that another one blocks never does:
+// ten seconds after the start every modal window is closed, and the test has failed.
 class KeyPresses
 {
 public:

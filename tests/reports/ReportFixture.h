@@ -1,4 +1,4 @@
-// Reports on a real database in a temporary program folder, shown in viewers that only remember.
+// Reports on a real database in a temporary program folder, shown in viewers that only keep what they are told.
 #pragma once
 
 #include "model/CEmployee.h"
@@ -101,7 +101,7 @@ protected:
         factory->PTKDatabase(database);
     }
 
-    // Reports and viewers hold each other.
+    // Reports and viewers hold each other, so one side has to let go.
     void TearDown() override
     {
         for (const auto& viewer : viewers.made) {
@@ -118,7 +118,7 @@ protected:
         return report;
     }
 
-    // Asked of any report: each takes its part.
+    // A request that every report accepts: each takes the parts that it needs.
     ReportRequest Of(const std::vector<std::shared_ptr<CEmployee>>& employees) const
     {
         return {database, employees.empty() ? nullptr : employees.front(), ListOf(employees), first, last};

@@ -24,7 +24,7 @@
 
 namespace ptk {
 
-// A login that is decided beforehand.
+// A login whose outcome the test decides beforehand.
 class ScriptedLogin final : public LoginWindow
 {
 public:
@@ -54,7 +54,7 @@ private:
     bool m_valid;
 };
 
-// A main window that closes as the real one does: unloading it runs its own closing steps.
+// A main window that closes as the real one does: Unload runs its closing steps.
 class ScriptedMain final : public MainWindow
 {
 public:
@@ -86,7 +86,7 @@ private:
     std::shared_ptr<CController> m_controller;
 };
 
-// The user gives in to nothing and has the time.
+// A user who lets the work go on, until the test sets `goesOn` to false.
 class ScriptedProgress final : public ProgressWindow
 {
 public:
@@ -95,7 +95,7 @@ public:
     bool goesOn = true;
 };
 
-// Chooses one file after the other, then none.
+// Chooses one of `files` at each call and takes it out of the list; none when the list is empty.
 class ScriptedRestore final : public RestoreWindow
 {
 public:
@@ -133,7 +133,7 @@ public:
     bool loginValid = true;
     bool mainDisplays = true;
     bool backupGoesOn = true;
-    std::vector<std::string> restored; // names of backups, as they are chosen one after the other
+    std::vector<std::string> restored; // names of backups, in the order in which they are chosen
     std::shared_ptr<ScriptedLogin> login;
     std::shared_ptr<ScriptedMain> main;
 };
@@ -147,7 +147,7 @@ protected:
         CreateDatabase(NativePath(databasePath).string());
     }
 
-    // Window and controller hold each other until the window is unloaded, which not every test comes to.
+    // Window and controller hold each other until the window is unloaded, which some tests never do.
     void TearDown() override
     {
         if (windows.main) {
@@ -174,7 +174,7 @@ protected:
 
     std::string Log() const { return ReadBytes(logPath); }
 
-    // Each box as title and text; every one of the start-up and the shutdown has just an OK button.
+    // Each box as "title: text". Expects that it has only an OK button, as all boxes of the start-up and the shutdown have.
     std::vector<std::string> Boxes() const
     {
         std::vector<std::string> boxes;

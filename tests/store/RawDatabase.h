@@ -1,4 +1,4 @@
-// A database file as another tool sees it, for setting up what the tests need and for looking at what was written.
+// A database file as another tool sees it: tests set up what they need with it and look at what was written.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -22,7 +22,7 @@ public:
     int TryRun(const std::string& sql) { return sqlite3_exec(m_database, sql.c_str(), nullptr, nullptr, nullptr); }
     void Run(const std::string& sql) { EXPECT_EQ(TryRun(sql), SQLITE_OK) << sql << ": " << sqlite3_errmsg(m_database); }
 
-    // All values of all rows, "|" after each value; NULL for a null.
+    // All values of all rows, each with "|" behind it; "NULL" for a null.
     std::string Rows(const std::string& sql)
     {
         std::string text;

@@ -59,11 +59,11 @@ protected:
         return std::distance(std::filesystem::directory_iterator(m_folder.Path() + "/system"), std::filesystem::directory_iterator());
     }
 
-    // As another tool would, while the program has the file closed.
+    // Runs SQL as another tool would. REQUIRES: the program has the file closed; also for Rows.
     void Run(const std::string& sql) const { RawDatabase(Path()).Run(sql); }
     std::string Rows(const std::string& sql) const { return RawDatabase(Path()).Rows(sql); }
 
-    // As the version before the edit trail and the check's limits made it.
+    // Turns the database into one that a version from before the edit trail and the check's limits made.
     void MakeEarlier() const { Run(kMakeWithoutTrail); }
 
     TemporaryFolder m_folder;

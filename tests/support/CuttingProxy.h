@@ -1,4 +1,4 @@
-// A line to the tests' server that breaks: between a client and the server's socket, cut after so many bytes of the server's answers.
+// A proxy between clients and the socket of the tests' server, which can cut, stall and slow down the lines through it.
 #pragma once
 
 #include "support/ServerDatabase.h"
@@ -33,15 +33,15 @@ public:
 
     [[nodiscard]] const std::string& Folder() const { return m_folder.Path(); }
 
-    // The line that is open then is cut when the server has answered so many bytes more; later ones hold.
+    // Cuts the line that is open now once the server has answered so many bytes more; later lines hold.
     void CutAfter(int bytes) { m_left = bytes; }
     [[nodiscard]] bool WasCut() const { return m_left < 0; }
 
-    // From then on nothing passes any more, over any line, and no line ends, until it flows again.
+    // From now on nothing passes over any line, and no line ends, until Flow is called.
     void Stall() { m_stalled = true; }
     void Flow() { m_stalled = false; }
 
-    // What passes from then on takes so long each way.
+    // From now on all that passes takes so long each way.
     void Delay(std::chrono::milliseconds way) { m_way = way; }
 
 private:

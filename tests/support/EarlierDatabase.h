@@ -1,9 +1,10 @@
-// What makes a file of an earlier version out of a new one.
+// Scripts that turn a new database file into one of an earlier version.
 #pragma once
 
 namespace ptk {
 
-// The one with a trail and without reasons, what was paid, and a number of its structure. It wrote the trail's columns without naming them.
+// Makes the structure that has a trail, but no reasons, no paydays, no profiles and no number of its structure. Its trigger writes the
+// columns of the trail without naming them.
 inline constexpr const char* kMakeFirstStructure =
     "DROP TABLE _Payday; DROP TABLE _Profile; DROP TABLE _Structure; DROP TRIGGER _EditWritten; ALTER TABLE _Session DROP COLUMN reason;"
     "ALTER TABLE _Change DROP COLUMN Reason;"
@@ -29,7 +30,7 @@ inline constexpr const char* kMakeFirstStructure =
         19 THEN NEW.a19 WHEN 20 THEN NEW.a20 WHEN 21 THEN NEW.a21 END a FROM json_each(NEW.names)) WHERE NEW.act <> 'update' OR b IS NOT a HAVING count(*) > 0;
 END)sql";
 
-// The one before the trail and the check's limits.
+// Makes the structure from before the trail and the limits of the check.
 inline constexpr const char* kMakeWithoutTrail =
     "DROP TABLE _Payday; DROP TABLE _Profile; DROP TABLE _Structure;"
     "DROP TRIGGER _TimeRecordInsert; DROP TRIGGER _TimeRecordUpdate; DROP TRIGGER _TimeRecordDelete;"

@@ -30,7 +30,7 @@ public:
     // The program folder.
     [[nodiscard]] const std::string& Folder() const { return m_folder.Path(); }
 
-    // As another tool would.
+    // Opens the database as another tool would.
     [[nodiscard]] std::unique_ptr<Engine> Open() const
     {
         return IsOnServer() ? std::unique_ptr<Engine>(std::make_unique<PostgresEngine>(Name())) : std::make_unique<SqliteEngine>(Name());

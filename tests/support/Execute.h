@@ -1,4 +1,4 @@
-// Single writes that a test makes, each as another tool would.
+// Writes that a test makes to a database, as another tool would.
 #pragma once
 
 #include "store/CJetDB.h"
@@ -10,20 +10,20 @@
 
 namespace ptk {
 
-// On disk when it returns; raises as Engine::Write.
+// Runs the statement, which is on the disk when this returns. Raises what Engine::Write raises.
 inline void Execute(Engine& engine, std::string_view statement)
 {
     engine.Write([&] { engine.Run(statement); });
 }
 
-// In a file.
+// Runs the statement in the database file at `path`.
 inline void ExecuteIn(const std::string& path, std::string_view statement)
 {
     SqliteEngine engine(path);
     Execute(engine, statement);
 }
 
-// All of them in one transaction and one step, or nothing.
+// Runs all statements in one transaction and as one step, or none; false where it did not.
 inline bool ExecuteAll(CJetDB& database, const std::vector<std::string>& statements)
 {
     return database.ExecuteSteps([&](Engine& engine) {

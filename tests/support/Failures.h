@@ -1,4 +1,4 @@
-// What an action fails with.
+// Answers which failure an action raises.
 #pragma once
 
 #include "platform/Failure.h"

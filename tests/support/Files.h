@@ -1,4 +1,4 @@
-// Whole files as bytes; paths may keep the configuration's backslashes.
+// Reads and writes whole files as bytes. Paths may have backslashes, as the configuration's have.
 #pragma once
 
 #include "platform/files/ProgramFolder.h"

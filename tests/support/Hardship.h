@@ -1,4 +1,4 @@
-// What the machine can be like for a program: files that cannot grow, and users without the rights of root.
+// Hardships for a program: files that cannot grow, and a user without the rights of root.
 #pragma once
 
 #include <csignal>
@@ -10,7 +10,7 @@
 
 namespace ptk {
 
-// No file may grow beyond so many bytes: every write past them fails as it does on a full disk.
+// As long as an object lives, no file may grow beyond so many bytes. Every write past them fails as it does on a full disk.
 class FullDisk
 {
 public:
@@ -29,7 +29,8 @@ private:
     rlimit m_before{};
 };
 
-// Tests run as root, too, to whom nothing is forbidden: for as long as this lives they are nobody, who owns `folder` and what is in it.
+// Takes the rights of root from a test that runs as root, to whom nothing is forbidden. As long as an object lives, the test is the user
+// "nobody", who owns `folder`, its system and its reports.
 class OrdinaryUser
 {
 public:
@@ -52,7 +53,7 @@ private:
     uid_t m_before = ::geteuid();
 };
 
-// The permission bits of a file, not followed where it is a link; -1 where there is none.
+// The permission bits of a file; of a link, its own. -1 where there is no such file.
 inline int ModeOf(const std::string& path)
 {
     struct stat status

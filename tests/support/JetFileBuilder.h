@@ -1,4 +1,4 @@
-// Makes small Jet 3 files (.mdb, code page 1252) for tests of the import: whole ones, and ones with rows that no database program would
+// Makes small Jet 3 files (.mdb, code page 1252) for tests of the import: sound ones, and ones with rows that no database program would
 // write.
 #pragma once
 
@@ -33,16 +33,16 @@ public:
         Type type;
     };
 
-    // None: NULL. Numbers go to every numeric type, dates are days since 30 December 1899; text is in code page 1252.
+    // monostate is NULL. A number fits every numeric type; a date is a number of days since 30 December 1899; text is in code page 1252.
     using Cell = std::variant<std::monostate, double, std::string>;
     using Row = std::vector<Cell>;
 
     JetFileBuilder()
     {
-        m_pages.resize(3); // the header, a page without use, the definition of the catalog
+        m_pages.resize(3); // the header, an unused page, the definition of the catalog
     }
 
-    // `counted`: what the table says of its rows, instead of the truth. All rows must be shorter than 256 bytes.
+    // `counted`: the number of rows that the table claims to hold, instead of the true one. REQUIRES: all rows are shorter than 256 bytes.
     void AddTable(const std::string& name, const std::vector<Column>& columns, const std::vector<Row>& rows,
                   std::optional<std::uint32_t> counted = {})
     {
@@ -52,7 +52,7 @@ public:
         m_catalog.push_back({static_cast<double>(definition), name, 1.0, 0.0});
     }
 
-    // An object of the catalog that is no table: 5 is a stored query, whose parts are rows of the table MSysQueries.
+    // Adds an object of the catalog that is no table. Type 5 is a stored query, whose parts are rows of the table MSysQueries.
     void AddObject(double id, const std::string& name, double type) { m_catalog.push_back({id, name, type, 0.0}); }
 
     // The bytes of the file.
@@ -81,7 +81,7 @@ private:
         return bytes;
     }
 
-    // From 24 on it is enciphered (RC4) with a key that is the same in all files.
+    // The header page. From byte 24 on, 126 bytes are enciphered (RC4) with a key that is the same in all files.
     static std::string Header()
     {
         std::string page("\0\1\0\0Standard Jet DB\0\0", 21);
@@ -134,7 +134,8 @@ private:
         return Little(static_cast<std::uint64_t>(static_cast<std::int64_t>(number)), WidthOf(type));
     }
 
-    // The count of columns, what has a fixed width, texts, where these begin and end, and a bit for each value that is there.
+    // A row: the count of columns, the values of fixed width, the texts, where the last text ends and each begins, from the last to the
+    // first, the count of texts, and a bit for each value that is there.
     static std::string RowBytes(const std::vector<Column>& columns, const Row& row)
     {
         std::string bytes(1, static_cast<char>(columns.size()));
@@ -163,7 +164,7 @@ private:
         return bytes + static_cast<char>(starts.size()) + there;
     }
 
-    // A page of rows, which lie at its end, the first one last.
+    // A page of rows. They lie at its end, the first row last.
     std::string DataPage(std::uint32_t table, const std::vector<std::string>& rows) const
     {
         std::string head = std::string("\1\1\0\0", 4) + Little(table, 4) + Little(rows.size(), 2);

@@ -11,7 +11,7 @@ class NewServerDatabase : public ServerDatabase
 public:
     NewServerDatabase() { CreateDatabase(Address()); }
 
-    // As those of structure 2, whose columns took every value of their types.
+    // Drops all checks of values, as databases of structure 2 had none: their columns took every value of their types.
     void TakeAnyValue() const
     {
         Run("DO $$ DECLARE c record; BEGIN "

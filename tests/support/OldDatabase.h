@@ -1,4 +1,4 @@
-// A small older database for tests that need a whole one.
+// Writes a small older database, for tests that need a sound one.
 #pragma once
 
 #include "support/Files.h"
@@ -10,8 +10,8 @@
 
 namespace ptk {
 
-// One employee, all of whose texts are "Jos\xE9", with one shift of six hours on 14 January 2004, no company, no options. `counted`: the
-// records that the table claims to hold.
+// Holds one employee, all of whose texts are "Jos\xE9", with one shift of six hours on 14 January 2004; no company, no options. `counted`:
+// the number of time records that their table claims to hold.
 inline void WriteOldDatabase(const std::string& path, std::uint32_t counted = 1)
 {
     using Builder = JetFileBuilder;

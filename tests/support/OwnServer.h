@@ -1,4 +1,4 @@
-// A server of a test's own, which takes the place of the others' while this lives, and ends with it.
+// A server of a test's own. As long as the object lives, it runs in the place of the server that the tests share.
 #pragma once
 
 #include "support/Sources.h"
@@ -35,7 +35,7 @@ public:
     OwnServer(const OwnServer&) = delete;
     OwnServer& operator=(const OwnServer&) = delete;
 
-    // A step of tests/support/server_cluster; false, with the reason on the terminal, where it fails.
+    // Runs a step of tests/support/server_cluster. Where that fails, answers false, and the reason is on the terminal.
     [[nodiscard]] bool Do(const char* step) const
     {
         const auto command = fmt::format("{}/tests/support/server_cluster {} {}/own", SourceFolder(), step, m_folder.Path());

@@ -1,4 +1,4 @@
-// A desktop that shows nothing: it keeps what would have been shown and answers as the test scripted.
+// A desktop that shows nothing. It keeps what it was to show and answers as the test has set it up.
 #pragma once
 
 #include "platform/Failure.h"
@@ -35,11 +35,11 @@ public:
     std::vector<ShownBox> boxes;
     std::vector<ShellRequest> requests;
     Pointer pointer = Pointer::Default;  // the shape set last
-    std::deque<Answer> answers;          // for boxes that ask; none left: No
-    std::deque<std::int32_t> shellCodes; // for shell requests; none left: taken over
-    std::string reason;                  // typed wherever one can be
-    std::vector<ReasonLine> reasons;     // as they were offered
-    std::string refusal;                 // the reason given for a code that is none of success
+    std::deque<Answer> answers;          // to the next boxes that ask; once none is left: No
+    std::deque<std::int32_t> shellCodes; // for the next shell requests; once none is left, documents are taken over
+    std::string reason;                  // is typed into every box with a line for a reason
+    std::vector<ReasonLine> reasons;     // the lines for a reason as they were offered
+    std::string refusal;                 // why a document was not taken over
 
     Answer MessageBox(const std::string& text, const std::string& title, Icon icon, Buttons buttons) override
     {

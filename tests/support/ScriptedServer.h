@@ -1,4 +1,4 @@
-// A server that lets everybody in and then says what a test wants, whatever it is asked.
+// A server that lets every client in and then answers what a test wants, whatever it is asked.
 #pragma once
 
 #include "support/TemporaryFolder.h"
@@ -21,7 +21,8 @@ class ScriptedServer
 public:
     static constexpr auto kHangsUp = "hang up";
 
-    // `first` answers a question once, `endless` follows for as long as somebody reads it; kHangsUp: nothing does, and the line ends.
+    // `first` answers the question, then `endless` follows again and again as long as the client reads. Where `endless` is empty, the line
+    // stays open until the client speaks again or leaves; where it is kHangsUp, the line ends.
     ScriptedServer(std::string first, std::string endless)
         : m_first(std::move(first)), m_endless(std::move(endless)), m_listener(Listen()), m_thread([this] { Serve(); })
     {
@@ -37,7 +38,7 @@ public:
 
     [[nodiscard]] std::string Address() const { return fmt::format("postgresql:///books?host={}&user=ann", m_folder.Path()); }
 
-    // A message of the server: its kind, its length, what is in it.
+    // A message of the server: its kind, its length, its content.
     [[nodiscard]] static std::string Message(char kind, const std::string& body)
     {
         return kind + Number(static_cast<std::uint32_t>(body.size()) + 4) + body;

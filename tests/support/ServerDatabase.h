@@ -1,4 +1,4 @@
-// A database of a test's own on the tests' server, gone with it.
+// A database of a test's own on the tests' server. It is dropped when the object ends.
 #pragma once
 
 #include "store/postgres/ServerLine.h"
@@ -25,7 +25,7 @@ inline std::string TestServer()
 class ServerDatabase
 {
 public:
-    // Empty.
+    // Makes an empty database.
     ServerDatabase()
     {
         static int made = 0;
@@ -41,12 +41,12 @@ public:
 
     [[nodiscard]] std::string Address(const std::string& user = "postgres") const { return AddressOf(m_name, user); }
 
-    // As another tool would.
+    // Runs SQL as another tool would.
     void Run(const std::string& sql) const { Owner(m_name).RunScript(sql.c_str()); }
 
 private:
-    // With PTK_TEST_STRANGE_SERVER databases are as an office may have them elsewhere: of a locale in which a small I is none of the 26
-    // letters, and with everybody allowed to make objects in them, as up to PostgreSQL 14.
+    // With PTK_TEST_STRANGE_SERVER databases are as offices elsewhere may have them: in a locale where the small letter of I is none of the
+    // 26 letters, and with everybody allowed to make objects in them, as up to PostgreSQL 14.
     static bool IsStrange() { return std::getenv("PTK_TEST_STRANGE_SERVER") != nullptr; }
     static const char* Locale() { return IsStrange() ? "LOCALE_PROVIDER icu ICU_LOCALE 'tr-TR'" : ""; }
 

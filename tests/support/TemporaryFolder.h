@@ -1,4 +1,4 @@
-// A program folder of a test's own, removed with all its content at the end.
+// A program folder of a test's own, which is removed with all its content when the object ends.
 #pragma once
 
 #include <cstdlib>

@@ -1,4 +1,4 @@
-// A started program that goes through a payday, each action of it measured.
+// Takes a started program through a payday and measures how long its windows are deaf in each action.
 #pragma once
 
 #include "gui/deaf/Deafness.h"
@@ -15,8 +15,8 @@
 
 namespace ptk {
 
-// Twenty people who worked each day from 24 February to 4 March 2003, yesterday, and on so many days of years before; 03 Kim has not ended
-// the shift of 3 March, 05 Kim not one of 21 February.
+// Adds twenty people who worked each day from 24 February to 4 March 2003, which is yesterday, and on each of the `daysBefore` days before
+// that. 03 Kim has not ended the shift of 3 March, 05 Kim one of 21 February.
 inline void AddDeafStaff(BulkWriter& writer, int daysBefore)
 {
     EmployeeRow employee;
@@ -51,7 +51,7 @@ public:
         std::chrono::milliseconds longest;
     };
 
-    // `before` is done in front of each action. With an address the program works on that database, else on its own file.
+    // `before` is called before each action. With an address the program works on the database there, else on its own file.
     DeafDesk(int daysBefore, std::function<void(const std::string& file)> before, const std::string& address = "")
         : m_program([=](BulkWriter& writer) { AddDeafStaff(writer, daysBefore); }), m_before(std::move(before))
     {
@@ -61,7 +61,7 @@ public:
         Measure("start, log in", [this] { m_program.LogIn(); });
     }
 
-    // In the order of a payday; all of them, or what a short trial takes.
+    // Does the actions in the order of a payday: all, or a few for a short trial.
     void GoThrough(bool all)
     {
         ShowCard();
@@ -127,7 +127,7 @@ private:
         throw std::runtime_error(std::string("no ") + name);
     }
 
-    // Its button that stops the reading is there as long as that lasts; it begins when the window is there.
+    // Waits until the window hides its Stop button, which it shows as long as it reads or saves. It begins that once it is there.
     static void WaitUntilRead(const char* window)
     {
         QTest::qWait(20);

@@ -1,4 +1,4 @@
-// The longest time in which the windows' thread neither came round in its event loop nor took a turn of a wait.
+// Measures the longest time in which the windows' thread neither came round in its event loop nor took a turn of a wait.
 #pragma once
 
 #include <algorithm>
@@ -17,17 +17,17 @@ public:
     {
         QObject::connect(&m_heart, &QTimer::timeout, &m_heart, [this] { Note(); });
         QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::awake, &m_heart, [this] { Note(); });
-        m_heart.start(5); // so that an idle loop is never taken for a deaf one
+        m_heart.start(5); // milliseconds: an idle loop comes round this often and is not taken for a deaf one
     }
 
-    // Of what follows.
+    // Starts a new measurement.
     void Begin()
     {
         m_last = Now();
         m_longest = {};
     }
 
-    // Since then, this moment included.
+    // The longest such time since Begin. The time up to this call counts, too.
     std::chrono::milliseconds Longest()
     {
         Note();
@@ -35,7 +35,7 @@ public:
     }
 
 private:
-    // Without what the machine gave to other programs.
+    // A clock that stands still while this thread waits for a processor.
     static std::chrono::nanoseconds Now()
     {
         std::int64_t ran = 0; // nanoseconds

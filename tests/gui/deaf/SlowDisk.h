@@ -1,4 +1,4 @@
-// A disk on which each flush takes 300 ms and each read of the database engine 20 ms, for as long as one lives.
+// Makes the disk slow as long as an object lives: each flush takes 300 ms more, each read of the database engine 20 ms.
 #pragma once
 
 namespace ptk {
