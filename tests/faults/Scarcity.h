@@ -13,7 +13,7 @@ enum class Scarce : std::uint8_t
     Read,         // fails as on a damaged disk
     ShortRead,    // answers one byte where more were asked for, which is no failure
     Interrupted,
-    Open,      // too many files
+    Open,      // too many files are open
     Forbidden, // a file may not be opened
     Lock,
     Look // asking what a path or a file is

@@ -65,7 +65,7 @@ private:
     bool m_leftOpen = false;
 };
 
-// Today is Wednesday, 5 March 2003, 8:05:09 AM unless the test sets the clock before Start.
+// The program on a desktop of the test's choice. Today is Wednesday, 5 March 2003, 8:05:09 AM unless the test sets the clock before Start.
 template <typename ItsDesktop>
 class GuiProgramOn
 {

@@ -84,7 +84,7 @@ private:
             const bool hangsUp = m_endless == kHangsUp;
             while (goesOn && !hangsUp && !m_endless.empty() && Say(client, m_endless)) {
             }
-            static_cast<void>(goesOn && !hangsUp && ::read(client, asked.data(), asked.size())); // until it is left
+            static_cast<void>(goesOn && !hangsUp && ::read(client, asked.data(), asked.size())); // until it speaks or leaves
             ::close(client);
         }
     }

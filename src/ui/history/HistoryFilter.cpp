@@ -38,7 +38,7 @@ constexpr ActionChoice kActions[] = {{"Any change", ""}, {"Added", "insert"}, {"
 
 constexpr int kTyping = 400;            // milliseconds after the last key
 constexpr int kNameCharacters = 14;     // of a name, shown on the smallest window
-constexpr int kMostNameCharacters = 32; // on the largest
+constexpr int kMostNameCharacters = 32; // of a name, shown on the largest window
 
 QString Text(const std::string& text)
 {

@@ -54,7 +54,7 @@ int HistoryModel::columnCount(const QModelIndex& parent) const
     return parent.isValid() ? 0 : static_cast<int>(kHistoryColumns);
 }
 
-// What does not fit its cell stands whole in the tool tip.
+// The tool tip holds the whole text of a cell, which may be too narrow for it.
 QVariant HistoryModel::data(const QModelIndex& index, int role) const
 {
     return role == Qt::DisplayRole || role == Qt::ToolTipRole ? Text(Cells(index.row()), index.column()) : QVariant();

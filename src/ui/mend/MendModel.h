@@ -10,7 +10,7 @@ namespace ptk {
 
 enum class MendColumn
 {
-    Name, // with the tick
+    Name, // with the tick box
     Finding,
     Remedy,
     End,

@@ -18,7 +18,7 @@ QString CellText(const OverviewCells& cells, int column)
     return QString::fromStdString(cells.at(static_cast<std::size_t>(column)));
 }
 
-// Names to the left, figures to the right.
+// Names stand to the left, figures to the right.
 QVariant AlignmentOf(int column)
 {
     const bool name = static_cast<OverviewColumn>(column) == OverviewColumn::Name;

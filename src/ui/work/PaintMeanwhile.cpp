@@ -52,7 +52,7 @@ bool PostponesClose(QObject& window, QEvent& event)
         return false;
     }
     event.ignore();
-    QTimer::singleShot(kBehindTheWait, &window, [&window] { // no timer runs before
+    QTimer::singleShot(kBehindTheWait, &window, [&window] { // no timer runs during the wait
         if (auto* const widget = qobject_cast<QWidget*>(&window)) {
             widget->close();
         } else if (auto* const bare = qobject_cast<QWindow*>(&window)) {
