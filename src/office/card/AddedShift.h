@@ -1,5 +1,4 @@
-// A shift that several people have on one day and nobody clocked, because a terminal was dead for instance: what its boxes come to, and
-// what is told of it beforehand.
+// One shift for several people on one day that nobody clocked, for instance because a terminal was dead: its boxes, and a forecast.
 #pragma once
 
 #include "office/card/FillPlan.h"
@@ -17,22 +16,23 @@ namespace ptk {
 class CEmployee;
 class CJetDB;
 
-// As the boxes answer them.
+// The contents of the boxes for the shift.
 struct AddedShift
 {
     std::optional<DateTime> day; // midnight; none: the box holds no date
     TypedMoment start;           // times of the day
     TypedMoment end;
 
-    // Nothing unless all three can be read. An end that is not after the start lies on the next day; where both are the same there is no
+    // The shift; nothing unless all three boxes can be read. An end before the start lies on the next day. Equal start and end give no
     // shift.
     [[nodiscard]] std::optional<Shift> Read() const;
 };
 
-// Who has a record that starts on that day; nothing where that could not be read. REQUIRES: not nullptr.
+// The EmployeeIDs of those with a record that starts on that day; nothing if that could not be read. REQUIRES: database is not nullptr.
 [[nodiscard]] std::optional<std::set<std::int64_t>> WithRecordsOn(const std::shared_ptr<CJetDB>& database, DateTime day);
 
-// What saving will do, or what is missing, in sentences. `taken`: see WithRecordsOn. longShiftHours: a longer one is told.
+// Says what saving will do, or which entry is missing. `taken` is the answer of WithRecordsOn. A shift of more than `longShiftHours` hours
+// is pointed out.
 [[nodiscard]] std::string AddedShiftForecast(const AddedShift& shift, const std::vector<std::shared_ptr<CEmployee>>& people,
                                              const std::optional<std::set<std::int64_t>>& taken, std::int32_t longShiftHours);
 

@@ -15,7 +15,7 @@ namespace ptk {
 
 namespace {
 
-// Days that lie in no period, perhaps none: those between the last closed one and this.
+// The days between the last closed period and this one, which lie in no period; nothing if there are none.
 std::optional<PayPeriod> GapBefore(const PayPeriod& period, const ClosingsOfEmployee& closings)
 {
     if (!closings.lastDayBefore || DaysBetween(*closings.lastDayBefore, period.from) < 2) {
@@ -24,7 +24,7 @@ std::optional<PayPeriod> GapBefore(const PayPeriod& period, const ClosingsOfEmpl
     return PayPeriod{closings.lastDayBefore->AddDays(1), period.from.AddDays(-1)};
 }
 
-// The first day of the period of as many days before; the calendar's first day where that lies before it.
+// The first day of the preceding period, which has as many days as this one; the calendar's first day if that day lies before it.
 DateTime FirstDayBefore(const PayPeriod& period)
 {
     static const DateTime firstOfAll(CalendarDate{100, 1, 1});
@@ -52,18 +52,19 @@ const ClosingsOfEmployee* CardChecker::ClosingsOf(std::int32_t employeeID)
     return found == m_closings->end() ? nullptr : &found->second;
 }
 
-// The days before the period, too, of those who have such days. All that can be asked is on its way before the first answer is waited for.
+// The days between the last closing and the period are read too, for those who have such days. Everything that can be asked is sent off
+// before the first answer is waited for.
 void CardChecker::ReadAhead(std::span<const std::int32_t> employeeIDs)
 {
     if (!m_reader.ReadsAhead()) {
         return;
     }
     m_reader.AskAhead(employeeIDs);
-    if (employeeIDs.size() < PunchReader::kAtOnce) { // of many it costs more than a wait
+    if (employeeIDs.size() < PunchReader::kAtOnce) { // for many people the question costs more than a wait
         AskWhoWorkedBefore();
     }
     m_reader.ReadAhead(employeeIDs);
-    std::map<DateTime, std::vector<std::int32_t>> people; // by the first of those days
+    std::map<DateTime, std::vector<std::int32_t>> people; // by the first day that lies in no period
     for (const std::int32_t id : employeeIDs) {
         const ClosingsOfEmployee* closings = ClosingsOf(id);
         if (const auto gap = closings == nullptr ? std::nullopt : GapBefore(m_terms.period, *closings)) {
@@ -111,7 +112,7 @@ void CardChecker::NameChanged(CardCheck& check, const Closing& paid) const
     }
 }
 
-// None of the rows that it adds is on the card: what is, was read before.
+// The rows that this adds are never on the card: the card's own rows were read before.
 void CardChecker::ReadGap(std::int32_t employeeID, const ClosingsOfEmployee& closings)
 {
     const auto gap = GapBefore(m_terms.period, closings);

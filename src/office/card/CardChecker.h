@@ -1,4 +1,4 @@
-// Checks the cards of one pay period, one employee after the other, with all that a check looks at.
+// Checks the cards of one pay period, one employee after the other, together with the closings and the shifts before the period.
 #pragma once
 
 #include "model/check/CardCheck.h"
@@ -23,7 +23,7 @@ class CEmployee;
 class CJetDB;
 class Statement;
 
-// What a check is made with besides the records.
+// What a check needs besides the records.
 struct CheckTerms
 {
     PayPeriod period;
@@ -35,27 +35,27 @@ struct CheckTerms
 class CardChecker
 {
 public:
-    // Asks what was closed, of everybody, unless `closings` did so for the one employee who is to be checked. REQUIRES: a CJetDB::Hold on
-    // the open database outlives it.
+    // Asks what was closed for everybody. With `closings` it uses that question instead, which may be about the one employee who will be
+    // checked. REQUIRES: a CJetDB::Hold on the open database outlives the checker.
     CardChecker(std::shared_ptr<CJetDB> database, const CheckTerms& terms, std::unique_ptr<ClosingsQuestion> closings = nullptr);
     ~CardChecker();
     CardChecker(const CardChecker&) = delete;
     CardChecker& operator=(const CardChecker&) = delete;
 
-    // Of those who are to be checked next: see PunchReader.
+    // Read, or ask for, the rows of the employees who are checked next: see PunchReader.
     void ReadAhead(std::span<const std::int32_t> employeeIDs);
     void AskAhead(std::span<const std::int32_t> employeeIDs) { m_reader.AskAhead(employeeIDs); }
 
     [[nodiscard]] CardCheck Check(const CEmployee& employee);
 
-    // Of the last Check: the rows that it looked at, and how many of them have to do with the period.
+    // The rows that the last Check looked at, and how many of them belong to the period.
     [[nodiscard]] const Punches& Rows() const { return m_rows; }
     [[nodiscard]] std::int32_t RecordsOfPeriod() const;
 
-    // What was paid for exactly this period, where it was.
+    // The newest closing of exactly this period; nothing if it was never closed for this employee.
     [[nodiscard]] std::optional<Closing> Paid(std::int32_t employeeID);
 
-    // Of the findings of the last Check, in their order. autoShiftEnd: see ShiftEnds.
+    // The remedies of each of the check's findings, in their order. `check` is the last answer of Check. autoShiftEnd: see ShiftEnds.
     [[nodiscard]] std::vector<std::vector<Remedy>> Remedies(const CEmployee& employee, const CardCheck& check,
                                                             std::optional<std::int64_t> autoShiftEnd);
 
@@ -71,12 +71,12 @@ private:
     CheckTerms m_terms;
     PunchReader m_reader;
     std::unique_ptr<ClosingsQuestion> m_closingsQuestion;
-    std::optional<Closings> m_closings; // once they were asked for
+    std::optional<Closings> m_closings; // empty until the first use
     ClockChanges m_clock;
     UsualEnds m_usualEnds;
-    std::map<DateTime, std::unique_ptr<PunchReader>> m_gaps; // by their first day
+    std::map<DateTime, std::unique_ptr<PunchReader>> m_gaps; // by the first day after the last closed period
     std::unique_ptr<Statement> m_workedBeforeQuestion;
-    std::optional<std::set<std::int64_t>> m_workedBefore; // EmployeeIDs, read when somebody has no shift
+    std::optional<std::set<std::int64_t>> m_workedBefore; // EmployeeIDs; read when the first employee without a shift is checked
     Punches m_rows;
 };
 

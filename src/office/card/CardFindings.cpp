@@ -19,7 +19,7 @@ bool IsShown(const Finding& finding, bool showNotices)
     return showNotices || SeverityOf(finding.kind) == Severity::Problem;
 }
 
-// Of a shift that began years ago, both days.
+// The day of the shift; both days if it ends on another one, as a shift that began years ago does.
 std::string DaysOf(const Punch& punch)
 {
     if (IsSet(punch.start) && IsSet(punch.end) && punch.start->DayNumber() != punch.end->DayNumber()) {
@@ -31,7 +31,7 @@ std::string DaysOf(const Punch& punch)
     return IsSet(punch.end) ? DayText(*punch.end) : std::string();
 }
 
-// The days come first: the line that says it may be short of room.
+// The days come first because the line that shows this text may be too short for all of it.
 std::string WhereText(const FindingPlace& place, bool cardShown)
 {
     if (place.elsewhere.empty()) {

@@ -1,4 +1,4 @@
-// What the Timecards page and the overview make of the findings of a check.
+// How the Timecards page and the overview show the findings of a check.
 #pragma once
 
 #include "model/check/Finding.h"
@@ -14,13 +14,13 @@ namespace ptk {
 struct CardCheck;
 struct CheckedTimecard;
 
-// In their order; without the notices where they are not to be shown.
+// The findings in their order, without the notices if they are not to be shown.
 [[nodiscard]] std::vector<Finding> ShownFindings(const CardCheck& check, bool showNotices);
 
 // "Problem: The shift that began on ... has no end and counts nothing.".
 [[nodiscard]] std::string SpokenText(const Finding& finding);
 
-// What a row of the card is marked with: its worst finding, and the sentences of all, a line each.
+// The mark of a row of the card: the severity of its worst finding, and the sentences of all its findings, one per line.
 struct RowMark
 {
     Severity severity = Severity::Notice;
@@ -31,17 +31,17 @@ using RowMarks = std::unordered_map<std::int64_t, RowMark>; // by TimeRecordID
 
 [[nodiscard]] RowMarks MarksOf(const CardCheck& check, bool showNotices);
 
-// The line between grid and figures: "2 problems, 1 notice". Behind it the record that keeps the card from being made, and its value, or
-// why nothing was checked. Both can be empty.
+// The two texts of the line between grid and figures. The first counts: "2 problems, 1 notice". The second, behind it, names the record
+// that keeps the card from being made, with its value, or says why nothing was checked. Either can be empty.
 [[nodiscard]] std::string FindingLineText(const CheckedTimecard& checked);
 [[nodiscard]] std::string FindingDetailText(const CheckedTimecard& checked);
 
-// Where the records of a finding are.
+// Where the records of a finding are: on the card or outside of it.
 struct FindingPlace
 {
     std::vector<std::int64_t> onCard;    // keys of rows of the card
-    std::vector<const Punch*> elsewhere; // parts of the check's punches
-    std::string text;                    // on which days the first of the latter lies; empty when there is none
+    std::vector<const Punch*> elsewhere; // point into the punches of the CheckedTimecard
+    std::string text;                    // says on which days the first of `elsewhere` lies; empty if there is none
 };
 
 [[nodiscard]] FindingPlace PlaceOf(const Finding& finding, const CheckedTimecard& checked);

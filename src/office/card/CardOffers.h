@@ -23,14 +23,14 @@ enum class OfferKind
 struct CardOffer
 {
     OfferKind kind = OfferKind::Mend;
-    Remedy remedy; // its text says what is offered; without changes where that only leads to another window
+    Remedy remedy; // its text says what is offered; it has no changes if the offer only leads to another window
 };
 
-// Of a finding of the check, in the order of their keys; no more than three.
+// The offers for a finding of the check, at most three, in the order of their shortcut keys.
 [[nodiscard]] std::vector<CardOffer> OffersFor(const Finding& finding, const CheckedTimecard& checked);
 
-// Counted among the ShownFindings: the next one to be mended behind `done`, which may be among them still, or else the first. Notices that
-// nothing can be done about are passed over. Nothing where none is left. Without `done` the first of all.
+// The index, among the ShownFindings, of the finding to mend next: the first one from `done` on, which may still be among them, or else the
+// first of all; without `done` the first of all. Notices that nothing can be done about are skipped. Nothing if none is left.
 [[nodiscard]] std::optional<std::size_t> NextToMend(const CheckedTimecard& checked, const std::optional<Finding>& done);
 
 } // namespace ptk

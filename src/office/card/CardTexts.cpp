@@ -27,7 +27,7 @@ CardName NameOf(const CTimeCard& card)
         return {};
     }
     const std::string from = DayText(card.StartDate());
-    const std::string to = DayText(card.EndDate().AddDays(-1)); // the card ends with the midnight after its last day
+    const std::string to = DayText(card.EndDate().AddDays(-1)); // the card's end is the midnight after its last day
     return {employee->DisplayName(), from + " - " + to};
 }
 

@@ -1,4 +1,4 @@
-// What the Timecards page and its editors say without a box: whose card is shown, whose a record will be, what was done.
+// The texts that the Timecards page and its editors show without a message box: whose card is shown, who will own a record, what was done.
 #pragma once
 
 #include "platform/text/DateTime.h"
@@ -10,7 +10,7 @@ namespace ptk {
 
 class CTimeCard;
 
-// Whose card and of which days, as the page's boxes show it.
+// The employee and the days of a card, as the page's boxes show them.
 struct CardName
 {
     std::string employee; // display name, empty for nobody
@@ -19,17 +19,17 @@ struct CardName
     bool operator==(const CardName&) const = default;
 };
 
-// The employee is empty where the card could not even be given one.
+// The employee's name is empty if the card has no employee.
 [[nodiscard]] CardName NameOf(const CTimeCard& card);
 
-// The warning above a card that is not the one the boxes name; empty when it is, or when it is nobody's. A card that is not shown any more
-// still takes the new records, and that is what is said of it. `chosen.employee` is empty for a text that is nobody's name.
+// The warning above a card that is not the one named by the boxes; empty if it is, or if the card has no employee. New records still go to
+// a card that is not shown any more, and the warning then says that. `chosen.employee` is empty if the typed text is no employee's name.
 [[nodiscard]] std::string StrangeCardText(const CardName& card, bool shown, const CardName& chosen);
 
-// How to come to the card that the boxes name.
+// How to get the card that the boxes name.
 [[nodiscard]] std::string NextStepText(const CardName& chosen);
 
-// For the editors: whose the record will be, that of the card's employee whatever the boxes say.
+// For the editors: who will own the record, which is the card's employee whatever the boxes say.
 [[nodiscard]] std::string RecordOwnerText(const std::string& cardEmployee, const std::string& chosenEmployee);
 
 // "1 record", "2 records".
@@ -41,11 +41,11 @@ struct CardName
 // "Ann Lee's records could not be read: the database is in use by another program"; empty where there simply are none.
 [[nodiscard]] std::string UnreadText(const CTimeCard& card);
 
-// "Record not saved: " and why, as far as the card knows it.
+// "Record not saved: " and the reason, if the card knows it. `what` is the part before the colon.
 [[nodiscard]] std::string RefusedText(const std::string& what, const CTimeCard& card);
 
-// "after 0:45 break time": what was taken off the hours of a generated card in all, and what follows where it exceeds them; empty when
-// nothing was.
+// "after 0:45 break time": the break time that was taken off the hours of a generated card in all, and what follows if that exceeds the
+// hours; empty if nothing was taken off.
 [[nodiscard]] std::string BreakTimeText(const CTimeCard& card);
 
 // "Sunday".

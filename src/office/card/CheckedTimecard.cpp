@@ -11,10 +11,10 @@ namespace ptk {
 
 namespace {
 
-// What the check asks besides the records goes along with the card's own question, where answers come from afar.
+// What the check asks besides the records. A server gets these questions together with the card's own one.
 struct CheckQuestions
 {
-    std::unique_ptr<LimitsQuestion> limits; // nullptr where they are given
+    std::unique_ptr<LimitsQuestion> limits; // nullptr if the caller gave the limits
     std::unique_ptr<ClosingsQuestion> closings;
 };
 
@@ -37,7 +37,7 @@ CheckedTimecard GenerateChecked(CTimeCard& card, const std::shared_ptr<CJetDB>& 
     const auto ask = [&] { return AskForCheck(*database, *employee, period, limits.has_value()); };
     CheckQuestions asked;
     if (isToBeChecked) {
-        Succeeds([&] { asked = ask(); }); // the check tells what it fails with
+        Succeeds([&] { asked = ask(); }); // a failure is told by the check below
     }
     CheckedTimecard result;
     result.period = period;
@@ -58,7 +58,7 @@ CheckedTimecard GenerateChecked(CTimeCard& card, const std::shared_ptr<CJetDB>& 
     };
     Succeeds(check, [&](const Failure& reason) {
         result.failure = reason;
-        result.check.reset(); // half of one would pass for a whole one
+        result.check.reset(); // half a check would look like a whole one
     });
     return result;
 }

@@ -25,7 +25,7 @@ FillRefusal ReadRange(const FillTexts& texts, CDateRange& range)
     return range.DayCount() < 1 ? FillRefusal::TooShort : FillRefusal::None;
 }
 
-// Seconds from midnight, the same on every day.
+// Seconds from midnight; the same for every day of the range.
 std::int64_t SecondOfDay(DateTime day, const TypedMoment& time)
 {
     return Together({ShortDateText(day), DateTime(day.Date())}, time).Seconds() - day.Seconds();

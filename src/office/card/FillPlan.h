@@ -1,4 +1,4 @@
-// What Auto Fill makes of its dates and times, and what it tells of that beforehand.
+// The shifts that Auto Fill makes of its dates and times, and what it says about them beforehand.
 #pragma once
 
 #include "platform/text/DateTime.h"
@@ -14,7 +14,7 @@ namespace ptk {
 
 class CJetDB;
 
-// As the boxes answer them.
+// The contents of Auto Fill's boxes.
 struct FillTexts
 {
     std::string from;
@@ -27,14 +27,14 @@ enum class FillRefusal
 {
     None,
     NoRange,  // a text that is no date, or one outside the years 1900 to 2100
-    TooShort, // fewer than two days, deliberately
+    TooShort, // the range has fewer than two days, which is deliberately refused
     NoTime    // a text that is no time
 };
 
 struct Shift
 {
     DateTime start;
-    DateTime end; // on the same day, also when it lies before the start
+    DateTime end; // for Auto Fill on the same day, even if it lies before the start
 };
 
 struct FillPlan

@@ -22,7 +22,7 @@ bool Shares(const Remedy& one, const Remedy& other)
     });
 }
 
-// Of those whose cards are read together.
+// The EmployeeIDs of those whose cards are read together, from `first` on.
 std::vector<std::int32_t> NextNumbers(const std::vector<std::shared_ptr<CEmployee>>& people, std::size_t first)
 {
     std::vector<std::int32_t> numbers;
@@ -67,7 +67,7 @@ void MendPlan::Add(Card card, const std::vector<std::vector<Remedy>>& remedies)
     m_cards.push_back(std::move(card));
 }
 
-// It neither deletes anything nor leaves a shift that is too long, a part of a split one for instance.
+// Whether it neither deletes a record nor leaves a shift that is too long. A part of a split shift can be too long.
 bool MendPlan::IsHarmless(const Remedy& remedy) const
 {
     return std::none_of(remedy.changes.begin(), remedy.changes.end(), [&](const RecordChange& change) {

@@ -1,4 +1,4 @@
-// Mending several people's cards at once: all their findings, each with its first remedy, to be ticked, changed and stored as one step.
+// Mends the cards of several people at once: all their findings, each with its first remedy, are ticked, changed and stored as one step.
 #pragma once
 
 #include "office/card/CardChecker.h"
@@ -15,48 +15,47 @@ namespace ptk {
 
 struct MendLine
 {
-    std::size_t card = 0; // whose, by the order of the people
+    std::size_t card = 0; // index of the person
     Finding finding;
     std::optional<Remedy> remedy; // the first; none: a person must judge
-    bool ticked = false;          // to be done
+    bool ticked = false;          // will be stored
 };
 
 class MendPlan
 {
 public:
-    // Reads the cards of these people, all of one moment, until `goOn` answers false; it is asked after each card. Of a server many cards
-    // are asked for at once. Ticked is what has a remedy that deletes nothing and leaves no shift that is too long, of several for one
-    // record the first. autoShiftEnd: see ShiftEnds. Raises what reading the database raises. REQUIRES: nothing is nullptr.
+    // Reads the cards of these people, all at one moment, until `goOn` answers false; it is asked after each card. On a server many cards
+    // are read by one question. A remedy is ticked if it deletes nothing and leaves no shift that is too long; of several that change the
+    // same record, only the first. autoShiftEnd: see ShiftEnds. Raises what reading the database raises. REQUIRES: nothing is nullptr.
     MendPlan(const std::shared_ptr<CJetDB>& database, const CheckTerms& terms, std::vector<std::shared_ptr<CEmployee>> people,
              std::optional<std::int64_t> autoShiftEnd, const std::function<bool()>& goOn = {});
 
-    // In the order of the people and their findings.
+    // All lines, by person and then in the order of the findings.
     [[nodiscard]] const std::vector<MendLine>& Lines() const { return m_lines; }
 
     [[nodiscard]] const CEmployee& PersonOf(const MendLine& line) const { return *m_cards.at(line.card).employee; }
 
-    // Unticks whatever else would change one of the same records. Nothing for a line without a remedy.
+    // Ticks or unticks a line. Ticking unticks the other lines that would change one of the same records. A line without a remedy stays.
     void Tick(std::size_t line, bool ticked);
 
-    // Whether the remedy does no more than end a shift, so that the end can be another one.
+    // Whether the remedy only sets the end of one shift, so that another end can be chosen.
     [[nodiscard]] bool HasEnd(std::size_t line) const;
 
-    // The end of the shift instead of the one that was offered: the first moment of that time of day after its start. Ticks the line.
-    // REQUIRES: HasEnd.
+    // Gives the shift another end: the first moment of that time of day after its start. Ticks the line. REQUIRES: HasEnd.
     void EndAt(std::size_t line, DateTime timeOfDay);
 
-    // REQUIRES: HasEnd.
+    // The moment at which the remedy ends the shift. REQUIRES: HasEnd.
     [[nodiscard]] DateTime EndOf(std::size_t line) const { return m_lines.at(line).remedy.value().changes.front().end; }
 
-    // Of all lines, and of how many people.
+    // How many lines are ticked, and how many people they belong to.
     [[nodiscard]] std::size_t Ticked() const;
     [[nodiscard]] std::size_t PeopleTicked() const;
 
-    // The shown hours of the person's card, now and with all that is ticked; none where it cannot be computed.
+    // The shown hours of the person's card, as stored and with everything that is ticked; none if they cannot be computed.
     [[nodiscard]] std::optional<std::string> HoursBefore(const MendLine& line) const;
     [[nodiscard]] std::optional<std::string> HoursAfter(const MendLine& line) const;
 
-    // All that is ticked, or nothing: see Mend. True where nothing is.
+    // Stores everything that is ticked, or nothing: see Mend. True if nothing is ticked.
     [[nodiscard]] bool Store(CJetDB& database) const;
 
 private:

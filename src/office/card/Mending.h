@@ -1,5 +1,5 @@
-// Stores what remedies do to time records, and shifts for several people: each call is one transaction and one step of the edit trail, so
-// that one Undo takes it back. Records that are not as they were read are not overwritten.
+// Stores what remedies do to time records, and one shift for several people. Each call is one transaction and one step of the edit trail,
+// so that one Undo takes it back. A record that changed since it was read is not overwritten.
 #pragma once
 
 #include "model/check/Punch.h"
@@ -22,11 +22,12 @@ struct Mending
     std::vector<RecordChange> changes;
 };
 
-// All of it or nothing. False with what CJetDB::SaveTimeRecords leaves: a Conflict where a record is not as it was read. Raises Failure 5
-// for a change of a record that is not among the rows or cannot be read, 6 for a key that no time record can have. Nothing is stored then.
+// Stores all of these changes or nothing. False with what CJetDB::SaveTimeRecords leaves: a Conflict if a record is not as it was read.
+// Raises Failure 5 for a change of a record that is not among the rows or cannot be read, 6 for a key that no time record can have; nothing
+// is stored then.
 [[nodiscard]] bool Mend(CJetDB& database, std::span<const Mending> mendings);
 
-// A shift of the same times for each of these employees. False as above.
+// Stores a shift of the same times for each of these employees, or for none. False with what CJetDB::SaveTimeRecords leaves.
 [[nodiscard]] bool AddShift(CJetDB& database, std::span<const std::int32_t> employeeIDs, DateTime start, DateTime end);
 
 } // namespace ptk

@@ -18,7 +18,7 @@ bool IsMidnight(DateTime moment)
     return moment == DateTime(moment.Date());
 }
 
-// A card takes what starts in its period and ends by the midnight after the last day.
+// A card takes the records that start in its period and end by the midnight after the last day.
 bool LiesIn(const PayPeriod& period, DateTime start, DateTime end)
 {
     const DateTime after = period.to.AddDays(1);
@@ -50,7 +50,7 @@ std::string StoredText(DateTime moment, const char* none)
     return moment.IsZero() ? none : MomentText(moment);
 }
 
-// An end is taken only behind a start that was read.
+// An end is stored only if the start was read, too.
 const char* UnreadPart(bool startRead, const std::optional<DateTime>& end, DateTime storedEnd)
 {
     if (startRead) {
@@ -76,7 +76,7 @@ DateTime RecordTexts::End() const
 
 std::string NewRecordWarning(const RecordTexts& texts, const std::optional<PayPeriod>& period)
 {
-    std::string warning; // empty for unreadable texts, of which the editor tells itself
+    std::string warning; // stays empty for unreadable texts, which the editor reports itself
     Succeeds([&] {
         const DateTime start = texts.Start();
         const DateTime end = texts.End();

@@ -1,4 +1,4 @@
-// What the Timecards page tells the user.
+// The messages that the Timecards page shows to the user.
 #pragma once
 
 #include "model/CTimeCard.h"
@@ -41,7 +41,7 @@ struct CardError
     Notice notice;
 };
 
-// Of a card that could not be generated. 602 says "not active" also of a name that nobody has.
+// The message for each error of a card that could not be generated. 602 says "not active" even for a name that no employee has.
 inline constexpr std::array<CardError, 4> kCardErrors{{
     {timecard::CalculationFailed, kNotGenerated},
     {timecard::NoRecords, {kGenerationTitle, "There are no time records found for this employee during this period.", Icon::Information}},
