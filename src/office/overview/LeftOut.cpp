@@ -1,4 +1,4 @@
-// Who has shifts in a period and is in no list: nobody owed is forgotten.
+// Finds who has shifts in a period and is not in the list, so that nobody who is owed pay is forgotten.
 #include "model/CEmployeeList.h"
 #include "model/check/PunchPlace.h"
 #include "office/overview/OverviewRows.h"
@@ -16,24 +16,24 @@ namespace ptk {
 namespace {
 
 using Numbers = std::set<std::int64_t>;
-using Found = std::vector<std::optional<std::int64_t>>; // EmployeeIDs in their order; none for records that name nobody
+using Found = std::vector<std::optional<std::int64_t>>; // EmployeeIDs in their order; none for records without one
 
 bool Before(const std::optional<std::int64_t>& left, const std::optional<std::int64_t>& right)
 {
     return left && (!right || *left < *right);
 }
 
-// Whose records may lie in the period.
+// The EmployeeIDs of records that may lie in the period.
 Found WithRecords(CJetDB& database, const PayPeriod& period)
 {
     const auto rows = RequireSelect(database, punchsql::EmployeesWithRecords(database.Words()));
     static const DateTime firstOfAll(CalendarDate{100, 1, 1});
-    rows->Bind("first", period.from > firstOfAll ? period.from.AddDays(-1) : period.from); // a shift of up to a day crosses its beginning
+    rows->Bind("first", period.from > firstOfAll ? period.from.AddDays(-1) : period.from); // a shift of up to a day can cross the start
     rows->Bind("last", EndOfDay(period.to));
     Found found;
     rows->ForEachRow([&] { found.push_back(rows->KindAt(0) == CellKind::Number ? std::optional(rows->Int64At(0)) : std::nullopt); });
     std::sort(found.begin(), found.end(), Before);
-    found.erase(std::unique(found.begin(), found.end()), found.end()); // numbers that are none are nobody's, like no number
+    found.erase(std::unique(found.begin(), found.end()), found.end()); // an EmployeeID that is no number counts as none
     return found;
 }
 
@@ -53,7 +53,7 @@ LeftOutReason ReasonFor(const CEmployee& employee)
     return employee.EmployeeActive() ? LeftOutReason::Administrator : LeftOutReason::Inactive;
 }
 
-// Nobody's card: the records are counted, and no more.
+// The row of an EmployeeID that no employee has: there is no card to check, so the records are only counted.
 LeftOut Unknown(CJetDB& database, const Overview& overview, const std::optional<std::int64_t>& id)
 {
     const Punches punches = PunchReader(database, overview.period, overview.limits.firstWeekday).ReadOfNobody(database, id);
@@ -68,7 +68,7 @@ bool HasRecords(const Found& found, std::int64_t id)
     return std::binary_search(found.begin(), found.end(), std::optional(id), Before);
 }
 
-// Those who have records and are not known yet; knows everybody from then on.
+// The employees who have records and are not in `known`. Adds all employees to `known`.
 Employees Others(const Employees& all, const Found& found, Numbers& known)
 {
     Employees others;

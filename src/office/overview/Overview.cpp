@@ -65,7 +65,7 @@ std::vector<std::int32_t> PortionAt(std::size_t place, std::span<const std::shar
 
 } // namespace
 
-// Where nobody may end it in between, the next people's rows come while these are looked at.
+// If nobody can end the reading in between, the rows of the next people are asked for while these are looked at.
 bool ReadOverview(Overview& overview, const std::shared_ptr<CJetDB>& database, std::span<const std::shared_ptr<CEmployee>> employees,
                   const RowTaken& taken)
 {

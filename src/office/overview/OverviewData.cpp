@@ -18,7 +18,7 @@ std::string IsoMoment(const std::optional<DateTime>& moment)
     return moment ? IsoMoment(*moment) : "";
 }
 
-// null where there are none.
+// The figures are null if there are none.
 JsonObject& AddFigures(JsonObject& object, const std::optional<CardFigures>& figures)
 {
     const auto text = [&](std::string CardFigures::*figure) { return figures ? std::optional((*figures).*figure) : std::nullopt; };
@@ -178,7 +178,7 @@ std::string OverviewCsv(const Overview& overview)
     return text;
 }
 
-// One line an employee.
+// Each employee stands on a line of its own.
 std::string OverviewJson(const Overview& overview)
 {
     const auto employee = [&](const OverviewRow& row) { return EmployeeJson(row, overview.withRemedies); };

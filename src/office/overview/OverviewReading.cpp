@@ -58,7 +58,7 @@ void OverviewReading::TakeIn()
     m_offered = m_overview.rows.size();
 }
 
-// What was asked for together is of use together.
+// The people who were asked for by one question are read up to the end, so that no answer is thrown away.
 bool OverviewReading::EndsPortion(std::size_t read) const
 {
     const bool inPortions = *m_database->Words().amongEmployees != '\0';

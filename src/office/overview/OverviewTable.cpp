@@ -20,7 +20,7 @@ constexpr auto kYes = "yes";
 constexpr auto kOneLeftOut = "{} with records in these days is in no list: {}";
 constexpr auto kSeveralLeftOut = "{} with records in these days are in no list: {}";
 
-// A name is one line here, whatever stands in the database.
+// Makes one line of a name, whatever the database holds.
 std::string OneLine(std::string text)
 {
     std::replace_if(
@@ -33,7 +33,7 @@ std::optional<double> Figure(const OverviewRow& row, std::string CardFigures::*f
     return row.figures ? std::optional(ToDouble((*row.figures).*figure)) : std::nullopt;
 }
 
-// None where nothing was paid, the zero date-time where nobody can say when.
+// The moment of the closing: none if nothing was paid, the zero date-time if the moment is not known.
 std::optional<DateTime> PaidAt(const OverviewRow& row)
 {
     return row.paid ? std::optional(row.paid->paidAt.value_or(DateTime())) : std::nullopt;
@@ -191,7 +191,7 @@ std::string TabSeparated(const std::vector<OverviewCells>& lines)
 {
     std::string text;
     for (const OverviewCells& cells : lines) {
-        text += NoFormula(cells.front()); // the figures are plain numbers
+        text += NoFormula(cells.front()); // no other cell can be taken for a formula
         for (std::size_t i = 1; i < cells.size(); ++i) {
             text += '\t' + cells.at(i);
         }
@@ -232,7 +232,7 @@ PayPeriod FirstPeriod(const std::shared_ptr<CJetDB>& database, const std::option
                       std::int16_t periodLength)
 {
     std::optional<PayPeriod> next;
-    Succeeds([&] { next = PeriodToClose(database); }); // why not is told by the reading that follows
+    Succeeds([&] { next = PeriodToClose(database); }); // the reading that follows tells of the failure
     return next ? *next : OverviewPeriod(timecards, today, periodLength);
 }
 

@@ -13,7 +13,7 @@ namespace ptk {
 
 namespace {
 
-// What the table says, once.
+// The texts of the table.
 constexpr auto kTitle = "Payday overview";
 constexpr auto kNobody = "There are no employees to show.";
 constexpr auto kTotal = "Total";
@@ -22,7 +22,7 @@ constexpr auto kLineEnd = "\r\n";
 
 using Cells = OverviewCells;
 
-// Shorter than the window's, for the lines of a terminal and of a page.
+// The heading is shorter than the window's one, for the lines of a terminal and of a page.
 const Cells kHeading{"Name", "Regular", "Overtime", "Gross", "Longest week", "Problems", "Notices", "Clocked in", "Paid", "Changed"};
 
 Cells CellsOf(const OverviewTotals& totals)
@@ -39,7 +39,7 @@ Cells CellsOf(const OverviewTotals& totals)
             std::to_string(totals.changed)};
 }
 
-// As wide as their widest cell; names to the left, figures to the right.
+// Makes lines of cells. Columns are as wide as their widest cell; names stand to the left, figures to the right.
 class Table
 {
 public:
@@ -69,11 +69,11 @@ private:
     std::array<std::size_t, kOverviewColumns> m_widths{};
 };
 
-// The table, a text a line.
+// The lines of the table.
 struct Lines
 {
     std::string heading;
-    std::vector<std::string> rows; // an employee each
+    std::vector<std::string> rows; // one for each employee
     std::string totals;
 };
 
@@ -95,7 +95,7 @@ Lines LinesOf(const Overview& overview)
     return lines;
 }
 
-using Remedies = std::vector<std::vector<Remedy>>; // by finding; none where nobody asked for them
+using Remedies = std::vector<std::vector<Remedy>>; // of each finding; empty if nobody asked for them
 
 std::vector<std::string> Sentences(const CardCheck& check, bool showNotices, const Remedies& remedies = {})
 {

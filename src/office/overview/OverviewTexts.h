@@ -12,25 +12,25 @@ struct Overview;
 struct PayPeriod;
 struct ReportDocument;
 
-// A table: under each employee the sentences on their card, at its end the sums. Lines end in CR LF.
+// The overview as a table: the sentences about a card stand under its employee, the sums at the end. Lines end in CR LF.
 [[nodiscard]] std::string OverviewText(const Overview& overview);
 
-// The overview as text, for pages: an employee is kept together with the sentences.
+// The overview for pages, without remedies: an employee and the sentences about the card stay on one page.
 [[nodiscard]] ReportDocument OverviewDocument(const Overview& overview);
 
-// One line an employee and one a finding.
+// CSV with one line for each employee and one for each finding.
 [[nodiscard]] std::string OverviewCsv(const Overview& overview);
 
-// One object.
+// JSON with one object, which ends with CR LF.
 [[nodiscard]] std::string OverviewJson(const Overview& overview);
 
 // The bytes of a file of it: CSV with a byte order mark, JSON, text, or pages. Raises what PdfOf raises.
 [[nodiscard]] std::string OverviewFile(ReportForm form, const Overview& overview);
 
-// "PTK overview 2003-03-01", the period's first day, without an ending.
+// "PTK overview 2003-03-01", with the period's first day and without a file extension.
 [[nodiscard]] std::string OverviewFileName(const PayPeriod& period);
 
-// One line a finding, "    problem: ..."; without the notices where they are not to be shown.
+// One line for each finding, " problem: ..."; without the notices if they are not to be shown.
 [[nodiscard]] std::string FindingLines(const CardCheck& check, bool showNotices);
 
 } // namespace ptk
