@@ -11,10 +11,10 @@ namespace ptk {
 
 namespace {
 
-constexpr std::chrono::seconds kBetweenTries(10); // of a server that does not answer: each try takes a second of the window's time
+constexpr std::chrono::seconds kBetweenTries(10); // each try at a server that does not answer takes a second of the window's time
 
-// Where many write at once, an entry of a small number may come to be seen after one of a greater: so far back it is looked for. Nobody
-// makes the watch read more by telling of an older one.
+// Where many write at once, an entry may become visible after one with a greater number, so this many entries are read again. Nobody can
+// make the watch read more by announcing an older entry.
 constexpr std::int64_t kMargin = 500; // entries
 
 constexpr std::int32_t kMost = 2'000; // entries at a time, read in some milliseconds
@@ -27,7 +27,7 @@ ChangeWatch::ChangeWatch(const std::shared_ptr<CJetDB>& database, const UndoStac
     Look();
 }
 
-// What could not be asked now is asked the next time: no more than a notice depends on it.
+// What cannot be read now is read the next time, because only a notice depends on it.
 void ChangeWatch::Look()
 {
     if (!IsWorthTrying()) {
@@ -61,7 +61,7 @@ bool ChangeWatch::IsChanged(Shown what, std::int64_t row) const
     return m_changed.contains({what, row}) || (m_everything.contains(what) && !m_readSince.contains({what, row}));
 }
 
-// Listens before it looks, so that nothing falls between.
+// Listens for news before it reads the trail, so that no change falls between the two.
 void ChangeWatch::Start()
 {
     static_cast<void>(m_database->TakeNews());
@@ -73,7 +73,7 @@ void ChangeWatch::Start()
     m_newest = newest;
 }
 
-// A file has one writer at a time, and its entries are in the order of their numbers.
+// A file has one writer at a time, so its entries appear in the order of their numbers.
 void ChangeWatch::TakeNew()
 {
     const auto first = m_database->TakeNews();
@@ -93,7 +93,7 @@ void ChangeWatch::TakeNew()
     m_seen.erase(m_seen.begin(), m_seen.upper_bound(*m_newest - kMargin));
 }
 
-// So much was changed that it is not looked through.
+// For so many changes that they are not looked through one by one.
 void ChangeWatch::TakeEverything()
 {
     m_everything = {Shown::Employee, Shown::Company, Shown::CardEmployee, Shown::CardRecords};

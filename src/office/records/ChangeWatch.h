@@ -1,4 +1,4 @@
-// Whether somebody else changed what is shown, asked of the edit trail from time to time.
+// Tells whether somebody else changed what is shown, by asking the edit trail from time to time.
 #pragma once
 
 #include "store/trail/TrailReader.h"
@@ -15,7 +15,7 @@ namespace ptk {
 class CJetDB;
 class UndoStack;
 
-// What a window shows of somebody or something, each read at a time of its own.
+// The kinds of things that a window shows. Each is read at a time of its own.
 enum class Shown
 {
     Employee,     // in the list of employees
@@ -24,31 +24,32 @@ enum class Shown
     CardRecords   // the records on that employee's card
 };
 
-// Own changes do not count: those that the undo stack knows. Where thousands of rows changed between two looks, everything may have. What a
-// look costs does not grow with the trail: one question, answered by two thousand short rows at most. No member raises.
+// Finds out which of the shown records somebody else changed. Changes that the undo stack knows are one's own and do not count. If
+// thousands of rows changed between two looks, everything counts as changed. The cost of a look does not grow with the trail: it is one
+// question, answered by two thousand short rows at most. No member raises.
 class ChangeWatch
 {
 public:
-    // Watches from now on. The undo stack outlives it. REQUIRES: database is not nullptr.
+    // Watches from now on. REQUIRES: database is not nullptr; the undo stack outlives the watch.
     ChangeWatch(const std::shared_ptr<CJetDB>& database, const UndoStack& own);
 
-    // Asks for what is new, no more; nothing, and without waiting, while somebody else has the database. Own saves are to be remembered by
-    // the undo stack before.
+    // Reads what is new in the trail; nothing, and without waiting, while somebody else has the database. REQUIRES: the undo stack knows
+    // own saves.
     void Look();
 
-    // Whether looking costs next to nothing, since the database tells of changes by itself.
+    // Whether a look costs next to nothing because the database announces changes by itself.
     [[nodiscard]] bool IsTold() const;
 
-    // The newest entry of the trail as far as it looked, one's own included; nothing until the trail could be read.
+    // The newest entry of the trail at the last look, one's own included; nothing until the trail could be read.
     [[nodiscard]] std::optional<std::int64_t> Newest() const { return m_newest; }
 
-    // As far as it looked: of anything or anybody.
+    // Whether anything of this kind was changed, as of the last look.
     [[nodiscard]] bool IsAnyChanged(Shown what) const;
 
-    // As far as it looked. `row` is the employee's or the company's number.
+    // Whether this one was changed, as of the last look. `row` is the EmployeeID or the CompanyID.
     [[nodiscard]] bool IsChanged(Shown what, std::int64_t row) const;
 
-    // It is about to be read again: looks, and forgets what there was.
+    // To be called before something is read again, everything of its kind or one row: looks, and forgets the changes so far.
     void AboutToRead(Shown what);
     void AboutToRead(Shown what, std::int64_t row);
 
@@ -63,11 +64,11 @@ private:
     const UndoStack& m_own;
     std::optional<std::int64_t> m_newest;              // entry that was looked at; nothing until the trail could be read
     std::set<std::int64_t> m_seen;                     // the entries that were looked at, as far back as others may still come
-    bool m_unread = false;                             // it was told of news that could not be read yet
-    std::chrono::steady_clock::time_point m_notBefore; // is it asked again: it could not be reached
+    bool m_unread = false;                             // news was announced that could not be read yet
+    std::chrono::steady_clock::time_point m_notBefore; // no look before this moment: the server did not answer
     std::set<std::pair<Shown, std::int64_t>> m_changed;
-    std::set<Shown> m_everything;                         // of this kind may have changed
-    std::set<std::pair<Shown, std::int64_t>> m_readSince; // those of such kinds that did not any more
+    std::set<Shown> m_everything;                         // kinds of which everything may have changed
+    std::set<std::pair<Shown, std::int64_t>> m_readSince; // of those kinds: what was read again since
 };
 
 } // namespace ptk

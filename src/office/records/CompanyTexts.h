@@ -1,4 +1,4 @@
-// A company as the company page shows and takes it.
+// The texts of a company, as the company page shows and takes them.
 #pragma once
 
 #include <string>
@@ -22,7 +22,7 @@ struct CompanyTexts
 
     bool operator==(const CompanyTexts&) const = default;
 
-    // With a pointer to each member but the ID.
+    // Calls `visit` with a pointer to each member except the ID.
     template <typename Visit>
     static void ForEachField(Visit visit)
     {
@@ -36,7 +36,7 @@ struct CompanyTexts
 
 [[nodiscard]] CompanyTexts ShowCompanyTexts(const CCompany& company);
 
-// Puts the texts, but not the ID, into the company, whose web address stays.
+// Puts the texts, except the ID, into the company. Its web address stays.
 void ReadCompanyTexts(const CompanyTexts& texts, CCompany& company);
 
 } // namespace ptk

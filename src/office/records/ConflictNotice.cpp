@@ -44,7 +44,7 @@ std::string NameOrNumber(const std::string& value, const NameOfEmployee& nameOf)
     return name.empty() ? value : name;
 }
 
-// A conflict has its values as the texts of their types.
+// A conflict holds each value as a text in the form of its type.
 std::string ValueText(const std::string& value, Shape shape, const NameOfEmployee& nameOf)
 {
     const auto moment = shape == Shape::Moment || shape == Shape::Day ? ParseDateTime(value) : std::nullopt;

@@ -1,4 +1,4 @@
-// What a refused save tells of the record that somebody else changed or removed since it was read.
+// The message about a refused save of a record that somebody else changed or removed since it was read.
 #pragma once
 
 #include "office/history/HistoryText.h"
@@ -14,10 +14,10 @@ namespace ptk {
 // a time record; options need none. Lines end with CR LF.
 [[nodiscard]] std::string ConflictText(const RowConflict& conflict, const std::string& name, const NameOfEmployee& nameOf = {});
 
-// Asks whether to load what is stored now; of a time record, whose card is always read again, it only tells. True for Yes.
+// Asks whether to load what is stored now; true for Yes. For a time record it only tells, and is true: the card is always read again.
 bool AskToLoad(Desktop& desktop, const std::string& title, const RowConflict& conflict, const std::string& text);
 
-// For a page's line, after what was refused: "somebody else has changed it".
+// "somebody else has changed it", or that it was removed: for a page's line, behind what was refused.
 [[nodiscard]] std::string ConflictRemark(const RowConflict& conflict);
 
 } // namespace ptk

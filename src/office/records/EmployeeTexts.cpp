@@ -13,7 +13,7 @@ namespace {
 
 constexpr auto kNoRate = "0.00";
 
-// The fields that are no texts.
+// The employee's fields that are not texts.
 struct Figures
 {
     std::int32_t number;

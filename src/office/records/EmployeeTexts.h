@@ -1,4 +1,4 @@
-// An employee as the employee page shows and takes it.
+// The texts of an employee, as the employee page shows and takes them.
 #pragma once
 
 #include <cstdint>
@@ -37,7 +37,7 @@ struct EmployeeTexts
 
     bool operator==(const EmployeeTexts&) const = default;
 
-    // With a pointer to each member but the ID.
+    // Calls `visit` with a pointer to each member except the ID.
     template <typename Visit>
     static void ForEachField(Visit visit)
     {
@@ -53,7 +53,7 @@ struct EmployeeTexts
     }
 };
 
-// Why a page cannot be saved, in the order in which it is told.
+// Why an employee page cannot be saved, in the order in which the reasons are looked for.
 enum class EmployeeRefusal
 {
     NoNumber,
@@ -63,10 +63,10 @@ enum class EmployeeRefusal
     Administrator
 };
 
-// The product knows its administrator account by this ID.
+// The EmployeeID by which the product knows its administrator account.
 inline constexpr std::int32_t kAdministratorID = 39;
 
-// Deliberately shows no pay rates of an inactive employee, so that saving one from the page stores zero rates.
+// The texts of a stored employee. Deliberately without the pay rates of an inactive one, so that saving from the page stores zero rates.
 [[nodiscard]] EmployeeTexts ShowEmployeeTexts(const CEmployee& employee);
 
 [[nodiscard]] std::optional<EmployeeRefusal> CheckEmployeeTexts(const EmployeeTexts& texts);
@@ -75,10 +75,10 @@ inline constexpr std::int32_t kAdministratorID = 39;
 // untouched.
 void ReadEmployeeTexts(const EmployeeTexts& texts, CEmployee& employee);
 
-// Empty for nobody's number.
+// The display name of this employee; empty if there is no such employee.
 [[nodiscard]] std::string DisplayNameOf(CEmployeeList& list, std::int64_t employeeID);
 
-// First and last name: the first blank ends the first name; without a blank all of it is the last name.
+// The first and the last name. The first blank ends the first name; without a blank the whole name is the last name.
 [[nodiscard]] std::pair<std::string, std::string> SplitDisplayName(std::string_view name);
 
 } // namespace ptk

@@ -1,4 +1,4 @@
-// What was typed into a page and not saved before another record took its place.
+// Keeps what was typed into a page and not saved before another record took its place, so that it can be brought back.
 #pragma once
 
 #include "platform/text/Text.h"
@@ -9,11 +9,11 @@
 
 namespace ptk {
 
-// The caption of the way back to it.
+// The caption of the button that brings it back.
 inline constexpr auto kBringBack = "Bring Back";
 
-// `Texts` holds a page as texts and flags, visits them with ForEachField, compares with ==, and has the texts `id`, empty for a new record,
-// and `name`.
+// What was left in a page without being saved. `Texts` holds a page as texts and flags, visits them with ForEachField, compares with ==,
+// and has the texts `id`, empty for a new record, and `name`.
 template <typename Texts>
 struct LeftBehind
 {
@@ -21,7 +21,7 @@ struct LeftBehind
     Texts typed;
 };
 
-// Told of what a page shows and of what is typed into its lists, tells what a change of the record would leave behind.
+// Knows what a page first showed and what is typed into its lists, and answers what would be lost if the page showed another record.
 template <typename Texts>
 class TypedTexts
 {
@@ -37,14 +37,14 @@ public:
         m_typed = left.typed;
     }
 
-    // What differs on the page from what it first showed; nothing when nothing does.
+    // The page, if it differs from what it first showed; nothing if it does not.
     [[nodiscard]] std::optional<LeftBehind<Texts>> Left(const Texts& page) const
     {
         return page == m_shown ? std::nullopt : std::optional(LeftBehind<Texts>{m_shown, page});
     }
 
-    // What differs when an entry of this list has just been chosen, whose text has taken the place of what was typed there. A typed text
-    // that the chosen one holds was typed to find it, and is not missed.
+    // What would be lost when an entry of this list has just been chosen, whose text has replaced what was typed there. A typed text that
+    // is part of the chosen one was typed to find it, so it is not lost.
     [[nodiscard]] std::optional<LeftBehind<Texts>> LeftByChoice(Texts page, Field list) const
     {
         const bool sought = LowerCase(page.*list).find(LowerCase(m_typed.*list)) != std::string::npos;
@@ -55,10 +55,10 @@ public:
 
 private:
     Texts m_shown;
-    Texts m_typed; // of use for the lists only
+    Texts m_typed; // used for the lists only
 };
 
-// What was typed, put over what the record is by now: somebody else's change of another field stays.
+// Puts what was typed into the present record. Changes that somebody else made to other fields stay.
 template <typename Texts>
 [[nodiscard]] Texts TypedOver(const LeftBehind<Texts>& left, Texts present)
 {
@@ -70,7 +70,7 @@ template <typename Texts>
     return present;
 }
 
-// As a new record, of one that somebody else removed.
+// Makes a new record of what was typed, for a record that somebody else removed.
 template <typename Texts>
 [[nodiscard]] LeftBehind<Texts> AsNew(LeftBehind<Texts> left)
 {
@@ -79,15 +79,16 @@ template <typename Texts>
     return left;
 }
 
-// What becomes of what was typed once its page has been read again.
+// What becomes of typed texts once their page has been read again.
 enum class TypedFate
 {
     PutBack,     // over what is stored now
-    Offered,     // beside the record, which somebody else changed
-    OfferedAsNew // of a record that somebody else removed
+    Offered,     // can be brought back: somebody else changed the record
+    OfferedAsNew // can be brought back as a new record: somebody else removed the record
 };
 
-// `present` is the record as it is now, nothing where the list has none of its ID; `isRead` tells whether the list could be read again.
+// What becomes of the typed texts. `present` is the record as it is now, nothing if the list has none of its ID; `isRead` tells whether the
+// list could be read again.
 template <typename Texts>
 [[nodiscard]] TypedFate FateOf(const LeftBehind<Texts>& left, const std::optional<Texts>& present, bool isRead)
 {
@@ -110,7 +111,7 @@ template <typename Texts>
     return (left.typed.name.empty() ? "The new record" : left.typed.name) + " was not saved";
 }
 
-// What is asked before the program ends with these changes not saved, each told as NoticeOf does. REQUIRES: at least one.
+// The question before the program ends while these changes are not saved; each is a text of NoticeOf. REQUIRES: at least one.
 [[nodiscard]] std::string LeavingQuestion(const std::vector<std::string>& unsaved);
 
 } // namespace ptk

@@ -1,4 +1,4 @@
-// Saving an edited entity in its list.
+// Saves an edited employee or company in its list.
 #pragma once
 
 #include "platform/system/BusyPointer.h"
@@ -26,7 +26,7 @@ enum class ListSave
     Conflict // somebody else changed or removed it: see the list's own Conflict
 };
 
-// The 1-based position of the first entity that satisfies it, or 0.
+// The 1-based position of the first entity that matches, or 0.
 template <typename List, typename Predicate>
 [[nodiscard]] std::int32_t PositionWhere(List& list, Predicate matches)
 {
@@ -46,8 +46,8 @@ struct EditedCopy
     std::int32_t position = 0;
 };
 
-// `key` is the text of the ID, empty for a new entity; `keyOf` tells an entity's ID. Nothing when no entity has that ID; raises Failure 13
-// or 6 for a text that is no ID.
+// The copy of the entity with this ID, or a new entity. `key` is the text of the ID, empty for a new entity; `keyOf` answers an entity's
+// ID. Nothing if no entity has that ID; raises Failure 13 or 6 for a text that is no ID.
 template <typename Entity, typename List, typename KeyOf>
 [[nodiscard]] std::optional<EditedCopy<Entity>> CopyToEdit(List& list, const std::string& key, KeyOf keyOf)
 {
@@ -62,8 +62,8 @@ template <typename Entity, typename List, typename KeyOf>
     return EditedCopy<Entity>{std::make_shared<Entity>(*list.Item(position)), position};
 }
 
-// Puts the edited copy into the place of the entity at `position`, or at the end when the position is Count + 1, and saves the list. Where
-// that fails, the list is as before, in step with the database, so that the next try finds what this one found.
+// Puts the edited copy in the place of the entity at `position`, or at the end if the position is Count + 1, and saves the list. If that
+// fails, the list is as before, in step with the database, so that the next try starts from the same state.
 template <typename List, typename Entity>
 [[nodiscard]] ListSave SaveInPlace(List& list, const std::shared_ptr<Entity>& edited, std::int32_t position)
 {
@@ -82,7 +82,8 @@ template <typename List, typename Entity>
     return result;
 }
 
-// Tells `notSaved` where the database refused, a conflict excepted. A list that does not take the copy is passed over in silence.
+// Saves the copy; shows `notSaved` in a box if the database refused it, except for a conflict. If the list does not take it, no box is
+// shown.
 template <typename List, typename Entity>
 [[nodiscard]] ListSave SaveOrTell(Desktop& desktop, List& list, const EditedCopy<Entity>& edited, const char* notSaved)
 {

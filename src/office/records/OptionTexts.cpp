@@ -17,7 +17,7 @@ namespace {
 
 constexpr std::int32_t kMostHours = 999;
 
-// A negative length counts as none at all. Raises Failure 6 for one beyond 16 bits.
+// The length; a negative one counts as 0. Raises Failure 6 for one beyond 16 bits.
 std::optional<std::int16_t> PeriodLength(const std::string& text)
 {
     const std::string digits = text.starts_with('-') ? text.substr(1) : text;
@@ -27,7 +27,7 @@ std::optional<std::int16_t> PeriodLength(const std::string& text)
     return std::max<std::int16_t>(ToInt16(text), 0);
 }
 
-// Moments before the zero date-time count as midnight.
+// The time of day; moments before the zero date-time count as midnight.
 std::optional<DateTime> ShiftTime(const std::string& text)
 {
     if (text.empty() || !CDataValidator().CheckDateTimeValues(text)) {
@@ -62,7 +62,7 @@ bool StoreOptions(CSystemOptions& options, const OptionTexts& texts)
 
 std::string PeriodExample(const std::string& periodLength, DateTime today)
 {
-    std::string example; // stays empty for a length that no calendar holds
+    std::string example; // stays empty if the period would leave the calendar
     Succeeds([&] {
         if (const auto length = PeriodLength(periodLength)) {
             const PayPeriod period = PayPeriodFrom(today, *length);

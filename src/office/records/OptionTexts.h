@@ -18,7 +18,7 @@ struct OptionTexts
     std::string autoShiftStart;
     std::string autoShiftEnd;
 
-    // With a pointer to each member.
+    // Calls `visit` with a pointer to each member.
     template <typename Visit>
     static void ForEachField(Visit visit)
     {
@@ -30,16 +30,16 @@ struct OptionTexts
 
 [[nodiscard]] OptionTexts ShowOptions(const CSystemOptions& options);
 
-// Takes the texts over one by one and writes the options to the database. The first text that is none stops it with false: that option is
-// then 0 in memory, those before it keep what was typed, and nothing is written. False also when the writing fails.
-// Raises Failure 6 for a period length beyond 16 bits.
+// Takes the texts over one by one and writes the options to the database. The first text that cannot be read ends this with false: that
+// option is then 0 in memory, those before it have their new values, and nothing is written. False also if the writing fails. Raises
+// Failure 6 for a period length beyond 16 bits.
 [[nodiscard]] bool StoreOptions(CSystemOptions& options, const OptionTexts& texts);
 
 // What a period length typed as this text means from today on: "A period has 15 days, for example 03/05/2003 - 03/19/2003". Empty for a
 // text that is no length.
 [[nodiscard]] std::string PeriodExample(const std::string& periodLength, DateTime today);
 
-// The limits of the check of time cards, likewise.
+// The limits of the check of time cards, as the options page shows and takes them.
 struct LimitTexts
 {
     std::string longShiftHours;
@@ -59,10 +59,10 @@ struct LimitTexts
 
 [[nodiscard]] LimitTexts ShowLimits(const CheckLimits& limits);
 
-// Nothing where the hours are no whole number from 1 to 999.
+// The limits; nothing if the hours are no whole number from 1 to 999.
 [[nodiscard]] std::optional<CheckLimits> ReadLimits(const LimitTexts& texts);
 
-// Why they cannot be stored; empty when they can.
+// Why the limits cannot be stored; empty if they can.
 [[nodiscard]] std::string LimitRefusal(const LimitTexts& texts);
 
 } // namespace ptk

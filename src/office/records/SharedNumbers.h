@@ -1,4 +1,4 @@
-// Numbers that are meant to be one person's and are another's too.
+// Finds employee numbers and social security numbers that more than one person has.
 #pragma once
 
 #include <string>
@@ -8,9 +8,9 @@ namespace ptk {
 class CEmployeeList;
 struct EmployeeTexts;
 
-// Says whose the typed employee number and social security number are besides, "The SS number is Ann Lee's too"; empty when they are nobody
-// else's, or none. Two social security numbers are the same whatever blanks and hyphens stand in them. Never a reason to refuse: the lists
-// find the first of two equals, as they always did.
+// Says who else has the typed employee number or social security number: "The SS number is Ann Lee's too". Empty if nobody else has them,
+// or if none is typed. Blanks and hyphens in social security numbers do not count. This is never a reason to refuse: the lists find the
+// first of two equals, as they always did.
 [[nodiscard]] std::string SharedNumbersNotice(CEmployeeList& list, const EmployeeTexts& texts);
 
 } // namespace ptk

@@ -29,7 +29,7 @@ bool IsUndoable(const TrailEntry& entry)
     return table && entry.row && (entry.before || entry.after);
 }
 
-// What a server says of its line is whole sentences at times.
+// Adds a full stop if there is none: a server sometimes answers whole sentences.
 std::string Sentence(std::string text)
 {
     if (text.empty() || std::string_view(".?!").find(text.back()) == std::string_view::npos) {
@@ -62,7 +62,7 @@ bool AreNewRecords(const std::vector<TrailEntry>& entries)
                        [](const TrailEntry& entry) { return entry.table == "TimeRecord" && !entry.before; });
 }
 
-// Only the import of employees stores several at once.
+// Whether these are an import: no other action stores several employees at once.
 bool AreEmployees(const std::vector<TrailEntry>& entries)
 {
     return std::all_of(entries.begin(), entries.end(), [](const TrailEntry& entry) { return entry.table == "Employee"; });
@@ -124,7 +124,7 @@ bool UndoStack::Remember()
     });
 }
 
-// A long sentence may find no memory, where "Out of memory." needs none.
+// Runs `work`; its failure becomes the refusal. A long sentence may find no memory, where the failure's own "Out of memory." needs none.
 template <typename Work>
 bool UndoStack::OrRefusal(Work work)
 {
@@ -144,7 +144,7 @@ void UndoStack::Take(const std::vector<TrailEntry>& entries)
     }
 }
 
-// The trail has the newest entry first.
+// The trail answers the newest entry first, so the first change of the step is the last entry.
 UndoStack::Step UndoStack::StepOf(const std::vector<TrailEntry>& entries) const
 {
     Step step;
@@ -158,7 +158,7 @@ UndoStack::Step UndoStack::StepOf(const std::vector<TrailEntry>& entries) const
     return step;
 }
 
-// False where a password changed that nobody here knows.
+// Puts the passwords, which the trail does not hold, into the change. False if one is not known here.
 bool UndoStack::PutPasswords(const TrailEntry& entry, RowChange& change) const
 {
     TrailValue* before = PasswordIn(change.before);
@@ -196,7 +196,7 @@ std::string UndoStack::TextOf(const std::vector<TrailEntry>& entries) const
     return AreNewRecords(entries) ? fmt::format("Auto Fill of {} records", entries.size()) : fmt::format("{} changes", entries.size());
 }
 
-// An entry tells only what changed; the rest stands in the row.
+// The name is read from the row, because an entry holds only the columns that changed.
 std::string UndoStack::NameOf(const TrailEntry& entry) const
 {
     if (!entry.after && entry.table == "TimeRecord") {
@@ -225,8 +225,8 @@ bool UndoStack::Redo()
     return OrRefusal([&] { return Move(m_undone, m_done, "done again"); });
 }
 
-// A step on either stack is done by the inverse of its changes, which is then the step on the other. Once it is stored nothing can fail
-// any more: what the stacks need memory for is made before.
+// Undo and redo alike carry out the inverse of the step's changes; that inverse is then the step on the other stack. All memory for the
+// stacks is allocated before the step is stored, so that nothing can fail afterwards.
 bool UndoStack::Move(std::vector<Step>& from, std::vector<Step>& to, const char* word)
 {
     if (from.empty()) {

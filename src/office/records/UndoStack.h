@@ -1,4 +1,4 @@
-// Taking back, step by step, what was stored since login.
+// Undo and redo, step by step, of what was stored since login.
 #pragma once
 
 #include "store/trail/RowChange.h"
@@ -19,46 +19,46 @@ struct MovedStep
 {
     std::string text;                     // "Delete 03/05/2003 08:00 AM"
     std::string table;                    // of its first row: TimeRecord, Employee, Company or _Payday
-    std::int64_t row = 0;                 // that row
+    std::int64_t row = 0;                 // key of its first row
     std::optional<std::int64_t> employee; // whose row or record it is
 };
 
-// Of time records, employees, companies and paydays: one step is what one action stored, an auto fill as a whole. It reads what was done
-// from the edit trail, which an undo and a redo write on; passwords, which are not there, it remembers. No member raises.
+// Undoes and redoes changes of time records, employees, companies and paydays. One step is what one action stored, for example a whole auto
+// fill. The changes are read from the edit trail, to which undo and redo add entries. Passwords are not in the trail; the database's access
+// remembers them. No member raises.
 //
-// After every save, of whatever kind, Remember is to be called, before anything else is stored. After Undo and Redo the lists and cards are
-// to be read again.
+// After every save, of whatever kind, call Remember before anything else is stored. After Undo and Redo read the lists and cards again.
 class UndoStack
 {
 public:
-    // Not nullptr; the one that everything is stored by, or one made Afresh of it.
+    // REQUIRES: not nullptr; the access to the database that stores everything, or one made of it by Afresh.
     explicit UndoStack(std::shared_ptr<CJetDB> database);
 
-    // Takes in the step that was stored last; nothing where nothing changed, where it is known already, or where it is no such change. What
-    // could be redone then cannot be any more. False when the trail could not be read: see Refusal.
+    // Adds the step that was stored last, after which nothing can be redone any more. Adds nothing if nothing changed, if the step is known
+    // already, or if it cannot be undone. False if the trail could not be read: see Refusal.
     bool Remember();
 
-    // "Undo Delete 03/05/2003 08:00 AM"; "Undo" when there is nothing.
+    // The caption "Undo Delete 03/05/2003 08:00 AM"; "Undo" if there is nothing to undo.
     [[nodiscard]] std::string UndoText() const;
 
     [[nodiscard]] std::string RedoText() const;
 
-    // What these two would do; nullptr when there is nothing.
+    // The steps that Undo and Redo would move; nullptr if there is none.
     [[nodiscard]] const MovedStep* NextUndo() const { return m_done.empty() ? nullptr : &m_done.back().told; }
     [[nodiscard]] const MovedStep* NextRedo() const { return m_undone.empty() ? nullptr : &m_undone.back().told; }
 
-    // False, with a Refusal, when somebody else changed one of the rows meanwhile or the database failed: nothing is changed then, and the
-    // step stays the next to be undone. False without one when there is nothing to undo.
+    // Undoes the last step, or redoes the step undone last. False, with a Refusal, if somebody else changed one of the rows meanwhile or
+    // the database failed: then nothing is changed, and the step stays the next one. False without a Refusal if there is no step.
     bool Undo();
     bool Redo();
 
-    // By the last of them that answered true.
+    // The step that the last successful Undo or Redo moved.
     [[nodiscard]] const MovedStep& Moved() const { return m_moved; }
 
-    // A number of the trail, as far as Remember was told.
+    // Whether this step of the trail was made here, as far as Remember was called.
     [[nodiscard]] bool IsOwn(std::int64_t step) const { return m_ours.contains(step); }
 
-    // Why the last call answered false: one sentence for people; empty when it did not.
+    // Why the last call failed: one sentence for people; empty if it did not fail.
     [[nodiscard]] const std::string& Refusal() const { return m_refusal; }
 
 private:
@@ -66,7 +66,7 @@ private:
     {
         MovedStep told;
         std::vector<RowChange> changes;
-        std::int64_t lastEntry = 0; // of the trail when it was done
+        std::int64_t lastEntry = 0; // newest entry of the trail when the step was done
         bool complete = true;       // false where a password is not known
     };
 
