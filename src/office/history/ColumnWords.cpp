@@ -47,7 +47,7 @@ ColumnWords WordsOf(std::string_view column)
     return {nullptr, Shape::Plain};
 }
 
-// The seconds are told only where there are any: nobody types them.
+// Seconds are shown only if they are not 0, because nobody types them.
 std::string MomentText(DateTime moment, ColumnShape shape)
 {
     if (moment.IsZero()) {

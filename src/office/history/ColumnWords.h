@@ -1,4 +1,4 @@
-// What people call the columns of the database, and how they are told moments.
+// What people call the columns of the database, and how their moments are shown.
 #pragma once
 
 #include "platform/text/DateTime.h"
@@ -15,19 +15,20 @@ enum class ColumnShape
     Day,
     Weekday, // 0 Sunday to 6 Saturday
     Flag,
-    Employee // a number of one
+    Employee // an EmployeeID
 };
 
 struct ColumnWords
 {
-    const char* words; // "pay rate"; nullptr for a column that nobody has words for
+    const char* words; // "pay rate"; nullptr for a column without words
     ColumnShape shape;
 };
 
 // Columns of one name are called the same in all tables.
 [[nodiscard]] ColumnWords WordsOf(std::string_view column);
 
-// "03/05/2003 08:00 AM", "03/05/2003" of a day, "08:00 AM" of a time of day, "none" of the zero date-time.
+// The moment in the column's form: "03/05/2003 08:00 AM", "03/05/2003" for a day, "08:00 AM" for a time of day, "none" for the zero
+// date-time. Seconds are shown only if they are not 0.
 [[nodiscard]] std::string MomentText(DateTime moment, ColumnShape shape);
 
 } // namespace ptk

@@ -11,7 +11,7 @@ namespace ptk {
 
 namespace {
 
-// In the order of the employee list; of any kind of value the text.
+// Reads each name as text, whatever its type, in the order of the employee list.
 std::string NamesSql(const EngineWords& words)
 {
     return "SELECT EmployeeID, COALESCE(CAST(FirstName AS TEXT), ''), COALESCE(CAST(LastName AS TEXT), '') FROM Employee ORDER BY " +

@@ -1,4 +1,4 @@
-// Who the employees are and were, by number.
+// The present and former names of employees, by EmployeeID.
 #pragma once
 
 #include "store/trail/TrailReader.h"
@@ -15,32 +15,33 @@ namespace ptk {
 
 class CJetDB;
 
-// The names of employees by number: of all rows, whatever else in them can be read, and of those that are gone, as far as the entries read
-// so far tell them.
+// The names of employees by EmployeeID: of all stored rows, whatever else in them cannot be read, and of deleted employees, as far as the
+// entries read so far show them.
 class EmployeeNames
 {
 public:
-    // Raises what reading the database raises.
+    // Reads the names of all stored employees. Raises what reading the database raises.
     explicit EmployeeNames(const std::shared_ptr<CJetDB>& database);
 
     // The display name; empty for an unknown one.
     [[nodiscard]] const std::string& Of(std::int64_t employeeID) const;
 
-    // In the order of the employee list.
+    // The stored employees, in the order of the employee list.
     [[nodiscard]] const std::vector<std::int64_t>& Present() const { return m_order; }
 
     [[nodiscard]] std::optional<std::int64_t> FirstOf(std::string_view displayName) const;
 
-    // Entries newest first.
+    // Takes the name of a deleted employee from the entry. REQUIRES: entries come newest first.
     void Learn(const TrailEntry& entry);
 
-    // All that the trail knows to be gone. Raises what reading the database raises.
+    // Takes the names of all employees whose deletion the trail holds. Raises what reading the database raises.
     void LearnGone(const std::shared_ptr<CJetDB>& database);
 
-    // Those, by number.
+    // The EmployeeIDs of the deleted employees that it knows, in ascending order.
     [[nodiscard]] std::vector<std::int64_t> Gone() const;
 
-    // What the row of Employee that this entry is about was called right before it, or after it when it was added; entries newest first.
+    // The name that the employee had right before this entry of the table Employee, or after it when the employee was added. REQUIRES:
+    // entries come newest first.
     std::string FormerOf(const TrailEntry& entry);
 
 private:
@@ -54,13 +55,13 @@ private:
         void Take(const TrailRow& row);
     };
 
-    std::unordered_map<std::int64_t, Name> m_known;  // present and gone ones
+    std::unordered_map<std::int64_t, Name> m_known;  // stored and deleted employees
     std::unordered_map<std::int64_t, Name> m_former; // of those that FormerOf was asked about
     std::vector<std::int64_t> m_order;
 };
 
-// The number of the employee of that display name: the first in the list, else the one that had it last, as the trail tells. Raises what
-// reading the database raises.
+// The EmployeeID for a display name: of the first employee in the list with this name, or else of the employee who had it last, as the
+// trail shows. Nothing if nobody ever had it. Raises what reading the database raises.
 [[nodiscard]] std::optional<std::int64_t> FindInHistory(const std::shared_ptr<CJetDB>& database, const std::string& name);
 
 } // namespace ptk

@@ -13,7 +13,7 @@ namespace {
 
 constexpr auto kCsvHeading = "Change,When,Who,Program,Step,Table,Row,Action,Before,After,Text,Reason\r\n";
 
-// "2003-03-05 17:00:00" as "2003-03-05T17:00:00".
+// The moment in ISO form: "2003-03-05 17:00:00" becomes "2003-03-05T17:00:00".
 std::string Moment(std::string at)
 {
     if (at.size() > 10 && at[10] == ' ') {

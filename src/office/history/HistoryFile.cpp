@@ -43,7 +43,7 @@ void HistoryFile::WriteOn()
     }
 }
 
-// Its line; nothing of what is to stand on pages.
+// The entry's line; nothing for pages, which keep the entry until the end.
 std::string HistoryFile::Take(const TrailEntry& entry)
 {
     const auto nameOf = [this](std::int64_t id) { return m_names->Of(id); };

@@ -1,4 +1,4 @@
-// The history as a file, written while it is read.
+// Writes the history into a file while it reads it.
 #pragma once
 
 #include "office/history/EmployeeNames.h"
@@ -13,24 +13,25 @@
 
 namespace ptk {
 
-// All entries of the query, a thousand at a time, between which the database is free: as many as there are, as pages HistoryPages::kMost.
-// The file appears whole, with the last of them, or not at all. What is changed meanwhile is not in it.
+// Writes all entries of the query, a thousand at a time, and leaves the database free in between. Pages hold HistoryPages::kMost entries at
+// most; the other forms have no limit. The file appears whole, with its last entry, or not at all. What is changed meanwhile is not in it.
 class HistoryFile
 {
 public:
-    // `path` in the platform's own form; CSV gets a byte order mark, pages tell when they were `made`. Raises what a draft raises.
-    // REQUIRES: neither pointer is nullptr; the form is not Json.
+    // Begins the file. `path` is in the platform's own form; CSV gets a byte order mark; pages show when they were `made`. Raises what a
+    // draft raises. REQUIRES: neither pointer is nullptr; the form is not Json.
     HistoryFile(const std::string& path, ReportForm form, DateTime made, std::shared_ptr<CJetDB> database, TrailQuery query,
                 std::shared_ptr<const EmployeeNames> names);
 
-    // Raises the failure of a database that cannot be opened or read, and what writing, a draft and pages raise. REQUIRES: not IsDone.
+    // Writes the next thousand entries; the last call puts the file in its place. Raises the failure of a database that cannot be opened or
+    // read, and what writing, a draft and pages raise. REQUIRES: not IsDone.
     void WriteOn();
 
     [[nodiscard]] bool IsDone() const { return m_done; }
 
     [[nodiscard]] const std::string& Path() const { return m_path; }
 
-    // Entries.
+    // The number of entries written so far.
     [[nodiscard]] std::int64_t Written() const { return m_written; }
 
 private:
@@ -44,12 +45,12 @@ private:
     std::shared_ptr<CJetDB> m_database;
     TrailQuery m_query;
     std::shared_ptr<const EmployeeNames> m_names;
-    HistoryPages m_pages; // nothing in the other forms
+    HistoryPages m_pages; // empty in the other forms
     std::int64_t m_written = 0;
     bool m_done = false;
 };
 
-// "PTK history 2003-03-05", without an ending.
+// "PTK history 2003-03-05", without a file extension.
 [[nodiscard]] std::string HistoryFileName(DateTime today);
 
 } // namespace ptk

@@ -20,7 +20,7 @@ constexpr std::size_t kMoment = 22;    // characters: 03/05/2003 08:00:00 PM
 constexpr std::size_t kWidest = 120;   // characters of a line: "Christopher Hernandez: start MOMENT became MOMENT" with whoever did it
 constexpr std::size_t kWidestWho = 32; // so that what was changed begins in the left half and goes on below itself
 
-// With two blanks behind it.
+// Fills the text up with blanks to the width of its column, and adds two blanks.
 std::string Column(const std::string& text, std::size_t width)
 {
     return text + std::string(width - std::min(width, CharacterCount(text)) + 2, ' ');

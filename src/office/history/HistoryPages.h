@@ -10,18 +10,18 @@ namespace ptk {
 
 struct ReportDocument;
 
-// Other than the files of the other forms, which are written while the history is read, pages are laid out when all of it is known: they
-// are numbered "of" so many. Hence the bound on what is kept until then.
+// Collects the changes and lays them out as pages. That cannot be done while the history is read, because each page shows how many pages
+// there are in all; the number of changes is limited since all of them are kept until then.
 class HistoryPages
 {
 public:
-    // Of changes. A page holds at most 70, so these are 140 pages and more.
+    // The most changes that pages hold. A page has room for 70 at most, so they fill 143 pages or more.
     static constexpr std::size_t kMost = 10'000;
 
-    // Below those before. Raises 6 beyond kMost, saying what to do instead.
+    // Adds a change below the former ones. Raises 6 beyond kMost, with what to do instead.
     void Add(HistoryCells cells);
 
-    // A change is kept together; their number stands below the last.
+    // The pages. Each change is kept together on a page, and the number of changes stands below the last one.
     [[nodiscard]] ReportDocument Document() const;
 
 private:

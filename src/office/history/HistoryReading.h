@@ -1,4 +1,4 @@
-// Reads the history a page at a time, for whoever shows only its newest part at first.
+// Reads the history in portions, so that a window can show its newest part first.
 #pragma once
 
 #include "office/history/EmployeeNames.h"
@@ -10,22 +10,23 @@
 
 namespace ptk {
 
-// The database is held within ReadOn alone. What is changed between two pages is not in the later ones: each goes on below the last entry.
+// Reads the entries of a query, newest first. The database is held only within ReadOn. Changes made between two portions do not appear in
+// the later ones, which continue below the last entry.
 class HistoryReading
 {
 public:
-    // Of a page.
+    // The entries of a portion.
     static constexpr std::int32_t kEntries = 250;
 
-    // The names say who the employees are. REQUIRES: neither pointer is nullptr.
+    // REQUIRES: neither pointer is nullptr.
     HistoryReading(std::shared_ptr<CJetDB> database, TrailQuery query, std::shared_ptr<const EmployeeNames> names);
 
-    // The next page. Raises the failure of a database that cannot be opened or read; what was read before stays.
+    // Reads the next portion. Raises the failure of a database that cannot be opened or read; what was read before stays.
     void ReadOn();
 
     [[nodiscard]] bool IsDone() const { return m_done; }
 
-    // As far as it has been read, newest first.
+    // The rows read so far, newest first.
     [[nodiscard]] const std::vector<HistoryCells>& Rows() const { return m_rows; }
 
 private:

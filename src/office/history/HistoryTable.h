@@ -13,9 +13,9 @@ namespace ptk {
 enum class HistoryColumn
 {
     When,
-    Who, // and through which program, where it was another than the administrator's
+    Who, // also names the program, unless it is the administrator
     Employee,
-    What // and why, where that is said
+    What // also gives the reason, if there is one
 };
 
 inline constexpr std::size_t kHistoryColumns = 4;
@@ -24,16 +24,16 @@ using HistoryCells = std::array<std::string, kHistoryColumns>; // by HistoryColu
 [[nodiscard]] HistoryCells HistoryHeading();
 [[nodiscard]] HistoryCells CellsOf(const TrailEntry& entry, const NameOfEmployee& nameOf);
 
-// "03/05/2003 05:00:09 PM, Bob Ray: Ann Lee, end none became 03/05/2003 05:00 PM".
+// A row in one text: "03/05/2003 05:00:09 PM, Bob Ray: Ann Lee, end none became 03/05/2003 05:00 PM".
 [[nodiscard]] std::string InOneText(const HistoryCells& cells);
 
-// Each line ends in LF; no cell holds a tab or a line end, and none is a formula to a spreadsheet.
+// The lines, to copy into a spreadsheet. Each ends in LF; no cell holds a tab or a line end, and none is taken for a formula.
 [[nodiscard]] std::string TabSeparated(const std::vector<HistoryCells>& lines);
 
-// "The newest 250 changes; older ones follow as you scroll down", "1 change", and nothing without any.
+// "The newest 250 changes; older ones follow as you scroll down", "1 change"; empty if none is shown.
 [[nodiscard]] std::string HistoryNews(std::size_t shown, bool more);
 
-// What stands in the place of no rows; `chosen` where they are not all changes that are asked for.
+// The text that is shown instead of rows if there are none. `chosen`: not all changes were asked for.
 [[nodiscard]] std::string NoHistoryText(bool chosen);
 
 } // namespace ptk

@@ -15,14 +15,14 @@ namespace {
 
 constexpr auto kAnotherProgram = "another program";
 
-// Nearly all are in the stored form, which takes a tenth of the time.
+// Nearly all moments have the stored form, which is read ten times as fast.
 std::optional<DateTime> MomentOf(const std::string& text)
 {
     const auto stored = FromStoredText(text);
     return stored ? stored : ParseDateTime(text);
 }
 
-// Numbers come with 17 digits; people know them with those that they typed.
+// A number is stored with 17 digits; it is shown with those that people typed.
 std::string NumberText(const std::string& digits)
 {
     return digits.find('.') == std::string::npos ? digits : SingleText(ToSingle(digits));
@@ -97,7 +97,7 @@ std::string EmployeeName(const TrailEntry& entry, const NameOfEmployee& nameOf)
     return name.empty() ? fmt::format("Employee {}", *entry.employee) : name;
 }
 
-// Of no row: the database as a whole.
+// Whether the entry is about the database as a whole, not about a row.
 bool IsWhole(const TrailEntry& entry)
 {
     return entry.action == "restore" || entry.action == "import";
@@ -122,7 +122,7 @@ std::string Subject(const TrailEntry& entry, const NameOfEmployee& nameOf)
     return entry.row ? fmt::format("{} {}", entry.table, *entry.row) : entry.table;
 }
 
-// What a whole row is: a record its times, a company its name; an employee's name is the subject already.
+// The words for a whole row: the times of a record, the name of a company; nothing for an employee, whose name is the subject already.
 std::string WholeRow(const TrailEntry& entry, const std::optional<TrailRow>& row, const NameOfEmployee& nameOf)
 {
     if (entry.table == "TimeRecord") {
@@ -131,7 +131,7 @@ std::string WholeRow(const TrailEntry& entry, const std::optional<TrailRow>& row
     return entry.table == "Company" ? TextIn(row, "Name", nameOf) + " " : "";
 }
 
-// "payday 03/01/2003 - 03/15/2003 of 80.00 + 0.50 hours, 88.00".
+// The words for a closing: "payday 03/01/2003 - 03/15/2003 of 80.00 + 0.50 hours, 88.00".
 std::string PaydayText(const std::optional<TrailRow>& row, const NameOfEmployee& nameOf)
 {
     const auto figure = [&](const char* column) { return row ? PlainTextIn(*row, column) : std::string(); };
