@@ -12,7 +12,7 @@ namespace ptk {
 namespace {
 
 constexpr auto kNeverPaid = "not paid";
-constexpr auto kSomeDay = "yes"; // paid, nobody can say when
+constexpr auto kSomeDay = "yes"; // paid, but the day is not known
 constexpr auto kNoFigures = "not readable";
 
 std::string Hours(const std::string& regular, const std::string& overtime)
@@ -27,7 +27,7 @@ void ShowPaid(AccountCells& cells, const Closing& paid)
     cells[static_cast<std::size_t>(AccountColumn::Paid)] = paid.gross;
 }
 
-// Of two differences, with its sign.
+// The sum of two differences, with its sign.
 std::string Together(std::string_view regular, std::string_view overtime)
 {
     DecimalSum sum;

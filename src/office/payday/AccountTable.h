@@ -1,4 +1,4 @@
-// The account of a payday as a table: what its cells say.
+// The account of a payday as a table: the texts of its cells.
 #pragma once
 
 #include "office/payday/PaydayAccount.h"
@@ -27,8 +27,8 @@ using AccountCells = std::array<std::string, kAccountColumns>; // by AccountColu
 
 [[nodiscard]] AccountCells AccountHeading();
 
-// Hours are regular and overtime ones, "80.00 + 0.50", of what is owed both together; of several closings the newest counts. What is owed
-// is empty where nothing changed.
+// The cells of one person's row. Hours are regular and overtime, "80.00 + 0.50", but the owed hours are both together. If the period was
+// closed several times, the newest closing counts. The owed cells are empty if nothing changed.
 [[nodiscard]] AccountCells CellsOf(const AccountPerson& person);
 
 // "10 of 12 are paid, 1 changed since".

@@ -14,7 +14,7 @@ namespace ptk {
 
 namespace {
 
-// In the order of the persons; those whom nobody knows have none.
+// The figures of the cards now, in the order of the persons. Those who are no employees any more have none; they stand last.
 std::vector<std::optional<CardFigures>> PresentFigures(const std::shared_ptr<CJetDB>& database, const PayPeriod& period, DateTime now,
                                                        const std::vector<PaydayPerson>& persons, const PaydayGoesOn& goesOn)
 {

@@ -34,20 +34,20 @@ constexpr std::pair<PaydayDeed, const char*> kCounts[] = {{PaydayDeed::Closed, "
 constexpr auto kNoCard = "the time card of {} cannot be computed";
 constexpr auto kGone = "there is no employee {} any more";
 
-constexpr const char* kTables[] = {"TimeRecord", "Employee", "_Payday"}; // that what is stored depends on
+constexpr const char* kTables[] = {"TimeRecord", "Employee", "_Payday"}; // tables that the stored figures depend on
 constexpr const char* kInsert =
     "INSERT INTO _Payday (EmployeeID, FromDay, ToDay, PaidAt, PaidBy, Regular, Overtime, Gross, Entry) VALUES {}";
 constexpr const char* kNewest = "SELECT COALESCE(MAX(ChangeID), 0) FROM _Change";
 constexpr std::size_t kRowsAtOnce = 200; // of one statement
 constexpr std::size_t kMostNames = 20;   // in one line of text
 
-// A card without figures has a problem in any case.
+// A card without figures has at least one problem.
 std::int32_t ProblemsOf(const OverviewRow& row)
 {
     return std::max(row.check.problems, row.figures ? 0 : 1);
 }
 
-// Within the transaction that stores: what it reads stays so until its end.
+// Closes or reopens within the transaction that stores, so that what it reads does not change before the transaction ends.
 class PaydayStep
 {
 public:
@@ -101,7 +101,7 @@ public:
     }
 
 private:
-    // Also who was taken in.
+    // The people in the list, and those who were taken in.
     Employees Listed() const
     {
         Employees listed;
@@ -116,7 +116,7 @@ private:
 
     bool IsTakenIn(std::int32_t id) const { return std::find(m_order.takenIn.begin(), m_order.takenIn.end(), id) != m_order.takenIn.end(); }
 
-    // Each once.
+    // The chosen employees, each once.
     Employees Chosen() const
     {
         Employees chosen;
@@ -148,7 +148,7 @@ private:
         return {PaydayDeed::Closed, name, *row.figures, 0};
     }
 
-    // The figures are digits; who pays is the statement's parameter.
+    // The row to store, as SQL. The figures are digits, so they can stand in the text; who pays is a parameter.
     std::string ValuesOf(const OverviewRow& row) const
     {
         const PayPeriod& period = m_order.period;
@@ -174,10 +174,10 @@ private:
     const PaydayGoesOn& m_goesOn;
     std::shared_ptr<CEmployeeList> m_employees;
     std::int64_t m_newest = 0;         // entry of the trail before this step
-    std::vector<std::string> m_values; // of the rows to be stored
+    std::vector<std::string> m_values; // rows to store
 };
 
-// May run more than once, the last time with effect.
+// Runs the step. The transaction may run it more than once; only the last run counts.
 std::vector<PaydayLine> Store(const std::shared_ptr<CJetDB>& database, const PaydayOrder& order,
                               std::vector<PaydayLine> (PaydayStep::*deed)(), const PaydayGoesOn& goesOn = {})
 {

@@ -1,4 +1,5 @@
-// Closing a payday: what each person is paid for the period is kept, and taken back when it is reopened. Nobody is kept from working on.
+// Closes a payday, which stores what each person is paid for the period, and reopens it, which deletes that again. Neither keeps anybody
+// from working on.
 #pragma once
 
 #include "model/check/CardFigures.h"
@@ -18,9 +19,9 @@ class Failure;
 struct PaydayOrder
 {
     PayPeriod period;
-    std::vector<std::int32_t> employees; // by their numbers, in the order of the answer; none: all, as each member says
+    std::vector<std::int32_t> employees; // EmployeeIDs, in the order of the answer; empty: everybody whom the function's comment names
     DateTime now;
-    std::vector<std::int32_t> takenIn{}; // who is in no list and is to be judged as if he were; counts without `employees` only
+    std::vector<std::int32_t> takenIn{}; // EmployeeIDs outside the list, treated as if in it; counts only without `employees`
 };
 
 enum class PaydayDeed : std::uint8_t
@@ -34,33 +35,33 @@ enum class PaydayDeed : std::uint8_t
 struct PaydayLine
 {
     PaydayDeed deed = PaydayDeed::Closed;
-    std::string name;          // "Employee 77" of nobody who is known
-    CardFigures figures;       // of somebody closed
-    std::int32_t problems = 0; // of somebody not closed
+    std::string name;          // "Employee 77" if there is no such employee any more
+    CardFigures figures;       // set only for Closed
+    std::int32_t problems = 0; // set only for NotClosed
 };
 
-// What was done for several people, and for whom it was not, in one line: "38 closed, 1 paid already, 2 not closed: Bo Kim (1 problem), Ann
-// Lee (2 problems)". Empty where there was nobody.
+// What was done for several people, and for whom nothing was done, in one line: "38 closed, 1 paid already, 2 not closed: Bo Kim (1
+// problem), Ann Lee (2 problems)". Empty without people.
 [[nodiscard]] std::string NewsOf(const std::vector<PaydayLine>& lines);
 
-// "closed Ann Lee: 80.00 + 0.50 hours, 88.00", "paid already Ann Lee", "not closed Ann Lee: 2 problems", "reopened Ann Lee".
+// What was done for one person: "closed Ann Lee: 80.00 + 0.50 hours, 88.00", "paid already Ann Lee", "not closed Ann Lee: 2 problems",
+// "reopened Ann Lee".
 [[nodiscard]] std::string TextOf(const PaydayLine& line);
 
-// Why either of the following was refused, for people: "the time card of Ann Lee cannot be computed".
+// Why ClosePayday or ReopenPayday was refused, for people: "the time card of Ann Lee cannot be computed".
 [[nodiscard]] std::string PaydayRefusal(const Failure& failure);
 
-// Both store all or nothing, as one step of the edit trail and in one transaction with reading the records, and write nothing where there
-// is nothing to do. They raise 602, with the number as text, for an employee who is not there any more, and the failure of a database that
-// cannot be read or written. REQUIRES: database is not nullptr; the period does not run backward. goesOn: nothing is stored where it ends
-// the work.
+// ClosePayday and ReopenPayday store all or nothing, as one step of the edit trail; the same transaction reads the records. They write
+// nothing if there is nothing to do, or if `goesOn` ends the work. They raise 602, with the EmployeeID as text, for an employee who is
+// gone, and the failure of a database that cannot be read or written. REQUIRES: database is not nullptr; the period does not run backward.
 
-// Without `employees` everybody who is offered time cards and has no problem, a difference to what was paid included; the others are left
-// and named. With them, problems do not matter, but a card that cannot be computed raises 605, with the name as text. Whoever was paid
-// these very figures is left.
+// Closes the period. Without `employees`, it takes everybody who is offered time cards and has no problem; a difference to what was paid is
+// a problem, too. The others are named in the answer and left alone. With `employees`, problems do not matter, but a card that cannot be
+// computed raises 605, with the name as text. Nobody is closed again with the very figures that were paid already.
 [[nodiscard]] std::vector<PaydayLine> ClosePayday(const std::shared_ptr<CJetDB>& database, const PaydayOrder& order,
                                                   const PaydayGoesOn& goesOn = {});
 
-// Takes the newest closing of exactly this period back; without `employees` of everybody who has one, those last whom nobody knows.
+// Deletes each person's newest closing of exactly this period. Without `employees`: of all who have one, the unknown ones last.
 [[nodiscard]] std::vector<PaydayLine> ReopenPayday(const std::shared_ptr<CJetDB>& database, const PaydayOrder& order);
 
 } // namespace ptk

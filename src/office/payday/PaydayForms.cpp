@@ -88,7 +88,7 @@ std::string AccountJson(const PaydayAccount& account)
            kLineEnd;
 }
 
-// What another tool left in the place of figures may be anything.
+// A cell for a figure that was paid. Another tool may have left any text there.
 std::string FigureCell(const std::string& figure)
 {
     return figure.find_first_not_of("+-.0123456789") == std::string::npos ? figure : CsvText(figure);

@@ -1,4 +1,4 @@
-// Whom a payday is about: those of the list, and those who were paid and are in no list.
+// The people that a payday is about: those in the list, and those who were paid and are not in the list.
 #pragma once
 
 #include "model/payday/Closing.h"
@@ -19,26 +19,26 @@ class CJetDB;
 struct PaydayPerson
 {
     std::int64_t id = 0;
-    std::shared_ptr<CEmployee> employee; // nullptr: there is none of that number
+    std::shared_ptr<CEmployee> employee; // nullptr: no employee has this ID any more
 };
 
 // Asked after each person; false ends the work, and what it had begun is given up.
 using PaydayGoesOn = std::function<bool(std::size_t done, std::size_t all)>;
 
-// Raises a failure without a number where the work is to end.
+// Raises a failure without a number if `goesOn` answers false.
 void AskWhetherToGoOn(const PaydayGoesOn& goesOn, std::size_t done, std::size_t all);
 
-// The display name; "Employee 77" of nobody who is known.
+// The display name; "Employee 77" if there is no such employee any more.
 [[nodiscard]] std::string NameOf(const PaydayPerson& person);
 
-// As the database has them at this moment. Raises what reading it raises.
+// All employees, as the database has them at this moment. Raises what reading it raises.
 [[nodiscard]] std::shared_ptr<CEmployeeList> PresentEmployees(const std::shared_ptr<CJetDB>& database);
 
-// In the list's order, behind them by number those whom nobody knows: who has a closing of the period, and with `offered` also everybody
-// who is offered time cards.
+// Everybody who has a closing of the period, and with `offered` also everybody who is offered time cards. They stand in the list's order;
+// behind it, by ID, those who are no employees any more.
 [[nodiscard]] std::vector<PaydayPerson> PersonsWithClosings(CEmployeeList& employees, const Closings& closings, bool offered = false);
 
-// In the given order.
+// The same people as persons, in the given order.
 [[nodiscard]] std::vector<PaydayPerson> PersonsOf(const std::vector<std::shared_ptr<CEmployee>>& employees);
 
 } // namespace ptk

@@ -27,7 +27,7 @@ PaidHours PaidHoursOf(float hours)
     return {TwoDecimals(hours), WholeMinutes(hours)};
 }
 
-// As the calculator pays it: by singles, and nothing at all where deductions exceed the regular hours.
+// Overtime is paid as the calculator pays it: with singles, and not at all if the deductions exceed the regular hours.
 std::string OvertimePayOf(const CTimeCard& card)
 {
     const auto pay = static_cast<float>(static_cast<double>(card.OvertimeHoursWorked()) * static_cast<double>(card.OvertimePay()));
@@ -49,8 +49,8 @@ public:
         : m_order(order), m_hold(order.database), m_factory(std::make_shared<CTimeRecordFactory>())
     {
         RequireOpen(*order.database);
-        m_days.ValidateRange(order.period.from, order.period.to); // backward ones, too, as a review takes them
-        m_factory->PTKDatabase(order.database);                   // its own: the program's list of records stays as it is
+        m_days.ValidateRange(order.period.from, order.period.to); // also a period that runs backward, which a review takes, too
+        m_factory->PTKDatabase(order.database); // a factory of its own, so that the program's list of records is not changed
     }
 
     bool Read(const PersonTaken& taken)

@@ -1,4 +1,4 @@
-// What is to be paid to whom for a period, person by person, as an accountant's review has it: what profiles make tables of.
+// What each person is to be paid for a period, as an accountant's review shows it. Profiles make tables of it.
 #pragma once
 
 #include "model/PayPeriod.h"
@@ -22,10 +22,10 @@ class CTimeCard;
 struct PaidHours
 {
     std::string text;         // "7.50", as the card shows them
-    std::int64_t minutes = 0; // the nearest whole ones, as the review has them
+    std::int64_t minutes = 0; // the nearest whole minutes, as in the review
 };
 
-// Money as the card shows it; what is not on the card adds up to what is.
+// What one person is paid. Money is as the card shows it; amounts that the card does not show add up to those that it shows.
 struct PaidPerson
 {
     std::shared_ptr<const CEmployee> employee;
@@ -36,7 +36,7 @@ struct PaidPerson
     std::string regularPay;
     std::string overtimePay;
     std::string gross;
-    std::optional<OverviewRow> overview; // what the check says, where it was asked for
+    std::optional<OverviewRow> overview; // what the check says; none unless it was asked for
 };
 
 struct PayTableOrder
@@ -44,29 +44,29 @@ struct PayTableOrder
     std::shared_ptr<CJetDB> database;
     Employees people; // in the order of the rows
     PayPeriod period;
-    DateTime now;                                               // for the check
-    bool withOverview = false;                                  // read the check of each card, too
-    std::size_t most = std::numeric_limits<std::size_t>::max(); // people who are looked at, from the first on
+    DateTime now;                                               // moment of the check
+    bool withOverview = false;                                  // whether to check each card, too
+    std::size_t most = std::numeric_limits<std::size_t>::max(); // number of people to read, from the first on
 };
 
 struct PayTable
 {
     std::vector<PaidPerson> people;
-    std::string missing; // "without Ann Lee: REASON; ...": whose cards could not be generated, as the review tells it; empty without any
+    std::string missing; // "without Ann Lee: REASON; ...", as in the review: whose cards could not be generated; empty if there are none
 };
 
-// Before each person with the number of those done; false ends the reading.
+// Called before each person, with the number of those done; false ends the reading.
 using PersonTaken = std::function<bool(std::size_t done)>;
 
-// Overtime is paid by the rounded product, regular hours by what is left of the gross pay: both together are what the card shows.
+// What the person is paid. Overtime pay is the rounded product; regular pay is what is left of the card's gross pay.
 [[nodiscard]] PaidPerson PaidPersonOf(const CTimeCard& card, const PayPeriod& period);
 
-// Of one moment: the database is held until it returns. Nothing when `taken` ended it. Raises the failure of a database that cannot be
-// opened or read.
+// Reads what everybody is paid, all at one moment: the database is held until it returns. Nothing if `taken` ended it. Raises the failure
+// of a database that cannot be opened or read.
 [[nodiscard]] std::optional<PayTable> ReadPayTable(const PayTableOrder& order, const PersonTaken& taken = {});
 
-// Whom a review of these names holds. Of namesakes it holds the first one each time; `doubled` gets a sentence, without its full stop, for
-// each name that stands there more than once.
+// The employees that a review of these names holds. If several people have the same name, it holds the first of them each time. `doubled`
+// gets a sentence, without its full stop, for each name that is given more than once.
 [[nodiscard]] Employees PeopleOfReview(CEmployeeList& all, const std::vector<std::string>& names, std::vector<std::string>& doubled);
 
 } // namespace ptk

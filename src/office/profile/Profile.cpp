@@ -49,7 +49,7 @@ constexpr ProfileOption kOptions[] = {
     Option<&Profile::heading>("heading", "Heading line", kHeadings),
 };
 
-// Each under its own name.
+// Cells for these columns, each with its own name as heading.
 std::vector<ProfileCell> CellsNamed(std::initializer_list<const char*> columns)
 {
     std::vector<ProfileCell> cells;
@@ -77,7 +77,7 @@ std::vector<Profile> MakeReadyProfiles()
     return {plain, kinds, semicolons};
 }
 
-// Each stands in one line of the table's heading, of a list, and of what is stored.
+// Whether a text fits into one line: it stands in the heading, in a list, and in what is stored.
 bool IsPlainText(const std::string& text)
 {
     const auto isControl = [](char c) { return (c >= '\0' && c < ' ') || c == '\x7F'; };

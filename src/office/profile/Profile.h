@@ -10,7 +10,7 @@
 
 namespace ptk {
 
-// The first of each is what a new profile has.
+// The choices of a profile. A new profile has the first one of each.
 enum class TableRows : std::uint8_t
 {
     Person,
@@ -56,8 +56,8 @@ enum class HeadingLine : std::uint8_t
 
 struct ProfileCell
 {
-    std::string column{}; // the name of one of ProfileColumns(); empty: the same text in every row
-    std::string text{};   // that text
+    std::string column{}; // the name of one of ProfileColumns(); empty: `text` stands in every row
+    std::string text{};   // the text of a cell without a column
     std::string heading{};
 
     bool operator==(const ProfileCell&) const = default;
@@ -73,7 +73,7 @@ struct Profile
     DateForm dates = DateForm::YearFirst;
     TableEncoding encoding = TableEncoding::Utf8;
     HeadingLine heading = HeadingLine::Yes;
-    std::string regularCode = "REG"; // what stands for the kind of hours in the column Code
+    std::string regularCode = "REG"; // the texts of the column Code for the two kinds of hours
     std::string overtimeCode = "OT";
     std::vector<ProfileCell> cells{}; // of a row, in their order
 
@@ -83,37 +83,37 @@ struct Profile
 [[nodiscard]] char SignOf(Separator separator);
 [[nodiscard]] char SignOf(DecimalSign decimal);
 
-// For FormatDateTime.
+// The pattern for FormatDateTime.
 [[nodiscard]] std::string_view PatternOf(DateForm dates);
 
 struct ProfileChoice
 {
-    std::string_view word;    // in what is stored
-    std::string_view caption; // for people
+    std::string_view word;    // as it is stored
+    std::string_view caption; // as people see it
 };
 
-// What is chosen from a few possibilities.
+// A setting of a profile that has a few possible values.
 struct ProfileOption
 {
     std::string_view word;
     std::string_view caption;
     std::span<const ProfileChoice> choices;
-    std::size_t (*get)(const Profile& profile); // the choice's place
+    std::size_t (*get)(const Profile& profile); // index of the choice
     void (*set)(Profile& profile, std::size_t choice);
 };
 [[nodiscard]] std::span<const ProfileOption> ProfileOptions();
 
-// Those that are there without being made, whose names no other has: one row a person, one row a person and kind of hours, and a
-// spreadsheet with semicolons and a decimal comma.
+// The profiles that are always there. No other profile may have their names. They have one row for each person, one row for each person and
+// kind of hours, and a spreadsheet's semicolons and decimal comma.
 [[nodiscard]] std::span<const Profile> ReadyProfiles();
 
-// One with every column of the ready table, for a start.
+// A profile to start with, which has every column of the first ready one and no name.
 [[nodiscard]] Profile NewProfile();
 
-// "13 columns, rows: one a person, separator: comma, ...".
+// The profile in words: "13 columns, rows: one a person, separator: comma, ...".
 [[nodiscard]] std::string DescribeProfile(const Profile& profile);
 
-// Why it cannot be used, in one sentence; empty where it can.
+// Why the profile cannot be used, in one sentence; empty if it can.
 [[nodiscard]] std::string FaultOf(const Profile& profile);
 
 } // namespace ptk

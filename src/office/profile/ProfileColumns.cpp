@@ -13,7 +13,7 @@ namespace {
 
 using enum StandsIn;
 
-constexpr std::size_t kLongestAmount = 16; // characters; a longer one was left by another tool, and is a text
+constexpr std::size_t kLongestAmount = 16; // characters; a longer text was left by another tool and is no amount
 
 template <std::string EmployeeRow::*member>
 PayCell EmployeeText(const PayRowScope& row)
@@ -57,7 +57,7 @@ PayCell YesOrNo(bool yes)
     return std::string(yes ? "true" : "false");
 }
 
-// "-1234.50", "+0.25": what another tool left in the place of an amount is a text.
+// Whether this is an amount, "-1234.50" or "+0.25". What another tool left in its place is shown as a text.
 bool IsAmount(std::string_view text)
 {
     const std::string_view digits = text.substr(text.starts_with('-') || text.starts_with('+') ? 1 : 0);
@@ -123,7 +123,7 @@ PaidHours AllHours(const PaidPerson& person)
     return {sum.Text(), person.regular.minutes + person.overtime.minutes};
 }
 
-// Of the row's kind, or of both together.
+// The hours of the row's kind, or of both together.
 PayCell Hours(const PayRowScope& row)
 {
     if (!row.kind) {

@@ -1,4 +1,4 @@
-// The columns that a profile can have: all that the reports and the payday overview know of a person.
+// The columns that a profile can have: everything that the reports and the payday overview show about a person.
 #pragma once
 
 #include "office/profile/PayTable.h"
@@ -23,7 +23,7 @@ enum class HoursKind : std::uint8_t
 struct PayRowScope
 {
     const PaidPerson& person;
-    std::optional<HoursKind> kind; // none where the row is all of the person's
+    std::optional<HoursKind> kind; // none if the row is about all hours of the person
     const std::string& code;       // of the kind; empty without one
 };
 
@@ -32,10 +32,10 @@ struct PlainFigure
     std::string text; // with a decimal point
 };
 
-// Nothing, a text, a figure, hours, a day.
+// The value of a cell: nothing, a text, a figure, hours, or a day.
 using PayCell = std::variant<std::monostate, std::string, PlainFigure, PaidHours, DateTime>;
 
-// In which rows of a person with one row a kind of hours: what is added up must not stand there twice.
+// In which rows a column stands if a person has one row for each kind of hours. What people add up must not stand there twice.
 enum class StandsIn : std::uint8_t
 {
     EachRow,
@@ -54,10 +54,10 @@ struct ProfileColumn
 
 [[nodiscard]] std::span<const ProfileColumn> ProfileColumns();
 
-// By exactly this name; nullptr without one.
+// The column with exactly this name; nullptr if there is none.
 [[nodiscard]] const ProfileColumn* FindProfileColumn(std::string_view name);
 
-// What stands there in this row, nothing included.
+// The column's value in this row; nothing if it stands in another row. REQUIRES: the person's overview if the column is ofOverview.
 [[nodiscard]] PayCell CellOf(const ProfileColumn& column, const PayRowScope& row);
 
 } // namespace ptk

@@ -19,7 +19,7 @@ namespace {
 constexpr auto kRowEnd = "\r\n";
 constexpr auto kLost = "{} not in Windows 1252: question marks stand there";
 
-// Texts are kept from being taken for formulas, figures never are.
+// Writes the text of a cell. A spreadsheet takes no text of it for a formula; figures are written as they are.
 class CellWriter
 {
 public:
@@ -79,7 +79,7 @@ void AddPerson(const Profile& profile, const PaidPerson& person, std::vector<Tab
     lines.push_back(LineFor(profile, {person, HoursKind::Overtime, profile.overtimeCode}));
 }
 
-// A line of nothing would be passed over.
+// The cells with separators. An empty line gets quotation marks, because readers skip empty lines.
 std::string Joined(const TableLine& line, char separator)
 {
     std::string text;

@@ -91,7 +91,7 @@ Profile ReadProfile(const std::string& name, std::string_view text)
         }
     }
     if (std::string fault = FaultOf(profile); !fault.empty()) {
-        fault.pop_back(); // it ends in a full stop
+        fault.pop_back(); // the full stop
         throw Failure(0, "PTK", fault);
     }
     return profile;

@@ -1,4 +1,4 @@
-// A profile as the database keeps it; docs/profile-format.md describes it.
+// A profile as the text that the database keeps; docs/profile-format.md describes it.
 #pragma once
 
 #include "office/profile/Profile.h"
@@ -8,11 +8,11 @@
 
 namespace ptk {
 
-// Without its name.
+// The profile's text, without its name.
 [[nodiscard]] std::string ProfileText(const Profile& profile);
 
-// Raises a failure without a number that says in words why it cannot be read: what is not known may be a later version's, and a table that
-// leaves it aside would not be the one that was meant.
+// The profile with this name and text. Raises a failure without a number that says why the text cannot be read. Nothing unknown is skipped:
+// it may come from a later version, and a table without it would not be the one that was wanted.
 [[nodiscard]] Profile ReadProfile(const std::string& name, std::string_view text);
 
 } // namespace ptk

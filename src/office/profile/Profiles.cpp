@@ -70,7 +70,7 @@ std::string DescribeProfile(const KnownProfile& known)
 void SaveProfile(const std::shared_ptr<CJetDB>& database, const Profile& profile, const KnownProfile* replaced)
 {
     if (std::string fault = FaultOf(profile); !fault.empty()) {
-        fault.pop_back(); // it ends in a full stop
+        fault.pop_back(); // the full stop
         throw Failure(0, "PTK", fault);
     }
     const StoredProfile asRead = replaced == nullptr ? StoredProfile() : replaced->stored;
