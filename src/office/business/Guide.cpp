@@ -26,7 +26,7 @@ std::string BytesOf(const fs::path& path)
     return bytes;
 }
 
-// FNV-1a: it tells a text that somebody edited, and need not withstand anybody.
+// FNV-1a. It shows whether somebody edited the text; it does not have to resist anybody.
 std::string MarkOf(const std::string& bytes)
 {
     std::uint64_t hash = 14695981039346656037U;

@@ -6,15 +6,15 @@
 
 namespace ptk {
 
-// Below the program folder.
+// Paths below the program folder.
 inline constexpr const char* kGuideDocument = R"(\documentation\PTKAdminUserGuide.doc)";
 inline constexpr const char* kGuidePage = R"(\documentation\PTKAdminUserGuide.html)";
 
-inline constexpr const char* kInstalledGuide = "doc/ptk-admin"; // the folder of the package's own, for InstalledFile
+inline constexpr const char* kInstalledGuide = "doc/ptk-admin"; // the package's own folder of guides, for InstalledFile
 
-// Brings both forms along from the installed package, where the folder lacks one or still has what an earlier package brought. A form that
-// somebody changed stays, which a hidden file beside it tells. Nothing where no package is installed. Raises what reading and writing files
-// raises. REQUIRES: the folder has its folder for documentation.
+// Copies both forms from the installed package, if the folder lacks one or still has the one of an earlier package. A form that somebody
+// changed stays; a hidden file beside it tells whether it was changed. Does nothing if no package is installed. Raises what reading and
+// writing files raises. REQUIRES: the program folder has its folder for documentation.
 void RenewGuide(const std::string& programFolder, const std::filesystem::path& installed);
 
 } // namespace ptk

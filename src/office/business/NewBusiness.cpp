@@ -25,9 +25,9 @@ namespace fs = std::filesystem;
 constexpr const char* kConfiguration = "[PTK]\r\nDatabasePath=<app.path>\\system\\ptk_11.mdb\r\nShowLoginHelp={}\r\n";
 constexpr const char* kDatabase = "/system/ptk_11.mdb";
 
-constexpr std::int32_t kFirstNumber = 1; // of employees
+constexpr std::int32_t kFirstNumber = 1; // employee number of the first employee
 
-// A folder beside the new one, hidden until it is whole; gone with its owner unless it took the new one's name.
+// A hidden folder beside the new one. Place gives it the new folder's name; without that it is removed in the end.
 class FolderDraft
 {
 public:
@@ -37,7 +37,7 @@ public:
             throw FileDraft::AlreadyThere(folder);
         }
         const fs::path parent = fs::path(folder).parent_path();
-        std::error_code ignored; // the next step tells it
+        std::error_code ignored; // the next step tells of a failure
         fs::create_directories(parent, ignored);
         m_path = (parent / ("." + fs::path(folder).filename().string() + ".new")).string();
         fs::remove_all(m_path, ignored); // what a killed program left

@@ -11,7 +11,7 @@ namespace ptk {
 
 class BulkWriter;
 
-// How somebody's days look.
+// The shape of somebody's working days.
 enum class WorkPattern
 {
     Office,
@@ -30,19 +30,19 @@ struct SampleEmployee
     bool clockedIn = false; // has an open record today
 };
 
-// `today` is midnight of the sample's last day. The same `today` gives the same business. Raise Failure 5 or 6 when its dates leave the
-// calendar.
+// The companies and the employees of the sample. `today` is midnight of its last day; the same `today` gives the same business. Raise
+// Failure 5 or 6 when its dates leave the calendar.
 [[nodiscard]] std::vector<CompanyRow> SampleCompanies();
 [[nodiscard]] std::vector<SampleEmployee> SampleEmployees(DateTime today);
 
-// In order of their start: finished shifts up to yesterday, or to the release, and the open record of today.
+// The employee's shifts in order of their start: finished ones up to yesterday, or up to the release, and the open record of today.
 [[nodiscard]] std::vector<TimeRecordRow> SampleShifts(const SampleEmployee& employee, std::int32_t employeeID, DateTime today);
 
-// Puts into the shifts of some employees what goes wrong in every business: of each kind that the check of a card finds at least one, so
-// far as shifts can show it, nearly all in the week before today. REQUIRES: the shifts are those that SampleShifts answers.
+// Adds mistakes to the shifts of some employees: at least one of each kind that the check of a card finds and that shifts can show, nearly
+// all in the week before today. REQUIRES: the shifts are those that SampleShifts answers.
 void AddIrregularities(const SampleEmployee& employee, std::vector<TimeRecordRow>& shifts, DateTime today);
 
-// All of these.
+// Writes companies, employees, and shifts with their mistakes.
 void AddSampleBusiness(BulkWriter& writer, DateTime today);
 
 } // namespace ptk

@@ -1,4 +1,4 @@
-// The sample's mistakes: what the check of a time card finds, at least one of each kind, in the days before `today`.
+// The sample's mistakes: at least one of each kind that the check of a time card finds and that shifts can show.
 #include "office/business/SampleBusiness.h"
 
 #include <algorithm>
@@ -15,13 +15,13 @@ DateTime DayOf(const TimeRecordRow& shift)
     return DateTime(shift.StartTime.Date());
 }
 
-// The records of one employee, in order of their start until the first mistake.
+// The records of one employee. They are in order of their start until the first mistake is made.
 class Muddle
 {
 public:
     Muddle(std::vector<TimeRecordRow>& shifts, DateTime today) : m_shifts(shifts), m_today(today) {}
 
-    // On a night shift since yesterday: at work, or, later in the day, forgot to clock out.
+    // The employee is on a night shift since yesterday: still at work, or, later in the day, forgot to clock out.
     void StaysOverNight()
     {
         const DateTime yesterday = m_today.AddDays(-1);
@@ -29,7 +29,7 @@ public:
         Add(yesterday.AddMinutes(1318), DateTime());
     }
 
-    // Next morning's punch ended the shift of the day before, and the one at noon began a shift that nobody ended.
+    // The next morning's punch ended the shift of the day before, and the punch at noon began a shift that nobody ended.
     void ForgetsToClockOut()
     {
         const DateTime day = WorkedDay(2);
@@ -40,8 +40,8 @@ public:
         Add(next.AddMinutes(739), DateTime());
     }
 
-    // One day stands twice, once from the terminal and once by hand; one ends in the morning instead of the afternoon; one begins with two
-    // presses of the button.
+    // One day is stored twice, once by the terminal and once by hand. One shift ends in the morning instead of the afternoon. One shift
+    // begins with two presses of the button.
     void TypesWrongly()
     {
         const DateTime twice = WorkedDay(1);
@@ -53,7 +53,8 @@ public:
         Add(twice.AddMinutes(480), twice.AddMinutes(1020));
     }
 
-    // Came for half an hour, less than the automatic deduction; and the terminal's calendar was four weeks ahead.
+    // The employee came for half an hour, less than the automatic deduction. Another punch has a date four weeks ahead, from a wrong
+    // calendar.
     void ComesShortly()
     {
         const DateTime day = WorkedDay(1);
@@ -73,7 +74,7 @@ public:
         typed->EndTime = typed->EndTime.AddDays(kDaysAYear);
     }
 
-    // Left the day before yesterday, came yesterday all the same and pressed twice.
+    // The employee left the day before yesterday, but came yesterday and pressed twice.
     void ComesOnceMore()
     {
         const DateTime yesterday = m_today.AddDays(-1);
@@ -111,7 +112,7 @@ private:
         std::erase_if(m_shifts, [&](const TimeRecordRow& shift) { return DayOf(shift) == day; });
     }
 
-    // The day of work that lies so many before today, counting from 1.
+    // The working day that lies this many working days before today, counted from 1.
     DateTime WorkedDay(int back) const
     {
         DateTime day = m_today;

@@ -10,7 +10,7 @@ namespace {
 constexpr int kDays = 182; // half a year
 constexpr int kLateStart = 480;
 
-// Minutes since midnight of the day on which the shift starts; more than 1440 is the next day.
+// A shift in minutes since midnight of the day on which it starts; more than 1440 is the next day.
 struct Span
 {
     int start;
@@ -21,7 +21,7 @@ struct Plan
 {
     const char* weekdays; // one letter a day from Sunday on: "-" is a day off
     std::vector<Span> spans;
-    int longDayIn; // one day in so many is a long one, with overtime at its end; 0: none is
+    int longDayIn; // one day in this many is long, with overtime at its end; 0: no day is
 };
 
 Plan PlanOf(WorkPattern pattern)
@@ -45,7 +45,7 @@ Plan PlanOf(WorkPattern pattern)
     return {};
 }
 
-// Small numbers that look like chance but come out alike everywhere: the library's distributions do not, so only the plain engine is used.
+// Small numbers that look random but are the same on every system. Distributions of the library are not, so only its plain engine is used.
 class Chance
 {
 public:
@@ -58,7 +58,7 @@ private:
     std::minstd_rand m_engine;
 };
 
-// Nobody comes and goes to the minute, and nobody is back from a break before it began.
+// The times vary by some minutes, but a shift never begins before the one before it ended.
 void AddDay(std::vector<TimeRecordRow>& shifts, const Plan& plan, DateTime day, Chance& chance)
 {
     for (const Span& span : plan.spans) {
@@ -87,7 +87,7 @@ std::vector<TimeRecordRow> SampleShifts(const SampleEmployee& employee, std::int
     }
     if (employee.clockedIn) {
         shifts.emplace_back();
-        shifts.back().StartTime = today.AddMinutes(kLateStart + chance.Between(0, 6)); // within 16 hours of which the day ends
+        shifts.back().StartTime = today.AddMinutes(kLateStart + chance.Between(0, 6)); // so that the day ends within 16 hours of it
     }
     for (TimeRecordRow& shift : shifts) {
         shift.EmployeeID = employeeID;

@@ -13,7 +13,7 @@ struct Person
     std::int32_t number;
     const char* first;
     const char* last;
-    const char* ssn; // 900 and up are never given out
+    const char* ssn; // numbers from 900 on are never given out
     const char* address;
     const char* address2;
     const char* phone;
@@ -29,7 +29,7 @@ struct Person
 constexpr int kReleasedDaysAgo = 61;
 constexpr std::int32_t kReleasedNumber = 106;
 constexpr std::int32_t kClockedInNumber = 204;
-constexpr std::int32_t kLeavingNumber = 107; // still on the list
+constexpr std::int32_t kLeavingNumber = 107; // still active
 constexpr int kLeftDaysAgo = 2;
 
 using enum WorkPattern;

@@ -70,7 +70,7 @@ std::unordered_map<std::string, std::shared_ptr<CEmployee>> ByDisplayName(CEmplo
     byName.reserve(static_cast<std::size_t>(employees.Count()));
     for (std::int32_t i = 1; i <= employees.Count(); ++i) {
         if (const auto employee = employees.Item(i)) {
-            byName.try_emplace(employee->DisplayName(), employee); // of namesakes the first is found
+            byName.try_emplace(employee->DisplayName(), employee); // of people with the same name, the first is found
         }
     }
     return byName;

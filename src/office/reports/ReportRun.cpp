@@ -27,7 +27,7 @@ std::string OutOf(std::int32_t done, std::int32_t wanted)
     return done == wanted ? Reports(done) : fmt::format("{} of {}", done, Reports(wanted));
 }
 
-// A business that gives no numbers has one file for everybody: the line tells a few of them.
+// The replaced files, a few of them: a business without employee numbers has one file for everybody.
 std::string ReplacedText(const std::vector<std::string>& replaced)
 {
     std::string text;

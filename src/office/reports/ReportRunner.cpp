@@ -14,11 +14,11 @@ namespace ptk {
 
 namespace {
 
-// Whose report the files of one run hold.
+// Remembers whose report each file of the run holds.
 class FileOwners
 {
 public:
-    // Answers who had it, by display name; "" when nobody else did.
+    // Notes the new owner of the report's file. Answers the display name of the former one; "" if nobody else had it.
     std::string Take(const Report& report, const CEmployee& employee)
     {
         const auto owner = m_owners.try_emplace(report.ReportPath(), employee).first;
@@ -38,8 +38,8 @@ private:
     std::map<std::string, Owner> m_owners; // by the file's path
 };
 
-// A report and its viewer hold each other until somebody has them both: where what lies before that fails, they go, and the database with
-// them.
+// A report and its viewer hold each other until the client has them. If something fails before, this closes the viewer, so that both are
+// freed, and the database with them.
 class Unclaimed
 {
 public:
@@ -47,7 +47,7 @@ public:
     ~Unclaimed()
     {
         if (m_report != nullptr) {
-            static_cast<void>(Succeeds([this] { m_report->UnloadReportWindow(); })); // the first failure is on its way
+            static_cast<void>(Succeeds([this] { m_report->UnloadReportWindow(); })); // the first failure is already being raised
         }
     }
     Unclaimed(const Unclaimed&) = delete;

@@ -1,4 +1,4 @@
-// Has chosen reports made, one after the other.
+// Makes the chosen reports, one after the other.
 #pragma once
 
 #include "platform/text/Value.h"
@@ -19,34 +19,34 @@ struct ReportOrder
 {
     const ReportEntry& report;
     std::shared_ptr<CJetDB> database;
-    std::shared_ptr<CEmployeeList> employees; // all, among whom the names are looked up
+    std::shared_ptr<CEmployeeList> employees; // all employees, among whom the names are looked up
     std::vector<std::string> names;           // display names: those chosen, or all listed when the report is for everyone
     Value from{};                             // may be a text that is no date, which the report refuses
     Value to{};
 };
 
-// Who has them made: the Reports page, the console.
+// Whoever has reports made: the Reports page or the console.
 class ReportClient
 {
 public:
     virtual ~ReportClient() = default;
     virtual std::shared_ptr<Report> NewReport(const ReportEntry& entry) = 0;
 
-    // Before each employee; false ends the run.
+    // Called before each employee; false ends the run.
     virtual bool GoOn(std::int32_t done) = 0;
 
-    // Once, what the run came to.
+    // Called once, with the result of the run.
     virtual void Say(const std::string& outcome) = 0;
 
-    // With what this one came to.
+    // Called with each report and its result.
     virtual void Made(Report& report, bool complete, const std::string& outcome) = 0;
 
-    // That its file took the place of another one of this run, right after Made; what the run came to tells it, too.
+    // Called right after Made if the report's file replaced another one of this run. The result of the run says that, too.
     virtual void Replaced(const std::string& /*sentence*/) {}
 };
 
-// For each employee a report of their own, or one for all, as its entry says. Of one report it is said what the run came to before its
-// client has it; a report that fails stops no other. Raises what the client raises. REQUIRES: database and employees are not nullptr.
+// Makes a report for each employee, or one for all, as the order's entry says. For one report the client gets the result (Say) before the
+// report (Made). A report that fails stops no other. Raises what the client raises. REQUIRES: database and employees are not nullptr.
 void RunReports(const ReportOrder& order, ReportClient& client);
 
 } // namespace ptk

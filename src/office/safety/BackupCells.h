@@ -9,17 +9,17 @@ namespace ptk {
 
 struct BackupCells
 {
-    std::string made; // "Wed 03/05/2003 05:04 PM", by the name
+    std::string made; // "Wed 03/05/2003 05:04:09 PM", from the name
     std::string size; // "84 KB", "12.3 MB"
     std::string employees;
     std::string records;
-    std::string newestShift; // its day; empty without one
+    std::string newestShift; // day of the newest shift; empty without one
 };
 
-// Without what is in it: that takes a look into the file.
+// The cells for a backup's name and size. Its content is left empty, because that needs a look into the file.
 [[nodiscard]] BackupCells CellsOf(const std::string& name, std::int64_t size);
 
-// REQUIRES: the backup can be read.
+// The cells of a backup with its content. REQUIRES: the backup can be read.
 [[nodiscard]] BackupCells CellsOf(const BackupEntry& entry);
 
 } // namespace ptk

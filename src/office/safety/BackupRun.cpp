@@ -21,12 +21,12 @@ namespace fs = std::filesystem;
 
 constexpr const char* kKey = "BackupFolder";
 constexpr const char* kSection = "[PTK]";
-constexpr const char* kTold = ".second-copy-missing"; // holds the folder that people were told of
+constexpr const char* kTold = ".second-copy-missing"; // holds the folder whose problem was told
 constexpr const char* kNotWhole = "The second folder must be named whole, from its first \"/\" on.";
 constexpr const char* kNotSecond = "The second folder must be another than the one of the backups themselves.";
 constexpr const char* kNotKept = "A folder with a comma, a quotation mark or a line break in its name cannot be remembered.";
 
-// The 1-based position of the line, or 0.
+// The 1-based position of the first line that matches, or 0.
 template <typename Matches>
 std::int16_t FindLineWhere(CFileAdaptor& configuration, Matches matches)
 {
@@ -40,13 +40,13 @@ std::int16_t FindLineWhere(CFileAdaptor& configuration, Matches matches)
 
 bool IsBackupFolder(const std::string& folder, const std::string& programFolder)
 {
-    std::error_code ignored; // of folders that are not there yet the names say it
+    std::error_code ignored; // for folders that do not exist yet the names decide
     const fs::path first = BackupFolder(programFolder);
     const fs::path second = NativePath(folder);
     return fs::equivalent(first, second, ignored) || fs::weakly_canonical(first, ignored) == fs::weakly_canonical(second, ignored);
 }
 
-// False where it was told before: once for a disk that was taken away, not each day that it is.
+// Whether this was not told before: a disk that was taken away is told of once, not every day.
 bool IsNews(const std::string& folder, const std::string& second)
 {
     const std::string told = folder + '/' + kTold;
@@ -67,7 +67,7 @@ void CopyToSecond(const BackupOrder& order, BackupOutcome& outcome)
         return tell(Failure(0, "PTK", "it is the folder of the backups themselves"));
     }
     if (Succeeds([&] { CopyBackup(outcome.path, second); }, tell)) {
-        std::error_code ignored; // then the next problem is not told
+        std::error_code ignored; // if it stays, the next problem is not told
         fs::remove(folder + '/' + kTold, ignored);
     }
 }
@@ -122,7 +122,7 @@ bool BackupIsDue(const std::string& programFolder, DateTime today)
 {
     std::vector<std::string> names;
     static_cast<void>(
-        Succeeds([&] { names = NamesIn(BackupFolder(programFolder)); })); // else it is due, and tells what is wrong with the folder
+        Succeeds([&] { names = NamesIn(BackupFolder(programFolder)); })); // else a backup is due, which tells what is wrong there
     return std::none_of(names.begin(), names.end(), [&](const std::string& name) {
         const auto made = BackupMoment(name);
         return made && DaysBetween(today, *made) == 0;

@@ -1,4 +1,5 @@
-// Making and restoring backups the way the program does it everywhere: into its folder, pruned, with a second copy where one is wanted.
+// Makes and restores backups in the way of the whole program: in the program's folder, with old ones pruned, and with a second copy if one
+// is wanted.
 #pragma once
 
 #include "platform/text/DateTime.h"
@@ -26,30 +27,30 @@ struct BackupOutcome
 {
     std::string path;          // of the new backup
     std::string secondProblem; // why there is no second copy, in words; empty where there is one or none is wanted
-    bool secondIsNews = false; // no backup before told of that folder's problem
+    bool secondIsNews = false; // whether this problem of that folder has not been told before
 };
 
-// The key BackupFolder of the configuration; empty without it.
+// The second folder as the configuration names it, by the key BackupFolder; empty without the key.
 [[nodiscard]] std::string SecondBackupFolder(CFileAdaptor& configuration);
 
-// Without the key where `folder` is empty. REQUIRES: no refusal, see below.
+// Sets the key, or removes it if `folder` is empty. REQUIRES: SecondFolderRefusal is empty.
 void SecondBackupFolder(CFileAdaptor& configuration, const std::string& folder);
 
-// Why the configuration cannot hold this folder, one sentence; empty where it can. Empty is no folder, and fine.
-// The folder of the backups themselves is none.
+// Why this cannot be the second folder, in one sentence; empty if it can. An empty name stands for no second folder and is not refused. The
+// folder of the backups themselves is refused.
 [[nodiscard]] std::string SecondFolderRefusal(const std::string& folder, const std::string& programFolder);
 
-// Raises what store/Backups.h says; a second copy that fails is no failure.
+// Makes a backup and prunes old ones. Raises what store/backup/Backups.h says; a second copy that fails is no failure.
 [[nodiscard]] BackupOutcome MakeBackup(const BackupOrder& order, const CopyProgress& progress = {});
 
-// Whether there is no backup of this day yet, by the names. Those of later days were named by a clock that went wrong.
+// Whether there is no backup of this day yet, by the names. Backups of later days do not count: a wrong clock named them.
 [[nodiscard]] bool BackupIsDue(const std::string& programFolder, DateTime today);
 
-// The number of the newest change in the database's trail; 0 without one. Raises what reading the trail raises.
+// The number of the newest entry in the database's trail; 0 without one. Raises what reading the trail raises.
 [[nodiscard]] std::int64_t NewestChange(const std::shared_ptr<CJetDB>& database);
 
-// Puts `file` in the database's place, see store/Restore.h, and prunes. Answers the path of what was kept of the present database; empty
-// where there was none.
+// Restores `file` as store/backup/Restore.h says, and prunes if the present database was kept. Answers the path of what was kept of the
+// present database; empty if there was none.
 std::string RestoreBackup(const BackupOrder& order, const std::string& file, const Author& author, const CopyProgress& progress = {});
 
 } // namespace ptk
