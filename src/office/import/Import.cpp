@@ -22,7 +22,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::chrono::seconds kLongest(24); // of reading: the rest of 25 is for the writing
+constexpr std::chrono::seconds kLongest(24); // for reading; the rest of the 25 is for writing
 
 constexpr const char* kNotFound = "there is no such file";
 constexpr const char* kNoFile = "it is no file that could be read";
@@ -33,7 +33,7 @@ constexpr const char* kRefusedForDamage =
 
 constexpr const char* kNoAccount = "the account could not be kept: ";
 
-// Undoes what was written of a file that shows damage.
+// Raised to undo what was written of a file that shows damage.
 struct DamageTold
 {
 };
@@ -51,7 +51,7 @@ void RefuseFile(const ImportOrder& order)
     }
 }
 
-// A trial is to end as the import would.
+// Required on trial, too, so that a trial ends as the import would.
 void RequireFolders(const ImportOrder& order)
 {
     std::error_code ignored;
@@ -86,7 +86,7 @@ std::map<std::int32_t, std::string> ReadNames(Engine& engine)
     return names;
 }
 
-// Everything between the opened file and the finished account.
+// Reads the opened file into the database and makes the account.
 class Work
 {
 public:
@@ -97,7 +97,7 @@ public:
     {
     }
 
-    // Also a second time, from the beginning.
+    // Fills the database. May run a second time, which starts from the beginning.
     void Fill(Engine& engine)
     {
         m_account = BeginAccount(m_order, m_catalog, m_sources);
@@ -162,7 +162,7 @@ ImportTarget TargetOf(const ImportOrder& order)
     return {order.database, order.file, order.author, keepCopy};
 }
 
-// False where the file shows damage that nobody accepted.
+// Stores or tries the import. False if the file shows damage that was not accepted.
 bool Writes(const ImportOrder& order, Work& work)
 {
     try {
@@ -182,7 +182,7 @@ ImportOutcome ImportOldDatabase(const ImportOrder& order, const ImportProgress& 
     RequireFolders(order);
     RefuseUnlessEmpty(order.database);
     ImportOutcome outcome;
-    std::optional<FileDraft> draft; // first, so that an import without a place for its account is refused
+    std::optional<FileDraft> draft; // made first, so that an import is refused if its account has no place
     if (!order.trial) {
         outcome.accountFile = AccountPath(order);
         draft.emplace(outcome.accountFile);

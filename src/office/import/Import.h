@@ -1,4 +1,4 @@
-// Bringing an older database along: what is readable of a Jet file into a database that is still empty, all of it or nothing.
+// Imports an older database: takes what is readable of a Jet file into a database that is still empty, all of it or nothing.
 #pragma once
 
 #include "office/import/ImportAccount.h"
@@ -12,15 +12,15 @@
 
 namespace ptk {
 
-// Told how many rows have been read; false ends the import.
+// Called with the number of rows read so far; false ends the import.
 using ImportProgress = std::function<bool(std::int64_t rows)>;
 
 struct ImportOrder
 {
     std::string file;            // the older database; all paths are in the platform's own form
-    std::string database;        // an empty one, or a name that is free
-    std::string programFolder;   // the account goes into its reports
-    std::optional<int> codePage; // overrules that of a Jet 3 file
+    std::string database;        // a database without people's data, or a free name
+    std::string programFolder;   // the account is written into its folder "reports"
+    std::optional<int> codePage; // used instead of the one in a Jet 3 file
     bool trial = false;          // nothing is written
     bool acceptDamaged = false;
     DateTime now;
@@ -30,14 +30,15 @@ struct ImportOrder
 struct ImportOutcome
 {
     ImportAccount account;
-    std::string refusal;     // why nothing was taken although all could be read, one sentence; empty where it was, or would be
-    std::string accountFile; // of an import
-    std::string problem;     // what went wrong after the import was done, its account above all; empty where nothing did
+    std::string refusal;     // why nothing was taken although all could be read, in one sentence; empty if it was, or would be
+    std::string accountFile; // path of the account; of an import only
+    std::string problem;     // what went wrong after the import was stored, such as writing its account; empty if nothing did
 };
 
-// A file with signs of damage is only taken where that is accepted. At most 25 seconds; the file is not changed in any way, nor are its
-// time stamps. Raises, and nothing was changed: failures without a number, one sentence each, for what is not there to be read, is in the
-// way, or took too long; those of opening, making and writing a database; 76 without a folder for the account.
+// Imports, or tries to. A file with signs of damage is only taken if that is accepted. Takes at most 25 seconds. The file is not changed,
+// nor its time stamps, save the last access of a file that is somebody else's. Raises, and then nothing was changed: failures without a
+// number, one sentence each, for a file that is not there, in the way, cannot be read or takes too long; those of opening the file, and of
+// opening, making and writing a database; 53 without the reader program; 76 without a folder for the account or the database.
 [[nodiscard]] ImportOutcome ImportOldDatabase(const ImportOrder& order, const ImportProgress& progress = {});
 
 } // namespace ptk

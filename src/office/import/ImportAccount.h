@@ -1,4 +1,4 @@
-// What an import tells: what was found under which names, what was taken and what was not, and why.
+// The account of an import: what was found under which names, what was taken, what was not, and why.
 #pragma once
 
 #include "store/import/ImportWriter.h"
@@ -25,15 +25,15 @@ struct ImportAccount
 {
     std::string file;
     std::array<TableAccount, kImportTableCount> tables; // by ImportTableId
-    std::vector<std::string> otherTables;               // nothing of which is taken
+    std::vector<std::string> otherTables;               // tables of which nothing is taken
     std::vector<std::string> furtherColumns;
     ImportFigures figures;
-    std::map<std::int32_t, std::string> names; // of employees, by number
+    std::map<std::int32_t, std::string> names; // of employees, by EmployeeID
     std::int64_t bytesBehind = 0;              // behind the file's last page
     std::vector<std::string> signs;            // of damage, a few words each
 };
 
-// One line each, without line ends.
+// The account's lines, without line ends.
 [[nodiscard]] std::vector<std::string> AccountLines(const ImportAccount& account);
 
 } // namespace ptk

@@ -16,7 +16,7 @@ constexpr const char* kImpossibleMoment = "impossible start or end";
 constexpr const char* kDoubledKey = "key that an earlier row has";
 constexpr const char* kFurtherRow = "further row of options";
 
-// Without these a row makes no sense; nullptr for all others.
+// The reason to leave out a row with an impossible value of this kind, without which the row makes no sense; nullptr for other kinds.
 const char* ReasonOf(ImportKind kind)
 {
     if (kind == ImportKind::Key) {
@@ -76,7 +76,7 @@ void ImportFilling::Conclude()
     CountOrphans();
 }
 
-// Why the row is left out; nullptr where it is taken.
+// Stores the row. Answers the reason if it is left out; nullptr if it is taken.
 const char* ImportFilling::Take(ImportTableId id, const OldSource& source, std::span<const OldValue> values)
 {
     const auto columns = ImportTableOf(id).columns;
@@ -118,7 +118,7 @@ void ImportFilling::CountTaken(ImportTableId id)
     }
 }
 
-// What ships with a database and gave way to no row.
+// Counts the rows that ship with a database, unless an imported row took their place.
 void ImportFilling::CountShipped()
 {
     for (std::size_t i = 0; i < kImportTableCount; ++i) {

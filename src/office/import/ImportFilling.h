@@ -1,4 +1,4 @@
-// The rows of an older database on their way into a new one, and into account.
+// Takes the rows of an older database, stores them in the new one, and counts them.
 #pragma once
 
 #include "office/import/ImportAccount.h"
@@ -14,20 +14,21 @@ namespace ptk {
 
 struct ImportedValue;
 
-// Decides for each row whether it is taken, and counts what becomes of it; one pass over a file. All that it is given outlives it.
+// Decides for each row whether it is taken, and counts it, in one pass over a file. REQUIRES: everything passed to it outlives it.
 class ImportFilling final : public OldRowSink
 {
 public:
-    // `rows` counts all that came so far.
+    // `rows` counts all rows that came so far, taken or not.
     ImportFilling(const OldSources& sources, ImportWriter& writer, ImportAccount& account, std::int64_t& rows);
 
-    // What is to be read, the employees before the records that refer to them.
+    // The tables and columns to read, employees before the records that refer to them.
     [[nodiscard]] const std::vector<OldRowsOrder>& Orders() const { return m_orders; }
 
     void TakeRow(std::size_t order, std::span<const OldValue> values) override;
     void EndRows(std::size_t order, const OldRowsEnd& end) override;
 
-    // To be called when all rows are in: the account then has its figures, to be compared with ReadFigures, and its signs of damage.
+    // Completes the account; to be called when all rows are in. The account then has its figures, which ReadFigures must confirm, and its
+    // signs of damage.
     void Conclude();
 
 private:
@@ -41,10 +42,10 @@ private:
     ImportWriter& m_writer;
     ImportAccount& m_account;
     std::int64_t& m_rows;
-    std::vector<ImportTableId> m_ids; // by order, as the two below
+    std::vector<ImportTableId> m_ids; // of each order, as the next two
     std::vector<const OldSource*> m_sources;
     std::vector<OldRowsOrder> m_orders;
-    std::vector<Value> m_values; // of the present row
+    std::vector<Value> m_values; // of the row that is being taken
     std::set<std::int32_t> m_employees;
     std::map<std::string, std::int64_t> m_faults; // by table, column and kind
 };

@@ -36,7 +36,7 @@ std::optional<DateTime> MomentOf(const OldValue& old)
     return seconds ? std::optional(DateTime::FromSeconds(*seconds)) : std::nullopt;
 }
 
-// Nothing, or a failure, where it cannot be.
+// The number; nothing, or a failure, if there is none of this kind.
 Value WholeNumber(const OldValue& old, ImportKind kind)
 {
     if (const auto number = ReadWhole<std::int32_t>(old.text); number && kind != ImportKind::Short) {
@@ -71,7 +71,7 @@ Value Date(const OldValue& old, ImportKind kind)
     return kind == ImportKind::TimeOfDay ? DateTime(CalendarDate{}, moment->Time()) : *moment;
 }
 
-// Null for what can be none of the kind; may raise a failure for that, too.
+// The value; Null if none of the kind can be made of it, for which it may also raise a failure.
 Value Converted(ImportKind kind, const OldValue& old)
 {
     if (kind == ImportKind::Date || kind == ImportKind::Moment || kind == ImportKind::TimeOfDay) {

@@ -1,4 +1,4 @@
-// Values of an older database as this program's columns hold them.
+// Converts values of an older database into those of this program's columns.
 #pragma once
 
 #include "office/import/OldFile.h"
@@ -9,12 +9,12 @@ namespace ptk {
 struct ImportedValue
 {
     Value value;
-    bool impossible = false; // what is stored there can be none of the column's kind; the value is what stands in a row without one
+    bool impossible = false; // no value of the column's kind can be made of it; `value` is then the one for an empty cell
     bool partlyRead = false; // a mark stands for characters that could not be read
 };
 
-// `old`: nullptr where the older table has no such column. Numbers of any width are taken where they fit, fractions rounded half to even
-// where the column holds whole ones, and texts where they read as what the column holds.
+// Converts `old`, nullptr if the older table has no such column. Numbers of any width are taken if they fit. If the column holds whole
+// numbers, fractions are rounded half to even. Texts are taken if they read as what the column holds.
 [[nodiscard]] ImportedValue ImportValue(const ImportColumn& column, const OldValue* old);
 
 } // namespace ptk

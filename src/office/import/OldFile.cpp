@@ -23,7 +23,7 @@ constexpr const char* kNotRun = "the program ptk-jet-reader, which reads older f
 constexpr const char* kGarbled = "the reader of older files gave something that it never should";
 constexpr const char* kNoReader = "the program ptk-jet-reader, which reads older files, is missing; it comes with the package ptk-console";
 
-// By the reader's exit status; see jetreader/Refusal.h.
+// The sentence for each exit status of the reader; see jetreader/Refusal.h.
 struct Reason
 {
     int status;
@@ -38,11 +38,11 @@ constexpr Reason kReasons[] = {
     {127, kNotRun}, // no such program, or one of its libraries is missing
 };
 
-constexpr off_t kVersionAt = 20;  // in the file: 0 for the pages of Jet 3
+constexpr off_t kVersionAt = 20;  // offset in the file; the byte there is 0 for Jet 3
 constexpr off_t kJet3Page = 2048; // bytes
 constexpr off_t kJet4Page = 4096;
 
-// Looking at a file leaves its time of last access alone where it is one's own; nobody else can choose.
+// Reading does not change the time of last access of one's own file. For somebody else's file the system does not allow that choice.
 SystemFile OpenWithoutTrace(const std::string& path)
 {
     try {
@@ -147,7 +147,7 @@ std::string TextAt(Fields fields, std::size_t place)
     return TextOf(FieldAt(fields, place).substr(1));
 }
 
-// Hands over complete lines, cut into fields; the last must be "end".
+// Cuts the reader's output into lines and these into fields, and hands over complete lines. The last line must be "end".
 class LineCutter
 {
 public:
@@ -196,7 +196,7 @@ private:
     bool m_ended = false;
 };
 
-// A sound file is whole pages, but for a few bytes that other programs may have left behind them.
+// Whether the file ends within a page. A sound file is whole pages, except for a few bytes that other programs may have left at its end.
 bool EndsWithinPage(const SystemFile& file)
 {
     struct stat status

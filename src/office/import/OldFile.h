@@ -1,4 +1,4 @@
-// An older database file as its reader, a guarded child, tells of it.
+// Reads an older database file by way of a guarded child, the reader program.
 #pragma once
 
 #include "platform/files/SystemFile.h"
@@ -15,7 +15,7 @@
 
 namespace ptk {
 
-// One value as it is stored; see jetreader/Lines.h.
+// One stored value; see jetreader/Lines.h.
 struct OldValue
 {
     enum class Kind
@@ -24,7 +24,7 @@ struct OldValue
         Impossible,
         Text,
         PartlyReadText, // a mark stands for characters that could not be read
-        Number,         // in decimal digits, which read back to the same stored number
+        Number,         // decimal digits, which read back to the same stored number
         Moment          // in seconds since the zero date-time
     };
 
@@ -45,7 +45,7 @@ struct OldTable
     std::vector<OldColumn> columns;
 };
 
-// What a part of a stored query names.
+// The names in one part of a stored query.
 struct OldQueryPart
 {
     std::string query;
@@ -57,13 +57,13 @@ struct OldQueryPart
 
 struct OldCatalog
 {
-    std::int64_t bytesBehind = 0; // that make up no page
-    std::vector<OldTable> tables; // of people, not of the file's own
+    std::int64_t bytesBehind = 0; // bytes at the end that make up no page
+    std::vector<OldTable> tables; // people's tables, without those of the file format
     std::vector<OldQueryPart> queryParts;
     std::vector<std::string> broken; // tables that cannot be read
 };
 
-// Which columns of which table are wanted, by their place in the catalog.
+// The wanted columns of a table, as indexes in the catalog.
 struct OldRowsOrder
 {
     std::uint32_t table = 0;
@@ -73,34 +73,34 @@ struct OldRowsOrder
 struct OldRowsEnd
 {
     std::int64_t read = 0;
-    std::int64_t counted = 0; // as the table itself says; 0 tells nothing
+    std::int64_t counted = 0; // by the table itself; 0 if it does not say
 };
 
-// Takes the rows of each table as they come.
+// Takes the rows of each table as they are read.
 class OldRowSink
 {
 public:
     virtual ~OldRowSink() = default;
 
-    // Of the order of this number, counted from 0; valid until it returns.
+    // Takes a row of the order with this index, counted from 0. The values are valid until it returns.
     virtual void TakeRow(std::size_t order, std::span<const OldValue> values) = 0;
     virtual void EndRows(std::size_t order, const OldRowsEnd& end) = 0;
 };
 
-// Failures have no number and one sentence: that the file cannot be read and why, or what OpenRegularFile says. Whatever was read before
-// a failure counts for nothing.
+// An older database file. Its failures have no number and say in one sentence why the file cannot be read, but for 53 without the reader
+// program and those of OpenRegularFile. What was read before a failure must not be used.
 class OldFile
 {
 public:
-    // Opened for reading only, without leaving any trace on it. All reading together must be done by the deadline. `codePage` overrules
-    // that of a Jet 3 file; `goesOn` may end the reading.
+    // Opens the file for reading only; its time of last access changes only if it is somebody else's. All reading together must end by the
+    // deadline. `codePage` is used instead of that of a Jet 3 file; `goesOn` may end the reading.
     OldFile(const std::string& path, std::optional<int> codePage, std::chrono::steady_clock::time_point deadline,
             std::function<bool()> goesOn);
 
     [[nodiscard]] OldCatalog ReadCatalog();
     void ReadRows(std::span<const OldRowsOrder> orders, OldRowSink& sink);
 
-    // That the reader had to make so far.
+    // The number of warnings that the reader gave so far.
     [[nodiscard]] std::int64_t Complaints() const { return m_complaints; }
 
 private:

@@ -14,7 +14,7 @@ constexpr const char* kUrl = "URL";
 constexpr std::size_t kMostEmployeeColumns = 18; // of 22
 constexpr std::size_t kMostCompanyColumns = 8;   // of 10, the web address aside
 
-// In the parts of stored queries.
+// Attributes of the parts of stored queries.
 constexpr std::int64_t kTablePart = 5;
 constexpr std::int64_t kColumnPart = 6;
 
@@ -30,7 +30,7 @@ std::optional<std::size_t> FindColumn(const OldTable& table, std::string_view na
     return found == table.columns.end() ? std::nullopt : std::optional<std::size_t>(found - table.columns.begin());
 }
 
-// How many of the program's columns it has, the web address aside.
+// How many of the program's columns the table has, without the web address.
 std::size_t KnownColumns(const OldTable& table, ImportTableId id)
 {
     const auto columns = ImportTableOf(id).columns;
@@ -62,7 +62,7 @@ bool IsCompanyTable(const OldTable& table)
 
 using Candidates = std::vector<const OldTable*>;
 
-// Backup copies of a table look like it; the listing query names the one that is in use.
+// The table that the query for lists names: the one in use. Backup copies of a table have the same columns.
 const OldTable& ChosenBy(const OldCatalog& catalog, const char* query, const Candidates& candidates, const char* what)
 {
     for (const OldQueryPart& part : catalog.queryParts) {
@@ -93,7 +93,7 @@ const OldTable& FindByColumns(const OldCatalog& catalog, bool (*fits)(const OldT
     return candidates.size() == 1 ? *candidates.front() : ChosenBy(catalog, query, candidates, what);
 }
 
-// nullptr where there is none.
+// The table of this name; nullptr if there is none.
 const OldTable* FindByName(const OldCatalog& catalog, std::string_view name)
 {
     const auto found =
@@ -106,8 +106,7 @@ bool HoldsText(const OldColumn& column)
     return column.type == "text" || column.type == "memo";
 }
 
-// The web address goes by many names: it is what the query that adds companies fills with it, else the only text column without another
-// use.
+// The web address has many names. It is the column that the query for new companies fills with it, or else the only unused text column.
 std::optional<std::size_t> FindWebAddress(const OldCatalog& catalog, const OldTable& table)
 {
     if (const auto named = FindColumn(table, kUrl)) {

@@ -22,7 +22,7 @@ struct DatedTable
 };
 constexpr DatedTable kTables[] = {{"TimeRecord", "StartTime"}, {"_Payday", "ToDay"}, {"_Change", "ChangedAt"}, {"Employee", "ReleaseDate"}};
 
-// A date as text begins with its year, on a file and on a server.
+// Counts by the first four characters, because on a file and on a server a date as text begins with its year.
 constexpr auto kByYear = "SELECT SUBSTR(CAST({1} AS TEXT), 1, 4), COUNT(*) FROM {0} WHERE {1} <> :none AND {1} < :before "
                          "GROUP BY SUBSTR(CAST({1} AS TEXT), 1, 4) ORDER BY 1";
 

@@ -1,4 +1,4 @@
-// What is older than so many years, in numbers: whether and when any of it is removed is for its owner to say.
+// Counts what is older than a number of years; its owner decides whether and when to remove it.
 #pragma once
 
 #include "platform/text/DateTime.h"
@@ -25,12 +25,13 @@ struct KeptAccount
     std::vector<KeptRows> rows;
 };
 
-// Rows that are dated before the day `years` years before today: time records by their start, closings by the last day of their period,
-// changes of the history by their moment, and employees by the day of their release; tables in this order, years in theirs. What has no
-// date that can be read is not among them. Raises what opening and reading the database raises. REQUIRES: 0 <= years <= 1000.
+// Counts rows dated before the day `years` years before today: time records by their start, closings by the last day of their period,
+// changes of the history by their moment, and employees by the day of their release. Tables come in this order, the years of each in
+// ascending order. Rows without a readable date are not counted. Raises what opening and reading the database raises. REQUIRES: 0 <= years
+// <= 1000.
 [[nodiscard]] KeptAccount ReadKept(const std::shared_ptr<CJetDB>& database, std::int32_t years, DateTime today);
 
-// One line each, without line ends: the day, then for each table and year how many.
+// The account's lines, without line ends: the day, then the number of rows for each table and year.
 [[nodiscard]] std::vector<std::string> KeptLines(const KeptAccount& account);
 
 } // namespace ptk

@@ -111,7 +111,7 @@ PersonData ReadPerson(const std::shared_ptr<CJetDB>& database, std::int32_t empl
         if (person.employee == nullptr) {
             throw Failure(timecard::NoEmployee, "PTK", kNoSuchPerson);
         }
-        RequireOpen(*database); // the list has closed it, if only to the eye
+        RequireOpen(*database); // the list has closed it, at least for its callers
         person.company = CompanyOf(*database, *person.employee);
         person.punches = ReadPunchesOf(*database, employeeID);
         person.paid = ReadClosingsOf(database, employeeID);

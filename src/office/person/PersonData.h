@@ -1,5 +1,5 @@
-// All that is kept about one person, for whoever asks what that is: nobody else's name is in it, but for who changed something, and never a
-// password.
+// All that is kept about one person, for anyone who asks. It has no other person's name in it, except of those who changed something, and
+// never a password.
 #pragma once
 
 #include "model/payday/Closing.h"
@@ -21,17 +21,17 @@ class CJetDB;
 struct PersonPunch
 {
     std::int64_t id = 0;
-    std::optional<DateTime> start; // none where it cannot be read, as the end
-    std::optional<DateTime> end;   // none, too, where it is not set
+    std::optional<DateTime> start; // none if it cannot be read
+    std::optional<DateTime> end;   // none if it cannot be read or is not set
 
-    // Whole minutes; nothing where one of the two is missing or the end is before the start.
+    // Whole minutes; nothing if a time is missing or the end is before the start.
     [[nodiscard]] std::optional<std::int64_t> Minutes() const;
 };
 
 struct PersonFile
 {
     const char* kind = ""; // "report", "backup" or "copy of a backup"
-    std::string path;      // below the program folder, or whole
+    std::string path;      // below the program folder; of a copy the whole path
 };
 
 struct PersonData
@@ -45,17 +45,18 @@ struct PersonData
     std::vector<PersonFile> elsewhere;
 };
 
-// The employee of that display name, and of that number where one is given. Raises 602 where there is none, and a failure without a number
-// that names the numbers of several.
+// The employee with this display name and, if one is given, this employee number. Raises 602 if there is none, and a failure without a
+// number that lists the employee numbers if there are several.
 [[nodiscard]] std::shared_ptr<CEmployee> FindPerson(const std::shared_ptr<CJetDB>& database, const std::string& name,
                                                     std::optional<std::int32_t> number);
 
-// All of one moment, files aside. Raises what reading the database and the folders raises, and 602 where there is no such employee.
-// REQUIRES: database is not nullptr.
+// Reads everything about the employee, all at one moment except the files. Raises what reading the database and the folders raises, and 602
+// if there is no such employee. REQUIRES: database is not nullptr.
 [[nodiscard]] PersonData ReadPerson(const std::shared_ptr<CJetDB>& database, std::int32_t employeeID, const PersonPlaces& places,
                                     DateTime now);
 
-// As docs/person-format.md describes them, with CR LF; pages raise what making them raises. REQUIRES: Json or Pdf.
+// The data in one of the forms that docs/person-format.md describes, with CR LF. Pages raise what making them raises. REQUIRES: Json or
+// Pdf.
 [[nodiscard]] std::string PersonIn(ReportForm form, const PersonData& person);
 
 } // namespace ptk

@@ -20,7 +20,7 @@ constexpr auto kCopy = "copy of a backup";
 constexpr auto kReports = "reports";
 constexpr auto kBackups = "backups";
 
-// In the order of their names; none without the folder.
+// The regular files of the folder, in the order of their names; none without the folder.
 std::vector<std::string> FilesIn(const std::filesystem::path& folder)
 {
     std::vector<std::string> names = NamesIn(folder.string());
@@ -32,7 +32,7 @@ std::vector<std::string> FilesIn(const std::filesystem::path& folder)
     return names;
 }
 
-// Reports of one person begin with the employee number: "7_2003-03-01_time_card.txt".
+// The employee number with which reports of one person begin: "7_2003-03-01_time_card.txt". Empty for other names.
 std::string NumberOf(const std::string& file)
 {
     const std::size_t end = file.find('_');
@@ -40,7 +40,7 @@ std::string NumberOf(const std::string& file)
     return std::all_of(number.begin(), number.end(), IsDigit) ? number : std::string();
 }
 
-// By its name another person's alone.
+// Whether the file, by its name, is about another person only.
 bool IsOfAnother(const std::string& file, CEmployeeList& employees, const CEmployee& person)
 {
     const std::string number = NumberOf(file);

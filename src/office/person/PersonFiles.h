@@ -7,8 +7,8 @@ namespace ptk {
 
 class CEmployeeList;
 
-// The reports of this person and those of several people, the backups and their copies; not what by its name is another person's. Raises 70
-// and the like of a folder that cannot be read; none is no failure.
+// The reports of this person and those of several people, the backups and their copies. Files that belong to another person by their name
+// are left out. Raises 70 and the like for a folder that cannot be read; a missing folder is no failure.
 [[nodiscard]] std::vector<PersonFile> FilesElsewhere(const PersonPlaces& places, CEmployeeList& employees, const CEmployee& person);
 
 } // namespace ptk

@@ -31,7 +31,7 @@ constexpr auto kStillOpen = "open";
 constexpr auto kIndent = "    ";
 constexpr int kNoYear = 0;
 
-// Behind those of the employee records.
+// The columns behind those of the employee records.
 constexpr ReportColumn kFurther[] = {{"ID", CellType::WholeNumber},           {"Name", CellType::Text},
                                      {"Company ID", CellType::WholeNumber},   {"Company", CellType::Text},
                                      {"Auto Deduct", CellType::Boolean},      {"Lunch Minutes", CellType::WholeNumber},
@@ -42,7 +42,7 @@ std::span<const ReportColumn> PersonColumns()
     static const std::vector<ReportColumn> columns = [] {
         std::vector<ReportColumn> all(EmployeeRecordColumns().begin(), EmployeeRecordColumns().end());
         all.insert(all.end(), std::begin(kFurther), std::end(kFurther));
-        all.front().name = "Number"; // as all that tells of people calls it
+        all.front().name = "Number"; // the name that all data about people use for it
         return all;
     }();
     return columns;
@@ -63,7 +63,7 @@ ReportRow PersonRow(const PersonData& person)
     return row;
 }
 
-// Others are told by their numbers.
+// Answers only this person's name, so that others appear by their EmployeeIDs.
 NameOfEmployee OnlyThisName(const PersonData& person)
 {
     return [&employee = *person.employee](std::int64_t id) { return id == employee.EmployeeID() ? employee.DisplayName() : std::string(); };
@@ -133,7 +133,7 @@ public:
     [[nodiscard]] const ReportDocument& Document() const { return m_document; }
 
 private:
-    // A title stays with its first line; a page may end behind each other one.
+    // Adds a section. Its title stays on one page with its first line; a page may end behind every other line.
     void AddLines(const std::string& title, std::vector<std::string> lines)
     {
         lines.resize(std::max<std::size_t>(lines.size(), 1), kNothing);
@@ -169,7 +169,7 @@ private:
 
     static std::string HoursOf(std::int64_t minutes) { return fmt::format("{}:{:02}", minutes / 60, minutes % 60); }
 
-    // Those without a readable start come first or last, wherever the database sorts them.
+    // Adds the records of each year. Those without a readable start come first or last, wherever the database sorts them.
     void AddPunches()
     {
         for (auto at = m_person.punches.begin(); at != m_person.punches.end();) {

@@ -1,4 +1,4 @@
-// The folders beside the database in which something about a person may lie.
+// The folders beside the database that may hold something about a person.
 #pragma once
 
 #include <string>

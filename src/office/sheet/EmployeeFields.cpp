@@ -56,7 +56,7 @@ CellType TypeOf(EmployeeField field)
     RefuseField(heading, cell.empty() ? kEmptyField : fmt::format(fmt::runtime(reason), ShownCell(cell)));
 }
 
-// C0, delete and C1.
+// Whether it is a control character: C0, delete or C1.
 bool IsControl(char32_t character)
 {
     return character < 0x20 || (character >= 0x7F && character < 0xA0);
@@ -105,7 +105,7 @@ Value ReadDayField(std::string_view cell, const std::string& heading)
         return {};
     }
     const auto day = ReadSheetDay(cell);
-    if (!day || day->IsZero()) { // the zero date stands for none
+    if (!day || day->IsZero()) { // the zero date stands for no day
         RefuseField(heading, kNoFieldDay, cell);
     }
     return *day;
@@ -152,7 +152,7 @@ std::optional<std::vector<EmployeeField>> ReadEmployeeFields(std::string_view te
     for (;;) {
         const std::size_t comma = text.find(',');
         const auto field = FindEmployeeField(NormalizedWord(text.substr(0, comma)));
-        if (!field || *field == EmployeeField::Number) { // by that one people are known
+        if (!field || *field == EmployeeField::Number) { // by the number people are recognized
             return std::nullopt;
         }
         fields.push_back(*field);
@@ -168,7 +168,7 @@ std::string PrintedField(EmployeeField field, const Value& value)
     return CellText(TypeOf(field), value);
 }
 
-// Both as CSV has them, so that a formula's mark and bytes that are no text make no difference.
+// Compares both in their CSV form, in which the mark before a formula, and bytes that are no text, make no difference.
 bool IsPrintedAs(EmployeeField field, const Value& value, std::string_view cell)
 {
     return CsvText(Trimmed(PrintedField(field, value))) == CsvText(cell);

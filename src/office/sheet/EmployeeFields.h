@@ -1,4 +1,4 @@
-// What a file of employees holds of each: the columns of the employee records, as texts of the file and as values.
+// The fields of an employee in a file of employees, which are the columns of the employee records: how they are named, read and printed.
 #pragma once
 
 #include "platform/text/Value.h"
@@ -35,27 +35,28 @@ enum class EmployeeField : std::uint8_t
 };
 inline constexpr std::size_t kEmployeeFieldCount = 16;
 
-// "Employee Number".
+// The field's heading in the employee records: "Employee Number".
 [[nodiscard]] std::string HeadingOf(EmployeeField field);
 
-// Of the table Employee, by EmployeeField.
+// The columns of the table Employee, by EmployeeField.
 [[nodiscard]] std::span<const char* const> StoredEmployeeColumns();
 
-// By its heading, normalized; the number also by "number", the social security number by "ssn".
+// The field with this normalized heading. The employee number is also "number", the social security number also "ssn".
 [[nodiscard]] std::optional<EmployeeField> FindEmployeeField(std::string_view normalized);
 
-// FIELD,...: headings of what can be changed of somebody who is known, in any letter case, blanks aside. Nothing for what is no such text.
+// Reads FIELD,...: the headings of fields that can be changed of a known employee, in any letter case, with or without blanks. Nothing if
+// the text is not of this form.
 [[nodiscard]] std::optional<std::vector<EmployeeField>> ReadEmployeeFields(std::string_view text);
 
-// As the employee records print it.
+// The field's text, as the employee records print it.
 [[nodiscard]] std::string PrintedField(EmployeeField field, const Value& value);
 
-// Whether a cell holds what the employee records as CSV would hold, outer blanks aside.
+// Whether the cell holds what the employee records as CSV would hold, apart from blanks around it.
 [[nodiscard]] bool IsPrintedAs(EmployeeField field, const Value& value, std::string_view cell);
 
-// What the cell means; an empty one is an empty text, no day, or no rate. Throws LineRefused, the heading before the reason, for what is no
-// number, rate or day, neither true nor false, and for texts with control characters or of more than 255 characters. `cell` has no blanks
-// around it.
+// The cell's value; an empty cell is an empty text, no day, or no rate. Throws LineRefused, the heading before the reason, for what is no
+// number, rate or day, neither true nor false, and for texts with control characters or more than 255 characters. REQUIRES: no blanks
+// around `cell`.
 [[nodiscard]] Value ReadField(EmployeeField field, std::string_view cell, const std::string& heading);
 
 } // namespace ptk

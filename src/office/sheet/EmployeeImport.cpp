@@ -27,11 +27,11 @@ constexpr auto kLeftAside = "Columns left aside: {}";
 constexpr auto kTaken = "Employee {}, {}: \"{}\" becomes \"{}\"";
 constexpr auto kLeft = "Employee {}, {}: \"{}\" stays, the file has \"{}\"";
 
-// A statement that grows with its values, which never stand in its text.
+// Collects the values of a statement, which never stand in its text.
 class ValuesSql
 {
 public:
-    // A day that is not known is stored as the zero date.
+    // Adds a value and answers its parameter. A day that is not known is stored as the zero date.
     std::string Add(Value value)
     {
         m_values.push_back(value.IsNull() ? Value(DateTime()) : std::move(value));
@@ -65,7 +65,8 @@ void AddSome(Engine& engine, std::span<const EmployeeValues> added)
     sql.Run(engine, fmt::format(kAddEmployees, Joined(StoredEmployeeColumns(), ", "), Joined(rows, ", ")));
 }
 
-// "Phone = CASE EmployeeID WHEN 41 THEN :v0 ELSE Phone END"; empty where nobody's is changed.
+// The part of the statement that changes one field: "Phone = CASE EmployeeID WHEN 41 THEN :v0 ELSE Phone END"; empty if it changes for
+// nobody.
 std::string Assignment(EmployeeField field, std::span<const EmployeeChange> changed, ValuesSql& sql)
 {
     std::string cases;
@@ -78,7 +79,7 @@ std::string Assignment(EmployeeField field, std::span<const EmployeeChange> chan
     return cases.empty() ? "" : fmt::format("{0} = CASE EmployeeID{1} ELSE {0} END", column, cases);
 }
 
-// One statement for many people, each with fields of their own.
+// Changes many people by one statement, each in different fields.
 void ChangeSome(Engine& engine, std::span<const EmployeeChange> changed)
 {
     ValuesSql sql;
@@ -102,7 +103,7 @@ void InPortions(std::span<const Row> rows, const GoesOn& goesOn, const std::func
     }
 }
 
-// Nobody else stores an employee between the last look and the writing.
+// Keeps others from storing an employee between the comparison and the writing.
 void LockEmployees(Engine& engine)
 {
     if (const std::string lock = Said(engine.Words().lockTable, "Employee"); !lock.empty()) {
@@ -121,7 +122,7 @@ bool AreToBeStored(const EmployeeAccount& account, const EmployeeOrder& order)
     return !order.trial && !account.IsRefused() && account.HasNews();
 }
 
-// Looks once more in the same transaction, since another desk may have stored something meanwhile.
+// Compares once more in the transaction that stores, because another desk may have stored something meanwhile.
 EmployeeAccount JudgeAndStoreEmployees(CJetDB& database, const std::string& text, const EmployeeOrder& order, const GoesOn& goesOn)
 {
     EmployeeAccount account;

@@ -34,7 +34,7 @@ constexpr auto kOtherLine = "{} has other fields on line {}";
 constexpr auto kMissing = "empty";
 constexpr auto kOfAdministrator = "the administrator may not be changed";
 
-// What a file has no columns for is not looked at.
+// Columns that a file of employees does not have get constants, because nobody looks at them.
 std::string LookedAtColumns()
 {
     std::vector<std::string> columns;
@@ -66,7 +66,7 @@ Value& At(EmployeeValues& values, EmployeeField field)
     return values[static_cast<std::size_t>(field)];
 }
 
-// Of somebody who is new, before anything of the file is known.
+// The values of a new employee before those of the file are set.
 EmployeeValues NewEmployee()
 {
     EmployeeValues values;
@@ -101,7 +101,7 @@ FieldPlaces PlaceFields(const SheetHeadings& headings, std::vector<std::string>&
     return places;
 }
 
-// Judges line by line.
+// Compares a file with the stored employees, line by line.
 class EmployeeJudge
 {
 public:
@@ -111,7 +111,7 @@ public:
     {
     }
 
-    // Raises a failure without a number.
+    // Raises a failure without a number if the file lacks the field.
     void RequireField(EmployeeField field) const
     {
         if (!PlaceAt(field)) {
@@ -150,7 +150,7 @@ private:
 
     [[nodiscard]] Value Read(EmployeeField field) const { return ReadField(field, Cell(field), NameOf(field)); }
 
-    // As the file has it, where it does.
+    // The field's heading in the file; our own if the file lacks it.
     [[nodiscard]] std::string NameOf(EmployeeField field) const
     {
         return PlaceAt(field) ? m_headings.At(*PlaceAt(field)) : HeadingOf(field);
@@ -161,7 +161,7 @@ private:
         throw LineRefused{fmt::format("{}: {}", NameOf(field), reason)};
     }
 
-    // As the Employees page refuses somebody without a name or a social security number.
+    // Refuses a line without a last name or a social security number, as the Employees page does.
     void RequireWhole(EmployeeValues& values) const
     {
         for (const EmployeeField field : {EmployeeField::LastName, EmployeeField::Ssn}) {
@@ -189,7 +189,7 @@ private:
         std::string fields;
     };
 
-    // Of a line whose number stood before.
+    // Refuses a line whose employee number stood on an earlier line with other fields.
     void RequireSame(const Said& said) const
     {
         if (said.fields != AllFields()) {
@@ -197,7 +197,7 @@ private:
         }
     }
 
-    // But the number, which may be written in several ways.
+    // All fields of the line except the number, which may be written in several ways.
     [[nodiscard]] std::string AllFields() const
     {
         std::string fields;
@@ -275,10 +275,10 @@ private:
 
     const SheetHeadings& m_headings;
     FieldPlaces m_places;
-    std::unordered_multimap<std::int32_t, CEmployee> m_known; // by their numbers
+    std::unordered_multimap<std::int32_t, CEmployee> m_known; // by employee number
     const TakesDifference& m_takes;
     EmployeeLines& m_read;
-    std::unordered_map<std::int32_t, Said> m_said; // by their numbers, in the file
+    std::unordered_map<std::int32_t, Said> m_said; // earlier lines, by employee number
     std::span<const std::string> m_cells;          // of the line that is being read
 };
 

@@ -1,4 +1,4 @@
-// The lines of a file of employees, compared with the employees that there are.
+// Reads the lines of a file of employees and compares them with the stored employees.
 #pragma once
 
 #include "office/sheet/EmployeeFields.h"
@@ -17,7 +17,7 @@ namespace ptk {
 
 using EmployeeValues = std::array<Value, kEmployeeFieldCount>; // by EmployeeField
 
-// A field of a known employee that the file has otherwise. Texts are as the employee records print them.
+// A field that a known employee and the file have differently. The texts are as the employee records print them.
 struct EmployeeDifference
 {
     std::int32_t employee = 0; // EmployeeID
@@ -31,7 +31,7 @@ struct EmployeeDifference
     bool operator==(const EmployeeDifference&) const = default;
 };
 
-// Which differences are taken.
+// Answers which differences are stored.
 using TakesDifference = std::function<bool(const EmployeeDifference&)>;
 
 struct EmployeeChange
@@ -43,16 +43,17 @@ struct EmployeeChange
 struct EmployeeLines
 {
     std::int64_t lines = 0;                      // without the heading and blank ones
-    std::int64_t there = 0;                      // known, and nothing of them is changed; or the same line again
+    std::int64_t there = 0;                      // lines of known employees who are not changed, and repeated lines
     std::vector<EmployeeValues> added;           // in the order of the file
     std::vector<EmployeeChange> changed;         // in the order of the file
-    std::vector<EmployeeDifference> differences; // also those that are left
+    std::vector<EmployeeDifference> differences; // also those that are not stored
     std::vector<RefusedLine> refused;            // in the order of the file
-    std::vector<std::string> leftAside;          // headings that mean nothing here, the first of them
+    std::vector<std::string> leftAside;          // headings without a meaning here, at most fifty
 };
 
-// `text` as ReadSheet answers it. Raises a failure without a number for a file that is refused as a whole, one sentence: a heading that
-// stands twice, none for the employee number, none for one of `wanted`; and what reading the database raises.
+// Reads and compares the lines; `text` is an answer of ReadSheet. Raises a failure without a number, one sentence, for a file that is
+// refused as a whole, because a heading stands twice or the one for the employee number or one of `wanted` is missing; and what reading the
+// database raises.
 [[nodiscard]] EmployeeLines ReadEmployeeLines(std::string_view text, const PrepareStatement& prepare,
                                               const std::vector<EmployeeField>& wanted, const TakesDifference& takes,
                                               const GoesOn& goesOn = {});

@@ -24,7 +24,7 @@ public:
     {
     }
 
-    // All of one person, by their times.
+    // Pairs all events of one person. REQUIRES: they are in the order of their times.
     void Pair(std::span<const PunchEvent> events)
     {
         while (!events.empty()) {
@@ -33,7 +33,7 @@ public:
     }
 
 private:
-    // How many events it used up.
+    // Pairs or refuses the first events. Answers how many.
     std::size_t TakeFirst(std::span<const PunchEvent> events)
     {
         if (events.front().direction == Direction::Out) {

@@ -1,4 +1,4 @@
-// Comings and goings, paired by person and time.
+// Pairs clock-ins and clock-outs by person and time.
 #pragma once
 
 #include "office/sheet/PunchLines.h"
@@ -13,16 +13,16 @@ struct PunchEvent
     Direction direction = Direction::In;
 };
 
-// What the file calls the columns, for the reasons.
+// The file's names of these columns, for the reasons of refusals.
 struct EventColumns
 {
     std::string time;
     std::string direction;
 };
 
-// Pairs each coming with the going that follows it, and adds to `read` the records, in the order of the file, and the events that make
-// none. Nothing is guessed: of two comings in a row neither counts, nor does the going behind them. A person's last coming without a going
-// is an open record. `longestHours`: a going later than that is refused together with its coming.
+// Pairs each clock-in with the clock-out that follows it. Adds the records to `read`, in the order of the file, and refuses the events that
+// make none. Nothing is guessed: two clock-ins in a row are both refused, and so is the clock-out behind them. A person's last clock-in
+// without a clock-out is an open record. A clock-out more than `longestHours` after its clock-in is refused together with it.
 void PairEvents(std::vector<PunchEvent> events, std::int32_t longestHours, const EventColumns& columns, PunchLines& read);
 
 } // namespace ptk

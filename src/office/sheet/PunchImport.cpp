@@ -23,7 +23,7 @@ constexpr auto kOtherEnd = "{}: a record of this employee with this start and an
 constexpr auto kSums = "Lines: {}, stored {}, there already {}, refused {}";
 constexpr auto kLine = "Line {}: {}";
 
-// What becomes of each record, as the database stands.
+// Finds out which records are new, by what the database holds now.
 PunchAccount Judge(const PunchLines& read, const PrepareStatement& prepare)
 {
     PunchAccount account;
@@ -53,7 +53,7 @@ PunchAccount Judge(const PunchLines& read, const PrepareStatement& prepare)
     return account;
 }
 
-// Numbers and moments alone, so that nothing of a foreign text gets into a statement.
+// The statements hold only numbers and moments, so that no foreign text gets into them.
 void Store(Engine& engine, std::span<const SheetPunch> punches, const GoesOn& goesOn)
 {
     while (!punches.empty()) {
@@ -68,7 +68,7 @@ void Store(Engine& engine, std::span<const SheetPunch> punches, const GoesOn& go
     }
 }
 
-// Nobody else stores a record between the last look and the writing.
+// Keeps others from storing a record between the comparison and the writing.
 void LockRecords(Engine& engine)
 {
     if (const std::string lock = Said(engine.Words().lockTable, "TimeRecord"); !lock.empty()) {
@@ -81,7 +81,7 @@ bool IsToBeStored(const PunchAccount& account, const PunchOrder& order)
     return !order.trial && !account.IsRefused(order.partly) && !account.punches.empty();
 }
 
-// Looks once more in the same transaction, since another desk may have stored some of it meanwhile.
+// Compares once more in the transaction that stores, because another desk may have stored some of it meanwhile.
 PunchAccount JudgeAndStore(CJetDB& database, const PunchLines& read, const PunchOrder& order, const GoesOn& goesOn)
 {
     PunchAccount account;

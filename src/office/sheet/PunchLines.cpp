@@ -75,7 +75,7 @@ private:
         return std::get<std::int32_t>(found);
     }
 
-    // On the day of the line's own column, where there is one.
+    // The moment in this cell. If the file has a column for the date, the cell holds only the time.
     [[nodiscard]] DateTime Moment(SheetColumn column) const
     {
         const std::string_view cell = Cell(column);
@@ -87,7 +87,7 @@ private:
             Refuse(column, fmt::format(kNoMoment, ShownCell(cell)));
         }
         if (moment->IsZero()) {
-            Refuse(column, kZero); // the moment that stands for none
+            Refuse(column, kZero); // the zero date-time stands for no moment
         }
         return *moment;
     }

@@ -61,7 +61,7 @@ const ColumnName* FindColumn(std::string_view normalized)
     return found == std::end(kNames) ? nullptr : found;
 }
 
-// Takes one FILE=OURS; false for what is none.
+// Adds one FILE=OURS to the words; false if the text is not of this form.
 bool TakeWord(std::string_view text, SheetWords& words)
 {
     const std::size_t equals = text.rfind('=');
@@ -117,8 +117,8 @@ void SheetColumns::PlaceTold()
     }
 }
 
-// What was told of a heading, or of what stands for one of ours, goes before the names; and beside Employee the others that say who it is
-// are further columns.
+// Places the columns that the user's words did not place, by their names. Headings that the words name are passed over. If there is a
+// column Employee, the others that say who somebody is are further columns.
 void SheetColumns::PlaceByName()
 {
     bool byEmployee = Has(SheetColumn::Employee);
@@ -137,7 +137,7 @@ void SheetColumns::PlaceByName()
     }
 }
 
-// Nothing for a heading that means nothing to us, or of which something was told.
+// Our column of this heading; nothing if the heading means nothing to us, or if the user's words name it.
 std::optional<SheetColumn> SheetColumns::NamedAt(std::size_t place) const
 {
     const std::string& normalized = m_headings.NormalizedAt(place);

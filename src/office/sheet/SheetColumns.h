@@ -1,4 +1,4 @@
-// What the columns of a file of punches mean: by their headings, or as somebody said.
+// Finds out what the columns of a file of punches mean: by their headings, or by what the user said.
 #pragma once
 
 #include "office/sheet/SheetHeadings.h"
@@ -29,46 +29,46 @@ enum class SheetColumn : std::uint8_t
 };
 inline constexpr std::size_t kSheetColumnCount = 10;
 
-// Whether somebody came or went.
+// Whether somebody clocked in or out.
 enum class Direction
 {
     In,
     Out
 };
 
-// What was said of a file's headings and of its words for directions.
+// What the user said about a file's headings and its words for in and out.
 struct SheetWords
 {
     std::vector<std::pair<std::string, SheetColumn>> columns;  // by the file's heading, normalized
     std::vector<std::pair<std::string, Direction>> directions; // by the file's word, normalized
 };
 
-// FILE=OURS,...: ours is one of the headings, In or Out. Nothing for what is no such text.
+// Reads FILE=OURS,...: a word of the file, and one of our headings, In or Out. Nothing if the text is not of this form.
 [[nodiscard]] std::optional<SheetWords> ReadSheetWords(std::string_view text);
 
-// Where the columns of a file stand. What stands in further columns is left aside.
+// Which columns a file has and where. Other columns are left aside.
 class SheetColumns
 {
 public:
-    // Raises a failure without a number, one sentence, for a heading that stands twice or that was told and is not there, and for headings
-    // that do not make pairs (start, end) or events (time, direction) of one person each.
+    // Raises a failure without a number, one sentence, for a heading that stands twice, for one that `words` names and the file lacks, and
+    // for headings that do not make pairs (start, end) or events (time, direction) of one person each.
     SheetColumns(std::span<const std::string> headings, SheetWords words);
 
     [[nodiscard]] bool AreEvents() const { return Has(SheetColumn::Time); }
     [[nodiscard]] bool Has(SheetColumn column) const { return m_places[Index(column)].has_value(); }
 
-    // The column by which people are told.
+    // The column that says whose punch a line is.
     [[nodiscard]] SheetColumn Person() const { return m_person; }
 
-    // As it stands in the file.
+    // The column's heading, as the file has it. REQUIRES: Has(column).
     [[nodiscard]] const std::string& Heading(SheetColumn column) const { return m_headings.At(*m_places[Index(column)]); }
 
-    // Of a line, without the blanks around; empty where the line ends before it. REQUIRES: Has(column).
+    // The column's cell in a line, without blanks around it; empty if the line is too short. REQUIRES: Has(column).
     [[nodiscard]] std::string_view Cell(std::span<const std::string> cells, SheetColumn column) const;
 
     [[nodiscard]] const SheetHeadings& Headings() const { return m_headings; }
 
-    // Nothing for a word that is no direction.
+    // The direction; nothing for a word that means none.
     [[nodiscard]] std::optional<Direction> ReadDirection(std::string_view word) const;
 
 private:

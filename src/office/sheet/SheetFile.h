@@ -1,4 +1,4 @@
-// A CSV file of foreign content, before anybody knows what its columns mean.
+// Reads a CSV file of foreign content, whatever its columns mean.
 #pragma once
 
 #include "platform/GoesOn.h"
@@ -13,28 +13,29 @@ namespace ptk {
 
 struct RefusedLine
 {
-    std::int64_t line = 0; // of the file on which the record begins, the first being 1
+    std::int64_t line = 0; // line of the file on which the record begins, counted from 1
     std::string reason;    // begins with the column's name
 };
 
-// Every thousand lines or records, `done` of them; false ends the work with a failure without a number.
+// Asks whenever `done`, a number of lines or records, is a multiple of 1000, so also for 0. False ends the work with a failure without a
+// number.
 void AskWhetherToGoOn(const GoesOn& goesOn, std::int64_t done);
 
-// The file's text as UTF-8, without a byte order mark. `codePage`: of a file that is no UTF-8, else the western one. Raises failures
-// without a number, one sentence each, for a file that is no text, and those of opening and reading it.
+// The file's text as UTF-8, without a byte order mark. `codePage` is that of a file that is not UTF-8; none: the western one. Raises
+// failures without a number, one sentence each, for a file that is no text or is larger than 256 MB, and those of opening and reading it.
 [[nodiscard]] std::string ReadSheet(const std::string& file, std::optional<int> codePage = std::nullopt);
 
-// The records of a text as ReadSheet answers it, blank ones aside.
+// Reads the records of a text that ReadSheet answered, without the blank ones.
 class SheetReader
 {
 public:
-    // Reads the first record, the headings. Raises a failure without a number where there is none. The text must outlive the reader.
+    // Reads the first record, the headings. Raises a failure without a number if there is none. REQUIRES: the text outlives the reader.
     explicit SheetReader(std::string_view text);
 
-    // At first the headings, later what Next read.
+    // The headings at first, later the record that Next read.
     [[nodiscard]] const CsvRecord& Record() const { return m_record; }
 
-    // False at the end. Raises what CsvReader raises.
+    // Reads the next record. False at the end. Raises what CsvReader raises.
     [[nodiscard]] bool Next();
 
 private:
@@ -42,10 +43,10 @@ private:
     CsvRecord m_record;
 };
 
-// For people: a long text cut.
+// The text for people, cut after 40 characters.
 [[nodiscard]] std::string Shortened(std::string_view text);
 
-// A value for a reason: in quotation marks, a long one cut.
+// A value for a reason: in quotation marks, cut after 40 characters.
 [[nodiscard]] std::string ShownCell(std::string_view value);
 
 } // namespace ptk

@@ -29,7 +29,7 @@ std::string NormalizedWord(std::string_view text)
 SheetHeadings::SheetHeadings(std::span<const std::string> headings)
 {
     std::set<std::string_view> seen;
-    m_normalized.reserve(headings.size()); // what was seen stays where it is
+    m_normalized.reserve(headings.size()); // so that the views in `seen` stay valid
     for (const std::string& heading : headings) {
         m_shown.push_back(Shortened(Trimmed(heading)));
         m_normalized.push_back(NormalizedWord(heading));
@@ -57,7 +57,7 @@ void SheetHeadings::RefuseStrange(const CsvRecord& record) const
     }
 }
 
-// Its heading, or its number counted from 1 where it has none.
+// The heading, or the column's number, counted from 1, if it has none.
 std::string SheetHeadings::NameOf(std::size_t place) const
 {
     const bool named = place < m_shown.size() && !m_shown[place].empty();

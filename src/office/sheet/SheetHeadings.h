@@ -12,13 +12,13 @@
 
 namespace ptk {
 
-// Why one line is refused; begins with the column's name.
+// Thrown to refuse one line. The reason begins with the column's name.
 struct LineRefused
 {
     std::string reason;
 };
 
-// Headings and words of a file are compared without blanks and without the difference of letter case of A to Z.
+// The form in which headings and words of a file are compared: without blanks, and in lower case as to A to Z.
 [[nodiscard]] std::string NormalizedWord(std::string_view text);
 
 class SheetHeadings
@@ -27,14 +27,14 @@ public:
     // Raises a failure without a number for a heading that stands twice.
     explicit SheetHeadings(std::span<const std::string> headings);
 
-    // For people: as it stands in the file, without the blanks around, a long one cut. REQUIRES: place, counted from 0, is within the
-    // file's.
+    // The heading for people: as the file has it, without blanks around it, a long one cut. REQUIRES: `place`, counted from 0, is below
+    // Count().
     [[nodiscard]] const std::string& At(std::size_t place) const { return m_shown[place]; }
 
-    // REQUIRES: the same.
+    // The heading in its normalized form. REQUIRES: `place` is below Count().
     [[nodiscard]] const std::string& NormalizedAt(std::size_t place) const { return m_normalized[place]; }
 
-    // The place of what is normalized already.
+    // The index of the heading with this normalized form.
     [[nodiscard]] std::optional<std::size_t> Find(std::string_view normalized) const;
 
     [[nodiscard]] std::size_t Count() const { return m_shown.size(); }

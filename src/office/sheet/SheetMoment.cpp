@@ -10,7 +10,7 @@ namespace ptk {
 
 namespace {
 
-constexpr int kPivot = 30; // years of two digits before it are of this century
+constexpr int kPivot = 30; // two-digit years below it are 20.., others 19..
 
 struct Digits
 {
@@ -18,7 +18,7 @@ struct Digits
     std::size_t count = 0;
 };
 
-// One to `most` digits at the beginning; a count of 0 where there are none or more.
+// Takes the digits at the beginning, one to `most`; the count is 0 if there are none or more.
 Digits TakeDigits(std::string_view& text, std::size_t most)
 {
     std::size_t count = 0;
@@ -83,7 +83,7 @@ std::optional<DateTime> ReadMonthFirst(std::string_view text)
     return Day(century + year.value, month.value, day.value);
 }
 
-// The hour of the day of one to twelve before or after noon, or of a clock of 24 hours where neither stands in `text`.
+// The hour of the day. With am or pm in `text`, `hour` is 1 to 12; if `text` is empty, it is 0 to 23.
 std::optional<int> HourOf(int hour, std::string_view text)
 {
     if (text.empty()) {

@@ -1,4 +1,4 @@
-// Whom a cell of a file means: an employee by number, ID, name or social security number, never one of two.
+// Finds the employee that a cell of a file means, by number, ID, name or social security number. A cell that fits two people means nobody.
 #pragma once
 
 #include "office/sheet/SheetColumns.h"
@@ -16,7 +16,7 @@ namespace ptk {
 
 class Statement;
 
-// Prepares a statement of the database's own words, wherever it is read.
+// Prepares a statement in the database's own words, within a transaction or outside.
 using PrepareStatement = std::function<std::unique_ptr<Statement>(const std::string& sql)>;
 
 enum class PersonFault
@@ -32,8 +32,8 @@ public:
     // Reads every employee, active or not, with one question. Raises what reading raises.
     explicit SheetPeople(const PrepareStatement& prepare);
 
-    // The EmployeeID. Numbers and IDs are digits, zeros before them aside; names, as the lists show them, and social security numbers are
-    // compared to the letter. `text` has no blanks around it.
+    // The EmployeeID of the person. Numbers and IDs are digits; zeros before them do not count. Names, as the lists show them, and social
+    // security numbers must be exactly the same. REQUIRES: no blanks around `text`.
     [[nodiscard]] std::variant<std::int32_t, PersonFault> Find(SheetColumn by, std::string_view text) const;
 
 private:

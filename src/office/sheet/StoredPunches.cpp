@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::size_t kPeopleAtOnce = 500;
 
-// Answered by the index TimeRecordPeriod, employee by employee.
+// The index TimeRecordPeriod answers it, employee by employee.
 constexpr auto kStarting =
     "SELECT EmployeeID, StartTime, EndTime FROM TimeRecord WHERE EmployeeID IN ({}) AND StartTime BETWEEN :first AND :last";
 

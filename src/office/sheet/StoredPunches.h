@@ -1,4 +1,4 @@
-// What of the records in a file stands in the database already.
+// Finds out which records of a file are in the database already.
 #pragma once
 
 #include "office/sheet/PunchLines.h"
@@ -17,12 +17,13 @@ enum class PunchPlace
     OtherEnd // the same employee and start, another end
 };
 
-// The records of the database, and those of the file as they are taken.
+// Knows the records of the database, and those of the file that were taken so far.
 class StoredPunches
 {
 public:
-    // Reads what starts when one of the punches starts, of their employees alone: some hundred people with each question. A start or an end
-    // that cannot be read is like none. Raises what reading raises.
+    // Reads the stored records of the punches' employees that start between the first and the last of the punches, with one question for
+    // some hundred people. A record whose start cannot be read is ignored; an end that cannot be read counts as not set. Raises what
+    // reading raises.
     StoredPunches(const PrepareStatement& prepare, std::span<const SheetPunch> punches);
 
     [[nodiscard]] PunchPlace PlaceOf(const SheetPunch& punch) const;
