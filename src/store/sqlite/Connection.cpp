@@ -51,7 +51,7 @@ int OpenMode(Connection::Access access)
     return SQLITE_OPEN_NOMUTEX | (access == Connection::Access::Write ? SQLITE_OPEN_READWRITE : SQLITE_OPEN_READONLY);
 }
 
-// Nobody asks how much memory the engine takes, and counting it costs a sixth of an opening. False where the engine is in use already.
+// Nobody asks how much memory the engine takes, and counting it costs a sixth of an opening. The engine refuses this once it is in use.
 void SpareMemoryCount()
 {
     static const bool spared = sqlite3_config(SQLITE_CONFIG_MEMSTATUS, 0) == SQLITE_OK;
@@ -69,7 +69,7 @@ SQLite::Database OpenFile(const std::string& path, Connection::Access access)
     }
 }
 
-// A view in a file may ask for texts of any length: some of them take a step of the engine each and yet minutes.
+// A view in a file may make texts of any length. Some of them take only one step of the engine each and yet minutes.
 void BoundTexts(sqlite3* database)
 {
     constexpr int kLongestText = 64 << 20; // bytes
@@ -106,7 +106,7 @@ Connection::Connection(const std::string& path, Access access, WhenHeld whenHeld
 
 void Connection::Inspect()
 {
-    // Before the hold, which would finish what another program's crash left undone.
+    // This comes before the hold, which would finish what another program's crash left undone.
     if (const FileHeader header = ReadFileHeader(Handle()); header.signature) {
         RefuseOtherPrograms(header.applicationId, header.formatNumber);
         m_inOrder = !header.writeAheadLog && FileSize(Handle()) >= header.fileSize;
@@ -163,8 +163,8 @@ bool Connection::Resume()
     return true;
 }
 
-// A small business's file stays in memory whole. Who opens the file for one question has nothing of it, so the first return is early
-// enough.
+// Lets a small business's file stay in memory whole. A program that opens the file for one question gains nothing by it, so this is done at
+// the first return.
 void Connection::KeepMorePages()
 {
     if (!m_keepsMore) {
@@ -206,7 +206,7 @@ void Connection::RefuseForeignFile()
     }
 }
 
-// The first has no such table. What else cannot be read here is told by whoever reads more.
+// The first structure has no such table. Other failures of this question are left to whoever reads more of the file.
 std::int64_t Connection::Structure()
 {
     std::int64_t version = 1;
@@ -245,7 +245,7 @@ void Connection::RefuseOtherProgramsLog()
     }
 }
 
-// Another tool may have chosen that log; with it, a hold keeps writers out but lets readers in.
+// Turns the log off, which another tool may have chosen: with it, a hold keeps writers out but lets readers in.
 void Connection::LeaveWriteAheadLog()
 {
     Release();
@@ -254,7 +254,7 @@ void Connection::LeaveWriteAheadLog()
         code = m_database.tryExec("PRAGMA journal_mode=DELETE");
     } while (code == SQLITE_BUSY && Wait());
     RaiseUnlessDone(Handle(), code);
-    Run("BEGIN EXCLUSIVE"); // of the same opening, so within the same second
+    Run("BEGIN EXCLUSIVE"); // still the same opening, so within the same second
 }
 
 void Connection::Run(const char* sql)
@@ -282,7 +282,7 @@ void Connection::Hold()
     }
 }
 
-// What is stored in a file whose name another has by now would be gone with it.
+// The name of a replaced file leads to another one, so what is stored in it would be lost.
 bool Connection::IsReplaced() const
 {
     int moved = 0;
@@ -302,7 +302,7 @@ bool Connection::Wait()
 
 namespace {
 
-// The lock of a writer is first made one of a reader, then given back.
+// Whether a commit failed while it gave the lock back: a writer's lock is first made a reader's, then given back.
 bool IsOfUnlocking(int reason)
 {
     return reason == SQLITE_IOERR_RDLOCK || reason == SQLITE_IOERR_UNLOCK;
@@ -331,9 +331,9 @@ void Connection::Commit()
         Release();
         if (IsOfUnlocking(reason)) {
             m_keepsLock = true;
-            return; // it is done: the lock goes after the journal is gone
+            return; // the commit is done: the lock goes after the journal is gone
         }
-        if (reason == SQLITE_IOERR_DIR_FSYNC) { // which comes then, too
+        if (reason == SQLITE_IOERR_DIR_FSYNC) { // the commit is done here, too
             throw EngineFailure(SQLITE_IOERR, kNotYetSafe);
         }
         throw;
@@ -342,12 +342,12 @@ void Connection::Commit()
 
 namespace {
 
-// Pages, after which one may be told: more and more of them where they are quick.
+// A copy tells how far it is after so many pages: more and more of them where they are quick.
 constexpr int kFirstPortion = 16;
 constexpr int kMostPortion = 512;
 constexpr auto kLongPortion = waiting::kSlice;
 
-// Copies a portion, and makes the next one as long as the disk is quick.
+// Copies a portion. The next one is larger as long as the disk is quick.
 int CopyPortion(sqlite3_backup* copy, int& portion)
 {
     const auto begun = std::chrono::steady_clock::now();
@@ -357,7 +357,7 @@ int CopyPortion(sqlite3_backup* copy, int& portion)
     return code;
 }
 
-// What writing the copy failed with is no failure of the database.
+// A failure to write the copy is no failure of the database.
 void RaiseOfTarget(int code)
 {
     if (code == SQLITE_FULL) {
@@ -395,7 +395,7 @@ void Copy(sqlite3* from, sqlite3* to, const std::function<bool(std::int32_t, std
 
 } // namespace
 
-// In a transaction of the same connection the engine refuses to copy; so the lock is kept without one.
+// The engine refuses to copy in a transaction of the same connection, so the lock is kept without one.
 void Connection::CopyTo(const std::string& path, const std::function<bool(std::int32_t, std::int32_t)>& progress)
 {
     SQLite::Database copy = OpenFile(PlainPath(path), Access::Write);

@@ -15,56 +15,57 @@
 
 namespace ptk {
 
-// The hold is a transaction: taken by the constructor, given up by Commit and Release, and taken again by the next Hold. A file in
-// use is waited for, up to one second for each taking, or not at all.
+// The hold is an exclusive transaction: the constructor takes it, Commit and Release give it up, and the next Hold takes it again. Where
+// others use the file, each taking waits for up to one second, or not at all.
 class Connection
 {
 public:
     enum class Access
     {
         Write,
-        Read // also of files that cannot be written; others may read them too
+        Read // opens files that cannot be written, too, and lets others read meanwhile
     };
 
-    // Opens for reading and writing, exclusively and without ever creating a file. Raises 14 (missing, no regular file), 5 (held by anyone,
-    // a reader included, for more than a second, or until the wait is given up), 8 (read-only), 26 (no database, another program's, or of a
-    // newer format) or 11 (damaged); another program's file is not touched by that. An empty file passes.
+    // Opens the file and takes the hold; never creates a file. Raises 14 (missing, no regular file), 5 (held by somebody else, for Write
+    // also by a reader, for more than a second, or until the wait is given up), 8 (Write of a read-only file), 26 (no database, another
+    // program's, or of a newer format) or 11 (damaged). Another program's file is not touched by that. An empty file passes.
     explicit Connection(const std::string& path, Access access = Access::Write, WhenHeld whenHeld = WhenHeld::Wait);
     Connection(const Connection&) = delete;
     Connection& operator=(const Connection&) = delete;
 
-    // Gives the hold up and keeps the file open, so that the next Resume need not read its tables' definitions again, which takes most of
-    // the time of a short operation. Of a file so fresh, after a write for instance, that its time would not tell another change, only the
-    // definitions are kept, which have a number of their own. False when it should rather be closed, a replaced file always.
+    // Gives the hold up but keeps the file open, so that Resume need not read the tables' definitions again, which takes most of the time
+    // of a short operation. Shortly after a write the file's time stamp could not show one more change; then only the definitions are kept,
+    // which carry a number of their own. False when the file should rather be closed, as always when it was replaced.
     bool Park();
 
-    // Whether the path still leads to the file as it was parked, by the same process; it is then held again, as by the constructor, which
-    // also raises the same. False when it is to be opened anew.
+    // Whether the path still leads to the unchanged file that this process parked. The hold is then taken again, with the constructor's
+    // failures. False when the file is to be opened anew. REQUIRES: Park answered true.
     bool Resume();
 
-    // Raises 26 for an empty file and one of a newer structure, 11 for one cut short; to be called before anything else.
+    // Raises 26 for an empty file, another program's and one of a newer structure, and 11 for one cut short. To be called before anything
+    // else.
     void RefuseForeignFile();
 
     [[nodiscard]] sqlite3* Handle() const { return m_database.getHandle(); }
     [[nodiscard]] StatementCache& Prepared() { return m_prepared; }
 
-    // Statements without parameters.
+    // Runs statements that have no parameters.
     void Run(const char* sql);
 
-    // Nothing when held. Raises 5 also where another file has taken the place of this one since it was opened.
+    // Takes the hold unless it is there already. Raises 5 when somebody else has the file, and when another file has taken its place.
     void Hold();
 
-    // Holds; before anything is changed.
+    // Takes the hold and makes commits survive a power cut. To be called before anything is changed.
     void PrepareWrite();
 
-    // On disk when it returns, and not held; on failure nothing of the transaction is left, unless the failure says that all is done and
-    // only the folder could not be made safe.
+    // Puts the changes on the disk before it returns, and gives the hold up. On failure nothing of the transaction is left, unless the
+    // failure says that the change is done and only the folder could not be made safe.
     void Commit();
 
-    // See Engine::CopyTo.
+    // See SqliteEngine::CopyTo.
     void CopyTo(const std::string& path, const std::function<bool(std::int32_t done, std::int32_t all)>& progress);
 
-    // Drops what was changed since the last commit; nothing when not held.
+    // Gives the hold up and drops what was changed since the last commit. Does nothing when not held.
     void Release() noexcept;
 
 private:
@@ -73,17 +74,17 @@ private:
         std::uint64_t device = 0;
         std::uint64_t node = 0;
         std::uint32_t mode = 0;
-        std::int32_t process = 0; // whose connection it is: it must not be used after a fork
+        std::int32_t process = 0; // that opened the connection, which must not be used after a fork
 
         bool operator==(const FileIdentity&) const = default;
     };
 
-    // What tells any change of what is in it.
+    // Shows any change of a file's content.
     struct FileContent
     {
         std::int64_t size = 0;
         std::int64_t written = 0; // nanoseconds
-        std::int64_t changed = 0; // nanoseconds, rights included
+        std::int64_t changed = 0; // nanoseconds; a change of the file's rights counts, too
 
         bool operator==(const FileContent&) const = default;
     };
@@ -96,7 +97,7 @@ private:
 
     void Inspect();
 
-    // Nothing where the path leads to no file.
+    // Nothing where the path leads to no regular file.
     [[nodiscard]] std::optional<FileState> ReadState() const;
     void RefuseOtherPrograms(std::int32_t applicationId, std::int32_t formatNumber) const;
     void RefuseOtherProgramsLog();
@@ -112,15 +113,15 @@ private:
     std::string m_path;
     std::optional<FileState> m_parked;
     SQLite::Database m_database;
-    StatementCache m_prepared;                                        // ends before it
-    std::unique_ptr<sqlite3_stmt, int (*)(sqlite3_stmt*)> m_rollback; // ready beforehand: for its text there may be no memory left
+    StatementCache m_prepared;                                        // must end before m_database
+    std::unique_ptr<sqlite3_stmt, int (*)(sqlite3_stmt*)> m_rollback; // prepared in advance: later there may be no memory for it
     Access m_access;
     WhenHeld m_whenHeld;
     std::chrono::steady_clock::time_point m_patientUntil;
-    bool m_inOrder = false; // whether what the file is was seen from outside, without a wait
+    bool m_inOrder = false; // whether the file was found in order before the hold, without a wait since
     bool m_durable = false; // whether commits survive a power cut
     bool m_keepsMore = false;
-    bool m_keepsLock = false; // could not be given back, which closing the file does
+    bool m_keepsLock = false; // the lock could not be given back, which closing the file does
 };
 
 } // namespace ptk

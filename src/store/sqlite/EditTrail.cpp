@@ -13,7 +13,7 @@ namespace ptk {
 
 namespace {
 
-constexpr const char* kFindTrail = "SELECT COUNT(*) FROM sqlite_master WHERE type = 'table' AND name IN ('_Session', '_Change')"; // 2
+constexpr const char* kFindTrail = "SELECT COUNT(*) FROM sqlite_master WHERE type = 'table' AND name IN ('_Session', '_Change')"; // 2: both
 constexpr const char* kFindStructure = "SELECT COUNT(*) FROM sqlite_master WHERE type = 'table' AND name = '_Structure'";
 constexpr const char* kStructure = "SELECT COALESCE(MAX(version), 0) FROM _Structure";
 constexpr const char* kNext = "SELECT IFNULL((SELECT seq FROM sqlite_sequence WHERE name = '_Change'), 0) + 1";
@@ -38,7 +38,7 @@ bool Prepares(Engine& engine, const std::string& sql)
     }
 }
 
-// A table that lacks a column would refuse every write from now on, because its triggers ask for it. It goes without a trail instead; the
+// A table that lacks a column would refuse every write from now on, because its triggers ask for that column. It has no trail instead; the
 // check of the file tells that.
 void DropUnusableTriggers(Engine& engine, const char* table)
 {

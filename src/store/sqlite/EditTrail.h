@@ -1,5 +1,5 @@
-// The edit trail inside a database file: data/trail.sql, whose triggers write down every change. Here is what a write of the program adds
-// to it: who writes and why, and which changes belong together; and what a file of an earlier version is brought up to date with.
+// The edit trail inside a database file (data/trail.sql), whose triggers write down every change. A write of the program adds who writes
+// and why, and which changes belong together. BringUpToDate makes what a file of an earlier version lacks.
 #pragma once
 
 #include "store/engine/Author.h"
@@ -11,7 +11,8 @@ namespace ptk {
 
 class Engine;
 
-// All that follow need the hold and no more than the transaction of the present write. Raise the engine's failures.
+// Whether the file has the trail's tables. All functions here need the hold, stay within the transaction of the present write, and raise
+// the engine's failures.
 [[nodiscard]] bool HasTrail(Engine& engine);
 
 // The newest structure of a file that this program knows: the number in its table _Structure.
@@ -20,19 +21,19 @@ inline constexpr std::int64_t kFileStructure = 2;
 // Whether the file has all that the newest structure has: a trail with reasons, and what was paid.
 [[nodiscard]] bool IsUpToDate(Engine& engine);
 
-// The entries that follow are this one's.
+// Signs the entries that follow, until CloseStep: they are this author's and belong to this step.
 void OpenStep(Engine& engine, const Author& author, std::int64_t step);
 
-// They are nobody's any more.
+// Ends the step: entries that follow have no author and no step.
 void CloseStep(Engine& engine);
 
-// A number that no entry has: its first entry's own.
+// The number for a new step, which no entry has yet: the number that its first entry will have.
 [[nodiscard]] std::int64_t NextStep(Engine& engine);
 
-// One entry of the step that is open, of no row. REQUIRES: the file has the trail.
+// Adds one entry of the open step that is about the whole database, with the name of a file. REQUIRES: the file has the trail.
 void AddEntry(Engine& engine, const char* action, const std::string& file);
 
-// Makes what is missing of it. REQUIRES: the tables of people's data are there.
+// Makes what the file lacks of the newest structure. REQUIRES: the tables of people's data are there.
 void BringUpToDate(Engine& engine);
 
 } // namespace ptk

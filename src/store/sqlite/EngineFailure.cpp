@@ -8,16 +8,16 @@ namespace ptk {
 
 namespace {
 
-// What lies above both engines knows the numbers by these names.
+// The layers above both engines know the numbers by these names.
 static_assert(engine::Refused == SQLITE_ERROR && engine::Busy == SQLITE_BUSY && engine::NoMemory == SQLITE_NOMEM &&
               engine::ReadOnly == SQLITE_READONLY && engine::Interrupted == SQLITE_INTERRUPT && engine::Lost == SQLITE_IOERR &&
               engine::Damaged == SQLITE_CORRUPT && engine::NotFound == SQLITE_NOTFOUND && engine::DiskFull == SQLITE_FULL &&
               engine::CannotOpen == SQLITE_CANTOPEN && engine::Constraint == SQLITE_CONSTRAINT && engine::Misuse == SQLITE_MISUSE &&
               engine::Parameter == SQLITE_RANGE && engine::NoDatabase == SQLITE_NOTADB);
 
-constexpr int kPrimaryCode = 0xFF; // what extended result codes keep in the low byte
+constexpr int kPrimaryCode = 0xFF; // the part of an extended result code that is kept
 
-// nullptr for the codes that say too little by themselves.
+// What a code means to the program's users; nullptr for the codes that say too little by themselves.
 const char* Meaning(int primaryCode)
 {
     switch (primaryCode) {

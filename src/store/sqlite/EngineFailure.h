@@ -9,14 +9,15 @@ struct sqlite3;
 
 namespace ptk {
 
-// With the code's meaning for the program's users as description ("the database is in use by another program").
+// A failure described by what the code means to the program's users ("the database is in use by another program"), or by `description`.
 [[nodiscard]] Failure EngineFailure(int resultCode);
 [[nodiscard]] Failure EngineFailure(int resultCode, std::string description);
 
-// With the code's meaning, or, where that is one of many (a wrong statement, a refused value), in the database's own words.
+// A failure described by the code's meaning, or, where a code has many causes (a wrong statement, a refused value), in the engine's own
+// words.
 [[nodiscard]] Failure EngineFailure(int resultCode, sqlite3* database);
 
-// Nothing on success.
+// Raises the failure of `resultCode`; does nothing on success.
 void RaiseUnlessDone(sqlite3* database, int resultCode);
 
 } // namespace ptk

@@ -20,12 +20,12 @@ constexpr std::size_t kChangeCounter = 24;
 constexpr std::size_t kPageCount = 28;
 constexpr std::size_t kUserVersion = 60;
 constexpr std::size_t kApplication = 68;
-constexpr std::size_t kPageCountValidFor = 92; // the change counter's value then
+constexpr std::size_t kPageCountValidFor = 92; // the change counter's value when the page count was written
 constexpr unsigned char kWriteAheadLog = 2;
 
 using Bytes = std::array<unsigned char, kHeaderSize>;
 
-// Big-endian.
+// Reads a big-endian number.
 std::uint32_t NumberAt(const Bytes& bytes, std::size_t offset, std::size_t size = 4)
 {
     std::uint32_t number = 0;
@@ -35,7 +35,7 @@ std::uint32_t NumberAt(const Bytes& bytes, std::size_t offset, std::size_t size 
     return number;
 }
 
-// 0 when the header does not know, as old writers leave it.
+// The size in bytes that the header tells; 0 when it does not, as old writers leave it.
 std::int64_t SizeByHeader(const Bytes& bytes)
 {
     if (NumberAt(bytes, kChangeCounter) != NumberAt(bytes, kPageCountValidFor)) {

@@ -17,12 +17,12 @@ namespace {
 constexpr const char* kOwnRoutines = "SELECT type, name, tbl_name, sql FROM sqlite_master WHERE type IN ('trigger', 'view') ORDER BY name";
 constexpr const char* kOwnTables = "SELECT name FROM sqlite_master WHERE type IN ('table', 'view')";
 
-// Of the texts.
+// Digests of the texts that earlier versions gave to routines.
 constexpr std::uint64_t kEarlier[] = {
     0x28AAE9031B405FDFU, // _EditWritten, before an entry had a reason
 };
 
-// FNV-1a: tells texts apart that nobody forged.
+// The FNV-1a digest, which tells texts apart that nobody forged.
 std::uint64_t DigestOf(const std::string& text)
 {
     std::uint64_t digest = 0xCBF29CE484222325U;

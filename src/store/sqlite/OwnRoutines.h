@@ -1,4 +1,4 @@
-// What the program's own scripts put into a database file, to be held against what is in one.
+// The triggers, views and tables that the program's own scripts make in a database file, for a comparison with those of a file in use.
 #pragma once
 
 #include <string>
@@ -6,25 +6,24 @@
 
 namespace ptk {
 
-// A trigger or a view.
 struct Routine
 {
     std::string type; // "trigger" or "view"
     std::string name;
-    std::string table; // or view, whose trigger it is; of a view its own name
-    std::string text;  // as a file keeps it
+    std::string table; // the table or view that a trigger is on; for a view its own name
+    std::string text;  // its CREATE statement as a file keeps it
 };
 
 struct OwnRoutines
 {
-    std::vector<Routine> routines; // by name
+    std::vector<Routine> routines; // sorted by name
     std::vector<std::string> tables;
 };
 
-// Of a new file.
+// The routines and tables of a new file.
 [[nodiscard]] OwnRoutines ReadOwnRoutines();
 
-// Whether an earlier version of the program gave a routine this text: a file keeps it until its first write by a later one.
+// Whether an earlier version of the program gave the routine this text. A file keeps such a text until a later version first writes to it.
 [[nodiscard]] bool IsOfEarlierVersion(const Routine& routine);
 
 } // namespace ptk

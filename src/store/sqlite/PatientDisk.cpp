@@ -60,7 +60,7 @@ int PatientSync(sqlite3_file* file, int flags)
 {
     int code = SQLITE_OK;
     const auto flush = [&] { code = kOn<&Methods::xSync>(file, flags); };
-    waiting::Behind(std::ref(flush)); // asks for no memory: nothing may be raised through the engine
+    waiting::Behind(std::ref(flush)); // std::ref asks for no memory: nothing may be raised through the engine
     return code;
 }
 
@@ -106,7 +106,7 @@ int OpenPatient(sqlite3_vfs* /*disk*/, sqlite3_filename name, sqlite3_file* file
     return code;
 }
 
-// Flushing the folder takes as long as flushing a file.
+// Deletes a file. Flushing the folder then takes as long as flushing a file.
 int DeletePatient(sqlite3_vfs* /*disk*/, const char* name, int flushesFolder)
 {
     int code = SQLITE_OK;
@@ -119,7 +119,7 @@ int DeletePatient(sqlite3_vfs* /*disk*/, const char* name, int flushesFolder)
     return code;
 }
 
-// All else is the system's, by the system's own data.
+// Takes everything else from the system's way, by the system's own data.
 sqlite3_vfs Made()
 {
     sqlite3_vfs disk = *System();
@@ -136,7 +136,7 @@ sqlite3_vfs Made()
 const char* PatientDisk()
 {
     static sqlite3_vfs disk = Made();
-    static const int registered = sqlite3_vfs_register(&disk, 0); // fails only without memory; opening then tells it
+    static const int registered = sqlite3_vfs_register(&disk, 0); // fails only without memory; opening then fails with it
     static_cast<void>(registered);
     return disk.zName;
 }

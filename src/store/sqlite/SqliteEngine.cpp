@@ -16,9 +16,9 @@ namespace ptk {
 
 namespace {
 
-constexpr std::int32_t kPagesOfMillion = 600; // that a full check sees in so many steps, where the pages are full of time records
+constexpr std::int32_t kPagesOfMillion = 600; // that a full check sees in a million steps, where the pages are full of time records
 
-// While it lives, nothing is committed: a statement that would end the transaction is refused, and what belongs to it goes.
+// While it lives, nothing is committed: a statement that would end the transaction is refused, and the transaction is undone.
 class OneTransaction
 {
 public:
@@ -70,7 +70,7 @@ void SqliteEngine::RefuseDuringWait()
     }
 }
 
-// Who comes back while the file is being waited for finds it as it is.
+// A call that comes from within a wait for the file leaves it as it is.
 void SqliteEngine::Close()
 {
     if (waiting::IsTurn()) {
@@ -152,7 +152,7 @@ void SqliteEngine::RunSteps(const std::function<void()>& steps)
     return HasTrail() ? RunSigned(steps) : RunWithin(m_connection->Handle(), steps);
 }
 
-// The first time shows whether the steps change anything; they may ask for what only an up-to-date file has.
+// The first run shows whether the steps change anything. The file is up to date in it, as the steps may ask for what only such a file has.
 void SqliteEngine::RunUpdating(const std::function<void()>& steps)
 {
     Connection& connection = *m_connection;
@@ -221,7 +221,7 @@ bool SqliteEngine::HasTrail()
     return ptk::HasTrail(*this);
 }
 
-// The engine knows the tables' definitions: their own table, which holds the texts of all triggers, need not be searched.
+// The engine has the tables' definitions at hand: sqlite_master, which holds the texts of all triggers, need not be searched.
 bool SqliteEngine::HasTable(const char* name)
 {
     sqlite3* const database = Open().Handle();

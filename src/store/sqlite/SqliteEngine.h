@@ -22,19 +22,20 @@ struct ReadOnly
 {
 };
 
-// Told how much of a copy is done, in pages; false ends it.
+// Is called with the pages of a copy or a check that are done, and all its pages; false ends it.
 using CopyProgress = std::function<bool(std::int32_t done, std::int32_t all)>;
 
-// Failures carry the source "SQLite". The hold is the file's: members that take it raise 5 when somebody else has had the file for more
-// than a second by then.
+// Failures carry the source "SQLite". The hold is on the whole file: members that take it raise 5 when somebody else has had the file for
+// more than a second by then.
 class SqliteEngine final : public Engine
 {
 public:
-    // Never creates a file. Raises 14 (missing, no regular file), 5 (held by anyone, a reader included, for more than a second), 8
-    // (read-only), 26 (no database, another program's, or of a newer format) or 11 (damaged); the file is then as it was.
+    // Opens an existing file; never creates one. Raises 14 (missing, no regular file), 5 (held by anyone, a reader included, for more than
+    // a second), 8 (read-only), 26 (empty, no database, another program's, or of a newer format) or 11 (damaged); the file is then as it
+    // was.
     explicit SqliteEngine(const std::string& path, WhenHeld whenHeld = WhenHeld::Wait);
 
-    // The file must be there, empty.
+    // Opens an empty file, which must be there.
     SqliteEngine(const std::string& path, NewFile);
 
     SqliteEngine(const std::string& path, ReadOnly);
@@ -46,12 +47,12 @@ public:
     void Hold() override;
     void GiveUp() noexcept override;
 
-    // In a file of an earlier version, steps that change any row are undone, `keepCopy` is called, with nobody else at the file meanwhile,
-    // and they are done again together with bringing it up to date; without `keepCopy` such a file stays as it is.
+    // In a file of an earlier version, steps that change any row are undone; `keepCopy` then copies the file, while nobody else gets at it,
+    // and the steps are done again, together with bringing the file up to date. Without `keepCopy` such a file stays of its version.
     void Write(const std::function<void()>& steps) override;
     void KeepCopy(std::function<void()> keepCopy) { m_keepCopy = std::move(keepCopy); }
 
-    // No trigger of the file runs meanwhile.
+    // Runs the steps without the file's triggers.
     void Untold(const std::function<void()>& steps) override;
     void AddWholeEntry(const char* action, const std::string& file) override;
     [[nodiscard]] bool HasTrail() override;
@@ -66,28 +67,28 @@ public:
     void Commit() override;
     std::unique_ptr<RowSink> Fill(const StoredTable& table) override;
 
-    // Into the empty file `path`, as of one moment, without making it safe on the disk. Nobody else gets at the file meanwhile; what was
-    // not committed is dropped. Raises 11 for a damaged file, 9 when `progress` ended it, and 61 or 57, which are no failures of the
-    // database, when the copy cannot be written.
+    // Copies the database as of one moment into the empty file `path`, which is not yet made safe on the disk. Nobody else gets at the file
+    // meanwhile; what was not committed is dropped. Raises 11 for a damaged file, 9 when `progress` ended it, and 61 or 57, which are no
+    // failures of the database, when the copy cannot be written.
     void CopyTo(const std::string& path, const CopyProgress& progress = {});
 
-    // For all that is prepared from here on together: what runs at that time, or later for longer than a
-    // moment, is stopped with 9.
+    // Sets one end for CheckIntegrity and all that Prepare makes from here on: what still runs at that time, or begins later and takes
+    // longer than a moment, is stopped with 9.
     void EndBy(CoarseTime end) { m_end = end; }
 
-    // One text a row, "ok" alone for a sound file; bounded by EndBy only.
+    // Checks the whole file and answers one text a row, "ok" alone for a sound file. Only EndBy bounds it.
     std::shared_ptr<RecordSet> CheckIntegrity();
 
-    // Raises 11 for a damaged file, by the full check: also whether each row is in each index, and nothing else. A card is read from an
-    // index, so that a backup which is told sound without it could pay by rows that are not there. A million records take two seconds.
-    // Without a bound; `progress` is told of pages, by estimate, must not raise, and ends it with 9.
+    // Checks the whole file, also whether each index holds each row and nothing else, and raises 11 for a damaged one. A card is read from
+    // an index, so that a backup which passed a lesser check could pay by rows that are not there. A million records take two seconds;
+    // there is no bound. `progress` gets an estimate of the pages; it must not raise, and its false ends the check with 9.
     void RefuseDamage(const CopyProgress& progress = {});
 
 private:
     Connection& Open() const;
     static void RefuseDuringWait();
     void RunSteps(const std::function<void()>& steps);
-    // Another one after any change of rows or tables.
+    // A mark that differs after any change of rows or tables.
     using ContentMark = std::pair<int, std::int32_t>;
     [[nodiscard]] ContentMark Mark();
 

@@ -40,7 +40,7 @@ struct ColumnBinder
         return sqlite3_bind_double(statement, index, value);
     }
 
-    // Not copied: the row is written before it is left.
+    // The text is not copied: the row is written while the text is still there.
     int operator()(std::string_view value) const
     {
         return sqlite3_bind_text64(statement, index, value.data(), value.size(), SQLITE_STATIC, SQLITE_UTF8);

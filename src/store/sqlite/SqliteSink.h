@@ -1,4 +1,4 @@
-// Rows on their way into a table of a database file.
+// Writes many rows into a table of a database file.
 #pragma once
 
 #include "store/engine/RowSink.h"

@@ -34,7 +34,7 @@ bool HoldsStatement(sqlite3* database, std::string_view rest)
     return second != nullptr || !rest.empty();
 }
 
-// The one statement that the text holds.
+// Prepares the one statement that the text holds.
 sqlite3_stmt* PrepareOnly(sqlite3* database, std::string_view sql)
 {
     std::unique_ptr<sqlite3_stmt, int (*)(sqlite3_stmt*)> statement(Prepare(database, sql), sqlite3_finalize);
@@ -47,7 +47,7 @@ sqlite3_stmt* PrepareOnly(sqlite3* database, std::string_view sql)
     return statement.release();
 }
 
-// Binds one kind of value each.
+// Binds a value of each kind.
 struct ParameterBinder
 {
     sqlite3_stmt* statement;
@@ -59,7 +59,7 @@ struct ParameterBinder
     int operator()(std::int32_t value) const { return sqlite3_bind_int(statement, index, value); }
     int operator()(double value) const { return sqlite3_bind_double(statement, index, value); }
 
-    // 12.3 and not 12.300000190734863, which other tools would show.
+    // Stores 12.3 and not 12.300000190734863, which other tools would show.
     int operator()(float value) const { return sqlite3_bind_double(statement, index, ToDouble(SingleText(value))); }
     int operator()(DateTime value) const { return (*this)(StoredText(value)); }
     int operator()(const std::string& value) const
@@ -74,7 +74,7 @@ std::string_view TextOf(sqlite3_value* value)
     return {text, static_cast<std::size_t>(sqlite3_value_bytes(value))};
 }
 
-// Of the value itself, which only one thread may look at as only one uses a connection: that spares several ways to it.
+// Reads the value itself, which is quicker than by statement and column. Only one thread may do so, and only one uses a connection.
 void AddCell(RecordSet::Builder& rows, sqlite3_value* value)
 {
     switch (sqlite3_value_type(value)) {
@@ -103,13 +103,13 @@ void AddColumns(RecordSet::Builder& rows, sqlite3_stmt* statement)
 
 namespace {
 
-// Few enough that even steps which make the longest texts that the engine allows come to a look within seconds.
+// So few that the limits are looked at within seconds, even where each step makes the longest text that the engine allows.
 constexpr int kStepsOfLook = 100;
 constexpr std::int64_t kLooksOfMillion = 1'000'000 / kStepsOfLook;
 
 } // namespace
 
-// While it lives, the statement is stopped beyond so many steps or so much time, or when its watcher says so.
+// Stops the statement, while it lives, beyond so many steps or so much time, or when its watcher says so.
 class SqliteStatement::Limit
 {
 public:
@@ -123,7 +123,7 @@ public:
     Limit(const Limit&) = delete;
     Limit& operator=(const Limit&) = delete;
 
-    // What is done with a row takes none of the statement's time.
+    // Runs `take` for a row without counting that to the statement's time.
     void LeaveOut(const std::function<void()>& take)
     {
         const CoarseTime before = CoarseNow();

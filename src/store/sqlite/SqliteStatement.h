@@ -19,16 +19,16 @@ class StatementCache;
 class SqliteStatement final : public Statement
 {
 public:
-    // Of the engine's steps, in millions. A statement that takes more does not come to an end and is stopped, with 9: reading ten million
-    // records takes 90, and 400 some seconds.
+    // The most steps of the engine that a statement may take, in millions. One that takes more would not come to an end and is stopped with
+    // 9: ten million records are read in 90, and 400 take some seconds.
     static constexpr std::int32_t kMostSteps = 400;
 
-    // That the engine may take for the rows of one call. Whatever takes longer, by few steps that make long texts for instance, is stopped
-    // with 9, too.
+    // The most time that the engine may take for the rows of one call. Whatever takes longer, by few steps that make long texts for
+    // instance, is stopped with 9, too.
     static constexpr std::chrono::seconds kMostTime{60};
 
-    // `sql` is in the engine's own words and holds exactly one statement. With a cache, of the same connection, which outlives it, it is
-    // taken from there and left there.
+    // `sql` is in the engine's own words and holds exactly one statement. With a cache, the prepared statement is taken from there and left
+    // there; the cache is that of the same connection and outlives this.
     SqliteStatement(sqlite3* database, std::string_view sql, StatementCache* cache = nullptr);
 
     using Statement::Bind;
@@ -43,14 +43,14 @@ public:
     [[nodiscard]] std::string_view TextAt(int column) const override;
     [[nodiscard]] std::optional<DateTime> StoredDateAt(int column) const override;
 
-    // In millions.
+    // Sets another limit than kMostSteps, in millions.
     void AllowSteps(std::int32_t mostSteps) { m_mostSteps = mostSteps; }
 
-    // From here on it is stopped with 9, whatever else it may take.
+    // Stops the statement with 9 at `end`, whatever else it may take.
     void EndBy(CoarseTime end) { m_end = end; }
 
-    // For what takes its time on purpose: bounded by nothing but `goesOn`, which is asked after each million of steps and ends it with 9
-    // by false. It must not raise.
+    // Lifts all limits, for what takes its time on purpose. `goesOn` is asked after each million of steps, and its false ends the statement
+    // with 9. It must not raise.
     void Watch(std::function<bool()> goesOn) { m_goesOn = std::move(goesOn); }
 
 private:
@@ -58,7 +58,7 @@ private:
     {
         void operator()(sqlite3_stmt* statement) noexcept;
 
-        StatementCache* cache = nullptr; // nullptr: it is given up
+        StatementCache* cache = nullptr; // takes the statement back; nullptr: it is given up
         std::string sql;
     };
     class Limit;
@@ -70,8 +70,8 @@ private:
 
     sqlite3* m_database;
     std::unique_ptr<sqlite3_stmt, Ending> m_statement;
-    std::vector<bool> m_assigned; // by parameter, from 0
-    std::int64_t m_looks = 0;     // at the limits, since the statement began
+    std::vector<bool> m_assigned; // whether each parameter has a value, from 0
+    std::int64_t m_looks = 0;     // how often the limits were looked at since the statement began
     std::int32_t m_mostSteps = kMostSteps;
     CoarseTime m_end = CoarseTime::max();
     std::function<bool()> m_goesOn;

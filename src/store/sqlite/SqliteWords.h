@@ -1,4 +1,4 @@
-// The words of a database file. Other tools may have stored anything in it, so none relies on the kind of a value.
+// The words of a database file. Other tools may have stored values of any kind in it, so no word relies on the kind of a value.
 #pragma once
 
 #include "store/engine/EngineWords.h"
@@ -13,7 +13,7 @@ inline constexpr EngineWords kSqliteWords{
     .unusualPunch = "CASE WHEN StartTime BETWEEN '0100-' AND ':' THEN "
                     "datetime(StartTime, '+0 days') IS NOT NULLIF(StartTime, '1899-12-30 00:00:00') "
                     "OR EndTime NOT BETWEEN StartTime AND datetime(StartTime, '+1 day') ELSE 1 END",
-    // No index is searched by it: it must not come before the days that are asked for.
+    // The unary plus keeps the engine from searching an index by it, which is for the days that are asked for.
     .readablePunch = "(+StartTime >= '0100-' AND +EndTime >= '0100-' AND +StartTime <> '1899-12-30 00:00:00' AND "
                      "datetime(StartTime, '+0 days') = StartTime AND datetime(EndTime, '+0 days') = EndTime)",
     .wholeMinute = "substr({0}, 1, 16)",

@@ -9,8 +9,8 @@ struct sqlite3_stmt;
 
 namespace ptk {
 
-// Preparing a statement takes longer than a short answer. Of one connection, before which it must end. The engine prepares a kept statement
-// anew by itself when the tables are no longer those that it was prepared for.
+// Keeps the prepared statements of one connection, before which it must end: preparing one takes longer than a short answer. The engine
+// itself prepares a kept statement anew when the tables are no longer those that it was prepared for.
 class StatementCache
 {
 public:
@@ -19,10 +19,10 @@ public:
     StatementCache(const StatementCache&) = delete;
     StatementCache& operator=(const StatementCache&) = delete;
 
-    // nullptr when there is none of that text; the caller owns it.
+    // Hands out the kept statement of this text, which the caller then owns; nullptr when there is none.
     [[nodiscard]] sqlite3_stmt* Take(std::string_view sql);
 
-    // Takes over one that is done with, and lets go of the one that has waited longest where there are too many.
+    // Takes over a statement that is done with. Where there are too many, the one that has waited longest is ended.
     void Keep(std::string&& sql, sqlite3_stmt* statement) noexcept;
 
 private:
@@ -32,7 +32,7 @@ private:
         sqlite3_stmt* statement;
     };
 
-    std::vector<Waiting> m_waiting; // the longest first
+    std::vector<Waiting> m_waiting; // the one that waited longest comes first
 };
 
 } // namespace ptk

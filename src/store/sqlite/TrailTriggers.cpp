@@ -21,7 +21,7 @@ using Texts = std::vector<std::string>;
 constexpr std::size_t kWidth = 138; // of a line, in characters
 constexpr std::string_view kEmployee = "EmployeeID";
 
-// What happens to a row: what it was (b, OLD) and what it becomes (a, NEW).
+// A kind of change of a row: whether it has a row before (b, OLD) and a row after (a, NEW).
 struct Deed
 {
     const char* name;
@@ -38,7 +38,7 @@ std::string Capitals(std::string_view word)
     return text;
 }
 
-// Behind `line`, each part but the last with a comma, or with `between`; where a line is full, on a new one as deep as `depth`.
+// Adds `parts` to `line`, `between` behind each but the last. A full line is ended, and the next one is indented by `depth`.
 std::string Wrapped(std::string line, const Texts& parts, std::size_t depth, const char* end, const char* between = ",")
 {
     std::string text;
@@ -56,7 +56,7 @@ std::string Wrapped(std::string line, const Texts& parts, std::size_t depth, con
     return text + line + '\n';
 }
 
-// For each side of the deed, what it was before what it becomes.
+// Calls `add` for each side of the deed: for the row before, then for the row after.
 template <typename Add>
 void ForEachSide(const Deed& deed, Add add)
 {
