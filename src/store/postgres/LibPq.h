@@ -1,4 +1,4 @@
-// The server's client library, loaded when a server is asked for: who keeps the books in a file neither needs it nor waits for it.
+// The server's client library. It is loaded when a server is asked for: who keeps the books in a file neither needs it nor waits for it.
 #pragma once
 
 #include <libpq-fe.h>
@@ -50,7 +50,7 @@ struct LibPq
     decltype(&PQputCopyEnd) putCopyEnd;
 };
 
-// Raises Failure 14 where the library is not installed.
+// Loads the library at the first call. Raises Failure 14 where it is not installed or too old.
 [[nodiscard]] const LibPq& Library();
 
 } // namespace ptk

@@ -21,7 +21,7 @@ std::string CopyStatement(const StoredTable& table)
     return fmt::format("COPY {} ({}) FROM STDIN", table.name, names);
 }
 
-// As the server's text form of a copy has it.
+// Adds one value in the text form of a server's copy.
 struct CopyField
 {
     std::string& lines;
@@ -30,7 +30,7 @@ struct CopyField
     void operator()(std::monostate) const { lines += "\\N"; }
     void operator()(std::int64_t value) const { lines += fmt::format("{}", value); }
 
-    // The shortest digits of the single that the number is read as.
+    // Adds the shortest digits of the single that the number is read as.
     void operator()(double value) const
     {
         if (!std::isfinite(value)) {

@@ -1,4 +1,4 @@
-// Rows on their way into a table of a server's database.
+// Writes many rows into a table of a server's database.
 #pragma once
 
 #include "store/engine/RowSink.h"
@@ -9,12 +9,12 @@ namespace ptk {
 
 class ServerLine;
 
-// For the owner of the table alone, whose triggers do not run. What the server refuses, later than the rows were added, it raises with the
-// place of the value.
+// Only the owner of the table may use it; the table's triggers do not run meanwhile. What the server refuses is raised later than the row
+// was added, with the place of the value.
 class PostgresSink final : public RowSink
 {
 public:
-    // Both outlive it.
+    // The line and the table outlive it.
     PostgresSink(ServerLine& line, const StoredTable& table);
     void Add(const Statement& from) override;
     void Finish() override;
@@ -22,7 +22,7 @@ public:
 private:
     ServerLine& m_line;
     const StoredTable& m_table;
-    std::string m_lines; // that were not sent yet
+    std::string m_lines; // rows that were not sent yet
 };
 
 } // namespace ptk

@@ -17,7 +17,7 @@ namespace ptk {
 
 namespace {
 
-// The server's numbers of its types, which never change.
+// The server's numbers for its types, which never change.
 namespace type {
 constexpr Oid kBoolean = 16;
 constexpr Oid kBytes = 17;
@@ -31,7 +31,7 @@ constexpr Oid kMoment = 1114;
 constexpr Oid kDecimal = 1700;
 } // namespace type
 
-// As the file declares such a column.
+// The type with which a file declares such a column.
 const char* Declaration(Oid of)
 {
     switch (of) {
@@ -52,7 +52,7 @@ const char* Declaration(Oid of)
     }
 }
 
-// Infinities and what is no number read as such.
+// Reads infinities, and what is no number, as such.
 double RealOf(std::string_view text)
 {
     double value = 0;
@@ -72,7 +72,7 @@ bool IsTrue(std::string_view text)
     return text == "t";
 }
 
-// One kind of value each, as the server reads it.
+// Writes a value of each kind as the server reads it.
 struct ParameterText
 {
     ServerValue operator()(std::monostate) const { return std::nullopt; }
@@ -160,7 +160,7 @@ void PostgresStatement::AskAhead()
     m_ahead = m_engine.AskAhead({m_text.sql, m_values, true, false});
 }
 
-// What is run again is worth preparing.
+// Takes the answer that was asked for ahead, or asks now. The statement is kept prepared from then on, since it may be run again.
 ServerResult PostgresStatement::Ask(Intent intent)
 {
     RefuseMissingParameters();
@@ -180,7 +180,7 @@ ServerCommand PostgresStatement::Command() const
     return {m_text.sql, m_values, m_usage == Usage::Often, false};
 }
 
-// A transaction that only reads lets nothing else be done.
+// A change that the server refuses because the transaction only reads is refused in the program's own words.
 void PostgresStatement::AskForRows()
 {
     try {

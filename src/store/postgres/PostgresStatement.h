@@ -51,11 +51,11 @@ private:
     PostgresEngine& m_engine;
     ServerText m_text;
     std::vector<ServerValue> m_values;
-    std::vector<bool> m_assigned; // by parameter
+    std::vector<bool> m_assigned; // whether each parameter has a value
     Usage m_usage;
     std::int64_t m_ahead = 0;           // number of the question whose answer is on its way, 0 without one
-    std::optional<ServerResult> m_rows; // of the answer that is being read, or the one that came last
-    int m_row = 0;                      // the next, or the one at which ForEachRow stands
+    std::optional<ServerResult> m_rows; // rows of the answer that is being read, or the one row that came last
+    int m_row = 0;                      // the next row, or the one at which ForEachRow stands
 };
 
 } // namespace ptk

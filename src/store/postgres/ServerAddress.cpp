@@ -28,10 +28,10 @@ std::map<std::string, std::string>& ToldPasswords()
 
 bool IsServerAddress(std::string_view name)
 {
-    return name.starts_with("postgresql:") || name.starts_with("postgres:"); // misspelt behind that, it is refused rather than made a file
+    return name.starts_with("postgresql:") || name.starts_with("postgres:"); // a misspelt address is refused rather than made a file
 }
 
-// Behind a password that was not written as it must be, its rest stands where host and database belong.
+// The rest of a password that was not written as it must be stands where host and database belong, so nothing with an @ is shown.
 std::string SaidServer(const std::string& address)
 {
     std::string said = "a server";

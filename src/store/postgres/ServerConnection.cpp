@@ -20,8 +20,8 @@ namespace ptk {
 
 namespace {
 
-constexpr int kOldestServer = 130000;             // version 13: what the edit trail asks of a transaction
-constexpr std::chrono::milliseconds kMargin(500); // before the program loses its patience the server says why
+constexpr int kOldestServer = 130000;             // version 13: the edit trail needs its functions
+constexpr std::chrono::milliseconds kMargin(500); // the server gives up that much before the program does, and says why
 constexpr std::chrono::milliseconds kToConnect(5000);
 
 constexpr std::size_t kInputsBetweenLooks = 256;             // of some kilobytes each
@@ -35,8 +35,8 @@ std::string NewToken()
     return fmt::format("{:08x}{:08x}", random(), random());
 }
 
-// What every session relies on. Others are not to wait for a program that was stopped in the midst of a change. The token shows whether
-// all of it arrived, and whether a later question goes to the same session.
+// The settings that every session relies on. Their limits keep others from waiting for a program that was stopped in the midst of a change.
+// The token shows whether all of them arrived, and whether a later question goes to the same session.
 std::string Settings(const LinePatience& patience, const std::string& token)
 {
     const auto limit = patience.whole ? (*patience.whole - std::min(*patience.whole / 2, kMargin)).count() : 0;
@@ -46,7 +46,7 @@ std::string Settings(const LinePatience& patience, const std::string& token)
                        limit, forLocks, token);
 }
 
-// "a, a": one for each address.
+// "a,a": the text once for each address.
 std::string Repeated(const std::string& text, std::size_t times)
 {
     std::string all = text;
@@ -102,7 +102,7 @@ void ServerConnection::Connect(const std::string& address, const ServerOptions& 
     Try(address, options, told);
     if (Library().status(m_handle.get()) != CONNECTION_OK && Library().connectionNeedsPassword(m_handle.get()) != 0) {
         if (const auto password = passwords::Of(address)) {
-            WaitUntil(LatestConnection()); // what a person took to type does not count
+            WaitUntil(LatestConnection()); // the time a person took to type does not count
             Try(address, options, password);
         }
     }
@@ -163,7 +163,7 @@ void ServerConnection::AwaitConnection()
     }
 }
 
-// Its end is told to the server at once, which then need not wait to see the transaction's.
+// Closes the connection, which tells the server at once: it need not wait to see that the transaction has ended.
 void ServerConnection::Drop() noexcept
 {
     m_handle.reset();
@@ -248,7 +248,7 @@ void ServerConnection::TakeInput()
     }
 }
 
-// The library keeps an answer whole, however long somebody makes it.
+// Refuses an answer that is too long: the library keeps it whole in memory, however long somebody makes it.
 void ServerConnection::RequireRoom()
 {
     const std::size_t now = MemoryInUse();
@@ -270,7 +270,6 @@ void ServerConnection::Flush()
     Require(left == 0 ? 1 : 0);
 }
 
-// Empty at the end of the answers to one statement.
 ServerResult ServerConnection::Next()
 {
     while (Library().isBusy(m_handle.get()) != 0) {

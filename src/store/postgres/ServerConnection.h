@@ -13,8 +13,8 @@ namespace ptk {
 
 class ServerOptions;
 
-// How long an answer is waited for: to its end no longer than the first; without that as long as something comes, and no longer than the
-// silence.
+// How long an answer is waited for. With `whole`, its end is waited for that long; without it, as long as something comes, and no longer
+// than `silence` for the next part.
 struct LinePatience
 {
     using Milliseconds = std::chrono::milliseconds;
@@ -26,33 +26,33 @@ struct LinePatience
     Milliseconds silence{0};
 };
 
-// Waits in slices (WhileWaiting) and no longer than its patience. What goes wrong with the connection itself raises 7, 9, 10 or 14 and
-// drops it: nothing of what was on its way is of use then.
+// Waits in slices (WhileWaiting) and no longer than its patience. A fault of the connection itself raises 7, 9, 10 or 14 and drops the
+// connection: nothing of what was on its way is of use then.
 class ServerConnection
 {
 public:
     using Clock = std::chrono::steady_clock;
 
-    // See ServerLine.
+    // See ServerLine's constructor.
     ServerConnection(const std::string& address, LinePatience patience, std::optional<Clock::time_point> until);
     ~ServerConnection();
     ServerConnection(const ServerConnection&) = delete;
     ServerConnection& operator=(const ServerConnection&) = delete;
 
-    // nullptr once it is dropped, which the library's functions take for a connection that is lost.
+    // The library's connection; nullptr once it is dropped, which the library's functions take for a connection that is lost.
     [[nodiscard]] PGconn* Get() const { return m_handle.get(); }
     [[nodiscard]] const std::string& Token() const { return m_token; }
 
-    // Of a question: from here on its patience counts, or the time until then.
+    // Begins a question: from here on its patience counts, or the time until `until`.
     void Begin(std::optional<Clock::time_point> until = std::nullopt, bool mayBeGivenUp = true);
 
-    // Until all that was sent has left.
+    // Waits until all that was sent has left.
     void Flush();
 
-    // The next result, holding nothing at the end of the answers to one statement.
+    // Waits for the next result, which holds nothing at the end of the answers to one statement.
     [[nodiscard]] ServerResult Next();
 
-    // What a function of the library answered: 0 is a connection that is lost.
+    // Drops the connection and raises 10 when `done`, which a function of the library answered, is 0.
     void Require(int done);
 
     void RequireExpected(bool isExpected);
@@ -81,10 +81,10 @@ private:
     std::string m_token;
     Clock::time_point m_until;
     Clock::time_point m_nextTurn;
-    bool m_silenceCounts = false; // each sign of life puts the end off
+    bool m_silenceCounts = false; // each sign of life puts m_until off
     bool m_mayBeGivenUp = true;
-    std::size_t m_inputs = 0; // taken for this answer
-    std::size_t m_memory = 0; // in use when it turned out to be a long one
+    std::size_t m_inputs = 0; // portions of input that were taken for this answer
+    std::size_t m_memory = 0; // bytes in use when this answer turned out to be a long one
 };
 
 } // namespace ptk

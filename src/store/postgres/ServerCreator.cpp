@@ -39,7 +39,7 @@ void RefuseUnfit(PostgresEngine& engine)
     }
 }
 
-// Whoever made these, or could make more, could have others run them.
+// Refuses what others made, or could make, in the schema: they could have everybody run it.
 void RefuseStrangers(PostgresEngine& engine)
 {
     const ServerStrangers strangers = FindStrangers(engine);

@@ -12,12 +12,12 @@ constexpr std::string_view kTakesNoChanges = "25006"; // also where only the tra
 
 struct Meaning
 {
-    std::string_view state; // of one fault, or the two characters of a class
+    std::string_view state; // of one fault, or the first characters of several
     std::int32_t number;
-    const char* words; // nullptr: the server's own, which also follow those that end in a blank
+    const char* words; // nullptr: the server's own words, which also follow words that end in a blank
 };
 
-// The first that fits.
+// The first meaning that fits is taken.
 constexpr Meaning kMeanings[] = {
     {"55P03", engine::Busy, "somebody else is changing what is to be read or changed"},
     {"40", engine::Busy, "somebody else is changing what is to be read or changed"},
@@ -40,7 +40,7 @@ constexpr Meaning kMeanings[] = {
     {"58030", engine::Lost, "the server's disk failed while reading or writing the database"},
 };
 
-// The first line; the library ends its own words with a line end.
+// The first line of a message: the library ends its own words with a line end.
 std::string OneLine(std::string_view message)
 {
     std::string line(message.substr(0, message.find('\n')));

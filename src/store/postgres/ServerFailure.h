@@ -9,27 +9,27 @@
 
 namespace ptk {
 
-// Source "PostgreSQL".
+// A failure with the source "PostgreSQL".
 class ServerFailure : public Failure
 {
 public:
     ServerFailure(std::int32_t number, std::string description);
 
-    // Of an SQLSTATE and the server's own words.
+    // The failure that an SQLSTATE and the server's own words tell.
     [[nodiscard]] static ServerFailure OfState(std::string_view state, std::string_view message);
 
-    // The connection is gone, or of no use any more.
+    // The failure of a connection that is gone, or of no use any more.
     [[nodiscard]] static ServerFailure OfLostConnection(std::string_view message);
 
     [[nodiscard]] bool IsLost() const { return m_lost; }
 
-    // Nothing was wrong with what was asked: two transactions stood in each other's way, and this one was given up whole.
+    // Whether two transactions stood in each other's way, and this one was given up whole: nothing was wrong with what was asked.
     [[nodiscard]] bool MayBeTriedAgain() const { return m_again; }
 
-    // The table that was asked for is not there.
+    // Whether the table that was asked for is missing.
     [[nodiscard]] bool IsMissingTable() const { return m_missingTable; }
 
-    // The server or this transaction is for reading only.
+    // Whether the server or this transaction is for reading only.
     [[nodiscard]] bool TakesNoChanges() const { return m_takesNoChanges; }
 
 private:

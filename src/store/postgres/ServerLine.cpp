@@ -9,7 +9,7 @@ namespace ptk {
 
 namespace {
 
-constexpr std::size_t kMostPrepared = 64; // statements; those with figures in their text would never end
+constexpr std::size_t kMostPrepared = 64; // statements; there is no end of those with figures in their text
 
 constexpr const char* kOwnToken = "SELECT current_setting('ptk.line', true)";
 constexpr const char* kSharedSession = "the connection does not keep its settings: between the program and the server stands something "
@@ -79,7 +79,7 @@ std::string ServerLine::NameOf(const std::string& sql)
         PostText({"DEALLOCATE ALL", {}, false, false});
         m_awaited.push_back({{}, false});
     }
-    std::string name = fmt::format("ptk{}_{}", m_connection.Token(), ++m_names); // also where others' statements come to the same session
+    std::string name = fmt::format("ptk{}_{}", m_connection.Token(), ++m_names); // unlike the names of others who come to the same session
     m_connection.Require(Library().sendPrepare(m_connection.Get(), name.c_str(), sql.c_str(), 0, nullptr));
     m_awaited.push_back({sql, false});
     m_prepared.emplace(sql, name);
@@ -94,7 +94,7 @@ std::string FieldOf(const ServerResult& result, int field)
     return text == nullptr ? "" : text;
 }
 
-// Of a copy, whose rows are many, the table, line and column: "COPY _change, line 3, column before: ...".
+// Where a copy failed, whose rows are many: "COPY _change, line 3, column before: ..." names the table, line and column.
 std::string PlaceIn(const ServerResult& result)
 {
     const std::string context = FieldOf(result, PG_DIAG_CONTEXT);
@@ -113,7 +113,7 @@ ServerFailure FailureOf(const ServerResult& result)
 
 namespace {
 
-// Of a question: what it fails with, or one of the ends of what was asked. A copy is begun by BeginCopy alone.
+// Whether a result answers a question, by a failure or by one of the ends of what was asked. A copy is begun by BeginCopy alone.
 bool IsAnswer(const ServerResult& result)
 {
     switch (Library().resultStatus(result.Get())) {
@@ -135,7 +135,7 @@ std::vector<ServerResult> ServerLine::Hear(const Portion& portion)
     return Hear(portion, NextEnd());
 }
 
-// Behind the rows that nobody took.
+// Answers the end of what was asked, past the rows that nobody took.
 ServerResult ServerLine::NextEnd()
 {
     ServerResult result = m_connection.Next();
@@ -145,7 +145,7 @@ ServerResult ServerLine::NextEnd()
     return result;
 }
 
-// What was posted is answered up to the first failure; behind it nothing was done.
+// Takes the answers to what was sent off together, up to the first failure; behind it nothing was done.
 std::vector<ServerResult> ServerLine::Hear(const Portion& portion, ServerResult first)
 {
     std::vector<ServerResult> results;
@@ -219,7 +219,7 @@ std::vector<ServerResult> ServerLine::Ask(const std::vector<ServerCommand>& comm
     return results;
 }
 
-// What stands between may drop settings without a word, or hand each transaction to another session.
+// Something between the program and the server may drop settings without a word, or hand each transaction to another session.
 void ServerLine::RequireOwnSession(const ServerResult& told)
 {
     const char* const encoding = Library().parameterStatus(m_connection.Get(), "client_encoding");
@@ -237,7 +237,7 @@ void ServerLine::Verify()
     }
 }
 
-// What fails ahead of the end of a transaction has ended it as well.
+// A question on its way that fails has ended the transaction as well, so nobody needs to hear of its failure.
 void ServerLine::SendUnheard(const char* sql)
 {
     m_connection.Begin();
@@ -281,7 +281,7 @@ void ServerLine::HearNext()
     }
 }
 
-// A transaction that failed prepared nothing behind its failure: nobody is to ask for that by its name.
+// After a failure the server prepared nothing of what stood behind it. This must be heard before anybody asks for that by its name.
 void ServerLine::HearPreparedInVain()
 {
     const auto mayBeInVain = [](const Portion& portion) {
@@ -395,7 +395,7 @@ void ServerLine::BeginCopy(const std::string& sql)
     }
 }
 
-// All of it leaves before the next portion comes: what waits is in memory.
+// Sends a portion whole before the next one comes, since what waits to be sent is in memory.
 void ServerLine::PutCopy(std::string_view lines)
 {
     m_connection.Begin();
@@ -417,7 +417,7 @@ std::vector<std::string> ServerLine::TakeNotices()
     std::vector<std::string> notices;
     if (IsAlive()) {
         m_connection.Begin();
-        HearAllPortions(); // what is told lies behind it
+        HearAllPortions(); // the notices come behind these answers
         while (PGnotify* const notice = Library().notifies(m_connection.Get())) {
             notices.emplace_back(notice->extra);
             Library().freemem(notice);

@@ -18,7 +18,7 @@ namespace ptk {
 // A value for a parameter as the server reads it; nothing for a null.
 using ServerValue = std::optional<std::string>;
 
-// One statement, of one command, to be sent.
+// A statement to be sent, which holds one command.
 struct ServerCommand
 {
     std::string sql;
@@ -33,70 +33,71 @@ struct NumberedQuestion
     ServerCommand command;
 };
 
-// Everything that waits does so in slices (WhileWaiting), for no longer than its patience, and raises 5, 9 or 10 then; a line that was
-// waited for in vain is lost. So is one that answers what was not asked for, or more than memory should hold (7). After a failure that the
-// server told the line goes on.
+// Each wait is cut in slices (WhileWaiting) and ends with the line's patience. It raises 10 when the time is over, 9 when it was given up,
+// and 5 when it is asked for within the turn of another wait. A line that was waited for in vain is lost. So is one that answers what was
+// not asked for (10), or more than memory should hold (7). After a failure that the server told the line goes on.
 class ServerLine
 {
 public:
     using Clock = ServerConnection::Clock;
 
-    // Raises 14 when the server cannot be reached or does not let in within five seconds, or its patience where that is less, and what
-    // ServerOptions raises of the address. `until` is a moment before which all of it is to be done.
+    // Connects. Raises 14 when the server cannot be reached or does not let in within five seconds, or its patience where that is less, and
+    // what ServerOptions raises for the address. All of it is done before `until`, unless somebody types a password, after which the time
+    // begins anew.
     ServerLine(const std::string& address, LinePatience patience, std::optional<Clock::time_point> until = std::nullopt);
 
-    // All in one round trip, one after the other up to the first that fails, whose failure is raised. Answers one result each. The first
-    // one also shows whether this is a session of its own with the settings that were asked for; raises 14 where it is not. `behind` is
-    // sent along and taken later, as if it were sent ahead when this is answered.
+    // Sends all commands in one round trip. The server runs one after the other up to the first that fails, whose failure is raised.
+    // Answers one result each. The first call also checks whether this is a session of its own with the settings that were asked for, and
+    // raises 14 where it is not. `behind` is sent along; its answers are taken later, as if SendAhead had sent it.
     std::vector<ServerResult> Send(const std::vector<ServerCommand>& commands, std::optional<Clock::time_point> until = std::nullopt,
                                    const std::vector<NumberedQuestion>& behind = {});
 
-    // Sends what ends a transaction, as Send does: that wait is not given up, since what was given up would be done all the same.
+    // Sends what ends a transaction, as Send does. The wait is not given up, since the transaction would end all the same.
     std::vector<ServerResult> Finish(const std::vector<ServerCommand>& commands);
 
     // Sends what ends a transaction and does not wait for the answer, which nobody needs.
     void SendUnheard(const char* sql);
 
-    // A question whose answer is taken later, by its number. Several can be on their way; what is asked behind them hears them first.
-    // TakeAhead answers nothing when something that ends a transaction was sent since.
+    // Sends a question whose answer TakeAhead takes later, by its number. Several can be on their way; what is asked after them takes their
+    // answers in first. TakeAhead answers nothing when something that ends a transaction was sent since.
     void SendAhead(const NumberedQuestion& question);
     [[nodiscard]] std::optional<ServerResult> TakeAhead(std::int64_t number);
 
-    // A question whose rows are answered one at a time, and behind the last one a result that has only their columns. What is asked before
-    // that drops the rows that were not taken; NextRow raises 21 then.
+    // Asks a question whose rows come one at a time. Both answer the next row, or behind the last one a result that has only the columns.
+    // Whatever else is asked before that drops the rows that were not taken; NextRow raises 21 then.
     ServerResult BeginRows(const ServerCommand& command);
     ServerResult NextRow();
 
-    // Several commands in one text, in one round trip.
+    // Runs several commands of one text, in one round trip.
     void RunScript(const char* sql);
 
-    // A COPY ... FROM STDIN, its lines in portions, and its end, which raises what the server refused. Nothing else is sent in between;
-    // a copy that was not ended makes an end of the line.
+    // A COPY ... FROM STDIN: PutCopy sends its lines in portions, and EndCopy raises what the server refused. Nothing else is sent in
+    // between. A copy that is not ended makes the line useless.
     void BeginCopy(const std::string& sql);
     void PutCopy(std::string_view lines);
     void EndCopy();
 
-    // False where it was lost: also noticed while nothing was asked. Does not wait.
+    // False when the line was lost, also while nothing was asked. Does not wait.
     [[nodiscard]] bool IsAlive() { return m_connection.IsAlive(); }
 
-    // What LISTEN promised, in the order of the commits that told it; each once. Does not wait for more.
+    // The notices that LISTEN asked for, in the order of the commits that sent them; each is answered once. Does not wait for more.
     [[nodiscard]] std::vector<std::string> TakeNotices();
 
-    // What the setting ptk.line of this session holds, and of no other.
+    // The value of the setting ptk.line in this session, which no other session has.
     [[nodiscard]] const std::string& Token() const { return m_connection.Token(); }
 
-    // How often an answer was waited for. One that was sent off before another wait came along in that.
+    // How often an answer was waited for. A question that was sent off before the wait for another began costs no wait of its own.
     [[nodiscard]] std::int64_t RoundTrips() const { return m_roundTrips; }
 
 private:
     // An answer that is to come.
     struct Awaited
     {
-        std::string prepared; // the statement, where the answer says no more than that it is prepared
+        std::string prepared; // the statement's text, where the answer only says that it is prepared
         bool wanted = true;
     };
 
-    // What was sent off together and is to be heard.
+    // Commands that were sent off together and whose answers are still to be taken.
     struct Portion
     {
         std::vector<Awaited> awaited;
@@ -126,13 +127,13 @@ private:
     void HearAllPortions();
 
     ServerConnection m_connection;
-    std::map<std::string, std::string, std::less<>> m_prepared; // names by statements
-    std::vector<Awaited> m_awaited;                             // of what was posted and not sent off yet
+    std::map<std::string, std::string, std::less<>> m_prepared; // names of prepared statements, by their text
+    std::vector<Awaited> m_awaited;                             // answers to what was posted and not sent off yet
     std::deque<Portion> m_onTheirWay;                           // in the order in which they were sent off
-    std::map<std::int64_t, ServerResult> m_answers;             // to questions ahead, heard and not taken yet
+    std::map<std::int64_t, ServerResult> m_answers;             // to questions ahead, that came and were not taken yet
     std::int64_t m_roundTrips = 0;
-    std::int32_t m_names = 0; // given so far
-    bool m_verified = false;  // the session is its own
+    std::int32_t m_names = 0; // names given so far
+    bool m_verified = false;  // whether the session was found to be its own
 };
 
 } // namespace ptk

@@ -23,7 +23,7 @@ struct NameAnswer
     std::vector<std::string> addresses;
 };
 
-// Shared with the thread that asks, which ends when the system lets it, perhaps long after nobody waits any more.
+// Shared with the thread that asks the name server. It ends when the system lets it, perhaps long after nobody waits any more.
 struct Lookup
 {
     std::mutex mutex;

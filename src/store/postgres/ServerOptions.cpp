@@ -33,7 +33,7 @@ bool IsSocketFolder(const std::string& host)
     return host.empty() || host.front() == '/' || host.front() == '@';
 }
 
-// What a failure may name: where it was, and the library's words for it.
+// Whether a value of the address must not be shown: a failure may name where the server is, and nothing else.
 bool IsForOtherEyes(std::string_view keyword)
 {
     constexpr std::array<std::string_view, 4> kShown{"host", "hostaddr", "port", "dbname"};
@@ -77,7 +77,7 @@ std::string ServerOptions::Of(std::string_view keyword) const
     return {};
 }
 
-// As the library takes them: an address in figures before a name.
+// The host as the library takes it: an address in figures before a name.
 std::string ServerOptions::Host() const
 {
     for (std::string host : {Of("hostaddr"), EnvironmentValue("PGHOSTADDR"), Of("host"), EnvironmentValue("PGHOST")}) {
@@ -94,7 +94,7 @@ bool ServerOptions::IsLocal() const
     return IsSocketFolder(host) || host == "localhost" || host == "::1" || (IsNumericHost(host) && host.starts_with("127."));
 }
 
-// What a service names the library alone knows.
+// The host of a service is known to the library alone, so it is not looked up.
 std::string ServerOptions::NameToLookUp() const
 {
     const std::string host = Host();

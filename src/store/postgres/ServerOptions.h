@@ -1,4 +1,4 @@
-// What stands in the address of a server.
+// The parts of a server's address.
 #pragma once
 
 #include "store/postgres/LibPq.h"
@@ -9,26 +9,25 @@
 
 namespace ptk {
 
-// As the client library reads it. Nothing of an address but host and database is for other eyes: what else is wrong with it is said without
-// its words.
+// Reads an address as the client library does. Only the host, its port and the database may be told to others: any other fault of an
+// address is told without the address's words.
 class ServerOptions
 {
 public:
-    // Raises 14 for an address that cannot be read, and for one with a password in it: what stands in the configuration is read by too
-    // many.
+    // Raises 14 for an address that cannot be read, and for one with a password in it, since too many can read the configuration.
     explicit ServerOptions(const std::string& address);
 
-    // Empty where the address does not say it.
+    // The value of a keyword; empty where the address does not say it.
     [[nodiscard]] std::string Of(std::string_view keyword) const;
 
-    // The name to be looked up for a connection, the environment's where the address has none; empty where there is nothing to look up.
+    // The name to be looked up for a connection, the environment's where the address has none. Empty where there is nothing to look up.
     [[nodiscard]] std::string NameToLookUp() const;
 
-    // How the line is to be protected where the address does not say it: a password goes to another computer over TLS alone. Empty where
-    // what the library does by itself is enough.
+    // The sslmode for an address that does not say one: a password goes to another computer over TLS alone. Empty where what the library
+    // does by itself is enough.
     [[nodiscard]] std::string ImpliedProtection() const;
 
-    // The library's words in one line, without values of the address that they repeat.
+    // The library's words in one line, without values of the address that others may not see.
     [[nodiscard]] std::string Cleaned(std::string words) const;
 
 private:

@@ -26,7 +26,7 @@ public:
     [[nodiscard]] Oid TypeOf(int column) const { return Library().ftype(Get(), column); }
     [[nodiscard]] bool IsNull(int row, int column) const { return Library().getisnull(Get(), row, column) != 0; }
 
-    // Valid as long as this lives.
+    // The text of a cell, valid as long as this lives.
     [[nodiscard]] std::string_view Text(int row, int column) const
     {
         return {Library().getvalue(Get(), row, column), static_cast<std::size_t>(Library().getlength(Get(), row, column))};

@@ -7,7 +7,7 @@ namespace ptk {
 
 namespace {
 
-// In front of each question. All values have the very types that the operators and functions take, so that no stranger fits better.
+// Stands in front of each question. All values have the very types that the operators and functions take, so that no stranger fits better.
 constexpr const char* kPlace = "WITH place AS (SELECT relnamespace AS schema, relowner AS owner FROM pg_class "
                                "WHERE oid = CAST(to_regclass(CAST('_structure' AS text)) AS oid)), "
                                "extended AS (SELECT classid, objid FROM pg_depend WHERE deptype = 'e') ";

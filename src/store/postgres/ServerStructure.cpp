@@ -31,7 +31,7 @@ struct Upgrade
     const char* const& sql;
 };
 
-// In this order.
+// The scripts in the order in which they are run.
 constexpr Upgrade kUpgrades[] = {
     {3, kServerTrailFunctionsSql},
     {3, kServerStructure3Sql},

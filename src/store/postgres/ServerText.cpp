@@ -35,7 +35,7 @@ std::string SmallName(std::string_view quoted)
     return '"' + LowerCase(quoted.substr(1, quoted.size() - 2)) + '"';
 }
 
-// Collations are the server's own, and named as it does.
+// Whether the name of a collation comes here: these are the server's own, and named as it does.
 bool IsBehindCollate(const std::vector<Token>& tokens, std::size_t at)
 {
     while (at > 0 && tokens[at - 1].kind == TokenKind::Blank) {
@@ -49,7 +49,7 @@ bool IsNameOfOurs(const std::vector<Token>& tokens, std::size_t at)
     return tokens[at].kind == TokenKind::Quoted && tokens[at].text.size() >= 2 && !IsBehindCollate(tokens, at);
 }
 
-// Most statements: those of a pay period have colons only in their times of day.
+// Whether nothing is to be rewritten, as in most statements: those of a pay period have colons only in their times of day.
 bool IsTheSameOnAServer(std::string_view statement)
 {
     for (std::size_t at = statement.find_first_of(":\"[`"); at != std::string_view::npos; at = statement.find_first_of(":\"[`", at + 1)) {

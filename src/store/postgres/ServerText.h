@@ -14,11 +14,11 @@ struct ServerText
     std::vector<std::string> parameters;
 };
 
-// ":name" becomes "$1", the same name the same number. Names in quotes or brackets are written in small letters, as the server itself
-// writes those without: its tables are the file's, whatever the case of their letters.
+// Translates a statement. ":name" becomes "$1", the same name the same number. Names in quotes or brackets become small letters, as which
+// the server itself reads other names: its tables are the file's, whatever the case of their letters.
 [[nodiscard]] ServerText TranslateForServer(std::string_view statement);
 
-// False for one of blanks, comments and semicolons alone, which a server runs as if it had done something.
+// False for a text of blanks, comments and semicolons alone, which a server runs as if it had done something.
 [[nodiscard]] bool HoldsStatement(std::string_view text);
 
 } // namespace ptk

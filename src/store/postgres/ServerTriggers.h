@@ -5,8 +5,8 @@
 
 namespace ptk {
 
-// Of those tables that have been told of as long as there is a trail: their CREATE statements. Each tells the function ptk_tell its table
-// and columns in the program's spelling; a column of date-times ends in @.
+// The CREATE statements of the triggers on those tables whose changes have been kept as long as there is a trail. Each trigger tells the
+// function ptk_tell its table and columns in the program's spelling; a column of date-times ends in @.
 [[nodiscard]] std::string ServerTrailTriggers();
 
 } // namespace ptk
