@@ -1,4 +1,4 @@
-// Many rows in one transaction, for sample data and measurements: a commit per row would flush the disk for each.
+// Adds many rows in one transaction, for sample data and measurements: a commit per row would flush the disk for each.
 #pragma once
 
 #include "store/rows/Rows.h"
@@ -11,8 +11,8 @@ namespace ptk {
 class Engine;
 class Statement;
 
-// The rows' own keys are not looked at: the database assigns them and each member answers the new one. Raises the engine's failures;
-// nothing is kept unless Commit returns. REQUIRES: the engine is open and outlives the writer.
+// Keys in the rows are ignored: the database assigns new ones, which the members answer. Raises the engine's failures; nothing is kept
+// unless Commit returns. REQUIRES: the engine is open and outlives the writer.
 class BulkWriter
 {
 public:
@@ -25,10 +25,10 @@ public:
     std::int32_t AddEmployee(const EmployeeRow& employee);
     std::int32_t AddTimeRecord(const TimeRecordRow& record);
 
-    // The account that every new database holds: nobody can log in with it any more.
+    // Closes the account that every new database holds: nobody can log in with it any more.
     void CloseShippedAccount();
 
-    // On disk when it returns.
+    // Puts all rows on the disk before it returns.
     void Commit();
 
 private:

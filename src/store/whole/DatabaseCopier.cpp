@@ -22,7 +22,7 @@ namespace ptk {
 namespace {
 
 constexpr std::int32_t kInterrupted = 9;  // the engines' number
-constexpr std::int64_t kPortion = 10'000; // rows between two tellings
+constexpr std::int64_t kPortion = 10'000; // rows between two calls of the progress
 constexpr std::size_t kLongestShown = 60; // bytes of a value
 
 constexpr const char* kUnequal = "the copy does not hold as many rows as the database; nothing was kept of it";
@@ -49,7 +49,7 @@ std::int64_t CountRows(Engine& engine, const StoredTable& table)
     return NumberFrom(engine, fmt::format("SELECT COUNT(*) FROM {}", table.name));
 }
 
-// Files of earlier versions lack tables; a server has all of them.
+// Whether the source has a table: files of earlier versions lack some, a server has all of them.
 bool HasTable(const Source& source, const StoredTable& table)
 {
     return !source.isFile ||
@@ -85,7 +85,7 @@ void NameForeignColumns(Engine& file, const StoredTable& table, std::vector<std:
     });
 }
 
-// What other tools added to a file.
+// The tables and columns that other tools added to a file.
 std::vector<std::string> ForeignParts(Engine& file)
 {
     std::vector<std::string> names;
@@ -132,7 +132,7 @@ bool HasColumn(Engine& file, const StoredTable& table, const char* column)
                file, fmt::format("SELECT COUNT(*) FROM pragma_table_info('{}') WHERE name = '{}' COLLATE NOCASE", table.name, column)) != 0;
 }
 
-// A file's column that is not there yet is null in every row.
+// The question for a table's rows. A column that the file does not have yet is null in every row.
 std::string SelectText(const Source& source, const StoredTable& table, const std::string& condition = "TRUE")
 {
     std::string names;
@@ -144,7 +144,7 @@ std::string SelectText(const Source& source, const StoredTable& table, const std
                        table.hasKey ? fmt::format(" ORDER BY {}", table.columns.front().name) : std::string());
 }
 
-// What another tool wrote into a file's trail may be anything; a server's copy would be refused only at its end.
+// Another tool may have written anything into a file's trail, and a server would refuse it only at the end of the copy.
 void RefuseNoJson(const Source& file, const StoredTable& table)
 {
     for (std::size_t i = 0; i < table.columns.size(); ++i) {
@@ -225,7 +225,7 @@ private:
     std::int64_t m_all = 0;
 };
 
-// Page by page: what other tools added comes along.
+// Copies page by page, so that what other tools added comes along.
 CopyAccount CopyFile(const std::string& from, const std::string& to)
 {
     RefuseTakenPath(to);

@@ -8,16 +8,16 @@ namespace ptk {
 
 [[nodiscard]] bool IsFileName(std::string_view name);
 
-// As it is shown to people and written into logs: see SaidServer; a file's name as it is.
+// A database's name as it is shown to people and written into logs: a file's as it is, a server's as SaidServer tells it.
 [[nodiscard]] std::string SaidDatabase(const std::string& name);
 
-// The name that the configuration gives, as engines take it: a file's in the platform's own form.
+// The name that the configuration gives, as engines take it: a file's path in the platform's own form.
 [[nodiscard]] std::string NativeName(const std::string& configured);
 
-// The name that somebody typed in the working folder, good in any folder.
+// The name that somebody typed in the working folder, made good in any folder.
 [[nodiscard]] std::string WholeName(const std::string& typed);
 
-// The folder that must be there for the database: the file's, for a server's the program's own.
+// The folder that must be there for the database: for a file its own, for a server the program's.
 [[nodiscard]] std::string HomeOf(const std::string& name, const std::string& programFolder);
 
 } // namespace ptk

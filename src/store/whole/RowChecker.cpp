@@ -43,7 +43,7 @@ std::vector<const char*> NamesOf(const TableColumns& columns)
     return names;
 }
 
-// What cannot be used goes behind `found`, without full stops.
+// Puts what cannot be used behind `found`, without full stops.
 void FindIn(RecordSet& rows, const TableColumns& columns, void (*read)(RowReader& reader), std::vector<std::string>& found)
 {
     for (RowReader reader(rows, columns, found); !rows.EndOfFile(); rows.MoveNext()) {
@@ -72,7 +72,7 @@ void RowChecker::CheckTable(const TableColumns& columns, ReadRow read)
     }
 }
 
-// Most finds are the table's own, which have been told by then; a query of another tool may have values of its own.
+// Most finds are the table's own and were told before; a query that another tool wrote may answer values of its own.
 void RowChecker::TryListing(const char* query, const TableColumns& columns, ReadRow read)
 {
     try {
@@ -138,7 +138,7 @@ void RowChecker::TryAction(const char* query, std::span<const Parameter> paramet
 
 void RowChecker::Unusable(const char* query, const Failure& failure)
 {
-    m_engine.GiveUp(); // as above
+    m_engine.GiveUp(); // a server answers nothing more in this transaction
     std::string why = failure.Description();
     if (why.ends_with('.')) {
         why.pop_back();

@@ -12,19 +12,20 @@
 
 namespace ptk {
 
-// Finds go behind `problems` as sentences, each once. Reads the rows in portions, so that any number of them takes the same memory.
+// Puts finds behind `problems` as sentences, each once. Reads the rows in portions, so that any number of them takes the same memory.
 class RowChecker
 {
 public:
     RowChecker(Engine& engine, std::vector<std::string>& problems) : m_engine(engine), m_problems(problems) {}
 
-    // Of all tables but those that lack a column, and whether the stored queries of the lists run and answer the columns that are read.
+    // Checks the rows of options, companies, employees and time records, but not of tables that lack a column, which are `incomplete`.
+    // Checks also whether the stored queries of the lists run and answer the columns that are read.
     void CheckRows(const std::set<std::string>& incomplete);
 
-    // Of _Payday: whether the days of each row are days.
+    // Checks whether the days of each row of _Payday can be read and do not run backward.
     void CheckClosings();
 
-    // Of the stored queries that store: whether they could run and know the parameters that they are given.
+    // Checks whether the stored queries that store could run and know the parameters that they are given.
     void TryActions();
 
 private:

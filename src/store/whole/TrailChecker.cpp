@@ -69,7 +69,7 @@ public:
     }
 
 private:
-    // A table that is not there changes nothing; a file may be of a version that did not know it.
+    // Reports a missing routine of the trail, or of a table that is there: a file may be of a version that did not know the table.
     void Missing(const Routine& own)
     {
         const bool ofTrail = own.name == "_Edit" || own.table == "_Edit";
@@ -80,7 +80,7 @@ private:
         }
     }
 
-    // Each once: a table has three triggers.
+    // Reports each problem once: a table has three triggers.
     void Report(const std::string& problem)
     {
         if (std::find(m_problems.begin(), m_problems.end(), problem) == m_problems.end()) {

@@ -1,4 +1,4 @@
-// Looks whether a database file still writes its own edit trail, and who else does something when it is written.
+// Checks whether a database file still writes its own edit trail, and whether others do something when it is written.
 #pragma once
 
 #include "store/sqlite/SqliteEngine.h"
@@ -8,9 +8,9 @@
 
 namespace ptk {
 
-// Sentences go behind `problems`: triggers and views of the trail that are missing or are not the program's, by their texts, since a trail
-// that tells nothing refuses no write, and triggers of others on the program's tables. `hasTrail`: a file of an earlier version has none,
-// and misses nothing.
+// Puts sentences behind `problems`: about triggers and views of the trail that are missing or whose texts are not the program's, since a
+// trail that tells nothing refuses no write, and about triggers of others on the program's tables. Without `hasTrail`, as in a file of an
+// earlier version, nothing of a trail is missing.
 void CheckRoutines(SqliteEngine& engine, bool hasTrail, std::vector<std::string>& problems);
 
 } // namespace ptk
