@@ -38,8 +38,7 @@ int NumberAt(std::string_view name, std::size_t at, std::size_t length)
 
 std::int64_t WeekOf(DateTime moment)
 {
-    return (moment.DayNumber() - moment.Weekday() + 1) /
-           kDaysOfWeek; // the zero day is a Saturday, so Sundays are whole weeks after the second
+    return (moment.DayNumber() - moment.Weekday() + 1) / kDaysOfWeek; // day 0 is a Saturday, so Sundays are whole weeks after day 1
 }
 
 std::int64_t MonthOf(DateTime moment)
@@ -53,7 +52,7 @@ struct Dated
     std::string name;
 };
 
-// Newest first.
+// The backups among these names that are not later than `newest`, the newest first.
 std::vector<Dated> UpTo(std::span<const std::string> names, DateTime newest)
 {
     std::vector<Dated> dated;
@@ -66,7 +65,8 @@ std::vector<Dated> UpTo(std::span<const std::string> names, DateTime newest)
     return dated;
 }
 
-// Whether the newest lies so far ahead of those of the days before it that its clock may have been wrong. One wrong day makes several.
+// Whether the newest lies so far ahead of those of the days before it that its clock may have been wrong. Those of its own day do not
+// count: a clock that is wrong for a day makes several.
 bool IsFarAhead(std::span<const Dated> dated, DateTime newest)
 {
     const auto before =
@@ -109,7 +109,7 @@ std::vector<std::string> DispensableBackups(std::span<const std::string> names, 
         const std::int64_t day = DaysBetween(backup.made, newest);
         const std::int64_t week = WeekOf(newest) - WeekOf(backup.made);
         const std::int64_t month = MonthOf(newest) - MonthOf(backup.made);
-        // Each has to take its place, also where another rule keeps it already.
+        // Each backup takes its place under every rule, also where another rule keeps it already.
         const bool ofDay = day < kDays && days.insert(day).second;
         const bool ofWeek = week < kWeeks && weeks.insert(week).second;
         const bool ofMonth = month < kMonths && months.insert(month).second;

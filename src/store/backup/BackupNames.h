@@ -20,7 +20,7 @@ namespace ptk {
 // Which of these names may go, now that the newest backup was made at `newest`. Kept are the ten newest, and the newest of each day (that
 // of `newest` and the 13 before), of each week from Sunday (its own and the 7 before) and of each month (its own and the 23 before). Names
 // dated later than `newest`, by a clock that went wrong, stay and take nobody's place; what is no backup's name stays. Nothing may go where
-// `newest` lies more than 40 days ahead of the one before it, those of its own day aside: the clock that is wrong may be its own.
+// `newest` lies more than 40 days after the newest backup of an earlier day: its own clock may be wrong.
 [[nodiscard]] std::vector<std::string> DispensableBackups(std::span<const std::string> names, DateTime newest);
 
 } // namespace ptk

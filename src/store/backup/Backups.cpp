@@ -26,9 +26,9 @@ namespace fs = std::filesystem;
 
 constexpr const char* kBackupIsFile = "a backup is a file; ptk-console copy-database copies into a server's database";
 
-constexpr std::string_view kDamagedEnding = "-damaged.mdb"; // of what a restore could only keep the bytes of
+constexpr std::string_view kDamagedEnding = "-damaged.mdb"; // of a database whose bytes alone a restore could keep
 
-// Nothing yet, or the first bytes of a database of this program. The engine may write them last.
+// Whether a draft has the first bytes of a database of this program, or none yet: the engine may write them last.
 bool BeginsAsOurs(const std::string& path)
 {
     constexpr std::string_view kSignature("SQLite format 3\0", 16);
@@ -42,7 +42,7 @@ bool BeginsAsOurs(const std::string& path)
     return start.find_first_not_of('\0') == std::string::npos || (start.starts_with(kSignature) && id == kApplicationId);
 }
 
-// What killed backups left, whatever name they were to get.
+// Removes what killed backups left, whatever name they were to get.
 void ClearFolder(const std::string& folder)
 {
     RemoveAbandonedDrafts(folder, [](const std::string& target, const std::string& draft) {
@@ -51,7 +51,7 @@ void ClearFolder(const std::string& folder)
     });
 }
 
-// The first free name from that moment on.
+// The first free path for a backup that is named by `named` or a later second; `named` is then that second.
 std::string NextFreePath(const std::string& folder, DateTime& named)
 {
     std::string path = folder + '/' + BackupName(named);
@@ -68,7 +68,7 @@ void PrepareFolder(const std::string& folder)
     ClearFolder(folder);
 }
 
-// Into a file of the program's own form, which is read anywhere without a server.
+// Backs a server's database up into a file of the program's own form, which is read anywhere without a server.
 void BackUpServer(const std::string& address, const std::string& target, const CopyProgress& progress)
 {
     RowProgress rows;
@@ -146,11 +146,11 @@ void PruneBackups(const std::string& folder, const std::string& newest, const st
 {
     const auto made = BackupMoment(newest);
     std::vector<std::string> names;
-    if (!made || !Succeeds([&] { names = NamesIn(folder); })) { // the next pruning comes by it again
+    if (!made || !Succeeds([&] { names = NamesIn(folder); })) { // the next pruning tries it again
         return;
     }
     for (const std::string& name : DispensableBackups(names, *made)) {
-        std::error_code ignored; // as above
+        std::error_code ignored; // what cannot be removed stays for the next pruning
         const fs::path path = fs::path(folder) / name;
         if (name != newest && (spared.empty() || !fs::equivalent(path, spared, ignored))) {
             fs::remove(path, ignored);

@@ -23,17 +23,18 @@ namespace ptk {
 // Raises 11 when the database is damaged.
 std::string BackUp(SqliteEngine& database, const std::string& folder, DateTime now, const CopyProgress& progress = {});
 
-// A backup as one operation on the closed database `path`, which raises what opening it raises, too: 5 when a file is held. Of a server,
-// whose address that is, a backup is a file; `progress` is told of rows then.
+// Opens the closed database `path` for one backup, and raises what opening it raises, too: 5 when a file is held. A server's database,
+// whose address `path` is, is backed up into a file, too; `progress` is told of rows then.
 std::string BackUp(const std::string& path, const std::string& folder, DateTime now, const CopyProgress& progress = {});
 
-// Why no backup can be of this name, in a sentence without a full stop; empty where one can.
+// Why no backup can have this name, in a sentence without a full stop; empty where one can.
 [[nodiscard]] std::string BackupRefusal(const std::string& target);
 
-// A backup of that database under a name of one's own. Raises 75 when there is something of that name, 76 without its folder.
+// Backs the database `path` up to the file `target`. Raises 75 when there is something of that name, 76 without its folder.
 void BackUpTo(const std::string& path, const std::string& target, const CopyProgress& progress = {});
 
-// Removes what need not be kept now that the backup of this name was made; never that one, nor `spared`. See DispensableBackups.
+// Removes backups that need not be kept now that the backup named `newest` was made; never that one, nor the file `spared`. See
+// DispensableBackups.
 void PruneBackups(const std::string& folder, const std::string& newest, const std::string& spared = "");
 
 // Puts a finished backup into a second folder, whole or not at all, and prunes there. Raises 76 where that folder is missing: it is not
@@ -44,14 +45,14 @@ struct BackupEntry
 {
     std::string name;
     std::int64_t size = 0;                // bytes
-    std::optional<BackupContent> content; // nothing for one that is of no use
-    std::string fault;                    // why
+    std::optional<BackupContent> content; // nothing for a backup that is of no use
+    std::string fault;                    // why it is of no use
 };
 
-// By their names, newest first; empty without the folder. Raises 70 and the like of one that cannot be read.
+// The names of the backups in a folder, newest first; none without the folder. Raises 70 and the like for a folder that cannot be read.
 [[nodiscard]] std::vector<std::string> BackupsIn(const std::string& folder);
 
-// The backup of that name in the folder, checked whole; without content also where `progress` ended it.
+// Checks the backup of that name in the folder whole. There is no content also where `progress` ended it.
 [[nodiscard]] BackupEntry CheckedBackup(const std::string& folder, const std::string& name, const CopyProgress& progress = {});
 
 } // namespace ptk

@@ -41,11 +41,11 @@ BackupContent ContentOf(SqliteEngine& engine)
     return content;
 }
 
-// What goes on behind while the caller's windows live: how far it is, and whether it is to end.
+// Work on a thread of its own while the caller's windows live: how far it is, and whether it is to end.
 class Behind
 {
 public:
-    // For the work, from its own thread.
+    // The progress that the work calls on its own thread.
     [[nodiscard]] CopyProgress Told()
     {
         return [this](std::int32_t done, std::int32_t all) {
@@ -55,7 +55,7 @@ public:
         };
     }
 
-    // Raises what the work raises, once all of it has come to its end.
+    // Waits for the work, and raises what it raises once it has come to its end.
     template <typename Result>
     Result Await(std::future<Result>& work, const CopyProgress& progress)
     {
@@ -81,13 +81,13 @@ CopyProgress PartOf(const CopyProgress& whole, std::int32_t part, std::int32_t p
         return {};
     }
     return [=](std::int32_t done, std::int32_t all) {
-        constexpr std::int32_t kMost = 1 << 20; // so that any number of parts of any file can be told
+        constexpr std::int32_t kMost = 1 << 20; // so that parts of a file of any size can be told
         const auto scaled = static_cast<std::int32_t>(static_cast<double>(done) / all * kMost);
         return whole(part * kMost + scaled, parts * kMost);
     };
 }
 
-// The copy goes to the disk while it is checked. Nobody cuts it short meanwhile, so it need not be read into buffers.
+// The copy goes to the disk while it is checked. Nobody cuts it short meanwhile, so it is mapped and need not be read into buffers.
 void FillChecked(SqliteEngine& database, FileDraft& draft, const CopyProgress& progress)
 {
     database.CopyTo(draft.Path(), PartOf(progress, 0, 2));

@@ -26,13 +26,14 @@ namespace fs = std::filesystem;
 
 constexpr const char* kBeside[] = {"-journal", "-wal", "-shm"}; // where the engine keeps what it has not finished
 
-// Of a file that is there and of no use as a database.
+// Whether a failure is that of a file which is there and of no use as a database.
 bool IsSpoiled(const Failure& failure)
 {
     return IsOfDatabase(failure) && (failure.Number() == engine::Damaged || failure.Number() == engine::NoDatabase);
 }
 
-// What the steps raise, with the file that it is about: failures of the engine are the database's, all others of the file that is written.
+// Runs the steps, and raises what they raise with the file that it is about: failures of the engine are the database's, all others of the
+// file that is written.
 template <typename Steps>
 void AboutDatabase(const std::string& database, const std::string& written, const Steps& steps)
 {
@@ -54,7 +55,7 @@ void AddEntry(SqliteEngine& restored, const RestoreOrder& order)
     restored.Write([&] { restored.AddWholeEntry("restore", order.file); });
 }
 
-// What fails as a database is the backup; as a file, the draft beside the database that it is to replace.
+// A failure of the engine is about the backup; one of a file, about the draft beside the database that it is to replace.
 void FillDraft(const FileDraft& draft, const RestoreOrder& order, const CopyProgress& progress)
 {
     AboutDatabase(order.file, order.database, [&] {
@@ -83,7 +84,7 @@ void KeepBytes(const std::string& from, const std::string& to)
     draft.PlaceNew();
 }
 
-// What the engine left beside a database that it cannot finish any more must not be taken for the restored one's.
+// Moves what the engine left beside a database that it cannot finish any more: it must not be taken for the restored one's.
 void MoveLeftovers(const RestoreOrder& order, const std::string& kept)
 {
     for (const char* ending : kBeside) {
@@ -149,7 +150,7 @@ std::string Restore(const RestoreOrder& order, const CopyProgress& progress)
     std::error_code ignored;
     RestoreOrder target = order;
     if (fs::is_symlink(order.database, ignored)) {
-        target.database = fs::weakly_canonical(order.database).string(); // the link stays one
+        target.database = fs::weakly_canonical(order.database).string(); // the link stays a link
     }
     Present present;
     AboutDatabase(target.database, target.database, [&] {

@@ -1,4 +1,4 @@
-// Putting a backup in the place of the database.
+// Puts a backup in the place of the database.
 #pragma once
 
 #include "platform/text/DateTime.h"
@@ -11,9 +11,9 @@ namespace ptk {
 
 struct RestoreOrder
 {
-    std::string file;     // the backup, in the platform's own form, as all of these
-    std::string database; // what it takes the place of; may be missing
-    std::string backups;  // where the present database is kept
+    std::string file;     // the backup; all paths are in the platform's own form
+    std::string database; // that the backup takes the place of; may be missing
+    std::string backups;  // the folder where the present database is kept
     DateTime now;
     Author author;
 };
@@ -21,13 +21,14 @@ struct RestoreOrder
 // Why no backup can take the place of this database, with what to do instead: others may be at work on a server. Empty for a file.
 [[nodiscard]] std::string RestoreRefusal(const std::string& database);
 
-// Raises the refusal where there is one.
+// Restores the backup, or raises the refusal where RestoreRefusal has one.
 //
-// The file is checked first; it stays as it is. The present database is backed up; where it is spoiled, its bytes, with a journal or a log
-// beside it, are moved to `backups` under the name of a backup with "-damaged" in it. The restored one has one entry more in its trail,
-// where it has a trail. Answers the path of what was kept of the present database; empty where there was none. Raises what examining the
-// file raises, 5 when the database is held, 9 when `progress` ended it, and 61, 57, 70 of files, each with the path of the file that it is
-// about at its end; nothing has changed then, except that there may be a backup more.
+// The backup is checked first; it stays as it is. The present database is backed up. Where it is spoiled, its bytes are kept in `backups`
+// under the name of a backup with "-damaged" in it, and a journal or a log beside it is moved there. The restored one has one entry more in
+// its trail, where it has a trail. Answers the path of what was kept of the present database; empty where there was none. Raises what
+// examining the backup raises, 5 when the database is held, 9 when `progress` ended it, and 61, 57, 70 of files, each with the path of the
+// file that it is about at its end. Nothing has changed then, except that there may be a backup more, and a spoiled database's journal or
+// log may be moved.
 [[nodiscard]] std::string Restore(const RestoreOrder& order, const CopyProgress& progress = {});
 
 } // namespace ptk
