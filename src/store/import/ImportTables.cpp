@@ -41,7 +41,7 @@ std::vector<ImportColumn> ColumnsFor(const char* table)
     return columns;
 }
 
-// An option stays as shipped where the older database says nothing of it.
+// The column of an option, which stays as shipped where the older database says nothing of it.
 ImportColumn Option(const char* name, ImportKind kind, const Value& shipped)
 {
     return {name, kind, shipped, shipped};

@@ -1,4 +1,4 @@
-// What an import fills: the tables of people's data with their columns, and what stands where an older database has nothing.
+// What an import fills: the tables of people's data with their columns, and the values that stand where an older database has none.
 #pragma once
 
 #include "platform/text/Value.h"
@@ -16,7 +16,7 @@ enum class ImportKind
     Single, // finite
     Flag,
     Date,
-    Moment,   // without which a row makes no sense: an impossible one leaves it out
+    Moment,   // a row makes no sense without it: an impossible one leaves the row out
     TimeOfDay // of which the date part is dropped
 };
 
@@ -32,10 +32,10 @@ struct ImportTable
 {
     const char* name;
     std::span<const ImportColumn> columns; // the key first, where it has one
-    bool hasKey;                           // else it holds one row
+    bool hasKey;                           // a table without a key holds one row
 };
 
-// Their numbers are the order in which they are read: employees before the records that refer to them.
+// The tables in the order in which they are read: employees come before the records that refer to them.
 enum class ImportTableId
 {
     Employee,

@@ -54,7 +54,7 @@ std::int64_t CountRows(Engine& engine, const ImportTable& table)
     return NumberFrom(engine, fmt::format("SELECT COUNT(*) FROM {}", table.name));
 }
 
-// Without closings in a file of an earlier version.
+// Whether a payday was closed; a file of an earlier version has no table of them.
 bool HasClosings(Engine& engine)
 {
     return engine.HasTable("_Payday") && NumberFrom(engine, kCountClosings) != 0;
@@ -67,7 +67,7 @@ void RefuseUnlessEmpty(Engine& engine)
     }
 }
 
-// Nobody adds a row between the last look and the writing.
+// Keeps others from adding a row between the last look and the writing.
 void LockTables(Engine& engine)
 {
     for (std::size_t i = 0; i < kImportTableCount; ++i) {
@@ -75,7 +75,7 @@ void LockTables(Engine& engine)
     }
 }
 
-// The next row's number lies behind those that came along.
+// Makes the number of the next row lie behind those that came along.
 void SkipNumbers(Engine& engine)
 {
     for (std::size_t i = 0; i < kImportTableCount; ++i) {
@@ -96,7 +96,7 @@ void FillServer(Engine& server, const std::function<void(Engine&)>& fill)
     SkipNumbers(server);
 }
 
-// A file that is not there yet.
+// Whether the database is a file that is not there yet.
 bool IsMissing(const std::string& database)
 {
     return IsFileName(database) && !IsThere(database);
@@ -182,7 +182,7 @@ bool ImportWriter::IsTaken(ImportTableId table, const Value& key)
     return isThere;
 }
 
-// All that the table holds before the first row of an import.
+// Deletes the shipped rows, which are all that the table holds before the first row of an import.
 void ImportWriter::ClearShipped(ImportTableId table)
 {
     std::int64_t& shipped = m_shipped[static_cast<std::size_t>(table)];

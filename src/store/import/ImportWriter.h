@@ -1,4 +1,4 @@
-// The rows of an import on their way into a database that holds nothing yet.
+// Writes the rows of an import into a database that holds nothing yet.
 #pragma once
 
 #include "store/import/ImportTables.h"
@@ -19,8 +19,8 @@ namespace ptk {
 class Engine;
 class Statement;
 
-// What an import can be told by, of what was to be written and of what was. Minutes are those of the wall clock between start and end, both
-// without their seconds, of records with an end not before their start.
+// The figures that tell of an import, both of what was to be written and of what was. Minutes are those of the wall clock between start and
+// end, both without their seconds, of records with an end not before their start.
 struct ImportFigures
 {
     struct Hours
@@ -32,18 +32,18 @@ struct ImportFigures
     };
 
     std::array<std::int64_t, kImportTableCount> rows{};
-    std::int64_t orphans = 0; // records of no employee
+    std::int64_t orphans = 0; // records whose employee is not there
     std::int64_t open = 0;
     std::int64_t backward = 0;
-    std::map<std::optional<std::int32_t>, Hours> hours; // by employee
+    std::map<std::optional<std::int32_t>, Hours> hours; // by employee, or for records without one
 
-    // A record of this employee.
+    // Counts a record of this employee.
     void Count(std::optional<std::int32_t> employee, DateTime start, DateTime end);
 
     bool operator==(const ImportFigures&) const = default;
 };
 
-// Writes rows with the keys that they have. REQUIRES: within Engine::Write, on a database that is empty as below.
+// Writes rows with the keys that they have. REQUIRES: within Engine::Write, on a database that RefuseUnlessEmpty lets pass.
 class ImportWriter
 {
 public:
@@ -52,11 +52,11 @@ public:
     ImportWriter(const ImportWriter&) = delete;
     ImportWriter& operator=(const ImportWriter&) = delete;
 
-    // The values in the order of the table's columns. False, and nothing written, where a row of this key, or the only row, was written
-    // before; the shipped ones give way.
+    // Adds a row with `values` in the order of the table's columns. False, and nothing written, where a row of this key, or the only row,
+    // was written before; the shipped rows give way.
     [[nodiscard]] bool Add(ImportTableId table, std::span<const Value> values);
 
-    // That no row has replaced so far.
+    // How many shipped rows no row of the import has replaced so far.
     [[nodiscard]] std::int64_t ShippedRows(ImportTableId table) const { return m_shipped[static_cast<std::size_t>(table)]; }
 
 private:
@@ -75,7 +75,7 @@ private:
     bool m_hasOptions = false;
 };
 
-// What the database holds, read back row by row. The shipped rows that gave way to none count, too.
+// Reads back row by row what the database holds. Shipped rows that gave way to none count, too.
 [[nodiscard]] ImportFigures ReadFigures(Engine& engine);
 
 struct ImportTarget
@@ -86,16 +86,15 @@ struct ImportTarget
     KeepCopy keepCopy;
 };
 
-// Raises a failure without a number where there is a database that holds companies, time records or more employees than the administrator,
-// and what opening it raises. Does not change it; a file that is missing is empty.
+// Raises a failure without a number where there is a database that holds companies, time records, closed paydays or more employees than the
+// administrator, and what opening it raises. Does not change it; a file that is missing is empty.
 void RefuseUnlessEmpty(const std::string& database);
 
-// Runs `fill` on the target in one transaction, told in the trail as one entry: all of it or, when it raises, nothing. `fill` may have to
-// run a second time, when the first was undone. Raises what RefuseUnlessEmpty raises, and what making a database raises.
+// Runs `fill` on the target in one transaction, told in the trail as one entry. All of it is stored or, when it raises, nothing. `fill` may
+// have to run a second time, when the first was undone. Raises what RefuseUnlessEmpty raises, and what making a database raises.
 void Import(const ImportTarget& target, const std::function<void(Engine&)>& fill);
 
-// Tries an import without its target: `fill` runs on a passing database, which is gone afterwards. Looks at the target as RefuseUnlessEmpty
-// does.
+// Tries an import without its target: `fill` runs on a database that is gone afterwards. Looks at the target as RefuseUnlessEmpty does.
 void TryImport(const ImportTarget& target, const std::function<void(Engine&)>& fill);
 
 } // namespace ptk
