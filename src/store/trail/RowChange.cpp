@@ -58,7 +58,7 @@ std::string Quoted(const std::string& name)
     return quoted + "\"";
 }
 
-// " AND a is 1 AND b is 'x'", where a null is like another.
+// The conditions that a row holds these values, " AND a is 1 AND b is 'x'", where a null is like another.
 std::string Holding(const TrailRow& row, const EngineWords& words)
 {
     std::string conditions;
@@ -68,7 +68,7 @@ std::string Holding(const TrailRow& row, const EngineWords& words)
     return conditions;
 }
 
-// The key of a row that an update may have given another one.
+// The key that the row has now: an update may have given it another one.
 std::int64_t KeyNow(const RowChange& change)
 {
     const TrailValue* key = change.before ? ValueOf(*change.before, KeyOf(change.table)) : nullptr;
@@ -98,7 +98,7 @@ std::string RowsOf(Portion portion)
     return fmt::format("{} WHERE {} IN ({})", table, KeyOf(table), KeysOf(portion));
 }
 
-// Where a question about the portion has an answer, the row that its first column names is not to be changed.
+// Refuses the change of each row that the first column of the question's answer names, unless `isAllowed`.
 template <typename IsAllowed>
 void RefuseAnswered(Engine& engine, Portion portion, const std::string& question, IsAllowed isAllowed)
 {
@@ -118,7 +118,7 @@ void RefuseAnswered(Engine& engine, Portion portion, const std::string& question
     RefuseAnswered(engine, portion, question, [](const RecordSet&) { return false; });
 }
 
-// Locked, so that nobody else can change them any more.
+// Refuses a row that is not as its change begins with. The rows are locked, so that nobody else can change them any more.
 void RequireAsBefore(Engine& engine, Portion portion)
 {
     const std::string key = KeyOf(portion.front().table);
@@ -161,7 +161,7 @@ void RequireNone(Engine& engine, Portion portion, const char* table, const char*
     RefuseAnswered(engine, portion, fmt::format("SELECT {0} FROM {1} WHERE {0} IN ({2}) LIMIT 1", column, table, KeysOf(portion)));
 }
 
-// A person's time records and a company's people would be nobody's.
+// Refuses to delete whom others rely on: a person's time records and a company's people would be nobody's.
 void RequireUnused(Engine& engine, Portion portion)
 {
     if (portion.front().table == "Employee") {
@@ -238,7 +238,7 @@ bool GoTogether(const RowChange& one, const RowChange& other)
            one.after.has_value() == other.after.has_value() && HasSameColumns(one.after, other.after);
 }
 
-// As many as can be from the first on. A row that is changed twice is changed in two portions.
+// The changes from the first on that go together. A row that is changed twice is changed in two portions.
 Portion FirstOf(Portion changes)
 {
     std::set<std::int64_t> keys;

@@ -1,4 +1,4 @@
-// Changes of rows as the edit trail tells them, to be done backwards.
+// Changes of rows as the edit trail tells them, and their undoing.
 #pragma once
 
 #include "store/trail/TrailReader.h"
@@ -13,8 +13,8 @@ namespace ptk {
 
 class Engine;
 
-// Without `before` a row was added, without `after` deleted; with both, they hold the columns that changed, values and all: passwords as
-// they are.
+// A change of one row. Without `before` the row was added, without `after` it was deleted. With both, they hold the columns that changed,
+// with the values as they are, passwords included.
 struct RowChange
 {
     std::string table; // TimeRecord, Employee, Company or _Payday
@@ -23,19 +23,19 @@ struct RowChange
     std::optional<TrailRow> after;
 };
 
-// What takes these changes back, the last one first.
+// The changes that take these back, the last one first.
 [[nodiscard]] std::vector<RowChange> Inverse(const std::vector<RowChange>& changes);
 
-// Whose changes of a row do not count as somebody else's.
+// The steps whose changes of a row do not count as somebody else's.
 struct KnownSteps
 {
-    std::int64_t newerThan = 0; // a number of an entry: what is not newer is known
+    std::int64_t newerThan = 0; // number of an entry; this one and older ones are known
     std::set<std::int64_t> steps;
 };
 
-// As steps of Engine::Write: does these changes. Raises RowChanged when a row is not as they begin with, or an entry of the trail tells
-// that somebody else changed it meanwhile, or others rely on a row that is to go. A row that comes back has its number again. Up to 200
-// rows that are added or deleted together are asked about together and changed by one statement; others take one more each.
+// Does these changes, as steps of Engine::Write. Raises RowChanged when a row is not as the change begins with, when an entry of the trail
+// tells that somebody else changed it meanwhile, or when others rely on a row that is to go. A row that comes back has its number again. Up
+// to 200 rows of one kind of change are asked about together. Added or deleted ones take one statement together, others one each.
 void Redo(Engine& engine, const std::vector<RowChange>& changes, const KnownSteps& known);
 
 } // namespace ptk

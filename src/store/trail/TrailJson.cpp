@@ -45,7 +45,7 @@ void AddUtf8(char32_t character, std::string& text)
     add(0x80 | (character & 0x3FU));
 }
 
-// Each member answers whether that is what comes next, and goes behind it; after a false the place is of no use.
+// Each member that takes a part answers whether it comes next, and goes behind it; after a false the place is of no use.
 class JsonReader
 {
 public:
@@ -87,7 +87,7 @@ private:
         return is;
     }
 
-    // Between the signs of an object or a list.
+    // Takes what is listed between the signs of an object or a list.
     template <typename TakeOne>
     bool TakeListed(char first, char last, const TakeOne& takeOne)
     {
@@ -105,7 +105,7 @@ private:
         return Take(last);
     }
 
-    // Each into the one that `next` answers; `taken` is told those that are whole.
+    // Takes each field into the value that `next` answers; `taken` is called with those that are whole.
     template <typename Next, typename Taken>
     bool TakeFields(const Next& next, const Taken& taken)
     {
@@ -156,7 +156,7 @@ private:
         return taken;
     }
 
-    // As a number yes is 1.
+    // Takes null, true or false. As a number, true is 1.
     bool TakeNamed(TrailValue& value)
     {
         if (TakeWord("null")) {
@@ -251,7 +251,7 @@ private:
         return true;
     }
 
-    // Half of a pair is no character.
+    // Takes one character, of two units where these are a pair. Half of a pair is no character.
     bool TakeCharacter(std::string& text)
     {
         char32_t unit = 0;

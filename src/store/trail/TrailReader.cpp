@@ -15,7 +15,7 @@ namespace ptk {
 
 namespace {
 
-// From one person to the next by their index, however many entries each has.
+// Goes from one person to the next by their index, however many entries each has.
 constexpr const char* kPersons = "WITH RECURSIVE Person (name) AS (SELECT MIN(ChangedBy) FROM _Change WHERE ChangedBy > '' UNION ALL "
                                  "SELECT (SELECT MIN(ChangedBy) FROM _Change WHERE ChangedBy > name) FROM Person WHERE name IS NOT NULL) "
                                  "SELECT CAST(name AS TEXT) FROM Person WHERE name IS NOT NULL";
@@ -30,7 +30,7 @@ constexpr const char* kNotes =
 
 constexpr std::int32_t kPortion = 10'000; // entries, some megabytes
 
-// Empty for a null. What the text had as memory is used again, as by all that an entry holds.
+// Reads a text, empty for a null. The memory of `text` is used again, as that of all that an entry holds.
 void ReadText(const Statement& row, int column, std::string& text)
 {
     text.clear();
@@ -87,7 +87,7 @@ TrailNote NoteOf(const Statement& row)
     return note;
 }
 
-// Answers how many there were, and leaves the query at what is older than the last of them.
+// Reads a portion, answers how many entries it had, and leaves the query at what is older than the last of them.
 std::int32_t ReadPortion(CJetDB& database, TrailQuery& query, const std::function<void(const TrailEntry&)>& take)
 {
     const auto entries = RequireSelect(database, TrailSql(query, database.Words(), HasReasons(database)));

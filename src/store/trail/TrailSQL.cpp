@@ -15,7 +15,7 @@ namespace {
 constexpr const char* kColumns = "ChangeID, ChangedAt, ChangedBy, Program, Step, TableName, RowID, Action, Before, After, "
                                  "COALESCE(EmployeeAfter, EmployeeBefore), ";
 
-// An employee's entries in two halves: each finds an entry once, by its own index and in the order of the numbers.
+// An employee's entries are asked for in two halves: each finds an entry once, by its own index and in the order of the numbers.
 constexpr const char* kAfterOf = "EmployeeAfter = CAST(:employee AS INTEGER)";
 constexpr const char* kBeforeOf = "EmployeeBefore = CAST(:employee AS INTEGER) AND EmployeeBefore IS DISTINCT FROM EmployeeAfter";
 
@@ -60,7 +60,7 @@ std::string Conditions(const TrailQuery& query)
     return sql;
 }
 
-// An entry tells only the columns that changed: one moment in the days is enough to know the record by.
+// An entry tells only the columns that changed: one moment in the days is enough to find the record by it.
 std::string TellsMomentInDays(const EngineWords& words)
 {
     std::string sql;
@@ -86,7 +86,7 @@ std::string Day(DateTime date)
     return FormatDateTime(date, "yyyy-mm-dd");
 }
 
-// "~" lies behind every time of that day.
+// A moment as text that lies behind every time of that day, by its "~".
 std::string Behind(DateTime date)
 {
     return Day(date) + "~";

@@ -11,7 +11,7 @@ struct TrailQuery;
 
 namespace trailsql {
 
-// Of the statement below. Whatever another tool put there, all are numbers, or texts, or a null.
+// The columns of the statement that TrailSql answers. Whatever another tool put there, all are numbers, or texts, or a null.
 enum Column
 {
     kId,
@@ -30,12 +30,12 @@ enum Column
 
 } // namespace trailsql
 
-// The statement that answers such a query, newest first. What it reads to the first entries does not grow with the trail where the query
-// names an employee, a person, records, or a kind other than time records; else it reads from the newest entry on.
-// hasReasons: whether the trail has that column; else none is told.
+// The statement that answers a query, newest first. What it reads to the first entries does not grow with the trail where the query names
+// an employee, a person, records, or a kind other than time records; else it reads from the newest entry on. `hasReasons`: whether the
+// trail has the column Reason; without it, no entry has a reason.
 [[nodiscard]] std::string TrailSql(const TrailQuery& query, const EngineWords& words, bool hasReasons);
 
-// All that it asks for.
+// Binds all parameters of the statement that TrailSql answers.
 void BindTrail(Statement& statement, const TrailQuery& query);
 
 } // namespace ptk
