@@ -16,7 +16,7 @@ namespace jet {
 namespace {
 
 constexpr std::uint32_t kObjectsPage = 2;
-constexpr std::uint32_t kPageMask = 0xFFFFFF; // of an object's number
+constexpr std::uint32_t kPageMask = 0xFFFFFF; // the bits of an object's number that tell its page
 constexpr std::uint32_t kSystemFlags = 0x80000002;
 constexpr std::int32_t kTableType = 1;
 constexpr std::int32_t kQueryType = 5;
@@ -24,12 +24,12 @@ constexpr const char* kQueriesTable = "MSysQueries";
 
 struct Objects
 {
-    std::map<std::uint32_t, std::string> tables; // of people, by number
+    std::map<std::uint32_t, std::string> tables; // people's tables, by number
     std::map<std::uint32_t, std::string> queries;
-    std::optional<std::uint32_t> queryParts; // the table that holds them
+    std::optional<std::uint32_t> queryParts; // number of the table that holds the parts of queries
 };
 
-// The ordinals of columns without which a table of the file's own makes no sense.
+// The ordinals of columns that a table of the file's own must have. Raises Refused where one is missing.
 template <std::size_t Count>
 std::array<std::size_t, Count> RequiredColumns(const JetTable& table, const std::array<const char*, Count>& names)
 {
@@ -65,7 +65,7 @@ void AddObject(Objects& objects, std::uint32_t id, std::uint32_t type, std::uint
     }
 }
 
-// The library's own way follows the properties of each object, too, which in a damaged file may never end.
+// Reads the catalog alone. The library's own way follows the properties of each object, too, which in a damaged file may never end.
 Objects ReadObjects(const JetFile& file)
 {
     JetTable table(file, kObjectsPage);

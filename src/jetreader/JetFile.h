@@ -1,4 +1,4 @@
-// One Jet database file, read from memory by the reading library, with its own looks before that library's.
+// One Jet database file in memory: the program looks at it before the reading library reads it.
 #pragma once
 
 #include "jetreader/JetText.h"
@@ -14,7 +14,7 @@ namespace jet {
 class JetFile
 {
 public:
-    // The whole regular file behind the descriptor. `codePage` overrules that of a Jet 3 file; 0: none does. Raises Refused.
+    // Takes the whole regular file behind the descriptor. `codePage` overrules that of a Jet 3 file; 0: none does. Raises Refused.
     JetFile(int descriptor, int codePage);
     ~JetFile();
     JetFile(const JetFile&) = delete;
@@ -25,7 +25,7 @@ public:
     [[nodiscard]] bool IsJet4() const { return m_jet4; }
     [[nodiscard]] int CodePage() const { return m_codePage; }
 
-    // That make up no page.
+    // How many bytes lie behind the last whole page.
     [[nodiscard]] std::size_t BytesBehindLastPage() const { return m_size % PageSize(); }
 
 private:

@@ -8,7 +8,7 @@ namespace jet {
 
 namespace {
 
-constexpr int kPlaceMask = 0x1FFF;   // of a row on its page; above it stand its marks
+constexpr int kPlaceMask = 0x1FFF;   // the bits of a row's place on its page; above them stand its marks
 constexpr std::size_t kLeastMap = 5; // bytes
 
 bool IsWhole(const MdbTableDef& table)

@@ -46,7 +46,7 @@ void AppendUtf8(std::string& out, char32_t point)
 
 using Units = std::vector<std::uint16_t>;
 
-// One byte a character until a zero byte, then two, and so on in turns.
+// Reads a shortened text: one byte a character until a zero byte, then two, and so on in turns.
 Units Lengthened(std::span<const unsigned char> bytes)
 {
     Units units;
@@ -147,7 +147,7 @@ DecodedText TextDecoder::FromCodePage(std::span<const unsigned char> bytes) cons
     iconv(m_converter, nullptr, nullptr, nullptr, nullptr);
     while (left > 0) {
         iconv(m_converter, &in, &left, &out, &room);
-        if (left > 0 && room > 0) { // a byte that means nothing here
+        if (left > 0 && room > 0) { // a byte that means nothing in this code page
             ++in;
             --left;
             *out++ = '?';
@@ -155,7 +155,7 @@ DecodedText TextDecoder::FromCodePage(std::span<const unsigned char> bytes) cons
             text.exact = false;
         }
     }
-    iconv(m_converter, nullptr, nullptr, &out, &room); // a letter that an accent behind it would have changed
+    iconv(m_converter, nullptr, nullptr, &out, &room); // writes a letter that an accent behind it would have changed
     text.utf8.assign(buffer.data(), out);
     if (text.utf8.find('\0') != std::string::npos) {
         std::replace(text.utf8.begin(), text.utf8.end(), '\0', '?');

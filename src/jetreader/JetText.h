@@ -33,7 +33,7 @@ private:
     void* m_converter = nullptr; // of iconv; nullptr for UTF-16
 };
 
-// The name by which conversions know a code page; nullptr for one that is not known.
+// The name by which conversions know a code page; nullptr for an unknown one.
 [[nodiscard]] const char* NameOfCodePage(int codePage);
 
 } // namespace jet

@@ -36,7 +36,7 @@ void AppendNumber(Line& line, Bytes bytes)
     }
 }
 
-// Days since 30 December 1899 and, whatever their sign, the fraction of the day that has passed.
+// A moment is stored as days since 30 December 1899 and, whatever their sign, the fraction of the day that has passed.
 void AppendMoment(Line& line, Bytes bytes)
 {
     constexpr double kFirstDay = -657434;  // 1 January 100
@@ -57,7 +57,7 @@ void AppendMoment(Line& line, Bytes bytes)
     }
 }
 
-// Four decimals, as a whole number.
+// Money is stored as a whole number of ten-thousandths.
 void AppendMoney(Line& line, Bytes bytes)
 {
     constexpr double kUnits = 10000;
@@ -68,7 +68,7 @@ void AppendMoney(Line& line, Bytes bytes)
     }
 }
 
-// A sign, then four parts of 32 bits, the highest first.
+// A decimal is stored as a sign, then four parts of 32 bits, the highest first.
 void AppendDecimal(Line& line, Bytes bytes, int decimals)
 {
     constexpr std::size_t kParts = 4;
@@ -91,12 +91,12 @@ void AppendText(Line& line, const JetFile& file, Bytes bytes)
     line.Text(text.utf8, text.exact);
 }
 
-constexpr std::size_t kMemoHead = 12; // bytes: length and marks, place of the first piece, nothing
+constexpr std::size_t kMemoHead = 12; // bytes: length and marks, place of the first piece, four unused ones
 constexpr std::uint32_t kInside = 0x80000000;
 constexpr std::uint32_t kOnePiece = 0x40000000;
 constexpr std::size_t kLongestMemo = 1 << 20; // bytes
 
-// False where there is no such piece.
+// Finds a piece of a memo by its place; false where there is no such piece.
 bool FindPiece(const JetFile& file, std::uint32_t place, Bytes& piece)
 {
     void* page = nullptr;
@@ -109,7 +109,7 @@ bool FindPiece(const JetFile& file, std::uint32_t place, Bytes& piece)
     return true;
 }
 
-// Pieces that each begin with the place of the next. A damaged chain may lead back, or through pieces without any text.
+// Collects a memo from pieces that each begin with the place of the next. A damaged chain may lead back, or through pieces without text.
 bool FollowChain(const JetFile& file, std::uint32_t place, std::vector<unsigned char>& memo)
 {
     constexpr int kMostPieces = 1024;

@@ -1,4 +1,4 @@
-// A stored value, exactly, as a field of a line.
+// Writes a stored value, exactly, as a field of a line.
 #pragma once
 
 #include "jetreader/JetTable.h"
@@ -6,10 +6,10 @@
 
 namespace jet {
 
-// Of the row at which the table stands. What people never typed (pictures, other programs' objects, bytes) counts as no value.
+// Adds a value of the row at which the table stands. What people never typed (pictures, other programs' objects, bytes) counts as no value.
 void AppendValue(Line& line, const JetFile& file, const JetTable& table, std::size_t column);
 
-// "text", "single" and so on.
+// The kind of a column's type in the catalog: "text", "number" and so on.
 [[nodiscard]] const char* NameOfType(int type);
 
 } // namespace jet

@@ -1,4 +1,4 @@
-// The form in which rows leave this program: one line each, fields parted by tabs, every field with a mark that says what it is.
+// The form in which rows leave this program: one line each, tabs between the fields, each field with a mark that says what it is.
 #pragma once
 
 #include <cstdint>
@@ -27,7 +27,7 @@ public:
     Line& Number(std::int64_t number) { return Number(std::to_string(number)); }
     Line& Moment(std::int64_t seconds) { return Marked('@', std::to_string(seconds)); }
 
-    // To the standard output.
+    // Writes the line to the standard output.
     void Write();
 
 private:

@@ -1,4 +1,4 @@
-// Why a file gives no rows at all, as the exit status that the caller tells people by.
+// Why a file gives no rows at all: the exit status by which the caller tells people the reason.
 #pragma once
 
 #include <exception>
@@ -7,7 +7,7 @@ namespace jet {
 
 enum class Refusal
 {
-    Unreadable = 1, // what was asked for is damaged
+    Unreadable = 1, // what was asked for is damaged, or there was no memory for it
     WrongUsage = 2,
     NoJetFile = 3,
     NewerFormat = 4, // than Jet 4
