@@ -14,7 +14,7 @@ namespace jet {
 // Raises Refused when the catalog itself cannot be read.
 void WriteCatalog(const JetFile& file);
 
-// The rows of a table: "row" with the fields asked for, then "rows" with #READ and #COUNT as the table's definition has it.
+// Writes the rows of a table: "row" with the fields asked for, then "rows" with #READ and #COUNT as the table's definition has it.
 // `columns` are ordinals of the catalog's "column" lines, from 0. Raises Refused.
 void WriteRows(const JetFile& file, std::uint32_t id, std::span<const std::size_t> columns);
 

@@ -16,7 +16,7 @@ namespace ptk {
 
 // Asks for the password of an address when the server wants one and neither the environment nor the user's password file has it. Answers
 // nothing when the person would rather not say. Called at most once for an address that then lets in: the program remembers the password
-// while it runs, and writes it nowhere.
+// while it runs, until a connection is refused, and writes it nowhere.
 using AskPassword = std::function<std::optional<std::string>(const std::string& address)>;
 
 // Sets how the whole program asks for passwords, before the first database is opened. Without it a server that wants one is refused.
@@ -29,7 +29,7 @@ namespace passwords {
 
 [[nodiscard]] std::optional<std::string> Told(const std::string& address);
 
-// Forgets a password that did not let in: the next who needs one asks again.
+// Forgets the password after a connection was refused, for whatever reason: the next who needs one asks again.
 void Forget(const std::string& address);
 
 } // namespace passwords

@@ -1,4 +1,4 @@
-// The connection to a server: made, waited for and lost in time.
+// The connection to a server: made, waited for, and given up when its time is over.
 #pragma once
 
 #include "store/postgres/ServerResult.h"

@@ -58,7 +58,7 @@ enum class TrailKind : std::uint8_t
     TimeRecords,
     People, // of the table Employee
     Companies,
-    Options, // those of the check, too
+    Options, // also those of the check
     Paydays,
     Whole // restores and imports
 };
@@ -95,7 +95,7 @@ struct TrailQuery
 void ReadTrail(const std::shared_ptr<CJetDB>& database, const TrailQuery& query, const std::function<void(const TrailEntry&)>& take);
 [[nodiscard]] std::vector<TrailEntry> ReadTrail(const std::shared_ptr<CJetDB>& database, const TrailQuery& query);
 
-// What an entry is about, without what it tells.
+// What an entry is about, without the values that it tells.
 struct TrailNote
 {
     std::int64_t id = 0;

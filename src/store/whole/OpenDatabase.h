@@ -19,7 +19,7 @@ enum class OpenFor
     Look   // nothing is changed; a file may be one that cannot be written, and others may read it meanwhile
 };
 
-// Called before a file of an earlier version is brought up to date; without it, such a file stays as it is.
+// Called before a file of an earlier version is brought up to date; without it, such a file stays of its version.
 using KeepCopy = std::function<void(SqliteEngine&)>;
 
 // Opens a database: `name` is a file's in the platform's own form or a server's address. Never makes a file. Raises what the engine's
