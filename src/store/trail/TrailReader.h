@@ -89,7 +89,7 @@ struct TrailQuery
     std::int32_t most = std::numeric_limits<std::int32_t>::max();
 };
 
-// Reads the entries that a query asks for, newest first: a file by one question, a server by one for each ten thousand. `take` must not use
+// Reads the entries that a query asks for, newest first, by one question for each ten thousand. `take` must not use
 // the database. Nothing in a file without a trail. Raises the failure of a database that cannot be opened or read. REQUIRES: database is
 // not nullptr.
 void ReadTrail(const std::shared_ptr<CJetDB>& database, const TrailQuery& query, const std::function<void(const TrailEntry&)>& take);
