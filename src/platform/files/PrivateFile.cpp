@@ -27,7 +27,7 @@ PrivateFile::PrivateFile(const std::string& name, std::string_view bytes)
         SystemFile file = OpenRegularFile(m_path, O_WRONLY | O_CREAT | O_EXCL);
         file.Write(bytes);
         file.Close();
-    } catch (const Failure&) {
+    } catch (...) {
         Remove();
         throw;
     }

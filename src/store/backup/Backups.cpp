@@ -35,11 +35,11 @@ bool BeginsAsOurs(const std::string& path)
     constexpr std::size_t kIdAt = 68;
     std::string start(kIdAt + sizeof(std::int32_t), '\0');
     OpenRegularFile(path, O_RDONLY | O_NOFOLLOW).Read(start.data(), start.size());
-    std::int32_t id = 0;
+    std::uint32_t id = 0;
     for (const char byte : start.substr(kIdAt)) {
         id = id * 256 + static_cast<unsigned char>(byte);
     }
-    return start.find_first_not_of('\0') == std::string::npos || (start.starts_with(kSignature) && id == kApplicationId);
+    return start.find_first_not_of('\0') == std::string::npos || (start.starts_with(kSignature) && id == static_cast<std::uint32_t>(kApplicationId));
 }
 
 // Removes what killed backups left, whatever name they were to get.

@@ -83,7 +83,8 @@ std::optional<HistoryScope> HistoryActions::SincePaid() const
     const auto card = m_card.Card();
     const auto checked = m_card.Checked();
     const bool shown = m_display.ShowsCard() || m_display.ShowsFindings();
-    if (!shown || card == nullptr || card->Employee() == nullptr || checked == nullptr || !checked->paid || !checked->check->changed) {
+    const bool isChanged = checked != nullptr && checked->paid && checked->check && checked->check->changed; // a check may have failed
+    if (!shown || card == nullptr || card->Employee() == nullptr || !isChanged) {
         return std::nullopt;
     }
     return HistoryScope{card->Employee()->EmployeeID(), checked->period, {}, {}, true, checked->paid->entry};
