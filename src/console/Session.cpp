@@ -5,6 +5,7 @@
 #include "model/CTimeRecordFactory.h"
 #include "model/remedy/Remedy.h"
 #include "platform/files/ProgramFolder.h"
+#include "reports/ReportErrors.h"
 #include "shell/CDatabaseLocator.h"
 #include "shell/CFileAdaptor.h"
 #include "store/CJetDB.h"

@@ -1,5 +1,6 @@
 #include "model/CEmployeeList.h"
 
+#include "platform/Failure.h"
 #include "store/CJetDB.h"
 
 namespace ptk {
@@ -42,6 +43,15 @@ bool CEmployeeList::LoadNamed(const std::shared_ptr<CJetDB>& thedatabase, const 
 bool CEmployeeList::FillFrom(CJetDB& thedatabase)
 {
     return thedatabase.LoadEmployeeList(*this);
+}
+
+std::shared_ptr<CEmployeeList> StoredEmployees(const std::shared_ptr<CJetDB>& database)
+{
+    auto employees = std::make_shared<CEmployeeList>();
+    if (!employees->LoadList(database)) {
+        throw Failure(database->LastFailure());
+    }
+    return employees;
 }
 
 } // namespace ptk

@@ -32,4 +32,7 @@ private:
     bool FillFrom(CJetDB& thedatabase) override;
 };
 
+// All employees as they are stored now. Raises the failure that kept them from being read.
+[[nodiscard]] std::shared_ptr<CEmployeeList> StoredEmployees(const std::shared_ptr<CJetDB>& database);
+
 } // namespace ptk

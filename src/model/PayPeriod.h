@@ -13,6 +13,8 @@ struct PayPeriod
 {
     DateTime from;
     DateTime to;
+
+    friend bool operator==(const PayPeriod&, const PayPeriod&) = default;
 };
 
 // A length of L days deliberately spans L + 1: the last day is the first plus L. Raises Failure 6 when it leaves the calendar.

@@ -46,9 +46,7 @@ std::vector<StoredProfile> ReadToChange(Engine& engine)
     if (!engine.HasTable(kProfileTable)) {
         engine.RunScript(kProfileSql);
     }
-    if (const std::string lock = Said(engine.Words().lockTable, kProfileTable); !lock.empty()) {
-        engine.Prepare(lock)->Run();
-    }
+    engine.LockTable(kProfileTable);
     return ReadStored(engine, [&](const std::string& sql) { return engine.Prepare(sql); });
 }
 

@@ -2,6 +2,7 @@
 #include "console/Commands.h"
 #include "console/Console.h"
 #include "console/ErrorText.h"
+#include "console/Output.h"
 #include "console/Session.h"
 #include "model/ModelErrors.h"
 #include "office/history/History.h"
@@ -41,7 +42,7 @@ std::string Read(const HistoryArguments& arguments, TrailQuery query, const std:
 int HistoryCommand(const HistoryArguments& arguments, Console& console)
 {
     if (arguments.from && arguments.to && *arguments.to < *arguments.from) {
-        return RefuseUsage(console.err, "--from is after --to");
+        return RefuseUsage(console.err, kFromAfterTo);
     }
     TrailQuery query;
     query.from = arguments.from;

@@ -2,6 +2,7 @@
 #include "console/Commands.h"
 #include "console/Console.h"
 #include "console/ErrorText.h"
+#include "console/Output.h"
 #include "console/Session.h"
 #include "model/CEmployeeList.h"
 #include "model/CTimeCard.h"
@@ -16,7 +17,6 @@ namespace ptk {
 
 namespace {
 
-constexpr auto kBackward = "--from is after --to";
 constexpr auto kNoRemedies = "--remedies needs another format than csv";
 
 Employees Chosen(CEmployeeList& all, const std::vector<std::string>& names)
@@ -80,14 +80,14 @@ int OverviewCommand(const OverviewArguments& arguments, Console& console)
         return RefuseUsage(console.err, kNoRemedies);
     }
     if (arguments.from && arguments.to && *arguments.to < *arguments.from) {
-        return RefuseUsage(console.err, kBackward);
+        return RefuseUsage(console.err, kFromAfterTo);
     }
     Session session(console.programFolder);
     Overview overview;
     overview.made = console.clock.Now();
     overview.period = ChosenPeriod(arguments, session, DateTime(overview.made.Date()));
     if (overview.period.to < overview.period.from) {
-        return RefuseUsage(console.err, kBackward);
+        return RefuseUsage(console.err, kFromAfterTo);
     }
     overview.limits = LoadCheckLimits(session.Database());
     overview.withRemedies = arguments.remedies;

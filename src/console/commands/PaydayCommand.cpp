@@ -3,6 +3,7 @@
 #include "console/Commands.h"
 #include "console/Console.h"
 #include "console/ErrorText.h"
+#include "console/Output.h"
 #include "console/Session.h"
 #include "model/CEmployeeList.h"
 #include "model/ModelErrors.h"
@@ -16,9 +17,6 @@
 namespace ptk {
 
 namespace {
-
-constexpr auto kPdfIsForFiles = "a PDF file is nothing for a terminal: name a file with -o";
-constexpr auto kFileNeedsName = "-o needs the name of a file";
 
 std::vector<std::int32_t> NumbersOf(Session& session, const std::vector<std::string>& names)
 {
@@ -59,26 +57,13 @@ int ChangePayday(const PaydayArguments& arguments, Console& console)
     return std::any_of(lines.begin(), lines.end(), isLeft) ? status::ProblemsFound : status::Done;
 }
 
-void Deliver(const PaydayArguments& arguments, const PaydayAccount& account, Console& console)
-{
-    const std::string bytes = arguments.output ? AccountFile(arguments.form, account) : AccountIn(arguments.form, account);
-    if (!arguments.output) {
-        console.out << (arguments.form == ReportForm::Pdf ? bytes : TerminalText(bytes));
-        return;
-    }
-    try {
-        PutFile(*arguments.output, bytes);
-    } catch (const Failure& reason) {
-        throw FileFailure(reason, *arguments.output);
-    }
-}
-
 int ShowAccount(const PaydayArguments& arguments, Console& console)
 {
     Session session(console.programFolder);
     const PaydayAccount account = ReadPaydayAccount(session.Database(), {arguments.from, arguments.to}, console.clock.Now());
     session.GiveUpDatabase();
-    Deliver(arguments, account, console);
+    const std::string bytes = arguments.output ? AccountFile(arguments.form, account) : AccountIn(arguments.form, account);
+    Deliver(arguments.form, arguments.output, bytes, console);
     return account.IsAnybodyChanged() ? status::ProblemsFound : status::Done;
 }
 
@@ -87,13 +72,10 @@ int ShowAccount(const PaydayArguments& arguments, Console& console)
 int PaydayCommand(const PaydayArguments& arguments, Console& console)
 {
     if (arguments.to < arguments.from) {
-        return RefuseUsage(console.err, "--from is after --to");
+        return RefuseUsage(console.err, kFromAfterTo);
     }
-    if (arguments.form == ReportForm::Pdf && !arguments.output && console.terminal) {
-        return RefuseUsage(console.err, kPdfIsForFiles);
-    }
-    if (arguments.output && arguments.output->empty()) {
-        return RefuseUsage(console.err, kFileNeedsName);
+    if (const char* const wrong = WrongOutput(arguments.form, arguments.output, console)) {
+        return RefuseUsage(console.err, wrong);
     }
     return arguments.task == PaydayTask::Account ? ShowAccount(arguments, console) : ChangePayday(arguments, console);
 }

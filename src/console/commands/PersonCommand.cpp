@@ -2,6 +2,7 @@
 #include "console/Commands.h"
 #include "console/Console.h"
 #include "console/ErrorText.h"
+#include "console/Output.h"
 #include "console/Session.h"
 #include "model/CEmployee.h"
 #include "model/ModelErrors.h"
@@ -15,9 +16,6 @@
 namespace ptk {
 
 namespace {
-
-constexpr auto kPagesAreForFiles = "a PDF file is nothing for a terminal: name a file with -o";
-constexpr auto kOutputNeedsName = "-o needs the name of a file";
 
 PersonData ReadNamed(const PersonArguments& arguments, const Console& console)
 {
@@ -38,22 +36,10 @@ PersonData ReadNamed(const PersonArguments& arguments, const Console& console)
 
 int PersonCommand(const PersonArguments& arguments, Console& console)
 {
-    if (arguments.form == ReportForm::Pdf && !arguments.output && console.terminal) {
-        return RefuseUsage(console.err, kPagesAreForFiles);
+    if (const char* const wrong = WrongOutput(arguments.form, arguments.output, console)) {
+        return RefuseUsage(console.err, wrong);
     }
-    if (arguments.output && arguments.output->empty()) {
-        return RefuseUsage(console.err, kOutputNeedsName);
-    }
-    const std::string bytes = PersonIn(arguments.form, ReadNamed(arguments, console));
-    if (!arguments.output) {
-        console.out << (arguments.form == ReportForm::Pdf ? bytes : TerminalText(bytes));
-        return status::Done;
-    }
-    try {
-        PutFile(*arguments.output, bytes);
-    } catch (const Failure& reason) {
-        throw FileFailure(reason, *arguments.output);
-    }
+    Deliver(arguments.form, arguments.output, PersonIn(arguments.form, ReadNamed(arguments, console)), console);
     return status::Done;
 }
 

@@ -3,6 +3,7 @@
 #include "console/Console.h"
 #include "console/ConsoleDesktop.h"
 #include "console/ErrorText.h"
+#include "console/Output.h"
 #include "console/Session.h"
 #include "console/TerminalViewer.h"
 #include "console/Transcript.h"
@@ -22,8 +23,6 @@ namespace ptk {
 
 namespace {
 
-constexpr auto kNotOnATerminal = "a PDF file is nothing for a terminal: name a file with -o";
-constexpr auto kNoName = "-o needs the name of a file";
 constexpr auto kNothingToWrite = "nobody is offered reports: there is no page to write";
 
 // Makes the chosen reports, as the Reports page does, without a window.
@@ -42,7 +41,6 @@ private:
     void Replaced(const std::string& sentence) override;
     void Deliver();
     void Print(std::string text);
-    void Store(const std::string& path, const std::string& bytes);
 
     const ReportArguments& m_arguments;
     Console& m_console;
@@ -127,7 +125,8 @@ void ReportWriter::Deliver()
     if (!m_arguments.output) {
         Print(std::move(bytes));
     } else if (std::all_of(reports.begin(), reports.end(), [](const ReportDocument& report) { return report.whole; })) {
-        Store(*m_arguments.output, bytes);
+        WriteOutput(*m_arguments.output, bytes);
+        m_transcript.NameFile(*m_arguments.output);
     }
 }
 
@@ -139,25 +138,12 @@ void ReportWriter::Print(std::string text)
     m_transcript.Print(std::move(text));
 }
 
-void ReportWriter::Store(const std::string& path, const std::string& bytes)
-{
-    try {
-        PutFile(path, bytes);
-    } catch (const Failure& reason) {
-        throw FileFailure(reason, path);
-    }
-    m_transcript.NameFile(path);
-}
-
 } // namespace
 
 int ReportCommand(const ReportArguments& arguments, Console& console)
 {
-    if (arguments.form == ReportForm::Pdf && !arguments.output && console.terminal) {
-        return RefuseUsage(console.err, kNotOnATerminal);
-    }
-    if (arguments.output && arguments.output->empty()) {
-        return RefuseUsage(console.err, kNoName);
+    if (const char* const wrong = WrongOutput(arguments.form, arguments.output, console)) {
+        return RefuseUsage(console.err, wrong);
     }
     return arguments.profile ? ReportByProfile(arguments, console) : ReportWriter(arguments, console).Write();
 }

@@ -36,13 +36,6 @@ std::string What(const char* name, const std::string& shown)
 
 } // namespace
 
-std::string HoursAndMinutes(std::int64_t minutes)
-{
-    const std::int64_t size = minutes < 0 ? -minutes : minutes;
-    const std::string rest = std::to_string(size % 60);
-    return (minutes < 0 ? "-" : "") + std::to_string(size / 60) + (rest.size() == 1 ? ":0" : ":") + rest;
-}
-
 // A value that another tool stored may be long: its beginning says enough.
 std::string QuotedValue(std::string_view text)
 {

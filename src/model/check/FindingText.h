@@ -16,9 +16,6 @@ struct CardCheck;
 struct CardFigures;
 struct Closing;
 
-// Minutes as hours and minutes: "7:05", "-0:30".
-[[nodiscard]] std::string HoursAndMinutes(std::int64_t minutes);
-
 // The sentence of a finding that is about one readable shift and needs nothing but it and the limit; empty for all other kinds.
 [[nodiscard]] std::string ShiftText(FindingKind kind, const Punch& punch, std::int32_t longShiftHours);
 

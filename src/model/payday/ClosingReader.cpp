@@ -94,7 +94,7 @@ void Take(Closings& closings, const Statement& row, const PayPeriod& period)
         return;
     }
     ClosingsOfEmployee& ofOne = closings[row.Int64At(kEmployee)];
-    if (days->from == period.from && days->to == period.to) {
+    if (*days == period) {
         ofOne.ofPeriod.push_back(ClosingOf(row, *days));
     } else {
         ofOne.touching.push_back(*days);

@@ -34,6 +34,15 @@ DateTime FirstDayBefore(const PayPeriod& period)
 
 } // namespace
 
+std::vector<std::int32_t> NextEmployeeIDs(std::span<const std::shared_ptr<CEmployee>> people, std::size_t first)
+{
+    std::vector<std::int32_t> ids;
+    for (const auto& employee : people.subspan(first, std::min(PunchReader::kAtOnce, people.size() - first))) {
+        ids.push_back(employee->EmployeeID());
+    }
+    return ids;
+}
+
 CardChecker::CardChecker(std::shared_ptr<CJetDB> database, const CheckTerms& terms, std::unique_ptr<ClosingsQuestion> closings)
     : m_database(std::move(database)), m_terms(terms), m_reader(*m_database, terms.period, terms.limits.firstWeekday),
       m_closingsQuestion(closings ? std::move(closings) : std::make_unique<ClosingsQuestion>(*m_database, terms.period, std::nullopt)),

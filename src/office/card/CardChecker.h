@@ -31,6 +31,9 @@ struct CheckTerms
     CheckLimits limits;
 };
 
+// The EmployeeIDs of those whose cards are read together, from the place `first` on.
+[[nodiscard]] std::vector<std::int32_t> NextEmployeeIDs(std::span<const std::shared_ptr<CEmployee>> people, std::size_t first);
+
 // Every member raises what reading the database raises.
 class CardChecker
 {

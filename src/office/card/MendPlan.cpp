@@ -22,16 +22,6 @@ bool Shares(const Remedy& one, const Remedy& other)
     });
 }
 
-// The EmployeeIDs of those whose cards are read together, from `first` on.
-std::vector<std::int32_t> NextNumbers(const std::vector<std::shared_ptr<CEmployee>>& people, std::size_t first)
-{
-    std::vector<std::int32_t> numbers;
-    for (std::size_t i = first; i < std::min(first + PunchReader::kAtOnce, people.size()); ++i) {
-        numbers.push_back(people[i]->EmployeeID());
-    }
-    return numbers;
-}
-
 } // namespace
 
 MendPlan::MendPlan(const std::shared_ptr<CJetDB>& database, const CheckTerms& terms, std::vector<std::shared_ptr<CEmployee>> people,
@@ -42,7 +32,7 @@ MendPlan::MendPlan(const std::shared_ptr<CJetDB>& database, const CheckTerms& te
     CardChecker checker(database, terms);
     for (std::size_t i = 0; i < people.size(); ++i) {
         if (i % PunchReader::kAtOnce == 0) {
-            checker.ReadAhead(NextNumbers(people, i));
+            checker.ReadAhead(NextEmployeeIDs(people, i));
         }
         std::shared_ptr<CEmployee>& employee = people[i];
         const CardCheck check = checker.Check(*employee);

@@ -4,6 +4,7 @@
 #include "model/check/Punch.h"
 #include "platform/Succeeds.h"
 #include "platform/text/DayText.h"
+#include "platform/text/Text.h"
 
 #include <fmt/format.h>
 

@@ -2,6 +2,7 @@
 
 #include "office/history/ColumnWords.h"
 #include "platform/Succeeds.h"
+#include "platform/text/Characters.h"
 #include "platform/text/Text.h"
 #include "store/engine/StoredDate.h"
 
@@ -155,13 +156,6 @@ std::string Deed(const TrailEntry& entry, const NameOfEmployee& nameOf)
         return PaydayText(row, nameOf) + (entry.after ? " closed" : " reopened");
     }
     return WholeRow(entry, row, nameOf) + (entry.after ? "added" : "deleted");
-}
-
-std::string OneLine(std::string text)
-{
-    const auto isControl = [](char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7F'; };
-    std::replace_if(text.begin(), text.end(), isControl, '?');
-    return text;
 }
 
 } // namespace

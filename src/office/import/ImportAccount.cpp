@@ -1,5 +1,7 @@
 #include "office/import/ImportAccount.h"
 
+#include "platform/text/Characters.h"
+
 #include <algorithm>
 #include <fmt/format.h>
 
@@ -14,13 +16,6 @@ constexpr const char* kNoName = "(no name)";
 constexpr ImportTableId kOrder[] = {ImportTableId::Employee, ImportTableId::Company, ImportTableId::TimeRecord, ImportTableId::System};
 
 using Lines = std::vector<std::string>;
-
-std::string OneLine(std::string text)
-{
-    const auto isControl = [](char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7F'; };
-    std::replace_if(text.begin(), text.end(), isControl, '?');
-    return text;
-}
 
 void AddTables(const ImportAccount& account, Lines& lines)
 {

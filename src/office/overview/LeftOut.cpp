@@ -134,7 +134,7 @@ void ReadLeftOut(Overview& overview, const std::shared_ptr<CJetDB>& database, Le
             continue;
         }
         if ((at - first) % PunchReader::kAtOnce == 0) {
-            checker.ReadAhead(NumbersOf(known.subspan(at, std::min(PunchReader::kAtOnce, known.size() - at))));
+            checker.ReadAhead(NextEmployeeIDs(known, at));
         }
         Take(overview, {ReasonFor(*known[at]), known[at]->EmployeeID(), RowOf(overview, checker, known[at])});
     }

@@ -15,16 +15,6 @@ CheckTerms TermsOf(const Overview& overview)
     return {overview.period, overview.made, overview.limits};
 }
 
-std::vector<std::int32_t> NumbersOf(std::span<const std::shared_ptr<CEmployee>> employees)
-{
-    std::vector<std::int32_t> numbers;
-    numbers.reserve(employees.size());
-    for (const auto& employee : employees) {
-        numbers.push_back(employee->EmployeeID());
-    }
-    return numbers;
-}
-
 OverviewRow RowOf(const Overview& overview, CardChecker& checker, const std::shared_ptr<CEmployee>& employee)
 {
     OverviewRow row;
@@ -56,15 +46,6 @@ Employees OfferedEmployees(CEmployeeList& employees)
     return offered;
 }
 
-namespace {
-
-std::vector<std::int32_t> PortionAt(std::size_t place, std::span<const std::shared_ptr<CEmployee>> employees)
-{
-    return NumbersOf(employees.subspan(place, std::min(PunchReader::kAtOnce, employees.size() - place)));
-}
-
-} // namespace
-
 // If nobody can end the reading in between, the rows of the next people are asked for while these are looked at.
 bool ReadOverview(Overview& overview, const std::shared_ptr<CJetDB>& database, std::span<const std::shared_ptr<CEmployee>> employees,
                   const RowTaken& taken)
@@ -74,9 +55,9 @@ bool ReadOverview(Overview& overview, const std::shared_ptr<CJetDB>& database, s
     overview.rows.reserve(overview.rows.size() + employees.size());
     for (std::size_t i = 0; i < employees.size(); ++i) {
         if (i % PunchReader::kAtOnce == 0) {
-            checker.ReadAhead(PortionAt(i, employees));
+            checker.ReadAhead(NextEmployeeIDs(employees, i));
             if (const std::size_t next = i + PunchReader::kAtOnce; !taken && next < employees.size()) {
-                checker.AskAhead(PortionAt(next, employees));
+                checker.AskAhead(NextEmployeeIDs(employees, next));
             }
         }
         overview.rows.push_back(RowOf(overview, checker, employees[i]));

@@ -13,8 +13,6 @@ namespace ptk {
 
 [[nodiscard]] CheckTerms TermsOf(const Overview& overview);
 
-[[nodiscard]] std::vector<std::int32_t> NumbersOf(std::span<const std::shared_ptr<CEmployee>> employees);
-
 // Checks the employee's card and makes the row. Raises what reading the database raises. REQUIRES: the employee is not nullptr.
 [[nodiscard]] OverviewRow RowOf(const Overview& overview, CardChecker& checker, const std::shared_ptr<CEmployee>& employee);
 

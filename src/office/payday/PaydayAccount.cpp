@@ -59,7 +59,7 @@ bool PaydayAccount::IsAnybodyChanged() const
 PaydayAccount ReadPaydayAccount(const std::shared_ptr<CJetDB>& database, const PayPeriod& period, DateTime now, const PaydayGoesOn& goesOn)
 {
     const CJetDB::Hold hold(database);
-    const auto employees = PresentEmployees(database);
+    const auto employees = StoredEmployees(database);
     const Closings closings = ReadClosings(database, period);
     const auto persons = PersonsWithClosings(*employees, closings, true);
     const auto figures = PresentFigures(database, period, now, persons, goesOn);

@@ -55,11 +55,9 @@ public:
         : m_engine(engine), m_database(database), m_order(order), m_goesOn(goesOn)
     {
         for (const char* table : kTables) {
-            if (const std::string lock = Said(engine.Words().lockTable, table); !lock.empty()) {
-                engine.Prepare(lock)->Run();
-            }
+            engine.LockTable(table);
         }
-        m_employees = PresentEmployees(database);
+        m_employees = StoredEmployees(database);
     }
 
     std::vector<PaydayLine> Close()
@@ -73,7 +71,7 @@ public:
             AskWhetherToGoOn(m_goesOn, overview.rows.size(), people.size());
             return true;
         });
-        m_newest = m_engine.Prepare(kNewest)->ReadRows()->Int64At(0);
+        m_newest = m_engine.NumberFrom(kNewest);
         std::vector<PaydayLine> lines;
         for (const OverviewRow& row : overview.rows) {
             lines.push_back(Close(row));

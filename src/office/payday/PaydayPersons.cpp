@@ -28,15 +28,6 @@ std::string NameOf(const PaydayPerson& person)
     return person.employee == nullptr ? fmt::format("Employee {}", person.id) : person.employee->DisplayName();
 }
 
-std::shared_ptr<CEmployeeList> PresentEmployees(const std::shared_ptr<CJetDB>& database)
-{
-    auto employees = std::make_shared<CEmployeeList>();
-    if (!employees->LoadList(database)) {
-        throw Failure(database->LastFailure());
-    }
-    return employees;
-}
-
 std::vector<PaydayPerson> PersonsWithClosings(CEmployeeList& employees, const Closings& closings, bool offered)
 {
     const auto isPaid = [&](std::int64_t id) {

@@ -31,9 +31,6 @@ void AskWhetherToGoOn(const PaydayGoesOn& goesOn, std::size_t done, std::size_t 
 // The display name; "Employee 77" if there is no such employee any more.
 [[nodiscard]] std::string NameOf(const PaydayPerson& person);
 
-// All employees, as the database has them at this moment. Raises what reading it raises.
-[[nodiscard]] std::shared_ptr<CEmployeeList> PresentEmployees(const std::shared_ptr<CJetDB>& database);
-
 // Everybody who has a closing of the period, and with `offered` also everybody who is offered time cards. They stand in the list's order;
 // behind it, by ID, those who are no employees any more.
 [[nodiscard]] std::vector<PaydayPerson> PersonsWithClosings(CEmployeeList& employees, const Closings& closings, bool offered = false);

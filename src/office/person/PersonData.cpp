@@ -20,15 +20,6 @@ constexpr auto kCompany = "SELECT COALESCE(CAST(Name AS TEXT), '') FROM Company 
 constexpr auto kNamesakes = "{} people are named {}: the employee numbers are {}; say which one";
 constexpr auto kNoSuchPerson = "there is no such employee";
 
-std::shared_ptr<CEmployeeList> EverybodyIn(const std::shared_ptr<CJetDB>& database)
-{
-    auto list = std::make_shared<CEmployeeList>();
-    if (!list->LoadList(database)) {
-        throw Failure(database->LastFailure());
-    }
-    return list;
-}
-
 std::vector<std::shared_ptr<CEmployee>> Named(CEmployeeList& employees, const std::string& name, std::optional<std::int32_t> number)
 {
     std::vector<std::shared_ptr<CEmployee>> found;
@@ -85,7 +76,7 @@ std::optional<std::int64_t> PersonPunch::Minutes() const
 
 std::shared_ptr<CEmployee> FindPerson(const std::shared_ptr<CJetDB>& database, const std::string& name, std::optional<std::int32_t> number)
 {
-    const auto found = Named(*EverybodyIn(database), name, number);
+    const auto found = Named(*StoredEmployees(database), name, number);
     if (found.empty()) {
         throw Failure(timecard::NoEmployee, "PTK", kNoSuchPerson);
     }
@@ -106,7 +97,7 @@ PersonData ReadPerson(const std::shared_ptr<CJetDB>& database, std::int32_t empl
     person.made = now;
     {
         const CJetDB::Hold hold(database);
-        const auto employees = EverybodyIn(database);
+        const auto employees = StoredEmployees(database);
         person.employee = employees->GetEmployeeByID(employeeID);
         if (person.employee == nullptr) {
             throw Failure(timecard::NoEmployee, "PTK", kNoSuchPerson);

@@ -30,7 +30,7 @@ public:
     std::string operator()(const PlainFigure& figure) const { return Decimal(figure.text); }
     std::string operator()(const PaidHours& hours) const
     {
-        return m_profile.hours == HoursForm::Clock ? MinutesText(hours.minutes) : Decimal(hours.text);
+        return m_profile.hours == HoursForm::Clock ? HoursAndMinutes(hours.minutes) : Decimal(hours.text);
     }
     std::string operator()(DateTime day) const { return FormatDateTime(day, PatternOf(m_profile.dates)); }
 

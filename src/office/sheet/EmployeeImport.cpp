@@ -103,14 +103,6 @@ void InPortions(std::span<const Row> rows, const GoesOn& goesOn, const std::func
     }
 }
 
-// Keeps others from storing an employee between the comparison and the writing.
-void LockEmployees(Engine& engine)
-{
-    if (const std::string lock = Said(engine.Words().lockTable, "Employee"); !lock.empty()) {
-        engine.Prepare(lock)->Run();
-    }
-}
-
 EmployeeAccount Judged(const std::string& text, const PrepareStatement& prepare, const EmployeeOrder& order, const GoesOn& goesOn)
 {
     const auto takes = [&](const EmployeeDifference& difference) { return order.takes && order.takes(difference); };
@@ -127,7 +119,7 @@ EmployeeAccount JudgeAndStoreEmployees(CJetDB& database, const std::string& text
 {
     EmployeeAccount account;
     const bool done = database.ExecuteSteps([&](Engine& engine) {
-        LockEmployees(engine);
+        engine.LockTable("Employee"); // nobody else stores an employee between the comparison and the writing
         account = Judged(
             text, [&](const std::string& sql) { return engine.Prepare(sql); }, order, goesOn);
         if (AreToBeStored(account, order)) {

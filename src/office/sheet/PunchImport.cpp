@@ -68,14 +68,6 @@ void Store(Engine& engine, std::span<const SheetPunch> punches, const GoesOn& go
     }
 }
 
-// Keeps others from storing a record between the comparison and the writing.
-void LockRecords(Engine& engine)
-{
-    if (const std::string lock = Said(engine.Words().lockTable, "TimeRecord"); !lock.empty()) {
-        engine.Prepare(lock)->Run();
-    }
-}
-
 bool IsToBeStored(const PunchAccount& account, const PunchOrder& order)
 {
     return !order.trial && !account.IsRefused(order.partly) && !account.punches.empty();
@@ -86,7 +78,7 @@ PunchAccount JudgeAndStore(CJetDB& database, const PunchLines& read, const Punch
 {
     PunchAccount account;
     const bool done = database.ExecuteSteps([&](Engine& engine) {
-        LockRecords(engine);
+        engine.LockTable("TimeRecord"); // nobody else stores a record between the comparison and the writing
         account = Judge(read, [&](const std::string& sql) { return engine.Prepare(sql); });
         if (IsToBeStored(account, order)) {
             Store(engine, account.punches, goesOn);

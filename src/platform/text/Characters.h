@@ -1,6 +1,8 @@
 // Questions about single characters for the readers of dates, numbers and words: ASCII only, whatever the process locale says.
 #pragma once
 
+#include <algorithm>
+#include <string>
 #include <string_view>
 
 namespace ptk {
@@ -31,6 +33,14 @@ namespace ptk {
     while (!text.empty() && IsBlank(text.back())) {
         text.remove_suffix(1);
     }
+    return text;
+}
+
+// The text with a question mark for each control character, such as the end of a line.
+[[nodiscard]] inline std::string OneLine(std::string text)
+{
+    const auto isControl = [](char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7F'; };
+    std::replace_if(text.begin(), text.end(), isControl, '?');
     return text;
 }
 

@@ -7,6 +7,8 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstdlib>
+#include <fmt/format.h>
 #include <limits>
 
 namespace ptk {
@@ -240,6 +242,11 @@ std::size_t CharacterCount(std::string_view utf8)
         count += (static_cast<unsigned char>(c) & 0xC0U) == 0x80U ? 0 : 1; // continuation bytes belong to the character before
     }
     return count;
+}
+
+std::string HoursAndMinutes(std::int64_t minutes)
+{
+    return fmt::format("{}{}:{:02}", minutes < 0 ? "-" : "", std::llabs(minutes) / 60, std::llabs(minutes) % 60);
 }
 
 } // namespace ptk

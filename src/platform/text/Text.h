@@ -52,6 +52,9 @@ void AppendDateTime(std::string& out, DateTime value, std::string_view pattern);
 // least one integer digit, never "-0.00".
 [[nodiscard]] std::string TwoDecimals(float value);
 
+// Minutes as hours and minutes: "8:30", "-0:15".
+[[nodiscard]] std::string HoursAndMinutes(std::int64_t minutes);
+
 // The text in small letters: A to Z only; other characters stay as they are.
 [[nodiscard]] std::string LowerCase(std::string_view text);
 

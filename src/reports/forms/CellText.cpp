@@ -4,8 +4,6 @@
 #include "platform/text/Text.h"
 
 #include <cmath>
-#include <cstdlib>
-#include <fmt/format.h>
 
 namespace ptk {
 
@@ -38,14 +36,9 @@ std::int64_t WholeMinutes(float hours)
     return std::llround(static_cast<double>(hours) * 60);
 }
 
-std::string MinutesText(std::int64_t minutes)
-{
-    return fmt::format("{}{}:{:02}", minutes < 0 ? "-" : "", std::llabs(minutes) / 60, std::llabs(minutes) % 60);
-}
-
 std::string ClockText(const Value& hours)
 {
-    return hours.IsNull() ? "" : MinutesText(WholeMinutes(hours.ToSingle()));
+    return hours.IsNull() ? "" : HoursAndMinutes(WholeMinutes(hours.ToSingle()));
 }
 
 } // namespace ptk

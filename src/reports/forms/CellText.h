@@ -15,9 +15,6 @@ namespace ptk {
 // Decimal hours rounded to whole minutes.
 [[nodiscard]] std::int64_t WholeMinutes(float hours);
 
-// Minutes as hours and minutes: "8:30", "-0:15".
-[[nodiscard]] std::string MinutesText(std::int64_t minutes);
-
 // Decimal hours as hours and minutes, rounded to whole minutes: "8:30", "-0:15". Empty for null.
 [[nodiscard]] std::string ClockText(const Value& hours);
 

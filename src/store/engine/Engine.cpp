@@ -56,4 +56,16 @@ void Engine::RunStored(std::string_view query, std::span<const Parameter> parame
     statement->Run();
 }
 
+void Engine::LockTable(const char* table)
+{
+    if (const std::string lock = ptk::Said(Words().lockTable, table); !lock.empty()) {
+        Prepare(lock)->Run();
+    }
+}
+
+std::int64_t Engine::NumberFrom(std::string_view select)
+{
+    return Prepare(select)->ReadRows()->Int64At(0);
+}
+
 } // namespace ptk

@@ -73,6 +73,9 @@ public:
     // trail.
     virtual void AddWholeEntry(const char* action, const std::string& file) = 0;
 
+    // Keeps others from adding rows to a table, or taking any away, before the write ends. REQUIRES: within Write.
+    void LockTable(const char* table);
+
     [[nodiscard]] virtual bool HasTrail() = 0;
 
     // Whether a table exists that files of earlier versions lack; always true on a server.
@@ -108,6 +111,9 @@ public:
     // A statement that stays ready for the next caller with the same text, also after the database was closed and opened again. It must end
     // before the database is closed.
     virtual std::unique_ptr<Statement> PrepareToKeep(std::string_view sql) = 0;
+
+    // The whole number that a select in the engine's own words answers in its first row.
+    [[nodiscard]] std::int64_t NumberFrom(std::string_view select);
 
     // A select of any number of rows, of which only those that are being read take memory. Nothing else is asked of the database before the
     // last of them was read.

@@ -44,25 +44,20 @@ std::string FindText(const ImportTable& table)
     return fmt::format("SELECT 1 FROM {} WHERE {} = :key", table.name, table.columns.front().name);
 }
 
-std::int64_t NumberFrom(Engine& engine, const std::string& sql)
-{
-    return engine.Prepare(sql)->ReadRows()->Int64At(0);
-}
-
 std::int64_t CountRows(Engine& engine, const ImportTable& table)
 {
-    return NumberFrom(engine, fmt::format("SELECT COUNT(*) FROM {}", table.name));
+    return engine.NumberFrom(fmt::format("SELECT COUNT(*) FROM {}", table.name));
 }
 
 // Whether a payday was closed; a file of an earlier version has no table of them.
 bool HasClosings(Engine& engine)
 {
-    return engine.HasTable("_Payday") && NumberFrom(engine, kCountClosings) != 0;
+    return engine.HasTable("_Payday") && engine.NumberFrom(kCountClosings) != 0;
 }
 
 void RefuseUnlessEmpty(Engine& engine)
 {
-    if (NumberFrom(engine, kCountOthers) != 0 || HasClosings(engine)) {
+    if (engine.NumberFrom(kCountOthers) != 0 || HasClosings(engine)) {
         throw Failure(0, "PTK", kNotEmpty);
     }
 }
@@ -71,7 +66,7 @@ void RefuseUnlessEmpty(Engine& engine)
 void LockTables(Engine& engine)
 {
     for (std::size_t i = 0; i < kImportTableCount; ++i) {
-        engine.Prepare(Said(engine.Words().lockTable, ImportTableOf(static_cast<ImportTableId>(i)).name))->Run();
+        engine.LockTable(ImportTableOf(static_cast<ImportTableId>(i)).name);
     }
 }
 
@@ -82,7 +77,7 @@ void SkipNumbers(Engine& engine)
         const ImportTable& table = ImportTableOf(static_cast<ImportTableId>(i));
         if (table.hasKey) {
             const char* const key = table.columns.front().name;
-            const std::int64_t greatest = NumberFrom(engine, fmt::format("SELECT COALESCE(MAX({}), 0) FROM {}", key, table.name));
+            const std::int64_t greatest = engine.NumberFrom(fmt::format("SELECT COALESCE(MAX({}), 0) FROM {}", key, table.name));
             engine.RunScript(Said(engine.Words().skipNumbers, table.name, key, greatest).c_str());
         }
     }
@@ -199,7 +194,7 @@ ImportFigures ReadFigures(Engine& engine)
         figures.rows[i] = CountRows(engine, ImportTableOf(static_cast<ImportTableId>(i)));
     }
     ReadHours(engine, figures);
-    figures.orphans = NumberFrom(engine, kOrphans);
+    figures.orphans = engine.NumberFrom(kOrphans);
     return figures;
 }
 

@@ -64,18 +64,17 @@ void AddColumn(Engine& engine, const char* table, const char* column)
 
 bool IsUpToDate(Engine& engine)
 {
-    return HasTrail(engine) && engine.Prepare(kFindStructure)->ReadRows()->Int32At(0) == 1 &&
-           engine.Prepare(kStructure)->ReadRows()->Int64At(0) >= kFileStructure;
+    return HasTrail(engine) && engine.NumberFrom(kFindStructure) == 1 && engine.NumberFrom(kStructure) >= kFileStructure;
 }
 
 bool HasTrail(Engine& engine)
 {
-    return engine.Prepare(kFindTrail)->ReadRows()->Int32At(0) == 2;
+    return engine.NumberFrom(kFindTrail) == 2;
 }
 
 std::int64_t NextStep(Engine& engine)
 {
-    return engine.Prepare(kNext)->ReadRows()->Int64At(0);
+    return engine.NumberFrom(kNext);
 }
 
 // A file that stays of an earlier version has no place for a reason.

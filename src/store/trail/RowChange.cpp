@@ -155,9 +155,7 @@ void RequireUntouched(Engine& engine, Portion portion, const KnownSteps& known)
 
 void RequireNone(Engine& engine, Portion portion, const char* table, const char* column)
 {
-    if (const std::string lock = Said(engine.Words().lockTable, table); !lock.empty()) {
-        engine.Prepare(lock)->Run();
-    }
+    engine.LockTable(table);
     RefuseAnswered(engine, portion, fmt::format("SELECT {0} FROM {1} WHERE {0} IN ({2}) LIMIT 1", column, table, KeysOf(portion)));
 }
 

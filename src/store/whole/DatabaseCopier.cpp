@@ -39,22 +39,17 @@ struct Source
     explicit Source(const std::string& name) : engine(OpenDatabase(name, OpenFor::Whole)), isFile(IsFileName(name)) {}
 };
 
-std::int64_t NumberFrom(Engine& engine, const std::string& sql)
-{
-    return engine.Prepare(sql)->ReadRows()->Int64At(0);
-}
-
 std::int64_t CountRows(Engine& engine, const StoredTable& table)
 {
-    return NumberFrom(engine, fmt::format("SELECT COUNT(*) FROM {}", table.name));
+    return engine.NumberFrom(fmt::format("SELECT COUNT(*) FROM {}", table.name));
 }
 
 // Whether the source has a table: files of earlier versions lack some, a server has all of them.
 bool HasTable(const Source& source, const StoredTable& table)
 {
     return !source.isFile ||
-           NumberFrom(*source.engine, fmt::format("SELECT COUNT(*) FROM sqlite_master WHERE type = 'table' AND name = '{}' COLLATE NOCASE",
-                                                  table.name)) != 0;
+           source.engine->NumberFrom(
+               fmt::format("SELECT COUNT(*) FROM sqlite_master WHERE type = 'table' AND name = '{}' COLLATE NOCASE", table.name)) != 0;
 }
 
 CopyAccount CountSource(const Source& source)
@@ -128,8 +123,8 @@ Failure Refusal(const StoredTable& table, const Statement& row, const Unfit& unf
 
 bool HasColumn(Engine& file, const StoredTable& table, const char* column)
 {
-    return NumberFrom(
-               file, fmt::format("SELECT COUNT(*) FROM pragma_table_info('{}') WHERE name = '{}' COLLATE NOCASE", table.name, column)) != 0;
+    constexpr auto kFind = "SELECT COUNT(*) FROM pragma_table_info('{}') WHERE name = '{}' COLLATE NOCASE";
+    return file.NumberFrom(fmt::format(kFind, table.name, column)) != 0;
 }
 
 // The question for a table's rows. A column that the file does not have yet is null in every row.
@@ -206,8 +201,8 @@ private:
     void SkipNumbers(Engine& target, const StoredTable& table)
     {
         const char* const key = table.columns.front().name;
-        const std::int64_t given = NumberFrom(*m_source.engine, Said(m_source.engine->Words().lastNumber, table.name, key));
-        const std::int64_t greatest = NumberFrom(*m_source.engine, fmt::format("SELECT COALESCE(MAX({}), 0) FROM {}", key, table.name));
+        const std::int64_t given = m_source.engine->NumberFrom(Said(m_source.engine->Words().lastNumber, table.name, key));
+        const std::int64_t greatest = m_source.engine->NumberFrom(fmt::format("SELECT COALESCE(MAX({}), 0) FROM {}", key, table.name));
         target.RunScript(Said(target.Words().skipNumbers, table.name, key, std::max(given, greatest)).c_str());
     }
 

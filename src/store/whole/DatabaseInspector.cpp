@@ -39,16 +39,11 @@ void DatabaseInspector::CheckColumns(const std::string& table, std::span<const S
     }
 }
 
-std::int32_t DatabaseInspector::NumberFrom(const std::string& query) const
-{
-    return m_engine.Prepare(query)->ReadRows()->Int32At(0);
-}
-
 // A table that is not there has been reported by then.
 std::int32_t DatabaseInspector::Count(const std::string& table) const
 {
     try {
-        return ColumnsOf(table).empty() ? 0 : NumberFrom("SELECT COUNT(*) FROM " + table);
+        return ColumnsOf(table).empty() ? 0 : NarrowToInt32(m_engine.NumberFrom("SELECT COUNT(*) FROM " + table));
     } catch (const Failure&) {
         if (!m_words.mayBeDamaged) {
             throw;
@@ -75,7 +70,7 @@ bool DatabaseInspector::RequireOneRow(const char* table)
 
 void DatabaseInspector::CheckLimits()
 {
-    if (!LacksColumns("_CheckLimits") && NumberFrom(m_words.uselessLimits) != 0) {
+    if (!LacksColumns("_CheckLimits") && m_engine.NumberFrom(m_words.uselessLimits) != 0) {
         Report("The table _CheckLimits holds a value of no use: the check takes its own instead.");
     }
 }

@@ -72,7 +72,6 @@ private:
 
     [[nodiscard]] Declarations ColumnsOf(const std::string& table) const;
     [[nodiscard]] std::int32_t Count(const std::string& table) const;
-    [[nodiscard]] std::int32_t NumberFrom(const std::string& query) const;
 
     Engine& m_engine;
     const InspectionWords& m_words;

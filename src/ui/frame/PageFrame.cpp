@@ -96,13 +96,9 @@ void PageFrame::AddStanding(QVBoxLayout& column, QWidget& page)
 // REQUIRES: the page is inside the frame already. Within one window the buttons keep their places in the order of Tab.
 void PageFrame::AddButtons(QVBoxLayout& column, QWidget& page)
 {
-    const std::unique_ptr<QLayout> buttons(page.findChild<QLayout*>(kButtons));
-    if (buttons == nullptr) {
-        return;
+    if (auto* const buttons = page.findChild<QLayout*>(kButtons)) {
+        FoldButtons(column, buttons);
     }
-    auto* row = new ButtonRow;
-    column.addLayout(row);
-    row->TakeFrom(*buttons);
 }
 
 } // namespace ptk

@@ -54,7 +54,7 @@ void ViewMenu::ShowNextCard(int direction)
 void ViewMenu::GoOn(const PayPeriod& period)
 {
     const auto read = m_overview == nullptr ? std::nullopt : m_overview->ReadPeriod();
-    if (read && read->from == period.from && read->to == period.to) {
+    if (read == period) {
         ShowNextCard(1);
     }
 }

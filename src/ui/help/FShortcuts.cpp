@@ -1,5 +1,6 @@
 #include "ui/help/FShortcuts.h"
 
+#include "ui/widgets/FixedRows.h"
 #include "ui_FShortcuts.h"
 
 #include <QAction>
@@ -12,7 +13,6 @@ namespace {
 
 constexpr QSize kShortcutsSize(560, 460);
 constexpr QSize kShortcutsSmallest(360, 240);
-constexpr int kRowSpace = 8;     // pixels around the text of a row
 constexpr int kColumnSpace = 24; // pixels beside the text of a cell
 
 struct Shortcut
@@ -73,8 +73,7 @@ FShortcuts::FShortcuts(QWidget& window) : QDialog(&window), m_ui(std::make_uniqu
     table->setHorizontalHeaderLabels({"Where", "Keys", "What"});
     table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeading | Qt::AlignVCenter);
     table->horizontalHeader()->setStretchLastSection(true);
-    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + kRowSpace);
-    table->verticalHeader()->hide();
+    FixRows(*table);
     AddMenus(window);
     AddOthers();
     for (const int column : {0, 1}) {

@@ -35,7 +35,6 @@ constexpr auto kSaving = "Saving: %1";
 constexpr auto kChange = "change"; // each row is one
 
 constexpr QSize kFirstSize(900, 640);
-constexpr int kRowSpace = 8; // pixels around the text of a row
 constexpr int kColumnSpace = 16;
 constexpr int kEmployeeCharacters = 14; // shown in any case
 constexpr int kEntryLines = 2;
@@ -76,7 +75,7 @@ void HistoryWindow::PrepareTable()
 {
     QTableView* table = m_ui->grdHistory;
     table->setModel(m_rows);
-    FixRows(*table, kRowSpace);
+    FixRows(*table);
     OnRoom(*table, [this] { FitColumns(); });
 }
 

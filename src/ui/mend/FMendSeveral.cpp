@@ -22,7 +22,6 @@ constexpr auto kSaveTip = "Store all that is ticked as one step (Enter)";
 
 constexpr QSize kMendSize(940, 560);
 constexpr QSize kLeastMendSize(480, 340);
-constexpr int kRowRoom = 8; // pixels around the text of a row
 constexpr int kColumnRoom = 24;
 constexpr int kTickRoom = 28;
 constexpr int kMostCharacters = 34;    // of any column except the findings
@@ -64,7 +63,7 @@ void FMendSeveral::PrepareTable()
 {
     QTableView* table = m_ui->grdMend;
     table->setModel(m_rows);
-    FixRows(*table, kRowRoom);
+    FixRows(*table);
     table->viewport()->installEventFilter(this);
 }
 

@@ -16,7 +16,6 @@ namespace ptk {
 
 namespace {
 
-constexpr int kRowSpace = 8;     // pixels around the text of a row
 constexpr int kColumnSpace = 24; // pixels around a heading: margins and the sorting arrow
 constexpr int kCellSpace = 12;
 constexpr int kNameCharacters = 18;
@@ -42,7 +41,7 @@ void OverviewTables::Prepare()
     m_sums.setModel(m_totals);
     m_others.setModel(m_leftOut);
     for (QTableView* table : {&m_table, &m_sums, &m_others}) {
-        FixRows(*table, kRowSpace);
+        FixRows(*table);
     }
     m_sums.horizontalHeader()->hide();
     m_others.horizontalHeader()->hide();

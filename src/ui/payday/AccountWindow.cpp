@@ -34,7 +34,6 @@ constexpr auto kSave = "Save the account as pages, a table, data or text (Ctrl+S
 constexpr auto kNothing = "Nothing has been read that could be saved";
 
 constexpr QSize kUsualSize(900, 560);
-constexpr int kRoomOfRow = 8; // pixels around the text of a row
 constexpr int kRoomOfCell = 20;
 constexpr int kLeastName = 18; // characters
 constexpr int kLines = 5;      // of the chosen person
@@ -74,7 +73,7 @@ void AccountWindow::PrepareTable()
     QTableView* table = m_ui->grdAccount;
     table->setModel(m_rows);
     m_ui->grdAccount->SetHint(kNobody);
-    FixRows(*table, kRoomOfRow);
+    FixRows(*table);
     OnRoom(*table, [this] { FitColumns(); });
 }
 
@@ -104,7 +103,7 @@ void AccountWindow::Refresh()
     LookForChanges(Host());
     m_ui->notice->Clear();
     std::string refusal;
-    if (!Read(refusal) && m_account != nullptr && (m_account->period.from != m_period.from || m_account->period.to != m_period.to)) {
+    if (!Read(refusal) && m_account != nullptr && m_account->period != m_period) {
         m_account = nullptr;
     }
     Show();

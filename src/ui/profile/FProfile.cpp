@@ -4,6 +4,7 @@
 #include "platform/Failure.h"
 #include "platform/Succeeds.h"
 #include "ui/profile/TablePreview.h"
+#include "ui/widgets/FixedRows.h"
 #include "ui_FProfile.h"
 
 #include <QSignalBlocker>
@@ -23,7 +24,6 @@ constexpr auto kChooseColumn = "Choose a column of the table first.";
 
 constexpr QSize kProfileSize(900, 600);
 constexpr QSize kProfileSmallest(620, 510);
-constexpr int kColumnRowSpace = 8; // pixels around the text of a row
 
 enum CellPart
 {
@@ -77,9 +77,7 @@ void FProfile::PrepareColumns()
     grid->setColumnCount(CellParts);
     grid->setHorizontalHeaderLabels({"Column", "Heading", "Text"});
     grid->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-    grid->horizontalHeader()->setHighlightSections(false);
-    grid->verticalHeader()->setDefaultSectionSize(grid->fontMetrics().height() + kColumnRowSpace);
-    grid->verticalHeader()->hide();
+    FixRows(*grid);
     grid->setToolTip(kColumnTip);
 }
 

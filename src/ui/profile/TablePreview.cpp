@@ -1,13 +1,13 @@
 #include "ui/profile/TablePreview.h"
 
+#include "ui/widgets/FixedRows.h"
+
 #include <QHeaderView>
 #include <QTableWidget>
 
 namespace ptk {
 
 namespace {
-
-constexpr int kPreviewRowSpace = 8; // pixels around the text of a row
 
 QStringList CellTexts(const TableLine& line)
 {
@@ -34,8 +34,7 @@ void ShowPreview(QTableWidget& grid, const Profile* profile, std::span<const Pai
         grid.setHorizontalHeaderLabels(CellTexts(lines.front()));
         lines.erase(lines.begin());
     }
-    grid.verticalHeader()->setDefaultSectionSize(grid.fontMetrics().height() + kPreviewRowSpace);
-    grid.verticalHeader()->hide();
+    FixRows(grid);
     grid.setRowCount(static_cast<int>(lines.size()));
     for (int row = 0; row < grid.rowCount(); ++row) {
         const QStringList texts = CellTexts(lines.at(static_cast<std::size_t>(row)));

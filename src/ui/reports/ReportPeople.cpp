@@ -91,7 +91,7 @@ ReportPeople::~ReportPeople() = default;
 
 bool ReportPeople::Check(const std::optional<PayPeriod>& days)
 {
-    const bool same = days && m_days ? days->from == m_days->from && days->to == m_days->to : days.has_value() == m_days.has_value();
+    const bool same = days == m_days;
     if (!same) {
         m_days = days;
         CheckSoon();

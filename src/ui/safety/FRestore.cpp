@@ -26,7 +26,6 @@ constexpr auto kBackupFilter = "Databases (*.mdb);;All Files (*)";
 
 constexpr QSize kRestoreSize(820, 420);
 constexpr QSize kRestoreSmallest(420, 260);
-constexpr int kRowSpace = 8;     // pixels around the text of a row
 constexpr int kColumnSpace = 24; // pixels beside the text of a cell
 
 enum Column
@@ -69,7 +68,7 @@ void FRestore::PrepareTable()
     table->setColumnCount(static_cast<int>(kHeadings.size()));
     table->setHorizontalHeaderLabels(kHeadings);
     table->horizontalHeader()->setStretchLastSection(true);
-    FixRows(*table, kRowSpace);
+    FixRows(*table);
     for (int column = Made; column <= Checked; ++column) {
         table->horizontalHeaderItem(column)->setTextAlignment(AlignmentOf(column));
     }
