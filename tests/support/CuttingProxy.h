@@ -13,6 +13,8 @@
 #include <atomic>
 #include <chrono>
 #include <cstring>
+#include <mutex>
+#include <shared_mutex>
 #include <thread>
 #include <vector>
 
@@ -35,10 +37,14 @@ public:
 
     // Cuts the line that is open now once the server has answered so many bytes more; later lines hold.
     void CutAfter(int bytes) { m_left = bytes; }
-    [[nodiscard]] bool WasCut() const { return m_left < 0; }
+    [[nodiscard]] bool WasCut() const { return m_left == kCut; }
 
     // From now on nothing passes over any line, and no line ends, until Flow is called.
-    void Stall() { m_stalled = true; }
+    void Stall()
+    {
+        const std::unique_lock nothingPasses(m_passing); // neither does what was about to
+        m_stalled = true;
+    }
     void Flow() { m_stalled = false; }
 
     // From now on all that passes takes so long each way.
@@ -105,6 +111,10 @@ private:
             }
             std::array<pollfd, 2> both{{{client, POLLIN, 0}, {server, POLLIN, 0}}};
             ::poll(both.data(), both.size(), 5);
+            const std::shared_lock passing(m_passing);
+            if (m_stalled) {
+                continue;
+            }
             if (both[0].revents != 0) {
                 std::this_thread::sleep_for(m_way.load());
                 const auto size = ::read(client, buffer.data(), buffer.size());
@@ -129,14 +139,16 @@ private:
         const bool cut = left >= 0 && size > left;
         size = cut ? left : size;
         if (left >= 0) {
-            m_left = cut ? -1 : left - static_cast<int>(size);
+            m_left = cut ? kCut : left - static_cast<int>(size);
         }
         return ::send(client, buffer.data(), static_cast<std::size_t>(size), MSG_NOSIGNAL) == size && !cut;
     }
 
     static constexpr int kNever = -2;
+    static constexpr int kCut = -1;
 
     TemporaryFolder m_folder;
+    std::shared_mutex m_passing;
     std::atomic<int> m_left = kNever;
     std::atomic<std::chrono::milliseconds> m_way{};
     std::atomic<bool> m_stopped = false;
