@@ -6,7 +6,6 @@
 #include <glib.h> // before the library's header, which would include it with the linkage of C
 #include <mdbtools.h>
 
-#include <cstdint>
 #include <memory>
 
 namespace jet {

@@ -1,7 +1,6 @@
 // Texts of a database file as UTF-8.
 #pragma once
 
-#include <cstddef>
 #include <span>
 #include <string>
 

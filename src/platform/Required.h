@@ -4,7 +4,6 @@
 #include "platform/Failure.h"
 
 #include <memory>
-#include <utility>
 
 namespace ptk {
 

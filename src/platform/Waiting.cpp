@@ -2,7 +2,6 @@
 
 #include <future>
 #include <optional>
-#include <system_error>
 #include <utility>
 
 namespace ptk {

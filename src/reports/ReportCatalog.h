@@ -1,7 +1,6 @@
 // The table of reports: which reports there are, what each is called, and which people and days it takes.
 #pragma once
 
-#include <cstdint>
 #include <memory>
 #include <span>
 #include <string_view>

@@ -7,7 +7,6 @@
 #include "startup/CController.h"
 #include "startup/Notices.h"
 
-#include <cstdlib>
 #include <utility>
 
 namespace ptk {

@@ -24,7 +24,6 @@
 
 #include <fmt/format.h>
 
-#include <cstdlib>
 #include <utility>
 
 namespace ptk {

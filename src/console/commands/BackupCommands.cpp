@@ -9,7 +9,6 @@
 #include "platform/system/Clock.h"
 #include "platform/text/DayText.h"
 #include "shell/CDatabaseLocator.h"
-#include "shell/CFileAdaptor.h"
 #include "store/engine/EngineSource.h"
 #include "store/whole/DatabaseName.h"
 

@@ -5,7 +5,7 @@
 #include "console/Output.h"
 #include "console/Session.h"
 #include "model/CEmployeeList.h"
-#include "model/CTimeCard.h"
+#include "model/ModelErrors.h"
 #include "model/payday/ClosingReader.h"
 #include "office/overview/Overview.h"
 #include "office/overview/OverviewTexts.h"

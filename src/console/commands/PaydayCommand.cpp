@@ -9,7 +9,6 @@
 #include "model/ModelErrors.h"
 #include "office/payday/PaydayAccount.h"
 #include "office/payday/PaydayClosing.h"
-#include "platform/files/FileDraft.h"
 #include "platform/system/Clock.h"
 
 #include <algorithm>

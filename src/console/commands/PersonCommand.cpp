@@ -9,7 +9,6 @@
 #include "office/person/Kept.h"
 #include "office/person/PersonData.h"
 #include "office/safety/BackupRun.h"
-#include "platform/files/FileDraft.h"
 #include "platform/system/Clock.h"
 #include "shell/CDatabaseLocator.h"
 

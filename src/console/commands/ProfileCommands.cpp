@@ -2,7 +2,6 @@
 #include "console/Commands.h"
 #include "console/Console.h"
 #include "console/ErrorText.h"
-#include "console/Output.h"
 #include "console/Session.h"
 #include "console/Transcript.h"
 #include "model/CEmployeeList.h"

@@ -10,7 +10,6 @@
 #include "model/CEmployeeList.h"
 #include "office/reports/ReportChoice.h"
 #include "office/reports/ReportRunner.h"
-#include "platform/files/FileDraft.h"
 #include "platform/files/ProgramFolder.h"
 #include "platform/Succeeds.h"
 #include "platform/system/Clock.h"

@@ -3,7 +3,6 @@
 
 #include "model/remedy/Remedy.h"
 
-#include <optional>
 #include <vector>
 
 namespace ptk {

@@ -4,7 +4,6 @@
 #include "office/import/Import.h"
 #include "platform/text/DateTime.h"
 
-#include <functional>
 #include <string>
 
 namespace ptk {

@@ -1,6 +1,5 @@
 #include "office/business/SampleBusiness.h"
 
-#include <algorithm>
 #include <random>
 
 namespace ptk {

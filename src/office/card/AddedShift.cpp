@@ -1,7 +1,6 @@
 #include "office/card/AddedShift.h"
 
 #include "model/CEmployee.h"
-#include "model/check/FindingText.h"
 #include "model/check/Punch.h"
 #include "platform/Succeeds.h"
 #include "platform/text/DayText.h"
@@ -10,7 +9,6 @@
 #include "store/engine/Statement.h"
 #include "store/PunchSQL.h"
 
-#include <algorithm>
 #include <fmt/format.h>
 
 namespace ptk {

@@ -1,6 +1,5 @@
 #include "office/card/NewRecord.h"
 
-#include "model/check/FindingText.h"
 #include "model/check/Punch.h"
 #include "platform/Succeeds.h"
 #include "platform/text/DayText.h"

@@ -6,7 +6,6 @@
 #include "platform/text/Text.h"
 #include "store/engine/StoredDate.h"
 
-#include <algorithm>
 #include <fmt/format.h>
 #include <string_view>
 

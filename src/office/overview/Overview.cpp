@@ -6,8 +6,6 @@
 #include "platform/text/DecimalSum.h"
 #include "store/CJetDB.h"
 
-#include <algorithm>
-
 namespace ptk {
 
 CheckTerms TermsOf(const Overview& overview)

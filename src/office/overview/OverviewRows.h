@@ -4,10 +4,7 @@
 #include "office/card/CardChecker.h"
 #include "office/overview/Overview.h"
 
-#include <cstdint>
 #include <memory>
-#include <span>
-#include <vector>
 
 namespace ptk {
 

@@ -1,8 +1,6 @@
 #include "office/payday/PaydayPersons.h"
 
 #include "model/CEmployeeList.h"
-#include "platform/Failure.h"
-#include "store/CJetDB.h"
 
 #include <fmt/format.h>
 

@@ -5,7 +5,6 @@
 #include "store/engine/EngineWords.h"
 #include "store/engine/RecordSet.h"
 #include "store/engine/Statement.h"
-#include "store/engine/StoredDate.h"
 
 #include <algorithm>
 #include <charconv>

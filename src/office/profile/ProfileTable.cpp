@@ -6,7 +6,6 @@
 #include "platform/text/DataText.h"
 #include "platform/text/DayText.h"
 #include "platform/text/Text.h"
-#include "reports/forms/CellText.h"
 #include "reports/forms/ReportForms.h"
 
 #include <algorithm>

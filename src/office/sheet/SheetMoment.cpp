@@ -3,7 +3,6 @@
 #include "platform/Failure.h"
 #include "platform/text/Text.h"
 
-#include <array>
 #include <charconv>
 
 namespace ptk {

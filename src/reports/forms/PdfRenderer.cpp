@@ -3,7 +3,6 @@
 #include "platform/Failure.h"
 #include "platform/system/Clock.h"
 #include "platform/text/DayText.h"
-#include "reports/forms/CellText.h"
 #include "reports/forms/PageDrawing.h"
 #include "reports/forms/PageLayout.h"
 #include "reports/forms/ReportDocument.h"

@@ -1,7 +1,6 @@
 #include "store/backup/CheckedCopy.h"
 
 #include "platform/files/FileDraft.h"
-#include "platform/text/Text.h"
 #include "platform/Waiting.h"
 #include "store/engine/EngineNumber.h"
 #include "store/engine/RecordSet.h"

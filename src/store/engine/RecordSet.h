@@ -5,7 +5,6 @@
 #include "platform/text/Value.h"
 
 #include <cstdint>
-#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>

@@ -7,7 +7,6 @@
 #include <fmt/format.h>
 
 #include <charconv>
-#include <string>
 #include <string_view>
 #include <system_error>
 

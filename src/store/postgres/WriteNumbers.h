@@ -4,7 +4,6 @@
 #include "store/engine/Author.h"
 #include "store/postgres/ServerLine.h"
 
-#include <chrono>
 #include <cstdint>
 #include <string>
 

@@ -1,7 +1,7 @@
 // The parameters of the stored queries that write.
 #pragma once
 
-#include "store/engine/Engine.h"
+#include "store/engine/Statement.h"
 #include "store/rows/Rows.h"
 
 #include <vector>

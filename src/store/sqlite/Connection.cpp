@@ -14,7 +14,6 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <ctime>
 #include <thread>
 
 namespace ptk {

@@ -9,7 +9,6 @@
 #include "ui/reports/OpenReports.h"
 
 #include <memory>
-#include <optional>
 #include <QMainWindow>
 #include <string>
 

@@ -6,8 +6,6 @@
 #include <QScrollArea>
 #include <QVBoxLayout>
 
-#include <memory>
-
 namespace ptk {
 
 namespace {

@@ -6,7 +6,6 @@
 #include "ui/widgets/FindingList.h"
 #include "ui/widgets/ThemeIcon.h"
 
-#include <algorithm>
 #include <QApplication>
 #include <QPalette>
 #include <QStyle>

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "model/PayPeriod.h"
-#include "platform/text/DateTime.h"
 #include "ui/page/ReadingWindow.h"
 
 #include <cstdint>

@@ -7,7 +7,6 @@
 #include "platform/system/BusyPointer.h"
 #include "platform/system/Clock.h"
 #include "platform/text/DayText.h"
-#include "store/CJetDB.h"
 #include "ui/page/ChangeNews.h"
 #include "ui/page/Workplace.h"
 #include "ui/payday/AccountModel.h"

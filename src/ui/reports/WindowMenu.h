@@ -1,7 +1,6 @@
 // The Window menu: it lists the open report windows, and prints or closes all of them.
 #pragma once
 
-#include <functional>
 #include <QObject>
 
 class QMenu;

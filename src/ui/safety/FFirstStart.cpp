@@ -4,7 +4,6 @@
 #include "platform/Failure.h"
 #include "platform/files/ProgramFolder.h"
 #include "platform/Succeeds.h"
-#include "platform/system/BusyPointer.h"
 #include "platform/system/Clock.h"
 #include "ui/safety/FImport.h"
 #include "ui_FFirstStart.h"

@@ -4,7 +4,6 @@
 #include "office/card/NewRecord.h"
 #include "ui/editors/TimeRecordReceiver.h"
 
-#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
