@@ -67,7 +67,7 @@ CJetDB::Reason::~Reason()
     }
 }
 
-std::shared_ptr<CJetDB> CJetDB::Afresh() const
+std::shared_ptr<CJetDB> CJetDB::SecondAccess() const
 {
     auto fresh = std::make_shared<CJetDB>(m_programFolder);
     fresh->m_databaseName = m_databaseName;

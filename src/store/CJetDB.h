@@ -139,7 +139,7 @@ public:
     [[nodiscard]] const std::vector<PasswordChange>& Passwords() const { return m_memory->passwords; }
 
     // Another object for the same database, closed, that knows of no earlier failures. Author, steps and passwords are shared by both.
-    [[nodiscard]] std::shared_ptr<CJetDB> Afresh() const;
+    [[nodiscard]] std::shared_ptr<CJetDB> SecondAccess() const;
 
     // Sets that from now on an operation fails at once where somebody else has the file: for questions that can as well be asked later.
     void DoNotWait() { m_whenHeld = WhenHeld::Refuse; }

@@ -25,10 +25,10 @@ constexpr std::int32_t kPortion = 256; // rows
 // index of the listing finds it.
 std::string HasDisplayName(const std::string& name, const EngineWords& words)
 {
-    std::string lastNames = Said(words.caseless, ":name");
+    std::string lastNames = FilledIn(words.caseless, ":name");
     for (std::size_t blank = name.find(' '); blank != std::string::npos; blank = name.find(' ', blank + 1)) {
         const std::string behind = fmt::format("SUBSTR(:name, {})", CharacterCount(name.substr(0, blank)) + 2); // in characters, from 1
-        lastNames += ", " + Said(words.caseless, behind);
+        lastNames += ", " + FilledIn(words.caseless, behind);
     }
     return fmt::format("{} IN ({}) AND {} = :name", words.caselessLastName, lastNames, kDisplayNameSql);
 }

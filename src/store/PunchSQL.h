@@ -43,8 +43,8 @@ inline constexpr auto kOne = "EmployeeID = :employee";
 {
     return fmt::format("SELECT EndTime FROM TimeRecord WHERE EmployeeID = :employee AND StartTime < :start AND {0} AND {1} < {2} AND "
                        "({3} - :minute + 2160) % 1440 BETWEEN 600 AND 840 ORDER BY StartTime DESC, EndTime DESC LIMIT 10",
-                       words.readablePunch, Said(words.wholeMinute, "StartTime"), Said(words.wholeMinute, "EndTime"),
-                       Said(words.minuteOfDay, "StartTime"));
+                       words.readablePunch, FilledIn(words.wholeMinute, "StartTime"), FilledIn(words.wholeMinute, "EndTime"),
+                       FilledIn(words.minuteOfDay, "StartTime"));
 }
 
 // The employees who have records on the card of the days from :first to the midnight :end, those that start from :end on left out.
@@ -76,7 +76,7 @@ inline constexpr auto kWithStartsIn =
 [[nodiscard]] inline std::string OfMany(const EngineWords& words)
 {
     const std::string select =
-        "SELECT TimeRecordID, StartTime, EndTime, EmployeeID FROM TimeRecord WHERE " + Said(words.amongEmployees, "EmployeeID");
+        "SELECT TimeRecordID, StartTime, EndTime, EmployeeID FROM TimeRecord WHERE " + FilledIn(words.amongEmployees, "EmployeeID");
     return fmt::format("{0} AND StartTime BETWEEN :first AND :last UNION ALL {0} AND {1}", select, words.unusualPunch);
 }
 

@@ -13,7 +13,7 @@ namespace {
 
 std::string SourceOf(const CopyDatabaseArguments& arguments, const Console& console)
 {
-    return arguments.from ? WholeName(*arguments.from) : ConfiguredName(console.programFolder);
+    return arguments.from ? AbsoluteName(*arguments.from) : ConfiguredName(console.programFolder);
 }
 
 CopyAccount Copy(const std::string& from, const std::string& to)
@@ -37,7 +37,7 @@ std::string Line(const CopiedTable& table)
 int CopyDatabaseCommand(const CopyDatabaseArguments& arguments, Console& console)
 {
     const std::string from = SourceOf(arguments, console);
-    const std::string to = WholeName(arguments.to);
+    const std::string to = AbsoluteName(arguments.to);
     const CopyAccount account = Copy(from, to);
     console.out << "from: " << TerminalText(SaidDatabase(from)) << "\nto: " << TerminalText(SaidDatabase(to)) << '\n';
     for (const CopiedTable& table : account.tables) {

@@ -223,7 +223,7 @@ private:
                  {},
                  regularWithout + overtimeWithout,
                  m_card.from,
-                 EndOfDay(m_card.to),
+                 MidnightAfter(m_card.to),
                  NoRateText(regularWithout, overtimeWithout)});
         }
     }
@@ -238,7 +238,7 @@ private:
                      {},
                      week.Above40() - week.paidAsOvertime,
                      week.from,
-                     EndOfDay(WeekLast(week.from, m_limits.firstWeekday)),
+                     MidnightAfter(WeekLast(week.from, m_limits.firstWeekday)),
                      WeekText(week)});
             }
         }

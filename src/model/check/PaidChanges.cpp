@@ -104,7 +104,7 @@ private:
     bool IsFetched(const TrailRow& row, const Punch& punch) const
     {
         using StoredKind = TrailValue::Kind;
-        const DateTime end = EndOfDay(m_period.to);
+        const DateTime end = MidnightAfter(m_period.to);
         if (punch.start && punch.end) {
             return *punch.start >= m_period.from && *punch.end <= end;
         }

@@ -38,7 +38,7 @@ std::vector<Finding> PaidChangedFindings(const Closing& paid, const std::optiona
              {},
              difference->Minutes(),
              paid.period.from,
-             EndOfDay(paid.period.to),
+             MidnightAfter(paid.period.to),
              PaidChangedText(paid, now, difference->gross)}};
 }
 

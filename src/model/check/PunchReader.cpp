@@ -62,7 +62,7 @@ DateTime LastSecond(DateTime day)
 // A remedy may let a shift of the card end a day later, where no other shift begins before that: so shifts up to then are needed, too.
 DateTime NextMidnight(DateTime midnight)
 {
-    return EndOfDay(DateTime(midnight.Date()));
+    return MidnightAfter(DateTime(midnight.Date()));
 }
 
 // Shifts that start on the day before the first week may reach into it; longer ones than a day are found by punchsql::Unusual.
@@ -76,7 +76,7 @@ DateTime DayBefore(DateTime day)
 
 // A shift without length at the card's last moment is on the card, although it begins after the period and perhaps after its weeks.
 PunchReader::PunchReader(CJetDB& database, const PayPeriod& period, std::int32_t firstWeekday)
-    : m_from(period.from), m_end(EndOfDay(period.to)), m_first(DayBefore(WeekStart(period.from, firstWeekday))),
+    : m_from(period.from), m_end(MidnightAfter(period.to)), m_first(DayBefore(WeekStart(period.from, firstWeekday))),
       m_last(std::max(LastSecond(WeekLast(period.to, firstWeekday)), NextMidnight(m_end)))
 {
     RequireOpen(database);

@@ -26,7 +26,7 @@ std::int64_t WeekStartNumber(DateTime day, std::int32_t firstWeekday)
 
 } // namespace
 
-DateTime EndOfDay(DateTime day)
+DateTime MidnightAfter(DateTime day)
 {
     static const DateTime lastSecond(CalendarDate{9999, 12, 31}, TimeOfDay{23, 59, 59});
     return day.DayNumber() < kLastDay ? Midnight(day.DayNumber() + 1) : lastSecond;

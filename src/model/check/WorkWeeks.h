@@ -35,7 +35,7 @@ struct WorkDay
 };
 
 // The midnight after a day; at the calendar's end, which has none, its last second.
-[[nodiscard]] DateTime EndOfDay(DateTime day);
+[[nodiscard]] DateTime MidnightAfter(DateTime day);
 
 // Minutes as hours with two decimals, rounded as a time card rounds them: 20 minutes are "0.33".
 [[nodiscard]] std::string HoursText(std::int64_t minutes);

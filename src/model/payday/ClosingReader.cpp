@@ -109,7 +109,7 @@ ClosingsQuestion::ClosingsQuestion(CJetDB& database, const PayPeriod& period, st
         return;
     }
     const char* const ofOne = employee ? kOfOne : "";
-    m_rows = RequireSelect(database, Said(kTouching, ofOne) + " UNION ALL " + Said(kBefore, database.Words().closedDays, ofOne));
+    m_rows = RequireSelect(database, FilledIn(kTouching, ofOne) + " UNION ALL " + FilledIn(kBefore, database.Words().closedDays, ofOne));
     m_rows->Bind("from", period.from);
     m_rows->Bind("to", period.to);
     if (employee) {
@@ -166,7 +166,7 @@ std::optional<PayPeriod> PeriodToClose(const std::shared_ptr<CJetDB>& database)
     if (!database->HasTable(kTable)) {
         return next;
     }
-    const auto last = RequireSelect(*database, Said(kLast, database->Words().closedDays));
+    const auto last = RequireSelect(*database, FilledIn(kLast, database->Words().closedDays));
     last->ForEachRow([&] {
         const auto closed = DaysOf(*last, 0, 1);
         const std::int64_t days = closed ? DaysBetween(closed->from, closed->to) : 0;

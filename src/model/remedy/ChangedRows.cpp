@@ -25,7 +25,7 @@ void Change(const CheckedCard& card, Punches& punches, const RecordChange& chang
     }
     punch.start = change.start;
     punch.end = change.end;
-    punch.fetched = change.start >= card.from && change.end <= EndOfDay(card.to);
+    punch.fetched = change.start >= card.from && change.end <= MidnightAfter(card.to);
 }
 
 } // namespace

@@ -55,7 +55,7 @@ void RefuseFile(const ImportOrder& order)
 void RequireFolders(const ImportOrder& order)
 {
     std::error_code ignored;
-    for (const std::string& folder : {order.programFolder + "/reports", HomeOf(order.database, order.programFolder)}) {
+    for (const std::string& folder : {order.programFolder + "/reports", DatabaseFolder(order.database, order.programFolder)}) {
         if (!fs::is_directory(folder, ignored)) {
             throw Failure(failure::PathNotFound, "PTK", "there is no folder " + folder);
         }

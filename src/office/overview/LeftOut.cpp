@@ -29,7 +29,7 @@ Found WithRecords(CJetDB& database, const PayPeriod& period)
     const auto rows = RequireSelect(database, punchsql::EmployeesWithRecords(database.Words()));
     static const DateTime firstOfAll(CalendarDate{100, 1, 1});
     rows->Bind("first", period.from > firstOfAll ? period.from.AddDays(-1) : period.from); // a shift of up to a day can cross the start
-    rows->Bind("last", EndOfDay(period.to));
+    rows->Bind("last", MidnightAfter(period.to));
     Found found;
     rows->ForEachRow([&] { found.push_back(rows->KindAt(0) == CellKind::Number ? std::optional(rows->Int64At(0)) : std::nullopt); });
     std::sort(found.begin(), found.end(), Before);

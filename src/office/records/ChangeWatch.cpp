@@ -21,7 +21,7 @@ constexpr std::int32_t kMost = 2'000; // entries at a time, read in some millise
 
 } // namespace
 
-ChangeWatch::ChangeWatch(const std::shared_ptr<CJetDB>& database, const UndoStack& own) : m_database(database->Afresh()), m_own(own)
+ChangeWatch::ChangeWatch(const std::shared_ptr<CJetDB>& database, const UndoStack& own) : m_database(database->SecondAccess()), m_own(own)
 {
     m_database->DoNotWait();
     Look();
@@ -34,7 +34,7 @@ void ChangeWatch::Look()
         return;
     }
     const auto look = [this] { m_newest ? TakeNew() : Start(); };
-    if (!Succeeds(look) && IsTold()) {
+    if (!Succeeds(look) && AnnouncesChanges()) {
         m_notBefore = std::chrono::steady_clock::now() + kBetweenTries;
     }
     m_database->CloseDB();
@@ -45,7 +45,7 @@ bool ChangeWatch::IsWorthTrying() const
     return !waiting::IsTurn() && std::chrono::steady_clock::now() >= m_notBefore;
 }
 
-bool ChangeWatch::IsTold() const
+bool ChangeWatch::AnnouncesChanges() const
 {
     return m_database->TellsNews();
 }
@@ -66,7 +66,7 @@ void ChangeWatch::Start()
 {
     static_cast<void>(m_database->TakeNews());
     std::int64_t newest = 0;
-    for (const TrailNote& note : ReadTrailNotes(m_database, 0, IsTold() ? kMargin : 1)) {
+    for (const TrailNote& note : ReadTrailNotes(m_database, 0, AnnouncesChanges() ? kMargin : 1)) {
         m_seen.insert(note.id);
         newest = std::max(newest, note.id);
     }
@@ -81,7 +81,7 @@ void ChangeWatch::TakeNew()
         return;
     }
     m_unread = true;
-    const std::int64_t known = IsTold() ? *m_newest - kMargin : *m_newest;
+    const std::int64_t known = AnnouncesChanges() ? *m_newest - kMargin : *m_newest;
     const auto notes = ReadTrailNotes(m_database, known, kMost);
     m_unread = false;
     if (notes.size() == kMost) {

@@ -38,7 +38,7 @@ public:
     void Look();
 
     // Whether a look costs next to nothing because the database announces changes by itself.
-    [[nodiscard]] bool IsTold() const;
+    [[nodiscard]] bool AnnouncesChanges() const;
 
     // The newest entry of the trail at the last look, one's own included; nothing until the trail could be read.
     [[nodiscard]] std::optional<std::int64_t> Newest() const { return m_newest; }

@@ -241,7 +241,7 @@ bool UndoStack::Move(std::vector<Step>& from, std::vector<Step>& to, const char*
         return false;
     }
     step.changes = Inverse(step.changes);
-    const bool done = m_database->ExecuteSteps([&](Engine& engine) { ptk::Redo(engine, step.changes, {step.lastEntry, m_ours}); });
+    const bool done = m_database->ExecuteSteps([&](Engine& engine) { Apply(engine, step.changes, {step.lastEntry, m_ours}); });
     if (!done) {
         m_refusal = m_database->Conflict()
                         ? fmt::format("\"{}\" was not {}: somebody else changed or uses what it is about.", step.told.text, word)

@@ -31,7 +31,7 @@ struct MovedStep
 class UndoStack
 {
 public:
-    // REQUIRES: not nullptr; the access to the database that stores everything, or one made of it by Afresh.
+    // REQUIRES: not nullptr; the access to the database that stores everything, or one made of it by SecondAccess.
     explicit UndoStack(std::shared_ptr<CJetDB> database);
 
     // Adds the step that was stored last, after which nothing can be redone any more. Adds nothing if nothing changed, if the step is known

@@ -6,7 +6,6 @@
 #include "platform/files/ProgramFolder.h"
 #include "platform/files/SystemFile.h"
 #include "platform/Succeeds.h"
-#include "platform/text/Text.h"
 #include "store/backup/BackupNames.h"
 #include "store/sqlite/FileHeader.h"
 #include "store/whole/DatabaseCopier.h"
@@ -39,7 +38,8 @@ bool BeginsAsOurs(const std::string& path)
     for (const char byte : start.substr(kIdAt)) {
         id = id * 256 + static_cast<unsigned char>(byte);
     }
-    return start.find_first_not_of('\0') == std::string::npos || (start.starts_with(kSignature) && id == static_cast<std::uint32_t>(kApplicationId));
+    return start.find_first_not_of('\0') == std::string::npos ||
+           (start.starts_with(kSignature) && id == static_cast<std::uint32_t>(kApplicationId));
 }
 
 // Removes what killed backups left, whatever name they were to get.

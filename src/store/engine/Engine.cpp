@@ -58,7 +58,7 @@ void Engine::RunStored(std::string_view query, std::span<const Parameter> parame
 
 void Engine::LockTable(const char* table)
 {
-    if (const std::string lock = ptk::Said(Words().lockTable, table); !lock.empty()) {
+    if (const std::string lock = FilledIn(Words().lockTable, table); !lock.empty()) {
         Prepare(lock)->Run();
     }
 }

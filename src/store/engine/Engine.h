@@ -67,7 +67,7 @@ public:
     virtual void Write(const std::function<void()>& steps) = 0;
 
     // Runs steps whose changes the trail does not record row by row: the caller adds one entry. REQUIRES: within Write or BeginMany.
-    virtual void Untold(const std::function<void()>& steps) = 0;
+    virtual void WithoutTrail(const std::function<void()>& steps) = 0;
 
     // Adds one entry to the open step, about the database as a whole: "restore" or "import", and from which file. Nothing without the
     // trail.
@@ -134,7 +134,7 @@ public:
 
     virtual void Commit() = 0;
 
-    // A sink for the rows of one table of a new database, within Untold. No other member may be called before its Finish.
+    // A sink for the rows of one table of a new database, within WithoutTrail. No other member may be called before its Finish.
     virtual std::unique_ptr<RowSink> Fill(const StoredTable& table) = 0;
 
 protected:

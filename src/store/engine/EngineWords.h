@@ -7,7 +7,7 @@
 
 namespace ptk {
 
-// {0} and so on stand for names that Said puts in. A condition or an expression of an index is here letter for letter as in the index.
+// {0} and so on stand for names that FilledIn puts in. A condition or an expression of an index is here letter for letter as in the index.
 struct EngineWords
 {
     // A text without letter case, for the 26 letters alone; texts and names in this form are compared and sorted by their bytes. The names
@@ -63,7 +63,7 @@ struct EngineWords
 
 // Puts the names into the words: the first for {0}, the next for {1}.
 template <typename... Names>
-[[nodiscard]] std::string Said(const char* words, const Names&... of)
+[[nodiscard]] std::string FilledIn(const char* words, const Names&... of)
 {
     return fmt::format(fmt::runtime(words), of...);
 }

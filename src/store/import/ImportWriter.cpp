@@ -78,7 +78,7 @@ void SkipNumbers(Engine& engine)
         if (table.hasKey) {
             const char* const key = table.columns.front().name;
             const std::int64_t greatest = engine.NumberFrom(fmt::format("SELECT COALESCE(MAX({}), 0) FROM {}", key, table.name));
-            engine.RunScript(Said(engine.Words().skipNumbers, table.name, key, greatest).c_str());
+            engine.RunScript(FilledIn(engine.Words().skipNumbers, table.name, key, greatest).c_str());
         }
     }
 }
@@ -102,7 +102,7 @@ void Change(Engine& engine, const ImportTarget& target, const std::function<void
     engine.SignAs(target.author);
     engine.Write([&] {
         RefuseUnlessEmpty(engine);
-        engine.Untold([&] { fill(engine); });
+        engine.WithoutTrail([&] { fill(engine); });
         engine.AddWholeEntry("import", target.file);
     });
 }
@@ -222,7 +222,7 @@ void Import(const ImportTarget& target, const std::function<void(Engine&)>& fill
 void TryImport(const ImportTarget& target, const std::function<void(Engine&)>& fill)
 {
     RefuseUnlessEmpty(target.database);
-    WithPassingDatabase([&](Engine& engine) { Change(engine, target, fill); });
+    WithTemporaryDatabase([&](Engine& engine) { Change(engine, target, fill); });
 }
 
 } // namespace ptk

@@ -8,11 +8,8 @@
 #include "store/postgres/ServerLine.h"
 #include "store/postgres/ServerStructure.h"
 
-#include <fmt/format.h>
-
 #include <algorithm>
 #include <cstdlib>
-#include <ctime>
 #include <thread>
 #include <utility>
 
@@ -132,7 +129,7 @@ void PostgresEngine::Release() noexcept
     }
     if (std::exchange(m_begun, false)) {
         try {
-            m_line->SendUnheard("ROLLBACK");
+            m_line->SendWithoutWaiting("ROLLBACK");
         } catch (const ServerFailure&) {
             // deliberately: a lost line has no transaction any more, and the next who asks hears of it
         }
@@ -391,7 +388,7 @@ std::optional<std::int64_t> PostgresEngine::TakeNews()
     return first;
 }
 
-void PostgresEngine::Untold(const std::function<void()>& steps)
+void PostgresEngine::WithoutTrail(const std::function<void()>& steps)
 {
     const auto tell = [this](const char* untold) {
         static_cast<void>(Ask({"SELECT set_config('ptk.untold', $1, true)", {untold}, false, false}));

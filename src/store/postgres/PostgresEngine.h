@@ -62,7 +62,7 @@ public:
     void Hold() override;
     void GiveUp() noexcept override;
     void Write(const std::function<void()>& steps) override;
-    void Untold(const std::function<void()>& steps) override;
+    void WithoutTrail(const std::function<void()>& steps) override;
     void AddWholeEntry(const char* action, const std::string& file) override;
     [[nodiscard]] bool HasTrail() override { return true; }
     [[nodiscard]] bool HasTable(const char* /*name*/) override { return true; }

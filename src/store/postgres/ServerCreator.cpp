@@ -68,7 +68,7 @@ ServerRoles CreateServerDatabase(const std::string& address, const std::function
     }
     RefuseStrangers(engine);
     if (fill) {
-        engine.Untold([&] { fill(engine); }); // what a new database starts with is no change
+        engine.WithoutTrail([&] { fill(engine); }); // what a new database starts with is no change
     }
     const bool ready = engine.Select(kRoles)->Int32At(0) == kRoleCount;
     engine.Commit();

@@ -238,7 +238,7 @@ void ServerLine::Verify()
 }
 
 // A question on its way that fails has ended the transaction as well, so nobody needs to hear of its failure.
-void ServerLine::SendUnheard(const char* sql)
+void ServerLine::SendWithoutWaiting(const char* sql)
 {
     m_connection.Begin();
     for (Portion& portion : m_onTheirWay) {

@@ -56,7 +56,7 @@ public:
     std::vector<ServerResult> Finish(const std::vector<ServerCommand>& commands);
 
     // Sends what ends a transaction and does not wait for the answer, which nobody needs.
-    void SendUnheard(const char* sql);
+    void SendWithoutWaiting(const char* sql);
 
     // Sends a question whose answer TakeAhead takes later, by its number. Several can be on their way; what is asked after them takes their
     // answers in first. TakeAhead answers nothing when something that ends a transaction was sent since.

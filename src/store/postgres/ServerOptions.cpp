@@ -34,7 +34,7 @@ bool IsSocketFolder(const std::string& host)
 }
 
 // Whether a value of the address must not be shown: a failure may name where the server is, and nothing else.
-bool IsForOtherEyes(std::string_view keyword)
+bool IsSecret(std::string_view keyword)
 {
     constexpr std::array<std::string_view, 4> kShown{"host", "hostaddr", "port", "dbname"};
     return std::find(kShown.begin(), kShown.end(), keyword) == kShown.end();
@@ -112,7 +112,7 @@ std::string ServerOptions::ImpliedProtection() const
 std::string ServerOptions::Cleaned(std::string words) const
 {
     for (const PQconninfoOption* option = m_first.get(); option->keyword != nullptr; ++option) {
-        if (option->val != nullptr && *option->val != '\0' && IsForOtherEyes(option->keyword)) {
+        if (option->val != nullptr && *option->val != '\0' && IsSecret(option->keyword)) {
             ReplaceAll(words, '"' + std::string(option->val) + '"', "\"...\"");
         }
     }

@@ -195,7 +195,7 @@ void SqliteEngine::RunSigned(const std::function<void()>& steps)
     LeftEntry(behind - 1);
 }
 
-void SqliteEngine::Untold(const std::function<void()>& steps)
+void SqliteEngine::WithoutTrail(const std::function<void()>& steps)
 {
     sqlite3* const database = Open().Handle();
     const auto triggers = [database](int run) { sqlite3_db_config(database, SQLITE_DBCONFIG_ENABLE_TRIGGER, run, nullptr); };

@@ -53,7 +53,7 @@ public:
     void KeepCopy(std::function<void()> keepCopy) { m_keepCopy = std::move(keepCopy); }
 
     // Runs the steps without the file's triggers.
-    void Untold(const std::function<void()>& steps) override;
+    void WithoutTrail(const std::function<void()>& steps) override;
     void AddWholeEntry(const char* action, const std::string& file) override;
     [[nodiscard]] bool HasTrail() override;
     [[nodiscard]] bool HasTable(const char* name) override;

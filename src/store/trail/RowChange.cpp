@@ -41,7 +41,7 @@ std::string Literal(const TrailValue& value, const EngineWords& words)
     case TrailValue::Kind::Null:
         return "NULL";
     case TrailValue::Kind::Number:
-        return Said(words.number, value.text); // 17 digits, which read back to the same double
+        return FilledIn(words.number, value.text); // 17 digits, which read back to the same double
     case TrailValue::Kind::Text:
         return TextLiteral(value.text);
     default:
@@ -259,7 +259,7 @@ std::vector<RowChange> Inverse(const std::vector<RowChange>& changes)
     return inverse;
 }
 
-void Redo(Engine& engine, const std::vector<RowChange>& changes, const KnownSteps& known)
+void Apply(Engine& engine, const std::vector<RowChange>& changes, const KnownSteps& known)
 {
     for (Portion left = changes; !left.empty();) {
         const Portion portion = FirstOf(left);

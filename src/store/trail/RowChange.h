@@ -36,6 +36,6 @@ struct KnownSteps
 // Does these changes, as steps of Engine::Write. Raises RowChanged when a row is not as the change begins with, when an entry of the trail
 // tells that somebody else changed it meanwhile, or when others rely on a row that is to go. A row that comes back has its number again. Up
 // to 200 rows of one kind of change are asked about together. Added or deleted ones take one statement together, others one each.
-void Redo(Engine& engine, const std::vector<RowChange>& changes, const KnownSteps& known);
+void Apply(Engine& engine, const std::vector<RowChange>& changes, const KnownSteps& known);
 
 } // namespace ptk

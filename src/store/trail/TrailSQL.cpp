@@ -66,7 +66,7 @@ std::string TellsMomentInDays(const EngineWords& words)
     std::string sql;
     for (const char* side : {"Before", "After"}) {
         for (const char* column : {"StartTime", "EndTime"}) {
-            sql += fmt::format("{}{} BETWEEN :first AND :last", sql.empty() ? "" : " OR ", Said(words.jsonField, side, column));
+            sql += fmt::format("{}{} BETWEEN :first AND :last", sql.empty() ? "" : " OR ", FilledIn(words.jsonField, side, column));
         }
     }
     return '(' + sql + ')';
@@ -78,7 +78,7 @@ std::string RecordsInDays(const EngineWords& words)
     const std::string did = "UNION SELECT RowID FROM _Change WHERE TableName = 'TimeRecord' AND " + TellsMomentInDays(words) + " AND ";
     return fmt::format("WITH InDays (Record) AS MATERIALIZED (SELECT TimeRecordID FROM TimeRecord WHERE EmployeeID = "
                        "CAST(:employee AS INTEGER) AND ({} OR {}) {}{} {}{}) ",
-                       Said(words.inDays, "StartTime"), Said(words.inDays, "EndTime"), did, kAfterOf, did, kBeforeOf);
+                       FilledIn(words.inDays, "StartTime"), FilledIn(words.inDays, "EndTime"), did, kAfterOf, did, kBeforeOf);
 }
 
 std::string Day(DateTime date)

@@ -15,7 +15,6 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <utility>
 
 namespace ptk {
 
@@ -201,9 +200,9 @@ private:
     void SkipNumbers(Engine& target, const StoredTable& table)
     {
         const char* const key = table.columns.front().name;
-        const std::int64_t given = m_source.engine->NumberFrom(Said(m_source.engine->Words().lastNumber, table.name, key));
+        const std::int64_t given = m_source.engine->NumberFrom(FilledIn(m_source.engine->Words().lastNumber, table.name, key));
         const std::int64_t greatest = m_source.engine->NumberFrom(fmt::format("SELECT COALESCE(MAX({}), 0) FROM {}", key, table.name));
-        target.RunScript(Said(target.Words().skipNumbers, table.name, key, std::max(given, greatest)).c_str());
+        target.RunScript(FilledIn(target.Words().skipNumbers, table.name, key, std::max(given, greatest)).c_str());
     }
 
     void Tell()

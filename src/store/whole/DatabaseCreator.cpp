@@ -52,7 +52,7 @@ void Fill(Engine& engine, const std::function<void(Engine&)>& fill)
     engine.RunScript(kStoredQueriesSql);
     BringUpToDate(engine);
     if (fill) {
-        engine.Untold([&] { fill(engine); }); // what a new database starts with is no change
+        engine.WithoutTrail([&] { fill(engine); }); // what a new database starts with is no change
     }
     engine.Commit();
 }
@@ -99,7 +99,7 @@ void CreateAndChangeDatabase(const std::string& path, const std::function<void(E
     draft.PlaceNew();
 }
 
-void WithPassingDatabase(const std::function<void(Engine&)>& change)
+void WithTemporaryDatabase(const std::function<void(Engine&)>& change)
 {
     const std::string name = "ptk-trial-" + std::to_string(::geteuid()) + ".mdb"; // so that the next one removes what a killed one left
     const FileDraft draft((std::filesystem::temp_directory_path() / name).string());

@@ -28,6 +28,6 @@ void RefuseTakenPath(const std::string& path);
 void CreateAndChangeDatabase(const std::string& path, const std::function<void(Engine&)>& change);
 
 // Runs `change` on a new database in a file of its own, which is gone when this returns.
-void WithPassingDatabase(const std::function<void(Engine&)>& change);
+void WithTemporaryDatabase(const std::function<void(Engine&)>& change);
 
 } // namespace ptk

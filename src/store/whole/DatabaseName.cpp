@@ -22,12 +22,12 @@ std::string NativeName(const std::string& configured)
     return IsFileName(configured) ? NativePath(configured).string() : configured;
 }
 
-std::string WholeName(const std::string& typed)
+std::string AbsoluteName(const std::string& typed)
 {
     return IsFileName(typed) ? std::filesystem::absolute(typed).string() : typed;
 }
 
-std::string HomeOf(const std::string& name, const std::string& programFolder)
+std::string DatabaseFolder(const std::string& name, const std::string& programFolder)
 {
     return IsFileName(name) ? std::filesystem::path(name).parent_path().string() : programFolder;
 }

@@ -15,9 +15,9 @@ namespace ptk {
 [[nodiscard]] std::string NativeName(const std::string& configured);
 
 // The name that somebody typed in the working folder, made good in any folder.
-[[nodiscard]] std::string WholeName(const std::string& typed);
+[[nodiscard]] std::string AbsoluteName(const std::string& typed);
 
 // The folder that must be there for the database: for a file its own, for a server the program's.
-[[nodiscard]] std::string HomeOf(const std::string& name, const std::string& programFolder);
+[[nodiscard]] std::string DatabaseFolder(const std::string& name, const std::string& programFolder);
 
 } // namespace ptk

@@ -20,8 +20,8 @@
 #include "ui/reports/ReportsPage.h"
 #include "ui/reports/WindowMenu.h"
 #include "ui/timecards/TimeCardPage.h"
+#include "ui/widgets/DefaultButton.h"
 #include "ui/widgets/ElidedLabel.h"
-#include "ui/widgets/MeantButton.h"
 #include "ui/widgets/NoticeLine.h"
 #include "ui/widgets/ThemeIcon.h"
 #include "ui/work/WindowPlace.h"
@@ -450,7 +450,7 @@ void FController::keyPressEvent(QKeyEvent* event)
     if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
         return QMainWindow::keyPressEvent(event);
     }
-    PressMeantButton(*m_ui->pages->currentWidget(), focusWidget());
+    PressDefaultButton(*m_ui->pages->currentWidget(), focusWidget());
 }
 
 } // namespace ptk

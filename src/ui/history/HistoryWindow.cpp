@@ -137,7 +137,7 @@ void HistoryWindow::Refresh()
 void HistoryWindow::Begin()
 {
     const BusyPointer busy(Host().Desktop());
-    const auto database = Host().Database()->Afresh();
+    const auto database = Host().Database()->SecondAccess();
     const CJetDB::Hold hold(database);
     const auto names = std::make_shared<EmployeeNames>(database);
     names->LearnGone(database);
@@ -227,7 +227,7 @@ void HistoryWindow::SaveAs()
     }
     Say(QString());
     const auto begin = [&] {
-        const auto database = Host().Database()->Afresh();
+        const auto database = Host().Database()->SecondAccess();
         m_file = std::make_unique<HistoryFile>(target->path, target->form, Host().Clock().Now(), database, m_query, m_names);
         m_saving.start(0);
     };

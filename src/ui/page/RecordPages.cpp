@@ -40,7 +40,7 @@ RecordPages::RecordPages(QWidget& window, Frame frame, const std::array<Place, 3
     connect(&m_frame.host.SharedRecords(), &SharedRecords::ReadAgainWanted, this, &RecordPages::ReadAgain);
     auto* const timer = new QTimer(this);
     connect(timer, &QTimer::timeout, this, [this] {
-        if (m_frame.host.SharedRecords().IsTold()) {
+        if (m_frame.host.SharedRecords().AnnouncesChanges()) {
             Look();
         }
     });
@@ -154,7 +154,7 @@ void RecordPages::Look()
         return;
     }
     m_frame.host.SharedRecords().Look();
-    if (m_frame.host.SharedRecords().IsTold()) {
+    if (m_frame.host.SharedRecords().AnnouncesChanges()) {
         ReadIdleLists();
     }
     for (const Place& place : m_places) {

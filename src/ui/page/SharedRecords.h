@@ -39,7 +39,7 @@ public:
     [[nodiscard]] std::optional<std::int64_t> Newest() const;
     void AboutToRead(Shown what);
     void AboutToRead(Shown what, std::int64_t row);
-    [[nodiscard]] bool IsTold() const { return m_watch != nullptr && m_watch->IsTold(); }
+    [[nodiscard]] bool AnnouncesChanges() const { return m_watch != nullptr && m_watch->AnnouncesChanges(); }
     [[nodiscard]] bool IsAnyChanged(Shown what) const { return m_watch != nullptr && m_watch->IsAnyChanged(what); }
     [[nodiscard]] bool IsChanged(Shown what, std::int64_t row) const;
 

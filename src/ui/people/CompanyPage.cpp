@@ -137,7 +137,7 @@ bool CompanyPage::LoadAfresh()
     const auto stale = Host().Database();
     stale->CloseDB();
     Records()->Destroy();
-    return Records()->LoadList(stale->Afresh());
+    return Records()->LoadList(stale->SecondAccess());
 }
 
 } // namespace ptk

@@ -152,7 +152,7 @@ void ReportPeople::Begin()
     if (controller == nullptr || controller->PTKDatabase() == nullptr || controller->EmployeeList() == nullptr || !m_days) {
         return; // nobody has logged in yet
     }
-    const auto database = controller->PTKDatabase()->Afresh();
+    const auto database = controller->PTKDatabase()->SecondAccess();
     database->DoNotWait();
     m_asOf = NewestChange(m_host);
     const auto all = controller->EmployeeList();

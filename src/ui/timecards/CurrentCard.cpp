@@ -72,8 +72,8 @@ bool CurrentCard::RefreshTimeCard()
 std::shared_ptr<CEmployee> CurrentCard::EmployeeToShow() const
 {
     const auto list = m_host.Employees();
-    const bool meant = m_meant && m_meant == m_choice.EmployeeID();
-    return meant ? list->GetEmployeeByID(*m_meant) : list->GetEmployeeByName(m_choice.EmployeeText());
+    const bool preferred = m_preferred && m_preferred == m_choice.EmployeeID();
+    return preferred ? list->GetEmployeeByID(*m_preferred) : list->GetEmployeeByName(m_choice.EmployeeText());
 }
 
 bool CurrentCard::GenerateTimeCard()

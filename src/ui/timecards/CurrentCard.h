@@ -108,7 +108,7 @@ public:
 
     // Among namesakes, the card is to be that of this employee as long as the box holds his row. Without an ID it is that of the first of
     // the name.
-    void Mean(std::optional<std::int32_t> employeeID) { m_meant = employeeID; }
+    void Prefer(std::optional<std::int32_t> employeeID) { m_preferred = employeeID; }
 
 signals:
     // The grid was built anew, with or without a card in it.
@@ -137,7 +137,7 @@ private:
     CardDisplay& m_display;
     NoticeLine& m_line;
     std::shared_ptr<CTimeCard> m_card;
-    std::optional<std::int32_t> m_meant;
+    std::optional<std::int32_t> m_preferred;
     std::shared_ptr<const CheckedTimecard> m_checked; // of the card when it was last loaded; nullptr before
     RecordEdits m_edits;                              // of the card's records
 };

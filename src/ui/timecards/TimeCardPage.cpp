@@ -154,7 +154,7 @@ void TimeCardPage::SelectFirstEmployee()
 void TimeCardPage::ChooseEmployee()
 {
     m_host.EventSource(eventsource::Name);
-    m_card->Mean({});
+    m_card->Prefer({});
     if (!m_choice->EmployeeText().empty()) {
         m_employeeName = m_choice->EmployeeText();
         ShowStatus();
@@ -212,7 +212,7 @@ void TimeCardPage::ShowCard(std::int32_t employeeID, const PayPeriod& period)
     m_choice->Period(period);
     m_choice->Employee(employeeID);
     ChooseEmployee();
-    m_card->Mean(employeeID);
+    m_card->Prefer(employeeID);
     Generate();
     const QString generated = m_ui->notice->Text();
     if (m_card->ChooseNextFinding({})) {

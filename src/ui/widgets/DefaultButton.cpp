@@ -1,10 +1,10 @@
-#include "ui/widgets/MeantButton.h"
+#include "ui/widgets/DefaultButton.h"
 
 #include <QPushButton>
 
 namespace ptk {
 
-void PressMeantButton(const QWidget& page, QWidget* focused)
+void PressDefaultButton(const QWidget& page, QWidget* focused)
 {
     if (auto* button = qobject_cast<QPushButton*>(focused)) {
         return button->click();

@@ -6,6 +6,6 @@ class QWidget;
 namespace ptk {
 
 // Presses the button that has the focus, or else the page's default button where there is one and it is enabled.
-void PressMeantButton(const QWidget& page, QWidget* focused);
+void PressDefaultButton(const QWidget& page, QWidget* focused);
 
 } // namespace ptk

@@ -353,7 +353,7 @@ TEST_F(ProfilesTest, AddUpToTheReviewOfTheSampleBusiness)
     {
         const auto engine = m_own.Open();
         engine->BeginMany();
-        engine->Untold([&] {
+        engine->WithoutTrail([&] {
             BulkWriter writer(*engine);
             AddSampleBusiness(writer, DateTime(CalendarDate{2026, 3, 20}));
         });
