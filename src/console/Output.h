@@ -10,7 +10,7 @@ namespace ptk {
 
 struct Console;
 
-inline constexpr auto kFromAfterTo = "--from is after --to"; // the words for days that run backward
+inline constexpr auto kFromAfterTo = "--from is after --to"; // what is said of days that run backward
 
 // What is wrong with the output that the arguments ask for, nullptr where nothing is: pages are nothing for a terminal, and -o needs a
 // name.

@@ -112,11 +112,11 @@ public:
     // before the database is closed.
     virtual std::unique_ptr<Statement> PrepareToKeep(std::string_view sql) = 0;
 
-    // The whole number that a select in the engine's own words answers in its first row.
+    // Answers the whole number in the first row of a select in the engine's own words.
     [[nodiscard]] std::int64_t NumberFrom(std::string_view select);
 
-    // A select of any number of rows, of which only those that are being read take memory. Nothing else is asked of the database before the
-    // last of them was read.
+    // Prepares a select of any number of rows, of which only those that are being read take memory. REQUIRES: nothing else is asked of the
+    // database before the last of them was read.
     virtual std::unique_ptr<Statement> PrepareForAllRows(std::string_view sql) { return Prepare(sql); }
 
     std::unique_ptr<Statement> PrepareStored(std::string_view query);

@@ -30,7 +30,7 @@ enum class ColumnRule : std::uint8_t
     TrueWhenAbsent // in older databases
 };
 
-// As what people are told its values, where that is not what its kind says.
+// How people are told a column's values, where its kind does not say it.
 enum class ColumnTold : std::uint8_t
 {
     ByKind,
@@ -43,7 +43,7 @@ struct StoredColumn
 {
     const char* name;
     ColumnKind kind;
-    const char* words = nullptr; // what people call it, "pay rate"; nullptr where they are not told of it
+    const char* words = nullptr; // what people call the column, "pay rate"; nullptr where they are not told of it
     ColumnRule rule = ColumnRule::None;
     ColumnTold told = ColumnTold::ByKind;
 };

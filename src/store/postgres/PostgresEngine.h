@@ -19,31 +19,31 @@ class ServerResult;
 struct NumberedQuestion;
 struct ServerCommand;
 
-// Tells that a server's database is about to get its tables.
+// Tag for a server's database that is about to get its tables.
 struct NewStructure
 {
 };
 
-// Tells that the work takes its time: nothing of it is given up for taking long, only for a server that says nothing at all.
+// For work that takes its time: no answer is given up for taking long, only a server that says nothing at all.
 struct Unhurried
 {
     std::chrono::milliseconds silence = std::chrono::seconds(60);
 };
 
-// What a statement is asked for.
+// Whether a statement only reads or changes something.
 enum class Intent
 {
     Read,
     Change
 };
 
-// Failures carry the source "PostgreSQL". The hold is a transaction that only reads, and begins with the first question: what is asked in
-// it is of one moment, and nobody waits for it. A write is a transaction of its own; it waits for those who write the same rows, never for
-// others. No answer is waited for longer than five seconds, a second try over a new line included; what is done meanwhile is
-// WhileWaiting's.
+// Failures carry the source "PostgreSQL". The hold is a transaction that only reads and begins with the first question: its answers are all
+// of one moment, and nobody waits for it. A write is a transaction of its own; it waits for those who write the same rows, never for
+// others. The engine waits for an answer for five seconds at most, a second try over a new line included; meanwhile the turns of
+// platform/Waiting are taken.
 //
-// The connection outlives Close. One that was lost is made anew where nothing can have been done over the old one: before an operation's
-// first answer. A write whose end was not heard is asked for over a new connection.
+// The connection outlives Close. A lost one is made anew where nothing can have been done over it: before an operation's first answer.
+// Where the answer to a commit was lost, the engine asks over a new connection what became of the write.
 class PostgresEngine final : public Engine
 {
 public:
@@ -52,7 +52,7 @@ public:
 
     PostgresEngine(const std::string& address, Unhurried unhurried);
 
-    // Of any database, whatever is in it; as unhurried.
+    // Opens any database, whatever is in it, and waits as Unhurried does.
     PostgresEngine(const std::string& address, NewStructure);
     ~PostgresEngine() override;
 
@@ -79,25 +79,25 @@ public:
     void Commit() override;
     std::unique_ptr<RowSink> Fill(const StoredTable& table) override;
 
-    // One statement within the hold or the write.
+    // Runs one statement within the hold or the write.
     [[nodiscard]] ServerResult Ask(const ServerCommand& command, Intent intent = Intent::Read);
 
-    // A question whose rows are answered one by one, see ServerLine::BeginRows.
+    // Asks a question whose rows come one at a time, see ServerLine::BeginRows.
     [[nodiscard]] ServerResult BeginRows(const ServerCommand& command);
     [[nodiscard]] ServerResult NextRow();
 
-    // A change that may go with what is asked next, or with the end of the write, and fail there: an INSERT, UPDATE or DELETE that answers
-    // no rows, of a write that has its number. False where it is to be asked by itself.
+    // Takes an INSERT, UPDATE or DELETE that answers no rows, of a write that has its numbers. It is sent with the next question or with
+    // the end of the write, and may fail there. Answers false, and takes nothing, where the statement has to be run by itself.
     [[nodiscard]] bool Post(const ServerCommand& change);
 
-    // A question whose answer is taken later by the number that is answered here. Before the hold or the write has begun it goes with the
-    // first that is asked.
+    // Sends a question whose answer is taken later, by the number that this answers. Before the hold or the write has begun, it goes with
+    // the first question.
     [[nodiscard]] std::int64_t AskAhead(const ServerCommand& command);
 
-    // Nothing where that answer is not to be had any more, or for 0.
+    // Takes the answer to the question of that number; nothing where it is lost, and for 0.
     [[nodiscard]] std::optional<ServerResult> TakeAhead(std::int64_t number);
 
-    // Within the steps of Write, or since BeginMany.
+    // True within the steps of Write and from BeginMany to Commit.
     [[nodiscard]] bool IsWriting() const { return m_transaction != Transaction::Read; }
 
     // How often an answer was waited for, over all connections.

@@ -19,7 +19,7 @@ public:
     [[nodiscard]] PGresult* Get() const { return m_result.get(); }
     [[nodiscard]] bool HasRows() const { return Library().resultStatus(Get()) == PGRES_TUPLES_OK || IsOneOfMany(); }
 
-    // One row, after which others or the end are answered.
+    // Whether this is one row of many, after which others or the end are answered.
     [[nodiscard]] bool IsOneOfMany() const { return Library().resultStatus(Get()) == PGRES_SINGLE_TUPLE; }
     [[nodiscard]] int RowCount() const { return Library().ntuples(Get()); }
     [[nodiscard]] int ColumnCount() const { return Library().nfields(Get()); }
@@ -32,7 +32,7 @@ public:
         return {Library().getvalue(Get(), row, column), static_cast<std::size_t>(Library().getlength(Get(), row, column))};
     }
 
-    // 0 for what is no whole number.
+    // Answers 0 for what is no whole number.
     [[nodiscard]] std::int64_t IntegerAt(int row, int column) const
     {
         return std::strtoll(Library().getvalue(Get(), row, column), nullptr, 10);

@@ -11,14 +11,15 @@ namespace ptk {
 
 struct WriteNumbers
 {
-    std::int64_t step = 0;   // of the trail
-    std::string transaction; // of the server; empty until the server has given it
+    std::int64_t step = 0;   // the step of the trail
+    std::string transaction; // the server's number of the transaction; empty until the server has given it
 };
 
-// Has the server give a write its numbers and note who it is; within its transaction. `wantedStep`: 0 for a step of its own.
+// The command by which the server gives a write its numbers and notes whose write it is; to be sent within the transaction. `wantedStep` is
+// 0 for a step of its own.
 [[nodiscard]] ServerCommand Numbering(const Author& author, std::int64_t wantedStep);
 
-// What the server answered to that. Raises 14 where the answer is of another session than the line's.
+// The numbers in the server's answer to Numbering. Raises 14 where another session than the line's gave the answer.
 [[nodiscard]] WriteNumbers NumbersIn(const ServerResult& answer, const ServerLine& line);
 
 enum class WriteFate
@@ -28,7 +29,7 @@ enum class WriteFate
     Unknown // it still runs, or the server cannot be asked
 };
 
-// What became of a write, also after the server was started anew. Asked over a new line, until then.
+// Asks over a new line what became of a write, also after the server was started anew. Waits until then for the answer.
 [[nodiscard]] WriteFate FateOf(const WriteNumbers& write, const Author& author, ServerLine& line, ServerLine::Clock::time_point until);
 
 } // namespace ptk

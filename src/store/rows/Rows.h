@@ -60,7 +60,7 @@ struct EmployeeRow
     std::int16_t AutoDeductBreakLength = 0; // minutes
 };
 
-// In the order of the columns that are read, the key first. So of the other rows.
+// The fields in the order of the columns that are read, the key first. The lists of the other rows have this order, too.
 inline constexpr std::tuple kEmployeeFields{
     RowField{&EmployeeRow::EmployeeID, nullptr, "employee_id"},
     RowField{&EmployeeRow::SSN, "paramSSN", "SSN"},

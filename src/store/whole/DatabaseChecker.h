@@ -15,10 +15,10 @@ struct DatabaseCheck
     std::int32_t timeRecords = 0;
 };
 
-// Damage, missing identification, missing or differently typed tables and columns, missing or unusable stored queries, an options table of
-// not exactly one row, and in any row whatever the program could not use, by table, key, column and value: all that would stop a start or a
-// time card; also an edit trail of a file that tells nothing, and triggers of others. A file takes 30 seconds and one for each 4 MiB at
-// most, and says so where that was not enough. `path`: a file, or the address of a server's database, see ServerChecker. Raises what
+// Finds damage, missing identification, missing or differently typed tables and columns, missing or unusable stored queries, an options
+// table of not exactly one row, and in any row whatever the program could not use, by table, key, column and value: all that would stop a
+// start or a time card; also an edit trail of a file that tells nothing, and triggers of others. A file takes 30 seconds and one for each 4
+// MiB at most, and says so where that was not enough. `path`: a file, or the address of a server's database, see ServerChecker. Raises what
 // opening the database raises.
 [[nodiscard]] DatabaseCheck CheckDatabase(const std::string& path);
 

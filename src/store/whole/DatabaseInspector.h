@@ -7,7 +7,6 @@
 
 #include <cstdint>
 #include <fmt/format.h>
-#include <functional>
 #include <map>
 #include <set>
 #include <span>
@@ -22,21 +21,21 @@ struct InspectionWords
 {
     const char* (*typeOf)(ColumnKind kind); // how a column of that kind is declared
 
-    // Of a table {}: the name of each of its columns and how it is declared; no rows for a table that is not there.
+    // A query for the name of each column of a table {} and how it is declared; it answers no rows for a table that is not there.
     const char* columns;
 
-    // How many rows of _CheckLimits hold a value of no use.
+    // A query for the number of rows of _CheckLimits that hold a useless value.
     const char* uselessLimits;
 
-    // What cannot be counted counts as 0, and the check goes on.
+    // Whether a table that cannot be counted counts as empty, so that the check of a damaged file goes on.
     bool mayBeDamaged;
 };
 
-// Each problem that is found becomes one sentence of the check. What cannot be read because a column is missing is asked no further.
+// Turns each problem that it finds into one sentence of the check. A table that lacks a column is looked at no further.
 class DatabaseInspector
 {
 public:
-    // Both outlive it.
+    // REQUIRES: the engine and the words outlive the inspector.
     DatabaseInspector(Engine& engine, const InspectionWords& words) : m_engine(engine), m_words(words) {}
 
     template <typename... Values>
@@ -45,20 +44,20 @@ public:
         m_check.problems.push_back(fmt::format(text, std::forward<Values>(values)...));
     }
 
-    // One sentence for each row of a query in the engine's own words, `problem` with its first column for {}.
+    // Reports `problem` for each row of a query in the engine's own words, with the row's first column in the place of {}.
     void ReportEach(const std::string& query, const char* problem);
 
-    // In the order of `columns`. Further columns may be there.
+    // Reports columns that are missing or are declared as something else, in the order of `columns`. A table may have further ones.
     void CheckColumns(const std::string& table, std::span<const StoredColumn> columns);
 
-    // The companies, employees and time records, for the check to tell.
+    // Counts the companies, employees and time records, which are part of the check's answer.
     void CountRecords();
 
-    // False where it has none or several, which is reported.
+    // Answers false, and reports it, where the table has no row or several.
     bool RequireOneRow(const char* table);
 
-    // What the check of cards is told; the days of closed periods; every row, and the stored queries. Tables that lack a column are passed
-    // over.
+    // These three look at the limits that the check of cards takes, at the days of closed pay periods, and at every row and the stored
+    // queries. They pass over tables that lack a column.
     void CheckLimits();
     void CheckClosings();
     void CheckRows();

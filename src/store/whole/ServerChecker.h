@@ -7,7 +7,7 @@
 
 namespace ptk {
 
-// As CheckDatabase, of the database at a server's address. The server itself looks after its pages.
+// Checks the database at a server's address as CheckDatabase does. The server itself looks after its pages.
 [[nodiscard]] DatabaseCheck CheckServerDatabase(const std::string& address);
 
 } // namespace ptk

@@ -27,12 +27,12 @@ class HistoryWindow final : public ReadingWindow
     Q_OBJECT
 
 public:
-    // The host outlives it.
+    // REQUIRES: the host outlives the window.
     explicit HistoryWindow(Workplace& host);
 
     ~HistoryWindow() override;
 
-    // Brings it to the front. Where it was not open it shows everything; with a scope always just that.
+    // Brings the window to the front. With a scope it shows just that; without one it shows everything, unless it was open already.
     void Open(const std::optional<HistoryScope>& scope);
 
 private:

@@ -29,33 +29,33 @@ class OverviewWindow final : public ReadingWindow
     Q_OBJECT
 
 public:
-    // The host outlives it.
+    // REQUIRES: the host outlives the window.
     explicit OverviewWindow(Workplace& host);
 
     ~OverviewWindow() override;
 
-    // Brings it to the front. Where it was not open, it begins with the period that is to be closed next, or where nothing was closed yet
-    // with that of the time cards, see FirstPeriod, and reads; where it was, it reads what has been changed since.
+    // Brings the window to the front. If it was not open, it begins with the period that is to be closed next, or where nothing was closed
+    // yet with that of the time cards (see FirstPeriod), and reads it. If it was open, it reads again where something was changed since.
     void Open(const std::optional<PayPeriod>& timecards);
 
     // Has the card of the next one with problems (direction 1) or the one before (-1) opened, counted from this employee in the order of
     // the table. Answers what there is to say of it: who has none left, or that nothing was read.
     QString OpenNextCard(std::optional<std::int32_t> employeeID, int direction);
 
-    // Of the rows that are shown; nothing before the first reading.
+    // The period of the rows that are shown; nothing before the first reading.
     [[nodiscard]] std::optional<PayPeriod> ReadPeriod() const;
 
-    // Of the shown row, or of the person in the account, whichever window is in front; nothing without one.
+    // The history of the person in the shown row, or in the account, whichever window is in front; nothing without one.
     [[nodiscard]] std::optional<HistoryScope> ShownHistory() const;
 
-    // Where it is open: what was stored otherwise, which it reads.
+    // Reads again, if the window is open, because something was stored elsewhere, and shows `news` in the line.
     void ReadAgain(const QString& news);
 
 signals:
-    // Of the period that was read.
+    // The card of this employee is to be opened, for the period that was read.
     void CardWanted(std::int32_t employeeID, const ptk::PayPeriod& period);
 
-    // Of what was stored last.
+    // What was stored last is to be undone or done again.
     void UndoWanted();
     void RedoWanted();
 
@@ -70,7 +70,7 @@ private:
     void StepPeriod(std::int16_t direction);
     void ShowPeriod(const PayPeriod& period);
 
-    // Nothing while the boxes do not hold one.
+    // The period in the boxes; nothing while they do not hold one.
     [[nodiscard]] std::optional<PayPeriod> Period() const;
 
     void Refresh();

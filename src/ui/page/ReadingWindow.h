@@ -23,40 +23,40 @@ class ReadingWindow : public QWidget
     Q_OBJECT
 
 public:
-    // In its line.
+    // Shows a text in the line beside the window's buttons.
     void Say(const QString& text);
 
 protected:
-    // `place`: under which its place is kept. The host outlives it.
+    // `place` is the name under which the window's place is kept. REQUIRES: the host outlives the window.
     ReadingWindow(Workplace& host, QString place);
 
     [[nodiscard]] Workplace& Host() const { return m_host; }
 
-    // To be called once the controls are there. `icon`: of the theme; `firstSize`: before its place was kept.
+    // To be called once the controls are there. `icon` is a name of the theme; `firstSize` holds until a place was kept.
     void Furnish(NoticeLine& line, const QString& icon, QSize firstSize);
 
-    // Has it called when the key is pressed in this window.
+    // Calls `action` whenever the key is pressed in this window.
     void OnKey(const QKeySequence& key, const std::function<void()>& action);
 
-    // Has it called whenever the rows of the table get more or less room.
+    // Calls `action` whenever the rows of the table get more or less room.
     void OnRoom(const QTableView& table, std::function<void()> action);
 
-    // Brings it to the front. Answers whether it was open before.
+    // Brings the window to the front and answers whether it was open before.
     bool ShowInFront();
 
-    // Says it and logs it.
+    // Shows a failure in the line and writes it into the session log.
     void Complain(const std::string& line);
 
-    // `thing`: what one of the rows is, "change". The text has a heading and the rows.
+    // Puts a text of a heading and so many rows on the clipboard. `thing` is what one row is, "change".
     void CopyRows(const std::string& text, std::size_t rows, const std::string& thing);
 
-    // Asks where to save under this name and says what came of it.
+    // Asks where to save, proposing this name, and shows what came of it in the line.
     void SaveUnder(const std::string& name, std::span<const ReportForm> forms, const MakeFile& make);
 
-    // It came to the front.
+    // Called when the window came to the front.
     virtual void Activated() {}
 
-    // It is being closed: what goes on in it ends.
+    // Called when the window is being closed: whatever goes on in it ends.
     virtual void End() {}
 
     void changeEvent(QEvent* event) override;

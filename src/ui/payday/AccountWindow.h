@@ -24,15 +24,15 @@ class AccountWindow final : public ReadingWindow
     Q_OBJECT
 
 public:
-    // The host outlives it.
+    // REQUIRES: the host outlives the window.
     explicit AccountWindow(Workplace& host);
 
     ~AccountWindow() override;
 
-    // Brings it to the front and reads the account of this period.
+    // Brings the window to the front and reads the account of this period.
     void Open(const PayPeriod& period);
 
-    // Of the chosen person; nothing without one, and of nobody who is known.
+    // The history of the chosen person; nothing without one, and for somebody who is no employee any more.
     [[nodiscard]] std::optional<HistoryScope> ShownHistory() const;
 
 private:
