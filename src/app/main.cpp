@@ -5,7 +5,7 @@
 #include "platform/system/Version.h"
 #include "shell/CError.h"
 #include "startup/AdminMain.h"
-#include "store/postgres/ServerAddress.h"
+#include "store/postgres/line/ServerAddress.h"
 #include "ui/frame/EndFromOutside.h"
 #include "ui/frame/LastWindow.h"
 #include "ui/frame/QtDesktop.h"

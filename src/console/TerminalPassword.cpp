@@ -1,6 +1,6 @@
 #include "console/TerminalPassword.h"
 
-#include "store/postgres/ServerAddress.h"
+#include "store/postgres/line/ServerAddress.h"
 
 #include <fcntl.h>
 #include <termios.h>

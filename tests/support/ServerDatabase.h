@@ -1,7 +1,7 @@
 // A database of a test's own on the tests' server. It is dropped when the object ends.
 #pragma once
 
-#include "store/postgres/ServerLine.h"
+#include "store/postgres/line/ServerLine.h"
 
 #include <fmt/format.h>
 #include <unistd.h>

@@ -20,7 +20,7 @@ QT_LAYERS = {"ui", "app"}
 FLOORS = {
     "platform": [[""], ["text", "files"], ["system"]],
     "shell": [[""]],
-    "store": [["engine"], ["sqlite", "postgres", "rows"], ["whole"], ["backup"], [""], ["trail", "import"]],
+    "store": [["engine"], ["postgres/line"], ["sqlite", "postgres", "rows"], ["whole"], ["backup"], [""], ["trail", "import"]],
     "model": [[""], ["payday"], ["check"], ["remedy"]],
     "reports": [["forms"], [""]],
     "office": [["card", "import", "reports", "sheet"], ["history", "safety"], ["overview"], ["payday", "records", "business", "person", "profile"]],
@@ -33,6 +33,7 @@ FLOORS = {
     "app": [[""]],
 }
 
+ENGINES = {"sqlite", "postgres"}  # with the rooms within them, neither of which knows the other
 SQLITE_FOLDER = "store/sqlite/"
 POSTGRES_FOLDER = "store/postgres/"
 
@@ -78,7 +79,8 @@ def fault_within(layer, room, other):
     floors = {name: number for number, floor in enumerate(FLOORS[layer]) for name in floor}
     if room not in floors or other not in floors:
         return f"{layer} has no room {room if room not in floors else other}"
-    if room != other and floors[other] >= floors[room]:
+    are_both_engines = {room.split("/")[0], other.split("/")[0]} == ENGINES
+    if room != other and (floors[other] >= floors[room] or are_both_engines):
         return f"{layer}/{room} must not know {layer}/{other}"
     return None
 

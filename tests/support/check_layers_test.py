@@ -16,7 +16,7 @@ REFUSED = [
     ("office/records/ListEdit.h", "#include <QString>"),
     ("office/card/CardTexts.cpp", '#include "office/history/HistoryText.h"'),
     ("store/engine/Engine.cpp", '#include "store/sqlite/SqliteEngine.h"'),
-    ("store/sqlite/SqliteEngine.cpp", '#include "store/postgres/ServerLine.h"'),
+    ("store/sqlite/SqliteEngine.cpp", '#include "store/postgres/line/ServerLine.h"'),
     ("ui/timecards/TimeCardPage.cpp", '#include "ui/frame/FController.h"'),
     ("office/nowhere/ListEdit.h", '#include "office/card/CardTexts.h"'),
     ("console/main/main.cpp", "#include <QtWidgets/QWidget>"),

@@ -3,7 +3,7 @@
 #include "platform/files/DraftsAtEnd.h"
 #include "platform/system/Clock.h"
 #include "platform/system/Process.h"
-#include "store/postgres/ServerAddress.h"
+#include "store/postgres/line/ServerAddress.h"
 
 #include <iostream>
 #include <unistd.h>

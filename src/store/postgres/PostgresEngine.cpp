@@ -2,10 +2,10 @@
 
 #include "platform/text/Text.h"
 #include "platform/Waiting.h"
+#include "store/postgres/line/ServerFailure.h"
+#include "store/postgres/line/ServerLine.h"
 #include "store/postgres/PostgresSink.h"
 #include "store/postgres/PostgresStatement.h"
-#include "store/postgres/ServerFailure.h"
-#include "store/postgres/ServerLine.h"
 #include "store/postgres/ServerStructure.h"
 
 #include <algorithm>

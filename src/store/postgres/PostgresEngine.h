@@ -3,8 +3,8 @@
 
 #include "store/engine/Engine.h"
 #include "store/engine/WhenHeld.h"
+#include "store/postgres/line/ServerConnection.h"
 #include "store/postgres/PostgresWords.h"
-#include "store/postgres/ServerConnection.h"
 #include "store/postgres/WriteNumbers.h"
 
 #include <chrono>

@@ -1,6 +1,6 @@
 #include "store/postgres/PostgresSink.h"
 
-#include "store/postgres/ServerLine.h"
+#include "store/postgres/line/ServerLine.h"
 
 #include <fmt/format.h>
 

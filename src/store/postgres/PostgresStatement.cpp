@@ -3,8 +3,8 @@
 #include "platform/text/Text.h"
 #include "store/engine/RecordSetBuilder.h"
 #include "store/engine/StoredDate.h"
+#include "store/postgres/line/ServerFailure.h"
 #include "store/postgres/PostgresEngine.h"
-#include "store/postgres/ServerFailure.h"
 
 #include <fmt/format.h>
 

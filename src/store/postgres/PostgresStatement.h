@@ -2,7 +2,7 @@
 #pragma once
 
 #include "store/engine/Statement.h"
-#include "store/postgres/ServerLine.h"
+#include "store/postgres/line/ServerLine.h"
 #include "store/postgres/ServerText.h"
 
 #include <vector>

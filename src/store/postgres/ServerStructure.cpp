@@ -1,8 +1,8 @@
 #include "store/postgres/ServerStructure.h"
 
 #include "store/engine/Schema.h"
-#include "store/postgres/ServerFailure.h"
-#include "store/postgres/ServerLine.h"
+#include "store/postgres/line/ServerFailure.h"
+#include "store/postgres/line/ServerLine.h"
 
 #include <fmt/format.h>
 

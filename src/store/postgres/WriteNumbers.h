@@ -2,7 +2,7 @@
 #pragma once
 
 #include "store/engine/Author.h"
-#include "store/postgres/ServerLine.h"
+#include "store/postgres/line/ServerLine.h"
 
 #include <cstdint>
 #include <string>

@@ -1,7 +1,7 @@
 #include "store/whole/DatabaseName.h"
 
 #include "platform/files/ProgramFolder.h"
-#include "store/postgres/ServerAddress.h"
+#include "store/postgres/line/ServerAddress.h"
 
 #include <filesystem>
 

@@ -1,6 +1,6 @@
 #include "ui/login/FServerPassword.h"
 
-#include "store/postgres/ServerAddress.h"
+#include "store/postgres/line/ServerAddress.h"
 #include "ui_FServerPassword.h"
 
 namespace ptk {

@@ -1,7 +1,7 @@
-#include "store/postgres/ServerName.h"
+#include "store/postgres/line/ServerName.h"
 
 #include "platform/Waiting.h"
-#include "store/postgres/ServerFailure.h"
+#include "store/postgres/line/ServerFailure.h"
 
 #include <fmt/format.h>
 #include <netdb.h>

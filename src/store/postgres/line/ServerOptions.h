@@ -1,7 +1,7 @@
 // The parts of a server's address.
 #pragma once
 
-#include "store/postgres/LibPq.h"
+#include "store/postgres/line/LibPq.h"
 
 #include <memory>
 #include <string>

@@ -1,6 +1,6 @@
-#include "store/postgres/ServerOptions.h"
+#include "store/postgres/line/ServerOptions.h"
 
-#include "store/postgres/ServerFailure.h"
+#include "store/postgres/line/ServerFailure.h"
 
 #include <arpa/inet.h>
 

@@ -1,7 +1,7 @@
 // What the server answered to one statement.
 #pragma once
 
-#include "store/postgres/LibPq.h"
+#include "store/postgres/line/LibPq.h"
 
 #include <cstdint>
 #include <cstdlib>

@@ -1,7 +1,7 @@
 // The connection to a server: made, waited for, and given up when its time is over.
 #pragma once
 
-#include "store/postgres/ServerResult.h"
+#include "store/postgres/line/ServerResult.h"
 
 #include <chrono>
 #include <cstddef>

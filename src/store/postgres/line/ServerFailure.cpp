@@ -1,4 +1,4 @@
-#include "store/postgres/ServerFailure.h"
+#include "store/postgres/line/ServerFailure.h"
 
 #include "store/engine/EngineSource.h"
 

@@ -1,12 +1,12 @@
-#include "store/postgres/ServerConnection.h"
+#include "store/postgres/line/ServerConnection.h"
 
 #include "platform/system/Process.h"
 #include "platform/text/Joined.h"
 #include "platform/Waiting.h"
-#include "store/postgres/ServerAddress.h"
-#include "store/postgres/ServerFailure.h"
-#include "store/postgres/ServerName.h"
-#include "store/postgres/ServerOptions.h"
+#include "store/postgres/line/ServerAddress.h"
+#include "store/postgres/line/ServerFailure.h"
+#include "store/postgres/line/ServerName.h"
+#include "store/postgres/line/ServerOptions.h"
 
 #include <fmt/format.h>
 #include <poll.h>

@@ -1,4 +1,4 @@
-#include "store/postgres/ServerLine.h"
+#include "store/postgres/line/ServerLine.h"
 
 #include <fmt/format.h>
 

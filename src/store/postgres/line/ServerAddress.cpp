@@ -1,7 +1,7 @@
-#include "store/postgres/ServerAddress.h"
+#include "store/postgres/line/ServerAddress.h"
 
 #include "platform/Succeeds.h"
-#include "store/postgres/ServerOptions.h"
+#include "store/postgres/line/ServerOptions.h"
 
 #include <fmt/format.h>
 

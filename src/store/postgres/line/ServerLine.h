@@ -1,9 +1,9 @@
 // The line to a server: what goes over a connection and back.
 #pragma once
 
-#include "store/postgres/ServerConnection.h"
-#include "store/postgres/ServerFailure.h"
-#include "store/postgres/ServerResult.h"
+#include "store/postgres/line/ServerConnection.h"
+#include "store/postgres/line/ServerFailure.h"
+#include "store/postgres/line/ServerResult.h"
 
 #include <cstdint>
 #include <deque>

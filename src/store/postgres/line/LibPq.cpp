@@ -1,6 +1,6 @@
-#include "store/postgres/LibPq.h"
+#include "store/postgres/line/LibPq.h"
 
-#include "store/postgres/ServerFailure.h"
+#include "store/postgres/line/ServerFailure.h"
 
 #include <dlfcn.h>
 
