@@ -1,5 +1,6 @@
 #include "platform/system/OneOfAKind.h"
 
+#include <cstddef>
 #include <cstring>
 #include <functional>
 #include <sys/socket.h>

@@ -3,6 +3,8 @@
 
 #include "store/engine/RecordSet.h"
 
+#include <memory>
+
 namespace ptk {
 
 class RecordSet::Builder
