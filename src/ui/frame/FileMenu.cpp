@@ -6,6 +6,7 @@
 #include "ui/sheet/SheetMenu.h"
 
 #include <QAction>
+#include <QWidget>
 
 namespace ptk {
 
