@@ -35,7 +35,7 @@ void AskWhetherToGoOn(const PaydayGoesOn& goesOn, std::size_t done, std::size_t 
 // behind it, by ID, those who are no employees any more.
 [[nodiscard]] std::vector<PaydayPerson> PersonsWithClosings(CEmployeeList& employees, const Closings& closings, bool offered = false);
 
-// The same people as persons, in the given order.
+// Makes a payday's persons of these employees, in their order.
 [[nodiscard]] std::vector<PaydayPerson> PersonsOf(const std::vector<std::shared_ptr<CEmployee>>& employees);
 
 } // namespace ptk
