@@ -27,6 +27,9 @@ DatabaseInspector::Declarations DatabaseInspector::ColumnsOf(const std::string& 
 void DatabaseInspector::CheckColumns(const std::string& table, std::span<const StoredColumn> columns)
 {
     const Declarations declared = ColumnsOf(table);
+    if (declared.empty()) {
+        m_missing.insert(table);
+    }
     for (const StoredColumn& column : columns) {
         const char* const type = m_words.typeOf(column.kind);
         const auto found = declared.find(LowerCase(column.name));
@@ -39,11 +42,14 @@ void DatabaseInspector::CheckColumns(const std::string& table, std::span<const S
     }
 }
 
-// A table that is not there has been reported by then.
-std::int32_t DatabaseInspector::Count(const std::string& table) const
+// A missing table has been reported by its columns.
+std::int32_t DatabaseInspector::Count(const char* table) const
 {
+    if (m_missing.contains(table)) {
+        return 0;
+    }
     try {
-        return ColumnsOf(table).empty() ? 0 : NarrowToInt32(m_engine.NumberFrom("SELECT COUNT(*) FROM " + table));
+        return NarrowToInt32(m_engine.NumberFrom(fmt::format("SELECT COUNT(*) FROM {}", table)));
     } catch (const Failure&) {
         if (!m_words.mayBeDamaged) {
             throw;

@@ -70,13 +70,14 @@ private:
     using Declarations = std::map<std::string, std::string, std::less<>>; // by the name of the column in lower case
 
     [[nodiscard]] Declarations ColumnsOf(const std::string& table) const;
-    [[nodiscard]] std::int32_t Count(const std::string& table) const;
+    [[nodiscard]] std::int32_t Count(const char* table) const;
 
     Engine& m_engine;
     const InspectionWords& m_words;
     DatabaseCheck m_check;
     RowChecker m_rows{m_engine, m_check.problems};
     std::set<std::string> m_incomplete; // tables that lack a column
+    std::set<std::string> m_missing;    // those that lack all of them
 };
 
 } // namespace ptk
