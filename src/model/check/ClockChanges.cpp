@@ -12,16 +12,15 @@ std::int64_t ClockChanges::AtMidnight(std::int64_t dayNumber)
     if (known != m_midnights.end()) {
         return known->second;
     }
-    return m_midnights[dayNumber] = m_offsetAt(DateTime::FromSeconds(dayNumber * DateTime::kSecondsPerDay));
+    return m_midnights[dayNumber] = m_offsetAt(DateTime::FromDay(dayNumber));
 }
 
 // Where both midnights of a day have the same offset, the whole day has it: no zone changes its clocks twice on one day.
 std::int64_t ClockChanges::At(DateTime moment)
 {
-    static const std::int64_t lastDay = DateTime(CalendarDate{9999, 12, 31}).DayNumber();
     const std::int64_t day = moment.DayNumber();
     const std::int64_t offset = AtMidnight(day);
-    return day == lastDay || AtMidnight(day + 1) == offset ? offset : m_offsetAt(moment);
+    return day == DateTime::kLastDay || AtMidnight(day + 1) == offset ? offset : m_offsetAt(moment);
 }
 
 std::int64_t ClockChanges::Between(DateTime earlier, DateTime later)

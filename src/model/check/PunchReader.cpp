@@ -68,8 +68,7 @@ DateTime NextMidnight(DateTime midnight)
 // Shifts that start on the day before the first week may reach into it; longer ones than a day are found by punchsql::Unusual.
 DateTime DayBefore(DateTime day)
 {
-    static const DateTime firstDay(CalendarDate{100, 1, 1});
-    return day > firstDay ? day.AddDays(-1) : day;
+    return day.DayNumber() > DateTime::kFirstDay ? day.AddDays(-1) : day;
 }
 
 } // namespace

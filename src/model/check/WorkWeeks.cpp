@@ -10,14 +10,6 @@ namespace ptk {
 
 namespace {
 
-const std::int64_t kFirstDay = DateTime(CalendarDate{100, 1, 1}).DayNumber();
-const std::int64_t kLastDay = DateTime(CalendarDate{9999, 12, 31}).DayNumber();
-
-DateTime Midnight(std::int64_t dayNumber)
-{
-    return DateTime::FromSeconds(dayNumber * DateTime::kSecondsPerDay);
-}
-
 // The number of the first day of the week in which `day` lies; it can lie before the calendar.
 std::int64_t WeekStartNumber(DateTime day, std::int32_t firstWeekday)
 {
@@ -29,7 +21,7 @@ std::int64_t WeekStartNumber(DateTime day, std::int32_t firstWeekday)
 DateTime MidnightAfter(DateTime day)
 {
     static const DateTime lastSecond(CalendarDate{9999, 12, 31}, TimeOfDay{23, 59, 59});
-    return day.DayNumber() < kLastDay ? Midnight(day.DayNumber() + 1) : lastSecond;
+    return day.DayNumber() < DateTime::kLastDay ? DateTime::FromDay(day.DayNumber() + 1) : lastSecond;
 }
 
 std::string HoursText(std::int64_t minutes)
@@ -39,12 +31,12 @@ std::string HoursText(std::int64_t minutes)
 
 DateTime WeekStart(DateTime day, std::int32_t firstWeekday)
 {
-    return Midnight(std::max(WeekStartNumber(day, firstWeekday), kFirstDay));
+    return DateTime::FromDay(std::max(WeekStartNumber(day, firstWeekday), DateTime::kFirstDay));
 }
 
 DateTime WeekLast(DateTime day, std::int32_t firstWeekday)
 {
-    return Midnight(std::min(WeekStartNumber(day, firstWeekday) + kDaysPerWeek - 1, kLastDay));
+    return DateTime::FromDay(std::min(WeekStartNumber(day, firstWeekday) + kDaysPerWeek - 1, DateTime::kLastDay));
 }
 
 std::vector<WorkDay> DaysOf(std::span<const Punch* const> punches)
@@ -56,7 +48,7 @@ std::vector<WorkDay> DaysOf(std::span<const Punch* const> punches)
         const std::int64_t day = punches[i]->start->DayNumber();
         if (days.empty() || day != current) {
             current = day;
-            days.push_back({Midnight(day), 0, punches.subspan(i, 0)});
+            days.push_back({DateTime::FromDay(day), 0, punches.subspan(i, 0)});
         }
         WorkDay& last = days.back();
         last.minutes += punches[i]->Minutes();

@@ -170,8 +170,7 @@ std::optional<PayPeriod> PeriodToClose(const std::shared_ptr<CJetDB>& database)
     last->ForEachRow([&] {
         const auto closed = DaysOf(*last, 0, 1);
         const std::int64_t days = closed ? DaysBetween(closed->from, closed->to) : 0;
-        static const DateTime lastOfAll(CalendarDate{9999, 12, 31});
-        if (closed && DaysBetween(closed->to, lastOfAll) > days) {
+        if (closed && DateTime::kLastDay - closed->to.DayNumber() > days) {
             next = PayPeriod{closed->to.AddDays(1), closed->to.AddDays(1 + days)};
         }
     });

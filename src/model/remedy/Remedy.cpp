@@ -16,8 +16,7 @@ constexpr std::int64_t kMinutesAnHour = 60;
 // The same time on the next day; none beyond the calendar.
 std::optional<DateTime> DayLater(DateTime moment)
 {
-    static const std::int64_t lastDay = DateTime(CalendarDate{9999, 12, 31}).DayNumber();
-    return moment.DayNumber() < lastDay ? std::optional(moment.AddDays(1)) : std::nullopt;
+    return moment.DayNumber() < DateTime::kLastDay ? std::optional(moment.AddDays(1)) : std::nullopt;
 }
 
 // The first moment after a shift's start at which the clock shows this second of the day; none beyond the calendar.
@@ -118,7 +117,7 @@ private:
         std::vector<DateTime> midnights;
         for (const std::int64_t day : {m_rows.card.from.DayNumber(), m_rows.card.to.DayNumber() + 1}) {
             if (Crosses(shift, day)) {
-                midnights.push_back(DateTime::FromSeconds(day * DateTime::kSecondsPerDay));
+                midnights.push_back(DateTime::FromDay(day));
             }
         }
         std::vector<RecordChange> parts{{shift.id, *shift.start, *shift.end}};
@@ -192,9 +191,8 @@ bool Remedy::Deletes() const
 
 std::optional<std::int64_t> AutoShiftEnd(DateTime autoShiftStart, DateTime autoShiftEnd)
 {
-    const auto secondOfDay = [](DateTime time) { return time.Seconds() - time.DayNumber() * DateTime::kSecondsPerDay; };
-    const std::int64_t end = secondOfDay(autoShiftEnd);
-    return secondOfDay(autoShiftStart) == 0 || end == 0 ? std::nullopt : std::optional(end);
+    const std::int64_t end = autoShiftEnd.SecondOfDay();
+    return autoShiftStart.SecondOfDay() == 0 || end == 0 ? std::nullopt : std::optional(end);
 }
 
 std::vector<Remedy> RemediesOf(const Finding& finding, const CheckedRows& rows, const ShiftEnds& ends)

@@ -43,7 +43,7 @@ std::optional<std::int64_t> UsualEnds::At(std::int32_t employeeID, DateTime star
     m_earlier->ForEachRow([&] {
         const auto end = m_earlier->StoredDateAt(0);
         if (end) {
-            ends.push_back(end->Seconds() - end->DayNumber() * DateTime::kSecondsPerDay);
+            ends.push_back(end->SecondOfDay());
         }
     });
     return UsualEnd(std::move(ends));

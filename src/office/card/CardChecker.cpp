@@ -27,8 +27,7 @@ std::optional<PayPeriod> GapBefore(const PayPeriod& period, const ClosingsOfEmpl
 // The first day of the preceding period, which has as many days as this one; the calendar's first day if that day lies before it.
 DateTime FirstDayBefore(const PayPeriod& period)
 {
-    static const DateTime firstOfAll(CalendarDate{100, 1, 1});
-    const std::int64_t days = std::min(DaysBetween(period.from, period.to) + 1, DaysBetween(firstOfAll, period.from));
+    const std::int64_t days = std::min(DaysBetween(period.from, period.to) + 1, period.from.DayNumber() - DateTime::kFirstDay);
     return period.from.AddDays(-days);
 }
 

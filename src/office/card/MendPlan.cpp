@@ -89,7 +89,7 @@ void MendPlan::EndAt(std::size_t line, DateTime timeOfDay)
 {
     Remedy& remedy = m_lines.at(line).remedy.value();
     RecordChange& change = remedy.changes.front();
-    const std::int64_t second = timeOfDay.Seconds() - timeOfDay.DayNumber() * DateTime::kSecondsPerDay;
+    const std::int64_t second = timeOfDay.SecondOfDay();
     const DateTime sameDay = DateTime::FromSeconds(change.start.DayNumber() * DateTime::kSecondsPerDay + second);
     change.end = sameDay > change.start ? sameDay : sameDay.AddDays(1);
     Punch shift;

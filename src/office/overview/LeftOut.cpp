@@ -27,8 +27,8 @@ bool Before(const std::optional<std::int64_t>& left, const std::optional<std::in
 Found WithRecords(CJetDB& database, const PayPeriod& period)
 {
     const auto rows = RequireSelect(database, punchsql::EmployeesWithRecords(database.Words()));
-    static const DateTime firstOfAll(CalendarDate{100, 1, 1});
-    rows->Bind("first", period.from > firstOfAll ? period.from.AddDays(-1) : period.from); // a shift of up to a day can cross the start
+    const std::int64_t daysBefore = period.from.DayNumber() > DateTime::kFirstDay ? 1 : 0; // a shift of up to a day can cross the start
+    rows->Bind("first", period.from.AddDays(-daysBefore));
     rows->Bind("last", MidnightAfter(period.to));
     Found found;
     rows->ForEachRow([&] { found.push_back(rows->KindAt(0) == CellKind::Number ? std::optional(rows->Int64At(0)) : std::nullopt); });

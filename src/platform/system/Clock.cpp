@@ -22,13 +22,13 @@ DateTime SystemClock::Now() const
 std::optional<DateTime> ReproducibleMoment()
 {
     static const std::int64_t epoch = DateTime({1970, 1, 1}).Seconds();
-    static const std::int64_t last = DateTime({9999, 12, 31}).Seconds();
+    const std::int64_t last = DateTime::kLastDay * DateTime::kSecondsPerDay - epoch;
     const char* const variable = std::getenv("SOURCE_DATE_EPOCH");
     const std::string_view digits = variable == nullptr ? "" : variable;
     std::int64_t seconds = 0;
     const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), seconds);
     const bool isNumber = error == std::errc() && end == digits.data() + digits.size() && seconds >= 0;
-    return isNumber && seconds < last - epoch ? std::optional(DateTime::FromSeconds(epoch + seconds)) : std::nullopt;
+    return isNumber && seconds < last ? std::optional(DateTime::FromSeconds(epoch + seconds)) : std::nullopt;
 }
 
 } // namespace ptk

@@ -12,8 +12,8 @@ using std::chrono::sys_days;
 using std::chrono::year_month_day;
 
 constexpr sys_days kZeroDay = std::chrono::year{1899} / 12 / 30;
-constexpr std::int64_t kFirstSecond = (sys_days{std::chrono::year{100} / 1 / 1} - kZeroDay).count() * DateTime::kSecondsPerDay;
-constexpr std::int64_t kEndSecond = (sys_days{std::chrono::year{10000} / 1 / 1} - kZeroDay).count() * DateTime::kSecondsPerDay;
+static_assert(sys_days{std::chrono::year{100} / 1 / 1} == kZeroDay + std::chrono::days{DateTime::kFirstDay});
+static_assert(sys_days{std::chrono::year{9999} / 12 / 31} == kZeroDay + std::chrono::days{DateTime::kLastDay});
 
 bool InRange(int value, int end)
 {
@@ -42,12 +42,17 @@ DateTime::DateTime(CalendarDate date, TimeOfDay time)
 
 DateTime DateTime::FromSeconds(std::int64_t secondsSinceZero)
 {
-    if (secondsSinceZero < kFirstSecond || secondsSinceZero >= kEndSecond) {
+    if (secondsSinceZero < kFirstDay * kSecondsPerDay || secondsSinceZero >= (kLastDay + 1) * kSecondsPerDay) {
         throw Failure(failure::Overflow);
     }
     DateTime result;
     result.m_seconds = secondsSinceZero;
     return result;
+}
+
+DateTime DateTime::FromDay(std::int64_t dayNumber)
+{
+    return DateTime().AddDays(dayNumber);
 }
 
 CalendarDate DateTime::Date() const
@@ -59,7 +64,7 @@ CalendarDate DateTime::Date() const
 
 TimeOfDay DateTime::Time() const
 {
-    const auto second = static_cast<int>(m_seconds - DayNumber() * kSecondsPerDay);
+    const auto second = static_cast<int>(SecondOfDay());
     return {second / 3600, second / 60 % 60, second % 60};
 }
 

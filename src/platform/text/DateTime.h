@@ -28,12 +28,17 @@ class DateTime
 public:
     static constexpr std::int64_t kSecondsPerMinute = 60;
     static constexpr std::int64_t kSecondsPerDay = 86400;
+    static constexpr std::int64_t kFirstDay = -657434; // the day number of 1 January 100
+    static constexpr std::int64_t kLastDay = 2958465;  // the day number of 31 December 9999
 
     constexpr DateTime() = default;
 
     // Raises Failure 5 when there is no such day or time.
     DateTime(CalendarDate date, TimeOfDay time = {});
     [[nodiscard]] static DateTime FromSeconds(std::int64_t secondsSinceZero);
+
+    // The midnight at which the day begins.
+    [[nodiscard]] static DateTime FromDay(std::int64_t dayNumber);
 
     [[nodiscard]] constexpr std::int64_t Seconds() const { return m_seconds; }
     [[nodiscard]] constexpr bool IsZero() const { return m_seconds == 0; }
@@ -43,6 +48,9 @@ public:
 
     // Whole days since the zero date-time, negative before it.
     [[nodiscard]] constexpr std::int64_t DayNumber() const { return Whole(m_seconds, kSecondsPerDay); }
+
+    // Seconds since midnight, 0 to 86399.
+    [[nodiscard]] constexpr std::int64_t SecondOfDay() const { return m_seconds - DayNumber() * kSecondsPerDay; }
 
     // Whole minutes since the zero date-time, the seconds cut off.
     [[nodiscard]] constexpr std::int64_t MinuteNumber() const { return Whole(m_seconds, kSecondsPerMinute); }
