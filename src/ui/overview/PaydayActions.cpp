@@ -43,6 +43,7 @@ constexpr auto kNotMended = "Nothing was changed: ";
 constexpr auto kNothingFound = "Nothing was found on these time cards";
 
 constexpr auto kShiftTitle = "Add a Shift";
+constexpr auto kAdding = "Adding...";
 constexpr auto kNotAdded = "Nothing was added: ";
 constexpr auto kNoPeople = "There is nobody to add a shift for";
 constexpr auto kCancelled = "you cancelled it";
@@ -81,12 +82,12 @@ std::vector<std::shared_ptr<CEmployee>> PaydayActions::PeopleOf(const PaydayWhom
 }
 
 // Blocks all windows: nothing else of the program may use the database while `work` runs.
-bool PaydayActions::Run(const char* title, const char* text, const Work& work, const char* refused)
+bool PaydayActions::Run(const Texts& texts, const Work& work)
 {
     bool cancelled = false;
     const auto run = [&] {
         const BusyPointer busy(m_host.Desktop());
-        WorkProgress progress(&m_window, {title, text});
+        WorkProgress progress(&m_window, {texts.title, texts.doing});
         progress.setWindowModality(Qt::ApplicationModal);
         try {
             work(progress);
@@ -96,7 +97,7 @@ bool PaydayActions::Run(const char* title, const char* text, const Work& work, c
         }
     };
     return Succeeds(run, [&](const Failure& reason) {
-        const std::string line = refused + (cancelled ? std::string(kCancelled) : PaydayRefusal(reason));
+        const std::string line = texts.refused + (cancelled ? std::string(kCancelled) : PaydayRefusal(reason));
         emit Said(QString::fromStdString(line));
         if (!cancelled) {
             m_host.Log(line);
@@ -144,7 +145,7 @@ void PaydayActions::ChangePayday(const PaydayWhom& whom, bool close)
         };
         lines = close ? ClosePayday(Database(), order, goesOn) : ReopenPayday(Database(), order);
     };
-    if (!Run(title, close ? kClosing : kReopening, change, close ? kNotClosedAny : kNotReopened)) {
+    if (!Run({title, close ? kClosing : kReopening, close ? kNotClosedAny : kNotReopened}, change)) {
         return;
     }
     const auto isStored = [](const PaydayLine& line) { return line.deed == PaydayDeed::Closed || line.deed == PaydayDeed::Reopened; };
@@ -164,13 +165,13 @@ void PaydayActions::ChangePayday(const PaydayWhom& whom, bool close)
 }
 
 // Stores changes of time records. Answers why nothing was stored, in a sentence; empty where it was.
-QString PaydayActions::Store(const char* title, const std::string& reason, const std::function<bool(CJetDB& database)>& store)
+QString PaydayActions::Store(const Texts& texts, const std::string& reason, const std::function<bool(CJetDB& database)>& store)
 {
     std::string refusal;
     const auto run = [&] {
         const BusyPointer busy(m_host.Desktop());
         const auto database = Database();
-        WorkProgress progress(QApplication::activeModalWidget(), {title, kMending});
+        WorkProgress progress(QApplication::activeModalWidget(), {texts.title, texts.doing});
         progress.setWindowModality(Qt::ApplicationModal);
         const CJetDB::Reason why(database, reason);
         if (!store(*database)) {
@@ -182,8 +183,8 @@ QString PaydayActions::Store(const char* title, const std::string& reason, const
     if (refusal.empty()) {
         return {};
     }
-    m_host.Log(kNotMended + refusal);
-    return QString::fromStdString(kNotMended + refusal + '.');
+    m_host.Log(texts.refused + refusal);
+    return QString::fromStdString(texts.refused + refusal + '.');
 }
 
 void PaydayActions::MendSeveral(const PaydayWhom& whom)
@@ -202,16 +203,16 @@ void PaydayActions::MendSeveral(const PaydayWhom& whom)
         }
         plan = std::move(made);
     };
-    if (!Run(kMendTitle, kChecking, read, kNotMended)) {
+    if (!Run({kMendTitle, kChecking, kNotMended}, read)) {
         return;
     }
     if (plan->Lines().empty()) {
         return (void)emit Said(kNothingFound);
     }
-    FMendSeveral window(&m_window, std::move(*plan), OfferedReasons(m_host, whom.paid),
-                        [this](const MendPlan& ticked, const std::string& reason) {
-                            return Store(kMendTitle, reason, [&](CJetDB& database) { return ticked.Store(database); });
-                        });
+    FMendSeveral window(
+        &m_window, std::move(*plan), OfferedReasons(m_host, whom.paid), [this](const MendPlan& ticked, const std::string& reason) {
+            return Store({kMendTitle, kMending, kNotMended}, reason, [&](CJetDB& database) { return ticked.Store(database); });
+        });
     window.exec();
     if (!window.Stored().isEmpty()) {
         TellStored(window.Stored());
@@ -228,7 +229,8 @@ void PaydayActions::AddShift(const PaydayWhom& whom)
         std::vector<std::int32_t> numbers;
         std::transform(people.begin(), people.end(), std::back_inserter(numbers), [](const auto& person) { return person->EmployeeID(); });
         const auto store = [&](const Shift& shift, const std::string& reason) {
-            return Store(kShiftTitle, reason, [&](CJetDB& database) { return ptk::AddShift(database, numbers, shift.start, shift.end); });
+            return Store({kShiftTitle, kAdding, kNotAdded}, reason,
+                         [&](CJetDB& database) { return ptk::AddShift(database, numbers, shift.start, shift.end); });
         };
         const auto options = m_host.Options();
         FAddShift window(&m_window, people, {m_host.Clock(), [this](DateTime day) { return WithRecordsOn(Database(), day); }, store},

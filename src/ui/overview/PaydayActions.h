@@ -61,12 +61,20 @@ signals:
 private:
     using Work = std::function<void(WorkProgress& progress)>;
 
-    bool Run(const char* title, const char* text, const Work& work, const char* refused);
+    // What an action says while it runs, and before the reason why nothing was stored.
+    struct Texts
+    {
+        const char* title;
+        const char* doing;
+        const char* refused;
+    };
+
+    bool Run(const Texts& texts, const Work& work);
     void ChangePayday(const PaydayWhom& whom, bool close);
     [[nodiscard]] bool MayClose(const PaydayWhom& whom);
     [[nodiscard]] std::vector<std::shared_ptr<CEmployee>> PeopleOf(const PaydayWhom& whom) const;
     void TellStored(const QString& news, const QString& title = {}, const QStringList& lines = {});
-    [[nodiscard]] QString Store(const char* title, const std::string& reason, const std::function<bool(CJetDB& database)>& store);
+    [[nodiscard]] QString Store(const Texts& texts, const std::string& reason, const std::function<bool(CJetDB& database)>& store);
     [[nodiscard]] std::shared_ptr<CJetDB> Database() const;
 
     Workplace& m_host;
