@@ -16,6 +16,9 @@ class ReasonBox final : public QComboBox
     Q_OBJECT
 
 public:
+    // What a window says while the box asks.
+    static constexpr auto kAsked = "This period is paid: say why it is changed, or press Save again.";
+
     explicit ReasonBox(QWidget* parent = nullptr);
 
     void Offer(const ReasonLine& line);

@@ -11,6 +11,7 @@
 #include "platform/system/Clock.h"
 #include "platform/system/Desktop.h"
 #include "platform/text/Text.h"
+#include "ui/boxes/ReasonBox.h"
 #include "ui_FAutoFill.h"
 
 namespace ptk {
@@ -20,8 +21,6 @@ namespace {
 constexpr auto kRangeTitle = "Date Range Error";
 constexpr auto kPeriodText = "Cannot create time records for the given time period.";
 constexpr auto kRecordTitle = "Time Record Error";
-
-constexpr auto kWhyFilled = "This period is paid: say why it is changed, or press Save again.";
 constexpr int kForecastLines = 3;
 
 bool IsMidnight(DateTime moment)
@@ -173,7 +172,7 @@ void FAutoFill::AutoShift()
 void FAutoFill::Save()
 {
     if (m_ui->cboReason->AsksForIt()) {
-        return m_ui->lblForecast->Say(kWhyFilled);
+        return m_ui->lblForecast->Say(ReasonBox::kAsked);
     }
     m_okClick = LoadTimeRecordList();
     accept();

@@ -8,6 +8,7 @@
 #include "platform/system/Clock.h"
 #include "platform/system/Desktop.h"
 #include "platform/text/Text.h"
+#include "ui/boxes/ReasonBox.h"
 #include "ui/editors/TimeRecordReceiver.h"
 #include "ui_FTimeEditor.h"
 
@@ -17,7 +18,6 @@ namespace {
 
 constexpr auto kFormatTitle = "Date Format Error";
 constexpr auto kFormatText = "Error: Invalid date separator. Use : to separate time values.";
-constexpr auto kWhyChanged = "This period is paid: say why it is changed, or press Save again.";
 constexpr int kWarningLines = 2;
 
 void ShowDay(DateTimeBox& box, DateTime moment, DateTime today)
@@ -228,7 +228,7 @@ void FTimeEditor::AutoShift()
 void FTimeEditor::Save()
 {
     if (m_ui->cboReason->AsksForIt()) {
-        return m_ui->lblWarning->Say(kWhyChanged);
+        return m_ui->lblWarning->Say(ReasonBox::kAsked);
     }
     ReadTimeRecord();
     if (m_parentWindow == nullptr || !m_parentWindow->ReturnTimeRecord(m_timeRecord)) {

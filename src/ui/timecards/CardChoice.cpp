@@ -167,6 +167,13 @@ PayPeriod CardChoice::Period() const
     return {ChosenDate(*m_ui->dttbTCFrom), ChosenDate(*m_ui->dttbTCTo)};
 }
 
+std::optional<PayPeriod> CardChoice::PeriodIfDates() const
+{
+    const auto from = m_ui->dttbTCFrom->Date();
+    const auto to = m_ui->dttbTCTo->Date();
+    return from && to ? std::optional(PayPeriod{*from, *to}) : std::nullopt;
+}
+
 void CardChoice::Period(PayPeriod value)
 {
     m_ui->dttbTCFrom->SetDate(value.from);

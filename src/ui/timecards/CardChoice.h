@@ -33,6 +33,9 @@ public:
     // The period in the boxes. Raises Failure 13 when a box holds no date.
     [[nodiscard]] PayPeriod Period() const;
 
+    // The period in the boxes; nothing while a box holds no date.
+    [[nodiscard]] std::optional<PayPeriod> PeriodIfDates() const;
+
     void Period(PayPeriod value);
 
     // Offers the period as the last one used, also after the next start of the program. A period that begins today is not kept, because it

@@ -34,14 +34,6 @@ constexpr auto kNoEditor = "The record cannot be edited now";
 constexpr auto kNotToDelete = "The record cannot be deleted now";
 constexpr auto kOpenElsewhere = "Open Record";
 
-// The period in the boxes; nothing while a box holds no date.
-std::optional<PayPeriod> PeriodOf(const CardChoice& choice)
-{
-    std::optional<PayPeriod> period;
-    Succeeds([&] { period = choice.Period(); });
-    return period;
-}
-
 } // namespace
 
 void RecordEditing::New()
@@ -151,7 +143,7 @@ void RecordEditing::Prepare(FTimeEditor& editor, const Editing& editing)
     }
     editor.WarnAbove(m_place.card.LongShiftHours());
     if (editing.isNew) {
-        editor.WarnAsNew(PeriodOf(m_place.choice));
+        editor.WarnAsNew(m_place.choice.PeriodIfDates());
     }
 }
 

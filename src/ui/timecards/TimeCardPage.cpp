@@ -196,9 +196,7 @@ PeriodTexts TimeCardPage::Period() const
 
 std::optional<PayPeriod> TimeCardPage::ChosenPeriod() const
 {
-    std::optional<PayPeriod> period;
-    Succeeds([&] { period = m_choice->Period(); });
-    return period;
+    return m_choice->PeriodIfDates();
 }
 
 std::optional<std::int32_t> TimeCardPage::ChosenEmployee() const
