@@ -34,7 +34,7 @@ bool IsUseless(const Failure& reason)
     return IsOfDatabase(reason) && (number == engine::Damaged || number == engine::CannotOpen || number == engine::NoDatabase);
 }
 
-std::string NameOf(const std::string& path)
+std::string FileNameOf(const std::string& path)
 {
     return std::filesystem::path(path).filename().string();
 }
@@ -97,7 +97,7 @@ std::string Safekeeping::BackUpNow(const BackupOrder& order)
         return attempt.problem.empty() ? kGivenUp : attempt.problem;
     }
     const std::string second = SecondProblem(attempt.outcome);
-    return second.empty() ? kBackedUp + NameOf(attempt.outcome.path) : second;
+    return second.empty() ? kBackedUp + FileNameOf(attempt.outcome.path) : second;
 }
 
 Safekeeping::Attempt Safekeeping::Make(const BackupOrder& order)
@@ -129,7 +129,7 @@ std::string Safekeeping::Restore(const BackupOrder& order, const Author& author)
     while (!file.empty() && !PutBack(order, file, author)) {
         file = window->Choose(BackupFolder(order.programFolder));
     }
-    return file.empty() ? std::string() : kRestored + NameOf(file);
+    return file.empty() ? std::string() : kRestored + FileNameOf(file);
 }
 
 bool Safekeeping::PutBack(const BackupOrder& order, const std::string& file, const Author& author)

@@ -18,25 +18,25 @@ namespace {
 
 constexpr const char* kHidden = "Password"; // its text is for nobody's eyes
 
-std::string Shown(const std::string& value)
+std::string FieldText(const std::string& value)
 {
     return value;
 }
-std::string Shown(std::int32_t value)
+std::string FieldText(std::int32_t value)
 {
     return std::to_string(value);
 }
-std::string Shown(float value)
+std::string FieldText(float value)
 {
     return SingleText(value);
 }
-std::string Shown(bool value)
+std::string FieldText(bool value)
 {
     return BooleanText(value);
 }
 
 // The text of a date-time: a time of day lies on the zero date, an unset moment is empty.
-std::string Shown(DateTime value)
+std::string FieldText(DateTime value)
 {
     if (value.IsZero()) {
         return "";
@@ -56,7 +56,7 @@ public:
     {
         if (m_read.*field != m_present.*field) {
             const bool hidden = std::string_view(column) == kHidden;
-            m_found.push_back({column, hidden ? "" : Shown(m_read.*field), hidden ? "changed" : Shown(m_present.*field)});
+            m_found.push_back({column, hidden ? "" : FieldText(m_read.*field), hidden ? "changed" : FieldText(m_present.*field)});
         }
         return *this;
     }

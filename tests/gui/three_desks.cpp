@@ -93,7 +93,7 @@ protected:
         CJetDB database("/nowhere");
         database.DatabaseName(m_server.Address());
         EXPECT_TRUE(database.OpenDB());
-        return database.ExecuteSelect(sql)->Shown(0);
+        return database.ExecuteSelect(sql)->TextToShow(0);
     }
 
     ServerDatabase m_server;

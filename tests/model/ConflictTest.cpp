@@ -33,7 +33,7 @@ protected:
     }
 
     void Elsewhere(const std::string& sql) const { Execute(*m_kept.Open(), sql); }
-    std::string Value(const std::string& sql) const { return m_kept.Open()->Select(sql)->Shown(0); }
+    std::string Value(const std::string& sql) const { return m_kept.Open()->Select(sql)->TextToShow(0); }
 
     EitherDatabase m_kept;
     std::shared_ptr<CJetDB> m_database = std::make_shared<CJetDB>(m_kept.Folder());

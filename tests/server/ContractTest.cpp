@@ -64,7 +64,7 @@ protected:
         std::string text;
         for (; !rows->EndOfFile(); rows->MoveNext()) {
             for (std::size_t column = 0; column < m_columns; ++column) {
-                text += rows->Shown(column) + '|';
+                text += rows->TextToShow(column) + '|';
             }
         }
         database->CloseDB();

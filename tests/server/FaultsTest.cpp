@@ -39,7 +39,7 @@ std::string Asked(CJetDB& database, const std::string& sql)
 {
     EXPECT_TRUE(database.OpenDB()) << database.LastFailure().Description();
     const auto rows = database.ExecuteSelect(sql);
-    std::string shown = rows == nullptr ? database.LastFailure().Description() : rows->Shown(0);
+    std::string shown = rows == nullptr ? database.LastFailure().Description() : rows->TextToShow(0);
     database.CloseDB();
     return shown;
 }

@@ -11,7 +11,7 @@
 int main(int argc, char* argv[])
 {
     ptk::SettleProcess();
-    ptk::RemoveMortalFilesOnSignals();
+    ptk::RemoveRemovedOnSignalsOnSignals();
     ptk::AskForPasswordsWith(ptk::AskAtTerminal);
     return ptk::RunConsole({argv + (argc > 0 ? 1 : 0), argv + argc}, ptk::SystemClock(), std::cout, std::cerr,
                            ::isatty(STDOUT_FILENO) == 1);

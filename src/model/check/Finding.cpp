@@ -32,7 +32,7 @@ const Kind& At(FindingKind kind)
 
 } // namespace
 
-std::string_view NameOf(FindingKind kind)
+std::string_view KindName(FindingKind kind)
 {
     return At(kind).name;
 }
@@ -42,7 +42,7 @@ Severity SeverityOf(FindingKind kind)
     return At(kind).severity;
 }
 
-std::string_view NameOf(Severity severity)
+std::string_view SeverityName(Severity severity)
 {
     return severity == Severity::Problem ? "problem" : "notice";
 }

@@ -45,12 +45,12 @@ enum class Severity
 };
 
 // The kind's name in data files: "unreadable", "clocked-in".
-[[nodiscard]] std::string_view NameOf(FindingKind kind);
+[[nodiscard]] std::string_view KindName(FindingKind kind);
 
 [[nodiscard]] Severity SeverityOf(FindingKind kind);
 
 // The severity's name in data files: "problem", "notice".
-[[nodiscard]] std::string_view NameOf(Severity severity);
+[[nodiscard]] std::string_view SeverityName(Severity severity);
 
 struct Finding
 {

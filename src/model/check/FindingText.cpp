@@ -108,8 +108,8 @@ std::string FindingSummary(const CardCheck& check)
             summary += fmt::format("{}{} {}{}", summary.empty() ? "" : ", ", count, what, count == 1 ? "" : "s");
         }
     };
-    add(check.problems, NameOf(Severity::Problem).data());
-    add(check.notices, NameOf(Severity::Notice).data());
+    add(check.problems, SeverityName(Severity::Problem).data());
+    add(check.notices, SeverityName(Severity::Notice).data());
     return summary.empty() ? "No problems or notices" : summary;
 }
 

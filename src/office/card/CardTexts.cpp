@@ -20,7 +20,7 @@ constexpr std::array<const char*, 7> kWeekdays{"Sunday", "Monday", "Tuesday", "W
 
 } // namespace
 
-CardName NameOf(const CTimeCard& card)
+CardName CardNameOf(const CTimeCard& card)
 {
     const auto employee = card.Employee();
     if (employee == nullptr) {
@@ -65,13 +65,13 @@ std::string CountText(std::int64_t count, const std::string& thing)
 
 std::string GeneratedText(const CTimeCard& card)
 {
-    return NameOf(card).employee + "'s card generated: " + CountText(Required(card.TimeRecordList())->Count(), "record");
+    return CardNameOf(card).employee + "'s card generated: " + CountText(Required(card.TimeRecordList())->Count(), "record");
 }
 
 std::string UnreadText(const CTimeCard& card)
 {
     const std::string& reason = card.LastFailure().Description();
-    return reason.empty() ? std::string() : NameOf(card).employee + "'s records could not be read: " + reason;
+    return reason.empty() ? std::string() : CardNameOf(card).employee + "'s records could not be read: " + reason;
 }
 
 std::string RefusedText(const std::string& what, const CTimeCard& card)

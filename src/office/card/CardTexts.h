@@ -20,7 +20,7 @@ struct CardName
 };
 
 // The employee's name is empty if the card has no employee.
-[[nodiscard]] CardName NameOf(const CTimeCard& card);
+[[nodiscard]] CardName CardNameOf(const CTimeCard& card);
 
 // The warning above a card that is not the one named by the boxes; empty if it is, or if the card has no employee. New records still go to
 // a card that is not shown any more, and the warning then says that. `chosen.employee` is empty if the typed text is no employee's name.

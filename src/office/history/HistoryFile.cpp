@@ -50,7 +50,7 @@ std::string HistoryFile::Take(const TrailEntry& entry)
     if (m_form != ReportForm::Pdf) {
         return HistoryLine(m_form, entry, nameOf);
     }
-    m_pages.Add(CellsOf(entry, nameOf));
+    m_pages.Add(HistoryCellsOf(entry, nameOf));
     return "";
 }
 

@@ -14,7 +14,7 @@ void HistoryReading::ReadOn()
 {
     const auto entries = ReadTrail(m_database, m_query);
     for (const TrailEntry& entry : entries) {
-        m_rows.push_back(CellsOf(entry, [this](std::int64_t id) { return m_names->Of(id); }));
+        m_rows.push_back(HistoryCellsOf(entry, [this](std::int64_t id) { return m_names->Of(id); }));
         m_query.olderThan = entry.id;
     }
     m_done = std::ssize(entries) < kEntries;

@@ -26,7 +26,7 @@ HistoryCells HistoryHeading()
     return {"When", "Who", "Employee", "What"};
 }
 
-HistoryCells CellsOf(const TrailEntry& entry, const NameOfEmployee& nameOf)
+HistoryCells HistoryCellsOf(const TrailEntry& entry, const NameOfEmployee& nameOf)
 {
     return {EntryMoment(entry), Who(entry), EntryEmployee(entry, nameOf), EntryDeed(entry, nameOf) + EntryReason(entry)};
 }

@@ -22,7 +22,7 @@ inline constexpr std::size_t kHistoryColumns = 4;
 using HistoryCells = std::array<std::string, kHistoryColumns>; // by HistoryColumn
 
 [[nodiscard]] HistoryCells HistoryHeading();
-[[nodiscard]] HistoryCells CellsOf(const TrailEntry& entry, const NameOfEmployee& nameOf);
+[[nodiscard]] HistoryCells HistoryCellsOf(const TrailEntry& entry, const NameOfEmployee& nameOf);
 
 // A row in one text: "03/05/2003 05:00:09 PM, Bob Ray: Ann Lee, end none became 03/05/2003 05:00 PM".
 [[nodiscard]] std::string InOneText(const HistoryCells& cells);

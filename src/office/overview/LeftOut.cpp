@@ -90,7 +90,7 @@ void Take(Overview& overview, LeftOut out)
 
 } // namespace
 
-std::string_view NameOf(LeftOutReason reason)
+std::string_view LeftOutName(LeftOutReason reason)
 {
     switch (reason) {
     case LeftOutReason::Inactive:

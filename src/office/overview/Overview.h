@@ -44,7 +44,7 @@ enum class LeftOutReason
 };
 
 // "inactive", "administrator", "unknown".
-[[nodiscard]] std::string_view NameOf(LeftOutReason reason);
+[[nodiscard]] std::string_view LeftOutName(LeftOutReason reason);
 
 struct LeftOut
 {

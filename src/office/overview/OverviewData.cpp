@@ -62,8 +62,8 @@ std::string RemedyJson(const Remedy& remedy)
 std::string FindingJson(const Finding& finding, const std::vector<Remedy>* remedies)
 {
     JsonObject object;
-    object.Text("kind", NameOf(finding.kind))
-        .Text("severity", NameOf(SeverityOf(finding.kind)))
+    object.Text("kind", KindName(finding.kind))
+        .Text("severity", SeverityName(SeverityOf(finding.kind)))
         .Json("records", '[' + Joined(finding.records, ",") + ']')
         .Number("minutes", finding.minutes)
         .Moment("from", finding.from)
@@ -121,7 +121,7 @@ std::string LeftOutJson(const LeftOut& out)
     object.NumberOrNull("number", employee == nullptr ? std::nullopt : std::optional<std::int64_t>(employee->EmployeeNumber()))
         .NumberOrNull("id", out.id)
         .TextOrNull("name", employee == nullptr ? std::nullopt : std::optional(employee->DisplayName()))
-        .Text("reason", NameOf(out.reason))
+        .Text("reason", LeftOutName(out.reason))
         .Number("records", out.row.records);
     AddFigures(object, out.row.figures);
     return AddPayday(object, out.row).Done();
@@ -160,7 +160,7 @@ std::string Csv(const OverviewRow& row)
 std::string Csv(const CEmployee& employee, const Finding& finding)
 {
     CsvLine line = LineOf(employee);
-    line.Empty(7).Plain(NameOf(finding.kind)).Plain(NameOf(SeverityOf(finding.kind))).Plain(Joined(finding.records, " "));
+    line.Empty(7).Plain(KindName(finding.kind)).Plain(SeverityName(SeverityOf(finding.kind))).Plain(Joined(finding.records, " "));
     return line.Number(finding.minutes).Plain(IsoMoment(finding.from)).Plain(IsoMoment(finding.to)).Text(finding.text).Done();
 }
 

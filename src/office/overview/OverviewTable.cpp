@@ -74,7 +74,7 @@ OverviewCells OverviewHeading()
     return {"Name", "Regular", "Overtime", "Gross Pay", "Longest Week", "Problems", "Notices", "Clocked In", "Paid", "Changed"};
 }
 
-OverviewCells CellsOf(const OverviewRow& row)
+OverviewCells OverviewCellsOf(const OverviewRow& row)
 {
     const CardFigures figures = row.figures.value_or(CardFigures{"", "", kNotReadable});
     return {OneLine(row.employee->DisplayName()),
@@ -92,14 +92,15 @@ OverviewCells CellsOf(const OverviewRow& row)
 std::string LeftOutName(const LeftOut& out)
 {
     const std::string unknown = out.id ? fmt::format("EmployeeID {}", *out.id) : "No EmployeeID";
-    return fmt::format("{} ({})", out.row.employee != nullptr ? OneLine(out.row.employee->DisplayName()) : unknown, NameOf(out.reason));
+    return fmt::format("{} ({})", out.row.employee != nullptr ? OneLine(out.row.employee->DisplayName()) : unknown,
+                       LeftOutName(out.reason));
 }
 
-OverviewCells CellsOf(const LeftOut& out)
+OverviewCells OverviewCellsOf(const LeftOut& out)
 {
     OverviewCells cells;
     if (out.row.employee != nullptr) {
-        cells = CellsOf(out.row);
+        cells = OverviewCellsOf(out.row);
     } else {
         cells.at(static_cast<std::size_t>(OverviewColumn::Gross)) = CountText(out.row.records, "record");
     }

@@ -34,7 +34,7 @@ using OverviewCells = std::array<std::string, kOverviewColumns>; // by OverviewC
 
 // The cells of an employee's row. Without figures "not readable" takes the place of the gross pay. The cell of Paid is the day of the
 // closing, that of Changed the pay that is owed, or below 0 the pay that was too much.
-[[nodiscard]] OverviewCells CellsOf(const OverviewRow& row);
+[[nodiscard]] OverviewCells OverviewCellsOf(const OverviewRow& row);
 
 // The name of somebody left out: "Peter Lindqvist (inactive)"; of an unknown one "EmployeeID 77 (unknown)", and of records without an
 // EmployeeID "No EmployeeID (unknown)".
@@ -42,7 +42,7 @@ using OverviewCells = std::array<std::string, kOverviewColumns>; // by OverviewC
 
 // The cells of somebody left out. The name is LeftOutName; for an unknown one the number of records takes the place of the gross pay, and
 // no other figures are shown.
-[[nodiscard]] OverviewCells CellsOf(const LeftOut& out);
+[[nodiscard]] OverviewCells OverviewCellsOf(const LeftOut& out);
 
 // "2 with records in these days are in no list: Peter Lindqvist (inactive), EmployeeID 77 (unknown)"; empty where there is nobody.
 [[nodiscard]] std::string LeftOutNews(std::span<const LeftOut> leftOut);

@@ -25,7 +25,7 @@ using Cells = OverviewCells;
 // The heading is shorter than the window's one, for the lines of a terminal and of a page.
 const Cells kHeading{"Name", "Regular", "Overtime", "Gross", "Longest week", "Problems", "Notices", "Clocked in", "Paid", "Changed"};
 
-Cells CellsOf(const OverviewTotals& totals)
+Cells TotalCells(const OverviewTotals& totals)
 {
     return {kTotal,
             totals.figures.regular,
@@ -79,14 +79,14 @@ struct Lines
 
 Lines LinesOf(const Overview& overview)
 {
-    const Cells totals = CellsOf(TotalsOf(overview.rows));
+    const Cells totals = TotalCells(TotalsOf(overview.rows));
     std::vector<Cells> cells;
     cells.reserve(overview.rows.size());
     Table table;
     table.Fit(kHeading);
     table.Fit(totals);
     for (const OverviewRow& row : overview.rows) {
-        table.Fit(cells.emplace_back(CellsOf(row)));
+        table.Fit(cells.emplace_back(OverviewCellsOf(row)));
     }
     Lines lines{table.Line(kHeading), {}, table.Line(totals)};
     for (const Cells& row : cells) {
@@ -105,7 +105,7 @@ std::vector<std::string> Sentences(const CardCheck& check, bool showNotices, con
         if (severity != Severity::Problem && !showNotices) {
             continue;
         }
-        sentences.push_back(fmt::format("    {}: {}", NameOf(severity), check.findings[i].text));
+        sentences.push_back(fmt::format("    {}: {}", SeverityName(severity), check.findings[i].text));
         for (std::size_t j = 0; i < remedies.size() && j < remedies[i].size(); ++j) {
             sentences.push_back("        " + remedies[i][j].text);
         }

@@ -53,9 +53,9 @@ AccountCells AccountHeading()
     return {"Name", "Paid On", "Paid Hours", "Paid", "Hours Now", "Now", "Hours Owed", "Owed", "Changes"};
 }
 
-AccountCells CellsOf(const AccountPerson& person)
+AccountCells AccountCellsOf(const AccountPerson& person)
 {
-    AccountCells cells{NameOf(person.person), kNeverPaid};
+    AccountCells cells{PersonName(person.person), kNeverPaid};
     if (!person.paid.empty()) {
         ShowPaid(cells, person.paid.back());
     }

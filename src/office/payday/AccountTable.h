@@ -29,7 +29,7 @@ using AccountCells = std::array<std::string, kAccountColumns>; // by AccountColu
 
 // The cells of one person's row. Hours are regular and overtime, "80.00 + 0.50", but the owed hours are both together. If the period was
 // closed several times, the newest closing counts. The owed cells are empty if nothing changed.
-[[nodiscard]] AccountCells CellsOf(const AccountPerson& person);
+[[nodiscard]] AccountCells AccountCellsOf(const AccountPerson& person);
 
 // "10 of 12 are paid, 1 changed since".
 [[nodiscard]] std::string AccountNews(const PaydayAccount& account);

@@ -44,7 +44,7 @@ std::vector<AccountChange> ChangesSince(const std::shared_ptr<CJetDB>& database,
 {
     std::vector<AccountChange> changes;
     for (const TrailEntry& entry : ReadPaidChanges(database, oldest.employee, oldest.period, oldest.entry)) {
-        changes.push_back({entry.id, InOneText(CellsOf(entry, [&](std::int64_t id) { return names.Of(id); }))});
+        changes.push_back({entry.id, InOneText(HistoryCellsOf(entry, [&](std::int64_t id) { return names.Of(id); }))});
     }
     return changes;
 }

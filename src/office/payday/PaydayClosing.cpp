@@ -89,7 +89,7 @@ public:
             const auto closed = closings.find(person.id);
             if (closed != closings.end() && closed->second.Newest() != nullptr) {
                 rows.push_back(closed->second.Newest()->id);
-                lines.push_back({PaydayDeed::Reopened, NameOf(person), {}, 0});
+                lines.push_back({PaydayDeed::Reopened, PersonName(person), {}, 0});
             }
         }
         if (!rows.empty()) {

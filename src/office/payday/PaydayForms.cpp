@@ -159,7 +159,7 @@ std::string AccountText(const PaydayAccount& account)
 {
     std::string text = fmt::format("{}, made {}\r\n", TitleOf(account), MomentText(account.made));
     for (const AccountPerson& person : account.persons) {
-        text += kLineEnd + NameOf(person.person) + kLineEnd;
+        text += kLineEnd + PersonName(person.person) + kLineEnd;
         for (const std::string& line : LinesOf(person)) {
             text += "    " + line + kLineEnd;
         }
@@ -176,7 +176,7 @@ ReportDocument AccountDocument(const PaydayAccount& account)
     };
     for (const AccountPerson& person : account.persons) {
         document.BeginGroup();
-        add(NameOf(person.person));
+        add(PersonName(person.person));
         for (const std::string& line : LinesOf(person)) {
             add("    " + line);
         }

@@ -21,7 +21,7 @@ void AskWhetherToGoOn(const PaydayGoesOn& goesOn, std::size_t done, std::size_t 
     }
 }
 
-std::string NameOf(const PaydayPerson& person)
+std::string PersonName(const PaydayPerson& person)
 {
     return person.employee == nullptr ? fmt::format("Employee {}", person.id) : person.employee->DisplayName();
 }

@@ -29,7 +29,7 @@ using PaydayGoesOn = std::function<bool(std::size_t done, std::size_t all)>;
 void AskWhetherToGoOn(const PaydayGoesOn& goesOn, std::size_t done, std::size_t all);
 
 // The display name; "Employee 77" if there is no such employee any more.
-[[nodiscard]] std::string NameOf(const PaydayPerson& person);
+[[nodiscard]] std::string PersonName(const PaydayPerson& person);
 
 // Everybody who has a closing of the period, and with `offered` also everybody who is offered time cards. They stand in the list's order;
 // behind it, by ID, those who are no employees any more.

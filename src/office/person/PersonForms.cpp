@@ -203,7 +203,7 @@ private:
         const auto nameOf = OnlyThisName(m_person);
         std::vector<std::string> lines;
         for (const TrailEntry& entry : m_person.changes) {
-            lines.push_back(InOneText(CellsOf(entry, nameOf)));
+            lines.push_back(InOneText(HistoryCellsOf(entry, nameOf)));
         }
         AddLines(kChangesTitle, lines);
     }

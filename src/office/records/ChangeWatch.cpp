@@ -50,13 +50,13 @@ bool ChangeWatch::AnnouncesChanges() const
     return m_database->TellsNews();
 }
 
-bool ChangeWatch::IsAnyChanged(Shown what) const
+bool ChangeWatch::IsAnyChanged(Watched what) const
 {
     return m_everything.contains(what) ||
            std::any_of(m_changed.begin(), m_changed.end(), [&](const auto& changed) { return changed.first == what; });
 }
 
-bool ChangeWatch::IsChanged(Shown what, std::int64_t row) const
+bool ChangeWatch::IsChanged(Watched what, std::int64_t row) const
 {
     return m_changed.contains({what, row}) || (m_everything.contains(what) && !m_readSince.contains({what, row}));
 }
@@ -96,7 +96,7 @@ void ChangeWatch::TakeNew()
 // For so many changes that they are not looked through one by one.
 void ChangeWatch::TakeEverything()
 {
-    m_everything = {Shown::Employee, Shown::Company, Shown::CardEmployee, Shown::CardRecords};
+    m_everything = {Watched::Employee, Watched::Company, Watched::CardEmployee, Watched::CardRecords};
     m_readSince.clear();
 }
 
@@ -109,25 +109,25 @@ void ChangeWatch::Take(const TrailNote& note)
     if (note.table == "TimeRecord") {
         for (const auto& employee : {note.employeeBefore, note.employeeAfter}) {
             if (employee) {
-                m_changed.emplace(Shown::CardRecords, *employee);
+                m_changed.emplace(Watched::CardRecords, *employee);
             }
         }
     } else if (note.table == "Employee" && note.row) {
-        m_changed.emplace(Shown::Employee, *note.row);
-        m_changed.emplace(Shown::CardEmployee, *note.row);
+        m_changed.emplace(Watched::Employee, *note.row);
+        m_changed.emplace(Watched::CardEmployee, *note.row);
     } else if (note.table == "Company" && note.row) {
-        m_changed.emplace(Shown::Company, *note.row);
+        m_changed.emplace(Watched::Company, *note.row);
     }
 }
 
-void ChangeWatch::AboutToRead(Shown what)
+void ChangeWatch::AboutToRead(Watched what)
 {
     Look();
     m_everything.erase(what);
     std::erase_if(m_changed, [&](const auto& changed) { return changed.first == what; });
 }
 
-void ChangeWatch::AboutToRead(Shown what, std::int64_t row)
+void ChangeWatch::AboutToRead(Watched what, std::int64_t row)
 {
     Look();
     m_changed.erase({what, row});

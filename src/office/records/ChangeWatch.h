@@ -16,7 +16,7 @@ class CJetDB;
 class UndoStack;
 
 // The kinds of things that a window shows. Each is read at a time of its own.
-enum class Shown
+enum class Watched
 {
     Employee,     // in the list of employees
     Company,      // in the list of companies
@@ -44,14 +44,14 @@ public:
     [[nodiscard]] std::optional<std::int64_t> Newest() const { return m_newest; }
 
     // Whether anything of this kind was changed, as of the last look.
-    [[nodiscard]] bool IsAnyChanged(Shown what) const;
+    [[nodiscard]] bool IsAnyChanged(Watched what) const;
 
     // Whether this one was changed, as of the last look. `row` is the EmployeeID or the CompanyID.
-    [[nodiscard]] bool IsChanged(Shown what, std::int64_t row) const;
+    [[nodiscard]] bool IsChanged(Watched what, std::int64_t row) const;
 
     // To be called before something is read again, everything of its kind or one row: looks, and forgets the changes so far.
-    void AboutToRead(Shown what);
-    void AboutToRead(Shown what, std::int64_t row);
+    void AboutToRead(Watched what);
+    void AboutToRead(Watched what, std::int64_t row);
 
 private:
     void Start();
@@ -66,9 +66,9 @@ private:
     std::set<std::int64_t> m_seen;                     // the entries that were looked at, as far back as others may still come
     bool m_unread = false;                             // news was announced that could not be read yet
     std::chrono::steady_clock::time_point m_notBefore; // no look before this moment: the server did not answer
-    std::set<std::pair<Shown, std::int64_t>> m_changed;
-    std::set<Shown> m_everything;                         // kinds of which everything may have changed
-    std::set<std::pair<Shown, std::int64_t>> m_readSince; // of those kinds: what was read again since
+    std::set<std::pair<Watched, std::int64_t>> m_changed;
+    std::set<Watched> m_everything;                         // kinds of which everything may have changed
+    std::set<std::pair<Watched, std::int64_t>> m_readSince; // of those kinds: what was read again since
 };
 
 } // namespace ptk

@@ -188,7 +188,7 @@ std::string UndoStack::TextOf(const std::vector<TrailEntry>& entries) const
         return (entries.front().after ? kClosePayday : kReopenPayday) + PaydayDays(entries.front());
     }
     if (entries.size() == 1) {
-        return VerbOf(entries.front()) + NameOf(entries.front());
+        return VerbOf(entries.front()) + RowName(entries.front());
     }
     if (AreEmployees(entries)) {
         return fmt::format(kImportEmployees, entries.size());
@@ -197,7 +197,7 @@ std::string UndoStack::TextOf(const std::vector<TrailEntry>& entries) const
 }
 
 // The name is read from the row, because an entry holds only the columns that changed.
-std::string UndoStack::NameOf(const TrailEntry& entry) const
+std::string UndoStack::RowName(const TrailEntry& entry) const
 {
     if (!entry.after && entry.table == "TimeRecord") {
         return RecordMoment(entry);

@@ -73,7 +73,7 @@ private:
     void Take(const std::vector<TrailEntry>& entries);
     [[nodiscard]] Step StepOf(const std::vector<TrailEntry>& entries) const;
     [[nodiscard]] std::string TextOf(const std::vector<TrailEntry>& entries) const;
-    [[nodiscard]] std::string NameOf(const TrailEntry& entry) const;
+    [[nodiscard]] std::string RowName(const TrailEntry& entry) const;
     [[nodiscard]] bool PutPasswords(const TrailEntry& entry, RowChange& change) const;
     template <typename Work>
     bool OrRefusal(Work work);

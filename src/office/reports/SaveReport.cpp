@@ -16,7 +16,7 @@ constexpr auto kNotSaved = "Not saved: {}.";
 
 constexpr ReportForm kForms[] = {ReportForm::Pdf, ReportForm::Csv, ReportForm::Text, ReportForm::Json};
 
-const char* NameOf(ReportForm form)
+const char* FormName(ReportForm form)
 {
     switch (form) {
     case ReportForm::Pdf:
@@ -45,7 +45,7 @@ std::span<const ReportForm> AllForms()
 
 std::string FilterOf(ReportForm form)
 {
-    return fmt::format("{} (*{})", NameOf(form), EndingOf(form));
+    return fmt::format("{} (*{})", FormName(form), EndingOf(form));
 }
 
 ReportForm FormOfName(const std::string& path, ReportForm chosen, std::span<const ReportForm> forms)

@@ -31,14 +31,14 @@ std::string MadeText(const std::string& name)
 
 } // namespace
 
-BackupCells CellsOf(const std::string& name, std::int64_t size)
+BackupCells BackupCellsOf(const std::string& name, std::int64_t size)
 {
     return {MadeText(name), SizeText(size), {}, {}, {}};
 }
 
-BackupCells CellsOf(const BackupEntry& entry)
+BackupCells BackupCellsOf(const BackupEntry& entry)
 {
-    BackupCells cells = CellsOf(entry.name, entry.size);
+    BackupCells cells = BackupCellsOf(entry.name, entry.size);
     const BackupContent content = entry.content.value_or(BackupContent());
     cells.employees = std::to_string(content.employees);
     cells.records = std::to_string(content.records);

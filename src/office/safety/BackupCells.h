@@ -17,9 +17,9 @@ struct BackupCells
 };
 
 // The cells for a backup's name and size. Its content is left empty, because that needs a look into the file.
-[[nodiscard]] BackupCells CellsOf(const std::string& name, std::int64_t size);
+[[nodiscard]] BackupCells BackupCellsOf(const std::string& name, std::int64_t size);
 
 // The cells of a backup with its content. REQUIRES: the backup can be read.
-[[nodiscard]] BackupCells CellsOf(const BackupEntry& entry);
+[[nodiscard]] BackupCells BackupCellsOf(const BackupEntry& entry);
 
 } // namespace ptk

@@ -148,17 +148,17 @@ private:
         return place < m_cells.size() ? Trimmed(m_cells[place]) : std::string_view();
     }
 
-    [[nodiscard]] Value Read(EmployeeField field) const { return ReadField(field, Cell(field), NameOf(field)); }
+    [[nodiscard]] Value Read(EmployeeField field) const { return ReadField(field, Cell(field), ShownHeading(field)); }
 
     // The field's heading in the file; our own if the file lacks it.
-    [[nodiscard]] std::string NameOf(EmployeeField field) const
+    [[nodiscard]] std::string ShownHeading(EmployeeField field) const
     {
         return PlaceAt(field) ? m_headings.At(*PlaceAt(field)) : HeadingOf(field);
     }
 
     [[noreturn]] void Refuse(EmployeeField field, std::string_view reason) const
     {
-        throw LineRefused{fmt::format("{}: {}", NameOf(field), reason)};
+        throw LineRefused{fmt::format("{}: {}", ShownHeading(field), reason)};
     }
 
     // Refuses a line without a last name or a social security number, as the Employees page does.

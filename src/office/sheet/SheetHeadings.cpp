@@ -48,17 +48,17 @@ std::optional<std::size_t> SheetHeadings::Find(std::string_view normalized) cons
 void SheetHeadings::RefuseStrange(const CsvRecord& record) const
 {
     if (record.strayCell != 0) {
-        throw LineRefused{fmt::format(kStray, NameOf(record.strayCell - 1))};
+        throw LineRefused{fmt::format(kStray, HeadingOrNumber(record.strayCell - 1))};
     }
     for (std::size_t place = m_shown.size(); place < record.cells.size(); ++place) {
         if (!Trimmed(record.cells[place]).empty()) {
-            throw LineRefused{fmt::format(kNoColumn, NameOf(place))};
+            throw LineRefused{fmt::format(kNoColumn, HeadingOrNumber(place))};
         }
     }
 }
 
 // The heading, or the column's number, counted from 1, if it has none.
-std::string SheetHeadings::NameOf(std::size_t place) const
+std::string SheetHeadings::HeadingOrNumber(std::size_t place) const
 {
     const bool named = place < m_shown.size() && !m_shown[place].empty();
     return named ? m_shown[place] : fmt::format("column {}", place + 1);

@@ -43,7 +43,7 @@ public:
     void RefuseStrange(const CsvRecord& record) const;
 
 private:
-    [[nodiscard]] std::string NameOf(std::size_t place) const;
+    [[nodiscard]] std::string HeadingOrNumber(std::size_t place) const;
 
     std::vector<std::string> m_shown;
     std::vector<std::string> m_normalized;

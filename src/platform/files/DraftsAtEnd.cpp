@@ -34,14 +34,14 @@ void RemoveWithBeside(const char* path)
 // Handles a signal: removes the files, then lets the signal come again, which now ends the process as its sender meant.
 void EndWithoutThem(int signal)
 {
-    RemoveMortalFiles();
+    RemoveRemovedOnSignals();
     std::signal(signal, SIG_DFL);
     std::raise(signal);
 }
 
 } // namespace
 
-MortalFile::MortalFile(const std::string& path) : m_place(0)
+RemovedOnSignal::RemovedOnSignal(const std::string& path) : m_place(0)
 {
     const char* none = nullptr;
     while (m_place < kMost && !mortalFiles[m_place].compare_exchange_strong(none, path.c_str())) {
@@ -50,14 +50,14 @@ MortalFile::MortalFile(const std::string& path) : m_place(0)
     }
 }
 
-MortalFile::~MortalFile()
+RemovedOnSignal::~RemovedOnSignal()
 {
     if (m_place < kMost) {
         mortalFiles[m_place] = nullptr;
     }
 }
 
-void RemoveMortalFiles() noexcept
+void RemoveRemovedOnSignals() noexcept
 {
     for (const auto& path : mortalFiles) {
         if (const char* present = path) {
@@ -66,7 +66,7 @@ void RemoveMortalFiles() noexcept
     }
 }
 
-void RemoveMortalFilesOnSignals()
+void RemoveRemovedOnSignalsOnSignals()
 {
     for (const int signal : {SIGTERM, SIGHUP, SIGINT}) {
         struct sigaction present

@@ -7,22 +7,22 @@ namespace ptk {
 
 // While it lives, a signal that ends the process also removes the file `path` and what an engine keeps beside it. `path` must outlive it,
 // unchanged. This holds for sixteen files at a time; any others are left for the next program that makes a file there.
-class MortalFile
+class RemovedOnSignal
 {
 public:
-    explicit MortalFile(const std::string& path);
-    ~MortalFile();
-    MortalFile(const MortalFile&) = delete;
-    MortalFile& operator=(const MortalFile&) = delete;
+    explicit RemovedOnSignal(const std::string& path);
+    ~RemovedOnSignal();
+    RemovedOnSignal(const RemovedOnSignal&) = delete;
+    RemovedOnSignal& operator=(const RemovedOnSignal&) = delete;
 
 private:
     std::size_t m_place;
 };
 
-// Removes the files of all MortalFile objects that live. A signal handler may call it.
-void RemoveMortalFiles() noexcept;
+// Removes the files of all RemovedOnSignal objects that live. A signal handler may call it.
+void RemoveRemovedOnSignals() noexcept;
 
 // Lets SIGTERM, SIGHUP and SIGINT remove these files before they end the process; a signal that the process ignores or handles stays so.
-void RemoveMortalFilesOnSignals();
+void RemoveRemovedOnSignalsOnSignals();
 
 } // namespace ptk

@@ -57,7 +57,7 @@ private:
     SystemFile m_folder;
     std::string m_path;
     SystemFile m_file;
-    std::optional<MortalFile> m_mortal;
+    std::optional<RemovedOnSignal> m_mortal;
     bool m_placed = false;
 };
 

@@ -173,7 +173,7 @@ std::string_view RecordSet::TextAt(std::size_t column) const
     return TextOf(cell);
 }
 
-std::string RecordSet::Shown(std::size_t column) const
+std::string RecordSet::TextToShow(std::size_t column) const
 {
     const Cell& cell = At(column);
     switch (cell.kind) {

@@ -52,7 +52,7 @@ public:
 
     // The value for people to read, whatever it is: as it is stored, on one line, texts in quotes and cut where they are long; NULL for a
     // null.
-    [[nodiscard]] std::string Shown(std::size_t column) const;
+    [[nodiscard]] std::string TextToShow(std::size_t column) const;
 
     // Whether the cell is a date-time in the stored form YYYY-MM-DD HH:MM:SS: searches compare texts and miss any other.
     [[nodiscard]] bool HasStoredDate(std::size_t column) const;

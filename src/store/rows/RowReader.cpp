@@ -78,8 +78,8 @@ RowReader::RowReader(const RecordSet& rows, const TableColumns& columns, std::ve
 // Where the value stands, in words: "Employee 40: AutoDeductLunchLength is 70000 (Overflow)".
 std::string RowReader::Place(std::size_t column, const std::string& why) const
 {
-    return fmt::format("{}{}: {} is {} ({})", m_table.table, m_table.hasKey ? ' ' + m_rows.Shown(m_columns.front()) : "",
-                       m_table.columns[column]->name, m_rows.Shown(m_columns[column]), why);
+    return fmt::format("{}{}: {} is {} ({})", m_table.table, m_table.hasKey ? ' ' + m_rows.TextToShow(m_columns.front()) : "",
+                       m_table.columns[column]->name, m_rows.TextToShow(m_columns[column]), why);
 }
 
 // Raises a doubt about a value that the program reads without a complaint; only the check of a file raises it.

@@ -97,7 +97,7 @@ std::vector<std::string> ForeignParts(Engine& file)
     return names;
 }
 
-std::string Shown(const Statement& row, int column)
+std::string CellText(const Statement& row, int column)
 {
     if (row.KindAt(column) == CellKind::Bytes) {
         return "bytes";
@@ -117,7 +117,7 @@ Failure Refusal(const StoredTable& table, const Statement& row, const Unfit& unf
     const std::string key = table.hasKey ? fmt::format(" {}", row.TextAt(0)) : std::string();
     return {0, "PTK",
             fmt::format("{}{}: {} is {} ({})", table.name, key, table.columns[static_cast<std::size_t>(unfit.column)].name,
-                        Shown(row, unfit.column), unfit.why)};
+                        CellText(row, unfit.column), unfit.why)};
 }
 
 bool HasColumn(Engine& file, const StoredTable& table, const char* column)

@@ -29,7 +29,7 @@ void Ask(int signal)
 {
     const int error = errno;
     if (asked.exchange(true) || ::write(pipeEnds[1], "x", 1) != 1) {
-        RemoveMortalFiles();
+        RemoveRemovedOnSignals();
         std::signal(signal, SIG_DFL);
         std::raise(signal);
     }

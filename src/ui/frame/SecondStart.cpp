@@ -12,7 +12,7 @@ namespace ptk {
 namespace {
 
 // The name of the program in this folder, the same for all names that lead to the folder.
-std::string NameOf(const std::string& folder)
+std::string ProgramIn(const std::string& folder)
 {
     const QString whole = QFileInfo(QString::fromStdString(folder)).canonicalFilePath();
     return "ptk-admin " + (whole.isEmpty() ? folder : whole.toStdString());
@@ -32,7 +32,7 @@ QWidget* WindowInUse()
 
 } // namespace
 
-SecondStart::SecondStart(const std::string& folder) : m_program(NameOf(folder))
+SecondStart::SecondStart(const std::string& folder) : m_program(ProgramIn(folder))
 {
     if (m_program.Number() < 0) {
         return;

@@ -1,7 +1,7 @@
 // Brings the program's windows to the front when it is started a second time on the same data.
 #pragma once
 
-#include "platform/system/OneOfAKind.h"
+#include "platform/system/SingleInstance.h"
 
 #include <memory>
 #include <QObject>
@@ -25,7 +25,7 @@ public:
     [[nodiscard]] bool IsSecond() const { return m_program.RunsAlready(); }
 
 private:
-    OneOfAKind m_program;
+    SingleInstance m_program;
     std::unique_ptr<QSocketNotifier> m_calls; // nullptr unless this is the first
 };
 

@@ -96,7 +96,7 @@ QVariant OverviewModel::data(const QModelIndex& index, int role) const
     const OverviewRow& row = Row(index.row());
     switch (role) {
     case Qt::DisplayRole:
-        return CellText(CellsOf(row), index.column());
+        return CellText(OverviewCellsOf(row), index.column());
     case Qt::DecorationRole:
         return IconOf(row, index.column());
     case Qt::TextAlignmentRole:

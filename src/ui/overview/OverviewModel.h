@@ -27,7 +27,7 @@ public:
     void ShowAnew(const std::shared_ptr<const OverviewReading>& reading);
 
     // REQUIRES: HasReading, also for Rows and Row.
-    [[nodiscard]] const OverviewReading& Shown() const { return *m_reading; }
+    [[nodiscard]] const OverviewReading& Reading() const { return *m_reading; }
 
     [[nodiscard]] const std::vector<OverviewRow>& Rows() const;
     [[nodiscard]] const OverviewRow& Row(int row) const { return Rows().at(static_cast<std::size_t>(row)); }

@@ -84,9 +84,9 @@ void OverviewTables::ShowAnew(const std::shared_ptr<const OverviewReading>& read
     Show(reading);
 }
 
-const OverviewReading* OverviewTables::Shown() const
+const OverviewReading* OverviewTables::ShownReading() const
 {
-    return m_rows->HasReading() ? &m_rows->Shown() : nullptr;
+    return m_rows->HasReading() ? &m_rows->Reading() : nullptr;
 }
 
 void OverviewTables::ShowOnlyProblems(bool only)
@@ -204,8 +204,8 @@ void OverviewTables::ShowLeftOut()
 {
     std::vector<OverviewCells> lines;
     if (m_rows->HasReading()) {
-        const auto& leftOut = m_rows->Shown().Result().leftOut;
-        std::transform(leftOut.begin(), leftOut.end(), std::back_inserter(lines), [](const LeftOut& out) { return CellsOf(out); });
+        const auto& leftOut = m_rows->Reading().Result().leftOut;
+        std::transform(leftOut.begin(), leftOut.end(), std::back_inserter(lines), [](const LeftOut& out) { return OverviewCellsOf(out); });
     }
     const int shown = std::min(static_cast<int>(lines.size()), kMostLeftOut);
     m_others.setFixedHeight(shown * m_others.verticalHeader()->defaultSectionSize() + 2 * m_others.frameWidth());
@@ -255,7 +255,7 @@ std::vector<OverviewCells> OverviewTables::ChosenCells() const
     std::vector<OverviewCells> lines{OverviewHeading()};
     for (int line = 0; line < m_sorted->rowCount(); ++line) {
         if (!selection.hasSelection() || selection.isRowSelected(line)) {
-            lines.push_back(CellsOf(Row(line)));
+            lines.push_back(OverviewCellsOf(Row(line)));
         }
     }
     return lines;

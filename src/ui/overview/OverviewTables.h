@@ -42,7 +42,7 @@ public:
     void ShowAnew(const std::shared_ptr<const OverviewReading>& reading);
 
     // The reading whose rows are shown; nullptr before the first.
-    [[nodiscard]] const OverviewReading* Shown() const;
+    [[nodiscard]] const OverviewReading* ShownReading() const;
 
     void ShowOnlyProblems(bool only);
 

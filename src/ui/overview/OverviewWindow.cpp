@@ -252,7 +252,7 @@ void OverviewWindow::ShowProgress()
 // Below the sums, as soon as everybody has been read.
 void OverviewWindow::ShowLeftOut()
 {
-    const OverviewReading* shown = m_tables->Shown();
+    const OverviewReading* shown = m_tables->ShownReading();
     const bool any = shown != nullptr && !shown->Result().leftOut.empty();
     const bool takes = any && shown == m_reading.get() && shown->IsDone() && CanTakeIn(shown->Result().leftOut);
     m_ui->fraLeftOut->setVisible(any);
@@ -272,7 +272,7 @@ void OverviewWindow::TakeIn()
 // Of the rows that are shown, which are an earlier reading's where the last one failed at once.
 void OverviewWindow::ShowRead()
 {
-    const OverviewReading* shown = m_tables->Shown();
+    const OverviewReading* shown = m_tables->ShownReading();
     const std::string news = shown == nullptr ? std::string() : OverviewNews(shown->Result(), shown->Offered());
     m_ui->lblOverview->setText(QString::fromStdString(news));
 }
@@ -280,7 +280,7 @@ void OverviewWindow::ShowRead()
 // Also while it is being read: who was read before the change may be another by now.
 bool OverviewWindow::IsOutdated() const
 {
-    return m_tables->Shown() != nullptr && NewestChange(Host()) != m_asOf;
+    return m_tables->ShownReading() != nullptr && NewestChange(Host()) != m_asOf;
 }
 
 void OverviewWindow::TellChanges()
@@ -299,7 +299,7 @@ void OverviewWindow::ShowChoice()
 // Once everybody has been read.
 void OverviewWindow::OfferActions()
 {
-    const bool ready = m_reading != nullptr && m_tables->Shown() == m_reading.get() && m_reading->IsDone();
+    const bool ready = m_reading != nullptr && m_tables->ShownReading() == m_reading.get() && m_reading->IsDone();
     m_buttons->Offer(ready ? m_reading : nullptr);
 }
 
@@ -325,7 +325,7 @@ void OverviewWindow::ShowFindings()
     }
     const QString summary = QString::fromStdString(FindingSummary(row->check));
     m_ui->lblOverviewFindings->setText(QString(kFindingsOf).arg(QString::fromStdString(row->employee->DisplayName()), summary));
-    m_ui->lstOverviewFindings->Show(ShownFindings(row->check, m_tables->Shown()->Result().limits.showNotices));
+    m_ui->lstOverviewFindings->Show(ShownFindings(row->check, m_tables->ShownReading()->Result().limits.showNotices));
 }
 
 void OverviewWindow::Walk(int direction)
@@ -337,7 +337,7 @@ void OverviewWindow::Walk(int direction)
 
 QString OverviewWindow::OpenNextCard(std::optional<std::int32_t> employeeID, int direction)
 {
-    if (m_tables->Shown() == nullptr) {
+    if (m_tables->ShownReading() == nullptr) {
         return kNotYetRead;
     }
     const OverviewRow* next = m_tables->StepToProblems(employeeID, direction);
@@ -350,14 +350,15 @@ QString OverviewWindow::OpenNextCard(std::optional<std::int32_t> employeeID, int
 
 std::optional<PayPeriod> OverviewWindow::ReadPeriod() const
 {
-    return m_tables->Shown() == nullptr ? std::nullopt : std::optional(m_tables->Shown()->Result().period);
+    return m_tables->ShownReading() == nullptr ? std::nullopt : std::optional(m_tables->ShownReading()->Result().period);
 }
 
 std::optional<HistoryScope> OverviewWindow::ShownHistory() const
 {
     const OverviewRow* row = isActiveWindow() ? m_tables->ShownRow() : nullptr;
-    return row == nullptr ? m_buttons->ShownHistory()
-                          : std::optional(HistoryScope{row->employee->EmployeeID(), m_tables->Shown()->Result().period, {}, {}, false});
+    return row == nullptr
+               ? m_buttons->ShownHistory()
+               : std::optional(HistoryScope{row->employee->EmployeeID(), m_tables->ShownReading()->Result().period, {}, {}, false});
 }
 
 void OverviewWindow::Copy()
@@ -369,7 +370,7 @@ void OverviewWindow::Copy()
 // All that was read, sorted as it was read.
 void OverviewWindow::SaveAs()
 {
-    if (m_tables->Shown() == nullptr) {
+    if (m_tables->ShownReading() == nullptr) {
         return;
     }
     const auto reading = m_reading; // the dialog lets the window go on
@@ -380,7 +381,7 @@ void OverviewWindow::SaveAs()
 void OverviewWindow::OpenCard()
 {
     if (const OverviewRow* row = m_tables->ShownRow()) {
-        emit CardWanted(row->employee->EmployeeID(), m_tables->Shown()->Result().period);
+        emit CardWanted(row->employee->EmployeeID(), m_tables->ShownReading()->Result().period);
     }
 }
 

@@ -20,7 +20,7 @@ public:
 
     // The kind of records that the page lists, if that list may be read again unasked: the page has a list of its own and holds no typed
     // text that this could push aside. Nothing otherwise.
-    [[nodiscard]] virtual std::optional<Shown> IdleList() const { return std::nullopt; }
+    [[nodiscard]] virtual std::optional<Watched> IdleList() const { return std::nullopt; }
 
     // What was typed on the page and not saved, in words without a full stop; empty for nothing.
     [[nodiscard]] virtual std::string Unsaved() const { return {}; }

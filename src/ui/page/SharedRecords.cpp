@@ -54,7 +54,7 @@ std::optional<std::int64_t> SharedRecords::Newest() const
     return m_watch == nullptr ? std::nullopt : m_watch->Newest();
 }
 
-void SharedRecords::AboutToRead(Shown what)
+void SharedRecords::AboutToRead(Watched what)
 {
     if (m_watch != nullptr) {
         m_watch->AboutToRead(what);
@@ -62,7 +62,7 @@ void SharedRecords::AboutToRead(Shown what)
     }
 }
 
-void SharedRecords::AboutToRead(Shown what, std::int64_t row)
+void SharedRecords::AboutToRead(Watched what, std::int64_t row)
 {
     if (m_watch != nullptr) {
         m_watch->AboutToRead(what, row);
@@ -70,7 +70,7 @@ void SharedRecords::AboutToRead(Shown what, std::int64_t row)
     }
 }
 
-bool SharedRecords::IsChanged(Shown what, std::int64_t row) const
+bool SharedRecords::IsChanged(Watched what, std::int64_t row) const
 {
     return m_watch != nullptr && m_watch->IsChanged(what, row);
 }

@@ -37,11 +37,11 @@ public:
     // These do what they do in ChangeWatch, and nothing without a database.
     void Look();
     [[nodiscard]] std::optional<std::int64_t> Newest() const;
-    void AboutToRead(Shown what);
-    void AboutToRead(Shown what, std::int64_t row);
+    void AboutToRead(Watched what);
+    void AboutToRead(Watched what, std::int64_t row);
     [[nodiscard]] bool AnnouncesChanges() const { return m_watch != nullptr && m_watch->AnnouncesChanges(); }
-    [[nodiscard]] bool IsAnyChanged(Shown what) const { return m_watch != nullptr && m_watch->IsAnyChanged(what); }
-    [[nodiscard]] bool IsChanged(Shown what, std::int64_t row) const;
+    [[nodiscard]] bool IsAnyChanged(Watched what) const { return m_watch != nullptr && m_watch->IsAnyChanged(what); }
+    [[nodiscard]] bool IsChanged(Watched what, std::int64_t row) const;
 
     // Says in a page's line that `whose` was changed by somebody else, with a button that has all pages read again; nothing while the line
     // offers something else.

@@ -51,7 +51,7 @@ QVariant AccountModel::data(const QModelIndex& index, int role) const
     switch (role) {
     case Qt::DisplayRole:
     case Qt::ToolTipRole:
-        return CellOf(CellsOf(person), index.column());
+        return CellOf(AccountCellsOf(person), index.column());
     case Qt::TextAlignmentRole:
         return Alignment(index.column());
     case Qt::DecorationRole:

@@ -173,7 +173,7 @@ void AccountWindow::ShowPerson()
     const AccountPerson* person = chosen.isEmpty() ? nullptr : m_rows->Person(chosen.first().row());
     QStringList lines;
     if (person != nullptr) {
-        lines << QString::fromStdString(NameOf(person->person));
+        lines << QString::fromStdString(PersonName(person->person));
         for (const std::string& line : LinesOf(*person)) {
             lines << QString::fromStdString(line).simplified(); // its columns are those of a typewriter
         }

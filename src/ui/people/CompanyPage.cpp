@@ -20,7 +20,7 @@ constexpr int kIDCharacters = 5;
 constexpr int kNameCharacters = 7; // at the least
 
 constexpr CompanyPage::Kind kCompanies{
-    .shown = Shown::Company,
+    .shown = Watched::Company,
     .notFound = "This company could not be found in the list. Save Aborted.",
     .notRead = "An error occurred while loading the company object.",
     .notSaved = "An error occurred while saving the company list.",

@@ -38,7 +38,7 @@ constexpr int kNumberCharacters = 7;
 constexpr int kEmployeeNameCharacters = 7; // at the least
 
 constexpr EmployeePage::Kind kEmployees{
-    .shown = Shown::Employee,
+    .shown = Watched::Employee,
     .notFound = "This employee could not be found in the list. Save Aborted.",
     .notRead = "An error occurred while loading the employee object.",
     .notSaved = "An error occurred while saving the employee list.",

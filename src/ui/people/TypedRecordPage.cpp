@@ -201,7 +201,7 @@ void TypedRecordPage<Entity, List, Texts>::ReadAgain(std::optional<std::int64_t>
 }
 
 template <typename Entity, typename List, typename Texts>
-std::optional<Shown> TypedRecordPage<Entity, List, Texts>::IdleList() const
+std::optional<Watched> TypedRecordPage<Entity, List, Texts>::IdleList() const
 {
     return Left() ? std::nullopt : std::optional(m_kind.shown);
 }

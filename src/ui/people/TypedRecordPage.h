@@ -23,7 +23,7 @@ class PageHost;
 template <typename Entity, typename List, typename Texts>
 struct RecordKind
 {
-    Shown shown;
+    Watched shown;
     const char* notFound;
     const char* notRead;
     const char* notSaved;
@@ -45,7 +45,7 @@ public:
     using Kind = RecordKind<Entity, List, Texts>;
 
     void ReadAgain(std::optional<std::int64_t> row) final;
-    [[nodiscard]] std::optional<Shown> IdleList() const final;
+    [[nodiscard]] std::optional<Watched> IdleList() const final;
     [[nodiscard]] std::string Unsaved() const final;
     bool SaveTyped() final;
     void TellChanges() final;

@@ -30,7 +30,7 @@ std::shared_ptr<ReportViewer> QtViewerFactory::CreateViewer(ReportKind kind)
     return window;
 }
 
-std::vector<std::shared_ptr<ReportViewerWindow>> QtViewerFactory::Shown() const
+std::vector<std::shared_ptr<ReportViewerWindow>> QtViewerFactory::OpenViewers() const
 {
     return Those([](const ReportViewerWindow& window) { return window.isVisible(); });
 }

@@ -20,7 +20,7 @@ public:
     std::shared_ptr<ReportViewer> CreateViewer(ReportKind kind) override;
 
     // The visible viewers, the one that has been open longest first.
-    [[nodiscard]] std::vector<std::shared_ptr<ReportViewerWindow>> Shown() const;
+    [[nodiscard]] std::vector<std::shared_ptr<ReportViewerWindow>> OpenViewers() const;
 
     // Closes the viewers that printing has hidden.
     void ClosePrinted();

@@ -32,7 +32,7 @@ void WindowMenu::ListWindows()
 {
     qDeleteAll(m_menu.findChildren<QAction*>(QRegularExpression(QString(kLineName).arg("\\d+"))));
     int number = 0;
-    for (const auto& window : m_viewers.Shown()) {
+    for (const auto& window : m_viewers.OpenViewers()) {
         QAction* line = m_menu.addAction(Caption(++number, window->windowTitle()));
         line->setObjectName(QString(kLineName).arg(number));
         connect(line, &QAction::triggered, window.get(), &ReportViewerWindow::BringUp);
@@ -46,7 +46,7 @@ void WindowMenu::ListWindows()
 
 void WindowMenu::PrintAll()
 {
-    const auto open = m_viewers.Shown();
+    const auto open = m_viewers.OpenViewers();
     std::size_t printed = 0;
     while (printed < open.size() && open[printed]->Print()) {
         ++printed;

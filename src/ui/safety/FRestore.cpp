@@ -102,7 +102,7 @@ void FRestore::Fill()
         const std::string& name = m_names.at(static_cast<std::size_t>(row));
         std::error_code error; // ignored: the check will tell of a file that is gone by now
         const auto size = std::filesystem::file_size(std::filesystem::path(m_folder) / name, error);
-        ShowCells(row, CellsOf(name, error ? 0 : static_cast<std::int64_t>(size)));
+        ShowCells(row, BackupCellsOf(name, error ? 0 : static_cast<std::int64_t>(size)));
         Put(row, Checked, kChecking);
     }
     EnableRestore();
@@ -148,7 +148,7 @@ void FRestore::ShowChecked(int row, const BackupEntry& entry)
 {
     QTableWidget* table = m_ui->grdBackups;
     if (entry.content) {
-        ShowCells(row, CellsOf(entry));
+        ShowCells(row, BackupCellsOf(entry));
         Put(row, Checked, kSound);
         if (table->selectedItems().isEmpty()) {
             table->selectRow(row);

@@ -44,7 +44,7 @@ void CurrentCard::Mark()
 {
     const CardName chosen = m_choice.Chosen();
     const bool shown = m_display.ShowsCard();
-    const std::string strange = m_card == nullptr ? std::string() : StrangeCardText(NameOf(*m_card), shown, chosen);
+    const std::string strange = m_card == nullptr ? std::string() : StrangeCardText(CardNameOf(*m_card), shown, chosen);
     m_mark.setVisible(!strange.empty()); // without a text its room is for the rows
     m_mark.Say(QString::fromStdString(strange));
     m_display.SetStrange(shown && !strange.empty());
@@ -101,7 +101,7 @@ bool CurrentCard::Load(CTimeCard& card, const std::shared_ptr<CEmployee>& employ
     const auto database = controller->PTKDatabase();
     const auto options = m_host.Options();
     if (employee != nullptr) {
-        m_host.SharedRecords().AboutToRead(Shown::CardRecords, employee->EmployeeID());
+        m_host.SharedRecords().AboutToRead(Watched::CardRecords, employee->EmployeeID());
     }
     const CJetDB::Hold hold(database);
     m_checked =
@@ -190,7 +190,7 @@ void CurrentCard::RenewFor(std::int32_t savedEmployee)
 // Whether the card is shown or is what the boxes name; the latter covers a card that had no records left.
 bool CurrentCard::IsWanted() const
 {
-    return m_display.ShowsCard() || m_display.ShowsFindings() || NameOf(*m_card) == m_choice.Chosen();
+    return m_display.ShowsCard() || m_display.ShowsFindings() || CardNameOf(*m_card) == m_choice.Chosen();
 }
 
 void CurrentCard::Renew()
@@ -202,7 +202,7 @@ void CurrentCard::Renew()
     const auto renew = [&] {
         const std::int32_t id = card->Employee()->EmployeeID();
         const auto list = m_host.Employees();
-        m_host.SharedRecords().AboutToRead(Shown::CardEmployee, id);
+        m_host.SharedRecords().AboutToRead(Watched::CardEmployee, id);
         const bool wanted = IsWanted();
         card->Employee(Required(list->GetEmployeeByID(id)));
         return !wanted || LoadAgain();
@@ -221,9 +221,9 @@ void CurrentCard::TellChanges()
     }
     SharedRecords& records = m_host.SharedRecords();
     const std::int32_t id = m_card->Employee()->EmployeeID();
-    if (records.IsChanged(Shown::CardEmployee, id)) {
+    if (records.IsChanged(Watched::CardEmployee, id)) {
         records.OfferLoad(m_line, Employee() + kWasChanged);
-    } else if (records.IsChanged(Shown::CardRecords, id)) {
+    } else if (records.IsChanged(Watched::CardRecords, id)) {
         records.OfferLoad(m_line, Employee() + kRecordsChanged);
     }
 }
@@ -321,7 +321,7 @@ void CurrentCard::Complain(const std::string& line)
 
 std::string CurrentCard::Employee() const
 {
-    return m_card == nullptr ? std::string() : NameOf(*m_card).employee;
+    return m_card == nullptr ? std::string() : CardNameOf(*m_card).employee;
 }
 
 } // namespace ptk

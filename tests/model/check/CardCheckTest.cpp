@@ -59,7 +59,7 @@ std::string Summary(const CardCheck& check)
     std::string text;
     for (const Finding& finding : check.findings) {
         text +=
-            fmt::format("{}{} {}: {}", text.empty() ? "" : "; ", NameOf(finding.kind), fmt::join(finding.records, ","), finding.minutes);
+            fmt::format("{}{} {}: {}", text.empty() ? "" : "; ", KindName(finding.kind), fmt::join(finding.records, ","), finding.minutes);
     }
     return text;
 }

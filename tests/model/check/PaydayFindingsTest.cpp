@@ -50,7 +50,7 @@ std::string Found(const CardCheck& check)
 {
     std::string text;
     for (const Finding& finding : check.findings) {
-        text += fmt::format("{} {}: {}; ", NameOf(finding.kind), fmt::join(finding.records, ","), finding.minutes);
+        text += fmt::format("{} {}: {}; ", KindName(finding.kind), fmt::join(finding.records, ","), finding.minutes);
     }
     return text;
 }

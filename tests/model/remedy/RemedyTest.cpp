@@ -51,7 +51,8 @@ std::string Offered(std::string_view kind, const std::vector<Stored>& records, c
     const CardCheck check = CheckCard(card, punches, ToDateTime("3/15/2026 12:00"), limits);
     const auto second = [](const char* time) { return *time == '\0' ? std::nullopt : std::optional(ToDateTime(time).Seconds()); };
     const ShiftEnds ends{[&](DateTime) { return second(usual); }, second(automatic)};
-    const auto found = std::find_if(check.findings.begin(), check.findings.end(), [&](const Finding& f) { return NameOf(f.kind) == kind; });
+    const auto found =
+        std::find_if(check.findings.begin(), check.findings.end(), [&](const Finding& f) { return KindName(f.kind) == kind; });
     std::string text = found == check.findings.end() ? "no such finding" : "";
     for (const Remedy& remedy :
          found == check.findings.end() ? std::vector<Remedy>() : RemediesOf(*found, {card, punches, check, limits}, ends)) {

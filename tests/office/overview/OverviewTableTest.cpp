@@ -111,7 +111,7 @@ TEST(OverviewTableTest, SumsAndCopiesWhatIsShown)
     rows = {Row({"=A\tB\n", CardFigures{"-0.50", "0.00", "0.00"}, 0, 0, 0, true}), Row({"C", std::nullopt, 1})};
     rows[0].paid.emplace().paidAt = ToDateTime("3/14/2026 17:30");
     rows[0].check.changed = PaidDifference{"+0.00", "+0.00", "-9.25"};
-    EXPECT_EQ(TabSeparated({OverviewHeading(), CellsOf(rows.at(0)), CellsOf(rows.at(1))}),
+    EXPECT_EQ(TabSeparated({OverviewHeading(), OverviewCellsOf(rows.at(0)), OverviewCellsOf(rows.at(1))}),
               "Name\tRegular\tOvertime\tGross Pay\tLongest Week\tProblems\tNotices\tClocked In\tPaid\tChanged\n"
               "'=A B \t-0.50\t0.00\t0.00\t0.00\t0\t0\tyes\t03/14/2026\t-9.25\n"
               "C\t\t\tnot readable\t0.00\t1\t0\t\t\t\n");

@@ -161,7 +161,7 @@ TEST_F(OverviewTest, ChecksAlsoACardThatCannotBeGenerated)
     const CheckedTimecard empty = checked(41, {ToDateTime("3/15/2026"), ToDateTime("3/20/2026")});
     EXPECT_FALSE(empty.generated);
     EXPECT_EQ(card.ErrorNumber(), timecard::NoRecords);
-    EXPECT_EQ(NameOf(empty.check.value().findings.at(0).kind), "crosses-start");
+    EXPECT_EQ(KindName(empty.check.value().findings.at(0).kind), "crosses-start");
     EXPECT_FALSE(checked(99, kPeriod).check.has_value());
 
     std::filesystem::remove(Path());

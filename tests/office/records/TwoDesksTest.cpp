@@ -202,7 +202,7 @@ TEST_F(TwoDesksTest, OnlyOthersChangesAreToldAndOnlyOnce)
     const auto told = [&](std::int64_t row) {
         std::string text;
         for (const auto& [shown, letter] :
-             {std::pair{Shown::Employee, 'E'}, {Shown::Company, 'C'}, {Shown::CardEmployee, 'e'}, {Shown::CardRecords, 'r'}}) {
+             {std::pair{Watched::Employee, 'E'}, {Watched::Company, 'C'}, {Watched::CardEmployee, 'e'}, {Watched::CardRecords, 'r'}}) {
             text += watch.IsChanged(shown, row) ? std::string(1, letter) : "";
         }
         return text;
@@ -239,12 +239,12 @@ TEST_F(TwoDesksTest, OnlyOthersChangesAreToldAndOnlyOnce)
             watch.Look();
         }
         EXPECT_EQ(told(c.row), c.told) << c.sql;
-        for (const Shown shown : {Shown::Employee, Shown::Company}) {
+        for (const Watched shown : {Watched::Employee, Watched::Company}) {
             watch.AboutToRead(shown);
         }
         for (const std::int64_t row : {40, 41}) {
-            watch.AboutToRead(Shown::CardEmployee, row);
-            watch.AboutToRead(Shown::CardRecords, row);
+            watch.AboutToRead(Watched::CardEmployee, row);
+            watch.AboutToRead(Watched::CardRecords, row);
         }
         EXPECT_EQ(told(40) + told(41), "") << c.sql;
     }
@@ -257,23 +257,24 @@ TEST_F(TwoDesksTest, WhereThousandsOfRowsChangedEverythingMayHave)
     ChangeWatch watch(own.database, own.undo);
     Elsewhere("INSERT INTO TimeRecord (EmployeeID) WITH RECURSIVE n (i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 2500) "
               "SELECT 77 FROM n");
-    for (int i = 0; i < 100 && !watch.IsAnyChanged(Shown::Company); ++i) { // a server tells a moment later
+    for (int i = 0; i < 100 && !watch.IsAnyChanged(Watched::Company); ++i) { // a server tells a moment later
         watch.Look();
         std::this_thread::sleep_for(std::chrono::milliseconds(20));
     }
-    EXPECT_TRUE(watch.IsChanged(Shown::CardRecords, 77) && watch.IsChanged(Shown::CardRecords, 41) && watch.IsChanged(Shown::Company, 1));
-    watch.AboutToRead(Shown::CardRecords, 41);
-    EXPECT_FALSE(watch.IsChanged(Shown::CardRecords, 41));
-    EXPECT_TRUE(watch.IsChanged(Shown::CardRecords, 42));
-    watch.AboutToRead(Shown::Company);
-    EXPECT_FALSE(watch.IsChanged(Shown::Company, 1) || watch.IsAnyChanged(Shown::Company));
+    EXPECT_TRUE(watch.IsChanged(Watched::CardRecords, 77) && watch.IsChanged(Watched::CardRecords, 41) &&
+                watch.IsChanged(Watched::Company, 1));
+    watch.AboutToRead(Watched::CardRecords, 41);
+    EXPECT_FALSE(watch.IsChanged(Watched::CardRecords, 41));
+    EXPECT_TRUE(watch.IsChanged(Watched::CardRecords, 42));
+    watch.AboutToRead(Watched::Company);
+    EXPECT_FALSE(watch.IsChanged(Watched::Company, 1) || watch.IsAnyChanged(Watched::Company));
     Elsewhere("UPDATE TimeRecord SET EmployeeID = 41 WHERE TimeRecordID = 2");
-    for (int i = 0; i < 100 && !watch.IsChanged(Shown::CardRecords, 41); ++i) {
+    for (int i = 0; i < 100 && !watch.IsChanged(Watched::CardRecords, 41); ++i) {
         watch.Look();
         std::this_thread::sleep_for(std::chrono::milliseconds(20));
     }
-    EXPECT_TRUE(watch.IsChanged(Shown::CardRecords, 41)) << "what comes behind is looked at again";
-    EXPECT_FALSE(watch.IsChanged(Shown::Company, 1));
+    EXPECT_TRUE(watch.IsChanged(Watched::CardRecords, 41)) << "what comes behind is looked at again";
+    EXPECT_FALSE(watch.IsChanged(Watched::Company, 1));
 }
 
 } // namespace

@@ -177,7 +177,7 @@ TEST_F(BackupsTest, LeaveNothingBehindWhereTheyFail)
     EXPECT_TRUE(WIFSIGNALED(InAnotherProcess(
         [&] { BackUp(Path(), Folder(), m_now, [](std::int32_t, std::int32_t) { return kill(getpid(), SIGKILL) != 0; }); })));
     EXPECT_TRUE(WIFSIGNALED(InAnotherProcess([&] {
-        RemoveMortalFilesOnSignals();
+        RemoveRemovedOnSignalsOnSignals();
         BackUp(Path(), Folder(), m_now, [](std::int32_t, std::int32_t) { return raise(SIGTERM) != 0; });
     })));
     EXPECT_EQ(Names(), "") << "nor what is ended by a signal";

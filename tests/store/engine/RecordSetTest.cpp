@@ -124,7 +124,7 @@ TEST(RecordSetTest, ShowsEveryValueOnOneShortLine)
                           Case{[](Builder& b) { b.AddText("2003-03-05 08:05:09"); }, "\"2003-03-05 08:05:09\""},
                           Case{[](Builder& b) { b.AddText("one\r\ntwo"); }, "\"one  two\""},
                           Case{[](Builder& b) { b.AddText(std::string(59, 'x') + "\xC3\xA9"); }, '"' + std::string(59, 'x') + "...\""}}) {
-        EXPECT_EQ(Single("DATETIME", c.add)->Shown(0), c.shown);
+        EXPECT_EQ(Single("DATETIME", c.add)->TextToShow(0), c.shown);
     }
 }
 

@@ -60,7 +60,7 @@ void ServerLine::PostText(const ServerCommand& command)
 
 void ServerLine::PostPrepared(const ServerCommand& command)
 {
-    const std::string name = NameOf(command.sql);
+    const std::string name = StatementName(command.sql);
     if (command.describe) {
         return m_connection.Require(Library().sendDescribePrepared(m_connection.Get(), name.c_str()));
     }
@@ -69,7 +69,7 @@ void ServerLine::PostPrepared(const ServerCommand& command)
         Library().sendQueryPrepared(m_connection.Get(), name.c_str(), static_cast<int>(values.size()), values.data(), nullptr, nullptr, 0));
 }
 
-std::string ServerLine::NameOf(const std::string& sql)
+std::string ServerLine::StatementName(const std::string& sql)
 {
     if (const auto found = m_prepared.find(sql); found != m_prepared.end()) {
         return found->second;

@@ -113,7 +113,7 @@ private:
     void Post(const ServerCommand& command);
     void PostText(const ServerCommand& command);
     void PostPrepared(const ServerCommand& command);
-    [[nodiscard]] std::string NameOf(const std::string& sql);
+    [[nodiscard]] std::string StatementName(const std::string& sql);
     void SendOff(std::int64_t question = 0);
     [[nodiscard]] std::optional<ServerFailure> HearAll();
     void RaiseAfterScript(const std::optional<ServerFailure>& failure);

@@ -6,15 +6,15 @@
 namespace ptk {
 
 // The first of a user's programs that makes one with a name hears of each later one. Nothing of it is left behind, however a program ends.
-class OneOfAKind
+class SingleInstance
 {
 public:
     // `name` says what a user may run only one program for at a time; it may be of any length.
-    explicit OneOfAKind(const std::string& name);
+    explicit SingleInstance(const std::string& name);
 
-    ~OneOfAKind();
-    OneOfAKind(const OneOfAKind&) = delete;
-    OneOfAKind& operator=(const OneOfAKind&) = delete;
+    ~SingleInstance();
+    SingleInstance(const SingleInstance&) = delete;
+    SingleInstance& operator=(const SingleInstance&) = delete;
 
     // Whether another program of this user runs with that name; it has been called by now. False also where the system does not tell.
     [[nodiscard]] bool RunsAlready() const { return m_runsAlready; }

@@ -1,4 +1,4 @@
-#include "platform/system/OneOfAKind.h"
+#include "platform/system/SingleInstance.h"
 
 #include <cstddef>
 #include <cstring>
@@ -40,7 +40,7 @@ bool IsOurs(int socket)
 
 } // namespace
 
-OneOfAKind::OneOfAKind(const std::string& name) : m_socket(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0))
+SingleInstance::SingleInstance(const std::string& name) : m_socket(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0))
 {
     const Address address = AddressFor(name);
     const auto* place = reinterpret_cast<const sockaddr*>(&address.name);
@@ -51,14 +51,14 @@ OneOfAKind::OneOfAKind(const std::string& name) : m_socket(::socket(AF_UNIX, SOC
     m_runsAlready = !m_listens && ::connect(m_socket, place, address.length) == 0 && IsOurs(m_socket);
 }
 
-OneOfAKind::~OneOfAKind()
+SingleInstance::~SingleInstance()
 {
     if (m_socket >= 0) {
         ::close(m_socket);
     }
 }
 
-bool OneOfAKind::TakeCall() const
+bool SingleInstance::TakeCall() const
 {
     const int call = ::accept4(m_socket, nullptr, nullptr, SOCK_CLOEXEC);
     if (call < 0) {
