@@ -8,6 +8,7 @@
 #include "store/CJetDB.h"
 #include "store/CSystemOptions.h"
 #include "store/CTimeRecSQLConverter.h"
+#include "store/engine/Engine.h"
 #include "store/engine/RecordSet.h"
 #include "store/engine/Statement.h"
 #include "store/PunchSQL.h"
@@ -306,6 +307,7 @@ TEST_P(ContractTest, TheTrailTellsTheSameAndUndoTakesItBack)
     EXPECT_EQ(Rows(1, "SELECT TimeRecordID FROM TimeRecord"), "");
     ASSERT_TRUE(undo.Redo()) << undo.Refusal();
     EXPECT_EQ(undo.RedoText(), "Redo 2 changes");
+    ASSERT_TRUE(database->ExecuteSteps([](Engine& engine) { engine.RunScript("UPDATE TimeRecord SET EmployeeID = 41"); }));
     std::string trail;
     std::int64_t step = 0;
     for (const TrailEntry& entry : ReadTrail(database, {})) {
@@ -314,6 +316,7 @@ TEST_P(ContractTest, TheTrailTellsTheSameAndUndoTakesItBack)
         step = *entry.step;
     }
     EXPECT_EQ(trail,
+              "Ann ptk-admin TimeRecord 1 update new 41| EmployeeID=40 | EmployeeID=41 \n"
               "Ann ptk-admin TimeRecord 1 insert new 40| -| TimeRecordID=1 EmployeeID=40 ShiftDate=null StartTime=2003-03-05 08:00:00 "
               "EndTime=2003-03-05 17:00:00 \n"
               "Ann ptk-admin TimeRecord 1 delete new 40| TimeRecordID=1 EmployeeID=40 ShiftDate=null StartTime=2003-03-05 08:00:00 "

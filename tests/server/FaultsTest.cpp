@@ -4,6 +4,7 @@
 #include "store/CJetDB.h"
 #include "store/engine/RecordSet.h"
 #include "store/postgres/line/ServerAddress.h"
+#include "store/postgres/line/ServerLine.h"
 #include "store/postgres/line/ServerOptions.h"
 #include "store/postgres/PostgresEngine.h"
 #include "support/CuttingProxy.h"
@@ -15,6 +16,7 @@
 #include <fmt/format.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <atomic>
 #include <chrono>
@@ -268,6 +270,26 @@ TEST_F(AStalledServer, IsGivenUpAtOnce)
 {
     EXPECT_EQ(AskStalled(Unhurried{}, [&] { return m_turns < 3; }), engine::Interrupted);
     EXPECT_LT(m_seconds, 0.5);
+}
+
+TEST_F(AStalledServer, IsAskedNothingMoreWhileItIsWaitedFor)
+{
+    const ServerCommand question{kQuestion, {}, true};
+    ServerLine line(m_through, LinePatience(std::nullopt, std::chrono::milliseconds(300)));
+    line.Send({question});
+    const std::function<void()> asks[] = {
+        [&] { line.Send({question}); },    [&] { line.SendAhead({1, question}); }, [&] { static_cast<void>(line.TakeAhead(1)); },
+        [&] { line.BeginRows(question); }, [&] { line.RunScript(kQuestion); },     [&] { line.BeginCopy("COPY TimeRecord FROM STDIN"); }};
+    m_proxy.Stall();
+    std::vector<std::int32_t> inTurn;
+    const WaitingAs waiting([&] {
+        if (inTurn.empty()) {
+            std::transform(std::begin(asks), std::end(asks), std::back_inserter(inTurn), [](const auto& ask) { return FailureOf(ask); });
+        }
+        return true;
+    });
+    EXPECT_EQ(FailureOf(asks[0]), engine::Lost);
+    EXPECT_EQ(inTurn, std::vector<std::int32_t>(std::size(asks), engine::Busy));
 }
 
 // Whatever it says that was not asked for ends the line, and so does an answer without an end.

@@ -133,7 +133,7 @@ TEST_F(ImportTest, TakesEveryValueAndTellsIt)
     OldRows rows;
     rows.employees.push_back(Employee(39, "Boss", kNone));
     rows.options = {{"PTK", 7.0, kDay + 0.25, kNone}, {"second", 8.0, 0.0, 0.0}};
-    rows.records = {Record(1, 5, 8, 16), Record(3, 5, 22, 30.5),           Record(4, 77, 8, 0),
+    rows.records = {Record(1, 5, 8, 16), Record(3, 5, 22, 30.5),           Record(4, 70077, 8, 0),
                     Record(9, 5, 8, 7),  {10.0, 5.0, kNone, kNone, kNone}, {11.0, kNone, kDay, kDay + 0.99999999, kDay + 1.0}};
     Write(rows);
     EXPECT_EQ(Refusal(), "");
@@ -149,7 +149,7 @@ TEST_F(ImportTest, TakesEveryValueAndTellsIt)
                                                     "Warning: backward time records: 1\n"
                                                     "Employee (none): 1 records, 0:00 hours\n"
                                                     "Employee 5 Lee: 4 records, 16:30 hours\n"
-                                                    "Employee 77 (no such employee): 1 records, 0:00 hours\n"
+                                                    "Employee 70077 (no such employee): 1 records, 0:00 hours\n"
                                                     "Signs of damage: none\n");
     EXPECT_EQ(Rows("SELECT EmployeeID, FirstName IS NULL, LastName, HireDate, ReleaseDate, DateOfBirth IS NULL, PayRate, OvertimePayRate, "
                    "Active, AutoDeduct, AutoDeductLunchLength, Password IS NULL FROM Employee"),
@@ -160,7 +160,7 @@ TEST_F(ImportTest, TakesEveryValueAndTellsIt)
              "FROM Company"),
         "7|Café\\A<t>B<r><n>|1|www.example.org|");
     EXPECT_EQ(Rows("SELECT TimeRecordID, EmployeeID, StartTime, EndTime FROM TimeRecord WHERE TimeRecordID > 3"),
-              "4|77|2004-01-14 08:00:00|1899-12-30 00:00:00|"
+              "4|70077|2004-01-14 08:00:00|1899-12-30 00:00:00|"
               "9|5|2004-01-14 08:00:00|2004-01-14 07:00:00|"
               "10|5|1899-12-30 00:00:00|1899-12-30 00:00:00|"
               "11|NULL|2004-01-15 00:00:00|2004-01-15 00:00:00|");
