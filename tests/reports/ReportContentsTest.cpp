@@ -4,6 +4,7 @@
 #include "model/CTimeCard.h"
 #include "platform/text/Text.h"
 #include "reports/CReportTimeCard.h"
+#include "store/engine/StoredDate.h"
 
 #include <array>
 
@@ -118,6 +119,17 @@ TEST_F(ReportContentsTest, ATimeCardAlreadyOnScreenIsWrittenAsItStands)
 
     EXPECT_TRUE(report->GenerateReport(database, ann, first, last));
     EXPECT_EQ(report->TimeCard()->EndDate(), DateTime({2003, 1, 17}));
+}
+
+TEST_F(ReportContentsTest, ATimeCardEndsWithWhatWasPaid)
+{
+    AddShifts();
+    ASSERT_TRUE(database->ExecuteAction("INSERT INTO _Payday (EmployeeID, FromDay, ToDay, PaidAt, PaidBy, Regular, Overtime, Gross) VALUES "
+                                        "(1, '" +
+                                        StoredText(first) + "', '" + StoredText(last) +
+                                        "', '2003-01-17 09:30:00', 'Bo', '16.00', '0.75', '171.25')"));
+    ASSERT_TRUE(New(ReportKind::TimeCard)->Generate(Of({ann})));
+    EXPECT_TRUE(viewers.made.back()->text.ends_with("Paid on 01/17/2003 09:30 AM by Bo: 16.00 + 0.75 hours, 171.25\r\n"));
 }
 
 TEST_F(ReportContentsTest, OpenAndBackwardShiftsAreDataAsOnPaper)

@@ -5,6 +5,7 @@
 #include "model/CTimeRecordFactory.h"
 #include "model/ModelErrors.h"
 #include "model/payday/ClosingReader.h"
+#include "office/card/AddedShift.h"
 #include "office/payday/PaydayAccount.h"
 #include "office/payday/PaydayClosing.h"
 #include "office/records/UndoStack.h"
@@ -22,6 +23,7 @@
 #include <cmath>
 #include <numeric>
 #include <random>
+#include <set>
 
 namespace ptk {
 
@@ -86,6 +88,14 @@ protected:
     EitherDatabase m_either;
     std::shared_ptr<CJetDB> m_database = std::make_shared<CJetDB>(m_either.Folder());
 };
+
+TEST_F(PaydayTest, FindsWhoHasShiftsOnADay)
+{
+    Elsewhere("INSERT INTO TimeRecord (EmployeeID, StartTime, EndTime) VALUES (42, '2026-03-02 23:59:59', '2026-03-03 08:00:00'), "
+              "(41, '2026-03-03 00:00:00', '2026-03-03 01:00:00')");
+    EXPECT_EQ(WithRecordsOn(m_database, ToDateTime("3/2/2026")), (std::set<std::int64_t>{40, 42}));
+    EXPECT_EQ(WithRecordsOn(m_database, ToDateTime("3/4/2026")), std::set<std::int64_t>());
+}
 
 TEST_F(PaydayTest, ClosesWhomNothingSpeaksAgainstAndTheOthersByName)
 {

@@ -152,16 +152,17 @@ TEST_F(PunchImportTest, NamesLineColumnAndReasonOfWhatItRefuses)
                              "7,2003-03-05 08:00,2003-03-05 24:00\n"
                              "\"7\"x,2003-03-05 08:00,\n"
                              "7,2003-03-05 08:00,,x\n"
-                             "7,1899-12-30 00:00,\n";
+                             "7,1899-12-30 00:00,\n"
+                             "7,2003-03-05 08:00:60,\n";
     EXPECT_EQ(
         Account(text, "", true),
-        "Lines: 12, stored 0, there already 0, refused 12 | Line 2: Employee: nobody has \"99\" | Line 3: Employee: several people have "
+        "Lines: 13, stored 0, there already 0, refused 13 | Line 2: Employee: nobody has \"99\" | Line 3: Employee: several people have "
         "\"Ann Lee\" | "
         "Line 4: Employee: several people have \"41\" | Line 5: Employee: empty | Line 6: Start: no day with a time: \"13/5/2003 08:00\" | "
         "Line 7: Start: no day with a time: \"2003-03-05\" | Line 8: Start: no day with a time: \"2003-03-05 08:00+01:00\" | "
         "Line 9: End: the end is before the start | Line 10: End: no day with a time: \"2003-03-05 24:00\" | "
         "Line 11: Employee: text behind the closing quotation mark | Line 12: column 4: a cell without a heading | "
-        "Line 13: Start: a day on which nobody can have come");
+        "Line 13: Start: a day on which nobody can have come | Line 14: Start: no day with a time: \"2003-03-05 08:00:60\"");
     EXPECT_TRUE(Import(text, "", true).IsRefused(true));
 }
 

@@ -212,9 +212,10 @@ TEST_F(BackupsTest, ClearWhatKilledOnesLeftAndNothingElse)
     WriteBytes(draft("ptk_11-2001-01-01-120000.mdb"), "anything");
     WriteBytes(draft("ptk_11-2001-01-01-120000.mdb") + "-journal", "of it");
     WriteBytes(draft("elsewhere.mdb"), ReadBytes(Path()).substr(0, 5000));
+    WriteBytes(draft("photos.db"), ReadBytes(Path()).substr(0, 68) + "abcd of another program");
     WriteBytes(draft("thesis.txt"), "somebody's");
     BackUp(Path(), Folder(), m_now);
-    EXPECT_EQ(Names(), std::string(".thesis.txt.a1b2c3.draft ") + kFirst + " " + kSecond);
+    EXPECT_EQ(Names(), std::string(".photos.db.a1b2c3.draft .thesis.txt.a1b2c3.draft ") + kFirst + " " + kSecond);
 }
 
 TEST_F(BackupsTest, NobodyGetsAtTheDatabaseMeanwhile)
